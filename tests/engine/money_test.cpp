@@ -54,8 +54,8 @@ TEST(Money, ArithmeticIsCheckedAndRoundsAsTold) {
   EXPECT_TRUE((Currency::Error() + Currency{1}).IsError());
   EXPECT_TRUE(Multiply(most, most).IsError());
   EXPECT_TRUE(Divide(most, kZero).IsError());
-  EXPECT_EQ(Currency::FromDouble(0.00005).raw, 0);
-  EXPECT_EQ(Currency::FromDouble(0.00015).raw, 2);
+  EXPECT_EQ(Currency::FromDouble(0.03125).raw, 312);
+  EXPECT_EQ(Currency::FromDouble(0.09375).raw, 938);
   EXPECT_EQ(WholePart(Currency{-1}), Currency::Dollars(-1));
   EXPECT_EQ(RoundDownToUnit(Currency{58333}, Currency::Dollars(1)), Currency::Dollars(5));
   EXPECT_EQ(RoundDownToUnit(Currency{-5500}, Currency::Dollars(1)), Currency::Dollars(-1));
