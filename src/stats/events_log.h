@@ -1,0 +1,93 @@
+// The journal of the game: one line an event, with a binary index beside it. Part of the table's record, not
+// a debug log: the lines are exact.
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+namespace tessaryn {
+
+struct Game;
+
+inline constexpr const char* kEventsLogName = "Events Log.txt";
+inline constexpr const char* kEventsIndexName = "Events Log.ref";
+
+struct EventsLog {
+  // --- Choices of the user.
+  bool RecordEventsActive = false;      // the master switch
+  bool RecordRolls = true;
+  bool RecordBetChanges = true;
+  bool RecordBetsWon = true;
+  bool RecordBetsLost = true;
+  bool RecordCheckStackChanges = true;
+  bool RecordPassesMisses = true;
+  bool RecordShooterChanges = true;
+  bool RecordBankrollChanges = true;
+  bool ClearLogOnNewSession = false;
+  bool KeepLatestRollOnTop = true;
+  // --- The view.
+  std::int32_t EventsLogTopLine = 1;    // 1-based
+  // --- The files. Written by events_log.cpp.
+  std::string Path;                     // of the text file; empty: the default name in the data folder
+  std::string PendingLogHeading;        // a group heading that is not written yet
+  bool ScriptActiveLogged[9] = {};      // what the log has told of each script
+  std::string FaultReported;            // the write error that was reported; empty while writing works
+  // Open while lines come fast; FlushEventsLog brings both files up to date.
+  std::FILE* textFile = nullptr;
+  std::FILE* indexFile = nullptr;
+  std::string textBuffer;
+  std::string indexBuffer;
+  std::int64_t textLength = 0;          // of the text file with the buffer
+  std::int64_t lineCount = 0;           // of the index with the buffer
+
+  EventsLog() = default;
+  ~EventsLog();
+  EventsLog(const EventsLog&) = delete;
+  EventsLog& operator=(const EventsLog&) = delete;
+};
+
+// The paths in force.
+std::string EventsLogPath(const Game& game);
+std::string EventsIndexPath(const Game& game);
+
+// The only writer. Does nothing while recording is off. A file that can't be written is reported once, and
+// the game goes on.
+void WriteEventsLogLine(Game& game, std::string_view text);
+// Writes the pending heading, if any, and then the line.
+void WriteGroupedLine(Game& game, std::string_view text);
+// Brings the files up to date and closes them: at the end of a roll that a user asked for, at every yield
+// that lets others look, and before any other procedure touches the files.
+void FlushEventsLog(Game& game);
+
+// Deletes the index and makes it anew from the text file. False, with text, on a file error.
+bool RebuildEventsLogIndex(Game& game, std::string& error);
+// Lines in the index, rebuilt first if it is missing or does not belong to the text file.
+std::int64_t EventsLogLineCount(Game& game);
+// Line 1 and up; empty beyond the end. No line break.
+std::string ReadEventsLogLine(Game& game, std::int64_t line);
+// The next line that holds the text, case ignored, from the line after the top one, forward or backward;
+// moves the top line there and returns it, or 0 ("Text not found.").
+std::int64_t FindInEventsLog(Game& game, std::string_view text, bool forward);
+// Both files away; the view at line 1.
+void ClearEventsLog(Game& game);
+// The New, Open and Save As commands. New asks first when the log has its default name.
+void NewEventsLog(Game& game);
+bool OpenEventsLog(Game& game, const std::string& path, std::string& error);
+bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error);
+// All eight classes on or off.
+void RecordAllEvents(EventsLog& log, bool on);
+
+// --- The lines of each event, in their groups.
+void LogSessionStart(Game& game);
+void LogChangesBeforeRoll(Game& game);
+void LogRoll(Game& game, const char* sourcePrefix);
+void LogWinOrLoss(Game& game, int seat, int bet);
+void LogBetMoved(Game& game, int seat, int fromBet, int toBet);
+void LogBankrollChanges(Game& game);
+void LogHandEnd(Game& game);
+// "stick 3-left" of a seat.
+std::string StickPosition(int seat);
+
+}  // namespace tessaryn

@@ -1,0 +1,120 @@
+// Everything that is counted. Tables are indexed by slot (scope * 9 + seat), seat 0 being the table as a
+// whole. Nothing is computed from a history of rolls: there is none.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "engine/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+enum StatKind : int {
+  kStatCount = 1,       // bets resolved, won or lost
+  kStatTotal = 2,
+  kStatHigh = 3,
+  kStatLow = 4,         // never 0 once there is one
+  kStatLastRoll = 5,    // session roll number; in the all-sessions slot that of all sessions
+  kStatLastAmount = 6,
+};
+enum StatTable : int { kWagerStats = 0, kWinStats = 1, kLossStats = 2 };
+inline constexpr int kStatTables = 3;
+
+// Roll items: 0 rolls, 2 to 89 outcomes and groups of outcomes, 1 and 90 never counted.
+inline constexpr int kRollItems = 91;
+inline constexpr int kGapCells = 201;
+inline constexpr int kDicePairs = 36;
+// The pair of two faces as an index 0 to 35.
+constexpr int PairIndex(int die1, int die2) { return (die1 - 1) * 6 + die2 - 1; }
+
+// The six kinds of one bet in the wagers, wins and losses of one slot.
+struct BetStats {
+  Currency kinds[kStatTables][6];  // kind - 1
+};
+
+enum NumberKind : int { kComeoutRolls = 0, kPasses = 1, kMisses = 2 };
+
+struct Statistics {
+  // A resolved bet writes three scopes of one seat and bet, so these lie together.
+  BetStats Bets[101][kSeatRows][kScopes];
+  // Which bets 1 to 93 have entries in the current-hand and last-hand scopes.
+  BetSet HandBets[kSeatRows];
+  BetSet LastHandBets[kSeatRows];
+
+  // Roll items are counted by exact pair of faces and summed when read: item counts are unions of pairs.
+  std::int32_t PairCounts[kSlots][kDicePairs] = {};
+  std::int32_t RollTotals[kSlots] = {};               // item 0
+  // A gap is counted when it ends: the session roll that an item last came on, 0 never.
+  std::int32_t ItemLastRoll[kRollItems] = {};
+  std::int32_t RollGapCounts[kRollItems][kGapCells] = {};
+
+  std::int32_t NumberCounts[kSlots][13][3] = {};      // by number 2 to 12 and NumberKind
+  std::int32_t HandCount[kSlots] = {};
+  std::int32_t MostRollsInHand[kSlots] = {};
+  std::int32_t MostComeoutRollsInHand[kSlots] = {};
+  std::int32_t MostPassesInHand[kSlots] = {};
+  std::int32_t MostMissesInHand[kSlots] = {};
+  // PlayerRolls is the table's roll count of the scope less what the seat has not seen.
+  std::int32_t RollsNotSeen[kSlots] = {};
+  std::int32_t HandComeoutRolls = 0;
+  std::int32_t HandPasses = 0;
+  std::int32_t HandMisses = 0;
+  std::uint16_t HandSlotsUsed = 0;                    // seats with rolls in the current-hand scope
+  std::uint16_t LastHandSlotsUsed = 0;
+
+  Currency BankrollBeginning[kSlots];
+  Currency BankrollHigh[kSlots];
+  Currency BankrollLow[kSlots];
+  Currency BankrollClosing[kSlots];                   // of the last-hand and last-session scopes
+  Currency AtmTotal[kSlots];                          // drawn from the ATM, less what was deposited
+  Currency BankrollRollSum[kSeatRows];                // sum of the closing bankroll over the session's rolls
+  Currency BankrollSessionStart[kSeatRows];
+  Currency ComeTravelTotals[kSlots][6];
+};
+
+// --- Reading. Every table by its slot, whatever the storage.
+std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item);
+std::int64_t PlayerRolls(const Statistics& stats, int scope, int seat);
+Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, int bet, StatKind kind);
+std::int64_t RollsSinceLast(const Statistics& stats, int item);
+// The bankroll by slot; the running scopes read the seat's own.
+Currency BankrollOf(const Game& game, int scope, int seat);
+// Session rolls so far, and rolls of all sessions.
+inline std::int64_t SessionRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentSession, 0)]; }
+inline std::int64_t HandRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentHand, 0)]; }
+// Turns a StatLastRoll of a scope into rolls since then; -1 for never.
+std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);
+// The text of a roll item as selectors list it; empty for items that are never counted.
+std::string RollItemName(int item);
+// Whether an item counts the pair of faces.
+bool ItemHasPair(int item, int die1, int die2);
+// Kinds 1 to 6 of the bets first to last, added up (extremes too) into bet row 0 of the seat's current hand.
+void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow);
+// The note about the hand's shooter that summaries show; empty when there is nothing to tell.
+std::string LastHandNote(const Game& game, int scope);
+// Simulated hours of a scope for a seat.
+double SimulatedHours(const Game& game, int scope, int seat);
+
+// --- Writing.
+// One resolved bet. A net of 0 is no decision. Returns false, with nothing changed, if a sum would overflow.
+bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency net);
+// The dice of a roll, before the point moves: rolls, items, gaps and the opening of a hand.
+void CountRoll(Game& game);
+// A come-out roll, a pass or a miss under a number.
+void CountLine(Game& game, NumberKind kind, int number);
+// Bankroll extremes and sums as a roll closes.
+void CloseRollStatistics(Game& game);
+void EndHandStatistics(Game& game);
+// The rotation of a new session: session slots become last session; hand and session start at zero.
+void StartSessionStatistics(Game& game);
+// Everything of all sessions, and of the last session, to zero.
+void ClearPreviousSessions(Game& game);
+// A seat's entries to zero, and the exchange of two seats.
+void ClearSeatStatistics(Game& game, int seat);
+void SwapSeatStatistics(Game& game, int seatA, int seatB);
+// A seat's bankroll as a start: beginning and extremes of the running scopes.
+void StartBankroll(Game& game, int seat, Currency amount);
+
+}  // namespace tessaryn
