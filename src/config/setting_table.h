@@ -1,0 +1,35 @@
+// Every setting by its name: reading, checking and carrying out what a change brings with it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "engine/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// Sets NAME to the text. seat 0: the table's setting, or every occupied seat for one that is kept by seat;
+// seat 1 to 8: that seat's. Asks the questions that a change brings (bets that would come down). On failure
+// returns false with the reason, and nothing is changed.
+bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error);
+// Several at once, checked together at the end: for settings that depend on each other.
+struct SettingChange {
+  std::string name;
+  int seat = 0;
+  std::string value;
+};
+bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// The value as text. False with the reason for an unknown name.
+bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error);
+// All names in their order; bySeat tells those that are kept for each seat.
+struct SettingName {
+  std::string name;
+  bool bySeat = false;
+  std::string help;
+};
+std::vector<SettingName> AllSettings();
+
+}  // namespace tessaryn

@@ -1,0 +1,46 @@
+// The one gate through which a bet changes: clicks, handling, scripts and automatic odds all come here.
+#pragma once
+
+#include <string>
+
+#include "engine/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// Asks for a change of the seat's bet (bets 1 to 93, CheckStacks 100 to 199) and applies what the rules
+// allow. Returns the change made, also left in BetChange. Refusals and notes are shown as boxes unless a
+// Turbo-Roll or a script runs, or QuietChanges is above 0.
+Currency ChangeBet(Game& game, int seat, int bet, Currency request);
+// ChangeBet with the chip sound, and the odds brought back into line with their flat bet.
+Currency PlaceBet(Game& game, int seat, int bet, Currency request);
+// The bet down, as far as a contract lets it.
+Currency RemoveBet(Game& game, int seat, int bet);
+// Removes the odds and bets the most that is allowed. Shows no texts.
+void TakeFullOdds(Game& game, int seat, int bet);
+// Full odds on every Come number and the Pass Line (take side), or their opposites (lay side).
+void TakeAllFullOdds(Game& game, int seat, bool laySide);
+// Sets an amount without any rule; keeps every set and sum of the table. Requires that the amount is not
+// negative for bets 1 to 93. CheckStacks take any amount.
+void SetBetAmount(Game& game, int seat, int bet, Currency amount);
+
+// Calls. A first press of the other word only cancels the earlier call. False, with a box, for a bet that
+// can't be called.
+bool CallBet(Game& game, int seat, int bet, bool on);
+void CallAllBets(Game& game, int seat, bool on);
+// Takes the ON or OFF button away.
+void RemoveCall(Game& game, int seat, int bet);
+// BetWorking as a bet that has come down has it.
+void ResetBetWorking(Game& game, int seat, int bet);
+int BetWorkingOf(const Game& game, int seat, int bet);
+// The Place bet's amount goes to the Buy bet of its number; a call goes with it. False, with a box, for any
+// other bet.
+bool BuyPlaceBet(Game& game, int seat, int bet);
+
+// All bets of a family down, without contract or questions: the table no longer offers them.
+void TakeDownBets(Game& game, int seat, const BetSet& bets);
+// The vig of every Buy and Lay bet that is up, by the settings in force.
+void RecomputeVig(Game& game);
+
+}  // namespace tessaryn
