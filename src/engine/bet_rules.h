@@ -8,6 +8,7 @@
 namespace tessaryn {
 
 struct Game;
+struct Settings;
 
 // Asks for a change of the seat's bet (bets 1 to 93, CheckStacks 100 to 199) and applies what the rules
 // allow. Returns the change made, also left in BetChange. Refusals and notes are shown as boxes unless a
@@ -24,6 +25,9 @@ void TakeAllFullOdds(Game& game, int seat, bool laySide);
 // Sets an amount without any rule; keeps every set and sum of the table. Requires that the amount is not
 // negative for bets 1 to 93. CheckStacks take any amount.
 void SetBetAmount(Game& game, int seat, int bet, Currency amount);
+
+// Whether the table, as configured, takes the bet at all.
+bool BetOffered(const Settings& settings, int bet);
 
 // Calls. A first press of the other word only cancels the earlier call. False, with a box, for a bet that
 // can't be called.

@@ -54,7 +54,8 @@ struct TableState {
   SeatBetTable<std::int32_t, 101> BetStreak;  // wins in a row; below 0 losses in a row
   SeatBetTable<std::int32_t, 101> BetStreakBefore;  // as the dice were thrown
   WorkingState BetWorking[kSeatRows];
-  WorkingState BetWorkingBeforeRoll[kSeatRows];     // as the last roll was finished, for the log
+  WorkingState BetWorkingBeforeRoll[kSeatRows];     // its calls as the last roll was finished, for the log
+  bool CallsTouched = false;                  // a call changed since that copy
   BetSet BetDefaultWorking[kSeatRows];        // works on the come-out; row 0 the house standard
   std::string CheckStackName[kSeatRows][kCheckStacks];
 
@@ -67,6 +68,11 @@ struct TableState {
   BetSet TouchedSinceAfter[kSeatRows];        // amount changed since BetAfterRoll
   BetSet StacksSinceBefore[kSeatRows];        // CheckStacks 0 to 99, likewise
   BetSet StacksSinceAfter[kSeatRows];
+
+  // Where this roll's Come and Don't Come bets moved, 0 for none; zeroed as the next dice are thrown.
+  int ComeMovedTo[kSeatRows] = {};
+  int DontComeMovedTo[kSeatRows] = {};
+  bool AnyBetMoved = false;
 
   // By seat and box number position 0 to 5 (4, 5, 6, 8, 9, 10).
   Currency LayVigHeld[kSeatRows][6];          // vig on bets 1 to 6, on the table if charged up front

@@ -1,0 +1,564 @@
+#include "stats/events_log.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <charconv>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <system_error>
+
+#include "engine/bet_catalogue.h"
+#include "engine/game.h"
+
+namespace tessaryn {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kFlushAt = 256 * 1024;      // bytes of text
+constexpr std::size_t kKeepUnwritten = 4 * 1024 * 1024;
+constexpr std::int64_t kLongestLog = 4'294'967'295;  // the index counts in 32 bits
+constexpr int kIndexBytes = 4;
+
+void CloseFiles(EventsLog& log) {
+  if (log.textFile != nullptr) std::fclose(log.textFile);
+  if (log.indexFile != nullptr) std::fclose(log.indexFile);
+  log.textFile = log.indexFile = nullptr;
+}
+
+void ForgetFiles(EventsLog& log) {
+  CloseFiles(log);
+  log.textBuffer.clear();
+  log.indexBuffer.clear();
+}
+
+// Told once, until writing works again. The game goes on without its journal.
+void ReportFault(Game& game, const std::string& what) {
+  EventsLog& log = game.events;
+  if (log.FaultReported == what) return;
+  log.FaultReported = what;
+  ShowMessage(game, "Events Log", what + "\r\rThe game goes on; the lines are kept and tried again.");
+}
+
+std::string FaultText(const std::string& path, int error) {
+  return "The Events Log can't be written: " + path + ": " + std::strerror(error) + ".";
+}
+
+std::int64_t FileSize(const std::string& path) {
+  std::error_code error;
+  const auto size = fs::file_size(path, error);
+  return error ? -1 : static_cast<std::int64_t>(size);
+}
+
+// Appends all of the buffer, or leaves the file as it was. Returns 0 or errno.
+int AppendAll(std::FILE* file, std::int64_t length, const std::string& buffer) {
+  if (buffer.empty()) return 0;
+  errno = 0;
+  const bool written = std::fwrite(buffer.data(), 1, buffer.size(), file) == buffer.size() &&
+                       std::fflush(file) == 0;
+  if (written) return 0;
+  const int error = errno == 0 ? EIO : errno;
+  (void)length;
+  return error;
+}
+
+bool OpenFiles(Game& game) {
+  EventsLog& log = game.events;
+  if (log.textFile != nullptr) return true;
+  const std::string textPath = EventsLogPath(game);
+  const std::string indexPath = EventsIndexPath(game);
+  const std::int64_t textSize = FileSize(textPath);
+  const std::int64_t indexSize = FileSize(indexPath);
+  if (textSize > 0 && indexSize <= 0) {
+    std::string error;
+    RebuildEventsLogIndex(game, error);
+  }
+  errno = 0;
+  log.textFile = std::fopen(textPath.c_str(), "ab");
+  if (log.textFile == nullptr) {
+    ReportFault(game, FaultText(textPath, errno));
+    return false;
+  }
+  log.indexFile = std::fopen(indexPath.c_str(), textSize > 0 ? "ab" : "wb");
+  if (log.indexFile == nullptr) {
+    const int error = errno;
+    CloseFiles(log);
+    ReportFault(game, FaultText(indexPath, error));
+    return false;
+  }
+  std::setvbuf(log.textFile, nullptr, _IONBF, 0);
+  std::setvbuf(log.indexFile, nullptr, _IONBF, 0);
+  // Lines that wait from an earlier fault begin behind what is there now.
+  const std::int64_t before = std::max<std::int64_t>(textSize, 0);
+  if (log.textBuffer.empty()) {
+    log.textLength = before;
+    log.lineCount = std::max<std::int64_t>(FileSize(indexPath), 0) / kIndexBytes;
+  }
+  return true;
+}
+
+void AppendIndexRecord(std::string& buffer, std::int64_t position) {
+  for (int shift = 0; shift < 32; shift += 8) buffer += static_cast<char>(position >> shift & 0xff);
+}
+
+void WriteBuffers(Game& game) {
+  EventsLog& log = game.events;
+  if (log.textBuffer.empty() || !OpenFiles(game)) return;
+  const std::string textPath = EventsLogPath(game);
+  const std::string indexPath = EventsIndexPath(game);
+  const std::int64_t textBefore = FileSize(textPath);
+  const std::int64_t indexBefore = FileSize(indexPath);
+  int error = AppendAll(log.textFile, textBefore, log.textBuffer);
+  std::string path = textPath;
+  if (error == 0) {
+    error = AppendAll(log.indexFile, indexBefore, log.indexBuffer);
+    path = indexPath;
+  }
+  if (error != 0) {
+    // Both files go back to where they agreed; the lines wait for the next try.
+    CloseFiles(log);
+    std::error_code ignored;
+    if (textBefore >= 0) fs::resize_file(textPath, static_cast<std::uintmax_t>(textBefore), ignored);
+    if (indexBefore >= 0) fs::resize_file(indexPath, static_cast<std::uintmax_t>(indexBefore), ignored);
+    if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
+    ReportFault(game, FaultText(path, error));
+    return;
+  }
+  log.textBuffer.clear();
+  log.indexBuffer.clear();
+  log.FaultReported.clear();
+}
+
+bool BeginsWithRoll(std::string_view text) {
+  const auto first = text.find_first_not_of(' ');
+  return first != std::string_view::npos && text.substr(first, 4) == "Roll";
+}
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return lower;
+}
+
+// The files as another reader would see them; the index made anew if it can't belong to the text.
+bool ReadyToRead(Game& game) {
+  FlushEventsLog(game);
+  const std::int64_t textSize = FileSize(EventsLogPath(game));
+  if (textSize < 0) return false;
+  if (textSize > 0 && FileSize(EventsIndexPath(game)) < kIndexBytes) {
+    std::string error;
+    return RebuildEventsLogIndex(game, error);
+  }
+  return true;
+}
+
+std::int64_t IndexRecord(std::ifstream& index, std::int64_t line) {
+  unsigned char bytes[kIndexBytes];
+  index.clear();
+  index.seekg((line - 1) * kIndexBytes);
+  if (!index.read(reinterpret_cast<char*>(bytes), kIndexBytes)) return 0;
+  return static_cast<std::int64_t>(bytes[0] | bytes[1] << 8 | bytes[2] << 16) |
+         static_cast<std::int64_t>(bytes[3]) << 24;
+}
+
+std::string LineAt(std::ifstream& text, std::ifstream& index, std::int64_t line) {
+  const std::int64_t position = IndexRecord(index, line);
+  if (position < 1) return "";
+  text.clear();
+  text.seekg(position - 1);
+  std::string content;
+  std::getline(text, content);
+  if (!content.empty() && content.back() == '\r') content.pop_back();
+  return content;
+}
+
+void BeginGroup(EventsLog& log, const char* heading) { log.PendingLogHeading = heading; }
+
+std::string FileNameOf(const std::string& path) { return fs::path(path).filename().string(); }
+
+}  // namespace
+
+EventsLog::~EventsLog() { CloseFiles(*this); }
+
+std::string EventsLogPath(const Game& game) {
+  return game.events.Path.empty() ? game.dataFolder + kEventsLogName : game.events.Path;
+}
+
+std::string EventsIndexPath(const Game& game) { return game.dataFolder + kEventsIndexName; }
+
+void WriteEventsLogLine(Game& game, std::string_view text) {
+  EventsLog& log = game.events;
+  if (!log.RecordEventsActive) return;
+  if (log.textFile == nullptr && !OpenFiles(game)) {
+    if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
+    if (log.textBuffer.empty()) log.textLength = log.lineCount = 0;
+  }
+  if (log.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
+    ReportFault(game, "The Events Log is full: " + EventsLogPath(game) + ".");
+    return;
+  }
+  AppendIndexRecord(log.indexBuffer, log.textLength + 1);
+  log.textBuffer += text;
+  log.textBuffer += '\n';
+  log.textLength += static_cast<std::int64_t>(text.size()) + 1;
+  ++log.lineCount;
+  if (log.KeepLatestRollOnTop && BeginsWithRoll(text))
+    log.EventsLogTopLine = static_cast<std::int32_t>(log.lineCount);
+  if (log.textBuffer.size() >= kFlushAt) WriteBuffers(game);
+}
+
+void WriteGroupedLine(Game& game, std::string_view text) {
+  EventsLog& log = game.events;
+  if (!log.PendingLogHeading.empty()) {
+    const std::string heading = std::move(log.PendingLogHeading);
+    log.PendingLogHeading.clear();
+    WriteEventsLogLine(game, heading);
+  }
+  WriteEventsLogLine(game, text);
+}
+
+void FlushEventsLog(Game& game) {
+  WriteBuffers(game);
+  CloseFiles(game.events);
+}
+
+bool RebuildEventsLogIndex(Game& game, std::string& error) {
+  EventsLog& log = game.events;
+  CloseFiles(log);
+  const std::string path = EventsLogPath(game);
+  std::ifstream text(path, std::ios::binary);
+  if (!text) {
+    error = path + " can't be read.";
+    return false;
+  }
+  const std::string indexPath = EventsIndexPath(game);
+  std::ofstream index(indexPath, std::ios::binary | std::ios::trunc);
+  std::string buffer;
+  std::string line;
+  for (std::int64_t position = 1; std::getline(text, line);
+       position += static_cast<std::int64_t>(line.size()) + 1) {
+    AppendIndexRecord(buffer, position);
+    if (buffer.size() < kFlushAt) continue;
+    index.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+    buffer.clear();
+  }
+  index.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
+  index.flush();
+  if (!index) {
+    error = indexPath + " can't be written.";
+    return false;
+  }
+  return true;
+}
+
+std::int64_t EventsLogLineCount(Game& game) {
+  if (!ReadyToRead(game)) return 0;
+  return std::max<std::int64_t>(FileSize(EventsIndexPath(game)), 0) / kIndexBytes;
+}
+
+std::string ReadEventsLogLine(Game& game, std::int64_t line) {
+  if (line < 1 || !ReadyToRead(game)) return "";
+  std::ifstream text(EventsLogPath(game), std::ios::binary);
+  std::ifstream index(EventsIndexPath(game), std::ios::binary);
+  return LineAt(text, index, line);
+}
+
+std::int64_t FindInEventsLog(Game& game, std::string_view wanted, bool forward) {
+  EventsLog& log = game.events;
+  const std::int64_t count = EventsLogLineCount(game);
+  const std::string lower = Lower(wanted);
+  std::ifstream text(EventsLogPath(game), std::ios::binary);
+  std::ifstream index(EventsIndexPath(game), std::ios::binary);
+  const int step = forward ? 1 : -1;
+  for (std::int64_t line = log.EventsLogTopLine + step; line >= 1 && line <= count; line += step) {
+    if (Lower(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
+    log.EventsLogTopLine = static_cast<std::int32_t>(line);
+    return line;
+  }
+  return 0;
+}
+
+void ClearEventsLog(Game& game) {
+  ForgetFiles(game.events);
+  std::error_code ignored;
+  fs::remove(EventsIndexPath(game), ignored);
+  fs::remove(EventsLogPath(game), ignored);
+  game.events.EventsLogTopLine = 1;
+  game.events.textLength = game.events.lineCount = 0;
+}
+
+void NewEventsLog(Game& game) {
+  FlushEventsLog(game);
+  const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
+  if (defaultName && FileSize(EventsLogPath(game)) > 0) {
+    const int answer = ShowMessage(
+        game, "Save Events Log?",
+        "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
+        kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    if (answer == kResultCancel) return;
+    if (answer == kResultYes) {
+      game.host->Changed(game, Change::kEverything);  // the screen's Save As takes it from here
+      return;
+    }
+  }
+  ClearEventsLog(game);
+}
+
+bool OpenEventsLog(Game& game, const std::string& path, std::string& error) {
+  std::ifstream test(path, std::ios::binary);
+  if (!test || fs::is_directory(path)) {
+    error = path + ": File not found";
+    return false;
+  }
+  FlushEventsLog(game);
+  const std::string before = game.events.Path;
+  game.events.Path = path;
+  if (!RebuildEventsLogIndex(game, error)) {
+    game.events.Path = before;
+    return false;
+  }
+  game.events.EventsLogTopLine = 1;
+  return true;
+}
+
+bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error) {
+  FlushEventsLog(game);
+  const std::string from = EventsLogPath(game);
+  std::error_code fault;
+  if (fs::weakly_canonical(path, fault) == fs::weakly_canonical(from, fault)) return true;
+  const std::string beside = path + ".tmp";
+  fs::copy_file(from, beside, fs::copy_options::overwrite_existing, fault);
+  if (!fault) fs::rename(beside, path, fault);
+  if (fault) {
+    std::error_code ignored;
+    fs::remove(beside, ignored);
+    error = path + ": " + fault.message();
+    return false;
+  }
+  game.events.Path = path;
+  return true;
+}
+
+void RecordAllEvents(EventsLog& log, bool on) {
+  for (bool* flag : {&log.RecordRolls, &log.RecordBetChanges, &log.RecordBetsWon, &log.RecordBetsLost,
+                     &log.RecordCheckStackChanges, &log.RecordPassesMisses, &log.RecordShooterChanges,
+                     &log.RecordBankrollChanges})
+    *flag = on;
+}
+
+// --- The lines.
+
+std::string StickPosition(int seat) {
+  return seat <= 4 ? "stick " + std::to_string(5 - seat) + "-left"
+                   : "stick " + std::to_string(seat - 4) + "-right";
+}
+
+namespace {
+
+std::string ScriptLine(const Game& game, int seat, bool active) {
+  const SeatScript& script = game.autobet.Scripts[seat];
+  std::string line = "      " + game.table.SeatName[seat];
+  if (!active) return line + " deactivated script";
+  if (script.ScriptFileName.empty()) return line + " activated untitled script";
+  return line + " activated script (" + script.ScriptFileName + ")";
+}
+
+void LogScriptChanges(Game& game) {
+  EventsLog& log = game.events;
+  BeginGroup(log, "    AutoBets:");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const bool active = game.autobet.ScriptActive[seat];
+    if (active == log.ScriptActiveLogged[seat]) continue;
+    log.ScriptActiveLogged[seat] = active;
+    if (IsOccupied(game.table, seat)) WriteGroupedLine(game, ScriptLine(game, seat, active));
+  }
+}
+
+void LogAtmMovements(Game& game) {
+  TableState& table = game.table;
+  BeginGroup(game.events, "    Bankroll:");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const Currency total = game.stats.AtmTotal[Slot(kAllSessions, seat)];
+    const Currency moved = total - table.AtmLogged[seat];
+    table.AtmLogged[seat] = total;
+    if (moved == kZero || !IsOccupied(table, seat) || !game.events.RecordBankrollChanges) continue;
+    const bool up = moved > kZero;
+    WriteGroupedLine(game, "      " + table.SeatName[seat] + (up ? " increased to $" : " decreased to $") +
+                               PlainMoney(table.BankrollCurrent[seat]) + " ($" + PlainMoney(Abs(moved)) +
+                               (up ? " ATM withdrawal)" : " ATM deposit)"));
+  }
+}
+
+// A change that a Come or Don't Come bet's move made is told by its own line.
+bool MadeByMove(const TableState& table, int seat, int bet) {
+  const int toCome = table.ComeMovedTo[seat];
+  const int toDontCome = table.DontComeMovedTo[seat];
+  if (bet == kCome) return toCome != 0 && table.BetAmount(seat, bet) == kZero;
+  if (bet == kDontCome) return toDontCome != 0 && table.BetAmount(seat, bet) == kZero;
+  return (bet == toCome || bet == toDontCome) && bet != 0 &&
+         table.BetAmount(seat, bet) == table.BetCommitted(seat, bet);
+}
+
+void LogAmountChange(Game& game, int seat, int bet) {
+  const TableState& table = game.table;
+  const Currency before = table.BetBeforeRoll(seat, bet);
+  const Currency now = table.BetAmount(seat, bet);
+  if (now == before || MadeByMove(table, seat, bet)) return;
+  const std::string start = "      " + table.SeatName[seat];
+  const char* name = FactsOf(bet).name;
+  if (now == kZero)
+    WriteGroupedLine(game, start + " removed $" + PlainMoney(before) + " bet on " + name);
+  else if (before == kZero)
+    WriteGroupedLine(game, start + " bet $" + PlainMoney(now) + " on " + name);
+  else
+    WriteGroupedLine(game, start + (now < before ? " decreased " : " increased ") + name + " to $" +
+                               PlainMoney(now));
+}
+
+void LogCallChange(Game& game, int seat, int bet) {
+  const TableState& table = game.table;
+  const int before = WorkingValue(table.BetWorkingBeforeRoll[seat], bet);
+  const int now = WorkingValue(table.BetWorking[seat], bet);
+  const std::string start = "      " + table.SeatName[seat];
+  const char* name = FactsOf(bet).name;
+  if (now == before) return;
+  if (now == -1)
+    WriteGroupedLine(game, start + " called OFF " + name + " bet");
+  else if (now == 2)
+    WriteGroupedLine(game, start + " called ON " + name + " bet");
+  else if ((before == -1 || before == 2) && table.SeatBets[seat].Has(bet))
+    WriteGroupedLine(game, start + " called " + name + " bet working normally again");
+}
+
+void LogBetChanges(Game& game) {
+  const TableState& table = game.table;
+  BeginGroup(game.events, "    Bets:");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!IsOccupied(table, seat)) continue;
+    const WorkingState& now = table.BetWorking[seat];
+    const WorkingState& before = table.BetWorkingBeforeRoll[seat];
+    const BetSet called = now.calledOn | now.calledOff | before.calledOn | before.calledOff;
+    (table.TouchedSinceBefore[seat] | called).ForEach([&](int bet) {
+      LogAmountChange(game, seat, bet);
+      if (called.Has(bet)) LogCallChange(game, seat, bet);
+    });
+  }
+}
+
+void LogCheckStackChanges(Game& game) {
+  const TableState& table = game.table;
+  BeginGroup(game.events, "    CheckStacks:");
+  for (int seat = 1; seat <= kSeats; ++seat)
+    table.StacksSinceBefore[seat].ForEach([&](int stack) {
+      const int bet = kFirstCheckStack + stack;
+      const Currency before = table.BetBeforeRoll(seat, bet);
+      const Currency now = table.BetAmount(seat, bet);
+      if (now == before || !IsOccupied(table, seat)) return;
+      WriteGroupedLine(game, "      " + table.SeatName[seat] + (now > before ? " increased" : " decreased") +
+                                 " CheckStack #" + std::to_string(stack) + " to " + PlainMoney(now));
+    });
+}
+
+}  // namespace
+
+void LogChangesBeforeRoll(Game& game) {
+  EventsLog& log = game.events;
+  LogScriptChanges(game);
+  LogAtmMovements(game);
+  if (log.RecordBetChanges) LogBetChanges(game);
+  if (log.RecordCheckStackChanges) LogCheckStackChanges(game);
+  log.PendingLogHeading.clear();
+}
+
+void LogRoll(Game& game, const char* sourcePrefix) {
+  if (!game.events.RecordRolls) return;
+  const TableState& table = game.table;
+  std::string line = " Roll #" + std::to_string(SessionRolls(game.stats) + 1) + ":  " +
+                     std::to_string(table.RollTotal) + " (" + std::to_string(table.Die1) + "." +
+                     std::to_string(table.Die2) + ")" + sourcePrefix;
+  WriteEventsLogLine(game, line);
+}
+
+void LogWinOrLoss(Game& game, int seat, int bet) {
+  const EventsLog& log = game.events;
+  const Currency net = game.table.NetPayoff;
+  const bool won = net > kZero;
+  if (!(won ? log.RecordBetsWon : log.RecordBetsLost)) return;
+  std::string line = "      " + game.table.SeatName[seat] + (won ? " won $" : " lost $");
+  AppendPlainMoney(line, Abs(net));
+  line += " on ";
+  line += FactsOf(bet).name;
+  WriteGroupedLine(game, line);
+}
+
+void LogBetMoved(Game& game, int seat, int fromBet, int toBet) {
+  if (!game.events.RecordBetChanges) return;
+  WriteEventsLogLine(game, "    " + game.table.SeatName[seat] + "'s " + FactsOf(fromBet).name +
+                               " bet moved to " + FactsOf(toBet).name);
+}
+
+void LogBankrollChanges(Game& game) {
+  if (!game.events.RecordBankrollChanges) return;
+  const TableState& table = game.table;
+  BeginGroup(game.events, "    Bankroll:");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
+    if (change == kZero || !IsOccupied(table, seat)) continue;
+    const bool up = change > kZero;
+    WriteGroupedLine(game, "      " + table.SeatName[seat] + (up ? " increased to $" : " decreased to $") +
+                               PlainMoney(table.BankrollCurrent[seat]) + " ($" + PlainMoney(Abs(change)) +
+                               (up ? " gain)" : " loss)"));
+  }
+  game.events.PendingLogHeading.clear();
+}
+
+namespace {
+
+void WriteDivider(Game& game, const char* start, int seat) {
+  if (seat == 0)
+    WriteEventsLogLine(game, "----New hand, come-out roll----------");
+  else
+    WriteEventsLogLine(game, std::string(start) + game.table.SeatName[seat] + ") coming out----------");
+}
+
+}  // namespace
+
+void LogHandEnd(Game& game) {
+  if (!game.events.RecordShooterChanges) return;
+  const TableState& table = game.table;
+  const bool same = table.PreviousHandSeat == table.HandSeat && table.HandSeat == table.ShooterSeat;
+  WriteDivider(game, same ? "----Same shooter (" : "----New shooter (", table.ShooterSeat);
+}
+
+void LogSessionStart(Game& game) {
+  EventsLog& log = game.events;
+  if (!log.RecordEventsActive) return;
+  const TableState& table = game.table;
+  if (log.ClearLogOnNewSession) ClearEventsLog(game);
+  FlushEventsLog(game);
+  if (FileSize(EventsLogPath(game)) >= 0)
+    WriteEventsLogLine(game, "============================================");
+  WriteEventsLogLine(game,
+                     " New session started " + game.host->DateText() + " @ " + game.host->TimeText());
+  BeginGroup(log, "    Players:");
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(table, seat))
+      WriteGroupedLine(game, "      " + table.SeatName[seat] + " at " + StickPosition(seat) + " with $" +
+                                 PlainMoney(table.BankrollCurrent[seat]));
+  log.PendingLogHeading.clear();
+  if (game.rollFile.RecorderState == kRecorderPlayback)
+    WriteEventsLogLine(game, "    Dice roll file playback actived (" + FileNameOf(game.rollFile.RollFileName) + ")");
+  BeginGroup(log, "    AutoBets:");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    log.ScriptActiveLogged[seat] = game.autobet.ScriptActive[seat];
+    if (IsOccupied(table, seat) && game.autobet.ScriptActive[seat])
+      WriteGroupedLine(game, ScriptLine(game, seat, true));
+  }
+  log.PendingLogHeading.clear();
+  WriteDivider(game, "----New shooter (", log.RecordShooterChanges ? table.ShooterSeat : 0);
+  FlushEventsLog(game);
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,414 @@
+#include "stats/statistics.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "engine/bet_limits.h"
+#include "engine/game.h"
+#include "stats/roll_item_lists.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kRunningScopes[] = {kCurrentHand, kCurrentSession, kAllSessions};
+
+// --- Bets.
+
+void CountAmount(Currency (&kinds)[6], std::int64_t amount, std::int64_t roll) {
+  kinds[kStatCount - 1].raw += Currency::kPerDollar;
+  kinds[kStatTotal - 1].raw += amount;
+  if (amount > kinds[kStatHigh - 1].raw) kinds[kStatHigh - 1].raw = amount;
+  Currency& low = kinds[kStatLow - 1];
+  if ((low.raw == 0 || amount < low.raw) && amount > 0) low.raw = amount;
+  kinds[kStatLastRoll - 1].raw = roll * Currency::kPerDollar;
+  kinds[kStatLastAmount - 1].raw = amount;
+}
+
+bool TotalOverflows(const Currency (&kinds)[6], Currency amount) {
+  return (kinds[kStatTotal - 1] + amount).IsError();
+}
+
+// --- Slots of the seats that a roll counts for: the table, and who is credited with the hand.
+
+template <typename T>
+void CountFor(T& table, int handSeat) {
+  for (const int scope : kRunningScopes) {
+    ++table[Slot(scope, 0)];
+    if (handSeat > 0) ++table[Slot(scope, handSeat)];
+  }
+}
+
+void Raise(std::int32_t& most, std::int32_t value) {
+  if (value > most) most = value;
+}
+
+void RaiseFor(std::int32_t (&most)[kSlots], int handSeat, std::int32_t value, bool tableHand) {
+  for (const int scope : kRunningScopes) {
+    if (scope != kCurrentHand || tableHand) Raise(most[Slot(scope, 0)], value);
+    if (handSeat > 0) Raise(most[Slot(scope, handSeat)], value);
+  }
+}
+
+void CountGap(Statistics& stats, int item, std::int32_t roll) {
+  const std::int32_t gap = roll - stats.ItemLastRoll[item];
+  if (gap < 200) {
+    ++stats.RollGapCounts[item][gap];
+  } else {
+    ++stats.RollGapCounts[item][200];
+    stats.RollGapCounts[item][0] += gap;
+  }
+  stats.ItemLastRoll[item] = roll;
+}
+
+void MoveBetsToLastHand(Statistics& stats, int seat) {
+  const BetSet ended = stats.HandBets[seat];
+  Without(stats.LastHandBets[seat], ended).ForEach([&](int bet) {
+    stats.Bets[bet][seat][kLastHand] = BetStats{};
+  });
+  ended.ForEach([&](int bet) {
+    stats.Bets[bet][seat][kLastHand] = stats.Bets[bet][seat][kCurrentHand];
+    stats.Bets[bet][seat][kCurrentHand] = BetStats{};
+  });
+  stats.LastHandBets[seat] = ended;
+  stats.HandBets[seat].Clear();
+}
+
+template <typename T, std::size_t kCount>
+void MoveSlot(T (&table)[kCount], int seat, int fromScope, int toScope) {
+  std::memcpy(&table[Slot(toScope, seat)], &table[Slot(fromScope, seat)], sizeof(T));
+  std::memset(&table[Slot(fromScope, seat)], 0, sizeof(T));
+}
+
+// Calls visit(table) for every table of the store that is kept by slot, the bets and bankrolls apart.
+template <typename Visit>
+void ForEachCountTable(Statistics& stats, Visit&& visit) {
+  visit(stats.PairCounts);
+  visit(stats.RollTotals);
+  visit(stats.NumberCounts);
+  visit(stats.HandCount);
+  visit(stats.MostRollsInHand);
+  visit(stats.MostComeoutRollsInHand);
+  visit(stats.MostPassesInHand);
+  visit(stats.MostMissesInHand);
+  visit(stats.RollsNotSeen);
+  visit(stats.ComeTravelTotals);
+}
+
+template <typename Visit>
+void ForEachBankrollTable(Statistics& stats, Visit&& visit) {
+  visit(stats.BankrollBeginning);
+  visit(stats.BankrollHigh);
+  visit(stats.BankrollLow);
+  visit(stats.BankrollClosing);
+}
+
+template <typename T, std::size_t kCount>
+void ZeroSlot(T (&table)[kCount], int slot) {
+  static_assert(kCount == kSlots);
+  std::memset(&table[slot], 0, sizeof(T));
+}
+
+void ZeroScope(Statistics& stats, int scope, bool bankrolls) {
+  for (int seat = 0; seat <= kSeats; ++seat) {
+    ForEachCountTable(stats, [&](auto& table) { ZeroSlot(table, Slot(scope, seat)); });
+    if (bankrolls) {
+      ForEachBankrollTable(stats, [&](auto& table) { ZeroSlot(table, Slot(scope, seat)); });
+      ZeroSlot(stats.AtmTotal, Slot(scope, seat));
+    }
+    for (auto& bet : stats.Bets) bet[seat][scope] = BetStats{};
+    if (scope == kCurrentHand) stats.HandBets[seat].Clear();
+    if (scope == kLastHand) stats.LastHandBets[seat].Clear();
+  }
+  if (scope == kCurrentHand) stats.HandSlotsUsed = 0;
+  if (scope == kLastHand) stats.LastHandSlotsUsed = 0;
+}
+
+}  // namespace
+
+// --- Reading.
+
+std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item) {
+  const int slot = Slot(scope, seat);
+  if (item == 0) return stats.RollTotals[slot];
+  if (item < 0 || item >= kRollItems) return 0;
+  std::int64_t count = 0;
+  for (std::uint64_t pairs = kItemPairs[item]; pairs != 0; pairs &= pairs - 1)
+    count += stats.PairCounts[slot][std::countr_zero(pairs)];
+  return count;
+}
+
+std::int64_t PlayerRolls(const Statistics& stats, int scope, int seat) {
+  return stats.RollTotals[Slot(scope, 0)] - stats.RollsNotSeen[Slot(scope, seat)];
+}
+
+Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, int bet, StatKind kind) {
+  return stats.Bets[bet][seat][scope].kinds[table][kind - 1];
+}
+
+std::int64_t RollsSinceLast(const Statistics& stats, int item) {
+  if (item < 0 || item >= kRollItems) return 0;
+  return SessionRolls(stats) - stats.ItemLastRoll[item];
+}
+
+Currency BankrollOf(const Game& game, int scope, int seat) {
+  const bool running = scope == kCurrentHand || scope == kCurrentSession || scope == kAllSessions;
+  return running ? game.table.BankrollCurrent[seat] : game.stats.BankrollClosing[Slot(scope, seat)];
+}
+
+std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll) {
+  if (statLastRoll == kZero) return -1;
+  const std::int64_t session = stats.RollTotals[Slot(kCurrentSession, 0)];
+  const std::int64_t lastSession = stats.RollTotals[Slot(kLastSession, 0)];
+  std::int64_t base = session;
+  if (scope == kLastHand) {
+    const std::int64_t hands = stats.RollTotals[Slot(kLastHand, 0)] + stats.RollTotals[Slot(kCurrentHand, 0)];
+    if (hands > session) base = session + lastSession;
+  } else if (scope == kLastSession) {
+    base = session + lastSession;
+  } else if (scope == kAllSessions) {
+    base = stats.RollTotals[Slot(kAllSessions, 0)];
+  }
+  return base - statLastRoll.raw / Currency::kPerDollar;
+}
+
+std::string RollItemName(int item) { return RollItemText(item); }
+
+bool ItemHasPair(int item, int die1, int die2) {
+  return item >= 0 && item < kRollItems && (kItemPairs[item] >> PairIndex(die1, die2) & 1) != 0;
+}
+
+void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow) {
+  BetStats& row = stats.Bets[0][seat][kCurrentHand];
+  if (clearRow) row = BetStats{};
+  for (int bet = firstBet; bet <= lastBet; ++bet)
+    for (int table = 0; table < kStatTables; ++table)
+      for (int kind = 0; kind < 6; ++kind)
+        row.kinds[table][kind] += stats.Bets[bet][seat][scope].kinds[table][kind];
+}
+
+std::string LastHandNote(const Game& game, int scope) {
+  const TableState& table = game.table;
+  if (scope == kCurrentHand && table.ShooterSeat != table.HandSeat && table.ShooterSeat > 0) {
+    const std::string credited = table.HandSeat > 0
+                                     ? table.SeatName[table.HandSeat]
+                                     : "another player who started the hand but is no longer at the table.";
+    return "Although " + table.SeatName[table.ShooterSeat] +
+           " is presently shooting the dice, the current hand is being credited to " + credited +
+           (table.HandSeat > 0 ? " who started the hand." : "") +
+           "\r\rThe dice were passed during the current hand.";
+  }
+  if (scope == kLastHand && game.stats.RollTotals[Slot(kLastHand, 0)] > 0 && table.PreviousHandSeat == 0)
+    return "The last hand was shot by a player who is no longer at the table.";
+  return "";
+}
+
+double SimulatedHours(const Game& game, int scope, int seat) {
+  return static_cast<double>(PlayerRolls(game.stats, scope, seat)) / game.settings.SimRollRate.ToDouble();
+}
+
+// --- Writing.
+
+bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency net) {
+  if (net == kZero) return true;
+  Statistics& stats = game.stats;
+  if (VigUpFront(game, bet)) wagered += VigHeld(game, seat, bet);
+  auto& scopes = stats.Bets[bet][seat];
+  const bool won = net > kZero;
+  const StatTable decided = won ? kWinStats : kLossStats;
+  const Currency amount = Abs(net);
+  // All sessions hold the largest sums: what fits there fits everywhere.
+  const BetStats& all = scopes[kAllSessions];
+  if (wagered.IsError() || TotalOverflows(all.kinds[kWagerStats], wagered) ||
+      TotalOverflows(all.kinds[decided], amount))
+    return false;
+  for (const int scope : kRunningScopes) {
+    const std::int64_t roll = stats.RollTotals[Slot(scope == kAllSessions ? kAllSessions : kCurrentSession, 0)];
+    CountAmount(scopes[scope].kinds[kWagerStats], wagered.raw, roll);
+    CountAmount(scopes[scope].kinds[decided], amount.raw, roll);
+  }
+  stats.HandBets[seat].Add(bet);
+  if (IsComeNumber(bet))
+    for (const int scope : kRunningScopes)
+      stats.ComeTravelTotals[Slot(scope, seat)][bet - kCome4] +=
+          game.table.ComeTravelAmount[seat][bet - kCome4];
+  return true;
+}
+
+void CountRoll(Game& game) {
+  Statistics& stats = game.stats;
+  const TableState& table = game.table;
+  const int handSeat = table.HandSeat;
+  if (stats.RollTotals[Slot(kCurrentHand, 0)] == 0) {
+    CountFor(stats.HandCount, handSeat);
+    stats.HandCount[Slot(kCurrentHand, 0)] = 1;
+    if (handSeat > 0) stats.HandCount[Slot(kCurrentHand, handSeat)] = 1;
+  }
+  CountFor(stats.RollTotals, handSeat);
+  stats.HandSlotsUsed |= static_cast<std::uint16_t>(1u | 1u << handSeat);
+  RaiseFor(stats.MostRollsInHand, handSeat, stats.RollTotals[Slot(kCurrentHand, 0)], false);
+  const int pair = PairIndex(table.Die1, table.Die2);
+  for (const int scope : kRunningScopes) {
+    ++stats.PairCounts[Slot(scope, 0)][pair];
+    if (handSeat > 0) ++stats.PairCounts[Slot(scope, handSeat)][pair];
+  }
+  const std::int32_t roll = stats.RollTotals[Slot(kCurrentSession, 0)];
+  const PairItems& items = kPairItems[pair];
+  for (int i = 0; i < items.count; ++i) CountGap(stats, items.items[i], roll);
+}
+
+void CountLine(Game& game, NumberKind kind, int number) {
+  Statistics& stats = game.stats;
+  const int handSeat = game.table.HandSeat;
+  for (const int scope : kRunningScopes) {
+    ++stats.NumberCounts[Slot(scope, 0)][number][kind];
+    if (handSeat > 0) ++stats.NumberCounts[Slot(scope, handSeat)][number][kind];
+  }
+  switch (kind) {
+    case kComeoutRolls:
+      return RaiseFor(stats.MostComeoutRollsInHand, handSeat, ++stats.HandComeoutRolls, true);
+    case kPasses:
+      return RaiseFor(stats.MostPassesInHand, handSeat, ++stats.HandPasses, true);
+    case kMisses:
+      return RaiseFor(stats.MostMissesInHand, handSeat, ++stats.HandMisses, true);
+  }
+}
+
+void CloseRollStatistics(Game& game) {
+  Statistics& stats = game.stats;
+  const TableState& table = game.table;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (table.SeatName[seat].empty()) continue;
+    const Currency bankroll = table.BankrollCurrent[seat];
+    stats.BankrollRollSum[seat] += bankroll;
+    if (bankroll == table.BankrollBeforeRoll[seat]) continue;
+    for (const int scope : kRunningScopes) {
+      Currency& high = stats.BankrollHigh[Slot(scope, seat)];
+      Currency& low = stats.BankrollLow[Slot(scope, seat)];
+      if (bankroll > high) high = bankroll;
+      if (bankroll < low) low = bankroll;
+    }
+  }
+}
+
+void EndHandStatistics(Game& game) {
+  Statistics& stats = game.stats;
+  const TableState& table = game.table;
+  const std::int32_t handRolls = stats.RollTotals[Slot(kCurrentHand, 0)];
+  const unsigned used = stats.HandSlotsUsed | stats.LastHandSlotsUsed;
+  for (int seat = 0; seat <= kSeats; ++seat) {
+    if ((used >> seat & 1) != 0) {
+      MoveSlot(stats.PairCounts, seat, kCurrentHand, kLastHand);
+      MoveSlot(stats.RollTotals, seat, kCurrentHand, kLastHand);
+    }
+    const bool occupied = seat > 0 && !table.SeatName[seat].empty();
+    if (!occupied && seat > 0) {
+      // An open seat's hand goes on counting the rolls that it sees.
+      stats.RollsNotSeen[Slot(kCurrentHand, seat)] -= handRolls;
+      continue;
+    }
+    if ((used >> seat & 1) != 0) {
+      MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
+      MoveSlot(stats.HandCount, seat, kCurrentHand, kLastHand);
+    }
+    MoveSlot(stats.RollsNotSeen, seat, kCurrentHand, kLastHand);
+    if (!occupied) continue;
+    MoveBetsToLastHand(stats, seat);
+    MoveSlot(stats.ComeTravelTotals, seat, kCurrentHand, kLastHand);
+    const Currency bankroll = table.BankrollCurrent[seat];
+    const int hand = Slot(kCurrentHand, seat);
+    const int last = Slot(kLastHand, seat);
+    for (auto* values : {stats.BankrollBeginning, stats.BankrollHigh, stats.BankrollLow}) {
+      values[last] = values[hand];
+      values[hand] = bankroll;
+    }
+    stats.BankrollClosing[last] = bankroll;
+  }
+  for (auto* most : {stats.MostRollsInHand, stats.MostComeoutRollsInHand, stats.MostPassesInHand,
+                     stats.MostMissesInHand})
+    for (int seat = 0; seat <= kSeats; ++seat) {
+      most[Slot(kLastHand, seat)] = most[Slot(kCurrentHand, seat)];
+      most[Slot(kCurrentHand, seat)] = 0;
+    }
+  stats.LastHandSlotsUsed = stats.HandSlotsUsed;
+  stats.HandSlotsUsed = 0;
+  stats.HandComeoutRolls = stats.HandPasses = stats.HandMisses = 0;
+}
+
+void StartSessionStatistics(Game& game) {
+  Statistics& stats = game.stats;
+  if (HandRolls(stats) > 0) EndHandStatistics(game);
+  if (SessionRolls(stats) > 0) {
+    for (int seat = 0; seat <= kSeats; ++seat) {
+      const int from = Slot(kCurrentSession, seat);
+      const int to = Slot(kLastSession, seat);
+      const auto copy = [from, to](auto& table) { std::memcpy(&table[to], &table[from], sizeof table[to]); };
+      ForEachCountTable(stats, copy);
+      for (auto* values : {stats.BankrollBeginning, stats.BankrollHigh, stats.BankrollLow, stats.AtmTotal})
+        values[to] = values[from];
+      stats.BankrollClosing[to] = game.table.BankrollCurrent[seat];
+      for (int bet = 1; bet <= kBets; ++bet)
+        stats.Bets[bet][seat][kLastSession] = stats.Bets[bet][seat][kCurrentSession];
+    }
+  }
+  ZeroScope(stats, kCurrentHand, false);
+  ZeroScope(stats, kCurrentSession, false);
+  std::memset(stats.ItemLastRoll, 0, sizeof stats.ItemLastRoll);
+  std::memset(stats.RollGapCounts, 0, sizeof stats.RollGapCounts);
+  for (Currency& sum : stats.BankrollRollSum) sum = kZero;
+  stats.HandComeoutRolls = stats.HandPasses = stats.HandMisses = 0;
+}
+
+void ClearPreviousSessions(Game& game) {
+  for (const int scope : {kLastHand, kLastSession, kAllSessions}) ZeroScope(game.stats, scope, true);
+}
+
+void ClearSeatStatistics(Game& game, int seat) {
+  Statistics& stats = game.stats;
+  for (int scope = 0; scope < kScopes; ++scope) {
+    const int slot = Slot(scope, seat);
+    ForEachCountTable(stats, [slot](auto& table) { ZeroSlot(table, slot); });
+    ForEachBankrollTable(stats, [slot](auto& table) { ZeroSlot(table, slot); });
+    stats.AtmTotal[slot] = kZero;
+    stats.RollsNotSeen[slot] = stats.RollTotals[Slot(scope, 0)];
+    for (auto& bet : stats.Bets) bet[seat][scope] = BetStats{};
+  }
+  stats.HandBets[seat].Clear();
+  stats.LastHandBets[seat].Clear();
+  stats.BankrollRollSum[seat] = kZero;
+  stats.BankrollSessionStart[seat] = kZero;
+}
+
+void SwapSeatStatistics(Game& game, int seatA, int seatB) {
+  Statistics& stats = game.stats;
+  for (int scope = 0; scope < kScopes; ++scope) {
+    const int a = Slot(scope, seatA);
+    const int b = Slot(scope, seatB);
+    const auto swap = [a, b](auto& table) { std::swap(table[a], table[b]); };
+    ForEachCountTable(stats, swap);
+    ForEachBankrollTable(stats, swap);
+    swap(stats.AtmTotal);
+    for (auto& bet : stats.Bets) std::swap(bet[seatA][scope], bet[seatB][scope]);
+  }
+  std::swap(stats.HandBets[seatA], stats.HandBets[seatB]);
+  std::swap(stats.LastHandBets[seatA], stats.LastHandBets[seatB]);
+  std::swap(stats.BankrollRollSum[seatA], stats.BankrollRollSum[seatB]);
+  std::swap(stats.BankrollSessionStart[seatA], stats.BankrollSessionStart[seatB]);
+  for (std::uint16_t* used : {&stats.HandSlotsUsed, &stats.LastHandSlotsUsed}) {
+    const unsigned bitA = *used >> seatA & 1u;
+    const unsigned bitB = *used >> seatB & 1u;
+    *used = static_cast<std::uint16_t>((*used & ~(1u << seatA | 1u << seatB)) | bitA << seatB | bitB << seatA);
+  }
+}
+
+void StartBankroll(Game& game, int seat, Currency amount) {
+  Statistics& stats = game.stats;
+  game.table.BankrollCurrent[seat] = amount;
+  game.table.BankrollBeforeRoll[seat] = game.table.BankrollAfterRoll[seat] = amount;
+  stats.BankrollSessionStart[seat] = amount;
+  for (const int scope : kRunningScopes) {
+    const int slot = Slot(scope, seat);
+    stats.BankrollBeginning[slot] = stats.BankrollHigh[slot] = stats.BankrollLow[slot] = amount;
+  }
+}
+
+}  // namespace tessaryn
