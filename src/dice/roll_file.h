@@ -126,11 +126,12 @@ inline PlayResult PlayRoll(RollFile& file, int& die1, int& die2) {
 inline bool RecordRoll(RollFile& file, int die1, int die2) {
   RollFileChannel& channel = file.Channel;
   const std::int32_t at = file.RollFileCursor - 1 - channel.WindowStart;
-  if (!channel.Pending || at != channel.WindowUsed || at == static_cast<std::int32_t>(kRollWindowBytes) ||
-      file.RollFileCursor > channel.Length) [[unlikely]]
+  if (!channel.Pending || at != channel.WindowUsed || at == static_cast<std::int32_t>(kRollWindowBytes))
+      [[unlikely]]
     return RecordRollToFile(file, die1, die2);
   channel.Window[static_cast<std::size_t>(at)] = RollByte(die1, die2);
   ++channel.WindowUsed;
+  if (file.RollFileCursor > channel.Length) channel.Length = file.RollFileCursor;
   file.RollFileSelectEnd = ++file.RollFileCursor;
   return true;
 }

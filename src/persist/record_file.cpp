@@ -186,7 +186,7 @@ std::string WriteReplacement(FileReplacement& file, std::string_view bytes) {
 
 std::string CommitReplacement(FileReplacement& file) {
   if (file.Descriptor < 0) return FileErrorText("write", file.Path, EBADF);
-  if (!file.Temporary.empty() && fsync(file.Descriptor) != 0) return FailReplacement(file, "write");
+  if (file.Durable && !file.Temporary.empty() && fsync(file.Descriptor) != 0) return FailReplacement(file, "write");
   // A write that was put off can still fail here.
   const int closed = close(file.Descriptor);
   file.Descriptor = -1;
@@ -194,7 +194,7 @@ std::string CommitReplacement(FileReplacement& file) {
   if (file.Temporary.empty()) return {};
   if (rename(file.Temporary.c_str(), file.Target.c_str()) != 0) return FailReplacement(file, "replace");
   file.Temporary.clear();
-  FlushFolderOf(file.Target);
+  if (file.Durable) FlushFolderOf(file.Target);
   return {};
 }
 

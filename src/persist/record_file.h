@@ -122,6 +122,7 @@ struct FileReplacement {
   std::string Target;     // what it stands for
   std::string Temporary;  // empty when written straight through
   int Descriptor = -1;    // -1: not begun, ended, or failed
+  bool Durable = true;    // set to false before the commit of a scratch file, which need not reach the disk
 
   FileReplacement() = default;
   FileReplacement(const FileReplacement&) = delete;
