@@ -1,0 +1,703 @@
+#include "dice/roll_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "persist/record_file.h"
+
+namespace tessaryn {
+namespace {
+
+// ---- Bytes -------------------------------------------------------------------------------------------
+
+using Block = std::array<unsigned char, kRollBlockBytes>;
+
+// How many bytes came, fewer at the end of the file; -1 on an error.
+std::int64_t ReadAt(int descriptor, std::int64_t offset, unsigned char* bytes, std::size_t count) {
+  std::size_t done = 0;
+  while (done < count) {
+    const ssize_t got = pread(descriptor, bytes + done, count - done, offset + static_cast<off_t>(done));
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return -1;
+    if (got == 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  return static_cast<std::int64_t>(done);
+}
+
+// How many bytes went; fewer than count is an error, its number in errno.
+std::size_t WriteAt(int descriptor, std::int64_t offset, const unsigned char* bytes, std::size_t count) {
+  std::size_t done = 0;
+  while (done < count) {
+    const ssize_t put = pwrite(descriptor, bytes + done, count - done, offset + static_cast<off_t>(done));
+    if (put < 0 && errno == EINTR) continue;
+    if (put == 0) errno = ENOSPC;
+    if (put <= 0) break;
+    done += static_cast<std::size_t>(put);
+  }
+  return done;
+}
+
+bool CopyBlock(int descriptor, std::int64_t from, std::int64_t to, std::size_t count) {
+  Block block;
+  const std::int64_t got = ReadAt(descriptor, from, block.data(), count);
+  if (got >= 0 && static_cast<std::size_t>(got) < count) errno = EIO;
+  return got == static_cast<std::int64_t>(count) && WriteAt(descriptor, to, block.data(), count) == count;
+}
+
+std::size_t BlockSize(std::int64_t left) {
+  return static_cast<std::size_t>(std::min<std::int64_t>(left, kRollBlockBytes));
+}
+
+// From the end, so that no byte is written over before it has been moved.
+bool MoveUp(int descriptor, std::int64_t from, std::int64_t count, std::int64_t by) {
+  while (count > 0) {
+    const std::size_t size = BlockSize(count);
+    count -= static_cast<std::int64_t>(size);
+    if (!CopyBlock(descriptor, from + count, from + count + by, size)) return false;
+  }
+  return true;
+}
+
+bool MoveDown(int descriptor, std::int64_t from, std::int64_t count, std::int64_t by) {
+  while (count > 0) {
+    const std::size_t size = BlockSize(count);
+    if (!CopyBlock(descriptor, from, from - by, size)) return false;
+    from += static_cast<std::int64_t>(size);
+    count -= static_cast<std::int64_t>(size);
+  }
+  return true;
+}
+
+// Makes room behind the file before anything in it moves, so that a full disk is found out in time.
+bool Extend(int descriptor, std::int64_t length, std::int64_t by) {
+  const int number = posix_fallocate(descriptor, length, by);
+  if (number == 0) return true;
+  if (ftruncate(descriptor, length) != 0) return false;
+  errno = number;
+  return false;
+}
+
+// ---- Files -------------------------------------------------------------------------------------------
+
+// A regular file to read from; anything else could block or never end.
+struct Source {
+  int Descriptor = -1;
+  std::int64_t Length = 0;
+
+  Source() = default;
+  Source(const Source&) = delete;
+  Source& operator=(const Source&) = delete;
+  ~Source() {
+    if (Descriptor >= 0) close(Descriptor);
+  }
+};
+
+std::string OpenSource(Source& source, const std::string& path) {
+  source.Descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (source.Descriptor < 0) return FileErrorText("open", path, errno);
+  struct stat status {};
+  if (fstat(source.Descriptor, &status) != 0) return FileErrorText("open", path, errno);
+  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  source.Length = status.st_size;
+  return {};
+}
+
+bool IsOpenFile(const RollFile& file, const std::string& path) {
+  struct stat open {};
+  struct stat other {};
+  return IsRollFileOpen(file) && fstat(file.Channel.Descriptor, &open) == 0 &&
+         stat(path.c_str(), &other) == 0 && open.st_dev == other.st_dev && open.st_ino == other.st_ino;
+}
+
+std::string TooLongText(const std::string& path) {
+  return "Unable to use " + path + ": a dice roll file can't hold more than " +
+         FormatMoney(Currency::Dollars(kRollFileMaximum)) + " rolls.";
+}
+
+std::string FileError(const RollFile& file, std::string_view action) {
+  return FileErrorText(action, file.RollFileName, errno);
+}
+
+void SetCursor(RollFile& file, std::int64_t position) {
+  file.RollFileCursor = static_cast<std::int32_t>(position);
+  file.RollFileSelectEnd = file.RollFileCursor;
+}
+
+// What every command on the open file starts with: nothing pending, the length as it is on the disk.
+std::string Prepare(RollFile& file) {
+  if (!IsRollFileOpen(file)) return kNoRollFileOpen;
+  return FlushRollFile(file) ? std::string() : file.LastErrorText;
+}
+
+std::string PrepareToWrite(RollFile& file) {
+  std::string error = Prepare(file);
+  if (error.empty() && file.Channel.ReadOnly) return FileErrorText("change", file.RollFileName, EACCES);
+  return error;
+}
+
+// The cursor as an offset, also when the file has shrunk under it.
+std::int64_t CursorOffset(const RollFile& file) {
+  return std::clamp<std::int64_t>(file.RollFileCursor - std::int64_t{1}, 0, file.Channel.Length);
+}
+
+// Takes a gap out again. The end is only cut off when all behind the gap is in its place.
+std::string CloseGap(RollFile& file, std::int64_t offset, std::int64_t count) {
+  RollFileChannel& channel = file.Channel;
+  const std::int64_t tail = channel.Length - offset - count;
+  if (!MoveDown(channel.Descriptor, offset + count, tail, count)) return FileError(file, "change");
+  if (ftruncate(channel.Descriptor, channel.Length - count) != 0) return FileError(file, "change");
+  channel.Length -= static_cast<std::int32_t>(count);
+  return {};
+}
+
+std::string InsertSource(RollFile& file, Source& source, const std::string& path) {
+  if (source.Length == 0) return {};
+  if (source.Length > kRollFileMaximum) return TooLongText(file.RollFileName);
+  const std::int64_t offset = CursorOffset(file);
+  const auto count = static_cast<std::int32_t>(source.Length);
+  std::string error = InsertRollGap(file, count);
+  if (!error.empty()) return error;
+  error = PasteRolls(file, path, static_cast<std::int32_t>(offset + 1), count);
+  if (!error.empty()) {
+    CloseGap(file, offset, count);
+    return error;
+  }
+  SetCursor(file, offset + 1 + count);
+  return {};
+}
+
+// The selected rolls, block by block, through a function that turns them into the bytes of the copy.
+template <typename Convert>
+std::string CopyOut(RollFile& file, const std::string& path, bool durable, Convert convert) {
+  std::string error = Prepare(file);
+  if (!error.empty()) return error;
+  const RollSelection selection = SelectedRolls(file);
+  FileReplacement target;
+  target.Durable = durable;
+  error = BeginReplacement(target, path);
+  Block block;
+  std::int64_t offset = selection.First - 1;
+  for (std::int64_t left = selection.Count; error.empty() && left > 0;) {
+    const std::size_t size = BlockSize(left);
+    if (ReadAt(file.Channel.Descriptor, offset, block.data(), size) != static_cast<std::int64_t>(size))
+      return FileError(file, "read");
+    error = WriteReplacement(target, convert(block.data(), size));
+    offset += static_cast<std::int64_t>(size);
+    left -= static_cast<std::int64_t>(size);
+  }
+  return error.empty() ? CommitReplacement(target) : error;
+}
+
+std::string_view AsBytes(const unsigned char* bytes, std::size_t count) {
+  return {reinterpret_cast<const char*>(bytes), count};
+}
+
+std::string InFolder(const std::string& folder, const char* name) { return ResolvePath(name, folder); }
+
+// ---- Text --------------------------------------------------------------------------------------------
+
+enum class RollField { kText, kNumber, kDie1, kDie2, kTotal };
+
+struct FormatPiece {
+  RollField Field;
+  std::string Text;
+};
+
+constexpr struct {
+  std::string_view Token;
+  RollField Field;
+} kRollTokens[] = {{"roll#", RollField::kNumber},
+                   {"die1", RollField::kDie1},
+                   {"die2", RollField::kDie2},
+                   {"total", RollField::kTotal}};
+
+std::string LowerTrimmed(std::string_view format) {
+  while (!format.empty() && format.front() == ' ') format.remove_prefix(1);
+  while (!format.empty() && format.back() == ' ') format.remove_suffix(1);
+  std::string text(format);
+  for (char& c : text)
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  return text;
+}
+
+std::vector<FormatPiece> ParseFormat(std::string_view format) {
+  std::vector<FormatPiece> pieces;
+  const std::string text = LowerTrimmed(format);
+  for (std::size_t at = 0; at < text.size();) {
+    const auto token = std::find_if(std::begin(kRollTokens), std::end(kRollTokens), [&](const auto& t) {
+      return text.compare(at, t.Token.size(), t.Token) == 0;
+    });
+    if (token != std::end(kRollTokens)) {
+      pieces.push_back({token->Field, {}});
+      at += token->Token.size();
+      continue;
+    }
+    if (pieces.empty() || pieces.back().Field != RollField::kText) pieces.push_back({RollField::kText, {}});
+    pieces.back().Text += text[at++];
+  }
+  return pieces;
+}
+
+void AppendRollText(std::string& text, const std::vector<FormatPiece>& pieces, std::int64_t rollNumber,
+                    unsigned char roll) {
+  const auto digit = [&](int value) { text += std::to_string(value); };
+  for (const FormatPiece& piece : pieces) {
+    switch (piece.Field) {
+      case RollField::kText:
+        text += piece.Text;
+        break;
+      case RollField::kNumber:
+        text += FormatMoney(Currency::Dollars(rollNumber));
+        break;
+      case RollField::kDie1:
+        digit(RollByteDie1(roll));
+        break;
+      case RollField::kDie2:
+        digit(RollByteDie2(roll));
+        break;
+      case RollField::kTotal:
+        digit(RollByteDie1(roll) + RollByteDie2(roll));
+        break;
+    }
+  }
+}
+
+// Digits 1 to 6 are dice, two to a roll; anything else is skipped, and so is a last die without a second.
+std::string ConvertText(Source& text, const std::string& path, const std::string& workPath) {
+  FileReplacement work;
+  work.Durable = false;
+  std::string error = BeginReplacement(work, workPath);
+  Block block;
+  int die1 = 0;
+  for (std::int64_t offset = 0; error.empty();) {
+    const std::int64_t got = ReadAt(text.Descriptor, offset, block.data(), block.size());
+    if (got < 0) return FileErrorText("read", path, errno);
+    if (got == 0) break;
+    offset += got;
+    std::string rolls;
+    for (std::int64_t i = 0; i < got; ++i) {
+      const int face = block[static_cast<std::size_t>(i)] - '0';
+      if (face < 1 || face > 6) continue;
+      if (die1 != 0) rolls += static_cast<char>(RollByte(die1, face));
+      die1 = die1 == 0 ? face : 0;
+    }
+    error = WriteReplacement(work, rolls);
+  }
+  return error.empty() ? CommitReplacement(work) : error;
+}
+
+std::string FailRecording(RollFile& file, std::string error) {
+  file.RecorderState = kRecorderOff;
+  file.LastErrorText = std::move(error);
+  return file.LastErrorText;
+}
+
+// Whether a file can become the open one.
+std::string CheckBeforeOpening(const std::string& path, bool& exists) {
+  struct stat status {};
+  exists = stat(path.c_str(), &status) == 0;
+  if (!exists) return errno == ENOENT ? std::string() : FileErrorText("open", path, errno);
+  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  if (status.st_size > kRollFileMaximum) return TooLongText(path);
+  bool valid = false;
+  std::string error = CheckRollFile(path, valid);
+  if (error.empty() && !valid) return NotARollFileText(path);
+  return error;
+}
+
+}  // namespace
+
+// ---- The open file -----------------------------------------------------------------------------------
+
+RollFile::~RollFile() {
+  if (!CloseRollFile(*this).empty()) DiscardRollFile(*this);
+}
+
+std::string OpenRollFile(RollFile& file, const std::string& path) {
+  if (IsRollFileOpen(file) && !FlushRollFile(file)) return file.LastErrorText;
+  bool exists = false;
+  std::string error = CheckBeforeOpening(path, exists);
+  if (!error.empty()) return error;
+  bool readOnly = false;
+  int descriptor = open(path.c_str(), O_RDWR | O_CLOEXEC | (exists ? 0 : O_CREAT), 0666);
+  if (descriptor < 0 && exists && (errno == EACCES || errno == EROFS || errno == EPERM)) {
+    readOnly = true;
+    descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+  }
+  struct stat status {};
+  if (descriptor < 0 || fstat(descriptor, &status) != 0) {
+    error = FileErrorText("open", path, errno);
+    if (descriptor >= 0) close(descriptor);
+    return error;
+  }
+  error = IsRollFileOpen(file) ? CloseRollFile(file) : std::string();
+  if (!error.empty()) {
+    close(descriptor);
+    if (!exists) unlink(path.c_str());
+    return error;
+  }
+  file.RollFileName = path;
+  file.Channel.Descriptor = descriptor;
+  file.Channel.ReadOnly = readOnly;
+  file.Channel.Length = static_cast<std::int32_t>(status.st_size);
+  SetCursor(file, 1);
+  return {};
+}
+
+std::string CloseRollFile(RollFile& file) {
+  if (IsRollFileOpen(file) && !FlushRollFile(file)) return file.LastErrorText;
+  if (IsRollFileOpen(file) && !file.Channel.ReadOnly && fsync(file.Channel.Descriptor) != 0 &&
+      errno != EINVAL)
+    return FileError(file, "write");
+  DiscardRollFile(file);
+  return {};
+}
+
+void DiscardRollFile(RollFile& file) {
+  RollFileChannel& channel = file.Channel;
+  if (channel.Descriptor >= 0) close(channel.Descriptor);
+  channel.Descriptor = -1;
+  channel.ReadOnly = channel.Pending = false;
+  channel.Length = channel.WindowStart = channel.WindowUsed = 0;
+  file.RollFileName.clear();
+  file.RecorderState = kRecorderOff;
+  SetCursor(file, 1);
+}
+
+std::string CheckRollFile(const std::string& path, bool& valid) {
+  valid = false;
+  Source source;
+  std::string error = OpenSource(source, path);
+  if (!error.empty()) return error;
+  Block block;
+  for (std::int64_t offset = 0;;) {
+    const std::int64_t got = ReadAt(source.Descriptor, offset, block.data(), block.size());
+    if (got < 0) return FileErrorText("read", path, errno);
+    if (got == 0) break;
+    offset += got;
+    unsigned lowBits = 0;
+    for (std::int64_t i = 0; i < got; ++i) lowBits |= block[static_cast<std::size_t>(i)];
+    if ((lowBits & 3u) != 0) return {};
+  }
+  valid = true;
+  return {};
+}
+
+bool FlushRollFile(RollFile& file) {
+  RollFileChannel& channel = file.Channel;
+  if (channel.Descriptor < 0) return true;
+  struct stat status {};
+  if (fstat(channel.Descriptor, &status) != 0) {
+    file.LastErrorText = FileError(file, "read");
+    return false;
+  }
+  if (!channel.Pending || channel.WindowUsed == 0) {
+    channel.Pending = false;
+    channel.WindowUsed = 0;
+    channel.Length = static_cast<std::int32_t>(std::min<std::int64_t>(status.st_size, kRollFileMaximum));
+    return true;
+  }
+  // Rolls behind the end of a file that somebody shortened would stand behind a hole of no rolls.
+  if (status.st_size < channel.WindowStart) {
+    file.LastErrorText = "Unable to write " + file.RollFileName + ": another program has shortened it.";
+    return false;
+  }
+  const auto count = static_cast<std::size_t>(channel.WindowUsed);
+  const std::size_t written = WriteAt(channel.Descriptor, channel.WindowStart, channel.Window.data(), count);
+  if (written < count) {
+    file.LastErrorText = FileError(file, "write");
+    std::memmove(channel.Window.data(), channel.Window.data() + written, count - written);
+    channel.WindowStart += static_cast<std::int32_t>(written);
+    channel.WindowUsed -= static_cast<std::int32_t>(written);
+    return false;
+  }
+  const std::int64_t end = std::max<std::int64_t>(status.st_size, channel.WindowStart + channel.WindowUsed);
+  channel.Length = static_cast<std::int32_t>(std::min<std::int64_t>(end, kRollFileMaximum));
+  channel.Pending = false;
+  channel.WindowUsed = 0;
+  return true;
+}
+
+// ---- The recorder ------------------------------------------------------------------------------------
+
+std::string SetRecorderState(RollFile& file, int state) {
+  if (state != kRecorderOff && !IsRollFileOpen(file)) return kNoRollFileOpen;
+  std::string error = state == kRecorderRecord ? PrepareToWrite(file) : std::string();
+  if (error.empty() && IsRollFileOpen(file)) error = Prepare(file);
+  if (error.empty()) file.RecorderState = state;
+  return error;
+}
+
+std::string RewindForPlayback(RollFile& file) {
+  std::string error = SetRecorderState(file, kRecorderPlayback);
+  if (error.empty()) SetCursor(file, 1);
+  return error;
+}
+
+void SetRollFileCursor(RollFile& file, std::int64_t position) {
+  SetCursor(file, std::clamp<std::int64_t>(position, 1, file.Channel.Length + std::int64_t{1}));
+}
+
+PlayResult PlayRollFromFile(RollFile& file, int& die1, int& die2) {
+  RollFileChannel& channel = file.Channel;
+  const auto fail = [&](std::string error) {
+    FailRecording(file, std::move(error));
+    return PlayResult::kError;
+  };
+  std::string error = Prepare(file);
+  if (!error.empty()) return fail(error);
+  const std::int64_t offset = file.RollFileCursor - std::int64_t{1};
+  const std::int64_t got =
+      offset < 0 ? 0 : ReadAt(channel.Descriptor, offset, channel.Window.data(), kRollWindowBytes);
+  if (got < 0) return fail(FileError(file, "read"));
+  channel.WindowStart = static_cast<std::int32_t>(offset);
+  channel.WindowUsed = static_cast<std::int32_t>(got);
+  if (got == 0) return PlayResult::kEndOfFile;
+  if (!CheckRollValue(channel.Window[0])) {
+    file.RecorderState = kRecorderOff;
+    return PlayResult::kOutOfLimits;
+  }
+  return PlayRoll(file, die1, die2);
+}
+
+bool RecordRollToFile(RollFile& file, int die1, int die2) {
+  RollFileChannel& channel = file.Channel;
+  std::string error = PrepareToWrite(file);
+  const std::int64_t offset = file.RollFileCursor - std::int64_t{1};
+  if (error.empty() && offset > kRollFileMaximum - static_cast<std::int64_t>(kRollWindowBytes))
+    error = TooLongText(file.RollFileName);
+  if (error.empty() && (offset < 0 || offset > channel.Length))
+    error = "Unable to write " + file.RollFileName + ": the next roll is behind the end of the file.";
+  if (!error.empty()) {
+    FailRecording(file, std::move(error));
+    return false;
+  }
+  channel.Pending = true;
+  channel.WindowStart = static_cast<std::int32_t>(offset);
+  channel.WindowUsed = 0;
+  return RecordRoll(file, die1, die2);
+}
+
+// ---- Editing -----------------------------------------------------------------------------------------
+
+RollSelection SelectedRolls(const RollFile& file) {
+  const std::int32_t first = std::max(1, std::min(file.RollFileCursor, file.RollFileSelectEnd));
+  const std::int32_t last =
+      std::min(std::max(file.RollFileCursor, file.RollFileSelectEnd), file.Channel.Length);
+  return {first, std::max(0, last - first + 1)};
+}
+
+void SelectAllRolls(RollFile& file) {
+  file.RollFileCursor = 1;
+  file.RollFileSelectEnd = std::max(1, file.Channel.Length);
+}
+
+std::string ReadRolls(RollFile& file, std::int32_t first, std::int32_t count,
+                      std::vector<unsigned char>& rolls) {
+  std::string error = Prepare(file);
+  if (!error.empty()) return error;
+  first = std::max(first, 1);
+  const std::int64_t behind = file.Channel.Length - (first - std::int64_t{1});
+  std::vector<unsigned char> bytes(
+      static_cast<std::size_t>(std::clamp<std::int64_t>(count, 0, std::max<std::int64_t>(behind, 0))));
+  const std::int64_t got = ReadAt(file.Channel.Descriptor, first - 1, bytes.data(), bytes.size());
+  if (got < 0) return FileError(file, "read");
+  bytes.resize(static_cast<std::size_t>(got));
+  rolls = std::move(bytes);
+  return {};
+}
+
+std::string EnterRoll(RollFile& file, int die1, int die2) {
+  std::string error = PrepareToWrite(file);
+  if (!error.empty()) return error;
+  const std::int64_t offset = CursorOffset(file);
+  if (offset >= kRollFileMaximum) return TooLongText(file.RollFileName);
+  const bool insert = file.RollFileInsertMode && offset < file.Channel.Length;
+  if (insert) error = InsertRollGap(file, 1);
+  if (!error.empty()) return error;
+  const unsigned char roll = RollByte(die1, die2);
+  if (WriteAt(file.Channel.Descriptor, offset, &roll, 1) != 1) {
+    error = FileError(file, "write");
+    if (insert) CloseGap(file, offset, 1);
+    return error;
+  }
+  file.Channel.Length = std::max(file.Channel.Length, static_cast<std::int32_t>(offset + 1));
+  SetCursor(file, offset + 2);
+  return {};
+}
+
+std::string EnterRandomRoll(RollFile& file, Generators& generators, std::uint32_t tick) {
+  RandomizeRnd(generators, tick);
+  Rnd(generators);
+  const int die1 = RndPick(generators, 6);
+  const int die2 = RndPick(generators, 6);
+  return EnterRoll(file, die1, die2);
+}
+
+std::string InsertRollGap(RollFile& file, std::int32_t count) {
+  std::string error = PrepareToWrite(file);
+  if (!error.empty() || count <= 0) return error;
+  RollFileChannel& channel = file.Channel;
+  if (count > kRollFileMaximum - channel.Length) return TooLongText(file.RollFileName);
+  const std::int64_t offset = CursorOffset(file);
+  if (!Extend(channel.Descriptor, channel.Length, count)) return FileError(file, "write");
+  if (!MoveUp(channel.Descriptor, offset, channel.Length - offset, count)) return FileError(file, "change");
+  channel.Length += count;
+  return {};
+}
+
+std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32_t position,
+                       std::int32_t count) {
+  std::string error = PrepareToWrite(file);
+  Source source;
+  if (error.empty()) error = OpenSource(source, sourcePath);
+  if (!error.empty()) return error;
+  RollFileChannel& channel = file.Channel;
+  const std::int64_t offset = position - std::int64_t{1};
+  const std::int64_t end = offset + count;
+  if (offset < 0 || offset > channel.Length || count < 0 || end > kRollFileMaximum || count > source.Length)
+    return "Unable to paste " + std::to_string(count) + " rolls from " + sourcePath + " at roll " +
+           std::to_string(position) + " of " + file.RollFileName + ".";
+  if (end > channel.Length && !Extend(channel.Descriptor, channel.Length, end - channel.Length))
+    return FileError(file, "write");
+  channel.Length = std::max(channel.Length, static_cast<std::int32_t>(end));
+  Block block;
+  for (std::int64_t done = 0; done < count;) {
+    const std::size_t size = BlockSize(count - done);
+    const std::int64_t got = ReadAt(source.Descriptor, done, block.data(), size);
+    if (got >= 0 && static_cast<std::size_t>(got) < size) errno = EIO;
+    if (got != static_cast<std::int64_t>(size)) return FileErrorText("read", sourcePath, errno);
+    if (WriteAt(channel.Descriptor, offset + done, block.data(), size) != size)
+      return FileError(file, "write");
+    done += static_cast<std::int64_t>(size);
+  }
+  return {};
+}
+
+std::string DeleteRolls(RollFile& file) {
+  std::string error = PrepareToWrite(file);
+  if (!error.empty()) return error;
+  const RollSelection selection = SelectedRolls(file);
+  if (selection.Count > 0) error = CloseGap(file, selection.First - 1, selection.Count);
+  if (error.empty()) SetCursor(file, selection.First);
+  return error;
+}
+
+std::string CopyRolls(RollFile& file, const std::string& workFolder) {
+  return CopyOut(file, InFolder(workFolder, kRollCopyFile), false, AsBytes);
+}
+
+std::string CutRolls(RollFile& file, const std::string& workFolder) {
+  std::string error = PrepareToWrite(file);
+  if (error.empty()) error = CopyRolls(file, workFolder);
+  return error.empty() ? DeleteRolls(file) : error;
+}
+
+std::string PasteCopiedRolls(RollFile& file, const std::string& workFolder) {
+  std::string error = PrepareToWrite(file);
+  const std::string path = InFolder(workFolder, kRollCopyFile);
+  Source source;
+  if (error.empty()) error = OpenSource(source, path);
+  return error.empty() ? InsertSource(file, source, path) : error;
+}
+
+std::string PasteFromRollFile(RollFile& file, const std::string& path) {
+  std::string error = PrepareToWrite(file);
+  if (!error.empty()) return error;
+  if (IsOpenFile(file, path)) return CopyToOpenFileText("Paste From Dice Roll File");
+  bool valid = false;
+  error = CheckRollFile(path, valid);
+  if (error.empty() && !valid) return NotARollFileText(path);
+  Source source;
+  if (error.empty()) error = OpenSource(source, path);
+  return error.empty() ? InsertSource(file, source, path) : error;
+}
+
+std::string PasteFromTextFile(RollFile& file, const std::string& path, const std::string& workFolder) {
+  std::string error = PrepareToWrite(file);
+  Source text;
+  if (error.empty()) error = OpenSource(text, path);
+  if (!error.empty()) return error;
+  const std::string workPath = InFolder(workFolder, kRollConvertFile);
+  error = ConvertText(text, path, workPath);
+  Source rolls;
+  if (error.empty()) error = OpenSource(rolls, workPath);
+  if (error.empty()) error = InsertSource(file, rolls, workPath);
+  unlink(workPath.c_str());
+  return error;
+}
+
+// ---- Copying out -------------------------------------------------------------------------------------
+
+std::string CopyRollsToRollFile(RollFile& file, const std::string& path, std::string_view command) {
+  if (IsOpenFile(file, path)) return CopyToOpenFileText(command);
+  return CopyOut(file, path, true, AsBytes);
+}
+
+bool IsRollFormatUsable(std::string_view format) {
+  const auto pieces = ParseFormat(format);
+  return std::any_of(pieces.begin(), pieces.end(), [](const FormatPiece& piece) {
+    return piece.Field != RollField::kText && piece.Field != RollField::kNumber;
+  });
+}
+
+bool IsRenumberQuestion(const RollFile& file) {
+  const auto pieces = ParseFormat(file.RollFileOutputFormat);
+  return SelectedRolls(file).First != 1 &&
+         std::any_of(pieces.begin(), pieces.end(),
+                     [](const FormatPiece& piece) { return piece.Field == RollField::kNumber; });
+}
+
+std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned char roll) {
+  std::string text;
+  AppendRollText(text, ParseFormat(format), rollNumber, roll);
+  return text;
+}
+
+std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber) {
+  if (IsOpenFile(file, path)) return CopyToOpenFileText(kCopyToTextTitle);
+  if (!IsRollFormatUsable(file.RollFileOutputFormat)) return kNoDiceInFormatText;
+  const auto pieces = ParseFormat(file.RollFileOutputFormat);
+  std::int64_t number = renumber ? 1 : SelectedRolls(file).First;
+  std::string text;
+  return CopyOut(file, path, true, [&](const unsigned char* rolls, std::size_t count) -> std::string_view {
+    text.clear();
+    for (std::size_t i = 0; i < count; ++i) {
+      AppendRollText(text, pieces, number++, rolls[i]);
+      text += '\n';
+    }
+    return text;
+  });
+}
+
+// ---- Texts -------------------------------------------------------------------------------------------
+
+std::string NotARollFileText(const std::string& path) {
+  return path +
+         "\r\ris either from an earlier version, has been corrupted, or is not a true Tessaryn dice roll "
+         "file.";
+}
+
+std::string RewindQuestion(const RollFile& file) {
+  const char* stopped = file.RecorderState == kRecorderRecord ? "Recording stopped." : "Playback stopped.";
+  return std::string(stopped) + "\rRewind for playback?";
+}
+
+std::string PlaybackLogLine(const RollFile& file) {
+  return "    Dice roll file playback activated (" + file.RollFileName + ")";
+}
+
+std::string CopyToOpenFileText(std::string_view command) {
+  return "Can't use the \"" + std::string(command) +
+         "\" command to copy rolls to a file that's open and in use.\r\rPlease select another file name or "
+         "use "
+         "the \"Copy\" and \"Paste\" commands to modify the open file.";
+}
+
+}  // namespace tessaryn
