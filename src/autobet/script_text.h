@@ -1,0 +1,22 @@
+// Small text helpers of the script compiler: case, blanks, and numbers as a script writes them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessaryn {
+
+// ASCII letters alone change; the bytes of other alphabets stay.
+char Lowered(char c);
+std::string Lowered(std::string_view text);
+// Blanks and control characters are what separates words, at the ends as well as within.
+bool IsBlank(char c);
+std::string_view Trimmed(std::string_view text);
+
+// A number as scripts write it: digits with an optional point, an optional "-" in front and an optional
+// exponent behind ("1e6"). False, with value unchanged, for anything else and for what a double can't hold.
+bool ParseScriptNumber(std::string_view text, double& value);
+// The general numeric form: the fewest digits that give the number back, never with an exponent.
+std::string GeneralNumber(double value);
+
+}  // namespace tessaryn
