@@ -1,1 +1,34 @@
-int main() { return 0; }
+#include <cstdio>
+#include <string>
+
+#include "cli/cli_host.h"
+#include "cli/commands.h"
+
+namespace tessaryn::cli {
+
+int Fail(const std::string& what) {
+  std::fprintf(stderr, "tessaryn-cli: %s\n", what.c_str());
+  return kBad;
+}
+
+}  // namespace tessaryn::cli
+
+int main(int argc, char** argv) {
+  using namespace tessaryn::cli;
+  CLI::App program{"Tessaryn: a casino dice table for players, and for people who test betting systems."};
+  program.name("tessaryn-cli");
+  program.require_subcommand(1);
+  program.footer("Every command has --help with an example.");
+  int exitCode = kDone;
+  AddRunCommand(program, exitCode);
+  AddPlayCommand(program, exitCode);
+  AddDiceCommand(program, exitCode);
+  WatchInterrupts();
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    const int shown = program.exit(error);
+    return shown == 0 ? kDone : kUsage;
+  }
+  return exitCode;
+}

@@ -9,6 +9,8 @@
 namespace tessaryn {
 namespace {
 
+__extension__ typedef __int128 Wide;  // products of two amounts
+
 Currency WholeUnits(const Game& game, Currency amount) {
   const Currency whole = RoundDownToUnit(amount, game.settings.Unit());
   if (whole.IsError() || whole > kBankrollLimit) return RoundDownToUnit(kBankrollLimit, game.settings.Unit());
@@ -95,9 +97,9 @@ Currency MinorPush(const OddsCase& odds, Currency unit) {
 // The smallest amount from base upwards, in steps of a dollar, that pays a whole number of the check. Gives
 // up at stop.
 Currency PaysWholeChecks(const OddsCase& odds, Currency check, Currency stop) {
-  const __extension__ __int128 divisor = static_cast<__extension__ __int128>(odds.payPer.raw) * check.raw;
+  const Wide divisor = static_cast<Wide>(odds.payPer.raw) * check.raw;
   for (Currency amount = odds.base; amount < stop; amount += Currency::Dollars(1))
-    if (static_cast<__extension__ __int128>(amount.raw) * odds.payTo.raw % divisor == 0) return amount;
+    if (static_cast<Wide>(amount.raw) * odds.payTo.raw % divisor == 0) return amount;
   return odds.base;
 }
 

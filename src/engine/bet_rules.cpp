@@ -400,7 +400,7 @@ Currency PlaceBet(Game& game, int seat, int bet, Currency request) {
   const Currency change = ChangeBet(game, seat, bet, request);
   if (!game.table.TurboRollActive && change != kZero) {
     if (!game.table.MovingComeBet) game.host->PlaySound(game, Sound::kCheck);
-    game.host->Changed(game, Change::kBets);
+    game.host->Changed(game, Change::kLayout);
   }
   BringOddsIntoLine(game, seat, bet);
   game.table.BetChange = change;
@@ -465,19 +465,19 @@ bool CallBet(Game& game, int seat, int bet, bool on) {
     return false;
   }
   Call(game, seat, bet, on);
-  game.host->Changed(game, Change::kBets);
+  game.host->Changed(game, Change::kLayout);
   RequireConsistency(game);
   return true;
 }
 
 void CallAllBets(Game& game, int seat, bool on) {
   (game.table.SeatBets[seat] & CallableBets()).ForEach([&](int bet) { Call(game, seat, bet, on); });
-  game.host->Changed(game, Change::kBets);
+  game.host->Changed(game, Change::kLayout);
 }
 
 void RemoveCall(Game& game, int seat, int bet) {
   ResetBetWorking(game, seat, bet);
-  game.host->Changed(game, Change::kBets);
+  game.host->Changed(game, Change::kLayout);
 }
 
 bool BuyPlaceBet(Game& game, int seat, int bet) {
@@ -513,7 +513,7 @@ void TakeDownBets(Game& game, int seat, const BetSet& bets) {
       held = kZero;
     }
   });
-  game.host->Changed(game, Change::kBets);
+  game.host->Changed(game, Change::kLayout);
 }
 
 void RecomputeVig(Game& game) {

@@ -71,7 +71,7 @@ struct SettleQuestion {
 enum class Sound { kDice, kCheck, kWin, kLose, kComeOut, kPoint, kPass, kMiss, kBarredMiss, kSevenOut };
 
 // What changed, so that a screen can redraw it.
-enum class Change { kBets, kDice, kPoint, kPlayers, kShooter, kStatistics, kRun, kSettings, kEverything };
+enum class Change { kLayout, kDice, kPoint, kPlayers, kShooter, kStatistics, kRun, kSettings, kEverything };
 
 struct Host {
   virtual ~Host() = default;

@@ -132,7 +132,7 @@ std::string NameProblem(const Game& game, const std::string& name, int ownSeat) 
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
       return "A player's name can't be all numeric because it can't be used in auto-betting.";
-    case ScriptNameProblem::kReserved:
+    case ScriptNameProblem::kReservedWord:
       return name +
              " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a "
              "player's name.";

@@ -269,7 +269,9 @@ void WalkSteps(Game& game, const SettleSteps& steps, const RollFacts& roll) {
   }
 }
 
-void SettleAll(Game& game, int code, int bet) { PassOver(game, {static_cast<std::uint8_t>(bet), static_cast<std::int8_t>(code)}); }
+void SettleAll(Game& game, int code, int bet) {
+  PassOver(game, {static_cast<std::uint8_t>(bet), static_cast<std::int8_t>(code)});
+}
 
 void MoveAll(Game& game, int fromBet, int toBet) {
   for (unsigned seats = game.table.SeatsUp[fromBet]; seats != 0; seats &= seats - 1)
@@ -278,17 +280,16 @@ void MoveAll(Game& game, int fromBet, int toBet) {
 
 constexpr BetSet kMarkBets = BetRange(kAllSmall, kSevenPoint7);
 
-// 84 to 87 on a seven; 88 and 89 when the roll after the point, or a come-out, leaves them undecided.
-void LoseMarkBets(Game& game, const RollFacts& roll) {
+// A seven takes 84 to 87.
+void LoseMarkBets(Game& game) {
   TableState& table = game.table;
-  const bool seven = table.RollTotal == 7;
-  if (seven) {
-    table.NumberMarks = 0;
-    if (table.AnyBets.Meets(kMarkBets))
-      for (int bet = kAllSmall; bet <= kFourRolls; ++bet) SettleAll(game, kFlatLoses, bet);
-  }
+  if (table.RollTotal != 7) return;
+  table.NumberMarks = 0;
+  if (!table.AnyBets.Meets(kMarkBets)) return;
+  for (int bet = kAllSmall; bet <= kFourRolls; ++bet) SettleAll(game, kFlatLoses, bet);
 }
 
+// 88 and 89 when the roll after the point, or a come-out, leaves them undecided.
 void LosePointBets(Game& game, const RollFacts& roll) {
   TableState& table = game.table;
   if (!table.AnyBets.Meets(kMarkBets)) return;
@@ -354,7 +355,7 @@ void SettleLosers(Game& game, const RollFacts& roll, bool pointMade) {
   const TableState& table = game.table;
   if (pointMade) WalkSteps(game, kPointMadeLosers, roll);
   WalkSteps(game, kLosersByTotal[table.RollTotal], roll);
-  if (game.settings.SmallTallEnabled) LoseMarkBets(game, roll);
+  if (game.settings.SmallTallEnabled) LoseMarkBets(game);
   WalkSteps(game, kOneRollSteps[table.RollTotal], roll);
   WalkSteps(game, kHopLosers[PairIndex(table.Die1, table.Die2)], roll);
   if (game.settings.SmallTallEnabled) LosePointBets(game, roll);

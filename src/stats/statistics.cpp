@@ -76,7 +76,7 @@ void MoveBetsToLastHand(Statistics& stats, int seat) {
 template <typename T, std::size_t kCount>
 void MoveSlot(T (&table)[kCount], int seat, int fromScope, int toScope) {
   std::memcpy(&table[Slot(toScope, seat)], &table[Slot(fromScope, seat)], sizeof(T));
-  std::memset(&table[Slot(fromScope, seat)], 0, sizeof(T));
+  std::memset(static_cast<void*>(&table[Slot(fromScope, seat)]), 0, sizeof(T));
 }
 
 // Calls visit(table) for every table of the store that is kept by slot, the bets and bankrolls apart.
@@ -105,7 +105,7 @@ void ForEachBankrollTable(Statistics& stats, Visit&& visit) {
 template <typename T, std::size_t kCount>
 void ZeroSlot(T (&table)[kCount], int slot) {
   static_assert(kCount == kSlots);
-  std::memset(&table[slot], 0, sizeof(T));
+  std::memset(static_cast<void*>(&table[slot]), 0, sizeof(T));
 }
 
 void ZeroScope(Statistics& stats, int scope, bool bankrolls) {

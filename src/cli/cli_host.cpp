@@ -1,0 +1,154 @@
+#include "cli/cli_host.h"
+
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <thread>
+
+#include "dice/auto_roll.h"
+
+namespace tessaryn::cli {
+
+namespace fs = std::filesystem;
+
+std::atomic<bool> interrupted{false};
+
+void WatchInterrupts() {
+  std::signal(SIGINT, [](int) { interrupted = true; });
+}
+
+void SafeAnswer(MessageBox& box) {
+  if ((box.MsgFlags & kMsgNo) != 0)
+    box.MsgResult = kResultNo;
+  else if ((box.MsgFlags & kMsgCancel) != 0)
+    box.MsgResult = kResultCancel;
+  else
+    box.MsgResult = kResultOk;
+}
+
+void CliHost::ShowMessage(Game&, MessageBox& box) { SafeAnswer(box); }
+
+bool CliHost::Yield(Game& game) {
+  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) {
+    StopRun(game, "");
+    return false;
+  }
+  // The clock is looked at now and then only: a roll costs less than asking for the time.
+  if ((++yields_ & 0x3fff) != 0 && game.table.TurboRollActive) return false;
+  if (interrupted.load(std::memory_order_relaxed)) {
+    game.autobet.ScriptRunning = false;
+    StopRun(game, "Stopped by Ctrl-C.");
+    return true;
+  }
+  if (progress && game.table.TurboRollActive) progress(game);
+  return false;
+}
+
+void CliHost::Wait(Game& game) {
+  std::this_thread::sleep_for(std::chrono::milliseconds(5));
+  if (interrupted) StopRun(game, "Stopped by Ctrl-C.");
+}
+
+std::uint32_t CliHost::TickMilliseconds() {
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
+}
+
+namespace {
+
+std::tm LocalTime() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+  localtime_r(&now, &local);
+  return local;
+}
+
+std::string TimeAs(const char* format) {
+  const std::tm local = LocalTime();
+  char text[64];
+  const std::size_t length = std::strftime(text, sizeof text, format, &local);
+  return std::string(text, length);
+}
+
+}  // namespace
+
+std::string CliHost::DateText() { return TimeAs("%Y-%m-%d"); }
+std::string CliHost::TimeText() { return TimeAs("%H:%M:%S"); }
+
+double CliHost::SecondsSinceMidnight() {
+  const std::tm local = LocalTime();
+  return local.tm_hour * 3600.0 + local.tm_min * 60.0 + local.tm_sec;
+}
+
+double CliHost::DateTimeNumber() {
+  std::tm local = LocalTime();
+  const double secondsOfDay = SecondsSinceMidnight();
+  local.tm_hour = 12;
+  local.tm_min = local.tm_sec = 0;
+  const std::time_t noon = timegm(&local);
+  constexpr double kDaysTo1970 = 25569;
+  return kDaysTo1970 + static_cast<double>(noon / 86400) + secondsOfDay / 86400.0;
+}
+
+bool QueuedAnswers::Answer(MessageBox& box) {
+  if (answers_.empty()) return false;
+  const std::string answer = answers_.front();
+  answers_.pop_front();
+  if (answer == "yes") {
+    box.MsgResult = kResultYes;
+  } else if (answer == "no") {
+    box.MsgResult = kResultNo;
+  } else if (answer == "ok") {
+    box.MsgResult = kResultOk;
+  } else if (answer == "cancel") {
+    box.MsgResult = kResultCancel;
+  } else {
+    box.MsgResult = kResultOk;
+    box.MsgEntry = answer;
+    TryParseMoney(answer, box.MsgValue1);
+    if ((box.MsgFlags & kMsgTwoInputs) == kMsgTwoInputs && !answers_.empty() &&
+        TryParseMoney(answers_.front(), box.MsgValue2))
+      answers_.pop_front();
+  }
+  return true;
+}
+
+int QueuedAnswers::TakeChoice() {
+  if (answers_.empty() || answers_.front().size() != 1) return 0;
+  const char digit = answers_.front()[0];
+  if (digit < '1' || digit > '7') return 0;
+  answers_.pop_front();
+  return digit - '0';
+}
+
+std::string ApplicationFolder() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? "./" : program.parent_path().string() + "/";
+}
+
+std::string DefaultDataFolder() {
+  const std::string application = ApplicationFolder();
+  if (access(application.c_str(), W_OK) == 0) return application;
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data != 0)
+    return std::string(data) + "/tessaryn/";
+  const char* home = std::getenv("HOME");
+  return std::string(home == nullptr ? "." : home) + "/.local/share/tessaryn/";
+}
+
+bool PrepareDataFolder(std::string& folder, std::string& error) {
+  if (folder.empty()) folder = DefaultDataFolder();
+  if (folder.back() != '/') folder += '/';
+  std::error_code fault;
+  fs::create_directories(folder, fault);
+  if (!fs::is_directory(folder)) {
+    error = "data folder " + folder + ": " + (fault ? fault.message() : "is no folder");
+    return false;
+  }
+  return true;
+}
+
+}  // namespace tessaryn::cli

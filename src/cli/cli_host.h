@@ -1,0 +1,64 @@
+// What the command-line programs do for the table: clocks, questions and answers, the end of a run.
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <string>
+
+#include "engine/game.h"
+
+namespace tessaryn::cli {
+
+// Set by Ctrl-C; every yield looks at it.
+extern std::atomic<bool> interrupted;
+void WatchInterrupts();
+
+// The clocks, and a run of so many rolls. Questions get their safe answer: No, else Cancel, else OK.
+class CliHost : public Host {
+ public:
+  // The run stops once this many rolls of the session are made; 0 never.
+  std::int64_t rollTarget = 0;
+  // Called every few milliseconds of a run.
+  std::function<void(Game&)> progress;
+
+  void ShowMessage(Game& game, MessageBox& box) override;
+  bool Yield(Game& game) override;
+  void Wait(Game& game) override;
+  std::uint32_t TickMilliseconds() override;
+  std::string DateText() override;
+  std::string TimeText() override;
+  double SecondsSinceMidnight() override;
+  double DateTimeNumber() override;
+
+ private:
+  std::uint32_t yields_ = 0;
+};
+
+// Answers that a user gave in advance, for boxes as they come.
+class QueuedAnswers {
+ public:
+  void Add(const std::string& answer) { answers_.push_back(answer); }
+  bool Empty() const { return answers_.empty(); }
+  std::size_t Size() const { return answers_.size(); }
+  // Fills the box from the next answer that fits it; false when there is none.
+  bool Answer(MessageBox& box);
+  // A whole number 1 to 7 as the next answer; 0 without one.
+  int TakeChoice();
+
+ private:
+  std::deque<std::string> answers_;
+};
+
+// The answer that keeps things as they are.
+void SafeAnswer(MessageBox& box);
+
+// The folder that holds this program, and the folder that everything is written to when none is named.
+std::string ApplicationFolder();
+std::string DefaultDataFolder();
+// Makes the folder if need be. False with the reason when it can't be used.
+bool PrepareDataFolder(std::string& folder, std::string& error);
+
+}  // namespace tessaryn::cli

@@ -1,0 +1,20 @@
+// The subcommands. Each adds itself to the program's options; what it does runs when it was chosen and
+// leaves the exit code.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace tessaryn::cli {
+
+inline constexpr int kDone = 0;
+inline constexpr int kBad = 1;       // what was asked about is bad
+inline constexpr int kUsage = 2;
+
+void AddRunCommand(CLI::App& program, int& exitCode);
+void AddPlayCommand(CLI::App& program, int& exitCode);
+void AddDiceCommand(CLI::App& program, int& exitCode);
+
+// An error on standard error: "tessaryn-cli: ...". Returns kBad.
+int Fail(const std::string& what);
+
+}  // namespace tessaryn::cli

@@ -1,0 +1,4 @@
+#include "cli/commands.h"
+namespace tessaryn::cli {
+void AddPlayCommand(CLI::App&, int&) {}
+}

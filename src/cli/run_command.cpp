@@ -1,0 +1,122 @@
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+
+#include "cli/cli_host.h"
+#include "cli/commands.h"
+#include "cli/table_json.h"
+#include "cli/table_setup.h"
+#include "dice/auto_roll.h"
+
+namespace tessaryn::cli {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+struct RunOptions {
+  TableOptions table;
+  std::int64_t rolls = 1'000'000;
+  bool json = false;
+};
+
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+// A bar on a terminal, redrawn ten times a second.
+class ProgressBar {
+ public:
+  explicit ProgressBar(std::int64_t target) : target_(target), shown_(isatty(STDERR_FILENO) != 0) {}
+  ~ProgressBar() {
+    if (drawn_) std::fprintf(stderr, "\r\033[K");
+  }
+  void Update(std::int64_t rolls) {
+    if (!shown_ || SecondsSince(last_) < 0.1) return;
+    last_ = Clock::now();
+    drawn_ = true;
+    const double part = target_ > 0 ? static_cast<double>(rolls) / static_cast<double>(target_) : 0;
+    constexpr int kWidth = 40;
+    const int filled = static_cast<int>(std::lround(part * kWidth));
+    std::string bar(static_cast<std::size_t>(filled), '#');
+    bar.resize(kWidth, '.');
+    std::fprintf(stderr, "\r[%s] %3.0f%%  %s rolls", bar.c_str(), part * 100,
+                 FormatMoney(Currency::Dollars(rolls)).c_str());
+  }
+
+ private:
+  std::int64_t target_;
+  bool shown_;
+  bool drawn_ = false;
+  Clock::time_point last_ = Clock::now();
+};
+
+void PrintReport(const Game& game, const Json& run) {
+  const auto whole = [](const Json& number) { return FormatMoney(Currency::Dollars(number.get<std::int64_t>())); };
+  std::printf("%s rolls in %.2f seconds (%s rolls a second)\n", whole(run["rolls"]).c_str(),
+              run["seconds"].get<double>(),
+              FormatMoney(Currency::FromDouble(std::floor(run["rollsPerSecond"].get<double>()))).c_str());
+  if (const std::string reason = run["stopReason"]; !reason.empty()) std::printf("%s\n", reason.c_str());
+  const Json& table = run["table"];
+  std::printf("Hands %s, come-out rolls %s, passes %s, misses %s\n", whole(table["hands"]).c_str(),
+              whole(table["comeoutRolls"]).c_str(), whole(table["passes"]).c_str(),
+              whole(table["misses"]).c_str());
+  std::printf("\n%8s %14s %9s\n", "total", "rolls", "percent");
+  for (const auto& [total, count] : table["totals"].items())
+    std::printf("%8s %14s %8.3f%%\n", total.c_str(), whole(count).c_str(),
+                run["rolls"].get<double>() > 0 ? 100.0 * count.get<double>() / run["rolls"].get<double>() : 0.0);
+  if (run["seats"].empty()) return;
+  std::printf("\n%-16s %14s %14s %14s %16s %9s\n", "player", "start", "bankroll", "on table", "wagered", "result");
+  for (const Json& seat : run["seats"]) {
+    const double wagered = seat["wagered"].get<double>();
+    const double net = seat["won"].get<double>() - seat["lost"].get<double>();
+    const auto money = [&seat](const char* name) { return FormatMoney(Currency::FromDouble(seat[name].get<double>())); };
+    std::printf("%-16s %14s %14s %14s %16s %8.3f%%\n", seat["name"].get<std::string>().c_str(),
+                money("bankrollStart").c_str(), money("bankroll").c_str(), money("onTable").c_str(),
+                money("wagered").c_str(), wagered > 0 ? 100 * net / wagered : 0.0);
+  }
+  (void)game;
+}
+
+int Run(const RunOptions& options) {
+  CliHost host;
+  const std::unique_ptr<Game> game = SetUpTable(host, options.table);
+  if (!game) return kBad;
+  RunFigures figures;
+  for (int seat = 1; seat <= kSeats; ++seat) figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
+  host.rollTarget = options.rolls;
+  const auto start = Clock::now();
+  {
+    ProgressBar bar(options.rolls);
+    host.progress = [&bar](Game& running) { bar.Update(SessionRolls(running.stats)); };
+    if (options.rolls > 0) ToggleAutoRoll(*game);
+  }
+  figures.seconds = SecondsSince(start);
+  figures.rolls = SessionRolls(game->stats);
+  figures.stopReason = game->table.StopReason;
+  const Json run = RunJson(*game, figures);
+  if (options.json)
+    std::printf("%s\n", run.dump().c_str());
+  else
+    PrintReport(*game, run);
+  return kDone;
+}
+
+}  // namespace
+
+void AddRunCommand(CLI::App& program, int& exitCode) {
+  auto options = std::make_shared<RunOptions>();
+  CLI::App* command = program.add_subcommand("run", "Unattended play at full speed, with a report");
+  AddTableOptions(*command, options->table);
+  command->add_option("--rolls", options->rolls, "How many rolls (default 1,000,000)")
+      ->check(CLI::Range(std::int64_t{0}, kMaxRolls));
+  command->add_flag("--json", options->json, "Print one JSON object");
+  command->footer(
+      "Example:\n  tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --seed 7");
+  command->callback([options, &exitCode] { exitCode = Run(*options); });
+}
+
+}  // namespace tessaryn::cli

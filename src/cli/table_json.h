@@ -1,0 +1,28 @@
+// The table as JSON: what `state`, `stats` and `run` print.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "engine/game.h"
+
+namespace tessaryn::cli {
+
+using Json = nlohmann::ordered_json;
+
+// A number with up to four decimals; a whole one without a point.
+Json MoneyJson(Currency value);
+Json StateJson(const Game& game);
+// The statistics of seat 0 to 8 and scope 0 to 4; bet 0 all bets that have any.
+Json StatsJson(const Game& game, int seat, int scope, int bet);
+// The bets of a seat that are up, as {number: amount}.
+Json BetsUpJson(const Game& game, int seat);
+
+struct RunFigures {
+  std::int64_t rolls = 0;
+  double seconds = 0;
+  std::string stopReason;
+  Currency bankrollStart[kSeatRows];
+};
+Json RunJson(const Game& game, const RunFigures& figures);
+
+}  // namespace tessaryn::cli

@@ -1,0 +1,136 @@
+#include "cli/table_setup.h"
+
+#include <unistd.h>
+
+#include <charconv>
+
+#include "cli/commands.h"
+#include "config/setting_table.h"
+#include "dice/seed_rng.h"
+#include "engine/players.h"
+
+namespace tessaryn::cli {
+
+void AddTableOptions(CLI::App& command, TableOptions& options) {
+  command.add_option("--data-folder", options.dataFolder, "Folder of everything that is written");
+  command.add_option("--player", options.players, "A player, NAME=BANKROLL; the k-th takes seat k")
+      ->take_all()
+      ->allow_extra_args(false);
+  command.add_option("--set", options.settings, "A setting, NAME=VALUE; NAME@SEAT=VALUE for one seat")
+      ->take_all()
+      ->allow_extra_args(false);
+  command.add_option("--rng", options.rng, "Generator 1 to 8")->check(CLI::Range(1, 8));
+  command.add_option("--seed", options.seed, "Seed of the generator");
+  command.add_option("--roll-file", options.rollFile, "Play the dice of a roll file");
+  command.add_option("--record", options.recordFile, "Record the dice to a roll file");
+  command.add_option("--probabilities", options.probabilities, "Percentage dice from a probability file");
+  command.add_option("--events-log", options.eventsLog, "Write the Events Log to this file");
+}
+
+bool ParseSettingName(const std::string& text, std::string& name, int& seat) {
+  const auto at = text.find('@');
+  name = text.substr(0, at);
+  seat = 0;
+  if (at == std::string::npos) return true;
+  const char* last = text.data() + text.size();
+  const auto [end, fault] = std::from_chars(text.data() + at + 1, last, seat);
+  return fault == std::errc() && end == last;
+}
+
+bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value) {
+  const auto equals = text.find('=');
+  if (equals == std::string::npos) return false;
+  value = text.substr(equals + 1);
+  return ParseSettingName(text.substr(0, equals), name, seat);
+}
+
+namespace {
+
+bool Told(const std::string& what) {
+  Fail(what);
+  return false;
+}
+
+bool SeatPlayers(Game& game, const TableOptions& options) {
+  int seat = 0;
+  for (const std::string& player : options.players) {
+    const auto equals = player.rfind('=');
+    Currency bankroll = game.settings.StartBank;
+    if (equals != std::string::npos && !TryParseMoney(player.substr(equals + 1), bankroll))
+      return Told("--player " + player + ": \"" + player.substr(equals + 1) + "\" is no amount");
+    std::string error;
+    if (!JoinPlayer(game, ++seat, player.substr(0, equals), bankroll, error))
+      return Told("--player " + player + ": " + error);
+  }
+  return true;
+}
+
+bool ApplySettings(Game& game, const TableOptions& options) {
+  std::vector<SettingChange> changes;
+  for (const std::string& text : options.settings) {
+    SettingChange change;
+    if (!ParseAssignment(text, change.name, change.seat, change.value))
+      return Told("--set " + text + ": expected NAME=VALUE or NAME@SEAT=VALUE");
+    changes.push_back(change);
+  }
+  std::string error;
+  return SetSettings(game, changes, error) || Told("--set: " + error);
+}
+
+bool SeedDice(Game& game, const TableOptions& options) {
+  if (options.rng != 0) SelectGenerator(game, options.rng);
+  if (options.seed.empty()) {
+    if (options.rng != 0) SeedRng(game, false);
+    return true;
+  }
+  Currency seed;
+  bool accepted = TryParseMoney(options.seed, seed) && seed >= Currency::Dollars(1) && seed.IsWhole();
+  if (accepted) SeedRng(game, accepted, seed);
+  return accepted || Told("--seed " + options.seed + ": must be a whole number from 1 to " +
+                          std::to_string(SeedLimit(game.generators)));
+}
+
+bool OpenDiceFiles(Game& game, const TableOptions& options) {
+  if (!options.rollFile.empty() && !options.recordFile.empty())
+    return Told("--roll-file and --record can't be used together: a table has one dice roll file");
+  const bool records = !options.recordFile.empty();
+  const std::string path = records ? options.recordFile : options.rollFile;
+  if (!path.empty()) {
+    if (!records && access(path.c_str(), R_OK) != 0) return Told("--roll-file " + path + ": File not found");
+    std::string problem = OpenRollFile(game.rollFile, path);
+    if (problem.empty() && records) {
+      SelectAllRolls(game.rollFile);
+      if (RollFileLength(game.rollFile) > 0) problem = DeleteRolls(game.rollFile);
+      SetRollFileCursor(game.rollFile, 1);
+    }
+    if (problem.empty())
+      problem = SetRecorderState(game.rollFile, records ? kRecorderRecord : kRecorderPlayback);
+    if (!problem.empty()) return Told((records ? "--record " : "--roll-file ") + path + ": " + problem);
+  }
+  if (options.probabilities.empty()) return true;
+  std::string error;
+  if (!OpenProbabilityFile(game.percentage, options.probabilities, "", error))
+    return Told("--probabilities " + options.probabilities + ": " + error);
+  return ActivatePercentageDice(game.percentage, true) || Told(std::string("--probabilities: ") + kNothingToRollText);
+}
+
+}  // namespace
+
+std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
+  std::string folder = options.dataFolder;
+  std::string error;
+  if (!PrepareDataFolder(folder, error)) {
+    Fail(error);
+    return nullptr;
+  }
+  std::unique_ptr<Game> game = StartGame(host, ApplicationFolder(), folder);
+  if (!options.eventsLog.empty()) {
+    game->events.Path = options.eventsLog;
+    game->events.RecordEventsActive = true;
+  }
+  const bool ready = SeatPlayers(*game, options) && ApplySettings(*game, options) && SeedDice(*game, options) &&
+                     OpenDiceFiles(*game, options);
+  return ready ? std::move(game) : nullptr;
+}
+
+}  // namespace tessaryn::cli

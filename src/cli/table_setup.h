@@ -1,0 +1,37 @@
+// Options that bring a table into shape before it plays: shared by run and play.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "cli/cli_host.h"
+#include "engine/game.h"
+
+namespace tessaryn::cli {
+
+struct TableOptions {
+  std::string dataFolder;
+  std::vector<std::string> players;   // NAME=BANKROLL
+  std::vector<std::string> settings;  // NAME=VALUE, NAME@SEAT=VALUE
+  std::string rollFile;
+  std::string recordFile;
+  std::string probabilities;
+  std::string eventsLog;
+  int rng = 0;                        // 1 to 8; 0 the start-up generator
+  std::string seed;
+};
+
+void AddTableOptions(CLI::App& command, TableOptions& options);
+
+// A table as the options want it. Null, with the reason told on standard error, when one of them is bad.
+std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options);
+
+// NAME=VALUE or NAME@SEAT=VALUE. False without a "=", or with a seat that is no number.
+bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value);
+// NAME or NAME@SEAT; seat 0 without one.
+bool ParseSettingName(const std::string& text, std::string& name, int& seat);
+
+}  // namespace tessaryn::cli
