@@ -1,0 +1,444 @@
+#include "cli/play_session.h"
+
+#include <charconv>
+#include <chrono>
+#include <cstdio>
+#include <iterator>
+
+#include "cli/table_setup.h"
+#include "config/setting_table.h"
+#include "dice/auto_roll.h"
+#include "dice/seed_rng.h"
+#include "engine/bankroll.h"
+#include "engine/bet_catalogue.h"
+#include "engine/bet_rules.h"
+#include "engine/players.h"
+#include "engine/roll_cycle.h"
+
+namespace tessaryn::cli {
+
+std::vector<std::string> SplitWords(const std::string& line) {
+  std::vector<std::string> words;
+  std::string word;
+  bool quoted = false;
+  bool any = false;
+  for (const char c : line) {
+    if (c == '"') {
+      quoted = !quoted;
+      any = true;
+    } else if ((c == ' ' || c == '\t') && !quoted) {
+      if (any || !word.empty()) words.push_back(word);
+      word.clear();
+      any = false;
+    } else {
+      word += c;
+    }
+  }
+  if (any || !word.empty()) words.push_back(word);
+  return words;
+}
+
+void PipeHost::ShowMessage(Game&, MessageBox& box) {
+  const Json message{{"message", {{"title", box.MsgTitle}, {"text", box.MsgText}}}};
+  std::printf("%s\n", message.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+  std::fflush(stdout);
+  const bool question = (box.MsgFlags & (kMsgYes | kMsgNo | kMsgCancel | kMsgInput)) != 0;
+  if (question && answers.Answer(box)) return;
+  if (question && confirmNext && box.MsgText.find("Total to be abandoned") == std::string::npos) {
+    box.MsgResult = kResultYes;
+    return;
+  }
+  SafeAnswer(box);
+}
+
+SettleAnswer PipeHost::AskSettlement(Game& game, const SettleQuestion& question) {
+  SettleAnswer answer;
+  answer.choice = answers.TakeChoice();
+  if (answer.choice == 0) return answer;
+  const std::string text = game.table.SeatName[question.seat] + ": " + BetName(question.bet) + " $" +
+                           FormatMoney(game.table.BetAmount(question.seat, question.bet)) +
+                           (question.won ? " wins $" : " loses $") + FormatMoney(Abs(question.net));
+  const Json message{{"message", {{"title", question.won ? "WINNER" : "LOSER"}, {"text", text}}}};
+  std::printf("%s\n", message.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+  return answer;
+}
+
+namespace {
+
+using Words = std::vector<std::string>;
+
+// What a command works on. Errors are thrown no further than Do: a handler returns them as text.
+struct Call {
+  Game& game;
+  PlayHost& host;
+  const Words& words;   // words[0] is the command
+  Json answer = Json::object();
+  std::string error;
+  bool ended = false;
+
+  bool Bad(const std::string& what) {
+    error = what;
+    return false;
+  }
+};
+
+bool ReadInt(const std::string& text, int& value) {
+  const char* last = text.data() + text.size();
+  const auto [end, fault] = std::from_chars(text.data(), last, value);
+  return fault == std::errc() && end == last;
+}
+
+bool SeatNumber(Call& call, std::size_t at, int& seat) {
+  if (at >= call.words.size()) return call.Bad("a seat 1 to 8 is missing");
+  if (!ReadInt(call.words[at], seat) || seat < 1 || seat > kSeats)
+    return call.Bad("\"" + call.words[at] + "\" is no seat; seats are 1 to 8");
+  return true;
+}
+
+bool Player(Call& call, std::size_t at, int& seat) {
+  if (!SeatNumber(call, at, seat)) return false;
+  if (!IsOccupied(call.game.table, seat))
+    return call.Bad("there is no player at seat " + std::to_string(seat));
+  return true;
+}
+
+bool Amount(Call& call, std::size_t at, Currency& amount) {
+  if (at >= call.words.size()) return call.Bad("an amount is missing");
+  if (!TryParseMoney(call.words[at], amount)) return call.Bad("\"" + call.words[at] + "\" is no amount");
+  return true;
+}
+
+std::string Joined(const Words& words, std::size_t first, std::size_t last) {
+  std::string text;
+  for (std::size_t i = first; i < last; ++i) text += (text.empty() ? "" : " ") + words[i];
+  return text;
+}
+
+// The bet that the words first to last name; up to 93, or CheckStacks as well.
+bool BetNumber(Call& call, std::size_t first, std::size_t last, bool stacks, int& bet) {
+  if (first >= last) return call.Bad("a bet is missing");
+  const std::string name = Joined(call.words, first, last);
+  bet = BetByName(name);
+  if (bet == 0 || (!stacks && !IsTableBet(bet)))
+    return call.Bad("\"" + name + "\" is no bet; bets are 1 to 93, or names such as passline or place6");
+  return true;
+}
+
+bool WantWords(Call& call, std::size_t least, std::size_t most, const char* usage) {
+  if (call.words.size() >= least && call.words.size() <= most) return true;
+  return call.Bad(std::string("expected: ") + usage);
+}
+
+bool Join(Call& call) {
+  int seat = 0;
+  Currency bankroll;
+  if (!WantWords(call, 4, 99, "join SEAT NAME BANKROLL") || !SeatNumber(call, 1, seat) ||
+      !Amount(call, call.words.size() - 1, bankroll))
+    return false;
+  const std::string name = Joined(call.words, 2, call.words.size() - 1);
+  return JoinPlayer(call.game, seat, name, bankroll, call.error);
+}
+
+bool Leave(Call& call) {
+  int seat = 0;
+  if (!WantWords(call, 2, 2, "leave SEAT") || !Player(call, 1, seat)) return false;
+  const int selected = call.game.table.SelectedSeat;
+  call.game.table.SelectedSeat = seat;
+  call.host.confirmNext = true;
+  const bool left = RemovePlayer(call.game);
+  call.host.confirmNext = false;
+  if (selected != seat && IsOccupied(call.game.table, selected)) call.game.table.SelectedSeat = selected;
+  if (!left) call.error = "the player stays; queue \"answer yes\" to abandon contract bets";
+  return left;
+}
+
+bool Rename(Call& call) {
+  int seat = 0;
+  if (!WantWords(call, 3, 99, "rename SEAT NAME") || !Player(call, 1, seat)) return false;
+  return RenameTo(call.game, seat, Joined(call.words, 2, call.words.size()), call.error);
+}
+
+bool Move(Call& call) {
+  int from = 0;
+  int to = 0;
+  if (!WantWords(call, 3, 3, "move SEAT SEAT") || !Player(call, 1, from) || !SeatNumber(call, 2, to)) return false;
+  return MovePlayer(call.game, from, to, call.error);
+}
+
+bool Select(Call& call) {
+  int seat = 0;
+  if (!WantWords(call, 2, 2, "select SEAT") || !Player(call, 1, seat)) return false;
+  SelectSeat(call.game, seat);
+  return true;
+}
+
+bool MakeBet(Call& call) {
+  int seat = 0;
+  int bet = 0;
+  Currency amount;
+  if (!WantWords(call, 4, 99, "bet SEAT BET AMOUNT") || !Player(call, 1, seat) ||
+      !BetNumber(call, 2, call.words.size() - 1, true, bet) || !Amount(call, call.words.size() - 1, amount))
+    return false;
+  call.answer["change"] = MoneyJson(PlaceBet(call.game, seat, bet, amount));
+  call.answer["amount"] = MoneyJson(call.game.table.BetAmount(seat, bet));
+  return true;
+}
+
+bool Remove(Call& call) {
+  int seat = 0;
+  int bet = 0;
+  if (!WantWords(call, 3, 99, "remove SEAT BET") || !Player(call, 1, seat) ||
+      !BetNumber(call, 2, call.words.size(), true, bet))
+    return false;
+  call.answer["change"] = MoneyJson(RemoveBet(call.game, seat, bet));
+  call.answer["amount"] = MoneyJson(call.game.table.BetAmount(seat, bet));
+  return true;
+}
+
+bool CallOnOff(Call& call) {
+  int seat = 0;
+  int bet = 0;
+  if (!WantWords(call, 4, 99, "call SEAT on|off BET") || !Player(call, 1, seat)) return false;
+  const std::string& word = call.words[2];
+  if (word != "on" && word != "off") return call.Bad("\"" + word + "\" is neither on nor off");
+  if (call.words[3] == "all") {
+    CallAllBets(call.game, seat, word == "on");
+    return true;
+  }
+  if (!BetNumber(call, 3, call.words.size(), false, bet)) return false;
+  if (!CallBet(call.game, seat, bet, word == "on"))
+    return call.Bad("the " + BetName(bet) + " bet can't be called ON or OFF");
+  call.answer["working"] = BetWorkingOf(call.game, seat, bet);
+  return true;
+}
+
+bool Buy(Call& call) {
+  int seat = 0;
+  int bet = 0;
+  if (!WantWords(call, 3, 99, "buy SEAT BET") || !Player(call, 1, seat) ||
+      !BetNumber(call, 2, call.words.size(), false, bet))
+    return false;
+  if (!BuyPlaceBet(call.game, seat, bet)) return call.Bad("You may only buy Place bets.");
+  return true;
+}
+
+void AnswerWithRoll(Call& call, std::int64_t rollsBefore) {
+  const Game& game = call.game;
+  call.answer["rolls"] = SessionRolls(game.stats);
+  call.answer["rolled"] = SessionRolls(game.stats) - rollsBefore;
+  call.answer["die1"] = game.table.Die1;
+  call.answer["die2"] = game.table.Die2;
+  call.answer["total"] = game.table.RollTotal;
+  call.answer["point"] = game.table.Point;
+  if (!game.table.StopReason.empty()) call.answer["stopReason"] = game.table.StopReason;
+}
+
+bool Roll(Call& call) {
+  TableState& table = call.game.table;
+  if (call.words.size() != 1 && !WantWords(call, 3, 3, "roll, or roll DIE1 DIE2")) return false;
+  if (call.words.size() == 3) {
+    int faces[2] = {0, 0};
+    for (int i = 0; i < 2; ++i)
+      if (!ReadInt(call.words[1 + i], faces[i]) || faces[i] < 1 || faces[i] > 6)
+        return call.Bad("\"" + call.words[1 + i] + "\" is no face of a die; faces are 1 to 6");
+    table.ManualDie1 = faces[0];
+    table.ManualDie2 = faces[1];
+    table.ManualRollPending = true;
+  }
+  const std::int64_t before = SessionRolls(call.game.stats);
+  RollDice(call.game);
+  table.ManualRollPending = false;
+  AnswerWithRoll(call, before);
+  if (SessionRolls(call.game.stats) == before)
+    return call.Bad(table.StopReason.empty() ? "nothing was rolled" : table.StopReason);
+  return true;
+}
+
+bool Turbo(Call& call) {
+  Currency rolls;
+  if (!WantWords(call, 2, 2, "turbo ROLLS") || !Amount(call, 1, rolls)) return false;
+  if (!rolls.IsWhole() || rolls < Currency::Dollars(1) || rolls > Currency::Dollars(kMaxRolls))
+    return call.Bad("\"" + call.words[1] + "\" is no number of rolls; 1 to 2,000,000,000");
+  const std::int64_t before = SessionRolls(call.game.stats);
+  call.host.rollTarget = before + rolls.raw / Currency::kPerDollar;
+  const int throttle = call.game.settings.RollThrottle;
+  if (throttle == kThrottleAutoRoll) call.game.settings.RollThrottle = 0;
+  const auto start = std::chrono::steady_clock::now();
+  ToggleAutoRoll(call.game);
+  const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+  call.game.settings.RollThrottle = throttle;
+  call.host.rollTarget = 0;
+  AnswerWithRoll(call, before);
+  call.answer["seconds"] = seconds;
+  call.answer["rollsPerSecond"] =
+      seconds > 0 ? static_cast<double>(SessionRolls(call.game.stats) - before) / seconds : 0.0;
+  return true;
+}
+
+bool Pass(Call& call) {
+  if (!WantWords(call, 1, 1, "pass")) return false;
+  PassDice(call.game, kPassByUser);
+  call.answer["shooter"] = call.game.table.ShooterSeat;
+  return true;
+}
+
+bool Rng(Call& call) {
+  int number = 0;
+  if (!WantWords(call, 2, 2, "rng 1-8")) return false;
+  if (!ReadInt(call.words[1], number) || !SelectGenerator(call.game, number))
+    return call.Bad(kGeneratorOutOfLimitsText);
+  call.answer["rng"] = call.game.generators.GeneratorIndex + 1;
+  return true;
+}
+
+bool Seed(Call& call) {
+  Currency seed;
+  if (!WantWords(call, 2, 2, "seed NUMBER") || !Amount(call, 1, seed)) return false;
+  bool accepted = seed >= Currency::Dollars(1) && seed.IsWhole();
+  if (accepted) SeedRng(call.game, accepted, seed);
+  if (!accepted)
+    return call.Bad("seed " + call.words[1] + ": must be a whole number from 1 to " +
+                    std::to_string(SeedLimit(call.game.generators)));
+  return true;
+}
+
+bool Atm(Call& call) {
+  int seat = 0;
+  Currency amount;
+  if (!WantWords(call, 4, 4, "atm SEAT deposit|withdraw AMOUNT") || !Player(call, 1, seat) ||
+      !Amount(call, 3, amount))
+    return false;
+  const std::string& word = call.words[2];
+  if (word != "deposit" && word != "withdraw") return call.Bad("\"" + word + "\" is neither deposit nor withdraw");
+  if (amount < kZero) return call.Bad("the amount must not be negative");
+  if (!call.game.settings.AtmEnabled) return call.Bad("the ATM is out of service");
+  call.answer["allowed"] = MoneyJson(AtmTransaction(call.game, seat, word == "deposit", amount));
+  call.answer["bankroll"] = MoneyJson(call.game.table.BankrollCurrent[seat]);
+  return true;
+}
+
+bool Set(Call& call) {
+  if (!WantWords(call, 3, 99, "set NAME VALUE, or set NAME@SEAT VALUE")) return false;
+  SettingChange change;
+  if (!ParseSettingName(call.words[1], change.name, change.seat))
+    return call.Bad("\"" + call.words[1] + "\": expected NAME or NAME@SEAT");
+  change.value = Joined(call.words, 2, call.words.size());
+  return SetSettings(call.game, {change}, call.error);
+}
+
+bool Get(Call& call) {
+  if (!WantWords(call, 2, 2, "get NAME, or get NAME@SEAT")) return false;
+  std::string name;
+  int seat = 0;
+  if (!ParseSettingName(call.words[1], name, seat))
+    return call.Bad("\"" + call.words[1] + "\": expected NAME or NAME@SEAT");
+  std::string value;
+  if (!GetSetting(call.game, name, seat, value, call.error)) return false;
+  call.answer["name"] = call.words[1];
+  Currency number;
+  if (TryParseMoney(value, number))
+    call.answer["value"] = MoneyJson(number);
+  else
+    call.answer["value"] = value;
+  return true;
+}
+
+bool Answer(Call& call) {
+  if (!WantWords(call, 2, 999, "answer yes|no|ok|cancel|VALUE ...")) return false;
+  for (std::size_t i = 1; i < call.words.size(); ++i) call.host.answers.Add(call.words[i]);
+  call.answer["queued"] = call.host.answers.Size();
+  return true;
+}
+
+bool State(Call& call) {
+  call.answer.update(StateJson(call.game));
+  return true;
+}
+
+bool Stats(Call& call) {
+  int seat = 0;
+  int scope = 0;
+  int bet = 0;
+  if (!WantWords(call, 3, 99, "stats SEAT SCOPE [BET]")) return false;
+  if (!ReadInt(call.words[1], seat) || seat < 0 || seat > kSeats)
+    return call.Bad("\"" + call.words[1] + "\" is no seat; 0 is the table, players are 1 to 8");
+  if (!ReadInt(call.words[2], scope) || scope < 0 || scope >= kScopes)
+    return call.Bad("\"" + call.words[2] +
+                    "\" is no scope; 0 current hand, 1 last hand, 2 session, 3 last session, 4 all sessions");
+  if (call.words.size() > 3 && !BetNumber(call, 3, call.words.size(), false, bet)) return false;
+  call.answer.update(StatsJson(call.game, seat, scope, bet));
+  return true;
+}
+
+bool Help(Call& call) {
+  Json commands = Json::array();
+  for (const PlayCommandInfo& info : PlayCommands())
+    commands.push_back({{"command", std::string(info.name) + " " + info.arguments}, {"does", info.help}});
+  call.answer["commands"] = commands;
+  return true;
+}
+
+bool Quit(Call& call) {
+  call.ended = true;
+  return true;
+}
+
+struct Handler {
+  PlayCommandInfo info;
+  bool (*run)(Call&);
+};
+
+constexpr Handler kHandlers[] = {
+    {{"join", "SEAT NAME BANKROLL", "a player joins"}, Join},
+    {{"leave", "SEAT", "a player leaves"}, Leave},
+    {{"rename", "SEAT NAME", "gives a player another name"}, Rename},
+    {{"move", "SEAT SEAT", "moves a player to an open seat"}, Move},
+    {{"select", "SEAT", "selects the player whose bets are shown"}, Select},
+    {{"bet", "SEAT BET AMOUNT", "adds to a bet, or with a negative amount takes it down"}, MakeBet},
+    {{"remove", "SEAT BET", "takes a bet down"}, Remove},
+    {{"call", "SEAT on|off BET", "calls a bet ON or OFF; BET may be all"}, CallOnOff},
+    {{"buy", "SEAT BET", "turns a Place bet into a Buy bet"}, Buy},
+    {{"roll", "[DIE1 DIE2]", "one roll, or these faces"}, Roll},
+    {{"turbo", "ROLLS", "so many rolls at full speed"}, Turbo},
+    {{"pass", "", "passes the dice"}, Pass},
+    {{"rng", "1-8", "selects a generator"}, Rng},
+    {{"seed", "NUMBER", "seeds the generator"}, Seed},
+    {{"atm", "SEAT deposit|withdraw AMOUNT", "moves money from or to a bankroll"}, Atm},
+    {{"set", "NAME[@SEAT] VALUE", "changes a setting"}, Set},
+    {{"get", "NAME[@SEAT]", "reads a setting or a value of the table"}, Get},
+    {{"answer", "yes|no|ok|cancel|VALUE ...", "answers the next questions in advance"}, Answer},
+    {{"state", "", "the table"}, State},
+    {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},
+    {{"help", "", "the commands"}, Help},
+    {{"quit", "", "ends"}, Quit},
+};
+
+}  // namespace
+
+const std::vector<PlayCommandInfo>& PlayCommands() {
+  static const std::vector<PlayCommandInfo> infos = [] {
+    std::vector<PlayCommandInfo> list;
+    for (const Handler& handler : kHandlers) list.push_back(handler.info);
+    return list;
+  }();
+  return infos;
+}
+
+Json PlaySession::Do(const std::string& line) {
+  const Words words = SplitWords(line);
+  if (words.empty()) return {{"ok", false}, {"error", "no command"}};
+  for (const Handler& handler : kHandlers) {
+    if (words[0] != handler.info.name) continue;
+    Call call{game_, host_, words, Json::object(), "", false};
+    const bool done = handler.run(call);
+    ended_ = call.ended;
+    FlushEventsLog(game_);
+    if (!done) return {{"ok", false}, {"error", words[0] + ": " + call.error}};
+    Json answer{{"ok", true}};
+    answer.update(call.answer);
+    return answer;
+  }
+  return {{"ok", false}, {"error", "unknown command \"" + words[0] + "\"; help lists them"}};
+}
+
+}  // namespace tessaryn::cli
