@@ -7,6 +7,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <vector>
@@ -32,7 +33,7 @@ struct RollFiles : testing::Test {
     std::filesystem::remove_all(Folder);
   }
   static void Write(const std::string& path, const Rolls& rolls) {
-    ASSERT_EQ(ReplaceFile(path, {reinterpret_cast<const char*>(rolls.data()), rolls.size()}), "");
+    std::ofstream(path, std::ios::binary) << std::string(rolls.begin(), rolls.end());
   }
   static Rolls OnDisk(const std::string& path) {
     std::string content;
