@@ -367,12 +367,15 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
     cell = amount;
     table.StacksSinceBefore[seat].Add(bet - kFirstCheckStack);
     table.StacksSinceAfter[seat].Add(bet - kFirstCheckStack);
+    table.SeatsSinceBefore |= 1u << seat;
+    table.SeatsSinceAfter |= 1u << seat;
     return;
   }
   table.OnTableAmount[seat] += amount - cell;
   cell = amount;
-  table.TouchedSinceBefore[seat].Add(bet);
+  TouchBefore(table, seat, bet);
   table.TouchedSinceAfter[seat].Add(bet);
+  table.SeatsSinceAfter |= 1u << seat;
   if (amount.raw > 0) {
     table.SeatBets[seat].Add(bet);
     table.SeatsUp[bet] |= kPayBit[seat];

@@ -18,6 +18,13 @@ constexpr const char* kPassTitle = "Pass the Dice";
 // The dice go round downwards.
 int NextSeat(int seat) { return seat <= 1 ? kSeats : seat - 1; }
 
+// The list of occupied seats, after a name came or went.
+void ListSeated(TableState& table) {
+  table.OccupiedSeats = 0;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (!table.SeatName[seat].empty()) table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
+}
+
 std::string Lower(std::string text) {
   for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
   return text;
@@ -98,8 +105,9 @@ void GiveDice(Game& game, int seat, int reason) {
                          " who may finish the current hand and then roll his/her own hand.");
 }
 
-void TellUser(Game& game, int reason, const std::string& text) {
-  if (reason == kPassByUser && !game.table.TurboRollActive) ShowMessage(game, kPassTitle, text);
+// Who asked for the dice to pass hears why they can't; nobody else does, and no text is formed.
+bool MustTell(const Game& game, int reason) {
+  return reason == kPassByUser && !game.table.TurboRollActive && !game.autobet.ScriptRunning;
 }
 
 }  // namespace
@@ -107,11 +115,14 @@ void TellUser(Game& game, int reason, const std::string& text) {
 void PassDice(Game& game, int reason) {
   TableState& table = game.table;
   if (table.OccupiedSeats == 0) {
-    TellUser(game, reason, "Unable to pass the dice.\r\rThere are no players at the table.");
+    if (MustTell(game, reason))
+      ShowMessage(game, kPassTitle, "Unable to pass the dice.\r\rThere are no players at the table.");
     table.ShooterSeat = 0;
     if (reason == kPassShooterLeft) table.HandSeat = 0;
     return;
   }
+  // A player alone keeps the dice: the usual case of a system under test.
+  if (table.OccupiedSeats == 1 && reason == kPassAfterSevenOut) return;
   const ShooterSearch search = SearchShooter(game);
   if (search.seat > 0) return GiveDice(game, search.seat, reason);
   if (reason == kPassShooterLeft) {
@@ -119,10 +130,10 @@ void PassDice(Game& game, int reason) {
     if (next > 0) GiveDice(game, next, reason);
     return;
   }
-  if (search.others == 0)
-    TellUser(game, reason, "Unable to pass the dice.\r\rThere are no other players at the table.");
-  else
-    TellUser(game, reason, NobodyText(game, search));
+  if (!MustTell(game, reason)) return;
+  ShowMessage(game, kPassTitle,
+              search.others == 0 ? "Unable to pass the dice.\r\rThere are no other players at the table."
+                                 : NobodyText(game, search));
 }
 
 std::string NameProblem(const Game& game, const std::string& name, int ownSeat) {
@@ -186,9 +197,9 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
     error = NameProblem(game, name, 0);
   }
   if (!error.empty()) return false;
-  ++table.OccupiedSeats;
   ClearSeat(game, seat);
   table.SeatName[seat] = name;
+  ListSeated(table);
   StartBankroll(game, seat, bankroll);
   table.BankrollInitAmount[seat] = bankroll;
   table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
@@ -333,7 +344,7 @@ void LeaveTable(Game& game, int seat) {
   RecomputeMasterScriptFlag(game.autobet);
   game.autobet.ScriptsCompiled = false;
   table.SeatName[seat].clear();
-  --table.OccupiedSeats;
+  ListSeated(table);
   const bool handRolled = HandRolls(game.stats) > 0;
   if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
   if (table.HandSeat == seat && handRolled) table.HandSeat = 0;
@@ -386,6 +397,10 @@ void SwapColumns(SeatBetTable<T, kRows>& table, int a, int b) {
 void SwapSeatTables(Game& game, int a, int b) {
   TableState& table = game.table;
   std::swap(table.SeatName[a], table.SeatName[b]);
+  ListSeated(table);
+  // Both seats' copies may be out of date now.
+  table.SeatsSinceBefore |= 1u << a | 1u << b;
+  table.SeatsSinceAfter |= 1u << a | 1u << b;
   SwapColumns(table.BetAmount, a, b);
   SwapColumns(table.BetBeforeRoll, a, b);
   SwapColumns(table.BetAfterRoll, a, b);

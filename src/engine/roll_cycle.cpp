@@ -1,5 +1,6 @@
 #include "engine/roll_cycle.h"
 
+#include <bit>
 #include <cstring>
 
 #include "autobet/interpreter.h"
@@ -30,8 +31,10 @@ void Refuse(Game& game, const std::string& reason, const std::string& title, con
 // --- Before the dice.
 
 bool BankrollsWithinLimit(Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (Abs(game.table.BankrollCurrent[seat]) <= kBankrollLimit) continue;
+  const TableState& table = game.table;
+  for (int i = 0; i < table.OccupiedSeats; ++i) {
+    const int seat = table.Seated[i];
+    if (Abs(table.BankrollCurrent[seat]) <= kBankrollLimit) continue;
     BankrollLimitReached(game, seat);
     return false;
   }
@@ -89,30 +92,29 @@ bool RollsWithinLimit(Game& game) {
 }
 
 void NoteRails(TableState& table) {
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (int i = 0; i < table.OccupiedSeats; ++i) {
+    const int seat = table.Seated[i];
     table.RailAmount[seat] = table.BankrollCurrent[seat] - table.OnTableAmount[seat];
+  }
 }
 
 // The copies taken before the dice fall, where something changed since the last ones.
 void TakeSnapshots(TableState& table) {
   std::memcpy(table.BankrollBeforeRoll, table.BankrollCurrent, sizeof table.BankrollBeforeRoll);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!table.TouchedSinceBefore[seat].Empty()) {
-      table.TouchedSinceBefore[seat].ForEach([&](int bet) {
-        const Currency amount = table.BetAmount(seat, bet);
-        table.BetBeforeRoll(seat, bet) = amount;
-        table.BetCommitted(seat, bet) = amount;
-        table.BetStreakBefore(seat, bet) = table.BetStreak(seat, bet);
-      });
-      table.TouchedSinceBefore[seat].Clear();
-    }
-    if (!table.StacksSinceBefore[seat].Empty()) {
-      table.StacksSinceBefore[seat].ForEach([&](int stack) {
-        const int bet = kFirstCheckStack + stack;
-        table.BetBeforeRoll(seat, bet) = table.BetAmount(seat, bet);
-      });
-      table.StacksSinceBefore[seat].Clear();
-    }
+  for (; table.SeatsSinceBefore != 0; table.SeatsSinceBefore &= table.SeatsSinceBefore - 1) {
+    const int seat = std::countr_zero(table.SeatsSinceBefore);
+    table.TouchedSinceBefore[seat].ForEach([&](int bet) {
+      const Currency amount = table.BetAmount(seat, bet);
+      table.BetBeforeRoll(seat, bet) = amount;
+      table.BetCommitted(seat, bet) = amount;
+      table.BetStreakBefore(seat, bet) = table.BetStreak(seat, bet);
+    });
+    table.TouchedSinceBefore[seat].Clear();
+    table.StacksSinceBefore[seat].ForEach([&](int stack) {
+      const int bet = kFirstCheckStack + stack;
+      table.BetBeforeRoll(seat, bet) = table.BetAmount(seat, bet);
+    });
+    table.StacksSinceBefore[seat].Clear();
   }
   if (table.AnyBetMoved) {
     std::memset(table.ComeMovedTo, 0, sizeof table.ComeMovedTo);
@@ -339,19 +341,16 @@ void CloseRoll(TableState& table) {
 
 void CopyAfterRoll(TableState& table) {
   std::memcpy(table.BankrollAfterRoll, table.BankrollCurrent, sizeof table.BankrollAfterRoll);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!table.TouchedSinceAfter[seat].Empty()) {
-      table.TouchedSinceAfter[seat].ForEach(
-          [&](int bet) { table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet); });
-      table.TouchedSinceAfter[seat].Clear();
-    }
-    if (!table.StacksSinceAfter[seat].Empty()) {
-      table.StacksSinceAfter[seat].ForEach([&](int stack) {
-        const int bet = kFirstCheckStack + stack;
-        table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
-      });
-      table.StacksSinceAfter[seat].Clear();
-    }
+  for (; table.SeatsSinceAfter != 0; table.SeatsSinceAfter &= table.SeatsSinceAfter - 1) {
+    const int seat = std::countr_zero(table.SeatsSinceAfter);
+    table.TouchedSinceAfter[seat].ForEach(
+        [&](int bet) { table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet); });
+    table.TouchedSinceAfter[seat].Clear();
+    table.StacksSinceAfter[seat].ForEach([&](int stack) {
+      const int bet = kFirstCheckStack + stack;
+      table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
+    });
+    table.StacksSinceAfter[seat].Clear();
   }
 }
 

@@ -161,7 +161,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
   if (game.events.RecordEventsActive) LogWinOrLoss(game, seat, bet);
   table.BankrollCurrent[seat] = bankroll;
   table.BetCommitted(seat, bet) = kZero;
-  table.TouchedSinceBefore[seat].Add(bet);
+  TouchBefore(table, seat, bet);
   table.BetFinished = IsFinished(game, bet, seat);
   std::int32_t& streak = table.BetStreak(seat, bet);
   if (net < kZero) {
@@ -192,7 +192,7 @@ void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
   (fromBet == kCome ? table.ComeMovedTo : table.DontComeMovedTo)[seat] = toBet;
   table.AnyBetMoved = true;
   table.BetCommitted(seat, toBet) = amount;
-  table.TouchedSinceBefore[seat].Add(toBet);
+  TouchBefore(table, seat, toBet);
   if (IsComeNumber(toBet)) {
     table.ComeTravelAmount[seat][toBet - kCome4] = amount;
     if (table.handling[seat].AutoDownPlace) {
@@ -258,15 +258,18 @@ void PassOver(Game& game, const SettleStep& step) {
   }
 }
 
-// The steps whose bets are up, in their order.
-void WalkSteps(Game& game, const SettleSteps& steps, const RollFacts& roll) {
-  BetSet waiting = steps.bets & game.table.AnyBets;
-  if (waiting.Empty()) return;
+void WalkStepsUp(Game& game, const SettleSteps& steps, const RollFacts& roll) {
+  const BetSet waiting = steps.bets & game.table.AnyBets;
   for (const SettleStep& step : steps.steps) {
     const bool up = waiting.Has(step.bet) || (step.oddsBet != 0 && waiting.Has(step.oddsBet));
     if (!up) continue;
     if (Holds(step.when, roll)) PassOver(game, step);
   }
+}
+
+// The steps whose bets are up, in their order.
+inline void WalkSteps(Game& game, const SettleSteps& steps, const RollFacts& roll) {
+  if (steps.bets.Meets(game.table.AnyBets)) WalkStepsUp(game, steps, roll);
 }
 
 void SettleAll(Game& game, int code, int bet) {

@@ -41,6 +41,7 @@ struct TableState {
   // --- Seats. Written by players.cpp.
   std::string SeatName[kSeatRows];            // empty for an open seat; 0 is "House"
   int OccupiedSeats = 0;                      // seats 1 to 8 with a name
+  std::uint8_t Seated[kSeats] = {};           // those seats, ascending; the first OccupiedSeats count
   int ShooterSeat = 0;                        // holds the dice; 0 nobody
   int HandSeat = 0;                           // credited with the hand in play; 0 nobody
   int PreviousHandSeat = 0;                   // credited with the hand that just ended
@@ -68,6 +69,8 @@ struct TableState {
   BetSet TouchedSinceAfter[kSeatRows];        // amount changed since BetAfterRoll
   BetSet StacksSinceBefore[kSeatRows];        // CheckStacks 0 to 99, likewise
   BetSet StacksSinceAfter[kSeatRows];
+  std::uint32_t SeatsSinceBefore = 0;         // bit n: seat n has an entry in the Before sets above
+  std::uint32_t SeatsSinceAfter = 0;
 
   // Where this roll's Come and Don't Come bets moved, 0 for none; zeroed as the next dice are thrown.
   int ComeMovedTo[kSeatRows] = {};
@@ -142,6 +145,12 @@ inline int WorkingValue(const WorkingState& state, int bet) {
   if (state.calledOff.Has(bet)) return -1;
   if (state.calledOn.Has(bet)) return 2;
   return state.byDefault.Has(bet) ? 1 : 0;
+}
+
+// Notes that the copies of a seat's bet before the roll are out of date.
+inline void TouchBefore(TableState& table, int seat, int bet) {
+  table.TouchedSinceBefore[seat].Add(bet);
+  table.SeatsSinceBefore |= 1u << seat;
 }
 
 inline bool IsOccupied(const TableState& table, int seat) {

@@ -276,8 +276,8 @@ void CountLine(Game& game, NumberKind kind, int number) {
 void CloseRollStatistics(Game& game) {
   Statistics& stats = game.stats;
   const TableState& table = game.table;
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (table.SeatName[seat].empty()) continue;
+  for (int i = 0; i < table.OccupiedSeats; ++i) {
+    const int seat = table.Seated[i];
     const Currency bankroll = table.BankrollCurrent[seat];
     stats.BankrollRollSum[seat] += bankroll;
     if (bankroll == table.BankrollBeforeRoll[seat]) continue;
@@ -323,12 +323,12 @@ void EndHandStatistics(Game& game) {
     }
     stats.BankrollClosing[last] = bankroll;
   }
+  static_assert(kLastHand == kCurrentHand + 1, "the hand slots stand side by side");
   for (auto* most : {stats.MostRollsInHand, stats.MostComeoutRollsInHand, stats.MostPassesInHand,
-                     stats.MostMissesInHand})
-    for (int seat = 0; seat <= kSeats; ++seat) {
-      most[Slot(kLastHand, seat)] = most[Slot(kCurrentHand, seat)];
-      most[Slot(kCurrentHand, seat)] = 0;
-    }
+                     stats.MostMissesInHand}) {
+    std::memcpy(most + Slot(kLastHand, 0), most + Slot(kCurrentHand, 0), kSeatRows * sizeof *most);
+    std::memset(most + Slot(kCurrentHand, 0), 0, kSeatRows * sizeof *most);
+  }
   stats.LastHandSlotsUsed = stats.HandSlotsUsed;
   stats.HandSlotsUsed = 0;
   stats.HandComeoutRolls = stats.HandPasses = stats.HandMisses = 0;
