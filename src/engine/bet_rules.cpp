@@ -262,6 +262,7 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
 }
 
 Currency RoundChange(Currency change, Currency unit) {
+  if (change == kZero) return change;
   const std::int64_t rest = change.raw % unit.raw;
   if (rest == 0) return change;
   return change > kZero ? Currency::FromRaw(change.raw - rest) + unit

@@ -6,16 +6,6 @@
 
 namespace tessaryn {
 
-Currency Multiply(Currency a, Currency b) {
-  if (a.IsError() || b.IsError()) return Currency::Error();
-  return Currency::FromDouble(a.ToDouble() * b.ToDouble());
-}
-
-Currency Divide(Currency a, Currency b) {
-  if (a.IsError() || b.IsError() || b.raw == 0) return Currency::Error();
-  return Currency::FromDouble(a.ToDouble() / b.ToDouble());
-}
-
 Currency WholePart(Currency value) {
   if (value.IsError()) return value;
   std::int64_t whole = value.raw / Currency::kPerDollar;
@@ -24,6 +14,7 @@ Currency WholePart(Currency value) {
 }
 
 Currency RoundDownToUnit(Currency value, Currency unit) {
+  if (!value.IsError() && IsMultiple(value, unit)) return value;
   const Currency units = WholePart(Divide(value, unit));
   if (units.IsError()) return units;
   std::int64_t result = 0;

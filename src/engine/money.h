@@ -28,7 +28,13 @@ struct Currency {
   }
   // To four decimals, the nearest, an exact half to the even digit. Not a number or out of range: error.
   static Currency FromDouble(double dollars) {
-    const double scaled = std::nearbyint(dollars * 10'000.0);
+    double scaled = dollars * 10'000.0;
+    // Adding and taking away 1.5 * 2^52 leaves the nearest whole number, halves to even, without a call.
+    if (std::fabs(scaled) < 0x1p51) {
+      scaled = (scaled + 0x1.8p52) - 0x1.8p52;
+      return Currency{static_cast<std::int64_t>(scaled)};
+    }
+    scaled = std::nearbyint(scaled);
     if (!(std::fabs(scaled) < 9.2233720368547748e18)) return Error();
     return Currency{static_cast<std::int64_t>(scaled)};
   }
@@ -57,8 +63,14 @@ struct Currency {
 
 // Product and quotient through double precision, back with four decimals. A zero divisor gives the error
 // value.
-Currency Multiply(Currency a, Currency b);
-Currency Divide(Currency a, Currency b);
+inline Currency Multiply(Currency a, Currency b) {
+  if (a.IsError() || b.IsError()) return Currency::Error();
+  return Currency::FromDouble(a.ToDouble() * b.ToDouble());
+}
+inline Currency Divide(Currency a, Currency b) {
+  if (a.IsError() || b.IsError() || b.raw == 0) return Currency::Error();
+  return Currency::FromDouble(a.ToDouble() / b.ToDouble());
+}
 // The absolute value.
 constexpr Currency Abs(Currency value) { return value.raw < 0 ? -value : value; }
 // Downwards, towards minus infinity.

@@ -134,8 +134,7 @@ void ComputePayoff(Game& game, int seat, int bet, int code, Currency amount) {
   if ((IsLay(bet) || IsBuy(bet)) && (gross > kZero || VigUpFront(game, bet)))
     gross -= VigHeld(game, seat, bet);
   table.GrossPayoff = gross;
-  const Currency unit = game.settings.Unit();
-  table.NetPayoff = !gross.IsError() && IsMultiple(gross, unit) ? gross : RoundDownToUnit(gross, unit);
+  table.NetPayoff = RoundDownToUnit(gross, game.settings.Unit());
 }
 
 void SettleBet(Game& game, int seat, int code, int bet) {
@@ -393,6 +392,15 @@ void SettleWinners(Game& game, const RollFacts& roll, bool pointMade) {
   }
 }
 
+// What the winning pass counts, on an empty layout.
+void CountHandWithoutBets(TableState& table, const RollFacts& roll, bool pointMade) {
+  if (pointMade) CountPointMade(table);
+  if (roll.comeOut && (table.RollTotal == 7 || table.RollTotal == 11)) ++table.RideTheLineCount;
+  if (table.RollTotal != 7 || roll.comeOut) return;
+  table.FireMarks = 0;
+  table.FireCount = table.SharpShooterCount = table.RideTheLineCount = 0;
+}
+
 }  // namespace
 
 void SettleRoll(Game& game) {
@@ -400,6 +408,7 @@ void SettleRoll(Game& game) {
   const RollFacts roll{table.PointBeforeRoll == 0, std::min(table.Die1, table.Die2),
                        std::max(table.Die1, table.Die2), game.settings.BarNumber};
   const bool pointMade = table.RollTotal == table.PointBeforeRoll;
+  if (table.AnyBets.Empty()) return CountHandWithoutBets(game.table, roll, pointMade);
   SettleLosers(game, roll, pointMade);
   SettleWinners(game, roll, pointMade);
 }

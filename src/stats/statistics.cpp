@@ -293,25 +293,17 @@ void CloseRollStatistics(Game& game) {
 void EndHandStatistics(Game& game) {
   Statistics& stats = game.stats;
   const TableState& table = game.table;
-  const std::int32_t handRolls = stats.RollTotals[Slot(kCurrentHand, 0)];
-  const unsigned used = stats.HandSlotsUsed | stats.LastHandSlotsUsed;
-  for (int seat = 0; seat <= kSeats; ++seat) {
-    if ((used >> seat & 1) != 0) {
-      MoveSlot(stats.PairCounts, seat, kCurrentHand, kLastHand);
-      MoveSlot(stats.RollTotals, seat, kCurrentHand, kLastHand);
-    }
-    const bool occupied = seat > 0 && !table.SeatName[seat].empty();
-    if (!occupied && seat > 0) {
-      // An open seat's hand goes on counting the rolls that it sees.
-      stats.RollsNotSeen[Slot(kCurrentHand, seat)] -= handRolls;
-      continue;
-    }
-    if ((used >> seat & 1) != 0) {
-      MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
-      MoveSlot(stats.HandCount, seat, kCurrentHand, kLastHand);
-    }
+  // Only seats that shot in this hand or the last one have rolls to move.
+  for (unsigned used = stats.HandSlotsUsed | stats.LastHandSlotsUsed; used != 0; used &= used - 1) {
+    const int seat = std::countr_zero(used);
+    MoveSlot(stats.PairCounts, seat, kCurrentHand, kLastHand);
+    MoveSlot(stats.RollTotals, seat, kCurrentHand, kLastHand);
+    MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
+    MoveSlot(stats.HandCount, seat, kCurrentHand, kLastHand);
+  }
+  for (int i = 0; i < table.OccupiedSeats; ++i) {
+    const int seat = table.Seated[i];
     MoveSlot(stats.RollsNotSeen, seat, kCurrentHand, kLastHand);
-    if (!occupied) continue;
     MoveBetsToLastHand(stats, seat);
     MoveSlot(stats.ComeTravelTotals, seat, kCurrentHand, kLastHand);
     const Currency bankroll = table.BankrollCurrent[seat];

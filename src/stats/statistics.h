@@ -56,7 +56,7 @@ struct Statistics {
   std::int32_t MostComeoutRollsInHand[kSlots] = {};
   std::int32_t MostPassesInHand[kSlots] = {};
   std::int32_t MostMissesInHand[kSlots] = {};
-  // PlayerRolls is the table's roll count of the scope less what the seat has not seen.
+  // PlayerRolls is the table's roll count of the scope less what was rolled before the player joined.
   std::int32_t RollsNotSeen[kSlots] = {};
   std::int32_t HandComeoutRolls = 0;
   std::int32_t HandPasses = 0;
