@@ -134,11 +134,16 @@ constexpr BetRule kRules[] = {
      "You may not make or increase a Fire bet after the shooter has started a hand."},
 };
 
-// Bets that any rule names: most bets have none, and pass without a look at the table.
-constexpr BetSet kRuledBets = [] {
-  BetSet set;
-  for (const BetRule& rule : kRules) set = set | BetRange(rule.first, rule.last);
-  return set;
+// The rule of each bet for an increase (0) and a decrease (1), by its place in the table; -1 for none.
+constexpr auto kRuleOf = [] {
+  std::array<std::array<std::int8_t, 2>, kBets + 1> places{};
+  for (auto& place : places) place = {-1, -1};
+  std::int8_t at = 0;
+  for (const BetRule& rule : kRules) {
+    for (int bet = rule.first; bet <= rule.last; ++bet) places[bet][rule.decrease ? 1 : 0] = at;
+    ++at;
+  }
+  return places;
 }();
 
 std::string RuleText(const BetRule& rule, int bet) {
@@ -151,21 +156,19 @@ std::string RuleText(const BetRule& rule, int bet) {
   return text;
 }
 
-// Applies the first rule that refuses. True when the call ends.
+// Applies the bet's rule. True when the call ends.
 bool ApplyRules(Game& game, int seat, int bet, Currency& change) {
-  if (!kRuledBets.Has(bet)) return false;
-  const Currency amount = game.table.BetAmount(seat, bet);
-  const RuleCase ruleCase{game, seat, bet, amount + change};
   const bool decrease = change < kZero;
-  for (const BetRule& rule : kRules) {
-    if (bet < rule.first || bet > rule.last || rule.decrease != decrease || !rule.refuses(ruleCase)) continue;
-    // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
-    if (change != kZero && NotesShown(game, kNoteRefusals))
-      ShowNote(game, seat, bet, kNoteRefusals, RuleText(rule, bet));
-    change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
-    return rule.endsCall || (decrease && change == kZero);
-  }
-  return false;
+  const int place = kRuleOf[bet][decrease ? 1 : 0];
+  if (place < 0) return false;
+  const BetRule& rule = kRules[place];
+  const Currency amount = game.table.BetAmount(seat, bet);
+  if (!rule.refuses({game, seat, bet, amount + change})) return false;
+  // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
+  if (change != kZero && NotesShown(game, kNoteRefusals))
+    ShowNote(game, seat, bet, kNoteRefusals, RuleText(rule, bet));
+  change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
+  return rule.endsCall || (decrease && change == kZero);
 }
 
 // --- Limits.
@@ -300,9 +303,25 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
 // The families that the configuration can take off the table.
 constexpr BetSet kSwitchableBets = BetRange(kBig6, kBig8) | BetRange(kAllSmall, kMidway) | BetRange(kFire, kFire);
 
+// Bets whose maximum is the table's.
+constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetRange(kCome4, kCome4 + 5) |
+                                     BetRange(kPlace4, kPlace4 + 5) | BetRange(kPassLine, kPassLine) |
+                                     BetRange(kCome, kDontPass) | BetRange(kDontCome, kBig8);
+
+// Whether the bet, as it stands, is one that no rule would change: what handling asks of every bet that
+// stays up, on every roll.
+bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
+  const TableState& table = game.table;
+  const Settings& settings = game.settings;
+  return kTableMaximumBets.Has(bet) && amount.raw <= settings.MaxBet.raw - settings.Unit().raw &&
+         amount >= settings.MinBetMain && table.handling[seat].ProperOddsMode == 0 &&
+         table.OnTableAmount[seat] <= table.BankrollCurrent[seat];
+}
+
 Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
+  if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
   // A request beyond any bankroll is as good as one for the whole of it.
   Currency change = std::clamp(request.IsError() ? kZero : request, -kBankrollLimit, kBankrollLimit);
   change = std::max(RoundChange(change, game.settings.Unit()), -amount);

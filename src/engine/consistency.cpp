@@ -84,7 +84,7 @@ std::string CheckStatistics(const Game& game) {
   for (int scope = 0; scope < kScopes; ++scope)
     for (int seat = 0; seat <= kSeats; ++seat) {
       std::int64_t pairs = 0;
-      for (const std::int32_t count : stats.PairCounts[Slot(scope, seat)]) pairs += count;
+      for (int total = 2; total <= 12; ++total) pairs += RollCount(stats, scope, seat, total);
       if (pairs != stats.RollTotals[Slot(scope, seat)])
         return "rolls of scope " + std::to_string(scope) + ", seat " + std::to_string(seat);
       if (PlayerRolls(stats, scope, seat) < 0)

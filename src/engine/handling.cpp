@@ -161,8 +161,13 @@ void BetFixed(Game& game, int seat, int bet, const Adjustment& adjustment) {
   ShowActionNote(game, seat, bet, title);
 }
 
-void DoWinChoice(Game& game, int seat, int bet, int choice, const Adjustment& adjusted,
-                 const Adjustment& fixed) {
+// The adjustment of choices 6 and 7: what was typed in the dialog, else the seat's stored slot.
+Adjustment AdjustmentOf(const Game& game, int seat, int slot, const SettleAnswer* typed) {
+  if (typed == nullptr) return SlotOf(game, seat, slot);
+  return {typed->adjustKind, typed->adjustValue, typed->adjustUnit};
+}
+
+void DoWinChoice(Game& game, int seat, int bet, int choice, const SettleAnswer* typed) {
   if (game.table.BetFinished || choice == kWinTakeDown) return TakeDown(game, seat, bet);
   switch (choice) {
     case kWinPressUnit:
@@ -172,16 +177,15 @@ void DoWinChoice(Game& game, int seat, int bet, int choice, const Adjustment& ad
     case kWinParlay:
       return Parlay(game, seat, bet);
     case kWinAdjusted:
-      return SameBetAdjusted(game, seat, bet, adjusted);
+      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kWinAdjustSlot, typed));
     case kWinFixed:
-      return BetFixed(game, seat, bet, fixed);
+      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kWinFixedSlot, typed));
     default:
       return SameBet(game, seat, bet);
   }
 }
 
-void DoLoseChoice(Game& game, int seat, int bet, int choice, const Adjustment& adjusted,
-                  const Adjustment& fixed) {
+void DoLoseChoice(Game& game, int seat, int bet, int choice, const SettleAnswer* typed) {
   if (game.table.BetFinished) return TakeDown(game, seat, bet);
   switch (choice) {
     case kLoseSame:
@@ -193,9 +197,9 @@ void DoLoseChoice(Game& game, int seat, int bet, int choice, const Adjustment& a
     case kLoseDouble:
       return PressDouble(game, seat, bet);
     case kLoseAdjusted:
-      return SameBetAdjusted(game, seat, bet, adjusted);
+      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kLoseAdjustSlot, typed));
     case kLoseFixed:
-      return BetFixed(game, seat, bet, fixed);
+      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kLoseFixedSlot, typed));
     default:
       return TakeDown(game, seat, bet);
   }
@@ -226,19 +230,13 @@ SettleAnswer Ask(Game& game, int seat, int bet, bool won, bool offOdds, Currency
 }
 
 void ApplyWinChoice(Game& game, int seat, int bet, int choice, const SettleAnswer& answer) {
-  if (choice != kWinManual)
-    return DoWinChoice(game, seat, bet, choice, SlotOf(game, seat, kWinAdjustSlot),
-                       SlotOf(game, seat, kWinFixedSlot));
-  const Adjustment typed{answer.adjustKind, answer.adjustValue, answer.adjustUnit};
-  DoWinChoice(game, seat, bet, answer.choice == 0 ? kWinSame : answer.choice, typed, typed);
+  if (choice != kWinManual) return DoWinChoice(game, seat, bet, choice, nullptr);
+  DoWinChoice(game, seat, bet, answer.choice == 0 ? kWinSame : answer.choice, &answer);
 }
 
 void ApplyLoseChoice(Game& game, int seat, int bet, int choice, const SettleAnswer& answer) {
-  if (choice != kLoseManual)
-    return DoLoseChoice(game, seat, bet, choice, SlotOf(game, seat, kLoseAdjustSlot),
-                        SlotOf(game, seat, kLoseFixedSlot));
-  const Adjustment typed{answer.adjustKind, answer.adjustValue, answer.adjustUnit};
-  DoLoseChoice(game, seat, bet, answer.choice == 0 ? kLoseTakeDown : answer.choice, typed, typed);
+  if (choice != kLoseManual) return DoLoseChoice(game, seat, bet, choice, nullptr);
+  DoLoseChoice(game, seat, bet, answer.choice == 0 ? kLoseTakeDown : answer.choice, &answer);
 }
 
 // The vig that the decided bet held comes off the table.

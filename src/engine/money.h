@@ -79,7 +79,11 @@ Currency WholePart(Currency value);
 // decimals, as a payoff is rounded.
 Currency RoundDownToUnit(Currency value, Currency unit);
 // Whether value is a whole multiple of unit. Requires unit > 0.
-constexpr bool IsMultiple(Currency value, Currency unit) { return value.raw % unit.raw == 0; }
+constexpr bool IsMultiple(Currency value, Currency unit) {
+  // Most tables bet in dollars, and a division by a known number is a multiplication.
+  if (unit.raw == Currency::kPerDollar) return value.raw % Currency::kPerDollar == 0;
+  return value.raw % unit.raw == 0;
+}
 
 inline constexpr Currency kZero{};
 

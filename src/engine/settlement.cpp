@@ -142,7 +142,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
   const Currency amount = table.BetAmount(seat, bet);
   if (amount == kZero) return;
   table.SettlingBet = bet;
-  if (!table.BetWorking[seat].Working().Has(bet)) {
+  if (WorkingValue(table.BetWorking[seat], bet) <= 0) {
     if (code == kOddsWin || code == kOddsLose) {
       if (IsOdds(bet)) SettleOffOdds(game, seat, bet);
     }

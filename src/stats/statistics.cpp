@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 
 #include "engine/bet_limits.h"
 #include "engine/game.h"
@@ -14,7 +15,9 @@ constexpr int kRunningScopes[] = {kCurrentHand, kCurrentSession, kAllSessions};
 
 // --- Bets.
 
-void CountAmount(Currency (&kinds)[6], std::int64_t amount, std::int64_t roll) {
+using Kinds = Currency[6];
+
+void CountAmount(Kinds& kinds, std::int64_t amount, std::int64_t roll) {
   kinds[kStatCount - 1].raw += Currency::kPerDollar;
   kinds[kStatTotal - 1].raw += amount;
   if (amount > kinds[kStatHigh - 1].raw) kinds[kStatHigh - 1].raw = amount;
@@ -24,8 +27,34 @@ void CountAmount(Currency (&kinds)[6], std::int64_t amount, std::int64_t roll) {
   kinds[kStatLastAmount - 1].raw = amount;
 }
 
-bool TotalOverflows(const Currency (&kinds)[6], Currency amount) {
-  return (kinds[kStatTotal - 1] + amount).IsError();
+// Adds a later stretch of play to a longer scope. rollsBefore: what the longer scope's roll numbers are
+// ahead of the stretch's.
+void MergeKinds(Kinds& longer, const Kinds& stretch, std::int64_t rollsBefore) {
+  if (stretch[kStatCount - 1] == kZero) return;
+  longer[kStatCount - 1] += stretch[kStatCount - 1];
+  longer[kStatTotal - 1] += stretch[kStatTotal - 1];
+  longer[kStatHigh - 1] = std::max(longer[kStatHigh - 1], stretch[kStatHigh - 1]);
+  Currency& low = longer[kStatLow - 1];
+  const Currency stretchLow = stretch[kStatLow - 1];
+  if (low == kZero || (stretchLow != kZero && stretchLow < low)) low = stretchLow;
+  longer[kStatLastRoll - 1] = stretch[kStatLastRoll - 1] + Currency::Dollars(rollsBefore);
+  longer[kStatLastAmount - 1] = stretch[kStatLastAmount - 1];
+}
+
+void MergeBet(BetStats& longer, const BetStats& stretch, std::int64_t rollsBefore) {
+  for (int table = 0; table < kStatTables; ++table)
+    MergeKinds(longer.kinds[table], stretch.kinds[table], rollsBefore);
+}
+
+// Whether a further amount would pass what the sum over all sessions can hold.
+bool TotalOverflows(const BetStats (&scopes)[kScopes], int table, Currency amount) {
+  for (const int scope : kRunningScopes) amount += scopes[scope].kinds[table][kStatTotal - 1];
+  return amount.IsError();
+}
+
+// Rolls of all sessions before the current one.
+std::int64_t RollsBeforeSession(const Statistics& stats) {
+  return stats.RollTotals[Slot(kAllSessions, 0)] - stats.RollTotals[Slot(kCurrentSession, 0)];
 }
 
 // --- Slots of the seats that a roll counts for: the table, and who is credited with the hand.
@@ -66,11 +95,24 @@ void MoveBetsToLastHand(Statistics& stats, int seat) {
     stats.Bets[bet][seat][kLastHand] = BetStats{};
   });
   ended.ForEach([&](int bet) {
-    stats.Bets[bet][seat][kLastHand] = stats.Bets[bet][seat][kCurrentHand];
-    stats.Bets[bet][seat][kCurrentHand] = BetStats{};
+    auto& scopes = stats.Bets[bet][seat];
+    MergeBet(scopes[kCurrentSession], scopes[kCurrentHand], 0);
+    scopes[kLastHand] = scopes[kCurrentHand];
+    scopes[kCurrentHand] = BetStats{};
   });
   stats.LastHandBets[seat] = ended;
   stats.HandBets[seat].Clear();
+}
+
+void MovePairsToLastHand(Statistics& stats, int seat) {
+  std::int32_t(&hand)[kDicePairs] = stats.PairCounts[Slot(kCurrentHand, seat)];
+  std::int32_t(&last)[kDicePairs] = stats.PairCounts[Slot(kLastHand, seat)];
+  std::int32_t(&session)[kDicePairs] = stats.PairCounts[Slot(kCurrentSession, seat)];
+  for (int pair = 0; pair < kDicePairs; ++pair) {
+    session[pair] += hand[pair];
+    last[pair] = hand[pair];
+    hand[pair] = 0;
+  }
 }
 
 template <typename T, std::size_t kCount>
@@ -132,8 +174,13 @@ std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item) {
   if (item == 0) return stats.RollTotals[slot];
   if (item < 0 || item >= kRollItems) return 0;
   std::int64_t count = 0;
-  for (std::uint64_t pairs = kItemPairs[item]; pairs != 0; pairs &= pairs - 1)
-    count += stats.PairCounts[slot][std::countr_zero(pairs)];
+  for (std::uint64_t pairs = kItemPairs[item]; pairs != 0; pairs &= pairs - 1) {
+    const int pair = std::countr_zero(pairs);
+    count += stats.PairCounts[slot][pair];
+    if (scope == kAllSessions) count += stats.PairCounts[Slot(kCurrentSession, seat)][pair];
+    if (scope == kAllSessions || scope == kCurrentSession)
+      count += stats.PairCounts[Slot(kCurrentHand, seat)][pair];
+  }
   return count;
 }
 
@@ -142,7 +189,16 @@ std::int64_t PlayerRolls(const Statistics& stats, int scope, int seat) {
 }
 
 Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, int bet, StatKind kind) {
-  return stats.Bets[bet][seat][scope].kinds[table][kind - 1];
+  const auto& scopes = stats.Bets[bet][seat];
+  if (scope != kCurrentSession && scope != kAllSessions) return scopes[scope].kinds[table][kind - 1];
+  Kinds kinds;
+  std::copy(std::begin(scopes[kCurrentSession].kinds[table]), std::end(scopes[kCurrentSession].kinds[table]), kinds);
+  MergeKinds(kinds, scopes[kCurrentHand].kinds[table], 0);
+  if (scope == kCurrentSession) return kinds[kind - 1];
+  Kinds all;
+  std::copy(std::begin(scopes[kAllSessions].kinds[table]), std::end(scopes[kAllSessions].kinds[table]), all);
+  MergeKinds(all, kinds, RollsBeforeSession(stats));
+  return all[kind - 1];
 }
 
 std::int64_t RollsSinceLast(const Statistics& stats, int item) {
@@ -183,7 +239,8 @@ void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastB
   for (int bet = firstBet; bet <= lastBet; ++bet)
     for (int table = 0; table < kStatTables; ++table)
       for (int kind = 0; kind < 6; ++kind)
-        row.kinds[table][kind] += stats.Bets[bet][seat][scope].kinds[table][kind];
+        row.kinds[table][kind] += BetStat(stats, static_cast<StatTable>(table), scope, seat, bet,
+                                          static_cast<StatKind>(kind + 1));
 }
 
 std::string LastHandNote(const Game& game, int scope) {
@@ -216,16 +273,10 @@ bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency ne
   const bool won = net > kZero;
   const StatTable decided = won ? kWinStats : kLossStats;
   const Currency amount = Abs(net);
-  // All sessions hold the largest sums: what fits there fits everywhere.
-  const BetStats& all = scopes[kAllSessions];
-  if (wagered.IsError() || TotalOverflows(all.kinds[kWagerStats], wagered) ||
-      TotalOverflows(all.kinds[decided], amount))
-    return false;
-  for (const int scope : kRunningScopes) {
-    const std::int64_t roll = stats.RollTotals[Slot(scope == kAllSessions ? kAllSessions : kCurrentSession, 0)];
-    CountAmount(scopes[scope].kinds[kWagerStats], wagered.raw, roll);
-    CountAmount(scopes[scope].kinds[decided], amount.raw, roll);
-  }
+  if (TotalOverflows(scopes, kWagerStats, wagered) || TotalOverflows(scopes, decided, amount)) return false;
+  const std::int64_t roll = SessionRolls(stats);
+  CountAmount(scopes[kCurrentHand].kinds[kWagerStats], wagered.raw, roll);
+  CountAmount(scopes[kCurrentHand].kinds[decided], amount.raw, roll);
   stats.HandBets[seat].Add(bet);
   if (IsComeNumber(bet))
     for (const int scope : kRunningScopes)
@@ -247,10 +298,8 @@ void CountRoll(Game& game) {
   stats.HandSlotsUsed |= static_cast<std::uint16_t>(1u | 1u << handSeat);
   RaiseFor(stats.MostRollsInHand, handSeat, stats.RollTotals[Slot(kCurrentHand, 0)], false);
   const int pair = PairIndex(table.Die1, table.Die2);
-  for (const int scope : kRunningScopes) {
-    ++stats.PairCounts[Slot(scope, 0)][pair];
-    if (handSeat > 0) ++stats.PairCounts[Slot(scope, handSeat)][pair];
-  }
+  ++stats.PairCounts[Slot(kCurrentHand, 0)][pair];
+  if (handSeat > 0) ++stats.PairCounts[Slot(kCurrentHand, handSeat)][pair];
   const std::int32_t roll = stats.RollTotals[Slot(kCurrentSession, 0)];
   const PairItems& items = kPairItems[pair];
   for (int i = 0; i < items.count; ++i) CountGap(stats, items.items[i], roll);
@@ -280,7 +329,9 @@ void CloseRollStatistics(Game& game) {
     const int seat = table.Seated[i];
     const Currency bankroll = table.BankrollCurrent[seat];
     stats.BankrollRollSum[seat] += bankroll;
-    if (bankroll == table.BankrollBeforeRoll[seat]) continue;
+    // The hand's extremes lie within those of the longer scopes.
+    const int hand = Slot(kCurrentHand, seat);
+    if (bankroll <= stats.BankrollHigh[hand] && bankroll >= stats.BankrollLow[hand]) continue;
     for (const int scope : kRunningScopes) {
       Currency& high = stats.BankrollHigh[Slot(scope, seat)];
       Currency& low = stats.BankrollLow[Slot(scope, seat)];
@@ -296,7 +347,7 @@ void EndHandStatistics(Game& game) {
   // Only seats that shot in this hand or the last one have rolls to move.
   for (unsigned used = stats.HandSlotsUsed | stats.LastHandSlotsUsed; used != 0; used &= used - 1) {
     const int seat = std::countr_zero(used);
-    MoveSlot(stats.PairCounts, seat, kCurrentHand, kLastHand);
+    MovePairsToLastHand(stats, seat);
     MoveSlot(stats.RollTotals, seat, kCurrentHand, kLastHand);
     MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
     MoveSlot(stats.HandCount, seat, kCurrentHand, kLastHand);
@@ -335,11 +386,16 @@ void StartSessionStatistics(Game& game) {
       const int to = Slot(kLastSession, seat);
       const auto copy = [from, to](auto& table) { std::memcpy(&table[to], &table[from], sizeof table[to]); };
       ForEachCountTable(stats, copy);
+      for (int pair = 0; pair < kDicePairs; ++pair)
+        stats.PairCounts[Slot(kAllSessions, seat)][pair] += stats.PairCounts[from][pair];
       for (auto* values : {stats.BankrollBeginning, stats.BankrollHigh, stats.BankrollLow, stats.AtmTotal})
         values[to] = values[from];
       stats.BankrollClosing[to] = game.table.BankrollCurrent[seat];
-      for (int bet = 1; bet <= kBets; ++bet)
-        stats.Bets[bet][seat][kLastSession] = stats.Bets[bet][seat][kCurrentSession];
+      for (int bet = 1; bet <= kBets; ++bet) {
+        auto& scopes = stats.Bets[bet][seat];
+        scopes[kLastSession] = scopes[kCurrentSession];
+        MergeBet(scopes[kAllSessions], scopes[kCurrentSession], RollsBeforeSession(stats));
+      }
     }
   }
   ZeroScope(stats, kCurrentHand, false);

@@ -37,13 +37,16 @@ struct BetStats {
 enum NumberKind : int { kComeoutRolls = 0, kPasses = 1, kMisses = 2 };
 
 struct Statistics {
-  // A resolved bet writes three scopes of one seat and bet, so these lie together.
+  // The running scopes lie within each other, so a resolved bet is counted in the current hand alone: the
+  // current session here is what was before this hand, all sessions what was before this session. BetStat
+  // puts them together.
   BetStats Bets[101][kSeatRows][kScopes];
   // Which bets 1 to 93 have entries in the current-hand and last-hand scopes.
   BetSet HandBets[kSeatRows];
   BetSet LastHandBets[kSeatRows];
 
   // Roll items are counted by exact pair of faces and summed when read: item counts are unions of pairs.
+  // Like the bets, rolls are counted in the current hand alone.
   std::int32_t PairCounts[kSlots][kDicePairs] = {};
   std::int32_t RollTotals[kSlots] = {};               // item 0
   // A gap is counted when it ends: the session roll that an item last came on, 0 never.
