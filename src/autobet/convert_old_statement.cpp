@@ -83,7 +83,8 @@ void BracketLists(std::string& text) {
       text[open] = '(';
       const std::string lowered = Lowered(text);
       std::size_t end = text.size();
-      for (const std::string_view stop : {" on ", " to ", " from "}) end = std::min(end, lowered.find(stop, open));
+      for (const std::string_view stop : {" on ", " to ", " from "})
+        end = std::min(end, lowered.find(stop, open));
       while (end > open + 1 && text[end - 1] == ' ') --end;
       text.insert(end, 1, ')');
       at = Lowered(text).find(phrase, open);

@@ -201,7 +201,12 @@ class WordPresence {
   std::vector<std::uint64_t> bits_;
 };
 
-bool SameWord(const WorkWord& a, const WorkWord& b) { return a.id == b.id && (a.id >= 0 || a.text == b.text); }
+bool SameWord(const WorkWord& a, const WorkWord& b) {
+  return a.id == b.id && (a.id >= 0 || a.text == b.text);
+}
+
+// No phrase goes on for longer than this; a line of one endless word is not worth the search.
+constexpr std::size_t kLongestStemWord = 200;
 
 // wordAt(i) is the i-th of count words to look at.
 template <typename WordAt>
@@ -212,7 +217,9 @@ bool PhraseMatches(const Phrase& phrase, std::size_t count, WordAt wordAt) {
   for (std::size_t i = 0; i < whole; ++i) {
     if (!SameWord(phrase.source[i], wordAt(i))) return false;
   }
-  return !phrase.stem || wordAt(length - 1).text.starts_with(phrase.source.back().text);
+  if (!phrase.stem) return true;
+  const std::string& last = wordAt(length - 1).text;
+  return last.size() <= kLongestStemWord && last.starts_with(phrase.source.back().text);
 }
 
 std::size_t FindPhrase(const Phrase& phrase, const std::vector<WorkWord>& words) {
@@ -373,9 +380,7 @@ class TokenWriter {
   std::size_t LastIndex() const { return tokens_.size() - 1; }
 
  private:
-  void AddMarker(int column) {
-    tokens_.push_back({kStatementMarker + line_, static_cast<double>(column)});
-  }
+  void AddMarker(int column) { tokens_.push_back({kStatementMarker + line_, static_cast<double>(column)}); }
   // A keyword stands in a statement of its own; a jump keeps its reference.
   void AddKeyword(const ScriptToken& token, const WorkWord& word) {
     if (tokens_.back().kind < kStatementMarker) AddMarker(word.begin);
@@ -407,8 +412,9 @@ bool IsEmptyLine(std::string_view line) {
 
 }  // namespace
 
-bool NormaliseScript(int player, const std::vector<std::string>& lines, const ScriptSurroundings& surroundings,
-                     CompiledScript& script, ScriptDiagnostic& diagnostic) {
+bool NormaliseScript(int player, const std::vector<std::string>& lines,
+                     const ScriptSurroundings& surroundings, CompiledScript& script,
+                     ScriptDiagnostic& diagnostic) {
   TokenWriter writer(player, script);
   const std::vector<Phrase> names = NamePhrases(surroundings);
   std::vector<WorkWord> words;
@@ -438,8 +444,8 @@ ScriptNameProblem CheckPlayerName(std::string_view name) {
   }
   const std::string padded = Concat({" ", lowered, " "});
   for (const VocabularyRow& row : VocabularyRows()) {
-    const std::string source = Concat(
-        {row.ends == RowEnds::kSign ? "" : " ", row.source, row.ends == RowEnds::kWords ? " " : ""});
+    const std::string source =
+        Concat({row.ends == RowEnds::kSign ? "" : " ", row.source, row.ends == RowEnds::kWords ? " " : ""});
     if (padded.find(source) != std::string::npos) return ScriptNameProblem::kReservedWord;
   }
   return ScriptNameProblem::kNone;

@@ -87,14 +87,9 @@ const Rows kNameRows = {
 
 // Comparisons of names, and commands that have no present form.
 const Rows kClosingRows = {
-    {"is not named", "<>"},
-    {"is named", "="},
-    {"reset ", "'Reset "},
-    {"close file", "'Close file"},
-    {"all flags", "'all flags"},
-    {"any flag", "'any flag"},
-    {" flag ", "'flag "},
-    {" w**n", " when"},
+    {"is not named", "<>"},        {"is named", "="},           {"reset ", "'Reset "},
+    {"close file", "'Close file"}, {"all flags", "'all flags"}, {"any flag", "'any fl**g"},
+    {" flag ", "'flag "},          {"fl**g", "flag"},           {" w**n", " when"},
 };
 
 void Add(Rows& rows, const Rows& added) { rows.insert(rows.end(), added.begin(), added.end()); }

@@ -80,7 +80,8 @@ std::vector<LinePiece> SplitLine(std::string_view line) {
 void BringNumbersToGeneralForm(std::vector<LinePiece>& pieces) {
   for (LinePiece& piece : pieces) {
     double value = 0;
-    if (piece.kind == PieceKind::kWord && ParseScriptNumber(piece.text, value)) piece.text = GeneralNumber(value);
+    if (piece.kind == PieceKind::kWord && ParseScriptNumber(piece.text, value))
+      piece.text = GeneralNumber(value);
   }
 }
 
@@ -104,8 +105,8 @@ bool IsNumber(const LinePiece& piece) {
 
 // These words keep the blank ahead of a bracket; anything else is taken for a function's name.
 bool KeepsBlankBeforeBracket(const LinePiece& piece) {
-  static constexpr std::array<std::string_view, 11> kWords = {"do",  "or",   "if",   "xor",   "and",   "wend",
-                                                              "else", "then", "when", "while", "elseif"};
+  static constexpr std::array<std::string_view, 11> kWords = {
+      "do", "or", "if", "xor", "and", "wend", "else", "then", "when", "while", "elseif"};
   for (const std::string_view word : kWords) {
     if (IsWordOf(piece, word)) return true;
   }

@@ -48,7 +48,8 @@ inline ScriptSurroundings Table() {
   return surroundings;
 }
 
-inline Outcome Compile(std::string_view text, int player = 1, const ScriptSurroundings& surroundings = Table()) {
+inline Outcome Compile(std::string_view text, int player = 1,
+                       const ScriptSurroundings& surroundings = Table()) {
   Outcome outcome;
   outcome.ok = CompileAutobets(player, Lines(text), surroundings, outcome.script, outcome.diagnostic,
                                &outcome.nesting);
@@ -58,7 +59,8 @@ inline Outcome Compile(std::string_view text, int player = 1, const ScriptSurrou
 // The message with " | " for a line end, or "" when the script compiles.
 inline std::string Message(const Outcome& outcome) {
   std::string message;
-  for (const char c : outcome.diagnostic.message) message += c == '\r' ? std::string(" | ") : std::string(1, c);
+  for (const char c : outcome.diagnostic.message)
+    message += c == '\r' ? std::string(" | ") : std::string(1, c);
   return message;
 }
 

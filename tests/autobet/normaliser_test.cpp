@@ -134,7 +134,8 @@ TEST(NormaliseScript, ReadsTheLongestPhraseThatStandsFirst) {
 }
 
 TEST(NormaliseScript, TakesNothingTypedForACodeOfItsOwn) {
-  for (const std::string word : {"V043", "F006", "L001", "S001", "A481", "P1", "U", "EX1", "H1.", "X", "I002"}) {
+  for (const std::string word :
+       {"V043", "F006", "L001", "S001", "A481", "P1", "U", "EX1", "H1.", "X", "I002"}) {
     EXPECT_EQ(FirstPass(word), "error: Unknown or misplaced element:\r\r" + Lowered(word));
   }
 }
@@ -168,19 +169,20 @@ TEST(CheckPlayerName, RefusesNumbersAndWordsOfTheLanguage) {
   for (const char* name : {"5", " 12.5 ", "-3", "1e5", "$5", ".5"}) {
     EXPECT_EQ(CheckPlayerName(name), ScriptNameProblem::kNumeric) << name;
   }
-  for (const char* name : {"Bet", "BET", "Joe and Ann", "Mary-Ann", "a*b", "The Field", "Hourly", "Cs5", "Averages",
-                           "One", "No", "Mr 50%", "x,y", "Ann (1)", "player1", "Buy"}) {
+  for (const char* name : {"Bet", "BET", "Joe and Ann", "Mary-Ann", "a*b", "The Field", "Hourly", "Cs5",
+                           "Averages", "One", "No", "Mr 50%", "x,y", "Ann (1)", "player1", "Buy"}) {
     EXPECT_EQ(CheckPlayerName(name), ScriptNameProblem::kReservedWord) << name;
   }
-  for (const char* name : {"Joe", "Mary Ann", "Betty", "Anderson", "Isolde", "Player9", "Bob2", "Jos\xC3\xA9", "Noel",
-                           "O'Neil", "Two2"}) {
+  for (const char* name : {"Joe", "Mary Ann", "Betty", "Anderson", "Isolde", "Player9", "Bob2", "Jos\xC3\xA9",
+                           "Noel", "O'Neil", "Two2"}) {
     EXPECT_EQ(CheckPlayerName(name), ScriptNameProblem::kNone) << name;
   }
 }
 
 TEST(ParseScriptNumber, ReadsWhatScriptsWriteAndGivesItBack) {
   double value = 7;
-  for (const char* text : {"", "-", ".", "e5", "1e", "inf", "nan", "0x10", "1,000", " 5", "5 ", "+5", "1e+5", "--5"}) {
+  for (const char* text :
+       {"", "-", ".", "e5", "1e", "inf", "nan", "0x10", "1,000", " 5", "5 ", "+5", "1e+5", "--5"}) {
     EXPECT_FALSE(ParseScriptNumber(text, value)) << text;
     EXPECT_EQ(value, 7);
   }

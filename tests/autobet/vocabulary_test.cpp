@@ -47,14 +47,33 @@ std::string RecordsOf(const std::string& token) {
 
 // What is typed to make a row's source: its codes are what earlier rows have made of other phrases.
 std::string Typed(const std::string& source) {
-  static const std::map<std::string, std::string> kTyped = {
-      {"L061", "%"},           {".01", ""},     {"L062", "/"},       {"L020", "("},
-      {"L021", ")"},           {"L075", ","},   {"V980", "checkstacks"}, {"EX1", "from roll"},
-      {"V2509", "% prob skew"}, {"V2506", "% prob true"}, {"V2501", "% prob"}, {"V2503", "% rolls"},
-      {"V2508", "# prob skew"}, {"V2507", "# prob true"}, {"V2502", "# prob"}, {"V2505", "# rolls since last"},
-      {"V2504", "# rolls"},     {"V2600", "# comeout rolls"}, {"V2601", "% comeout rolls"},
-      {"V2602", "# passes"},    {"V2603", "% passes"}, {"V2604", "# misses"}, {"V2605", "% misses"},
-      {"V4606", "# points"},    {"V4607", "% points"}, {"F125", "input"}, {"F825", "input$"}};
+  static const std::map<std::string, std::string> kTyped = {{"L061", "%"},
+                                                            {".01", ""},
+                                                            {"L062", "/"},
+                                                            {"L020", "("},
+                                                            {"L021", ")"},
+                                                            {"L075", ","},
+                                                            {"V980", "checkstacks"},
+                                                            {"EX1", "from roll"},
+                                                            {"V2509", "% prob skew"},
+                                                            {"V2506", "% prob true"},
+                                                            {"V2501", "% prob"},
+                                                            {"V2503", "% rolls"},
+                                                            {"V2508", "# prob skew"},
+                                                            {"V2507", "# prob true"},
+                                                            {"V2502", "# prob"},
+                                                            {"V2505", "# rolls since last"},
+                                                            {"V2504", "# rolls"},
+                                                            {"V2600", "# comeout rolls"},
+                                                            {"V2601", "% comeout rolls"},
+                                                            {"V2602", "# passes"},
+                                                            {"V2603", "% passes"},
+                                                            {"V2604", "# misses"},
+                                                            {"V2605", "% misses"},
+                                                            {"V4606", "# points"},
+                                                            {"V4607", "% points"},
+                                                            {"F125", "input"},
+                                                            {"F825", "input$"}};
   std::string typed;
   for (const std::string& word : Words(source)) {
     const auto entry = kTyped.find(word);
@@ -92,18 +111,29 @@ TEST(Vocabulary, EveryRowOfOwnTokensIsReachedByItsOwnSource) {
 
 TEST(Vocabulary, RowsThatMakeWordsLeadToTheirPhrases) {
   const std::pair<const char*, const char*> cases[] = {
-      {"simulated hours", "-11:1200"},       {"hours", "-11:1200"},
+      {"simulated hours", "-11:1200"},
+      {"hours", "-11:1200"},
       {"average bankroll(5)", "-1:110 20:0 -31:5 21:0"},
-      {"number of rolls", "-11:2504"},       {"# of rolls rolled", "error: Unknown or misplaced element:\r\rrolls"},
-      {"# rolled", "-11:2504"},              {"% of probable", "-11:2501"},
-      {"# of rolls probable", "-11:2502"},   {"stop autorolling/turboroll", "-61:115"},
-      {"checkstack12", "-11:112"},           {"checkstack #12", "-1:21 -31:12"},
-      {"cs#12", "-11:112"},                  {"checkstacks", "-11:980"},
-      {"checkstack names", "-11:990"},       {"name checkstack7", "-11:807"},
-      {"csname7", "-11:807"},                {"csn#7", "-11:807"},
-      {"cs5.", "-11:105"},                   {"csn5.", "-11:805"},
-      {"greatest(1)", "-1:126 20:0 -31:1 21:0"}, {"smallest$(1)", "-1:133 20:0 -31:1 21:0"},
-      {"least(1)", "-1:127 20:0 -31:1 21:0"},    {"largest$(1)", "-1:132 20:0 -31:1 21:0"},
+      {"number of rolls", "-11:2504"},
+      {"# of rolls rolled", "error: Unknown or misplaced element:\r\rrolls"},
+      {"# rolled", "-11:2504"},
+      {"% of probable", "-11:2501"},
+      {"# of rolls probable", "-11:2502"},
+      {"stop autorolling/turboroll", "-61:115"},
+      {"checkstack12", "-11:112"},
+      {"checkstack #12", "-1:21 -31:12"},
+      {"cs#12", "-11:112"},
+      {"checkstacks", "-11:980"},
+      {"checkstack names", "-11:990"},
+      {"name checkstack7", "-11:807"},
+      {"csname7", "-11:807"},
+      {"csn#7", "-11:807"},
+      {"cs5.", "-11:105"},
+      {"csn5.", "-11:805"},
+      {"greatest(1)", "-1:126 20:0 -31:1 21:0"},
+      {"smallest$(1)", "-1:133 20:0 -31:1 21:0"},
+      {"least(1)", "-1:127 20:0 -31:1 21:0"},
+      {"largest$(1)", "-1:132 20:0 -31:1 21:0"},
   };
   for (const auto& [line, records] : cases) {
     EXPECT_EQ(FirstPass(line), records) << line;
@@ -149,7 +179,8 @@ TEST(Vocabulary, EveryBetHasAWordThatLeadsBackToIt) {
   }
   EXPECT_EQ(BetFromWord(" PassLine "), 43);
   EXPECT_EQ(BetFromWord("hop43"), 77);
-  for (const char* word : {"", "cs1", "bets", "place", "passlin", "V043"}) EXPECT_EQ(BetFromWord(word), 0) << word;
+  for (const char* word : {"", "cs1", "bets", "place", "passlin", "V043"})
+    EXPECT_EQ(BetFromWord(word), 0) << word;
   EXPECT_TRUE(BetWord(0).empty());
   EXPECT_TRUE(BetWord(94).empty());
 }
