@@ -1,21 +1,15 @@
 #include "autobet/script_files.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
+#include <filesystem>
 #include <system_error>
-
-#if defined(__unix__) || defined(__APPLE__)
-#include <unistd.h>
-#endif
+#include <utility>
 
 #include "autobet/script_text.h"
+#include "persist/record_file.h"
 
 namespace tessaryn {
 namespace {
 
-constexpr std::size_t kRecordSize = 256;
 constexpr std::size_t kTextSize = 128;
 constexpr std::size_t kKindOffset = 128;
 constexpr std::size_t kMostBytes = 64u << 20;
@@ -31,17 +25,6 @@ constexpr int kFirstBlockKind = 1;
 constexpr int kSecondBlockKind = 2;
 constexpr int kSilentKind = 13;
 
-struct FileCloser {
-  void operator()(std::FILE* file) const { std::fclose(file); }
-};
-using FileHandle = std::unique_ptr<std::FILE, FileCloser>;
-
-ScriptFileResult Fault(const std::filesystem::path& path, const std::string& reason) {
-  return {ScriptFileProblem::kFault, path.string() + ": " + reason};
-}
-
-ScriptFileResult SystemFault(const std::filesystem::path& path) { return Fault(path, std::strerror(errno)); }
-
 int ByteAt(std::string_view record, std::size_t at) {
   return at < record.size() ? static_cast<unsigned char>(record[at]) : 0;
 }
@@ -49,8 +32,8 @@ int ByteAt(std::string_view record, std::size_t at) {
 std::vector<std::string> ReadOldScript(std::string_view bytes) {
   std::vector<std::string> lines;
   bool blockOpen = false;
-  for (std::size_t at = kRecordSize; at < bytes.size(); at += kRecordSize) {
-    const std::string_view record = bytes.substr(at, kRecordSize);
+  for (std::size_t at = kRecordBytes; at < bytes.size(); at += kRecordBytes) {
+    const std::string_view record = bytes.substr(at, kRecordBytes);
     if (ByteAt(record, 0) < 1) continue;
     const int kind = ByteAt(record, kKindOffset) | ByteAt(record, kKindOffset + 1) << 8;
     const bool opensBlock = kind == kFirstBlockKind || kind == kSecondBlockKind;
@@ -78,41 +61,6 @@ std::vector<std::string> ReadText(std::string_view bytes) {
   return lines;
 }
 
-bool FlushToDisk(std::FILE* file) {
-  if (std::fflush(file) != 0) return false;
-#if defined(__unix__) || defined(__APPLE__)
-  // Some file systems can't; the data is in the system's hands then.
-  return ::fsync(::fileno(file)) == 0 || errno == EINVAL || errno == ENOTSUP;
-#else
-  return true;
-#endif
-}
-
-ScriptFileResult WriteBeside(const std::filesystem::path& path, const std::vector<std::string>& lines) {
-  const FileHandle file(std::fopen(path.string().c_str(), "w"));
-  if (!file) return SystemFault(path);
-  for (const std::string& line : lines) {
-    const bool written = std::fwrite(line.data(), 1, line.size(), file.get()) == line.size();
-    if (!written || std::fputc('\n', file.get()) == EOF) return SystemFault(path);
-  }
-  return FlushToDisk(file.get()) ? ScriptFileResult{} : SystemFault(path);
-}
-
-ScriptFileResult ReadBytes(const std::filesystem::path& path, std::string& bytes) {
-  std::error_code error;
-  const std::filesystem::file_status status = std::filesystem::status(path, error);
-  if (!std::filesystem::exists(status)) return {ScriptFileProblem::kNotFound, path.string() + ": not found"};
-  if (std::filesystem::is_directory(status)) return Fault(path, "is a folder");
-  const FileHandle file(std::fopen(path.string().c_str(), "rb"));
-  if (!file) return SystemFault(path);
-  char buffer[16384];
-  while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file.get())) {
-    bytes.append(buffer, count);
-    if (bytes.size() > kMostBytes) return Fault(path, "too large for a script");
-  }
-  return std::ferror(file.get()) ? SystemFault(path) : ScriptFileResult{};
-}
-
 }  // namespace
 
 bool IsOldScript(std::string_view bytes) {
@@ -126,24 +74,24 @@ std::vector<std::string> ScriptLinesOf(std::string_view bytes) {
   return IsOldScript(bytes) ? ReadOldScript(bytes) : ReadText(bytes);
 }
 
-ScriptFileResult ReadScriptFile(const std::filesystem::path& path, std::vector<std::string>& lines) {
+ScriptFileResult ReadScriptFile(const std::string& path, std::vector<std::string>& lines) {
+  std::error_code error;
+  if (!std::filesystem::exists(path, error) && !error) {
+    return {ScriptFileProblem::kNotFound, Concat({path, " not found"})};
+  }
   std::string bytes;
-  ScriptFileResult result = ReadBytes(path, bytes);
-  if (result.Ok()) lines = ScriptLinesOf(bytes);
-  return result;
+  std::string fault = ReadWholeFile(path, bytes, kMostBytes);
+  if (!fault.empty()) return {ScriptFileProblem::kFault, std::move(fault)};
+  lines = ScriptLinesOf(bytes);
+  return {};
 }
 
-ScriptFileResult WriteScriptFile(const std::filesystem::path& path, const std::vector<std::string>& lines) {
-  std::filesystem::path beside = path;
-  beside += ".new~";
-  std::error_code error;
-  ScriptFileResult result = WriteBeside(beside, lines);
-  if (result.Ok()) {
-    std::filesystem::rename(beside, path, error);
-    if (error) result = Fault(path, error.message());
-  }
-  if (!result.Ok()) std::filesystem::remove(beside, error);
-  return result;
+ScriptFileResult WriteScriptFile(const std::string& path, const std::vector<std::string>& lines) {
+  std::string bytes;
+  for (const std::string& line : lines) bytes.append(line).append("\n");
+  std::string fault = ReplaceFile(path, bytes);
+  if (!fault.empty()) return {ScriptFileProblem::kFault, std::move(fault)};
+  return {};
 }
 
 }  // namespace tessaryn

@@ -1,7 +1,6 @@
 // Script files: the present text form, read and written, and the binary forms of older versions, read.
 #pragma once
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,11 +21,11 @@ struct ScriptFileResult {
 
 // Reads the lines of a script. A file of an older form comes back in the present language; a file without
 // its mark is taken for text, whatever it holds. On failure lines is unchanged. At most 64 MB are read.
-ScriptFileResult ReadScriptFile(const std::filesystem::path& path, std::vector<std::string>& lines);
+ScriptFileResult ReadScriptFile(const std::string& path, std::vector<std::string>& lines);
 
 // Replaces the file by the lines, one to a line. It is written beside, flushed and renamed, so that a failure
 // leaves the old file whole.
-ScriptFileResult WriteScriptFile(const std::filesystem::path& path, const std::vector<std::string>& lines);
+ScriptFileResult WriteScriptFile(const std::string& path, const std::vector<std::string>& lines);
 
 // The same for the bytes of a file.
 std::vector<std::string> ScriptLinesOf(std::string_view bytes);

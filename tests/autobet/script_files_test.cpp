@@ -101,15 +101,14 @@ TEST_F(ScriptFiles, GivesBackWhatWasWritten) {
 
 TEST_F(ScriptFiles, LeavesTheOldFileWhenWritingFails) {
   const fs::path path = Put("a.bet", "kept\n");
-  fs::create_directory(folder_ / "a.bet.new~");  // what is written beside can't be
-  const ScriptFileResult result = WriteScriptFile(path, {"new"});
-  EXPECT_EQ(result.problem, ScriptFileProblem::kFault);
-  EXPECT_FALSE(result.message.empty());
+  EXPECT_EQ(WriteScriptFile((path / "below.bet").string(), {"new"}).problem, ScriptFileProblem::kFault);
   EXPECT_EQ(BytesOf(path), "kept\n");
+  // A device that is always full; what stands for it is written through, so only the fault is looked at.
+  EXPECT_EQ(WriteScriptFile("/dev/full", {"new"}).problem, ScriptFileProblem::kFault);
   EXPECT_EQ(WriteScriptFile(folder_ / "none" / "a.bet", {"new"}).problem, ScriptFileProblem::kFault);
   fs::create_directory(folder_ / "b.bet");
   EXPECT_EQ(WriteScriptFile(folder_ / "b.bet", {"new"}).problem, ScriptFileProblem::kFault);
-  EXPECT_FALSE(fs::exists(folder_ / "b.bet.new~"));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_), fs::directory_iterator()), 2);
 }
 
 TEST(OldScript, GainsBlockEndsAndNoLinesForSilentRecords) {
