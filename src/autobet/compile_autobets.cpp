@@ -1,5 +1,7 @@
 #include "autobet/compile_autobets.h"
 
+#include <algorithm>
+
 #include "autobet/compiler_passes.h"
 #include "autobet/normaliser.h"
 #include "autobet/script_text.h"
@@ -13,13 +15,17 @@ bool RunPasses(CompileJob& job, std::vector<int>* nesting) {
          CompileConvertToAction(job) && CompileLogic(job, nesting) && CompileCheck(job);
 }
 
+// No page is wide enough for more; without it a file of nothing but "if" would fill the memory with blanks.
+constexpr int kDeepestIndentation = 100;
+
 // What value of the program's array a value of the script's becomes; only indexes move.
 double Moved(double value, double by) { return value > 0 ? value + by : value; }
 
 }  // namespace
 
-bool CompileAutobets(int player, const std::vector<std::string>& lines, const ScriptSurroundings& surroundings,
-                     CompiledScript& out, ScriptDiagnostic& diagnostic, std::vector<int>* nesting) {
+bool CompileAutobets(int player, const std::vector<std::string>& lines,
+                     const ScriptSurroundings& surroundings, CompiledScript& out,
+                     ScriptDiagnostic& diagnostic, std::vector<int>* nesting) {
   diagnostic = {};
   CompileJob job{player, lines, surroundings, out, diagnostic};
   if (RunPasses(job, nesting)) return true;
@@ -50,12 +56,13 @@ void JoinScript(CompiledScript& program, const CompiledScript& script) {
   }
 }
 
-std::vector<std::string> ReindentScript(const std::vector<std::string>& lines, const std::vector<int>& nesting) {
+std::vector<std::string> ReindentScript(const std::vector<std::string>& lines,
+                                        const std::vector<int>& nesting) {
   std::vector<std::string> result;
   result.reserve(lines.size());
   for (std::size_t i = 0; i < lines.size(); ++i) {
     const std::string_view text = Trimmed(lines[i]);
-    const int level = i < nesting.size() && !text.empty() ? nesting[i] : 0;
+    const int level = i < nesting.size() && !text.empty() ? std::min(nesting[i], kDeepestIndentation) : 0;
     result.push_back(std::string(static_cast<std::size_t>(level) * 3, ' ').append(text));
   }
   return result;

@@ -12,9 +12,9 @@ namespace {
 enum class Shape {
   kNumber,
   kString,
-  kList,           // of values, to be compared
-  kTarget,         // one that takes a number
-  kStringTarget,   // one that takes a string
+  kList,          // of values, to be compared
+  kTarget,        // one that takes a number
+  kStringTarget,  // one that takes a string
   kBetTarget,
   kTargetList,     // all(...) of targets
   kBetTargetList,  // the same, of nothing but bets
@@ -51,7 +51,9 @@ bool IsOperator(const Item& item, int kind) { return item.shape == Shape::kOpera
 bool IsRelation(const Item& item) {
   return item.shape == Shape::kOperator && item.code >= kTokenEqual && item.code <= kTokenGreaterEqual;
 }
-bool IsTarget(const Item& item) { return item.shape >= Shape::kTarget && item.shape <= Shape::kAnyTargetList; }
+bool IsTarget(const Item& item) {
+  return item.shape >= Shape::kTarget && item.shape <= Shape::kAnyTargetList;
+}
 bool IsBoundary(const Item& item) {
   return item.shape == Shape::kOperator || item.shape == Shape::kComma || item.shape == Shape::kPreposition ||
          item.shape == Shape::kAction || item.shape == Shape::kFromRoll;
@@ -134,7 +136,8 @@ std::string MathProblem(const Sides& sides) {
 }
 
 std::string JoinProblem(const Sides& sides) {
-  const bool fits = sides.left != nullptr && sides.right != nullptr && IsValue(*sides.left) && IsValue(*sides.right);
+  const bool fits =
+      sides.left != nullptr && sides.right != nullptr && IsValue(*sides.left) && IsValue(*sides.right);
   return fits ? "" : "Unable to concatenate elements.";
 }
 
@@ -212,7 +215,8 @@ constexpr const char* kListQualifierMessage =
     "Improper qualifier in list.\r\rAcceptable qualifier format:\r"
     "    =, <>, <, >, <=, or >= followed by an expression.\rFor example:\r    > 5\r    = cs1 + 4";
 constexpr const char* kAnyTargetMessage =
-    "Improper use of list.\r\rLists defined by the keyword \"Any\"\rcannot be used to set or modify variables.";
+    "Improper use of list.\r\rLists defined by the keyword \"Any\"\rcannot be used to set or modify "
+    "variables.";
 constexpr const char* kAssignmentMessage = "Improper assignment or expression.";
 constexpr const char* kUnresolvedMessage = "Unable to resolve elements.";
 
@@ -287,8 +291,8 @@ TargetList CheckTargetList(const std::vector<Items>& parts) {
     } else if (!IsTarget(part[0])) {
       list.problem = "Improper argument.";
     } else {
-      list.betsOnly = list.betsOnly &&
-                      (part[0].shape == Shape::kBetTarget || part[0].shape == Shape::kBetTargetList);
+      list.betsOnly =
+          list.betsOnly && (part[0].shape == Shape::kBetTarget || part[0].shape == Shape::kBetTargetList);
     }
     if (!list.problem.empty()) return list;
   }
@@ -383,8 +387,10 @@ class StatementReader {
         return {};
       case kTokenFunction:
       case kTokenFunctionTarget:
-        next_ = {behindReference && code == kFunctionPlayer ? Owner::kPlayer : Owner::kFunction, code,
-                 token.kind == kTokenFunctionTarget, {}};
+        next_ = {behindReference && code == kFunctionPlayer ? Owner::kPlayer : Owner::kFunction,
+                 code,
+                 token.kind == kTokenFunctionTarget,
+                 {}};
         return {};
       case kTokenList:
         next_ = {Owner::kList, code, false, {}};
@@ -462,8 +468,9 @@ class StatementReader {
       return {};
     }
     if (frame.code == 8 && !job_.surroundings.big68) return NotOfferedMessage("Big");
-    std::string problem = IsListFunction(frame.code) ? CheckListFunction(*function, SplitAtCommas(frame.items))
-                                                     : CheckArguments(*function, SplitAtCommas(frame.items));
+    std::string problem = IsListFunction(frame.code)
+                              ? CheckListFunction(*function, SplitAtCommas(frame.items))
+                              : CheckArguments(*function, SplitAtCommas(frame.items));
     if (!problem.empty() || frame.owner == Owner::kPlayer) return problem;
     const bool string = function->type == ScriptValueType::kString;
     if (frame.target) {

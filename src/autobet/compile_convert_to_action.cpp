@@ -37,8 +37,9 @@ class TargetMarker {
     if (token.kind == kTokenThen) inCondition_ = false;
     if (inCondition_) {
       if (token.kind != kTokenLabel) return i + 1;
-      return Fail(i, "Improper placement of label.\rLabels cannot appear within condition statements "
-                     "(between If and Then).");
+      return Fail(i,
+                  "Improper placement of label.\rLabels cannot appear within condition statements "
+                  "(between If and Then).");
     }
     return StepInAction(i);
   }
@@ -124,7 +125,8 @@ class TargetMarker {
       if (token.kind == kTokenPlayer) continue;
       if (token.kind == kTokenScope) {
         if (value == kScopeCurrentHand || value == kScopeCurrentSession) continue;
-        return FailAt(job_, i, "Unable to set the value of a bet that is not in the current hand or session.");
+        return FailAt(job_, i,
+                      "Unable to set the value of a bet that is not in the current hand or session.");
       }
       if (token.kind == kTokenMetric) {
         if (value == kMetricTendered || value == kMetricWagered) continue;

@@ -116,8 +116,8 @@ class LogicPass {
   bool ElseIf(std::size_t i) {
     if (thens_.empty() || inCondition_) return FailAt(job_, i, "ELSEIF out of position.");
     if (Top(thens_) < Top(ifs_)) {
-      return FailAt(job_, i,
-                    "ELSEIF out of position.\rCannot be placed after ELSE within the same IF/THEN statement.");
+      return FailAt(
+          job_, i, "ELSEIF out of position.\rCannot be placed after ELSE within the same IF/THEN statement.");
     }
     PatchTop(thens_, i);
     OpenCondition(i);
@@ -180,8 +180,8 @@ class LogicPass {
     if (i > 1 && before < kStatementMarker && !(before >= kTokenIf && before < kTokenEndIf)) {
       return FailAt(job_, i, name + " here should be preceded with a colon :");
     }
-    const std::string text =
-        string ? job_.script.strings[static_cast<std::size_t>(reference.value)].text : GeneralNumber(reference.value);
+    const std::string text = string ? job_.script.strings[static_cast<std::size_t>(reference.value)].text
+                                    : GeneralNumber(reference.value);
     const auto label = labels_.find(Lowered(Trimmed(text)));
     if (label == labels_.end()) return FailAt(job_, i, "Label \"" + text + "\" not found.");
     reference.value = static_cast<double>(label->second);
@@ -214,8 +214,8 @@ class LogicPass {
   bool inCondition_ = false;
   std::size_t condition_ = 0;  // the "if" or "elseif" whose condition was opened last
   int nesting_ = 0;
-  std::vector<int> levels_;                      // by line; -1 for a line without statements
-  std::unordered_map<int, int> openBehind_;      // blocks open behind the line's last marker
+  std::vector<int> levels_;                  // by line; -1 for a line without statements
+  std::unordered_map<int, int> openBehind_;  // blocks open behind the line's last marker
 };
 
 }  // namespace

@@ -36,7 +36,8 @@ bool CompileVariablesDistribute(CompileJob& job) {
     }
     const std::size_t end = ModifiersEnd(tokens, match, i);
     const std::vector<int> members = GroupMembers(code, job.surroundings);
-    if (result.size() + members.size() * (end - i + 1) > kMostTokens) return FailAt(job, i, "Script too large.");
+    if (result.size() + members.size() * (end - i + 1) > kMostTokens)
+      return FailAt(job, i, "Script too large.");
     for (std::size_t m = 0; m < members.size(); ++m) {
       if (m > 0) result.push_back({kTokenComma, 0});
       result.push_back({kTokenVariable, static_cast<double>(members[m])});

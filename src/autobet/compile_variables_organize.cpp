@@ -41,9 +41,7 @@ struct Group {
   double number = 0;
   int numbers = 0;
 
-  bool HasModifier() const {
-    return scope != kNotGiven || metric != kNotGiven || measure != kNotGiven;
-  }
+  bool HasModifier() const { return scope != kNotGiven || metric != kNotGiven || measure != kNotGiven; }
 };
 
 // What a reference's rules are judged on.
@@ -57,9 +55,7 @@ struct Reference {
 
 constexpr const char* kAmbiguousVariable = "Ambiguous variable references";
 
-std::string Ambiguous(const std::string& detail) {
-  return std::string(kAmbiguousVariable) + "\r\r" + detail;
-}
+std::string Ambiguous(const std::string& detail) { return std::string(kAmbiguousVariable) + "\r\r" + detail; }
 
 bool IsOneOf(double value, std::initializer_list<int> allowed) {
   for (const int one : allowed) {
@@ -115,8 +111,7 @@ std::string JudgeScopeClass(const Reference& reference, const Group& group) {
   if (group.metric != kNotGiven || group.measure != kNotGiven || group.hasNumber) return kAmbiguousVariable;
   const bool perHand = reference.code >= 1501 && reference.code <= 1508;
   if (perHand && group.scope != kNotGiven && group.scope < kScopeCurrentSession) {
-    return Ambiguous(NameOf(reference) +
-                     " only applies to\rcurrent session, last session, or all sessions.");
+    return Ambiguous(NameOf(reference) + " only applies to\rcurrent session, last session, or all sessions.");
   }
   return {};
 }
@@ -126,7 +121,8 @@ std::string JudgeScopeClass(const Reference& reference, const Group& group) {
 std::string JudgeMeasureClass(const Reference& reference, const Group& group) {
   if (group.metric != kNotGiven || (group.hasNumber && group.measure != kNotGiven)) return kAmbiguousVariable;
   const bool sinceLast = reference.code == (reference.function ? 35 : kVariableRollsSinceLast);
-  if (sinceLast && group.scope != kNotGiven && !IsOneOf(group.scope, {kScopeCurrentSession, kScopeAllSessions})) {
+  if (sinceLast && group.scope != kNotGiven &&
+      !IsOneOf(group.scope, {kScopeCurrentSession, kScopeAllSessions})) {
     return Ambiguous(NameOf(reference) + " only applies to\rcurrent session or all sessions.");
   }
   if (group.measure != kNotGiven) {
@@ -165,9 +161,17 @@ const MeasureRule kMeasureRules[] = {
     {25, 25, {1, 2, 3, 4, 5, 10}, "'Average' only applies to resolved wagers.", {}, ""},
     {27, 27, {1, 2, 3, 10}, "'# rolls since last'\ronly applies to wagers, wins, and losses.", {}, ""},
     {32, 32, {4, 5}, "'Expected value'\ronly available as net or net %", {}, ""},
-    {33, 34, {0, 1}, "'Current' only applies to tendered wagers.", {1, 2, 3},
+    {33,
+     34,
+     {0, 1},
+     "'Current' only applies to tendered wagers.",
+     {1, 2, 3},
      "'Current' only applies to\rcurrent hand, current session, or all sessions."},
-    {35, 36, {0, 1}, "'Prior' only applies to tendered wagers.", {1, 2, 3},
+    {35,
+     36,
+     {0, 1},
+     "'Prior' only applies to tendered wagers.",
+     {1, 2, 3},
      "'Prior' only applies to current hand, current session, or all sessions."},
     {37, 37, {}, "", {1, 3}, "'Working' only applies to current hand or session."},
     {38, 38, {}, "", {1, 3}, "'Called on' only applies to current hand or session."},
@@ -197,8 +201,9 @@ std::string JudgeBet(const Group& group) {
   }
   // What is counted of dice and points says nothing about a bet.
   const bool ofPoints = group.metric != kNotGiven && InRange(group.metric, kMetricEstablished, kMetricMissed);
-  const bool ofDice = group.measure != kNotGiven &&
-                      (IsOneOf(group.measure, {kMeasureNaturals, kMeasurePoints}) || InRange(group.measure, 78, 89));
+  const bool ofDice =
+      group.measure != kNotGiven &&
+      (IsOneOf(group.measure, {kMeasureNaturals, kMeasurePoints}) || InRange(group.measure, 78, 89));
   if (ofPoints || ofDice || group.hasNumber) return kAmbiguousVariable;
   return JudgeMeasureOfBet(group);
 }

@@ -182,15 +182,15 @@ struct GroupEntry {
 };
 
 constexpr GroupEntry kGroups[] = {
-    {4000, 1, 6, false},    {4001, 2, 5, false},   {4002, 1, 6, true},       // lay
-    {4010, 7, 12, false},   {4011, 8, 11, false},  {4012, 7, 12, true},      // don't come
-    {4020, 13, 18, false},  {4021, 14, 17, false}, {4022, 13, 18, true},     // don't come odds
-    {4030, 19, 24, false},  {4031, 20, 23, false}, {4032, 19, 24, true},     // come
-    {4040, 25, 30, false},  {4041, 26, 29, false}, {4042, 25, 30, true},     // come odds
-    {4050, 31, 36, false},  {4051, 32, 35, false}, {4052, 31, 36, true},     // place
-    {4060, 37, 42, false},  {4061, 38, 41, false}, {4062, 37, 42, true},     // buy
-    {4070, 50, 51, false},  {4071, 52, 55, false}, {4072, 67, 83, false},    // big, hardways, hop
-    {980, 100, 199, false}, {990, 800, 899, false}, {4100, 1, 93, false},    // checkstacks, names, all bets
+    {4000, 1, 6, false},    {4001, 2, 5, false},    {4002, 1, 6, true},     // lay
+    {4010, 7, 12, false},   {4011, 8, 11, false},   {4012, 7, 12, true},    // don't come
+    {4020, 13, 18, false},  {4021, 14, 17, false},  {4022, 13, 18, true},   // don't come odds
+    {4030, 19, 24, false},  {4031, 20, 23, false},  {4032, 19, 24, true},   // come
+    {4040, 25, 30, false},  {4041, 26, 29, false},  {4042, 25, 30, true},   // come odds
+    {4050, 31, 36, false},  {4051, 32, 35, false},  {4052, 31, 36, true},   // place
+    {4060, 37, 42, false},  {4061, 38, 41, false},  {4062, 37, 42, true},   // buy
+    {4070, 50, 51, false},  {4071, 52, 55, false},  {4072, 67, 83, false},  // big, hardways, hop
+    {980, 100, 199, false}, {990, 800, 899, false}, {4100, 1, 93, false},   // checkstacks, names, all bets
 };
 
 const GroupEntry* FindGroup(int code) {
@@ -203,7 +203,7 @@ struct BetFamily {
   int first;
   int last;
   std::string_view name;
-  bool ScriptSurroundings::* offered;
+  bool ScriptSurroundings::*offered;
 };
 
 constexpr BetFamily kOptionalFamilies[] = {
@@ -220,18 +220,18 @@ struct ActionEntry {
 };
 
 constexpr ActionEntry kActions[] = {
-    {210, ActionShape::kText},          {211, ActionShape::kText},
-    {212, ActionShape::kString},        {213, ActionShape::kString},
-    {220, ActionShape::kString},        {221, ActionShape::kString},
-    {223, ActionShape::kText},          {225, ActionShape::kOptionalNumber},
+    {210, ActionShape::kText},           {211, ActionShape::kText},
+    {212, ActionShape::kString},         {213, ActionShape::kString},
+    {220, ActionShape::kString},         {221, ActionShape::kString},
+    {223, ActionShape::kText},           {225, ActionShape::kOptionalNumber},
     {226, ActionShape::kOptionalNumber}, {230, ActionShape::kNumber},
-    {300, ActionShape::kSwap},          {310, ActionShape::kRollFile},
-    {450, ActionShape::kPlaceBets},     {451, ActionShape::kBetTargets},
-    {452, ActionShape::kBetTargets},    {453, ActionShape::kBetTargets},
-    {460, ActionShape::kTargets},       {481, ActionShape::kAmountTargets},
-    {482, ActionShape::kAmountTargets}, {483, ActionShape::kAmountTargets},
-    {484, ActionShape::kAmountTargets}, {485, ActionShape::kAmountTargets},
-    {487, ActionShape::kAmountTargets}, {488, ActionShape::kAmountTargets},
+    {300, ActionShape::kSwap},           {310, ActionShape::kRollFile},
+    {450, ActionShape::kPlaceBets},      {451, ActionShape::kBetTargets},
+    {452, ActionShape::kBetTargets},     {453, ActionShape::kBetTargets},
+    {460, ActionShape::kTargets},        {481, ActionShape::kAmountTargets},
+    {482, ActionShape::kAmountTargets},  {483, ActionShape::kAmountTargets},
+    {484, ActionShape::kAmountTargets},  {485, ActionShape::kAmountTargets},
+    {487, ActionShape::kAmountTargets},  {488, ActionShape::kAmountTargets},
     {489, ActionShape::kAmountTargets},
 };
 

@@ -101,7 +101,7 @@ std::vector<Phrase> NamePhrases(const ScriptSurroundings& surroundings) {
       phrase.source.push_back({std::move(word), id, 0, 0});
     }
     if (phrase.source.empty()) continue;
-    const std::string token = "P" + std::to_string(seat);
+    const std::string token = Concat({"P", std::to_string(seat)});
     phrase.token.push_back({token, FindId(Vocabulary(), token), 0, 0});
     phrases.push_back(std::move(phrase));
   }
@@ -122,7 +122,7 @@ bool TakeOutStrings(const std::vector<LinePiece>& pieces, CompiledScript& script
     if (piece.kind != PieceKind::kString) {
       for (std::size_t i = 0; i < piece.text.size(); ++i) {
         const int column = std::min(piece.begin + static_cast<int>(i), piece.end - 1);
-        text.push_back({Lowered(piece.text[i]), column, column + 1});
+        text.push_back({Lowered(piece.text[i]), column, i + 1 == piece.text.size() ? piece.end : column + 1});
       }
       continue;
     }
@@ -131,9 +131,9 @@ bool TakeOutStrings(const std::vector<LinePiece>& pieces, CompiledScript& script
     if (piece.text.size() > 2) {
       script.strings.push_back({piece.text.substr(1, piece.text.size() - 2), 0});
       const std::string digits = std::to_string(script.strings.size() - 1);
-      token = "S" + std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+      token = Concat({digits.size() == 1 ? "S00" : digits.size() == 2 ? "S0" : "S", digits});
     }
-    Append(text, " " + token + " ", piece.begin, piece.end);
+    Append(text, Concat({" ", token, " "}), piece.begin, piece.end);
   }
   text.push_back({});
   return true;
@@ -151,6 +151,7 @@ bool MatchesAt(const WorkText& text, std::size_t at, std::string_view source, bo
 
 void ApplySign(const VocabularyRow& row, WorkText& text) {
   const bool words = row.ends != RowEnds::kSign;
+  const std::string token = Concat({" ", row.token, " "});
   const auto startsHere = [&](std::size_t at) { return MatchesAt(text, at, row.source, words); };
   std::size_t at = 0;
   while (at < text.size() && !startsHere(at)) ++at;
@@ -159,7 +160,7 @@ void ApplySign(const VocabularyRow& row, WorkText& text) {
   while (at < text.size()) {
     if (startsHere(at)) {
       const std::size_t last = at + row.source.size() - 1;
-      Append(result, " " + row.token + " ", text[at].begin, text[last].end);
+      Append(result, token, text[at].begin, text[last].end);
       at = last + 1;
     } else {
       result.push_back(text[at++]);
@@ -200,7 +201,12 @@ class WordPresence {
   std::vector<std::uint64_t> bits_;
 };
 
-bool SameWord(const WorkWord& a, const WorkWord& b) { return a.id == b.id && (a.id >= 0 || a.text == b.text); }
+bool SameWord(const WorkWord& a, const WorkWord& b) {
+  return a.id == b.id && (a.id >= 0 || a.text == b.text);
+}
+
+// No phrase goes on for longer than this; a line of one endless word is not worth the search.
+constexpr std::size_t kLongestStemWord = 200;
 
 // wordAt(i) is the i-th of count words to look at.
 template <typename WordAt>
@@ -211,7 +217,9 @@ bool PhraseMatches(const Phrase& phrase, std::size_t count, WordAt wordAt) {
   for (std::size_t i = 0; i < whole; ++i) {
     if (!SameWord(phrase.source[i], wordAt(i))) return false;
   }
-  return !phrase.stem || wordAt(length - 1).text.starts_with(phrase.source.back().text);
+  if (!phrase.stem) return true;
+  const std::string& last = wordAt(length - 1).text;
+  return last.size() <= kLongestStemWord && last.starts_with(phrase.source.back().text);
 }
 
 std::size_t FindPhrase(const Phrase& phrase, const std::vector<WorkWord>& words) {
@@ -333,7 +341,7 @@ std::string UnknownWordMessage(const std::string& word) {
   }
   if (word == "session") return "Please specify:\r\rcurrent session, last session, or all sessions.";
   if (word == "hand") return "Please specify:\r\rcurrent hand, last hand, or all hands.";
-  return "Unknown or misplaced element:\r\r" + word;
+  return Concat({"Unknown or misplaced element:\r\r", word});
 }
 
 // Writes the records of one script.
@@ -372,9 +380,7 @@ class TokenWriter {
   std::size_t LastIndex() const { return tokens_.size() - 1; }
 
  private:
-  void AddMarker(int column) {
-    tokens_.push_back({kStatementMarker + line_, static_cast<double>(column)});
-  }
+  void AddMarker(int column) { tokens_.push_back({kStatementMarker + line_, static_cast<double>(column)}); }
   // A keyword stands in a statement of its own; a jump keeps its reference.
   void AddKeyword(const ScriptToken& token, const WorkWord& word) {
     if (tokens_.back().kind < kStatementMarker) AddMarker(word.begin);
@@ -406,8 +412,9 @@ bool IsEmptyLine(std::string_view line) {
 
 }  // namespace
 
-bool NormaliseScript(int player, const std::vector<std::string>& lines, const ScriptSurroundings& surroundings,
-                     CompiledScript& script, ScriptDiagnostic& diagnostic) {
+bool NormaliseScript(int player, const std::vector<std::string>& lines,
+                     const ScriptSurroundings& surroundings, CompiledScript& script,
+                     ScriptDiagnostic& diagnostic) {
   TokenWriter writer(player, script);
   const std::vector<Phrase> names = NamePhrases(surroundings);
   std::vector<WorkWord> words;
@@ -435,11 +442,10 @@ ScriptNameProblem CheckPlayerName(std::string_view name) {
   if (ParseScriptNumber(lowered.starts_with('$') ? lowered.substr(1) : lowered, value)) {
     return ScriptNameProblem::kNumeric;
   }
-  const std::string padded = " " + lowered + " ";
+  const std::string padded = Concat({" ", lowered, " "});
   for (const VocabularyRow& row : VocabularyRows()) {
-    std::string source = row.source;
-    if (row.ends != RowEnds::kSign) source.insert(0, " ");
-    if (row.ends == RowEnds::kWords) source += ' ';
+    const std::string source =
+        Concat({row.ends == RowEnds::kSign ? "" : " ", row.source, row.ends == RowEnds::kWords ? " " : ""});
     if (padded.find(source) != std::string::npos) return ScriptNameProblem::kReservedWord;
   }
   return ScriptNameProblem::kNone;

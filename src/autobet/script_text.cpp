@@ -48,6 +48,12 @@ std::string_view Trimmed(std::string_view text) {
   return text;
 }
 
+std::string Concat(std::initializer_list<std::string_view> parts) {
+  std::string text;
+  for (const std::string_view part : parts) text.append(part);
+  return text;
+}
+
 bool ParseScriptNumber(std::string_view text, double& value) {
   if (!HasNumberShape(text)) return false;
   double parsed = 0;

@@ -13,6 +13,13 @@ constexpr std::string_view kSigns = "()=^*/\\+-<>&$:;,";
 bool IsSign(char c) { return kSigns.find(c) != std::string_view::npos; }
 bool IsLetter(char c) { return Lowered(c) >= 'a' && Lowered(c) <= 'z'; }
 
+// "<=" and its like, typed as one.
+bool IsRelationPair(char first, char second) {
+  constexpr std::string_view kHalves = "<>=";
+  return first != second && kHalves.find(first) != std::string_view::npos &&
+         kHalves.find(second) != std::string_view::npos;
+}
+
 // The end of the piece that begins at start.
 std::size_t PieceEnd(std::string_view line, std::size_t start, PieceKind kind) {
   std::size_t at = start + 1;
@@ -20,7 +27,7 @@ std::size_t PieceEnd(std::string_view line, std::size_t start, PieceKind kind) {
     case PieceKind::kComment:
       return line.size();
     case PieceKind::kSign:
-      return at;
+      return at < line.size() && IsRelationPair(line[start], line[at]) ? at + 1 : at;
     case PieceKind::kString:
       while (at < line.size() && line[at] != '"') ++at;
       return at < line.size() ? at + 1 : at;
@@ -62,7 +69,7 @@ std::vector<LinePiece> SplitLine(std::string_view line) {
     const bool afterSign = !pieces.empty() && pieces.back().kind == PieceKind::kSign;
     const bool afterName = !pieces.empty() && pieces.back().text.back() == '$';
     const bool setOff = piece.kind == PieceKind::kSign || afterSign || afterName;
-    if (piece.gap.empty() && setOff && !pieces.empty()) piece.gap = " ";
+    if (piece.gap.empty() && setOff && !pieces.empty()) piece.gap.push_back(' ');
     pieces.push_back(std::move(piece));
     at = end;
   }
@@ -73,7 +80,8 @@ std::vector<LinePiece> SplitLine(std::string_view line) {
 void BringNumbersToGeneralForm(std::vector<LinePiece>& pieces) {
   for (LinePiece& piece : pieces) {
     double value = 0;
-    if (piece.kind == PieceKind::kWord && ParseScriptNumber(piece.text, value)) piece.text = GeneralNumber(value);
+    if (piece.kind == PieceKind::kWord && ParseScriptNumber(piece.text, value))
+      piece.text = GeneralNumber(value);
   }
 }
 
@@ -97,8 +105,8 @@ bool IsNumber(const LinePiece& piece) {
 
 // These words keep the blank ahead of a bracket; anything else is taken for a function's name.
 bool KeepsBlankBeforeBracket(const LinePiece& piece) {
-  static constexpr std::array<std::string_view, 11> kWords = {"do",  "or",   "if",   "xor",   "and",   "wend",
-                                                              "else", "then", "when", "while", "elseif"};
+  static constexpr std::array<std::string_view, 11> kWords = {
+      "do", "or", "if", "xor", "and", "wend", "else", "then", "when", "while", "elseif"};
   for (const std::string_view word : kWords) {
     if (IsWordOf(piece, word)) return true;
   }
@@ -111,12 +119,16 @@ void JoinToLast(std::vector<LinePiece>& done, const LinePiece& piece, std::strin
   done.back().end = piece.end;
 }
 
-// The one operator that two halves make; empty when they make none.
+// The operator that two halves make, in either order.
+std::string_view RelationOf(char first, char second) {
+  if (first != '=' && second != '=') return "<>";
+  return first == '<' || second == '<' ? "<=" : ">=";
+}
+
+// The one operator that two pieces make; empty when they make none.
 std::string_view JoinedRelation(const LinePiece& first, const LinePiece& second) {
   if (!IsSignOf(first, "<>=") || !IsSignOf(second, "<>=") || first.text == second.text) return {};
-  const bool equal = first.text == "=" || second.text == "=";
-  if (!equal) return "<>";
-  return first.text == "<" || second.text == "<" ? "<=" : ">=";
+  return RelationOf(first.text[0], second.text[0]);
 }
 
 // Doubled signs: "- -" is "+", "+ -" is "-", and a plus behind an operator says nothing.
@@ -147,7 +159,7 @@ bool JoinPair(std::vector<LinePiece>& done, const LinePiece& piece) {
     return true;
   }
   if (IsSignOf(last, "$") && IsNumber(piece)) {
-    JoinToLast(done, piece, "$" + piece.text, PieceKind::kWord);
+    JoinToLast(done, piece, Concat({"$", piece.text}), PieceKind::kWord);
     return true;
   }
   const bool goTo = IsWordOf(last, "go") && IsWordOf(piece, "to");
@@ -162,6 +174,9 @@ std::vector<LinePiece> CloseUp(std::vector<LinePiece> pieces) {
   std::vector<LinePiece> done;
   done.reserve(pieces.size());
   for (LinePiece& piece : pieces) {
+    if (piece.kind == PieceKind::kSign && piece.text.size() == 2) {
+      piece.text = RelationOf(piece.text[0], piece.text[1]);
+    }
     if (JoinDoubledSign(done, piece) || JoinPair(done, piece)) continue;
     if (IsNumber(piece) && IsSignOfNumber(done)) {
       piece.gap.clear();

@@ -5,30 +5,41 @@
 namespace tessaryn {
 namespace {
 
-void AddFamily(std::vector<VocabularyRow>& rows, const std::string& word, const std::string& end, int base) {
-  for (int n = 99; n >= 0; --n) {
-    rows.push_back({word + std::to_string(n) + end, "V" + std::to_string(base + n) + end, RowEnds::kWords});
-  }
-}
+// A line of the table. A family has its word and end for source and token, and its last number's code.
+struct TableLine {
+  std::string_view source;
+  std::string_view token;
+  RowEnds ends;
+  int familyBase;  // -1 for a single row
+};
 
-std::vector<VocabularyRow> BuildRows() {
-  std::vector<VocabularyRow> rows;
-  rows.reserve(1000);
-#define SIGN(source, token) rows.push_back({source, token, RowEnds::kSign});
-#define ROW(source, token) rows.push_back({source, token, RowEnds::kWords});
-#define STEM(source, token) rows.push_back({source, token, RowEnds::kStem});
-#define FAMILY(word, end, base) AddFamily(rows, word, end, base);
+constexpr TableLine kTable[] = {
+#define SIGN(source, token) {source, token, RowEnds::kSign, -1},
+#define ROW(source, token) {source, token, RowEnds::kWords, -1},
+#define STEM(source, token) {source, token, RowEnds::kStem, -1},
+#define FAMILY(word, end, base) {word, end, RowEnds::kWords, base},
 #include "autobet/vocabulary.inc"
 #undef SIGN
 #undef ROW
 #undef STEM
 #undef FAMILY
+};
+
+std::vector<VocabularyRow> BuildRows() {
+  std::vector<VocabularyRow> rows;
+  for (const TableLine& line : kTable) {
+    if (line.familyBase < 0) rows.push_back({std::string(line.source), std::string(line.token), line.ends});
+    for (int n = 99; line.familyBase >= 0 && n >= 0; --n) {
+      rows.push_back({Concat({line.source, std::to_string(n), line.token}),
+                      Concat({"V", std::to_string(line.familyBase + n), line.token}), line.ends});
+    }
+  }
   return rows;
 }
 
 std::string BetToken(int bet) {
   std::string digits = std::to_string(bet);
-  return "V" + std::string(3 - digits.size(), '0') + digits;
+  return Concat({digits.size() == 1 ? "V00" : "V0", digits});
 }
 
 }  // namespace
