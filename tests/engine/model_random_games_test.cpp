@@ -328,7 +328,7 @@ void ChooseHandling(Pair& pair, int seat) {
   static const int values[] = {1, 2, 3, 5, 10, 25, 50, 150};
   m.WinHandling[seat] = h.WinHandling = pair.Pick(0, 7);
   m.LoseHandling[seat] = h.LoseHandling = pair.Pick(0, 7);
-  m.ProperOddsMode[seat] = h.ProperOddsMode = 0;
+  m.ProperOddsMode[seat] = h.ProperOddsMode = pair.Chance(75) ? 0 : pair.Pick(1, 2);
   m.AutoTakeOdds[seat] = h.AutoTakeOdds = pair.Chance(40);
   m.AutoLayOdds[seat] = h.AutoLayOdds = pair.Chance(40);
   m.AutoDownPlace[seat] = h.AutoDownPlace = pair.Chance(30);

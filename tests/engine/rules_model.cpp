@@ -799,12 +799,19 @@ Currency LimitToMaximum(const RulesModel& m, int seat, int bet, Currency change)
 
 Currency ProperOddsAmount(const RulesModel& m, int seat, int bet, Currency change) {
   const Currency amount = m.BetAmount[seat][bet];
-  const Currency unit = m.PayoffTable[bet].BetUnit;
   const Currency newAmount = amount + change;
+  Currency unit = m.PayoffTable[bet].BetUnit;
+  if (m.ProperOddsMode[seat] == 2) {  // in the largest colour of check that the amount holds
+    const Currency small = unit;
+    for (int n = 1; n <= 5; ++n) {
+      const Currency step = Ratio(m.CheckValue[n], small, Unit(m));
+      if (step <= newAmount) unit = step;
+    }
+  }
   if (IsMultiple(newAmount, unit)) return change;
   const Currency lower = Floor(newAmount, unit);
   const Currency higher = lower + unit;
-  const bool down = change < kZero || m.ParlayBias[seat] || higher > MaxBetFor(m, seat, bet);
+  const bool down = change <= kZero || m.ParlayBias[seat] || higher > MaxBetFor(m, seat, bet);
   return (down ? lower : higher) - amount;
 }
 
