@@ -3,11 +3,19 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdlib>
 #include <memory>
 #include <random>
 #include <set>
+#include <vector>
 
+#include "engine/bankroll.h"
+#include "engine/bet_rules.h"
+#include "engine/consistency.h"
 #include "engine/edge_table.h"
+#include "engine/game.h"
+#include "engine/players.h"
+#include "engine/roll_cycle.h"
 #include "engine/rules_model.h"
 
 namespace tessaryn::model {
@@ -51,50 +59,119 @@ TEST(ModelOrder, EveryDecisionIsVisitedOnce) {
           }
 }
 
-// Every bet made at every chance, in the stake of the edge table.
-void BetAll(RulesModel& m, int seat, const int (&stakes)[94]) {
-  const auto fill = [&](int bet) {
-    if (m.BetAmount[seat][bet] == kZero) ChangeBet(m, seat, bet, Currency::Dollars(stakes[bet]));
-  };
-  for (int bet = 1; bet <= kLastBet; ++bet)
-    if (bet < 7 || bet > 30) fill(bet);
-  for (int bet = 13; bet <= 30; ++bet)
-    if ((bet <= 18 || bet >= 25) && m.BetAmount[seat][bet - 6] > kZero) fill(bet);
+int Stake(int bet) {
+  static const std::vector<int> stakes = [] {
+    std::vector<int> table(94);
+    for (int i = 1; i <= kLastBet; ++i) table[i] = edges::EdgeOf(i).stake;
+    return table;
+  }();
+  return stakes[bet];
 }
 
-TEST(ModelEdges, EveryBetIsWorthItsArithmetic) {
-  auto model = std::make_unique<RulesModel>();
-  ResetModel(*model);
-  model->ShooterBetRule = 0;
-  model->AllowPutBets = false;  // a Come bet comes down once it has won
-  AddPlayer(*model, 3, kZero);
-  model->AllowNegativeBankroll[3] = true;
-  model->WinHandling[3] = model->LoseHandling[3] = 1;
-  for (int bet = 1; bet <= kLastBet; ++bet) model->BetDefaultWorking[3][bet] = 1;
+// Every bet made at every chance, in the stake of the edge table. amount: what is up on a bet; bet: asks for
+// a change.
+template <typename Amount, typename Bet>
+void BetAll(Amount&& amount, Bet&& bet) {
+  const auto fill = [&](int number) {
+    if (amount(number) == kZero) bet(number, Currency::Dollars(Stake(number)));
+  };
+  for (int number = 1; number <= kLastBet; ++number)
+    if (number < 7 || number > 30) fill(number);
+  for (int odds = 13; odds <= 30; ++odds)
+    if ((odds <= 18 || odds >= 25) && amount(odds - 6) > kZero) fill(odds);
+}
 
-  int stakes[94] = {};
-  for (int bet = 1; bet <= kLastBet; ++bet) stakes[bet] = edges::EdgeOf(bet).stake;
+struct Result {
+  double count = 0;
+  double sum = 0;
+};
 
-  std::mt19937_64 random(20260731);
-  const auto face = [&random] { return static_cast<int>((random() >> 32) * 6 >> 32) + 1; };
-  double count[94] = {};
-  double sum[94] = {};
-  for (int roll = 0; roll < 300'000; ++roll) {
-    BetAll(*model, 3, stakes);
-    const int die1 = face();
-    ASSERT_TRUE(Roll(*model, die1, face()));
-    for (const Decision& decision : model->Decisions) {
-      ++count[decision.bet];
-      sum[decision.bet] += decision.net.ToDouble();
+void ExpectEdge(int bet, Result result) {
+  const edges::BetEdge edge = edges::EdgeOf(bet);
+  ASSERT_GT(result.count, 500) << bet;
+  EXPECT_NEAR(result.sum / result.count, edge.mean, 4 * std::sqrt(edge.variance / result.count))
+      << "bet " << bet << ", decided " << result.count << " times";
+}
+
+struct Dice {
+  std::mt19937_64 random;
+  int Face() { return static_cast<int>((random() >> 32) * 6 >> 32) + 1; }
+};
+
+// TESSARYN_EDGE_ROLLS makes both runs longer.
+long RollsWanted() {
+  const char* text = std::getenv("TESSARYN_EDGE_ROLLS");
+  return text != nullptr ? std::atol(text) : 250'000;
+}
+
+TEST(ModelEdges, PlainRulesPayWhatTheBetsAreWorth) {
+  auto m = std::make_unique<RulesModel>();
+  ResetModel(*m);
+  m->ShooterBetRule = 0;
+  m->AllowPutBets = false;  // a Come bet comes down once it has won
+  AddPlayer(*m, 3, kZero);
+  m->AllowNegativeBankroll[3] = true;
+  m->WinHandling[3] = m->LoseHandling[3] = 1;
+  for (int bet = 1; bet <= kLastBet; ++bet) m->BetDefaultWorking[3][bet] = 1;
+
+  Dice dice{std::mt19937_64(20260731)};
+  Result results[94];
+  for (long roll = 0; roll < RollsWanted(); ++roll) {
+    BetAll([&](int bet) { return m->BetAmount[3][bet]; },
+           [&](int bet, Currency stake) { ChangeBet(*m, 3, bet, stake); });
+    const int die1 = dice.Face();
+    ASSERT_TRUE(Roll(*m, die1, dice.Face()));
+    for (const Decision& decision : m->Decisions) {
+      ++results[decision.bet].count;
+      results[decision.bet].sum += decision.net.ToDouble();
     }
   }
-  EXPECT_EQ(CheckModel(*model), "");
-  for (int bet = 1; bet <= kLastBet; ++bet) {
-    const edges::BetEdge edge = edges::EdgeOf(bet);
-    ASSERT_GT(count[bet], 500) << bet;
-    const double error = std::sqrt(edge.variance / count[bet]);
-    EXPECT_NEAR(sum[bet] / count[bet], edge.mean, 4 * error) << "bet " << bet;
+  EXPECT_EQ(CheckModel(*m), "");
+  for (int bet = 1; bet <= kLastBet; ++bet) ExpectEdge(bet, results[bet]);
+}
+
+struct SilentHost : Host {
+  void ShowMessage(Game&, MessageBox& box) override { box.MsgResult = kResultOk; }
+  std::uint32_t TickMilliseconds() override { return 0; }
+  std::string DateText() override { return "1/1/2001"; }
+  std::string TimeText() override { return "12:00:00"; }
+  double SecondsSinceMidnight() override { return 43'200; }
+  double DateTimeNumber() override { return 36'892.5; }
+};
+
+TEST(ModelEdges, TablePaysWhatTheBetsAreWorth) {
+  SilentHost host;
+  const auto game = StartGame(host, TESSARYN_BIN_DIR, ::testing::TempDir());
+  game->settings.ShooterBetRule = 0;
+  game->settings.AllowPutBets = false;
+  game->settings.MessageMask = 0;
+  std::string error;
+  ASSERT_TRUE(JoinPlayer(*game, 3, "Zebedee", kZero, error)) << error;
+  TableState& table = game->table;
+  table.AllowNegativeBankroll[3] = true;
+  table.handling[3].WinHandling = table.handling[3].LoseHandling = 1;
+  table.BetDefaultWorking[3] = kAllTableBets;
+
+  Dice dice{std::mt19937_64(31072026)};
+  for (long roll = 0; roll < RollsWanted(); ++roll) {
+    BetAll([&](int bet) { return table.BetAmount(3, bet); },
+           [&](int bet, Currency stake) { ChangeBet(*game, 3, bet, stake); });
+    table.ManualDie1 = dice.Face();
+    table.ManualDie2 = dice.Face();
+    table.ManualRollPending = true;
+    RollDice(*game);
+    // A long run loses more than the limit of a bankroll.
+    if (table.BankrollCurrent[3] < Currency::Dollars(-5'000'000))
+      AtmTransaction(*game, 3, false, Currency::Dollars(5'000'000));
   }
+  ASSERT_EQ(SessionRolls(game->stats), RollsWanted());
+  EXPECT_EQ(CheckConsistency(*game), "");
+  const auto stat = [&](StatTable kind, int bet, tessaryn::StatKind which) {
+    return BetStat(game->stats, kind, kCurrentSession, 3, bet, which).ToDouble();
+  };
+  for (int bet = 1; bet <= kLastBet; ++bet)
+    ExpectEdge(bet, {stat(kWagerStats, bet, kStatCount),
+                     stat(kWinStats, bet, kStatTotal) - stat(kLossStats, bet, kStatTotal)});
 }
 
 }  // namespace

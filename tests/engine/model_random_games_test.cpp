@@ -11,6 +11,7 @@
 
 #include "config/payoffs.h"
 #include "engine/bankroll.h"
+#include "engine/bet_catalogue.h"
 #include "engine/bet_rules.h"
 #include "engine/consistency.h"
 #include "engine/game.h"
@@ -338,6 +339,13 @@ void ChooseHandling(Pair& pair, int seat) {
     m.AdjustUnit[seat][slot] = h.AdjustUnit[slot] = pair.Pick(0, 4);
     m.AdjustValue[seat][slot] = h.AdjustValue[slot] = Currency::Dollars(pair.OneOf(values));
   }
+  const int flips = pair.Chance(50) ? 0 : pair.Pick(1, 20);
+  for (int i = 0; i < flips; ++i) {
+    const int bet = pair.Pick(1, kBets);
+    const bool works = pair.Chance(50);
+    pair.game->table.BetDefaultWorking[seat].Set(bet, works);
+    m.BetDefaultWorking[seat][bet] = works ? 1 : 0;
+  }
   pair.Note("handling of seat " + std::to_string(seat) + ": win " + std::to_string(h.WinHandling) +
             ", loss " + std::to_string(h.LoseHandling) + ", proper " + std::to_string(h.ProperOddsMode));
 }
@@ -365,9 +373,15 @@ void Join(Pair& pair, int seat, const Profile& profile) {
 }
 
 // Bets that a player at the rail makes often, among all the others.
-int PickBet(Pair& pair) {
+int PickBet(Pair& pair, int seat) {
+  if (pair.Chance(15)) {
+    static const int odds[] = {13, 14, 15, 16, 17, 18, 25, 26, 27, 28, 29, 30};
+    const int bet = pair.OneOf(odds);
+    if (pair.m->BetAmount[seat][FlatBetOf(bet)] > kZero) return bet;
+  }
   if (pair.Chance(60)) return pair.Pick(1, kBets);
-  static const int often[] = {43, 43, 45, 45, 46, 48, 44, 47, 33, 34, 39, 1, 6, 84, 85, 86, 87, 91, 92, 93};
+  static const int often[] = {43, 43, 45, 45, 46, 48, 48, 48, 44, 47, 33,
+                              34, 39, 1,  6,  84, 85, 86, 87, 91, 92, 93};
   return pair.OneOf(often);
 }
 
@@ -390,7 +404,7 @@ Currency PickRequest(Pair& pair, int seat, int bet) {
 }
 
 void Bet(Pair& pair, int seat) {
-  const int bet = PickBet(pair);
+  const int bet = PickBet(pair, seat);
   const Currency request = PickRequest(pair, seat, bet);
   const bool plain = pair.Chance(20);
   pair.Note((plain ? "change seat " : "place seat ") + std::to_string(seat) + " bet " + std::to_string(bet) +
@@ -408,6 +422,13 @@ void Call(Pair& pair, int seat) {
   pair.Note("call seat " + std::to_string(seat) + " bet " + std::to_string(bet) + (on ? " on" : " off"));
   const bool actual = CallBet(*pair.game, seat, bet, on);
   pair.Same("call allowed", seat, bet, model::CallBet(*pair.m, seat, bet, on), actual);
+}
+
+void Uncall(Pair& pair, int seat) {
+  const int bet = pair.Pick(1, kBets);
+  pair.Note("button off seat " + std::to_string(seat) + " bet " + std::to_string(bet));
+  RemoveCall(*pair.game, seat, bet);
+  model::RemoveCall(*pair.m, seat, bet);
 }
 
 void Buy(Pair& pair, int seat) {
@@ -439,6 +460,15 @@ void ComeOrGo(Pair& pair, const Profile& profile) {
   pair.Note("seat " + std::to_string(seat) + " leaves");
   LeaveTable(*pair.game, seat);
   model::RemovePlayer(*pair.m, seat);
+}
+
+void ChangeVig(Pair& pair) {
+  pair.Note("the vig's rules change");
+  ChooseVig(pair);
+  RecomputeVig(*pair.game);
+  const Settings& s = pair.game->settings;
+  model::ChangeVigRules(
+      *pair.m, {s.LayVigRate, s.BuyVigRate, s.LayVigRound, s.BuyVigRound, s.LayVigUpFront, s.BuyVigUpFront});
 }
 
 void ChangeRules(Pair& pair) {
@@ -478,8 +508,10 @@ bool Step(Pair& pair, const Profile& profile) {
   const int choice = pair.Pick(1, 1000);
   if (choice <= 700) {
     Bet(pair, seat);
-  } else if (choice <= 800) {
+  } else if (choice <= 780) {
     Call(pair, seat);
+  } else if (choice <= 800) {
+    Uncall(pair, seat);
   } else if (choice <= 850) {
     Buy(pair, seat);
   } else if (choice <= 920) {
@@ -492,10 +524,12 @@ bool Step(Pair& pair, const Profile& profile) {
     UseAtm(pair, seat);
   } else if (choice <= 980) {
     ChooseHandling(pair, seat);
-  } else if (choice <= 990) {
+  } else if (choice <= 988) {
     if (profile.playersComeAndGo) ComeOrGo(pair, profile);
-  } else {
+  } else if (choice <= 995) {
     if (profile.changesRules) ChangeRules(pair);
+  } else {
+    if (profile.changesRules) ChangeVig(pair);
   }
   return false;
 }
@@ -532,8 +566,14 @@ std::string Circumstances(const Pair& pair) {
 
 constexpr int kStepsPerGame = 3000;
 
+// How often each bet was won and lost.
+struct Tally {
+  long won[kBets + 1] = {};
+  long lost[kBets + 1] = {};
+};
+
 // Plays the game of a seed; returns the rolls made, or -1 at a difference.
-int PlayGame(const Profile& profile, std::uint64_t seed) {
+int PlayGame(const Profile& profile, std::uint64_t seed, Tally& tally) {
   Pair pair;
   pair.random.seed(seed);
   SetUp(pair, profile);
@@ -546,6 +586,9 @@ int PlayGame(const Profile& profile, std::uint64_t seed) {
   for (pair.step = 0; pair.step < kStepsPerGame && pair.differenceCount == 0; ++pair.step) {
     const bool rolled = Step(pair, profile);
     rolls += rolled ? 1 : 0;
+    if (rolled)
+      for (const model::Decision& decision : pair.m->Decisions)
+        ++(decision.net > kZero ? tally.won : tally.lost)[decision.bet];
     CompareTable(pair);
     if (pair.step % 250 == 249) CompareStatistics(pair);
   }
@@ -560,17 +603,23 @@ int PlayGame(const Profile& profile, std::uint64_t seed) {
 }
 
 void PlayGames(const Profile& profile, std::uint64_t firstSeed) {
+  Tally tally;
   const char* rollsText = std::getenv("TESSARYN_MODEL_ROLLS");
   const long wanted = rollsText != nullptr ? std::atol(rollsText) : 60'000;
   if (const char* seedText = std::getenv("TESSARYN_MODEL_SEED")) {
-    PlayGame(profile, std::strtoull(seedText, nullptr, 10));
+    PlayGame(profile, std::strtoull(seedText, nullptr, 10), tally);
     return;
   }
   long rolls = 0;
   for (std::uint64_t seed = firstSeed; rolls < wanted; ++seed) {
-    const int played = PlayGame(profile, seed);
+    const int played = PlayGame(profile, seed, tally);
     if (played < 0) return;
     rolls += played;
+  }
+  // Games that never decide a bet would compare nothing.
+  for (int bet = 1; bet <= kBets; ++bet) {
+    EXPECT_GT(tally.lost[bet], 0) << BetName(bet);
+    EXPECT_GT(tally.won[bet], 0) << BetName(bet);
   }
 }
 

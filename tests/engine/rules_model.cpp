@@ -869,6 +869,9 @@ Currency ChangeBet(RulesModel& m, int seat, int bet, Currency request) {
     change = LimitToMinimum(m, bet, amount, change);
     change = LimitToMaximum(m, seat, bet, change);
     if (m.ProperOddsMode[seat] > 0) change = ProperOddsAmount(m, seat, bet, change);
+    // Neither takes a contract bet below what has ridden.
+    if (change < kZero && IsUnderContract(m, bet) && committed <= amount)
+      change = std::max(change, committed - amount);
   }
   change = LimitToBankroll(m, seat, bet, change);
   return ApplyChange(m, seat, bet, change);
@@ -917,6 +920,21 @@ bool CallBet(RulesModel& m, int seat, int bet, bool on) {
     state = on ? 2 : -1;
   }
   return true;
+}
+
+void RemoveCall(RulesModel& m, int seat, int bet) { ResetBetWorking(m, seat, bet); }
+
+void ChangeVigRules(RulesModel& m, const VigRules& rules) {
+  for (int seat = 1; seat <= 8; ++seat)
+    for (int bet = 1; bet <= 42; ++bet) HoldVig(m, seat, bet, kZero);
+  m.LayVigRate = rules.layRate;
+  m.BuyVigRate = rules.buyRate;
+  m.LayVigRound = rules.layRound;
+  m.BuyVigRound = rules.buyRound;
+  m.LayVigUpFront = rules.layUpFront;
+  m.BuyVigUpFront = rules.buyUpFront;
+  for (int seat = 1; seat <= 8; ++seat)
+    for (int bet = 1; bet <= 42; ++bet) HoldVig(m, seat, bet, VigFor(m, bet, m.BetAmount[seat][bet]));
 }
 
 void BuyPlaceBet(RulesModel& m, int seat, int bet) {
