@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
 #include <sstream>
 
 namespace tessaryn::model {
@@ -32,6 +33,8 @@ Currency Floor(Currency value, Currency unit) {
   if (value.raw % unit.raw < 0) --count;
   return Currency::FromRaw(count * unit.raw);
 }
+
+Currency TimesCount(Currency value, std::int64_t count) { return Currency::FromRaw(value.raw * count); }
 
 Currency Ceiling(Currency value, Currency unit) { return -Floor(-value, unit); }
 
@@ -387,7 +390,11 @@ void SetFieldPreset(RulesModel& m, int preset) {
 }
 
 void RefreshBetUnits(RulesModel& m) {
-  const auto refresh = [&m](Payoff& record) { record.BetUnit = Multiply(record.PayPer, Unit(m)); };
+  // The smallest amount, in whole units, that is paid in whole units.
+  const auto refresh = [&m](Payoff& record) {
+    const std::int64_t common = std::gcd(record.PayTo.raw, record.PayPer.raw);
+    if (common != 0) record.BetUnit = TimesCount(Unit(m), record.PayPer.raw / common);
+  };
   for (Payoff& record : m.PayoffTable) refresh(record);
   for (Payoff& record : m.FieldPayoffs) refresh(record);
   for (Payoff& record : m.SevenPointSevenPayoffs) refresh(record);
@@ -572,8 +579,7 @@ Currency OddsMultiple(const RulesModel& m, int bet) {
   if (In(bet, 25, 30)) number = kNumbers[bet - 25];
   if (number == 6 || number == 8) return m.OddsAllowed68;
   if (number == 5 || number == 9) return m.OddsAllowed59;
-  if (number == 4 || number == 10) return m.OddsAllowed410;
-  return kZero;
+  return m.OddsAllowed410;  // also line odds that stayed up when their point was decided
 }
 
 int AutoOddsMethod(Currency multiple) {
@@ -591,8 +597,6 @@ std::int64_t OddsChipCount(std::int64_t count, Currency q) {
 }
 
 std::int64_t WholeChecks(Currency amount, Currency check) { return amount.raw / check.raw; }
-
-Currency TimesCount(Currency value, std::int64_t count) { return Currency::FromRaw(value.raw * count); }
 
 // The smallest amount from start upward, in steps of a dollar, that pays a whole number of the check.
 Currency SmallestPayingWhole(Currency start, Currency check, Currency payTo, Currency payPer) {
@@ -729,6 +733,9 @@ bool AnyMarked(const RulesModel& m, int, int) { return (m.NumberMarks & (kSmall 
 bool CountRuns(const RulesModel& m, int, int) { return m.FourRollCount > 0; }
 bool HandRuns(const RulesModel& m, int, int) { return HandHasHadARoll(m); }
 
+// The table doesn't have the bet.
+bool NotOffered(const RulesModel& m, int, int) { return !m.SmallTallEnabled; }
+
 const IncreaseRule kIncreaseRules[] = {
     {43, 43, true, PointOnWithoutPut}, {45, 45, false, NoPoint},
     {46, 46, true, PointIsOn},         {48, 48, false, NoPoint},
@@ -738,6 +745,7 @@ const IncreaseRule kIncreaseRules[] = {
     {84, 84, true, SmallMarked},       {85, 85, true, TallMarked},
     {86, 86, true, AnyMarked},         {87, 87, true, CountRuns},
     {88, 89, true, PointIsOn},         {91, 93, true, HandRuns},
+    {84, 89, false, NotOffered},
 };
 
 bool IncreaseRefused(const RulesModel& m, int seat, int bet, Currency newAmount) {
@@ -785,17 +793,25 @@ Currency LimitToMaximum(const RulesModel& m, int seat, int bet, Currency change)
   if (amount + change <= maximum) return change;
   const bool contract = bet == 43 || In(bet, 19, 24);
   if (contract && m.BetCommitted[seat][bet] > maximum) return m.BetCommitted[seat][bet] - amount;
-  return std::max(maximum - amount, kZero);
+  // An increase never becomes a decrease; a decrease goes on to what is allowed.
+  return change < kZero ? maximum - amount : std::max(maximum - amount, kZero);
 }
 
 Currency ProperOddsAmount(const RulesModel& m, int seat, int bet, Currency change) {
   const Currency amount = m.BetAmount[seat][bet];
-  const Currency unit = m.PayoffTable[bet].BetUnit;
   const Currency newAmount = amount + change;
+  Currency unit = m.PayoffTable[bet].BetUnit;
+  if (m.ProperOddsMode[seat] == 2) {  // in the largest colour of check that the amount holds
+    const Currency small = unit;
+    for (int n = 1; n <= 5; ++n) {
+      const Currency step = Ratio(m.CheckValue[n], small, Unit(m));
+      if (step <= newAmount) unit = step;
+    }
+  }
   if (IsMultiple(newAmount, unit)) return change;
   const Currency lower = Floor(newAmount, unit);
   const Currency higher = lower + unit;
-  const bool down = change < kZero || m.ParlayBias[seat] || higher > MaxBetFor(m, seat, bet);
+  const bool down = change <= kZero || m.ParlayBias[seat] || higher > MaxBetFor(m, seat, bet);
   return (down ? lower : higher) - amount;
 }
 
@@ -838,17 +854,25 @@ Currency ChangeBet(RulesModel& m, int seat, int bet, Currency request) {
   const Currency committed = m.BetCommitted[seat][bet];
   Currency change = request > kZero ? Ceiling(request, Unit(m)) : Floor(request, Unit(m));
   change = std::max(change, -amount);
+  bool refused = false;
   if (change < kZero) {
     if (IsUnderContract(m, bet) && amount + change < committed) {
       change = std::min(committed - amount, kZero);
       if (change == kZero) return kZero;
     }
   } else if (IncreaseRefused(m, seat, bet, amount + change)) {
-    return kZero;
+    if (bet == 45) return kZero;
+    refused = true;
+    change = kZero;
   }
-  change = LimitToMinimum(m, bet, amount, change);
-  change = LimitToMaximum(m, seat, bet, change);
-  if (m.ProperOddsMode[seat] > 0) change = ProperOddsAmount(m, seat, bet, change);
+  if (!refused) {
+    change = LimitToMinimum(m, bet, amount, change);
+    change = LimitToMaximum(m, seat, bet, change);
+    if (m.ProperOddsMode[seat] > 0) change = ProperOddsAmount(m, seat, bet, change);
+    // Neither takes a contract bet below what has ridden.
+    if (change < kZero && IsUnderContract(m, bet) && committed <= amount)
+      change = std::max(change, committed - amount);
+  }
   change = LimitToBankroll(m, seat, bet, change);
   return ApplyChange(m, seat, bet, change);
 }
@@ -898,6 +922,21 @@ bool CallBet(RulesModel& m, int seat, int bet, bool on) {
   return true;
 }
 
+void RemoveCall(RulesModel& m, int seat, int bet) { ResetBetWorking(m, seat, bet); }
+
+void ChangeVigRules(RulesModel& m, const VigRules& rules) {
+  for (int seat = 1; seat <= 8; ++seat)
+    for (int bet = 1; bet <= 42; ++bet) HoldVig(m, seat, bet, kZero);
+  m.LayVigRate = rules.layRate;
+  m.BuyVigRate = rules.buyRate;
+  m.LayVigRound = rules.layRound;
+  m.BuyVigRound = rules.buyRound;
+  m.LayVigUpFront = rules.layUpFront;
+  m.BuyVigUpFront = rules.buyUpFront;
+  for (int seat = 1; seat <= 8; ++seat)
+    for (int bet = 1; bet <= 42; ++bet) HoldVig(m, seat, bet, VigFor(m, bet, m.BetAmount[seat][bet]));
+}
+
 void BuyPlaceBet(RulesModel& m, int seat, int bet) {
   if (!In(bet, 31, 36) || !IsUp(m, seat, bet)) return;
   const Currency amount = m.BetAmount[seat][bet];
@@ -931,7 +970,8 @@ Currency SlotValue(const RulesModel& m, int seat, int bet, int slot) {
 
 void SameBetAdjusted(RulesModel& m, int seat, int bet, int slot) {
   const Currency before = m.BetBeforeRoll[seat][bet];
-  const Currency value = SlotValue(m, seat, bet, slot);
+  const bool plain = m.AdjustKind[seat][slot] >= 2 && m.AdjustUnit[seat][slot] >= 2;
+  const Currency value = plain ? m.AdjustValue[seat][slot] : SlotValue(m, seat, bet, slot);
   const Currency step = m.AdjustUnit[seat][slot] == 1 ? Multiply(before, value) : value;
   Currency request;
   switch (m.AdjustKind[seat][slot]) {
@@ -1020,8 +1060,8 @@ void HandleLoss(RulesModel& m, int seat, int bet) {
 }
 
 void CloseVig(RulesModel& m, int seat, int bet, bool won) {
-  const Currency held = HeldVig(m, seat, bet);
-  if (won) m.NetPayoff += held;
+  if (!VigIsUpFront(m, bet)) return;
+  if (won) m.NetPayoff += HeldVig(m, seat, bet);
   HoldVig(m, seat, bet, kZero);
 }
 
@@ -1374,7 +1414,8 @@ void CountRoll(RulesModel& m) {
       ++m.HandCount[36 + seat];
     }
     for (int scope : kScopesKept) ++m.RollCounts[scope * 9 + seat][0];
-    for (int scope : {2, 4}) {
+    for (int scope : kScopesKept) {
+      if (scope == 0 && seat == 0) continue;  // the table's own is left alone during a hand
       int& most = m.MostRollsInHand[scope * 9 + seat];
       most = std::max(most, m.RollCounts[seat][0]);
     }
@@ -1423,6 +1464,10 @@ void EndHandStatistics(RulesModel& m) {
     m.PlayerRolls[last] = m.PlayerRolls[seat];
     m.HandCount[last] = m.HandCount[seat];
     m.PlayerRolls[seat] = m.HandCount[seat] = 0;
+    for (int* most : {m.MostRollsInHand, m.MostComeoutRollsInHand, m.MostPassesInHand, m.MostMissesInHand}) {
+      most[last] = most[seat];
+      most[seat] = 0;
+    }
     if (seat == 0) continue;
     for (int bet = 1; bet <= kLastBet; ++bet)
       for (int kind = 1; kind <= 6; ++kind) {

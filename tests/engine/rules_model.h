@@ -132,6 +132,14 @@ void TakeFullOdds(RulesModel& m, int seat, int bet);
 // False: the bet can't be called.
 bool CallBet(RulesModel& m, int seat, int bet, bool on);
 bool CanCallBet(int bet);
+void RemoveCall(RulesModel& m, int seat, int bet);
+// The vig's rules change, and with them the vig of every bet that is up.
+struct VigRules {
+  Currency layRate, buyRate;
+  int layRound, buyRound;
+  bool layUpFront, buyUpFront;
+};
+void ChangeVigRules(RulesModel& m, const VigRules& rules);
 void BuyPlaceBet(RulesModel& m, int seat, int bet);
 Currency MaxBetFor(const RulesModel& m, int seat, int bet);
 Currency MaxOddsFor(const RulesModel& m, int bet, Currency flatAmount, Currency payTo, Currency payPer);
