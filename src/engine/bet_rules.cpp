@@ -156,19 +156,22 @@ std::string RuleText(const BetRule& rule, int bet) {
   return text;
 }
 
-// Applies the bet's rule. True when the call ends.
-bool ApplyRules(Game& game, int seat, int bet, Currency& change) {
+enum class Verdict { kAllowed, kRefused, kEnds };
+
+// Applies the bet's rule. A refused increase changes nothing, so no limit is looked at.
+Verdict ApplyRules(Game& game, int seat, int bet, Currency& change) {
   const bool decrease = change < kZero;
   const int place = kRuleOf[bet][decrease ? 1 : 0];
-  if (place < 0) return false;
+  if (place < 0) return Verdict::kAllowed;
   const BetRule& rule = kRules[place];
   const Currency amount = game.table.BetAmount(seat, bet);
-  if (!rule.refuses({game, seat, bet, amount + change})) return false;
+  if (!rule.refuses({game, seat, bet, amount + change})) return Verdict::kAllowed;
   // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
   if (change != kZero && NotesShown(game, kNoteRefusals))
     ShowNote(game, seat, bet, kNoteRefusals, RuleText(rule, bet));
   change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
-  return rule.endsCall || (decrease && change == kZero);
+  if (rule.endsCall || (decrease && change == kZero)) return Verdict::kEnds;
+  return decrease ? Verdict::kAllowed : Verdict::kRefused;
 }
 
 // --- Limits.
@@ -187,7 +190,7 @@ void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease
   const Currency wanted = amount + change;
   if (wanted >= minimum || wanted <= kZero) return;
   if (decrease) {
-    change = ContractFloor(game, seat, bet) - amount;
+    change = -amount;
     return;
   }
   change = minimum - amount;
@@ -330,11 +333,17 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
     ShowNote(game, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
     return kZero;
   }
-  if (ApplyRules(game, seat, bet, change)) return kZero;
-  ApplyMinimum(game, seat, bet, change, decrease);
-  if (amount + change > kZero) {
-    ApplyMaximum(game, seat, bet, change);
-    if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
+  const Verdict verdict = ApplyRules(game, seat, bet, change);
+  if (verdict == Verdict::kEnds) return kZero;
+  if (verdict == Verdict::kAllowed) {
+    ApplyMinimum(game, seat, bet, change, decrease);
+    if (amount + change > kZero) {
+      ApplyMaximum(game, seat, bet, change);
+      if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
+    }
+    // No limit takes a contract bet below what has ridden.
+    if (change < kZero)
+      change = std::max(change, std::min(ContractFloor(game, seat, bet) - amount, kZero));
   }
   ApplyBankroll(game, seat, bet, change);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
@@ -425,7 +434,7 @@ Currency PlaceBet(Game& game, int seat, int bet, Currency request) {
     if (!game.table.MovingComeBet) game.host->PlaySound(game, Sound::kCheck);
     game.host->Changed(game, Change::kLayout);
   }
-  BringOddsIntoLine(game, seat, bet);
+  if (change != kZero) BringOddsIntoLine(game, seat, bet);
   game.table.BetChange = change;
   RequireConsistency(game);
   return change;

@@ -352,9 +352,11 @@ void EndHandStatistics(Game& game) {
     MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
     MoveSlot(stats.HandCount, seat, kCurrentHand, kLastHand);
   }
+  std::memcpy(stats.RollsNotSeen + Slot(kLastHand, 0), stats.RollsNotSeen + Slot(kCurrentHand, 0),
+              kSeatRows * sizeof *stats.RollsNotSeen);
+  std::memset(stats.RollsNotSeen + Slot(kCurrentHand, 0), 0, kSeatRows * sizeof *stats.RollsNotSeen);
   for (int i = 0; i < table.OccupiedSeats; ++i) {
     const int seat = table.Seated[i];
-    MoveSlot(stats.RollsNotSeen, seat, kCurrentHand, kLastHand);
     MoveBetsToLastHand(stats, seat);
     MoveSlot(stats.ComeTravelTotals, seat, kCurrentHand, kLastHand);
     const Currency bankroll = table.BankrollCurrent[seat];
