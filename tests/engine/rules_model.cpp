@@ -555,9 +555,9 @@ Currency AtmTransaction(RulesModel& m, int seat, bool deposit, Currency amount) 
   Currency allowed = amount;
   if (deposit) {
     if (!m.AllowNegativeBankroll[seat]) {
-      allowed = std::min(amount, bankroll - m.OnTableAmount[seat]);
+      allowed = std::max(std::min(amount, bankroll - m.OnTableAmount[seat]), kZero);
     } else if (bankroll - amount < -kLargest) {
-      allowed = kLargest + bankroll;
+      allowed = std::max(kLargest + bankroll, kZero);
     }
   } else if (bankroll + amount > kLargest) {
     allowed = kLargest - bankroll;
