@@ -347,7 +347,7 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
   }
   ApplyBankroll(game, seat, bet, change);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
-  if (IsLay(bet) || IsBuy(bet)) ApplyVig(game, seat, bet);
+  if (HasVig(bet)) ApplyVig(game, seat, bet);
   return change;
 }
 
@@ -539,7 +539,7 @@ void TakeDownBets(Game& game, int seat, const BetSet& bets) {
   (game.table.SeatBets[seat] & bets).ForEach([&](int bet) {
     SetBetAmount(game, seat, bet, kZero);
     game.table.BetCommitted(seat, bet) = kZero;
-    if (IsLay(bet) || IsBuy(bet)) {
+    if (HasVig(bet)) {
       Currency& held = VigHeld(game, seat, bet);
       if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] -= held;
       held = kZero;

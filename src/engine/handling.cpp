@@ -241,7 +241,7 @@ void ApplyLoseChoice(Game& game, int seat, int bet, int choice, const SettleAnsw
 
 // The vig that the decided bet held comes off the table.
 Currency CloseVig(Game& game, int seat, int bet) {
-  if (!IsLay(bet) && !IsBuy(bet)) return kZero;
+  if (!HasVig(bet)) return kZero;
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = held;
   if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] -= vig;
@@ -266,10 +266,13 @@ void ComputePressOptions(Game& game, int seat, int bet) {
 void HandleWin(Game& game, int seat, int bet) {
   TableState& table = game.table;
   const int choice = table.handling[seat].WinHandling;
+  // Nothing to ask, nothing to press, no vig to close: what most winners of a system come to.
+  if (!HasVig(bet) && choice != kWinManual && choice != kWinPressUnit)
+    return DoWinChoice(game, seat, bet, choice, nullptr);
   const bool upFront = VigUpFront(game, bet);
   const bool asks = choice == kWinManual;
   if (asks || choice == kWinPressUnit) ComputePressOptions(game, seat, bet);
-  const Currency vigHeld = IsLay(bet) || IsBuy(bet) ? VigHeld(game, seat, bet) : kZero;
+  const Currency vigHeld = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
   const SettleAnswer answer = asks ? Ask(game, seat, bet, true, false, vigHeld) : SettleAnswer{};
   const Currency vig = CloseVig(game, seat, bet);
   if (upFront) table.NetPayoff += vig;  // the handling sees the winnings before vig
@@ -278,9 +281,11 @@ void HandleWin(Game& game, int seat, int bet) {
 
 void HandleLoss(Game& game, int seat, int bet) {
   const int choice = game.table.handling[seat].LoseHandling;
+  if (!HasVig(bet) && choice != kLoseManual && choice != kLosePlusUnit)
+    return DoLoseChoice(game, seat, bet, choice, nullptr);
   const bool asks = choice == kLoseManual;
   if (asks || choice == kLosePlusUnit) ComputePressOptions(game, seat, bet);
-  const Currency vigHeld = IsLay(bet) || IsBuy(bet) ? VigHeld(game, seat, bet) : kZero;
+  const Currency vigHeld = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
   const SettleAnswer answer = asks ? Ask(game, seat, bet, false, false, vigHeld) : SettleAnswer{};
   CloseVig(game, seat, bet);
   ApplyLoseChoice(game, seat, bet, choice, answer);

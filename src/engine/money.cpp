@@ -13,8 +13,7 @@ Currency WholePart(Currency value) {
   return Currency::Dollars(whole);
 }
 
-Currency RoundDownToUnit(Currency value, Currency unit) {
-  if (!value.IsError() && IsMultiple(value, unit)) return value;
+Currency RoundPartUnitDown(Currency value, Currency unit) {
   const Currency units = WholePart(Divide(value, unit));
   if (units.IsError()) return units;
   std::int64_t result = 0;

@@ -75,14 +75,17 @@ inline Currency Divide(Currency a, Currency b) {
 constexpr Currency Abs(Currency value) { return value.raw < 0 ? -value : value; }
 // Downwards, towards minus infinity.
 Currency WholePart(Currency value);
-// Towards minus infinity to a multiple of unit. Requires unit > 0. The quotient is first brought to four
-// decimals, as a payoff is rounded.
-Currency RoundDownToUnit(Currency value, Currency unit);
 // Whether value is a whole multiple of unit. Requires unit > 0.
 constexpr bool IsMultiple(Currency value, Currency unit) {
   // Most tables bet in dollars, and a division by a known number is a multiplication.
   if (unit.raw == Currency::kPerDollar) return value.raw % Currency::kPerDollar == 0;
   return value.raw % unit.raw == 0;
+}
+// Towards minus infinity to a multiple of unit. Requires unit > 0. The quotient is first brought to four
+// decimals, as a payoff is rounded.
+Currency RoundPartUnitDown(Currency value, Currency unit);
+inline Currency RoundDownToUnit(Currency value, Currency unit) {
+  return !value.IsError() && IsMultiple(value, unit) ? value : RoundPartUnitDown(value, unit);
 }
 
 inline constexpr Currency kZero{};

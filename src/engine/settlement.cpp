@@ -131,7 +131,7 @@ void ComputePayoff(Game& game, int seat, int bet, int code, Currency amount) {
     const Currency share = Divide(amount, Currency::Dollars(shares));
     gross = Paid(share, working) - (amount - share);
   }
-  if ((IsLay(bet) || IsBuy(bet)) && (gross > kZero || VigUpFront(game, bet)))
+  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet)))
     gross -= VigHeld(game, seat, bet);
   table.GrossPayoff = gross;
   table.NetPayoff = RoundDownToUnit(gross, game.settings.Unit());

@@ -51,7 +51,7 @@ struct TableState {
   SeatBetTable<Currency> BetAmount;           // now up; of a CheckStack its value
   SeatBetTable<Currency> BetBeforeRoll;       // as the dice were thrown; what the log of changes compares with
   SeatBetTable<Currency> BetAfterRoll;        // as the roll was finished, scripts included
-  SeatBetTable<Currency, 100> BetCommitted;   // has ridden a roll, so under contract
+  SeatBetTable<Currency> BetCommitted;        // has ridden a roll, so under contract; bets 0 to 99
   SeatBetTable<std::int32_t, 101> BetStreak;  // wins in a row; below 0 losses in a row
   SeatBetTable<std::int32_t, 101> BetStreakBefore;  // as the dice were thrown
   WorkingState BetWorking[kSeatRows];

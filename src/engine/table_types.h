@@ -78,6 +78,8 @@ constexpr bool IsComeOdds(int bet) { return bet >= kComeOdds4 && bet < kPlace4; 
 constexpr bool IsPlace(int bet) { return bet >= kPlace4 && bet < kBuy4; }
 constexpr bool IsBuy(int bet) { return bet >= kBuy4 && bet < kPassLine; }
 
+constexpr bool HasVig(int bet) { return IsLay(bet) || IsBuy(bet); }
+
 // The six box numbers, in the order of every family of six bets.
 inline constexpr std::array<int, 6> kBoxNumbers{4, 5, 6, 8, 9, 10};
 // Position 0 to 5 of a box number. Requires one of the six.

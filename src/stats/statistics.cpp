@@ -31,13 +31,14 @@ void CountAmount(Kinds& kinds, std::int64_t amount, std::int64_t roll) {
 // ahead of the stretch's.
 void MergeKinds(Kinds& longer, const Kinds& stretch, std::int64_t rollsBefore) {
   if (stretch[kStatCount - 1] == kZero) return;
-  longer[kStatCount - 1] += stretch[kStatCount - 1];
-  longer[kStatTotal - 1] += stretch[kStatTotal - 1];
+  // The sums were seen to fit as each amount was counted.
+  longer[kStatCount - 1].raw += stretch[kStatCount - 1].raw;
+  longer[kStatTotal - 1].raw += stretch[kStatTotal - 1].raw;
   longer[kStatHigh - 1] = std::max(longer[kStatHigh - 1], stretch[kStatHigh - 1]);
   Currency& low = longer[kStatLow - 1];
   const Currency stretchLow = stretch[kStatLow - 1];
   if (low == kZero || (stretchLow != kZero && stretchLow < low)) low = stretchLow;
-  longer[kStatLastRoll - 1] = stretch[kStatLastRoll - 1] + Currency::Dollars(rollsBefore);
+  longer[kStatLastRoll - 1].raw = stretch[kStatLastRoll - 1].raw + rollsBefore * Currency::kPerDollar;
   longer[kStatLastAmount - 1] = stretch[kStatLastAmount - 1];
 }
 
@@ -48,8 +49,11 @@ void MergeBet(BetStats& longer, const BetStats& stretch, std::int64_t rollsBefor
 
 // Whether a further amount would pass what the sum over all sessions can hold.
 bool TotalOverflows(const BetStats (&scopes)[kScopes], int table, Currency amount) {
-  for (const int scope : kRunningScopes) amount += scopes[scope].kinds[table][kStatTotal - 1];
-  return amount.IsError();
+  const auto total = [&](int scope) { return scopes[scope].kinds[table][kStatTotal - 1].raw; };
+  std::int64_t sum = amount.raw;
+  bool overflow = amount.IsError();
+  for (const int scope : kRunningScopes) overflow |= __builtin_add_overflow(sum, total(scope), &sum);
+  return overflow;
 }
 
 // Rolls of all sessions before the current one.
@@ -268,7 +272,7 @@ double SimulatedHours(const Game& game, int scope, int seat) {
 bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency net) {
   if (net == kZero) return true;
   Statistics& stats = game.stats;
-  if (VigUpFront(game, bet)) wagered += VigHeld(game, seat, bet);
+  if (HasVig(bet) && VigUpFront(game, bet)) wagered += VigHeld(game, seat, bet);
   auto& scopes = stats.Bets[bet][seat];
   const bool won = net > kZero;
   const StatTable decided = won ? kWinStats : kLossStats;

@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# The one list of what the project needs from the system, and its installation. Sourced by run.sh and
+# test.sh; installs only what is missing.
+set -euo pipefail
+
+PACKAGES=(
+  g++ cmake ninja-build pkg-config ccache
+  libcli11-dev nlohmann-json3-dev libreadline-dev
+  libgtest-dev libbenchmark-dev
+)
+
+install_missing_packages() {
+  if ! command -v dpkg-query >/dev/null; then
+    echo "This is no Debian-like system; please install the equivalents of: ${PACKAGES[*]}" >&2
+    return 0
+  fi
+  local missing=()
+  for package in "${PACKAGES[@]}"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+  echo "Installing: ${missing[*]}" >&2
+  local sudo=""
+  [ "$(id -u)" -eq 0 ] || sudo="sudo"
+  if ! $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null 2>&1; then
+    $sudo apt-get update -qq
+    $sudo env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq "${missing[@]}" >/dev/null
+  fi
+}
+
+# Configures a preset once and builds it. A build folder made from another place is made anew.
+build_preset() {
+  local preset="$1"
+  local cache="build/$preset/CMakeCache.txt"
+  if [ -f "$cache" ] && ! grep -q "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd)\$" "$cache"; then
+    rm -rf "build/$preset"
+  fi
+  cmake --preset "$preset" >/dev/null
+  cmake --build --preset "$preset"
+}
