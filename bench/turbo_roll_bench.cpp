@@ -1,0 +1,109 @@
+// What a Turbo-Roll costs: the counting alone, a standing bet, a full table, the Events Log, and the dice.
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "config/setting_table.h"
+#include "dice/auto_roll.h"
+#include "engine/bet_rules.h"
+#include "engine/game.h"
+#include "engine/players.h"
+
+namespace tessaryn {
+namespace {
+
+// Stops a run at a roll; answers nothing.
+class BenchHost : public Host {
+ public:
+  std::int64_t target = 0;
+  void ShowMessage(Game&, MessageBox& box) override { box.MsgResult = kResultOk; }
+  bool Yield(Game& game) override {
+    if (SessionRolls(game.stats) >= target) StopRun(game, "");
+    return false;
+  }
+  std::uint32_t TickMilliseconds() override { return 1; }
+  std::string DateText() override { return ""; }
+  std::string TimeText() override { return ""; }
+  double SecondsSinceMidnight() override { return 0; }
+  double DateTimeNumber() override { return 0; }
+};
+
+struct Table {
+  BenchHost host;
+  std::unique_ptr<Game> game;
+
+  explicit Table(int players) {
+    const std::string folder = std::filesystem::temp_directory_path() / "tessaryn-bench";
+    std::filesystem::create_directories(folder);
+    game = StartGame(host, std::filesystem::read_symlink("/proc/self/exe").parent_path(), folder);
+    constexpr const char* kNames[] = {"Ann", "Bob", "Cyd", "Dan", "Eve", "Fay", "Gus", "Hal"};
+    std::string error;
+    for (int seat = 1; seat <= players; ++seat)
+      JoinPlayer(*game, seat, kNames[seat - 1], Currency::Dollars(5'000'000), error);
+    for (const char* handling : {"WinHandling", "LoseHandling"}) SetSetting(*game, handling, 0, "2", error);
+    SetSetting(*game, "ShooterBetRule", 0, "0", error);
+  }
+  void Roll(benchmark::State& state) {
+    constexpr std::int64_t kRolls = 100'000;
+    for (auto _ : state) {
+      host.target = SessionRolls(game->stats) + kRolls;
+      ToggleAutoRoll(*game);
+    }
+    state.SetItemsProcessed(state.iterations() * kRolls);
+  }
+};
+
+void NoBets(benchmark::State& state) { Table(1).Roll(state); }
+BENCHMARK(NoBets)->Unit(benchmark::kMillisecond);
+
+void StandingPassLine(benchmark::State& state) {
+  Table table(1);
+  PlaceBet(*table.game, 1, kPassLine, Currency::Dollars(10));
+  table.Roll(state);
+}
+BENCHMARK(StandingPassLine)->Unit(benchmark::kMillisecond);
+
+void PutEverySeatToWork(Table& table) {
+  std::string error;
+  SetSetting(*table.game, "AutoTakeOdds", 0, "on", error);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    PlaceBet(*table.game, seat, kPassLine, Currency::Dollars(10));
+    PlaceBet(*table.game, seat, kPlace4 + 2, Currency::Dollars(12));
+    PlaceBet(*table.game, seat, kPlace4 + 3, Currency::Dollars(12));
+    PlaceBet(*table.game, seat, kField, Currency::Dollars(5));
+  }
+}
+
+void EightBusySeats(benchmark::State& state) {
+  Table table(kSeats);
+  PutEverySeatToWork(table);
+  table.Roll(state);
+}
+BENCHMARK(EightBusySeats)->Unit(benchmark::kMillisecond);
+
+void EightBusySeatsLogged(benchmark::State& state) {
+  Table table(kSeats);
+  PutEverySeatToWork(table);
+  ClearEventsLog(*table.game);
+  table.game->events.RecordEventsActive = true;
+  table.Roll(state);
+  ClearEventsLog(*table.game);
+}
+BENCHMARK(EightBusySeatsLogged)->Unit(benchmark::kMillisecond)->Iterations(5);
+
+void DiceAlone(benchmark::State& state) {
+  Table table(0);
+  table.game->generators.GeneratorIndex = static_cast<int>(state.range(0));
+  std::int64_t rolls = 0;
+  int die1 = 0;
+  int die2 = 0;
+  for (auto _ : state) {
+    DrawDice(table.game->generators, rolls++, die1, die2);
+    benchmark::DoNotOptimize(die1 + die2);
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(DiceAlone)->DenseRange(0, 7);
+
+}  // namespace
+}  // namespace tessaryn
