@@ -175,6 +175,7 @@ void ClearSeat(Game& game, int seat) {
   table.AllowNegativeBankroll[seat] = false;
   table.BankrollInitType[seat] = 0;
   table.handling[seat] = Handling{};
+  table.ComeMovedTo[seat] = table.DontComeMovedTo[seat] = 0;
   table.SessionsLogName[seat].clear();
   for (int i = 0; i < 4; ++i) table.VisibleStacks[seat][i] = i + 1;
   ClearSeatStatistics(game, seat);
@@ -420,6 +421,8 @@ void SwapSeatTables(Game& game, int a, int b) {
   swap(table.LayVigHeld);
   swap(table.BuyVigHeld);
   swap(table.ComeTravelAmount);
+  swap(table.ComeMovedTo);
+  swap(table.DontComeMovedTo);
   swap(table.BankrollCurrent);
   swap(table.OnTableAmount);
   swap(table.RailAmount);
