@@ -44,7 +44,8 @@ void AddDiceCommand(CLI::App& program, int& exitCode) {
   command->add_option("--data-folder", options->table.dataFolder, "Folder of everything that is written");
   command->add_option("--rng", options->table.rng, "Generator 1 to 8")->check(CLI::Range(1, 8));
   command->add_option("--seed", options->table.seed, "Seed of the generator");
-  command->add_option("--probabilities", options->table.probabilities, "Percentage dice from a probability file");
+  command->add_option("--probabilities", options->table.probabilities,
+                      "Percentage dice from a probability file");
   command->add_option("--count", options->count, "How many rolls (default 10)")
       ->check(CLI::Range(std::int64_t{0}, std::int64_t{1'000'000'000'000}));
   command->add_flag("--json", options->json, "Print one JSON array of pairs");

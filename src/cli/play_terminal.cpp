@@ -201,8 +201,9 @@ int PlayTerminal(const TableOptions& options) {
   rl_attempted_completion_function = Complete;
   const std::string historyFile = game->dataFolder + "play.history";
   read_history(historyFile.c_str());
-  std::printf("Tessaryn. A table without players: \"join 1 Ann 500\", \"bet 1 passline 10\", \"roll\".\n"
-              "\"help\" lists the commands, \"quit\" ends.\n");
+  std::printf(
+      "Tessaryn. A table without players: \"join 1 Ann 500\", \"bet 1 passline 10\", \"roll\".\n"
+      "\"help\" lists the commands, \"quit\" ends.\n");
   PlaySession session(*game, host);
   while (!session.Ended()) {
     interrupted = false;

@@ -55,7 +55,9 @@ class ProgressBar {
 };
 
 void PrintReport(const Game& game, const Json& run) {
-  const auto whole = [](const Json& number) { return FormatMoney(Currency::Dollars(number.get<std::int64_t>())); };
+  const auto whole = [](const Json& number) {
+    return FormatMoney(Currency::Dollars(number.get<std::int64_t>()));
+  };
   std::printf("%s rolls in %.2f seconds (%s rolls a second)\n", whole(run["rolls"]).c_str(),
               run["seconds"].get<double>(),
               FormatMoney(Currency::FromDouble(std::floor(run["rollsPerSecond"].get<double>()))).c_str());
@@ -66,14 +68,18 @@ void PrintReport(const Game& game, const Json& run) {
               whole(table["misses"]).c_str());
   std::printf("\n%8s %14s %9s\n", "total", "rolls", "percent");
   for (const auto& [total, count] : table["totals"].items())
-    std::printf("%8s %14s %8.3f%%\n", total.c_str(), whole(count).c_str(),
-                run["rolls"].get<double>() > 0 ? 100.0 * count.get<double>() / run["rolls"].get<double>() : 0.0);
+    std::printf(
+        "%8s %14s %8.3f%%\n", total.c_str(), whole(count).c_str(),
+        run["rolls"].get<double>() > 0 ? 100.0 * count.get<double>() / run["rolls"].get<double>() : 0.0);
   if (run["seats"].empty()) return;
-  std::printf("\n%-16s %14s %14s %14s %16s %9s\n", "player", "start", "bankroll", "on table", "wagered", "result");
+  std::printf("\n%-16s %14s %14s %14s %16s %9s\n", "player", "start", "bankroll", "on table", "wagered",
+              "result");
   for (const Json& seat : run["seats"]) {
     const double wagered = seat["wagered"].get<double>();
     const double net = seat["won"].get<double>() - seat["lost"].get<double>();
-    const auto money = [&seat](const char* name) { return FormatMoney(Currency::FromDouble(seat[name].get<double>())); };
+    const auto money = [&seat](const char* name) {
+      return FormatMoney(Currency::FromDouble(seat[name].get<double>()));
+    };
     std::printf("%-16s %14s %14s %14s %16s %8.3f%%\n", seat["name"].get<std::string>().c_str(),
                 money("bankrollStart").c_str(), money("bankroll").c_str(), money("onTable").c_str(),
                 money("wagered").c_str(), wagered > 0 ? 100 * net / wagered : 0.0);

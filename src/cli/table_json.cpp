@@ -45,8 +45,7 @@ Json KindsJson(const Statistics& stats, StatTable table, int scope, int seat, in
   constexpr const char* kNames[] = {"count", "total", "high", "low", "lastRoll", "lastAmount"};
   Json kinds;
   for (int kind = kStatCount; kind <= kStatLastAmount; ++kind)
-    kinds[kNames[kind - 1]] =
-        MoneyJson(BetStat(stats, table, scope, seat, bet, static_cast<StatKind>(kind)));
+    kinds[kNames[kind - 1]] = MoneyJson(BetStat(stats, table, scope, seat, bet, static_cast<StatKind>(kind)));
   return kinds;
 }
 
@@ -155,18 +154,19 @@ Json RunJson(const Game& game, const RunFigures& figures) {
                      {"lost", MoneyJson(SumBets(stats, kLossStats, seat, kStatTotal))},
                      {"bets", BetsUpJson(game, seat)}});
   }
-  return {{"rolls", figures.rolls},
-          {"seconds", figures.seconds},
-          {"rollsPerSecond", figures.seconds > 0 ? static_cast<double>(figures.rolls) / figures.seconds : 0.0},
-          {"stopReason", figures.stopReason},
-          {"table",
-           {{"point", game.table.Point},
-            {"hands", stats.HandCount[table]},
-            {"comeoutRolls", SumNumbers(stats, table, kComeoutRolls)},
-            {"passes", SumNumbers(stats, table, kPasses)},
-            {"misses", SumNumbers(stats, table, kMisses)},
-            {"totals", totals}}},
-          {"seats", seats}};
+  return {
+      {"rolls", figures.rolls},
+      {"seconds", figures.seconds},
+      {"rollsPerSecond", figures.seconds > 0 ? static_cast<double>(figures.rolls) / figures.seconds : 0.0},
+      {"stopReason", figures.stopReason},
+      {"table",
+       {{"point", game.table.Point},
+        {"hands", stats.HandCount[table]},
+        {"comeoutRolls", SumNumbers(stats, table, kComeoutRolls)},
+        {"passes", SumNumbers(stats, table, kPasses)},
+        {"misses", SumNumbers(stats, table, kMisses)},
+        {"totals", totals}}},
+      {"seats", seats}};
 }
 
 }  // namespace tessaryn::cli

@@ -25,10 +25,11 @@ ConfigurationProblem CheckValues(const Settings& settings) {
 ConfigurationProblem CheckMinimum(const Settings& settings, Currency minimum, const std::string& name) {
   const Currency unit = settings.Unit();
   if (minimum < unit)
-    return {kLimitsTitle, "The " + name + " cannot be less than the smallest check denomination of $" +
-                              FormatMoney(unit)};
+    return {kLimitsTitle,
+            "The " + name + " cannot be less than the smallest check denomination of $" + FormatMoney(unit)};
   if (IsMultiple(minimum, unit)) return {};
-  return {kLimitsTitle, "The " + name + " must be some multiple of the smallest check denomination, such as $" +
+  return {kLimitsTitle, "The " + name +
+                            " must be some multiple of the smallest check denomination, such as $" +
                             FormatMoney(unit) + ", $" + FormatMoney(unit + unit) + ", $" +
                             FormatMoney(unit + unit + unit) + ",  etc."};
 }

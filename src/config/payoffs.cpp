@@ -27,19 +27,54 @@ struct RatioRows {
 constexpr RatioRows kDefaults[] = {
     {1, 93, 1, 1},
     // Lay, Don't Come Odds: 4 to 10
-    {1, 1, 1, 2},   {2, 2, 2, 3},   {3, 4, 5, 6},   {5, 5, 2, 3},   {6, 6, 1, 2},
-    {13, 13, 1, 2}, {14, 14, 2, 3}, {15, 16, 5, 6}, {17, 17, 2, 3}, {18, 18, 1, 2},
+    {1, 1, 1, 2},
+    {2, 2, 2, 3},
+    {3, 4, 5, 6},
+    {5, 5, 2, 3},
+    {6, 6, 1, 2},
+    {13, 13, 1, 2},
+    {14, 14, 2, 3},
+    {15, 16, 5, 6},
+    {17, 17, 2, 3},
+    {18, 18, 1, 2},
     // Come Odds, Place, Buy
-    {25, 25, 2, 1}, {26, 26, 3, 2}, {27, 28, 6, 5}, {29, 29, 3, 2}, {30, 30, 2, 1},
-    {31, 31, 9, 5}, {32, 32, 7, 5}, {33, 34, 7, 6}, {35, 35, 7, 5}, {36, 36, 9, 5},
-    {37, 37, 2, 1}, {38, 38, 3, 2}, {39, 40, 6, 5}, {41, 41, 3, 2}, {42, 42, 2, 1},
+    {25, 25, 2, 1},
+    {26, 26, 3, 2},
+    {27, 28, 6, 5},
+    {29, 29, 3, 2},
+    {30, 30, 2, 1},
+    {31, 31, 9, 5},
+    {32, 32, 7, 5},
+    {33, 34, 7, 6},
+    {35, 35, 7, 5},
+    {36, 36, 9, 5},
+    {37, 37, 2, 1},
+    {38, 38, 3, 2},
+    {39, 40, 6, 5},
+    {41, 41, 3, 2},
+    {42, 42, 2, 1},
     // Hardways and the one-roll propositions
-    {52, 52, 7, 1}, {53, 54, 9, 1}, {55, 55, 7, 1},
-    {56, 56, 30, 1}, {57, 57, 15, 1}, {58, 58, 4, 1}, {59, 59, 15, 1}, {60, 60, 30, 1}, {61, 61, 7, 1},
-    {62, 62, 1, 2}, {63, 63, 1, 4}, {64, 64, 1, 5},
-    {67, 83, 15, 1}, {71, 71, 30, 1}, {76, 76, 30, 1}, {80, 80, 30, 1}, {83, 83, 30, 1},
+    {52, 52, 7, 1},
+    {53, 54, 9, 1},
+    {55, 55, 7, 1},
+    {56, 56, 30, 1},
+    {57, 57, 15, 1},
+    {58, 58, 4, 1},
+    {59, 59, 15, 1},
+    {60, 60, 30, 1},
+    {61, 61, 7, 1},
+    {62, 62, 1, 2},
+    {63, 63, 1, 4},
+    {64, 64, 1, 5},
+    {67, 83, 15, 1},
+    {71, 71, 30, 1},
+    {76, 76, 30, 1},
+    {80, 80, 30, 1},
+    {83, 83, 30, 1},
     // Specials
-    {84, 85, 34, 1}, {86, 86, 175, 1}, {88, 88, 7, 1},
+    {84, 85, 34, 1},
+    {86, 86, 175, 1},
+    {88, 88, 7, 1},
 };
 
 constexpr int kSharpShooterRow[kSharpShooterRows] = {-1, -1, -1, 5, 9, 19, 29, 49, 99, 199, 299};
@@ -50,10 +85,22 @@ constexpr int kMidwayDefault[kMidwayRows] = {2, 1, 1, 1, 2};
 // The rows of each preset, in order; a later line overrides an earlier one.
 constexpr RatioRows kPresetRows[kFieldPresets][8] = {
     {{1, 21, 1, 1}, {5, 15, -1, 1}, {1, 1, 2, 1}, {21, 21, 2, 1}},
-    {{1, 21, -1, 1}, {3, 4, -1, 3}, {5, 6, -1, 5}, {7, 15, -1, 11}, {10, 12, 1, 1}, {16, 17, -1, 5},
-     {18, 19, -1, 3}, {20, 20, 1, 1}},
-    {{1, 2, 1, 1}, {3, 4, 1, 3}, {5, 6, 1, 5}, {7, 15, 1, 11}, {10, 12, -1, 1}, {16, 17, 1, 5},
-     {18, 19, 1, 3}, {20, 21, -1, 1}},
+    {{1, 21, -1, 1},
+     {3, 4, -1, 3},
+     {5, 6, -1, 5},
+     {7, 15, -1, 11},
+     {10, 12, 1, 1},
+     {16, 17, -1, 5},
+     {18, 19, -1, 3},
+     {20, 20, 1, 1}},
+    {{1, 2, 1, 1},
+     {3, 4, 1, 3},
+     {5, 6, 1, 5},
+     {7, 15, 1, 11},
+     {10, 12, -1, 1},
+     {16, 17, 1, 5},
+     {18, 19, 1, 3},
+     {20, 21, -1, 1}},
     {{1, 21, -5, 7}, {2, 20, -1, 2}, {3, 19, -1, 3}, {5, 17, -1, 5}, {7, 15, -1, 11}, {10, 12, 1, 1}},
     {{1, 21, 0, 1}, {7, 9, 7, 6}, {10, 12, -1, 1}},
     {{1, 21, 0, 1}, {10, 12, 4, 5}, {13, 15, -5, 5}},
@@ -61,7 +108,11 @@ constexpr RatioRows kPresetRows[kFieldPresets][8] = {
     {{1, 21, 0, 1}, {3, 4, -1, 1}, {10, 12, 19, 40}},
     {{1, 21, 0, 1}, {10, 14, -1, 1}, {15, 15, 9, 1}},
     {{1, 21, -1, 1}, {1, 1, 27, 4, true}, {21, 21, 27, 4, true}, {2, 2, 12, 4, true}, {20, 20, 12, 4, true}},
-    {{1, 21, -1, 1}, {1, 1, 26, 5, true}, {21, 21, 26, 5, true}, {2, 2, 11, 5, true}, {20, 20, 11, 5, true},
+    {{1, 21, -1, 1},
+     {1, 1, 26, 5, true},
+     {21, 21, 26, 5, true},
+     {2, 2, 11, 5, true},
+     {20, 20, 11, 5, true},
      {10, 12, 0, 5, true}},
     {{1, 21, -1, 1}, {3, 3, 15, 1}},
     {{1, 21, -1, 1}, {7, 8, 1, 1}, {9, 9, 2, 1}, {10, 14, 1, 1}, {15, 15, 2, 1}},
@@ -84,13 +135,28 @@ constexpr FieldPreset kPresets[kFieldPresets] = {
 };
 constexpr int kDontPassPreset = 2;
 
-constexpr const char* kFieldCaptions[kFieldRows + 1] = {
-    "",
-    "2     (1.1)",       "3     (1.2) (2.1)", "4     (1.3) (3.1)", "4     (2.2)",       "5     (1.4) (4.1)",
-    "5     (2.3) (3.2)", "6     (1.5) (5.1)", "6     (2.4) (4.2)", "6     (3.3)",       "7     (1.6) (6.1)",
-    "7     (2.5) (5.2)", "7     (3.4) (4.3)", "8     (2.6) (6.2)", "8     (3.5) (5.3)", "8     (4.4)",
-    "9     (3.6) (6.3)", "9     (4.5) (5.4)", "10   (4.6) (6.4)",  "10   (5.5)",        "11   (5.6) (6.5)",
-    "12   (6.6)"};
+constexpr const char* kFieldCaptions[kFieldRows + 1] = {"",
+                                                        "2     (1.1)",
+                                                        "3     (1.2) (2.1)",
+                                                        "4     (1.3) (3.1)",
+                                                        "4     (2.2)",
+                                                        "5     (1.4) (4.1)",
+                                                        "5     (2.3) (3.2)",
+                                                        "6     (1.5) (5.1)",
+                                                        "6     (2.4) (4.2)",
+                                                        "6     (3.3)",
+                                                        "7     (1.6) (6.1)",
+                                                        "7     (2.5) (5.2)",
+                                                        "7     (3.4) (4.3)",
+                                                        "8     (2.6) (6.2)",
+                                                        "8     (3.5) (5.3)",
+                                                        "8     (4.4)",
+                                                        "9     (3.6) (6.3)",
+                                                        "9     (4.5) (5.4)",
+                                                        "10   (4.6) (6.4)",
+                                                        "10   (5.5)",
+                                                        "11   (5.6) (6.5)",
+                                                        "12   (6.6)"};
 
 // By the smaller face, then the greater.
 constexpr int kFieldRowOf[7][7] = {{},
@@ -132,8 +198,8 @@ ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const s
   for (int row = 1; row <= count; ++row)
     if (LosesMoreThanBet(rows[row]))
       return {title, "The loss on any " + name + " bet payoff cannot exceed the amount wagered."};
-  const bool anyWin =
-      std::any_of(rows + 1, rows + count + 1, [](const PayoffRecord& record) { return record.PayTo > kZero; });
+  const bool anyWin = std::any_of(rows + 1, rows + count + 1,
+                                  [](const PayoffRecord& record) { return record.PayTo > kZero; });
   if (!anyWin) return {title, "At least one of the " + name + " bet payoffs must be " + positive + "."};
   return {};
 }
@@ -168,8 +234,8 @@ const PayoffTableInfo& PayoffTableFacts(int table) { return kTables[table]; }
 
 PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row) {
   PayoffRecord* const tables[kPayoffTables] = {
-      payoffs.PayoffTable,         payoffs.FieldPayoffs,       payoffs.SevenPointSevenPayoffs,
-      payoffs.MidwayPayoffs,       payoffs.SharpShooterPayoffs, payoffs.RideTheLinePayoffs,
+      payoffs.PayoffTable,   payoffs.FieldPayoffs,        payoffs.SevenPointSevenPayoffs,
+      payoffs.MidwayPayoffs, payoffs.SharpShooterPayoffs, payoffs.RideTheLinePayoffs,
       payoffs.FirePayoffs};
   return tables[table][row];
 }
@@ -249,8 +315,7 @@ ConfigurationProblem CheckPayoffs(const PayoffTables& payoffs, const OfferedFami
   ConfigurationProblem problem =
       CheckHandTable(payoffs.SharpShooterPayoffs, kSharpShooterRows, "Sharpshooter", kTitle, "positive");
   if (problem.Found()) return problem;
-  problem =
-      CheckHandTable(payoffs.RideTheLinePayoffs, kRideTheLineRows, "Ride The Line", kTitle, "positive");
+  problem = CheckHandTable(payoffs.RideTheLinePayoffs, kRideTheLineRows, "Ride The Line", kTitle, "positive");
   if (problem.Found()) return problem;
   if (offered.fire) {
     problem = CheckHandTable(payoffs.FirePayoffs, kFireRows, "Fire", kTitle, "positive");
@@ -274,8 +339,8 @@ bool ParsePayoff(std::string_view text, PayoffRecord& record) {
     if (at == std::string::npos) continue;
     Currency payTo;
     Currency payPer;
-    if (!TryParseMoney(lower.substr(0, at), payTo) || !TryParseMoney(lower.substr(at + word.size()), payPer) ||
-        payPer <= kZero)
+    if (!TryParseMoney(lower.substr(0, at), payTo) ||
+        !TryParseMoney(lower.substr(at + word.size()), payPer) || payPer <= kZero)
       return false;
     record.PayTo = payTo;
     record.PayPer = payPer;

@@ -10,10 +10,10 @@ namespace tessaryn {
 
 // An amount is paid amount * PayTo / PayPer. A negative PayTo is a loss, 0 a push.
 struct PayoffRecord {
-  Currency BetUnit;   // the size in which the bet is paid whole; written by RebuildBetUnits alone
+  Currency BetUnit;  // the size in which the bet is paid whole; written by RebuildBetUnits alone
   Currency PayTo;
-  Currency ForFlag;   // -1 reads "to", 0 reads "for"; the arithmetic is the same
-  Currency PayPer;    // above 0
+  Currency ForFlag;  // -1 reads "to", 0 reads "for"; the arithmetic is the same
+  Currency PayPer;   // above 0
 
   friend bool operator==(const PayoffRecord&, const PayoffRecord&) = default;
 };
@@ -38,7 +38,7 @@ struct PayoffTables {
 };
 
 struct PayoffTableInfo {
-  const char* name;   // as settings name it
+  const char* name;  // as settings name it
   int firstRow;
   int lastRow;
 };
@@ -57,8 +57,8 @@ void RebuildBetUnits(PayoffTables& payoffs, Currency unit);
 
 // Presets of the Field. Each rewrites all 21 rows.
 struct FieldPreset {
-  const char* control;   // "mnuSFField" ...
-  const char* caption;   // "&Field w/ 2x on Two and Twelve" ...
+  const char* control;  // "mnuSFField" ...
+  const char* caption;  // "&Field w/ 2x on Two and Twelve" ...
 };
 inline constexpr int kFieldPresets = 13;
 const FieldPreset& FieldPresetFacts(int id);

@@ -33,7 +33,7 @@ struct Entry {
   Access access = Access::kSetting;
 };
 
-#define TESSARYN_CELL(expression) [](Game & game, [[maybe_unused]] int seat) -> void* { return &(expression); }
+#define TESSARYN_CELL(expression) [](Game& game, [[maybe_unused]] int seat) -> void* { return &(expression); }
 #define TESSARYN_SET(field) TESSARYN_CELL(game.settings.field)
 #define TESSARYN_HANDLING(field) TESSARYN_CELL(game.table.handling[seat].field)
 #define TESSARYN_LOG(field) TESSARYN_CELL(game.events.field)
@@ -45,21 +45,27 @@ constexpr Entry kEntries[] = {
     {"MinBetMain", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MinBetMain), "minimum of bets 1 to 51"},
     {"MinBetProp", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MinBetProp), "minimum of bets 52 to 93"},
     {"MaxBet", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MaxBet), "table maximum"},
-    {"MaxPropBetPayoff", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MaxPropBetPayoff), "most a proposition may pay"},
+    {"MaxPropBetPayoff", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MaxPropBetPayoff),
+     "most a proposition may pay"},
     {"MaxOddsBet", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MaxOddsBet), "ceiling of an odds bet"},
     {"MaxFireBet", Kind::kMoney, false, 0, kMost, TESSARYN_SET(MaxFireBet), "ceiling of the Fire bet"},
-    {"OddsAllowed410", Kind::kMoney, false, 0, 1000, TESSARYN_SET(OddsAllowed410), "odds multiple on 4 and 10"},
+    {"OddsAllowed410", Kind::kMoney, false, 0, 1000, TESSARYN_SET(OddsAllowed410),
+     "odds multiple on 4 and 10"},
     {"OddsAllowed59", Kind::kMoney, false, 0, 1000, TESSARYN_SET(OddsAllowed59), "odds multiple on 5 and 9"},
     {"OddsAllowed68", Kind::kMoney, false, 0, 1000, TESSARYN_SET(OddsAllowed68), "odds multiple on 6 and 8"},
-    {"OddsCalcMethod", Kind::kWhole, false, 0, 5, TESSARYN_SET(OddsCalcMethod), "0 auto select, 1 to 5 the method"},
+    {"OddsCalcMethod", Kind::kWhole, false, 0, 5, TESSARYN_SET(OddsCalcMethod),
+     "0 auto select, 1 to 5 the method"},
     {"BarNumber", Kind::kWhole, false, 2, 12, TESSARYN_SET(BarNumber), "12 or 2, barred on the don't side"},
     {"AllowPutBets", Kind::kFlag, false, 0, 0, TESSARYN_SET(AllowPutBets), "Put bets"},
-    {"ShooterBetRule", Kind::kWhole, false, 0, 2, TESSARYN_SET(ShooterBetRule), "0 none, 1 line bet, 2 any bet needed to shoot"},
+    {"ShooterBetRule", Kind::kWhole, false, 0, 2, TESSARYN_SET(ShooterBetRule),
+     "0 none, 1 line bet, 2 any bet needed to shoot"},
     {"UseBig68", Kind::kFlag, false, 0, 0, TESSARYN_SET(UseBig68), "Big 6 and Big 8"},
     {"UseMidway", Kind::kFlag, false, 0, 0, TESSARYN_SET(UseMidway), "Midway bet"},
-    {"SmallTallEnabled", Kind::kFlag, false, 0, 0, TESSARYN_SET(SmallTallEnabled), "special propositions, bets 84 to 89"},
+    {"SmallTallEnabled", Kind::kFlag, false, 0, 0, TESSARYN_SET(SmallTallEnabled),
+     "special propositions, bets 84 to 89"},
     {"UseFire", Kind::kFlag, false, 0, 0, TESSARYN_SET(UseFire), "Fire bet"},
-    {"ReturnAbandonedBets", Kind::kFlag, false, 0, 0, TESSARYN_SET(ReturnAbandonedBets), "contract bets go back at a new session"},
+    {"ReturnAbandonedBets", Kind::kFlag, false, 0, 0, TESSARYN_SET(ReturnAbandonedBets),
+     "contract bets go back at a new session"},
     {"BuyVigRate", Kind::kRate, false, 0, 1, TESSARYN_SET(BuyVigRate), "a fraction, or with % a percentage"},
     {"LayVigRate", Kind::kRate, false, 0, 1, TESSARYN_SET(LayVigRate), "a fraction, or with % a percentage"},
     {"BuyVigRound", Kind::kWhole, false, 0, 2, TESSARYN_SET(BuyVigRound), "0 normally, 1 down, 2 up"},
@@ -69,11 +75,14 @@ constexpr Entry kEntries[] = {
     {"SimRollRate", Kind::kMoney, false, 0.0001, 36'000'000, TESSARYN_SET(SimRollRate), "rolls per hour"},
     {"RollThrottle", Kind::kWhole, false, 0, 12, TESSARYN_SET(RollThrottle), "0 fastest to 11; 12 Auto-Roll"},
     {"AutoRollDelay", Kind::kMoney, false, 0, 300, TESSARYN_SET(AutoRollDelay), "seconds between Auto-Rolls"},
-    {"AutoStopInterval", Kind::kMoney, false, 0, 2'000'000'000, TESSARYN_SET(AutoStopInterval), "rolls, 0 never"},
+    {"AutoStopInterval", Kind::kMoney, false, 0, 2'000'000'000, TESSARYN_SET(AutoStopInterval),
+     "rolls, 0 never"},
     {"StartBank", Kind::kMoney, false, -kMost, kMost, TESSARYN_SET(StartBank), "offered to a new player"},
     {"AtmEnabled", Kind::kFlag, false, 0, 0, TESSARYN_SET(AtmEnabled), "the ATM works"},
-    {"AtmUnit", Kind::kMoney, false, 0, kMost, TESSARYN_SET(AtmUnit), "amount of an ATM action that names none"},
-    {"MessageMask", Kind::kWhole, false, 0, 31, TESSARYN_SET(MessageMask), "bits 1 refusals, 2 bankroll, 4 adjustments, 8 and 16 scripts"},
+    {"AtmUnit", Kind::kMoney, false, 0, kMost, TESSARYN_SET(AtmUnit),
+     "amount of an ATM action that names none"},
+    {"MessageMask", Kind::kWhole, false, 0, 31, TESSARYN_SET(MessageMask),
+     "bits 1 refusals, 2 bankroll, 4 adjustments, 8 and 16 scripts"},
     {"UseCentsSymbol", Kind::kFlag, false, 0, 0, TESSARYN_SET(UseCentsSymbol), "cents symbol below 1"},
     {"AutoArrangeChecks", Kind::kFlag, false, 0, 0, TESSARYN_SET(AutoArrangeChecks), "stacks rearrange"},
     {"SnapMouse", Kind::kFlag, false, 0, 0, TESSARYN_SET(SnapMouse), "pointer snaps to the default button"},
@@ -87,39 +96,59 @@ constexpr Entry kEntries[] = {
     {"WinSound", Kind::kWhole, false, 0, 100, TESSARYN_SET(WinSound), "sound set, 0 none"},
     {"AutoBetSounds", Kind::kFlag, false, 0, 0, TESSARYN_SET(AutoBetSounds), "sounds of scripts"},
     {"DisableAllSound", Kind::kFlag, false, 0, 0, TESSARYN_SET(DisableAllSound), "silence"},
-    {"IncludeZeroOutcomes", Kind::kFlag, false, 0, 0, TESSARYN_SET(IncludeZeroOutcomes), "advantage: zeros are decisions"},
-    {"CompBase", Kind::kWhole, false, 0, 2, TESSARYN_SET(CompBase), "0 theoretical vig, 1 action, 2 action and time"},
+    {"IncludeZeroOutcomes", Kind::kFlag, false, 0, 0, TESSARYN_SET(IncludeZeroOutcomes),
+     "advantage: zeros are decisions"},
+    {"CompBase", Kind::kWhole, false, 0, 2, TESSARYN_SET(CompBase),
+     "0 theoretical vig, 1 action, 2 action and time"},
     {"CompRate", Kind::kMoney, false, 0, kAny, TESSARYN_SET(CompRate), "percent"},
-    {"CompUseTrueProbs", Kind::kFlag, false, 0, 0, TESSARYN_SET(CompUseTrueProbs), "comps ignore percentage dice"},
-    {"GeneratorIndex", Kind::kWhole, false, 0, 7, TESSARYN_CELL(game.generators.GeneratorIndex), "generator number less 1"},
-    {"RngUserSeed", Kind::kFlag, false, 0, 0, TESSARYN_CELL(game.generators.RngUserSeed), "the user is asked for seeds"},
-    {"RngReseedNewSessions", Kind::kFlag, false, 0, 0, TESSARYN_CELL(game.generators.RngReseedNewSessions), "a new session seeds again"},
-    {"RecordEventsActive", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordEventsActive), "the Events Log's master switch"},
+    {"CompUseTrueProbs", Kind::kFlag, false, 0, 0, TESSARYN_SET(CompUseTrueProbs),
+     "comps ignore percentage dice"},
+    {"GeneratorIndex", Kind::kWhole, false, 0, 7, TESSARYN_CELL(game.generators.GeneratorIndex),
+     "generator number less 1"},
+    {"RngUserSeed", Kind::kFlag, false, 0, 0, TESSARYN_CELL(game.generators.RngUserSeed),
+     "the user is asked for seeds"},
+    {"RngReseedNewSessions", Kind::kFlag, false, 0, 0, TESSARYN_CELL(game.generators.RngReseedNewSessions),
+     "a new session seeds again"},
+    {"RecordEventsActive", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordEventsActive),
+     "the Events Log's master switch"},
     {"RecordRolls", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordRolls), "Events Log class"},
     {"RecordBetChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordBetChanges), "Events Log class"},
     {"RecordBetsWon", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordBetsWon), "Events Log class"},
     {"RecordBetsLost", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordBetsLost), "Events Log class"},
-    {"RecordCheckStackChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordCheckStackChanges), "Events Log class"},
+    {"RecordCheckStackChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordCheckStackChanges),
+     "Events Log class"},
     {"RecordPassesMisses", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordPassesMisses), "Events Log class"},
-    {"RecordShooterChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordShooterChanges), "Events Log class"},
-    {"RecordBankrollChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordBankrollChanges), "Events Log class"},
-    {"ClearLogOnNewSession", Kind::kFlag, false, 0, 0, TESSARYN_LOG(ClearLogOnNewSession), "a new session clears the log"},
-    {"KeepLatestRollOnTop", Kind::kFlag, false, 0, 0, TESSARYN_LOG(KeepLatestRollOnTop), "the view follows the rolls"},
+    {"RecordShooterChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordShooterChanges),
+     "Events Log class"},
+    {"RecordBankrollChanges", Kind::kFlag, false, 0, 0, TESSARYN_LOG(RecordBankrollChanges),
+     "Events Log class"},
+    {"ClearLogOnNewSession", Kind::kFlag, false, 0, 0, TESSARYN_LOG(ClearLogOnNewSession),
+     "a new session clears the log"},
+    {"KeepLatestRollOnTop", Kind::kFlag, false, 0, 0, TESSARYN_LOG(KeepLatestRollOnTop),
+     "the view follows the rolls"},
     // By seat.
-    {"WinHandling", Kind::kWhole, true, 0, 7, TESSARYN_HANDLING(WinHandling), "what becomes of a winner, 0 manual"},
-    {"LoseHandling", Kind::kWhole, true, 0, 7, TESSARYN_HANDLING(LoseHandling), "what becomes of a loser, 0 manual"},
+    {"WinHandling", Kind::kWhole, true, 0, 7, TESSARYN_HANDLING(WinHandling),
+     "what becomes of a winner, 0 manual"},
+    {"LoseHandling", Kind::kWhole, true, 0, 7, TESSARYN_HANDLING(LoseHandling),
+     "what becomes of a loser, 0 manual"},
     {"ProperOddsMode", Kind::kWhole, true, 0, 2, TESSARYN_HANDLING(ProperOddsMode), "amounts that pay whole"},
     {"PlaceBias", Kind::kWhole, true, 0, 2, TESSARYN_HANDLING(PlaceBias), "0 by the change, 1 up, 2 down"},
     {"DoBias", Kind::kWhole, true, 0, 2, TESSARYN_HANDLING(DoBias), "0 by the change, 1 up, 2 down"},
     {"DontBias", Kind::kWhole, true, 0, 2, TESSARYN_HANDLING(DontBias), "0 by the change, 1 up, 2 down"},
     {"LayBias", Kind::kWhole, true, 0, 2, TESSARYN_HANDLING(LayBias), "0 by the change, 1 up, 2 down"},
-    {"AutoTakeOdds", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoTakeOdds), "full odds on Pass Line and Come"},
-    {"AutoLayOdds", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoLayOdds), "full odds on Don't Pass and Don't Come"},
-    {"AutoDownPlace", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoDownPlace), "Place and Buy on a covered number come down"},
+    {"AutoTakeOdds", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoTakeOdds),
+     "full odds on Pass Line and Come"},
+    {"AutoLayOdds", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoLayOdds),
+     "full odds on Don't Pass and Don't Come"},
+    {"AutoDownPlace", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoDownPlace),
+     "Place and Buy on a covered number come down"},
     {"AutoPassDice", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoPassDice), "the seat won't shoot"},
-    {"AllowNegativeBankroll", Kind::kFlag, true, 0, 0, TESSARYN_CELL(game.table.AllowNegativeBankroll[seat]), "bets without money"},
-    {"BankrollInitType", Kind::kWhole, true, 0, 2, TESSARYN_CELL(game.table.BankrollInitType[seat]), "new session: 0 carry, 1 amount, 2 ask"},
-    {"BankrollInitAmount", Kind::kMoney, true, -kMost, kMost, TESSARYN_CELL(game.table.BankrollInitAmount[seat]), "new session's bankroll"},
+    {"AllowNegativeBankroll", Kind::kFlag, true, 0, 0, TESSARYN_CELL(game.table.AllowNegativeBankroll[seat]),
+     "bets without money"},
+    {"BankrollInitType", Kind::kWhole, true, 0, 2, TESSARYN_CELL(game.table.BankrollInitType[seat]),
+     "new session: 0 carry, 1 amount, 2 ask"},
+    {"BankrollInitAmount", Kind::kMoney, true, -kMost, kMost,
+     TESSARYN_CELL(game.table.BankrollInitAmount[seat]), "new session's bankroll"},
     // State, to be read.
     {"Point", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.Point), "0 on a come-out", Access::kState},
     {"LastPoint", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.LastPoint), "", Access::kState},
@@ -134,13 +163,18 @@ constexpr Entry kEntries[] = {
     {"FourRollCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.FourRollCount), "", Access::kState},
     {"FireMarks", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.FireMarks), "", Access::kState},
     {"FireCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.FireCount), "", Access::kState},
-    {"SharpShooterCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.SharpShooterCount), "", Access::kState},
-    {"RideTheLineCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.RideTheLineCount), "", Access::kState},
-    {"RngLastSeed", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.generators.RngLastSeed), "", Access::kState},
+    {"SharpShooterCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.SharpShooterCount), "",
+     Access::kState},
+    {"RideTheLineCount", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.RideTheLineCount), "",
+     Access::kState},
+    {"RngLastSeed", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.generators.RngLastSeed), "",
+     Access::kState},
     {"StopReason", Kind::kText, false, 0, 0, TESSARYN_CELL(game.table.StopReason), "", Access::kState},
     {"SeatName", Kind::kText, true, 0, 0, TESSARYN_CELL(game.table.SeatName[seat]), "", Access::kState},
-    {"BankrollCurrent", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.BankrollCurrent[seat]), "", Access::kState},
-    {"OnTableAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.OnTableAmount[seat]), "", Access::kState},
+    {"BankrollCurrent", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.BankrollCurrent[seat]), "",
+     Access::kState},
+    {"OnTableAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.OnTableAmount[seat]), "",
+     Access::kState},
     {"RailAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.RailAmount[seat]), "", Access::kState},
 };
 
@@ -157,7 +191,7 @@ struct RowEntry {
   int first;
   int last;
   bool bySeat;
-  int table;   // of payoffs
+  int table;  // of payoffs
   const char* help;
 };
 constexpr RowEntry kRowEntries[] = {
@@ -169,7 +203,8 @@ constexpr RowEntry kRowEntries[] = {
     {"SharpShooterPayoffs", Rows::kPayoffs, 1, kSharpShooterRows, false, 4, "by points made + 1"},
     {"RideTheLinePayoffs", Rows::kPayoffs, 1, kRideTheLineRows, false, 5, "by line wins + 1"},
     {"FirePayoffs", Rows::kPayoffs, 0, kFireRows, false, 6, "by different points made"},
-    {"BetDefaultWorking", Rows::kDefaultWorking, 1, kBets, true, 0, "works on the come-out; seat 0 the house"},
+    {"BetDefaultWorking", Rows::kDefaultWorking, 1, kBets, true, 0,
+     "works on the come-out; seat 0 the house"},
     {"CompBetFlags", Rows::kCompBets, 1, kBets, false, 0, "counts towards comps"},
     {"AdjustKind", Rows::kAdjustKind, 4, 7, true, 0, "0 plus, 1 minus, 2 times, 3 divided by"},
     {"AdjustValue", Rows::kAdjustValue, 4, 7, true, 0, "the value of the slot"},
@@ -379,10 +414,10 @@ struct Before {
 };
 
 bool* LogFlag(EventsLog& log, int i) {
-  bool* const flags[11] = {&log.RecordEventsActive, &log.RecordRolls, &log.RecordBetChanges, &log.RecordBetsWon,
-                           &log.RecordBetsLost, &log.RecordCheckStackChanges, &log.RecordPassesMisses,
-                           &log.RecordShooterChanges, &log.RecordBankrollChanges, &log.ClearLogOnNewSession,
-                           &log.KeepLatestRollOnTop};
+  bool* const flags[11] = {&log.RecordEventsActive,   &log.RecordRolls,          &log.RecordBetChanges,
+                           &log.RecordBetsWon,        &log.RecordBetsLost,       &log.RecordCheckStackChanges,
+                           &log.RecordPassesMisses,   &log.RecordShooterChanges, &log.RecordBankrollChanges,
+                           &log.ClearLogOnNewSession, &log.KeepLatestRollOnTop};
   return flags[i];
 }
 
@@ -409,7 +444,8 @@ void Restore(Game& game, const Before& before) {
   game.settings = before.settings;
   game.payoffs = before.payoffs;
   std::copy(std::begin(before.handling), std::end(before.handling), game.table.handling);
-  std::copy(std::begin(before.allowNegative), std::end(before.allowNegative), game.table.AllowNegativeBankroll);
+  std::copy(std::begin(before.allowNegative), std::end(before.allowNegative),
+            game.table.AllowNegativeBankroll);
   std::copy(std::begin(before.initType), std::end(before.initType), game.table.BankrollInitType);
   std::copy(std::begin(before.initAmount), std::end(before.initAmount), game.table.BankrollInitAmount);
   std::copy(std::begin(before.defaultWorking), std::end(before.defaultWorking), game.table.BetDefaultWorking);
@@ -428,10 +464,11 @@ struct Family {
   int first;
   int last;
   const char* title;
-  const char* text;   // what is up
+  const char* text;  // what is up
 };
 constexpr Family kFamilies[] = {
-    {&Settings::UseBig68, kBig6, kBig8, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
+    {&Settings::UseBig68, kBig6, kBig8, "Remove Big 6 / Big 8 Bets",
+     "one or more bets on the Big 6 and/or Big 8"},
     {&Settings::UseFire, kFire, kFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
     {&Settings::UseMidway, kMidway, kMidway, "Remove Midway Bets", "one or more Midway bets present"},
     {&Settings::SmallTallEnabled, kAllSmall, kSevenPoint7, "Remove Special Prop Bets", ""},
@@ -446,7 +483,8 @@ std::string SpecialBetsUp(const Game& game) {
 
 bool SevenPoint7Rides(const Game& game) {
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (game.table.BetAmount(seat, kSevenPoint7) > kZero && game.table.BetCommitted(seat, kSevenPoint7) > kZero)
+    if (game.table.BetAmount(seat, kSevenPoint7) > kZero &&
+        game.table.BetCommitted(seat, kSevenPoint7) > kZero)
       return true;
   return false;
 }
@@ -459,12 +497,14 @@ bool SwitchFamilyOff(Game& game, const Family& family, std::string& error) {
   error = std::string(family.title) + ": bets are up, and stay.";
   if (special && SevenPoint7Rides(game)) {
     error =
-        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a contract "
+        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
+        "contract "
         "bet, you can't remove it until it resolves.";
     ShowMessage(game, family.title, error);
     return false;
   }
-  const std::string text = "There are currently " + (special ? SpecialBetsUp(game) : std::string(family.text)) +
+  const std::string text = "There are currently " +
+                           (special ? SpecialBetsUp(game) : std::string(family.text)) +
                            " which will be removed if you continue with this operation.  Would you like to "
                            "continue?";
   if (ShowMessage(game, family.title, text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes) return false;
@@ -488,19 +528,21 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
         lay = lay || IsLay(bet);
       }
     });
-    const bool covered = game.table.AllowNegativeBankroll[seat] ||
-                         onTable <= std::max(game.table.BankrollCurrent[seat], game.table.OnTableAmount[seat]);
+    const bool covered =
+        game.table.AllowNegativeBankroll[seat] ||
+        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.OnTableAmount[seat]);
     if (!covered) ++short_;
   }
   if (short_ == 0) return true;
   title = lay ? "Lay Bet Vig" : "Buy Bet Vig";
-  error = std::string("You're not allowed to change this setting at this time because ") +
-          (short_ == 1 && game.table.OccupiedSeats == 1
-               ? "you don't have enough bankroll remaining to pay the added up-front vig that would be required."
-               : "one or more players doesn't have enough bankroll remaining to pay the added up-front vig that "
-                 "would be required.") +
-          "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
-          "negative bankroll\"";
+  error =
+      std::string("You're not allowed to change this setting at this time because ") +
+      (short_ == 1 && game.table.OccupiedSeats == 1
+           ? "you don't have enough bankroll remaining to pay the added up-front vig that would be required."
+           : "one or more players doesn't have enough bankroll remaining to pay the added up-front vig that "
+             "would be required.") +
+      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
+      "negative bankroll\"";
   return false;
 }
 
@@ -545,10 +587,10 @@ void OfferHouseStandard(Game& game, const Before& before) {
                   kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
     return;
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(table, seat) &&
-        ShowMessage(game, kTitle,
-                    "Would you like to make " + table.SeatName[seat] + "'s settings match the house standard?",
-                    kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
+    if (IsOccupied(table, seat) && ShowMessage(game, kTitle,
+                                               "Would you like to make " + table.SeatName[seat] +
+                                                   "'s settings match the house standard?",
+                                               kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
       table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
 }
 
@@ -575,7 +617,8 @@ bool Commit(Game& game, const Before& before, std::string& error) {
   if (vig || payoffs) RecomputeVig(game);
   game.autobet.ScriptsCompiled = false;
   ReplaceMissingGenerator(game.generators);
-  if (before.settings.RollThrottle != game.settings.RollThrottle) SetThrottle(game, game.settings.RollThrottle);
+  if (before.settings.RollThrottle != game.settings.RollThrottle)
+    SetThrottle(game, game.settings.RollThrottle);
   game.settings.AutoStopInterval = ClampAutoStop(game.settings.AutoStopInterval);
   OfferHouseStandard(game, before);
   if (before.logFlags[0] && !game.events.RecordEventsActive) FlushEventsLog(game);
@@ -626,7 +669,8 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
     return entry != nullptr ? ReadInto(game, *entry, seat, text, error)
                             : ReadRow(game, *row.entry, row.row, seat, text, error);
   };
-  const bool everyPlayer = bySeat && change.seat == 0 && !(row.entry != nullptr && row.entry->rows == Rows::kDefaultWorking);
+  const bool everyPlayer =
+      bySeat && change.seat == 0 && !(row.entry != nullptr && row.entry->rows == Rows::kDefaultWorking);
   if (!everyPlayer) return put(change.seat);
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game.table, seat) && !put(seat)) return false;

@@ -142,9 +142,7 @@ void SetThrottle(Game& game, int position) {
   game.host->Changed(game, Change::kRun);
 }
 
-Currency ClampAutoRollDelay(Currency seconds) {
-  return std::clamp(seconds, kZero, Currency::Dollars(300));
-}
+Currency ClampAutoRollDelay(Currency seconds) { return std::clamp(seconds, kZero, Currency::Dollars(300)); }
 
 Currency ClampAutoStop(Currency rolls) { return std::max(WholePart(rolls), kZero); }
 
@@ -159,11 +157,12 @@ void SetAutoRollDelay(Game& game) {
 
 void SetAutoStop(Game& game) {
   game.box.MsgValue1 = game.settings.AutoStopInterval;
-  if (ShowMessage(game, "Set Auto-Roll / Turbo-Roll Auto-Stop",
-                  "How often (number of rolls) would you like Auto-Roll / Turbo-Roll to automatically stop?  "
-                  "\r\r(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
-                  "automatic stopping.)",
-                  kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
+  if (ShowMessage(
+          game, "Set Auto-Roll / Turbo-Roll Auto-Stop",
+          "How often (number of rolls) would you like Auto-Roll / Turbo-Roll to automatically stop?  "
+          "\r\r(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
+          "automatic stopping.)",
+          kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
     return;
   game.settings.AutoStopInterval = ClampAutoStop(game.box.MsgValue1);
 }

@@ -24,8 +24,8 @@ std::string NotAllowedBecause(const std::string& name) {
 std::string CoveredDepositText(const Game& game, int seat, bool fromConfiguration) {
   const TableState& table = game.table;
   const bool wagered = table.OnTableAmount[seat] > kZero;
-  std::string text = "The full amount of this transaction was not allowed because " + table.SeatName[seat] +
-                     "'s ";
+  std::string text =
+      "The full amount of this transaction was not allowed because " + table.SeatName[seat] + "'s ";
   text += wagered ? "bankroll would've dropped below the amount currently wagered."
                   : "bankroll would've become negative.";
   text += "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\"";

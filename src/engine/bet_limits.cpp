@@ -46,15 +46,15 @@ Currency MaxSharedBet(const Game& game, int bet) {
   const SharedBet& shared = kSharedBets[bet - kCAndE];
   Currency smallest = kBankrollLimit;
   for (const int part : shared.parts)
-    smallest = std::min(smallest, AmountThatWins(game, game.settings.MaxPropBetPayoff,
-                                                 game.payoffs.PayoffTable[part]));
+    smallest = std::min(smallest,
+                        AmountThatWins(game, game.settings.MaxPropBetPayoff, game.payoffs.PayoffTable[part]));
   return Multiply(smallest, Currency::Dollars(shared.shares));
 }
 
 Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
   const PayoffRecord& record = game.payoffs.PayoffTable[bet];
-  const Currency most = MaxOddsFor(game, bet, game.table.BetAmount(seat, FlatBetOf(bet)), record.PayTo,
-                                   record.PayPer);
+  const Currency most =
+      MaxOddsFor(game, bet, game.table.BetAmount(seat, FlatBetOf(bet)), record.PayTo, record.PayPer);
   // Who lays states the maximum in what can be won.
   return laying && record.PayTo > kZero ? Divide(Multiply(most, record.PayPer), record.PayTo) : most;
 }
@@ -78,10 +78,10 @@ Currency OddsMultiple(const Game& game, int bet) {
 
 // What the five methods work on, in dollars.
 struct OddsCase {
-  Currency multiple;     // M
-  Currency flat;         // F
-  Currency base;         // M times F
-  Currency limit;        // (M + 1) times F
+  Currency multiple;  // M
+  Currency flat;      // F
+  Currency base;      // M times F
+  Currency limit;     // (M + 1) times F
   Currency payTo;
   Currency payPer;
 };
@@ -176,8 +176,8 @@ Currency MaxBetFor(const Game& game, int seat, int bet) {
     return WholeUnits(game, AmountThatWins(game, settings.MaxPropBetPayoff, record));
   switch (bet) {
     case kSevenPoint7:
-      return WholeUnits(
-          game, SmallestAmount(game, std::span(game.payoffs.SevenPointSevenPayoffs).subspan(1)));
+      return WholeUnits(game,
+                        SmallestAmount(game, std::span(game.payoffs.SevenPointSevenPayoffs).subspan(1)));
     case kSharpShooter:
       return WholeUnits(game, SmallestAmount(game, std::span(game.payoffs.SharpShooterPayoffs).subspan(1)));
     case kRideTheLine:

@@ -49,21 +49,15 @@ struct RuleCase {
   Currency newAmount;
 };
 
-bool OverCommitted(const RuleCase& c) {
-  return c.newAmount > c.game.table.BetCommitted(c.seat, c.bet);
-}
-bool UnderCommitted(const RuleCase& c) {
-  return c.newAmount < c.game.table.BetCommitted(c.seat, c.bet);
-}
+bool OverCommitted(const RuleCase& c) { return c.newAmount > c.game.table.BetCommitted(c.seat, c.bet); }
+bool UnderCommitted(const RuleCase& c) { return c.newAmount < c.game.table.BetCommitted(c.seat, c.bet); }
 bool PointOn(const RuleCase& c) { return c.game.table.Point != 0; }
 bool PutRefused(const RuleCase& c) { return !c.game.settings.AllowPutBets && OverCommitted(c); }
 bool PutRefusedWithPoint(const RuleCase& c) { return PointOn(c) && PutRefused(c); }
 bool NoPoint(const RuleCase& c) { return !PointOn(c); }
 bool PointAndOver(const RuleCase& c) { return PointOn(c) && OverCommitted(c); }
 bool PointAndUnder(const RuleCase& c) { return PointOn(c) && UnderCommitted(c); }
-bool NoFlatBet(const RuleCase& c) {
-  return c.game.table.BetAmount(c.seat, FlatBetOf(c.bet)) == kZero;
-}
+bool NoFlatBet(const RuleCase& c) { return c.game.table.BetAmount(c.seat, FlatBetOf(c.bet)) == kZero; }
 bool NoPointOrFlat(const RuleCase& c) { return NoPoint(c) || NoFlatBet(c); }
 bool DirectPutRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && PutRefused(c); }
 bool DirectRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && OverCommitted(c); }
@@ -82,15 +76,17 @@ struct BetRule {
   int last;
   bool decrease;
   bool (*refuses)(const RuleCase&);
-  bool endsCall;      // nothing of the change is left to look at
-  const char* text;   // NAME is the bet's name, FLAT that of its flat bet
+  bool endsCall;     // nothing of the change is left to look at
+  const char* text;  // NAME is the bet's name, FLAT that of its flat bet
 };
 
 constexpr const char* kOddsText = "You may not make a NAME bet \runtil you've established a FLAT bet.";
-constexpr const char* kContractText = "You may not decrease or remove a NAME bet \rwhile a point is established.";
+constexpr const char* kContractText =
+    "You may not decrease or remove a NAME bet \rwhile a point is established.";
 constexpr const char* kComeOutText =
     "You may not make or increase a NAME bet unless the shooter is on a come-out roll.";
-constexpr const char* kHandText = "You may not make or increase a NAME bet after the shooter has started a hand.";
+constexpr const char* kHandText =
+    "You may not make or increase a NAME bet after the shooter has started a hand.";
 
 constexpr BetRule kRules[] = {
     {kPassLine, kPassLine, true, PointAndUnder, false,
@@ -231,7 +227,8 @@ std::string BankrollText(const Game& game, int seat, int bet) {
   BetSet others = game.table.SeatBets[seat];
   others.Remove(bet);
   return std::string(
-             "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options are: "
+             "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options "
+             "are: "
              "\r") +
          (others.Empty() ? "" : "      - Bet less on other bets.\r") +
          "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
@@ -282,8 +279,9 @@ void ApplyVig(Game& game, int seat, int bet) {
   if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] += vig - held;
   held = vig;
   if (!NotesShown(game, kNoteAdjusted) || vig == kZero) return;
-  ShowNote(game, seat, bet, kNoteAdjusted,
-           (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
+  ShowNote(
+      game, seat, bet, kNoteAdjusted,
+      (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
 }
 
 Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
@@ -304,7 +302,8 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
 }
 
 // The families that the configuration can take off the table.
-constexpr BetSet kSwitchableBets = BetRange(kBig6, kBig8) | BetRange(kAllSmall, kMidway) | BetRange(kFire, kFire);
+constexpr BetSet kSwitchableBets =
+    BetRange(kBig6, kBig8) | BetRange(kAllSmall, kMidway) | BetRange(kFire, kFire);
 
 // Bets whose maximum is the table's.
 constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetRange(kCome4, kCome4 + 5) |
@@ -342,8 +341,7 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
       if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
     }
     // No limit takes a contract bet below what has ridden.
-    if (change < kZero)
-      change = std::max(change, std::min(ContractFloor(game, seat, bet) - amount, kZero));
+    if (change < kZero) change = std::max(change, std::min(ContractFloor(game, seat, bet) - amount, kZero));
   }
   ApplyBankroll(game, seat, bet, change);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);

@@ -32,7 +32,8 @@ std::string CheckBet(const Game& game, int seat, int bet) {
   if (!table.TouchedSinceAfter[seat].Has(bet) && table.BetAfterRoll(seat, bet) != amount)
     return "copy after the roll: " + Where(game, seat, bet);
   const WorkingState& working = table.BetWorking[seat];
-  if (working.calledOn.Has(bet) && working.calledOff.Has(bet)) return "called both ways: " + Where(game, seat, bet);
+  if (working.calledOn.Has(bet) && working.calledOff.Has(bet))
+    return "called both ways: " + Where(game, seat, bet);
   if ((working.calledOn.Has(bet) || working.calledOff.Has(bet)) && !FactsOf(bet).callable)
     return "a call on a bet that takes none: " + Where(game, seat, bet);
   return "";
@@ -48,7 +49,8 @@ std::string CheckSeat(const Game& game, int seat) {
   for (int i = 0; i < 6; ++i) {
     for (const int bet : {kLay4 + i, kBuy4 + i}) {
       const Currency held = IsLay(bet) ? table.LayVigHeld[seat][i] : table.BuyVigHeld[seat][i];
-      if (table.BetAmount(seat, bet) == kZero && held != kZero) return "vig without a bet: " + Where(game, seat, bet);
+      if (table.BetAmount(seat, bet) == kZero && held != kZero)
+        return "vig without a bet: " + Where(game, seat, bet);
       if (VigUpFront(game, bet)) onTable += held;
     }
   }
@@ -74,7 +76,8 @@ std::string CheckTableSets(const Game& game) {
   if (!table.RollInProgress)
     for (int seat = 1; seat <= kSeats; ++seat) {
       const BetSet& now = table.BetWorking[seat].byDefault;
-      if (table.Point != 0 && now != kAllTableBets) return "bets off with a point on, seat " + std::to_string(seat);
+      if (table.Point != 0 && now != kAllTableBets)
+        return "bets off with a point on, seat " + std::to_string(seat);
     }
   return "";
 }

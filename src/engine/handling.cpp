@@ -135,7 +135,7 @@ void SameBetAdjusted(Game& game, int seat, int bet, const Adjustment& adjustment
   const Currency factor = percent ? Divide(adjustment.value, hundred) : adjustment.value;
   Currency wanted;
   if (adjustment.kind == kPlus || adjustment.kind == kMinus) {
-    const Currency step = percent ? Multiply(before, factor)
+    const Currency step = percent                      ? Multiply(before, factor)
                           : adjustment.unit > kPercent ? UnitsInDollars(game, bet, adjustment)
                                                        : adjustment.value;
     wanted = adjustment.kind == kPlus ? before + step : before - step;

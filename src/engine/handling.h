@@ -9,10 +9,26 @@ namespace tessaryn {
 struct Game;
 
 // The choices of WinHandling and LoseHandling.
-enum WinChoice : int { kWinManual, kWinTakeDown, kWinSame, kWinPressUnit, kWinPressDouble, kWinParlay,
-                       kWinAdjusted, kWinFixed };
-enum LoseChoice : int { kLoseManual, kLoseTakeDown, kLoseSame, kLoseRemainder, kLosePlusUnit, kLoseDouble,
-                        kLoseAdjusted, kLoseFixed };
+enum WinChoice : int {
+  kWinManual,
+  kWinTakeDown,
+  kWinSame,
+  kWinPressUnit,
+  kWinPressDouble,
+  kWinParlay,
+  kWinAdjusted,
+  kWinFixed
+};
+enum LoseChoice : int {
+  kLoseManual,
+  kLoseTakeDown,
+  kLoseSame,
+  kLoseRemainder,
+  kLosePlusUnit,
+  kLoseDouble,
+  kLoseAdjusted,
+  kLoseFixed
+};
 // The captions of the choices 0 to 7 on the Auto-Play screen.
 extern const char* const kWinChoiceCaptions[8];
 extern const char* const kLoseChoiceCaptions[8];

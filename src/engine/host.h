@@ -18,8 +18,8 @@ enum MessageFlag : std::uint32_t {
   kMsgNo = 1u << 2,
   kMsgCancel = 1u << 3,
   kMsgHelp = 1u << 4,
-  kMsgInput = 1u << 6,       // one input box
-  kMsgTwoInputs = 3u << 6,   // two: a value each, or a range
+  kMsgInput = 1u << 6,      // one input box
+  kMsgTwoInputs = 3u << 6,  // two: a value each, or a range
   kMsgStop = 1u << 8,
   kMsgAlert = 1u << 9,
   kMsgQuestion = 1u << 10,
@@ -36,21 +36,21 @@ inline constexpr int kResultNo = 7;
 
 // One box: what to ask, and what was answered. Written by the asking procedure, answered by the host.
 struct MessageBox {
-  std::string MsgText;        // "\r" ends a line
+  std::string MsgText;  // "\r" ends a line
   std::string MsgTitle;
-  int MsgWidth = 302;         // a layout value: 105, 130, 302 or 640
+  int MsgWidth = 302;  // a layout value: 105, 130, 302 or 640
   std::uint32_t MsgFlags = kMsgOk;
-  int MsgResult = 0;          // kResultOk, kResultCancel, kResultYes or kResultNo
-  Currency MsgValue1;         // in: the preset; out: the number typed
+  int MsgResult = 0;   // kResultOk, kResultCancel, kResultYes or kResultNo
+  Currency MsgValue1;  // in: the preset; out: the number typed
   Currency MsgValue2;
-  std::string MsgEntry;       // with kMsgTextInput, in: the preset; out: the text typed
+  std::string MsgEntry;  // with kMsgTextInput, in: the preset; out: the text typed
 };
 
 // What a player wants done with a decided bet. choice is 1 to 7 of the handling tables; 0 leaves it to the
 // host's lack of an answer: the safe choice for a win (2) or a loss (1).
 struct SettleAnswer {
   int choice = 0;
-  int adjustKind = 0;     // with choices 6 and 7, as AdjustKind, AdjustValue and AdjustUnit
+  int adjustKind = 0;  // with choices 6 and 7, as AdjustKind, AdjustValue and AdjustUnit
   Currency adjustValue;
   int adjustUnit = 0;
 };
@@ -60,12 +60,12 @@ struct SettleQuestion {
   int seat = 0;
   int bet = 0;
   bool won = false;
-  bool offOdds = false;   // odds that weren't working: nothing was paid or taken
+  bool offOdds = false;  // odds that weren't working: nothing was paid or taken
   Currency gross;
   Currency net;
-  Currency vig;           // held vig, Lay and Buy bets
-  Currency pressUnit;     // what "Press 1 Unit" would add
-  int count = 0;          // points made, line wins, different points: bets 91 to 93
+  Currency vig;        // held vig, Lay and Buy bets
+  Currency pressUnit;  // what "Press 1 Unit" would add
+  int count = 0;       // points made, line wins, different points: bets 91 to 93
 };
 
 enum class Sound { kDice, kCheck, kWin, kLose, kComeOut, kPoint, kPass, kMiss, kBarredMiss, kSevenOut };

@@ -122,15 +122,15 @@ bool TryParseMoney(std::string_view text, Currency& value) {
   const std::string whole = number.substr(0, point);
   std::string fraction = point == std::string::npos ? "" : number.substr(point + 1);
   std::int64_t dollars = 0;
-  if (!whole.empty() &&
-      std::from_chars(whole.data(), whole.data() + whole.size(), dollars).ec != std::errc())
+  if (!whole.empty() && std::from_chars(whole.data(), whole.data() + whole.size(), dollars).ec != std::errc())
     return false;
   const bool halfOrMore = fraction.size() > 4;
   std::string rest = halfOrMore ? fraction.substr(4) : "";
   fraction.resize(4, '0');
   std::int64_t parts = std::stoll(fraction);
   if (halfOrMore) {
-    const bool above = rest[0] > '5' || (rest[0] == '5' && rest.find_first_not_of('0', 1) != std::string::npos);
+    const bool above =
+        rest[0] > '5' || (rest[0] == '5' && rest.find_first_not_of('0', 1) != std::string::npos);
     const bool exactHalf = rest[0] == '5' && !above;
     if (above || (exactHalf && parts % 2 == 1)) ++parts;
   }
@@ -149,12 +149,11 @@ Currency ParseMoney(std::string_view text) {
 bool FilterAmountKey(std::string_view text, char key, int decimals, bool allowMinus) {
   if (key == '\b') return true;
   const auto point = text.find('.');
-  const auto wholeDigits = std::count_if(text.begin(), point == std::string_view::npos ? text.end()
-                                                                                      : text.begin() + point,
-                                         [](char c) { return c >= '0' && c <= '9'; });
+  const auto wholeDigits =
+      std::count_if(text.begin(), point == std::string_view::npos ? text.end() : text.begin() + point,
+                    [](char c) { return c >= '0' && c <= '9'; });
   if (key == '-') return allowMinus && text.empty();
-  if (key == '.')
-    return decimals > 0 && point == std::string_view::npos;
+  if (key == '.') return decimals > 0 && point == std::string_view::npos;
   if (key < '0' || key > '9') return false;
   if (point != std::string_view::npos) return static_cast<int>(text.size() - point - 1) < decimals;
   return wholeDigits < 13;

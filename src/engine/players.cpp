@@ -43,10 +43,10 @@ int NextOccupied(const TableState& table, int seat) {
 }
 
 struct ShooterSearch {
-  int seat = 0;          // who may take the dice; 0 nobody
-  int others = 0;        // other players at the table
-  int otherSeat = 0;     // one of them
-  int lackLineBet = 0;   // willing, but without the line bet that is needed
+  int seat = 0;         // who may take the dice; 0 nobody
+  int others = 0;       // other players at the table
+  int otherSeat = 0;    // one of them
+  int lackLineBet = 0;  // willing, but without the line bet that is needed
 };
 
 ShooterSearch SearchShooter(const Game& game) {
@@ -100,9 +100,10 @@ void GiveDice(Game& game, int seat, int reason) {
   const std::string& newName = table.SeatName[seat];
   const bool back = seat == table.HandSeat;
   ShowMessage(game, kPassTitle,
-              back ? oldName + " is passing the dice back to " + newName + " who originally started this hand."
-                   : oldName + " is passing the dice to " + newName +
-                         " who may finish the current hand and then roll his/her own hand.");
+              back
+                  ? oldName + " is passing the dice back to " + newName + " who originally started this hand."
+                  : oldName + " is passing the dice to " + newName +
+                        " who may finish the current hand and then roll his/her own hand.");
 }
 
 // Who asked for the dice to pass hears why they can't; nobody else does, and no text is formed.
@@ -210,8 +211,8 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   }
   if (table.SelectedSeat == 0) table.SelectedSeat = seat;
   game.autobet.ScriptsCompiled = false;
-  WriteEventsLogLine(game, "    " + name + " joined the game at " + StickPosition(seat) + " with $" +
-                               PlainMoney(bankroll));
+  WriteEventsLogLine(
+      game, "    " + name + " joined the game at " + StickPosition(seat) + " with $" + PlainMoney(bankroll));
   game.host->Changed(game, Change::kPlayers);
   if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
   RequireConsistency(game);
@@ -224,7 +225,8 @@ namespace {
 bool AskText(Game& game, const std::string& title, const std::string& text, const std::string& preset,
              std::string& answer) {
   game.box.MsgEntry = preset;
-  if (ShowMessage(game, title, text, kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion) != kResultOk)
+  if (ShowMessage(game, title, text, kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion) !=
+      kResultOk)
     return false;
   answer = Trimmed(game.box.MsgEntry);
   return !answer.empty();

@@ -131,7 +131,8 @@ enum class DiceSource { kPad, kFile, kGenerator };
 
 void AskRewind(Game& game) {
   RollFile& file = game.rollFile;
-  switch (ShowMessage(game, kRewindTitle, RewindQuestion(file), kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion)) {
+  switch (
+      ShowMessage(game, kRewindTitle, RewindQuestion(file), kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion)) {
     case kResultYes:
       RewindForPlayback(file);
       break;
@@ -211,7 +212,8 @@ bool ThrowDice(Game& game) {
   table.RollTotal = table.Die1 + table.Die2;
   if (game.rollFile.RecorderState == kRecorderRecord && !RecordRoll(game.rollFile, table.Die1, table.Die2))
     ReportError(game, game.rollFile.LastErrorText, 61, "Record Roll");
-  if (game.events.RecordEventsActive && game.events.RecordRolls) LogRoll(game, SourceText(game, source).c_str());
+  if (game.events.RecordEventsActive && game.events.RecordRolls)
+    LogRoll(game, SourceText(game, source).c_str());
   Speak(game, Sound::kDice);
   return true;
 }

@@ -131,8 +131,7 @@ void ComputePayoff(Game& game, int seat, int bet, int code, Currency amount) {
     const Currency share = Divide(amount, Currency::Dollars(shares));
     gross = Paid(share, working) - (amount - share);
   }
-  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet)))
-    gross -= VigHeld(game, seat, bet);
+  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet))) gross -= VigHeld(game, seat, bet);
   table.GrossPayoff = gross;
   table.NetPayoff = RoundDownToUnit(gross, game.settings.Unit());
 }
@@ -206,7 +205,7 @@ namespace {
 
 struct RollFacts {
   bool comeOut;
-  int low;    // the smaller face
+  int low;  // the smaller face
   int high;
   int barNumber;
 };

@@ -29,9 +29,9 @@ enum class StepWhen : std::uint8_t {
 
 struct SettleStep {
   std::uint8_t bet;
-  std::int8_t code;                     // of the bet; its odds take -2 or 2
+  std::int8_t code;  // of the bet; its odds take -2 or 2
   StepWhen when = StepWhen::kAlways;
-  std::uint8_t oddsBet = 0;             // settled seat by seat right behind the bet
+  std::uint8_t oddsBet = 0;  // settled seat by seat right behind the bet
 };
 
 // Steps and the bets in them, so that a list without a bet that is up costs one test.

@@ -21,7 +21,9 @@ inline constexpr int kFirstCheckStack = 100;
 inline constexpr int kCheckStacks = 100;
 inline constexpr int kBetRows = 201;
 constexpr bool IsTableBet(int bet) { return bet >= 1 && bet <= kBets; }
-constexpr bool IsCheckStack(int bet) { return bet >= kFirstCheckStack && bet < kFirstCheckStack + kCheckStacks; }
+constexpr bool IsCheckStack(int bet) {
+  return bet >= kFirstCheckStack && bet < kFirstCheckStack + kCheckStacks;
+}
 
 // Named bets and the first of each family of six, one for each box number.
 enum Bet : int {
@@ -135,8 +137,7 @@ struct BetSet {
   template <typename Visit>
   void ForEach(Visit&& visit) const {
     for (int w = 0; w < 2; ++w)
-      for (std::uint64_t rest = words[w]; rest != 0; rest &= rest - 1)
-        visit(w * 64 + std::countr_zero(rest));
+      for (std::uint64_t rest = words[w]; rest != 0; rest &= rest - 1) visit(w * 64 + std::countr_zero(rest));
   }
 };
 

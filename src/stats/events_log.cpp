@@ -17,7 +17,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::size_t kFlushAt = 256 * 1024;      // bytes of text
+constexpr std::size_t kFlushAt = 256 * 1024;  // bytes of text
 constexpr std::size_t kKeepUnwritten = 4 * 1024 * 1024;
 constexpr std::int64_t kLongestLog = 4'294'967'295;  // the index counts in 32 bits
 constexpr int kIndexBytes = 4;
@@ -56,8 +56,8 @@ std::int64_t FileSize(const std::string& path) {
 int AppendAll(std::FILE* file, std::int64_t length, const std::string& buffer) {
   if (buffer.empty()) return 0;
   errno = 0;
-  const bool written = std::fwrite(buffer.data(), 1, buffer.size(), file) == buffer.size() &&
-                       std::fflush(file) == 0;
+  const bool written =
+      std::fwrite(buffer.data(), 1, buffer.size(), file) == buffer.size() && std::fflush(file) == 0;
   if (written) return 0;
   const int error = errno == 0 ? EIO : errno;
   (void)length;
@@ -293,10 +293,10 @@ void NewEventsLog(Game& game) {
   FlushEventsLog(game);
   const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
   if (defaultName && FileSize(EventsLogPath(game)) > 0) {
-    const int answer = ShowMessage(
-        game, "Save Events Log?",
-        "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
-        kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    const int answer =
+        ShowMessage(game, "Save Events Log?",
+                    "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
+                    kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
     if (answer == kResultCancel) return;
     if (answer == kResultYes) {
       game.host->Changed(game, Change::kEverything);  // the screen's Save As takes it from here
@@ -413,8 +413,8 @@ void LogAmountChange(Game& game, int seat, int bet) {
   else if (before == kZero)
     WriteGroupedLine(game, start + " bet $" + PlainMoney(now) + " on " + name);
   else
-    WriteGroupedLine(game, start + (now < before ? " decreased " : " increased ") + name + " to $" +
-                               PlainMoney(now));
+    WriteGroupedLine(
+        game, start + (now < before ? " decreased " : " increased ") + name + " to $" + PlainMoney(now));
 }
 
 void LogCallChange(Game& game, int seat, int bet) {
@@ -540,8 +540,7 @@ void LogSessionStart(Game& game) {
   FlushEventsLog(game);
   if (FileSize(EventsLogPath(game)) >= 0)
     WriteEventsLogLine(game, "============================================");
-  WriteEventsLogLine(game,
-                     " New session started " + game.host->DateText() + " @ " + game.host->TimeText());
+  WriteEventsLogLine(game, " New session started " + game.host->DateText() + " @ " + game.host->TimeText());
   BeginGroup(log, "    Players:");
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat))
@@ -549,7 +548,8 @@ void LogSessionStart(Game& game) {
                                  PlainMoney(table.BankrollCurrent[seat]));
   log.PendingLogHeading.clear();
   if (game.rollFile.RecorderState == kRecorderPlayback)
-    WriteEventsLogLine(game, "    Dice roll file playback actived (" + FileNameOf(game.rollFile.RollFileName) + ")");
+    WriteEventsLogLine(
+        game, "    Dice roll file playback actived (" + FileNameOf(game.rollFile.RollFileName) + ")");
   BeginGroup(log, "    AutoBets:");
   for (int seat = 1; seat <= kSeats; ++seat) {
     log.ScriptActiveLogged[seat] = game.autobet.ScriptActive[seat];

@@ -16,7 +16,7 @@ inline constexpr const char* kEventsIndexName = "Events Log.ref";
 
 struct EventsLog {
   // --- Choices of the user.
-  bool RecordEventsActive = false;      // the master switch
+  bool RecordEventsActive = false;  // the master switch
   bool RecordRolls = true;
   bool RecordBetChanges = true;
   bool RecordBetsWon = true;
@@ -28,19 +28,19 @@ struct EventsLog {
   bool ClearLogOnNewSession = false;
   bool KeepLatestRollOnTop = true;
   // --- The view.
-  std::int32_t EventsLogTopLine = 1;    // 1-based
+  std::int32_t EventsLogTopLine = 1;  // 1-based
   // --- The files. Written by events_log.cpp.
-  std::string Path;                     // of the text file; empty: the default name in the data folder
-  std::string PendingLogHeading;        // a group heading that is not written yet
-  bool ScriptActiveLogged[9] = {};      // what the log has told of each script
-  std::string FaultReported;            // the write error that was reported; empty while writing works
+  std::string Path;                 // of the text file; empty: the default name in the data folder
+  std::string PendingLogHeading;    // a group heading that is not written yet
+  bool ScriptActiveLogged[9] = {};  // what the log has told of each script
+  std::string FaultReported;        // the write error that was reported; empty while writing works
   // Open while lines come fast; FlushEventsLog brings both files up to date.
   std::FILE* textFile = nullptr;
   std::FILE* indexFile = nullptr;
   std::string textBuffer;
   std::string indexBuffer;
-  std::int64_t textLength = 0;          // of the text file with the buffer
-  std::int64_t lineCount = 0;           // of the index with the buffer
+  std::int64_t textLength = 0;  // of the text file with the buffer
+  std::int64_t lineCount = 0;   // of the index with the buffer
 
   EventsLog() = default;
   ~EventsLog();

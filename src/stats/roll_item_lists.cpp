@@ -3,7 +3,9 @@
 namespace tessaryn {
 namespace {
 
-std::string Faces(int die1, int die2) { return "(" + std::to_string(die1) + "." + std::to_string(die2) + ")"; }
+std::string Faces(int die1, int die2) {
+  return "(" + std::to_string(die1) + "." + std::to_string(die2) + ")";
+}
 
 std::string TotalText(int total) {
   switch (total) {
@@ -51,7 +53,8 @@ std::string RollItemText(int item) {
   if (item <= 12) return TotalText(item);
   if (item <= 16) {
     const int face = item - 11;
-    return "Hard " + std::to_string(2 * face) + " " + "(" + std::to_string(face) + "." + std::to_string(face) + ")";
+    return "Hard " + std::to_string(2 * face) + " " + "(" + std::to_string(face) + "." +
+           std::to_string(face) + ")";
   }
   if (item >= 78)
     return "Die " + std::to_string(item < 84 ? 1 : 2) + ", face " + std::to_string((item - 78) % 6 + 1);

@@ -196,7 +196,8 @@ Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, 
   const auto& scopes = stats.Bets[bet][seat];
   if (scope != kCurrentSession && scope != kAllSessions) return scopes[scope].kinds[table][kind - 1];
   Kinds kinds;
-  std::copy(std::begin(scopes[kCurrentSession].kinds[table]), std::end(scopes[kCurrentSession].kinds[table]), kinds);
+  std::copy(std::begin(scopes[kCurrentSession].kinds[table]), std::end(scopes[kCurrentSession].kinds[table]),
+            kinds);
   MergeKinds(kinds, scopes[kCurrentHand].kinds[table], 0);
   if (scope == kCurrentSession) return kinds[kind - 1];
   Kinds all;
@@ -243,8 +244,8 @@ void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastB
   for (int bet = firstBet; bet <= lastBet; ++bet)
     for (int table = 0; table < kStatTables; ++table)
       for (int kind = 0; kind < 6; ++kind)
-        row.kinds[table][kind] += BetStat(stats, static_cast<StatTable>(table), scope, seat, bet,
-                                          static_cast<StatKind>(kind + 1));
+        row.kinds[table][kind] +=
+            BetStat(stats, static_cast<StatTable>(table), scope, seat, bet, static_cast<StatKind>(kind + 1));
 }
 
 std::string LastHandNote(const Game& game, int scope) {
@@ -450,7 +451,8 @@ void SwapSeatStatistics(Game& game, int seatA, int seatB) {
   for (std::uint16_t* used : {&stats.HandSlotsUsed, &stats.LastHandSlotsUsed}) {
     const unsigned bitA = *used >> seatA & 1u;
     const unsigned bitB = *used >> seatB & 1u;
-    *used = static_cast<std::uint16_t>((*used & ~(1u << seatA | 1u << seatB)) | bitA << seatB | bitB << seatA);
+    *used =
+        static_cast<std::uint16_t>((*used & ~(1u << seatA | 1u << seatB)) | bitA << seatB | bitB << seatA);
   }
 }
 

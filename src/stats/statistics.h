@@ -12,11 +12,11 @@ namespace tessaryn {
 struct Game;
 
 enum StatKind : int {
-  kStatCount = 1,       // bets resolved, won or lost
+  kStatCount = 1,  // bets resolved, won or lost
   kStatTotal = 2,
   kStatHigh = 3,
-  kStatLow = 4,         // never 0 once there is one
-  kStatLastRoll = 5,    // session roll number; in the all-sessions slot that of all sessions
+  kStatLow = 4,       // never 0 once there is one
+  kStatLastRoll = 5,  // session roll number; in the all-sessions slot that of all sessions
   kStatLastAmount = 6,
 };
 enum StatTable : int { kWagerStats = 0, kWinStats = 1, kLossStats = 2 };
@@ -48,12 +48,12 @@ struct Statistics {
   // Roll items are counted by exact pair of faces and summed when read: item counts are unions of pairs.
   // Like the bets, rolls are counted in the current hand alone.
   std::int32_t PairCounts[kSlots][kDicePairs] = {};
-  std::int32_t RollTotals[kSlots] = {};               // item 0
+  std::int32_t RollTotals[kSlots] = {};  // item 0
   // A gap is counted when it ends: the session roll that an item last came on, 0 never.
   std::int32_t ItemLastRoll[kRollItems] = {};
   std::int32_t RollGapCounts[kRollItems][kGapCells] = {};
 
-  std::int32_t NumberCounts[kSlots][13][3] = {};      // by number 2 to 12 and NumberKind
+  std::int32_t NumberCounts[kSlots][13][3] = {};  // by number 2 to 12 and NumberKind
   std::int32_t HandCount[kSlots] = {};
   std::int32_t MostRollsInHand[kSlots] = {};
   std::int32_t MostComeoutRollsInHand[kSlots] = {};
@@ -64,15 +64,15 @@ struct Statistics {
   std::int32_t HandComeoutRolls = 0;
   std::int32_t HandPasses = 0;
   std::int32_t HandMisses = 0;
-  std::uint16_t HandSlotsUsed = 0;                    // seats with rolls in the current-hand scope
+  std::uint16_t HandSlotsUsed = 0;  // seats with rolls in the current-hand scope
   std::uint16_t LastHandSlotsUsed = 0;
 
   Currency BankrollBeginning[kSlots];
   Currency BankrollHigh[kSlots];
   Currency BankrollLow[kSlots];
-  Currency BankrollClosing[kSlots];                   // of the last-hand and last-session scopes
-  Currency AtmTotal[kSlots];                          // drawn from the ATM, less what was deposited
-  Currency BankrollRollSum[kSeatRows];                // sum of the closing bankroll over the session's rolls
+  Currency BankrollClosing[kSlots];     // of the last-hand and last-session scopes
+  Currency AtmTotal[kSlots];            // drawn from the ATM, less what was deposited
+  Currency BankrollRollSum[kSeatRows];  // sum of the closing bankroll over the session's rolls
   Currency BankrollSessionStart[kSeatRows];
   Currency ComeTravelTotals[kSlots][6];
 };
@@ -85,7 +85,9 @@ std::int64_t RollsSinceLast(const Statistics& stats, int item);
 // The bankroll by slot; the running scopes read the seat's own.
 Currency BankrollOf(const Game& game, int scope, int seat);
 // Session rolls so far, and rolls of all sessions.
-inline std::int64_t SessionRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentSession, 0)]; }
+inline std::int64_t SessionRolls(const Statistics& stats) {
+  return stats.RollTotals[Slot(kCurrentSession, 0)];
+}
 inline std::int64_t HandRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentHand, 0)]; }
 // Turns a StatLastRoll of a scope into rolls since then; -1 for never.
 std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);

@@ -42,7 +42,7 @@ TEST(Money, TextThatIsNoAmountIsToldFromZero) {
     EXPECT_EQ(ParseMoney(text), kZero) << text;
   }
   EXPECT_EQ(ParseMoney(" $1,250.5 ").raw, 12505000);
-  EXPECT_EQ(ParseMoney("0.00005").raw, 0);   // a half goes to the even digit
+  EXPECT_EQ(ParseMoney("0.00005").raw, 0);  // a half goes to the even digit
   EXPECT_EQ(ParseMoney("0.00015").raw, 2);
   EXPECT_EQ(ParseMoney("0.000051").raw, 1);
 }
