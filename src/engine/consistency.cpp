@@ -43,7 +43,7 @@ std::string CheckSeat(const Game& game, int seat) {
   const TableState& table = game.table;
   Currency onTable;
   for (int bet = 1; bet <= kBets; ++bet) {
-    if (const std::string problem = CheckBet(game, seat, bet); !problem.empty()) return problem;
+    if (std::string problem = CheckBet(game, seat, bet); !problem.empty()) return problem;
     onTable += table.BetAmount(seat, bet);
   }
   for (int i = 0; i < 6; ++i) {
