@@ -64,14 +64,64 @@ int AppendAll(std::FILE* file, std::int64_t length, const std::string& buffer) {
   return error;
 }
 
+std::int64_t IndexRecord(std::ifstream& index, std::int64_t line) {
+  unsigned char bytes[kIndexBytes];
+  index.clear();
+  index.seekg((line - 1) * kIndexBytes);
+  if (!index.read(reinterpret_cast<char*>(bytes), kIndexBytes)) return 0;
+  return static_cast<std::int64_t>(bytes[0] | bytes[1] << 8 | bytes[2] << 16) |
+         static_cast<std::int64_t>(bytes[3]) << 24;
+}
+
+// Whether the last record names the beginning of the text's last line: an index that another log, or
+// another program, left behind doesn't.
+bool IndexBelongs(const Game& game, std::int64_t textSize) {
+  const std::int64_t indexSize = FileSize(EventsIndexPath(game));
+  if (indexSize < kIndexBytes || indexSize % kIndexBytes != 0) return false;
+  std::ifstream index(EventsIndexPath(game), std::ios::binary);
+  const std::int64_t position = IndexRecord(index, indexSize / kIndexBytes);
+  if (position < 1 || position > textSize) return false;
+  std::ifstream text(EventsLogPath(game), std::ios::binary);
+  if (position > 1) {
+    text.seekg(position - 2);
+    if (text.get() != '\n') return false;
+  }
+  std::string line;
+  std::getline(text, line);
+  const std::int64_t end = position - 1 + static_cast<std::int64_t>(line.size());
+  return end == textSize || end + 1 == textSize;
+}
+
+bool EndsWithLine(const std::string& path, std::int64_t size) {
+  std::ifstream text(path, std::ios::binary);
+  text.seekg(size - 1);
+  return text.get() == '\n';
+}
+
+void AppendIndexRecord(std::string& buffer, std::int64_t position) {
+  for (int shift = 0; shift < 32; shift += 8) buffer += static_cast<char>(position >> shift & 0xff);
+}
+
+// Lines that wait from an earlier fault go behind what the files hold now.
+void PlaceWaitingLines(EventsLog& log, std::int64_t textSize, std::int64_t lines) {
+  log.textLength = textSize;
+  log.lineCount = lines;
+  log.indexBuffer.clear();
+  for (std::size_t at = 0; at < log.textBuffer.size();) {
+    AppendIndexRecord(log.indexBuffer, textSize + static_cast<std::int64_t>(at) + 1);
+    at = log.textBuffer.find('\n', at) + 1;
+    ++log.lineCount;
+  }
+  log.textLength += static_cast<std::int64_t>(log.textBuffer.size());
+}
+
 bool OpenFiles(Game& game) {
   EventsLog& log = game.events;
   if (log.textFile != nullptr) return true;
   const std::string textPath = EventsLogPath(game);
   const std::string indexPath = EventsIndexPath(game);
-  const std::int64_t textSize = FileSize(textPath);
-  const std::int64_t indexSize = FileSize(indexPath);
-  if (textSize > 0 && indexSize <= 0) {
+  std::int64_t textSize = std::max<std::int64_t>(FileSize(textPath), 0);
+  if (textSize > 0 && !IndexBelongs(game, textSize)) {
     std::string error;
     RebuildEventsLogIndex(game, error);
   }
@@ -90,17 +140,10 @@ bool OpenFiles(Game& game) {
   }
   std::setvbuf(log.textFile, nullptr, _IONBF, 0);
   std::setvbuf(log.indexFile, nullptr, _IONBF, 0);
-  // Lines that wait from an earlier fault begin behind what is there now.
-  const std::int64_t before = std::max<std::int64_t>(textSize, 0);
-  if (log.textBuffer.empty()) {
-    log.textLength = before;
-    log.lineCount = std::max<std::int64_t>(FileSize(indexPath), 0) / kIndexBytes;
-  }
+  // A text that was edited by hand may lack its last line's end.
+  if (textSize > 0 && !EndsWithLine(textPath, textSize) && std::fputc('\n', log.textFile) != EOF) ++textSize;
+  PlaceWaitingLines(log, textSize, std::max<std::int64_t>(FileSize(indexPath), 0) / kIndexBytes);
   return true;
-}
-
-void AppendIndexRecord(std::string& buffer, std::int64_t position) {
-  for (int shift = 0; shift < 32; shift += 8) buffer += static_cast<char>(position >> shift & 0xff);
 }
 
 void WriteBuffers(Game& game) {
@@ -147,20 +190,11 @@ bool ReadyToRead(Game& game) {
   FlushEventsLog(game);
   const std::int64_t textSize = FileSize(EventsLogPath(game));
   if (textSize < 0) return false;
-  if (textSize > 0 && FileSize(EventsIndexPath(game)) < kIndexBytes) {
+  if (textSize > 0 && !IndexBelongs(game, textSize)) {
     std::string error;
     return RebuildEventsLogIndex(game, error);
   }
   return true;
-}
-
-std::int64_t IndexRecord(std::ifstream& index, std::int64_t line) {
-  unsigned char bytes[kIndexBytes];
-  index.clear();
-  index.seekg((line - 1) * kIndexBytes);
-  if (!index.read(reinterpret_cast<char*>(bytes), kIndexBytes)) return 0;
-  return static_cast<std::int64_t>(bytes[0] | bytes[1] << 8 | bytes[2] << 16) |
-         static_cast<std::int64_t>(bytes[3]) << 24;
 }
 
 std::string LineAt(std::ifstream& text, std::ifstream& index, std::int64_t line) {

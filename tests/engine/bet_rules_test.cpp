@@ -115,7 +115,7 @@ const RuleCase kRefusals[] = {
     {{{"MinBetMain", "10"}}, {{kField, "15"}}, kNone, {}, kField, "-6", "-15", ""},
     {{}, {}, kNone, {}, kField, "1000.0001", "1000", "The maximum Field bet is $1,000"},
     {{}, {{kField, "990"}}, kNone, {}, kField, "11", "10", "The maximum Field bet is $1,000"},
-    {{}, {}, kNone, {}, kLay4, "5000", "2000", "The maximum Lay 4 bet is $2,000"},
+    {{{"MessageMask", "1"}}, {}, kNone, {}, kLay4, "5000", "2000", "The maximum Lay 4 bet is $2,000"},
     {{}, {}, kNone, {}, kHard6, "5000", "333", "The maximum Hard 6 bet is $333"},
     {{}, {}, kNone, {}, kTwo, "5000", "100", "The maximum Two bet is $100"},
     {{}, {}, kNone, {}, kFire, "9", "5", "The maximum Fire bet is $5"},
