@@ -98,10 +98,10 @@ struct Dice {
   int Face() { return static_cast<int>((random() >> 32) * 6 >> 32) + 1; }
 };
 
-// TESSARYN_EDGE_ROLLS makes both runs longer.
-long RollsWanted() {
+// TESSARYN_EDGE_ROLLS sets the length of both runs.
+long RollsWanted(long usual) {
   const char* text = std::getenv("TESSARYN_EDGE_ROLLS");
-  return text != nullptr ? std::atol(text) : 250'000;
+  return text != nullptr ? std::atol(text) : usual;
 }
 
 TEST(ModelEdges, PlainRulesPayWhatTheBetsAreWorth) {
@@ -116,7 +116,7 @@ TEST(ModelEdges, PlainRulesPayWhatTheBetsAreWorth) {
 
   Dice dice{std::mt19937_64(20260731)};
   Result results[94];
-  for (long roll = 0; roll < RollsWanted(); ++roll) {
+  for (long roll = 0; roll < RollsWanted(250'000); ++roll) {
     BetAll([&](int bet) { return m->BetAmount[3][bet]; },
            [&](int bet, Currency stake) { ChangeBet(*m, 3, bet, stake); });
     const int die1 = dice.Face();
@@ -153,7 +153,7 @@ TEST(ModelEdges, TablePaysWhatTheBetsAreWorth) {
   table.BetDefaultWorking[3] = kAllTableBets;
 
   Dice dice{std::mt19937_64(31072026)};
-  for (long roll = 0; roll < RollsWanted(); ++roll) {
+  for (long roll = 0; roll < RollsWanted(10'000'000); ++roll) {
     BetAll([&](int bet) { return table.BetAmount(3, bet); },
            [&](int bet, Currency stake) { ChangeBet(*game, 3, bet, stake); });
     table.ManualDie1 = dice.Face();
@@ -164,7 +164,7 @@ TEST(ModelEdges, TablePaysWhatTheBetsAreWorth) {
     if (table.BankrollCurrent[3] < Currency::Dollars(-5'000'000))
       AtmTransaction(*game, 3, false, Currency::Dollars(5'000'000));
   }
-  ASSERT_EQ(SessionRolls(game->stats), RollsWanted());
+  ASSERT_EQ(SessionRolls(game->stats), RollsWanted(10'000'000));
   EXPECT_EQ(CheckConsistency(*game), "");
   const auto stat = [&](StatTable kind, int bet, tessaryn::StatKind which) {
     return BetStat(game->stats, kind, kCurrentSession, 3, bet, which).ToDouble();
