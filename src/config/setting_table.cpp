@@ -489,8 +489,8 @@ bool SevenPoint7Rides(const Game& game) {
   return false;
 }
 
-// A family that is switched off with bets up: asks, and takes them down. False: it stays.
-bool SwitchFamilyOff(Game& game, const Family& family, std::string& error) {
+// A family that is switched off with bets up: asks whether they may come down. False: it stays.
+bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
   const BetSet bets = BetRange(family.first, family.last);
   if (!AnySeatHas(game, bets)) return true;
   const bool special = family.first == kAllSmall;
@@ -509,8 +509,31 @@ bool SwitchFamilyOff(Game& game, const Family& family, std::string& error) {
                            "continue?";
   if (ShowMessage(game, family.title, text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes) return false;
   error.clear();
+  return true;
+}
+
+void TakeFamilyDown(Game& game, const Family& family) {
+  const BetSet bets = BetRange(family.first, family.last);
+  if (!AnySeatHas(game, bets)) return;
   for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
-  if (special) game.table.NumberMarks = 0;
+  if (family.first == kAllSmall) game.table.NumberMarks = 0;
+}
+
+// Every question comes before the first bet is touched, so that one No leaves all families as they were.
+bool SwitchFamiliesOff(Game& game, const Settings& before, std::string& error) {
+  const auto goesOff = [&](const Family& family) {
+    return before.*family.offered && !(game.settings.*family.offered);
+  };
+  for (const Family& family : kFamilies)
+    if (goesOff(family) && !MaySwitchOff(game, family, error)) return false;
+  // Bets come down by the rules under which they were made.
+  const Settings wanted = game.settings;
+  for (const Family& family : kFamilies) {
+    if (!goesOff(family)) continue;
+    game.settings = before;
+    TakeFamilyDown(game, family);
+    game.settings = wanted;
+  }
   return true;
 }
 
@@ -605,15 +628,7 @@ bool Commit(Game& game, const Before& before, std::string& error) {
     ShowMessage(game, title, error);
     return false;
   }
-  for (const Family& family : kFamilies)
-    if (before.settings.*family.offered && !(game.settings.*family.offered)) {
-      // Bets come down by the rules under which they were made.
-      const Settings wanted = game.settings;
-      game.settings = before.settings;
-      const bool off = SwitchFamilyOff(game, family, error);
-      game.settings = wanted;
-      if (!off) return false;
-    }
+  if (!SwitchFamiliesOff(game, before.settings, error)) return false;
   if (vig || payoffs) RecomputeVig(game);
   game.autobet.ScriptsCompiled = false;
   ReplaceMissingGenerator(game.generators);
