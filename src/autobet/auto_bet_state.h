@@ -2,13 +2,31 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
+#include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "autobet/script_types.h"
 #include "engine/table_types.h"
 
 namespace tessaryn {
+
+// The file that a player's script writes to. Written by output_file.cpp.
+struct ScriptOutput {
+  std::FILE* File = nullptr;
+
+  ScriptOutput() = default;
+  ScriptOutput(ScriptOutput&& other) noexcept : File(std::exchange(other.File, nullptr)) {}
+  ScriptOutput& operator=(ScriptOutput&& other) noexcept {
+    std::swap(File, other.File);
+    return *this;
+  }
+  ~ScriptOutput() {
+    if (File != nullptr) std::fclose(File);
+  }
+};
 
 struct SeatScript {
   std::vector<std::string> ScriptLines;   // as typed; seat 0 the hot-key script
@@ -19,6 +37,7 @@ struct SeatScript {
   bool AllowAct4Others = false;
   bool AllowReset = false;                // new sessions
   bool AllowActProb = false;              // probability files and dice roll files
+  ScriptOutput Output;
 };
 
 // Held by the interpreter alone: the program in its ready-to-run form.
@@ -27,11 +46,21 @@ struct PreparedProgramDeleter {
   void operator()(PreparedProgram* program) const;
 };
 
+// One step of a run as the viewer shows it.
+struct ScriptStep {
+  int seat = 0;             // whose script it is
+  int line = 0;             // 1-based source line
+  int column = 0;
+  std::string text;         // "\r" between its lines
+};
+
 struct AutoBet {
   SeatScript Scripts[kSeatRows];
   bool ScriptActive[kSeatRows] = {};      // 0 the master switch that the roll cycle tests
   bool ScriptsCompiled = false;           // Program is valid
   CompiledScript Program;                 // the joined scripts of all active players
+  std::unique_ptr<PreparedProgram, PreparedProgramDeleter> Prepared;  // Program as it is run; may be null
+  std::vector<std::string> AllowedOutputFolders;  // besides the data folder; set by the user for the run
   // --- The run.
   bool ScriptRunning = false;             // clearing it stops the run at the next statement
   bool ScriptInitializing = false;
@@ -40,6 +69,10 @@ struct AutoBet {
   std::string ScriptFault;                // the text of error 10000
   bool StepMode = false;                  // the run waits after each statement
   bool StepsShown = false;                // the steps viewer is open
+  bool StepsHold = true;                  // a watched run lasts long enough to be seen
+  bool StepWaiting = false;               // in step mode: until the user asks for the next statement
+  bool HotKeyRun = false;                 // Program is a hot-key's for the moment
+  std::string StatusCaption;              // "Auto-Betting" or "Hot-Key" during a run that is shown
   double Answer = 0;                      // the last question's: 6 yes, 7 no
   bool BeginningNewSession = false;       // no roll since the session began
   bool RollFileEndReached = false;        // set when playback came to its end

@@ -1,6 +1,10 @@
 // Running the compiled scripts.
 #pragma once
 
+#include <string>
+
+#include "autobet/script_types.h"
+
 namespace tessaryn {
 
 struct Game;
@@ -10,5 +14,11 @@ struct Game;
 void CompileALLAutobets(Game& game);
 // Runs Program once, from its first record to its last. Requires ScriptsCompiled.
 void RunAutoBet(Game& game);
+// Runs a hot-key script, compiled for player 0, in place of Program. The players' scripts must be compiled
+// again behind it.
+void RunHotKeyScript(Game& game, CompiledScript script);
+
+// What the compiler must know of the table as it stands.
+ScriptSurroundings SurroundingsOf(const Game& game);
 
 }  // namespace tessaryn

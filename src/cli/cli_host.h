@@ -23,10 +23,15 @@ class CliHost : public Host {
   std::int64_t rollTarget = 0;
   // Called every few milliseconds of a run.
   std::function<void(Game&)> progress;
+  // Called for every step of a script while steps are shown.
+  std::function<void(Game&, const ScriptStep&)> step;
 
   void ShowMessage(Game& game, MessageBox& box) override;
   bool Yield(Game& game) override;
   void Wait(Game& game) override;
+  void ShowStep(Game& game, const ScriptStep& shown) override {
+    if (step) step(game, shown);
+  }
   std::uint32_t TickMilliseconds() override;
   std::string DateText() override;
   std::string TimeText() override;

@@ -13,6 +13,8 @@ inline constexpr int kUsage = 2;
 void AddRunCommand(CLI::App& program, int& exitCode);
 void AddPlayCommand(CLI::App& program, int& exitCode);
 void AddDiceCommand(CLI::App& program, int& exitCode);
+void AddCheckCommand(CLI::App& program, int& exitCode);
+void AddConvertCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);

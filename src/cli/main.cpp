@@ -23,6 +23,8 @@ int main(int argc, char** argv) {
   AddRunCommand(program, exitCode);
   AddPlayCommand(program, exitCode);
   AddDiceCommand(program, exitCode);
+  AddCheckCommand(program, exitCode);
+  AddConvertCommand(program, exitCode);
   WatchInterrupts();
   try {
     program.parse(argc, argv);

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <iterator>
 
+#include "cli/script_commands.h"
 #include "cli/table_setup.h"
 #include "config/setting_table.h"
 #include "dice/auto_roll.h"
@@ -419,6 +420,7 @@ const std::vector<PlayCommandInfo>& PlayCommands() {
   static const std::vector<PlayCommandInfo> infos = [] {
     std::vector<PlayCommandInfo> list;
     for (const Handler& handler : kHandlers) list.push_back(handler.info);
+    for (const ScriptCommand& command : ScriptCommands()) list.push_back(command.info);
     return list;
   }();
   return infos;
@@ -438,6 +440,7 @@ Json PlaySession::Do(const std::string& line) {
     answer.update(call.answer);
     return answer;
   }
+  if (Json answer; DoScriptCommand(game_, host_, words, answer)) return answer;
   return {{"ok", false}, {"error", "unknown command \"" + words[0] + "\"; help lists them"}};
 }
 

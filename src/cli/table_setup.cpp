@@ -5,6 +5,7 @@
 #include <charconv>
 
 #include "cli/commands.h"
+#include "cli/script_commands.h"
 #include "config/setting_table.h"
 #include "dice/seed_rng.h"
 #include "engine/players.h"
@@ -24,6 +25,14 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
   command.add_option("--roll-file", options.rollFile, "Play the dice of a roll file");
   command.add_option("--record", options.recordFile, "Record the dice to a roll file");
   command.add_option("--probabilities", options.probabilities, "Percentage dice from a probability file");
+  command.add_option("--script", options.scripts, "A betting script; the k-th is the k-th player's")
+      ->take_all()
+      ->allow_extra_args(false);
+  command
+      .add_option("--allow-output", options.outputFolders,
+                  "A folder that scripts may write to, besides the data folder")
+      ->take_all()
+      ->allow_extra_args(false);
   command.add_option("--events-log", options.eventsLog, "Write the Events Log to this file");
 }
 
@@ -111,7 +120,8 @@ bool OpenDiceFiles(Game& game, const TableOptions& options) {
   std::string error;
   if (!OpenProbabilityFile(game.percentage, options.probabilities, "", error))
     return Told("--probabilities " + options.probabilities + ": " + error);
-  return ActivatePercentageDice(game.percentage, true) || Told(std::string("--probabilities: ") + kNothingToRollText);
+  return ActivatePercentageDice(game.percentage, true) ||
+         Told(std::string("--probabilities: ") + kNothingToRollText);
 }
 
 }  // namespace
@@ -128,8 +138,9 @@ std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
     game->events.Path = options.eventsLog;
     game->events.RecordEventsActive = true;
   }
-  const bool ready = SeatPlayers(*game, options) && ApplySettings(*game, options) && SeedDice(*game, options) &&
-                     OpenDiceFiles(*game, options);
+  const bool ready = SeatPlayers(*game, options) && ApplySettings(*game, options) &&
+                     SeedDice(*game, options) && OpenDiceFiles(*game, options) &&
+                     LoadScripts(*game, options.scripts, options.outputFolders);
   return ready ? std::move(game) : nullptr;
 }
 

@@ -10,6 +10,7 @@
 namespace tessaryn {
 
 struct Game;
+struct ScriptStep;
 
 // MsgFlags: bits 0 to 4 the buttons, 6 and 7 the input boxes, 8 to 12 the picture.
 enum MessageFlag : std::uint32_t {
@@ -96,6 +97,8 @@ struct Host {
   // A sound sample by file name; false when there is no such file or sounds are off.
   virtual bool PlaySoundFile(Game&, const std::string&) { return false; }
   virtual void Changed(Game&, Change) {}
+  // A statement of a script was carried out with the steps viewer open.
+  virtual void ShowStep(Game&, const ScriptStep&) {}
 };
 
 }  // namespace tessaryn

@@ -1,0 +1,225 @@
+#include "autobet/evaluate.h"
+
+#include <cmath>
+
+#include "autobet/read_function.h"
+#include "autobet/read_variable.h"
+#include "autobet/script_errors.h"
+#include "autobet/script_text.h"
+#include "engine/game.h"
+
+namespace tessaryn {
+
+bool NumbersCompare(int relation, double left, double right) {
+  switch (relation) {
+    case kTokenEqual:
+      return left == right;
+    case kTokenNotEqual:
+      return left != right;
+    case kTokenLess:
+      return left < right;
+    case kTokenGreater:
+      return left > right;
+    case kTokenLessEqual:
+      return left <= right;
+    default:
+      return left >= right;
+  }
+}
+
+bool TextsCompare(int relation, const std::string& left, const std::string& right) {
+  return NumbersCompare(relation, left.compare(right), 0);
+}
+
+double NumberOf(const PreparedProgram& program, Operand operand) {
+  const auto place = static_cast<std::size_t>(operand.place);
+  return operand.text ? LeadingNumber(program.texts[place]) : program.numbers[place];
+}
+
+std::string TextOf(const PreparedProgram& program, Operand operand) {
+  const auto place = static_cast<std::size_t>(operand.place);
+  return operand.text ? program.texts[place] : GeneralNumber(program.numbers[place]);
+}
+
+bool OperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right) {
+  if (left.text && right.text)
+    return TextsCompare(relation, program.texts[static_cast<std::size_t>(left.place)],
+                        program.texts[static_cast<std::size_t>(right.place)]);
+  return NumbersCompare(relation, NumberOf(program, left), NumberOf(program, right));
+}
+
+namespace {
+
+constexpr double kTrue = -1;
+
+// Visits the members that pass the list's qualifier until visit says that the answer is settled.
+template <typename Visit>
+bool AnyMember(const PreparedProgram& program, const PreparedList& list, Visit&& visit) {
+  for (const Operand member : list.members) {
+    if (list.qualified && !OperandsCompare(program, list.relation, member, list.qualifier)) continue;
+    if (visit(member)) return true;
+  }
+  return false;
+}
+
+// any: some member does; all: none doesn't.
+template <typename Test>
+bool ListHolds(const PreparedProgram& program, const PreparedList& list, Test&& test) {
+  if (list.any) return AnyMember(program, list, test);
+  return !AnyMember(program, list, [&](Operand member) { return !test(member); });
+}
+
+bool ListsCompare(const PreparedProgram& program, int relation, const PreparedList& left,
+                  const PreparedList& right) {
+  return ListHolds(program, left, [&](Operand a) {
+    return ListHolds(program, right, [&](Operand b) { return OperandsCompare(program, relation, a, b); });
+  });
+}
+
+bool Finite(Game& game, double value) { return std::isfinite(value) || ScriptFaults(game, kNumberOverflow); }
+
+bool DivideWhole(Game& game, const Instruction& step, double a, double b, double& result) {
+  const double divisor = std::nearbyint(b);
+  if (divisor == 0) return ScriptFails(game, kErrorDivision);
+  const double dividend = std::nearbyint(a);
+  result = step.op == Op::kModulo ? std::fmod(dividend, divisor) : std::trunc(dividend / divisor);
+  return Finite(game, result);
+}
+
+bool AsInteger(Game& game, double value, std::int32_t& result) {
+  const double whole = std::nearbyint(value);
+  if (!(whole >= -2147483648.0 && whole <= 2147483647.0)) return ScriptFaults(game, kNumberOverflow);
+  result = static_cast<std::int32_t>(whole);
+  return true;
+}
+
+bool CombineBits(Game& game, const Instruction& step, double left, double right, double& result) {
+  std::int32_t a = 0;
+  std::int32_t b = 0;
+  if (!AsInteger(game, left, a) || !AsInteger(game, right, b)) return false;
+  result = step.op == Op::kAnd ? a & b : step.op == Op::kOr ? a | b : a ^ b;
+  return true;
+}
+
+bool Join(Game& game, PreparedProgram& program, const Instruction& step) {
+  const std::string& left = program.texts[static_cast<std::size_t>(step.a)];
+  const std::string& right = program.texts[static_cast<std::size_t>(step.b)];
+  if (left.size() + right.size() > kLongestText) return ScriptFaults(game, kTextTooLong);
+  std::string& to = program.texts[static_cast<std::size_t>(step.to)];
+  to.assign(left);
+  to.append(right);
+  return true;
+}
+
+// The steps that end in a text, or begin with one.
+bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
+  const auto to = static_cast<std::size_t>(step.to);
+  const auto a = static_cast<std::size_t>(step.a);
+  switch (step.op) {
+    case Op::kNumberOf:
+      program.numbers[to] = LeadingNumber(program.texts[a]);
+      return true;
+    case Op::kTextOf:
+      program.texts[to] = GeneralNumber(program.numbers[a]);
+      return true;
+    case Op::kJoin:
+      return Join(game, program, step);
+    case Op::kCompareTexts: {
+      const bool holds = TextsCompare(step.relation + kTokenEqual, program.texts[a],
+                                      program.texts[static_cast<std::size_t>(step.b)]);
+      program.numbers[to] = holds ? kTrue : 0;
+      return true;
+    }
+    case Op::kCompareLists: {
+      const bool holds = ListsCompare(program, step.relation + kTokenEqual, program.lists[a],
+                                      program.lists[static_cast<std::size_t>(step.b)]);
+      program.numbers[to] = holds ? kTrue : 0;
+      return true;
+    }
+    case Op::kVariableText:
+      return ReadTextVariable(game, program, program.references[a], program.texts[to]);
+    case Op::kFunctionText:
+      return ReadTextFunction(game, program, program.calls[a], program.texts[to]);
+    case Op::kDateText:
+      program.texts[to] = game.host->DateText();
+      return true;
+    default:
+      program.texts[to] = game.host->TimeText();
+      return true;
+  }
+}
+
+// The steps that look at the table.
+bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, double& result) {
+  const auto a = static_cast<std::size_t>(step.a);
+  if (step.op == Op::kFunction) return ReadNumberFunction(game, program, program.calls[a], result);
+  const Reference& reference = program.references[a];
+  if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
+  int seat = reference.seat;
+  if (reference.player != PlayerChoice::kSeat && !PlayerOf(game, program, reference, seat)) return false;
+  result = game.table.BetAmount(seat, step.b).ToDouble();
+  return true;
+}
+
+}  // namespace
+
+bool Evaluate(Game& game, PreparedProgram& program, CodeRange code) {
+  double* numbers = program.numbers.data();
+  const Instruction* const end = program.instructions.data() + code.end;
+  for (const Instruction* step = program.instructions.data() + code.begin; step != end; ++step) {
+    double& to = numbers[step->to];
+    switch (step->op) {
+      case Op::kNegate:
+        to = -numbers[step->a];
+        break;
+      case Op::kPower:
+        to = std::pow(numbers[step->a], numbers[step->b]);
+        if (!Finite(game, to)) return false;
+        break;
+      case Op::kMultiply:
+        to = numbers[step->a] * numbers[step->b];
+        if (!Finite(game, to)) return false;
+        break;
+      case Op::kDivide:
+        if (numbers[step->b] == 0) return ScriptFails(game, kErrorDivision);
+        to = numbers[step->a] / numbers[step->b];
+        if (!Finite(game, to)) return false;
+        break;
+      case Op::kIntegerDivide:
+      case Op::kModulo:
+        if (!DivideWhole(game, *step, numbers[step->a], numbers[step->b], to)) return false;
+        break;
+      case Op::kAdd:
+        to = numbers[step->a] + numbers[step->b];
+        if (!Finite(game, to)) return false;
+        break;
+      case Op::kSubtract:
+        to = numbers[step->a] - numbers[step->b];
+        if (!Finite(game, to)) return false;
+        break;
+      case Op::kNot:
+        to = -std::trunc(numbers[step->a]) - 1;
+        break;
+      case Op::kAnd:
+      case Op::kOr:
+      case Op::kXor:
+        if (!CombineBits(game, *step, numbers[step->a], numbers[step->b], to)) return false;
+        break;
+      case Op::kCompare:
+        to = NumbersCompare(step->relation + kTokenEqual, numbers[step->a], numbers[step->b]) ? kTrue : 0;
+        break;
+      case Op::kBetMoney:
+      case Op::kStack:
+      case Op::kVariable:
+      case Op::kFunction:
+        if (!ReadStep(game, program, *step, to)) return false;
+        break;
+      default:
+        if (!TextStep(game, program, *step)) return false;
+        break;
+    }
+  }
+  return true;
+}
+
+}  // namespace tessaryn

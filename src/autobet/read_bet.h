@@ -1,0 +1,14 @@
+// One statistic of one bet, by its metric, measure and scope.
+#pragma once
+
+#include "autobet/prepared_program.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// False with ScriptError set: 300 to 302 where an average, or the rolls since the last, has nothing to go by,
+// 1000 for the vig of a bet without.
+bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value);
+
+}  // namespace tessaryn

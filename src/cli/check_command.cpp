@@ -1,0 +1,72 @@
+#include <cstdio>
+#include <memory>
+
+#include "autobet/compile_autobets.h"
+#include "autobet/script_files.h"
+#include "autobet/script_session.h"
+#include "cli/commands.h"
+#include "cli/script_report.h"
+
+namespace tessaryn::cli {
+namespace {
+
+struct CheckOptions {
+  std::vector<std::string> files;
+  std::vector<std::string> players;
+  bool json = false;
+  bool tokens = false;
+};
+
+ScriptSurroundings Surroundings(const CheckOptions& options) {
+  ScriptSurroundings surroundings;
+  for (std::size_t i = 0; i < options.players.size() && i < 8; ++i)
+    surroundings.seatNames[i + 1] = options.players[i].substr(0, options.players[i].rfind('='));
+  return surroundings;
+}
+
+void PrintTokens(const ScriptSurroundings& surroundings, const std::vector<std::string>& lines) {
+  CompiledScript script;
+  ScriptDiagnostic diagnostic;
+  if (CompileAutobets(1, lines, surroundings, script, diagnostic))
+    std::fputs(TokenList(script).c_str(), stdout);
+}
+
+// False for a file that can't be read, or whose script is bad.
+bool CheckFile(const CheckOptions& options, const std::string& file) {
+  std::vector<std::string> lines;
+  const ScriptFileResult read = ReadScriptFile(file, lines);
+  if (!read.Ok()) {
+    Fail(read.problem == ScriptFileProblem::kNotFound ? file + ": File not found" : read.message);
+    return false;
+  }
+  const ScriptSurroundings surroundings = Surroundings(options);
+  const ScriptCheck check = CheckLines(surroundings, 1, lines);
+  if (options.json)
+    std::printf("%s\n", CheckJson(file, check).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+  else
+    std::fputs(CheckReport(file, lines, check).c_str(), stdout);
+  if (check.ok && options.tokens) PrintTokens(surroundings, lines);
+  return check.ok;
+}
+
+}  // namespace
+
+void AddCheckCommand(CLI::App& program, int& exitCode) {
+  auto options = std::make_shared<CheckOptions>();
+  CLI::App* command = program.add_subcommand("check", "Checks betting scripts");
+  command->add_option("FILE", options->files, "Script files")->required();
+  command
+      ->add_option("--player", options->players,
+                   "A player's name that scripts may use; the k-th is at seat k")
+      ->take_all()
+      ->allow_extra_args(false);
+  command->add_flag("--json", options->json, "Print a JSON object for each file");
+  command->add_flag("--tokens", options->tokens, "Print the compiled form of what is good");
+  command->footer("Example:\n  tessaryn-cli check data/samples/Sample1.bet");
+  command->callback([options, &exitCode] {
+    for (const std::string& file : options->files)
+      if (!CheckFile(*options, file)) exitCode = kBad;
+  });
+}
+
+}  // namespace tessaryn::cli

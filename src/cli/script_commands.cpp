@@ -1,0 +1,162 @@
+#include "cli/script_commands.h"
+
+#include <cstdio>
+
+#include "autobet/hot_keys.h"
+#include "autobet/interpreter.h"
+#include "autobet/script_session.h"
+#include "cli/commands.h"
+#include "cli/script_report.h"
+
+namespace tessaryn::cli {
+namespace {
+
+bool Bad(ScriptCommandCall& call, const std::string& what) {
+  call.error = what;
+  return false;
+}
+
+bool Usage(ScriptCommandCall& call, std::size_t words, const char* usage) {
+  return call.words.size() == words || Bad(call, std::string("expected: ") + usage);
+}
+
+bool SeatWord(ScriptCommandCall& call, int& seat) {
+  const std::string& word = call.words[1];
+  const bool digit = word.size() == 1 && word[0] >= '1' && word[0] <= '8';
+  if (!digit) return Bad(call, "\"" + word + "\" is no seat; seats are 1 to 8");
+  seat = word[0] - '0';
+  return IsOccupied(call.game.table, seat) || Bad(call, "there is no player at seat " + word);
+}
+
+bool OnOff(ScriptCommandCall& call, const std::string& word, bool& on) {
+  on = word == "on";
+  return on || word == "off" || Bad(call, "\"" + word + "\" is neither on nor off");
+}
+
+bool Load(ScriptCommandCall& call) {
+  int seat = 0;
+  std::string error;
+  if (!Usage(call, 3, "script SEAT FILE") || !SeatWord(call, seat)) return false;
+  if (!OpenScript(call.game, seat, call.words[2], error)) return Bad(call, error);
+  const ScriptCheck check = CheckScript(call.game, seat);
+  call.answer["script"] = CheckJson(call.words[2], check);
+  return true;
+}
+
+bool Activate(ScriptCommandCall& call) {
+  int seat = 0;
+  if (!Usage(call, 2, "activate SEAT") || !SeatWord(call, seat)) return false;
+  const ScriptCheck check = CheckScript(call.game, seat);
+  if (!check.ok) return Bad(call, check.title + ": " + AsLines(check.text));
+  ActivateScript(call.game, seat);
+  return true;
+}
+
+bool Deactivate(ScriptCommandCall& call) {
+  int seat = 0;
+  if (!Usage(call, 2, "deactivate SEAT") || !SeatWord(call, seat)) return false;
+  SetScriptActive(call.game, seat, false);
+  return true;
+}
+
+bool Initialise(ScriptCommandCall& call) {
+  int seat = 0;
+  if (!Usage(call, 2, "initialise SEAT") || !SeatWord(call, seat)) return false;
+  SetScriptActive(call.game, seat, true);
+  return InitialiseScripts(call.game) || Bad(call, "the scripts can't be compiled");
+}
+
+bool HotKeyCommand(ScriptCommandCall& call) {
+  if (!Usage(call, 2, "hotkey FILE")) return false;
+  return RunHotKeyFile(call.game, call.words[1]) || Bad(call, "the script did not run");
+}
+
+bool Steps(ScriptCommandCall& call) {
+  bool on = false;
+  if (!Usage(call, 2, "steps on|off") || !OnOff(call, call.words[1], on)) return false;
+  call.game.autobet.StepsShown = on;
+  call.game.autobet.StepsHold = false;
+  call.host.step = [](Game&, const ScriptStep& step) {
+    const Json shown{{"step", {{"seat", step.seat}, {"line", step.line}, {"text", step.text}}}};
+    std::printf("%s\n", shown.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+  };
+  return true;
+}
+
+bool Permission(ScriptCommandCall& call) {
+  int seat = 0;
+  bool on = false;
+  if (!Usage(call, 4, "permission SEAT others|reset|files on|off") || !SeatWord(call, seat) ||
+      !OnOff(call, call.words[3], on))
+    return false;
+  const char* const names[] = {"others", "reset", "files"};
+  for (int i = 0; i < 3; ++i) {
+    if (call.words[2] != names[i]) continue;
+    SetScriptPermission(call.game, seat, static_cast<ScriptPermission>(i), on);
+    return true;
+  }
+  return Bad(call, "\"" + call.words[2] + "\" is no permission; there are others, reset and files");
+}
+
+}  // namespace
+
+const std::vector<ScriptCommand>& ScriptCommands() {
+  static const std::vector<ScriptCommand> commands = {
+      {{"script", "SEAT FILE", "loads a betting script and checks it"}, Load},
+      {{"activate", "SEAT", "has a script run before every roll; asks whether to initialise it"}, Activate},
+      {{"deactivate", "SEAT", "lets a script rest"}, Deactivate},
+      {{"initialise", "SEAT", "activates a script and runs the active scripts once"}, Initialise},
+      {{"hotkey", "FILE", "runs a script once for the selected player"}, HotKeyCommand},
+      {{"steps", "on|off", "shows each step of the scripts as a line"}, Steps},
+      {{"permission", "SEAT others|reset|files on|off", "what a player's script may do"}, Permission},
+  };
+  return commands;
+}
+
+bool DoScriptCommand(Game& game, PlayHost& host, const std::vector<std::string>& words, Json& answer) {
+  for (const ScriptCommand& command : ScriptCommands()) {
+    if (words[0] != command.info.name) continue;
+    ScriptCommandCall call{game, host, words, Json::object(), {}};
+    const bool done = command.run(call);
+    answer = {{"ok", done}};
+    if (done)
+      answer.update(call.answer);
+    else
+      answer["error"] = words[0] + ": " + call.error;
+    return true;
+  }
+  return false;
+}
+
+bool LoadScripts(Game& game, const std::vector<std::string>& files,
+                 const std::vector<std::string>& outputFolders) {
+  game.autobet.AllowedOutputFolders = outputFolders;
+  int seat = 0;
+  for (const std::string& file : files) {
+    std::string error;
+    if (++seat > kSeats || !IsOccupied(game.table, seat)) {
+      Fail("--script " + file + ": there is no player " + std::to_string(seat) + " to play it");
+      return false;
+    }
+    if (!OpenScript(game, seat, file, error)) {
+      Fail("--script " + error);
+      return false;
+    }
+    const ScriptCheck check = CheckScript(game, seat);
+    if (!check.ok && !game.autobet.Scripts[seat].ScriptLines.empty() && check.diagnostic.Failed()) {
+      std::fputs(CheckReport(file, game.autobet.Scripts[seat].ScriptLines, check).c_str(), stderr);
+      return false;
+    }
+    SetScriptActive(game, seat, true);
+  }
+  return true;
+}
+
+std::string AsLines(const std::string& text) {
+  std::string lines = text;
+  for (char& c : lines)
+    if (c == '\r') c = '\n';
+  return lines;
+}
+
+}  // namespace tessaryn::cli
