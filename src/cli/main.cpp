@@ -25,6 +25,7 @@ int main(int argc, char** argv) {
   AddDiceCommand(program, exitCode);
   AddCheckCommand(program, exitCode);
   AddConvertCommand(program, exitCode);
+  AddAdvantageCommand(program, exitCode);
   WatchInterrupts();
   try {
     program.parse(argc, argv);

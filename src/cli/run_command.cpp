@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "autobet/script_session.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/table_json.h"
@@ -93,6 +94,8 @@ int Run(const RunOptions& options) {
   if (!game) return kBad;
   RunFigures figures;
   for (int seat = 1; seat <= kSeats; ++seat) figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
+  // Nobody is there to be asked: scripts are initialised, so that they can bet before the first roll.
+  if (game->autobet.ScriptActive[0] && !InitialiseScripts(*game)) return Fail("a script can't be run");
   host.rollTarget = options.rolls;
   const auto start = Clock::now();
   {

@@ -1,0 +1,143 @@
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <memory>
+
+#include "cli/cli_host.h"
+#include "cli/commands.h"
+#include "cli/table_json.h"
+#include "cli/table_setup.h"
+#include "config/advantage.h"
+#include "engine/bet_catalogue.h"
+
+namespace tessaryn::cli {
+namespace {
+
+struct AdvantageOptions {
+  TableOptions table;
+  bool zeroOutcomes = false;
+  std::vector<std::string> bets;  // N=AMOUNT
+  bool json = false;
+};
+
+using Amounts = std::map<int, double>;  // dollars by bet
+
+bool ReadBets(const std::vector<std::string>& texts, Amounts& amounts) {
+  for (const std::string& text : texts) {
+    const auto equals = text.find('=');
+    const int bet = BetByName(text.substr(0, equals));
+    Currency amount;
+    if (equals == std::string::npos || !IsTableBet(bet)) {
+      Fail("--bet " + text + ": expected BET=AMOUNT with a bet 1 to 93 or its name");
+      return false;
+    }
+    if (!TryParseMoney(text.substr(equals + 1), amount) || amount <= kZero) {
+      Fail("--bet " + text + ": \"" + text.substr(equals + 1) + "\" is no amount above 0");
+      return false;
+    }
+    amounts[bet] += amount.ToDouble();
+  }
+  return true;
+}
+
+// What the bets together are expected to bring in an hour, and how far an hour strays from it. Each bet is
+// taken to be up on every roll, and on its own: what two bets have in common is left out.
+struct Session {
+  double evPerHour = 0;
+  double stdevPerHour = 0;
+};
+
+Session SessionOf(const Game& game, const Amounts& amounts) {
+  const double rolls = game.settings.SimRollRate.ToDouble();
+  Session session;
+  double variance = 0;
+  for (const auto& [bet, amount] : amounts) {
+    const Advantage figures = FigureAdvantage(game, bet);
+    session.evPerHour += figures.evPerRoll * amount * rolls;
+    variance += figures.stdevPerRoll * figures.stdevPerRoll * amount * amount * rolls;
+  }
+  session.stdevPerHour = std::sqrt(variance);
+  return session;
+}
+
+double AmountOn(const Amounts& amounts, int bet) {
+  const auto found = amounts.find(bet);
+  return found == amounts.end() ? 1 : found->second;
+}
+
+void PrintJson(const Game& game, const std::vector<AdvantageRow>& rows, const Amounts& amounts) {
+  Json list = Json::array();
+  for (const AdvantageRow& row : rows) {
+    const Advantage& figures = row.figures;
+    list.push_back({{"bet", row.bet},
+                    {"name", row.caption},
+                    {"evPerRoll", figures.evPerRoll},
+                    {"stdevPerRoll", figures.stdevPerRoll},
+                    {"evPerDecision", figures.evPerDecision},
+                    {"stdevPerDecision", figures.stdevPerDecision},
+                    {"rollsPerDecision", figures.rollsPerDecision},
+                    {"amount", AmountOn(amounts, row.bet)},
+                    {"evPerHour",
+                     figures.evPerRoll * AmountOn(amounts, row.bet) * game.settings.SimRollRate.ToDouble()}});
+  }
+  Json result{{"rollsPerHour", MoneyJson(game.settings.SimRollRate)},
+              {"dice", game.percentage.PercentageDiceActive ? "percentage" : "fair"},
+              {"rows", list}};
+  if (!amounts.empty()) {
+    const Session session = SessionOf(game, amounts);
+    result["session"] = {{"evPerHour", session.evPerHour}, {"stdevPerHour", session.stdevPerHour}};
+  }
+  std::printf("%s\n", result.dump().c_str());
+}
+
+void PrintTable(const Game& game, const std::vector<AdvantageRow>& rows, const Amounts& amounts) {
+  const double rollsPerHour = game.settings.SimRollRate.ToDouble();
+  std::printf("%-24s %10s %10s %10s %10s %9s %10s\n", "bet", "EV/roll", "StDev/roll", "EV/dec", "StDev/dec",
+              "rolls/dec", "EV/hour");
+  for (const AdvantageRow& row : rows) {
+    const Advantage& figures = row.figures;
+    std::printf("%-24s %10.6f %10.6f %10.6f %10.6f %9.2f %10.2f\n", row.caption.c_str(), figures.evPerRoll,
+                figures.stdevPerRoll, figures.evPerDecision, figures.stdevPerDecision,
+                figures.rollsPerDecision, figures.evPerRoll * AmountOn(amounts, row.bet) * rollsPerHour);
+  }
+  if (amounts.empty()) return;
+  const Session session = SessionOf(game, amounts);
+  std::printf("\nAt %s rolls an hour these bets are expected to bring $%.2f an hour, give or take $%.2f.\n",
+              FormatMoney(game.settings.SimRollRate).c_str(), session.evPerHour, session.stdevPerHour);
+}
+
+int ShowAdvantage(const AdvantageOptions& options) {
+  CliHost host;
+  const std::unique_ptr<Game> game = SetUpTable(host, options.table);
+  if (!game) return kBad;
+  if (options.zeroOutcomes) game->settings.IncludeZeroOutcomes = true;
+  Amounts amounts;
+  if (!ReadBets(options.bets, amounts)) return kBad;
+  const std::vector<AdvantageRow> rows = AdvantageTable(*game);
+  options.json ? PrintJson(*game, rows, amounts) : PrintTable(*game, rows, amounts);
+  return kDone;
+}
+
+}  // namespace
+
+void AddAdvantageCommand(CLI::App& program, int& exitCode) {
+  auto options = std::make_shared<AdvantageOptions>();
+  CLI::App* command = program.add_subcommand("advantage", "What every bet is worth under the rules in force");
+  command->add_option("--data-folder", options->table.dataFolder, "Folder of everything that is written");
+  command->add_option("--probabilities", options->table.probabilities,
+                      "Percentage dice from a probability file");
+  command->add_option("--set", options->table.settings, "A setting, NAME=VALUE")
+      ->take_all()
+      ->allow_extra_args(false);
+  command->add_flag("--zero-outcomes", options->zeroOutcomes,
+                    "Rolls that leave the bet in place are decisions");
+  command->add_option("--bet", options->bets, "A bet that is made, BET=AMOUNT; repeatable")
+      ->take_all()
+      ->allow_extra_args(false);
+  command->add_flag("--json", options->json, "Print one JSON object");
+  command->footer(
+      "Example:\n  tessaryn-cli advantage --set BuyVigUpFront=off --bet buy4=25 --bet passline=10");
+  command->callback([options, &exitCode] { exitCode = ShowAdvantage(*options); });
+}
+
+}  // namespace tessaryn::cli
