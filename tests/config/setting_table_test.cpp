@@ -55,9 +55,10 @@ TEST(SettingTable, EveryValueThatIsSetIsReadAgain) {
   for (const SettingName& setting : AllSettings()) {
     const int seat = setting.bySeat ? 1 : 0;
     const std::string old = Read(*table.game, setting.name, seat);
-    std::vector<std::string> others{old == "on" ? "off" : "on", "1", "2", "3", "11", "0.03", "4 to 3", "0"};
+    std::vector<std::string> others{
+        old == "on" ? "off" : "on", "1", "2", "3", "11", "12", "0.03", "4 to 3", "0"};
     if (old.find(" to ") != std::string::npos) others = {"4 to 3", "5 to 2"};
-    if (setting.name.rfind("CheckValue", 0) == 0) continue;   // below, together
+    if (setting.name.rfind("CheckValue", 0) == 0) continue;  // below, together
     bool changed = false;
     for (const std::string& other : others) {
       std::string error;
@@ -79,7 +80,7 @@ TEST(SettingTable, BadValuesAreNamedAndChangeNothing) {
     const char* name;
     int seat;
     const char* value;
-    const char* error;   // what it holds
+    const char* error;  // what it holds
   };
   const Case cases[] = {
       {"NoSuch", 0, "1", "There is no setting named \"NoSuch\"."},
@@ -100,7 +101,8 @@ TEST(SettingTable, BadValuesAreNamedAndChangeNothing) {
       {"MinBetMain", 0, "2.5",
        "The minimum bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  etc."},
       {"MinBetProp", 0, "2.5",
-       "The minimum prop bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  etc."},
+       "The minimum prop bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  "
+       "etc."},
       {"CheckValue.1", 0, "0", "Check values must be greater than zero."},
       {"CheckValue.2", 0, "1",
        "Checks must be listed in ascending order with the smallest valued check in the leftmost position."},
@@ -166,7 +168,8 @@ TEST(SettingTable, ChecksChangeTogether) {
   EXPECT_TRUE(SetSettings(*table.game, changes, error)) << error;
   EXPECT_EQ(table.game->payoffs.PayoffTable[kPlace4 + 2].BetUnit, Money("30"));
   const std::vector<std::string> before = Everything(*table.game);
-  EXPECT_FALSE(SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
+  EXPECT_FALSE(
+      SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
   EXPECT_EQ(Everything(*table.game), before) << "one bad value takes the others back";
 }
 
@@ -185,7 +188,9 @@ const FamilyCase kFamilies[] = {
     {"UseBig68", {kBig6, kBig8}, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
     {"UseFire", {kFire}, "Remove Fire Bets", "one or more wagers on the Fire bet"},
     {"UseMidway", {kMidway}, "Remove Midway Bets", "one or more Midway bets present"},
-    {"SmallTallEnabled", {kAllSmall, kPoint7}, "Remove Special Prop Bets",
+    {"SmallTallEnabled",
+     {kAllSmall, kPoint7},
+     "Remove Special Prop Bets",
      "one or more wagers on the following special prop bets: All Small, Point 7"},
 };
 
@@ -234,7 +239,8 @@ TEST(SettingTableFamilies, ASevenPointSevenThatRidesKeepsItsFamily) {
   table.host.answers = {"yes"};
   EXPECT_FALSE(SetSetting(*table.game, "SmallTallEnabled", 0, "off", error));
   EXPECT_EQ(table.host.LastText(),
-            "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a contract bet, "
+            "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
+            "contract bet, "
             "you can't remove it until it resolves.");
   EXPECT_EQ(table.State().BetAmount(1, kSevenPoint7), Money("5"));
   EXPECT_EQ(Read(*table.game, "SmallTallEnabled"), "on");
@@ -263,13 +269,16 @@ TEST(SettingTableVig, AChargeThatCannotBePaidIsRefused) {
     const char* title;
   };
   const std::string one =
-      "You're not allowed to change this setting at this time because you don't have enough bankroll remaining to pay "
+      "You're not allowed to change this setting at this time because you don't have enough bankroll "
+      "remaining to pay "
       "the added up-front vig that would be required.";
   const std::string several =
-      "You're not allowed to change this setting at this time because one or more players doesn't have enough bankroll "
+      "You're not allowed to change this setting at this time because one or more players doesn't have "
+      "enough bankroll "
       "remaining to pay the added up-front vig that would be required.";
   const std::string remedies =
-      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow negative "
+      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
+      "negative "
       "bankroll\"";
   for (const Case& c : {Case{1, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
                         Case{2, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
@@ -315,8 +324,9 @@ TEST(SettingTable, ANegativeBankrollKeepsItsPermission) {
   table.Set("AllowNegativeBankroll", "on", 1);
   std::string error;
   EXPECT_FALSE(SetSetting(*table.game, "AllowNegativeBankroll", 1, "off", error));
-  EXPECT_NE(error.find("Before you can un-check this box, Ann must have a non-negative bankroll. Some options:"),
-            std::string::npos);
+  EXPECT_NE(
+      error.find("Before you can un-check this box, Ann must have a non-negative bankroll. Some options:"),
+      std::string::npos);
   EXPECT_EQ(Read(*table.game, "AllowNegativeBankroll", 1), "on");
 }
 

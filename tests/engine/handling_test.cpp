@@ -16,11 +16,11 @@ using test::TestTable;
 struct ChoiceCase {
   int bet;
   const char* amount;
-  int die1;      // with a point of 10 on
+  int die1;  // with a point of 10 on
   int die2;
   SettleAnswer answer;
   const char* after;
-  const char* title;    // "" no note
+  const char* title;  // "" no note
   const char* note;
   const char* maxBet = "1000";
 };
@@ -83,8 +83,8 @@ void ExpectChoice(TestTable& table, const ChoiceCase& c) {
   EXPECT_EQ(table.State().BetAmount(1, c.bet), Money(c.after));
   std::vector<test::ShownBox> notes;
   for (const test::ShownBox& box : table.host.boxes)
-    if (box.text.find(" bet increased") != std::string::npos || box.text.find(" bet decreased") != std::string::npos ||
-        box.text.find("remains") != std::string::npos)
+    if (box.text.find(" bet increased") != std::string::npos ||
+        box.text.find(" bet decreased") != std::string::npos || box.text.find("remains") != std::string::npos)
       notes.push_back(box);
   ASSERT_EQ(notes.size(), *c.title == 0 ? 0u : 1u);
   if (*c.title == 0) return;
@@ -131,7 +131,8 @@ TEST(Handling, ATurboRollNeitherAsksNorTells) {
   TestTable table;
   table.Join(1, "Ann");
   table.Bet(1, kPassLine, "10");
-  test::WriteFile(table.folder.File("r.rol"), std::string{static_cast<char>(RollByte(3, 4)), static_cast<char>(RollByte(5, 6))});
+  test::WriteFile(table.folder.File("r.rol"),
+                  std::string{static_cast<char>(RollByte(3, 4)), static_cast<char>(RollByte(5, 6))});
   ASSERT_EQ(OpenRollFile(table.game->rollFile, table.folder.File("r.rol")), "");
   ASSERT_EQ(SetRecorderState(table.game->rollFile, kRecorderPlayback), "");
   table.host.boxes.clear();
