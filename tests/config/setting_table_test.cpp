@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "engine/bet_limits.h"
 #include "engine/bet_rules.h"
 #include "support/test_host.h"
@@ -171,6 +173,68 @@ TEST(SettingTable, ChecksChangeTogether) {
   EXPECT_FALSE(
       SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
   EXPECT_EQ(Everything(*table.game), before) << "one bad value takes the others back";
+}
+
+// Money and bets that a refused change must leave alone, and that no setting changes unasked.
+std::vector<Currency> Moneys(const TableState& state, bool bets) {
+  std::vector<Currency> values;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    values.push_back(state.BankrollCurrent[seat]);
+    if (!bets) continue;
+    values.push_back(state.OnTableAmount[seat]);
+    for (int bet = 1; bet < kBetRows; ++bet) values.push_back(state.BetAmount(seat, bet));
+    for (int i = 0; i < 6; ++i) {
+      values.push_back(state.LayVigHeld[seat][i]);
+      values.push_back(state.BuyVigHeld[seat][i]);
+    }
+  }
+  return values;
+}
+
+TEST(SettingTableRandom, RulesThatChangeInTheMiddleOfPlayKeepTheTableTogether) {
+  const std::vector<SettingName> names = AllSettings();
+  const char* values[] = {"on", "off", "0",    "1",  "2",      "5",       "12", "0.5",
+                          "20", "100", "3000", "8%", "7 to 5", "-1 to 1", "x",  "0 to 1"};
+  for (unsigned seed = 1; seed <= 4; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    TwoPlayers table;
+    table.game->settings.MessageMask = 0;
+    int refused = 0;
+    int changed = 0;
+    for (int step = 0; step < 700 && !testing::Test::HasFailure(); ++step) {
+      for (int bet = 0; bet < 4; ++bet)
+        table.Bet(1 + static_cast<int>(random() % 2), 1 + static_cast<int>(random() % kBets),
+                  std::to_string(random() % 60).c_str());
+      if (random() % 3 != 0)
+        table.Roll(1 + static_cast<int>(random() % 6), 1 + static_cast<int>(random() % 6));
+      std::vector<SettingChange> changes;
+      for (unsigned i = 0; i <= random() % 3; ++i) {
+        const SettingName& setting = names[random() % 96 < 70 ? random() % 60 : random() % names.size()];
+        changes.push_back({setting.name, setting.bySeat ? 1 + static_cast<int>(random() % 2) : 0,
+                           values[random() % std::size(values)]});
+      }
+      table.host.answers.clear();
+      for (int i = 0; i < 4; ++i) table.host.answers.push_back(random() % 2 == 0 ? "yes" : "no");
+      const std::vector<std::string> before = Everything(*table.game);
+      const std::vector<Currency> moneys = Moneys(table.State(), true);
+      const std::vector<Currency> bankrolls = Moneys(table.State(), false);
+      std::string error;
+      const bool done = SetSettings(*table.game, changes, error);
+      table.Check(changes[0].name.c_str());
+      EXPECT_EQ(Moneys(table.State(), false), bankrolls) << "a setting is not a payment";
+      if (done) {
+        ++changed;
+        continue;
+      }
+      ++refused;
+      EXPECT_FALSE(error.empty());
+      EXPECT_EQ(Everything(*table.game), before) << error;
+      EXPECT_EQ(Moneys(table.State(), true), moneys) << error;
+    }
+    EXPECT_GT(refused, 50);
+    EXPECT_GT(changed, 50);
+  }
 }
 
 // --- Families.

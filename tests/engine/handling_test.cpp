@@ -45,6 +45,8 @@ const ChoiceCase kChoices[] = {
     {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "2.5"), "30", "Same bet times 2.50", "increased by: $18"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "2"), "6", "Same bet divided by 2", "decreased by: $6"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "0"), "12", "Same bet divided by 0", "remains the same."},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "9999999.9999"), "1000", "Same bet times 9,999,999.9999",
+     "increased by: $988"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "50", 1), "18", "Same bet plus 50%", "increased by: $6"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "25", 1), "9", "Same bet minus 25%", "decreased by: $3"},
     // Two units of the five-dollar check, each 5 times 6.

@@ -375,6 +375,16 @@ TEST(EventsLogFiles, AnUnwritableLogIsToldOnceAndTheGameGoesOn) {
   }
 }
 
+TEST(EventsLogFiles, ALongRunOverAFullDiskIsNotHeldUp) {
+  LoggedTable table;
+  table.game->events.Path = "/dev/full";
+  table.Join(1, "Ann");
+  table.Turbo(60'000);
+  EXPECT_EQ(SessionRolls(table.game->stats), 60'000);
+  EXPECT_EQ(table.host.boxes.size(), 1u) << table.host.LastText();
+  EXPECT_LE(table.game->events.textBuffer.size(), 5u * 1024 * 1024) << "what waits is bounded";
+}
+
 TEST(EventsLogFiles, WaitingLinesGoBehindWhatTheNextLogHolds) {
   LoggedTable table;
   Game& game = *table.game;
@@ -390,6 +400,18 @@ TEST(EventsLogFiles, WaitingLinesGoBehindWhatTheNextLogHolds) {
   EXPECT_EQ(table.IndexProblem(), "");
   EXPECT_EQ(table.Log()[0], "an older line");
   EXPECT_EQ(table.Log().back(), "    Miss (craps natural)");
+}
+
+TEST(EventsLogFiles, ALogWithoutItsLastLineEndIsGoneOnWithProperly) {
+  LoggedTable table;
+  const std::string other = table.folder.File("edited.txt");
+  test::WriteFile(other, "first\nedited by hand");
+  std::string error;
+  ASSERT_TRUE(OpenEventsLog(*table.game, other, error)) << error;
+  table.Join(1, "Ann");
+  EXPECT_EQ(table.Log(),
+            (LogLines{"first", "edited by hand", "    Ann joined the game at stick 4-left with $1000"}));
+  EXPECT_EQ(table.IndexProblem(), "");
 }
 
 TEST(EventsLogFiles, NewAsksForTheDefaultNameAlone) {
