@@ -17,7 +17,8 @@ int main(int argc, char** argv) {
   using namespace tessaryn::cli;
   CLI::App program{"Tessaryn: a casino dice table for players, and for people who test betting systems."};
   program.name("tessaryn-cli");
-  program.require_subcommand(1);
+  // None at all is told below: asking for one here would hide the name of a wrong one.
+  program.require_subcommand(0, 1);
   program.footer("Every command has --help with an example.");
   int exitCode = kDone;
   AddRunCommand(program, exitCode);
@@ -32,6 +33,10 @@ int main(int argc, char** argv) {
   } catch (const CLI::ParseError& error) {
     const int shown = program.exit(error);
     return shown == 0 ? kDone : kUsage;
+  }
+  if (program.get_subcommands().empty()) {
+    std::fprintf(stderr, "A subcommand is required\nRun with --help for more information.\n");
+    return kUsage;
   }
   return exitCode;
 }

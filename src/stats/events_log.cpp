@@ -104,6 +104,10 @@ void AppendIndexRecord(std::string& buffer, std::int64_t position) {
 
 // Lines that wait from an earlier fault go behind what the files hold now.
 void PlaceWaitingLines(EventsLog& log, std::int64_t textSize, std::int64_t lines) {
+  // On a full disk every line tries again, and mostly the files are as they were.
+  const auto waiting = static_cast<std::int64_t>(log.indexBuffer.size()) / kIndexBytes;
+  const auto waitingBytes = static_cast<std::int64_t>(log.textBuffer.size());
+  if (log.textLength - waitingBytes == textSize && log.lineCount - waiting == lines) return;
   log.textLength = textSize;
   log.lineCount = lines;
   log.indexBuffer.clear();
@@ -112,7 +116,7 @@ void PlaceWaitingLines(EventsLog& log, std::int64_t textSize, std::int64_t lines
     at = log.textBuffer.find('\n', at) + 1;
     ++log.lineCount;
   }
-  log.textLength += static_cast<std::int64_t>(log.textBuffer.size());
+  log.textLength += waitingBytes;
 }
 
 bool OpenFiles(Game& game) {

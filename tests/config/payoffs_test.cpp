@@ -64,7 +64,8 @@ TEST(PayoffsPresets, EveryPairOfFacesHasItsRowAndTheRowsAreWhatTheirCaptionsSay)
       ++counts[row];
       const std::string caption = FieldRowCaption(row);
       EXPECT_EQ(caption.substr(0, caption.find(' ')), std::to_string(die1 + die2));
-      EXPECT_NE(caption.find("(" + std::to_string(die1) + "." + std::to_string(die2) + ")"), std::string::npos)
+      EXPECT_NE(caption.find("(" + std::to_string(die1) + "." + std::to_string(die2) + ")"),
+                std::string::npos)
           << caption;
     }
   EXPECT_EQ(std::accumulate(std::begin(counts), std::end(counts), 0), 36);
@@ -80,7 +81,8 @@ TEST(Payoffs, TextsComeBackAsTheyWentOut) {
   ASSERT_TRUE(ParsePayoff("7:6", slash));
   EXPECT_EQ(PayoffText(slash), "7 to 6");
   ASSERT_TRUE(ParsePayoff("7 TO 6", slash));
-  for (const char* text : {"", "7", "to", "7 to", " to 6", "7 to 0", "7 to -1", "a to b", "7 to 6 to 5", "7 upon 6"}) {
+  for (const char* text :
+       {"", "7", "to", "7 to", " to 6", "7 to 0", "7 to -1", "a to b", "7 to 6 to 5", "7 upon 6"}) {
     PayoffRecord record = slash;
     EXPECT_FALSE(ParsePayoff(text, record)) << text;
     EXPECT_EQ(record, slash) << text;
@@ -91,9 +93,9 @@ TEST(Payoffs, TheBetUnitIsWhatPaysWhole) {
   const struct {
     int bet;
     const char* unit;
-    int expected;   // in hundredths
-  } cases[] = {{kPlace4, "1", 500}, {kPlace4 + 2, "1", 600}, {kPlace4 + 2, "0.25", 150}, {kLay4 + 1, "1", 300},
-               {kPassLine, "5", 500}, {kHard6, "1", 100}};
+    int expected;  // in hundredths
+  } cases[] = {{kPlace4, "1", 500},   {kPlace4 + 2, "1", 600}, {kPlace4 + 2, "0.25", 150},
+               {kLay4 + 1, "1", 300}, {kPassLine, "5", 500},   {kHard6, "1", 100}};
   for (const auto& c : cases) {
     PayoffTables payoffs;
     ResetPayoffs(payoffs, ParseMoney(c.unit));
@@ -105,7 +107,7 @@ TEST(Payoffs, TheBetUnitIsWhatPaysWhole) {
 
 struct Damage {
   int table;
-  int row;         // 0: all rows
+  int row;  // 0: all rows
   int payTo;
   const char* text;
   const char* title = "Payoff ratio error";
@@ -155,7 +157,8 @@ TEST(PayoffsCheck, ATableThatIsNotOfferedIsNotLookedAt) {
   PayoffTables payoffs;
   ResetPayoffs(payoffs, Currency::Dollars(1));
   for (const int table : {2, 3, 6})
-    for (int row = 1; row <= PayoffTableFacts(table).lastRow; ++row) PayoffRow(payoffs, table, row).PayTo = kZero;
+    for (int row = 1; row <= PayoffTableFacts(table).lastRow; ++row)
+      PayoffRow(payoffs, table, row).PayTo = kZero;
   EXPECT_FALSE(CheckPayoffs(payoffs, {false, false, false}).Found());
   EXPECT_TRUE(CheckPayoffs(payoffs, {true, false, false}).Found());
   EXPECT_TRUE(CheckPayoffs(payoffs, {false, true, false}).Found());

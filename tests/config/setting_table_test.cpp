@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "engine/bet_limits.h"
 #include "engine/bet_rules.h"
 #include "support/test_host.h"
@@ -55,9 +57,10 @@ TEST(SettingTable, EveryValueThatIsSetIsReadAgain) {
   for (const SettingName& setting : AllSettings()) {
     const int seat = setting.bySeat ? 1 : 0;
     const std::string old = Read(*table.game, setting.name, seat);
-    std::vector<std::string> others{old == "on" ? "off" : "on", "1", "2", "3", "11", "0.03", "4 to 3", "0"};
+    std::vector<std::string> others{
+        old == "on" ? "off" : "on", "1", "2", "3", "11", "12", "0.03", "4 to 3", "0"};
     if (old.find(" to ") != std::string::npos) others = {"4 to 3", "5 to 2"};
-    if (setting.name.rfind("CheckValue", 0) == 0) continue;   // below, together
+    if (setting.name.rfind("CheckValue", 0) == 0) continue;  // below, together
     bool changed = false;
     for (const std::string& other : others) {
       std::string error;
@@ -79,7 +82,7 @@ TEST(SettingTable, BadValuesAreNamedAndChangeNothing) {
     const char* name;
     int seat;
     const char* value;
-    const char* error;   // what it holds
+    const char* error;  // what it holds
   };
   const Case cases[] = {
       {"NoSuch", 0, "1", "There is no setting named \"NoSuch\"."},
@@ -100,7 +103,8 @@ TEST(SettingTable, BadValuesAreNamedAndChangeNothing) {
       {"MinBetMain", 0, "2.5",
        "The minimum bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  etc."},
       {"MinBetProp", 0, "2.5",
-       "The minimum prop bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  etc."},
+       "The minimum prop bet must be some multiple of the smallest check denomination, such as $1, $2, $3,  "
+       "etc."},
       {"CheckValue.1", 0, "0", "Check values must be greater than zero."},
       {"CheckValue.2", 0, "1",
        "Checks must be listed in ascending order with the smallest valued check in the leftmost position."},
@@ -166,8 +170,71 @@ TEST(SettingTable, ChecksChangeTogether) {
   EXPECT_TRUE(SetSettings(*table.game, changes, error)) << error;
   EXPECT_EQ(table.game->payoffs.PayoffTable[kPlace4 + 2].BetUnit, Money("30"));
   const std::vector<std::string> before = Everything(*table.game);
-  EXPECT_FALSE(SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
+  EXPECT_FALSE(
+      SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
   EXPECT_EQ(Everything(*table.game), before) << "one bad value takes the others back";
+}
+
+// Money and bets that a refused change must leave alone, and that no setting changes unasked.
+std::vector<Currency> Moneys(const TableState& state, bool bets) {
+  std::vector<Currency> values;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    values.push_back(state.BankrollCurrent[seat]);
+    if (!bets) continue;
+    values.push_back(state.OnTableAmount[seat]);
+    for (int bet = 1; bet < kBetRows; ++bet) values.push_back(state.BetAmount(seat, bet));
+    for (int i = 0; i < 6; ++i) {
+      values.push_back(state.LayVigHeld[seat][i]);
+      values.push_back(state.BuyVigHeld[seat][i]);
+    }
+  }
+  return values;
+}
+
+TEST(SettingTableRandom, RulesThatChangeInTheMiddleOfPlayKeepTheTableTogether) {
+  const std::vector<SettingName> names = AllSettings();
+  const char* values[] = {"on", "off", "0",    "1",  "2",      "5",       "12", "0.5",
+                          "20", "100", "3000", "8%", "7 to 5", "-1 to 1", "x",  "0 to 1"};
+  for (unsigned seed = 1; seed <= 4; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    TwoPlayers table;
+    table.game->settings.MessageMask = 0;
+    int refused = 0;
+    int changed = 0;
+    for (int step = 0; step < 300 && !testing::Test::HasFailure(); ++step) {
+      for (int bet = 0; bet < 4; ++bet)
+        table.Bet(1 + static_cast<int>(random() % 2), 1 + static_cast<int>(random() % kBets),
+                  std::to_string(random() % 60).c_str());
+      if (random() % 3 != 0)
+        table.Roll(1 + static_cast<int>(random() % 6), 1 + static_cast<int>(random() % 6));
+      std::vector<SettingChange> changes;
+      for (unsigned i = 0; i <= random() % 3; ++i) {
+        const SettingName& setting = names[random() % 96 < 70 ? random() % 60 : random() % names.size()];
+        changes.push_back({setting.name, setting.bySeat ? 1 + static_cast<int>(random() % 2) : 0,
+                           values[random() % std::size(values)]});
+      }
+      table.host.answers.clear();
+      for (int i = 0; i < 4; ++i) table.host.answers.push_back(random() % 2 == 0 ? "yes" : "no");
+      const std::vector<std::string> before = Everything(*table.game);
+      const std::vector<Currency> moneys = Moneys(table.State(), true);
+      const std::vector<Currency> bankrolls = Moneys(table.State(), false);
+      std::string error;
+      const bool done = SetSettings(*table.game, changes, error);
+      table.Check(changes[0].name.c_str());
+      EXPECT_EQ(Moneys(table.State(), false), bankrolls) << "a setting is not a payment";
+      if (done) {
+        ++changed;
+        continue;
+      }
+      ++refused;
+      EXPECT_FALSE(error.empty());
+      EXPECT_EQ(Everything(*table.game), before) << error;
+      EXPECT_EQ(Moneys(table.State(), true), moneys) << error;
+    }
+    EXPECT_GT(refused, 20);
+    EXPECT_GT(changed, 20);
+  }
 }
 
 // --- Families.
@@ -185,7 +252,9 @@ const FamilyCase kFamilies[] = {
     {"UseBig68", {kBig6, kBig8}, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
     {"UseFire", {kFire}, "Remove Fire Bets", "one or more wagers on the Fire bet"},
     {"UseMidway", {kMidway}, "Remove Midway Bets", "one or more Midway bets present"},
-    {"SmallTallEnabled", {kAllSmall, kPoint7}, "Remove Special Prop Bets",
+    {"SmallTallEnabled",
+     {kAllSmall, kPoint7},
+     "Remove Special Prop Bets",
      "one or more wagers on the following special prop bets: All Small, Point 7"},
 };
 
@@ -234,7 +303,8 @@ TEST(SettingTableFamilies, ASevenPointSevenThatRidesKeepsItsFamily) {
   table.host.answers = {"yes"};
   EXPECT_FALSE(SetSetting(*table.game, "SmallTallEnabled", 0, "off", error));
   EXPECT_EQ(table.host.LastText(),
-            "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a contract bet, "
+            "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
+            "contract bet, "
             "you can't remove it until it resolves.");
   EXPECT_EQ(table.State().BetAmount(1, kSevenPoint7), Money("5"));
   EXPECT_EQ(Read(*table.game, "SmallTallEnabled"), "on");
@@ -263,13 +333,16 @@ TEST(SettingTableVig, AChargeThatCannotBePaidIsRefused) {
     const char* title;
   };
   const std::string one =
-      "You're not allowed to change this setting at this time because you don't have enough bankroll remaining to pay "
+      "You're not allowed to change this setting at this time because you don't have enough bankroll "
+      "remaining to pay "
       "the added up-front vig that would be required.";
   const std::string several =
-      "You're not allowed to change this setting at this time because one or more players doesn't have enough bankroll "
+      "You're not allowed to change this setting at this time because one or more players doesn't have "
+      "enough bankroll "
       "remaining to pay the added up-front vig that would be required.";
   const std::string remedies =
-      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow negative "
+      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
+      "negative "
       "bankroll\"";
   for (const Case& c : {Case{1, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
                         Case{2, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
@@ -315,8 +388,9 @@ TEST(SettingTable, ANegativeBankrollKeepsItsPermission) {
   table.Set("AllowNegativeBankroll", "on", 1);
   std::string error;
   EXPECT_FALSE(SetSetting(*table.game, "AllowNegativeBankroll", 1, "off", error));
-  EXPECT_NE(error.find("Before you can un-check this box, Ann must have a non-negative bankroll. Some options:"),
-            std::string::npos);
+  EXPECT_NE(
+      error.find("Before you can un-check this box, Ann must have a non-negative bankroll. Some options:"),
+      std::string::npos);
   EXPECT_EQ(Read(*table.game, "AllowNegativeBankroll", 1), "on");
 }
 

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cstdlib>
+#include <fstream>
 #include <new>
 
 #include "dice/auto_roll.h"
@@ -109,6 +110,28 @@ TEST(Allocation, NoneWithEveryBetUpAndChoicesThatPressAndRefuse) {
     handling.ProperOddsMode = seat % 3;
   }
   EXPECT_EQ(AllocationsOf(table, 20'000), 0);
+}
+
+// Pages of memory that the program holds.
+long PagesHeld() {
+  long size = 0;
+  long resident = 0;
+  std::ifstream("/proc/self/statm") >> size >> resident;
+  return resident;
+}
+
+TEST(Allocation, ALongRunWithItsJournalHoldsNoMoreMemoryThanAShortOne) {
+  TestTable table;
+  table.Set("ShooterBetRule", "0");
+  table.Join(1, "Ann", "100000");
+  table.Bet(1, kPlace4 + 2, "12");
+  table.Set("WinHandling", "2");
+  table.Set("LoseHandling", "2");
+  table.Set("RecordEventsActive", "on");
+  table.Turbo(20'000);
+  const long before = PagesHeld();
+  table.Turbo(200'000);
+  EXPECT_LE(PagesHeld() - before, 256) << "a mebibyte of slack for the run-time library";
 }
 
 }  // namespace

@@ -12,20 +12,22 @@ using test::TestTable;
 
 struct AtmCase {
   const char* bankroll;
-  const char* bet;        // on the Pass Line, "" none
+  const char* bet;  // on the Pass Line, "" none
   bool negativeAllowed;
   bool deposit;
   const char* amount;
   const char* allowed;
   bool fromConfiguration;
-  std::string text;       // empty: no box
+  std::string text;  // empty: no box
 };
 
-constexpr const char* kMore = "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\"";
+constexpr const char* kMore =
+    "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\"";
 constexpr const char* kNotFull = "The full amount of this transaction was not allowed because ";
 
 std::string Asked(const char* requested, const char* allowed, const std::string& reason) {
-  return std::string("Requested amount:  $") + requested + "\rAllowed amount:  $" + allowed + "\r\r" + kNotFull + reason;
+  return std::string("Requested amount:  $") + requested + "\rAllowed amount:  $" + allowed + "\r\r" +
+         kNotFull + reason;
 }
 
 TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
@@ -38,12 +40,12 @@ TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
        Asked("1,000", "500", "Ann's bankroll would've become negative." + std::string(kMore) + ".")},
       {"500", "40", false, true, "461", "460", false,
        Asked("461", "460",
-             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) + ends +
-                 ", and/or by reducing the amount currently wagered.")},
+             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) +
+                 ends + ", and/or by reducing the amount currently wagered.")},
       {"40", "40", false, true, "10", "0", false,
        Asked("10", "0",
-             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) + ends +
-                 ", and/or by reducing the amount currently wagered.")},
+             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) +
+                 ends + ", and/or by reducing the amount currently wagered.")},
       {"500", "", true, true, "10000499", "10000499", false, ""},
       {"500", "", true, true, "10000500", "10000499", false,
        Asked("10,000,500", "10,000,499",
@@ -62,7 +64,8 @@ TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
     table.State().AllowNegativeBankroll[1] = c.negativeAllowed;
     table.host.boxes.clear();
     const Currency before = table.State().BankrollCurrent[1];
-    EXPECT_EQ(AtmTransaction(*table.game, 1, c.deposit, Money(c.amount), c.fromConfiguration), Money(c.allowed));
+    EXPECT_EQ(AtmTransaction(*table.game, 1, c.deposit, Money(c.amount), c.fromConfiguration),
+              Money(c.allowed));
     const Currency moved = table.State().BankrollCurrent[1] - before;
     EXPECT_EQ(moved, c.deposit ? -Money(c.allowed) : Money(c.allowed));
     for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})

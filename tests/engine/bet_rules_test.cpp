@@ -27,7 +27,7 @@ struct RuleCase {
   int bet;
   const char* request;
   const char* change;
-  std::string sentence;   // empty: no box
+  std::string sentence;  // empty: no box
   const char* bankroll = "5000";
 };
 
@@ -35,20 +35,24 @@ using Rolls = std::vector<std::pair<int, int>>;
 const Rolls kPoint4 = {{2, 2}};
 const Rolls kNone = {};
 
-const std::string kPassDown = "You may not decrease or remove your Pass Line bet \rwhile a point is established.";
+const std::string kPassDown =
+    "You may not decrease or remove your Pass Line bet \rwhile a point is established.";
 const std::string kPassUp =
-    "You may not make or increase a Pass Line bet \rwhile a point is established.\r\r(Unless you check \"Allow Put "
+    "You may not make or increase a Pass Line bet \rwhile a point is established.\r\r(Unless you check "
+    "\"Allow Put "
     "Bets\" on the\rConfiguration screen.)";
 const std::string kComeDown = "You may not decrease or remove a Come bet \rwhich is established on a point.";
 const std::string kComeUp =
-    "You may not make or increase a Come bet \rdirectly on a point number.\r\r(Unless you check \"Allow Put Bets\" on "
+    "You may not make or increase a Come bet \rdirectly on a point number.\r\r(Unless you check \"Allow Put "
+    "Bets\" on "
     "the\rConfiguration screen.)";
 const std::string kNoMoney =
     "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options are: \r";
 const std::string kNoMoneyEnd = "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
 
 std::string ComeOutOnly(const char* name) {
-  return std::string("You may not make or increase a ") + name + " bet unless the shooter is on a come-out roll.";
+  return std::string("You may not make or increase a ") + name +
+         " bet unless the shooter is on a come-out roll.";
 }
 std::string HandStarted(const char* name) {
   return std::string("You may not make or increase a ") + name + " bet after the shooter has started a hand.";
@@ -62,7 +66,13 @@ const RuleCase kRefusals[] = {
     {{}, {{kPassLine, "10"}}, kNone, {}, kPassLine, "-10", "-10", ""},
     {{}, {}, {{2, 2}, {1, 1}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "-10", "-10", ""},
     {{}, {{kPassLine, "10"}}, {{2, 2}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "10", "10", ""},
-    {{}, {{kSevenPoint7, "10"}}, kPoint4, {}, kSevenPoint7, "-10", "0",
+    {{},
+     {{kSevenPoint7, "10"}},
+     kPoint4,
+     {},
+     kSevenPoint7,
+     "-10",
+     "0",
      "You may not decrease or remove a 7 Point 7 bet \rwhile a point is established."},
     {{}, {{kSevenPoint7, "10"}}, kNone, {}, kSevenPoint7, "-10", "-10", ""},
     {{}, {{kDontPass, "10"}}, kPoint4, {}, kDontPass, "-10", "-10", ""},
@@ -72,36 +82,119 @@ const RuleCase kRefusals[] = {
     {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "5", "5", ""},
     {{}, {}, kNone, {}, kCome, "5", "0", "You may not make a Come bet \runtil a point is established."},
     {{}, {}, kPoint4, {}, kCome, "5", "5", ""},
-    {{}, {}, kNone, {}, kDontCome, "5", "0", "You may not make a Don't Come bet \runtil a point is established."},
-    {{}, {{kDontPass, "10"}}, kPoint4, {}, kDontPass, "5", "0",
+    {{},
+     {},
+     kNone,
+     {},
+     kDontCome,
+     "5",
+     "0",
+     "You may not make a Don't Come bet \runtil a point is established."},
+    {{},
+     {{kDontPass, "10"}},
+     kPoint4,
+     {},
+     kDontPass,
+     "5",
+     "0",
      "You may not make or increase a Don't Pass bet \rwhile a point is established."},
     {{}, {{kDontPass, "10"}}, kPoint4, {{kDontPass, "-5"}}, kDontPass, "5", "5", ""},
-    {{}, {{kPassLine, "10"}}, kNone, {}, kPassLineOdds, "5", "0",
-     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is established."},
-    {{}, {}, kPoint4, {}, kPassLineOdds, "5", "0",
-     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is established."},
-    {{}, {}, kPoint4, {}, kDontPassOdds, "5", "0",
-     "You may not make a Don't Pass Odds bet unless \ryou also have a Don't Pass bet and a point is established."},
-    {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLineOdds, "100", "30", "The maximum Pass Line Odds bet is $30"},
+    {{},
+     {{kPassLine, "10"}},
+     kNone,
+     {},
+     kPassLineOdds,
+     "5",
+     "0",
+     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
+     "established."},
+    {{},
+     {},
+     kPoint4,
+     {},
+     kPassLineOdds,
+     "5",
+     "0",
+     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
+     "established."},
+    {{},
+     {},
+     kPoint4,
+     {},
+     kDontPassOdds,
+     "5",
+     "0",
+     "You may not make a Don't Pass Odds bet unless \ryou also have a Don't Pass bet and a point is "
+     "established."},
+    {{},
+     {{kPassLine, "10"}},
+     kPoint4,
+     {},
+     kPassLineOdds,
+     "100",
+     "30",
+     "The maximum Pass Line Odds bet is $30"},
     // On the numbers.
-    {{}, {}, kPoint4, {}, kComeOdds4 + 1, "5", "0",
+    {{},
+     {},
+     kPoint4,
+     {},
+     kComeOdds4 + 1,
+     "5",
+     "0",
      "You may not make a Come 5 Odds bet \runtil you've established a Come 5 bet."},
-    {{}, {}, kNone, {}, kDontComeOdds4 + 5, "5", "0",
+    {{},
+     {},
+     kNone,
+     {},
+     kDontComeOdds4 + 5,
+     "5",
+     "0",
      "You may not make a Don't Come 10 Odds bet \runtil you've established a Don't Come 10 bet."},
     {{{"AllowPutBets", "off"}}, {}, kPoint4, {}, kCome4, "5", "0", kComeUp},
     {{}, {}, kPoint4, {}, kCome4, "5", "5", ""},
-    {{}, {}, kNone, {}, kDontCome4, "5", "0",
+    {{},
+     {},
+     kNone,
+     {},
+     kDontCome4,
+     "5",
+     "0",
      "You may not make or increase a Don't Come bet \rdirectly on a point number."},
     // Marks, counts and hands.
-    {{}, {{kAllSmall, "5"}}, {{1, 1}}, {}, kAllSmall, "5", "0",
+    {{},
+     {{kAllSmall, "5"}},
+     {{1, 1}},
+     {},
+     kAllSmall,
+     "5",
+     "0",
      "You may not make or increase an All Small bet \rwhile any small numbers are marked."},
-    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllTall, "5", "0",
+    {{},
+     {{kAllTall, "5"}},
+     {{6, 6}},
+     {},
+     kAllTall,
+     "5",
+     "0",
      "You may not make or increase an All Tall bet \rwhile any tall numbers are marked."},
-    {{}, {{kMakeAll, "5"}}, {{6, 6}}, {}, kMakeAll, "5", "0",
+    {{},
+     {{kMakeAll, "5"}},
+     {{6, 6}},
+     {},
+     kMakeAll,
+     "5",
+     "0",
      "You may not make or increase a Make All bet \rwhile any numbers are marked."},
     {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllSmall, "5", "5", ""},
     {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllTall, "-5", "-5", ""},
-    {{}, {{kFourRolls, "5"}}, {{6, 6}}, {}, kFourRolls, "5", "0",
+    {{},
+     {{kFourRolls, "5"}},
+     {{6, 6}},
+     {},
+     kFourRolls,
+     "5",
+     "0",
      "You may not make or increase a 4 Rolls No 7 bet if the count is in progress."},
     {{}, {}, kPoint4, {}, kPoint7, "5", "0", ComeOutOnly("Point 7")},
     {{}, {}, kPoint4, {}, kSevenPoint7, "5", "0", ComeOutOnly("7 Point 7")},
@@ -130,8 +223,15 @@ const RuleCase kRefusals[] = {
     {{}, {{kField, "10"}}, kNone, {}, kField, "0", "0", ""},
     // Money.
     {{}, {}, kNone, {}, kField, "60", "50", kNoMoney + kNoMoneyEnd, "50"},
-    {{}, {{kBig6, "45"}}, kNone, {}, kField, "60", "5",
-     kNoMoney + "      - Bet less on other bets.\r" + kNoMoneyEnd, "50"},
+    {{},
+     {{kBig6, "45"}},
+     kNone,
+     {},
+     kField,
+     "60",
+     "5",
+     kNoMoney + "      - Bet less on other bets.\r" + kNoMoneyEnd,
+     "50"},
     // 5 percent of 48 is 2.40, which rounds to 2: 48 and 2 are all the money there is.
     {{{"MessageMask", "2"}}, {}, kNone, {}, kBuy4, "60", "48", kNoMoney + kNoMoneyEnd, "50"},
 };
@@ -194,7 +294,8 @@ TEST(BetRules, EachBitOfTheMaskSilencesItsOwnNotes) {
       table.game->settings.MessageMask = mask;
       table.Join(1, "Ann", "300");
       table.Bet(1, event.bet, event.request);
-      EXPECT_EQ(table.host.boxes.size(), (mask & event.bit) != 0 ? 1u : 0u) << event.bet << " with mask " << mask;
+      EXPECT_EQ(table.host.boxes.size(), (mask & event.bit) != 0 ? 1u : 0u)
+          << event.bet << " with mask " << mask;
     }
 }
 
@@ -206,10 +307,12 @@ TEST(BetRules, AContractAboveALoweredMaximumStaysAndSaysWhy) {
   table.Set("MaxBet", "100");
   table.host.boxes.clear();
   EXPECT_EQ(ChangeBet(*table.game, 1, kPassLine, Money("50")), kZero);
-  EXPECT_EQ(table.host.LastText(),
-            "Ann,\r\rThe maximum Pass Line bet is $100\r\rHowever, because the Pass Line is a contract bet and you "
-            "established it at $500 before you recently lowered the maximum allowed on the Configuration screen, it "
-            "must remain unchanged until it resolves.");
+  EXPECT_EQ(
+      table.host.LastText(),
+      "Ann,\r\rThe maximum Pass Line bet is $100\r\rHowever, because the Pass Line is a contract bet and you "
+      "established it at $500 before you recently lowered the maximum allowed on the Configuration screen, "
+      "it "
+      "must remain unchanged until it resolves.");
   EXPECT_EQ(table.State().BetAmount(1, kPassLine), Money("500"));
 }
 
@@ -220,11 +323,11 @@ TEST(BetRules, TheVigIsToldAsItIsCharged) {
     table.Set("LayVigUpFront", upFront ? "on" : "off");
     table.Join(1, "Ann");
     table.Bet(1, kBuy4, "40");
-    EXPECT_EQ(table.host.LastText(), upFront ? "Ann,\r\rTotal vig charge $2"
-                                             : "Ann,\r\rIf you win, the vig charge will be $2");
+    EXPECT_EQ(table.host.LastText(),
+              upFront ? "Ann,\r\rTotal vig charge $2" : "Ann,\r\rIf you win, the vig charge will be $2");
     table.Bet(1, kLay4, "120");
-    EXPECT_EQ(table.host.LastText(), upFront ? "Ann,\r\rTotal vig charge $3"
-                                             : "Ann,\r\rIf you win, the vig charge will be $3");
+    EXPECT_EQ(table.host.LastText(),
+              upFront ? "Ann,\r\rTotal vig charge $3" : "Ann,\r\rIf you win, the vig charge will be $3");
     EXPECT_EQ(table.State().OnTableAmount[1], Money(upFront ? "165" : "160"));
   }
 }
@@ -232,7 +335,7 @@ TEST(BetRules, TheVigIsToldAsItIsCharged) {
 TEST(BetRules, VigIsRoundedByItsChoice) {
   struct Case {
     const char* amount;
-    const char* rounded[3];   // nearest, down, up
+    const char* rounded[3];  // nearest, down, up
   };
   const Case cases[] = {{"5", {"0", "0", "1"}},  {"10", {"1", "0", "1"}}, {"20", {"1", "1", "1"}},
                         {"25", {"1", "1", "2"}}, {"30", {"2", "1", "2"}}, {"35", {"2", "1", "2"}},
@@ -309,7 +412,8 @@ TEST(BetRulesOdds, EveryMethodGivesWhatItsRuleGivesByHand) {
     TestTable table;
     Game& game = *table.game;
     game.settings.OddsCalcMethod = c.method;
-    game.settings.OddsAllowed410 = game.settings.OddsAllowed59 = game.settings.OddsAllowed68 = Money(c.multiple);
+    game.settings.OddsAllowed410 = game.settings.OddsAllowed59 = game.settings.OddsAllowed68 =
+        Money(c.multiple);
     const int bet = kComeOdds4 + BoxPosition(c.number);
     const PayoffRecord& record = game.payoffs.PayoffTable[bet];
     EXPECT_EQ(MaxOddsFor(game, bet, Money(c.flat), record.PayTo, record.PayPer), Money(c.most));
@@ -328,7 +432,8 @@ TEST(BetRulesOdds, LaidOddsAreMeasuredByWhatTheyWin) {
 }
 
 TEST(BetRulesOdds, AShareIsRaisedToAMultipleOrNothing) {
-  const std::int64_t cases[][3] = {{0, 2, 0}, {1, 2, 0}, {2, 2, 2}, {3, 2, 4}, {2, 5, 0}, {3, 5, 5}, {5, 5, 5}, {6, 5, 10}, {1, 1, 1}};
+  const std::int64_t cases[][3] = {{0, 2, 0}, {1, 2, 0}, {2, 2, 2},  {3, 2, 4}, {2, 5, 0},
+                                   {3, 5, 5}, {5, 5, 5}, {6, 5, 10}, {1, 1, 1}};
   for (const auto& c : cases) EXPECT_EQ(OddsChipCount(c[0], c[1]), c[2]) << c[0] << " of " << c[1];
 }
 
@@ -352,7 +457,7 @@ TEST(BetRulesProper, AmountsGoToTheNeighbourThatTheBiasNames) {
     const char* request;
     const char* amount;
   };
-  const Case cases[] = {{0, 0, "0", "10", "10"}, {1, 0, "0", "10", "12"}, {1, 2, "0", "10", "6"},
+  const Case cases[] = {{0, 0, "0", "10", "10"},  {1, 0, "0", "10", "12"}, {1, 2, "0", "10", "6"},
                         {1, 1, "12", "-1", "12"}, {1, 0, "12", "-1", "6"}, {1, 0, "0", "12", "12"},
                         {2, 0, "0", "31", "60"},  {2, 2, "0", "31", "30"}, {1, 0, "990", "8", "996"}};
   for (const Case& c : cases) {
@@ -378,11 +483,13 @@ TEST(BetRulesStacks, AValueStopsAtTheLimitEitherWay) {
   EXPECT_EQ(table.Bet(1, stack, "9999999.9999"), Money("9999999.9999"));
   EXPECT_TRUE(table.host.boxes.empty());
   EXPECT_EQ(table.Bet(1, stack, "0.5"), kZero);
-  EXPECT_EQ(table.host.LastText(),
-            "Ann,\r\rThe maximum CheckStack value is: $9,999,999.9999\r\rCheckStack #3\rwhich is already stacked.");
+  EXPECT_EQ(
+      table.host.LastText(),
+      "Ann,\r\rThe maximum CheckStack value is: $9,999,999.9999\r\rCheckStack #3\rwhich is already stacked.");
   EXPECT_EQ(table.Bet(1, stack, "-20000000"), Money("-19999999.9998"));
-  EXPECT_EQ(table.host.LastText(),
-            "Ann,\r\rThe minimum CheckStack value is: $-9,999,999.9999\r\rCheckStack #3\rwhich is being stacked.");
+  EXPECT_EQ(
+      table.host.LastText(),
+      "Ann,\r\rThe minimum CheckStack value is: $-9,999,999.9999\r\rCheckStack #3\rwhich is being stacked.");
   EXPECT_EQ(table.State().OnTableAmount[1], kZero) << "no money of the table";
 }
 
@@ -416,9 +523,9 @@ TEST(BetRulesCalls, ABoughtPlaceBetTakesItsCallAlong) {
 }
 
 TEST(BetRules, AFamilyThatIsOffTakesNoBet) {
-  const std::tuple<const char*, int> families[] = {{"UseBig68", kBig6},        {"UseBig68", kBig8},
-                                                   {"UseFire", kFire},         {"UseMidway", kMidway},
-                                                   {"SmallTallEnabled", kPoint7}, {"SmallTallEnabled", kAllSmall}};
+  const std::tuple<const char*, int> families[] = {
+      {"UseBig68", kBig6},    {"UseBig68", kBig8},           {"UseFire", kFire},
+      {"UseMidway", kMidway}, {"SmallTallEnabled", kPoint7}, {"SmallTallEnabled", kAllSmall}};
   for (const auto& [name, bet] : families) {
     TestTable table;
     table.Join(1, "Ann");
@@ -433,7 +540,8 @@ TEST(BetRules, AFamilyThatIsOffTakesNoBet) {
 TEST(BetRules, BetsThatNothingNamesTakeNoMoney) {
   TestTable table;
   table.Join(1, "Ann");
-  for (const int bet : {-1, 0, 94, 95, 99, 200, 201, 100000}) EXPECT_EQ(ChangeBet(*table.game, 1, bet, Money("5")), kZero);
+  for (const int bet : {-1, 0, 94, 95, 99, 200, 201, 100000})
+    EXPECT_EQ(ChangeBet(*table.game, 1, bet, Money("5")), kZero);
   EXPECT_EQ(ChangeBet(*table.game, 1, kField, Currency::Error()), kZero);
   table.Check("nothing");
 }

@@ -16,11 +16,11 @@ using test::TestTable;
 struct ChoiceCase {
   int bet;
   const char* amount;
-  int die1;      // with a point of 10 on
+  int die1;  // with a point of 10 on
   int die2;
   SettleAnswer answer;
   const char* after;
-  const char* title;    // "" no note
+  const char* title;  // "" no note
   const char* note;
   const char* maxBet = "1000";
 };
@@ -45,6 +45,8 @@ const ChoiceCase kChoices[] = {
     {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "2.5"), "30", "Same bet times 2.50", "increased by: $18"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "2"), "6", "Same bet divided by 2", "decreased by: $6"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "0"), "12", "Same bet divided by 0", "remains the same."},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "9999999.9999"), "1000", "Same bet times 9,999,999.9999",
+     "increased by: $988"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "50", 1), "18", "Same bet plus 50%", "increased by: $6"},
     {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "25", 1), "9", "Same bet minus 25%", "decreased by: $3"},
     // Two units of the five-dollar check, each 5 times 6.
@@ -83,8 +85,8 @@ void ExpectChoice(TestTable& table, const ChoiceCase& c) {
   EXPECT_EQ(table.State().BetAmount(1, c.bet), Money(c.after));
   std::vector<test::ShownBox> notes;
   for (const test::ShownBox& box : table.host.boxes)
-    if (box.text.find(" bet increased") != std::string::npos || box.text.find(" bet decreased") != std::string::npos ||
-        box.text.find("remains") != std::string::npos)
+    if (box.text.find(" bet increased") != std::string::npos ||
+        box.text.find(" bet decreased") != std::string::npos || box.text.find("remains") != std::string::npos)
       notes.push_back(box);
   ASSERT_EQ(notes.size(), *c.title == 0 ? 0u : 1u);
   if (*c.title == 0) return;
@@ -131,7 +133,8 @@ TEST(Handling, ATurboRollNeitherAsksNorTells) {
   TestTable table;
   table.Join(1, "Ann");
   table.Bet(1, kPassLine, "10");
-  test::WriteFile(table.folder.File("r.rol"), std::string{static_cast<char>(RollByte(3, 4)), static_cast<char>(RollByte(5, 6))});
+  test::WriteFile(table.folder.File("r.rol"),
+                  std::string{static_cast<char>(RollByte(3, 4)), static_cast<char>(RollByte(5, 6))});
   ASSERT_EQ(OpenRollFile(table.game->rollFile, table.folder.File("r.rol")), "");
   ASSERT_EQ(SetRecorderState(table.game->rollFile, kRecorderPlayback), "");
   table.host.boxes.clear();

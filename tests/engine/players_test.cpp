@@ -17,7 +17,8 @@ using test::TestTable;
 constexpr const char* kNumeric =
     "A player's name can't be all numeric because it can't be used in auto-betting.";
 constexpr const char* kReservedEnd =
-    " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a player's name.";
+    " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a player's "
+    "name.";
 
 TEST(PlayersJoin, BadNamesSeatsAndBankrollsChangeNothing) {
   struct Case {
@@ -148,7 +149,7 @@ TEST(PlayersPass, EveryReasonWhyTheyCannotPassIsTold) {
       "roll or check the 'Allow Put bets' option on the 'Bets tab' of the configuration screen.";
   struct Case {
     int players;
-    int declining;   // of the others
+    int declining;  // of the others
     bool point;
     std::string text;
   };
@@ -216,13 +217,16 @@ TEST(PlayersLeave, TheQuestionNamesWhatIsAbandoned) {
   const Case cases[] = {
       {false, 0, "Would you like to remove Ann?"},
       {true, 0,
-       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet \r\rthat can't be removed and will "
+       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet \r\rthat can't be removed and "
+       "will "
        "be abandoned.\r\rTotal to be abandoned: $10"},
       {false, 1,
-       "Would you like to remove Ann?\r\rAnn still has an active Come bet \r\rthat can't be removed and will be "
+       "Would you like to remove Ann?\r\rAnn still has an active Come bet \r\rthat can't be removed and will "
+       "be "
        "abandoned.\r\rTotal to be abandoned: $5"},
       {true, 2,
-       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet and 2 active Come bets \r\rthat "
+       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet and 2 active Come bets "
+       "\r\rthat "
        "can't be removed and will be abandoned.\r\rTotal to be abandoned: $20"},
   };
   for (const Case& c : cases) {
@@ -339,7 +343,8 @@ TEST(PlayersMove, EverythingOfThePlayerGoesAlong) {
   table.Roll(1, 2);
   const std::vector<std::string> log = table.Log();
   for (const std::string& line : log) {
-    EXPECT_EQ(line.find("removed $15 bet on Come"), std::string::npos) << "the move of the bet was told already";
+    EXPECT_EQ(line.find("removed $15 bet on Come"), std::string::npos)
+        << "the move of the bet was told already";
     EXPECT_EQ(line.find("bet $15 on Come 8"), std::string::npos);
   }
   table.Roll(2, 2);
@@ -381,8 +386,9 @@ TEST(PlayersRandom, ComingAndGoingInTheMiddleOfPlayKeepsTheTableTogether) {
       std::string error;
       switch (pick(0, 9)) {
         case 0:
-          if (JoinPlayer(*table.game, seat, "Player" + std::string(1, static_cast<char>('a' + names % 26)) +
-                                                std::string(1, static_cast<char>('a' + names / 26 % 26)),
+          if (JoinPlayer(*table.game, seat,
+                         "Player" + std::string(1, static_cast<char>('a' + names % 26)) +
+                             std::string(1, static_cast<char>('a' + names / 26 % 26)),
                          Currency::Dollars(pick(0, 3000)), error))
             ++names;
           break;

@@ -22,7 +22,7 @@ struct Stop {
   void (*prepare)(TestTable&);
   std::string title;
   std::string text;
-  std::string reason;   // of the run
+  std::string reason;  // of the run
 };
 
 void NoPlayers(TestTable&) {}
@@ -67,17 +67,21 @@ void PoorBeyondTheLimit(TestTable& table) {
 }
 
 const Stop kStops[] = {
-    {"no players", NoPlayers, "Roll the Dice", "No players are available to bet.", "No players are available to bet."},
+    {"no players", NoPlayers, "Roll the Dice", "No players are available to bet.",
+     "No players are available to bet."},
     {"one without a line bet", AloneWithoutLine, "Line Bet Required",
-     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or a Don't Pass bet.") + kNote,
+     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or a Don't Pass bet.") +
+         kNote,
      "Shooter has no line bet."},
     {"two on the come-out", TwoOnTheComeOut, "Line Bet Required",
-     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet, a Don't Pass bet, or pass the "
-                 "dice.") +
+     std::string(
+         "A line bet is required to shoot.\r\rAnn must make a Pass Line bet, a Don't Pass bet, or pass the "
+         "dice.") +
          kNote,
      "Shooter has no line bet."},
     {"two with a point", TwoWithAPoint, "Line Bet Required",
-     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or pass the dice.") + kNote,
+     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or pass the dice.") +
+         kNote,
      "Shooter has no line bet."},
     {"any bet", AnyBetMissing, "Any Bet Required",
      std::string("A bet is required to shoot.\r\rAnn must make any bet or pass the dice.") + kNote,
@@ -201,7 +205,8 @@ TEST(RollCycleFiles, TheEndOfTheFileStopsAndAsksWhatNext) {
     int recorder;
     int cursor;
   };
-  for (const Case& c : {Case{"yes", kRecorderPlayback, 1}, Case{"no", kRecorderOff, 3}, Case{"cancel", kRecorderPlayback, 3}}) {
+  for (const Case& c : {Case{"yes", kRecorderPlayback, 1}, Case{"no", kRecorderOff, 3},
+                        Case{"cancel", kRecorderPlayback, 3}}) {
     for (const bool turbo : {false, true}) {
       SCOPED_TRACE(std::string(c.answer) + (turbo ? " turbo" : ""));
       PlayingTable table(file);

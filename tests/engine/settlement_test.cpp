@@ -15,7 +15,7 @@ using test::TestTable;
 struct PayCase {
   int bet;
   const char* amount;
-  bool point;   // a point of 10 on
+  bool point;  // a point of 10 on
   int die1;
   int die2;
   const char* net;
@@ -23,28 +23,19 @@ struct PayCase {
 
 TEST(Settlement, EveryShapeOfPayoffComesOutToTheCent) {
   const PayCase cases[] = {
-      {kPlace4 + 2, "5", true, 2, 4, "5"},     // 7 to 6 of 5 is 5.8333
-      {kPlace4 + 2, "6", true, 2, 4, "7"},
-      {kPlace4 + 2, "12", true, 3, 4, "-12"},
-      {kBuy4, "40", true, 2, 2, "78"},         // 80 less a vig of 2
-      {kBuy4, "40", true, 3, 4, "-42"},        // with its vig
-      {kLay4, "50", true, 3, 4, "24"},         // 25 less 1.25, which is 1
-      {kLay4, "50", true, 2, 2, "-51"},
-      {kHorn, "4", true, 1, 1, "27"},
-      {kHorn, "4", true, 5, 6, "12"},
-      {kHorn, "5", true, 5, 6, "15"},          // 1.25 at 15 less 3.75
-      {kWorld, "5", true, 6, 6, "26"},
-      {kCAndE, "2", true, 5, 6, "14"},
-      {kCAndE, "2", true, 1, 2, "6"},
-      {kField, "10", false, 1, 1, "20"},
-      {kField, "10", false, 3, 4, "-10"},
-      {kHard8, "3", true, 4, 4, "27"},
-      {kHard8, "3", true, 2, 6, "-3"},
-      {kMidway, "4", false, 3, 3, "8"},
-      {kMidway, "4", false, 6, 2, "4"},
-      {kMidway, "4", false, 4, 4, "8"},
-      {kSevenPoint7, "5", false, 3, 4, "10"},
-      {kHop13, "2", false, 3, 1, "30"},
+      {kPlace4 + 2, "5", true, 2, 4, "5"},  // 7 to 6 of 5 is 5.8333
+      {kPlace4 + 2, "6", true, 2, 4, "7"},    {kPlace4 + 2, "12", true, 3, 4, "-12"},
+      {kBuy4, "40", true, 2, 2, "78"},   // 80 less a vig of 2
+      {kBuy4, "40", true, 3, 4, "-42"},  // with its vig
+      {kLay4, "50", true, 3, 4, "24"},   // 25 less 1.25, which is 1
+      {kLay4, "50", true, 2, 2, "-51"},       {kHorn, "4", true, 1, 1, "27"},
+      {kHorn, "4", true, 5, 6, "12"},         {kHorn, "5", true, 5, 6, "15"},  // 1.25 at 15 less 3.75
+      {kWorld, "5", true, 6, 6, "26"},        {kCAndE, "2", true, 5, 6, "14"},
+      {kCAndE, "2", true, 1, 2, "6"},         {kField, "10", false, 1, 1, "20"},
+      {kField, "10", false, 3, 4, "-10"},     {kHard8, "3", true, 4, 4, "27"},
+      {kHard8, "3", true, 2, 6, "-3"},        {kMidway, "4", false, 3, 3, "8"},
+      {kMidway, "4", false, 6, 2, "4"},       {kMidway, "4", false, 4, 4, "8"},
+      {kSevenPoint7, "5", false, 3, 4, "10"}, {kHop13, "2", false, 3, 1, "30"},
       {kSharpShooter, "5", false, 1, 1, "0"},
   };
   for (const PayCase& c : cases) {
@@ -162,7 +153,8 @@ TEST(SettlementOverflow, ABankrollOrASumAtItsEdgeTakesNoFurtherWin) {
     Game& game = *table.game;
     Currency& total = game.stats.Bets[kField][1][kAllSessions].kinds[kWinStats][kStatTotal - 1];
     if (sum) total = most;
-    if (!sum) game.payoffs.FieldPayoffs[1].PayTo = Currency::FromRaw(std::numeric_limits<std::int64_t>::max());
+    if (!sum)
+      game.payoffs.FieldPayoffs[1].PayTo = Currency::FromRaw(std::numeric_limits<std::int64_t>::max());
     table.Roll(1, 1);
     ASSERT_EQ(table.host.boxes.size(), 1u);
     EXPECT_EQ(table.host.boxes[0].text, "Overflow, Error #6\r occurred at: SettleBet");

@@ -54,11 +54,12 @@ TEST(EventsLogLines, ALittleGameOfThreeReadsAsItWasPlayed) {
   CallBet(game, 1, kPlace4 + 2, true);
   AtmTransaction(game, 5, false, Money("105"));
   table.Roll(2, 2);
-  EXPECT_EQ(table.News(), (LogLines{"    Bankroll:", "      Cid increased to $100 ($105 ATM withdrawal)", "    Bets:",
-                                    "      Ann bet $12 on Place 6", "      Ann called ON Place 6 bet",
-                                    "      Ann bet $10 on Pass Line", "      Bob bet $20 on Don't Pass",
-                                    "    CheckStacks:", "      Bob increased CheckStack #4 to 12.5",
-                                    " Roll #1:  4 (2.2) from manual roll pad", "    Point established"}));
+  EXPECT_EQ(table.News(),
+            (LogLines{"    Bankroll:", "      Cid increased to $100 ($105 ATM withdrawal)",
+                      "    Bets:", "      Ann bet $12 on Place 6", "      Ann called ON Place 6 bet",
+                      "      Ann bet $10 on Pass Line", "      Bob bet $20 on Don't Pass",
+                      "    CheckStacks:", "      Bob increased CheckStack #4 to 12.5",
+                      " Roll #1:  4 (2.2) from manual roll pad", "    Point established"}));
 
   table.Bet(1, kCome, "15");
   table.Bet(1, kPlace4 + 2, "6");
@@ -68,26 +69,30 @@ TEST(EventsLogLines, ALittleGameOfThreeReadsAsItWasPlayed) {
   table.Bet(8, kField, "7");
   table.Roll(4, 4);
   EXPECT_EQ(table.News(),
-            (LogLines{"    Bets:", "      Ann increased Place 6 to $18", "      Ann called Place 6 bet working normally again",
-                      "      Ann bet $15 on Come", "      Bob decreased Don't Pass to $15", "      Bob bet $7 on Field",
+            (LogLines{"    Bets:", "      Ann increased Place 6 to $18",
+                      "      Ann called Place 6 bet working normally again", "      Ann bet $15 on Come",
+                      "      Bob decreased Don't Pass to $15", "      Bob bet $7 on Field",
                       "    CheckStacks:", "      Bob decreased CheckStack #4 to 10.5",
-                      " Roll #2:  8 (4.4) from manual roll pad", "    Wins/losses:", "      Bob lost $7 on Field",
-                      "    Ann's Come bet moved to Come 8", "    Bankroll:", "      Bob decreased to $493.5 ($7 loss)"}));
+                      " Roll #2:  8 (4.4) from manual roll pad",
+                      "    Wins/losses:", "      Bob lost $7 on Field", "    Ann's Come bet moved to Come 8",
+                      "    Bankroll:", "      Bob decreased to $493.5 ($7 loss)"}));
 
   // The Field bet was taken by the table and the Come bet's move is told: neither is a removal by the player.
   CallBet(game, 1, kPlace4 + 2, false);
   table.Roll(2, 4);
-  EXPECT_EQ(table.News(), (LogLines{"    Bets:", "      Ann called OFF Place 6 bet", "      Bob removed $7 bet on Field",
-                                    " Roll #3:  6 (2.4) from manual roll pad"}));
+  EXPECT_EQ(table.News(),
+            (LogLines{"    Bets:", "      Ann called OFF Place 6 bet", "      Bob removed $7 bet on Field",
+                      " Roll #3:  6 (2.4) from manual roll pad"}));
 
   PassDice(game, kPassByUser);
   EXPECT_EQ(table.News(), (LogLines{"    The dice were passed to Bob"}));
   table.Roll(3, 4);
-  EXPECT_EQ(table.News(),
-            (LogLines{" Roll #4:  7 (3.4) from manual roll pad", "    Miss (seven-out)", "    Wins/losses:",
-                      "      Ann lost $10 on Pass Line", "      Ann lost $15 on Come 8", "      Bob won $15 on Don't Pass",
-                      "    Bankroll:", "      Ann decreased to $975 ($25 loss)", "      Bob increased to $508.5 ($15 gain)",
-                      "----New shooter (Bob) coming out----------"}));
+  EXPECT_EQ(
+      table.News(),
+      (LogLines{" Roll #4:  7 (3.4) from manual roll pad", "    Miss (seven-out)",
+                "    Wins/losses:", "      Ann lost $10 on Pass Line", "      Ann lost $15 on Come 8",
+                "      Bob won $15 on Don't Pass", "    Bankroll:", "      Ann decreased to $975 ($25 loss)",
+                "      Bob increased to $508.5 ($15 gain)", "----New shooter (Bob) coming out----------"}));
 
   std::string error;
   RenameTo(game, 8, "Bert", error);
@@ -117,8 +122,10 @@ TEST(EventsLogLines, TheLineOfEachDecisionAndDivider) {
       {1, 1, {" Roll #6:  2 (1.1) from manual roll pad"}},
       {2, 3, {" Roll #7:  5 (2.3) from manual roll pad", "    Pass (point rolled)"}},
       {4, 5, {" Roll #8:  9 (4.5) from manual roll pad", "    Point established"}},
-      {6, 1,
-       {" Roll #9:  7 (6.1) from manual roll pad", "    Miss (seven-out)", "----Same shooter (Ann) coming out----------"}},
+      {6,
+       1,
+       {" Roll #9:  7 (6.1) from manual roll pad", "    Miss (seven-out)",
+        "----Same shooter (Ann) coming out----------"}},
   };
   for (const auto& [die1, die2, lines] : rolls) {
     table.Roll(die1, die2);
@@ -144,8 +151,8 @@ TEST(EventsLogLines, EachClassCanBeLeftOut) {
       {"RecordPassesMisses", {"    Point established"}},
       {"RecordShooterChanges", {}},
       {"RecordBankrollChanges",
-       {"    Bankroll:", "      Ann decreased to $900 ($100 ATM deposit)", "    Bankroll:",
-        "      Ann increased to $940 ($40 gain)"}},
+       {"    Bankroll:", "      Ann decreased to $900 ($100 ATM deposit)",
+        "    Bankroll:", "      Ann increased to $940 ($40 gain)"}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.only);
@@ -189,9 +196,10 @@ TEST(EventsLogLines, ANewSessionIsAnnounced) {
       NewSession(*table.game, true, true, true, 0);
       LogLines lines = table.Log();
       if (!clears) lines.erase(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(before));
-      LogLines expected{" New session started 2024-02-29 @ 12:34:56", "    Players:",
-                        "      Ann at stick 2-left with $1000", "      Bob at stick 2-right with $20",
-                        shooters ? "----New shooter (Ann) coming out----------" : "----New hand, come-out roll----------"};
+      LogLines expected{
+          " New session started 2024-02-29 @ 12:34:56",
+          "    Players:", "      Ann at stick 2-left with $1000", "      Bob at stick 2-right with $20",
+          shooters ? "----New shooter (Ann) coming out----------" : "----New hand, come-out roll----------"};
       if (!clears) expected.insert(expected.begin(), "============================================");
       EXPECT_EQ(lines, expected);
       EXPECT_EQ(table.IndexProblem(), "");
@@ -222,14 +230,15 @@ TEST(EventsLogTurbo, TheSameDiceGiveTheSameLinesAtAnySpeed) {
   std::mt19937 random(7);
   std::string dice;
   for (int i = 0; i < 3000; ++i)
-    dice += static_cast<char>(RollByte(1 + static_cast<int>(random() % 6), 1 + static_cast<int>(random() % 6)));
+    dice +=
+        static_cast<char>(RollByte(1 + static_cast<int>(random() % 6), 1 + static_cast<int>(random() % 6)));
   std::string logs[2];
   for (const bool turbo : {false, true}) {
     LoggedTable table;
     for (int seat = 1; seat <= 8; ++seat) {
       table.Join(seat, std::string("P") + static_cast<char>('a' + seat), "9000");
-      for (const int bet : {static_cast<int>(kPassLine), kPlace4 + 2, static_cast<int>(kField), kLay4 + seat % 6,
-                            static_cast<int>(kHard6), static_cast<int>(kMakeAll)})
+      for (const int bet : {static_cast<int>(kPassLine), kPlace4 + 2, static_cast<int>(kField),
+                            kLay4 + seat % 6, static_cast<int>(kHard6), static_cast<int>(kMakeAll)})
         table.Bet(seat, bet, "6");
       table.State().handling[seat].WinHandling = 1 + seat % 5;
       table.State().handling[seat].LoseHandling = 2 + seat % 4;
@@ -366,6 +375,16 @@ TEST(EventsLogFiles, AnUnwritableLogIsToldOnceAndTheGameGoesOn) {
   }
 }
 
+TEST(EventsLogFiles, ALongRunOverAFullDiskIsNotHeldUp) {
+  LoggedTable table;
+  table.game->events.Path = "/dev/full";
+  table.Join(1, "Ann");
+  table.Turbo(60'000);
+  EXPECT_EQ(SessionRolls(table.game->stats), 60'000);
+  EXPECT_EQ(table.host.boxes.size(), 1u) << table.host.LastText();
+  EXPECT_LE(table.game->events.textBuffer.size(), 5u * 1024 * 1024) << "what waits is bounded";
+}
+
 TEST(EventsLogFiles, WaitingLinesGoBehindWhatTheNextLogHolds) {
   LoggedTable table;
   Game& game = *table.game;
@@ -381,6 +400,18 @@ TEST(EventsLogFiles, WaitingLinesGoBehindWhatTheNextLogHolds) {
   EXPECT_EQ(table.IndexProblem(), "");
   EXPECT_EQ(table.Log()[0], "an older line");
   EXPECT_EQ(table.Log().back(), "    Miss (craps natural)");
+}
+
+TEST(EventsLogFiles, ALogWithoutItsLastLineEndIsGoneOnWithProperly) {
+  LoggedTable table;
+  const std::string other = table.folder.File("edited.txt");
+  test::WriteFile(other, "first\nedited by hand");
+  std::string error;
+  ASSERT_TRUE(OpenEventsLog(*table.game, other, error)) << error;
+  table.Join(1, "Ann");
+  EXPECT_EQ(table.Log(),
+            (LogLines{"first", "edited by hand", "    Ann joined the game at stick 4-left with $1000"}));
+  EXPECT_EQ(table.IndexProblem(), "");
 }
 
 TEST(EventsLogFiles, NewAsksForTheDefaultNameAlone) {

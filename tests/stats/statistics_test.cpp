@@ -31,7 +31,8 @@ TEST(StatisticsGaps, ShortGapsHaveTheirCellsAndLongOnesAreSummed) {
     int cell;
     int longSum;
   };
-  for (const Case& c : {Case{1, 1, 0}, Case{2, 2, 0}, Case{199, 199, 0}, Case{200, 200, 200}, Case{201, 200, 201}}) {
+  for (const Case& c :
+       {Case{1, 1, 0}, Case{2, 2, 0}, Case{199, 199, 0}, Case{200, 200, 200}, Case{201, 200, 201}}) {
     SCOPED_TRACE(c.gap);
     TestTable table;
     table.Set("ShooterBetRule", "0");
@@ -72,9 +73,9 @@ TEST(StatisticsBets, SumsExtremesAndTheLatestOfEachKind) {
     table.Roll(die1, die2);
     RemoveBet(game, 1, kField);
   };
-  field("10", 1, 1);   // wins 20
-  field("4", 3, 4);    // loses 4
-  field("7", 4, 5);    // wins 7
+  field("10", 1, 1);  // wins 20
+  field("4", 3, 4);   // loses 4
+  field("7", 4, 5);   // wins 7
   table.Roll(6, 6);
   const auto stat = [&](StatTable which, int scope, StatKind kind) {
     return BetStat(game.stats, which, scope, 1, kField, kind);
@@ -84,9 +85,11 @@ TEST(StatisticsBets, SumsExtremesAndTheLatestOfEachKind) {
     const Currency wins[] = {Money("2"), Money("27"), Money("20"), Money("7"), Money("3"), Money("7")};
     const Currency losses[] = {Money("1"), Money("4"), Money("4"), Money("4"), Money("2"), Money("4")};
     for (int kind = kStatCount; kind <= kStatLastAmount; ++kind) {
-      EXPECT_EQ(stat(kWagerStats, scope, static_cast<StatKind>(kind)), wagers[kind - 1]) << scope << " " << kind;
+      EXPECT_EQ(stat(kWagerStats, scope, static_cast<StatKind>(kind)), wagers[kind - 1])
+          << scope << " " << kind;
       EXPECT_EQ(stat(kWinStats, scope, static_cast<StatKind>(kind)), wins[kind - 1]) << scope << " " << kind;
-      EXPECT_EQ(stat(kLossStats, scope, static_cast<StatKind>(kind)), losses[kind - 1]) << scope << " " << kind;
+      EXPECT_EQ(stat(kLossStats, scope, static_cast<StatKind>(kind)), losses[kind - 1])
+          << scope << " " << kind;
     }
     EXPECT_EQ(RollsSince(game.stats, scope, stat(kWinStats, scope, kStatLastRoll)), 1);
     EXPECT_EQ(RollsSince(game.stats, scope, stat(kLossStats, scope, kStatLastRoll)), 2);
@@ -115,7 +118,9 @@ TEST(StatisticsBets, SummedRowsAddEveryKindAndCanGoOn) {
   table.Bet(1, kAllTall, "1");
   table.Roll(3, 4);
   SumBetStats(game.stats, 1, kCurrentSession, kField, kHard10, true);
-  const auto row = [&](StatKind kind) { return game.stats.Bets[0][1][kCurrentHand].kinds[kLossStats][kind - 1]; };
+  const auto row = [&](StatKind kind) {
+    return game.stats.Bets[0][1][kCurrentHand].kinds[kLossStats][kind - 1];
+  };
   EXPECT_EQ(row(kStatCount), Money("2"));
   EXPECT_EQ(row(kStatTotal), Money("8"));
   EXPECT_EQ(row(kStatHigh), Money("8"));
@@ -152,14 +157,17 @@ TEST(StatisticsNote, TellsWhoseHandItIs) {
   EXPECT_EQ(LastHandNote(game, kLastHand), "");
   PassDice(game, kPassByUser);
   EXPECT_EQ(LastHandNote(game, kCurrentHand),
-            "Although Bob is presently shooting the dice, the current hand is being credited to Ann who started the "
+            "Although Bob is presently shooting the dice, the current hand is being credited to Ann who "
+            "started the "
             "hand.\r\rThe dice were passed during the current hand.");
   LeaveTable(game, 3);
-  EXPECT_EQ(LastHandNote(game, kCurrentHand),
-            "Although Bob is presently shooting the dice, the current hand is being credited to another player who "
-            "started the hand but is no longer at the table.\r\rThe dice were passed during the current hand.");
+  EXPECT_EQ(
+      LastHandNote(game, kCurrentHand),
+      "Although Bob is presently shooting the dice, the current hand is being credited to another player who "
+      "started the hand but is no longer at the table.\r\rThe dice were passed during the current hand.");
   table.Roll(3, 4);
-  EXPECT_EQ(LastHandNote(game, kLastHand), "The last hand was shot by a player who is no longer at the table.");
+  EXPECT_EQ(LastHandNote(game, kLastHand),
+            "The last hand was shot by a player who is no longer at the table.");
 }
 
 // --- Everything against a recount.
@@ -171,7 +179,7 @@ struct Decision {
 };
 struct RollRecord {
   int die1, die2, handSeat, hand, session;
-  int comeOut, pass, miss;   // the number that it counts under, 0 none
+  int comeOut, pass, miss;  // the number that it counts under, 0 none
 };
 
 // A journal of a random game, kept by looking at what each roll changed.
@@ -226,9 +234,11 @@ void ExpectBets(const Game& game, const Journal& journal) {
       for (int bet = 1; bet <= kBets; ++bet)
         for (int table = 0; table < kStatTables; ++table)
           for (int kind = 1; kind <= 6; ++kind)
-            ASSERT_EQ(BetStat(game.stats, static_cast<StatTable>(table), scope, seat, bet, static_cast<StatKind>(kind)),
+            ASSERT_EQ(BetStat(game.stats, static_cast<StatTable>(table), scope, seat, bet,
+                              static_cast<StatKind>(kind)),
                       naive[bet].kinds[table][kind - 1])
-                << "scope " << scope << " seat " << seat << " bet " << bet << " table " << table << " kind " << kind;
+                << "scope " << scope << " seat " << seat << " bet " << bet << " table " << table << " kind "
+                << kind;
     }
 }
 
@@ -244,19 +254,22 @@ void ExpectRolls(const Game& game, const Journal& journal) {
         ++tableRolls;
         if (seat != 0 && r.handSeat != seat) continue;
         ++handRolls[r.hand];
-        for (int item = 0; item < kRollItems; ++item) items[item] += item == 0 || ItemHasPair(item, r.die1, r.die2);
+        for (int item = 0; item < kRollItems; ++item)
+          items[item] += item == 0 || ItemHasPair(item, r.die1, r.die2);
         if (r.comeOut != 0) ++numbers[r.comeOut][kComeoutRolls];
         if (r.pass != 0) ++numbers[r.pass][kPasses];
         if (r.miss != 0) ++numbers[r.miss][kMisses];
       }
       const int slot = Slot(scope, seat);
       for (int item = 0; item < kRollItems; ++item)
-        ASSERT_EQ(RollCount(game.stats, scope, seat, item), items[item]) << "scope " << scope << " seat " << seat;
+        ASSERT_EQ(RollCount(game.stats, scope, seat, item), items[item])
+            << "scope " << scope << " seat " << seat;
       for (int number = 2; number <= 12; ++number)
         for (int kind = 0; kind < 3; ++kind)
           ASSERT_EQ(game.stats.NumberCounts[slot][number][kind], numbers[number][kind])
               << "scope " << scope << " seat " << seat << " number " << number << " kind " << kind;
-      ASSERT_EQ(game.stats.HandCount[slot], static_cast<std::int32_t>(handRolls.size())) << scope << " " << seat;
+      ASSERT_EQ(game.stats.HandCount[slot], static_cast<std::int32_t>(handRolls.size()))
+          << scope << " " << seat;
       ASSERT_EQ(PlayerRolls(game.stats, scope, seat), tableRolls) << "all were there from the first roll";
       std::int64_t most = 0;
       for (const auto& [hand, rolls] : handRolls) most = std::max(most, rolls);
@@ -417,10 +430,10 @@ TEST(StatisticsBankroll, ExtremesAndSumsFollowTheRolls) {
   table.Set("ShooterBetRule", "0");
   table.Join(1, "Ann");
   table.Bet(1, kField, "100");
-  table.Roll(3, 4);   // 900
+  table.Roll(3, 4);  // 900
   table.Bet(1, kField, "50");
-  table.Roll(1, 1);   // 1000
-  table.Roll(6, 6);   // 1100
+  table.Roll(1, 1);  // 1000
+  table.Roll(6, 6);  // 1100
   const Statistics& stats = table.game->stats;
   EXPECT_EQ(stats.BankrollLow[Slot(kCurrentSession, 1)], Money("900"));
   EXPECT_EQ(stats.BankrollHigh[Slot(kCurrentSession, 1)], Money("1100"));

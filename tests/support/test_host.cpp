@@ -52,7 +52,8 @@ SettleAnswer TestHost::AskSettlement(Game&, const SettleQuestion& question) {
 }
 
 bool TestHost::Yield(Game& game) {
-  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) StopRun(game, "");
+  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive)
+    StopRun(game, "");
   return yields;
 }
 
