@@ -30,7 +30,8 @@ struct TestHost : Host {
   int result = 0;                   // 0: the safe answer
   std::vector<std::string> steps;   // "line text"
   std::vector<std::string> sounds;
-  std::int64_t rollTarget = 0;
+  std::int64_t rollTarget = 0;      // of the session
+  std::int64_t allRollsTarget = 0;  // of all sessions
   std::int64_t yields = 0;
   std::int64_t yieldLimit = 0;  // stops the run in progress
   std::uint32_t tick = 0;
@@ -55,6 +56,8 @@ struct TestHost : Host {
       game.autobet.ScriptRunning = false;
       StopRun(game, "");
     }
+    const std::int64_t allRolls = allRollsTarget > 0 ? RollCount(game.stats, kAllSessions, 0, 0) : -1;
+    if (allRolls >= allRollsTarget) StopRun(game, "");
     if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget) StopRun(game, "");
     return false;
   }

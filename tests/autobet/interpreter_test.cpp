@@ -1,0 +1,294 @@
+#include "autobet/interpreter.h"
+
+#include <gtest/gtest.h>
+
+#include "autobet/run_helpers.h"
+#include "engine/bet_catalogue.h"
+#include "engine/consistency.h"
+
+namespace tessaryn {
+namespace {
+
+using script_test::ScriptTable;
+
+// A script and what it leaves in bets and CheckStacks 0 to 3 of Ann.
+struct EffectCase {
+  const char* name;
+  const char* script;
+  const char* bet;  // named as in the language; "" none
+  double betAfter;
+  double stacks[4];
+};
+
+const EffectCase kEffects[] = {
+    {"LinesOfAConditionAreJoinedByOr",
+     "if\n1\n0\nthen cs0 = 1 endif\nif\n0\n0\nthen cs1 = 1 endif",
+     "",
+     0,
+     {1}},
+    {"ElseIsLeftOutBehindATrueCondition", "if 1 then cs0 = 1 else cs1 = 1 endif", "", 0, {1}},
+    {"ElseIfStartsAnew", "if 0 then cs0 = 1 elseif 1 then cs1 = 1 else cs2 = 1 endif", "", 0, {0, 1}},
+    {"ElseIfIsNotHelpedByTheFirst",
+     "if 0 then cs0 = 1 elseif 0 then cs1 = 1 else cs2 = 1 endif",
+     "",
+     0,
+     {0, 0, 1}},
+    {"BlocksNest", "if 1 then\nif 0 then cs0 = 1 else cs1 = 1 endif\ncs2 = 1\nendif", "", 0, {0, 1, 1}},
+    {"ACompareOfNumberAndTextIsOne",
+     "if \"5\" = 5 then cs0 = 1 endif\nif \"05\" = \"5\" then cs1 = 1 endif",
+     "",
+     0,
+     {1}},
+    {"ABadLineLeavesTheOthers",
+     "if\n1/0\n1\nthen cs0 = 1 endif\nif\n1/0\nthen cs1 = 1 else cs2 = 1 endif",
+     "",
+     0,
+     {1, 0, 1}},
+    {"PowersGoLeftToRight",
+     "cs0 = 2 ^ 3 ^ 2\ncs1 = -2 ^ 2\ncs2 = not 0\ncs3 = not 1",
+     "",
+     0,
+     {64, -4, -1, -2}},
+    {"LogicIsBitwise", "cs0 = 5 and 3\ncs1 = 5 or 3\ncs2 = 5 xor 3\ncs3 = 17 mod 5", "", 0, {1, 7, 6, 2}},
+    {"DivisionBeforeWhole",
+     "cs0 = 7 \\ 2\ncs1 = 10 / 4 * 2\ncs2 = 2 + 3 * 4\ncs3 = (2 + 3) * 4",
+     "",
+     0,
+     {3, 5, 14, 20}},
+    {"ListsAnyAndAll",
+     "if any(1, 5, 9) = 5 then cs0 = 1 endif\nif all(1, 5) < 6 then cs1 = 1 endif\n"
+     "if all(1, 5) < 5 then cs2 = 1 endif\nif 7 = any(6, 8) then cs3 = 1 endif",
+     "",
+     0,
+     {1, 1}},
+    {"ListsTakeAQualifier",
+     "if all(> 2, 1, 5, 9) > 4 then cs0 = 1 endif\nif any(> 20, 1, 5) = 5 then cs1 = 1 endif\n"
+     "cs2 = count(> 2, 1, 5, 9)\ncs3 = sum(<> 5, 1, 5, 9)",
+     "",
+     0,
+     {1, 0, 2, 10}},
+    {"ListAgainstList",
+     "if all(1, 2) < any(2, 3) then cs0 = 1 endif\nif all(1, 2) < all(2, 3) then cs1 = 1 endif",
+     "",
+     0,
+     {1, 0}},
+    {"OneValueForManyTargets", "cs0, cs1, cs2 = 3", "", 0, {3, 3, 3}},
+    {"AllAsTargets", "all(cs0, cs3) = 4", "", 0, {4, 0, 0, 4}},
+    {"QualifierSelectsTargets", "cs1 = 5\ncs2 = 9\nadd 1 to > 4, cs0, cs1, cs2", "", 0, {0, 6, 10}},
+    {"LaterQualifierTakesOver", "cs1 = 5\ncs2 = 9\nbet 7 on > 6, cs1, cs2, < 6, cs0, cs1", "", 0, {7, 7, 7}},
+    {"AmountActions",
+     "cs0 = 8\nmultiply by 3 on cs0\ncs1 = 8\ndivide by 4 on cs1\ncs2 = 8\nsubtract 3 from cs2\ncs3 = 8\nadd "
+     "1 to cs3",
+     "",
+     0,
+     {24, 2, 5, 9}},
+    {"Rounding",
+     "cs0 = 13\nround to the nearest 5 on cs0\ncs1 = 13\nround down to the nearest 5 on cs1\ncs2 = 11\n"
+     "round up to the nearest 5 on cs2\ncs3 = 12.5\nround to the nearest 5 on cs3",
+     "",
+     0,
+     {15, 10, 15, 10}},
+    {"Swap", "cs0 = 1\ncs1 = 2\nswap cs0, cs1", "", 0, {2, 1}},
+    {"Clear", "cs0 = 1\ncs1 = 2\nclear cs0", "", 0, {0, 2}},
+    {"GotoLeavesABlock",
+     "do\nadd 1 to cs0\nif cs0 = 3 then goto \"out\" endif\nloop\n\"out\"\ncs1 = 9",
+     "",
+     0,
+     {3, 9}},
+    {"ExitDoLeavesTheInnerLoop",
+     "do\nadd 1 to cs0\ndo\nadd 1 to cs1\nexitdo\nloop\nif cs0 = 2 then exitdo endif\nloop",
+     "",
+     0,
+     {2, 2}},
+    {"GosubReturns", "gosub \"s\"\ncs1 = 2\ngoto \"e\"\n\"s\"\ncs0 = 1\nreturn\n\"e\"", "", 0, {1, 2}},
+    {"ReturnAloneIsNothing", "return\ncs0 = 1", "", 0, {1}},
+    {"NumberLabels", "goto 20\ncs0 = 1\n20\ncs1 = 1", "", 0, {0, 1}},
+    {"TextsJoin", "csn5 = \"a\" & 1.5\nif csn5 = \"a1.5\" then cs0 = 1 endif", "", 0, {1}},
+    {"FunctionTargets", "cs(2) = 5\ncs(cs(2) - 4) = 6", "", 0, {0, 6, 5}},
+    {"PassLineBet", "bet 10 on passline", "passline", 10, {}},
+    {"BetIsATotal", "bet 10 on passline\nbet 15 on passline\nadd 5 to passline", "passline", 20, {}},
+    {"AssignedBet", "passline = 12.4", "passline", 13, {}},
+    {"GroupOfBets",
+     "bet 12 on inside place bets\ncs0 = sum(place bets)\ncs1 = count(> 0, place bets)",
+     "place5",
+     12,
+     {48, 4}},
+    {"BetByFunction", "place(8) = 12\nhop(34) = 2\ncs0 = hop(4.3)\ncs1 = place8", "hop34", 2, {2, 12}},
+    {"ModifiersStandAnywhere",
+     "bet 10 on field\ncs0 = current session field wagered current $\n"
+     "cs1 = wagered field player1\ncs2 = field current $ player(1)\ncs3 = player(\"ann\") field",
+     "field",
+     10,
+     {10, 10, 10, 10}},
+    {"PlayersByName",
+     "bet 10 on field\ncs0 = field ann\ncs1 = field bob\ncs2 = bob\ncs3 = autobettor",
+     "field",
+     10,
+     {10, 0, 2, 1}},
+    {"RefusedOdds", "bet 10 on passlineodds", "passlineodds", 0, {}},
+    {"NegativeBetTakesDown", "bet 10 on field\nfield = -5", "field", 0, {}},
+    {"EmptySeatDropsTheStatementAlone", "field player5 = 10\ncs0 = 1", "field", 0, {1}},
+    {"OtherPlayersNeedPermission", "field bob = 10\ncs0 = field bob", "field", 0, {0}},
+    {"PercentAndOf", "cs0 = 50% of 30\ncs1 = 200 * 10%", "", 0, {15, 20}},
+    {"DatesAsTexts",
+     "if date$ = \"2001-02-03\" and time$ = \"04:05:06\" then cs0 = 1 endif\ncs1 = timer\ncs2 = date/time",
+     "",
+     0,
+     {1, 14706, 36925.25}},
+};
+
+TEST(Interpreter, EveryEffectIsTheToldOne) {
+  for (const EffectCase& one : kEffects) {
+    SCOPED_TRACE(one.name);
+    ScriptTable table;
+    EXPECT_EQ(table.Run(one.script), "");
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(table.Bet(100 + i), one.stacks[i]) << "cs" << i;
+    if (one.bet[0] != 0) {
+      EXPECT_EQ(table.Bet(BetByName(one.bet)), one.betAfter) << one.bet;
+    }
+    EXPECT_EQ(CheckConsistency(*table.game), "");
+    EXPECT_FALSE(table.game->autobet.ScriptRunning);
+  }
+}
+
+TEST(Interpreter, ScriptBetsObeyContractsCallsAndVig) {
+  ScriptTable table;
+  table.Run("bet 10 on passline");
+  table.Dice(2, 2);
+  table.Run("passline = 5");
+  EXPECT_EQ(table.Bet(kPassLine), 10) << "a contract bet can't be lowered";
+  table.Run("passline = 25");
+  EXPECT_EQ(table.Bet(kPassLine), 25) << "an increase is of the whole bet, not on top of it";
+  table.Run("place6 = 12\ncall off place6\nplace6 = 18");
+  EXPECT_EQ(table.Bet(kPlace4 + 2), 18);
+  EXPECT_EQ(table.Number("place6 called off"), -1) << "a call outlives a change of the amount";
+  const Currency before = table.game->table.OnTableAmount[1];
+  table.Run("buy10 = 100");
+  EXPECT_EQ((table.game->table.OnTableAmount[1] - before).ToDouble(), 105) << "vig is on the table too";
+  table.Run("buy10 = 40\nclear buy10");
+  EXPECT_EQ(table.game->table.OnTableAmount[1], before);
+  EXPECT_EQ(CheckConsistency(*table.game), "");
+}
+
+TEST(Interpreter, PermissionAndPlayersOfOthers) {
+  ScriptTable table;
+  SetScriptPermission(*table.game, 1, ScriptPermission::kOthers, true);
+  table.Run("field bob = 10\ncs0 = field player2\nbet 5 on field player(2), field");
+  EXPECT_EQ(table.Bet(kField, 2), 5);
+  EXPECT_EQ(table.Bet(kField, 1), 5);
+  EXPECT_EQ(table.Bet(100), 10);
+}
+
+TEST(Interpreter, SeveralScriptsRunInSeatOrder) {
+  ScriptTable table;
+  table.Load(1, "cs0 = autobettor");
+  table.Load(2, "cs0 = autobettor + cs0 ann * 10\ngoto \"x\"\ncs1 = 1\n\"x\"");
+  CompileALLAutobets(*table.game);
+  RunAutoBet(*table.game);
+  EXPECT_EQ(table.Bet(100, 1), 1);
+  EXPECT_EQ(table.Bet(100, 2), 12);
+  EXPECT_EQ(table.Bet(101, 2), 0) << "jumps are moved with the script";
+}
+
+TEST(Interpreter, AScriptWithoutEndIsStoppedWithTheTableWhole) {
+  ScriptTable table;
+  table.host.yieldLimit = 5000;
+  table.Run("do\nadd 1 to cs0\nbet 5 on field\nloop");
+  EXPECT_FALSE(table.game->autobet.ScriptRunning);
+  EXPECT_GT(table.Bet(100), 1000);
+  EXPECT_EQ(CheckConsistency(*table.game), "");
+}
+
+TEST(Interpreter, GrowingTextsAndCallsEndInAFault) {
+  ScriptTable table;
+  table.game->autobet.StepsShown = true;
+  table.game->autobet.StepsHold = false;
+  table.host.yieldLimit = 400;
+  table.Run("csn0 = \"abcdefgh\"\ndo\ncsn0 = csn0 & csn0\nloop");
+  EXPECT_LE(table.game->table.CheckStackName[1][0].size(), 1'000'000u);
+  EXPECT_NE(table.host.steps.back().find("Out of string space"), std::string::npos)
+      << table.host.steps.back();
+}
+
+TEST(Interpreter, StepsAreToldInTheirWords) {
+  ScriptTable table;
+  table.game->autobet.StepsShown = true;
+  table.Run(
+      "if 0 then\ncs0 = 1\nelse\ncs0 = 1/0\nendif\n\"a\"\ndo\nexitdo\nloop\ngosub \"s\"\ngoto "
+      "\"e\"\n\"s\"\nreturn\n\"e\"");
+  const std::vector<std::string> wanted = {
+      "1 Beginning of condition block.",
+      "1 Condition is false.",
+      "1 End of condition block and beginning of action block.\rConditions were false, so next action block "
+      "will "
+      "be skipped.\rBeginning of last action block.",
+      "4 No action taken.\rDivision by zero.",
+      "5 End of If/Then structure.",
+      "6 Label.",
+      "7 Beginning of DO/LOOP structure.",
+      "8 Exit from DO/LOOP structure.",
+      "10 A jump will be made to the designated subroutine.\rLabel.",
+      "13 Return to place where subroutine was initiated.",
+      "11 A jump will be made to the designated label.\rLabel.",
+  };
+  EXPECT_EQ(table.host.steps, wanted);
+  EXPECT_GE(table.host.tick, 300u) << "a watched run lasts long enough to be seen";
+}
+
+TEST(Interpreter, ABadScriptIsToldAndNothingRuns) {
+  ScriptTable table;
+  table.Load(1, "cs0 = 1");
+  SetScript(*table.game, 2, {"nonsense"}, "");
+  SetScriptActive(*table.game, 2, true);
+  CompileALLAutobets(*table.game);
+  EXPECT_FALSE(table.game->autobet.ScriptsCompiled);
+  EXPECT_EQ(table.host.titles.back(), "Auto-bet script error");
+  EXPECT_EQ(table.host.boxes.back(),
+            "Bob's auto-bet script contains an error which must be corrected before you can run "
+            "it.\r\rSelect Bob on "
+            "the auto-bet screen and click the \"Check Script\" button to see the error.");
+  table.Dice(3, 4);
+  EXPECT_EQ(SessionRolls(table.game->stats), 0) << "no roll with a bad script";
+  EXPECT_EQ(table.Bet(100), 0);
+}
+
+// A hundred thousand rolls by script, recorded, and the same again from the recording.
+TEST(Interpreter, AScriptedGameReplaysFromItsRollFile) {
+  const char* const script =
+      "if comeout roll then bet 10 on passline endif\n"
+      "if point is established and passlineodds = 0 then bet 20 on passlineodds endif\n"
+      "if point is established and count(> 0, come bets) < 2 then bet 5 on come endif\n"
+      "if place6 wins last roll $ > 0 then add 6 to place6 endif\n"
+      "if point is established and place6 < 12 then place6 = 12 endif\n"
+      "add 1 to cs1\ncs2 = average $ wins field\nif field = 0 then field = 5 + cs1 mod 7 endif\n"
+      "if bankroll < 500 then atm withdraw 1000 endif";
+  struct End {
+    std::string bets;
+    Currency bankroll;
+    Currency atm;
+  };
+  script_test::Folder folder;
+  const auto play = [&](bool record) {
+    ScriptTable table;
+    Game& game = *table.game;
+    EXPECT_EQ(table.Load(1, script), "");
+    EXPECT_EQ(OpenRollFile(game.rollFile, folder.path + "game.rll"), "");
+    EXPECT_EQ(SetRecorderState(game.rollFile, record ? kRecorderRecord : kRecorderPlayback), "");
+    if (!record) SelectGenerator(game, 1);
+    table.Turbo(100'000);
+    EXPECT_EQ(SessionRolls(game.stats), 100'000);
+    EXPECT_EQ(CheckConsistency(game), "");
+    End end{"", game.table.BankrollCurrent[1], game.stats.AtmTotal[Slot(kCurrentSession, 1)]};
+    for (int bet = 1; bet < kBetRows; ++bet) end.bets += PlainMoney(game.table.BetAmount(1, bet)) + " ";
+    return end;
+  };
+  const End first = play(true);
+  const End again = play(false);
+  EXPECT_EQ(first.bets, again.bets);
+  EXPECT_EQ(first.bankroll, again.bankroll);
+  EXPECT_EQ(first.atm, again.atm);
+  EXPECT_NE(first.bankroll, Currency::Dollars(1000));
+}
+
+}  // namespace
+}  // namespace tessaryn
