@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the release and starts the program: a table at this terminal, or without
-# a terminal (or with --headless) a million rolls of the embedded example with their report. Further
-# arguments go to the command-line program.
+# a terminal (or with --headless) a million rolls of a sample system with their report. Further arguments go
+# to the command-line program.
 set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/packages.sh
@@ -19,5 +19,6 @@ if [ $# -gt 0 ]; then
 elif [ $headless -eq 0 ] && [ -t 0 ] && [ -t 1 ]; then
   exec "$program" play
 else
-  exec scripts/example_run.sh "$program"
+  echo "A million rolls of data/samples/Sample1.bet, the Pass Line with odds:"
+  exec "$program" run --player Ann=100000 --script data/samples/Sample1.bet --rolls 1000000
 fi
