@@ -16,6 +16,8 @@ void AddDiceCommand(CLI::App& program, int& exitCode);
 void AddCheckCommand(CLI::App& program, int& exitCode);
 void AddConvertCommand(CLI::App& program, int& exitCode);
 void AddAdvantageCommand(CLI::App& program, int& exitCode);
+void AddProbabilitiesCommand(CLI::App& program, int& exitCode);
+void AddRollsCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);

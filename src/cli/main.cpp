@@ -27,6 +27,8 @@ int main(int argc, char** argv) {
   AddCheckCommand(program, exitCode);
   AddConvertCommand(program, exitCode);
   AddAdvantageCommand(program, exitCode);
+  AddProbabilitiesCommand(program, exitCode);
+  AddRollsCommand(program, exitCode);
   WatchInterrupts();
   try {
     program.parse(argc, argv);
