@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 #include "autobet/evaluate.h"
 #include "autobet/output_file.h"
@@ -33,10 +34,14 @@ struct ActionInHand {
   bool Fails(int code) const { return ScriptFails(game, code); }
 };
 
-// A file that is only read: as it is named, or else in the data folder.
+// A file that is only read: as it is named, or else in the data folder. Empty for what is no plain file: a
+// pipe or a terminal would keep the table waiting.
 std::string FileToRead(const Game& game, const std::string& name) {
-  if (name.empty() || name[0] == '/' || access(name.c_str(), R_OK) == 0) return name;
-  return game.dataFolder + name;
+  std::error_code fault;
+  for (const std::string& path : {name, game.dataFolder + name})
+    if (!path.empty() && path.find('\0') == std::string::npos && std::filesystem::is_regular_file(path, fault))
+      return path;
+  return {};
 }
 
 bool StartSession(const ActionInHand& action) {
@@ -62,6 +67,7 @@ bool ActivateProbabilities(const ActionInHand& action) {
   const bool same = game.percentage.PercentageDiceActive && !path.empty() &&
                     game.percentage.ProbFileName == path && !game.percentage.ProbDirty;
   if (same) return true;
+  if (path.empty()) return action.Fails(kErrorNotProbabilityFile);
   if (!OpenProbabilityFile(game.percentage, path, game.dataFolder, error))
     return action.Fails(kErrorNotProbabilityFile);
   return ActivatePercentageDice(game.percentage, true) || action.Fails(kErrorNotProbabilityFile);
@@ -119,7 +125,7 @@ bool TellOrAsk(const ActionInHand& action) {
 bool PlaySample(const ActionInHand& action) {
   const Settings& settings = action.game.settings;
   if (settings.DisableAllSound || !settings.AutoBetSounds) return action.Fails(kErrorSoundsOff);
-  action.game.host->PlaySoundFile(action.game, FileToRead(action.game, action.Text()));
+  action.game.host->PlaySoundFile(action.game, action.Text());
   return true;
 }
 

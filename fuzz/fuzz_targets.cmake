@@ -1,0 +1,11 @@
+# A fuzz target for every fuzz_*.cpp, with its seeds in corpus/<name>.
+file(GLOB FUZZ_SOURCES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/fuzz/fuzz_*.cpp)
+foreach(source ${FUZZ_SOURCES})
+  get_filename_component(name ${source} NAME_WE)
+  add_executable(${name} ${source})
+  target_link_libraries(${name} PRIVATE tessaryn_core)
+  target_compile_options(${name} PRIVATE -fsanitize=fuzzer)
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+endforeach()
+# The core itself tells the fuzzer which of its branches an input took.
+target_compile_options(tessaryn_core PRIVATE -fsanitize=fuzzer-no-link)
