@@ -40,9 +40,9 @@ TEST(Advantage, HouseEdgesAreThoseOfTheLiterature) {
       {kPlace4 + 2, -1.0 / 66, 36.0 / 11},
       {kPlace4 + 5, -1.0 / 15, 4},
       {kBig6, -1.0 / 11, 36.0 / 11},
-      {kBuy4, -1.0 / 21, 4},          // 5% on the bet, paid up front
+      {kBuy4, -1.0 / 21, 4},  // 5% on the bet, paid up front
       {kBuy4 + 1, -1.0 / 21, 3.6},
-      {kLay4, -1.0 / 41, 4},          // 5% of the win
+      {kLay4, -1.0 / 41, 4},  // 5% of the win
       {kLay4 + 1, -1.0 / 31, 3.6},
       {kLay4 + 2, -1.0 / 25, 36.0 / 11},
       {kField, -1.0 / 18, 1},
@@ -63,9 +63,9 @@ TEST(Advantage, HouseEdgesAreThoseOfTheLiterature) {
       {kUnder7, -1.0 / 6, 1},
       {kHop13, -1.0 / 9, 1},
       {kHop55, -5.0 / 36, 1},
-      {kAllSmall, -0.0767545, 0},
-      {kAllTall, -0.0767545, 0},
-      {kMakeAll, -0.0793, 0},
+      {kAllSmall, -0.077613, 0},
+      {kAllTall, -0.077613, 0},
+      {kMakeAll, -0.074644, 0},
       {kFourRolls, -1 + 2 * std::pow(5.0 / 6, 4), 0},
       {kPoint7, -1.0 / 9, 5.0 / 3},
       {kSevenPoint7, -1.0 / 18, 5.0 / 3},
