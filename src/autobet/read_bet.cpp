@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "autobet/comp_figures.h"
+#include "config/advantage.h"
 #include "autobet/language.h"
 #include "autobet/script_errors.h"
 #include "engine/bet_limits.h"
@@ -162,7 +162,7 @@ bool NetStatistic(const BetQuestion& question, int measure, double& value) {
       value = PerHour(question, difference(kStatTotal));
       return true;
     case kExpectedValue:
-      value = question.Stat(kWagerStats, kStatTotal) * ExpectedPercent(question.game, question.bet) / 100;
+      value = question.Stat(kWagerStats, kStatTotal) * FigureAdvantage(question.game, question.bet).evPerDecision;
       return true;
     default:
       value = 0;
@@ -173,7 +173,7 @@ bool NetStatistic(const BetQuestion& question, int measure, double& value) {
 // The net in percent of what was wagered.
 bool NetPercent(const BetQuestion& question, int measure, double& value) {
   if (measure == kExpectedValue) {
-    value = ExpectedPercent(question.game, question.bet);
+    value = 100 * FigureAdvantage(question.game, question.bet).evPerDecision;
     return true;
   }
   double net = 0;

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <iterator>
 
-#include "autobet/comp_figures.h"
+#include "config/comps.h"
 #include "autobet/evaluate.h"
 #include "autobet/language.h"
 #include "autobet/read_bet.h"
@@ -201,7 +201,7 @@ double ScopeValue(const Game& game, int code, int scope, int seat) {
   const double hands = stats.HandCount[slot];
   switch (code) {
     case 1100:
-      return FigureCompsOf(game, scope, seat).ToDouble();
+      return FigureComps(game, scope, seat).compAmount.ToDouble();
     case 1200:
       return SimulatedHours(game, scope, seat);
     case 1300:

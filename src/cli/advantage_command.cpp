@@ -129,6 +129,7 @@ void AddAdvantageCommand(CLI::App& program, int& exitCode) {
   command->add_option("--set", options->table.settings, "A setting, NAME=VALUE")
       ->take_all()
       ->allow_extra_args(false);
+  AddSettingsFileOptions(*command, options->table);
   command->add_flag("--zero-outcomes", options->zeroOutcomes,
                     "Rolls that leave the bet in place are decisions");
   command->add_option("--bet", options->bets, "A bet that is made, BET=AMOUNT; repeatable")

@@ -1,11 +1,14 @@
 #include "cli/play_session.h"
 
+#include <unistd.h>
+
 #include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <iterator>
 
 #include "cli/script_commands.h"
+#include "autobet/script_session.h"
 #include "cli/table_setup.h"
 #include "config/setting_table.h"
 #include "dice/auto_roll.h"
@@ -15,6 +18,8 @@
 #include "engine/bet_rules.h"
 #include "engine/players.h"
 #include "engine/roll_cycle.h"
+#include "persist/new_session.h"
+#include "stats/bankroll_graph.h"
 
 namespace tessaryn::cli {
 
@@ -344,6 +349,94 @@ bool Get(Call& call) {
   return true;
 }
 
+bool StartSession(Call& call) {
+  bool keepSessions = false;
+  bool keepStacks = false;
+  bool keepLogs = false;
+  int choice = kCloseRollFile;
+  for (std::size_t i = 1; i < call.words.size(); ++i) {
+    const std::string& word = call.words[i];
+    if (word == "keepprev")
+      keepSessions = true;
+    else if (word == "keepstacks")
+      keepStacks = true;
+    else if (word == "keeplogs")
+      keepLogs = true;
+    else if (word == "closefile")
+      choice = kCloseRollFile;
+    else if (word == "rewind")
+      choice = kRewindRollFile;
+    else if (word == "continue")
+      choice = kContinueRollFile;
+    else
+      return call.Bad("\"" + word + "\": expected keepprev, keepstacks, keeplogs, closefile, rewind or continue");
+  }
+  NewSession(call.game, keepSessions, keepStacks, keepLogs, choice);
+  // The scripts that stay are initialised, as they are whenever a session is new.
+  if (call.game.autobet.ScriptActive[0]) InitialiseScripts(call.game);
+  return true;
+}
+
+bool LoadProbabilities(Call& call) {
+  if (!WantWords(call, 2, 99, "probabilities FILE, or probabilities off")) return false;
+  PercentageDice& dice = call.game.percentage;
+  if (call.words.size() == 2 && call.words[1] == "off") return ActivatePercentageDice(dice, false);
+  const std::string path = Joined(call.words, 1, call.words.size());
+  if (!OpenProbabilityFile(dice, path, call.game.dataFolder, call.error)) return false;
+  return ActivatePercentageDice(dice, true) || call.Bad(kNothingToRollText);
+}
+
+bool UseRollFile(Call& call) {
+  RollFile& file = call.game.rollFile;
+  if (call.words.size() == 2 && call.words[1] == "off") {
+    const std::string problem = IsRollFileOpen(file) ? CloseRollFile(file) : "";
+    return problem.empty() || call.Bad(problem);
+  }
+  if (!WantWords(call, 3, 99, "rollfile FILE play|record|off, or rollfile off")) return false;
+  const std::string& mode = call.words.back();
+  if (mode != "play" && mode != "record" && mode != "off")
+    return call.Bad("\"" + mode + "\" is neither play, record nor off");
+  const std::string path = Joined(call.words, 1, call.words.size() - 1);
+  if (mode == "play" && access(path.c_str(), R_OK) != 0) return call.Bad(path + ": File not found");
+  std::string problem = OpenRollFile(file, path);
+  const int state = mode == "play" ? kRecorderPlayback : mode == "record" ? kRecorderRecord : kRecorderOff;
+  if (problem.empty()) problem = SetRecorderState(file, state);
+  if (!problem.empty()) return call.Bad(problem);
+  if (mode == "play" && call.game.events.RecordEventsActive)
+    WriteEventsLogLine(call.game, PlaybackLogLine(file));
+  call.answer["rolls"] = RollFileLength(file);
+  return true;
+}
+
+bool SetStack(Call& call) {
+  int seat = 0;
+  int stack = 0;
+  Currency value;
+  if (!WantWords(call, 4, 4, "stack SEAT N VALUE") || !Player(call, 1, seat) || !Amount(call, 3, value)) return false;
+  if (!ReadInt(call.words[2], stack) || stack < 0 || stack >= kCheckStacks)
+    return call.Bad("\"" + call.words[2] + "\" is no CheckStack; CheckStacks are 0 to 99");
+  const int bet = kFirstCheckStack + stack;
+  ChangeBet(call.game, seat, bet, value - call.game.table.BetAmount(seat, bet));
+  call.answer["value"] = MoneyJson(call.game.table.BetAmount(seat, bet));
+  return true;
+}
+
+bool Plot(Call& call) {
+  int seat = 0;
+  if (!WantWords(call, 2, 2, "plot SEAT") || !Player(call, 1, seat)) return false;
+  const Game& game = call.game;
+  Json points = Json::array();
+  for (int cell = 1; cell <= game.graph.PlotCount; ++cell)
+    points.push_back({{"roll", MoneyJson(BankrollPlot(game, 0, cell))},
+                      {"bankroll", MoneyJson(BankrollPlot(game, seat, cell))},
+                      {"average", MoneyJson(BankrollAverage(game, seat, cell))}});
+  const PlotExtremes extremes = ExtremesOf(game, seat);
+  call.answer["high"] = MoneyJson(extremes.PlotHigh);
+  call.answer["low"] = MoneyJson(extremes.PlotLow);
+  call.answer["points"] = points;
+  return true;
+}
+
 bool Answer(Call& call) {
   if (!WantWords(call, 2, 999, "answer yes|no|ok|cancel|VALUE ...")) return false;
   for (std::size_t i = 1; i < call.words.size(); ++i) call.host.answers.Add(call.words[i]);
@@ -407,6 +500,12 @@ constexpr Handler kHandlers[] = {
     {{"atm", "SEAT deposit|withdraw AMOUNT", "moves money from or to a bankroll"}, Atm},
     {{"set", "NAME[@SEAT] VALUE", "changes a setting"}, Set},
     {{"get", "NAME[@SEAT]", "reads a setting or a value of the table"}, Get},
+    {{"newsession", "[keepprev] [keepstacks] [keeplogs] [closefile|rewind|continue]", "starts a new session"},
+     StartSession},
+    {{"probabilities", "FILE|off", "percentage dice from a file, or none"}, LoadProbabilities},
+    {{"rollfile", "FILE play|record|off", "a dice roll file; rollfile off closes it"}, UseRollFile},
+    {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack},
+    {{"plot", "SEAT", "the bankroll graph's points"}, Plot},
     {{"answer", "yes|no|ok|cancel|VALUE ...", "answers the next questions in advance"}, Answer},
     {{"state", "", "the table"}, State},
     {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},

@@ -7,6 +7,7 @@
 #include "cli/commands.h"
 #include "cli/script_commands.h"
 #include "config/setting_table.h"
+#include "config/settings_file.h"
 #include "dice/seed_rng.h"
 #include "engine/players.h"
 
@@ -20,6 +21,7 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
   command.add_option("--set", options.settings, "A setting, NAME=VALUE; NAME@SEAT=VALUE for one seat")
       ->take_all()
       ->allow_extra_args(false);
+  AddSettingsFileOptions(command, options);
   command.add_option("--rng", options.rng, "Generator 1 to 8")->check(CLI::Range(1, 8));
   command.add_option("--seed", options.seed, "Seed of the generator");
   command.add_option("--roll-file", options.rollFile, "Play the dice of a roll file");
@@ -34,6 +36,11 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
       ->take_all()
       ->allow_extra_args(false);
   command.add_option("--events-log", options.eventsLog, "Write the Events Log to this file");
+}
+
+void AddSettingsFileOptions(CLI::App& command, TableOptions& options) {
+  command.add_option("--settings", options.settingsFile, "A file of settings, NAME = VALUE a line");
+  command.add_option("--save-settings", options.saveSettings, "Write the settings in force to this file");
 }
 
 bool ParseSettingName(const std::string& text, std::string& name, int& seat) {
@@ -75,6 +82,9 @@ bool SeatPlayers(Game& game, const TableOptions& options) {
 }
 
 bool ApplySettings(Game& game, const TableOptions& options) {
+  if (!options.settingsFile.empty())
+    if (const std::string problem = ApplySettingsFile(game, options.settingsFile); !problem.empty())
+      return Told("--settings: " + problem);
   std::vector<SettingChange> changes;
   for (const std::string& text : options.settings) {
     SettingChange change;
@@ -83,7 +93,10 @@ bool ApplySettings(Game& game, const TableOptions& options) {
     changes.push_back(change);
   }
   std::string error;
-  return SetSettings(game, changes, error) || Told("--set: " + error);
+  if (!SetSettings(game, changes, error)) return Told("--set: " + error);
+  if (options.saveSettings.empty()) return true;
+  const std::string problem = SaveSettingsFile(game, options.saveSettings);
+  return problem.empty() || Told("--save-settings: " + problem);
 }
 
 bool SeedDice(Game& game, const TableOptions& options) {

@@ -16,6 +16,8 @@ struct TableOptions {
   std::string dataFolder;
   std::vector<std::string> players;   // NAME=BANKROLL
   std::vector<std::string> settings;  // NAME=VALUE, NAME@SEAT=VALUE
+  std::string settingsFile;           // a house's rules, read before the settings
+  std::string saveSettings;           // where the rules in force are written
   std::string rollFile;
   std::string recordFile;
   std::string probabilities;
@@ -27,6 +29,8 @@ struct TableOptions {
 };
 
 void AddTableOptions(CLI::App& command, TableOptions& options);
+// --settings and --save-settings alone, for commands that seat nobody.
+void AddSettingsFileOptions(CLI::App& command, TableOptions& options);
 
 // A table as the options want it. Null, with the reason told on standard error, when one of them is bad.
 std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <span>
 
@@ -57,7 +58,9 @@ struct Results {
   double sum = 0;
   double squares = 0;
 
+  // A push decides nothing, as at the table.
   void Add(double p, double result) {
+    if (result == 0) return;
     probability += p;
     sum += p * result;
     squares += p * result * result;
@@ -516,11 +519,23 @@ constexpr NamedRow kLineRows[] = {{kPassLine, "Passline/Come"},
 }  // namespace
 
 Advantage FigureAdvantage(const Game& game, int bet) {
-  return Figures(game, OddsInForce(game, game.percentage.PercentageDiceActive), bet);
+  return FigureAdvantage(game, bet, game.percentage.PercentageDiceActive);
 }
 
-Advantage FigureTrueAdvantage(const Game& game, int bet) {
-  return Figures(game, OddsInForce(game, false), bet);
+Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice) {
+  return Figures(game, OddsInForce(game, usePercentageDice), bet);
+}
+
+double EvPerHour(const Game& game, const Advantage& advantage, Currency amount) {
+  return advantage.evPerRoll * game.settings.SimRollRate.ToDouble() * amount.ToDouble();
+}
+
+std::string TimePerDecisionText(const Game& game, const Advantage& advantage) {
+  const double tenths = std::round(advantage.rollsPerDecision / game.settings.SimRollRate.ToDouble() * 36'000);
+  const double minutes = std::floor(tenths / 600);
+  char text[64];
+  std::snprintf(text, sizeof text, "%02.0f:%04.1f", minutes, (tenths - minutes * 600) / 10);
+  return text;
 }
 
 std::vector<AdvantageRow> AdvantageTable(const Game& game) {

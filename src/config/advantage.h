@@ -27,8 +27,12 @@ inline constexpr int kDontComeOutRow = 102;
 // The figures, rounded as they are shown: six decimals, rolls to two. All 0 for a bet that the dice in
 // force can never decide, and for a number that is no bet.
 Advantage FigureAdvantage(const Game& game, int bet);
-// With fair dice whatever is in force.
-Advantage FigureTrueAdvantage(const Game& game, int bet);
+// With percentage dice or with fair ones, whatever is in force.
+Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice);
+// In dollars, for a bet of the amount that is up on every roll, at SimRollRate.
+double EvPerHour(const Game& game, const Advantage& advantage, Currency amount);
+// The mean time to a decision at SimRollRate, as minutes and seconds: "00:45.2".
+std::string TimePerDecisionText(const Game& game, const Advantage& advantage);
 
 struct AdvantageRow {
   int bet = 0;          // 1 to 93, or one of the rows above

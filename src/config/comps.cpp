@@ -33,7 +33,7 @@ Comps FigureComps(const Game& game, int scope, int seat) {
     comps.decisions +=
         BetStat(game.stats, kWagerStats, scope, seat, bet, kStatCount).raw / Currency::kPerDollar;
     const Advantage advantage =
-        settings.CompUseTrueProbs ? FigureTrueAdvantage(game, bet) : FigureAdvantage(game, bet);
+        settings.CompUseTrueProbs ? FigureAdvantage(game, bet, false) : FigureAdvantage(game, bet);
     comps.expectedResult += wagered.ToDouble() * advantage.evPerDecision;
   });
   comps.rolls = PlayerRolls(game.stats, scope, seat);

@@ -707,6 +707,32 @@ bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::str
   return false;
 }
 
+std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
+  const std::unique_ptr<Before> before = Keep(game);
+  std::size_t problem = changes.size();
+  error.clear();
+  for (std::size_t i = 0; i < changes.size(); ++i) {
+    if (!Put(game, changes[i], error)) {
+      problem = i;
+      break;
+    }
+    std::string broken;
+    const bool holds = CheckRules(game, *before, broken);
+    if (holds) problem = changes.size();
+    if (!holds && problem == changes.size()) problem = i;
+    error = holds ? "" : broken;
+  }
+  Restore(game, *before);
+  return problem;
+}
+
+bool IsSeatSetting(std::string_view name) {
+  const std::string trimmed = Trimmed(name);
+  if (const Entry* entry = FindEntry(trimmed)) return entry->bySeat;
+  const RowName row = FindRow(trimmed);
+  return row.entry != nullptr && row.entry->bySeat && row.entry->rows != Rows::kDefaultWorking;
+}
+
 bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error) {
   return SetSettings(game, {{std::string(name), seat, std::string(value)}}, error);
 }

@@ -22,6 +22,12 @@ struct SettingChange {
   std::string value;
 };
 bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// The place in changes of the one that SetSettings would refuse: a value that is out of its limits, or the
+// one behind which the settings no longer hold together. changes.size() if there is none. Changes nothing and
+// asks nothing.
+std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// Whether the setting is kept by players alone, so that without a seat it means every player at the table.
+bool IsSeatSetting(std::string_view name);
 // The value as text. False with the reason for an unknown name.
 bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error);
 // All names in their order; bySeat tells those that are kept for each seat.

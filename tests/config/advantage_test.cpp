@@ -173,7 +173,7 @@ TEST_F(AdvantageTest, BetsThatTheDiceNeverDecideAreWorthNothing) {
     EXPECT_EQ(figures.rollsPerDecision, 0) << BetName(bet);
   }
   EXPECT_NEAR(PerDecision(kThree), 15, 1e-6);
-  EXPECT_NEAR(FigureTrueAdvantage(*game_, kThree).evPerDecision, -0.111111, 1e-6);
+  EXPECT_NEAR(FigureAdvantage(*game_, kThree, false).evPerDecision, -0.111111, 1e-6);
 }
 
 TEST_F(AdvantageTest, TheWholeTableIsThereAtOnce) {
