@@ -1,22 +1,15 @@
 #include "autobet/comp_figures.h"
 
-#include "engine/game.h"
+#include "config/advantage.h"
+#include "config/comps.h"
+#include "engine/table_types.h"
 
 namespace tessaryn {
 
-// The analysis of the bets is not part of the table yet: until it is there is nothing to read.
-double ExpectedPercent(const Game&, int) { return 0; }
+double ExpectedPercent(const Game& game, int bet) { return 100 * FigureAdvantage(game, bet).evPerDecision; }
 
 Currency FigureCompsOf(const Game& game, int scope, int seat) {
-  Currency action;
-  double decisions = 0;
-  game.settings.CompBetFlags.ForEach([&](int bet) {
-    action += BetStat(game.stats, kWagerStats, scope, seat, bet, kStatTotal);
-    decisions += BetStat(game.stats, kWagerStats, scope, seat, bet, kStatCount).ToDouble();
-  });
-  const double rate = game.settings.CompRate.ToDouble() / 100;
-  if (game.settings.CompBase == 1) return Currency::FromDouble(action.ToDouble() * rate);
-  return kZero;
+  return seat >= 1 && seat <= kSeats ? FigureComps(game, scope, seat).compAmount : kZero;
 }
 
 }  // namespace tessaryn
