@@ -155,7 +155,7 @@ struct PreparedProgram {
   std::vector<PreparedList> lists;
   std::vector<PreparedCall> calls;
   std::vector<TargetItem> targets;
-  std::vector<double> numbers;        // registers
+  std::vector<double> numbers{0.0};   // registers; never empty, so that every step has a place to point at
   std::vector<std::string> texts;     // registers
   std::vector<std::int32_t> returns;  // the run's return stack
 };

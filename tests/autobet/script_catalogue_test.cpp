@@ -252,6 +252,14 @@ TEST(ScriptCatalogue, EveryVariableReadsItsRightValue) {
   EXPECT_NE(random, table.Number("rnd * 1000000"));
 }
 
+TEST(ScriptCatalogue, ExpectedValuesAndCompsAreTheTables) {
+  HistoryTable table;
+  EXPECT_NEAR(table.Number("passline expected value"), -1.414, 0.01) << "the house's edge in percent";
+  EXPECT_NEAR(table.Number("passline net expected value"), -0.01414 * 40, 0.01);
+  table.game->settings.CompBase = 1;
+  EXPECT_NEAR(table.Number("comps"), 70 * 0.30, 0.01) << "of all action";
+}
+
 TEST(ScriptCatalogue, EveryTextFunctionGivesItsRightText) {
   ScriptTable table;
   table.Run("csn3 = \"three\"");
