@@ -41,11 +41,14 @@ bool CheckFile(const CheckOptions& options, const std::string& file) {
   }
   const ScriptSurroundings surroundings = Surroundings(options);
   const ScriptCheck check = CheckLines(surroundings, 1, lines);
+  if (check.ok && options.tokens) {
+    PrintTokens(surroundings, lines);
+    return true;
+  }
   if (options.json)
     std::printf("%s\n", CheckJson(file, check).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     std::fputs(CheckReport(file, lines, check).c_str(), stdout);
-  if (check.ok && options.tokens) PrintTokens(surroundings, lines);
   return check.ok;
 }
 
@@ -61,7 +64,7 @@ void AddCheckCommand(CLI::App& program, int& exitCode) {
       ->take_all()
       ->allow_extra_args(false);
   command->add_flag("--json", options->json, "Print a JSON object for each file");
-  command->add_flag("--tokens", options->tokens, "Print the compiled form of what is good");
+  command->add_flag("--tokens", options->tokens, "Print the compiled records, one \"kind value\" a line");
   command->footer("Example:\n  tessaryn-cli check data/samples/Sample1.bet");
   command->callback([options, &exitCode] {
     for (const std::string& file : options->files)

@@ -1,5 +1,6 @@
 #include "cli/script_report.h"
 
+#include <charconv>
 #include <algorithm>
 #include <cstdio>
 
@@ -64,19 +65,11 @@ Json CheckJson(const std::string& file, const ScriptCheck& check) {
 
 std::string TokenList(const CompiledScript& script) {
   std::string text;
-  char token[64];
   for (std::size_t i = 1; i < script.tokens.size(); ++i) {
-    const bool marker = script.tokens[i].kind >= kStatementMarker;
-    std::snprintf(token, sizeof token, "%s%d:%g",
-                  marker && i > 1 ? "\n"
-                  : i > 1         ? " "
-                                  : "",
-                  script.tokens[i].kind, script.tokens[i].value);
-    text += token;
+    char value[32];
+    const auto end = std::to_chars(value, value + sizeof value, script.tokens[i].value).ptr;
+    text += std::to_string(script.tokens[i].kind) + " " + std::string(value, end) + "\n";
   }
-  text += "\n";
-  for (std::size_t i = 1; i < script.strings.size(); ++i)
-    text += "string " + std::to_string(i) + ": \"" + script.strings[i].text + "\"\n";
   return text;
 }
 

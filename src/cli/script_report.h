@@ -14,7 +14,7 @@ std::string CheckReport(const std::string& file, const std::vector<std::string>&
                         const ScriptCheck& check);
 // {"file":...,"ok":...,"message":...,"firstLine":...,"firstColumn":...,"lastLine":...,"lastColumn":...}
 Json CheckJson(const std::string& file, const ScriptCheck& check);
-// The tokens, a statement to a line.
+// The compiled records, one "kind value" a line.
 std::string TokenList(const CompiledScript& script);
 
 }  // namespace tessaryn::cli
