@@ -13,8 +13,8 @@ namespace {
 
 // One operation of the command line, in the order given.
 struct Operation {
-  std::string name;    // "--set" ...
-  std::string value;   // "1.6=4000" ...
+  std::string name;   // "--set" ...
+  std::string value;  // "1.6=4000" ...
 };
 
 struct ProbabilityOptions {
@@ -56,14 +56,16 @@ bool SplitAssignment(const std::string& text, std::string& left, double& value) 
 }
 
 bool EditCell(Workshop& work, const Operation& operation, int row, int column, double value) {
-  if (IsProbabilityLocked(work.dice, row, column)) return work.Bad(operation, "the cell is locked; --unlock unlocks all");
+  if (IsProbabilityLocked(work.dice, row, column))
+    return work.Bad(operation, "the cell is locked; --unlock unlocks all");
   if (!SetProbabilityCell(work.dice, row, column, value, true))
     return work.Bad(operation, "impossible: what is locked leaves no room for the rest");
   work.edited = true;
   return true;
 }
 
-constexpr const char* kValueForm = "the value is 0 to 100000 thousandths of a percent, or a percentage such as 4%";
+constexpr const char* kValueForm =
+    "the value is 0 to 100000 thousandths of a percent, or a percentage such as 4%";
 
 bool SetCombination(Workshop& work, const Operation& operation) {
   std::string faces;
@@ -115,7 +117,8 @@ bool SetEffectiveness(Workshop& work, const Operation& operation) {
     return work.Bad(operation, "the effectiveness is 0 to 100 percent");
   if (work.axes[die] == 0) return work.Bad(operation, "name the axis first, such as --axis1 1-6");
   work.effectiveness[die] = percent.ToDouble();
-  ApplyShooterEffectiveness(work.dice, work.effectiveness[0], work.axes[0], work.effectiveness[1], work.axes[1]);
+  ApplyShooterEffectiveness(work.dice, work.effectiveness[0], work.axes[0], work.effectiveness[1],
+                            work.axes[1]);
   work.edited = true;
   return true;
 }
@@ -162,7 +165,8 @@ void PrintMatrix(const PercentageDice& dice) {
   std::printf("%6s", "die 2");
   for (int die2 = 1; die2 <= 6; ++die2) std::printf("%12s", cell(die2 + 1, kDie2Column).c_str());
   std::printf("\n\n");
-  for (int total = 2; total <= 12; ++total) std::printf("%4d %12s\n", total, cell(kTotalRow, total - 1).c_str());
+  for (int total = 2; total <= 12; ++total)
+    std::printf("%4d %12s\n", total, cell(kTotalRow, total - 1).c_str());
 }
 
 bool Show(Workshop& work, const Operation& operation) {
@@ -225,13 +229,14 @@ int Probabilities(const ProbabilityOptions& options) {
   const bool startsNew = !options.operations.empty() && options.operations.front().name == "--new";
   std::string error;
   if (!startsNew && !OpenProbabilityFile(work.dice, options.file, "", error))
-    return Fail(std::filesystem::exists(options.file) ? error
-                                                      : options.file + ": File not found (--new makes one)");
+    return Fail(options.file + ": " +
+                (std::filesystem::exists(options.file) ? error : "File not found (--new makes one)"));
   for (const Operation& operation : options.operations)
     if (!RunOperation(work, operation)) return Fail(work.error);
   if (options.operations.empty()) Show(work, {"--show", "percent"});
   const std::string target = options.out.empty() ? options.file : options.out;
-  if ((work.edited || !options.out.empty()) && !SaveProbabilityFile(work.dice, target, error)) return Fail(error);
+  if ((work.edited || !options.out.empty()) && !SaveProbabilityFile(work.dice, target, error))
+    return Fail(error);
   return kDone;
 }
 
@@ -239,28 +244,37 @@ int Probabilities(const ProbabilityOptions& options) {
 
 void AddProbabilitiesCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<ProbabilityOptions>();
-  CLI::App* command =
-      program.add_subcommand("probabilities", "Makes, shows and edits loaded dice; operations in the order given");
+  CLI::App* command = program.add_subcommand(
+      "probabilities", "Makes, shows and edits loaded dice; operations in the order given");
   command->add_option("FILE", options->file, "The probability file (.prb)")->required();
   for (const OperationKind& kind : kKinds) {
     const std::string name = kind.name;
     if (kind.takesValue)
       command
           ->add_option_function<std::string>(
-              name, [options, name](const std::string& value) { options->operations.push_back({name, value}); },
+              name,
+              [options, name](const std::string& value) {
+                options->operations.push_back({name, value});
+              },
               kind.help)
           ->trigger_on_parse();
     else
       command
           ->add_flag_callback(
-              name, [options, name] { options->operations.push_back({name, ""}); }, kind.help)
+              name,
+              [options, name] {
+                options->operations.push_back({name, ""});
+              },
+              kind.help)
           ->trigger_on_parse();
   }
   command->add_option("--out-of", options->rollsOutOf, "Rolls that --show rolls counts in (default 36)")
       ->check(CLI::Range(1.0, 1e9));
   command->add_option("--out", options->out, "Write to this file instead");
   command->add_flag("--json", options->json, "Show as JSON");
-  command->footer("Example:\n  tessaryn-cli probabilities loaded.prb --new --total 7=12000 --set 1.6=4% --show difference");
+  command->footer(
+      "Example:\n  tessaryn-cli probabilities loaded.prb --new --total 7=12000 --set 1.6=4% --show "
+      "difference");
   command->callback([options, &exitCode] { exitCode = Probabilities(*options); });
 }
 

@@ -5,6 +5,7 @@
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "dice/roll_file.h"
 
@@ -27,7 +28,7 @@ struct RollsOptions {
 
 struct Workbench {
   RollFile file;
-  std::string folder;   // of the work files
+  std::string folder;  // of the work files
   bool renumber = false;
   std::string error;
 
@@ -54,8 +55,7 @@ std::string Select(RollFile& file, const std::string& range) {
   if (dash != std::string::npos && !ReadPosition(range.substr(dash + 1), last))
     return "expected a range such as 5-9";
   if (last < first) std::swap(first, last);
-  if (last > RollFileLength(file))
-    return "the file has " + std::to_string(RollFileLength(file)) + " rolls";
+  if (last > RollFileLength(file)) return "the file has " + std::to_string(RollFileLength(file)) + " rolls";
   SetRollFileCursor(file, first);
   file.RollFileSelectEnd = last;
   return "";
@@ -117,7 +117,8 @@ bool Insert(Workbench& bench, const Operation& operation) {
   bench.file.RollFileInsertMode = true;
   for (std::size_t at = 0; problem.empty() && at < rolls.size(); at += 4) {
     const auto isFace = [](char c) { return c >= '1' && c <= '6'; };
-    const bool roll = at + 3 <= rolls.size() && isFace(rolls[at]) && rolls[at + 1] == '.' && isFace(rolls[at + 2]);
+    const bool roll =
+        at + 3 <= rolls.size() && isFace(rolls[at]) && rolls[at + 1] == '.' && isFace(rolls[at + 2]);
     const bool parted = at + 3 == rolls.size() || (at + 3 < rolls.size() && rolls[at + 3] == ',');
     problem = roll && parted ? EnterRoll(bench.file, rolls[at] - '0', rolls[at + 2] - '0')
                              : "\"" + rolls.substr(at) + "\" is no roll such as 3.4";
@@ -144,7 +145,7 @@ constexpr OperationKind kKinds[] = {
 
 struct Distribution {
   std::int64_t rolls = 0;
-  std::int64_t bad = 0;   // bytes that are no roll
+  std::int64_t bad = 0;  // bytes that are no roll
   std::int64_t pairs[7][7] = {};
   std::int64_t totals[13] = {};
 };
@@ -177,9 +178,11 @@ void Print(const Distribution& counts, bool json) {
     for (int die2 = 1; die2 <= 6; ++die2)
       pairs[std::to_string(die1) + "." + std::to_string(die2)] = counts.pairs[die1][die2];
   if (json) {
-    std::printf("%s\n", Json{{"rolls", counts.rolls}, {"outOfLimits", counts.bad}, {"totals", totals}, {"pairs", pairs}}
-                            .dump()
-                            .c_str());
+    std::printf(
+        "%s\n",
+        Json{{"rolls", counts.rolls}, {"outOfLimits", counts.bad}, {"totals", totals}, {"pairs", pairs}}
+            .dump()
+            .c_str());
     return;
   }
   std::printf("%s rolls\n", FormatMoney(Currency::Dollars(counts.rolls)).c_str());
@@ -190,42 +193,55 @@ void Print(const Distribution& counts, bool json) {
                 100.0 * static_cast<double>(counts.totals[total]) / static_cast<double>(counts.rolls));
 }
 
+// The operations, and what the file then holds. The error is a text.
+std::string Work(Workbench& bench, const RollsOptions& options, Distribution& counts) {
+  bench.file.RollFileOutputFormat = options.format;
+  for (const Operation& operation : options.operations)
+    for (const OperationKind& kind : kKinds)
+      if (operation.name == kind.name && !kind.run(bench, operation)) return bench.error;
+  if (const std::string error = Count(bench.file, counts); !error.empty()) return error;
+  return CloseRollFile(bench.file);
+}
+
 int Rolls(const RollsOptions& options) {
   Workbench bench;
   bench.folder = options.dataFolder;
   bench.renumber = options.renumber;
   std::string error;
   if (!PrepareDataFolder(bench.folder, error)) return Fail(error);
-  const bool makes = !options.operations.empty();
-  if (!makes && !std::filesystem::exists(options.file)) return Fail(options.file + ": File not found");
+  const bool isNew = !std::filesystem::exists(options.file);
+  if (isNew && options.operations.empty()) return Fail(options.file + ": File not found");
   error = OpenRollFile(bench.file, options.file);
-  if (!error.empty()) return Fail(error);
-  bench.file.RollFileOutputFormat = options.format;
-  for (const Operation& operation : options.operations)
-    for (const OperationKind& kind : kKinds)
-      if (operation.name == kind.name && !kind.run(bench, operation)) return Fail(bench.error);
+  if (!error.empty()) return Fail(AsLines(error));
   Distribution counts;
-  error = Count(bench.file, counts);
-  if (!error.empty()) return Fail(error);
+  error = Work(bench, options, counts);
+  if (!error.empty()) {
+    // A file that was made for operations that failed is not left behind.
+    std::error_code ignored;
+    if (isNew) std::filesystem::remove(options.file, ignored);
+    return Fail(AsLines(error));
+  }
   Print(counts, options.json);
-  error = CloseRollFile(bench.file);
-  if (!error.empty()) return Fail(error);
-  // A value that playback would stop at makes the file bad.
-  return counts.bad > 0 ? kBad : kDone;
+  if (counts.bad == 0) return kDone;
+  return Fail(options.file + ": " + std::to_string(counts.bad) +
+              " values out of limits; playback would stop there");
 }
 
 }  // namespace
 
 void AddRollsCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<RollsOptions>();
-  CLI::App* command =
-      program.add_subcommand("rolls", "Counts, checks and edits recorded dice; operations in the order given");
+  CLI::App* command = program.add_subcommand(
+      "rolls", "Counts, checks and edits recorded dice; operations in the order given");
   command->add_option("FILE", options->file, "The dice roll file (.rol)")->required();
   for (const OperationKind& kind : kKinds) {
     const std::string name = kind.name;
     command
         ->add_option_function<std::string>(
-            name, [options, name](const std::string& value) { options->operations.push_back({name, value}); },
+            name,
+            [options, name](const std::string& value) {
+              options->operations.push_back({name, value});
+            },
             kind.help)
         ->trigger_on_parse();
   }
@@ -233,7 +249,8 @@ void AddRollsCommand(CLI::App& program, int& exitCode) {
   command->add_flag("--renumber", options->renumber, "The first exported roll counts as #1");
   command->add_option("--data-folder", options->dataFolder, "Folder of the work files");
   command->add_flag("--json", options->json, "Print one JSON object");
-  command->footer("Example:\n  tessaryn-cli rolls game.rol --delete 1-10 --export game.txt --format \"Die1 Die2\"");
+  command->footer(
+      "Example:\n  tessaryn-cli rolls game.rol --delete 1-10 --export game.txt --format \"Die1 Die2\"");
   command->callback([options, &exitCode] { exitCode = Rolls(*options); });
 }
 

@@ -81,22 +81,50 @@ bool SeatPlayers(Game& game, const TableOptions& options) {
   return true;
 }
 
-bool ApplySettings(Game& game, const TableOptions& options) {
-  if (!options.settingsFile.empty())
-    if (const std::string problem = ApplySettingsFile(game, options.settingsFile); !problem.empty())
-      return Told("--settings: " + problem);
-  std::vector<SettingChange> changes;
+// A setting to be made, and where it was asked for.
+struct WantedSetting {
+  SettingChange change;
+  std::string where;  // "--settings: house.txt, line 3: ", "--set MaxBet=5: "
+};
+
+// The file's settings and then those of the command line.
+bool CollectSettings(const TableOptions& options, std::vector<WantedSetting>& wanted) {
+  if (!options.settingsFile.empty()) {
+    std::vector<SettingLine> lines;
+    if (const std::string error = ReadSettingsFile(options.settingsFile, lines); !error.empty())
+      return Told("--settings: " + error);
+    for (const SettingLine& line : lines)
+      wanted.push_back({line.change, "--settings: " + SettingLinePrefix(options.settingsFile, line.line)});
+  }
   for (const std::string& text : options.settings) {
-    SettingChange change;
-    if (!ParseAssignment(text, change.name, change.seat, change.value))
-      return Told("--set " + text + ": expected NAME=VALUE or NAME@SEAT=VALUE");
-    changes.push_back(change);
+    WantedSetting setting{{}, "--set " + text + ": "};
+    if (!ParseAssignment(text, setting.change.name, setting.change.seat, setting.change.value))
+      return Told(setting.where + "expected NAME=VALUE or NAME@SEAT=VALUE");
+    wanted.push_back(setting);
+  }
+  return true;
+}
+
+// Those of the players, or those of the table: these come first, since players take the house's standard and
+// its bankroll as they buy in.
+bool ApplySettings(Game& game, const std::vector<WantedSetting>& wanted, bool ofPlayers) {
+  std::vector<SettingChange> changes;
+  std::vector<std::string> where;
+  for (const WantedSetting& setting : wanted) {
+    if ((setting.change.seat != 0 || IsSeatSetting(setting.change.name)) != ofPlayers) continue;
+    changes.push_back(setting.change);
+    where.push_back(setting.where);
   }
   std::string error;
-  if (!SetSettings(game, changes, error)) return Told("--set: " + error);
+  const std::size_t problem = FindSettingProblem(game, changes, error);
+  if (problem < changes.size()) return Told(where[problem] + error);
+  return SetSettings(game, changes, error) || Told("--set: " + error);
+}
+
+bool SaveSettings(const Game& game, const TableOptions& options) {
   if (options.saveSettings.empty()) return true;
-  const std::string problem = SaveSettingsFile(game, options.saveSettings);
-  return problem.empty() || Told("--save-settings: " + problem);
+  const std::string error = SaveSettingsFile(game, options.saveSettings);
+  return error.empty() || Told("--save-settings: " + error);
 }
 
 bool SeedDice(Game& game, const TableOptions& options) {
@@ -151,8 +179,11 @@ std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
     game->events.Path = options.eventsLog;
     game->events.RecordEventsActive = true;
   }
-  const bool ready = SeatPlayers(*game, options) && ApplySettings(*game, options) &&
-                     SeedDice(*game, options) && OpenDiceFiles(*game, options) &&
+  std::vector<WantedSetting> wanted;
+  const bool ready = CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
+                     SeatPlayers(*game, options) && ApplySettings(*game, wanted, true) &&
+                     SaveSettings(*game, options) && SeedDice(*game, options) &&
+                     OpenDiceFiles(*game, options) &&
                      LoadScripts(*game, options.scripts, options.outputFolders);
   return ready ? std::move(game) : nullptr;
 }

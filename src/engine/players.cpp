@@ -446,6 +446,7 @@ void SwapSeatTables(Game& game, int a, int b) {
     table.SeatBets[kPayOrder[place]].ForEach(
         [&](int bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
   for (PlotRow& row : game.graph.Rows) std::swap(row.cells[a], row.cells[b]);
+  BankrollPlotChanged(game);
   SwapSeatStatistics(game, a, b);
 }
 

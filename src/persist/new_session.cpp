@@ -78,14 +78,28 @@ Currency AskBankroll(Game& game, int seat) {
   return stored;
 }
 
-void StartBankrolls(Game& game) {
+// The session starts with the amount; what all sessions have seen of the bankroll stays if they stay.
+void StartSeat(Game& game, int seat, Currency amount, bool keepPrevSessions) {
+  Statistics& stats = game.stats;
+  const int all = Slot(kAllSessions, seat);
+  const Currency beginning = stats.BankrollBeginning[all];
+  const Currency high = std::max(stats.BankrollHigh[all], amount);
+  const Currency low = std::min(stats.BankrollLow[all], amount);
+  StartBankroll(game, seat, amount);
+  if (!keepPrevSessions) return;
+  stats.BankrollBeginning[all] = beginning;
+  stats.BankrollHigh[all] = high;
+  stats.BankrollLow[all] = low;
+}
+
+void StartBankrolls(Game& game, bool keepPrevSessions) {
   TableState& table = game.table;
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
     Currency amount = table.BankrollCurrent[seat];
     if (table.BankrollInitType[seat] == 1) amount = table.BankrollInitAmount[seat];
     if (table.BankrollInitType[seat] == 2) amount = AskBankroll(game, seat);
-    StartBankroll(game, seat, amount);
+    StartSeat(game, seat, amount, keepPrevSessions);
     table.AtmLogged[seat] = game.stats.AtmTotal[Slot(kAllSessions, seat)];
     table.RailAmount[seat] = amount;
   }
@@ -127,7 +141,9 @@ void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool ke
   ClearBets(game, keepCheckstacks);
   ClearBankrollGraph(game);
   ResetTable(game.table);
-  StartBankrolls(game);
+  StartBankrolls(game, keepPrevSessions);
+  BankrollPlotChanged(game);
+  ResetBankrollGraph(game, true);
   game.table.HandSeat = game.table.ShooterSeat;
   SetRollFile(game, rollFileChoice);
   LogSessionStart(game);

@@ -4,145 +4,289 @@
 
 #include <functional>
 
+#include "engine/roll_cycle.h"
 #include "support/test_host.h"
 
-namespace tessaryn::test {
+namespace tessaryn {
 namespace {
 
-// A table that rolls by itself, under a clock that moves by so much at every wait.
-struct PacedHost : TestHost {
-  std::uint32_t waitStep = 100;
-  int waits = 0;
-  std::vector<std::uint32_t> rollTicks;   // when each roll had been made
-  std::int64_t rollsSeen = 0;
-  std::function<void(Game&)> onWait;
+using test::Money;
+using test::TestTable;
 
-  void Wait(Game& game) override {
-    ++waits;
-    Note(game);
-    tick += waitStep;
-    if (onWait) onWait(game);
-  }
+// A host whose clock moves by what the test says, and who lets the test act at every place where a run gives
+// way.
+struct PacedHost : test::TestHost {
+  std::function<void(Game&)> onYield;
+  std::function<void(Game&)> onWait;
+  int yieldCalls = 0;
+  int waitCalls = 0;
+  std::uint32_t waitStep = 50;
+  std::vector<std::uint32_t> rollTicks;  // when each roll's dice were seen
+
   bool Yield(Game& game) override {
-    Note(game);
+    ++yieldCalls;
+    if (onYield) onYield(game);
     return TestHost::Yield(game);
   }
-  void Note(Game& game) {
-    if (SessionRolls(game.stats) == rollsSeen) return;
-    rollsSeen = SessionRolls(game.stats);
-    rollTicks.push_back(tick);
+  void Wait(Game& game) override {
+    ++waitCalls;
+    tick += waitStep;
+    if (onWait) onWait(game);
+    TestHost::Yield(game);
+  }
+  void PlaySound(Game& game, Sound sound) override {
+    if (sound == Sound::kDice) rollTicks.push_back(tick);
+    TestHost::PlaySound(game, sound);
   }
 };
 
 struct PacedTable {
-  TempFolder folder;
+  test::TempFolder folder;
   PacedHost host;
-  std::unique_ptr<Game> game;
+  std::unique_ptr<Game> game = StartGame(host, TESSARYN_BIN_DIR, folder.Path());
 
-  PacedTable() : game(StartGame(host, TESSARYN_BIN_DIR, folder.Path())) {
+  explicit PacedTable(int throttle = kThrottleAutoRoll, const char* delay = "1") {
     game->settings.ShooterBetRule = 0;
-    game->settings.RollThrottle = kThrottleAutoRoll;
-    game->settings.AutoRollDelay = Currency::Dollars(2);
+    game->settings.RollThrottle = throttle;
+    game->settings.AutoRollDelay = Money(delay);
+    host.rollTarget = 5;
   }
-  void StopAfter(std::int64_t rolls) {
-    host.onWait = [this, rolls](Game& running) {
-      if (SessionRolls(running.stats) >= rolls) StopRun(running, "");
-    };
-  }
+  std::int64_t Rolls() const { return SessionRolls(game->stats); }
 };
 
-TEST(AutoRoll, KeepsItsPaceAndEndsAtOnceWhenStopped) {
+TEST(AutoRollTest, KeepsItsPace) {
+  for (const char* delay : {"0", "0.5", "1", "2.75", "300"}) {
+    PacedTable table(kThrottleAutoRoll, delay);
+    ToggleAutoRoll(*table.game);
+    const double milliseconds = Money(delay).ToDouble() * 1000;
+    ASSERT_EQ(table.host.rollTicks.size(), 5u) << delay;
+    for (std::size_t i = 1; i < table.host.rollTicks.size(); ++i) {
+      const double waited = table.host.rollTicks[i] - table.host.rollTicks[i - 1];
+      EXPECT_GE(waited, milliseconds) << delay;
+      EXPECT_LE(waited, milliseconds + 50) << delay;
+    }
+    // Even without a delay it gives way once a roll.
+    EXPECT_GE(table.host.waitCalls, 4) << delay;
+  }
+}
+
+TEST(AutoRollTest, TheClockMayTurnOver) {
   PacedTable table;
-  table.StopAfter(5);
+  table.host.tick = 0xffffffffu - 1500;
   ToggleAutoRoll(*table.game);
-  EXPECT_EQ(SessionRolls(table.game->stats), 5);
+  ASSERT_EQ(table.Rolls(), 5);
+  EXPECT_EQ(table.host.rollTicks[4] - table.host.rollTicks[0], 4000u);
+}
+
+TEST(AutoRollTest, AUsersActionPutsTheNextRollOff) {
+  PacedTable table;
+  int touches = 0;
+  table.host.onWait = [&](Game& game) {
+    if (table.Rolls() == 2 && ++touches <= 30) NoteActivity(game);
+  };
+  ToggleAutoRoll(*table.game);
   ASSERT_EQ(table.host.rollTicks.size(), 5u);
-  for (std::size_t i = 1; i < 5; ++i)
-    EXPECT_EQ(table.host.rollTicks[i] - table.host.rollTicks[i - 1], 2000u) << i;
-  EXPECT_EQ(table.host.waits, 4 * 20 + 1);
+  EXPECT_EQ(table.host.rollTicks[1] - table.host.rollTicks[0], 1000u);
+  EXPECT_EQ(table.host.rollTicks[2] - table.host.rollTicks[1], 30 * 50 + 1000u);
+}
+
+TEST(AutoRollTest, StopsAtOnceInTheMiddleOfAWait) {
+  PacedTable table(kThrottleAutoRoll, "300");
+  table.host.onWait = [&](Game& game) {
+    if (table.host.waitCalls == 3) ToggleAutoRoll(game);
+  };
+  ToggleAutoRoll(*table.game);
+  EXPECT_EQ(table.Rolls(), 1);
+  EXPECT_EQ(table.host.waitCalls, 3);
   EXPECT_FALSE(table.game->table.AutoRollActive);
   EXPECT_FALSE(table.game->table.RollInProgress);
+  EXPECT_TRUE(table.host.boxes.empty());
 }
 
-TEST(AutoRoll, ActivityPostponesTheNextRollAndNoDelayStillYields) {
-  PacedTable table;
-  int pressed = 0;
-  table.host.onWait = [&](Game& running) {
-    if (SessionRolls(running.stats) >= 2) return StopRun(running, "");
-    // A key pressed half way, three times over.
-    if (pressed < 3 && running.host->TickMilliseconds() - running.table.LastActivityTick >= 1000) {
-      ++pressed;
-      NoteActivity(running);
-    }
+TEST(AutoRollTest, AutoStopComesAtEveryMultiple) {
+  struct Case {
+    int throttle;
+    const char* interval;
+    std::int64_t rolls;  // after each of two starts
+    std::int64_t more;
+  };
+  for (const Case& c : {Case{kThrottleAutoRoll, "3", 3, 6}, Case{kThrottleAutoRoll, "1", 1, 2},
+                        Case{0, "3", 3, 6}, Case{0, "1", 1, 2}, Case{0, "0", 7, 7}, Case{0, "2.9", 2, 4}}) {
+    PacedTable table(c.throttle, "0");
+    table.host.rollTarget = 7;
+    table.game->settings.AutoStopInterval = ClampAutoStop(Money(c.interval));
+    ToggleAutoRoll(*table.game);
+    EXPECT_EQ(table.Rolls(), c.rolls) << c.interval;
+    EXPECT_EQ(table.game->table.StopReason, c.throttle == 0 && c.rolls < 7 ? "Stopped by Auto-Stop." : "");
+    if (c.rolls == 7) continue;
+    ASSERT_EQ(table.host.boxes.size(), 1u);
+    EXPECT_EQ(table.host.boxes[0].title, c.throttle == 0 ? "Turbo-Roll Stopped" : "Auto-Roll Stopped");
+    EXPECT_EQ(table.host.boxes[0].text, c.throttle == 0 ? "Stopped by Auto-Stop." : "Stopped by Auto-Stop");
+    ToggleAutoRoll(*table.game);
+    EXPECT_EQ(table.Rolls(), c.more) << c.interval;
+  }
+}
+
+TEST(AutoRollTest, TurboGivesWayOnceARollAndMakesNoNoise) {
+  PacedTable table(0);
+  table.host.rollTarget = 1000;
+  ToggleAutoRoll(*table.game);
+  EXPECT_EQ(table.Rolls(), 1000);
+  EXPECT_EQ(table.host.yieldCalls, 1000);
+  EXPECT_EQ(table.host.waitCalls, 0);
+  EXPECT_TRUE(table.host.rollTicks.empty());
+}
+
+TEST(AutoRollTest, TheThrottleMayMoveInTheMiddleOfARun) {
+  PacedTable table(0);
+  table.host.rollTarget = 30;
+  table.host.onYield = [&](Game& game) {
+    if (table.Rolls() == 10 && game.table.TurboRollActive) SetThrottle(game, kThrottleAutoRoll);
+  };
+  table.host.onWait = [&](Game& game) {
+    if (table.Rolls() == 20) SetThrottle(game, 0);
   };
   ToggleAutoRoll(*table.game);
-  ASSERT_EQ(table.host.rollTicks.size(), 2u);
-  EXPECT_EQ(table.host.rollTicks[1] - table.host.rollTicks[0], 3 * 1000u + 2000u);
-
-  PacedTable fast;
-  fast.game->settings.AutoRollDelay = kZero;
-  fast.StopAfter(7);
-  ToggleAutoRoll(*fast.game);
-  EXPECT_EQ(fast.host.waits, 7);
+  EXPECT_EQ(table.Rolls(), 30);
+  // Rolls 11 to 20 were made in the open and waited behind each other; the wait behind the 20th was broken
+  // off by its first look at the throttle.
+  EXPECT_EQ(table.host.rollTicks.size(), 10u);
+  EXPECT_EQ(table.host.waitCalls, 9 * 20 + 1);
+  EXPECT_TRUE(table.host.boxes.empty());
 }
 
-TEST(AutoRoll, AutoStopEndsAtItsMultiples) {
-  PacedTable table;
-  table.game->settings.AutoStopInterval = Currency::Dollars(4);
-  ToggleAutoRoll(*table.game);
-  EXPECT_EQ(SessionRolls(table.game->stats), 4);
-  EXPECT_EQ(table.host.boxes.back().title, "Auto-Roll Stopped");
-  EXPECT_EQ(table.host.boxes.back().text, "Stopped by Auto-Stop");
-  table.game->settings.RollThrottle = 0;
-  ToggleAutoRoll(*table.game);
-  EXPECT_EQ(SessionRolls(table.game->stats), 8);
-  EXPECT_EQ(table.host.boxes.back().title, "Turbo-Roll Stopped");
-  EXPECT_EQ(table.host.boxes.back().text, "Stopped by Auto-Stop.");
-  EXPECT_EQ(table.game->table.StopReason, "Stopped by Auto-Stop.");
-  EXPECT_EQ(ClampAutoStop(Currency::FromDouble(2.9)), Currency::Dollars(2));
-  EXPECT_EQ(ClampAutoStop(Currency::Dollars(-3)), kZero);
-  EXPECT_EQ(ClampAutoRollDelay(Currency::Dollars(1000)), Currency::Dollars(300));
-  EXPECT_EQ(ClampAutoRollDelay(Currency::Dollars(-1)), kZero);
-}
-
-TEST(AutoRoll, AThrottleMovedInMidRunChangesTheRun) {
-  PacedTable table;
-  table.game->settings.AutoStopInterval = Currency::Dollars(50);
-  bool moved = false;
-  table.host.onWait = [&](Game& running) {
-    if (moved) return;
-    moved = true;
-    EXPECT_FALSE(running.table.TurboRollActive);
-    SetThrottle(running, 0);   // off the slow end: a Turbo-Roll from here on
-    EXPECT_TRUE(running.table.TurboRollActive);
-  };
-  ToggleAutoRoll(*table.game);
-  EXPECT_EQ(SessionRolls(table.game->stats), 50);
-  EXPECT_EQ(table.host.waits, 1);
+TEST(AutoRollTest, EachStepOfTheThrottleDoublesItsPause) {
+  PacedTable table(0);
+  table.game->table.TurboCalibration = 200;
+  table.host.rollTarget = 3;
+  for (const int throttle : {1, 5}) {
+    SetThrottle(*table.game, throttle);
+    ToggleAutoRoll(*table.game);
+    table.host.rollTarget += 3;
+  }
+  EXPECT_EQ(table.Rolls(), 6);
   SetThrottle(*table.game, 99);
   EXPECT_EQ(table.game->settings.RollThrottle, 0);
-  EXPECT_FALSE(table.game->table.TurboRollActive) << "no run, so only the position changes";
+  SetThrottle(*table.game, -1);
+  EXPECT_EQ(table.game->settings.RollThrottle, 0);
 }
 
-TEST(AutoRoll, CommandsAskFirstAndNeverGoOn) {
-  PacedTable table;
-  EXPECT_TRUE(AskBeforeCommand(*table.game));
-  bool asked = false;
-  table.host.onWait = [&](Game& running) {
-    if (!asked) {
-      asked = true;
-      EXPECT_FALSE(AskBeforeCommand(running));   // no answer is No
-      EXPECT_TRUE(running.table.AutoRollActive);
-      EXPECT_EQ(table.host.boxes.back().text, "Do you want to stop Auto-Rolling?");
-      return;
-    }
-    table.host.answers = {"yes"};
-    EXPECT_FALSE(AskBeforeCommand(running)) << "a yes stops the run and no more";
-    EXPECT_FALSE(running.table.AutoRollActive);
+TEST(AutoRollTest, NoRollStartsWithinARoll) {
+  for (const int throttle : {0, kThrottleAutoRoll}) {
+    PacedTable table(throttle, "0");
+    const auto press = [&](Game& game) {
+      game.table.ManualDie1 = game.table.ManualDie2 = 3;
+      game.table.ManualRollPending = true;
+      const std::int64_t before = table.Rolls();
+      RollDice(game);
+      EXPECT_EQ(table.Rolls(), before);
+      game.table.ManualRollPending = false;
+    };
+    table.host.onYield = table.host.onWait = press;
+    ToggleAutoRoll(*table.game);
+    EXPECT_EQ(table.Rolls(), 5);
+  }
+}
+
+TEST(AutoRollTest, OtherCommandsAskBeforeTheyDisturbARun) {
+  struct Case {
+    int throttle;
+    const char* title;
+    const char* text;
   };
-  ToggleAutoRoll(*table.game);
-  EXPECT_TRUE(asked);
+  for (const Case& c : {Case{0, "Turbo-Roll Active", "Do you want to stop the Turbo-Roll?"},
+                        Case{kThrottleAutoRoll, "Auto-Roll Active", "Do you want to stop Auto-Rolling?"}})
+    for (const bool yes : {false, true}) {
+      PacedTable table(c.throttle, "0");
+      bool asked = false;
+      const auto command = [&](Game& game) {
+        if (table.Rolls() != 2 || asked) return;
+        asked = true;
+        table.host.answers = {yes ? "yes" : "no"};
+        EXPECT_FALSE(AskBeforeCommand(game));
+      };
+      (c.throttle == 0 ? table.host.onYield : table.host.onWait) = command;
+      ToggleAutoRoll(*table.game);
+      EXPECT_EQ(table.Rolls(), yes ? 2 : 5);
+      ASSERT_EQ(table.host.boxes.size(), 1u);
+      EXPECT_EQ(table.host.boxes[0].title, c.title);
+      EXPECT_EQ(table.host.boxes[0].text, c.text);
+      EXPECT_TRUE(AskBeforeCommand(*table.game)) << "nothing runs any more";
+    }
+}
+
+TEST(AutoRollTest, AFileThatEndsEndsTheRunWithItsQuestion) {
+  for (const char* answer : {"yes", "no", "cancel"}) {
+    PacedTable table(0);
+    test::WriteFile(table.folder.File("three.rol"),
+                    {static_cast<char>(RollByte(1, 2)), static_cast<char>(RollByte(3, 4)),
+                     static_cast<char>(RollByte(5, 6))});
+    ASSERT_EQ(OpenRollFile(table.game->rollFile, table.folder.File("three.rol")), "");
+    ASSERT_EQ(SetRecorderState(table.game->rollFile, kRecorderPlayback), "");
+    table.host.rollTarget = 0;
+    table.host.answers = {answer};
+    ToggleAutoRoll(*table.game);
+    EXPECT_EQ(table.Rolls(), 3);
+    EXPECT_EQ(table.game->table.StopReason, "Stopped due to end of Dice Roll File reached.");
+    ASSERT_EQ(table.host.boxes.size(), 2u);
+    EXPECT_EQ(table.host.boxes[0].title, "Turbo-Roll Stopped");
+    EXPECT_EQ(table.host.boxes[1].title, "Dice Roll File");
+    const RollFile& file = table.game->rollFile;
+    EXPECT_EQ(file.RecorderState, std::string(answer) == "no" ? kRecorderOff : kRecorderPlayback) << answer;
+    EXPECT_EQ(file.RollFileCursor, std::string(answer) == "yes" ? 1 : 4) << answer;
+  }
+}
+
+// Another program shortens or spoils the file while its rolls are played.
+TEST(AutoRollTest, AFileThatIsAlteredUnderARunEndsIt) {
+  for (const bool spoil : {false, true}) {
+    PacedTable table(kThrottleAutoRoll, "0");
+    const std::string path = table.folder.File("long.rol");
+    test::WriteFile(path, std::string(1000, static_cast<char>(RollByte(2, 3))));
+    ASSERT_EQ(OpenRollFile(table.game->rollFile, path), "");
+    ASSERT_EQ(SetRecorderState(table.game->rollFile, kRecorderPlayback), "");
+    table.host.rollTarget = 0;
+    table.host.yields = true;  // the table looks at the file anew
+    table.host.onWait = [&](Game& game) {
+      if (table.Rolls() != 10) return;
+      std::string content = test::ReadFile(path);
+      if (spoil)
+        content[12] = static_cast<char>(0xe4);
+      else
+        content.resize(12);
+      test::WriteFile(path, content);
+      FlushRollFile(game.rollFile);
+    };
+    ToggleAutoRoll(*table.game);
+    EXPECT_EQ(table.Rolls(), 12) << spoil;
+    EXPECT_EQ(table.game->table.StopReason, spoil ? "Stopped due to Dice Roll File value out of limits."
+                                                  : "Stopped due to end of Dice Roll File reached.");
+    EXPECT_FALSE(table.game->table.AutoRollActive);
+    if (spoil) {
+      EXPECT_EQ(table.game->rollFile.RecorderState, kRecorderOff);
+    }
+  }
+}
+
+TEST(AutoRollTest, TheDialogsKeepWithinTheirLimits) {
+  PacedTable table;
+  const std::pair<const char*, const char*> delays[] = {
+      {"1000", "300"}, {"-1", "0"}, {"2.5", "2.5"}, {"cancel", "2.5"}};
+  for (const auto& [answer, seconds] : delays) {
+    table.host.answers = {answer};
+    SetAutoRollDelay(*table.game);
+    EXPECT_EQ(table.game->settings.AutoRollDelay, Money(seconds)) << answer;
+  }
+  EXPECT_EQ(table.host.boxes[0].title, "Set Auto-Roll Time Delay");
+  const std::pair<const char*, const char*> stops[] = {
+      {"12.9", "12"}, {"-5", "0"}, {"7", "7"}, {"cancel", "7"}};
+  for (const auto& [answer, rolls] : stops) {
+    table.host.answers = {answer};
+    SetAutoStop(*table.game);
+    EXPECT_EQ(table.game->settings.AutoStopInterval, Money(rolls)) << answer;
+  }
+  EXPECT_EQ(table.host.boxes.back().title, "Set Auto-Roll / Turbo-Roll Auto-Stop");
 }
 
 }  // namespace
-}  // namespace tessaryn::test
+}  // namespace tessaryn
