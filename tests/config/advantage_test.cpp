@@ -202,6 +202,7 @@ TEST_F(AdvantageTest, CompsFollowTheirBase) {
   field.kinds[kWagerStats][kStatCount - 1] = Currency::Dollars(5);
   field.kinds[kWagerStats][kStatTotal - 1] = Currency::Dollars(50);
   stats.RollTotals[Slot(kCurrentSession, 0)] = stats.PairCounts[Slot(kCurrentSession, 0)][0] = 360;
+  stats.RollTotals[Slot(kAllSessions, 0)] = 360;
   Set("CompBetFlags.field", "off");
   Comps comps = FigureComps(*game_, kCurrentSession, 1);
   EXPECT_EQ(comps.totalAction, Currency::Dollars(1000));
