@@ -1,18 +1,12 @@
 #include "cli/cli_host.h"
 
-#include <unistd.h>
-
 #include <csignal>
-#include <cstdlib>
 #include <ctime>
-#include <filesystem>
 #include <thread>
 
 #include "dice/auto_roll.h"
 
 namespace tessaryn::cli {
-
-namespace fs = std::filesystem;
 
 std::atomic<bool> interrupted{false};
 
@@ -122,33 +116,6 @@ int QueuedAnswers::TakeChoice() {
   if (digit < '1' || digit > '7') return 0;
   answers_.pop_front();
   return digit - '0';
-}
-
-std::string ApplicationFolder() {
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error);
-  return error ? "./" : program.parent_path().string() + "/";
-}
-
-std::string DefaultDataFolder() {
-  const std::string application = ApplicationFolder();
-  if (access(application.c_str(), W_OK) == 0) return application;
-  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data != 0)
-    return std::string(data) + "/tessaryn/";
-  const char* home = std::getenv("HOME");
-  return std::string(home == nullptr ? "." : home) + "/.local/share/tessaryn/";
-}
-
-bool PrepareDataFolder(std::string& folder, std::string& error) {
-  if (folder.empty()) folder = DefaultDataFolder();
-  if (folder.back() != '/') folder += '/';
-  std::error_code fault;
-  fs::create_directories(folder, fault);
-  if (!fs::is_directory(folder)) {
-    error = "data folder " + folder + ": " + (fault ? fault.message() : "is no folder");
-    return false;
-  }
-  return true;
 }
 
 }  // namespace tessaryn::cli

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "engine/game.h"
+#include "persist/program_folders.h"
 
 namespace tessaryn::cli {
 
@@ -59,11 +60,5 @@ class QueuedAnswers {
 
 // The answer that keeps things as they are.
 void SafeAnswer(MessageBox& box);
-
-// The folder that holds this program, and the folder that everything is written to when none is named.
-std::string ApplicationFolder();
-std::string DefaultDataFolder();
-// Makes the folder if need be. False with the reason when it can't be used.
-bool PrepareDataFolder(std::string& folder, std::string& error);
 
 }  // namespace tessaryn::cli
