@@ -1,0 +1,47 @@
+// All file names are asked for here, with the rules that a name must pass.
+#pragma once
+
+#include <QString>
+#include <deque>
+#include <string>
+
+class QWidget;
+
+namespace tessaryn {
+
+struct Game;
+
+// What a file is wanted for.
+struct FilePurpose {
+  const char* title;
+  const char* types;      // "Auto-bet files (*.bet);;All files (*)"
+  const char* extension;  // added to a name without one; empty: none
+  bool save;              // asks before an existing file is replaced
+  bool mayBeNew;          // a file that is opened may also be made
+};
+
+extern const FilePurpose kOpenAutoBet;
+extern const FilePurpose kSaveAutoBet;
+extern const FilePurpose kHotKeyScript;
+extern const FilePurpose kOpenProbabilities;
+extern const FilePurpose kSaveProbabilities;
+extern const FilePurpose kOpenRollFile;
+
+// The chosen path, or empty when given up. Names without a folder go to the data folder. Refusals are shown as
+// boxes, and the question is asked again.
+std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose, const std::string& preset = {});
+
+// What is wrong with a name for a purpose: title and text of the box. Found() false for a good one. path is
+// made full. The overwrite question is the caller's.
+struct FileProblem {
+  std::string title;
+  std::string text;
+  bool Found() const { return !text.empty(); }
+};
+FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
+                          std::string& path);
+
+// Names given in advance, for tests; an empty one gives the question up.
+std::deque<std::string>& QueuedFileNames();
+
+}  // namespace tessaryn

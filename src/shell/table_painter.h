@@ -1,0 +1,106 @@
+// Draws the table from its layout through the view's transform, and the hidden map of the bets from the same
+// outlines; and over it the checks, markers, dice and status boxes of the state.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPixmap>
+#include <array>
+#include <map>
+#include <vector>
+
+#include "shell/table_layout.h"
+#include "shell/table_view.h"
+
+class QPainter;
+
+namespace tessaryn {
+
+struct Game;
+
+struct TableColors {
+  QColor Room{38, 34, 32};  // round the table
+  QColor Felt{12, 92, 58};
+  QColor Rail{92, 54, 28};
+  QColor RailPad{52, 34, 24};
+  QColor Line{240, 234, 214};
+  QColor Letter{250, 246, 232};
+  QColor Accent{255, 214, 92};
+  QColor Soft{205, 222, 205};
+  QColor Dice{196, 24, 32};
+  QColor Pips{255, 255, 255};
+  QColor Puck{250, 250, 250};
+};
+
+// White in the hit map: nothing there.
+inline constexpr QRgb kNothing = 0xffffffffu;
+
+// The table without anything that changes from roll to roll.
+void DrawTable(QPainter& painter, const TableLayout& layout, const TableView& view,
+               const TableColors& colors);
+// The hit map: each area filled, without blending, in a colour whose value is its id; visible stacks of
+// occupied seats as seat * 1000 + 10 + stack. map has the window's size.
+void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& view, const Game& game);
+// The id in the map as the selected seat means it: odds or their flat bet, Place or Buy. 0 for nothing.
+int HitTest(const QImage& map, QPoint point, const Game& game);
+// The same for an area's id, without a map.
+int MeantBet(const Game& game, int id);
+
+// A pile: denominations 1 to 6 from the bottom up.
+using CheckPile = std::vector<int>;
+// The checks that make up an amount, largest at the bottom, at most so many; what does not break down is a
+// "$" check on top. A pile that would be too high shows its largest checks.
+CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int most);
+
+// The pictures of the checks at one size, made when first asked for.
+class CheckPictures {
+ public:
+  // diameter in device-independent pixels.
+  const QPixmap& Picture(int denomination, double diameter, double devicePixelRatio,
+                         const Currency (&checkValue)[6]);
+
+ private:
+  double diameter_ = 0;
+  double ratio_ = 0;
+  std::array<Currency, 6> values_;
+  std::array<QPixmap, 7> pictures_;
+};
+
+// Where the dice lie, in table units, and how they are turned.
+struct DicePose {
+  QPointF Die1{880, 268};
+  QPointF Die2{905, 282};
+  double Turn1 = 12;  // degrees
+  double Turn2 = -25;
+  double Height = 0;  // above the felt, 0 to 1
+  int Face1 = 3;
+  int Face2 = 4;
+};
+
+// What of the state is shown, and how.
+struct TableScene {
+  const Game* game = nullptr;
+  DicePose dice;
+  bool showAmounts = false;  // the amounts of the bets beside the checks
+  bool hideBets = false;     // while the bets flash
+  bool showDice = true;
+  int hoverBet = 0;  // the area under the pointer
+  int focusBet = 0;  // the area with the keyboard's focus
+  int focusSide = 0;
+  int hoverSeat = 0;  // an open position under the pointer
+  bool movingPlayer = false;
+};
+
+void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
+                     const TableView& view, const TableColors& colors, CheckPictures& pictures);
+
+// The lines of a seat's status box.
+QStringList StatusLines(const Game& game, int seat);
+// Where the boxes of the occupied seats stand: near their seat, within the window, off the table and off each
+// other as far as there is room. Empty rectangles for empty seats.
+std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayout& layout,
+                                               const TableView& view, const QFont& font);
+void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRectF, kSeatRows>& boxes,
+                     const QFont& font);
+
+}  // namespace tessaryn
