@@ -115,7 +115,9 @@ bell "$WORK/bell.wav" 1046 1.2
 rain=("$WORK/bell.wav" 0 "$WORK/bell.wav" 0.9)
 RANDOM=7
 for ((i = 0; i < 40; i++)); do
-  rain+=("$WORK/c$((RANDOM % 4 + 1)).wav" "$((i / 20)).$(printf '%03d' $(((i % 20) * 50 + RANDOM % 40)))")
+  # No subshell here: it would draw its own random numbers.
+  printf -v second '%d.%03d' $((i / 20)) $(((i % 20) * 50 + RANDOM % 40))
+  rain+=("$WORK/c$((RANDOM % 4 + 1)).wav" "$second")
 done
 mix_at "$WORK/rain.wav" "${rain[@]}"
 finish "$WORK/rain.wav" "$OUT/Chips.win"
