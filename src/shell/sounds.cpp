@@ -34,7 +34,27 @@ bool Holds(const QStringList& files, const QString& name) {
   return files.contains(name, Qt::CaseInsensitive);
 }
 
-bool HasDevice() { return !QMediaDevices::defaultAudioOutput().isNull(); }
+// The first look for devices starts the platform's sound service, which reports on standard error that there
+// is none. That is no fault of a table without loudspeakers, so what it says meanwhile is dropped.
+QtMessageHandler handlerBefore = nullptr;
+thread_local bool startingService = false;
+
+void DropServiceMessages(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (startingService && type != QtFatalMsg) return;
+  if (handlerBefore != nullptr) handlerBefore(type, context, text);
+}
+
+bool HasDevice() {
+  static const bool started = [] {
+    startingService = true;
+    handlerBefore = qInstallMessageHandler(DropServiceMessages);
+    QMediaDevices::defaultAudioOutput();
+    qInstallMessageHandler(handlerBefore);
+    startingService = false;
+    return true;
+  }();
+  return started && !QMediaDevices::defaultAudioOutput().isNull();
+}
 
 }  // namespace
 
