@@ -39,6 +39,7 @@ AmountSelector::AmountSelector(const Game& game, QWidget* parent)
   typed_->setToolTip(tr("The amount that a click bets"));
   connect(typed_, &QLineEdit::editingFinished, this, [this] { TakeTyped(); });
   row->addWidget(typed_);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   RefreshChecks();
 }
 

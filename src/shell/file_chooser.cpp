@@ -12,14 +12,16 @@ namespace tessaryn {
 
 namespace fs = std::filesystem;
 
-const FilePurpose kOpenAutoBet{"Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false};
-const FilePurpose kSaveAutoBet{"Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true, true};
-const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)", ".bet",
-                                false, false};
-const FilePurpose kOpenProbabilities{"Open Probability File", "Probability file (*.prb);;All files (*)", ".prb", false,
-                                     false};
-const FilePurpose kSaveProbabilities{"Save Probability File As", "Probability file (*.prb);;All files (*)", ".prb",
-                                     true, true};
+const FilePurpose kOpenAutoBet{"Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false,
+                               false};
+const FilePurpose kSaveAutoBet{"Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true,
+                               true};
+const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)",
+                                ".bet", false, false};
+const FilePurpose kOpenProbabilities{"Open Probability File", "Probability file (*.prb);;All files (*)",
+                                     ".prb", false, false};
+const FilePurpose kSaveProbabilities{"Save Probability File As", "Probability file (*.prb);;All files (*)",
+                                     ".prb", true, true};
 const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New File",
                                 "Dice roll file (*.rol);;All files (*)", ".rol", false, true};
 
@@ -28,8 +30,10 @@ std::deque<std::string>& QueuedFileNames() {
   return names;
 }
 
-FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed, std::string& path) {
-  if (typed.find_first_not_of(' ') == std::string::npos) return {"Missing Filename", "Please enter a file name."};
+FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
+                          std::string& path) {
+  if (typed.find_first_not_of(' ') == std::string::npos)
+    return {"Missing Filename", "Please enter a file name."};
   path = ResolvePath(typed, game.dataFolder);
   if (fs::path(path).extension().empty()) path += purpose.extension;
   std::error_code error;
@@ -57,7 +61,8 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
     queued.pop_front();
     return !name.empty();
   }
-  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(game.dataFolder), QObject::tr(purpose.types));
+  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(game.dataFolder),
+                     QObject::tr(purpose.types));
   dialog.setObjectName("frmFile");
   dialog.setAcceptMode(purpose.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   // The rules below ask and refuse in the table's own words.
@@ -72,9 +77,10 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
 bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
   std::error_code error;
   if (!purpose.save || !fs::exists(path, error)) return true;
-  return ShowMessage(game, purpose.title,
-                     fs::path(path).filename().string() + " is already on file.\r\rDo you want to overwrite it?",
-                     kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+  return ShowMessage(
+             game, purpose.title,
+             fs::path(path).filename().string() + " is already on file.\r\rDo you want to overwrite it?",
+             kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
 }
 
 }  // namespace

@@ -27,9 +27,10 @@ extern const FilePurpose kOpenProbabilities;
 extern const FilePurpose kSaveProbabilities;
 extern const FilePurpose kOpenRollFile;
 
-// The chosen path, or empty when given up. Names without a folder go to the data folder. Refusals are shown as
-// boxes, and the question is asked again.
-std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose, const std::string& preset = {});
+// The chosen path, or empty when given up. Names without a folder go to the data folder. Refusals are shown
+// as boxes, and the question is asked again.
+std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose,
+                       const std::string& preset = {});
 
 // What is wrong with a name for a purpose: title and text of the box. Found() false for a good one. path is
 // made full. The overwrite question is the caller's.

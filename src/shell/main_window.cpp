@@ -54,69 +54,114 @@ struct MainWindow::CommandFacts {
 
 #define TITLE(text) QT_TRANSLATE_NOOP("tessaryn::MainWindow", text)
 const MainWindow::CommandFacts MainWindow::kCommands[] = {
-    {TITLE("&Game"), "mnuNew", TITLE("&New ..."), "Ctrl+Shift+N", false, true, &MainWindow::NewGame, &MainWindow::HasPlayer},
+    {TITLE("&Game"), "mnuNew", TITLE("&New ..."), "Ctrl+Shift+N", false, true, &MainWindow::NewGame,
+     &MainWindow::HasPlayer},
     {TITLE("&Game"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Game"), "mnuExit", TITLE("E&xit"), "Ctrl+Shift+Q", false, false, nullptr, &MainWindow::Always},
 
-    {TITLE("&Players"), "mnuPlayerAdd", TITLE("&Add ..."), nullptr, false, true, &MainWindow::AddAPlayer, &MainWindow::HasOpenPlace},
-    {TITLE("&Players"), "mnuPlayerRename", TITLE("&Rename ..."), nullptr, false, true, &MainWindow::RenameSelected, &MainWindow::HasPlayer},
-    {TITLE("&Players"), "mnuPlayerMove", TITLE("&Move"), nullptr, false, true, &MainWindow::MoveSelected, &MainWindow::CanMove},
-    {TITLE("&Players"), "mnuPlayerDelete", TITLE("Re&move ..."), nullptr, false, true, &MainWindow::RemoveSelected, &MainWindow::HasPlayer},
+    {TITLE("&Players"), "mnuPlayerAdd", TITLE("&Add ..."), nullptr, false, true, &MainWindow::AddAPlayer,
+     &MainWindow::HasOpenPlace},
+    {TITLE("&Players"), "mnuPlayerRename", TITLE("&Rename ..."), nullptr, false, true,
+     &MainWindow::RenameSelected, &MainWindow::HasPlayer},
+    {TITLE("&Players"), "mnuPlayerMove", TITLE("&Move"), nullptr, false, true, &MainWindow::MoveSelected,
+     &MainWindow::CanMove},
+    {TITLE("&Players"), "mnuPlayerDelete", TITLE("Re&move ..."), nullptr, false, true,
+     &MainWindow::RemoveSelected, &MainWindow::HasPlayer},
     {TITLE("&Players"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Players"), "mnuAtm", TITLE("A&TM ..."), nullptr, false, true, &MainWindow::OpenAtm, &MainWindow::CanAtm},
-    {TITLE("&Players"), "mnuAutoPlay", TITLE("Auto-&Play ..."), "F3", false, true, &MainWindow::OpenAutoPlay, &MainWindow::HasPlayer},
+    {TITLE("&Players"), "mnuAtm", TITLE("A&TM ..."), nullptr, false, true, &MainWindow::OpenAtm,
+     &MainWindow::CanAtm},
+    {TITLE("&Players"), "mnuAutoPlay", TITLE("Auto-&Play ..."), "F3", false, true, &MainWindow::OpenAutoPlay,
+     &MainWindow::HasPlayer},
 
-    {TITLE("&Bets"), "mnuKeyInBetAmounts", TITLE("&Key in bet amounts"), "F9", true, false, &MainWindow::KeyInAmounts, &MainWindow::Always},
+    {TITLE("&Bets"), "mnuKeyInBetAmounts", TITLE("&Key in bet amounts"), "F9", true, false,
+     &MainWindow::KeyInAmounts, &MainWindow::Always},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Bets"), "mnuBuyPlaceBet", TITLE("&Buy a Place bet"), "F5", true, true, &MainWindow::BuyNext, &MainWindow::HasPlaceBet},
-    {TITLE("&Bets"), "mnuCallBetOn", TITLE("Call a bet &ON"), "F6", true, true, &MainWindow::CallNextOn, &MainWindow::HasCallableBet},
-    {TITLE("&Bets"), "mnuCallBetOff", TITLE("Call a bet O&FF"), "F7", true, true, &MainWindow::CallNextOff, &MainWindow::HasCallableBet},
-    {TITLE("&Bets"), "mnuCallAllBetsOn", TITLE("Call all bets O&N"), nullptr, false, true, &MainWindow::CallAllOn, &MainWindow::HasCallableBet},
-    {TITLE("&Bets"), "mnuCallAllBetsOff", TITLE("Call all bets OF&F"), nullptr, false, true, &MainWindow::CallAllOff, &MainWindow::HasCallableBet},
+    {TITLE("&Bets"), "mnuBuyPlaceBet", TITLE("&Buy a Place bet"), "F5", true, true, &MainWindow::BuyNext,
+     &MainWindow::HasPlaceBet},
+    {TITLE("&Bets"), "mnuCallBetOn", TITLE("Call a bet &ON"), "F6", true, true, &MainWindow::CallNextOn,
+     &MainWindow::HasCallableBet},
+    {TITLE("&Bets"), "mnuCallBetOff", TITLE("Call a bet O&FF"), "F7", true, true, &MainWindow::CallNextOff,
+     &MainWindow::HasCallableBet},
+    {TITLE("&Bets"), "mnuCallAllBetsOn", TITLE("Call all bets O&N"), nullptr, false, true,
+     &MainWindow::CallAllOn, &MainWindow::HasCallableBet},
+    {TITLE("&Bets"), "mnuCallAllBetsOff", TITLE("Call all bets OF&F"), nullptr, false, true,
+     &MainWindow::CallAllOff, &MainWindow::HasCallableBet},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Bets"), "mnuTakeFullOdds", TITLE("&Take full odds"), nullptr, false, true, &MainWindow::TakeFull, &MainWindow::CanTakeOdds},
-    {TITLE("&Bets"), "mnuLayFullOdds", TITLE("&Lay full odds"), nullptr, false, true, &MainWindow::LayFull, &MainWindow::CanLayOdds},
+    {TITLE("&Bets"), "mnuTakeFullOdds", TITLE("&Take full odds"), nullptr, false, true, &MainWindow::TakeFull,
+     &MainWindow::CanTakeOdds},
+    {TITLE("&Bets"), "mnuLayFullOdds", TITLE("&Lay full odds"), nullptr, false, true, &MainWindow::LayFull,
+     &MainWindow::CanLayOdds},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Bets"), "mnuRemoveBet", TITLE("&Remove a bet"), "Del", true, true, &MainWindow::RemoveNext, &MainWindow::HasBets},
-    {TITLE("&Bets"), "mnuRemoveAllBets", TITLE("Remove &all bets"), nullptr, false, true, &MainWindow::RemoveAll, &MainWindow::HasBets},
+    {TITLE("&Bets"), "mnuRemoveBet", TITLE("&Remove a bet"), "Del", true, true, &MainWindow::RemoveNext,
+     &MainWindow::HasBets},
+    {TITLE("&Bets"), "mnuRemoveAllBets", TITLE("Remove &all bets"), nullptr, false, true,
+     &MainWindow::RemoveAll, &MainWindow::HasBets},
 
-    {TITLE("&Dice"), "mnuRollDice", TITLE("&Roll the dice"), "F2", false, true, &MainWindow::Roll, &MainWindow::Free},
-    {TITLE("&Dice"), "mnuPassDice", TITLE("&Pass the dice"), "P", false, true, &MainWindow::Pass, &MainWindow::CanPass},
-    {TITLE("&Dice"), "mnuRollYourOwnNumbers", TITLE("Roll your &own numbers"), "F12", true, false, &MainWindow::OpenPadWindow, &MainWindow::Always},
+    {TITLE("&Dice"), "mnuRollDice", TITLE("&Roll the dice"), "F2", false, true, &MainWindow::Roll,
+     &MainWindow::Free},
+    {TITLE("&Dice"), "mnuPassDice", TITLE("&Pass the dice"), "P", false, true, &MainWindow::Pass,
+     &MainWindow::CanPass},
+    {TITLE("&Dice"), "mnuRollYourOwnNumbers", TITLE("Roll your &own numbers"), "F12", true, false,
+     &MainWindow::OpenPadWindow, &MainWindow::Always},
     {TITLE("&Dice"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Dice"), "mnuTurboRoll", TITLE("Start &Turbo-Roll"), "Ctrl+Return", false, false, &MainWindow::ToggleRun, &MainWindow::CanToggle},
-    {TITLE("&Dice"), "mnuSetAutoRollTimeDelay", TITLE("Set Auto-Roll time &delay ..."), nullptr, false, true, &MainWindow::SetDelay, &MainWindow::Free},
-    {TITLE("&Dice"), "mnuSetAutoStop", TITLE("Set Auto-&Stop ..."), nullptr, false, true, &MainWindow::SetStop, &MainWindow::Free},
+    {TITLE("&Dice"), "mnuTurboRoll", TITLE("Start &Turbo-Roll"), "Ctrl+Return", false, false,
+     &MainWindow::ToggleRun, &MainWindow::CanToggle},
+    {TITLE("&Dice"), "mnuSetAutoRollTimeDelay", TITLE("Set Auto-Roll time &delay ..."), nullptr, false, true,
+     &MainWindow::SetDelay, &MainWindow::Free},
+    {TITLE("&Dice"), "mnuSetAutoStop", TITLE("Set Auto-&Stop ..."), nullptr, false, true,
+     &MainWindow::SetStop, &MainWindow::Free},
     {TITLE("&Dice"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Dice"), "mnuOpenProbabilities", TITLE("Open pro&bability file ..."), nullptr, false, true, &MainWindow::OpenProbabilities, &MainWindow::Free},
-    {TITLE("&Dice"), "mnuPercentageDice", TITLE("Per&centage dice"), nullptr, true, true, &MainWindow::UsePercentageDice, &MainWindow::HasProbabilities},
+    {TITLE("&Dice"), "mnuOpenProbabilities", TITLE("Open pro&bability file ..."), nullptr, false, true,
+     &MainWindow::OpenProbabilities, &MainWindow::Free},
+    {TITLE("&Dice"), "mnuPercentageDice", TITLE("Per&centage dice"), nullptr, true, true,
+     &MainWindow::UsePercentageDice, &MainWindow::HasProbabilities},
     {TITLE("&Dice"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Dice"), "mnuPlayRollFile", TITLE("Pla&y a dice roll file ..."), nullptr, false, true, &MainWindow::PlayRollFile, &MainWindow::Free},
-    {TITLE("&Dice"), "mnuRecordRollFile", TITLE("R&ecord a dice roll file ..."), nullptr, false, true, &MainWindow::RecordRollFile, &MainWindow::Free},
-    {TITLE("&Dice"), "mnuCloseRollFile", TITLE("C&lose the dice roll file"), "Esc", false, true, &MainWindow::CloseRollFileNow, &MainWindow::RollFileOpen},
+    {TITLE("&Dice"), "mnuPlayRollFile", TITLE("Pla&y a dice roll file ..."), nullptr, false, true,
+     &MainWindow::PlayRollFile, &MainWindow::Free},
+    {TITLE("&Dice"), "mnuRecordRollFile", TITLE("R&ecord a dice roll file ..."), nullptr, false, true,
+     &MainWindow::RecordRollFile, &MainWindow::Free},
+    {TITLE("&Dice"), "mnuCloseRollFile", TITLE("C&lose the dice roll file"), "Esc", false, true,
+     &MainWindow::CloseRollFileNow, &MainWindow::RollFileOpen},
 
-    {TITLE("&Auto-Bet"), "mnuOpenScript", TITLE("&Open script ..."), nullptr, false, true, &MainWindow::OpenScriptFile, &MainWindow::HasPlayer},
-    {TITLE("&Auto-Bet"), "mnuActivateScript", TITLE("&Active"), nullptr, true, true, &MainWindow::ActivateSelected, &MainWindow::HasScript},
-    {TITLE("&Auto-Bet"), "mnuInitialiseScripts", TITLE("&Initialize"), nullptr, false, true, &MainWindow::InitialiseAll, &MainWindow::AnyScript},
-    {TITLE("&Auto-Bet"), "mnuStopAutobetting", TITLE("&Stop auto-betting"), nullptr, false, false, &MainWindow::StopScripts, &MainWindow::ScriptsRun},
+    {TITLE("&Auto-Bet"), "mnuOpenScript", TITLE("&Open script ..."), nullptr, false, true,
+     &MainWindow::OpenScriptFile, &MainWindow::HasPlayer},
+    {TITLE("&Auto-Bet"), "mnuActivateScript", TITLE("&Active"), nullptr, true, true,
+     &MainWindow::ActivateSelected, &MainWindow::HasScript},
+    {TITLE("&Auto-Bet"), "mnuInitialiseScripts", TITLE("&Initialize"), nullptr, false, true,
+     &MainWindow::InitialiseAll, &MainWindow::AnyScript},
+    {TITLE("&Auto-Bet"), "mnuStopAutobetting", TITLE("&Stop auto-betting"), nullptr, false, false,
+     &MainWindow::StopScripts, &MainWindow::ScriptsRun},
     {TITLE("&Auto-Bet"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Auto-Bet"), "mnuHotKey", TITLE("Assign a &hot-key ..."), nullptr, false, true, &MainWindow::ChooseHotKey, &MainWindow::Free},
+    {TITLE("&Auto-Bet"), "mnuHotKey", TITLE("Assign a &hot-key ..."), nullptr, false, true,
+     &MainWindow::ChooseHotKey, &MainWindow::Free},
 
-    {TITLE("&View"), "mnuDisplayBetAmounts", TITLE("Bet &amounts"), "F11", true, false, &MainWindow::ShowAmounts, &MainWindow::Always},
-    {TITLE("&View"), "mnuFlashBets", TITLE("&Flash the bets"), "Space", false, false, &MainWindow::Flash, &MainWindow::HasBets},
-    {TITLE("&View"), "mnuDisplayPropBets", TITLE("&Proposition bets"), "C", true, false, &MainWindow::ShowPropositions, &MainWindow::Always},
+    {TITLE("&View"), "mnuDisplayBetAmounts", TITLE("Bet &amounts"), "F11", true, false,
+     &MainWindow::ShowAmounts, &MainWindow::Always},
+    {TITLE("&View"), "mnuFlashBets", TITLE("&Flash the bets"), "Space", false, false, &MainWindow::Flash,
+     &MainWindow::HasBets},
+    {TITLE("&View"), "mnuDisplayPropBets", TITLE("&Proposition bets"), "C", true, false,
+     &MainWindow::ShowPropositions, &MainWindow::Always},
     {TITLE("&View"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&View"), "mnuTableMove", TITLE("&Move, zoom and rotate"), "Z", true, false, &MainWindow::OpenMoveWindow, &MainWindow::Always},
-    {TITLE("&View"), "mnuZoomIn", TITLE("Zoom &in"), "Ctrl++", false, false, &MainWindow::ZoomInView, &MainWindow::Always},
-    {TITLE("&View"), "mnuZoomOut", TITLE("Zoom &out"), "Ctrl+-", false, false, &MainWindow::ZoomOutView, &MainWindow::Always},
-    {TITLE("&View"), "mnuRotate", TITLE("&Rotate by 30 degrees"), nullptr, false, false, &MainWindow::RotateView, &MainWindow::Always},
+    {TITLE("&View"), "mnuTableMove", TITLE("&Move, zoom and rotate"), "Z", true, false,
+     &MainWindow::OpenMoveWindow, &MainWindow::Always},
+    {TITLE("&View"), "mnuZoomIn", TITLE("Zoom &in"), "Ctrl++", false, false, &MainWindow::ZoomInView,
+     &MainWindow::Always},
+    {TITLE("&View"), "mnuZoomOut", TITLE("Zoom &out"), "Ctrl+-", false, false, &MainWindow::ZoomOutView,
+     &MainWindow::Always},
+    {TITLE("&View"), "mnuRotate", TITLE("&Rotate by 30 degrees"), nullptr, false, false,
+     &MainWindow::RotateView, &MainWindow::Always},
     {TITLE("&View"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&View"), "mnuViewWhole", TITLE("&Whole table"), nullptr, true, false, &MainWindow::WholeView, &MainWindow::Always},
-    {TITLE("&View"), "mnuViewLeft", TITLE("&Left end"), nullptr, true, false, &MainWindow::LeftEndView, &MainWindow::Always},
-    {TITLE("&View"), "mnuViewRight", TITLE("Ri&ght end"), nullptr, true, false, &MainWindow::RightEndView, &MainWindow::Always},
+    {TITLE("&View"), "mnuViewWhole", TITLE("&Whole table"), nullptr, true, false, &MainWindow::WholeView,
+     &MainWindow::Always},
+    {TITLE("&View"), "mnuViewLeft", TITLE("&Left end"), nullptr, true, false, &MainWindow::LeftEndView,
+     &MainWindow::Always},
+    {TITLE("&View"), "mnuViewRight", TITLE("Ri&ght end"), nullptr, true, false, &MainWindow::RightEndView,
+     &MainWindow::Always},
 
-    {TITLE("&Help"), "mnuKeys", TITLE("&Keys and mouse"), "F1", false, false, &MainWindow::ShowKeys, &MainWindow::Always},
-    {TITLE("&Help"), "mnuAbout", TITLE("&About Tessaryn"), nullptr, false, false, &MainWindow::OpenAbout, &MainWindow::Always},
+    {TITLE("&Help"), "mnuKeys", TITLE("&Keys and mouse"), "F1", false, false, &MainWindow::ShowKeys,
+     &MainWindow::Always},
+    {TITLE("&Help"), "mnuAbout", TITLE("&About Tessaryn"), nullptr, false, false, &MainWindow::OpenAbout,
+     &MainWindow::Always},
 };
 #undef TITLE
 
@@ -125,7 +170,9 @@ namespace {
 constexpr const char* kPresetViews[] = {"mnuViewWhole", "mnuViewLeft", "mnuViewRight"};
 
 // Keys without a modifier stay free for entry boxes.
-bool IsPlainKey(const QString& key) { return key.size() == 1 || key == "Space" || key == "Esc" || key == "Del"; }
+bool IsPlainKey(const QString& key) {
+  return key.size() == 1 || key == "Space" || key == "Esc" || key == "Del";
+}
 
 int PlainKeyCode(const QString& key) {
   if (key == "Space") return Qt::Key_Space;
@@ -277,7 +324,9 @@ void MainWindow::RunCommand(const CommandFacts& facts) {
 
 bool MainWindow::Free() const { return !game_.table.RollInProgress || game_.table.AutoRollActive; }
 bool MainWindow::HasPlayer() const { return Free() && IsOccupied(game_.table, game_.table.SelectedSeat); }
-bool MainWindow::HasBets() const { return HasPlayer() && !game_.table.SeatBets[game_.table.SelectedSeat].Empty(); }
+bool MainWindow::HasBets() const {
+  return HasPlayer() && !game_.table.SeatBets[game_.table.SelectedSeat].Empty();
+}
 bool MainWindow::HasPlaceBet() const {
   return HasPlayer() && game_.table.SeatBets[game_.table.SelectedSeat].Meets(BetRange(kPlace4, kPlace4 + 5));
 }
@@ -290,7 +339,8 @@ bool MainWindow::CanPass() const { return Free() && game_.table.OccupiedSeats > 
 bool MainWindow::CanAtm() const { return HasPlayer() && game_.settings.AtmEnabled; }
 bool MainWindow::CanTakeOdds() const {
   const BetSet& up = game_.table.SeatBets[game_.table.SelectedSeat];
-  return HasPlayer() && ((up.Has(kPassLine) && game_.table.Point != 0) || up.Meets(BetRange(kCome4, kCome4 + 5)));
+  return HasPlayer() &&
+         ((up.Has(kPassLine) && game_.table.Point != 0) || up.Meets(BetRange(kCome4, kCome4 + 5)));
 }
 bool MainWindow::CanLayOdds() const {
   const BetSet& up = game_.table.SeatBets[game_.table.SelectedSeat];
@@ -329,10 +379,12 @@ void MainWindow::RefreshCommands() {
   check("mnuDisplayBetAmounts", table_->scene.showAmounts);
   check("mnuDisplayPropBets", beforePropositions_.TableZoom != 0);
   check("mnuPercentageDice", game_.percentage.PercentageDiceActive);
-  check("mnuActivateScript", game_.autobet.ScriptActive[game_.table.SelectedSeat] && game_.table.SelectedSeat > 0);
+  check("mnuActivateScript",
+        game_.autobet.ScriptActive[game_.table.SelectedSeat] && game_.table.SelectedSeat > 0);
   const bool paced = game_.settings.RollThrottle == kThrottleAutoRoll;
-  actions_["mnuTurboRoll"]->setText(game_.table.AutoRollActive ? (paced ? tr("Stop &Auto-Roll") : tr("Stop &Turbo-Roll"))
-                                                              : (paced ? tr("Start &Auto-Roll") : tr("Start &Turbo-Roll")));
+  actions_["mnuTurboRoll"]->setText(game_.table.AutoRollActive
+                                        ? (paced ? tr("Stop &Auto-Roll") : tr("Stop &Turbo-Roll"))
+                                        : (paced ? tr("Start &Auto-Roll") : tr("Start &Turbo-Roll")));
   for (int n = 0; n < kSavedViews && n < static_cast<int>(restoreViews_.size()); ++n)
     restoreViews_[n]->setEnabled(table_->view.SavedViews[n].TableZoom >= kMinimumZoom);
   controls_->Refresh(game_);
@@ -370,7 +422,8 @@ void MainWindow::ConnectTable() {
   connect(controls_, &RunControls::rollPressed, this, [this] { actions_["mnuRollDice"]->trigger(); });
   connect(controls_, &RunControls::passPressed, this, [this] { actions_["mnuPassDice"]->trigger(); });
   connect(controls_, &RunControls::turboPressed, this, [this] { actions_["mnuTurboRoll"]->trigger(); });
-  connect(controls_, &RunControls::throttleMoved, this, [this](int position) { SetThrottle(game_, position); });
+  connect(controls_, &RunControls::throttleMoved, this,
+          [this](int position) { SetThrottle(game_, position); });
   connect(turbo_, &TurboPanel::stopPressed, this, [this] {
     if (game_.table.AutoRollActive) ToggleAutoRoll(game_);
   });
@@ -394,7 +447,8 @@ void MainWindow::OnChanged(Change change) {
     amounts_->RefreshChecks();
     table_->RebuildLayout();
   }
-  if (change == Change::kEverything && (table_->scene.dice.Face1 != game_.table.Die1 || table_->scene.dice.Face2 != game_.table.Die2))
+  if (change == Change::kEverything &&
+      (table_->scene.dice.Face1 != game_.table.Die1 || table_->scene.dice.Face2 != game_.table.Die2))
     table_->PlaceDice();
   table_->Refresh();
   RefreshSoon();
@@ -432,7 +486,8 @@ void MainWindow::OnBetClicked(int bet, bool alt) {
     }
   }
   if (!IsOccupied(game_.table, game_.table.SelectedSeat)) {
-    ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.", kMsgOk | kMsgAlert);
+    ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.",
+                kMsgOk | kMsgAlert);
     return;
   }
   if (ClickBet(game_, commands_, bet, alt)) table_->OpenEntry(bet);
@@ -450,7 +505,8 @@ void MainWindow::OnSeatClicked(int seat) {
     if (!AskBeforeCommand(game_)) return;
     if (movingSeat_ != 0) {
       std::string error;
-      if (!MovePlayer(game_, std::exchange(movingSeat_, 0), seat, error)) ShowMessage(game_, "Move Player", error);
+      if (!MovePlayer(game_, std::exchange(movingSeat_, 0), seat, error))
+        ShowMessage(game_, "Move Player", error);
       table_->scene.movingPlayer = false;
     } else if (AddPlayer(game_, seat)) {
       SelectSeat(game_, seat);
@@ -462,7 +518,8 @@ void MainWindow::OnSeatClicked(int seat) {
 
 void MainWindow::ShowPointer(int bet) {
   QString text = PointerText(game_, game_.table.SelectedSeat, bet);
-  if (commands_.CarriedAmount > kZero) text = tr("Carrying %1").arg(MoneyText(commands_.CarriedAmount)) + "   " + text;
+  if (commands_.CarriedAmount > kZero)
+    text = tr("Carrying %1").arg(MoneyText(commands_.CarriedAmount)) + "   " + text;
   pointer_->setText(text);
   pointer_->setToolTip(text);
 }
@@ -476,7 +533,8 @@ void MainWindow::NewGame() {
 }
 
 void MainWindow::AddAPlayer() {
-  ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.", kMsgOk | kMsgAlert);
+  ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.",
+              kMsgOk | kMsgAlert);
 }
 
 void MainWindow::RenameSelected() { RenamePlayer(game_); }
@@ -485,7 +543,8 @@ void MainWindow::MoveSelected() {
   movingSeat_ = game_.table.SelectedSeat;
   table_->scene.movingPlayer = true;
   table_->update();
-  ShowMessage(game_, "Move Player", "Click the rail where you want to put " + game_.table.SeatName[movingSeat_] + ".",
+  ShowMessage(game_, "Move Player",
+              "Click the rail where you want to put " + game_.table.SeatName[movingSeat_] + ".",
               kMsgOk | kMsgAlert);
 }
 
@@ -541,12 +600,15 @@ void MainWindow::OpenAbout() {
 }
 
 void MainWindow::ShowKeys() {
-  ShowMessage(game_, "Keys and Mouse",
-              "Left click: bet the chosen amount\rRight click or F2: roll the dice\rAlt and click: take a bet up, click "
-              "again to put it down\rWheel: zoom.  Middle button: move the table\rDelete, F5, F6, F7: the next click "
-              "removes, buys, calls ON, calls OFF\rF9: key in amounts.  F11: show amounts\rTab: walk the bets with the "
-              "arrows, Enter bets\rArrows: the next player\rCtrl and a letter or digit: its hot-key",
-              kMsgOk | kMsgDice, 640);
+  ShowMessage(
+      game_, "Keys and Mouse",
+      "Left click: bet the chosen amount\rRight click or F2: roll the dice\rAlt and click: take a bet up, "
+      "click "
+      "again to put it down\rWheel: zoom.  Middle button: move the table\rDelete, F5, F6, F7: the next click "
+      "removes, buys, calls ON, calls OFF\rF9: key in amounts.  F11: show amounts\rTab: walk the bets with "
+      "the "
+      "arrows, Enter bets\rArrows: the next player\rCtrl and a letter or digit: its hot-key",
+      kMsgOk | kMsgDice, 640);
 }
 
 void MainWindow::Roll() {
@@ -609,7 +671,8 @@ void MainWindow::LookAt(QRectF tableArea) {
   const QRectF shown = view.Transform().mapRect(tableArea);
   const double share = std::min(view.Window.width() / shown.width(), view.Window.height() / shown.height());
   ZoomTo(view, static_cast<int>(view.TableZoom * share), shown.center());
-  const QPointF off = QPointF(view.Window.width() / 2.0, view.Window.height() / 2.0) - view.ToScreen(tableArea.center());
+  const QPointF off =
+      QPointF(view.Window.width() / 2.0, view.Window.height() / 2.0) - view.ToScreen(tableArea.center());
   view.TableOffsetX += static_cast<int>(off.x());
   view.TableOffsetY += static_cast<int>(off.y());
 }
@@ -735,8 +798,12 @@ void UseRollFile(Game& game, const std::string& path, int state) {
 
 }  // namespace
 
-void MainWindow::PlayRollFile() { UseRollFile(game_, ChooseFile(game_, this, kOpenRollFile), kRecorderPlayback); }
-void MainWindow::RecordRollFile() { UseRollFile(game_, ChooseFile(game_, this, kOpenRollFile), kRecorderRecord); }
+void MainWindow::PlayRollFile() {
+  UseRollFile(game_, ChooseFile(game_, this, kOpenRollFile), kRecorderPlayback);
+}
+void MainWindow::RecordRollFile() {
+  UseRollFile(game_, ChooseFile(game_, this, kOpenRollFile), kRecorderRecord);
+}
 
 void MainWindow::CloseRollFileNow() {
   const std::string problem = CloseRollFile(game_.rollFile);
@@ -782,7 +849,8 @@ bool MainWindow::HotKeyPressed(QKeyEvent* event) {
   const bool digit = key >= Qt::Key_0 && key <= Qt::Key_9;
   if (!letter && !digit) return false;
   const char typed = static_cast<char>(letter ? 'a' + (key - Qt::Key_A) : '0' + (key - Qt::Key_0));
-  const bool known = std::any_of(hotKeys_.begin(), hotKeys_.end(), [&](const HotKey& hot) { return hot.key == typed; });
+  const bool known =
+      std::any_of(hotKeys_.begin(), hotKeys_.end(), [&](const HotKey& hot) { return hot.key == typed; });
   if (!known || !AskBeforeCommand(game_)) return known;
   PressHotKey(game_, hotKeys_, typed);
   table_->Refresh();
@@ -796,9 +864,10 @@ bool MainWindow::SaveScriptsFirst() {
   for (int seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = game_.autobet.Scripts[seat];
     if (!IsOccupied(game_.table, seat) || !script.Unsaved) continue;
-    const int answer = ShowMessage(game_, "Save Auto-Bets?",
-                                   game_.table.SeatName[seat] + "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
-                                   kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    const int answer = ShowMessage(
+        game_, "Save Auto-Bets?",
+        game_.table.SeatName[seat] + "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
+        kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
     if (answer == kResultCancel) return false;
     if (answer != kResultYes) continue;
     const std::string path = ChooseFile(game_, this, kSaveAutoBet, script.ScriptFileName);
@@ -814,10 +883,11 @@ bool MainWindow::SaveScriptsFirst() {
 
 bool MainWindow::SaveProbabilitiesFirst() {
   if (!game_.percentage.ProbDirty) return true;
-  const int answer = ShowMessage(game_, kSaveProbabilitiesTitle,
-                                 "Your current probabilities (listed on the configuration screen) have not been "
-                                 "saved.\r\rDo you want to save them now?",
-                                 kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+  const int answer =
+      ShowMessage(game_, kSaveProbabilitiesTitle,
+                  "Your current probabilities (listed on the configuration screen) have not been "
+                  "saved.\r\rDo you want to save them now?",
+                  kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
   if (answer != kResultYes) return answer == kResultNo;
   const std::string path = ChooseFile(game_, this, kSaveProbabilities, game_.percentage.ProbFileName);
   std::string error;
@@ -835,7 +905,8 @@ bool MainWindow::MayClose() {
 void MainWindow::WriteFinalFiles() {
   std::string error;
   if (!hotKeys_.empty() || std::filesystem::exists(game_.dataFolder + kHotKeysFile))
-    if (!WriteHotKeys(game_.dataFolder + kHotKeysFile, hotKeys_, error)) ShowMessage(game_, "Hot-Keys", error);
+    if (!WriteHotKeys(game_.dataFolder + kHotKeysFile, hotKeys_, error))
+      ShowMessage(game_, "Hot-Keys", error);
   const std::string problem = CloseRollFile(game_.rollFile);
   if (!problem.empty()) ShowMessage(game_, "Error", problem);
   std::error_code gone;

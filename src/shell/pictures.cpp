@@ -5,6 +5,8 @@
 #include <array>
 #include <cmath>
 
+#include "shell/table_layout.h"
+
 namespace tessaryn {
 
 namespace {
@@ -61,10 +63,7 @@ void PaintEdgeMarks(QPainter& painter, const CheckLook& look) {
 
 // The text as an outline of a size that fits a box, centred on the origin.
 QPainterPath FittedText(const QString& text, double width, double height) {
-  QFont font("DejaVu Sans");
-  font.setStyleHint(QFont::SansSerif);
-  font.setBold(true);
-  font.setPixelSize(64);
+  const QFont font = TableFont(true, 64);
   QPainterPath path;
   path.addText(0, 0, font, text);
   const QRectF bounds = path.boundingRect();

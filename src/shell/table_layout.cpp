@@ -480,11 +480,26 @@ QPointF PuckPlace(int point, int side) {
   return {columns + (BoxPosition(point) + 0.5) * kColumnWidth, 37};
 }
 
-QPainterPath LabelOutline(const TableLabel& label) {
-  QFont font("DejaVu Sans Condensed");
+namespace {
+// The one thing that is the same for every table of the program: a font is registered for all of it.
+QString& TableFontFamily() {
+  static QString family = kDefaultTableFont;
+  return family;
+}
+}  // namespace
+
+void SetTableFont(const QString& family) { TableFontFamily() = family; }
+
+QFont TableFont(bool bold, double pixels) {
+  QFont font(TableFontFamily());
   font.setStyleHint(QFont::SansSerif);
-  font.setBold(true);
-  font.setPixelSize(64);
+  font.setBold(bold);
+  font.setPixelSize(std::max(4, static_cast<int>(pixels)));
+  return font;
+}
+
+QPainterPath LabelOutline(const TableLabel& label) {
+  const QFont font = TableFont(true, 64);
   QPainterPath path;
   const QStringList lines = label.Text.split(QLatin1Char('\n'));
   for (int n = 0; n < lines.size(); ++n) {

@@ -2,6 +2,7 @@
 // checks stand. One list serves the drawing and the hit map.
 #pragma once
 
+#include <QFont>
 #include <QPainterPath>
 #include <QPointF>
 #include <QRectF>
@@ -70,6 +71,11 @@ QPainterPath FeltOutline();
 
 // Where the puck lies: at the box of a point, on either end; or OFF.
 QPointF PuckPlace(int point, int side);
+
+// The family of the lettering; "Arial" until another is set, before the first layout is built.
+inline constexpr const char* kDefaultTableFont = "Arial";
+void SetTableFont(const QString& family);
+QFont TableFont(bool bold, double pixels);
 
 // Lettering as an outline, as large as its box allows, turned. The painter and the checks on the layout both
 // take it from here.

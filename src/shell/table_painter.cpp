@@ -210,11 +210,7 @@ constexpr double kStackStep = 0.15;  // of a check's diameter, from one check to
 // Short lettering on a small rounded plate, in screen units.
 void DrawPlate(QPainter& painter, QPointF centre, double height, const QString& text, QColor plate,
                QColor ink) {
-  TableLabel label;
-  label.Text = text;
-  QFont font("DejaVu Sans Condensed");
-  font.setBold(true);
-  font.setPixelSize(std::max(4, static_cast<int>(height * 0.8)));
+  const QFont font = TableFont(true, height * 0.8);
   const QFontMetricsF metrics(font);
   const double width = metrics.horizontalAdvance(text) + height * 0.5;
   const QRectF box(centre.x() - width / 2, centre.y() - height / 2, width, height);
@@ -303,10 +299,7 @@ void DrawPuck(QPainter& painter, const Game& game, const TableView& view) {
     painter.setPen(QPen(on ? QColor(20, 20, 20) : QColor(235, 235, 235), radius * 0.14));
     painter.setBrush(on ? QColor(250, 250, 248) : QColor(20, 20, 22));
     painter.drawEllipse(centre, radius, radius);
-    QFont font("DejaVu Sans Condensed");
-    font.setBold(true);
-    font.setPixelSize(std::max(4, static_cast<int>(radius * 0.85)));
-    painter.setFont(font);
+    painter.setFont(TableFont(true, radius * 0.8));
     painter.setPen(on ? QColor(20, 20, 22) : QColor(240, 240, 240));
     painter.drawText(QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius),
                      Qt::AlignCenter, on ? "ON" : "OFF");
@@ -377,10 +370,7 @@ void DrawNamePlate(QPainter& painter, const Game& game, const SeatPlace& place, 
     painter.restore();
     left += 13 * scale;
   }
-  QFont font("DejaVu Sans Condensed");
-  font.setBold(selected);
-  font.setPixelSize(std::max(5, static_cast<int>(9.5 * scale)));
-  painter.setFont(font);
+  painter.setFont(TableFont(selected, 9.5 * scale));
   painter.setPen(selected ? QColor(255, 236, 180) : QColor(232, 222, 206));
   const QRectF room(left, plate.top(), plate.right() - left - 2 * scale, plate.height());
   painter.drawText(room, Qt::AlignCenter,

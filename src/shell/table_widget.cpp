@@ -167,7 +167,7 @@ void TableWidget::paintEvent(QPaintEvent*) {
     painter.setFont(large);
     const QString hint = tr("Click an open position on the rail to add a player.");
     QRectF box = QFontMetricsF(large).boundingRect(hint).adjusted(-18, -10, 18, 10);
-    box.moveCenter(QPointF(width() / 2.0, std::min(height() - 30.0, view.ToScreen({kTableMiddle, 290}).y())));
+    box.moveCenter(QPointF(width() / 2.0, height() - box.height() / 2 - 8));
     painter.setPen(QPen(QColor(255, 214, 92), 1.5));
     painter.setBrush(QColor(20, 18, 16, 232));
     painter.drawRoundedRect(box, 8, 8);
