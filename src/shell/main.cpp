@@ -1,6 +1,10 @@
 // The window program: the table drawn and played.
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 #include <QStatusBar>
 #include <QTimer>
 #include <cstdio>
@@ -17,6 +21,15 @@ namespace tessaryn {
 namespace {
 
 constexpr int kSplashMilliseconds = 300;
+
+// A session without a runtime folder gets one, before the window system complains of it.
+void ProvideRuntimeFolder() {
+  if (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR")) return;
+  const QString folder = QDir::tempPath() + "/tessaryn-runtime-" + QString::number(getuid());
+  QDir().mkpath(folder);
+  QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  qputenv("XDG_RUNTIME_DIR", folder.toUtf8());
+}
 
 int RunProgram(QApplication& application, std::string dataFolder) {
   std::string error;
@@ -64,6 +77,7 @@ int main(int count, char** arguments) {
   };
   options.allow_extras();
   if (const int code = parse(); code >= 0) return code;
+  tessaryn::ProvideRuntimeFolder();
   QApplication application(count, arguments);
   options.allow_extras(false);
   if (const int code = parse(); code >= 0) return code;

@@ -381,10 +381,7 @@ void MainWindow::RefreshCommands() {
   check("mnuPercentageDice", game_.percentage.PercentageDiceActive);
   check("mnuActivateScript",
         game_.autobet.ScriptActive[game_.table.SelectedSeat] && game_.table.SelectedSeat > 0);
-  const bool paced = game_.settings.RollThrottle == kThrottleAutoRoll;
-  actions_["mnuTurboRoll"]->setText(game_.table.AutoRollActive
-                                        ? (paced ? tr("Stop &Auto-Roll") : tr("Stop &Turbo-Roll"))
-                                        : (paced ? tr("Start &Auto-Roll") : tr("Start &Turbo-Roll")));
+  actions_["mnuTurboRoll"]->setText(RunCaption(game_));
   for (int n = 0; n < kSavedViews && n < static_cast<int>(restoreViews_.size()); ++n)
     restoreViews_[n]->setEnabled(table_->view.SavedViews[n].TableZoom >= kMinimumZoom);
   controls_->Refresh(game_);
@@ -463,10 +460,10 @@ void MainWindow::OnRunChanged() {
     turbo_->raise();
     turbo_->setFocus();
   } else if (!turbo && turbo_->isVisible()) {
+    table_->setFocus();
     turbo_->hide();
     table_->PlaceDice();
     table_->Refresh();
-    table_->setFocus();
   }
   if (isMinimized() && !game_.table.AutoRollActive)
     setWindowTitle(tr("Tessaryn Turbo-Roll Stopped"));

@@ -27,7 +27,7 @@ void CarryBet(Game& game, TableCommands& commands, int bet) {
   if (taken > kZero) commands.CarriedAmount = taken;
 }
 
-// The odds as one group: those bets whose payoffs come from a table of their own.
+// Where a bet's payoffs stand: in its record, or in a table of its own.
 struct PayoffRows {
   int bet;
   const PayoffRecord* first;
@@ -143,6 +143,9 @@ QString PayoffSummary(const Game& game, int bet) {
   if (!IsTableBet(bet)) return {};
   // Odds on the line pay by the point; before one is set there is nothing to tell.
   if ((bet == kPassLineOdds || bet == kDontPassOdds) && game.table.Point == 0) return {};
+  if (bet == kCAndE) return Translated("half each as Any Craps and Eleven");
+  if (bet == kHorn) return Translated("a quarter each as Two, Three, Eleven and Twelve");
+  if (bet == kWorld) return Translated("a fifth each as Two, Three, Seven, Eleven and Twelve");
   const PayoffRows rows = RowsOf(game.payoffs, bet);
   QStringList texts;
   for (int n = 0; n < rows.count; ++n) {

@@ -326,7 +326,9 @@ void AddProposition(Builder& build, int bet, QRectF box, const QString& name, in
     area->Labels.push_back(Dice(die1, die2, head));
   else
     area->Labels.push_back(Letters(name, head));
-  area->Labels.push_back(Letters(build.Pays(bet), foot, Ink::kSoft));
+  // Bets that are several in one pay as these do; a ratio of their own would mislead.
+  const bool several = bet == kCAndE || bet == kHorn || bet == kWorld;
+  if (!several) area->Labels.push_back(Letters(build.Pays(bet), foot, Ink::kSoft));
   // Each end's seats on their side, in two rows.
   constexpr int kRow[kSeats] = {0, 1, 1, 0, 0, 1, 1, 0};
   const QRectF places =
@@ -512,7 +514,7 @@ QPainterPath LabelOutline(const TableLabel& label) {
   if (bounds.isEmpty()) return {};
   // Within a ring the text's corners must stay inside.
   const double scale =
-      label.Ring ? 0.76 * label.Box.height() / std::hypot(bounds.width(), bounds.height())
+      label.Ring ? 0.82 * label.Box.height() / std::hypot(bounds.width(), bounds.height())
                  : std::min(label.Box.width() / bounds.width(), label.Box.height() / bounds.height());
   QTransform place;
   place.translate(label.Box.center().x(), label.Box.center().y());

@@ -52,7 +52,7 @@ struct TableLayout {
   SeatPlace Seats[kSeatRows];
 };
 
-inline constexpr double kCheckUnits = 13;    // the diameter of a check in table units
+inline constexpr double kCheckUnits = 15;    // the diameter of a check in table units
 inline constexpr double kLeftColumns = 240;  // where the six boxes begin, on either side
 inline constexpr double kRightColumns = 683;
 inline constexpr double kColumnWidth = 54;

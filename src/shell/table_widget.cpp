@@ -35,8 +35,7 @@ double Scatter(std::int64_t roll, int which) {
 }
 
 // Where a roll's dice come to lie: the end away from the shooter.
-DicePose RestingDice(const Game& game) {
-  const std::int64_t roll = SessionRolls(game.stats);
+DicePose RestingDice(const Game& game, std::int64_t roll) {
   const bool shooterLeft = game.table.ShooterSeat <= 4;
   DicePose pose;
   const double x = (shooterLeft ? 820 : 300) + 120 * Scatter(roll, 1);
@@ -468,16 +467,18 @@ bool TableWidget::eventFilter(QObject* object, QEvent* event) {
 // --- Dice and flashing.
 
 void TableWidget::PlaceDice() {
-  scene.dice = RestingDice(game_);
+  restingRoll_ = SessionRolls(game_.stats);
+  scene.dice = RestingDice(game_, SessionRolls(game_.stats));
   update();
 }
 
 void TableWidget::ShowThrow() {
-  const DicePose rest = RestingDice(game_);
-  if (!animate || !isVisible() || throwing_ || game_.settings.DiceAction != 0) {
-    PlaceDice();
+  // Thrown, but not yet counted.
+  const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
+  scene.dice = rest;
+  update();
+  if (!animate || !isVisible() || throwing_ || game_.settings.DiceAction != 0)
     return;
-  }
   throwing_ = true;
   cutShort_ = false;
   const int shooter = std::max(1, game_.table.ShooterSeat);
@@ -495,7 +496,8 @@ void TableWidget::ShowThrow() {
   frames.start(kFrameMilliseconds);
   loop.exec();
   throwing_ = false;
-  PlaceDice();
+  scene.dice = rest;
+  update();
 }
 
 void TableWidget::FlashBets() {

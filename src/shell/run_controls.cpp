@@ -1,0 +1,74 @@
+#include "shell/run_controls.h"
+
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+
+#include "dice/auto_roll.h"
+#include "engine/game.h"
+
+namespace tessaryn {
+
+QString RunCaption(const Game& game) {
+  const bool paced = game.table.AutoRollActive ? !game.table.TurboRollActive
+                                               : game.settings.RollThrottle == kThrottleAutoRoll;
+  const char* caption = game.table.AutoRollActive ? (paced ? "Stop &Auto-Roll" : "Stop &Turbo-Roll")
+                                                  : (paced ? "Start &Auto-Roll" : "Start &Turbo-Roll");
+  return QCoreApplication::translate("RunControls", caption);
+}
+
+QString ThrottleText(int position) {
+  if (position == kThrottleAutoRoll) return QCoreApplication::translate("RunControls", "Auto-Roll");
+  if (position == 0) return QCoreApplication::translate("RunControls", "Turbo: full speed");
+  return QCoreApplication::translate("RunControls", "Turbo: %1 ms a roll").arg(1 << position);
+}
+
+RunControls::RunControls(QWidget* parent)
+    : QWidget(parent),
+      roll_(new QPushButton(tr("&Roll"), this)),
+      pass_(new QPushButton(tr("Pass"), this)),
+      run_(new QPushButton(this)),
+      throttle_(new QSlider(Qt::Horizontal, this)),
+      speed_(new QLabel(this)) {
+  roll_->setObjectName("cmdRoll");
+  roll_->setToolTip(tr("Roll the dice (F2, or right click on the table)"));
+  pass_->setObjectName("cmdPass");
+  pass_->setToolTip(tr("Pass the dice (P)"));
+  run_->setObjectName("cmdTurboRoll");
+  throttle_->setObjectName("hsbThrottle");
+  throttle_->setRange(0, kThrottleAutoRoll);
+  throttle_->setPageStep(1);
+  throttle_->setFixedWidth(110);
+  throttle_->setAccessibleName(tr("Speed of a run"));
+  throttle_->setToolTip(tr("How fast a run goes: full speed on the left, Auto-Roll on the right"));
+  speed_->setObjectName("lblThrottle");
+  speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 6);
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(6);
+  for (QWidget* part :
+       {static_cast<QWidget*>(throttle_), static_cast<QWidget*>(speed_), static_cast<QWidget*>(run_),
+        static_cast<QWidget*>(pass_), static_cast<QWidget*>(roll_)})
+    row->addWidget(part);
+  connect(roll_, &QPushButton::clicked, this, &RunControls::rollPressed);
+  connect(pass_, &QPushButton::clicked, this, &RunControls::passPressed);
+  connect(run_, &QPushButton::clicked, this, &RunControls::turboPressed);
+  connect(throttle_, &QSlider::valueChanged, this, &RunControls::throttleMoved);
+}
+
+void RunControls::Refresh(const Game& game) {
+  const TableState& table = game.table;
+  const bool free = !table.RollInProgress || table.AutoRollActive;
+  roll_->setEnabled(free);
+  pass_->setEnabled(free && table.OccupiedSeats > 0);
+  run_->setEnabled(table.AutoRollActive || !table.RollInProgress);
+  run_->setText(RunCaption(game));
+  const QSignalBlocker quiet(throttle_);
+  throttle_->setValue(game.settings.RollThrottle);
+  speed_->setText(ThrottleText(game.settings.RollThrottle));
+}
+
+}  // namespace tessaryn

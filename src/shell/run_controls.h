@@ -1,0 +1,41 @@
+// The bar under the table: roll, pass, start and stop a run, and how fast it goes.
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+class QLabel;
+class QPushButton;
+class QSlider;
+
+namespace tessaryn {
+
+struct Game;
+
+// "Start &Turbo-Roll" and its three kin, by what runs and by the throttle.
+QString RunCaption(const Game& game);
+// What a throttle position 0 to 12 does.
+QString ThrottleText(int position);
+
+class RunControls : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit RunControls(QWidget* parent = nullptr);
+  void Refresh(const Game& game);
+
+ signals:
+  void rollPressed();
+  void passPressed();
+  void turboPressed();
+  void throttleMoved(int position);
+
+ private:
+  QPushButton* roll_;
+  QPushButton* pass_;
+  QPushButton* run_;
+  QSlider* throttle_;
+  QLabel* speed_;
+};
+
+}  // namespace tessaryn

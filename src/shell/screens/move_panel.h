@@ -1,0 +1,29 @@
+// frmMove: the small panel that moves, zooms and turns the table.
+#pragma once
+
+#include <QWidget>
+
+class QGridLayout;
+class QToolButton;
+
+namespace tessaryn {
+
+class MovePanel : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit MovePanel(QWidget* parent = nullptr);
+
+ signals:
+  // mode: the keys held at the click, 0 none, 1 Shift, 2 Ctrl, 3 both.
+  void zoom(bool in, int mode);
+  void move(int dx, int dy, int mode);
+  void center();
+  void rotate(bool clockwise, int mode);
+
+ private:
+  QToolButton* Add(QGridLayout& grid, int row, int column, const char* name, const QString& text,
+                   const QString& hint);
+};
+
+}  // namespace tessaryn
