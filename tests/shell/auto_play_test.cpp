@@ -87,8 +87,7 @@ TEST_F(AutoPlayTest, BiasesAndChecksReachTheirOwnFields) {
   for (const auto& [name, field] : flags) {
     Click(*screen, name);
     EXPECT_TRUE(Of(5).*field) << name;
-    for (const auto& [other, otherField] : flags)
-      if (other != name) EXPECT_FALSE(Of(5).*otherField) << other;
+    for (const auto& [other, otherField] : flags) EXPECT_EQ(Of(5).*otherField, other == name) << other;
     Click(*screen, name);
     EXPECT_FALSE(Of(5).*field) << name;
   }
