@@ -48,7 +48,7 @@ TEST_F(AtmTest, MoneyGoesInAndOutAndTheFiguresFollow) {
   EXPECT_EQ(Figure("lblRail"), "$980");
   EXPECT_EQ(Figure("lblAtmTotal"), "$500");
   TypeInto(*screen, "txtAddSub", "30.5");
-  QTest::keyClick(screen.get(), Qt::Key_D, Qt::AltModifier);
+  AccessKey(*screen, Qt::Key_D);
   EXPECT_EQ(table.State().BankrollCurrent[3], ParseMoney("969.50"));
   EXPECT_EQ(Figure("lblBankroll"), "$969.50");
   EXPECT_EQ(Figure("lblAtmTotal"), "$469.50");
@@ -75,7 +75,7 @@ TEST_F(AtmTest, ABankrollBelowZeroKeepsTheBoxChecked) {
   Open();
   auto& box = Find<QCheckBox>(*screen, "chkAllowNegBankroll");
   EXPECT_FALSE(box.isChecked());
-  QTest::keyClick(screen.get(), Qt::Key_N, Qt::AltModifier);
+  AccessKey(*screen, Qt::Key_N);
   EXPECT_TRUE(table.State().AllowNegativeBankroll[3]);
   TypeInto(*screen, "txtAddSub", "800");
   Click(*screen, "cmdDeposit");
@@ -109,7 +109,7 @@ TEST_F(AtmTest, ASwitchedOffAtmMovesNothing) {
 TEST_F(AtmTest, Pictures) {
   TakePictures("atm", [&] { return std::make_unique<AtmScreen>(*table.game, 3, nullptr); });
   table.game->settings.AtmEnabled = false;
-  TakePictures("atm_off", [&] { return std::make_unique<AtmScreen>(*table.game, 3, nullptr); });
+  TakePictures("atm-off", [&] { return std::make_unique<AtmScreen>(*table.game, 3, nullptr); });
 }
 
 }  // namespace

@@ -225,7 +225,7 @@ TEST_F(AutoPlayTest, Pictures) {
                                     {"ProperOddsMode", "1"}})
     ASSERT_TRUE(SetSetting(*table.game, name, 5, value, error)) << error;
   screen.reset();
-  TakePictures("auto_play", [&] { return std::make_unique<AutoPlayScreen>(*table.game, nullptr); });
+  TakePictures("auto-play", [&] { return std::make_unique<AutoPlayScreen>(*table.game, nullptr); });
 }
 
 }  // namespace

@@ -113,11 +113,10 @@ TEST(SettleBet, EveryButtonAndEveryKeyDoesItsOwnChoice) {
           Play(scene, ByDialog([&](QDialog& dialog) { Click(dialog, QString("cmdHandle%1").arg(choice)); }),
                prepare);
       EXPECT_EQ(mouse, core) << scene.name << ", button " << choice;
-      const Outcome key =
-          Play(scene, ByDialog([&](QDialog& dialog) {
-                 QTest::keyClick(&dialog, (scene.won ? kWinKeys : kLoseKeys)[choice], Qt::AltModifier);
-               }),
-               prepare);
+      const Outcome key = Play(scene, ByDialog([&](QDialog& dialog) {
+                                 AccessKey(dialog, (scene.won ? kWinKeys : kLoseKeys)[choice]);
+                               }),
+                               prepare);
       EXPECT_EQ(key, core) << scene.name << ", key " << choice;
       byChoice[choice] = core;
     }
@@ -315,11 +314,11 @@ TEST(SettleBet, TitlesSayWhatHappened) {
 }
 
 TEST(SettleBet, Pictures) {
-  const std::pair<const char*, Scene> pictures[] = {{"settle_bet_win", kScenes[1]},
-                                                    {"settle_bet_lay", kScenes[3]},
-                                                    {"settle_bet_horn", kScenes[5]},
-                                                    {"settle_bet_loss", kScenes[6]},
-                                                    {"settle_bet_over", kScenes[4]}};
+  const std::pair<const char*, Scene> pictures[] = {{"settle-bet-win", kScenes[1]},
+                                                    {"settle-bet-lay", kScenes[3]},
+                                                    {"settle-bet-horn", kScenes[5]},
+                                                    {"settle-bet-loss", kScenes[6]},
+                                                    {"settle-bet-over", kScenes[4]}};
   for (const auto& [name, scene] : pictures)
     Play(scene, [picture = QString(name)](Game& game, const SettleQuestion& question) {
       TakePictures(picture, [&] { return std::make_unique<SettleBetScreen>(game, question, nullptr); });
