@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDialog>
 #include <QPalette>
@@ -87,8 +88,8 @@ inline QDialog* OpenDialog(const char* name) {
 
 // Works the next dialog of the name as soon as it is open and has the keyboard. The dialog must be opened
 // within ten seconds.
-inline void WhenOpen(const char* name, std::function<void(QDialog&)> work, int tries = 500) {
-  QTimer::singleShot(20, qApp, [name, work = std::move(work), tries] {
+inline void WhenOpen(const char* name, std::function<void(QDialog&)> work, int tries = 5000) {
+  QTimer::singleShot(2, qApp, [name, work = std::move(work), tries] {
     QDialog* dialog = OpenDialog(name);
     if (dialog != nullptr && QTest::qWaitForWindowActive(dialog, 2000)) return work(*dialog);
     ASSERT_GT(tries, 0) << "no " << name << " was opened";
@@ -110,9 +111,10 @@ inline void Click(QWidget& screen, const QString& name) {
   QTest::mouseClick(&widget, Qt::LeftButton, {}, QPoint(10, widget.height() / 2));
 }
 
-// An access key, through the window as the platform sends it.
+// An access key, through the window as the platform sends it. Its button is pressed for a tenth of a second.
 inline void AccessKey(QWidget& screen, Qt::Key key) {
   QTest::keyClick(screen.windowHandle(), key, Qt::AltModifier);
+  QTest::qWait(130);
 }
 
 // Clears an entry box and types the text, key by key.
@@ -127,10 +129,13 @@ inline void TypeInto(QWidget& screen, const QString& name, const char* text) {
 // Every control can be found by name and says to a screen reader what it is for.
 inline void ExpectNamed(QWidget& screen) {
   for (QWidget* widget : screen.findChildren<QWidget*>()) {
-    const bool control = widget->focusPolicy() != Qt::NoFocus && widget->isEnabled() &&
-                         widget->parentWidget()->metaObject()->className() != std::string("QComboBox");
-    if (!control || widget->objectName().startsWith("qt_")) continue;
-    EXPECT_FALSE(widget->objectName().isEmpty()) << widget->metaObject()->className();
+    const QString kind = widget->metaObject()->className();
+    const bool popup = kind.startsWith("QComboBox") && kind != "QComboBox";
+    if (widget->focusPolicy() == Qt::NoFocus || popup) continue;
+    EXPECT_FALSE(widget->objectName().isEmpty()) << kind.toStdString();
+    QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
+    EXPECT_FALSE(reader == nullptr || reader->text(QAccessible::Name).isEmpty())
+        << widget->objectName().toStdString();
   }
 }
 

@@ -86,6 +86,7 @@ void AtmScreen::AddAmount(QFormLayout& form) {
 void AtmScreen::AddButtons() {
   auto* row = new QHBoxLayout;
   row->setContentsMargins(16, 12, 16, 16);
+  row->setSpacing(8);
   static_cast<QVBoxLayout*>(layout())->addLayout(row);
   struct Key {
     const char* name;

@@ -26,16 +26,17 @@ struct AutoPlayScreen::Flag {
   const char* setting;
   bool Handling::*field;
   const char* caption;
+  const char* tip;
 };
 const AutoPlayScreen::Flag AutoPlayScreen::kFlags[4] = {
-    {"chkAutoTakeFullOdds", "AutoTakeOdds", &Handling::AutoTakeOdds,
-     QT_TR_NOOP("Auto-&take full odds on Pass Line and Come")},
-    {"chkAutoLayFullOdds", "AutoLayOdds", &Handling::AutoLayOdds,
-     QT_TR_NOOP("Auto-&lay full odds on Don't Pass and Don't Come")},
-    {"chkAutoDownPlaceBets", "AutoDownPlace", &Handling::AutoDownPlace,
-     QT_TR_NOOP("Auto-&down Place and Buy bets on a line or Come number")},
-    {"chkAutoPassDice", "AutoPassDice", &Handling::AutoPassDice,
-     QT_TR_NOOP("Auto-&pass the dice: never shoot")},
+    {"chkAutoTakeFullOdds", "AutoTakeOdds", &Handling::AutoTakeOdds, QT_TR_NOOP("Auto-&take full odds"),
+     QT_TR_NOOP("On Pass Line and Come, when a point is set and when the flat bet changes")},
+    {"chkAutoLayFullOdds", "AutoLayOdds", &Handling::AutoLayOdds, QT_TR_NOOP("Auto-&lay full odds"),
+     QT_TR_NOOP("On Don't Pass and Don't Come, when a point is set and when the flat bet changes")},
+    {"chkAutoDownPlaceBets", "AutoDownPlace", &Handling::AutoDownPlace, QT_TR_NOOP("Auto-&down Place bets"),
+     QT_TR_NOOP("Place and Buy bets on the number of a line or Come bet come down")},
+    {"chkAutoPassDice", "AutoPassDice", &Handling::AutoPassDice, QT_TR_NOOP("Auto-&pass the dice"),
+     QT_TR_NOOP("The player never shoots")},
 };
 
 struct AutoPlayScreen::Bias {
@@ -46,7 +47,7 @@ struct AutoPlayScreen::Bias {
 };
 const AutoPlayScreen::Bias AutoPlayScreen::kBiases[4] = {
     {"cmbPlaceBias", "PlaceBias", &Handling::PlaceBias, QT_TR_NOOP("Place and Buy:")},
-    {"cmbDoBias", "DoBias", &Handling::DoBias, QT_TR_NOOP("Pass, Come, others:")},
+    {"cmbDoBias", "DoBias", &Handling::DoBias, QT_TR_NOOP("Do side, others:")},
     {"cmbDontBias", "DontBias", &Handling::DontBias, QT_TR_NOOP("Don't side:")},
     {"cmbLayBias", "LayBias", &Handling::LayBias, QT_TR_NOOP("Lay:")},
 };
@@ -79,11 +80,14 @@ AutoPlayScreen::AutoPlayScreen(Game& game, QWidget* parent)
   grid->setContentsMargins(0, 0, 0, 0);
   grid->addWidget(HandlingGroup(true), 0, 0);
   grid->addWidget(HandlingGroup(false), 0, 1);
-  grid->addWidget(AmountsGroup(), 1, 0);
-  grid->addWidget(OddsGroup(), 1, 1);
+  auto* row = new QHBoxLayout;
+  row->addWidget(AmountsGroup(), 1);
+  row->addWidget(OddsGroup(), 1);
+  grid->addLayout(row, 1, 0, 1, 2);
   grid->addWidget(WorkingGroup(), 0, 2, 2, 1);
   grid->setRowStretch(0, 1);
-  grid->setColumnStretch(2, 1);
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
   column->addWidget(settings_, 1);
   AddButtonRow(*column);
   ShowSeat(seat_);
@@ -174,12 +178,14 @@ QGroupBox* AutoPlayScreen::AmountsGroup() {
 }
 
 QGroupBox* AutoPlayScreen::OddsGroup() {
-  auto* box = new QGroupBox(tr("By itself"), settings_);
+  auto* box = new QGroupBox(tr("Automatic"), settings_);
   auto* column = new QVBoxLayout(box);
   for (int n = 0; n < 4; ++n) {
     const Flag& flag = kFlags[n];
     flags_[n] = new QCheckBox(tr(flag.caption), box);
     flags_[n]->setObjectName(flag.control);
+    flags_[n]->setToolTip(tr(flag.tip));
+    flags_[n]->setAccessibleDescription(tr(flag.tip));
     connect(flags_[n], &QCheckBox::toggled, this,
             [this, &flag](bool on) { Set(flag.setting, on ? "on" : "off"); });
     column->addWidget(flags_[n]);
@@ -201,6 +207,9 @@ QGroupBox* AutoPlayScreen::WorkingGroup() {
     item->setData(Qt::UserRole, bet);
     item->setCheckState(Qt::Unchecked);
   }
+  working_->setFixedWidth(working_->sizeHintForColumn(0) + 2 * working_->frameWidth() +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
+                          fontMetrics().averageCharWidth());
   connect(working_, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
     Set("BetDefaultWorking." + std::to_string(item->data(Qt::UserRole).toInt()),
         item->checkState() == Qt::Checked ? "on" : "off");

@@ -83,7 +83,16 @@ void AdjustEdit::AddOperator(int slot, const QString& what) {
   operator_ = new QComboBox(this);
   operator_->setObjectName(QString("cmdMathOperator%1").arg(slot));
   operator_->setAccessibleName(tr("%1: operator").arg(what));
-  operator_->addItems({tr("plus"), tr("minus"), tr("times"), tr("divided by")});
+  struct Sign {
+    const char* sign;
+    QString word;
+  };
+  for (const Sign& sign : {Sign{"+", tr("plus")}, Sign{"\u2212", tr("minus")}, Sign{"\u00d7", tr("times")},
+                           Sign{"\u00f7", tr("divided by")}}) {
+    operator_->addItem(QString::fromUtf8(sign.sign));
+    operator_->setItemData(operator_->count() - 1, sign.word, Qt::AccessibleTextRole);
+    operator_->setItemData(operator_->count() - 1, sign.word, Qt::ToolTipRole);
+  }
   connect(operator_, &QComboBox::activated, this, [this](int kind) {
     value_.kind = kind;
     ListUnits();
@@ -98,6 +107,7 @@ void AdjustEdit::AddAmount(int slot, const QString& what) {
   amount_->setAccessibleName(tr("%1: amount").arg(what));
   const int digits = amount_->fontMetrics().horizontalAdvance("9999999.9999");
   amount_->setMinimumWidth(digits + 2 * amount_->fontMetrics().averageCharWidth());
+  amount_->setMaximumWidth(2 * digits);
   connect(amount_, &QLineEdit::textEdited, this, &AdjustEdit::AmountTyped);
   // What was left in the box is shown as it is kept.
   connect(amount_, &QLineEdit::editingFinished, this, [this] { amount_->SetValue(value_.value); });
