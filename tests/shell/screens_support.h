@@ -140,20 +140,16 @@ inline void ExpectNamed(QWidget& screen) {
 }
 
 inline QPalette DarkPalette() {
-  QPalette dark;
-  const QColor window(45, 45, 48);
   const QColor text(232, 232, 232);
-  dark.setColor(QPalette::Window, window);
+  QPalette dark(QColor(58, 58, 62), QColor(45, 45, 48));  // with the shades of edges that go with them
   dark.setColor(QPalette::Base, QColor(30, 30, 32));
-  dark.setColor(QPalette::AlternateBase, window);
-  dark.setColor(QPalette::Button, QColor(58, 58, 62));
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     dark.setColor(role, text);
-  dark.setColor(QPalette::ToolTipBase, window);
-  dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-  dark.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
     dark.setColor(QPalette::Disabled, role, QColor(130, 130, 134));
+  }
+  dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
+  dark.setColor(QPalette::Disabled, QPalette::Highlight, QColor(80, 80, 84));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
   return dark;
 }
 

@@ -314,6 +314,38 @@ TEST(SettleBet, TitlesSayWhatHappened) {
   EXPECT_EQ(shown(false, true), "ODDS OFF, Same Bet Plus 1 &Unit - Add $6 to Bet");
 }
 
+// Odds that were off as their Come bet was decided: nothing moved, and the player says what now.
+TEST(SettleBet, OddsThatWereOffAreAskedFor) {
+  const auto play = [](const Ask& ask, std::string& lines) {
+    ScreenTable table;
+    table.game->settings.MessageMask = 0;
+    table.Join(4, "Alice", "5000");
+    table.Bet(4, kPassLine, "10");
+    table.Roll(1, 4);
+    table.Bet(4, kCome, "10");
+    table.Roll(2, 2);
+    table.Bet(4, kComeOdds4, "20");
+    table.Roll(2, 3);  // the point, so that the next roll is a come-out
+    table.host.askSettlement = [&](Game& game, const SettleQuestion& question) {
+      if (!question.offOdds) return SettleAnswer{};
+      lines = TextOf(SettleLines(game, question));
+      return ask(game, question);
+    };
+    table.Roll(3, 4);
+    return std::pair(table.State().BankrollCurrent[4], table.State().BetAmount(4, kComeOdds4));
+  };
+  std::string lines;
+  const auto byDialog = play(ByDialog([](QDialog& dialog) {
+                               EXPECT_EQ(Find<QLabel>(dialog, "lblTitle").text(), "ODDS OFF");
+                               EXPECT_EQ(Find<QLabel>(dialog, "lblNote").text(),
+                                         "The odds weren't working: nothing was won or lost.");
+                               QTest::keyClick(&dialog, Qt::Key_Escape);
+                             }),
+                             lines);
+  EXPECT_EQ(lines, "Bet: $20");
+  EXPECT_EQ(byDialog, play(Directly({}), lines));
+}
+
 TEST(SettleBet, Pictures) {
   const std::pair<const char*, Scene> pictures[] = {{"settle-bet-win", kScenes[1]},
                                                     {"settle-bet-lay", kScenes[3]},

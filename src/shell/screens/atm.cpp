@@ -78,8 +78,8 @@ void AtmScreen::AddAmount(QFormLayout& form) {
   amount_ = new MoneyEdit(this);
   amount_->setObjectName("txtAddSub");
   amount_->SetValue(game_.settings.AtmUnit);
-  amount_->selectAll();
   amount_->setEnabled(game_.settings.AtmEnabled);
+  if (amount_->isEnabled()) amount_->selectAll();
   form.addRow(tr("A&mount:"), amount_);
 }
 

@@ -144,7 +144,7 @@ QGroupBox* AutoPlayScreen::HandlingGroup(bool win) {
     grid->addWidget(radio, choice, 0, 1, adjusted ? 1 : 2);
     if (!adjusted) continue;
     const int slot = kSlots4[win ? 1 : 0][choice - kWinAdjusted];
-    grid->addWidget(AddAdjust(slot, box->title() + "," + radio->text(), box), choice, 1, Qt::AlignLeft);
+    grid->addWidget(AddAdjust(slot, box->title() + "," + radio->text(), box), choice, 1);
   }
   return box;
 }
@@ -208,8 +208,7 @@ QGroupBox* AutoPlayScreen::WorkingGroup() {
     item->setCheckState(Qt::Unchecked);
   }
   working_->setFixedWidth(working_->sizeHintForColumn(0) + 2 * working_->frameWidth() +
-                          style()->pixelMetric(QStyle::PM_ScrollBarExtent) +
-                          fontMetrics().averageCharWidth());
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent));
   connect(working_, &QListWidget::itemChanged, this, [this](QListWidgetItem* item) {
     Set("BetDefaultWorking." + std::to_string(item->data(Qt::UserRole).toInt()),
         item->checkState() == Qt::Checked ? "on" : "off");

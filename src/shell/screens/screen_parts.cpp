@@ -93,6 +93,7 @@ void AdjustEdit::AddOperator(int slot, const QString& what) {
     operator_->setItemData(operator_->count() - 1, sign.word, Qt::AccessibleTextRole);
     operator_->setItemData(operator_->count() - 1, sign.word, Qt::ToolTipRole);
   }
+  operator_->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(operator_, &QComboBox::activated, this, [this](int kind) {
     value_.kind = kind;
     ListUnits();
@@ -106,8 +107,7 @@ void AdjustEdit::AddAmount(int slot, const QString& what) {
   amount_->setObjectName(QString("txtModifyAmount%1").arg(slot));
   amount_->setAccessibleName(tr("%1: amount").arg(what));
   const int digits = amount_->fontMetrics().horizontalAdvance("9999999.9999");
-  amount_->setMinimumWidth(digits + 2 * amount_->fontMetrics().averageCharWidth());
-  amount_->setMaximumWidth(2 * digits);
+  amount_->setFixedWidth(digits + 2 * amount_->fontMetrics().averageCharWidth());
   connect(amount_, &QLineEdit::textEdited, this, &AdjustEdit::AmountTyped);
   // What was left in the box is shown as it is kept.
   connect(amount_, &QLineEdit::editingFinished, this, [this] { amount_->SetValue(value_.value); });
@@ -119,6 +119,7 @@ void AdjustEdit::AddUnits(int slot, const QString& what) {
   units_->setObjectName(QString("cmdUnits%1").arg(slot));
   units_->setAccessibleName(tr("%1: unit").arg(what));
   units_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  units_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(units_, &QComboBox::activated, this, [this] {
     value_.unit = units_->currentData().toInt();
     emit Edited();
