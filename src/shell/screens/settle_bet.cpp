@@ -1,0 +1,268 @@
+#include "shell/screens/settle_bet.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "engine/bet_catalogue.h"
+#include "engine/bet_limits.h"
+#include "engine/game.h"
+#include "engine/handling.h"
+#include "shell/pictures.h"
+#include "shell/screen_tools.h"
+#include "shell/screens/screen_parts.h"
+
+namespace tessaryn {
+
+namespace {
+
+constexpr int kDiceHeight = 44;
+constexpr int kChoices = 7;
+
+const char* const kWinButtons[kChoices + 1] = {"",
+                                               QT_TR_NOOP("&Take Bet and Winnings"),
+                                               QT_TR_NOOP("&Same Bet - Take Winnings"),
+                                               QT_TR_NOOP("Press 1 &Unit - Add $%1 to Bet"),
+                                               QT_TR_NOOP("Press - Add Winnings to &Double Bet"),
+                                               QT_TR_NOOP("Parlay - Add &All Winnings to Bet"),
+                                               QT_TR_NOOP("Sa&me Bet:"),
+                                               QT_TR_NOOP("&Bet:")};
+const char* const kLoseButtons[kChoices + 1] = {"",
+                                                QT_TR_NOOP("&No Bet/Take Remainder (if any)"),
+                                                QT_TR_NOOP("&Same Bet"),
+                                                QT_TR_NOOP("Bet &Remainder (if any)"),
+                                                QT_TR_NOOP("Same Bet Plus 1 &Unit - Add $%1 to Bet"),
+                                                QT_TR_NOOP("&Double Bet"),
+                                                QT_TR_NOOP("Sa&me Bet:"),
+                                                QT_TR_NOOP("&Bet:")};
+
+int SafeChoice(bool won) { return won ? int{kWinSame} : int{kLoseTakeDown}; }
+
+// A bet that is cut into shares of which one wins.
+struct Shared {
+  int bet;
+  int shares;
+  const char* wins;
+  const char* loses;
+};
+constexpr Shared kShared[] = {
+    {kCAndE, 2, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Half of the bet wins:"),
+     QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Half of the bet loses:")},
+    {kHorn, 4, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A quarter of the bet wins:"),
+     QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Three quarters of the bet lose:")},
+    {kWorld, 5, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A fifth of the bet wins:"),
+     QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Four fifths of the bet lose:")},
+};
+
+// The bets of a whole hand, and what was counted for them.
+struct Counted {
+  int bet;
+  const char* caption;
+};
+constexpr Counted kCounted[] = {
+    {kSharpShooter, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Points made:")},
+    {kRideTheLine, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Line wins:")},
+    {kFire, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Different points made:")},
+};
+
+template <typename Row, std::size_t kRows>
+const Row* RowOf(const Row (&rows)[kRows], int bet) {
+  for (const Row& row : rows)
+    if (row.bet == bet) return &row;
+  return nullptr;
+}
+
+QString PayoffCaption(const PayoffRecord& record) {
+  const QString text = record.ForFlag == kZero ? SettleBetScreen::tr("Payoff at %1 for %2:")
+                                               : SettleBetScreen::tr("Payoff at %1 to %2:");
+  return text.arg(MoneyText(record.PayTo), MoneyText(record.PayPer));
+}
+
+void AddShares(const Shared& shared, Currency amount, Currency share, std::vector<SettleLine>& lines) {
+  lines.push_back({"lblShareWins", SettleBetScreen::tr(shared.wins), DollarText(share)});
+  lines.push_back({"lblShareLoses", SettleBetScreen::tr(shared.loses), DollarText(-(amount - share))});
+}
+
+QPixmap DiceAsRolled(const TableState& table, double ratio) {
+  if (table.Die1 < 1 || table.Die2 < 1) return {};
+  const QSize size(kDiceHeight * 2 + kDiceHeight / 4, kDiceHeight);
+  QPixmap picture((QSizeF(size) * ratio).toSize());
+  picture.setDevicePixelRatio(ratio);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const int faces[2] = {table.Die1, table.Die2};
+  for (int n = 0; n < 2; ++n) {
+    painter.save();
+    painter.translate(n == 0 ? kDiceHeight / 2.0 : size.width() - kDiceHeight / 2.0, kDiceHeight / 2.0);
+    painter.scale(kDiceHeight, kDiceHeight);
+    PaintDie(painter, faces[n], kDiceRed, Qt::white);
+    painter.restore();
+  }
+  return picture;
+}
+
+}  // namespace
+
+std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& question) {
+  using Screen = SettleBetScreen;
+  std::vector<SettleLine> lines;
+  const int bet = question.bet;
+  const Currency amount = game.table.BetAmount(question.seat, bet);
+  lines.push_back({"lblBetAmount", Screen::tr("Bet:"), DollarText(amount)});
+  if (question.offOdds) return lines;
+  if (const Counted* counted = RowOf(kCounted, bet))
+    lines.push_back({"lblCount", Screen::tr(counted->caption), QString::number(question.count)});
+  // What was paid at the ratio, before the shares that lost and the vig were taken off.
+  Currency paid = question.gross;
+  if (const Shared* shared = RowOf(kShared, bet); shared != nullptr && question.won) {
+    const Currency share = Divide(amount, Currency::Dollars(shared->shares));
+    AddShares(*shared, amount, share, lines);
+    paid += amount - share;
+  }
+  const Currency vig = question.won || VigUpFront(game, bet) ? question.vig : kZero;
+  paid += vig;
+  const PayoffRecord& record = game.payoffs.PayoffTable[0];
+  const bool plainLoss = !question.won && record.PayTo == -record.PayPer;
+  lines.push_back(
+      {"lblPayoff", plainLoss ? Screen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
+  if (HasVig(bet)) {
+    const Currency rate = IsLay(bet) ? game.settings.LayVigRate : game.settings.BuyVigRate;
+    const Currency percent = Multiply(rate, Currency::Dollars(100));
+    lines.push_back({"lblVig", Screen::tr("%1% vig:").arg(MoneyText(percent)), DollarText(-vig)});
+  }
+  if (paid != question.gross)
+    lines.push_back({"lblNet", question.won ? Screen::tr("Net payoff:") : Screen::tr("Net loss:"),
+                     DollarText(question.gross)});
+  if (question.net != question.gross)
+    lines.push_back({"lblRounded",
+                     question.won ? Screen::tr("Net payoff (rounded):") : Screen::tr("Net loss (rounded):"),
+                     DollarText(question.net)});
+  return lines;
+}
+
+SettleBetScreen::SettleBetScreen(const Game& game, const SettleQuestion& question, QWidget* parent)
+    : QDialog(parent), question_(question), choice_(SafeChoice(question.won)) {
+  setObjectName("frmSettleBet");
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  AddHeader(game);
+  AddLines(game);
+  AddChoices(game);
+  column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void SettleBetScreen::AddHeader(const Game& game) {
+  const QColor& colour = question_.offOdds ? kBandGrey : question_.won ? kBandGreen : kBandRed;
+  auto* header = new HeaderBand(colour, DiceAsRolled(game.table, devicePixelRatioF()), this);
+  const QString title = question_.offOdds ? tr("ODDS OFF") : question_.won ? tr("WINNER") : tr("LOSER");
+  const QString player = FromCore(game.table.SeatName[question_.seat]);
+  const QString bet = tr(BetName(question_.bet).c_str());
+  header->AddTitle(title);
+  header->AddLine("lblBet", bet)->setAccessibleName(tr("%1, bet %2").arg(player, bet));
+  header->AddLine("lblPlayer", player);
+  setWindowTitle(tr("%1 - %2").arg(player, bet));
+  layout()->addWidget(header);
+}
+
+void SettleBetScreen::AddLines(const Game& game) {
+  auto* area = new QWidget(this);
+  auto* grid = new QGridLayout(area);
+  grid->setContentsMargins(16, 14, 16, 4);
+  grid->setHorizontalSpacing(24);
+  grid->setColumnStretch(0, 1);
+  int row = 0;
+  const std::vector<SettleLine> lines = SettleLines(game, question_);
+  for (const SettleLine& line : lines) {
+    auto* caption = new QLabel(line.caption, area);
+    caption->setObjectName(line.name);
+    auto* value = new QLabel(line.value, area);
+    value->setObjectName(QString(line.name) + "Value");
+    value->setAccessibleName(line.caption + " " + line.value);
+    value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    const bool result = row + 1 == static_cast<int>(lines.size()) && row > 0;
+    QFont font = value->font();
+    font.setBold(result);
+    caption->setFont(font);
+    value->setFont(font);
+    grid->addWidget(caption, row, 0);
+    grid->addWidget(value, row++, 1);
+  }
+  const QString note = question_.offOdds        ? tr("The odds weren't working: nothing was won or lost.")
+                       : game.table.BetFinished ? tr("This bet is over. It comes down with every choice.")
+                                                : QString();
+  if (!note.isEmpty()) {
+    auto* label = new QLabel(note, area);
+    label->setObjectName("lblNote");
+    grid->addWidget(label, row, 0, 1, 2);
+  }
+  layout()->addWidget(area);
+}
+
+void SettleBetScreen::AddChoices(const Game& game) {
+  auto* area = new QWidget(this);
+  auto* grid = new QGridLayout(area);
+  grid->setContentsMargins(16, 12, 16, 16);
+  grid->setColumnStretch(1, 1);
+  layout()->addWidget(area);
+  const bool won = question_.won;
+  same_ = new AdjustEdit(won ? kSlotWinSame : kSlotLoseSame, game.settings, tr("Same Bet"), area);
+  fixed_ = new AdjustEdit(won ? kSlotWinBet : kSlotLoseBet, game.settings, tr("Bet"), area);
+  const Handling& handling = game.table.handling[question_.seat];
+  const auto slot = [&](int n) {
+    return Adjustment{handling.AdjustKind[n], handling.AdjustValue[n], handling.AdjustUnit[n]};
+  };
+  same_->SetValue(slot(won ? kSlotWinSame : kSlotLoseSame));
+  fixed_->SetValue(slot(won ? kSlotWinBet : kSlotLoseBet));
+  for (int choice = 1; choice <= kChoices; ++choice) AddChoice(*grid, choice);
+}
+
+void SettleBetScreen::AddChoice(QGridLayout& grid, int choice) {
+  QString caption = tr((question_.won ? kWinButtons : kLoseButtons)[choice]);
+  if (choice == (question_.won ? int{kWinPressUnit} : int{kLosePlusUnit}))
+    caption = caption.arg(MoneyText(question_.pressUnit));
+  auto* button = new QPushButton(caption, grid.parentWidget());
+  button->setObjectName(QString("cmdHandle%1").arg(choice));
+  button->setAutoDefault(true);
+  connect(button, &QPushButton::clicked, this, [this, choice] { Choose(choice); });
+  AdjustEdit* edit = choice == kWinAdjusted ? same_ : choice == kWinFixed ? fixed_ : nullptr;
+  grid.addWidget(button, choice, 0, 1, edit == nullptr ? 2 : 1);
+  if (edit != nullptr) {
+    grid.addWidget(edit, choice, 1);
+    setTabOrder(button, edit);
+    // Enter behind an amount just typed bets that amount.
+    connect(edit, &AdjustEdit::Edited, button, [button] { button->setDefault(true); });
+  }
+  if (choice == SafeChoice(question_.won)) {
+    button->setDefault(true);
+    button->setFocus();
+  }
+}
+
+void SettleBetScreen::Choose(int choice) {
+  choice_ = choice;
+  accept();
+}
+
+SettleAnswer SettleBetScreen::Answer() const {
+  SettleAnswer answer;
+  answer.choice = choice_;
+  if (choice_ != kWinAdjusted && choice_ != kWinFixed) return answer;
+  const Adjustment& typed = (choice_ == kWinAdjusted ? same_ : fixed_)->Value();
+  answer.adjustKind = typed.kind;
+  answer.adjustValue = typed.value;
+  answer.adjustUnit = typed.unit;
+  return answer;
+}
+
+SettleAnswer AskSettleBet(QWidget* parent, Game& game, const SettleQuestion& question) {
+  SettleBetScreen screen(game, question, parent);
+  RunDialog(screen);
+  return screen.Answer();
+}
+
+}  // namespace tessaryn
