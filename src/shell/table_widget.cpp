@@ -467,7 +467,6 @@ bool TableWidget::eventFilter(QObject* object, QEvent* event) {
 // --- Dice and flashing.
 
 void TableWidget::PlaceDice() {
-  restingRoll_ = SessionRolls(game_.stats);
   scene.dice = RestingDice(game_, SessionRolls(game_.stats));
   update();
 }
