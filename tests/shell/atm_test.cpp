@@ -106,6 +106,15 @@ TEST_F(AtmTest, ASwitchedOffAtmMovesNothing) {
   EXPECT_FALSE(screen->isVisible());
 }
 
+TEST_F(AtmTest, ALongNameIsCutNotTheScreen) {
+  const std::string name(90, 'W');
+  std::string error;
+  ASSERT_TRUE(RenameTo(*table.game, 3, name, error)) << error;
+  Open();
+  EXPECT_LE(screen->width(), 600);
+  EXPECT_EQ(Find<QLabel>(*screen, "lblPlayer").toolTip().toStdString(), name);
+}
+
 TEST_F(AtmTest, Pictures) {
   TakePictures("atm", [&] { return std::make_unique<AtmScreen>(*table.game, 3, nullptr); });
   table.game->settings.AtmEnabled = false;

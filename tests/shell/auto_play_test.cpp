@@ -193,7 +193,12 @@ TEST_F(AutoPlayTest, AnotherPlayerIsShownWithoutBeingChanged) {
 }
 
 TEST_F(AutoPlayTest, FitsTheSmallestScreenAndNamesItsControls) {
-  EXPECT_LE(screen->sizeHint().width(), 1000);
+  // With the widest that can stand in it: a long name and large checks.
+  table.Join(8, std::string(90, 'W'));
+  for (int n = 2; n <= 5; ++n) table.game->settings.CheckValue[n] = Currency::Dollars(9'999'990 + n);
+  Open();
+  // 1024 by 600, less a window's frame and title.
+  EXPECT_LE(screen->sizeHint().width(), 1008);
   EXPECT_LE(screen->sizeHint().height(), 550);
   ExpectNamed(*screen);
   QTest::keyClick(screen.get(), Qt::Key_Escape);

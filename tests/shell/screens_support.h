@@ -153,6 +153,18 @@ inline QPalette DarkPalette() {
   return dark;
 }
 
+// The names of the controls as Tab walks them, from the one named.
+inline QStringList TabWalk(QWidget& screen, const QString& from) {
+  QStringList names;
+  QWidget* const first = &Find<QWidget>(screen, from);
+  QWidget* at = first;
+  do {
+    if ((at->focusPolicy() & Qt::TabFocus) != 0 && at->isVisible()) names.append(at->objectName());
+    at = at->nextInFocusChain();
+  } while (at != first);
+  return names;
+}
+
 // Writes a picture of the dialog, on a light and on a dark desktop, into the folder that TESSARYN_PICTURES
 // names. make gives a new dialog.
 inline void TakePictures(const QString& name, const std::function<std::unique_ptr<QDialog>()>& make) {

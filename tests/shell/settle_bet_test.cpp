@@ -290,6 +290,17 @@ TEST(SettleBet, HandBetsNameTheirCount) {
   EXPECT_EQ(players[kFire], "Zoë");
 }
 
+TEST(SettleBet, TabWalksDownTheChoices) {
+  QStringList names;
+  Play(kScenes[0], ByDialog([&](QDialog& dialog) {
+         names = TabWalk(dialog, "cmdHandle1");
+         QTest::keyClick(&dialog, Qt::Key_Escape);
+       }));
+  EXPECT_EQ(names.join(" ").toStdString(),
+            "cmdHandle1 cmdHandle2 cmdHandle3 cmdHandle4 cmdHandle5 cmdHandle6 cmdMathOperator4 "
+            "txtModifyAmount4 cmdUnits4 cmdHandle7 txtModifyAmount6 cmdUnits6");
+}
+
 TEST(SettleBet, TitlesSayWhatHappened) {
   ScreenTable table;
   MakeScene(table, {"", kPlace4 + 2, "12", 3, 3, true});

@@ -98,8 +98,8 @@ void AutoPlayScreen::AddPlayerRow(QBoxLayout& column) {
   column.addLayout(row);
   player_ = new QComboBox(this);
   player_->setObjectName("cmbPlayer");
-  player_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  player_->setMinimumContentsLength(16);
+  player_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  player_->setMinimumContentsLength(24);
   for (int seat = 1; seat <= kSeats; ++seat)
     if (const std::string& name = game_.table.SeatName[seat]; !name.empty())
       player_->addItem(FromCore(name), seat);

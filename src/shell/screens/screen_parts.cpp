@@ -1,5 +1,6 @@
 #include "shell/screens/screen_parts.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -17,6 +18,8 @@ constexpr int kDollars = 0;
 constexpr int kPercent = 1;
 constexpr int kFirstCheckUnit = 2;
 constexpr int kLastCheckUnit = 6;
+constexpr int kUnitLetters = 6;
+constexpr int kLineLetters = 40;
 constexpr double kTitleSize = 1.7;  // of the dialog's font
 
 }  // namespace
@@ -65,6 +68,11 @@ QLabel* HeaderBand::AddTitle(const QString& text) {
 QLabel* HeaderBand::AddLine(const QString& objectName, const QString& text) {
   QLabel* label = AddLabel(text, 1.0, false);
   label->setObjectName(objectName);
+  // Names may be longer than a dialog is wide.
+  const QFontMetrics metrics = label->fontMetrics();
+  label->setText(metrics.elidedText(text, Qt::ElideRight, kLineLetters * metrics.averageCharWidth()));
+  if (label->text() != text) label->setToolTip(text);
+  label->setAccessibleName(text);
   return label;
 }
 
@@ -73,6 +81,7 @@ AdjustEdit::AdjustEdit(int slot, const Settings& settings, const QString& what, 
   std::copy(std::begin(settings.CheckValue), std::end(settings.CheckValue), checks_);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
+  row->setSpacing(4);
   if (slot == kSlotWinSame || slot == kSlotLoseSame) AddOperator(slot, what);
   AddAmount(slot, what);
   AddUnits(slot, what);
@@ -118,7 +127,9 @@ void AdjustEdit::AddUnits(int slot, const QString& what) {
   units_ = new QComboBox(this);
   units_->setObjectName(QString("cmdUnits%1").arg(slot));
   units_->setAccessibleName(tr("%1: unit").arg(what));
-  units_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  // The largest checks would make it too wide for a small screen; the list that it opens shows them whole.
+  units_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  units_->setMinimumContentsLength(kUnitLetters);
   units_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
   connect(units_, &QComboBox::activated, this, [this] {
     value_.unit = units_->currentData().toInt();
@@ -145,6 +156,7 @@ void AdjustEdit::ListUnits() {
     for (int unit = kFirstCheckUnit; unit <= kLastCheckUnit; ++unit)
       units_->addItem(tr("%1 units").arg(DollarText(checks_[unit - 1])), unit);
   units_->setCurrentIndex(std::max(0, units_->findData(value_.unit)));
+  units_->view()->setMinimumWidth(units_->view()->sizeHintForColumn(0));
 }
 
 void AdjustEdit::AmountTyped() {

@@ -209,19 +209,27 @@ void SettleBetScreen::AddChoices(const Game& game) {
   grid->setContentsMargins(16, 12, 16, 16);
   grid->setColumnStretch(1, 1);
   layout()->addWidget(area);
+  for (int choice = 1; choice < kWinAdjusted; ++choice) AddChoice(*grid, choice);
   const bool won = question_.won;
-  same_ = new AdjustEdit(won ? kSlotWinSame : kSlotLoseSame, game.settings, tr("Same Bet"), area);
-  fixed_ = new AdjustEdit(won ? kSlotWinBet : kSlotLoseBet, game.settings, tr("Bet"), area);
-  const Handling& handling = game.table.handling[question_.seat];
-  const auto slot = [&](int n) {
-    return Adjustment{handling.AdjustKind[n], handling.AdjustValue[n], handling.AdjustUnit[n]};
-  };
-  same_->SetValue(slot(won ? kSlotWinSame : kSlotLoseSame));
-  fixed_->SetValue(slot(won ? kSlotWinBet : kSlotLoseBet));
-  for (int choice = 1; choice <= kChoices; ++choice) AddChoice(*grid, choice);
+  same_ = AddAdjusted(*grid, kWinAdjusted, won ? kSlotWinSame : kSlotLoseSame, game);
+  fixed_ = AddAdjusted(*grid, kWinFixed, won ? kSlotWinBet : kSlotLoseBet, game);
 }
 
-void SettleBetScreen::AddChoice(QGridLayout& grid, int choice) {
+// A choice with its amount, which begins as the seat keeps it.
+AdjustEdit* SettleBetScreen::AddAdjusted(QGridLayout& grid, int choice, int slot, const Game& game) {
+  QPushButton* button = AddChoice(grid, choice);
+  grid.addWidget(button, choice, 0);
+  const Handling& handling = game.table.handling[question_.seat];
+  const QString what = button->text().remove('&').remove(':');
+  auto* edit = new AdjustEdit(slot, game.settings, what, grid.parentWidget());
+  edit->SetValue({handling.AdjustKind[slot], handling.AdjustValue[slot], handling.AdjustUnit[slot]});
+  grid.addWidget(edit, choice, 1);
+  // Enter behind an amount just typed bets that amount.
+  connect(edit, &AdjustEdit::Edited, button, [button] { button->setDefault(true); });
+  return edit;
+}
+
+QPushButton* SettleBetScreen::AddChoice(QGridLayout& grid, int choice) {
   QString caption = tr((question_.won ? kWinButtons : kLoseButtons)[choice]);
   if (choice == (question_.won ? int{kWinPressUnit} : int{kLosePlusUnit}))
     caption = caption.arg(MoneyText(question_.pressUnit));
@@ -229,18 +237,12 @@ void SettleBetScreen::AddChoice(QGridLayout& grid, int choice) {
   button->setObjectName(QString("cmdHandle%1").arg(choice));
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this, [this, choice] { Choose(choice); });
-  AdjustEdit* edit = choice == kWinAdjusted ? same_ : choice == kWinFixed ? fixed_ : nullptr;
-  grid.addWidget(button, choice, 0, 1, edit == nullptr ? 2 : 1);
-  if (edit != nullptr) {
-    grid.addWidget(edit, choice, 1);
-    setTabOrder(button, edit);
-    // Enter behind an amount just typed bets that amount.
-    connect(edit, &AdjustEdit::Edited, button, [button] { button->setDefault(true); });
-  }
+  if (choice < kWinAdjusted) grid.addWidget(button, choice, 0, 1, 2);
   if (choice == SafeChoice(question_.won)) {
     button->setDefault(true);
     button->setFocus();
   }
+  return button;
 }
 
 void SettleBetScreen::Choose(int choice) {

@@ -8,6 +8,7 @@
 #include "engine/host.h"
 
 class QGridLayout;
+class QPushButton;
 
 namespace tessaryn {
 
@@ -34,7 +35,8 @@ class SettleBetScreen : public QDialog {
   void AddHeader(const Game& game);
   void AddLines(const Game& game);
   void AddChoices(const Game& game);
-  void AddChoice(QGridLayout& grid, int choice);
+  QPushButton* AddChoice(QGridLayout& grid, int choice);
+  AdjustEdit* AddAdjusted(QGridLayout& grid, int choice, int slot, const Game& game);
   void Choose(int choice);
 
   SettleQuestion question_;
