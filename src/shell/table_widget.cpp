@@ -87,7 +87,6 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
   entry_->setAccessibleName(tr("Bet amount"));
   entry_->hide();
   entry_->installEventFilter(this);
-  connect(entry_, &QLineEdit::returnPressed, this, [this] { CommitEntry(); });
   connect(flashTimer_, &QTimer::timeout, this, [this] {
     scene.hideBets = --flashes_ % 2 != 0;
     if (flashes_ <= 0) {
@@ -446,20 +445,25 @@ bool TableWidget::CommitEntry() {
   if (!EntryOpen()) return true;
   const int bet = std::exchange(entryBet_, 0);
   const Currency amount = entry_->Value();
-  entry_->hide();
-  setFocus();
+  CloseEntry();
   TakeEnteredAmount(game_, bet, amount);
   Refresh();
   return game_.table.BetAmount(game_.table.SelectedSeat, bet) == amount;
 }
 
+// The focus goes first, so that it isn't handed on to the areas.
+void TableWidget::CloseEntry() {
+  entryBet_ = 0;
+  setFocus();
+  entry_->hide();
+}
+
 bool TableWidget::eventFilter(QObject* object, QEvent* event) {
-  if (object == entry_ && event->type() == QEvent::KeyPress &&
-      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
-    entryBet_ = 0;
-    entry_->hide();
-    setFocus();
-    return true;
+  if (object == entry_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape) CloseEntry();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) CommitEntry();
+    if (!EntryOpen()) return true;
   }
   return QWidget::eventFilter(object, event);
 }

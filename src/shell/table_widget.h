@@ -87,6 +87,7 @@ class TableWidget : public QWidget {
   void TellFocus();
   void LeftPress(QMouseEvent* event);
   void SetMargins();
+  void CloseEntry();
 
   Game& game_;
   TableCommands& commands_;

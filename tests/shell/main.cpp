@@ -4,9 +4,12 @@
 #include <QFont>
 #include <QLocale>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 
 // The screens' tests need no screen: fonts, style, size and locale are pinned.
 int main(int count, char** arguments) {
+  const QTemporaryDir runtime;  // of this run's own, so that nothing is said of its absence or permissions
+  qputenv("XDG_RUNTIME_DIR", runtime.path().toUtf8());
   qputenv("QT_QPA_PLATFORM", "offscreen");
   testing::InitGoogleTest(&count, arguments);
   QLocale::setDefault(QLocale::c());

@@ -1,0 +1,426 @@
+// A whole evening by real mouse and key events on the real window, beside the same commands given to a core
+// that has no window: after every step both tables are the same, and both said the same.
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <set>
+
+#include "engine/bet_catalogue.h"
+#include "engine/bet_rules.h"
+#include "engine/players.h"
+#include "shell/main_window.h"
+#include "shell/screen_tools.h"
+#include "shell/screens_support.h"
+
+namespace tessaryn::test {
+namespace {
+
+// Hands at the boxes: notes what each says, answers questions as told and settles bets by every choice in
+// turn.
+class Hands {
+ public:
+  Hands() {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { Look(); });
+    timer_.start(0);
+  }
+  std::deque<std::function<void(QDialog&)>> answers;  // for questions, in their order
+  std::vector<std::string> texts;
+  int settled = 0;
+
+ private:
+  void Look() {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible() || busy_) return;
+    busy_ = true;
+    if (dialog->objectName() == "frmSettleBet") {
+      Click(*dialog, QString("cmdHandle%1").arg(1 + settled++ % 7));
+    } else if (dialog->objectName() == "frmMsg") {
+      Read(*dialog);
+    }
+    busy_ = false;
+  }
+  void Read(QDialog& box) {
+    const bool question =
+        box.findChild<QWidget*>("cmdButton1") != nullptr || box.findChild<QWidget*>("txtInput0") != nullptr;
+    if (!question) {
+      texts.push_back(ToCore(box.windowTitle() + "|" + box.findChild<QLabel*>("lblMsg")->text()));
+      QTest::mouseClick(box.findChild<QWidget*>("cmdButton0"), Qt::LeftButton);
+      return;
+    }
+    ASSERT_FALSE(answers.empty()) << "asked: " << box.findChild<QLabel*>("lblMsg")->text().toStdString();
+    const auto answer = answers.front();
+    answers.pop_front();
+    answer(box);
+  }
+
+  QTimer timer_;
+  bool busy_ = false;
+};
+
+void PressReturn(QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); }
+
+std::function<void(QDialog&)> Typing(const char* text) {
+  return [text](QDialog& box) {
+    auto* entry = box.findChild<QLineEdit*>("txtInput0");
+    ASSERT_NE(entry, nullptr);
+    entry->selectAll();
+    QTest::keyClicks(entry, text);
+    QTest::keyClick(entry, Qt::Key_Return);
+  };
+}
+
+struct Evening {
+  ScreenTable real;
+  TestTable model;
+  MainWindow window{*real.game, real.host};
+  Hands hands;
+  std::size_t saidBefore = 0;
+
+  Evening() {
+    window.resize(1500, 900);
+    window.Table().animate = false;
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+    // Every choice of the settlement dialog in turn, as the hands press them.
+    for (int n = 0; n < 20'000; ++n) {
+      SettleAnswer answer;
+      answer.choice = 1 + n % 7;
+      model.host.settleAnswers.push_back(answer);
+    }
+  }
+  TableWidget& Table() { return window.Table(); }
+  TableState& Core() { return model.game->table; }
+
+  void Compare(const std::string& after) {
+    const TableState& a = real.game->table;
+    const TableState& b = Core();
+    ASSERT_EQ(a.Point, b.Point) << after;
+    ASSERT_EQ(a.ShooterSeat, b.ShooterSeat) << after;
+    ASSERT_EQ(a.HandSeat, b.HandSeat) << after;
+    ASSERT_EQ(a.SelectedSeat, b.SelectedSeat) << after;
+    for (int seat = 0; seat <= kSeats; ++seat) {
+      ASSERT_EQ(a.SeatName[seat], b.SeatName[seat]) << after;
+      ASSERT_EQ(a.BankrollCurrent[seat].raw, b.BankrollCurrent[seat].raw) << after << ", seat " << seat;
+      ASSERT_EQ(a.OnTableAmount[seat].raw, b.OnTableAmount[seat].raw) << after << ", seat " << seat;
+      for (int bet = 1; bet <= kBets; ++bet) {
+        ASSERT_EQ(a.BetAmount(seat, bet).raw, b.BetAmount(seat, bet).raw)
+            << after << ", " << BetName(bet) << " of " << seat;
+        ASSERT_EQ(BetWorkingOf(*real.game, seat, bet), BetWorkingOf(*model.game, seat, bet))
+            << after << ", " << BetName(bet);
+        ASSERT_EQ(a.BetCommitted(seat, bet).raw, b.BetCommitted(seat, bet).raw)
+            << after << ", " << BetName(bet);
+      }
+    }
+    ASSERT_EQ(hands.texts.size() - saidBefore, model.host.boxes.size()) << after;
+    for (std::size_t n = 0; n < model.host.boxes.size(); ++n) {
+      const ShownBox& box = model.host.boxes[n];
+      ASSERT_EQ(hands.texts[saidBefore + n], box.title + "|" + box.text) << after;
+    }
+    saidBefore = hands.texts.size();
+    model.host.boxes.clear();
+  }
+
+  // A key as the platform sends it: shortcuts belong to the active window.
+  void Key(Qt::Key key) {
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(window.windowHandle(), key);
+  }
+
+  // --- Each step, by hand and by command.
+  void Join(int seat, const char* name) {
+    hands.answers = {PressReturn, Typing(name), Typing("9000")};
+    QTest::mouseClick(&Table(), Qt::LeftButton, {}, Table().PointOfSeat(seat));
+    EXPECT_TRUE(hands.answers.empty());
+    model.Join(seat, name, "9000");
+    SelectSeat(*model.game, seat);
+    Compare(std::string("join ") + name);
+  }
+  void Select(int seat) {
+    QTest::mouseClick(&Table(), Qt::LeftButton, {}, Table().PointOfSeat(seat));
+    SelectSeat(*model.game, seat);
+    Compare("select");
+  }
+  void Bet(int bet, int check) {
+    auto* button = window.findChild<QWidget*>(QString("picCheck%1").arg(check));
+    QTest::mouseClick(button, Qt::LeftButton);
+    const int seat = Core().SelectedSeat;
+    const int meant = MeantBet(*model.game, Table().Layout().Areas.empty() ? bet : AreaOf(bet));
+    QTest::mouseClick(&Table(), Qt::LeftButton, {}, Table().PointOfBet(seat, bet));
+    PlaceBet(*model.game, seat, meant, model.game->settings.CheckValue[check]);
+    Compare("bet " + BetName(bet));
+  }
+  // Odds on Don't Pass have no area of their own.
+  static int AreaOf(int bet) { return bet == kDontPassOdds ? static_cast<int>(kDontPass) : bet; }
+  void KeyThenClick(Qt::Key key, int bet, const std::function<void(Game&, int)>& command) {
+    const int seat = Core().SelectedSeat;
+    const int meant = MeantBet(*model.game, AreaOf(bet));
+    Key(key);
+    // A command that can't act leaves the click a plain bet; such steps are not taken here.
+    QTest::mouseClick(&Table(), Qt::LeftButton, {}, Table().PointOfBet(seat, bet));
+    command(*model.game, meant);
+    Compare("key and click on " + BetName(bet));
+  }
+  void Roll(int die1, int die2) {
+    for (TableState* table : {&real.game->table, &Core()}) {
+      table->ManualDie1 = die1;
+      table->ManualDie2 = die2;
+      table->ManualRollPending = true;
+    }
+    QTest::mouseClick(&Table(), Qt::RightButton, {}, QPoint(5, 5));
+    model.Roll(die1, die2);
+    Compare("roll " + std::to_string(die1) + std::to_string(die2));
+  }
+};
+
+TEST(Evening, FourPlayersBetEverythingAndLeaveTheSameTableAsTheCore) {
+  Evening evening;
+  for (Game* game : {evening.real.game.get(), evening.model.game.get()})
+    for (auto& handling : game->table.handling) handling.WinHandling = handling.LoseHandling = 0;
+  evening.Join(2, "Ann");
+  evening.Join(4, "Boris");
+  evening.Join(5, "Cleo");
+  evening.Join(7, "Dan");
+  const int kSeatsHere[] = {2, 4, 5, 7};
+  const int kDice[][2] = {{2, 4}, {5, 5}, {6, 3}, {1, 1}, {4, 4}, {3, 3},
+                          {6, 5}, {4, 1}, {2, 2}, {1, 2}, {3, 4}};
+  int step = 0;
+  for (const auto& dice : kDice) {
+    for (const int seat : kSeatsHere) {
+      ASSERT_NO_FATAL_FAILURE(evening.Select(seat));
+      // On the come-out and in the middle of a hand everything that can be bet, and what can't.
+      const bool all = step == 0 || step == 3;
+      for (int bet = 1; bet <= kBets; ++bet)
+        if (all || (bet * 7 + seat + step) % 23 == 0) {
+          ASSERT_NO_FATAL_FAILURE(evening.Bet(bet, 1 + (bet + seat + step) % 4));
+        }
+    }
+    const int seat = evening.Core().SelectedSeat;
+    const BetSet& up = evening.Core().SeatBets[seat];
+    const auto first = [&](int from) {
+      for (int bet = from; bet < from + 6; ++bet)
+        if (up.Has(bet)) return bet;
+      return 0;
+    };
+    if (const int place = first(kPlace4); place != 0 && !up.Has(place + 6)) {
+      ASSERT_NO_FATAL_FAILURE(evening.KeyThenClick(
+          Qt::Key_F5, place, [seat](Game& game, int bet) { BuyPlaceBet(game, seat, bet); }));
+    }
+    if (const int buy = first(kBuy4); buy != 0) {
+      ASSERT_NO_FATAL_FAILURE(evening.KeyThenClick(
+          Qt::Key_F7, buy, [seat](Game& game, int bet) { CallBet(game, seat, bet, false); }));
+      ASSERT_NO_FATAL_FAILURE(evening.KeyThenClick(
+          Qt::Key_F6, buy, [seat](Game& game, int bet) { CallBet(game, seat, bet, true); }));
+    }
+    if (up.Has(kHard8)) {
+      ASSERT_NO_FATAL_FAILURE(evening.KeyThenClick(
+          Qt::Key_Delete, kHard8, [seat](Game& game, int bet) { RemoveBet(game, seat, bet); }));
+    }
+    if (step == 4) {
+      evening.Key(Qt::Key_P);
+      PassDice(*evening.model.game, kPassByUser);
+      ASSERT_NO_FATAL_FAILURE(evening.Compare("pass"));
+    }
+    ASSERT_NO_FATAL_FAILURE(evening.Roll(dice[0], dice[1]));
+    ++step;
+  }
+  EXPECT_GT(evening.hands.settled, 40);
+  EXPECT_EQ(evening.hands.settled, static_cast<int>(evening.model.host.settleQuestions.size()));
+  EXPECT_GT(evening.hands.texts.size(), 100u) << "refusals are part of an evening";
+  for (int left = 0; left < 4; ++left) {
+    evening.hands.answers = {PressReturn};
+    evening.window.Command("mnuPlayerDelete")->trigger();
+    evening.model.host.answers = {"yes"};
+    RemovePlayer(*evening.model.game);
+    evening.model.host.boxes.clear();
+    ASSERT_NO_FATAL_FAILURE(evening.Compare("leave"));
+  }
+  EXPECT_EQ(evening.real.game->table.OccupiedSeats, 0);
+}
+
+// --- Single commands of the window.
+
+TEST(MainWindow, CommandsAreEnabledExactlyWhenTheyCanAct) {
+  Evening evening;
+  const auto enabled = [&](const char* name) { return evening.window.Command(name)->isEnabled(); };
+  for (const char* name :
+       {"mnuPlayerRename", "mnuPlayerDelete", "mnuPlayerMove", "mnuRemoveBet", "mnuBuyPlaceBet",
+        "mnuCallBetOn", "mnuPassDice", "mnuTakeFullOdds", "mnuAtm", "mnuActivateScript", "mnuNew"})
+    EXPECT_FALSE(enabled(name)) << name;
+  for (const char* name : {"mnuPlayerAdd", "mnuExit", "mnuAbout", "mnuTableMove"})
+    EXPECT_TRUE(enabled(name)) << name;
+  evening.Join(3, "Eve");
+  for (const char* name :
+       {"mnuPlayerRename", "mnuPlayerDelete", "mnuPlayerMove", "mnuPassDice", "mnuAtm", "mnuNew"})
+    EXPECT_TRUE(enabled(name)) << name;
+  EXPECT_FALSE(enabled("mnuRemoveBet"));
+  evening.Bet(kPlace4, 3);
+  for (const char* name : {"mnuRemoveBet", "mnuBuyPlaceBet", "mnuCallBetOn", "mnuRemoveAllBets"})
+    EXPECT_TRUE(enabled(name)) << name;
+  EXPECT_FALSE(enabled("mnuTakeFullOdds"));
+  evening.real.game->settings.AtmEnabled = false;
+  evening.window.Table().Refresh();
+  evening.real.host.Changed(*evening.real.game, Change::kSettings);
+  QTest::qWait(5);
+  EXPECT_FALSE(enabled("mnuAtm"));
+}
+
+TEST(MainWindow, AltTakesABetUpAndTheNextClickPutsItDown) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.Bet(kPlace4, 3);
+  evening.Bet(kPlace4, 3);
+  QTest::mouseClick(&evening.Table(), Qt::LeftButton, Qt::AltModifier,
+                    evening.Table().PointOfBet(4, kPlace4));
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, kPlace4), kZero);
+  EXPECT_EQ(evening.window.Commands().CarriedAmount, Currency::Dollars(50));
+  QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, kField));
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, kField), Currency::Dollars(50));
+  EXPECT_EQ(evening.window.Commands().CarriedAmount, kZero);
+}
+
+TEST(MainWindow, AKeyedInAmountReplacesTheBet) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.Bet(kField, 3);
+  evening.Key(Qt::Key_F9);
+  for (const char* amount : {"40", "12", "0"}) {
+    QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, kField));
+    auto* entry = evening.window.findChild<QLineEdit*>("txtBetAmount");
+    ASSERT_TRUE(entry->isVisible());
+    entry->selectAll();
+    QTest::keyClicks(entry, amount);
+    QTest::keyClick(entry, Qt::Key_Return);
+    EXPECT_FALSE(entry->isVisible());
+    EXPECT_EQ(evening.real.game->table.BetAmount(4, kField), Money(amount));
+  }
+}
+
+TEST(MainWindow, TheKeyboardAloneWalksTheAreasBetsAndRolls) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  QWidget& table = evening.Table();
+  table.setFocus();
+  QTest::keyClick(&table, Qt::Key_Tab);
+  EXPECT_EQ(evening.Table().scene.focusBet, kPassLine);
+  EXPECT_TRUE(table.accessibleName().startsWith("Pass Line"));
+  // Every area can be come to by the arrows.
+  std::set<std::pair<int, int>> reached{{evening.Table().scene.focusBet, evening.Table().scene.focusSide}};
+  std::deque<std::pair<int, int>> open(reached.begin(), reached.end());
+  while (!open.empty()) {
+    const auto from = open.front();
+    open.pop_front();
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+      evening.Table().SetFocusBet(from.first, from.second);
+      QTest::keyClick(&table, key);
+      const std::pair<int, int> now{evening.Table().scene.focusBet, evening.Table().scene.focusSide};
+      if (reached.insert(now).second) open.push_back(now);
+    }
+  }
+  std::set<std::pair<int, int>> all;
+  for (const TableArea& area : evening.Table().Layout().Areas) all.insert({area.Id, area.Side});
+  for (const auto& area : all)
+    EXPECT_TRUE(reached.count(area) != 0) << BetName(area.first) << " side " << area.second;
+  evening.Table().SetFocusBet(kPassLine, 1);
+  QTest::keyClick(&table, Qt::Key_Return);
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, kPassLine), evening.window.Commands().ClickAmount);
+  evening.Key(Qt::Key_F2);
+  EXPECT_EQ(SessionRolls(evening.real.game->stats), 1);
+}
+
+TEST(MainWindow, ArrowsWalkTheSeatsUntilTheAreasHaveTheFocus) {
+  Evening evening;
+  evening.Join(2, "Ann");
+  evening.Join(6, "Fay");
+  QTest::keyClick(&evening.Table(), Qt::Key_Right);
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 2);
+  QTest::keyClick(&evening.Table(), Qt::Key_Left);
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 6);
+}
+
+TEST(MainWindow, ATurboRollShowsItsPanelAndStopsWithinATenthOfASecond) {
+  Evening evening;
+  for (auto& handling : evening.real.game->table.handling) handling.WinHandling = handling.LoseHandling = 2;
+  evening.Join(4, "Eve");
+  evening.real.game->table.handling[4].WinHandling = evening.real.game->table.handling[4].LoseHandling = 2;
+  evening.real.game->settings.ShooterBetRule = 0;
+  QElapsedTimer clock;
+  bool shown = false;
+  QTimer::singleShot(400, [&] {
+    auto* panel = evening.window.findChild<QWidget*>("picTurboRoll");
+    shown = panel->isVisible() && panel->rect().size() == evening.Table().size();
+    EXPECT_GT(panel->findChild<QLabel*>("lblRolls")->text().size(), 3);
+    clock.start();
+    QTest::mouseClick(panel->findChild<QWidget*>("cmdStop"), Qt::LeftButton);
+  });
+  evening.window.Command("mnuTurboRoll")->trigger();
+  EXPECT_LT(clock.elapsed(), 100);
+  EXPECT_TRUE(shown);
+  EXPECT_FALSE(evening.window.findChild<QWidget*>("picTurboRoll")->isVisible());
+  EXPECT_GT(SessionRolls(evening.real.game->stats), 1000);
+  EXPECT_FALSE(evening.real.game->table.AutoRollActive);
+}
+
+TEST(MainWindow, ClosingAsksToStopARunAndARefusalKeepsItOn) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.real.game->settings.ShooterBetRule = 0;
+  int closed = 0;
+  QTimer::singleShot(150, [&] {
+    evening.hands.answers = {[](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }};
+    closed += evening.window.close() ? 1 : 0;
+    EXPECT_TRUE(evening.real.game->table.AutoRollActive);
+    EXPECT_EQ(closed, 0);
+    evening.hands.answers = {PressReturn};
+    closed += evening.window.close() ? 1 : 0;
+  });
+  evening.window.Command("mnuTurboRoll")->trigger();
+  EXPECT_EQ(closed, 1);
+  EXPECT_FALSE(evening.window.isVisible());
+}
+
+TEST(MainWindow, TheWindowAndTheCheckReturnAtTheNextStart) {
+  Evening first;
+  first.window.resize(1180, 777);
+  QTest::mouseClick(first.window.findChild<QWidget*>("picCheck4"), Qt::LeftButton);
+  first.window.SaveWindow();
+  MainWindow second(*first.real.game, first.real.host);
+  second.RestoreWindow();
+  EXPECT_EQ(second.size(), QSize(1180, 777));
+  EXPECT_EQ(second.Commands().ClickAmount, Currency::Dollars(100));
+}
+
+TEST(MainWindow, APlayerMovesToAClickedPlace) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.window.Command("mnuPlayerMove")->trigger();
+  QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfSeat(7));
+  EXPECT_EQ(evening.real.game->table.SeatName[7], "Eve");
+  EXPECT_TRUE(evening.real.game->table.SeatName[4].empty());
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 7);
+}
+
+TEST(MainWindow, EveryMenuEntryHasAName) {
+  Evening evening;
+  std::set<QString> names;
+  for (const QAction* menu : evening.window.menuBar()->actions())
+    for (const QAction* action : menu->menu()->actions()) {
+      if (action->isSeparator()) continue;
+      EXPECT_TRUE(action->objectName().startsWith("mnu")) << action->text().toStdString();
+      EXPECT_TRUE(names.insert(action->objectName()).second) << action->objectName().toStdString();
+    }
+  EXPECT_GT(names.size(), 35u);
+}
+
+}  // namespace
+}  // namespace tessaryn::test
