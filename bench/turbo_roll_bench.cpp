@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "config/advantage.h"
 #include "config/setting_table.h"
 #include "dice/auto_roll.h"
 #include "engine/bet_rules.h"
@@ -104,6 +105,18 @@ void DiceAlone(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(DiceAlone)->DenseRange(0, 7);
+
+// What every bet is worth, all rows: the Advantage screen does this at each paint, so it has 20 ms.
+void WholeAdvantageTable(benchmark::State& state) {
+  Table table(1);
+  PercentageDice& dice = table.game->percentage;
+  if (state.range(0) != 0) {
+    SetProbabilityCell(dice, kTotalRow, 6, 12'000, true);
+    ActivatePercentageDice(dice, true);
+  }
+  for (auto _ : state) benchmark::DoNotOptimize(AdvantageTable(*table.game));
+}
+BENCHMARK(WholeAdvantageTable)->ArgName("loaded")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace tessaryn

@@ -108,21 +108,29 @@ bool ImportRolls(Workbench& bench, const Operation& operation) {
   return bench.Done(operation, PasteFromRollFile(bench.file, operation.value));
 }
 
-// AT=D1.D2,D1.D2 ...
-bool Insert(Workbench& bench, const Operation& operation) {
-  const auto equals = operation.value.find('=');
-  if (equals == std::string::npos) return bench.Done(operation, "expected AT=DIE1.DIE2, such as 1=3.4,6.6");
-  std::string problem = PutCursor(bench.file, operation.value.substr(0, equals));
-  std::string rolls = operation.value.substr(equals + 1);
-  bench.file.RollFileInsertMode = true;
-  for (std::size_t at = 0; problem.empty() && at < rolls.size(); at += 4) {
-    const auto isFace = [](char c) { return c >= '1' && c <= '6'; };
+// Whether a text is D1.D2,D1.D2 ...; the problem is a text.
+std::string CheckRollList(const std::string& rolls) {
+  const auto isFace = [](char c) { return c >= '1' && c <= '6'; };
+  for (std::size_t at = 0; at == 0 || at <= rolls.size(); at += 4) {
     const bool roll =
         at + 3 <= rolls.size() && isFace(rolls[at]) && rolls[at + 1] == '.' && isFace(rolls[at + 2]);
     const bool parted = at + 3 == rolls.size() || (at + 3 < rolls.size() && rolls[at + 3] == ',');
-    problem = roll && parted ? EnterRoll(bench.file, rolls[at] - '0', rolls[at + 2] - '0')
-                             : "\"" + rolls.substr(at) + "\" is no roll such as 3.4";
+    if (!roll || !parted) return "\"" + rolls.substr(at) + "\" is no roll such as 3.4";
+    if (at + 3 == rolls.size()) break;
   }
+  return "";
+}
+
+// AT=D1.D2,D1.D2 ... A list with a fault inserts none of its rolls.
+bool Insert(Workbench& bench, const Operation& operation) {
+  const auto equals = operation.value.find('=');
+  if (equals == std::string::npos) return bench.Done(operation, "expected AT=DIE1.DIE2, such as 1=3.4,6.6");
+  const std::string rolls = operation.value.substr(equals + 1);
+  std::string problem = CheckRollList(rolls);
+  if (problem.empty()) problem = PutCursor(bench.file, operation.value.substr(0, equals));
+  bench.file.RollFileInsertMode = true;
+  for (std::size_t at = 0; problem.empty() && at < rolls.size(); at += 4)
+    problem = EnterRoll(bench.file, rolls[at] - '0', rolls[at + 2] - '0');
   return bench.Done(operation, problem);
 }
 

@@ -377,16 +377,18 @@ bool IsUsable(const ProbabilityCells& cells) {
   if (!InRange(flags[0][0], kModeFreeForm, kModePercentageDice)) return false;
   if (!InRange(flags[0][1], 0, kProbabilityRows - 1) || !InRange(flags[0][2], 0, kProbabilityColumns - 1))
     return false;
-  std::int64_t sum = 0;
   for (int row = 1; row < kProbabilityRows; ++row)
     for (int column = 1; column < kProbabilityColumns; ++column) {
-      const ProbabilityCellKind kind = KindOfProbabilityCell(row, column);
-      if (kind == ProbabilityCellKind::kNone) continue;
+      if (KindOfProbabilityCell(row, column) == ProbabilityCellKind::kNone) continue;
       if ((flags[row][column] & ~(kCellLocked | kBound)) != 0) return false;
       if (!InRange(cells[1][row][column], 0, kProbabilityCeiling)) return false;
-      if (kind == ProbabilityCellKind::kCombination) sum += cells[1][row][column];
     }
-  return sum > 0;
+  return true;
+}
+
+bool HasSomethingToRoll(const ProbabilityCells& cells) {
+  return std::any_of(kGeometry.Walk.begin(), kGeometry.Walk.end(),
+                     [&](Cell cell) { return cells[1][cell.row][cell.column] > 0; });
 }
 
 bool ReadCells(const RecordFile& file, ProbabilityCells& cells) {
@@ -591,6 +593,11 @@ bool OpenProbabilityFile(PercentageDice& dice, const std::string& path, const st
   ProbabilityCells cells{};
   if (!SplitRecords(content, file) || !ReadCells(file, cells)) {
     error = kNotAProbabilityFileText;
+    return false;
+  }
+  // A true file, but dice in force must not be given up for dice that can't be rolled.
+  if (!HasSomethingToRoll(cells)) {
+    error = kNothingToRollText;
     return false;
   }
   dice.ProbMatrix = cells;

@@ -125,7 +125,7 @@ float ProbabilityOfEvent(const PercentageDice& dice, int eventId, bool usePercen
 // file that was there is whole.
 bool SaveProbabilityFile(PercentageDice& dice, const std::string& path, std::string& error);
 // Opens a file; a plain name is looked for in the folder. On failure dice is unchanged and error is
-// kNotAProbabilityFileText, or the system's reason with the file's name.
+// kNotAProbabilityFileText, kNothingToRollText, or the system's reason with the file's name.
 bool OpenProbabilityFile(PercentageDice& dice, const std::string& path, const std::string& folder,
                          std::string& error);
 

@@ -146,8 +146,10 @@ void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool ke
   ResetBankrollGraph(game, true);
   game.table.HandSeat = game.table.ShooterSeat;
   SetRollFile(game, rollFileChoice);
-  LogSessionStart(game);
+  // A new log holds the seed too, which stands before the heading.
+  if (game.events.RecordEventsActive && game.events.ClearLogOnNewSession) ClearEventsLog(game);
   if (game.generators.RngReseedNewSessions) SeedRng(game, false);
+  LogSessionStart(game);
   game.autobet.BeginningNewSession = true;
   game.autobet.RollFileEndReached = false;
   game.host->Changed(game, Change::kEverything);

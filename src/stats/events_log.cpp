@@ -574,7 +574,6 @@ void LogSessionStart(Game& game) {
   EventsLog& log = game.events;
   if (!log.RecordEventsActive) return;
   const TableState& table = game.table;
-  if (log.ClearLogOnNewSession) ClearEventsLog(game);
   FlushEventsLog(game);
   if (FileSize(EventsLogPath(game)) >= 0)
     WriteEventsLogLine(game, "============================================");

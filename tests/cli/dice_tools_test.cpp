@@ -14,7 +14,8 @@ using Json = nlohmann::json;
 TEST(CliProbabilities, OperationsAreCarriedOutInTheirOrder) {
   TempFolder folder;
   const std::string file = folder.File("loaded.prb");
-  ASSERT_EQ(RunCli(folder, {"probabilities", file, "--new", "--total", "7=12000", "--set", "1.1=4%"}).exitCode, 0);
+  ASSERT_EQ(
+      RunCli(folder, {"probabilities", file, "--new", "--total", "7=12000", "--set", "1.1=4%"}).exitCode, 0);
   const Ran shown = RunCli(folder, {"probabilities", file, "--json"});
   ASSERT_EQ(shown.exitCode, 0) << shown.err;
   const Json matrix = Json::parse(shown.out);
@@ -78,9 +79,26 @@ TEST(CliRolls, AFileIsCountedEditedAndExported) {
   EXPECT_NE(bad.err.find("not a true Tessaryn dice roll file"), std::string::npos) << bad.err;
 }
 
+TEST(CliRolls, AListWithAFaultInsertsNoneOfIt) {
+  TempFolder folder;
+  const std::string file = folder.File("dice.rol");
+  const auto insert = [&](const std::string& list) {
+    return RunCli(folder, {"rolls", file, "--data-folder", folder.Path(), "--insert", list});
+  };
+  ASSERT_EQ(insert("1=3.4,6.6").exitCode, 0);
+  const std::string before = ReadFile(file);
+  for (const char* bad : {"1=1.1,9.9", "2=", "1=1.1,", "1=1.1,2", "1=1.1;2.2", "9=1.1", "1.1", "0=1.1"}) {
+    const Ran ran = insert(bad);
+    EXPECT_EQ(ran.exitCode, 1) << bad;
+    EXPECT_NE(ran.err.find("--insert"), std::string::npos) << ran.err;
+    EXPECT_EQ(ReadFile(file), before) << bad;
+  }
+}
+
 TEST(CliAdvantage, TheTableIsThereAndBadBetsAreNamed) {
   TempFolder folder;
-  const Ran ran = RunCli(folder, {"advantage", "--data-folder", folder.Path(), "--json", "--bet", "passline=10"});
+  const Ran ran =
+      RunCli(folder, {"advantage", "--data-folder", folder.Path(), "--json", "--bet", "passline=10"});
   ASSERT_EQ(ran.exitCode, 0) << ran.err;
   const Json table = Json::parse(ran.out);
   bool found = false;
@@ -107,7 +125,10 @@ TEST(CliSettings, AHousesRulesSurviveTheirFileAndDamageIsNamed) {
     return RunCli(folder, all, input);
   };
   ASSERT_EQ(play({"--set", "BarNumber=2", "--set", "MaxBet=2500", "--set", "PayoffTable.55=8 to 1",
-                  "--save-settings", file}, "quit\n").exitCode, 0);
+                  "--save-settings", file},
+                 "quit\n")
+                .exitCode,
+            0);
   const Ran ran = play({"--settings", file}, "get BarNumber\nget MaxBet\nget PayoffTable.55\nquit\n");
   ASSERT_EQ(ran.exitCode, 0) << ran.err;
   EXPECT_NE(ran.out.find("\"value\":2}"), std::string::npos) << ran.out;
@@ -131,11 +152,12 @@ TEST(CliPlay, SessionsStacksDiceFilesAndPlots) {
   TempFolder folder;
   const std::string prb = folder.File("p.prb");
   ASSERT_EQ(RunCli(folder, {"probabilities", prb, "--new", "--total", "7=0"}).exitCode, 0);
-  const Ran ran = RunCli(folder, {"play", "--data-folder", folder.Path()},
-                         "join 1 Ann 500\nset ShooterBetRule 0\nstack 1 5 12.5\nrollfile " + folder.File("r.rol") +
-                             " record\nroll 3 4\nroll 1 1\nplot 1\nrollfile off\nprobabilities " + prb +
-                             "\nturbo 2000\nstats 0 2\nprobabilities off\nnewsession keepstacks\nstate\nplot 1\n"
-                             "newsession nonsense\nstack 1 100 3\nrollfile /nowhere/x play\n");
+  const Ran ran =
+      RunCli(folder, {"play", "--data-folder", folder.Path()},
+             "join 1 Ann 500\nset ShooterBetRule 0\nstack 1 5 12.5\nrollfile " + folder.File("r.rol") +
+                 " record\nroll 3 4\nroll 1 1\nplot 1\nrollfile off\nprobabilities " + prb +
+                 "\nturbo 2000\nstats 0 2\nprobabilities off\nnewsession keepstacks\nstate\nplot 1\n"
+                 "newsession nonsense\nstack 1 100 3\nrollfile /nowhere/x play\n");
   std::vector<std::string> lines = Lines(ran.out);
   ASSERT_EQ(lines.size(), 18u) << ran.out;
   const auto answer = [&lines](std::size_t i) { return Json::parse(lines[i]); };

@@ -31,7 +31,9 @@ constexpr House kHouses[] = {
     {"FairUpFrontBar12", Loading::kFair, true, 12, false},
     {"FairOnWinBar2", Loading::kFair, false, 2, true},
     {"LoadedFacesUpFrontBar2", Loading::kFaces, true, 2, true},
+    {"LoadedFacesOnWinBar12", Loading::kFaces, false, 12, false},
     {"LoadedCellsOnWinBar12", Loading::kCells, false, 12, false},
+    {"LoadedCellsUpFrontBar2", Loading::kCells, true, 2, true},
 };
 
 // TESSARYN_EDGE_ROLLS sets the length of each run.

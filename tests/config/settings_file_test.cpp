@@ -1,7 +1,10 @@
 #include "config/settings_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <random>
 
@@ -111,9 +114,13 @@ TEST(SettingsFileTest, CutAndDamagedFilesApplyWhollyOrNotAtAll) {
   const std::string content = Rules(table);
   const std::string path = table.folder.File("cut.txt");
   std::mt19937 random(20261123);
-  for (int trial = 0; trial < 200; ++trial) {
+  // Cut at every place of a part of the file that holds every form of line, then anywhere.
+  constexpr int kCuts = 600;
+  for (int trial = 0; trial < kCuts + 200; ++trial) {
     std::string damaged = content;
-    if (trial % 2 == 0) {
+    if (trial < kCuts) {
+      damaged.resize(content.size() - static_cast<std::size_t>(trial) - 1);
+    } else if (trial % 2 == 0) {
       damaged.resize(random() % content.size());
     } else {
       for (int hits = 0; hits < 3; ++hits) damaged[random() % damaged.size()] = static_cast<char>(random());
@@ -128,6 +135,57 @@ TEST(SettingsFileTest, CutAndDamagedFilesApplyWhollyOrNotAtAll) {
     }
     other.Check("damaged settings");
   }
+}
+
+// No file of this process may grow beyond a length: as good as a full disk.
+struct SmallDisk {
+  rlimit Old{};
+  void (*OldHandler)(int);
+  explicit SmallDisk(rlim_t bytes) : OldHandler(signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &Old);
+    const rlimit limit{bytes, Old.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  ~SmallDisk() {
+    setrlimit(RLIMIT_FSIZE, &Old);
+    signal(SIGXFSZ, OldHandler);
+  }
+};
+
+// The superuser is refused nothing; as somebody else the folder's permissions count.
+struct AsNobody {
+  bool Changed = geteuid() == 0 && seteuid(65534) == 0;
+  ~AsNobody() {
+    if (Changed) {
+      EXPECT_EQ(seteuid(0), 0);
+    }
+  }
+};
+
+TEST(SettingsFileTest, AFullDiskOrAReadOnlyFolderKeepsTheOldRules) {
+  TestTable table;
+  const test::TempFolder rules;
+  const std::string path = rules.File("house.txt");
+  ASSERT_EQ(SaveSettingsFile(*table.game, path), "");
+  const std::string before = test::ReadFile(path);
+  table.Set("MaxBet", "2500");
+  std::string error;
+  {
+    SmallDisk disk(before.size() / 2);
+    error = SaveSettingsFile(*table.game, path);
+  }
+  EXPECT_NE(error.find(path), std::string::npos) << error;
+  EXPECT_EQ(test::ReadFile(path), before);
+  std::filesystem::permissions(rules.Path(), std::filesystem::perms(0555));
+  {
+    AsNobody nobody;
+    error = SaveSettingsFile(*table.game, path);
+  }
+  std::filesystem::permissions(rules.Path(), std::filesystem::perms(0755));
+  EXPECT_NE(error.find(path), std::string::npos) << error;
+  EXPECT_EQ(test::ReadFile(path), before);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(rules.Path()), {}), 1)
+      << "nothing half written";
 }
 
 TEST(SettingsFileTest, AFileThatCannotBeWrittenLeavesTheOldOne) {

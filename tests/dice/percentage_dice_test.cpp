@@ -1,9 +1,11 @@
 #include "dice/percentage_dice.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
 #include <cmath>
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <memory>
@@ -482,12 +484,12 @@ TEST_F(ProbabilityFile, ADamagedFileIsRefusedAndTheMatrixStands) {
   PercentageDice open;
   SetProbabilityCell(open, kTotalRow, 7, 777, true);
   const PercentageDice before = open;
-  const auto refused = [&](const std::string& content) {
+  const auto refused = [&](const std::string& content, const char* text = kNotAProbabilityFileText) {
     std::ofstream(Path, std::ios::binary) << content;
-    return !OpenProbabilityFile(open, Path, "", error) && error == kNotAProbabilityFileText &&
+    return !OpenProbabilityFile(open, Path, "", error) && error == text &&
            open.ProbMatrix == before.ProbMatrix && open.ProbDirty;
   };
-  for (std::size_t length = 0; length < whole.size(); length += length < 300 || length > 1270 ? 1 : 61)
+  for (std::size_t length = 0; length < whole.size(); ++length)
     ASSERT_TRUE(refused(whole.substr(0, length))) << length;
   EXPECT_TRUE(refused(whole + std::string(256, '\0')));
   for (std::size_t at = 0; at < 42; ++at) {
@@ -497,7 +499,7 @@ TEST_F(ProbabilityFile, ADamagedFileIsRefusedAndTheMatrixStands) {
   }
   std::string zeros = whole;
   for (std::size_t at = 256 + 112 * 4; at < zeros.size(); ++at) zeros[at] = 0;
-  EXPECT_TRUE(refused(zeros));
+  EXPECT_TRUE(refused(zeros, kNothingToRollText));
 
   constexpr unsigned kSeed = 8;
   std::mt19937 random(kSeed);
@@ -534,6 +536,40 @@ TEST_F(ProbabilityFile, AFailedSaveNamesTheFileAndStaysUnsaved) {
   }
   EXPECT_FALSE(OpenProbabilityFile(dice, "missing.prb", Folder.string(), error));
   EXPECT_NE(error.find("missing.prb"), std::string::npos) << error;
+}
+
+TEST_F(ProbabilityFile, AFullDiskOrAReadOnlyFolderKeepsTheOldFile) {
+  PercentageDice dice;
+  std::string error;
+  ASSERT_TRUE(SaveProbabilityFile(dice, Path, error));
+  const std::string before = Bytes();
+  SetProbabilityCell(dice, 2, 4, 12'345, true);
+  const auto refused = [&] {
+    return !SaveProbabilityFile(dice, Path, error) && error.find(Path) != std::string::npos && dice.ProbDirty;
+  };
+  // Any length but the whole: the disk is full in each record.
+  const auto old = signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  getrlimit(RLIMIT_FSIZE, &limit);
+  for (rlim_t bytes : {0, 1, 255, 256, 700, 1279}) {
+    const rlimit small{bytes, limit.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &small);
+    const bool told = refused();
+    setrlimit(RLIMIT_FSIZE, &limit);
+    EXPECT_TRUE(told) << bytes << ": " << error;
+    EXPECT_EQ(Bytes(), before) << bytes;
+  }
+  signal(SIGXFSZ, old);
+  std::filesystem::permissions(Folder, std::filesystem::perms(0555));
+  const bool superuser = geteuid() == 0 && seteuid(65534) == 0;
+  const bool told = refused();
+  if (superuser) {
+    ASSERT_EQ(seteuid(0), 0);
+  }
+  std::filesystem::permissions(Folder, std::filesystem::perms(0755));
+  EXPECT_TRUE(told) << error;
+  EXPECT_EQ(Bytes(), before);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Folder), {}), 1) << "nothing half written";
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -246,6 +247,65 @@ TEST_F(RollFiles, AReadOnlyFilePlaysAndRefusesEdits) {
   EXPECT_FALSE(RecordRoll(*File, 1, 1));
   EXPECT_EQ(CopyRolls(*File, Folder), "");
   EXPECT_EQ(CloseRollFile(*File), "");
+}
+
+TEST_F(RollFiles, AReadOnlyFolderTakesNothingAndTheOpenFileStays) {
+  std::mt19937 random(6);
+  const Rolls rolls = RandomRolls(random, 10);
+  Write(Path, rolls);
+  ASSERT_EQ(chmod(Path.c_str(), 0666), 0);
+  ASSERT_EQ(OpenRollFile(*File, Path), "");
+  ASSERT_EQ(chmod(Folder.c_str(), 0555), 0);
+  const bool superuser = geteuid() == 0 && seteuid(65534) == 0;
+  SelectAllRolls(*File);
+  const std::string text = Folder + "/out.txt";
+  const std::pair<std::string, std::string> told[] = {
+      {OpenRollFile(*File, Other), Other},
+      {CopyRollsToRollFile(*File, Other), Other},
+      {CopyRollsToTextFile(*File, text, true), text},
+      {CutRolls(*File, Folder), kRollCopyFile},
+      {PasteFromTextFile(*File, Path, Folder), kRollConvertFile}};
+  if (superuser) {
+    ASSERT_EQ(seteuid(0), 0);
+  }
+  ASSERT_EQ(chmod(Folder.c_str(), 0755), 0);
+  for (const auto& [error, name] : told)
+    EXPECT_NE(error.find(name), std::string::npos) << name << ": " << error;
+  EXPECT_EQ(File->RollFileName, Path);
+  EXPECT_EQ(OnDisk(Path), rolls);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(FolderPath), {}), 1);
+}
+
+// Cut or damaged anywhere, a file is refused as it is opened, or plays up to the first byte that is no roll.
+TEST_F(RollFiles, ADamagedFileEndsItsPlaybackWhereTheDamageIs) {
+  constexpr unsigned kSeed = 12;
+  std::mt19937 random(kSeed);
+  const Rolls whole = RandomRolls(random, 300);
+  for (std::size_t trial = 0; trial < 1'500; ++trial) {
+    Rolls damaged = whole;
+    if (trial <= whole.size()) {
+      damaged.resize(trial);
+    } else {
+      for (unsigned i = 0; i <= random() % 3; ++i)
+        damaged[random() % damaged.size()] =
+            static_cast<unsigned char>(random() & (trial % 2 == 0 ? 0xfc : 0xff));
+    }
+    Write(Path, damaged);
+    const bool lowBits =
+        std::any_of(damaged.begin(), damaged.end(), [](unsigned char b) { return (b & 3) != 0; });
+    const std::string error = OpenRollFile(*File, Path);
+    ASSERT_EQ(error, lowBits ? NotARollFileText(Path) : "") << "seed " << kSeed << " trial " << trial;
+    if (lowBits) continue;
+    ASSERT_EQ(RewindForPlayback(*File), "");
+    std::size_t played = 0;
+    int die1 = 0, die2 = 0;
+    PlayResult result;
+    while ((result = PlayRoll(*File, die1, die2)) == PlayResult::kPlayed) ++played;
+    const auto bad = std::find_if_not(damaged.begin(), damaged.end(), CheckRollValue);
+    ASSERT_EQ(played, static_cast<std::size_t>(bad - damaged.begin()));
+    ASSERT_EQ(result, bad == damaged.end() ? PlayResult::kEndOfFile : PlayResult::kOutOfLimits);
+    ASSERT_EQ(CloseRollFile(*File), "");
+  }
 }
 
 TEST_F(RollFiles, NothingHappensWithoutAnOpenFile) {

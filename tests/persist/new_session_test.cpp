@@ -212,6 +212,22 @@ TEST(NewSessionTest, WithoutAFileToContinueThereIsNone) {
   }
 }
 
+TEST(NewSessionTest, TheSeedIsLoggedBeforeTheHeadingAndSurvivesAClearedLog) {
+  for (const bool cleared : {false, true}) {
+    RunningTable table({true, true, true, kCloseRollFile, true});
+    table.Set("RngReseedNewSessions", "on");
+    table.Set("ClearLogOnNewSession", cleared ? "on" : "off");
+    const std::size_t from = cleared ? 0 : table.Log().size();
+    NewSession(*table.game, true, true, true, kCloseRollFile);
+    const std::vector<std::string> log = table.Log();
+    ASSERT_GT(log.size(), from + 2);
+    EXPECT_EQ(log[from].find("    RNG #"), 0u) << log[from];
+    EXPECT_EQ(log[from + 1], "============================================");
+    EXPECT_EQ(log[from + 2], " New session started 2024-02-29 @ 12:34:56");
+    EXPECT_EQ(table.IndexProblem(), "");
+  }
+}
+
 TEST(NewSessionTest, SeedsAgainOnlyWhenAsked) {
   for (const bool reseed : {false, true}) {
     TestTable table;
