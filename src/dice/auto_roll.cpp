@@ -34,29 +34,32 @@ void GiveWay(Game& game) {
   FlushRollFile(game.rollFile);
 }
 
-// Counting loops a millisecond, measured once when pacing is first wanted.
+// A tenth of the counting loops of 100 milliseconds, measured once when pacing is first wanted.
 void Calibrate(Game& game) {
   if (game.table.TurboCalibration > 0) return;
   const std::uint32_t start = game.host->TickMilliseconds();
   volatile std::uint64_t count = 0;
   for (;;) {
     for (int i = 0; i < 1000; ++i) count = count + 1;
-    if (game.host->TickMilliseconds() - start >= 10) break;
+    if (game.host->TickMilliseconds() - start >= 100) break;
   }
   game.table.TurboCalibration = static_cast<std::int32_t>(std::min<std::uint64_t>(count / 10, 2'000'000'000));
 }
 
-// The busy wait by which a throttle slows Turbo-Roll: each step doubles it. Gives way now and then.
+// The busy wait by which a throttle slows Turbo-Roll: each step doubles it. Gives way now and then, so that a
+// long wait can be stopped, or cut short by moving the throttle.
 void Pace(Game& game) {
-  const int throttle = game.settings.RollThrottle;
   Calibrate(game);
-  const double steps = std::ldexp(1.0, throttle) * game.table.TurboCalibration;
-  const double perMillisecond = std::max(1, game.table.TurboCalibration);
+  const auto stepsWanted = [&game] {
+    const int throttle = game.settings.RollThrottle;
+    return throttle > 0 ? std::ldexp(1.0, throttle) * game.table.TurboCalibration : 0.0;
+  };
+  const double perYield = std::max(1, game.table.TurboCalibration) * 5.0;  // 50 milliseconds
   volatile double counted = 0;
-  while (counted < steps && game.table.AutoRollActive && game.table.TurboRollActive) {
-    const double until = std::min(steps, counted + 50 * perMillisecond);
+  while (counted < stepsWanted() && game.table.AutoRollActive && game.table.TurboRollActive) {
+    const double until = std::min(stepsWanted(), counted + perYield);
     while (counted < until) counted = counted + 1;
-    if (counted < steps) GiveWay(game);
+    if (counted < stepsWanted()) GiveWay(game);
   }
 }
 

@@ -157,14 +157,26 @@ TEST(AutoRollTest, TheThrottleMayMoveInTheMiddleOfARun) {
 
 TEST(AutoRollTest, EachStepOfTheThrottleDoublesItsPause) {
   PacedTable table(0);
-  table.game->table.TurboCalibration = 200;
-  table.host.rollTarget = 3;
-  for (const int throttle : {1, 5}) {
+  table.game->table.TurboCalibration = 1000;
+  for (const int throttle : {0, 1, 3, 5, 6, 7, 8}) {
+    // Two rolls, and between them one pause, which gives way after every 5,000 of its steps.
+    table.host.rollTarget = table.Rolls() + 2;
+    table.host.yieldCalls = 0;
     SetThrottle(*table.game, throttle);
     ToggleAutoRoll(*table.game);
-    table.host.rollTarget += 3;
+    EXPECT_EQ(table.Rolls(), table.host.rollTarget);
+    EXPECT_EQ(table.host.yieldCalls, 2 + ((1 << throttle) - 1) / 5) << throttle;
   }
-  EXPECT_EQ(table.Rolls(), 6);
+  // A long pause ends as soon as the throttle says so: here at its second look.
+  table.host.rollTarget = table.Rolls() + 2;
+  table.host.yieldCalls = 0;
+  table.host.onYield = [&](Game& game) {
+    if (table.host.yieldCalls == 3) SetThrottle(game, 0);
+  };
+  SetThrottle(*table.game, 11);
+  ToggleAutoRoll(*table.game);
+  EXPECT_EQ(table.host.yieldCalls, 4);
+  table.host.onYield = nullptr;
   SetThrottle(*table.game, 99);
   EXPECT_EQ(table.game->settings.RollThrottle, 0);
   SetThrottle(*table.game, -1);
