@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <iterator>
 
-#include "cli/script_commands.h"
 #include "autobet/script_session.h"
+#include "cli/script_commands.h"
 #include "cli/table_setup.h"
 #include "config/setting_table.h"
 #include "dice/auto_roll.h"
@@ -77,7 +77,7 @@ using Words = std::vector<std::string>;
 struct Call {
   Game& game;
   PlayHost& host;
-  const Words& words;   // words[0] is the command
+  const Words& words;  // words[0] is the command
   Json answer = Json::object();
   std::string error;
   bool ended = false;
@@ -167,7 +167,8 @@ bool Rename(Call& call) {
 bool Move(Call& call) {
   int from = 0;
   int to = 0;
-  if (!WantWords(call, 3, 3, "move SEAT SEAT") || !Player(call, 1, from) || !SeatNumber(call, 2, to)) return false;
+  if (!WantWords(call, 3, 3, "move SEAT SEAT") || !Player(call, 1, from) || !SeatNumber(call, 2, to))
+    return false;
   return MovePlayer(call.game, from, to, call.error);
 }
 
@@ -315,7 +316,8 @@ bool Atm(Call& call) {
       !Amount(call, 3, amount))
     return false;
   const std::string& word = call.words[2];
-  if (word != "deposit" && word != "withdraw") return call.Bad("\"" + word + "\" is neither deposit nor withdraw");
+  if (word != "deposit" && word != "withdraw")
+    return call.Bad("\"" + word + "\" is neither deposit nor withdraw");
   if (amount < kZero) return call.Bad("the amount must not be negative");
   if (!call.game.settings.AtmEnabled) return call.Bad("the ATM is out of service");
   call.answer["allowed"] = MoneyJson(AtmTransaction(call.game, seat, word == "deposit", amount));
@@ -353,6 +355,7 @@ bool StartSession(Call& call) {
   bool keepSessions = false;
   bool keepStacks = false;
   bool keepLogs = false;
+  bool keepScripts = true;
   int choice = kCloseRollFile;
   for (std::size_t i = 1; i < call.words.size(); ++i) {
     const std::string& word = call.words[i];
@@ -362,6 +365,8 @@ bool StartSession(Call& call) {
       keepStacks = true;
     else if (word == "keeplogs")
       keepLogs = true;
+    else if (word == "closescripts")
+      keepScripts = false;
     else if (word == "closefile")
       choice = kCloseRollFile;
     else if (word == "rewind")
@@ -369,7 +374,14 @@ bool StartSession(Call& call) {
     else if (word == "continue")
       choice = kContinueRollFile;
     else
-      return call.Bad("\"" + word + "\": expected keepprev, keepstacks, keeplogs, closefile, rewind or continue");
+      return call.Bad(
+          "\"" + word +
+          "\": expected keepprev, keepstacks, keeplogs, closescripts, closefile, rewind or continue");
+  }
+  // Before the session starts, whose heading names the scripts that are active.
+  for (int seat = 1; seat <= kSeats && !keepScripts; ++seat) {
+    SetScriptActive(call.game, seat, false);
+    SetScript(call.game, seat, {}, "");
   }
   NewSession(call.game, keepSessions, keepStacks, keepLogs, choice);
   // The scripts that stay are initialised, as they are whenever a session is new.
@@ -412,7 +424,8 @@ bool SetStack(Call& call) {
   int seat = 0;
   int stack = 0;
   Currency value;
-  if (!WantWords(call, 4, 4, "stack SEAT N VALUE") || !Player(call, 1, seat) || !Amount(call, 3, value)) return false;
+  if (!WantWords(call, 4, 4, "stack SEAT N VALUE") || !Player(call, 1, seat) || !Amount(call, 3, value))
+    return false;
   if (!ReadInt(call.words[2], stack) || stack < 0 || stack >= kCheckStacks)
     return call.Bad("\"" + call.words[2] + "\" is no CheckStack; CheckStacks are 0 to 99");
   const int bet = kFirstCheckStack + stack;
@@ -500,7 +513,8 @@ constexpr Handler kHandlers[] = {
     {{"atm", "SEAT deposit|withdraw AMOUNT", "moves money from or to a bankroll"}, Atm},
     {{"set", "NAME[@SEAT] VALUE", "changes a setting"}, Set},
     {{"get", "NAME[@SEAT]", "reads a setting or a value of the table"}, Get},
-    {{"newsession", "[keepprev] [keepstacks] [keeplogs] [closefile|rewind|continue]", "starts a new session"},
+    {{"newsession", "[keepprev] [keepstacks] [keeplogs] [closescripts] [closefile|rewind|continue]",
+      "starts a new session"},
      StartSession},
     {{"probabilities", "FILE|off", "percentage dice from a file, or none"}, LoadProbabilities},
     {{"rollfile", "FILE play|record|off", "a dice roll file; rollfile off closes it"}, UseRollFile},

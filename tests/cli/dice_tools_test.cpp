@@ -171,5 +171,20 @@ TEST(CliPlay, SessionsStacksDiceFilesAndPlots) {
   EXPECT_EQ(ReadFile(folder.File("r.rol")).size(), 2u);
 }
 
+TEST(CliPlay, ANewSessionClosesScriptsOnlyWhenTold) {
+  for (const bool closes : {false, true}) {
+    TempFolder folder;
+    const std::string script = folder.File("line.atb");
+    WriteFile(script, "bet 5 on passline\r\n");
+    const Ran ran =
+        RunCli(folder, {"play", "--data-folder", folder.Path()},
+               "join 1 Ann 500\nset ShooterBetRule 0\nscript 1 " + script + "\nactivate 1\nnewsession" +
+                   (closes ? " closescripts" : "") + "\nroll 3 3\nroll 4 4\nstate\n");
+    const std::vector<std::string> lines = Lines(ran.out);
+    ASSERT_FALSE(lines.empty());
+    EXPECT_EQ(Json::parse(lines.back())["seats"][0]["bets"].empty(), closes) << ran.out;
+  }
+}
+
 }  // namespace
 }  // namespace tessaryn::test
