@@ -148,6 +148,13 @@ std::string InitialiseQuestion(const std::string& name) {
 
 }  // namespace
 
+void CloseScripts(Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    SetScriptActive(game, seat, false);
+    SetScript(game, seat, {}, "");
+  }
+}
+
 void ActivateScript(Game& game, int seat) {
   if (seat == 0)
     SetAllScriptsActive(game, true);

@@ -34,6 +34,8 @@ bool SaveScript(Game& game, int seat, const std::string& path, std::string& erro
 // Sets the flag and the master switch alone.
 void SetScriptActive(Game& game, int seat, bool active);
 void SetAllScriptsActive(Game& game, bool active);
+// Closes every seat's script and clears its flag.
+void CloseScripts(Game& game);
 // With the offer to initialise; seat 0 activates all.
 void ActivateScript(Game& game, int seat);
 // Compiles if need be and runs the active scripts once as an initialisation. False when one is bad.

@@ -379,10 +379,7 @@ bool StartSession(Call& call) {
           "\": expected keepprev, keepstacks, keeplogs, closescripts, closefile, rewind or continue");
   }
   // Before the session starts, whose heading names the scripts that are active.
-  for (int seat = 1; seat <= kSeats && !keepScripts; ++seat) {
-    SetScriptActive(call.game, seat, false);
-    SetScript(call.game, seat, {}, "");
-  }
+  if (!keepScripts) CloseScripts(call.game);
   NewSession(call.game, keepSessions, keepStacks, keepLogs, choice);
   // The scripts that stay are initialised, as they are whenever a session is new.
   if (call.game.autobet.ScriptActive[0]) InitialiseScripts(call.game);

@@ -121,7 +121,7 @@ struct TableState {
   bool AutoRollActive = false;
   std::string StopReason;
   std::uint32_t LastActivityTick = 0;
-  std::int32_t TurboCalibration = 0;  // counting loops a millisecond
+  std::int32_t TurboCalibration = 0;  // a tenth of the counting loops of 100 milliseconds
 
   // --- The settlement in progress. Written by settlement.cpp.
   int SettlingBet = 0;

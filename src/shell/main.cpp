@@ -47,6 +47,7 @@ int RunProgram(QApplication& application, std::string dataFolder) {
   window.RestoreWindow();
   QTimer::singleShot(kSplashMilliseconds, &window, [&] {
     window.show();
+    window.activateWindow();
     splash.close();
     TellMissingFiles(*game);
     if (!sounds.Missing().isEmpty()) window.statusBar()->showMessage(sounds.Missing(), 15'000);

@@ -2,6 +2,7 @@
 
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
@@ -115,6 +116,14 @@ void MessageScreen::AddButtons() {
     first = false;
   }
   row->addStretch();
+}
+
+void MessageScreen::keyPressEvent(QKeyEvent* event) {
+  const QString typed = event->text().toUpper();
+  if (inputs_[0] == nullptr && typed.size() == 1)
+    for (QPushButton* button : findChildren<QPushButton*>())
+      if (button->text().toUpper().contains("&" + typed)) return button->click();
+  QDialog::keyPressEvent(event);
 }
 
 void MessageScreen::PressedButton(int result) {

@@ -21,6 +21,10 @@ class MessageScreen : public QDialog {
   // The result and the entries as the user left them. A closed box is Cancel, else No, else OK.
   void Answer(MessageBox& box) const;
 
+ protected:
+  // A button's access letter works without Alt where nothing is typed.
+  void keyPressEvent(QKeyEvent* event) override;
+
  private:
   void AddButtons();
   void AddInputs(const MessageBox& box);

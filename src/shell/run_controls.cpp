@@ -23,7 +23,8 @@ QString RunCaption(const Game& game) {
 QString ThrottleText(int position) {
   if (position == kThrottleAutoRoll) return QCoreApplication::translate("RunControls", "Auto-Roll");
   if (position == 0) return QCoreApplication::translate("RunControls", "Turbo: full speed");
-  return QCoreApplication::translate("RunControls", "Turbo: %1 ms a roll").arg(1 << position);
+  // A roll's pause doubles with each position.
+  return QCoreApplication::translate("RunControls", "Turbo: %1 s a roll").arg(0.01 * (1 << position));
 }
 
 RunControls::RunControls(QWidget* parent)

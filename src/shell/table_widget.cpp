@@ -480,8 +480,7 @@ void TableWidget::ShowThrow() {
   const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
   scene.dice = rest;
   update();
-  if (!animate || !isVisible() || throwing_ || game_.settings.DiceAction != 0)
-    return;
+  if (!animate || !isVisible() || throwing_ || game_.settings.DiceAction != 0) return;
   throwing_ = true;
   cutShort_ = false;
   const int shooter = std::max(1, game_.table.ShooterSeat);

@@ -40,8 +40,8 @@ struct ScreenTable {
 
   ScreenTable() {
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext&, const QString& text) {
-      // The offscreen platform says of itself that it has no window manager to tell sizes to.
-      const bool platform = text.contains("propagateSizeHints");
+      // The offscreen platform says of itself that it has no window manager to tell sizes and order to.
+      const bool platform = text.contains("propagateSizeHints") || text.contains("does not support raise");
       if (type != QtDebugMsg && type != QtInfoMsg && !platform) QtWarnings().append(text);
     });
     game = StartGame(host, TESSARYN_BIN_DIR, folder.path().toStdString());

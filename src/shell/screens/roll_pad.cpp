@@ -1,0 +1,330 @@
+#include "shell/screens/roll_pad.h"
+
+#include <QActionGroup>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSlider>
+#include <QVBoxLayout>
+
+#include "dice/auto_roll.h"
+#include "engine/game.h"
+#include "engine/roll_cycle.h"
+#include "shell/pictures.h"
+#include "shell/run_controls.h"
+
+namespace tessaryn {
+
+namespace {
+
+constexpr int kCellWidth = 44;
+constexpr int kCellHeight = 34;
+
+// The dice of a cell that always asks for the same; open dice are 0.
+PadRoll FixedCell(int layout, int row, int column) {
+  Generators unused;
+  if (layout == kPadTotals) return {};
+  return PadCellRoll(layout, row, column, unused);
+}
+
+void PaintFace(QPainter& painter, QPointF centre, double side, int face, const QColor& body) {
+  painter.save();
+  painter.translate(centre);
+  painter.scale(side, side);
+  PaintDie(painter, face, body, Qt::white);
+  painter.restore();
+}
+
+}  // namespace
+
+// --- The grid.
+
+PadGrid::PadGrid(QWidget* parent) : QWidget(parent) {
+  setObjectName("picRYON");
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  SetPadLayout(kPadTotals);
+}
+
+void PadGrid::SetPadLayout(int layout) {
+  layout_ = layout;
+  chosen_ = {};
+  hover_ = {};
+  focus_ = layout == kPadTriangle ? PadCell{0, 5} : PadCell{0, 0};
+  if (!IsCell(focus_.Row, focus_.Column)) Walk(1, 0);
+  setFixedSize(sizeHint());
+  TellFocus();
+  update();
+}
+
+void PadGrid::SetChosen(PadRoll chosen) {
+  chosen_ = chosen;
+  update();
+}
+
+QSize PadGrid::sizeHint() const {
+  const RollPadGrid grid = GridOf(layout_);
+  return {grid.Columns * kCellWidth, grid.Rows * kCellHeight};
+}
+
+QRectF PadGrid::CellBox(int row, int column) const {
+  return {double(column) * kCellWidth, double(row) * kCellHeight, double(kCellWidth), double(kCellHeight)};
+}
+
+QPoint PadGrid::MiddleOfCell(int row, int column) const { return CellBox(row, column).center().toPoint(); }
+
+bool PadGrid::IsCell(int row, int column) const {
+  const RollPadGrid grid = GridOf(layout_);
+  if (row < 0 || column < 0 || row >= grid.Rows || column >= grid.Columns) return false;
+  if (layout_ == kPadTotals) return true;
+  const PadRoll roll = FixedCell(layout_, row, column);
+  return roll.Die1 != 0 || roll.Die2 != 0;
+}
+
+void PadGrid::PaintCell(QPainter& painter, int row, int column) const {
+  const QRectF box = CellBox(row, column).adjusted(1.5, 1.5, -1.5, -1.5);
+  const bool hover = hover_.Row == row && hover_.Column == column;
+  const bool focus = hasFocus() && focus_.Row == row && focus_.Column == column;
+  const PadRoll roll = FixedCell(layout_, row, column);
+  const bool chosen = layout_ == kPadFaces && ((row == 0 && roll.Die1 != 0 && roll.Die1 == chosen_.Die1) ||
+                                               (row == 1 && roll.Die2 != 0 && roll.Die2 == chosen_.Die2));
+  painter.setPen(QPen(focus ? QColor(255, 226, 90) : QColor(224, 214, 180, 150), focus ? 2.2 : 1));
+  painter.setBrush(chosen ? QColor(190, 150, 40) : hover ? QColor(36, 128, 86) : QColor(14, 88, 56));
+  painter.drawRoundedRect(box, 4, 4);
+  if (layout_ == kPadTotals) {
+    QFont large = font();
+    large.setBold(true);
+    large.setPixelSize(18);
+    painter.setFont(large);
+    painter.setPen(column == 5 ? QColor(255, 140, 130) : QColor(250, 246, 232));
+    painter.drawText(box, Qt::AlignCenter, QString::number(column + 2));
+    return;
+  }
+  const double side = box.height() * (layout_ == kPadFaces ? 0.8 : 0.56);
+  const bool both = roll.Die1 != 0 && roll.Die2 != 0;
+  const QPointF apart(both ? side * 0.56 : 0, 0);
+  if (roll.Die1 != 0) PaintFace(painter, box.center() - apart, side, roll.Die1, kDiceRed);
+  if (roll.Die2 != 0) PaintFace(painter, box.center() + apart, side, roll.Die2, both ? kDiceRed : kDiceBlue);
+}
+
+void PadGrid::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const RollPadGrid grid = GridOf(layout_);
+  for (int row = 0; row < grid.Rows; ++row)
+    for (int column = 0; column < grid.Columns; ++column)
+      if (IsCell(row, column)) PaintCell(painter, row, column);
+}
+
+void PadGrid::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) {
+    emit menuWanted(event->globalPosition().toPoint());
+    return;
+  }
+  const PadCell cell = PadCellAt(layout_, static_cast<int>(event->position().x()),
+                                 static_cast<int>(event->position().y()), width(), height());
+  if (!IsCell(cell.Row, cell.Column)) return;
+  focus_ = cell;
+  TellFocus();
+  update();
+  emit pressed(cell.Row, cell.Column);
+}
+
+void PadGrid::mouseMoveEvent(QMouseEvent* event) {
+  const PadCell cell = PadCellAt(layout_, static_cast<int>(event->position().x()),
+                                 static_cast<int>(event->position().y()), width(), height());
+  if (cell.Row == hover_.Row && cell.Column == hover_.Column) return;
+  hover_ = cell;
+  update();
+}
+
+void PadGrid::leaveEvent(QEvent*) {
+  hover_ = {};
+  update();
+}
+
+// To the next cell in a direction, past places that are none.
+void PadGrid::Walk(int rows, int columns) {
+  PadCell next = focus_;
+  const RollPadGrid grid = GridOf(layout_);
+  do {
+    next.Row += rows;
+    next.Column += columns;
+    if (next.Row < 0 || next.Column < 0 || next.Row >= grid.Rows || next.Column >= grid.Columns) return;
+  } while (!IsCell(next.Row, next.Column));
+  focus_ = next;
+  TellFocus();
+  update();
+}
+
+void PadGrid::TellFocus() {
+  const PadRoll roll = FixedCell(layout_, focus_.Row, focus_.Column);
+  if (layout_ == kPadTotals)
+    setAccessibleName(tr("Roll a %1").arg(focus_.Column + 2));
+  else if (roll.IsComplete())
+    setAccessibleName(tr("Roll %1 and %2").arg(roll.Die1).arg(roll.Die2));
+  else
+    setAccessibleName(roll.Die1 != 0 ? tr("First die %1").arg(roll.Die1)
+                                     : tr("Second die %1").arg(roll.Die2));
+}
+
+void PadGrid::keyPressEvent(QKeyEvent* event) {
+  switch (event->key()) {
+    case Qt::Key_Left:
+      return Walk(0, -1);
+    case Qt::Key_Right:
+      return Walk(0, 1);
+    case Qt::Key_Up:
+      return Walk(-1, 0);
+    case Qt::Key_Down:
+      return Walk(1, 0);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+      emit pressed(focus_.Row, focus_.Column);
+      return;
+    case Qt::Key_Menu:
+      emit menuWanted(mapToGlobal(rect().center()));
+      return;
+    default:
+      QWidget::keyPressEvent(event);
+  }
+}
+
+// --- The pad.
+
+RollPad::RollPad(Game& game, QWidget* parent)
+    : QWidget(parent, Qt::Tool),
+      game_(game),
+      grid_(new PadGrid(this)),
+      counter_(new QLabel(this)),
+      random_(new QPushButton(tr("&Random Roll"), this)),
+      run_(new QPushButton(this)),
+      throttle_(new QSlider(Qt::Horizontal, this)),
+      speed_(new QLabel(this)) {
+  setObjectName("frmRYON");
+  setWindowTitle(tr("Roll Your Own Numbers"));
+  counter_->setObjectName("lblRollCounter");
+  random_->setObjectName("cmdRandomRoll");
+  run_->setObjectName("cmdTurboRoll");
+  throttle_->setObjectName("hsbThrottle");
+  throttle_->setRange(0, kThrottleAutoRoll);
+  throttle_->setPageStep(1);
+  throttle_->setMinimumWidth(90);
+  throttle_->setAccessibleName(tr("Speed of a run"));
+  speed_->setObjectName("lblThrottle");
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(8, 8, 8, 8);
+  column->setSizeConstraint(QLayout::SetFixedSize);
+  column->addWidget(grid_, 0, Qt::AlignHCenter);
+  auto* buttons = new QHBoxLayout;
+  for (QWidget* part :
+       {static_cast<QWidget*>(counter_), static_cast<QWidget*>(random_), static_cast<QWidget*>(run_)})
+    buttons->addWidget(part);
+  column->addLayout(buttons);
+  auto* speeds = new QHBoxLayout;
+  speeds->addWidget(throttle_, 1);
+  speeds->addWidget(speed_);
+  column->addLayout(speeds);
+  connect(grid_, &PadGrid::pressed, this, &RollPad::Pressed);
+  connect(grid_, &PadGrid::menuWanted, this, &RollPad::ShowMenu);
+  connect(random_, &QPushButton::clicked, this, &RollPad::RandomRoll);
+  connect(run_, &QPushButton::clicked, this, &RollPad::ToggleRun);
+  connect(throttle_, &QSlider::valueChanged, this, [this](int position) { SetThrottle(game_, position); });
+  Refresh();
+}
+
+void RollPad::Refresh() {
+  const QSignalBlocker quiet(throttle_);
+  throttle_->setValue(game_.settings.RollThrottle);
+  speed_->setText(ThrottleText(game_.settings.RollThrottle));
+  run_->setText(RunCaption(game_));
+  run_->setEnabled(game_.table.AutoRollActive || !game_.table.RollInProgress);
+  random_->setEnabled(!game_.table.RollInProgress || game_.table.AutoRollActive);
+  counter_->setText(tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats)))));
+}
+
+// A run or a script is asked to stop, and the press goes no further; so it does while a roll is under way,
+// and when the amount being keyed in gave a message.
+bool RollPad::MayAct() {
+  if (!AskBeforeCommand(game_) || game_.table.RollInProgress) return false;
+  return !commitEntry || commitEntry();
+}
+
+void RollPad::Pressed(int row, int column) {
+  if (!MayAct()) return;
+  PadRoll roll = PadCellRoll(grid_->PadLayout(), row, column, game_.generators);
+  if (grid_->PadLayout() == kPadFaces) {
+    roll = chosen_ = JoinFaces(chosen_, roll);
+    grid_->SetChosen(chosen_);
+  }
+  if (!roll.IsComplete()) return;
+  chosen_ = {};
+  grid_->SetChosen(chosen_);
+  game_.table.ManualDie1 = roll.Die1;
+  game_.table.ManualDie2 = roll.Die2;
+  game_.table.ManualRollPending = true;
+  RollDice(game_);
+  Refresh();
+}
+
+void RollPad::RandomRoll() {
+  if (!MayAct()) return;
+  RollDice(game_);
+  Refresh();
+}
+
+void RollPad::ToggleRun() {
+  if (!game_.table.AutoRollActive && commitEntry && !commitEntry()) return;
+  ToggleAutoRoll(game_);
+  Refresh();
+}
+
+void RollPad::SetPadLayout(int layout) {
+  chosen_ = {};
+  grid_->SetPadLayout(layout);
+}
+
+void RollPad::ShowMenu(QPoint globalPoint) {
+  QMenu menu(this);
+  menu.setObjectName("mnuRYON");
+  QMenu* display = menu.addMenu(tr("&Display"));
+  display->menuAction()->setObjectName("mnuRYONDisplay");
+  QActionGroup layouts(&menu);
+  for (int layout = 0; layout < kRollPadLayouts; ++layout) {
+    QAction* action = display->addAction(tr(kRollPadCaptions[layout]));
+    action->setObjectName(QString("mnuRYONDisplay%1").arg(layout));
+    action->setCheckable(true);
+    action->setChecked(layout == grid_->PadLayout());
+    layouts.addAction(action);
+    connect(action, &QAction::triggered, this, [this, layout] { SetPadLayout(layout); });
+  }
+  const auto showing = [&](const char* name, const QString& text, QWidget* part) {
+    QAction* action = menu.addAction(text);
+    action->setObjectName(name);
+    action->setCheckable(true);
+    action->setChecked(part->isVisibleTo(this));
+    connect(action, &QAction::toggled, part, &QWidget::setVisible);
+  };
+  showing("mnuRollCounter", tr("Roll &counter"), counter_);
+  showing("mnuTurboRollButton", tr("&Turbo-Roll button"), run_);
+  showing("mnuRandomButton", tr("&Random button"), random_);
+  menu.addSeparator();
+  const auto entry = [&](const char* name, const QString& text, auto act) {
+    QAction* action = menu.addAction(text);
+    action->setObjectName(name);
+    connect(action, &QAction::triggered, this, act);
+  };
+  entry("mnuSetAutoRollTimeDelay", tr("Set Auto-Roll time &delay ..."), [this] { SetAutoRollDelay(game_); });
+  entry("mnuSetAutoStop", tr("Set Auto-&Stop ..."), [this] { SetAutoStop(game_); });
+  menu.addSeparator();
+  entry("mnuHide", tr("&Hide"), [this] { hide(); });
+  menu.exec(globalPoint);
+}
+
+}  // namespace tessaryn
