@@ -27,7 +27,7 @@ bool CheckBracketBalance(CompileJob& job) {
 }
 
 std::string MissingBracketMessage(const ScriptToken& token) {
-  const int code = static_cast<int>(token.value);
+  const int code = CodeOf(token);
   if (token.kind == kTokenFunction) {
     const FunctionProperty* function = FindFunction(code);
     return "Missing or inappropriate reference to " + std::string(function ? function->name : "function") +
@@ -54,7 +54,7 @@ bool CheckBracketsBehind(CompileJob& job, std::int32_t kind) {
 
 bool TakesList(const ScriptToken& token) {
   return token.kind == kTokenList ||
-         (token.kind == kTokenFunction && IsListFunction(static_cast<int>(token.value)));
+         (token.kind == kTokenFunction && IsListFunction(CodeOf(token)));
 }
 
 // A run finds the end of a list by the sentinel ahead of its close bracket.
@@ -122,7 +122,7 @@ bool IsPlayerScopeOrMetric(const ScriptToken& token) {
 }
 
 bool IsBet(const ScriptToken& token) {
-  return token.kind == kTokenVariable && IsBetVariable(static_cast<int>(token.value));
+  return token.kind == kTokenVariable && IsBetVariable(CodeOf(token));
 }
 
 // Beside a bet "# rolls since last" is that bet's measure, else a count of the table's.

@@ -59,7 +59,7 @@ class ProgramPreparer {
       if (end > start) Statement(start, end);
       if (end < tokens_.size()) {
         line_ = LineOfMarker(tokens_[end]);
-        column_ = static_cast<int>(tokens_[end].value);
+        column_ = CodeOf(tokens_[end]);
       }
       start = end + 1;
     }
@@ -168,7 +168,7 @@ class ProgramPreparer {
           elements.push_back({Part::kValue, NumberPlace(token.value), 0, i});
           break;
         case kTokenString:
-          elements.push_back({Part::kValue, Literal(static_cast<int>(token.value)), 0, i});
+          elements.push_back({Part::kValue, Literal(CodeOf(token)), 0, i});
           break;
         case kTokenFunction:
         case kTokenFunctionTarget:
@@ -288,7 +288,7 @@ class ProgramPreparer {
   }
 
   Operand Function(Index at) {
-    const int code = static_cast<int>(tokens_[at].value);
+    const int code = CodeOf(tokens_[at]);
     if (ReadsAsReference(code)) return ReadReference(ReferenceAt(at));
     PreparedCall call;
     call.code = code;
@@ -311,7 +311,7 @@ class ProgramPreparer {
     Reference reference;
     const std::int32_t kind = tokens_[at].kind;
     reference.function = kind == kTokenFunction || kind == kTokenFunctionTarget;
-    reference.code = static_cast<std::int32_t>(tokens_[at].value);
+    reference.code = CodeOf(tokens_[at]);
     Index i = at + 1;
     if (reference.function) {
       const PreparedList arguments = ValueList(at);
@@ -330,7 +330,7 @@ class ProgramPreparer {
 
   void Modifier(Index& i, bool wholeTable, Reference& reference) {
     const ScriptToken& token = tokens_[i];
-    const int value = static_cast<int>(token.value);
+    const int value = CodeOf(token);
     if (token.kind == kTokenScope) {
       reference.scope = std::clamp(value - 1, 0, 4);
     } else if (token.kind == kTokenMetric) {
@@ -527,7 +527,7 @@ class ProgramPreparer {
     statement.value.begin = CodeEnd();
     if (first.kind == kTokenHeader) {
       statement.kind = StatementKind::kHeader;
-      statement.code = static_cast<std::int32_t>(first.value);
+      statement.code = CodeOf(first);
       inCondition_ = false;
     } else if (first.kind == kTokenLabel) {
       statement.kind = StatementKind::kLabel;
@@ -549,7 +549,7 @@ class ProgramPreparer {
   void Keyword(Index begin, Index end, PreparedStatement& statement) {
     const ScriptToken& first = tokens_[begin];
     statement.keyword = first.kind;
-    statement.jump = static_cast<std::int32_t>(first.value);
+    statement.jump = CodeOf(first);
     switch (first.kind) {
       case kTokenIf:
         statement.kind = StatementKind::kIf;
@@ -572,7 +572,7 @@ class ProgramPreparer {
       case kTokenGoto:
       case kTokenGosub:
         statement.kind = first.kind == kTokenGoto ? StatementKind::kGoto : StatementKind::kGosub;
-        statement.jump = begin + 1 < end ? static_cast<std::int32_t>(tokens_[begin + 1].value) : 0;
+        statement.jump = begin + 1 < end ? CodeOf(tokens_[begin + 1]) : 0;
         break;
       case kTokenDo:
         statement.kind = StatementKind::kDo;
@@ -612,7 +612,7 @@ class ProgramPreparer {
   }
 
   void Action(Index begin, Index end, PreparedStatement& statement) {
-    statement.code = static_cast<std::int32_t>(tokens_[begin].value);
+    statement.code = CodeOf(tokens_[begin]);
     ++begin;
     switch (ShapeOfAction(statement.code)) {
       case ActionShape::kAmountTargets: {

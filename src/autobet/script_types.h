@@ -68,6 +68,11 @@ struct ScriptToken {
   friend bool operator==(const ScriptToken&, const ScriptToken&) = default;
 };
 
+// The code of a token; 0 where its value is no code, since a literal can be any number.
+inline int CodeOf(const ScriptToken& token) {
+  return token.value >= -1e9 && token.value <= 1e9 ? static_cast<int>(token.value) : 0;
+}
+
 struct ScriptString {
   std::string text;     // as typed
   double position = 0;  // of a label: its 1-based token index; else 0
