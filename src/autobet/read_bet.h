@@ -11,4 +11,7 @@ struct Game;
 // 1000 for the vig of a bet without.
 bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value);
 
+// What the last roll won (metric 2) or lost (3) on a bet, as the session has it. 0 when it decided nothing.
+double SessionLastRoll(const Game& game, int metric, int seat, int bet);
+
 }  // namespace tessaryn
