@@ -25,8 +25,9 @@ std::string BytesOf(const std::string& path) {
   return bytes.str();
 }
 
-const std::vector<HotKey> kKeys = {
-    {'f', "/scripts/field.bet", "the field"}, {'7', "place.bet", ""}, {'\x1b', std::string(100, 'p'), "long"}};
+const std::vector<HotKey> kKeys = {{'f', "/scripts/field.bet", "the field"},
+                                   {'7', "place.bet", ""},
+                                   {'\x1b', std::string(100, 'p'), "long"}};
 
 TEST(HotKeyFile, ComesBackAsItWasWritten) {
   Folder folder;
@@ -83,8 +84,8 @@ TEST(HotKeyFile, DamageLosesNothing) {
     }
   };
   for (std::size_t length = 0; length < whole.size(); ++length)
-    if (length % 7 == 0 || length % 256 < 2) tryBytes(whole.substr(0, length), true);
-  for (int i = 0; i < 300; ++i) {
+    if (length % 64 == 0 || length % 256 < 2) tryBytes(whole.substr(0, length), true);
+  for (int i = 0; i < 80; ++i) {
     std::string damaged = whole;
     for (int hits = 0; hits < 5; ++hits) damaged[random() % damaged.size()] = static_cast<char>(random());
     tryBytes(damaged, false);

@@ -25,15 +25,16 @@ TEST(FindInScript, LooksOnFromAPlaceAndRoundTheEnd) {
     ScriptPlace found;
   };
   const Case cases[] = {
-      {"field", {1, 0}, {1, 9}},  {"field", {1, 10}, {3, 6}},   {"field", {3, 7}, {3, 13}},
-      {"FIELD", {3, 14}, {1, 9}}, {"field", {99, -5}, {3, 6}},  {"field", {1, 500}, {3, 6}},
-      {"nine", {1, 0}, {0, 0}},   {"", {1, 0}, {0, 0}},         {"field, field", {1, 0}, {3, 6}},
+      {"field", {1, 0}, {1, 9}},  {"field", {1, 10}, {3, 6}},  {"field", {3, 7}, {3, 13}},
+      {"FIELD", {3, 14}, {1, 9}}, {"field", {99, -5}, {3, 6}}, {"field", {1, 500}, {3, 6}},
+      {"nine", {1, 0}, {0, 0}},   {"", {1, 0}, {0, 0}},        {"field, field", {1, 0}, {3, 6}},
       {"bet", {1, 1}, {1, 0}},    {"field\n", {1, 0}, {0, 0}},
   };
   for (const Case& one : cases) {
     const ScriptPlace place = FindInScript(lines, one.text, one.from);
     EXPECT_EQ(place.line, one.found.line) << one.text << " from " << one.from.line << "," << one.from.column;
-    EXPECT_EQ(place.column, one.found.column) << one.text << " from " << one.from.line << "," << one.from.column;
+    EXPECT_EQ(place.column, one.found.column)
+        << one.text << " from " << one.from.line << "," << one.from.column;
   }
   EXPECT_EQ(FindInScript({}, "x", {1, 0}).line, 0);
 }
@@ -86,8 +87,9 @@ TEST(LoggedBets, PlayTheSameBetsAgain) {
   bet(103, "2.25");
   RemoveBet(game, 1, kField);
   LogBet(game, 1, kField);
-  EXPECT_EQ(Joined(game.autobet.LoggedBets),
-            "bet 10 on passline|bet 15 on passline|bet 7 on field|bet 12 on place6|bet 2.25 on cs3|remove field|");
+  EXPECT_EQ(
+      Joined(game.autobet.LoggedBets),
+      "bet 10 on passline|bet 15 on passline|bet 7 on field|bet 12 on place6|bet 2.25 on cs3|remove field|");
   double wanted[200];
   for (int number = 1; number < 200; ++number) wanted[number] = table.Bet(number);
   for (const int number : {static_cast<int>(kPassLine), kPlace4 + 2, 103}) RemoveBet(game, 1, number);
@@ -141,7 +143,7 @@ TEST(CheckScript, TheTitleNamesTheLinesAndTheSpanStaysInTheScript) {
   EXPECT_EQ(one.title, "Auto-bet script error in line 2");
   const ScriptCheck several = CheckLines({}, 1, {"10", "cs1 = 1", "10"});
   EXPECT_EQ(several.title, "Auto-bet script error in lines 1 thru 3");
-  for (const std::string& text : {"if 1 then", "do", "bet 5 on (", "goto"}) {
+  for (const char* const text : {"if 1 then", "do", "bet 5 on (", "goto"}) {
     const ScriptCheck check = CheckLines({}, 1, {"' first", text});
     EXPECT_FALSE(check.ok) << text;
     EXPECT_GE(check.diagnostic.firstLine, 1) << text;
@@ -155,12 +157,13 @@ TEST(ActivateScript, OffersToInitialiseInItsWords) {
   SetScript(game, 1, {"if initializing script then add 1 to cs0 endif"}, "");
   ActivateScript(game, 1);
   ASSERT_EQ(table.host.boxes.size(), 1u);
-  EXPECT_EQ(table.host.boxes[0],
-            "Ann's auto-bet script has been activated.\r\rYou have an opportunity now to run Ann's script for "
-            "one cycle BEFORE the dice roll in order to check and set any initial conditions.  This is called "
-            "initializing. If you're not ready yet, then just recheck the active checkbox later or note that "
-            "all players' active auto-bets are automatically initialized whenever NEW is selected from the "
-            "GAME menu.\r\rWould you like to initialize Ann's auto-bet script now?");
+  EXPECT_EQ(
+      table.host.boxes[0],
+      "Ann's auto-bet script has been activated.\r\rYou have an opportunity now to run Ann's script for "
+      "one cycle BEFORE the dice roll in order to check and set any initial conditions.  This is called "
+      "initializing. If you're not ready yet, then just recheck the active checkbox later or note that "
+      "all players' active auto-bets are automatically initialized whenever NEW is selected from the "
+      "GAME menu.\r\rWould you like to initialize Ann's auto-bet script now?");
   EXPECT_TRUE(game.autobet.ScriptActive[1] && game.autobet.ScriptActive[0]);
   EXPECT_EQ(table.Bet(100), 0) << "No was the answer";
   table.host.result = kResultYes;

@@ -33,12 +33,12 @@ bool Has(const std::vector<Json>& lines, const char* key) {
   return false;
 }
 
-double StackOf(const TempFolder& folder, std::vector<std::string> commands, const std::string& condition) {
-  // A second script tells through its field bet whether the condition holds.
+// 6 when the condition holds, else 0.
+double BetIf(const TempFolder& folder, std::vector<std::string> commands, const std::string& condition) {
   WriteFile(folder.File("ask.bet"), "clear field\nif " + condition + " then bet 6 on field endif\n");
   commands.push_back("hotkey " + folder.File("ask.bet"));
   commands.push_back("remove 1 field");
-  return Play(folder, commands).back()["change"].get<double>();
+  return -Play(folder, commands).back()["change"].get<double>();
 }
 
 TEST(CliScript, ActivatedScriptsPlayAndDeactivatedOnesRest) {
@@ -50,12 +50,12 @@ TEST(CliScript, ActivatedScriptsPlayAndDeactivatedOnesRest) {
     commands.insert(commands.begin(), join.begin(), join.end());
     return commands;
   };
-  EXPECT_EQ(StackOf(folder, with({"roll 1 2", "roll 1 2"}), "cs0 = 0"), 6) << "loading activates nothing";
-  EXPECT_EQ(StackOf(folder, with({"activate 1", "roll 1 2", "roll 1 2"}), "cs0 = 2"), 6);
-  EXPECT_EQ(StackOf(folder, with({"answer yes", "activate 1", "roll 1 2"}), "cs0 = 2"), 6);
-  EXPECT_EQ(StackOf(folder, with({"initialise 1"}), "cs0 = 1"), 6);
-  EXPECT_EQ(StackOf(folder, with({"initialise 1", "deactivate 1", "roll 1 2"}), "cs0 = 1"), 6);
-  EXPECT_EQ(StackOf(folder, with({"initialise 1", "roll 1 2", "newsession", "roll 1 2"}), "cs0 = 2"), 6)
+  EXPECT_EQ(BetIf(folder, with({"roll 1 2", "roll 1 2"}), "cs0 = 0"), 6) << "loading activates nothing";
+  EXPECT_EQ(BetIf(folder, with({"activate 1", "roll 1 2", "roll 1 2"}), "cs0 = 2"), 6);
+  EXPECT_EQ(BetIf(folder, with({"answer yes", "activate 1", "roll 1 2"}), "cs0 = 2"), 6);
+  EXPECT_EQ(BetIf(folder, with({"initialise 1"}), "cs0 = 1"), 6);
+  EXPECT_EQ(BetIf(folder, with({"initialise 1", "deactivate 1", "roll 1 2"}), "cs0 = 1"), 6);
+  EXPECT_EQ(BetIf(folder, with({"initialise 1", "roll 1 2", "newsession", "roll 1 2"}), "cs0 = 2"), 6)
       << "a new session clears the stacks and initialises";
 }
 
@@ -74,7 +74,8 @@ TEST(CliScript, StepsAreLinesOfTheirOwnUntilTheyAreOff) {
       "2 No action taken.\rDivision by zero.",
       "3 Beginning of condition block.",
       "3 Condition is true.",
-      "3 End of condition block and beginning of action block.\rConditions were true, so next action block will "
+      "3 End of condition block and beginning of action block.\rConditions were true, so next action block "
+      "will "
       "be performed.",
       "4 Action taken.",
       "4 End of If/Then structure.",
@@ -88,13 +89,14 @@ TEST(CliScript, StepsAreLinesOfTheirOwnUntilTheyAreOff) {
 TEST(CliScript, PermissionsOpenWhatTheyName) {
   TempFolder folder;
   WriteFile(folder.File("a.bet"), "bet 9 on field bob\n");
-  const std::vector<std::string> commands = {"join 1 Ann 500", "join 2 Bob 500", "script 1 " + folder.File("a.bet"),
-                                             "initialise 1", "remove 2 field"};
+  const std::vector<std::string> commands = {"join 1 Ann 500", "join 2 Bob 500",
+                                             "script 1 " + folder.File("a.bet"), "initialise 1",
+                                             "remove 2 field"};
   EXPECT_EQ(Play(folder, commands).back()["change"], 0);
   for (const char* word : {"others on", "reset on", "files on"}) {
     std::vector<std::string> allowed = commands;
     allowed.insert(allowed.begin() + 3, std::string("permission 1 ") + word);
-    EXPECT_EQ(Play(folder, allowed).back()["change"], std::string(word) == "others on" ? 9 : 0) << word;
+    EXPECT_EQ(Play(folder, allowed).back()["change"], std::string(word) == "others on" ? -9 : 0) << word;
   }
 }
 
@@ -129,9 +131,10 @@ TEST(CliScript, WrongWordsAreNamedAndNothingIsLost) {
     EXPECT_NE(answer["error"].get<std::string>().find(one.part), std::string::npos)
         << one.command << ": " << answer.dump();
     tried.insert(tried.end(), {"initialise 1", "remove 1 field"});
-    EXPECT_EQ(Play(folder, tried).back()["change"], 5) << "after " << one.command;
+    EXPECT_EQ(Play(folder, tried).back()["change"], -5) << "after " << one.command;
   }
-  const std::vector<Json> bad = Play(folder, {commands[0], "script 1 " + folder.File("bad.bet"), "activate 1"});
+  const std::vector<Json> bad =
+      Play(folder, {commands[0], "script 1 " + folder.File("bad.bet"), "activate 1"});
   EXPECT_EQ(bad[1]["script"]["ok"], false);
   EXPECT_EQ(bad[1]["script"]["message"], "Missing ENDIF statement.");
   EXPECT_NE(bad.back()["error"].get<std::string>().find("Missing ENDIF statement."), std::string::npos);
@@ -140,9 +143,10 @@ TEST(CliScript, WrongWordsAreNamedAndNothingIsLost) {
 TEST(CliScript, WritesOutsideTheDataFolderOnlyWhereItIsAllowed) {
   TempFolder folder;
   TempFolder data;
-  WriteFile(folder.File("a.bet"), "open/clear file for output \"" + folder.File("log.txt") +
-                                      "\"\noutput to file \"outside\"\nopen/append file for output \"in.txt\"\n"
-                                      "output to file \"inside\"\n");
+  WriteFile(folder.File("a.bet"),
+            "open/clear file for output \"" + folder.File("log.txt") +
+                "\"\noutput to file \"outside\"\nopen/append file for output \"in.txt\"\n"
+                "output to file \"inside\"\n");
   std::vector<std::string> commands = {"join 1 Ann 500", "script 1 " + folder.File("a.bet"), "steps on",
                                        "initialise 1"};
   const auto told = [](const std::vector<Json>& lines) {
@@ -151,9 +155,10 @@ TEST(CliScript, WritesOutsideTheDataFolderOnlyWhereItIsAllowed) {
       if (line.contains("step")) text += line["step"]["text"].get<std::string>() + "|";
     return text;
   };
-  EXPECT_EQ(told(Play(data, commands)),
-            "No action taken.\rBad path and/or filename.|No action taken.\rOutput file not open.|Action taken.|"
-            "Action taken.|");
+  EXPECT_EQ(
+      told(Play(data, commands)),
+      "No action taken.\rBad path and/or filename.|No action taken.\rOutput file not open.|Action taken.|"
+      "Action taken.|");
   EXPECT_EQ(ReadFile(folder.File("log.txt")), "");
   EXPECT_EQ(ReadFile(data.File("in.txt")), "inside\n");
   EXPECT_EQ(told(Play(data, commands, {"--allow-output", folder.Path()})),
@@ -162,7 +167,8 @@ TEST(CliScript, WritesOutsideTheDataFolderOnlyWhereItIsAllowed) {
   EXPECT_EQ(ReadFile(data.File("in.txt")), "inside\ninside\n");
 }
 
-// Runs the program with a script without end and presses Ctrl-C. Its exit code, or -1 when it had to be killed.
+// Runs the program with a script without end and presses Ctrl-C. Its exit code, or -1 when it had to be
+// killed.
 int ExitAfterCtrlC(const std::vector<std::string>& arguments, const TempFolder& folder) {
   const pid_t child = fork();
   if (child == 0) {
@@ -190,18 +196,20 @@ int ExitAfterCtrlC(const std::vector<std::string>& arguments, const TempFolder& 
 
 TEST(CliScript, CtrlCStopsAScriptWithoutEnd) {
   TempFolder folder;
-  WriteFile(folder.File("loop.bet"), "bet 5 on field\ndo\nadd 1 to cs0\nif cs0 < 0 then exitdo endif\nloop\n");
-  WriteFile(folder.File("in"), "join 1 Ann 500\nscript 1 " + folder.File("loop.bet") +
-                                   "\ninitialise 1\nstate\n");
+  WriteFile(folder.File("loop.bet"),
+            "bet 5 on field\ndo\nadd 1 to cs0\nif cs0 < 0 then exitdo endif\nloop\n");
+  WriteFile(folder.File("in"),
+            "join 1 Ann 500\nscript 1 " + folder.File("loop.bet") + "\ninitialise 1\nstate\n");
   EXPECT_EQ(ExitAfterCtrlC({"play", "--data-folder", folder.Path()}, folder), 0);
   const std::vector<std::string> lines = Lines(ReadFile(folder.File("out")));
   ASSERT_EQ(lines.size(), 3u) << "the command that was stopped is answered, and no further one is done";
   EXPECT_TRUE(Json::accept(lines.back()));
 
-  EXPECT_EQ(ExitAfterCtrlC({"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set",
-                            "ShooterBetRule=0", "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
-                           folder),
-            0);
+  EXPECT_EQ(
+      ExitAfterCtrlC({"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set",
+                      "ShooterBetRule=0", "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
+                     folder),
+      0);
   const Json run = Json::parse(ReadFile(folder.File("out")));
   EXPECT_EQ(run["seats"][0]["onTable"], 5) << "the table is as the last statement left it";
   EXPECT_LT(run["rolls"], 1000);
