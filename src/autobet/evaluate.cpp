@@ -148,10 +148,14 @@ bool SeatOf(Game& game, const PreparedProgram& program, const Reference& referen
 
 bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
   const MoneyTest& test = program.moneyTests[static_cast<std::size_t>(step.a)];
-  int seat = 0;
-  if (!SeatOf(game, program, program.references[static_cast<std::size_t>(test.reference)], seat))
-    return false;
-  const std::int64_t money = game.table.BetAmount(seat, test.bet).raw;
+  std::int64_t money = game.table.Point * Currency::kPerDollar;
+  if (test.tested != Tested::kPoint) {
+    const Reference& reference = program.references[static_cast<std::size_t>(test.reference)];
+    int seat = 0;
+    if (!SeatOf(game, program, reference, seat)) return false;
+    money = test.tested == Tested::kAmount ? game.table.BetAmount(seat, test.bet).raw
+                                           : SessionLastRoll(game, reference.metric, seat, test.bet).raw;
+  }
   result = NumbersCompare(step.relation + kTokenEqual, money, test.raw) ? kTrue : 0;
   return true;
 }
@@ -176,7 +180,7 @@ bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, dou
   int seat = 0;
   if (!SeatOf(game, program, reference, seat)) return false;
   if (step.op == Op::kLastRoll) {
-    result = SessionLastRoll(game, reference.metric, seat, step.b);
+    result = Dollars(SessionLastRoll(game, reference.metric, seat, step.b));
     return true;
   }
   result = Dollars(game.table.BetAmount(seat, step.b));

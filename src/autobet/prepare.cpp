@@ -556,12 +556,13 @@ class ProgramPreparer {
 
   static Index PlaceOf(Operand operand) { return static_cast<Index>(operand.place); }
 
-  static bool ReadsMoney(Op op) { return op == Op::kBetMoney || op == Op::kStack; }
+  static bool ReadsMoney(Op op) {
+    return op == Op::kBetMoney || op == Op::kStack || op == Op::kLastRoll || op == Op::kPoint;
+  }
   // Steps that neither fail nor do anything but fill their place.
   static bool IsPure(const Instruction& step) {
     return ReadsMoney(step.op) || step.op == Op::kCompareMoney || step.op == Op::kCompare ||
-           step.op == Op::kPoint || step.op == Op::kComeOut || step.op == Op::kPointOn ||
-           step.op == Op::kLastRoll;
+           step.op == Op::kComeOut || step.op == Op::kPointOn;
   }
 
   // The step of the range in hand that read money into a place, with nothing but pure steps behind it; -1
@@ -588,7 +589,10 @@ class ProgramPreparer {
     const std::int32_t at = MoneyReadInto(money);
     const Instruction read = out_.instructions[static_cast<Index>(at)];
     out_.instructions.erase(out_.instructions.begin() + at);
-    out_.moneyTests.push_back({read.a, read.b, static_cast<std::int64_t>(dollars * 10'000.0)});
+    const Tested tested = read.op == Op::kLastRoll ? Tested::kLastRoll
+                          : read.op == Op::kPoint  ? Tested::kPoint
+                                                   : Tested::kAmount;
+    out_.moneyTests.push_back({tested, read.a, read.b, static_cast<std::int64_t>(dollars * 10'000.0)});
     const auto test = static_cast<std::int32_t>(out_.moneyTests.size() - 1);
     out_.instructions.push_back(
         {Op::kCompareMoney, static_cast<std::uint8_t>(relation - kTokenEqual), read.to, test, 0});

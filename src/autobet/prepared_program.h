@@ -81,7 +81,7 @@ enum class Op : std::uint8_t {
   kBetMoney,      // the wager now on bet b, reference a
   kStack,         // the value of CheckStack b - 100, reference a
   kBetsMoney,     // the wagers on as many bets as relation says, from b on, into as many places, reference a
-  kCompareMoney,  // money test a: either of the two above with a literal behind it
+  kCompareMoney,  // money test a: an amount, a last roll or the point, and a literal behind it
   kLastRoll,      // what the last roll won or lost on bet b in the session, reference a
   kPoint,
   kComeOut,  // whether there is no point
@@ -102,8 +102,10 @@ struct Instruction {
   std::int32_t b = 0;
 };
 
-// A wager or CheckStack compared with a literal, both as money: no division to dollars and no rounding.
+// What is compared with a literal, both as money: no division to dollars and no rounding.
+enum class Tested : std::uint8_t { kAmount, kLastRoll, kPoint };
 struct MoneyTest {
+  Tested tested = Tested::kAmount;  // of a bet or CheckStack
   std::int32_t reference = 0;
   std::int32_t bet = 0;
   std::int64_t raw = 0;  // of the literal

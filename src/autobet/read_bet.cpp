@@ -225,16 +225,16 @@ bool Standing(const BetQuestion& question, int measure, double& value) {
 
 }  // namespace
 
-double SessionLastRoll(const Game& game, int metric, int seat, int bet) {
+Currency SessionLastRoll(const Game& game, int metric, int seat, int bet) {
   const Currency roll = Currency::Dollars(SessionRolls(game.stats));
-  if (roll == kZero) return 0;
+  if (roll == kZero) return kZero;
   const int table = metric == kMetricWins ? kWinStats : kLossStats;
   // A hand's figures are its own until it ends, and then the session's.
   for (const int scope : {kCurrentHand, kCurrentSession}) {
     const auto& kinds = game.stats.Bets[bet][seat][scope].kinds[table];
-    if (kinds[kStatLastRoll - 1] == roll) return kinds[kStatLastAmount - 1].ToDouble();
+    if (kinds[kStatLastRoll - 1] == roll) return kinds[kStatLastAmount - 1];
   }
-  return 0;
+  return kZero;
 }
 
 bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "autobet/prepared_program.h"
+#include "engine/money.h"
 
 namespace tessaryn {
 
@@ -12,6 +13,6 @@ struct Game;
 bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value);
 
 // What the last roll won (metric 2) or lost (3) on a bet, as the session has it. 0 when it decided nothing.
-double SessionLastRoll(const Game& game, int metric, int seat, int bet);
+Currency SessionLastRoll(const Game& game, int metric, int seat, int bet);
 
 }  // namespace tessaryn
