@@ -175,5 +175,40 @@ TEST(ActivateScript, OffersToInitialiseInItsWords) {
   EXPECT_FALSE(game.autobet.ScriptActive[1] || game.autobet.ScriptActive[0]);
 }
 
+// The user of the steps viewer: asks for the next statement, or stops the run at one of them.
+struct StepHost : script_test::TestHost {
+  int waits = 0;
+  int stopAt = 0;  // 0 never
+  void Wait(Game& game) override {
+    ++waits;
+    tick += 5;
+    if (stopAt > 0 && waits == stopAt)
+      game.autobet.ScriptRunning = false;
+    else
+      game.autobet.StepWaiting = false;
+  }
+};
+
+TEST(StepMode, WaitsBehindEveryStatementUntilTheUserAsksOrStops) {
+  for (const int stopAt : {0, 2}) {
+    ScriptTable table;
+    Game& game = *table.game;
+    StepHost host;
+    game.host = &host;
+    host.stopAt = stopAt;
+    game.autobet.StepsShown = game.autobet.StepMode = true;
+    game.autobet.StepsHold = false;
+    ASSERT_EQ(table.Load(1, "bet 5 on field\nbet 6 on passline\nbet 7 on big6"), "");
+    CompileALLAutobets(game);
+    RunAutoBet(game);
+    EXPECT_EQ(host.waits, stopAt == 0 ? 3 : 2);
+    EXPECT_EQ(table.Bet(kField), 5);
+    EXPECT_EQ(table.Bet(kPassLine), 6) << "the statement that was waited behind is done";
+    EXPECT_EQ(table.Bet(kBig6), stopAt == 0 ? 7 : 0);
+    EXPECT_FALSE(game.autobet.ScriptRunning || game.autobet.StepWaiting);
+    game.host = &table.host;
+  }
+}
+
 }  // namespace
 }  // namespace tessaryn
