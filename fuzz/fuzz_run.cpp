@@ -22,7 +22,7 @@ namespace {
 
 using namespace tessaryn;
 
-constexpr int kMostStatements = 3000;
+constexpr int kMostStatements = 1000;
 
 struct FuzzHost : Host {
   int statements = 0;

@@ -29,14 +29,14 @@ struct ScriptOutput {
 };
 
 struct SeatScript {
-  std::vector<std::string> ScriptLines;   // as typed; seat 0 the hot-key script
-  std::vector<int> ScriptNesting;         // the level of each line
-  std::string ScriptFileName;             // empty: untitled
+  std::vector<std::string> ScriptLines;  // as typed; seat 0 the hot-key script
+  std::vector<int> ScriptNesting;        // the level of each line
+  std::string ScriptFileName;            // empty: untitled
   bool Unsaved = false;
   // Permissions.
   bool AllowAct4Others = false;
-  bool AllowReset = false;                // new sessions
-  bool AllowActProb = false;              // probability files and dice roll files
+  bool AllowReset = false;    // new sessions
+  bool AllowActProb = false;  // probability files and dice roll files
   ScriptOutput Output;
 };
 
@@ -48,34 +48,38 @@ struct PreparedProgramDeleter {
 
 // One step of a run as the viewer shows it.
 struct ScriptStep {
-  int seat = 0;             // whose script it is
-  int line = 0;             // 1-based source line
+  int seat = 0;  // whose script it is
+  int line = 0;  // 1-based source line
   int column = 0;
-  std::string text;         // "\r" between its lines
+  std::string text;  // "\r" between its lines
 };
 
 struct AutoBet {
   SeatScript Scripts[kSeatRows];
-  bool ScriptActive[kSeatRows] = {};      // 0 the master switch that the roll cycle tests
-  bool ScriptsCompiled = false;           // Program is valid
-  CompiledScript Program;                 // the joined scripts of all active players
+  bool ScriptActive[kSeatRows] = {};  // 0 the master switch that the roll cycle tests
+  bool ScriptsCompiled = false;       // Program is valid
+  CompiledScript Program;             // the joined scripts of all active players
   std::unique_ptr<PreparedProgram, PreparedProgramDeleter> Prepared;  // Program as it is run; may be null
   std::vector<std::string> AllowedOutputFolders;  // besides the data folder; set by the user for the run
+  // --- Bets made by hand, as statements to insert into a script.
+  bool BetLogging = false;
+  std::vector<std::string> LoggedBets;
+  bool LoggedBetsUnsaved = false;
   // --- The run.
-  bool ScriptRunning = false;             // clearing it stops the run at the next statement
+  bool ScriptRunning = false;  // clearing it stops the run at the next statement
   bool ScriptInitializing = false;
   int CurrentAutobettor = 0;
-  int ScriptError = 0;                    // run-time error of the current statement; 0 none
-  std::string ScriptFault;                // the text of error 10000
-  bool StepMode = false;                  // the run waits after each statement
-  bool StepsShown = false;                // the steps viewer is open
-  bool StepsHold = true;                  // a watched run lasts long enough to be seen
-  bool StepWaiting = false;               // in step mode: until the user asks for the next statement
-  bool HotKeyRun = false;                 // Program is a hot-key's for the moment
-  std::string StatusCaption;              // "Auto-Betting" or "Hot-Key" during a run that is shown
-  double Answer = 0;                      // the last question's: 6 yes, 7 no
-  bool BeginningNewSession = false;       // no roll since the session began
-  bool RollFileEndReached = false;        // set when playback came to its end
+  int ScriptError = 0;               // run-time error of the current statement; 0 none
+  std::string ScriptFault;           // the text of error 10000
+  bool StepMode = false;             // the run waits after each statement
+  bool StepsShown = false;           // the steps viewer is open
+  bool StepsHold = true;             // a watched run lasts long enough to be seen
+  bool StepWaiting = false;          // in step mode: until the user asks for the next statement
+  bool HotKeyRun = false;            // Program is a hot-key's for the moment
+  std::string StatusCaption;         // "Auto-Betting" or "Hot-Key" during a run that is shown
+  double Answer = 0;                 // the last question's: 6 yes, 7 no
+  bool BeginningNewSession = false;  // no roll since the session began
+  bool RollFileEndReached = false;   // set when playback came to its end
 };
 
 }  // namespace tessaryn

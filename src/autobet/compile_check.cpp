@@ -367,7 +367,7 @@ class StatementReader {
 
   std::string ReadToken(const ScriptToken& token) {
     const bool behindReference = std::exchange(behindReference_, false);
-    const int code = static_cast<int>(token.value);
+    const int code = CodeOf(token);
     switch (token.kind) {
       case kTokenNumber:
         Push(Shape::kNumber);
@@ -417,7 +417,7 @@ class StatementReader {
         Push(Shape::kPreposition);
         return {};
       case kTokenAction:
-        Push(Shape::kAction, static_cast<int>(token.value));
+        Push(Shape::kAction, CodeOf(token));
         return {};
       default:
         Push(token.kind >= kTokenEqual && token.kind <= kTokenJoin ? Shape::kOperator : Shape::kUnresolved,
@@ -427,7 +427,7 @@ class StatementReader {
   }
 
   std::string ReadVariable(const ScriptToken& token) {
-    const int code = static_cast<int>(token.value);
+    const int code = CodeOf(token);
     behindReference_ = true;
     if (IsBetVariable(code)) {
       const std::string_view family = MissingBetFamily(code, job_.surroundings);

@@ -61,7 +61,7 @@ class TargetMarker {
         if (search_ == Search::kPreposition) search_ = Search::kTarget;
         break;
       case kTokenAction:
-        BeginAction(static_cast<int>(token.value));
+        BeginAction(CodeOf(token));
         break;
       case kTokenFunction:
       case kTokenVariable:
@@ -98,7 +98,7 @@ class TargetMarker {
 
   std::size_t MarkTarget(std::size_t i) {
     ScriptToken& token = tokens_[i];
-    const int code = static_cast<int>(token.value);
+    const int code = CodeOf(token);
     const bool function = token.kind == kTokenFunction;
     search_ = Search::kNextItem;
     if (function && !IsAssignableFunction(code)) {

@@ -27,7 +27,7 @@ bool CheckBracketBalance(CompileJob& job) {
 }
 
 std::string MissingBracketMessage(const ScriptToken& token) {
-  const int code = static_cast<int>(token.value);
+  const int code = CodeOf(token);
   if (token.kind == kTokenFunction) {
     const FunctionProperty* function = FindFunction(code);
     return "Missing or inappropriate reference to " + std::string(function ? function->name : "function") +
@@ -53,8 +53,7 @@ bool CheckBracketsBehind(CompileJob& job, std::int32_t kind) {
 }
 
 bool TakesList(const ScriptToken& token) {
-  return token.kind == kTokenList ||
-         (token.kind == kTokenFunction && IsListFunction(static_cast<int>(token.value)));
+  return token.kind == kTokenList || (token.kind == kTokenFunction && IsListFunction(CodeOf(token)));
 }
 
 // A run finds the end of a list by the sentinel ahead of its close bracket.
@@ -121,9 +120,7 @@ bool IsPlayerScopeOrMetric(const ScriptToken& token) {
   return token.kind == kTokenPlayer || token.kind == kTokenScope || token.kind == kTokenMetric;
 }
 
-bool IsBet(const ScriptToken& token) {
-  return token.kind == kTokenVariable && IsBetVariable(static_cast<int>(token.value));
-}
+bool IsBet(const ScriptToken& token) { return token.kind == kTokenVariable && IsBetVariable(CodeOf(token)); }
 
 // Beside a bet "# rolls since last" is that bet's measure, else a count of the table's.
 void AttachRollsSinceLast(Tokens& tokens) {

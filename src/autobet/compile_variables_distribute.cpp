@@ -29,7 +29,7 @@ bool CompileVariablesDistribute(CompileJob& job) {
   std::vector<ScriptToken> result;
   result.reserve(tokens.size());
   for (std::size_t i = 0; i < tokens.size();) {
-    const int code = static_cast<int>(tokens[i].value);
+    const int code = CodeOf(tokens[i]);
     if (tokens[i].kind != kTokenVariable || !IsGroupVariable(code)) {
       result.push_back(tokens[i++]);
       continue;

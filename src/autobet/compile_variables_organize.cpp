@@ -84,7 +84,7 @@ bool CountsDice(const Reference& reference) {
 Reference ReferenceOf(const ScriptToken& token) {
   Reference reference;
   reference.function = token.kind == kTokenFunction;
-  reference.code = static_cast<int>(token.value);
+  reference.code = CodeOf(token);
   if (reference.function) {
     const FunctionProperty* function = FindFunction(reference.code);
     if (function != nullptr) {
@@ -319,16 +319,16 @@ class StatementOrganizer {
     if (token.kind == kTokenPlayer || bracketPlayer) {
       if (group.player.Exists()) return "Ambiguous player references";
       group.player = unit;
-      group.playerCode = bracketPlayer ? 0 : static_cast<int>(token.value);
+      group.playerCode = bracketPlayer ? 0 : CodeOf(token);
     } else if (token.kind == kTokenVariable || token.kind == kTokenFunction) {
       if (group.variable.Exists()) return kAmbiguousVariable;
       group.variable = unit;
     } else if (token.kind == kTokenScope) {
       if (group.scope != kNotGiven) return "Ambiguous hand references";
-      group.scope = static_cast<int>(token.value);
+      group.scope = CodeOf(token);
     } else if (token.kind == kTokenMetric) {
       if (group.metric != kNotGiven) return "Ambiguous variable modifiers";
-      group.metric = static_cast<int>(token.value);
+      group.metric = CodeOf(token);
     } else if (token.kind == kTokenMeasure) {
       if (group.measure != kNotGiven) return kAmbiguousVariable;
       group.measure = token.value;

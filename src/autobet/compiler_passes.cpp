@@ -44,9 +44,9 @@ bool FailAt(const CompiledScript& script, const std::vector<std::string>& lines,
   const int line = std::max(1, IsMarker(tokens[start]) ? LineOfMarker(tokens[start]) : 1);
   diagnostic.message = std::move(message);
   diagnostic.firstLine = diagnostic.lastLine = line;
-  diagnostic.firstColumn = static_cast<int>(tokens[start].value);
+  diagnostic.firstColumn = CodeOf(tokens[start]);
   const bool sameLine = end < tokens.size() && LineOfMarker(tokens[end]) == line;
-  diagnostic.lastColumn = sameLine ? static_cast<int>(tokens[end].value) : LineLength(lines, line);
+  diagnostic.lastColumn = sameLine ? CodeOf(tokens[end]) : LineLength(lines, line);
   return false;
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "autobet/read_bet.h"
 #include "autobet/read_function.h"
 #include "autobet/read_variable.h"
 #include "autobet/script_errors.h"
@@ -9,23 +10,6 @@
 #include "engine/game.h"
 
 namespace tessaryn {
-
-bool NumbersCompare(int relation, double left, double right) {
-  switch (relation) {
-    case kTokenEqual:
-      return left == right;
-    case kTokenNotEqual:
-      return left != right;
-    case kTokenLess:
-      return left < right;
-    case kTokenGreater:
-      return left > right;
-    case kTokenLessEqual:
-      return left <= right;
-    default:
-      return left >= right;
-  }
-}
 
 bool TextsCompare(int relation, const std::string& left, const std::string& right) {
   return NumbersCompare(relation, left.compare(right), 0);
@@ -41,7 +25,7 @@ std::string TextOf(const PreparedProgram& program, Operand operand) {
   return operand.text ? program.texts[place] : GeneralNumber(program.numbers[place]);
 }
 
-bool OperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right) {
+bool MixedOperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right) {
   if (left.text && right.text)
     return TextsCompare(relation, program.texts[static_cast<std::size_t>(left.place)],
                         program.texts[static_cast<std::size_t>(right.place)]);
@@ -87,6 +71,10 @@ bool DivideWhole(Game& game, const Instruction& step, double a, double b, double
 }
 
 bool AsInteger(Game& game, double value, std::int32_t& result) {
+  if (value >= -2147483648.0 && value <= 2147483647.0) {
+    result = static_cast<std::int32_t>(value);
+    if (result == value) return true;
+  }
   const double whole = std::nearbyint(value);
   if (!(whole >= -2147483648.0 && whole <= 2147483647.0)) return ScriptFaults(game, kNumberOverflow);
   result = static_cast<std::int32_t>(whole);
@@ -149,19 +137,70 @@ bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
   }
 }
 
+bool SeatOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat) {
+  if (reference.player == PlayerChoice::kAutobettor) {
+    seat = game.autobet.CurrentAutobettor;
+    return true;
+  }
+  seat = reference.seat;
+  return reference.player == PlayerChoice::kSeat || PlayerOf(game, program, reference, seat);
+}
+
+bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
+  const MoneyTest& test = program.moneyTests[static_cast<std::size_t>(step.a)];
+  std::int64_t money = game.table.Point * Currency::kPerDollar;
+  if (test.tested != Tested::kPoint) {
+    const Reference& reference = program.references[static_cast<std::size_t>(test.reference)];
+    int seat = 0;
+    if (!SeatOf(game, program, reference, seat)) return false;
+    money = test.tested == Tested::kAmount ? game.table.BetAmount(seat, test.bet).raw
+                                           : SessionLastRoll(game, reference.metric, seat, test.bet).raw;
+  }
+  result = NumbersCompare(step.relation + kTokenEqual, money, test.raw) ? kTrue : 0;
+  return true;
+}
+
+// Most bets are not up, and a division costs more than a look.
+double Dollars(Currency money) { return money.raw == 0 ? 0 : money.ToDouble(); }
+
+bool ReadBets(Game& game, PreparedProgram& program, const Instruction& step) {
+  int seat = 0;
+  if (!SeatOf(game, program, program.references[static_cast<std::size_t>(step.a)], seat)) return false;
+  double* to = &program.numbers[static_cast<std::size_t>(step.to)];
+  for (int i = 0; i < step.relation; ++i) to[i] = Dollars(game.table.BetAmount(seat, step.b + i));
+  return true;
+}
+
 // The steps that look at the table.
 bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, double& result) {
   const auto a = static_cast<std::size_t>(step.a);
   if (step.op == Op::kFunction) return ReadNumberFunction(game, program, program.calls[a], result);
   const Reference& reference = program.references[a];
   if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
-  int seat = reference.seat;
-  if (reference.player != PlayerChoice::kSeat && !PlayerOf(game, program, reference, seat)) return false;
-  result = game.table.BetAmount(seat, step.b).ToDouble();
+  int seat = 0;
+  if (!SeatOf(game, program, reference, seat)) return false;
+  if (step.op == Op::kLastRoll) {
+    result = Dollars(SessionLastRoll(game, reference.metric, seat, step.b));
+    return true;
+  }
+  result = Dollars(game.table.BetAmount(seat, step.b));
   return true;
 }
 
 }  // namespace
+
+bool TestsHold(Game& game, const PreparedProgram& program, const PreparedStatement& condition) {
+  const Instruction* step = program.instructions.data() + condition.value.begin;
+  for (const Instruction* const end = step + condition.tests; step != end; ++step) {
+    double holds = 0;
+    if (step->op == Op::kCompareMoney) {
+      if (!TestMoney(game, program, *step, holds) || holds == 0) return false;
+    } else if ((game.table.Point == 0) != (step->op == Op::kComeOut)) {
+      return false;
+    }
+  }
+  return true;
+}
 
 bool Evaluate(Game& game, PreparedProgram& program, CodeRange code) {
   double* numbers = program.numbers.data();
@@ -208,8 +247,24 @@ bool Evaluate(Game& game, PreparedProgram& program, CodeRange code) {
       case Op::kCompare:
         to = NumbersCompare(step->relation + kTokenEqual, numbers[step->a], numbers[step->b]) ? kTrue : 0;
         break;
+      case Op::kBetsMoney:
+        if (!ReadBets(game, program, *step)) return false;
+        break;
+      case Op::kCompareMoney:
+        if (!TestMoney(game, program, *step, to)) return false;
+        break;
+      case Op::kPoint:
+        to = game.table.Point;
+        break;
+      case Op::kComeOut:
+        to = game.table.Point == 0 ? kTrue : 0;
+        break;
+      case Op::kPointOn:
+        to = game.table.Point != 0 ? kTrue : 0;
+        break;
       case Op::kBetMoney:
       case Op::kStack:
+      case Op::kLastRoll:
       case Op::kVariable:
       case Op::kFunction:
         if (!ReadStep(game, program, *step, to)) return false;

@@ -12,11 +12,35 @@ struct Game;
 // Runs a stretch of the instructions. False, with ScriptError set, at the first that fails.
 bool Evaluate(Game& game, PreparedProgram& program, CodeRange code);
 
+// Whether all tests of a condition hold that is nothing but tests.
+bool TestsHold(Game& game, const PreparedProgram& program, const PreparedStatement& condition);
+
 // A comparison by its token kind.
-bool NumbersCompare(int relation, double left, double right);
+template <typename Number>
+bool NumbersCompare(int relation, Number left, Number right) {
+  switch (relation) {
+    case kTokenEqual:
+      return left == right;
+    case kTokenNotEqual:
+      return left != right;
+    case kTokenLess:
+      return left < right;
+    case kTokenGreater:
+      return left > right;
+    case kTokenLessEqual:
+      return left <= right;
+    default:
+      return left >= right;
+  }
+}
 bool TextsCompare(int relation, const std::string& left, const std::string& right);
 // By the rule of a comparison: two texts as texts, anything else as numbers.
-bool OperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right);
+bool MixedOperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right);
+inline bool OperandsCompare(const PreparedProgram& program, int relation, Operand left, Operand right) {
+  if (left.text || right.text) return MixedOperandsCompare(program, relation, left, right);
+  return NumbersCompare(relation, program.numbers[static_cast<std::size_t>(left.place)],
+                        program.numbers[static_cast<std::size_t>(right.place)]);
+}
 
 double NumberOf(const PreparedProgram& program, Operand operand);
 std::string TextOf(const PreparedProgram& program, Operand operand);

@@ -87,6 +87,7 @@ struct Run {
   bool inCondition = false;
   bool conditionTrue = false;
   bool showsSteps = false;  // of the statement in hand
+  int sinceLook = 0;        // statements since the host had its turn
   std::string text;         // its step
 
   AutoBet& autobet() { return game.autobet; }
@@ -251,14 +252,17 @@ void TakeActionStatement(Run& run, const PreparedStatement& statement) {
   run.text = taken ? "Action taken." : ErrorStep(run.autobet(), "No action taken.");
 }
 
+bool Holds(const PreparedProgram& program, const PreparedStatement& condition) {
+  const auto place = static_cast<std::size_t>(condition.operand.place);
+  return condition.operand.text ? !program.texts[place].empty() : program.numbers[place] != 0;
+}
+
 void TestCondition(Run& run, const PreparedStatement& statement) {
   if (!Evaluate(run.game, run.program, statement.value)) {
     if (run.showsSteps) run.text = ErrorStep(run.autobet(), "Unable to evaluate.");
     return;
   }
-  const auto place = static_cast<std::size_t>(statement.operand.place);
-  const bool holds =
-      statement.operand.text ? !run.program.texts[place].empty() : run.program.numbers[place] != 0;
+  const bool holds = Holds(run.program, statement);
   if (holds) run.conditionTrue = true;
   Note(run, holds ? "Condition is true." : "Condition is false.");
 }
@@ -375,6 +379,41 @@ void EndWatchedRun(Game& game, std::uint32_t start) {
     game.host->Wait(game);
 }
 
+// A look at the user's wishes costs more than a statement does: at full speed every so many statements are
+// enough, since a run that ends has the roll's own look behind it.
+constexpr int kStatementsPerLook = 64;
+
+void LetEventsPass(Run& run, int statements) {
+  run.sinceLook += statements;
+  if (run.sinceLook < kStatementsPerLook && run.game.table.TurboRollActive) return;
+  run.sinceLook = 0;
+  run.game.host->Yield(run.game);
+}
+
+// A condition block at one go, where nobody watches the steps: run.counter moves from the if to the
+// statement that the run goes on behind.
+void PassConditions(Run& run) {
+  const std::vector<PreparedStatement>& statements = run.program.statements;
+  for (;;) {
+    const std::int32_t then = statements[static_cast<std::size_t>(run.counter)].then;
+    bool holds = false;
+    for (std::int32_t i = run.counter + 1; i < then; ++i) {
+      const PreparedStatement& condition = statements[static_cast<std::size_t>(i)];
+      run.autobet().ScriptError = kErrorNone;
+      if (condition.tests > 0
+              ? TestsHold(run.game, run.program, condition)
+              : Evaluate(run.game, run.program, condition.value) && Holds(run.program, condition))
+        holds = true;
+    }
+    run.conditionTrue = holds;
+    LetEventsPass(run, then - run.counter);
+    const std::int32_t jump = statements[static_cast<std::size_t>(then)].jump;
+    run.counter = holds ? then : jump;
+    const bool another = !holds && statements[static_cast<std::size_t>(jump)].keyword == kTokenElseIf;
+    if (!another || !run.autobet().ScriptRunning) return;
+  }
+}
+
 void RunStatements(Run& run) {
   Game& game = run.game;
   AutoBet& autobet = game.autobet;
@@ -382,11 +421,15 @@ void RunStatements(Run& run) {
   for (run.counter = 0; run.counter < count && autobet.ScriptRunning; ++run.counter) {
     const PreparedStatement& statement = run.program.statements[static_cast<std::size_t>(run.counter)];
     run.showsSteps = autobet.StepsShown && !game.table.TurboRollActive;
+    if (statement.kind == StatementKind::kIf && !run.showsSteps) {
+      PassConditions(run);
+      continue;
+    }
     if (run.showsSteps) run.text.clear();
     autobet.ScriptError = kErrorNone;
     Dispatch(run, statement);
     if (run.showsSteps) ShowStep(run, statement);
-    game.host->Yield(game);
+    LetEventsPass(run, 1);
   }
 }
 
@@ -403,7 +446,7 @@ void RunAutoBet(Game& game) {
   if (!game.table.TurboRollActive) autobet.StatusCaption = autobet.HotKeyRun ? "Hot-Key" : "Auto-Betting";
   autobet.ScriptRunning = true;
   program->returns.clear();
-  Run run{game, *program, 0, false, false, false, {}};
+  Run run{game, *program, 0, false, false, false, 0, {}};
   RunStatements(run);
   autobet.ScriptRunning = false;
   if (!autobet.StatusCaption.empty()) autobet.StatusCaption.clear();

@@ -7,6 +7,7 @@
 #include "autobet/language.h"
 #include "autobet/prepared_program.h"
 #include "autobet/roll_item_of.h"
+#include "engine/table_types.h"
 
 namespace tessaryn {
 namespace {
@@ -28,6 +29,10 @@ using Elements = std::vector<Element>;
 
 constexpr int kNaturalsItem = 65;
 constexpr int kPointsItem = 17;
+constexpr int kSessionScope = 2;
+constexpr double kMeasureLastRollMoney = 29;
+
+bool IsWinsOrLosses(int metric) { return metric == 2 || metric == 3; }
 
 // The roll item that a measure of a count of dice means.
 int ItemOfMeasure(double measure) {
@@ -59,7 +64,7 @@ class ProgramPreparer {
       if (end > start) Statement(start, end);
       if (end < tokens_.size()) {
         line_ = LineOfMarker(tokens_[end]);
-        column_ = static_cast<int>(tokens_[end].value);
+        column_ = CodeOf(tokens_[end]);
       }
       start = end + 1;
     }
@@ -69,9 +74,20 @@ class ProgramPreparer {
         statement.jump = target < statementOf_.size() ? statementOf_[target] : 0;
       }
     }
+    FindThens();
   }
 
  private:
+  // Nothing but conditions stands between an if or elseif and its then, so one pass from behind finds them.
+  void FindThens() {
+    std::int32_t then = 0;
+    for (Index i = out_.statements.size(); i-- > 0;) {
+      PreparedStatement& statement = out_.statements[i];
+      if (statement.kind == StatementKind::kThen) then = static_cast<std::int32_t>(i);
+      if (statement.keyword == kTokenIf || statement.keyword == kTokenElseIf) statement.then = then;
+    }
+  }
+
   static bool IsJump(StatementKind kind) {
     return kind == StatementKind::kThen || kind == StatementKind::kElse || kind == StatementKind::kGoto ||
            kind == StatementKind::kGosub || kind == StatementKind::kLoop || kind == StatementKind::kExitDo;
@@ -83,6 +99,8 @@ class ProgramPreparer {
     const auto found = numberPlaces_.find(value);
     if (found != numberPlaces_.end() && !std::signbit(value)) return {found->second, false};
     out_.numbers.push_back(value);
+    isLiteral_.resize(out_.numbers.size(), false);
+    isLiteral_.back() = true;
     const auto place = static_cast<std::int32_t>(out_.numbers.size() - 1);
     if (!std::signbit(value) || value != 0) numberPlaces_[value] = place;
     return {place, false};
@@ -97,12 +115,16 @@ class ProgramPreparer {
   Operand Scratch(bool text) {
     std::vector<std::int32_t>& pool = text ? scratchTexts_ : scratchNumbers_;
     Index& used = text ? usedTexts_ : usedNumbers_;
+    // Places side by side, so that one step can fill several.
+    constexpr int kPlacesAtOnce = 32;
     if (used == pool.size()) {
-      pool.push_back(static_cast<std::int32_t>(text ? out_.texts.size() : out_.numbers.size()));
+      for (int i = 0; i < kPlacesAtOnce; ++i)
+        pool.push_back(static_cast<std::int32_t>((text ? out_.texts.size() : out_.numbers.size())) + i);
       if (text)
-        out_.texts.emplace_back();
+        out_.texts.resize(out_.texts.size() + kPlacesAtOnce);
       else
-        out_.numbers.push_back(0);
+        out_.numbers.resize(out_.numbers.size() + kPlacesAtOnce);
+      isLiteral_.resize(out_.numbers.size(), false);
     }
     return {pool[used++], text};
   }
@@ -168,7 +190,7 @@ class ProgramPreparer {
           elements.push_back({Part::kValue, NumberPlace(token.value), 0, i});
           break;
         case kTokenString:
-          elements.push_back({Part::kValue, Literal(static_cast<int>(token.value)), 0, i});
+          elements.push_back({Part::kValue, Literal(CodeOf(token)), 0, i});
           break;
         case kTokenFunction:
         case kTokenFunctionTarget:
@@ -264,7 +286,9 @@ class ProgramPreparer {
         list.relation = tokens_[piece.begin].kind;
         list.qualifier = ValueOf(Reduce(piece.begin + 1, piece.end));
       } else {
+        ++listDepth_;
         list.members.push_back(ValueOf(Reduce(piece.begin, piece.end)));
+        --listDepth_;
       }
     }
     return list;
@@ -288,7 +312,7 @@ class ProgramPreparer {
   }
 
   Operand Function(Index at) {
-    const int code = static_cast<int>(tokens_[at].value);
+    const int code = CodeOf(tokens_[at]);
     if (ReadsAsReference(code)) return ReadReference(ReferenceAt(at));
     PreparedCall call;
     call.code = code;
@@ -311,7 +335,7 @@ class ProgramPreparer {
     Reference reference;
     const std::int32_t kind = tokens_[at].kind;
     reference.function = kind == kTokenFunction || kind == kTokenFunctionTarget;
-    reference.code = static_cast<std::int32_t>(tokens_[at].value);
+    reference.code = CodeOf(tokens_[at]);
     Index i = at + 1;
     if (reference.function) {
       const PreparedList arguments = ValueList(at);
@@ -330,7 +354,7 @@ class ProgramPreparer {
 
   void Modifier(Index& i, bool wholeTable, Reference& reference) {
     const ScriptToken& token = tokens_[i];
-    const int value = static_cast<int>(token.value);
+    const int value = CodeOf(token);
     if (token.kind == kTokenScope) {
       reference.scope = std::clamp(value - 1, 0, 4);
     } else if (token.kind == kTokenMetric) {
@@ -362,15 +386,43 @@ class ProgramPreparer {
     if (wholeTable && reference.player == PlayerChoice::kAll) reference.player = PlayerChoice::kTable;
   }
 
+  static bool SameSeat(const Reference& a, const Reference& b) {
+    return a.player == b.player && a.seat == b.seat && a.player != PlayerChoice::kComputed;
+  }
+
+  // The bets of a group stand side by side, as do the places that they are read into: one step reads them.
+  Operand ReadBetMoney(const Reference& reference, std::int32_t place) {
+    const Operand to = Emit(Op::kBetMoney, place, reference.code, false);
+    if (listDepth_ == 0 || static_cast<Index>(rangeStart_) + 2 > out_.instructions.size()) return to;
+    Instruction& before = out_.instructions[out_.instructions.size() - 2];
+    const int count = before.op == Op::kBetsMoney ? before.relation : before.op == Op::kBetMoney ? 1 : 0;
+    const bool joins = count > 0 && count < kBets && before.b + count == reference.code &&
+                       before.to + count == to.place &&
+                       SameSeat(out_.references[static_cast<Index>(before.a)], reference);
+    if (!joins) return to;
+    before.op = Op::kBetsMoney;
+    before.relation = static_cast<std::uint8_t>(count + 1);
+    out_.instructions.pop_back();
+    return to;
+  }
+
   Operand ReadReference(const Reference& reference) {
     out_.references.push_back(reference);
     const auto place = static_cast<std::int32_t>(out_.references.size() - 1);
     const int code = reference.code;
+    if (!reference.function && code >= 3000 && code < 4000) {
+      if (code == 3500) return Emit(Op::kPoint, 0, 0, false);
+      if (code == 3704 || code == 3711) return Emit(Op::kComeOut, 0, 0, false);
+      if (code == 3705 || code == 3710) return Emit(Op::kPointOn, 0, 0, false);
+    }
     if (!reference.function && reference.player != PlayerChoice::kAll) {
       if (IsBetVariable(code) && reference.metric <= kMetricWagered &&
           reference.measure == kMeasureCurrentMoney)
-        return Emit(Op::kBetMoney, place, code, false);
+        return ReadBetMoney(reference, place);
       if (code >= 100 && code <= 199) return Emit(Op::kStack, place, code, false);
+      if (IsBetVariable(code) && reference.scope == kSessionScope && IsWinsOrLosses(reference.metric) &&
+          reference.measure == kMeasureLastRollMoney)
+        return Emit(Op::kLastRoll, place, code, false);
     }
     const bool text = !reference.function && VariableType(code) == ScriptValueType::kString;
     return Emit(text ? Op::kVariableText : Op::kVariable, place, 0, text);
@@ -502,6 +554,51 @@ class ProgramPreparer {
     return AddList(std::move(single));
   }
 
+  static Index PlaceOf(Operand operand) { return static_cast<Index>(operand.place); }
+
+  static bool ReadsMoney(Op op) {
+    return op == Op::kBetMoney || op == Op::kStack || op == Op::kLastRoll || op == Op::kPoint;
+  }
+  // Steps that neither fail nor do anything but fill their place.
+  static bool IsPure(const Instruction& step) {
+    return ReadsMoney(step.op) || step.op == Op::kCompareMoney || step.op == Op::kCompare ||
+           step.op == Op::kComeOut || step.op == Op::kPointOn;
+  }
+
+  // The step of the range in hand that read money into a place, with nothing but pure steps behind it; -1
+  // for none.
+  std::int32_t MoneyReadInto(Operand operand) const {
+    for (std::int32_t i = CodeEnd() - 1; i >= rangeStart_; --i) {
+      const Instruction& step = out_.instructions[static_cast<Index>(i)];
+      if (step.to == operand.place) return ReadsMoney(step.op) ? i : -1;
+      if (!IsPure(step)) return -1;
+    }
+    return -1;
+  }
+
+  // Whether the left side is money and the right side a literal that is an amount.
+  bool TestsMoney(Operand left, Operand right) const {
+    if (!isLiteral_[PlaceOf(right)] || MoneyReadInto(left) < 0) return false;
+    constexpr double kMost = 1e9;
+    const double value = out_.numbers[PlaceOf(right)];
+    const double raw = value * 10'000.0;
+    return std::fabs(value) < kMost && raw == std::floor(raw) && raw / 10'000.0 == value;
+  }
+
+  Operand CompareMoney(int relation, Operand money, double dollars) {
+    const std::int32_t at = MoneyReadInto(money);
+    const Instruction read = out_.instructions[static_cast<Index>(at)];
+    out_.instructions.erase(out_.instructions.begin() + at);
+    const Tested tested = read.op == Op::kLastRoll ? Tested::kLastRoll
+                          : read.op == Op::kPoint  ? Tested::kPoint
+                                                   : Tested::kAmount;
+    out_.moneyTests.push_back({tested, read.a, read.b, static_cast<std::int64_t>(dollars * 10'000.0)});
+    const auto test = static_cast<std::int32_t>(out_.moneyTests.size() - 1);
+    out_.instructions.push_back(
+        {Op::kCompareMoney, static_cast<std::uint8_t>(relation - kTokenEqual), read.to, test, 0});
+    return {read.to, false};
+  }
+
   Operand Compare(int relation, const Element& left, const Element& right) {
     if (left.part == Part::kList || right.part == Part::kList) {
       const std::int32_t a = ListOf(left);
@@ -511,6 +608,7 @@ class ProgramPreparer {
     const Operand a = ValueOf(left);
     const Operand b = ValueOf(right);
     if (a.text && b.text) return Emit(Op::kCompareTexts, a.place, b.place, false, relation);
+    if (!a.text && !b.text && TestsMoney(a, b)) return CompareMoney(relation, a, out_.numbers[PlaceOf(b)]);
     const std::int32_t number = AsNumber(a).place;
     return Emit(Op::kCompare, number, AsNumber(b).place, false, relation);
   }
@@ -524,10 +622,10 @@ class ProgramPreparer {
     statement.column = column_;
     for (Index i = begin; i < end; ++i) statementOf_[i] = static_cast<std::int32_t>(out_.statements.size());
     const ScriptToken& first = tokens_[begin];
-    statement.value.begin = CodeEnd();
+    statement.value.begin = rangeStart_ = CodeEnd();
     if (first.kind == kTokenHeader) {
       statement.kind = StatementKind::kHeader;
-      statement.code = static_cast<std::int32_t>(first.value);
+      statement.code = CodeOf(first);
       inCondition_ = false;
     } else if (first.kind == kTokenLabel) {
       statement.kind = StatementKind::kLabel;
@@ -536,6 +634,7 @@ class ProgramPreparer {
     } else if (inCondition_) {
       statement.kind = StatementKind::kCondition;
       statement.operand = SpanValue(begin, end);
+      statement.tests = JoinedTests(statement);
     } else if (first.kind == kTokenAction) {
       Action(begin, end, statement);
     } else {
@@ -546,10 +645,23 @@ class ProgramPreparer {
     out_.statements.push_back(statement);
   }
 
+  // Every test leads into the one result, so tests and one AND fewer are all that is joined.
+  std::int32_t JoinedTests(const PreparedStatement& statement) const {
+    const auto count = CodeEnd() - statement.value.begin;
+    if (count % 2 == 0) return 0;
+    const std::int32_t tests = (count + 1) / 2;
+    for (std::int32_t i = 0; i < count; ++i) {
+      const Op op = out_.instructions[static_cast<Index>(statement.value.begin + i)].op;
+      const bool test = op == Op::kCompareMoney || op == Op::kComeOut || op == Op::kPointOn;
+      if (i < tests ? !test : op != Op::kAnd) return 0;
+    }
+    return tests;
+  }
+
   void Keyword(Index begin, Index end, PreparedStatement& statement) {
     const ScriptToken& first = tokens_[begin];
     statement.keyword = first.kind;
-    statement.jump = static_cast<std::int32_t>(first.value);
+    statement.jump = CodeOf(first);
     switch (first.kind) {
       case kTokenIf:
         statement.kind = StatementKind::kIf;
@@ -572,7 +684,7 @@ class ProgramPreparer {
       case kTokenGoto:
       case kTokenGosub:
         statement.kind = first.kind == kTokenGoto ? StatementKind::kGoto : StatementKind::kGosub;
-        statement.jump = begin + 1 < end ? static_cast<std::int32_t>(tokens_[begin + 1].value) : 0;
+        statement.jump = begin + 1 < end ? CodeOf(tokens_[begin + 1]) : 0;
         break;
       case kTokenDo:
         statement.kind = StatementKind::kDo;
@@ -612,7 +724,7 @@ class ProgramPreparer {
   }
 
   void Action(Index begin, Index end, PreparedStatement& statement) {
-    statement.code = static_cast<std::int32_t>(tokens_[begin].value);
+    statement.code = CodeOf(tokens_[begin]);
     ++begin;
     switch (ShapeOfAction(statement.code)) {
       case ActionShape::kAmountTargets: {
@@ -673,7 +785,7 @@ class ProgramPreparer {
       if (piece.begin == piece.end) continue;
       const ScriptToken& token = tokens_[piece.begin];
       TargetItem item;
-      item.code.begin = CodeEnd();
+      item.code.begin = rangeStart_ = CodeEnd();
       if (IsRelation(token)) {
         item.isQualifier = true;
         item.relation = token.kind;
@@ -720,10 +832,13 @@ class ProgramPreparer {
   std::vector<std::int32_t> statementOf_;
   std::map<double, std::int32_t> numberPlaces_;
   std::map<std::string, std::int32_t> textPlaces_;
+  std::vector<bool> isLiteral_;  // by place in the numbers
   std::vector<std::int32_t> scratchNumbers_;
   std::vector<std::int32_t> scratchTexts_;
   Index usedNumbers_ = 0;
   Index usedTexts_ = 0;
+  std::int32_t rangeStart_ = 0;  // the first instruction of the stretch in hand
+  int listDepth_ = 0;
   int line_ = 0;
   int column_ = 0;
   bool inCondition_ = false;

@@ -80,7 +80,13 @@ enum class Op : std::uint8_t {
   kCompareLists,  // lists a and b
   kBetMoney,      // the wager now on bet b, reference a
   kStack,         // the value of CheckStack b - 100, reference a
-  kVariable,      // reference a
+  kBetsMoney,     // the wagers on as many bets as relation says, from b on, into as many places, reference a
+  kCompareMoney,  // money test a: an amount, a last roll or the point, and a literal behind it
+  kLastRoll,      // what the last roll won or lost on bet b in the session, reference a
+  kPoint,
+  kComeOut,  // whether there is no point
+  kPointOn,
+  kVariable,  // reference a
   kVariableText,
   kFunction,  // call a
   kFunctionText,
@@ -90,10 +96,19 @@ enum class Op : std::uint8_t {
 
 struct Instruction {
   Op op = Op::kNegate;
-  std::uint8_t relation = 0;  // of a comparison, less kTokenEqual
+  std::uint8_t relation = 0;  // of a comparison, less kTokenEqual; of kBetsMoney how many
   std::int32_t to = 0;
   std::int32_t a = 0;
   std::int32_t b = 0;
+};
+
+// What is compared with a literal, both as money: no division to dollars and no rounding.
+enum class Tested : std::uint8_t { kAmount, kLastRoll, kPoint };
+struct MoneyTest {
+  Tested tested = Tested::kAmount;  // of a bet or CheckStack
+  std::int32_t reference = 0;
+  std::int32_t bet = 0;
+  std::int64_t raw = 0;  // of the literal
 };
 
 // A stretch of the instructions.
@@ -141,6 +156,8 @@ struct PreparedStatement {
   std::int32_t column = 0;
   std::int32_t code = 0;       // of an action; of a header the player
   std::int32_t jump = 0;       // a statement's index; the run goes on behind it
+  std::int32_t tests = 0;      // of a condition that is nothing but tests joined by AND: how many
+  std::int32_t then = 0;       // of if and elseif: the statement that ends the condition
   CodeRange value;             // computes the operands below
   Operand operand;             // the value, the amount, the first argument
   Operand second;              // a second argument
@@ -152,6 +169,7 @@ struct PreparedProgram {
   std::vector<PreparedStatement> statements;
   std::vector<Instruction> instructions;
   std::vector<Reference> references;
+  std::vector<MoneyTest> moneyTests;
   std::vector<PreparedList> lists;
   std::vector<PreparedCall> calls;
   std::vector<TargetItem> targets;

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "config/advantage.h"
 #include "autobet/language.h"
 #include "autobet/script_errors.h"
+#include "config/advantage.h"
 #include "engine/bet_limits.h"
 #include "engine/bet_rules.h"
 #include "engine/game.h"
@@ -84,7 +84,8 @@ bool TableStatistic(const BetQuestion& question, StatTable table, int measure, d
       return true;
     case kAverage: {
       const double count = question.Stat(table, kStatCount);
-      if (count == 0) return ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
+      if (count == 0)
+        return ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
       value = question.Stat(table, kStatTotal) / count;
       return true;
     }
@@ -93,7 +94,8 @@ bool TableStatistic(const BetQuestion& question, StatTable table, int measure, d
       return true;
     case kSinceLast:
       value = question.Since(table);
-      return value >= 0 || ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
+      return value >= 0 ||
+             ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
     case kLastRollCount:
       value = question.Since(table) == 0 ? 1 : 0;
       return true;
@@ -162,7 +164,8 @@ bool NetStatistic(const BetQuestion& question, int measure, double& value) {
       value = PerHour(question, difference(kStatTotal));
       return true;
     case kExpectedValue:
-      value = question.Stat(kWagerStats, kStatTotal) * FigureAdvantage(question.game, question.bet).evPerDecision;
+      value =
+          question.Stat(kWagerStats, kStatTotal) * FigureAdvantage(question.game, question.bet).evPerDecision;
       return true;
     default:
       value = 0;
@@ -221,6 +224,18 @@ bool Standing(const BetQuestion& question, int measure, double& value) {
 }
 
 }  // namespace
+
+Currency SessionLastRoll(const Game& game, int metric, int seat, int bet) {
+  const Currency roll = Currency::Dollars(SessionRolls(game.stats));
+  if (roll == kZero) return kZero;
+  const int table = metric == kMetricWins ? kWinStats : kLossStats;
+  // A hand's figures are its own until it ends, and then the session's.
+  for (const int scope : {kCurrentHand, kCurrentSession}) {
+    const auto& kinds = game.stats.Bets[bet][seat][scope].kinds[table];
+    if (kinds[kStatLastRoll - 1] == roll) return kinds[kStatLastAmount - 1];
+  }
+  return kZero;
+}
 
 bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value) {
   const BetQuestion question{game, reference.scope, seat, bet};

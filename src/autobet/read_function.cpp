@@ -54,6 +54,8 @@ ListSums SumList(const CallInHand& hand) {
     sums.sum += number;
     ++sums.count;
   });
+  constexpr int kDeviation = 129;
+  if (hand.call.code != kDeviation) return sums;
   const double mean = sums.count == 0 ? 0 : sums.sum / sums.count;
   ForMembers(hand, [&](Operand member) {
     const double difference = NumberOf(hand.program, member) - mean;
@@ -63,6 +65,12 @@ ListSums SumList(const CallInHand& hand) {
 }
 
 bool ListFunction(const CallInHand& hand, double& value) {
+  constexpr int kCount = 131;
+  if (hand.call.code == kCount) {
+    value = 0;
+    ForMembers(hand, [&value](Operand) { ++value; });
+    return true;
+  }
   const ListSums sums = SumList(hand);
   const double count = sums.count == 0 ? 1 : sums.count;
   switch (hand.call.code) {
@@ -82,7 +90,6 @@ bool ListFunction(const CallInHand& hand, double& value) {
       value = sums.sum;
       break;
     default:
-      value = sums.count;
       break;
   }
   return std::isfinite(value) || ScriptFaults(hand.game, kNumberOverflow);
@@ -268,7 +275,7 @@ bool SquareRoot(const CallInHand& hand, double& value) {
 
 bool CodeOfCharacter(const CallInHand& hand, double& value) {
   const std::string text = hand.Text(0);
-  if (text.empty()) return ScriptFaults(hand.game, "Invalid procedure call or argument");
+  if (text.empty()) return hand.Fails(kErrorExtract);
   value = static_cast<unsigned char>(text[0]);
   return true;
 }

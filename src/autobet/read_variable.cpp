@@ -3,13 +3,13 @@
 #include <cmath>
 #include <iterator>
 
-#include "config/comps.h"
 #include "autobet/evaluate.h"
 #include "autobet/language.h"
 #include "autobet/read_bet.h"
 #include "autobet/roll_item_of.h"
 #include "autobet/script_errors.h"
 #include "autobet/script_text.h"
+#include "config/comps.h"
 #include "engine/bet_catalogue.h"
 #include "engine/game.h"
 

@@ -36,6 +36,7 @@ enum ScriptErrorCode : int {
   kErrorCompRate = 912,
   kErrorMessagesOff = 990,
   kErrorSoundsOff = 992,
+  kErrorExtract = 998,
   kErrorVig = 1000,
   kErrorRolls = 1001,
   kErrorPoints = 1002,

@@ -182,10 +182,47 @@ void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool
   script.*flags[static_cast<int>(permission)] = allowed;
 }
 
+namespace {
+
+std::string BetTarget(int bet) {
+  return IsTableBet(bet) ? std::string(BetWord(bet)) : "cs" + std::to_string(bet - kFirstCheckStack);
+}
+
+}  // namespace
+
 std::string BetStatement(int bet, Currency amount) {
-  const std::string name =
-      IsTableBet(bet) ? std::string(BetWord(bet)) : "cs" + std::to_string(bet - kFirstCheckStack);
-  return "bet " + PlainMoney(amount) + " on " + name;
+  return "bet " + PlainMoney(amount) + " on " + BetTarget(bet);
+}
+
+void LogBet(Game& game, int seat, int bet) {
+  AutoBet& autobet = game.autobet;
+  if (!autobet.BetLogging || autobet.ScriptRunning) return;
+  const Currency amount = game.table.BetAmount(seat, bet);
+  autobet.LoggedBets.push_back(amount == kZero ? "remove " + BetTarget(bet) : BetStatement(bet, amount));
+  autobet.LoggedBetsUnsaved = true;
+}
+
+int InsertLoggedBets(Game& game, int seat, int line) {
+  AutoBet& autobet = game.autobet;
+  SeatScript& script = autobet.Scripts[seat];
+  const int count = static_cast<int>(autobet.LoggedBets.size());
+  if (count == 0) return 0;
+  const int lines = static_cast<int>(script.ScriptLines.size());
+  script.ScriptLines.insert(script.ScriptLines.begin() + std::clamp(line - 1, 0, lines),
+                            autobet.LoggedBets.begin(), autobet.LoggedBets.end());
+  script.ScriptNesting.clear();
+  script.Unsaved = true;
+  autobet.LoggedBets.clear();
+  autobet.LoggedBetsUnsaved = false;
+  ScriptsChanged(game);
+  return count;
+}
+
+bool OfferToSaveLoggedBets(Game& game) {
+  return game.autobet.LoggedBetsUnsaved &&
+         ShowMessage(game, "Save Auto-Bets?",
+                     "Your current logged bets have not been saved.\r\rDo you want to save them now?",
+                     kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
 }
 
 ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from) {

@@ -47,6 +47,15 @@ void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool
 // A bet made by hand as a statement: "bet 10 on passline".
 std::string BetStatement(int bet, Currency amount);
 
+// --- The log of bets made by hand.
+// Notes a bet of a seat as it now stands, when logging is on: "bet 15 on field", or "remove field".
+void LogBet(Game& game, int seat, int bet);
+// The logged statements go into a script ahead of a line (1-based; beyond the end: behind the last), and the
+// log is empty. How many there were.
+int InsertLoggedBets(Game& game, int seat, int line);
+// Asks whether to save a log that is not saved yet. True for yes.
+bool OfferToSaveLoggedBets(Game& game);
+
 // --- Find and replace. Case is ignored.
 struct ScriptPlace {
   int line = 0;    // 1-based; 0 nothing found

@@ -9,8 +9,8 @@ namespace tessaryn {
 
 // What a token is. A statement marker's kind is kStatementMarker + its 1-based source line.
 enum TokenKind : std::int32_t {
-  kTokenHeader = -3,           // value: the player 0 to 8 who owns what follows; 0 a hot-key script
-  kTokenEnd = 0,               // end of an argument list
+  kTokenHeader = -3,  // value: the player 0 to 8 who owns what follows; 0 a hot-key script
+  kTokenEnd = 0,      // end of an argument list
   kTokenIf = 1,
   kTokenThen = 9,
   kTokenElse = 10,
@@ -30,7 +30,7 @@ enum TokenKind : std::int32_t {
   kTokenGreater = 53,
   kTokenLessEqual = 54,
   kTokenGreaterEqual = 55,
-  kTokenOn = 57,               // on, to
+  kTokenOn = 57,  // on, to
   kTokenFrom = 59,
   kTokenPower = 60,
   kTokenMultiply = 61,
@@ -47,7 +47,7 @@ enum TokenKind : std::int32_t {
   kTokenComma = 75,
   kStatementMarker = 100,
   kTokenFunction = -1,
-  kTokenFunctionTarget = -2,   // a function that is assigned to
+  kTokenFunctionTarget = -2,  // a function that is assigned to
   kTokenVariable = -11,
   kTokenVariableTarget = -12,  // a variable that is assigned to
   kTokenPlayer = -13,
@@ -55,10 +55,10 @@ enum TokenKind : std::int32_t {
   kTokenMetric = -15,
   kTokenMeasure = -16,
   kTokenNumber = -31,
-  kTokenString = -51,          // value: 1-based index into the strings; 0 the empty string; -1 date$, ...
+  kTokenString = -51,  // value: 1-based index into the strings; 0 the empty string; -1 date$, ...
   kTokenAction = -61,
-  kTokenLabel = -71,           // value: 1-based index into the strings
-  kTokenList = -81,            // value: 2 any, 3 all
+  kTokenLabel = -71,  // value: 1-based index into the strings
+  kTokenList = -81,   // value: 2 any, 3 all
 };
 
 struct ScriptToken {
@@ -67,6 +67,11 @@ struct ScriptToken {
 
   friend bool operator==(const ScriptToken&, const ScriptToken&) = default;
 };
+
+// The code of a token; 0 where its value is no code, since a literal can be any number.
+inline int CodeOf(const ScriptToken& token) {
+  return token.value >= -1e9 && token.value <= 1e9 ? static_cast<int>(token.value) : 0;
+}
 
 struct ScriptString {
   std::string text;     // as typed
@@ -94,11 +99,11 @@ struct ScriptDiagnostic {
 
 // What the compiler must know of the table: names in the language, and which bet families are offered.
 struct ScriptSurroundings {
-  std::string seatNames[9];      // 1 to 8; empty for an open seat
-  bool big68 = true;             // bets 50 and 51
-  bool smallTall = true;         // bets 84 to 89, 91 and 92
-  bool midway = true;            // bet 90
-  bool fire = true;              // bet 93
+  std::string seatNames[9];  // 1 to 8; empty for an open seat
+  bool big68 = true;         // bets 50 and 51
+  bool smallTall = true;     // bets 84 to 89, 91 and 92
+  bool midway = true;        // bet 90
+  bool fire = true;          // bet 93
 };
 
 }  // namespace tessaryn

@@ -275,7 +275,11 @@ bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& va
   if (code == 671) return SetHandling(game, seat, kLoseRule, value);
   if (code >= 700 && code <= 703) return SetSwitch(game, seat, code, value.AsNumber() != 0);
   if (code >= 800 && code <= 899) {
-    game.table.CheckStackName[seat][code - 800] = value.AsText();
+    std::string& name = game.table.CheckStackName[seat][code - 800];
+    if (value.isText)
+      name = value.text;  // in the room that it has
+    else
+      name = value.AsText();
     return true;
   }
   return SetTable(game, code, value.AsNumber());

@@ -39,7 +39,8 @@ struct ActionInHand {
 std::string FileToRead(const Game& game, const std::string& name) {
   std::error_code fault;
   for (const std::string& path : {name, game.dataFolder + name})
-    if (!path.empty() && path.find('\0') == std::string::npos && std::filesystem::is_regular_file(path, fault))
+    if (!path.empty() && path.find('\0') == std::string::npos &&
+        std::filesystem::is_regular_file(path, fault))
       return path;
   return {};
 }

@@ -9,6 +9,13 @@
 namespace tessaryn::cli {
 namespace {
 
+// What is no script may hold bytes that a terminal takes for commands.
+std::string Shown(std::string text) {
+  for (char& c : text)
+    if ((static_cast<unsigned char>(c) < ' ' && c != '\n' && c != '\t') || c == '\x7f') c = '?';
+  return text;
+}
+
 // A source line with the columns first to last marked under it.
 std::string MarkedLine(const std::string& line, int number, int first, int last) {
   char head[32];
@@ -49,7 +56,8 @@ std::string CheckReport(const std::string& file, const std::vector<std::string>&
   if (!check.diagnostic.Failed()) return file + ": " + AsLines(check.text) + "\n";
   const std::string place = file + ":" + std::to_string(check.diagnostic.firstLine) + ":" +
                             std::to_string(check.diagnostic.firstColumn + 1);
-  return place + ": " + check.title + "\n" + AsLines(check.text) + "\n" + MarkedSpan(lines, check.diagnostic);
+  return Shown(place + ": " + check.title + "\n" + AsLines(check.text) + "\n" +
+               MarkedSpan(lines, check.diagnostic));
 }
 
 Json CheckJson(const std::string& file, const ScriptCheck& check) {

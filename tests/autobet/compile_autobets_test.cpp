@@ -48,6 +48,8 @@ TEST(CompileAutobets, AcceptsWhatAuthorsWrite) {
                              "' nothing",
                              "bet 10 on passline",
                              "bet 5 to place6, place8",
+                             "seed = 3000000000",
+                             "cs1 = -1e300",
                              "add 6 to place6",
                              "passline = 10",
                              "\"press\" : add 6 to place6",

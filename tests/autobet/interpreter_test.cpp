@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 #include "autobet/run_helpers.h"
 #include "engine/bet_catalogue.h"
 #include "engine/consistency.h"
@@ -288,6 +290,75 @@ TEST(Interpreter, AScriptedGameReplaysFromItsRollFile) {
   EXPECT_EQ(first.bankroll, again.bankroll);
   EXPECT_EQ(first.atm, again.atm);
   EXPECT_NE(first.bankroll, Currency::Dollars(1000));
+}
+
+// A condition out of everything that has a short form, and what has none.
+std::string RandomCondition(std::mt19937& random) {
+  const char* const values[] = {
+      "place6",      "cs1",   "cs2",    "passline",      "field bob",
+      "cs3 bob",     "point", "cs(1)",  "# rolls",       "place6 wins last roll $",
+      "player(cs2)", "4.5",   "\"12\"", "cs4 player(9)", "field losses last roll $"};
+  const char* const relations[] = {"=", "<>", "<", ">", "<=", ">="};
+  const char* const literals[] = {"0", "1", "12", "4.5", "-3", "12.00005", "1e12", "\"12\"", "0.1"};
+  const char* const flags[] = {"comeout roll", "point is established", "point is not established", "0", "2"};
+  const char* const joins[] = {" and ", " and ", " and ", " or ", " xor "};
+  std::string text;
+  for (int i = 0; i == 0 || (i < 4 && random() % 2 == 0); ++i) {
+    if (i > 0) text += joins[random() % 5];
+    if (random() % 4 == 0)
+      text += flags[random() % 5];
+    else if (random() % 6 == 0)
+      text += std::string("any(place6, place8, field, cs1) ") + relations[random() % 6] + " 12";
+    else
+      text += std::string(values[random() % 15]) + " " + relations[random() % 6] + " " +
+              (random() % 4 == 0 ? values[random() % 15] : literals[random() % 9]);
+  }
+  return text;
+}
+
+std::string RandomBlocks(std::mt19937& random) {
+  std::string text;
+  for (int block = 0; block < 8; ++block) {
+    const std::string mark = "add " + std::to_string(1 << block) + " to cs50\n";
+    text += "if " + RandomCondition(random) + "\n";
+    if (random() % 3 == 0) text += RandomCondition(random) + "\n";
+    text += "then\n" + mark;
+    for (auto i = random() % 3; i > 0; --i)
+      text += "elseif " + RandomCondition(random) + " then\nadd " + std::to_string(1000 * i) + " to cs50\n";
+    if (random() % 2 == 0) text += "else\nadd 0.5 to cs50\n";
+    text += "endif\n";
+  }
+  return text;
+}
+
+// What is watched step by step and what runs at one go must come to the same.
+TEST(Interpreter, BlocksAtOneGoDoWhatTheirStepsDo) {
+  std::mt19937 random(31);
+  int compiled = 0;
+  for (int round = 0; round < 60; ++round) {
+    ScriptTable table;
+    Game& game = *table.game;
+    PlaceBet(game, 1, kPassLine, Currency::Dollars(10));
+    PlaceBet(game, 1, kPlace4 + 2, Currency::Dollars(12));
+    PlaceBet(game, 2, kField, Currency::Dollars(5));
+    ChangeBet(game, 1, 101, Currency::FromDouble(4.5));
+    ChangeBet(game, 1, 102, Currency::Dollars(1 + round % 9));
+    if (round % 2 == 0) table.Dice(2 + round % 3, 2);
+    const std::string script = RandomBlocks(random);
+    if (!table.Load(1, script).empty()) continue;
+    ++compiled;
+    CompileALLAutobets(game);
+    game.autobet.StepsHold = false;
+    double sums[2];
+    for (const bool watched : {false, true}) {
+      ChangeBet(game, 1, 150, -game.table.BetAmount(1, 150));
+      game.autobet.StepsShown = watched;
+      RunAutoBet(game);
+      sums[watched ? 1 : 0] = table.Bet(150);
+    }
+    EXPECT_EQ(sums[0], sums[1]) << script;
+  }
+  EXPECT_GT(compiled, 40);
 }
 
 }  // namespace

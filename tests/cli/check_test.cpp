@@ -31,6 +31,15 @@ TEST(CliCheck, GoodScriptsBadScriptsAndMissingOnesHaveTheirWordsAndCodes) {
   EXPECT_NE(ran.err.find("none.bet"), std::string::npos);
 }
 
+TEST(CliCheck, BytesThatATerminalObeysAreNotPrinted) {
+  TempFolder folder;
+  WriteFile(folder.File("a.bet"), "\x1b[31mred\x07 \x7f\n");
+  const Ran ran = RunCli(folder, {"check", folder.File("a.bet")});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_NE(ran.out.find("?[31mred? ?"), std::string::npos) << ran.out;
+  for (const char c : ran.out) EXPECT_TRUE(c == '\n' || (c >= ' ' && c != '\x7f')) << static_cast<int>(c);
+}
+
 TEST(CliCheck, TokensAreOneKindAndValueALine) {
   TempFolder folder;
   WriteFile(folder.File("a.bet"), "cs1 = 2.5");

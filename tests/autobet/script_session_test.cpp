@@ -1,0 +1,214 @@
+// What the script screen does, without the screen.
+#include "autobet/script_session.h"
+
+#include <gtest/gtest.h>
+
+#include "autobet/run_helpers.h"
+#include "engine/bet_catalogue.h"
+
+namespace tessaryn {
+namespace {
+
+using script_test::ScriptTable;
+
+std::string Joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "|";
+  return text;
+}
+
+TEST(FindInScript, LooksOnFromAPlaceAndRoundTheEnd) {
+  const std::vector<std::string> lines = {"bet 5 on Field", "", "clear field, FIELD"};
+  struct Case {
+    const char* text;
+    ScriptPlace from;
+    ScriptPlace found;
+  };
+  const Case cases[] = {
+      {"field", {1, 0}, {1, 9}},  {"field", {1, 10}, {3, 6}},  {"field", {3, 7}, {3, 13}},
+      {"FIELD", {3, 14}, {1, 9}}, {"field", {99, -5}, {3, 6}}, {"field", {1, 500}, {3, 6}},
+      {"nine", {1, 0}, {0, 0}},   {"", {1, 0}, {0, 0}},        {"field, field", {1, 0}, {3, 6}},
+      {"bet", {1, 1}, {1, 0}},    {"field\n", {1, 0}, {0, 0}},
+  };
+  for (const Case& one : cases) {
+    const ScriptPlace place = FindInScript(lines, one.text, one.from);
+    EXPECT_EQ(place.line, one.found.line) << one.text << " from " << one.from.line << "," << one.from.column;
+    EXPECT_EQ(place.column, one.found.column)
+        << one.text << " from " << one.from.line << "," << one.from.column;
+  }
+  EXPECT_EQ(FindInScript({}, "x", {1, 0}).line, 0);
+}
+
+TEST(ReplaceInScript, ReplacesWhereItStandsAndStopsTheRun) {
+  ScriptTable table;
+  Game& game = *table.game;
+  ASSERT_EQ(table.Load(1, "bet 5 on Field\nbet 5 on field"), "");
+  CompileALLAutobets(game);
+  game.autobet.ScriptRunning = true;
+  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {1, 8}, "passline")) << "it doesn't stand there";
+  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {3, 0}, "passline"));
+  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {1, 500}, "passline"));
+  EXPECT_TRUE(game.autobet.ScriptRunning && game.autobet.ScriptsCompiled);
+  EXPECT_TRUE(ReplaceInScript(game, 1, "field", {1, 9}, "passline"));
+  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "bet 5 on passline|bet 5 on field|");
+  EXPECT_FALSE(game.autobet.ScriptRunning || game.autobet.ScriptsCompiled);
+  EXPECT_TRUE(game.autobet.Scripts[1].Unsaved);
+}
+
+TEST(ReplaceInScript, AllOfThemAndWhatABringsInIsNotLookedAtAgain) {
+  ScriptTable table;
+  Game& game = *table.game;
+  SetScript(game, 1, {"a A aa", "b", "xa"}, "");
+  EXPECT_EQ(ReplaceAllInScript(game, 1, "a", "aab"), 5);
+  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "aab aab aabaab|b|xaab|");
+  EXPECT_EQ(ReplaceAllInScript(game, 1, "", "x"), 0);
+  EXPECT_EQ(ReplaceAllInScript(game, 1, "none", "x"), 0);
+  EXPECT_EQ(ReplaceAllInScript(game, 1, "aab", ""), 5);
+  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "  |b|x|");
+}
+
+// Every bet made by hand and logged gives, run as a script on an empty table, the same table.
+TEST(LoggedBets, PlayTheSameBetsAgain) {
+  ScriptTable table;
+  Game& game = *table.game;
+  LogBet(game, 1, kField);
+  EXPECT_TRUE(game.autobet.LoggedBets.empty()) << "logging is off";
+  game.autobet.BetLogging = true;
+  const auto bet = [&](int number, const char* amount) {
+    Currency money;
+    ASSERT_TRUE(TryParseMoney(amount, money));
+    PlaceBet(game, 1, number, money);
+    LogBet(game, 1, number);
+  };
+  bet(kPassLine, "10");
+  bet(kPassLine, "5");
+  bet(kField, "7");
+  bet(kPlace4 + 2, "12");
+  bet(103, "2.25");
+  RemoveBet(game, 1, kField);
+  LogBet(game, 1, kField);
+  EXPECT_EQ(
+      Joined(game.autobet.LoggedBets),
+      "bet 10 on passline|bet 15 on passline|bet 7 on field|bet 12 on place6|bet 2.25 on cs3|remove field|");
+  double wanted[200];
+  for (int number = 1; number < 200; ++number) wanted[number] = table.Bet(number);
+  for (const int number : {static_cast<int>(kPassLine), kPlace4 + 2, 103}) RemoveBet(game, 1, number);
+  ASSERT_EQ(table.Bet(kPlace4 + 2), 0);
+
+  table.host.result = kResultYes;
+  EXPECT_TRUE(OfferToSaveLoggedBets(game));
+  EXPECT_EQ(table.host.titles.back(), "Save Auto-Bets?");
+  EXPECT_EQ(table.host.boxes.back(),
+            "Your current logged bets have not been saved.\r\rDo you want to save them now?");
+  SetScript(game, 1, {"' first", "' last"}, "");
+  EXPECT_EQ(InsertLoggedBets(game, 1, 2), 6);
+  EXPECT_EQ(game.autobet.Scripts[1].ScriptLines.front(), "' first");
+  EXPECT_EQ(game.autobet.Scripts[1].ScriptLines.back(), "' last");
+  EXPECT_EQ(InsertLoggedBets(game, 1, 2), 0) << "the log is empty";
+  EXPECT_FALSE(OfferToSaveLoggedBets(game));
+  SetScriptActive(game, 1, true);
+  ASSERT_TRUE(InitialiseScripts(game));
+  for (int number = 1; number < 200; ++number) EXPECT_EQ(table.Bet(number), wanted[number]) << number;
+}
+
+TEST(LoggedBets, EveryBetIsAStatementThatCompiles) {
+  for (int bet = 1; bet < 200; ++bet) {
+    if (bet > kBets && bet < kFirstCheckStack) continue;
+    const ScriptCheck check = CheckLines({}, 1, {BetStatement(bet, Currency::FromDouble(12.5))});
+    EXPECT_TRUE(check.ok) << BetStatement(bet, Currency::FromDouble(12.5)) << ": " << check.text;
+  }
+}
+
+TEST(CheckScript, AnEmptyScriptIsToldAndNotCompiled) {
+  ScriptTable table;
+  Game& game = *table.game;
+  CompileALLAutobets(game);
+  SetScript(game, 1, {"", "  "}, "");
+  game.autobet.ScriptsCompiled = true;
+  const ScriptCheck check = CheckScript(game, 1);
+  EXPECT_FALSE(check.ok);
+  EXPECT_EQ(check.title, "Auto-Bet");
+  EXPECT_EQ(check.text,
+            "This feature checks to see that your auto-bet script is properly structured, but presently your "
+            "script is empty.");
+  EXPECT_TRUE(game.autobet.ScriptsCompiled);
+  SetScript(game, 1, {"bet 5 on field"}, "");
+  game.autobet.ScriptsCompiled = true;
+  EXPECT_EQ(CheckScript(game, 1).text, "Your script is properly structured.");
+  EXPECT_FALSE(game.autobet.ScriptsCompiled) << "so that a run compiles all scripts";
+}
+
+TEST(CheckScript, TheTitleNamesTheLinesAndTheSpanStaysInTheScript) {
+  const ScriptCheck one = CheckLines({}, 1, {"bet 5 on field", "bet 5 on", "cs1 = 1"});
+  EXPECT_EQ(one.title, "Auto-bet script error in line 2");
+  const ScriptCheck several = CheckLines({}, 1, {"10", "cs1 = 1", "10"});
+  EXPECT_EQ(several.title, "Auto-bet script error in lines 1 thru 3");
+  for (const char* const text : {"if 1 then", "do", "bet 5 on (", "goto"}) {
+    const ScriptCheck check = CheckLines({}, 1, {"' first", text});
+    EXPECT_FALSE(check.ok) << text;
+    EXPECT_GE(check.diagnostic.firstLine, 1) << text;
+    EXPECT_LE(check.diagnostic.lastLine, 2) << text;
+  }
+}
+
+TEST(ActivateScript, OffersToInitialiseInItsWords) {
+  ScriptTable table;
+  Game& game = *table.game;
+  SetScript(game, 1, {"if initializing script then add 1 to cs0 endif"}, "");
+  ActivateScript(game, 1);
+  ASSERT_EQ(table.host.boxes.size(), 1u);
+  EXPECT_EQ(
+      table.host.boxes[0],
+      "Ann's auto-bet script has been activated.\r\rYou have an opportunity now to run Ann's script for "
+      "one cycle BEFORE the dice roll in order to check and set any initial conditions.  This is called "
+      "initializing. If you're not ready yet, then just recheck the active checkbox later or note that "
+      "all players' active auto-bets are automatically initialized whenever NEW is selected from the "
+      "GAME menu.\r\rWould you like to initialize Ann's auto-bet script now?");
+  EXPECT_TRUE(game.autobet.ScriptActive[1] && game.autobet.ScriptActive[0]);
+  EXPECT_EQ(table.Bet(100), 0) << "No was the answer";
+  table.host.result = kResultYes;
+  ActivateScript(game, 0);
+  EXPECT_EQ(table.host.boxes[1].substr(0, 52), "All players' auto-bet scripts have been activated.\r\r");
+  EXPECT_EQ(table.Bet(100), 1);
+  EXPECT_FALSE(game.autobet.ScriptActive[2]) << "a player without a script";
+  SetAllScriptsActive(game, false);
+  EXPECT_FALSE(game.autobet.ScriptActive[1] || game.autobet.ScriptActive[0]);
+}
+
+// The user of the steps viewer: asks for the next statement, or stops the run at one of them.
+struct StepHost : script_test::TestHost {
+  int waits = 0;
+  int stopAt = 0;  // 0 never
+  void Wait(Game& game) override {
+    ++waits;
+    tick += 5;
+    if (stopAt > 0 && waits == stopAt)
+      game.autobet.ScriptRunning = false;
+    else
+      game.autobet.StepWaiting = false;
+  }
+};
+
+TEST(StepMode, WaitsBehindEveryStatementUntilTheUserAsksOrStops) {
+  for (const int stopAt : {0, 2}) {
+    ScriptTable table;
+    Game& game = *table.game;
+    StepHost host;
+    game.host = &host;
+    host.stopAt = stopAt;
+    game.autobet.StepsShown = game.autobet.StepMode = true;
+    game.autobet.StepsHold = false;
+    ASSERT_EQ(table.Load(1, "bet 5 on field\nbet 6 on passline\nbet 7 on big6"), "");
+    CompileALLAutobets(game);
+    RunAutoBet(game);
+    EXPECT_EQ(host.waits, stopAt == 0 ? 3 : 2);
+    EXPECT_EQ(table.Bet(kField), 5);
+    EXPECT_EQ(table.Bet(kPassLine), 6) << "the statement that was waited behind is done";
+    EXPECT_EQ(table.Bet(kBig6), stopAt == 0 ? 7 : 0);
+    EXPECT_FALSE(game.autobet.ScriptRunning || game.autobet.StepWaiting);
+    game.host = &table.host;
+  }
+}
+
+}  // namespace
+}  // namespace tessaryn
