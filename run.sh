@@ -1,24 +1,23 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the release and starts the program: a table at this terminal, or without
-# a terminal (or with --headless) a million rolls of a sample system with their report. Further arguments go
-# to the command-line program.
+# Installs what is missing, builds the release and starts the program. With --headless it plays a million
+# rolls of a sample system instead, with their report; further arguments after --headless go to the
+# command-line program, others to the window.
 set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/packages.sh
 install_missing_packages
 build_preset release >&2
 
-program=build/release/bin/tessaryn-cli
-headless=0
+bin=build/release/bin
 if [ "${1:-}" = "--headless" ]; then
-  headless=1
   shift
-fi
-if [ $# -gt 0 ]; then
-  exec "$program" "$@"
-elif [ $headless -eq 0 ] && [ -t 0 ] && [ -t 1 ]; then
-  exec "$program" play
-else
+  [ $# -gt 0 ] && exec "$bin/tessaryn-cli" "$@"
   echo "A million rolls of data/samples/Sample1.bet, the Pass Line with odds:"
-  exec "$program" run --player Ann=100000 --script data/samples/Sample1.bet --rolls 1000000
+  exec "$bin/tessaryn-cli" run --player Ann=100000 --script data/samples/Sample1.bet --rolls 1000000
 fi
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
+  echo "There is no display to open the window on. ./run.sh --headless plays without one," >&2
+  echo "and ./run.sh --headless play is a table at this terminal." >&2
+  exit 1
+fi
+exec "$bin/tessaryn" "$@"

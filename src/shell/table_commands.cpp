@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <algorithm>
 
+#include "autobet/script_session.h"
 #include "dice/auto_roll.h"
 #include "engine/bet_catalogue.h"
 #include "engine/bet_limits.h"
@@ -17,6 +18,12 @@ namespace tessaryn {
 namespace {
 
 QString Translated(const char* text) { return QCoreApplication::translate("TableCommands", text); }
+
+// A bet of the selected seat made by hand; the log of such bets has it, if it is kept.
+void PlaceByHand(Game& game, int bet, Currency request) {
+  const int seat = game.table.SelectedSeat;
+  if (PlaceBet(game, seat, bet, request) != kZero) LogBet(game, seat, bet);
+}
 
 // Takes the bet up for the next click. A contract stays where it is.
 void CarryBet(Game& game, TableCommands& commands, int bet) {
@@ -67,7 +74,7 @@ bool IsContractBet(const Game& game, int seat, int bet) {
 void RemoveClickedBet(Game& game, int bet) {
   const int seat = game.table.SelectedSeat;
   if (game.table.BetAmount(seat, bet) == kZero && IsOdds(bet)) bet = FlatBetOf(bet);
-  PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet));
+  PlaceByHand(game, bet, -game.table.BetAmount(seat, bet));
 }
 
 void RemoveAllBets(Game& game) {
@@ -100,7 +107,7 @@ bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
       break;
   }
   if (commands.CarriedAmount > kZero) {
-    PlaceBet(game, seat, bet, std::exchange(commands.CarriedAmount, kZero));
+    PlaceByHand(game, bet, std::exchange(commands.CarriedAmount, kZero));
     return false;
   }
   if (alt && IsTableBet(bet)) {
@@ -108,7 +115,7 @@ bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
     return false;
   }
   if (commands.BetAmountMode == kKeyInAmounts) return true;
-  PlaceBet(game, seat, bet, commands.ClickAmount);
+  PlaceByHand(game, bet, commands.ClickAmount);
   return false;
 }
 
@@ -119,10 +126,12 @@ void TakeEnteredAmount(Game& game, int bet, Currency amount) {
   if (amount == up) return;
   // A contract is raised or kept, never taken down and made anew.
   if (IsContractBet(game, seat, bet) || IsCheckStack(bet) || up == kZero) {
-    PlaceBet(game, seat, bet, amount - up);
+    PlaceByHand(game, bet, amount - up);
     return;
   }
-  if (-RemoveBet(game, seat, bet) == up && amount > kZero) PlaceBet(game, seat, bet, amount);
+  if (-RemoveBet(game, seat, bet) != up) return;
+  PlaceBet(game, seat, bet, amount);
+  LogBet(game, seat, bet);
 }
 
 void RightClick(Game& game, TableCommands& commands) {

@@ -52,7 +52,9 @@ QPainterPath CutByCorner(double left, double top, double right, double bottom, d
   inside.setFillRule(Qt::WindingFill);
   QPainterPath path;
   path.addRect(QRectF(QPointF(left, top), QPointF(right, bottom)));
-  return path.intersected(inside.simplified());
+  QPainterPath cut = path.intersected(inside.simplified());
+  cut.closeSubpath();
+  return cut;
 }
 
 QTransform Mirror() { return {-1, 0, 0, 1, 2 * kTableMiddle, 0}; }
@@ -439,6 +441,9 @@ TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payof
   AddColumns(build);
   AddMiddle(build);
   PlaceSeats(build.layout);
+  for (TableArea& area : build.layout.Areas)
+    for (TableLabel& label : area.Labels)
+      if (label.Die1 == 0) label.Outline = LabelOutline(label);
   return std::move(build.layout);
 }
 

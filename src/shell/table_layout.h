@@ -27,7 +27,8 @@ struct TableLabel {
   Ink Colour = Ink::kLetter;
   int Die1 = 0;  // above 0: dice instead of the text
   int Die2 = 0;
-  bool Ring = false;  // a ring round the text
+  bool Ring = false;     // a ring round the text
+  QPainterPath Outline;  // of the lettering; written by BuildTableLayout
 };
 
 struct TableArea {

@@ -83,7 +83,7 @@ void DrawLabel(QPainter& painter, const TableLabel& label, const TableColors& co
   if (label.Die1 == 0) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(InkColor(colors, label.Colour));
-    painter.drawPath(LabelOutline(label));
+    painter.drawPath(label.Outline);
     return;
   }
   const LabelDice dice = PlaceLabelDice(label);
@@ -185,27 +185,61 @@ CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int 
   return pile;
 }
 
-const QPixmap& CheckPictures::Picture(int denomination, double diameter, double devicePixelRatio,
-                                      const Currency (&checkValue)[6]) {
-  const bool same = diameter == diameter_ && devicePixelRatio == ratio_ &&
-                    std::equal(values_.begin(), values_.end(), checkValue);
-  if (!same) {
-    diameter_ = diameter;
-    ratio_ = devicePixelRatio;
-    std::copy(checkValue, checkValue + 6, values_.begin());
-    pictures_.fill({});
-  }
+namespace {
+
+constexpr int kPileHeight = 10;
+constexpr double kStackStep = 0.15;      // of a check's diameter, from one check to the next above it
+constexpr std::size_t kMostPiles = 600;  // kept at a time
+
+}  // namespace
+
+void CheckPictures::SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6]) {
+  if (diameter == diameter_ && devicePixelRatio == ratio_ &&
+      std::equal(values_.begin(), values_.end(), checkValue))
+    return;
+  diameter_ = diameter;
+  ratio_ = devicePixelRatio;
+  std::copy(checkValue, checkValue + 6, values_.begin());
+  pictures_.fill({});
+  piles_.clear();
+}
+
+const QPixmap& CheckPictures::CheckPictureOf(int denomination) {
   QPixmap& picture = pictures_[denomination];
-  if (picture.isNull())
-    picture = CheckPicture(denomination, CheckText(denomination, checkValue),
-                           std::max(4, static_cast<int>(std::lround(diameter))), devicePixelRatio);
+  if (picture.isNull()) {
+    Currency values[6];
+    std::copy(values_.begin(), values_.end(), values);
+    picture = CheckPicture(denomination, CheckText(denomination, values),
+                           std::max(4, static_cast<int>(std::lround(diameter_))), ratio_);
+  }
+  return picture;
+}
+
+QPointF CheckPictures::Origin() const {
+  return {diameter_ / 2, diameter_ / 2 + kPileHeight * kStackStep * diameter_};
+}
+
+const QPixmap& CheckPictures::PilePicture(const CheckPile& pile) {
+  if (piles_.size() > kMostPiles) piles_.clear();
+  QPixmap& picture = piles_[pile];
+  if (!picture.isNull()) return picture;
+  const QSizeF size(diameter_ * 1.2, Origin().y() + diameter_ * 0.75);
+  picture = QPixmap((size * ratio_).toSize());
+  picture.setDevicePixelRatio(ratio_);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(0, 0, 0, 70));
+  painter.drawEllipse(Origin() + QPointF(diameter_ * 0.08, diameter_ * 0.1), diameter_ / 2, diameter_ / 2);
+  for (std::size_t n = 0; n < pile.size(); ++n) {
+    const double up = static_cast<double>(n) * diameter_ * kStackStep;
+    painter.drawPixmap(Origin() - QPointF(diameter_ / 2, diameter_ / 2 + up), CheckPictureOf(pile[n]));
+  }
   return picture;
 }
 
 namespace {
-
-constexpr int kPileHeight = 10;
-constexpr double kStackStep = 0.15;  // of a check's diameter, from one check to the next above it
 
 // Short lettering on a small rounded plate, in screen units.
 void DrawPlate(QPainter& painter, QPointF centre, double height, const QString& text, QColor plate,
@@ -264,23 +298,17 @@ struct CheckBrush {
   const TableScene& scene;
   CheckPictures& pictures;
   double diameter;  // screen units
-  double ratio;
 };
 
 void DrawPile(CheckBrush& brush, const Pile& pile) {
   const Game& game = *brush.scene.game;
   const CheckPile checks = BreakIntoChecks(pile.amount, game.settings.CheckValue, kPileHeight);
   const double radius = brush.diameter / 2;
-  brush.painter.setPen(Qt::NoPen);
-  brush.painter.setBrush(QColor(0, 0, 0, 70));
-  brush.painter.drawEllipse(pile.base + QPointF(radius * 0.16, radius * 0.2), radius, radius);
-  QPointF top = pile.base;
-  for (std::size_t n = 0; n < checks.size(); ++n) {
-    top = pile.base - QPointF(0, static_cast<double>(n) * brush.diameter * kStackStep);
-    const QPixmap& picture =
-        brush.pictures.Picture(checks[n], brush.diameter, brush.ratio, game.settings.CheckValue);
-    brush.painter.drawPixmap(top - QPointF(radius, radius), picture);
-  }
+  // On whole pixels: a picture between them would be smeared, and drawn slowly.
+  const QPointF corner = pile.base - brush.pictures.Origin();
+  brush.painter.drawPixmap(corner.toPoint(), brush.pictures.PilePicture(checks));
+  const QPointF top =
+      pile.base - QPointF(0, static_cast<double>(checks.size() - 1) * brush.diameter * kStackStep);
   const QString marker = PileMarker(game, pile.seat, pile.bet);
   const double plate = std::max(7.0, brush.diameter * 0.52);
   if (!marker.isEmpty())
@@ -410,15 +438,14 @@ void DrawAreaMark(QPainter& painter, const TableLayout& layout, const TableView&
 void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
                      const TableView& view, const TableColors& colors, CheckPictures& pictures) {
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setRenderHint(QPainter::SmoothPixmapTransform);
   DrawAreaMark(painter, layout, view, scene.hoverBet, 0, Qt::NoPen, QColor(255, 255, 255, 42));
   DrawAreaMark(painter, layout, view, scene.focusBet, scene.focusSide, QPen(QColor(255, 226, 90), 2.2),
                QColor(255, 226, 90, 30));
   for (int seat = 1; seat <= kSeats; ++seat) DrawSeat(painter, scene, layout, view, seat);
   DrawPuck(painter, *scene.game, view);
   if (!scene.hideBets) {
-    CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale(),
-                     painter.device()->devicePixelRatioF()};
+    CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale()};
+    pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue);
     for (const Pile& pile : CollectPiles(*scene.game, layout, view.Transform())) DrawPile(brush, pile);
   }
   if (!scene.showDice) return;
@@ -447,6 +474,22 @@ QStringList StatusLines(const Game& game, int seat) {
 namespace {
 
 constexpr double kBoxGap = 4;
+constexpr int kMaskStep = 8;  // screen units to a point of the mask
+
+// Where the table lies, coarsely: asking its outline for every place that is tried would take longer than
+// drawing it.
+QImage TableMask(const TableView& view) {
+  QImage mask(view.Window.width() / kMaskStep + 1, view.Window.height() / kMaskStep + 1,
+              QImage::Format_Grayscale8);
+  mask.fill(0);
+  QPainter painter(&mask);
+  painter.scale(1.0 / kMaskStep, 1.0 / kMaskStep);
+  painter.setTransform(view.Transform(), true);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(Qt::white);
+  painter.drawPath(RailOutline());
+  return mask;
+}
 
 QSizeF StatusBoxSize(const QFont& font) {
   const QFontMetricsF metrics(font);
@@ -454,15 +497,16 @@ QSizeF StatusBoxSize(const QFont& font) {
 }
 
 // How bad a place is: on the table or on another box weighs most, then the way to the seat.
-double PlaceCost(const QRectF& box, const QPointF& spot, const QPainterPath& table,
+double PlaceCost(const QRectF& box, const QPointF& spot, const QImage& table,
                  const std::array<QRectF, kSeatRows>& taken) {
   double cost = std::hypot(box.center().x() - spot.x(), box.center().y() - spot.y());
   constexpr int kProbes = 5;
   for (int x = 0; x < kProbes; ++x)
-    for (int y = 0; y < kProbes; ++y)
-      if (table.contains(QPointF(box.left() + box.width() * x / (kProbes - 1),
-                                 box.top() + box.height() * y / (kProbes - 1))))
-        cost += 400;
+    for (int y = 0; y < kProbes; ++y) {
+      const QPoint probe(static_cast<int>(box.left() + box.width() * x / (kProbes - 1)) / kMaskStep,
+                         static_cast<int>(box.top() + box.height() * y / (kProbes - 1)) / kMaskStep);
+      if (table.rect().contains(probe) && table.constScanLine(probe.y())[probe.x()] != 0) cost += 400;
+    }
   for (const QRectF& other : taken) {
     const QRectF shared = other.intersected(box);
     cost += shared.width() * shared.height() * 4;
@@ -476,10 +520,11 @@ std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayo
                                                const TableView& view, const QFont& font) {
   std::array<QRectF, kSeatRows> boxes;
   const QSizeF size = StatusBoxSize(font);
-  const QPainterPath table = view.Transform().map(RailOutline());
+  const QImage table = TableMask(view);
   const QRectF room(kBoxGap, kBoxGap, view.Window.width() - size.width() - 2 * kBoxGap,
                     view.Window.height() - size.height() - 2 * kBoxGap);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  // From the dealers' side round both ends, so that nobody's corner is taken by a neighbour.
+  for (const int seat : kPayOrder) {
     if (!IsOccupied(game.table, seat)) continue;
     const QPointF spot = view.ToScreen(layout.Seats[seat].Spot);
     double best = 1e18;

@@ -52,18 +52,24 @@ using CheckPile = std::vector<int>;
 // "$" check on top. A pile that would be too high shows its largest checks.
 CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int most);
 
-// The pictures of the checks at one size, made when first asked for.
+// The pictures of checks and of whole piles at one size, made when first asked for.
 class CheckPictures {
  public:
-  // diameter in device-independent pixels.
-  const QPixmap& Picture(int denomination, double diameter, double devicePixelRatio,
-                         const Currency (&checkValue)[6]);
+  // The size and the checks' values from here on; another one forgets what was made. diameter in
+  // device-independent pixels.
+  void SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6]);
+  // A pile with its shadow. Drawn with its top left corner at the pile's base less Origin().
+  const QPixmap& PilePicture(const CheckPile& pile);
+  QPointF Origin() const;
 
  private:
+  const QPixmap& CheckPictureOf(int denomination);
+
   double diameter_ = 0;
   double ratio_ = 0;
   std::array<Currency, 6> values_;
   std::array<QPixmap, 7> pictures_;
+  std::map<CheckPile, QPixmap> piles_;
 };
 
 // Where the dice lie, in table units, and how they are turned.

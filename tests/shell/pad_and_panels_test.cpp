@@ -37,7 +37,7 @@ struct PadTable : ScreenTable {
 TEST(RollPad, EveryCellOfEveryLayoutRollsItsDice) {
   PadTable table;
   for (int layout = 0; layout < kRollPadLayouts; ++layout) {
-    table.pad.Grid().SetPadLayout(layout);
+    table.pad.SetPadLayout(layout);
     const RollPadGrid grid = GridOf(layout);
     std::set<std::pair<int, int>> rolled;
     for (int row = 0; row < grid.Rows; ++row)
@@ -69,7 +69,7 @@ TEST(RollPad, EveryCellOfEveryLayoutRollsItsDice) {
 
 TEST(RollPad, TheKeyboardWalksAndPresses) {
   PadTable table;
-  table.pad.Grid().SetPadLayout(kPadBox);
+  table.pad.SetPadLayout(kPadBox);
   for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return})
     QTest::keyClick(&table.pad.Grid(), key);
   EXPECT_EQ(table.State().Die1, 3);

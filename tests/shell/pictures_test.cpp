@@ -1,12 +1,15 @@
 // The table as a person sees it, in pictures; and that nothing on it is where it shouldn't be.
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QPalette>
 #include <QTest>
 
 #include "engine/bet_rules.h"
 #include "engine/players.h"
+#include "shell/main_window.h"
+#include "shell/screens_support.h"
 #include "shell/table_widget.h"
 #include "shell_table.h"
 
@@ -31,14 +34,62 @@ TEST(TablePictures, BusyTableAtItsAnglesAndSizes) {
   widget.ViewChanged();
   SavePicture(widget, "table-30");
   widget.ShowWhole();
-  SetTableRotation(widget.view, 90);
+  SetTableRotation(widget.view, 60);
   widget.ShowWhole();
   SavePicture(widget, "table-90");
-  SetTableRotation(widget.view, 270);
+  SetTableRotation(widget.view, -60);
   ZoomTo(widget.view, 5000, QPointF(640, 360));
   CenterTable(widget.view);
   widget.ViewChanged();
   SavePicture(widget, "table-5000");
+}
+
+// The whole window on light and dark desktops, on the smallest screen and on a very large one.
+TEST(TablePictures, TheWindowAtEverySizeInLightAndDark) {
+  struct Look {
+    const char* name;
+    QSize size;
+    bool dark;
+  };
+  constexpr Look kLooks[] = {{"window", {1440, 860}, false},
+                             {"window-dark", {1440, 860}, true},
+                             {"window-1024x600", {1024, 600}, false},
+                             {"window-1024x600-dark", {1024, 600}, true},
+                             {"window-3840x2160", {3840, 2160}, false}};
+  const QPalette before = QApplication::palette();
+  for (const Look& look : kLooks) {
+    if (look.dark) QApplication::setPalette(test::DarkPalette());
+    ShellTable table;
+    table.MakeBusy();
+    ShellHost host;
+    MainWindow window(*table.game, host);
+    window.Table().animate = false;
+    window.resize(look.size);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    EXPECT_EQ(window.size(), look.size) << look.name << " does not fit";
+    const TableView& view = window.Table().view;
+    const QRectF reach = TableExtremes(view);
+    EXPECT_TRUE(QRectF(window.Table().rect()).adjusted(-2, -2, 2, 2).contains(reach)) << look.name;
+    SavePicture(window, look.name);
+    QApplication::setPalette(before);
+  }
+}
+
+TEST(TablePictures, StatusBoxesStandOffTheTableAndOffEachOtherWhereThereIsRoom) {
+  ShellTable table;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    table.Join(seat, "Player" + std::string(1, static_cast<char>('a' + seat)));
+  TableWidget widget(*table.game, table.commands);
+  widget.resize(1280, 720);
+  SavePicture(widget, "table-eight");
+  const auto boxes = PlaceStatusBoxes(*table.game, widget.Layout(), widget.view, widget.font());
+  const QPainterPath rail = widget.view.Transform().map(RailOutline());
+  for (int a = 1; a <= kSeats; ++a) {
+    EXPECT_TRUE(QRectF(widget.rect()).contains(boxes[a])) << a;
+    EXPECT_FALSE(rail.contains(boxes[a].center())) << a;
+    for (int b = a + 1; b <= kSeats; ++b) EXPECT_FALSE(boxes[a].intersects(boxes[b])) << a << " and " << b;
+  }
 }
 
 }  // namespace

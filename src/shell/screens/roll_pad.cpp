@@ -288,6 +288,7 @@ void RollPad::ToggleRun() {
 void RollPad::SetPadLayout(int layout) {
   chosen_ = {};
   grid_->SetPadLayout(layout);
+  QWidget::layout()->activate();
 }
 
 void RollPad::ShowMenu(QPoint globalPoint) {

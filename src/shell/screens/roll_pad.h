@@ -64,6 +64,7 @@ class RollPad : public QWidget {
   // The state changed.
   void Refresh();
   PadGrid& Grid() { return *grid_; }
+  void SetPadLayout(int layout);
 
  private:
   bool MayAct();
@@ -71,7 +72,6 @@ class RollPad : public QWidget {
   void RandomRoll();
   void ToggleRun();
   void ShowMenu(QPoint globalPoint);
-  void SetPadLayout(int layout);
 
   Game& game_;
   PadGrid* grid_;
