@@ -33,6 +33,7 @@
 #include "shell/screens/new_session.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/screens/settle_bet.h"
+#include "shell/sounds.h"
 #include "shell/turbo_panel.h"
 
 namespace tessaryn {
@@ -56,6 +57,8 @@ struct MainWindow::CommandFacts {
 const MainWindow::CommandFacts MainWindow::kCommands[] = {
     {TITLE("&Game"), "mnuNew", TITLE("&New ..."), "Ctrl+Shift+N", false, true, &MainWindow::NewGame,
      &MainWindow::HasPlayer},
+    {TITLE("&Game"), "mnuSound", TITLE("&Sound"), nullptr, true, false, &MainWindow::ToggleSound,
+     &MainWindow::Always},
     {TITLE("&Game"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Game"), "mnuExit", TITLE("E&xit"), "Ctrl+Shift+Q", false, false, nullptr, &MainWindow::Always},
 
@@ -369,6 +372,7 @@ void MainWindow::RefreshCommands() {
   for (const CommandFacts& facts : kCommands)
     if (facts.name != nullptr) actions_[facts.name]->setEnabled((this->*facts.enabled)());
   const auto check = [this](const char* name, bool on) { actions_[name]->setChecked(on); };
+  check("mnuSound", !game_.settings.DisableAllSound);
   check("mnuKeyInBetAmounts", commands_.BetAmountMode == tessaryn::kKeyInAmounts);
   check("mnuBuyPlaceBet", commands_.PendingAction == kPendingBuy);
   check("mnuCallBetOn", commands_.PendingAction == kPendingCallOn);
@@ -527,6 +531,11 @@ void MainWindow::NewGame() {
   NewSessionScreen screen(game_, this);
   RunDialog(screen);
   table_->Refresh();
+}
+
+void MainWindow::ToggleSound() {
+  game_.settings.DisableAllSound = !game_.settings.DisableAllSound;
+  if (game_.settings.DisableAllSound && host_.sounds != nullptr) host_.sounds->Stop();
 }
 
 void MainWindow::AddAPlayer() {
@@ -926,6 +935,7 @@ void MainWindow::RestoreWindow() {
   const Currency amount = ParseMoney(settings.value("clickAmount").toString().toStdString());
   if (amount > kZero) amounts_->SetAmount(amount);
   table_->scene.showAmounts = settings.value("showAmounts", false).toBool();
+  game_.settings.DisableAllSound = !settings.value("sound", true).toBool();
   RefreshCommands();
 }
 
@@ -934,6 +944,7 @@ void MainWindow::SaveWindow() const {
   settings.setValue("geometry", saveGeometry());
   settings.setValue("clickAmount", QString::fromStdString(PlainMoney(amounts_->Amount())));
   settings.setValue("showAmounts", table_->scene.showAmounts);
+  settings.setValue("sound", !game_.settings.DisableAllSound);
   settings.sync();
 }
 

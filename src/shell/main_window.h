@@ -41,6 +41,7 @@ class MainWindow : public QMainWindow {
 
   // --- What the menu's entries do; public for the table of them.
   void NewGame();
+  void ToggleSound();
   void AddAPlayer();
   void RenameSelected();
   void MoveSelected();

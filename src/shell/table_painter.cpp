@@ -132,6 +132,12 @@ void DrawTable(QPainter& painter, const TableLayout& layout, const TableView& vi
 
 // --- The hit map.
 
+namespace {
+// Ids from 1000 up are stacks at the rail: seat * 1000 + 10 + the stack's number.
+constexpr int kRailIds = 1000;
+constexpr int kRailStackIds = 10;
+}  // namespace
+
 void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& view, const Game& game) {
   map.fill(kNothing);
   QPainter painter(&map);
@@ -144,7 +150,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     for (int n = 0; n < 4; ++n) {
-      const int id = seat * 1000 + 10 + game.table.VisibleStacks[seat][n];
+      const int id = seat * kRailIds + kRailStackIds + game.table.VisibleStacks[seat][n];
       painter.setBrush(QColor::fromRgb(static_cast<QRgb>(id)));
       painter.drawEllipse(VisibleStackPlace(layout.Seats[seat], n), 7, 7);
     }
@@ -160,11 +166,13 @@ int MeantBet(const Game& game, int id) {
   return id;
 }
 
-int HitTest(const QImage& map, QPoint point, const Game& game) {
-  if (!map.rect().contains(point)) return 0;
-  const QRgb color = map.pixel(point);
-  if ((color & 0xffffffu) == (kNothing & 0xffffffu)) return 0;
-  return MeantBet(game, static_cast<int>(color & 0xffffffu));
+Hit HitTest(const QImage& map, QPoint point, const Game& game) {
+  if (!map.rect().contains(point)) return {};
+  const QRgb color = map.pixel(point) & 0xffffffu;
+  if (color == (kNothing & 0xffffffu)) return {};
+  const int id = static_cast<int>(color);
+  if (id >= kRailIds) return {id / kRailIds, id % kRailIds + kFirstCheckStack - kRailStackIds};
+  return {game.table.SelectedSeat, MeantBet(game, id)};
 }
 
 // --- Checks.

@@ -41,8 +41,13 @@ void DrawTable(QPainter& painter, const TableLayout& layout, const TableView& vi
 // The hit map: each area filled, without blending, in a colour whose value is its id; visible stacks of
 // occupied seats as seat * 1000 + 10 + stack. map has the window's size.
 void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& view, const Game& game);
-// The id in the map as the selected seat means it: odds or their flat bet, Place or Buy. 0 for nothing.
-int HitTest(const QImage& map, QPoint point, const Game& game);
+// What lies under a point. An area is the selected seat's, as that seat means it: odds or their flat bet,
+// Place or Buy. A stack at the rail is its own seat's CheckStack. Bet 0: nothing.
+struct Hit {
+  int Seat = 0;
+  int Bet = 0;
+};
+Hit HitTest(const QImage& map, QPoint point, const Game& game);
 // The same for an area's id, without a map.
 int MeantBet(const Game& game, int id);
 

@@ -195,9 +195,9 @@ void TableWidget::changeEvent(QEvent* event) {
 
 int TableWidget::BetAt(QPoint point) {
   PrepareMap();
-  const int id = HitTest(map_, point, game_);
-  // A stack at the rail belongs to its own seat.
-  return id;
+  const Hit hit = HitTest(map_, point, game_);
+  // A stack at another seat's rail is that player's: a click there chooses the seat.
+  return hit.Seat == game_.table.SelectedSeat ? hit.Bet : 0;
 }
 
 int TableWidget::SeatAt(QPoint point) const {

@@ -18,6 +18,7 @@
 #include "engine/bet_catalogue.h"
 #include "engine/bet_rules.h"
 #include "engine/players.h"
+#include "shell/file_chooser.h"
 #include "shell/main_window.h"
 #include "shell/screen_tools.h"
 #include "shell/screens_support.h"
@@ -398,6 +399,59 @@ TEST(MainWindow, TheWindowAndTheCheckReturnAtTheNextStart) {
   second.RestoreWindow();
   EXPECT_EQ(second.size(), QSize(1180, 777));
   EXPECT_EQ(second.Commands().ClickAmount, Currency::Dollars(100));
+}
+
+TEST(MainWindow, AStackAtTheRailIsItsOwnPlayersAndIsFilledLikeABet) {
+  Evening evening;
+  evening.Join(2, "Ann");
+  evening.Join(4, "Eve");
+  TableWidget& table = evening.Table();
+  const auto place = [&](int seat) {
+    return table.view.ToScreen(VisibleStackPlace(table.Layout().Seats[seat], 2)).toPoint();
+  };
+  const int stack = kFirstCheckStack + evening.real.game->table.VisibleStacks[4][2];
+  QTest::mouseMove(&table, place(4));
+  QTest::mouseClick(&table, Qt::LeftButton, {}, place(4));
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, stack), evening.window.Commands().ClickAmount);
+  EXPECT_TRUE(evening.window.findChild<QLabel*>("lblPointer")->text().startsWith("CheckStack"));
+  QTest::mouseClick(&table, Qt::LeftButton, {}, place(2));
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 2);
+  EXPECT_EQ(evening.real.game->table.BetAmount(2, stack), kZero);
+}
+
+// --- File names.
+
+TEST(FileChooser, RefusesInTheTablesWordsAndAsksAgain) {
+  ScreenTable table;
+  const std::string folder = table.game->dataFolder;
+  WriteFile(folder + "there.bet", "bet 10 on field");
+  WriteFile(folder + "bad.rol", "abc");
+  struct Case {
+    const FilePurpose& purpose;
+    const char* typed;
+    const char* title;  // null: good
+    const char* path;
+  };
+  const Case cases[] = {{kOpenAutoBet, "  ", "Missing Filename", ""},
+                        {kOpenAutoBet, "there", nullptr, "there.bet"},
+                        {kOpenAutoBet, "gone.bet", "Error", ""},
+                        {kOpenAutoBet, "no/such/folder/x.bet", "Error", ""},
+                        {kSaveAutoBet, "new", nullptr, "new.bet"},
+                        {kOpenRollFile, "new", nullptr, "new.rol"},
+                        {kOpenRollFile, "bad.rol", "Unable to Open Dice Roll File", ""}};
+  for (const Case& one : cases) {
+    std::string path;
+    const FileProblem problem = CheckFileName(*table.game, one.purpose, one.typed, path);
+    EXPECT_EQ(problem.title, one.title == nullptr ? "" : one.title) << one.typed;
+    EXPECT_TRUE(one.title != nullptr || path == folder + one.path) << path;
+  }
+  // An existing file is replaced after a yes alone.
+  QueuedFileNames() = {"there", "there", ""};
+  table.host.answers.No();
+  table.host.answers.Yes();
+  EXPECT_EQ(ChooseFile(*table.game, nullptr, kSaveAutoBet), folder + "there.bet");
+  EXPECT_TRUE(table.host.answers.Empty());
+  EXPECT_EQ(ChooseFile(*table.game, nullptr, kSaveAutoBet), "") << "given up";
 }
 
 TEST(MainWindow, APlayerMovesToAClickedPlace) {

@@ -59,7 +59,7 @@ TEST(TableLayout, EveryBetIsHitWhereItsChecksStandForEverySeatAtEveryView) {
           PutUpPartners(game, seat, bet);
           const QPoint point =
               view.ToScreen(QPointF(layout.CheckX(seat, bet), layout.CheckY(seat, bet))).toPoint();
-          ASSERT_EQ(HitTest(map, point, game), bet)
+          ASSERT_EQ(HitTest(map, point, game).Bet, bet)
               << BetName(bet) << " seat " << seat << " zoom " << zoom << " angle " << angle;
           TakeDownPartners(game, seat, bet);
         }
@@ -80,7 +80,7 @@ TEST(TableLayout, MapAgreesWithTheOutlinesAndGapsRailAndRoomHitNothing) {
     const QPoint point(static_cast<int>(random() % static_cast<unsigned>(map.width())),
                        static_cast<int>(random() % static_cast<unsigned>(map.height())));
     const QPointF units = view.ToTable(point);
-    const int hit = HitTest(map, point, *table.game);
+    const int hit = HitTest(map, point, *table.game).Bet;
     int expected = 0;
     bool nearEdge = false;
     for (const TableArea& area : layout.Areas) {
@@ -193,8 +193,10 @@ TEST(HitTest, VisibleStacksOfOccupiedSeatsAlone) {
   for (int seat = 1; seat <= kSeats; ++seat)
     for (int n = 0; n < 4; ++n) {
       const QPoint point = view.ToScreen(VisibleStackPlace(layout.Seats[seat], n)).toPoint();
-      const int expected = seat == 3 ? 3000 + 10 + game.table.VisibleStacks[3][n] : 0;
-      EXPECT_EQ(HitTest(map, point, game), expected) << seat << " " << n;
+      const Hit hit = HitTest(map, point, game);
+      EXPECT_EQ(hit.Bet, seat == 3 ? kFirstCheckStack + game.table.VisibleStacks[3][n] : 0)
+          << seat << " " << n;
+      EXPECT_EQ(hit.Seat, seat == 3 ? 3 : 0);
     }
 }
 
