@@ -203,6 +203,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host) : game_(game), host_(host) {
 MainWindow::~MainWindow() {
   host_.changed = nullptr;
   host_.showThrow = nullptr;
+  host_.showWin = nullptr;
   host_.showProgress = nullptr;
   host_.askSettlement = nullptr;
 }
@@ -411,7 +412,7 @@ void MainWindow::ConnectTable() {
     movingSeat_ = 0;
     table_->scene.movingPlayer = false;
     RightClick(game_, commands_);
-    table_->RefreshPointer();
+    table_->Refresh();
     RefreshCommands();
   });
   connect(table_, &TableWidget::pointedAt, this, &MainWindow::ShowPointer);
@@ -434,6 +435,7 @@ void MainWindow::ConnectHost() {
   host_.window = this;
   host_.changed = [this](Game&, Change change) { OnChanged(change); };
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
+  host_.showWin = [this](Game&) { table_->RainChecks(); };
   host_.showProgress = [this](Game& game) { turbo_->Refresh(game); };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
     table_->Refresh();
@@ -620,6 +622,7 @@ void MainWindow::ShowKeys() {
 void MainWindow::Roll() {
   commands_.PendingAction = kPendingNone;
   RollDice(game_);
+  table_->Refresh();
 }
 
 void MainWindow::Pass() { PassDice(game_, kPassByUser); }

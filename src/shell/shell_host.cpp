@@ -71,6 +71,7 @@ void ShellHost::PlaySound(Game& game, Sound sound) {
   if (game.table.TurboRollActive) return;
   if (sounds != nullptr) sounds->Play(sound, game);
   if (sound == Sound::kDice && showThrow) showThrow(game);
+  if (sound == Sound::kWin && showWin) showWin(game);
 }
 
 bool ShellHost::PlaySoundFile(Game& game, const std::string& name) {

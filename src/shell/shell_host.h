@@ -28,6 +28,8 @@ class ShellHost : public Host {
   std::function<void(Game&, Change)> changed;
   // The dice have been thrown: shows their tumble. Not called in a Turbo-Roll.
   std::function<void(Game&)> showThrow;
+  // The house's bank is broken: shows it. Not called in a Turbo-Roll.
+  std::function<void(Game&)> showWin;
   std::function<void(Game&, const ScriptStep&)> showStep;
   Sounds* sounds = nullptr;  // not owned; null: silent
 

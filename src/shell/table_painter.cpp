@@ -451,11 +451,14 @@ void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayo
                QColor(255, 226, 90, 30));
   for (int seat = 1; seat <= kSeats; ++seat) DrawSeat(painter, scene, layout, view, seat);
   DrawPuck(painter, *scene.game, view);
+  CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale()};
+  pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue);
   if (!scene.hideBets) {
-    CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale()};
-    pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue);
     for (const Pile& pile : CollectPiles(*scene.game, layout, view.Transform())) DrawPile(brush, pile);
   }
+  for (const FallenCheck& check : scene.rain)
+    painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),
+                       pictures.PilePicture({check.Denomination}));
   if (!scene.showDice) return;
   DrawDie(painter, view, colors, scene.dice.Die1, scene.dice.Turn1, scene.dice.Height, scene.dice.Face1);
   DrawDie(painter, view, colors, scene.dice.Die2, scene.dice.Turn2, scene.dice.Height, scene.dice.Face2);

@@ -88,6 +88,12 @@ struct DicePose {
   int Face2 = 4;
 };
 
+// A check that fell on the layout as the bank was broken.
+struct FallenCheck {
+  QPointF Place;  // table units
+  int Denomination = 1;
+};
+
 // What of the state is shown, and how.
 struct TableScene {
   const Game* game = nullptr;
@@ -100,6 +106,7 @@ struct TableScene {
   int focusSide = 0;
   int hoverSeat = 0;  // an open position under the pointer
   bool movingPlayer = false;
+  std::vector<FallenCheck> rain;
 };
 
 void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,

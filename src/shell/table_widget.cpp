@@ -22,6 +22,7 @@ namespace {
 constexpr int kFlashMilliseconds = 160;
 constexpr int kFlashes = 6;
 constexpr int kThrowMilliseconds = 520;
+constexpr int kRainMilliseconds = 3000;
 constexpr int kFrameMilliseconds = 15;
 constexpr double kSeatReach = 52;  // along the rail, in table units
 
@@ -129,6 +130,7 @@ void TableWidget::Refresh() {
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) PlaceVisibleStacks(layout_, seat, game_.table.VisibleStacks[seat]);
   mapStale_ = boxesStale_ = true;
+  scene.rain.clear();
   RefreshPointer();
   update();
 }
@@ -475,30 +477,45 @@ void TableWidget::PlaceDice() {
   update();
 }
 
-void TableWidget::ShowThrow() {
-  // Thrown, but not yet counted.
-  const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
-  scene.dice = rest;
-  update();
-  if (!animate || !isVisible() || throwing_ || game_.settings.DiceAction != 0) return;
+void TableWidget::Animate(int milliseconds, const std::function<void(double)>& frame) {
+  if (!animate || !isVisible() || throwing_) return;
   throwing_ = true;
   cutShort_ = false;
-  const int shooter = std::max(1, game_.table.ShooterSeat);
-  const QPointF from = layout_.Seats[shooter].Rail;
   QElapsedTimer clock;
   clock.start();
   QEventLoop loop;
   QTimer frames;
   connect(&frames, &QTimer::timeout, this, [&] {
-    const double share = static_cast<double>(clock.elapsed()) / kThrowMilliseconds;
+    const double share = static_cast<double>(clock.elapsed()) / milliseconds;
     if (share >= 1 || cutShort_) return loop.quit();
-    scene.dice = FlyingDice(rest, from, share);
+    frame(share);
     update();
   });
   frames.start(kFrameMilliseconds);
   loop.exec();
   throwing_ = false;
+}
+
+void TableWidget::ShowThrow() {
+  // Thrown, but not yet counted.
+  const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
+  const QPointF from = layout_.Seats[std::max(1, game_.table.ShooterSeat)].Rail;
+  if (game_.settings.DiceAction == 0)
+    Animate(kThrowMilliseconds, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
   scene.dice = rest;
+  update();
+}
+
+void TableWidget::RainChecks() {
+  constexpr int kChecks = 1000;
+  scene.rain.clear();
+  const auto fallTo = [&](int count) {
+    for (int n = static_cast<int>(scene.rain.size()); n < count; ++n)
+      scene.rain.push_back({{105 + 1037 * Scatter(n, 11), 86 + 343 * Scatter(n, 12)},
+                            1 + static_cast<int>(5 * Scatter(n, 13))});
+  };
+  Animate(kRainMilliseconds, [&](double share) { fallTo(static_cast<int>(kChecks * share)); });
+  fallTo(kChecks);
   update();
 }
 

@@ -46,6 +46,9 @@ class TableWidget : public QWidget {
   // Brings the dice from the shooter to the far end; returns when they lie still. A key or click cuts it
   // short.
   void ShowThrow();
+  // A thousand checks fall on the layout; they lie there until the state changes. A key or click ends the
+  // fall.
+  void RainChecks();
   // The dice as the state has them.
   void PlaceDice();
   void FlashBets();
@@ -87,6 +90,8 @@ class TableWidget : public QWidget {
   void TellFocus();
   void LeftPress(QMouseEvent* event);
   void SetMargins();
+  // Calls frame with the share 0 to 1 of the time that is over, until it is or the user cuts it short.
+  void Animate(int milliseconds, const std::function<void(double)>& frame);
   void CloseEntry();
 
   Game& game_;

@@ -36,6 +36,7 @@ class Hands {
   }
   std::deque<std::function<void(QDialog&)>> answers;  // for questions, in their order
   std::vector<std::string> texts;
+  std::function<void()> watch;  // called as a box is worked
   int settled = 0;
 
  private:
@@ -43,6 +44,7 @@ class Hands {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
     if (dialog == nullptr || !dialog->isVisible() || busy_) return;
     busy_ = true;
+    if (watch) watch();
     if (dialog->objectName() == "frmSettleBet") {
       Click(*dialog, QString("cmdHandle%1").arg(1 + settled++ % 7));
     } else if (dialog->objectName() == "frmMsg") {
@@ -417,6 +419,21 @@ TEST(MainWindow, AStackAtTheRailIsItsOwnPlayersAndIsFilledLikeABet) {
   QTest::mouseClick(&table, Qt::LeftButton, {}, place(2));
   EXPECT_EQ(evening.real.game->table.SelectedSeat, 2);
   EXPECT_EQ(evening.real.game->table.BetAmount(2, stack), kZero);
+}
+
+TEST(MainWindow, ABrokenBankRainsChecksUntilTheTableChanges) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.real.game->table.BankrollCurrent[4] = Currency::Dollars(10'000'001);
+  std::size_t fallen = 0;
+  evening.hands.watch = [&] { fallen = std::max(fallen, evening.Table().scene.rain.size()); };
+  QTest::mouseClick(&evening.Table(), Qt::RightButton, {}, QPoint(5, 5));
+  EXPECT_EQ(fallen, 1000u);
+  EXPECT_TRUE(evening.Table().scene.rain.empty());
+  EXPECT_EQ(SessionRolls(evening.real.game->stats), 0);
+  ASSERT_FALSE(evening.hands.texts.empty());
+  EXPECT_NE(evening.hands.texts.back().find("Congratulations!"), std::string::npos);
+  evening.real.game->table.BankrollCurrent[4] = Currency::Dollars(9000);
 }
 
 // --- File names.
