@@ -15,6 +15,10 @@ namespace tessaryn {
 
 namespace {
 
+constexpr int kNameColumns = 20;  // of a name as it is shown
+const QColor kWon(150, 232, 160);
+const QColor kLost(255, 172, 160);
+
 QString WholeNumber(double value) { return QLocale(QLocale::English).toString(value, 'f', 0); }
 
 QString ClockText(qint64 milliseconds) {
@@ -32,8 +36,9 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
   setObjectName("picTurboRoll");
   setFocusPolicy(Qt::StrongFocus);
   setAttribute(Qt::WA_OpaquePaintEvent);
-  QPalette colours = palette();
-  colours.setColor(QPalette::WindowText, QColor(240, 234, 214));
+  QPalette colours(QColor(26, 104, 72), QColor(10, 64, 42));  // the button too is of felt
+  for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+    colours.setColor(role, QColor(240, 234, 214));
   setPalette(colours);
   auto* column = new QVBoxLayout(this);
   column->addStretch(2);
@@ -57,14 +62,16 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
   rate_ = AddFigure(*grid, 1, tr("Rolls a second"), "lblRate");
   time_ = AddFigure(*grid, 2, tr("Time"), "lblTime");
   grid->setRowMinimumHeight(3, 10);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    bankrolls_[seat] = AddFigure(*grid, 3 + seat, {}, "lblBankroll");
-    names_[seat] = qobject_cast<QLabel*>(grid->itemAtPosition(3 + seat, 0)->widget());
-    changes_[seat] = new QLabel(this);
-    changes_[seat]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    changes_[seat]->setFont(bankrolls_[seat]->font());
-    changes_[seat]->setMinimumWidth(bankrolls_[seat]->minimumWidth());
-    grid->addWidget(changes_[seat], 3 + seat, 2);
+  for (int row = 0; row < kSeats; ++row) {
+    bankrolls_[row] = AddFigure(*grid, 4 + row, {}, "lblBankroll");
+    names_[row] = qobject_cast<QLabel*>(grid->itemAtPosition(4 + row, 0)->widget());
+    names_[row]->setTextFormat(Qt::PlainText);
+    changes_[row] = new QLabel(this);
+    changes_[row]->setObjectName("lblChange");
+    changes_[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    changes_[row]->setFont(bankrolls_[row]->font());
+    changes_[row]->setMinimumWidth(bankrolls_[row]->minimumWidth());
+    grid->addWidget(changes_[row], 4 + row, 2);
   }
   column->addSpacing(14);
   stop_->setObjectName("cmdStop");
@@ -95,13 +102,23 @@ QLabel* TurboPanel::AddFigure(QGridLayout& grid, int row, const QString& caption
 void TurboPanel::Begin(const Game& game) {
   clock_.start();
   firstRoll_ = SessionRolls(game.stats);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    firstBankroll_[seat] = game.table.BankrollCurrent[seat];
-    const bool here = IsOccupied(game.table, seat);
-    names_[seat]->setText(here ? FromCore(game.table.SeatName[seat]) : QString());
-    for (QLabel* label : {names_[seat], bankrolls_[seat], changes_[seat]}) label->setVisible(here);
+  cents_ = false;
+  const int nameWidth = names_[0]->fontMetrics().averageCharWidth() * kNameColumns;
+  for (int row = 0; row < kSeats; ++row) {
+    const bool here = row < game.table.OccupiedSeats;
+    seats_[row] = here ? game.table.Seated[row] : 0;
+    firstBankroll_[seats_[row]] = game.table.BankrollCurrent[seats_[row]];
+    names_[row]->setText(names_[row]->fontMetrics().elidedText(FromCore(game.table.SeatName[seats_[row]]),
+                                                               Qt::ElideRight, nameWidth));
+    for (QLabel* label : {names_[row], bankrolls_[row], changes_[row]}) label->setVisible(here);
   }
   Refresh(game);
+  layout()->activate();
+}
+
+QString TurboPanel::Amount(Currency value) const {
+  const QString text = MoneyText(value);
+  return cents_ && value.IsWhole() ? text + QStringLiteral(".00") : text;
 }
 
 void TurboPanel::Refresh(const Game& game) {
@@ -110,11 +127,17 @@ void TurboPanel::Refresh(const Game& game) {
   rolls_->setText(WholeNumber(rolls));
   rate_->setText(WholeNumber(elapsed > 0 ? rolls * 1000 / static_cast<double>(elapsed) : 0));
   time_->setText(ClockText(elapsed));
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!IsOccupied(game.table, seat)) continue;
-    const Currency change = game.table.BankrollCurrent[seat] - firstBankroll_[seat];
-    bankrolls_[seat]->setText(MoneyText(game.table.BankrollCurrent[seat]));
-    changes_[seat]->setText((change > kZero ? "+" : "") + MoneyText(change));
+  for (const int seat : seats_)
+    cents_ = cents_ ||
+             (seat > 0 && !(game.table.BankrollCurrent[seat].IsWhole() && firstBankroll_[seat].IsWhole()));
+  for (int row = 0; row < kSeats && seats_[row] > 0; ++row) {
+    const Currency bankroll = game.table.BankrollCurrent[seats_[row]];
+    const Currency change = bankroll - firstBankroll_[seats_[row]];
+    bankrolls_[row]->setText(Amount(bankroll));
+    changes_[row]->setText((change > kZero ? "+" : "") + Amount(change));
+    QPalette colours = palette();
+    if (change != kZero) colours.setColor(QPalette::WindowText, change > kZero ? kWon : kLost);
+    changes_[row]->setPalette(colours);
   }
 }
 
@@ -127,6 +150,8 @@ void TurboPanel::paintEvent(QPaintEvent*) {
 }
 
 void TurboPanel::keyPressEvent(QKeyEvent* event) {
+  // The key that started the run may still be down.
+  if (event->isAutoRepeat()) return;
   if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Space || event->key() == Qt::Key_Return)
     emit stopPressed();
   else

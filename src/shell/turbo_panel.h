@@ -34,13 +34,17 @@ class TurboPanel : public QWidget {
 
  private:
   QLabel* AddFigure(QGridLayout& grid, int row, const QString& caption, const char* name);
+  QString Amount(Currency value) const;
 
   QLabel* rolls_;
   QLabel* rate_;
   QLabel* time_;
-  QLabel* names_[kSeatRows] = {};
-  QLabel* bankrolls_[kSeatRows] = {};
-  QLabel* changes_[kSeatRows] = {};
+  // A row for each player, in the order of their seats.
+  QLabel* names_[kSeats] = {};
+  QLabel* bankrolls_[kSeats] = {};
+  QLabel* changes_[kSeats] = {};
+  int seats_[kSeats] = {};  // who a row is for; 0 nobody
+  bool cents_ = false;      // there has been an amount with cents: all have two places from then on
   QPushButton* stop_;
   QElapsedTimer clock_;
   std::int64_t firstRoll_ = 0;

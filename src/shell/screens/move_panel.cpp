@@ -1,9 +1,9 @@
 #include "shell/screens/move_panel.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QPainterPath>
 #include <QToolButton>
 
 #include "shell/table_view.h"
@@ -100,34 +100,41 @@ MovePanel::MovePanel(QWidget* parent) : QWidget(parent, Qt::Tool) {
                            {"cmdMoveRight", QT_TR_NOOP("Move right"), 1, 2, 1, 0, 90},
                            {"cmdMoveDown", QT_TR_NOOP("Move down"), 2, 1, 0, 1, 180}};
   for (const Way& way : kWays) {
-    QToolButton* button = Add(*grid, way.row, way.column, way.name, tr(way.text), border);
-    button->setIcon(DrawnIcon(*this, Arrow(), way.turn));
+    QToolButton* button = Add(*grid, way.row, way.column, way.name, tr(way.text), border, Arrow(), way.turn);
     const int dx = way.dx;
     const int dy = way.dy;
     connect(button, &QToolButton::clicked, this, [this, dx, dy] { emit move(dx, dy, KeysHeld()); });
   }
   QToolButton* centre =
-      Add(*grid, 1, 1, "cmdCenter", tr("Center"), tr("The table into the middle of the window"));
-  centre->setIcon(DrawnIcon(*this, Centre(), 0));
+      Add(*grid, 1, 1, "cmdCenter", tr("Center"), tr("The table into the middle of the window"), Centre());
   connect(centre, &QToolButton::clicked, this, &MovePanel::center);
   for (const bool clockwise : {false, true}) {
-    QToolButton* button = Add(*grid, 0, clockwise ? 2 : 0, clockwise ? "cmdRotateCW" : "cmdRotateCCW",
-                              clockwise ? tr("Turn clockwise") : tr("Turn counterclockwise"), turn);
-    button->setIcon(DrawnIcon(*this, Turning(clockwise), 0));
+    QToolButton* button =
+        Add(*grid, 0, clockwise ? 2 : 0, clockwise ? "cmdRotateCW" : "cmdRotateCCW",
+            clockwise ? tr("Turn clockwise") : tr("Turn counterclockwise"), turn, Turning(clockwise));
     connect(button, &QToolButton::clicked, this, [this, clockwise] { emit rotate(clockwise, KeysHeld()); });
   }
   for (const bool in : {false, true}) {
     QToolButton* button =
         Add(*grid, 2, in ? 2 : 0, in ? "cmdZoomIn" : "cmdZoomOut", in ? tr("Zoom in") : tr("Zoom out"),
-            tr("Shift: to the window's height; Ctrl: to its width; both: to the limit"));
-    button->setIcon(DrawnIcon(*this, Glass(in), 0));
+            tr("Shift: to the window's height; Ctrl: to its width; both: to the limit"), Glass(in));
     connect(button, &QToolButton::clicked, this, [this, in] { emit zoom(in, KeysHeld()); });
   }
+  DrawIcons();
   setFixedSize(sizeHint());
 }
 
+void MovePanel::DrawIcons() {
+  for (const Icon& icon : icons_) icon.button->setIcon(DrawnIcon(*this, icon.strokes, icon.turn));
+}
+
+void MovePanel::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) DrawIcons();
+}
+
 QToolButton* MovePanel::Add(QGridLayout& grid, int row, int column, const char* name, const QString& text,
-                            const QString& hint) {
+                            const QString& hint, const QPainterPath& icon, double turn) {
   auto* button = new QToolButton(this);
   button->setObjectName(name);
   button->setAccessibleName(text);
@@ -136,6 +143,7 @@ QToolButton* MovePanel::Add(QGridLayout& grid, int row, int column, const char* 
   button->setAutoRepeat(true);
   button->setAutoRepeatDelay(400);
   grid.addWidget(button, row, column);
+  icons_.push_back({button, icon, turn});
   return button;
 }
 

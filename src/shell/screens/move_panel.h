@@ -1,7 +1,9 @@
 // frmMove: the small panel that moves, zooms and turns the table.
 #pragma once
 
+#include <QPainterPath>
 #include <QWidget>
+#include <vector>
 
 class QGridLayout;
 class QToolButton;
@@ -21,9 +23,21 @@ class MovePanel : public QWidget {
   void center();
   void rotate(bool clockwise, int mode);
 
+ protected:
+  // The icons are in the colour of the buttons' text.
+  void changeEvent(QEvent* event) override;
+
  private:
+  void DrawIcons();
   QToolButton* Add(QGridLayout& grid, int row, int column, const char* name, const QString& text,
-                   const QString& hint);
+                   const QString& hint, const QPainterPath& icon, double turn = 0);
+
+  struct Icon {
+    QToolButton* button;
+    QPainterPath strokes;
+    double turn;
+  };
+  std::vector<Icon> icons_;
 };
 
 }  // namespace tessaryn

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -17,6 +18,8 @@ NewSessionScreen::NewSessionScreen(Game& game, QWidget* parent) : QDialog(parent
   setWindowTitle(tr("New Session"));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(20, 16, 20, 14);
+  column->addWidget(new QLabel(tr("All bets are taken down and a new session starts."), this));
+  column->addSpacing(8);
   const bool open = IsRollFileOpen(game.rollFile);
   rollFile_ = AddChoice("chkPreserveDiceRollFile", tr(" Preserve dice roll file"), open);
   const QString captions[2] = {tr(" Rewind and playback"), tr(" Continue ")};

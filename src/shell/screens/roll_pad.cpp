@@ -1,6 +1,7 @@
 #include "shell/screens/roll_pad.h"
 
 #include <QActionGroup>
+#include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
@@ -11,6 +12,7 @@
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "dice/auto_roll.h"
 #include "engine/game.h"
@@ -22,8 +24,18 @@ namespace tessaryn {
 
 namespace {
 
-constexpr int kCellWidth = 44;
-constexpr int kCellHeight = 34;
+constexpr int kFrame = 7;  // the felt round the cells, in pixels
+// A cell of each layout, in pixels: about as wide as the buttons under the grid.
+constexpr QSize kCellSizes[kRollPadLayouts] = {{44, 48}, {46, 34}, {62, 38}, {56, 56}};
+
+const QColor kFelt(9, 62, 40);
+const QColor kCell(16, 96, 62);
+const QColor kHover(34, 136, 92);
+const QColor kChosen(196, 152, 40);
+const QColor kLine(226, 214, 176, 130);
+const QColor kFocus(255, 224, 84);
+const QColor kText(250, 246, 232);
+const QColor kSevenText(255, 158, 146);
 
 // The dice of a cell that always asks for the same; open dice are 0.
 PadRoll FixedCell(int layout, int row, int column) {
@@ -69,11 +81,19 @@ void PadGrid::SetChosen(PadRoll chosen) {
 
 QSize PadGrid::sizeHint() const {
   const RollPadGrid grid = GridOf(layout_);
-  return {grid.Columns * kCellWidth, grid.Rows * kCellHeight};
+  const QSize cell = kCellSizes[layout_];
+  return {grid.Columns * cell.width() + 2 * kFrame, grid.Rows * cell.height() + 2 * kFrame};
 }
 
 QRectF PadGrid::CellBox(int row, int column) const {
-  return {double(column) * kCellWidth, double(row) * kCellHeight, double(kCellWidth), double(kCellHeight)};
+  const QSizeF cell = kCellSizes[layout_];
+  return {QPointF(kFrame + column * cell.width(), kFrame + row * cell.height()), cell};
+}
+
+// The felt round the cells belongs to none.
+PadCell PadGrid::CellAt(QPointF point) const {
+  const QPoint inside = point.toPoint() - QPoint(kFrame, kFrame);
+  return PadCellAt(layout_, inside.x(), inside.y(), width() - 2 * kFrame, height() - 2 * kFrame);
 }
 
 QPoint PadGrid::MiddleOfCell(int row, int column) const { return CellBox(row, column).center().toPoint(); }
@@ -87,47 +107,47 @@ bool PadGrid::IsCell(int row, int column) const {
 }
 
 void PadGrid::PaintCell(QPainter& painter, int row, int column) const {
-  const QRectF box = CellBox(row, column).adjusted(1.5, 1.5, -1.5, -1.5);
+  const QRectF box = CellBox(row, column).adjusted(2, 2, -2, -2);
   const bool hover = hover_.Row == row && hover_.Column == column;
   const bool focus = hasFocus() && focus_.Row == row && focus_.Column == column;
   const PadRoll roll = FixedCell(layout_, row, column);
   const bool chosen = layout_ == kPadFaces && ((row == 0 && roll.Die1 != 0 && roll.Die1 == chosen_.Die1) ||
                                                (row == 1 && roll.Die2 != 0 && roll.Die2 == chosen_.Die2));
-  painter.setPen(QPen(focus ? QColor(255, 226, 90) : QColor(224, 214, 180, 150), focus ? 2.2 : 1));
-  painter.setBrush(chosen ? QColor(190, 150, 40) : hover ? QColor(36, 128, 86) : QColor(14, 88, 56));
-  painter.drawRoundedRect(box, 4, 4);
+  painter.setPen(QPen(focus ? kFocus : kLine, focus ? 2.4 : 1));
+  painter.setBrush(chosen ? kChosen : hover ? kHover : kCell);
+  painter.drawRoundedRect(box, 5, 5);
   if (layout_ == kPadTotals) {
     QFont large = font();
     large.setBold(true);
-    large.setPixelSize(18);
+    large.setPixelSize(21);
     painter.setFont(large);
-    painter.setPen(column == 5 ? QColor(255, 140, 130) : QColor(250, 246, 232));
+    painter.setPen(column + 2 == 7 ? kSevenText : kText);
     painter.drawText(box, Qt::AlignCenter, QString::number(column + 2));
     return;
   }
-  const double side = box.height() * (layout_ == kPadFaces ? 0.8 : 0.56);
-  const bool both = roll.Die1 != 0 && roll.Die2 != 0;
+  const bool both = roll.IsComplete();
+  const double side = both ? std::min(box.height() * 0.72, box.width() * 0.44) : box.height() * 0.8;
   const QPointF apart(both ? side * 0.56 : 0, 0);
   if (roll.Die1 != 0) PaintFace(painter, box.center() - apart, side, roll.Die1, kDiceRed);
-  if (roll.Die2 != 0) PaintFace(painter, box.center() + apart, side, roll.Die2, both ? kDiceRed : kDiceBlue);
+  if (roll.Die2 != 0) PaintFace(painter, box.center() + apart, side, roll.Die2, kDiceBlue);
 }
 
 void PadGrid::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(kFelt);
+  painter.drawRoundedRect(rect(), 9, 9);
   const RollPadGrid grid = GridOf(layout_);
   for (int row = 0; row < grid.Rows; ++row)
     for (int column = 0; column < grid.Columns; ++column)
       if (IsCell(row, column)) PaintCell(painter, row, column);
 }
 
+// The other buttons are the pad's.
 void PadGrid::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::RightButton) {
-    emit menuWanted(event->globalPosition().toPoint());
-    return;
-  }
-  const PadCell cell = PadCellAt(layout_, static_cast<int>(event->position().x()),
-                                 static_cast<int>(event->position().y()), width(), height());
+  if (event->button() != Qt::LeftButton) return event->ignore();
+  const PadCell cell = CellAt(event->position());
   if (!IsCell(cell.Row, cell.Column)) return;
   focus_ = cell;
   TellFocus();
@@ -136,8 +156,7 @@ void PadGrid::mousePressEvent(QMouseEvent* event) {
 }
 
 void PadGrid::mouseMoveEvent(QMouseEvent* event) {
-  const PadCell cell = PadCellAt(layout_, static_cast<int>(event->position().x()),
-                                 static_cast<int>(event->position().y()), width(), height());
+  const PadCell cell = CellAt(event->position());
   if (cell.Row == hover_.Row && cell.Column == hover_.Column) return;
   hover_ = cell;
   update();
@@ -186,10 +205,8 @@ void PadGrid::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-      emit pressed(focus_.Row, focus_.Column);
-      return;
-    case Qt::Key_Menu:
-      emit menuWanted(mapToGlobal(rect().center()));
+      // A key that is held down is one press.
+      if (!event->isAutoRepeat()) emit pressed(focus_.Row, focus_.Column);
       return;
     default:
       QWidget::keyPressEvent(event);
@@ -232,10 +249,12 @@ RollPad::RollPad(Game& game, QWidget* parent)
   speeds->addWidget(speed_);
   column->addLayout(speeds);
   connect(grid_, &PadGrid::pressed, this, &RollPad::Pressed);
-  connect(grid_, &PadGrid::menuWanted, this, &RollPad::ShowMenu);
   connect(random_, &QPushButton::clicked, this, &RollPad::RandomRoll);
   connect(run_, &QPushButton::clicked, this, &RollPad::ToggleRun);
-  connect(throttle_, &QSlider::valueChanged, this, [this](int position) { SetThrottle(game_, position); });
+  connect(throttle_, &QSlider::valueChanged, this, [this](int position) {
+    SetThrottle(game_, position);
+    Refresh();
+  });
   Refresh();
 }
 
@@ -273,8 +292,10 @@ void RollPad::Pressed(int row, int column) {
   Refresh();
 }
 
+// Dice that were asked for and not rolled, as when a line bet was wanting, are forgotten.
 void RollPad::RandomRoll() {
   if (!MayAct()) return;
+  game_.table.ManualRollPending = false;
   RollDice(game_);
   Refresh();
 }
@@ -291,41 +312,81 @@ void RollPad::SetPadLayout(int layout) {
   QWidget::layout()->activate();
 }
 
+// --- The menu.
+
+void RollPad::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::RightButton) ShowMenu(event->globalPosition().toPoint());
+}
+
+// By the keyboard; the mouse has shown it at the press.
+void RollPad::contextMenuEvent(QContextMenuEvent* event) {
+  if (event->reason() != QContextMenuEvent::Mouse) ShowMenu(grid_->mapToGlobal(grid_->rect().center()));
+}
+
+// Doesn't wait for the choice, so that an Auto-Roll goes on behind the menu.
 void RollPad::ShowMenu(QPoint globalPoint) {
-  QMenu menu(this);
-  menu.setObjectName("mnuRYON");
+  auto* menu = new QMenu(this);
+  menu->setObjectName("mnuRYON");
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  AddLayouts(*menu);
+  menu->addSeparator();
+  AddParts(*menu);
+  menu->addSeparator();
+  AddSettings(*menu);
+  menu->addSeparator();
+  QAction* hiding = menu->addAction(tr("&Hide"), this, &QWidget::hide);
+  hiding->setObjectName("mnuHide");
+  menu->popup(globalPoint);
+}
+
+void RollPad::AddLayouts(QMenu& menu) {
+  auto* layouts = new QActionGroup(&menu);
   QMenu* display = menu.addMenu(tr("&Display"));
   display->menuAction()->setObjectName("mnuRYONDisplay");
-  QActionGroup layouts(&menu);
   for (int layout = 0; layout < kRollPadLayouts; ++layout) {
     QAction* action = display->addAction(tr(kRollPadCaptions[layout]));
     action->setObjectName(QString("mnuRYONDisplay%1").arg(layout));
     action->setCheckable(true);
     action->setChecked(layout == grid_->PadLayout());
-    layouts.addAction(action);
+    layouts->addAction(action);
     connect(action, &QAction::triggered, this, [this, layout] { SetPadLayout(layout); });
   }
-  const auto showing = [&](const char* name, const QString& text, QWidget* part) {
-    QAction* action = menu.addAction(text);
-    action->setObjectName(name);
+}
+
+// What can be shown and hidden.
+void RollPad::AddParts(QMenu& menu) {
+  const struct {
+    const char* name;
+    QString text;
+    QWidget* part;
+  } parts[] = {{"mnuRollCounter", tr("Roll &counter"), counter_},
+               {"mnuTurboRollButton", tr("&Turbo-Roll button"), run_},
+               {"mnuRandomButton", tr("&Random button"), random_}};
+  for (const auto& row : parts) {
+    QAction* action = menu.addAction(row.text);
+    action->setObjectName(row.name);
     action->setCheckable(true);
-    action->setChecked(part->isVisibleTo(this));
-    connect(action, &QAction::toggled, part, &QWidget::setVisible);
-  };
-  showing("mnuRollCounter", tr("Roll &counter"), counter_);
-  showing("mnuTurboRollButton", tr("&Turbo-Roll button"), run_);
-  showing("mnuRandomButton", tr("&Random button"), random_);
-  menu.addSeparator();
-  const auto entry = [&](const char* name, const QString& text, auto act) {
-    QAction* action = menu.addAction(text);
-    action->setObjectName(name);
-    connect(action, &QAction::triggered, this, act);
-  };
-  entry("mnuSetAutoRollTimeDelay", tr("Set Auto-Roll time &delay ..."), [this] { SetAutoRollDelay(game_); });
-  entry("mnuSetAutoStop", tr("Set Auto-&Stop ..."), [this] { SetAutoStop(game_); });
-  menu.addSeparator();
-  entry("mnuHide", tr("&Hide"), [this] { hide(); });
-  menu.exec(globalPoint);
+    action->setChecked(!row.part->isHidden());
+    connect(action, &QAction::toggled, row.part, &QWidget::setVisible);
+  }
+}
+
+// Each asks first while something runs, as the same commands of the window do.
+void RollPad::AddSettings(QMenu& menu) {
+  const struct {
+    const char* name;
+    QString text;
+    void (*ask)(Game&);
+  } settings[] = {{"mnuSetAutoRollTimeDelay", tr("Set Auto-Roll time &delay ..."), SetAutoRollDelay},
+                  {"mnuSetAutoStop", tr("Set Auto-&Stop ..."), SetAutoStop}};
+  for (const auto& row : settings) {
+    QAction* action = menu.addAction(row.text);
+    action->setObjectName(row.name);
+    const auto ask = row.ask;
+    connect(action, &QAction::triggered, this, [this, ask] {
+      if (MayAct()) ask(game_);
+    });
+  }
 }
 
 }  // namespace tessaryn

@@ -8,6 +8,7 @@
 #include "dice/roll_pad.h"
 
 class QLabel;
+class QMenu;
 class QPushButton;
 class QSlider;
 
@@ -30,7 +31,6 @@ class PadGrid : public QWidget {
 
  signals:
   void pressed(int row, int column);
-  void menuWanted(QPoint globalPoint);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -41,6 +41,7 @@ class PadGrid : public QWidget {
 
  private:
   QRectF CellBox(int row, int column) const;
+  PadCell CellAt(QPointF point) const;
   // Whether there is a roll in the cell; the triangle has empty corners.
   bool IsCell(int row, int column) const;
   void PaintCell(QPainter& painter, int row, int column) const;
@@ -64,7 +65,12 @@ class RollPad : public QWidget {
   // The state changed.
   void Refresh();
   PadGrid& Grid() { return *grid_; }
+  // The pad takes its new size at once.
   void SetPadLayout(int layout);
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   bool MayAct();
@@ -72,6 +78,9 @@ class RollPad : public QWidget {
   void RandomRoll();
   void ToggleRun();
   void ShowMenu(QPoint globalPoint);
+  void AddLayouts(QMenu& menu);
+  void AddParts(QMenu& menu);
+  void AddSettings(QMenu& menu);
 
   Game& game_;
   PadGrid* grid_;
