@@ -15,6 +15,7 @@ namespace tessaryn {
 
 namespace {
 
+constexpr int kSlack = 4;         // pixels that a label may want beside its text
 constexpr int kNameColumns = 20;  // of a name as it is shown
 const QColor kWon(150, 232, 160);
 const QColor kLost(255, 172, 160);
@@ -70,7 +71,7 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
     changes_[row]->setObjectName("lblChange");
     changes_[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     changes_[row]->setFont(bankrolls_[row]->font());
-    changes_[row]->setMinimumWidth(bankrolls_[row]->minimumWidth());
+    changes_[row]->setMinimumWidth(changes_[row]->fontMetrics().horizontalAdvance("-19,999,998.00") + kSlack);
     grid->addWidget(changes_[row], 4 + row, 2);
   }
   column->addSpacing(14);
@@ -92,7 +93,7 @@ QLabel* TurboPanel::AddFigure(QGridLayout& grid, int row, const QString& caption
   digits.setFamily("monospace");
   figure->setFont(digits);
   label->setFont(digits);
-  figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance("-9,999,999.00"));
+  figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance("-9,999,999.00") + kSlack);
   figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   grid.addWidget(label, row, 0);
   grid.addWidget(figure, row, 1);

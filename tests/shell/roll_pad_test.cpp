@@ -27,7 +27,11 @@ struct OpenPad : ScreenTable {
     pad.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&pad));
   }
-  ~OpenPad() { host.changed = nullptr; }
+  ~OpenPad() {
+    host.changed = nullptr;
+    // A menu wants the keyboard; the offscreen platform says of itself that it has none to give.
+    QtWarnings().removeAll("This plugin does not support grabbing the keyboard");
+  }
 
   std::int64_t Rolls() const { return SessionRolls(game->stats); }
   void Press(int row, int column, Qt::MouseButton button = Qt::LeftButton) {
@@ -233,13 +237,14 @@ TEST(RollPadMenu, EachEntryDoesWhatItSays) {
 
 TEST(RollPadMenu, OpensByKeyboardAndOverTheButtonsToo) {
   OpenPad table;
-  QContextMenuEvent key(QContextMenuEvent::Keyboard, {});
+  QContextMenuEvent key(QContextMenuEvent::Keyboard, {}, {});
   QApplication::sendEvent(&table.pad.Grid(), &key);
   ASSERT_NE(table.Menu(), nullptr);
   QTest::keyClick(table.Menu(), Qt::Key_Escape);
   EXPECT_EQ(table.Menu(), nullptr);
   QTest::mouseClick(&Find<QWidget>(table.pad, "cmdRandomRoll"), Qt::RightButton);
-  EXPECT_NE(table.Menu(), nullptr);
+  ASSERT_NE(table.Menu(), nullptr);
+  QTest::keyClick(table.Menu(), Qt::Key_Escape);
   EXPECT_EQ(table.Rolls(), 0);
 }
 

@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
@@ -180,7 +181,7 @@ TEST(TurboPanelInARun, TheKeyThatStartedItDoesNotStopIt) {
 TEST(TurboPanelFigures, StayInTheirPlacesAndKeepToTheirRows) {
   ScreenTable table;
   table.Join(1, "Ann", "1000");
-  table.Join(7, "Someone with a name that is much too long for a panel", "9999998.5");
+  table.Join(7, "Bartholomew Alexandra Catherine", "9999998.5");
   TurboPanel panel;
   panel.resize(1024, 500);
   panel.show();
@@ -210,8 +211,10 @@ TEST(TurboPanelFigures, StayInTheirPlacesAndKeepToTheirRows) {
 }
 
 TEST(TurboPanelFigures, AFullTableFitsTheSmallestScreen) {
+  constexpr const char* kNames[kSeats] = {"Ann",  "Bo",    "Catherine", "Dieter",
+                                          "Emma", "Fritz", "Greta",     "Hugo"};
   ScreenTable table;
-  for (int seat = 1; seat <= kSeats; ++seat) table.Join(seat, "Player " + std::to_string(seat), "2500");
+  for (int seat = 1; seat <= kSeats; ++seat) table.Join(seat, kNames[seat - 1], "2500");
   for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
     TurboPanel panel;
     panel.setParent(nullptr);
