@@ -37,6 +37,8 @@ build_preset() {
   if [ -f "$cache" ] && ! grep -q "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd)\$" "$cache"; then
     rm -rf "build/$preset"
   fi
+  # With these ccache knows precompiled headers again.
+  export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
   cmake --preset "$preset" >/dev/null
   cmake --build --preset "$preset"
 }
