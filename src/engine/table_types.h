@@ -119,6 +119,7 @@ struct BetSet {
   constexpr void Remove(int bet) { words[bet >> 6] &= ~(std::uint64_t{1} << (bet & 63)); }
   constexpr void Set(int bet, bool in) { in ? Add(bet) : Remove(bet); }
   constexpr void Clear() { words[0] = words[1] = 0; }
+  constexpr int Size() const { return std::popcount(words[0]) + std::popcount(words[1]); }
   constexpr bool Empty() const { return (words[0] | words[1]) == 0; }
   constexpr bool Meets(const BetSet& other) const {
     return ((words[0] & other.words[0]) | (words[1] & other.words[1])) != 0;
