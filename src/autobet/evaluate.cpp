@@ -153,6 +153,11 @@ constexpr unsigned kGreater = 4;
 constexpr unsigned kAccepted[] = {kEqual,   kLess | kGreater, kLess,
                                   kGreater, kLess | kEqual,   kGreater | kEqual};
 
+// Which of the three it is: without a branch, since the dice decide which and no machine foresees it.
+unsigned OrderOf(std::int64_t left, std::int64_t right) {
+  return kLess << ((left > right) - (left < right) + 1);
+}
+
 int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
   const unsigned accepted = kAccepted[count.relation];
   if (count.raw == 0) {
@@ -163,8 +168,7 @@ int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
   int passing = 0;
   for (int i = 0; i < count.bets; ++i) {
     const std::int64_t amount = table.BetAmount(seat, count.first + i).raw;
-    const unsigned order = amount < count.raw ? kLess : amount > count.raw ? kGreater : kEqual;
-    passing += (accepted & order) != 0 ? 1 : 0;
+    passing += (accepted & OrderOf(amount, count.raw)) != 0 ? 1 : 0;
   }
   return passing;
 }
@@ -180,7 +184,7 @@ bool CountBets(Game& game, const PreparedProgram& program, const Instruction& st
   return true;
 }
 
-bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
+inline bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
   const MoneyTest& test = program.moneyTests[static_cast<std::size_t>(step.a)];
   std::int64_t money = game.table.Point * Currency::kPerDollar;
   if (test.tested != Tested::kPoint) {
@@ -190,7 +194,7 @@ bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& st
     money = test.tested == Tested::kAmount ? game.table.BetAmount(seat, test.bet).raw
                                            : SessionLastRoll(game, reference.metric, seat, test.bet).raw;
   }
-  result = NumbersCompare(step.relation + kTokenEqual, money, test.raw) ? kTrue : 0;
+  result = (kAccepted[step.relation] & OrderOf(money, test.raw)) != 0 ? kTrue : 0;
   return true;
 }
 
