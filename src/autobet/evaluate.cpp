@@ -146,7 +146,45 @@ bool SeatOf(Game& game, const PreparedProgram& program, const Reference& referen
   return reference.player == PlayerChoice::kSeat || PlayerOf(game, program, reference, seat);
 }
 
-bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
+// What each relation accepts, by its place behind kTokenEqual.
+constexpr unsigned kLess = 1;
+constexpr unsigned kEqual = 2;
+constexpr unsigned kGreater = 4;
+constexpr unsigned kAccepted[] = {kEqual,   kLess | kGreater, kLess,
+                                  kGreater, kLess | kEqual,   kGreater | kEqual};
+
+// Which of the three it is: without a branch, since the dice decide which and no machine foresees it.
+unsigned OrderOf(std::int64_t left, std::int64_t right) {
+  return kLess << ((left > right) - (left < right) + 1);
+}
+
+int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
+  const unsigned accepted = kAccepted[count.relation];
+  if (count.raw == 0) {
+    // No amount lies below nothing, and the table keeps which bets are up.
+    const int up = (table.SeatBets[seat] & count.range).Size();
+    return ((accepted & kGreater) != 0 ? up : 0) + ((accepted & kEqual) != 0 ? count.bets - up : 0);
+  }
+  int passing = 0;
+  for (int i = 0; i < count.bets; ++i) {
+    const std::int64_t amount = table.BetAmount(seat, count.first + i).raw;
+    passing += (accepted & OrderOf(amount, count.raw)) != 0 ? 1 : 0;
+  }
+  return passing;
+}
+
+bool CountBets(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
+  const BetCount& count = program.betCounts[static_cast<std::size_t>(step.a)];
+  int seat = 0;
+  if (!SeatOf(game, program, program.references[static_cast<std::size_t>(count.reference)], seat))
+    return false;
+  result = BetsThatPass(game.table, seat, count);
+  if (step.op == Op::kTestBets)
+    result = NumbersCompare(step.relation + kTokenEqual, result, count.wanted) ? kTrue : 0;
+  return true;
+}
+
+inline bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
   const MoneyTest& test = program.moneyTests[static_cast<std::size_t>(step.a)];
   std::int64_t money = game.table.Point * Currency::kPerDollar;
   if (test.tested != Tested::kPoint) {
@@ -156,7 +194,7 @@ bool TestMoney(Game& game, const PreparedProgram& program, const Instruction& st
     money = test.tested == Tested::kAmount ? game.table.BetAmount(seat, test.bet).raw
                                            : SessionLastRoll(game, reference.metric, seat, test.bet).raw;
   }
-  result = NumbersCompare(step.relation + kTokenEqual, money, test.raw) ? kTrue : 0;
+  result = (kAccepted[step.relation] & OrderOf(money, test.raw)) != 0 ? kTrue : 0;
   return true;
 }
 
@@ -195,6 +233,8 @@ bool TestsHold(Game& game, const PreparedProgram& program, const PreparedStateme
     double holds = 0;
     if (step->op == Op::kCompareMoney) {
       if (!TestMoney(game, program, *step, holds) || holds == 0) return false;
+    } else if (step->op == Op::kTestBets) {
+      if (!CountBets(game, program, *step, holds) || holds == 0) return false;
     } else if ((game.table.Point == 0) != (step->op == Op::kComeOut)) {
       return false;
     }
@@ -252,6 +292,10 @@ bool Evaluate(Game& game, PreparedProgram& program, CodeRange code) {
         break;
       case Op::kCompareMoney:
         if (!TestMoney(game, program, *step, to)) return false;
+        break;
+      case Op::kCountBets:
+      case Op::kTestBets:
+        if (!CountBets(game, program, *step, to)) return false;
         break;
       case Op::kPoint:
         to = game.table.Point;

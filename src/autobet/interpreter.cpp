@@ -390,8 +390,8 @@ void LetEventsPass(Run& run, int statements) {
   run.game.host->Yield(run.game);
 }
 
-// A condition block at one go, where nobody watches the steps: run.counter moves from the if to the
-// statement that the run goes on behind.
+// A condition block at one go, and at full speed those behind it, where nobody watches the steps: run.counter
+// moves from the if to the statement that the run goes on behind.
 void PassConditions(Run& run) {
   const std::vector<PreparedStatement>& statements = run.program.statements;
   for (;;) {
@@ -409,8 +409,13 @@ void PassConditions(Run& run) {
     LetEventsPass(run, then - run.counter);
     const std::int32_t jump = statements[static_cast<std::size_t>(then)].jump;
     run.counter = holds ? then : jump;
-    const bool another = !holds && statements[static_cast<std::size_t>(jump)].keyword == kTokenElseIf;
-    if (!another || !run.autobet().ScriptRunning) return;
+    if (holds || !run.autobet().ScriptRunning) return;
+    if (statements[static_cast<std::size_t>(jump)].keyword == kTokenElseIf) continue;
+    // Of a Turbo-Roll no steps are shown: the next block is passed likewise.
+    const auto next = static_cast<std::size_t>(jump) + 1;
+    const bool goesOn = next < statements.size() && statements[next].kind == StatementKind::kIf;
+    if (!goesOn || !run.game.table.TurboRollActive) return;
+    ++run.counter;
   }
 }
 

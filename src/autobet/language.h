@@ -41,6 +41,7 @@ inline constexpr int kMeasureCurrentMoney = 34;
 inline constexpr int kPlayerAutobettor = 14;
 inline constexpr int kPlayerAll = 15;
 inline constexpr int kFunctionPlayer = 50;
+inline constexpr int kFunctionCount = 131;
 inline constexpr int kFunctionInstr = 203;
 inline constexpr int kVariableRollsSinceLast = 2505;
 inline constexpr int kListAny = 2;

@@ -317,6 +317,11 @@ class ProgramPreparer {
     PreparedCall call;
     call.code = code;
     call.arguments = ValueList(at);
+    if (code == kFunctionCount) {
+      const PreparedList& list = call.arguments;
+      if (list.qualified && CountsBets(list, list.qualifier))
+        return CountBets(list, list.relation, list.qualifier);
+    }
     out_.calls.push_back(std::move(call));
     const FunctionProperty* property = FindFunction(code);
     const bool text = property != nullptr && property->type == ScriptValueType::kString;
@@ -562,37 +567,109 @@ class ProgramPreparer {
   // Steps that neither fail nor do anything but fill their place.
   static bool IsPure(const Instruction& step) {
     return ReadsMoney(step.op) || step.op == Op::kCompareMoney || step.op == Op::kCompare ||
-           step.op == Op::kComeOut || step.op == Op::kPointOn;
+           step.op == Op::kComeOut || step.op == Op::kPointOn || step.op == Op::kBetsMoney ||
+           step.op == Op::kCountBets || step.op == Op::kTestBets;
   }
 
-  // The step of the range in hand that read money into a place, with nothing but pure steps behind it; -1
-  // for none.
-  std::int32_t MoneyReadInto(Operand operand) const {
+  Instruction& StepAt(std::int32_t at) { return out_.instructions[static_cast<Index>(at)]; }
+  const Instruction& StepAt(std::int32_t at) const { return out_.instructions[static_cast<Index>(at)]; }
+
+  // The step of the range in hand that filled a place, with nothing but pure steps behind it, so that it
+  // may as well be taken now; -1 for none.
+  std::int32_t StepInto(Operand operand) const {
     for (std::int32_t i = CodeEnd() - 1; i >= rangeStart_; --i) {
-      const Instruction& step = out_.instructions[static_cast<Index>(i)];
-      if (step.to == operand.place) return ReadsMoney(step.op) ? i : -1;
-      if (!IsPure(step)) return -1;
+      if (StepAt(i).to == operand.place) return i;
+      if (!IsPure(StepAt(i))) return -1;
     }
     return -1;
   }
 
-  // Whether the left side is money and the right side a literal that is an amount.
-  bool TestsMoney(Operand left, Operand right) const {
-    if (!isLiteral_[PlaceOf(right)] || MoneyReadInto(left) < 0) return false;
+  Instruction TakeOut(std::int32_t at) {
+    const Instruction step = StepAt(at);
+    out_.instructions.erase(out_.instructions.begin() + at);
+    return step;
+  }
+
+  // The step that read money into a place; -1 for none.
+  std::int32_t MoneyReadInto(Operand operand) const {
+    const std::int32_t at = StepInto(operand);
+    return at >= 0 && ReadsMoney(StepAt(at).op) ? at : -1;
+  }
+
+  bool IsLiteralAmount(Operand operand) const {
+    if (operand.text || !isLiteral_[PlaceOf(operand)]) return false;
     constexpr double kMost = 1e9;
-    const double value = out_.numbers[PlaceOf(right)];
+    const double value = out_.numbers[PlaceOf(operand)];
     const double raw = value * 10'000.0;
     return std::fabs(value) < kMost && raw == std::floor(raw) && raw / 10'000.0 == value;
   }
+  static std::int64_t RawAmount(double dollars) { return static_cast<std::int64_t>(dollars * 10'000.0); }
+
+  // Whether the left side is money and the right side a literal that is an amount.
+  bool TestsMoney(Operand left, Operand right) const {
+    return IsLiteralAmount(right) && MoneyReadInto(left) >= 0;
+  }
+
+  // Whether one step reads the list's members and no other bets, to be compared with a literal amount.
+  bool CountsBets(const PreparedList& list, Operand literal) const {
+    if (list.members.empty() || !IsLiteralAmount(literal)) return false;
+    const std::int32_t at = StepInto(list.members[0]);
+    if (at < 0 || StepAt(at).op != Op::kBetsMoney || list.members.size() != StepAt(at).relation) return false;
+    for (Index i = 0; i < list.members.size(); ++i)
+      if (list.members[i].text || list.members[i].place != StepAt(at).to + static_cast<std::int32_t>(i))
+        return false;
+    return true;
+  }
+
+  // Counts the bets that pass instead of reading them all.
+  Operand CountBets(const PreparedList& list, int relation, Operand literal) {
+    const Instruction read = TakeOut(StepInto(list.members[0]));
+    BetCount count;
+    count.reference = read.a;
+    count.first = read.b;
+    count.bets = read.relation;
+    count.range = BetRange(read.b, read.b + read.relation - 1);
+    count.relation = static_cast<std::uint8_t>(relation - kTokenEqual);
+    count.raw = RawAmount(out_.numbers[PlaceOf(literal)]);
+    out_.betCounts.push_back(count);
+    const auto place = static_cast<std::int32_t>(out_.betCounts.size() - 1);
+    out_.instructions.push_back({Op::kCountBets, 0, read.to, place, 0});
+    return {read.to, false};
+  }
+
+  // Whether the left side is a number of bets and the right side a literal.
+  bool TestsBets(Operand left, Operand right) const {
+    const std::int32_t at = StepInto(left);
+    return at >= 0 && StepAt(at).op == Op::kCountBets && isLiteral_[PlaceOf(right)];
+  }
+
+  // The number and its comparison in one step.
+  Operand TestBets(int relation, Operand number, double wanted) {
+    Instruction counted = TakeOut(StepInto(number));
+    out_.betCounts[static_cast<Index>(counted.a)].wanted = wanted;
+    counted.op = Op::kTestBets;
+    counted.relation = static_cast<std::uint8_t>(relation - kTokenEqual);
+    out_.instructions.push_back(counted);
+    return number;
+  }
+
+  // any: at least one passes; all: every one does. False if the list is no such list.
+  bool CompareBets(int relation, const Element& left, const Element& right, Operand& result) {
+    if (left.part != Part::kList || right.part != Part::kValue) return false;
+    const PreparedList& list = out_.lists[static_cast<Index>(left.code)];
+    if (list.qualified || !CountsBets(list, right.operand)) return false;
+    const double all = static_cast<double>(list.members.size());
+    const Operand passing = CountBets(list, relation, right.operand);
+    result = TestBets(kTokenGreaterEqual, passing, list.any ? 1 : all);
+    return true;
+  }
 
   Operand CompareMoney(int relation, Operand money, double dollars) {
-    const std::int32_t at = MoneyReadInto(money);
-    const Instruction read = out_.instructions[static_cast<Index>(at)];
-    out_.instructions.erase(out_.instructions.begin() + at);
+    const Instruction read = TakeOut(MoneyReadInto(money));
     const Tested tested = read.op == Op::kLastRoll ? Tested::kLastRoll
                           : read.op == Op::kPoint  ? Tested::kPoint
                                                    : Tested::kAmount;
-    out_.moneyTests.push_back({tested, read.a, read.b, static_cast<std::int64_t>(dollars * 10'000.0)});
+    out_.moneyTests.push_back({tested, read.a, read.b, RawAmount(dollars)});
     const auto test = static_cast<std::int32_t>(out_.moneyTests.size() - 1);
     out_.instructions.push_back(
         {Op::kCompareMoney, static_cast<std::uint8_t>(relation - kTokenEqual), read.to, test, 0});
@@ -600,6 +677,7 @@ class ProgramPreparer {
   }
 
   Operand Compare(int relation, const Element& left, const Element& right) {
+    if (Operand result; CompareBets(relation, left, right, result)) return result;
     if (left.part == Part::kList || right.part == Part::kList) {
       const std::int32_t a = ListOf(left);
       const std::int32_t b = ListOf(right);
@@ -609,6 +687,7 @@ class ProgramPreparer {
     const Operand b = ValueOf(right);
     if (a.text && b.text) return Emit(Op::kCompareTexts, a.place, b.place, false, relation);
     if (!a.text && !b.text && TestsMoney(a, b)) return CompareMoney(relation, a, out_.numbers[PlaceOf(b)]);
+    if (!a.text && !b.text && TestsBets(a, b)) return TestBets(relation, a, out_.numbers[PlaceOf(b)]);
     const std::int32_t number = AsNumber(a).place;
     return Emit(Op::kCompare, number, AsNumber(b).place, false, relation);
   }
@@ -651,11 +730,19 @@ class ProgramPreparer {
     if (count % 2 == 0) return 0;
     const std::int32_t tests = (count + 1) / 2;
     for (std::int32_t i = 0; i < count; ++i) {
-      const Op op = out_.instructions[static_cast<Index>(statement.value.begin + i)].op;
-      const bool test = op == Op::kCompareMoney || op == Op::kComeOut || op == Op::kPointOn;
-      if (i < tests ? !test : op != Op::kAnd) return 0;
+      const Instruction& step = out_.instructions[static_cast<Index>(statement.value.begin + i)];
+      if (i < tests ? !IsTest(step) : step.op != Op::kAnd) return 0;
     }
     return tests;
+  }
+
+  bool IsTest(const Instruction& step) const {
+    if (step.op != Op::kTestBets)
+      return step.op == Op::kCompareMoney || step.op == Op::kComeOut || step.op == Op::kPointOn;
+    const BetCount& count = out_.betCounts[static_cast<Index>(step.a)];
+    const PlayerChoice player = out_.references[static_cast<Index>(count.reference)].player;
+    // A test that is passed over must be one that can't fail.
+    return player == PlayerChoice::kAutobettor || player == PlayerChoice::kSeat;
   }
 
   void Keyword(Index begin, Index end, PreparedStatement& statement) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "autobet/script_types.h"
+#include "engine/table_types.h"
 
 namespace tessaryn {
 
@@ -82,6 +83,8 @@ enum class Op : std::uint8_t {
   kStack,         // the value of CheckStack b - 100, reference a
   kBetsMoney,     // the wagers on as many bets as relation says, from b on, into as many places, reference a
   kCompareMoney,  // money test a: an amount, a last roll or the point, and a literal behind it
+  kCountBets,     // how many bets of bet count a pass
+  kTestBets,      // that number compared with the count's literal, by relation
   kLastRoll,      // what the last roll won or lost on bet b in the session, reference a
   kPoint,
   kComeOut,  // whether there is no point
@@ -109,6 +112,18 @@ struct MoneyTest {
   std::int32_t reference = 0;
   std::int32_t bet = 0;
   std::int64_t raw = 0;  // of the literal
+};
+
+// Which of one seat's bets pass a comparison with a literal: a list's answer at one look, since nobody needs
+// the amounts themselves.
+struct BetCount {
+  std::int32_t reference = 0;
+  std::int32_t first = 0;
+  std::int32_t bets = 0;      // side by side, from first on
+  BetSet range;               // the same as a set
+  std::uint8_t relation = 0;  // less kTokenEqual
+  std::int64_t raw = 0;       // of the literal
+  double wanted = 0;          // what kTestBets compares the number with
 };
 
 // A stretch of the instructions.
@@ -170,6 +185,7 @@ struct PreparedProgram {
   std::vector<Instruction> instructions;
   std::vector<Reference> references;
   std::vector<MoneyTest> moneyTests;
+  std::vector<BetCount> betCounts;
   std::vector<PreparedList> lists;
   std::vector<PreparedCall> calls;
   std::vector<TargetItem> targets;

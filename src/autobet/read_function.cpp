@@ -65,8 +65,7 @@ ListSums SumList(const CallInHand& hand) {
 }
 
 bool ListFunction(const CallInHand& hand, double& value) {
-  constexpr int kCount = 131;
-  if (hand.call.code == kCount) {
+  if (hand.call.code == kFunctionCount) {
     value = 0;
     ForMembers(hand, [&value](Operand) { ++value; });
     return true;

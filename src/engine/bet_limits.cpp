@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <span>
 
 #include "engine/game.h"
@@ -94,12 +95,20 @@ Currency MinorPush(const OddsCase& odds, Currency unit) {
   return result == kZero ? odds.base : result;
 }
 
+// A wide division is a call: most tables' products fit a narrow one.
+bool IsWideMultiple(Wide product, Wide divisor) {
+  constexpr Wide kNarrow = std::numeric_limits<std::int64_t>::max();
+  if (product >= 0 && product <= kNarrow && divisor > 0 && divisor <= kNarrow)
+    return static_cast<std::uint64_t>(product) % static_cast<std::uint64_t>(divisor) == 0;
+  return product % divisor == 0;
+}
+
 // The smallest amount from base upwards, in steps of a dollar, that pays a whole number of the check. Gives
 // up at stop.
 Currency PaysWholeChecks(const OddsCase& odds, Currency check, Currency stop) {
   const Wide divisor = static_cast<Wide>(odds.payPer.raw) * check.raw;
   for (Currency amount = odds.base; amount < stop; amount += Currency::Dollars(1))
-    if (static_cast<Wide>(amount.raw) * odds.payTo.raw % divisor == 0) return amount;
+    if (IsWideMultiple(static_cast<Wide>(amount.raw) * odds.payTo.raw, divisor)) return amount;
   return odds.base;
 }
 

@@ -265,9 +265,8 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
 }
 
 Currency RoundChange(Currency change, Currency unit) {
-  if (change == kZero) return change;
+  if (change == kZero || IsMultiple(change, unit)) return change;
   const std::int64_t rest = change.raw % unit.raw;
-  if (rest == 0) return change;
   return change > kZero ? Currency::FromRaw(change.raw - rest) + unit
                         : Currency::FromRaw(change.raw - rest) - unit;
 }
@@ -320,10 +319,23 @@ bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
          table.OnTableAmount[seat] <= table.BankrollCurrent[seat];
 }
 
+// Whether the change takes the bet off whole with nothing to stop or to charge it: no limit and no contract
+// has a say then but the bet's own rule.
+bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currency request) {
+  if (request != -amount || amount <= kZero || amount > kBankrollLimit || HasVig(bet)) return false;
+  const int place = kRuleOf[bet][1];
+  if (place >= 0 && kRules[place].refuses({game, seat, bet, kZero})) return false;
+  return game.table.OnTableAmount[seat] - amount <= game.table.BankrollCurrent[seat];
+}
+
 Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
+  if (ComesOffWhole(game, seat, bet, amount, request)) {
+    SetBetAmount(game, seat, bet, kZero);
+    return request;
+  }
   // A request beyond any bankroll is as good as one for the whole of it.
   Currency change = std::clamp(request.IsError() ? kZero : request, -kBankrollLimit, kBankrollLimit);
   change = std::max(RoundChange(change, game.settings.Unit()), -amount);

@@ -119,6 +119,13 @@ struct BetSet {
   constexpr void Remove(int bet) { words[bet >> 6] &= ~(std::uint64_t{1} << (bet & 63)); }
   constexpr void Set(int bet, bool in) { in ? Add(bet) : Remove(bet); }
   constexpr void Clear() { words[0] = words[1] = 0; }
+  // Few bets are up at once, and without the machine's own instruction counting bits is a call.
+  constexpr int Size() const {
+    int size = 0;
+    for (std::uint64_t word : words)
+      for (; word != 0; word &= word - 1) ++size;
+    return size;
+  }
   constexpr bool Empty() const { return (words[0] | words[1]) == 0; }
   constexpr bool Meets(const BetSet& other) const {
     return ((words[0] & other.words[0]) | (words[1] & other.words[1])) != 0;
