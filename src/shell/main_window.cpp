@@ -608,15 +608,17 @@ void MainWindow::OpenAbout() {
 }
 
 void MainWindow::ShowKeys() {
-  ShowMessage(
-      game_, "Keys and Mouse",
-      "Left click: bet the chosen amount\rRight click or F2: roll the dice\rAlt and click: take a bet up, "
-      "click "
-      "again to put it down\rWheel: zoom.  Middle button: move the table\rDelete, F5, F6, F7: the next click "
-      "removes, buys, calls ON, calls OFF\rF9: key in amounts.  F11: show amounts\rTab: walk the bets with "
-      "the "
-      "arrows, Enter bets\rArrows: the next player\rCtrl and a letter or digit: its hot-key",
-      kMsgOk | kMsgDice, 640);
+  constexpr const char* kKeys =
+      "Left click: bet the chosen amount\r"
+      "Right click or F2: roll the dice\r"
+      "Alt and click: take a bet up, click again to put it down\r"
+      "Wheel: zoom.  Middle button: move the table\r"
+      "Delete, F5, F6, F7: the next click removes, buys, calls ON, calls OFF\r"
+      "F9: key in amounts.  F11: show amounts\r"
+      "Tab: walk the bets with the arrows, Enter bets\r"
+      "Arrows: the next player.  1 to 8: that place at the rail\r"
+      "Ctrl and a letter or digit: its hot-key";
+  ShowMessage(game_, "Keys and Mouse", kKeys, kMsgOk | kMsgDice, 640);
 }
 
 void MainWindow::Roll() {
@@ -834,6 +836,9 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     for (const CommandFacts& facts : kCommands)
       if (facts.key != nullptr && IsPlainKey(facts.key) && event->key() == PlainKeyCode(facts.key))
         return RunCommand(facts);
+    // A digit is a click on that place at the rail: its player, or a new one.
+    if (event->key() >= Qt::Key_1 && event->key() < Qt::Key_1 + kSeats)
+      return OnSeatClicked(event->key() - Qt::Key_1 + 1);
     const bool back = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up;
     if (back || event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) {
       const int seat = NextSeat(game_, back ? -1 : 1);

@@ -341,6 +341,18 @@ TEST(MainWindow, TheKeyboardAloneWalksTheAreasBetsAndRolls) {
   EXPECT_EQ(SessionRolls(evening.real.game->stats), 1);
 }
 
+TEST(MainWindow, DigitsAreThePlacesAtTheRail) {
+  Evening evening;
+  evening.hands.answers = {PressReturn, Typing("Fay"), Typing("300")};
+  evening.Key(Qt::Key_6);
+  EXPECT_EQ(evening.real.game->table.SeatName[6], "Fay");
+  evening.hands.answers = {PressReturn, Typing("Gil"), Typing("300")};
+  evening.Key(Qt::Key_1);
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 1);
+  evening.Key(Qt::Key_6);
+  EXPECT_EQ(evening.real.game->table.SelectedSeat, 6);
+}
+
 TEST(MainWindow, ArrowsWalkTheSeatsUntilTheAreasHaveTheFocus) {
   Evening evening;
   evening.Join(2, "Ann");
