@@ -272,7 +272,8 @@ void AutoPlayScreen::Set(const std::string& name, const std::string& value) {
 void AutoPlayScreen::SetSlot(int slot) {
   if (seat_ == 0) return;
   const Adjustment& value = slots_[slot]->Value();
-  const std::string row = "." + std::to_string(slot);
+  std::string row(1, '.');
+  row += std::to_string(slot);
   std::string error;
   if (SetSettings(game_,
                   {{"AdjustKind" + row, seat_, std::to_string(value.kind)},
