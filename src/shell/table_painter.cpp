@@ -2,8 +2,11 @@
 
 #include <QLocale>
 #include <QPainter>
+#include <QPixmapCache>
 #include <QStringList>
 #include <cmath>
+#include <thread>
+#include <vector>
 
 #include "engine/game.h"
 #include "shell/pictures.h"
@@ -106,28 +109,52 @@ QColor AreaFill(const TableArea& area, const TableColors& colors) {
 }
 
 void DrawAreas(QPainter& painter, const TableLayout& layout, const TableColors& colors) {
+  const QTransform toDevice = painter.combinedTransform();
+  const QRectF device(0, 0, painter.device()->width(), painter.device()->height());
+  std::vector<const TableArea*> seen;
+  constexpr double kLine = 1.1;
   for (const TableArea& area : layout.Areas) {
-    painter.setPen(QPen(colors.Line, 1.1));
-    painter.setBrush(AreaFill(area, colors));
-    painter.drawPath(area.Outline);
+    const QRectF room = area.Outline.boundingRect().adjusted(-kLine, -kLine, kLine, kLine);
+    if (toDevice.mapRect(room).intersects(device)) seen.push_back(&area);
   }
-  for (const TableArea& area : layout.Areas)
-    for (const TableLabel& label : area.Labels) DrawLabel(painter, label, colors);
+  for (const TableArea* area : seen) {
+    painter.setPen(QPen(colors.Line, kLine));
+    painter.setBrush(AreaFill(*area, colors));
+    painter.drawPath(area->Outline);
+  }
+  for (const TableArea* area : seen)
+    for (const TableLabel& label : area->Labels) DrawLabel(painter, label, colors);
 }
 
-}  // namespace
-
-void DrawTable(QPainter& painter, const TableLayout& layout, const TableView& view,
-               const TableColors& colors) {
-  painter.save();
+// The part of the picture from a column of its pixels on, as wide as part is.
+void DrawTablePart(QImage& part, int column, const TableLayout& layout, const TableView& view,
+                   const TableColors& colors) {
+  part.fill(colors.Room);
+  QPainter painter(&part);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.fillRect(QRect(QPoint(0, 0), view.Window), colors.Room);
+  painter.translate(-column / part.devicePixelRatio(), 0);
   painter.setTransform(view.Transform(), true);
   DrawRail(painter, colors);
   DrawFelt(painter, colors);
   DrawBank(painter, colors);
   DrawAreas(painter, layout, colors);
-  painter.restore();
+}
+
+}  // namespace
+
+void DrawTable(QImage& picture, const TableDrawing& drawing, const TableView& view,
+               const TableColors& colors) {
+  const int middle = picture.width() / 2;
+  const auto part = [&](int from, int to) {
+    QImage image(picture.bits() + from * (picture.depth() / 8), to - from, picture.height(),
+                 picture.bytesPerLine(), picture.format());
+    image.setDevicePixelRatio(picture.devicePixelRatio());
+    return image;
+  };
+  QImage left = part(0, middle);
+  QImage right = part(middle, picture.width());
+  const std::jthread helper([&] { DrawTablePart(right, middle, drawing.Right, view, colors); });
+  DrawTablePart(left, 0, drawing.Left, view, colors);
 }
 
 // --- The hit map.
@@ -248,6 +275,31 @@ const QPixmap& CheckPictures::PilePicture(const CheckPile& pile) {
 }
 
 namespace {
+
+// What costs more to draw than to keep is drawn once for a key, its size and the screen, and copied from then
+// on. box in screen units; paint draws into it. What is too large to keep is drawn each time.
+template <class Paint>
+void DrawKept(QPainter& painter, const QString& key, const QRectF& box, Paint paint) {
+  constexpr double kMostPixels = 300'000;
+  const double ratio = painter.device()->devicePixelRatioF();
+  const QSize pixels(static_cast<int>(std::ceil(box.width() * ratio)) + 1,
+                     static_cast<int>(std::ceil(box.height() * ratio)) + 1);
+  if (static_cast<double>(pixels.width()) * pixels.height() > kMostPixels) return paint(painter);
+  const QString whole = QStringLiteral("%1|%2|%3x%4").arg(key).arg(ratio).arg(box.width()).arg(box.height());
+  QPixmap picture;
+  if (!QPixmapCache::find(whole, &picture)) {
+    picture = QPixmap(pixels);
+    picture.setDevicePixelRatio(ratio);
+    picture.fill(Qt::transparent);
+    QPainter inner(&picture);
+    inner.setRenderHint(QPainter::Antialiasing);
+    inner.translate(-box.topLeft());
+    paint(inner);
+    inner.end();
+    QPixmapCache::insert(whole, picture);
+  }
+  painter.drawPixmap(box.topLeft().toPoint(), picture);
+}
 
 // Short lettering on a small rounded plate, in screen units.
 void DrawPlate(QPainter& painter, QPointF centre, double height, const QString& text, QColor plate,
@@ -389,30 +441,41 @@ void DrawNamePlate(QPainter& painter, const Game& game, const SeatPlace& place, 
   const double scale = view.Scale();
   const QPointF along = view.ToScreen(place.Rail + place.Along) - view.ToScreen(place.Rail);
   const QPointF centre = view.ToScreen(place.Rail + place.Out * 9);
+  const double angle = ReadableAngle(along);
   const bool selected = game.table.SelectedSeat == seat;
-  painter.save();
-  painter.translate(centre);
-  painter.rotate(ReadableAngle(along));
+  const bool shooter = game.table.ShooterSeat == seat;
+  const QString name = FromCore(game.table.SeatName[seat]);
   const QRectF plate(-44 * scale, -7 * scale, 88 * scale, 14 * scale);
-  painter.setPen(QPen(selected ? QColor(255, 214, 92) : QColor(120, 92, 60), std::max(1.0, scale)));
-  painter.setBrush(selected ? QColor(86, 58, 20) : QColor(40, 26, 18));
-  painter.drawRoundedRect(plate, 4 * scale, 4 * scale);
-  double left = plate.left() + 3 * scale;
-  if (game.table.ShooterSeat == seat) {
-    painter.save();
-    painter.translate(left + 6 * scale, 0);
-    painter.scale(9 * scale, 9 * scale);
-    PaintDie(painter, 5, kDiceRed, Qt::white);
-    painter.restore();
-    left += 13 * scale;
-  }
-  painter.setFont(TableFont(selected, 9.5 * scale));
-  painter.setPen(selected ? QColor(255, 236, 180) : QColor(232, 222, 206));
-  const QRectF room(left, plate.top(), plate.right() - left - 2 * scale, plate.height());
-  painter.drawText(room, Qt::AlignCenter,
-                   painter.fontMetrics().elidedText(FromCore(game.table.SeatName[seat]), Qt::ElideRight,
-                                                    static_cast<int>(room.width())));
-  painter.restore();
+  QTransform turn;
+  turn.rotate(angle);
+  const QRectF box = turn.mapRect(plate.adjusted(-scale, -scale, scale, scale)).translated(centre);
+  const QString key =
+      QStringLiteral("name|%1|%2%3|%4|%5").arg(name).arg(selected).arg(shooter).arg(angle).arg(scale);
+  DrawKept(painter, key, box, [&](QPainter& brush) {
+    brush.save();
+    brush.translate(centre);
+    brush.rotate(angle);
+    brush.setPen(
+        QPen(selected ? QColor(255, 214, 92) : QColor(120, 92, 60), std::max(1.0, scale)));
+    brush.setBrush(selected ? QColor(86, 58, 20) : QColor(40, 26, 18));
+    brush.drawRoundedRect(plate, 4 * scale, 4 * scale);
+    double left = plate.left() + 3 * scale;
+    if (shooter) {
+      brush.save();
+      brush.translate(left + 6 * scale, 0);
+      brush.scale(9 * scale, 9 * scale);
+      PaintDie(brush, 5, kDiceRed, Qt::white);
+      brush.restore();
+      left += 13 * scale;
+    }
+    brush.setFont(TableFont(selected, 9.5 * scale));
+    brush.setPen(selected ? QColor(255, 236, 180) : QColor(232, 222, 206));
+    const QRectF room(left, plate.top(), plate.right() - left - 2 * scale, plate.height());
+    brush.drawText(
+        room, Qt::AlignCenter,
+        brush.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(room.width())));
+    brush.restore();
+  });
 }
 
 void DrawSeat(QPainter& painter, const TableScene& scene, const TableLayout& layout, const TableView& view,
@@ -421,10 +484,16 @@ void DrawSeat(QPainter& painter, const TableScene& scene, const TableLayout& lay
   const SeatPlace& place = layout.Seats[seat];
   if (!IsOccupied(game.table, seat)) return DrawOpenPlace(painter, scene, place, view, seat);
   DrawNamePlate(painter, game, place, view, seat);
-  painter.setPen(QPen(QColor(200, 180, 150, 110), 1));
-  painter.setBrush(QColor(0, 0, 0, 70));
   const double radius = kCheckUnits / 2 * view.Scale();
-  for (int n = 0; n < 4; ++n) painter.drawEllipse(view.ToScreen(VisibleStackPlace(place, n)), radius, radius);
+  for (int n = 0; n < 4; ++n) {
+    const QPointF centre = view.ToScreen(VisibleStackPlace(place, n));
+    const QRectF box(centre.x() - radius - 1, centre.y() - radius - 1, 2 * radius + 2, 2 * radius + 2);
+    DrawKept(painter, "well", box, [&](QPainter& brush) {
+      brush.setPen(QPen(QColor(200, 180, 150, 110), 1));
+      brush.setBrush(QColor(0, 0, 0, 70));
+      brush.drawEllipse(centre, radius, radius);
+    });
+  }
 }
 
 void DrawAreaMark(QPainter& painter, const TableLayout& layout, const TableView& view, int bet, int side,
@@ -559,6 +628,36 @@ std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayo
   return boxes;
 }
 
+namespace {
+
+void DrawStatusBox(QPainter& painter, const QRectF& box, const QString& name, const QStringList& lines,
+                   bool selected, const QFont& font) {
+  painter.setPen(QPen(selected ? QColor(255, 214, 92) : QColor(130, 120, 108), selected ? 1.6 : 1));
+  painter.setBrush(QColor(24, 22, 20, 225));
+  painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
+  QFont bold = font;
+  bold.setBold(true);
+  const double line = (box.height() - 8) / 5;
+  QRectF row(box.left() + 8, box.top() + 4, box.width() - 16, line);
+  painter.setFont(bold);
+  painter.setPen(selected ? QColor(255, 226, 140) : QColor(236, 228, 214));
+  painter.drawText(row, Qt::AlignVCenter | Qt::AlignLeft,
+                   QFontMetricsF(bold).elidedText(name, Qt::ElideRight, row.width()));
+  painter.setFont(font);
+  for (const QString& text : lines) {
+    row.translate(0, line);
+    const auto colon = text.indexOf(QLatin1Char(':')) + 1;
+    painter.setPen(QColor(190, 182, 170));
+    painter.drawText(row, Qt::AlignVCenter | Qt::AlignLeft, text.left(colon));
+    painter.setPen(text.startsWith("Won")    ? QColor(140, 224, 150)
+                   : text.startsWith("Lost") ? QColor(246, 150, 140)
+                                             : QColor(244, 240, 232));
+    painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, text.mid(colon).trimmed());
+  }
+}
+
+}  // namespace
+
 void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRectF, kSeatRows>& boxes,
                      const QFont& font) {
   painter.setRenderHint(QPainter::Antialiasing);
@@ -566,31 +665,13 @@ void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRect
     const QRectF& box = boxes[seat];
     if (box.isEmpty() || !IsOccupied(game.table, seat)) continue;
     const bool selected = game.table.SelectedSeat == seat;
-    painter.setPen(QPen(selected ? QColor(255, 214, 92) : QColor(130, 120, 108), selected ? 1.6 : 1));
-    painter.setBrush(QColor(24, 22, 20, 225));
-    painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
-    QFont bold = font;
-    bold.setBold(true);
-    const double line = (box.height() - 8) / 5;
-    QRectF row(box.left() + 8, box.top() + 4, box.width() - 16, line);
-    painter.setFont(bold);
-    painter.setPen(selected ? QColor(255, 226, 140) : QColor(236, 228, 214));
-    painter.drawText(
-        row, Qt::AlignVCenter | Qt::AlignLeft,
-        QFontMetricsF(bold).elidedText(FromCore(game.table.SeatName[seat]), Qt::ElideRight, row.width()));
-    painter.setFont(font);
+    const QString name = FromCore(game.table.SeatName[seat]);
     const QStringList lines = StatusLines(game, seat);
-    for (int n = 0; n < lines.size(); ++n) {
-      row.translate(0, line);
-      const auto colon = lines[n].indexOf(QLatin1Char(':')) + 1;
-      painter.setPen(QColor(190, 182, 170));
-      painter.drawText(row, Qt::AlignVCenter | Qt::AlignLeft, lines[n].left(colon));
-      const bool won = lines[n].startsWith("Won");
-      painter.setPen(won                           ? QColor(140, 224, 150)
-                     : lines[n].startsWith("Lost") ? QColor(246, 150, 140)
-                                                   : QColor(244, 240, 232));
-      painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight, lines[n].mid(colon).trimmed());
-    }
+    const QString key = QStringLiteral("status|%1|%2|%3|%4")
+                            .arg(name, lines.join(QLatin1Char('|')), font.key())
+                            .arg(selected);
+    DrawKept(painter, key, box,
+             [&](QPainter& brush) { DrawStatusBox(brush, box, name, lines, selected, font); });
   }
 }
 

@@ -35,8 +35,14 @@ struct TableColors {
 // White in the hit map: nothing there.
 inline constexpr QRgb kNothing = 0xffffffffu;
 
-// The table without anything that changes from roll to roll.
-void DrawTable(QPainter& painter, const TableLayout& layout, const TableView& view,
+// The table without anything that changes from roll to roll, into a picture of the window's device pixels. Two
+// threads draw a half each, so each has a layout of its own: outlines keep what they worked out for drawing,
+// and copies of one share it.
+struct TableDrawing {
+  TableLayout Left;
+  TableLayout Right;
+};
+void DrawTable(QImage& picture, const TableDrawing& drawing, const TableView& view,
                const TableColors& colors);
 // The hit map: each area filled, without blending, in a colour whose value is its id; visible stacks of
 // occupied seats as seat * 1000 + 10 + stack. map has the window's size.

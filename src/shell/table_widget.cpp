@@ -104,6 +104,8 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
 
 void TableWidget::RebuildLayout() {
   layout_ = BuildTableLayout(game_.settings, game_.payoffs);
+  drawing_ = {BuildTableLayout(game_.settings, game_.payoffs),
+              BuildTableLayout(game_.settings, game_.payoffs)};
   tableStale_ = mapStale_ = boxesStale_ = true;
   Refresh();
 }
@@ -139,10 +141,9 @@ void TableWidget::PrepareTable() {
   const double ratio = devicePixelRatioF();
   const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (!tableStale_ && table_.size() == pixels) return;
-  table_ = QPixmap(pixels);
+  if (table_.size() != pixels) table_ = QImage(pixels, QImage::Format_RGB32);
   table_.setDevicePixelRatio(ratio);
-  QPainter painter(&table_);
-  DrawTable(painter, layout_, view, colors);
+  DrawTable(table_, drawing_, view, colors);
   tableStale_ = false;
 }
 
@@ -158,7 +159,7 @@ void TableWidget::paintEvent(QPaintEvent*) {
   if (boxesStale_) boxes_ = PlaceStatusBoxes(game_, layout_, view, font());
   boxesStale_ = false;
   QPainter painter(this);
-  painter.drawPixmap(0, 0, table_);
+  painter.drawImage(0, 0, table_);
   DrawChecksNDice(painter, scene, layout_, view, colors, checks_);
   DrawStatusBoxes(painter, game_, boxes_, font());
   if (game_.table.OccupiedSeats == 0) {

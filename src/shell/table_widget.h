@@ -98,7 +98,8 @@ class TableWidget : public QWidget {
   TableCommands& commands_;
   TableLayout layout_;
   CheckPictures checks_;
-  QPixmap table_;  // the table without what changes
+  TableDrawing drawing_;
+  QImage table_;  // the table without what changes
   QImage map_;     // ids under the points
   bool tableStale_ = true;
   bool mapStale_ = true;

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "shell/screen_tools.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {
@@ -58,9 +59,12 @@ TEST(MessageScreen, WhatIsTypedIsReadAsTextOrAsNumbers) {
   MessageBox name = Box(kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput);
   MessageScreen text(name, nullptr);
   text.open();
-  QTest::keyClicks(&Find<QLineEdit>(text, "txtInput0"), "Jos\xc3\xa9 no");
+  QLineEdit& typed = Find<QLineEdit>(text, "txtInput0");
+  typed.insert(QString::fromUtf8("Jos\xc3\xa9"));  // as an input method or a paste does
+  QTest::keyClicks(&typed, " no");
   QTest::mouseClick(&Find<QWidget>(text, "cmdButton0"), Qt::LeftButton);
   text.Answer(name);
+  EXPECT_EQ(name.MsgEntry, ToCore(typed.text()));
   EXPECT_EQ(name.MsgEntry.substr(0, 3), "Jos");
 
   MessageBox range = Box(kMsgOk | kMsgCancel | kMsgTwoInputs);
