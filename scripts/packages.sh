@@ -30,9 +30,11 @@ install_missing_packages() {
   fi
 }
 
-# Configures a preset once and builds it. A build folder made from another place is made anew.
+# Configures a preset once and builds it, or the targets named after it alone. A build folder made from another
+# place is made anew.
 build_preset() {
   local preset="$1"
+  shift
   local cache="build/$preset/CMakeCache.txt"
   if [ -f "$cache" ] && ! grep -q "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd)\$" "$cache"; then
     rm -rf "build/$preset"
@@ -40,5 +42,5 @@ build_preset() {
   # With these ccache knows precompiled headers again.
   export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
   cmake --preset "$preset" >/dev/null
-  cmake --build --preset "$preset"
+  cmake --build --preset "$preset" ${1:+--target "$@"}
 }
