@@ -22,6 +22,8 @@ int RunDialog(QDialog& dialog) {
   QEventLoop loop;
   QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
   dialog.open();
+  // After a click on the window behind, a window manager leaves the keyboard there when the next box opens.
+  dialog.activateWindow();
   if (dialog.isVisible()) loop.exec();
   return dialog.result();
 }
