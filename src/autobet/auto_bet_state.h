@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <string>
 #include <utility>
@@ -60,7 +61,8 @@ struct AutoBet {
   bool ScriptsCompiled = false;       // Program is valid
   CompiledScript Program;             // the joined scripts of all active players
   std::unique_ptr<PreparedProgram, PreparedProgramDeleter> Prepared;  // Program as it is run; may be null
-  std::vector<std::string> AllowedOutputFolders;  // besides the data folder; set by the user for the run
+  std::vector<std::string> AllowedOutputFolders;    // besides the scripts' own; set by the user for the run
+  std::map<std::string, std::string> OutputOwners;  // the files that scripts wrote, and for which player
   // --- Bets made by hand, as statements to insert into a script.
   bool BetLogging = false;
   std::vector<std::string> LoggedBets;

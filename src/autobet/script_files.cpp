@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kTextSize = 128;
 constexpr std::size_t kKindOffset = 128;
-constexpr std::size_t kMostBytes = 64u << 20;
+constexpr std::size_t kMostBytes = 4u << 20;  // the compiler takes a million words
 
 constexpr std::string_view kOldMarks[] = {
     "Quorvelian AutoBets, Data Format 5.0",

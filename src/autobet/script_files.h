@@ -20,7 +20,8 @@ struct ScriptFileResult {
 };
 
 // Reads the lines of a script. A file of an older form comes back in the present language; a file without
-// its mark is taken for text, whatever it holds. On failure lines is unchanged. At most 64 MB are read.
+// its mark is taken for text, whatever it holds. On failure lines is unchanged. A file of more than 4 MB is
+// refused unread.
 ScriptFileResult ReadScriptFile(const std::string& path, std::vector<std::string>& lines);
 
 // Replaces the file by the lines, one to a line. It is written beside, flushed and renamed, so that a failure

@@ -69,7 +69,7 @@ bool ActivateProbabilities(const ActionInHand& action) {
                     game.percentage.ProbFileName == path && !game.percentage.ProbDirty;
   if (same) return true;
   if (path.empty()) return action.Fails(kErrorNotProbabilityFile);
-  if (!OpenProbabilityFile(game.percentage, path, game.dataFolder, error))
+  if (!OpenProbabilityFile(game.percentage, path, "", error))
     return action.Fails(kErrorNotProbabilityFile);
   return ActivatePercentageDice(game.percentage, true) || action.Fails(kErrorNotProbabilityFile);
 }

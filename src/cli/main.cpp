@@ -3,6 +3,7 @@
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "persist/record_file.h"
 
 namespace tessaryn::cli {
 
@@ -30,6 +31,11 @@ int main(int argc, char** argv) {
   AddProbabilitiesCommand(program, exitCode);
   AddRollsCommand(program, exitCode);
   WatchInterrupts();
+  for (int i = 1; i < argc; ++i)
+    if (const std::string problem = tessaryn::TextProblem(argv[i]); !problem.empty()) {
+      std::fprintf(stderr, "tessaryn-cli: argument %d, \"%s\": %s\n", i, argv[i], problem.c_str());
+      return kUsage;
+    }
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

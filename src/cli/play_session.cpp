@@ -391,7 +391,7 @@ bool LoadProbabilities(Call& call) {
   PercentageDice& dice = call.game.percentage;
   if (call.words.size() == 2 && call.words[1] == "off") return ActivatePercentageDice(dice, false);
   const std::string path = Joined(call.words, 1, call.words.size());
-  if (!OpenProbabilityFile(dice, path, call.game.dataFolder, call.error)) return false;
+  if (!OpenProbabilityFile(dice, path, "", call.error)) return false;
   return ActivatePercentageDice(dice, true) || call.Bad(kNothingToRollText);
 }
 

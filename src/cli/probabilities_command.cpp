@@ -23,6 +23,7 @@ struct ProbabilityOptions {
   std::vector<Operation> operations;
   double rollsOutOf = 36;
   bool json = false;
+  bool force = false;
 };
 
 // What stands between the operations.
@@ -222,22 +223,35 @@ bool RunOperation(Workshop& work, const Operation& operation) {
   return false;
 }
 
+// A file with something else in it, which a wrong name would lose.
+bool IsOtherFile(const std::string& path) {
+  std::error_code fault;
+  if (!std::filesystem::is_regular_file(path, fault) || std::filesystem::file_size(path, fault) == 0)
+    return false;
+  PercentageDice present;
+  std::string error;
+  return !OpenProbabilityFile(present, path, "", error);
+}
+
 int Probabilities(const ProbabilityOptions& options) {
   Workshop work;
   work.json = options.json;
   work.dice.ProbRollsOutOf = options.rollsOutOf;
   const bool startsNew = !options.operations.empty() && options.operations.front().name == "--new";
   std::string error;
+  std::error_code fault;
+  if (!startsNew && !std::filesystem::exists(options.file, fault) && !fault)
+    return Fail(options.file + ": File not found (--new makes one)");
   if (!startsNew && !OpenProbabilityFile(work.dice, options.file, "", error))
-    return Fail(options.file + ": " +
-                (std::filesystem::exists(options.file) ? error : "File not found (--new makes one)"));
+    return Fail(options.file + ": " + error);
   for (const Operation& operation : options.operations)
     if (!RunOperation(work, operation)) return Fail(work.error);
-  if (options.operations.empty()) Show(work, {"--show", "percent"});
   const std::string target = options.out.empty() ? options.file : options.out;
-  if ((work.edited || !options.out.empty()) && !SaveProbabilityFile(work.dice, target, error))
-    return Fail(error);
-  return kDone;
+  const bool writes = work.edited || !options.out.empty();
+  if (writes && !options.force && IsOtherFile(target))
+    return Fail(target + ": is there and is no probability file; --force replaces it");
+  if (options.operations.empty()) Show(work, {"--show", "percent"});
+  return !writes || SaveProbabilityFile(work.dice, target, error) ? kDone : Fail(error);
 }
 
 }  // namespace
@@ -271,6 +285,7 @@ void AddProbabilitiesCommand(CLI::App& program, int& exitCode) {
   command->add_option("--out-of", options->rollsOutOf, "Rolls that --show rolls counts in (default 36)")
       ->check(CLI::Range(1.0, 1e9));
   command->add_option("--out", options->out, "Write to this file instead");
+  command->add_flag("--force", options->force, "Replace a file that is no probability file");
   command->add_flag("--json", options->json, "Show as JSON");
   command->footer(
       "Example:\n  tessaryn-cli probabilities loaded.prb --new --total 7=12000 --set 1.6=4% --show "

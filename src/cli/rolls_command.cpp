@@ -1,5 +1,9 @@
+#include <unistd.h>
+
+#include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <deque>
 #include <filesystem>
 #include <memory>
 
@@ -8,6 +12,8 @@
 #include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "dice/roll_file.h"
+#include "persist/folder_lock.h"
+#include "persist/record_file.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -26,9 +32,15 @@ struct RollsOptions {
   std::vector<Operation> operations;
 };
 
+// Operations change a work file, and copies wait beside their targets: when all has gone well they are put in
+// place one after the other, and when one has failed nothing has changed.
 struct Workbench {
   RollFile file;
+  std::string path;  // of the file that was asked for
+  FolderLock lock;
   std::string folder;  // of the work files
+  std::deque<FileReplacement> copies;
+  std::string selection;  // what is exported; empty: all
   bool renumber = false;
   std::string error;
 
@@ -90,22 +102,55 @@ bool Paste(Workbench& bench, const Operation& operation) {
   if (problem.empty()) problem = PasteCopiedRolls(bench.file, bench.folder);
   return bench.Done(operation, problem);
 }
-bool Export(Workbench& bench, const Operation& operation) {
-  if (!IsRollFormatUsable(bench.file.RollFileOutputFormat)) return bench.Done(operation, kNoDiceInFormatText);
+// The file may not be there yet, so that only its name can tell.
+bool IsSamePlace(const std::string& path, const std::string& other) {
+  namespace fs = std::filesystem;
+  std::error_code fault;
+  const fs::path first = fs::weakly_canonical(fs::absolute(path, fault), fault);
+  if (fault) return false;
+  return IsSameFile(path, other) || first == fs::weakly_canonical(fs::absolute(other, fault), fault);
+}
+
+bool SelectPart(Workbench& bench, const Operation& operation) {
+  bench.selection = operation.value;
+  return bench.Done(operation, Select(bench.file, operation.value));
+}
+
+// What both exports begin with: the rolls to be written, and a place for them.
+std::string PrepareExport(Workbench& bench, const Operation& operation) {
+  if (IsSamePlace(operation.value, bench.path)) return CopyToOpenFileText(operation.name);
+  bench.copies.emplace_back();
+  if (!bench.selection.empty()) return Select(bench.file, bench.selection);
   SelectAllRolls(bench.file);
-  return bench.Done(operation, CopyRollsToTextFile(bench.file, operation.value, bench.renumber));
+  return "";
+}
+bool Export(Workbench& bench, const Operation& operation) {
+  std::string problem = PrepareExport(bench, operation);
+  if (problem.empty())
+    problem = DraftTextFile(bench.file, operation.value, bench.renumber, bench.copies.back());
+  return bench.Done(operation, problem);
 }
 bool ExportRolls(Workbench& bench, const Operation& operation) {
-  SelectAllRolls(bench.file);
-  return bench.Done(operation, CopyRollsToRollFile(bench.file, operation.value));
+  std::string problem = PrepareExport(bench, operation);
+  if (problem.empty()) problem = DraftRollFile(bench.file, operation.value, bench.copies.back());
+  return bench.Done(operation, problem);
+}
+
+// A file that was exported before is read as it is going to be.
+std::string ImportPath(const Workbench& bench, const std::string& path) {
+  for (auto copy = bench.copies.rbegin(); copy != bench.copies.rend(); ++copy)
+    if (copy->Path == path && !copy->Temporary.empty()) return copy->Temporary;
+  return path;
 }
 bool ImportText(Workbench& bench, const Operation& operation) {
   SetRollFileCursor(bench.file, RollFileLength(bench.file) + std::int64_t{1});
-  return bench.Done(operation, PasteFromTextFile(bench.file, operation.value, bench.folder));
+  const std::string path = ImportPath(bench, operation.value);
+  return bench.Done(operation, PasteFromTextFile(bench.file, path, bench.folder));
 }
 bool ImportRolls(Workbench& bench, const Operation& operation) {
+  if (IsSamePlace(operation.value, bench.path)) return bench.Done(operation, CopyToOpenFileText("--import"));
   SetRollFileCursor(bench.file, RollFileLength(bench.file) + std::int64_t{1});
-  return bench.Done(operation, PasteFromRollFile(bench.file, operation.value));
+  return bench.Done(operation, PasteFromRollFile(bench.file, ImportPath(bench, operation.value)));
 }
 
 // Whether a text is D1.D2,D1.D2 ...; the problem is a text.
@@ -137,19 +182,26 @@ bool Insert(Workbench& bench, const Operation& operation) {
 struct OperationKind {
   const char* name;
   const char* help;
+  bool changes;  // the file; the others leave it as it is
   bool (*run)(Workbench&, const Operation&);
 };
 constexpr OperationKind kKinds[] = {
-    {"--cut", "Cut rolls A-B for --paste", Cut},
-    {"--copy", "Copy rolls A-B for --paste", Copy},
-    {"--delete", "Delete rolls A-B", Delete},
-    {"--paste", "Paste what was cut or copied at roll AT", Paste},
-    {"--insert", "Insert rolls, AT=DIE1.DIE2,DIE1.DIE2", Insert},
-    {"--import-text", "Append the dice of a text file", ImportText},
-    {"--import", "Append another roll file", ImportRolls},
-    {"--export", "Write all rolls to a text file by --format", Export},
-    {"--export-rolls", "Write all rolls to another roll file", ExportRolls},
+    {"--cut", "Cut rolls A-B for --paste", true, Cut},
+    {"--copy", "Copy rolls A-B for --paste", false, Copy},
+    {"--delete", "Delete rolls A-B", true, Delete},
+    {"--paste", "Paste what was cut or copied at roll AT", true, Paste},
+    {"--insert", "Insert rolls, AT=DIE1.DIE2,DIE1.DIE2", true, Insert},
+    {"--import-text", "Append the dice of a text file", true, ImportText},
+    {"--import", "Append another roll file", true, ImportRolls},
+    {"--select", "Rolls A-B are what is exported", false, SelectPart},
+    {"--export", "Write the rolls to a text file by --format", false, Export},
+    {"--export-rolls", "Write the rolls to another roll file", false, ExportRolls},
 };
+
+const OperationKind& KindOf(const Operation& operation) {
+  return *std::find_if(std::begin(kKinds), std::end(kKinds),
+                       [&](const OperationKind& kind) { return operation.name == kind.name; });
+}
 
 struct Distribution {
   std::int64_t rolls = 0;
@@ -205,30 +257,58 @@ void Print(const Distribution& counts, bool json) {
 std::string Work(Workbench& bench, const RollsOptions& options, Distribution& counts) {
   bench.file.RollFileOutputFormat = options.format;
   for (const Operation& operation : options.operations)
-    for (const OperationKind& kind : kKinds)
-      if (operation.name == kind.name && !kind.run(bench, operation)) return bench.error;
-  if (const std::string error = Count(bench.file, counts); !error.empty()) return error;
-  return CloseRollFile(bench.file);
+    if (!KindOf(operation).run(bench, operation)) return bench.error;
+  return Count(bench.file, counts);
+}
+
+// Work on a copy, which takes the place of the file at the end. original is open when there is a file.
+std::string Change(Workbench& bench, const RollsOptions& options, RollFile& original, Distribution& counts) {
+  const std::string copy = bench.folder + kRollWorkFile;
+  unlink(copy.c_str());
+  bench.file.Durable = false;
+  std::string error;
+  if (IsRollFileOpen(original)) {
+    // Nobody else is to change it meanwhile.
+    error = SetRecorderState(original, kRecorderRecord);
+    SelectAllRolls(original);
+    if (error.empty()) error = CopyRollsToRollFile(original, copy);
+  }
+  if (error.empty()) error = OpenRollFile(bench.file, copy);
+  if (error.empty()) error = Work(bench, options, counts);
+  if (!error.empty()) return error;
+  if (IsRollFileOpen(original)) return ReplaceRolls(original, copy);
+  SelectAllRolls(bench.file);
+  return CopyRollsToRollFile(bench.file, options.file);
+}
+
+std::string WorkAndPutInPlace(Workbench& bench, const RollsOptions& options, Distribution& counts) {
+  const bool changes = std::any_of(options.operations.begin(), options.operations.end(),
+                                   [](const Operation& operation) { return KindOf(operation).changes; });
+  std::error_code fault;
+  const bool isThere = std::filesystem::exists(options.file, fault);
+  if (!isThere && !fault && !changes) return options.file + ": File not found";
+  const auto original = std::make_unique<RollFile>();
+  RollFile& opened = changes ? *original : bench.file;
+  std::string error = isThere || fault ? OpenRollFile(opened, options.file) : "";
+  if (error.empty()) error = changes ? Change(bench, options, opened, counts) : Work(bench, options, counts);
+  for (FileReplacement& copy : bench.copies)
+    if (error.empty()) error = CommitReplacement(copy);
+  return error;
 }
 
 int Rolls(const RollsOptions& options) {
   Workbench bench;
+  bench.path = options.file;
   bench.folder = options.dataFolder;
   bench.renumber = options.renumber;
   std::string error;
   if (!PrepareDataFolder(bench.folder, error)) return Fail(error);
-  const bool isNew = !std::filesystem::exists(options.file);
-  if (isNew && options.operations.empty()) return Fail(options.file + ": File not found");
-  error = OpenRollFile(bench.file, options.file);
-  if (!error.empty()) return Fail(AsLines(error));
+  // Nothing stays there, so that nobody needs to be told of the place.
+  ClaimDataFolder(bench.lock, bench.folder, "tessaryn-cli rolls");
   Distribution counts;
-  error = Work(bench, options, counts);
-  if (!error.empty()) {
-    // A file that was made for operations that failed is not left behind.
-    std::error_code ignored;
-    if (isNew) std::filesystem::remove(options.file, ignored);
-    return Fail(AsLines(error));
-  }
+  error = WorkAndPutInPlace(bench, options, counts);
+  for (const char* name : {kRollCopyFile, kRollWorkFile}) unlink((bench.folder + name).c_str());
+  if (!error.empty()) return Fail(AsLines(error));
   Print(counts, options.json);
   if (counts.bad == 0) return kDone;
   return Fail(options.file + ": " + std::to_string(counts.bad) +
@@ -258,6 +338,8 @@ void AddRollsCommand(CLI::App& program, int& exitCode) {
   command->add_option("--data-folder", options->dataFolder, "Folder of the work files");
   command->add_flag("--json", options->json, "Print one JSON object");
   command->footer(
+      "The operations are done together or, when one can't be, not at all. A new file is made for what it\n"
+      "is to hold.\n\n"
       "Example:\n  tessaryn-cli rolls game.rol --delete 1-10 --export game.txt --format \"Die1 Die2\"");
   command->callback([options, &exitCode] { exitCode = Rolls(*options); });
 }

@@ -108,7 +108,7 @@ int Run(const RunOptions& options) {
   figures.stopReason = game->table.StopReason;
   const Json run = RunJson(*game, figures);
   if (options.json)
-    std::printf("%s\n", run.dump().c_str());
+    std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
   return kDone;

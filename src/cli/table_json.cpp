@@ -103,6 +103,12 @@ Json StateJson(const Game& game) {
              {"handSeat", table.HandSeat},
              {"selected", table.SelectedSeat},
              {"stopReason", table.StopReason}};
+  constexpr const char* kRecorderStates[] = {"off", "record", "playback"};
+  const RollFile& file = game.rollFile;
+  state["recorder"] = {{"state", kRecorderStates[file.RecorderState]},
+                       {"file", file.RollFileName},
+                       {"next", file.RollFileCursor},
+                       {"rolls", RollFileLength(file)}};
   Json seats = Json::array();
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat)) seats.push_back(SeatJson(game, seat));

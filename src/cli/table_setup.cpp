@@ -3,9 +3,11 @@
 #include <unistd.h>
 
 #include <charconv>
+#include <cstdio>
 
 #include "cli/commands.h"
 #include "cli/script_commands.h"
+#include "config/payoffs.h"
 #include "config/setting_table.h"
 #include "config/settings_file.h"
 #include "dice/seed_rng.h"
@@ -14,11 +16,15 @@
 namespace tessaryn::cli {
 
 void AddTableOptions(CLI::App& command, TableOptions& options) {
+  options.writes = true;
   command.add_option("--data-folder", options.dataFolder, "Folder of everything that is written");
   command.add_option("--player", options.players, "A player, NAME=BANKROLL; the k-th takes seat k")
       ->take_all()
       ->allow_extra_args(false);
-  command.add_option("--set", options.settings, "A setting, NAME=VALUE; NAME@SEAT=VALUE for one seat")
+  command
+      .add_option(
+          "--set", options.settings,
+          "A setting, NAME=VALUE; NAME@SEAT=VALUE for one seat. FieldPreset is one of " + FieldPresetNames())
       ->take_all()
       ->allow_extra_args(false);
   AddSettingsFileOptions(command, options);
@@ -32,7 +38,7 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
       ->allow_extra_args(false);
   command
       .add_option("--allow-output", options.outputFolders,
-                  "A folder that scripts may write to, besides the data folder")
+                  "A folder that scripts may write to, besides output in the data folder")
       ->take_all()
       ->allow_extra_args(false);
   command.add_option("--events-log", options.eventsLog, "Write the Events Log to this file");
@@ -175,6 +181,10 @@ std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
     return nullptr;
   }
   std::unique_ptr<Game> game = StartGame(host, ApplicationFolder(), folder);
+  if (options.writes) {
+    const std::string told = ClaimDataFolder(game->folderLock, game->ownFolder, "tessaryn-cli");
+    if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());
+  }
   if (!options.eventsLog.empty()) {
     game->events.Path = options.eventsLog;
     game->events.RecordEventsActive = true;

@@ -14,6 +14,7 @@ namespace tessaryn::cli {
 
 struct TableOptions {
   std::string dataFolder;
+  bool writes = false;                // the table is played: it needs a folder that no other program has
   std::vector<std::string> players;   // NAME=BANKROLL
   std::vector<std::string> settings;  // NAME=VALUE, NAME@SEAT=VALUE
   std::string settingsFile;           // a house's rules, read before the settings
@@ -24,7 +25,7 @@ struct TableOptions {
   std::string eventsLog;
   std::vector<std::string> scripts;        // the k-th for the k-th player
   std::vector<std::string> outputFolders;  // where scripts may write, besides the data folder
-  int rng = 0;                        // 1 to 8; 0 the start-up generator
+  int rng = 0;                             // 1 to 8; 0 the start-up generator
   std::string seed;
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <cstring>
 #include <iterator>
 #include <numeric>
 
@@ -134,6 +135,7 @@ constexpr FieldPreset kPresets[kFieldPresets] = {
     {"mnuSFMidway", "&Midway"},
 };
 constexpr int kDontPassPreset = 2;
+constexpr const char* kPresetPrefix = "mnuSF";
 
 constexpr const char* kFieldCaptions[kFieldRows + 1] = {"",
                                                         "2     (1.1)",
@@ -280,10 +282,17 @@ int FieldPresetByName(std::string_view name) {
   };
   for (int id = 0; id < kFieldPresets; ++id) {
     const std::string_view control = kPresets[id].control;
-    for (const std::string_view form : {control, control.substr(5)})
+    for (const std::string_view form : {control, control.substr(std::strlen(kPresetPrefix))})
       if (std::equal(form.begin(), form.end(), name.begin(), name.end(), same)) return id;
   }
   return -1;
+}
+
+std::string FieldPresetNames() {
+  std::string names;
+  for (const FieldPreset& preset : kPresets)
+    names.append(names.empty() ? "" : ", ").append(preset.control + std::strlen(kPresetPrefix));
+  return names;
 }
 
 const char* FieldRowCaption(int row) { return kFieldCaptions[row]; }

@@ -66,6 +66,8 @@ const FieldPreset& FieldPresetFacts(int id);
 void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit);
 // By its control's name, case ignored; -1 for none.
 int FieldPresetByName(std::string_view name);
+// All names without what they begin with alike: "Field, Pass, ...".
+std::string FieldPresetNames();
 // The caption of Field row 1 to 21: "2     (1.1)" ...
 const char* FieldRowCaption(int row);
 // The Field row of two dice.

@@ -170,6 +170,11 @@ constexpr Entry kEntries[] = {
     {"RngLastSeed", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.generators.RngLastSeed), "",
      Access::kState},
     {"StopReason", Kind::kText, false, 0, 0, TESSARYN_CELL(game.table.StopReason), "", Access::kState},
+    {"RecorderState", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.rollFile.RecorderState), "",
+     Access::kState},
+    {"RollFileName", Kind::kText, false, 0, 0, TESSARYN_CELL(game.rollFile.RollFileName), "", Access::kState},
+    {"RollFileCursor", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.rollFile.RollFileCursor), "",
+     Access::kState},
     {"SeatName", Kind::kText, true, 0, 0, TESSARYN_CELL(game.table.SeatName[seat]), "", Access::kState},
     {"BankrollCurrent", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.BankrollCurrent[seat]), "",
      Access::kState},
@@ -660,7 +665,8 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   }
   if (SameWord(name, "FieldPreset")) {
     const int preset = FieldPresetByName(text);
-    if (preset < 0) error = "FieldPreset: there is no preset \"" + text + "\".";
+    if (preset < 0)
+      error = "FieldPreset: there is no preset \"" + text + "\"; there are " + FieldPresetNames() + ".";
     if (preset >= 0) SetFieldPreset(game.payoffs, preset, game.settings.Unit());
     return preset >= 0;
   }

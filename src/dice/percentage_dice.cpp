@@ -363,6 +363,7 @@ constexpr float kFairPercent[37] = {
 
 // ---- The file ----------------------------------------------------------------------------------------
 
+constexpr std::size_t kProbabilityFileRecords = 5;
 constexpr std::size_t kMagicBytes = 42;
 constexpr std::size_t kMagicField = 200;
 static_assert(std::string_view(kProbabilityMagic).size() == kMagicBytes);
@@ -392,7 +393,7 @@ bool HasSomethingToRoll(const ProbabilityCells& cells) {
 }
 
 bool ReadCells(const RecordFile& file, ProbabilityCells& cells) {
-  if (file.Records.size() != 5) return false;
+  if (file.Records.size() != kProbabilityFileRecords) return false;
   const auto* text = reinterpret_cast<const char*>(file.Records[0].data());
   if (std::string_view(text, kMagicBytes) != kProbabilityMagic) return false;
   RecordUnpacker<std::int32_t> values(file, 1);
@@ -587,7 +588,9 @@ bool OpenProbabilityFile(PercentageDice& dice, const std::string& path, const st
                          std::string& error) {
   const std::string fullPath = ResolvePath(path, folder);
   std::string content;
-  error = ReadWholeFile(fullPath, content);
+  bool tooLong = false;
+  error = ReadWholeFile(fullPath, content, kProbabilityFileRecords * kRecordBytes, &tooLong);
+  if (tooLong) error = kNotAProbabilityFileText;
   if (!error.empty()) return false;
   RecordFile file;
   ProbabilityCells cells{};

@@ -1,6 +1,7 @@
 #include "dice/roll_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -43,44 +44,8 @@ std::size_t WriteAt(int descriptor, std::int64_t offset, const unsigned char* by
   return done;
 }
 
-bool CopyBlock(int descriptor, std::int64_t from, std::int64_t to, std::size_t count) {
-  Block block;
-  const std::int64_t got = ReadAt(descriptor, from, block.data(), count);
-  if (got >= 0 && static_cast<std::size_t>(got) < count) errno = EIO;
-  return got == static_cast<std::int64_t>(count) && WriteAt(descriptor, to, block.data(), count) == count;
-}
-
 std::size_t BlockSize(std::int64_t left) {
   return static_cast<std::size_t>(std::min<std::int64_t>(left, kRollBlockBytes));
-}
-
-// From the end, so that no byte is written over before it has been moved.
-bool MoveUp(int descriptor, std::int64_t from, std::int64_t count, std::int64_t by) {
-  while (count > 0) {
-    const std::size_t size = BlockSize(count);
-    count -= static_cast<std::int64_t>(size);
-    if (!CopyBlock(descriptor, from + count, from + count + by, size)) return false;
-  }
-  return true;
-}
-
-bool MoveDown(int descriptor, std::int64_t from, std::int64_t count, std::int64_t by) {
-  while (count > 0) {
-    const std::size_t size = BlockSize(count);
-    if (!CopyBlock(descriptor, from, from - by, size)) return false;
-    from += static_cast<std::int64_t>(size);
-    count -= static_cast<std::int64_t>(size);
-  }
-  return true;
-}
-
-// Makes room behind the file before anything in it moves, so that a full disk is found out in time.
-bool Extend(int descriptor, std::int64_t length, std::int64_t by) {
-  const int number = posix_fallocate(descriptor, length, by);
-  if (number == 0) return true;
-  if (ftruncate(descriptor, length) != 0) return false;
-  errno = number;
-  return false;
 }
 
 // ---- Files -------------------------------------------------------------------------------------------
@@ -135,8 +100,52 @@ std::string Prepare(RollFile& file) {
   return FlushRollFile(file) ? std::string() : file.LastErrorText;
 }
 
+// A file that is readable at least; ReadOnly in the channel when it can't be written.
+int OpenForUse(const std::string& path, bool exists, bool& readOnly) {
+  readOnly = false;
+  const int descriptor = open(path.c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC | (exists ? 0 : O_CREAT), 0666);
+  if (descriptor >= 0 || !exists || (errno != EACCES && errno != EROFS && errno != EPERM)) return descriptor;
+  readOnly = true;
+  return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+}
+
+std::string CheckBeforeOpening(const std::string& path, bool& exists);
+
+// The file that has the name by now: another program's edit puts a new one in the place of the old.
+std::string OpenAgain(RollFile& file) {
+  RollFileChannel& channel = file.Channel;
+  bool exists = false;
+  std::string error = CheckBeforeOpening(file.RollFileName, exists);
+  if (error.empty() && !exists) error = FileErrorText("open", file.RollFileName, ENOENT);
+  if (!error.empty()) return error;
+  const int descriptor = OpenForUse(file.RollFileName, true, channel.ReadOnly);
+  if (descriptor < 0) return FileError(file, "open");
+  close(channel.Descriptor);
+  channel.Descriptor = descriptor;
+  return Prepare(file);
+}
+
+// Only one program writes to a file at a time: while it records, or as long as an edit takes.
+std::string BecomeWriter(RollFile& file) {
+  RollFileChannel& channel = file.Channel;
+  while (!channel.IsWriter) {
+    if (flock(channel.Descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+      return "Unable to write " + file.RollFileName + ": another program is writing to it.";
+    channel.IsWriter = IsOpenFile(file, file.RollFileName);
+    if (channel.IsWriter) break;
+    if (std::string error = OpenAgain(file); !error.empty()) return error;
+  }
+  return {};
+}
+
+void BecomeReader(RollFile& file) {
+  if (file.Channel.IsWriter) flock(file.Channel.Descriptor, LOCK_UN);
+  file.Channel.IsWriter = false;
+}
+
 std::string PrepareToWrite(RollFile& file) {
   std::string error = Prepare(file);
+  if (error.empty()) error = BecomeWriter(file);
   if (error.empty() && file.Channel.ReadOnly) return FileErrorText("change", file.RollFileName, EACCES);
   return error;
 }
@@ -146,56 +155,99 @@ std::int64_t CursorOffset(const RollFile& file) {
   return std::clamp<std::int64_t>(file.RollFileCursor - std::int64_t{1}, 0, file.Channel.Length);
 }
 
-// Takes a gap out again. The end is only cut off when all behind the gap is in its place.
-std::string CloseGap(RollFile& file, std::int64_t offset, std::int64_t count) {
-  RollFileChannel& channel = file.Channel;
-  const std::int64_t tail = channel.Length - offset - count;
-  if (!MoveDown(channel.Descriptor, offset + count, tail, count)) return FileError(file, "change");
-  if (ftruncate(channel.Descriptor, channel.Length - count) != 0) return FileError(file, "change");
-  channel.Length -= static_cast<std::int32_t>(count);
-  return {};
-}
-
-std::string InsertSource(RollFile& file, Source& source, const std::string& path) {
-  if (source.Length == 0) return {};
-  if (source.Length > kRollFileMaximum) return TooLongText(file.RollFileName);
-  const std::int64_t offset = CursorOffset(file);
-  const auto count = static_cast<std::int32_t>(source.Length);
-  std::string error = InsertRollGap(file, count);
-  if (!error.empty()) return error;
-  error = PasteRolls(file, path, static_cast<std::int32_t>(offset + 1), count);
-  if (!error.empty()) {
-    CloseGap(file, offset, count);
-    return error;
-  }
-  SetCursor(file, offset + 1 + count);
-  return {};
-}
-
-// The selected rolls, block by block, through a function that turns them into the bytes of the copy.
-template <typename Convert>
-std::string CopyOut(RollFile& file, const std::string& path, bool durable, Convert convert) {
-  std::string error = Prepare(file);
-  if (!error.empty()) return error;
-  const RollSelection selection = SelectedRolls(file);
-  FileReplacement target;
-  target.Durable = durable;
-  error = BeginReplacement(target, path);
-  Block block;
-  std::int64_t offset = selection.First - 1;
-  for (std::int64_t left = selection.Count; error.empty() && left > 0;) {
-    const std::size_t size = BlockSize(left);
-    if (ReadAt(file.Channel.Descriptor, offset, block.data(), size) != static_cast<std::int64_t>(size))
-      return FileError(file, "read");
-    error = WriteReplacement(target, convert(block.data(), size));
-    offset += static_cast<std::int64_t>(size);
-    left -= static_cast<std::int64_t>(size);
-  }
-  return error.empty() ? CommitReplacement(target) : error;
-}
-
 std::string_view AsBytes(const unsigned char* bytes, std::size_t count) {
   return {reinterpret_cast<const char*>(bytes), count};
+}
+
+// Part of a file into the one being written, block by block, through a function that turns rolls into the
+// bytes of the copy.
+template <typename Convert>
+std::string CopyPart(FileReplacement& target, int from, const std::string& name, std::int64_t offset,
+                     std::int64_t count, Convert convert) {
+  Block block;
+  std::string error;
+  while (error.empty() && count > 0) {
+    const std::size_t size = BlockSize(count);
+    const std::int64_t got = ReadAt(from, offset, block.data(), size);
+    if (got >= 0 && static_cast<std::size_t>(got) < size) errno = EIO;
+    if (got != static_cast<std::int64_t>(size)) return FileErrorText("read", name, errno);
+    error = WriteReplacement(target, convert(block.data(), size));
+    offset += static_cast<std::int64_t>(size);
+    count -= static_cast<std::int64_t>(size);
+  }
+  return error;
+}
+
+// What goes into a file at one place: rolls of another one, or without one so many of a value.
+struct Insertion {
+  std::int64_t Count = 0;
+  unsigned char Roll = 0;
+  const Source* From = nullptr;
+  std::string Name{};  // of From
+};
+
+std::string WriteInsertion(FileReplacement& target, const Insertion& insertion) {
+  if (insertion.From != nullptr)
+    return CopyPart(target, insertion.From->Descriptor, insertion.Name, 0, insertion.Count, AsBytes);
+  Block block;
+  block.fill(insertion.Roll);
+  std::string error;
+  for (std::int64_t left = insertion.Count; error.empty() && left > 0; left -= kRollBlockBytes)
+    error = WriteReplacement(target, AsBytes(block.data(), BlockSize(left)));
+  return error;
+}
+
+// The one way in which rolls move: the file with some of them replaced is written beside it and takes its
+// place when it is whole. A program that is killed leaves the old file or the new one. Requires
+// PrepareToWrite.
+std::string Splice(RollFile& file, std::int64_t offset, std::int64_t removed, const Insertion& insertion) {
+  RollFileChannel& channel = file.Channel;
+  const std::int64_t behind = channel.Length - offset - removed;
+  if (offset + insertion.Count + behind > kRollFileMaximum) return TooLongText(file.RollFileName);
+  FileReplacement changed;
+  changed.Durable = file.Durable;
+  std::string error = BeginReplacement(changed, file.RollFileName);
+  if (error.empty()) error = CopyPart(changed, channel.Descriptor, file.RollFileName, 0, offset, AsBytes);
+  if (error.empty()) error = WriteInsertion(changed, insertion);
+  if (error.empty())
+    error = CopyPart(changed, channel.Descriptor, file.RollFileName, offset + removed, behind, AsBytes);
+  if (!error.empty()) return error;
+  // The new file comes with the lock that it was written under.
+  const int descriptor = fcntl(changed.Descriptor, F_DUPFD_CLOEXEC, 0);
+  if (descriptor < 0) return FileError(file, "change");
+  error = CommitReplacement(changed);
+  if (!error.empty()) {
+    close(descriptor);
+    return error;
+  }
+  close(channel.Descriptor);
+  channel.Descriptor = descriptor;
+  channel.Length = static_cast<std::int32_t>(offset + insertion.Count + behind);
+  return {};
+}
+
+std::string InsertSource(RollFile& file, const Source& source, const std::string& path) {
+  if (source.Length == 0) return {};
+  const std::int64_t offset = CursorOffset(file);
+  std::string error = Splice(file, offset, 0, {source.Length, 0, &source, path});
+  if (error.empty()) SetCursor(file, offset + 1 + source.Length);
+  return error;
+}
+
+// The selected rolls, converted, into a file that takes its place when the caller commits it.
+template <typename Convert>
+std::string DraftCopy(RollFile& file, const std::string& path, FileReplacement& target, Convert convert) {
+  std::string error = Prepare(file);
+  if (error.empty()) error = BeginReplacement(target, path);
+  if (!error.empty()) return error;
+  const RollSelection selection = SelectedRolls(file);
+  return CopyPart(target, file.Channel.Descriptor, file.RollFileName, selection.First - 1, selection.Count,
+                  convert);
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::size_t separator = path.rfind('/');
+  return separator == std::string::npos ? "." : path.substr(0, separator + 1);
 }
 
 std::string InFolder(const std::string& folder, const char* name) { return ResolvePath(name, folder); }
@@ -325,11 +377,7 @@ std::string OpenRollFile(RollFile& file, const std::string& path) {
   std::string error = CheckBeforeOpening(path, exists);
   if (!error.empty()) return error;
   bool readOnly = false;
-  int descriptor = open(path.c_str(), O_RDWR | O_CLOEXEC | (exists ? 0 : O_CREAT), 0666);
-  if (descriptor < 0 && exists && (errno == EACCES || errno == EROFS || errno == EPERM)) {
-    readOnly = true;
-    descriptor = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-  }
+  const int descriptor = OpenForUse(path, exists, readOnly);
   struct stat status {};
   if (descriptor < 0 || fstat(descriptor, &status) != 0) {
     error = FileErrorText("open", path, errno);
@@ -347,6 +395,7 @@ std::string OpenRollFile(RollFile& file, const std::string& path) {
   file.Channel.ReadOnly = readOnly;
   file.Channel.Length = static_cast<std::int32_t>(status.st_size);
   SetCursor(file, 1);
+  ClearLeftovers(FolderOf(path));
   return {};
 }
 
@@ -363,7 +412,7 @@ void DiscardRollFile(RollFile& file) {
   RollFileChannel& channel = file.Channel;
   if (channel.Descriptor >= 0) close(channel.Descriptor);
   channel.Descriptor = -1;
-  channel.ReadOnly = channel.Pending = false;
+  channel.ReadOnly = channel.Pending = channel.IsWriter = false;
   channel.Length = channel.WindowStart = channel.WindowUsed = 0;
   file.RollFileName.clear();
   file.RecorderState = kRecorderOff;
@@ -392,6 +441,7 @@ std::string CheckRollFile(const std::string& path, bool& valid) {
 bool FlushRollFile(RollFile& file) {
   RollFileChannel& channel = file.Channel;
   if (channel.Descriptor < 0) return true;
+  if (channel.IsWriter && !channel.Pending && file.RecorderState != kRecorderRecord) BecomeReader(file);
   struct stat status {};
   if (fstat(channel.Descriptor, &status) != 0) {
     file.LastErrorText = FileError(file, "read");
@@ -402,6 +452,11 @@ bool FlushRollFile(RollFile& file) {
     channel.WindowUsed = 0;
     channel.Length = static_cast<std::int32_t>(std::min<std::int64_t>(status.st_size, kRollFileMaximum));
     return true;
+  }
+  if (!IsOpenFile(file, file.RollFileName)) {
+    file.LastErrorText =
+        "Unable to write " + file.RollFileName + ": another program has removed or replaced it.";
+    return false;
   }
   // Rolls behind the end of a file that somebody shortened would stand behind a hole of no rolls.
   if (status.st_size < channel.WindowStart) {
@@ -428,8 +483,8 @@ bool FlushRollFile(RollFile& file) {
 
 std::string SetRecorderState(RollFile& file, int state) {
   if (state != kRecorderOff && !IsRollFileOpen(file)) return kNoRollFileOpen;
-  std::string error = state == kRecorderRecord ? PrepareToWrite(file) : std::string();
-  if (error.empty() && IsRollFileOpen(file)) error = Prepare(file);
+  std::string error;
+  if (IsRollFileOpen(file)) error = state == kRecorderRecord ? PrepareToWrite(file) : Prepare(file);
   if (error.empty()) file.RecorderState = state;
   return error;
 }
@@ -518,15 +573,12 @@ std::string EnterRoll(RollFile& file, int die1, int die2) {
   if (!error.empty()) return error;
   const std::int64_t offset = CursorOffset(file);
   if (offset >= kRollFileMaximum) return TooLongText(file.RollFileName);
-  const bool insert = file.RollFileInsertMode && offset < file.Channel.Length;
-  if (insert) error = InsertRollGap(file, 1);
-  if (!error.empty()) return error;
   const unsigned char roll = RollByte(die1, die2);
-  if (WriteAt(file.Channel.Descriptor, offset, &roll, 1) != 1) {
+  if (file.RollFileInsertMode && offset < file.Channel.Length)
+    error = Splice(file, offset, 0, {1, roll});
+  else if (WriteAt(file.Channel.Descriptor, offset, &roll, 1) != 1)
     error = FileError(file, "write");
-    if (insert) CloseGap(file, offset, 1);
-    return error;
-  }
+  if (!error.empty()) return error;
   file.Channel.Length = std::max(file.Channel.Length, static_cast<std::int32_t>(offset + 1));
   SetCursor(file, offset + 2);
   return {};
@@ -543,13 +595,7 @@ std::string EnterRandomRoll(RollFile& file, Generators& generators, std::uint32_
 std::string InsertRollGap(RollFile& file, std::int32_t count) {
   std::string error = PrepareToWrite(file);
   if (!error.empty() || count <= 0) return error;
-  RollFileChannel& channel = file.Channel;
-  if (count > kRollFileMaximum - channel.Length) return TooLongText(file.RollFileName);
-  const std::int64_t offset = CursorOffset(file);
-  if (!Extend(channel.Descriptor, channel.Length, count)) return FileError(file, "write");
-  if (!MoveUp(channel.Descriptor, offset, channel.Length - offset, count)) return FileError(file, "change");
-  channel.Length += count;
-  return {};
+  return Splice(file, CursorOffset(file), 0, {count});
 }
 
 std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32_t position,
@@ -564,33 +610,33 @@ std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32
   if (offset < 0 || offset > channel.Length || count < 0 || end > kRollFileMaximum || count > source.Length)
     return "Unable to paste " + std::to_string(count) + " rolls from " + sourcePath + " at roll " +
            std::to_string(position) + " of " + file.RollFileName + ".";
-  if (end > channel.Length && !Extend(channel.Descriptor, channel.Length, end - channel.Length))
-    return FileError(file, "write");
-  channel.Length = std::max(channel.Length, static_cast<std::int32_t>(end));
-  Block block;
-  for (std::int64_t done = 0; done < count;) {
-    const std::size_t size = BlockSize(count - done);
-    const std::int64_t got = ReadAt(source.Descriptor, done, block.data(), size);
-    if (got >= 0 && static_cast<std::size_t>(got) < size) errno = EIO;
-    if (got != static_cast<std::int64_t>(size)) return FileErrorText("read", sourcePath, errno);
-    if (WriteAt(channel.Descriptor, offset + done, block.data(), size) != size)
-      return FileError(file, "write");
-    done += static_cast<std::int64_t>(size);
-  }
-  return {};
+  return Splice(file, offset, std::min(end, std::int64_t{channel.Length}) - offset,
+                {count, 0, &source, sourcePath});
+}
+
+std::string ReplaceRolls(RollFile& file, const std::string& sourcePath) {
+  std::string error = PrepareToWrite(file);
+  Source source;
+  if (error.empty()) error = OpenSource(source, sourcePath);
+  if (error.empty()) error = Splice(file, 0, file.Channel.Length, {source.Length, 0, &source, sourcePath});
+  if (error.empty()) SetCursor(file, 1);
+  return error;
 }
 
 std::string DeleteRolls(RollFile& file) {
   std::string error = PrepareToWrite(file);
   if (!error.empty()) return error;
   const RollSelection selection = SelectedRolls(file);
-  if (selection.Count > 0) error = CloseGap(file, selection.First - 1, selection.Count);
+  if (selection.Count > 0) error = Splice(file, selection.First - 1, selection.Count, {});
   if (error.empty()) SetCursor(file, selection.First);
   return error;
 }
 
 std::string CopyRolls(RollFile& file, const std::string& workFolder) {
-  return CopyOut(file, InFolder(workFolder, kRollCopyFile), false, AsBytes);
+  FileReplacement target;
+  target.Durable = false;
+  std::string error = DraftCopy(file, InFolder(workFolder, kRollCopyFile), target, AsBytes);
+  return error.empty() ? CommitReplacement(target) : error;
 }
 
 std::string CutRolls(RollFile& file, const std::string& workFolder) {
@@ -602,6 +648,7 @@ std::string CutRolls(RollFile& file, const std::string& workFolder) {
 std::string PasteCopiedRolls(RollFile& file, const std::string& workFolder) {
   std::string error = PrepareToWrite(file);
   const std::string path = InFolder(workFolder, kRollCopyFile);
+  if (error.empty() && access(path.c_str(), F_OK) != 0) return kNothingCopied;
   Source source;
   if (error.empty()) error = OpenSource(source, path);
   return error.empty() ? InsertSource(file, source, path) : error;
@@ -611,11 +658,12 @@ std::string PasteFromRollFile(RollFile& file, const std::string& path) {
   std::string error = PrepareToWrite(file);
   if (!error.empty()) return error;
   if (IsOpenFile(file, path)) return CopyToOpenFileText("Paste From Dice Roll File");
-  bool valid = false;
-  error = CheckRollFile(path, valid);
-  if (error.empty() && !valid) return NotARollFileText(path);
   Source source;
-  if (error.empty()) error = OpenSource(source, path);
+  error = OpenSource(source, path);
+  if (error.empty() && source.Length > kRollFileMaximum) error = TooLongText(path);
+  bool valid = false;
+  if (error.empty()) error = CheckRollFile(path, valid);
+  if (error.empty() && !valid) return NotARollFileText(path);
   return error.empty() ? InsertSource(file, source, path) : error;
 }
 
@@ -623,6 +671,9 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
   std::string error = PrepareToWrite(file);
   Source text;
   if (error.empty()) error = OpenSource(text, path);
+  if (error.empty() && text.Length > kRollFileMaximum)
+    error = "Unable to read " + path + ": it is too long. At most " + std::to_string(kRollFileMaximum) +
+            " bytes are read.";
   if (!error.empty()) return error;
   const std::string workPath = InFolder(workFolder, kRollConvertFile);
   error = ConvertText(text, path, workPath);
@@ -635,9 +686,16 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
 
 // ---- Copying out -------------------------------------------------------------------------------------
 
-std::string CopyRollsToRollFile(RollFile& file, const std::string& path, std::string_view command) {
+std::string DraftRollFile(RollFile& file, const std::string& path, FileReplacement& target,
+                          std::string_view command) {
   if (IsOpenFile(file, path)) return CopyToOpenFileText(command);
-  return CopyOut(file, path, true, AsBytes);
+  return DraftCopy(file, path, target, AsBytes);
+}
+
+std::string CopyRollsToRollFile(RollFile& file, const std::string& path, std::string_view command) {
+  FileReplacement target;
+  std::string error = DraftRollFile(file, path, target, command);
+  return error.empty() ? CommitReplacement(target) : error;
 }
 
 bool IsRollFormatUsable(std::string_view format) {
@@ -660,20 +718,27 @@ std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned 
   return text;
 }
 
-std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber) {
+std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target) {
   if (IsOpenFile(file, path)) return CopyToOpenFileText(kCopyToTextTitle);
   if (!IsRollFormatUsable(file.RollFileOutputFormat)) return kNoDiceInFormatText;
   const auto pieces = ParseFormat(file.RollFileOutputFormat);
   std::int64_t number = renumber ? 1 : SelectedRolls(file).First;
   std::string text;
-  return CopyOut(file, path, true, [&](const unsigned char* rolls, std::size_t count) -> std::string_view {
-    text.clear();
-    for (std::size_t i = 0; i < count; ++i) {
-      AppendRollText(text, pieces, number++, rolls[i]);
-      text += '\n';
-    }
-    return text;
-  });
+  return DraftCopy(file, path, target,
+                   [&](const unsigned char* rolls, std::size_t count) -> std::string_view {
+                     text.clear();
+                     for (std::size_t i = 0; i < count; ++i) {
+                       AppendRollText(text, pieces, number++, rolls[i]);
+                       text += '\n';
+                     }
+                     return text;
+                   });
+}
+
+std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber) {
+  FileReplacement target;
+  std::string error = DraftTextFile(file, path, renumber, target);
+  return error.empty() ? CommitReplacement(target) : error;
 }
 
 // ---- Texts -------------------------------------------------------------------------------------------

@@ -15,6 +15,8 @@
 
 namespace tessaryn {
 
+struct FileReplacement;
+
 enum RecorderMode : int { kRecorderOff = 0, kRecorderRecord = 1, kRecorderPlayback = 2 };
 
 // Positions are 32-bit in every file that keeps them.
@@ -25,12 +27,14 @@ inline constexpr std::size_t kRollWindowBytes = 65'536;
 
 inline constexpr const char* kRollCopyFile = "rollcopyfile.rll";
 inline constexpr const char* kRollConvertFile = "cnvrtasc.xx~";
+inline constexpr const char* kRollWorkFile = "rollworkfile.rll";  // a copy that several edits work on
 inline constexpr const char* kDefaultRollFormat = "Roll# (Die1.Die2) Total";
 
 // The open file and the part of it that is in memory: rolls read ahead, or rolls recorded but not written.
 struct RollFileChannel {
   int Descriptor = -1;
   bool ReadOnly = false;
+  bool IsWriter = false;         // no other program may write to the file now
   bool Pending = false;          // the window is recorded rolls; else it is rolls read ahead
   std::int32_t Length = 0;       // rolls in the file, those in the window included
   std::int32_t WindowStart = 0;  // offset in the file of the window
@@ -45,6 +49,7 @@ struct RollFile {
   std::int32_t RollFileSelectEnd = 1;         // the other end of the selection
   std::string RollFileOutputFormat = kDefaultRollFormat;
   bool RollFileInsertMode = false;  // typed rolls are inserted, not typed over
+  bool Durable = true;              // false for a work file, whose edits need not reach the disk
   std::string LastErrorText;        // of PlayRoll, RecordRoll and FlushRollFile
   RollFileChannel Channel;          // nobody else's business
 
@@ -138,7 +143,8 @@ inline bool RecordRoll(RollFile& file, int die1, int die2) {
 
 // ---- Editing -----------------------------------------------------------------------------------------
 // All need an open file that can be written; without one the error is kNoRollFileOpen or says so. On a full
-// disk the file is as before.
+// disk, or when another program is writing to it, the file is as before. An edit that moves rolls writes the
+// new file beside the old one, so that a program killed in the middle of it leaves one of the two, whole.
 
 struct RollSelection {
   std::int32_t First = 1;
@@ -159,11 +165,13 @@ std::string EnterRoll(RollFile& file, int die1, int die2);
 // As EnterRoll, with dice from the runtime generator, seeded anew from the millisecond clock.
 std::string EnterRandomRoll(RollFile& file, Generators& generators, std::uint32_t tick);
 
-// Moves all from the cursor on up by count rolls. What stands in the gap is for the caller to write.
+// Moves all from the cursor on up by count rolls. The gap holds zeros, which are no rolls.
 std::string InsertRollGap(RollFile& file, std::int32_t count);
 // Writes the first count rolls of another file over what stands at a position.
 std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32_t position,
                        std::int32_t count);
+// The rolls of another file in place of all that are there.
+std::string ReplaceRolls(RollFile& file, const std::string& sourcePath);
 // Takes the selected rolls out; cursor and selection go to the first of them.
 std::string DeleteRolls(RollFile& file);
 // Through the work file in a folder. The cursor goes behind what is pasted.
@@ -172,7 +180,8 @@ std::string CutRolls(RollFile& file, const std::string& workFolder);
 std::string PasteCopiedRolls(RollFile& file, const std::string& workFolder);
 // Inserts a whole roll file at the cursor. It must pass CheckRollFile and must not be the open one.
 std::string PasteFromRollFile(RollFile& file, const std::string& path);
-// Inserts the dice that the digits 1 to 6 of any text make, two by two, at the cursor.
+// Inserts the dice that the digits 1 to 6 of any text make, two by two, at the cursor. A text of more than
+// kRollFileMaximum bytes is refused unread.
 std::string PasteFromTextFile(RollFile& file, const std::string& path, const std::string& workFolder);
 
 // ---- Copying out -------------------------------------------------------------------------------------
@@ -182,6 +191,10 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
 std::string CopyRollsToRollFile(RollFile& file, const std::string& path,
                                 std::string_view command = "Copy To Roll File");
 
+// The same up to its last step: the copy takes its place when the caller commits the target.
+std::string DraftRollFile(RollFile& file, const std::string& path, FileReplacement& target,
+                          std::string_view command = "Copy To Roll File");
+
 // A text for each roll: "roll#", "die1", "die2" and "total" in the format stand for the values, in capitals
 // or not. False: the format has neither die nor total, kNoDiceInFormatText.
 bool IsRollFormatUsable(std::string_view format);
@@ -190,6 +203,7 @@ bool IsRenumberQuestion(const RollFile& file);
 std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned char roll);
 // The selected rolls by RollFileOutputFormat, a line each. renumber: the first one counts as roll 1.
 std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber);
+std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target);
 
 // ---- Texts -------------------------------------------------------------------------------------------
 
@@ -198,6 +212,7 @@ inline constexpr const char* kUnableToOpenRollFileTitle = "Unable to Open Dice R
 // File name, line ends, and what is wrong with it.
 std::string NotARollFileText(const std::string& path);
 inline constexpr const char* kNoRollFileOpen = "Dice roll file not open.";
+inline constexpr const char* kNothingCopied = "No rolls have been cut or copied.";
 
 inline constexpr const char* kStoppedAtEndReason = "Stopped due to end of Dice Roll File reached.";
 inline constexpr const char* kStoppedOutOfLimitsReason = "Stopped due to Dice Roll File value out of limits.";

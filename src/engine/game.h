@@ -12,6 +12,7 @@
 #include "dice/roll_file.h"
 #include "engine/host.h"
 #include "engine/table_state.h"
+#include "persist/folder_lock.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
@@ -31,7 +32,10 @@ struct Game {
   EventsLog events;
   MessageBox box;                 // the box being asked
   std::string applicationFolder;  // the programs and support files; ends with a separator
-  std::string dataFolder;         // everything that is written; ends with a separator
+  std::string dataFolder;         // everything that is kept; ends with a separator
+  std::string ownFolder;          // logs, work files and what scripts write: the data folder, or one in it
+                                  // while another program has that; see ClaimDataFolder
+  FolderLock folderLock;          // on ownFolder, of programs
   Host* host = nullptr;           // not owned; outlives the game
 };
 

@@ -9,6 +9,7 @@
 #include "engine/bet_rules.h"
 #include "engine/consistency.h"
 #include "engine/game.h"
+#include "persist/record_file.h"
 
 namespace tessaryn {
 namespace {
@@ -138,6 +139,8 @@ void PassDice(Game& game, int reason) {
 }
 
 std::string NameProblem(const Game& game, const std::string& name, int ownSeat) {
+  if (const std::string problem = TextProblem(name); !problem.empty())
+    return "That can't be a player's name: " + problem + ".";
   for (int seat = 1; seat <= kSeats; ++seat)
     if (seat != ownSeat && Lower(game.table.SeatName[seat]) == Lower(name))
       return "There's already a player named " + name + ".";

@@ -21,7 +21,7 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   auto game = std::make_unique<Game>();
   game->host = &host;
   game->applicationFolder = WithSeparator(applicationFolder);
-  game->dataFolder = WithSeparator(dataFolder);
+  game->dataFolder = game->ownFolder = WithSeparator(dataFolder);
   TableState& table = game->table;
   table.SeatName[0] = "House";
   LoadSupportLibraries(game->generators, game->applicationFolder);

@@ -1,9 +1,14 @@
 #include "persist/program_folders.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <system_error>
+
+#include "persist/record_file.h"
 
 namespace tessaryn {
 
@@ -24,16 +29,29 @@ std::string DefaultDataFolder() {
   return std::string(home == nullptr ? "." : home) + "/.local/share/tessaryn/";
 }
 
+namespace {
+
+// Why a folder can't be worked in; empty when it can.
+std::string FolderProblem(const std::string& folder) {
+  if (std::string problem = TextProblem(folder); !problem.empty()) return problem;
+  std::error_code fault;
+  fs::create_directories(folder, fault);
+  std::error_code unseen;
+  if (!fs::is_directory(folder, unseen))
+    return fault ? fault.message() : unseen ? unseen.message() : "is no folder";
+  if (faccessat(AT_FDCWD, folder.c_str(), R_OK | X_OK, AT_EACCESS) != 0)
+    return std::system_category().message(errno);
+  return {};
+}
+
+}  // namespace
+
 bool PrepareDataFolder(std::string& folder, std::string& error) {
   if (folder.empty()) folder = DefaultDataFolder();
   if (folder.back() != '/') folder += '/';
-  std::error_code fault;
-  fs::create_directories(folder, fault);
-  if (!fs::is_directory(folder)) {
-    error = "data folder " + folder + ": " + (fault ? fault.message() : "is no folder");
-    return false;
-  }
-  return true;
+  const std::string problem = FolderProblem(folder);
+  if (!problem.empty()) error = "data folder " + folder + ": " + problem;
+  return problem.empty();
 }
 
 }  // namespace tessaryn

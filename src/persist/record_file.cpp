@@ -1,9 +1,12 @@
 #include "persist/record_file.h"
 
+#include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <bit>
 #include <cerrno>
 #include <cstdlib>
@@ -50,6 +53,31 @@ bool WriteAll(int descriptor, std::string_view content) {
     content.remove_prefix(static_cast<std::size_t>(written));
   }
   return true;
+}
+
+constexpr std::string_view kTemporaryStart = ".tessaryn-";
+constexpr std::string_view kTemporaryEnd = "~";
+
+// A name that no file of the user's has, whatever the target is called.
+std::string TemporaryBeside(const std::string& target) {
+  static std::atomic<unsigned> made{0};
+  std::string path(target, 0, target.rfind('/') + 1);
+  path.append(kTemporaryStart).append(std::to_string(getpid()));
+  return path.append("-").append(std::to_string(++made)).append(kTemporaryEnd);
+}
+
+// A new file that is locked as long as its writer lives: what nobody holds is a leftover. -1 with errno.
+int CreateTemporary(const std::string& path) {
+  for (;;) {
+    unlink(path.c_str());  // of a killed program that had the same number
+    const int descriptor = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (descriptor < 0) return -1;
+    flock(descriptor, LOCK_EX | LOCK_NB);
+    // Another program that clears leftovers may have come between the two.
+    struct stat made {};
+    if (fstat(descriptor, &made) == 0 && made.st_nlink > 0) return descriptor;
+    close(descriptor);
+  }
 }
 
 // The renaming is on the disk only when the folder is. A folder that can't be flushed is no reason to call
@@ -170,9 +198,8 @@ std::string BeginReplacement(FileReplacement& file, const std::string& path) {
     file.Descriptor = open(file.Target.c_str(), O_WRONLY | O_CLOEXEC);
     return file.Descriptor < 0 ? FileErrorText("write", path, errno) : std::string();
   }
-  const std::string temporary = file.Target + "." + std::to_string(getpid()) + ".new";
-  unlink(temporary.c_str());  // of a crashed run that had the same number
-  file.Descriptor = open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+  const std::string temporary = TemporaryBeside(file.Target);
+  file.Descriptor = CreateTemporary(temporary);
   if (file.Descriptor < 0) return FileErrorText("write", path, errno);
   file.Temporary = temporary;
   if (exists && fchmod(file.Descriptor, old.st_mode & 07777) != 0) return FailReplacement(file, "write");
@@ -186,7 +213,8 @@ std::string WriteReplacement(FileReplacement& file, std::string_view bytes) {
 
 std::string CommitReplacement(FileReplacement& file) {
   if (file.Descriptor < 0) return FileErrorText("write", file.Path, EBADF);
-  if (file.Durable && !file.Temporary.empty() && fsync(file.Descriptor) != 0) return FailReplacement(file, "write");
+  if (file.Durable && !file.Temporary.empty() && fsync(file.Descriptor) != 0)
+    return FailReplacement(file, "write");
   // A write that was put off can still fail here.
   const int closed = close(file.Descriptor);
   file.Descriptor = -1;
@@ -220,14 +248,37 @@ bool IsSameFile(const std::string& path, const std::string& other) {
          first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }
 
-std::string ReadWholeFile(const std::string& path, std::string& content, std::uint64_t maximumBytes) {
-  const Descriptor descriptor(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+void ClearLeftovers(const std::string& folder) {
+  DIR* entries = opendir(folder.c_str());
+  if (entries == nullptr) return;
+  while (const dirent* entry = readdir(entries)) {
+    const std::string_view name = entry->d_name;
+    if (!name.starts_with(kTemporaryStart) || !name.ends_with(kTemporaryEnd)) continue;
+    const Descriptor found(
+        openat(dirfd(entries), entry->d_name, O_RDONLY | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status {};
+    const bool left = found.Number >= 0 && fstat(found.Number, &status) == 0 && S_ISREG(status.st_mode) &&
+                      flock(found.Number, LOCK_EX | LOCK_NB) == 0;
+    if (left) unlinkat(dirfd(entries), entry->d_name, 0);
+  }
+  closedir(entries);
+}
+
+std::string ReadWholeFile(const std::string& path, std::string& content, std::uint64_t maximumBytes,
+                          bool* tooLong) {
+  if (tooLong != nullptr) *tooLong = false;
+  const Descriptor descriptor(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   if (descriptor.Number < 0) return FileErrorText("open", path, errno);
   struct stat status {};
   if (fstat(descriptor.Number, &status) != 0) return FileErrorText("read", path, errno);
   if (S_ISDIR(status.st_mode)) return FileErrorText("open", path, EISDIR);
-  const std::string tooLong = "Unable to read " + path + ": the file is too long.";
-  if (static_cast<std::uint64_t>(status.st_size) > maximumBytes) return tooLong;
+  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  const auto refuse = [&] {
+    if (tooLong != nullptr) *tooLong = true;
+    return "Unable to read " + path + ": it is too long. At most " + std::to_string(maximumBytes) +
+           " bytes are read.";
+  };
+  if (static_cast<std::uint64_t>(status.st_size) > maximumBytes) return refuse();
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(status.st_size));
   char block[65536];
@@ -237,9 +288,37 @@ std::string ReadWholeFile(const std::string& path, std::string& content, std::ui
     if (count < 0) return FileErrorText("read", path, errno);
     if (count == 0) break;
     bytes.append(block, static_cast<std::size_t>(count));
-    if (bytes.size() > maximumBytes) return tooLong;
+    if (bytes.size() > maximumBytes) return refuse();
   }
   content = std::move(bytes);
+  return {};
+}
+
+namespace {
+
+// The length of the UTF-8 character that a text begins with; 0 when it begins with none.
+std::size_t Utf8Length(std::string_view text) {
+  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
+  const unsigned char first = byte(0);
+  if (first < 0x80) return 1;
+  const std::size_t length = first >= 0xf0 ? 4 : first >= 0xe0 ? 3 : 2;
+  if (first < 0xc2 || first > 0xf4 || text.size() < length) return 0;
+  for (std::size_t at = 1; at < length; ++at)
+    if (!IsContinuation(text[at])) return 0;
+  // Too long a form, half of a pair, or beyond the last character.
+  const unsigned char second = byte(1);
+  const bool none = (first == 0xe0 && second < 0xa0) || (first == 0xed && second > 0x9f) ||
+                    (first == 0xf0 && second < 0x90) || (first == 0xf4 && second > 0x8f);
+  return none ? 0 : length;
+}
+
+}  // namespace
+
+std::string TextProblem(std::string_view name) {
+  if (name.find_first_of(std::string_view("\n\r\0", 3)) != std::string_view::npos)
+    return "a name can't hold a line end";
+  for (std::size_t length = 0; !name.empty(); name.remove_prefix(length))
+    if ((length = Utf8Length(name)) == 0) return "the name is not UTF-8";
   return {};
 }
 

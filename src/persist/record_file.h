@@ -116,7 +116,7 @@ Value RecordUnpacker<Value>::Get() {
 // A file being written beside the one it is to replace: on CommitReplacement it is flushed to the disk and
 // renamed over it, so that after a crash or on a full disk the old file is whole. Follows a symbolic link and
 // keeps the old file's permissions. A device or pipe is written straight through. Whatever fails, and a
-// replacement that ends uncommitted, leaves nothing behind.
+// replacement that ends uncommitted, leaves nothing behind; only a killed program does, for ClearLeftovers.
 struct FileReplacement {
   std::string Path;       // as the caller named it
   std::string Target;     // what it stands for
@@ -136,10 +136,19 @@ void AbandonReplacement(FileReplacement& file);
 
 // All three for content that is at hand.
 std::string ReplaceFile(const std::string& path, std::string_view content);
+// Removes from a folder what replacements of killed programs left there. What a program at work is writing
+// stays.
+void ClearLeftovers(const std::string& folder);
 
-// On failure, or if the file has more than maximumBytes, content is unchanged.
+// Reads a regular file: a pipe or a device could keep the reader waiting or never end. One of more than
+// maximumBytes is refused unread, and tooLong tells so. On failure content is unchanged.
+inline constexpr std::uint64_t kWholeFileMaximum = 64u << 20;
 std::string ReadWholeFile(const std::string& path, std::string& content,
-                          std::uint64_t maximumBytes = std::uint64_t{1} << 32);
+                          std::uint64_t maximumBytes = kWholeFileMaximum, bool* tooLong = nullptr);
+
+// Why a text can't be the name of a player, file or folder: it is no UTF-8, or holds a line end or a zero
+// byte, so that no list, log or JSON could carry it. Empty when it can.
+std::string TextProblem(std::string_view name);
 
 // Whether two paths lead to the same file. False if either is not there.
 bool IsSameFile(const std::string& path, const std::string& other);

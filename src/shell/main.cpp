@@ -41,6 +41,7 @@ int RunProgram(QApplication& application, std::string dataFolder) {
   splash.show();
   ShellHost host;
   const std::unique_ptr<Game> game = StartTable(host, ApplicationFolder(), dataFolder);
+  const std::string shared = ClaimDataFolder(game->folderLock, game->ownFolder, "tessaryn");
   Sounds sounds(FromCore(game->applicationFolder));
   host.sounds = &sounds;
   MainWindow window(*game, host);
@@ -50,6 +51,7 @@ int RunProgram(QApplication& application, std::string dataFolder) {
     window.activateWindow();
     splash.close();
     TellMissingFiles(*game);
+    if (!shared.empty()) ShowMessage(*game, "Data Folder", shared);
     if (!sounds.Missing().isEmpty()) window.statusBar()->showMessage(sounds.Missing(), 15'000);
   });
   return application.exec();

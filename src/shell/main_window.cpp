@@ -780,7 +780,11 @@ void MainWindow::ChooseHotKey() {
   std::string error;
   const HotKey key{static_cast<char>(std::tolower(static_cast<unsigned char>(typed[0]))), path,
                    std::filesystem::path(path).stem().string()};
-  if (!AddHotKey(hotKeys_, key, error)) ShowMessage(game_, "Hot-Keys", error);
+  // Those that another window has added since are kept.
+  const std::string file = game_.dataFolder + kHotKeysFile;
+  if (!ReadHotKeys(file, hotKeys_, error) || !AddHotKey(hotKeys_, key, error) ||
+      !WriteHotKeys(file, hotKeys_, error))
+    ShowMessage(game_, "Hot-Keys", error);
 }
 
 void MainWindow::OpenProbabilities() {
@@ -917,14 +921,10 @@ bool MainWindow::MayClose() {
 }
 
 void MainWindow::WriteFinalFiles() {
-  std::string error;
-  if (!hotKeys_.empty() || std::filesystem::exists(game_.dataFolder + kHotKeysFile))
-    if (!WriteHotKeys(game_.dataFolder + kHotKeysFile, hotKeys_, error))
-      ShowMessage(game_, "Hot-Keys", error);
   const std::string problem = CloseRollFile(game_.rollFile);
   if (!problem.empty()) ShowMessage(game_, "Error", problem);
   std::error_code gone;
-  std::filesystem::remove(game_.dataFolder + kRollCopyFile, gone);
+  std::filesystem::remove(game_.ownFolder + kRollCopyFile, gone);
   SaveWindow();
 }
 

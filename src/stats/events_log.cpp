@@ -221,10 +221,10 @@ std::string FileNameOf(const std::string& path) { return fs::path(path).filename
 EventsLog::~EventsLog() { CloseFiles(*this); }
 
 std::string EventsLogPath(const Game& game) {
-  return game.events.Path.empty() ? game.dataFolder + kEventsLogName : game.events.Path;
+  return game.events.Path.empty() ? game.ownFolder + kEventsLogName : game.events.Path;
 }
 
-std::string EventsIndexPath(const Game& game) { return game.dataFolder + kEventsIndexName; }
+std::string EventsIndexPath(const Game& game) { return game.ownFolder + kEventsIndexName; }
 
 void WriteEventsLogLine(Game& game, std::string_view text) {
   EventsLog& log = game.events;

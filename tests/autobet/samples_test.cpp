@@ -64,7 +64,7 @@ TEST(Samples, EachPlaysTenThousandRollsWithAPlausibleOutcome) {
     EXPECT_EQ(CheckConsistency(game), "");
     if (sample.number == 12) {
       EXPECT_GT(table.Bet(101), 5) << "sessions must have been played";
-      EXPECT_GT(std::filesystem::file_size(table.folder.path + "Sample12 results.txt"), 100u);
+      EXPECT_GT(std::filesystem::file_size(table.folder.path + "output/Sample12 results.txt"), 100u);
     }
     if (sample.number == 13) {
       EXPECT_TRUE(game.percentage.PercentageDiceActive);

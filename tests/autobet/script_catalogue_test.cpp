@@ -431,7 +431,7 @@ TEST(ScriptCatalogue, SettingsAndActionsDoWhatTheySay) {
   EXPECT_EQ(table.host.sounds, std::vector<std::string>{"/x.wav"});
   table.Run("open/clear file for output \"log.txt\"\noutput to file \"one\"\noutput to file 2");
   table.Run("open/append file for output \"log.txt\"\noutput to file \"three\"");
-  std::ifstream log(table.folder.path + "log.txt");
+  std::ifstream log(table.folder.path + "output/log.txt");
   EXPECT_EQ(std::string(std::istreambuf_iterator<char>(log), {}), "one\n2\nthree\n");
   table.Run("bet 10 on passline\npass the dice");
   EXPECT_EQ(game.table.ShooterSeat, 2);
@@ -481,14 +481,22 @@ TEST(ScriptCatalogue, RollFilesPlayFromTheRollAskedFor) {
 TEST(ScriptCatalogue, OutputStaysInItsFolders) {
   ScriptTable table;
   script_test::Folder outside;
-  std::filesystem::create_symlink(outside.path, table.folder.path + "link");
+  const std::string output = table.folder.path + "output/";
+  std::filesystem::create_directory(output);
+  std::filesystem::create_symlink(outside.path, output + "link");
   const std::string refused = ScriptErrorText(kErrorBadPath, "");
-  EXPECT_EQ(table.ErrorOf("open/clear file for output \"link/x.txt\""), refused);
-  EXPECT_EQ(table.ErrorOf("open/clear file for output \"a/../../x.txt\""), refused);
-  EXPECT_EQ(table.ErrorOf("open/clear file for output \"" + outside.path + "x.txt\""), refused);
-  EXPECT_EQ(table.ErrorOf("open/clear file for output \"cokus.dll\""), refused)
-      << "no library is written over";
-  EXPECT_EQ(table.ErrorOf("open/clear file for output \"\""), refused);
+  const std::string data = table.folder.path;
+  std::ofstream(data + "qt.conf") << "mine";
+  for (const std::string& name :
+       {std::string("link/x.txt"), std::string("a/../../x.txt"), outside.path + "x.txt",
+        std::string("cokus.dll"), std::string(), std::string("../qt.conf"), data + "qt.conf", output,
+        std::string("../output")})
+    EXPECT_EQ(table.ErrorOf("open/clear file for output \"" + name + "\""), refused) << name;
+  EXPECT_EQ(std::filesystem::file_size(data + "qt.conf"), 4u);
+  EXPECT_EQ(table.ErrorOf("open/clear file for output \"qt.conf\""), "") << "one of its own";
+  EXPECT_EQ(table.ErrorOf("open/clear file for output \"" + output + "x.txt\""), "");
+  table.game->autobet.OutputOwners[output + "x.txt"] = "another player";
+  EXPECT_EQ(table.ErrorOf("open/append file for output \"x.txt\""), refused);
   table.game->autobet.AllowedOutputFolders = {outside.path};
   EXPECT_EQ(table.ErrorOf("open/clear file for output \"" + outside.path + "x.txt\""), "");
   EXPECT_TRUE(std::filesystem::exists(outside.path + "x.txt"));

@@ -1,6 +1,10 @@
 // The tools for loaded and recorded dice, and a house's rules in a file, as programs.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
 #include <nlohmann/json.hpp>
 #include <random>
 
@@ -30,6 +34,24 @@ TEST(CliProbabilities, OperationsAreCarriedOutInTheirOrder) {
   EXPECT_EQ(ReadFile(file), before);
   EXPECT_EQ(RunCli(folder, {"probabilities", file, "--unlock", "--total", "7=50000"}).exitCode, 0);
   EXPECT_NE(ReadFile(file), before);
+}
+
+TEST(CliProbabilities, WhatIsNoProbabilityFileIsReplacedOnlyByForce) {
+  TempFolder folder;
+  const std::string notes = folder.File("notes.txt");
+  WriteFile(notes, "my notes");
+  for (const std::vector<std::string>& options :
+       {std::vector<std::string>{notes, "--new"}, {folder.File("good.prb"), "--out", notes}}) {
+    ASSERT_EQ(RunCli(folder, {"probabilities", folder.File("good.prb"), "--new"}).exitCode, 0);
+    std::vector<std::string> all{"probabilities"};
+    all.insert(all.end(), options.begin(), options.end());
+    const Ran ran = RunCli(folder, all);
+    EXPECT_EQ(ran.exitCode, 1);
+    EXPECT_NE(ran.err.find("--force"), std::string::npos) << ran.err;
+    EXPECT_EQ(ReadFile(notes), "my notes");
+  }
+  EXPECT_EQ(RunCli(folder, {"probabilities", notes, "--new", "--force"}).exitCode, 0);
+  EXPECT_EQ(RunCli(folder, {"probabilities", notes, "--new"}).exitCode, 0) << "it is one now";
 }
 
 TEST(CliProbabilities, BadWordsAreNamed) {
@@ -77,6 +99,132 @@ TEST(CliRolls, AFileIsCountedEditedAndExported) {
   const Ran bad = RunCli(folder, {"rolls", folder.File("bad.rol")});
   EXPECT_EQ(bad.exitCode, 1);
   EXPECT_NE(bad.err.find("not a true Tessaryn dice roll file"), std::string::npos) << bad.err;
+}
+
+TEST(CliRolls, AChainIsDoneWholeOrNotAtAll) {
+  TempFolder folder;
+  const std::string file = folder.File("dice.rol");
+  const std::string out = folder.File("out.txt");
+  const std::string copy = folder.File("copy.rol");
+  const auto rolls = [&](const std::string& name, std::vector<std::string> arguments) {
+    std::vector<std::string> all{"rolls", name, "--data-folder", folder.Path(), "--format", "Roll# Die1"};
+    all.insert(all.end(), arguments.begin(), arguments.end());
+    return RunCli(folder, all);
+  };
+  ASSERT_EQ(rolls(file, {"--insert", "1=1.1,2.2,3.3,4.4"}).exitCode, 0);
+  WriteFile(out, "old");
+  const std::string before = ReadFile(file);
+  const std::vector<std::string> bad[] = {
+      {"--delete", "1", "--export", out, "--export-rolls", copy, "--delete", "9"},
+      {"--insert", "1=5.5", "--export", folder.Path()},
+      {"--export", out, "--select", "3-9"},
+      {"--select", "2-4", "--delete", "1", "--export", out},  // three are left
+      {"--paste", "1"},
+      {"--import", file},
+      {"--export-rolls", file}};
+  for (const auto& chain : bad) {
+    const Ran ran = rolls(file, chain);
+    EXPECT_EQ(ran.exitCode, 1);
+    EXPECT_NE(ran.err.find("--"), std::string::npos) << ran.err;
+    EXPECT_EQ(ReadFile(file), before) << ran.err;
+    EXPECT_EQ(ReadFile(out), "old") << ran.err;
+    EXPECT_FALSE(std::filesystem::exists(copy)) << ran.err;
+  }
+  Ran ran = rolls(file, {"--select", "2-3", "--export", out, "--export-rolls", copy, "--import", copy});
+  ASSERT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_EQ(ReadFile(out), "2 2\n3 3\n");
+  EXPECT_EQ(ReadFile(copy), before.substr(1, 2));
+  EXPECT_EQ(ReadFile(file), before + before.substr(1, 2));
+  ASSERT_EQ(rolls(file, {"--select", "2-3", "--renumber", "--export", out}).exitCode, 0);
+  EXPECT_EQ(ReadFile(out), "1 2\n2 3\n");
+  // Only what writes makes a file, and only when all went well.
+  const std::string none = folder.File("none.rol");
+  EXPECT_EQ(rolls(none, {"--export", out}).exitCode, 1);
+  EXPECT_EQ(rolls(none, {"--import", file, "--delete", "7"}).exitCode, 1);
+  EXPECT_FALSE(std::filesystem::exists(none));
+  EXPECT_EQ(rolls(none, {"--import", file}).exitCode, 0);
+  EXPECT_EQ(ReadFile(none), ReadFile(file));
+  for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+    EXPECT_EQ(entry.path().string().find("~"), std::string::npos) << entry.path();
+}
+
+TEST(CliFiles, WhatCantBeReadIsToldAtOnceAndNothingAborts) {
+  TempFolder folder;
+  const std::string hole = folder.File("hole");
+  const std::string pipe = folder.File("pipe");
+  const std::string script = folder.File("long.bet");
+  WriteFile(hole, "");
+  std::filesystem::resize_file(hole, 3'000'000'000u);
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  WriteFile(script, std::string(30'000'000, 'y'));
+  const std::vector<std::string> files = {hole,
+                                          pipe,
+                                          script,
+                                          folder.Path(),
+                                          "/dev/zero",
+                                          folder.File(std::string(300, 'n')),
+                                          folder.File("hole/x"),
+                                          folder.File("none")};
+  const std::vector<std::vector<std::string>> commands = {
+      {"check", "FILE"},
+      {"convert", "FILE", folder.File("new.bet")},
+      {"probabilities", "FILE"},
+      {"rolls", "FILE"},
+      {"rolls", folder.File("new.rol"), "--import-text", "FILE"},
+      {"rolls", folder.File("new.rol"), "--import", "FILE"},
+      {"run", "--rolls", "0", "--settings", "FILE"},
+      {"run", "--rolls", "0", "--probabilities", "FILE"},
+      {"run", "--rolls", "0", "--roll-file", "FILE"},
+      {"run", "--rolls", "0", "--player", "Ann=100", "--script", "FILE"}};
+  for (const auto& command : commands)
+    for (const std::string& file : files) {
+      std::vector<std::string> words = command;
+      std::replace(words.begin(), words.end(), std::string("FILE"), file);
+      if (command[0] == "rolls" || command[0] == "run")
+        words.insert(words.end(), {"--data-folder", folder.Path() + "data"});
+      if (words.size() > 2 && words[2] == "--import-text" && file == script)
+        continue;  // a text, if one without dice
+      const auto start = std::chrono::steady_clock::now();
+      const Ran ran = RunCli(folder, words);
+      EXPECT_EQ(ran.exitCode, 1) << command[0] << " " << file << " " << ran.err;
+      EXPECT_NE(ran.err.find(file), std::string::npos) << command[0] << " " << ran.err;
+      EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5)) << command[0] << file;
+    }
+  EXPECT_FALSE(std::filesystem::exists(folder.File("new.rol")));
+  EXPECT_FALSE(std::filesystem::exists(folder.File("new.bet")));
+  for (const char* name : {"a\xff.prb", "a\nb"}) {
+    const Ran ran = RunCli(folder, {"probabilities", folder.File(name), "--new"});
+    EXPECT_EQ(ran.exitCode, 2) << ran.err;
+    EXPECT_FALSE(std::filesystem::exists(folder.File(name)));
+  }
+  const Ran joined =
+      RunCli(folder, {"play", "--data-folder", folder.Path() + "data"}, "join 1 \xff\xfe 500\nstate\n");
+  EXPECT_EQ(joined.exitCode, 0);
+  EXPECT_NE(joined.out.find("can't be a player's name: the name is not UTF-8"), std::string::npos)
+      << joined.out;
+  EXPECT_NE(joined.out.find("\"seats\":[]"), std::string::npos) << joined.out;
+}
+
+TEST(CliPlay, TheRecorderTellsItsStateFileAndPlace) {
+  TempFolder folder;
+  const std::string file = folder.File("r.rol");
+  const Ran ran = RunCli(folder, {"play", "--data-folder", folder.Path()},
+                         "state\nrollfile " + file +
+                             " record\nroll 3 4\nstate\nget RecorderState\nget RollFileName\n"
+                             "get RollFileCursor\nset FieldPreset Nonsense\n");
+  const std::vector<std::string> lines = Lines(ran.out);
+  ASSERT_EQ(lines.size(), 8u) << ran.out;
+  EXPECT_EQ(Json::parse(lines[0])["recorder"]["state"], "off");
+  EXPECT_EQ(Json::parse(lines[3])["recorder"],
+            (Json{{"state", "record"}, {"file", file}, {"next", 2}, {"rolls", 1}}));
+  EXPECT_EQ(Json::parse(lines[4])["value"], 1);
+  EXPECT_EQ(Json::parse(lines[5])["value"], file);
+  EXPECT_EQ(Json::parse(lines[6])["value"], 2);
+  const std::string help = RunCli(folder, {"run", "--help"}).out;
+  for (const char* preset : {"Crapless", "PlaceLose8", "Midway"}) {
+    EXPECT_NE(lines[7].find(preset), std::string::npos) << lines[7];
+    EXPECT_NE(help.find(preset), std::string::npos) << help;
+  }
 }
 
 TEST(CliRolls, AListWithAFaultInsertsNoneOfIt) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -225,6 +226,64 @@ TEST_F(RollFiles, AnEditOnAFullDiskLeavesTheFileAsItWas) {
   EXPECT_EQ(OnDisk(Path), rolls);
 }
 
+TEST_F(RollFiles, KilledInMidEditItIsTheOldFileOrTheNew) {
+  constexpr unsigned kSeed = 8;
+  std::mt19937 random(kSeed);
+  const Rolls old = RandomRolls(random, 400'000);
+  const Rolls pasted = RandomRolls(random, 100'001);
+  Rolls edited = old;
+  edited.insert(edited.begin() + 6, pasted.begin(), pasted.end());
+  Write(Other, pasted);
+  for (int trial = 0; trial < 20; ++trial) {
+    Write(Path, old);
+    const pid_t child = fork();
+    if (child == 0) {
+      File->Durable = false;
+      while (OpenRollFile(*File, Path).empty()) {
+        SetRollFileCursor(*File, 7);
+        if (!PasteFromRollFile(*File, Other).empty()) break;
+        Select(7, static_cast<std::int64_t>(6 + pasted.size()));
+        if (!DeleteRolls(*File).empty()) break;
+      }
+      _exit(1);
+    }
+    usleep(static_cast<unsigned>(5'000 + random() % 30'000));
+    kill(child, SIGKILL);
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    ASSERT_TRUE(WIFSIGNALED(status)) << "the edits failed";
+    const Rolls left = OnDisk(Path);
+    ASSERT_TRUE(left == old || left == edited)
+        << "seed " << kSeed << " trial " << trial << " " << left.size();
+  }
+  ASSERT_EQ(OpenRollFile(*File, Path), "");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(FolderPath), {}), 2) << "nothing is left over";
+}
+
+TEST_F(RollFiles, OneProgramWritesAtATimeAndSeesWhatTheOtherDid) {
+  Write(Path, {RollByte(1, 1), RollByte(2, 2), RollByte(3, 3)});
+  const auto other = std::make_unique<RollFile>();
+  ASSERT_EQ(OpenRollFile(*File, Path), "");
+  ASSERT_EQ(OpenRollFile(*other, Path), "");
+  ASSERT_EQ(SetRecorderState(*File, kRecorderRecord), "");
+  ASSERT_TRUE(RecordRoll(*File, 6, 6));
+  for (const std::string& error :
+       {EnterRoll(*other, 5, 5), DeleteRolls(*other), SetRecorderState(*other, kRecorderRecord)})
+    EXPECT_NE(error.find("another program is writing"), std::string::npos) << error;
+  ASSERT_EQ(SetRecorderState(*File, kRecorderOff), "");
+  ASSERT_TRUE(FlushRollFile(*File));
+  ASSERT_EQ(DeleteRolls(*other), "");  // the first roll; this puts a new file in the place of the old
+  ASSERT_TRUE(FlushRollFile(*other));
+  SetRollFileCursor(*File, 1);
+  ASSERT_EQ(EnterRoll(*File, 5, 5), "");
+  EXPECT_EQ(OnDisk(Path), (Rolls{RollByte(5, 5), RollByte(3, 3)}));
+  ASSERT_EQ(SetRecorderState(*File, kRecorderRecord), "");
+  ASSERT_TRUE(RecordRoll(*File, 4, 4));
+  std::filesystem::remove(Path);
+  EXPECT_FALSE(FlushRollFile(*File)) << "not into a file that is gone";
+  EXPECT_NE(File->LastErrorText.find(Path), std::string::npos);
+}
+
 TEST_F(RollFiles, AReadOnlyFilePlaysAndRefusesEdits) {
   std::mt19937 random(5);
   Write(Path, RandomRolls(random, 10));
@@ -329,6 +388,10 @@ TEST_F(RollFiles, NothingHappensWithoutAnOpenFile) {
   EXPECT_EQ(PasteFromRollFile(*File, Other), NotARollFileText(Other));
   EXPECT_NE(PasteCopiedRolls(*File, Folder), "");
   EXPECT_NE(PasteFromTextFile(*File, "/dev/zero", Folder), "");
+  std::filesystem::resize_file(Other, 3'000'000'000u);  // a hole
+  for (const std::string& error :
+       {PasteFromTextFile(*File, Other, Folder), PasteFromRollFile(*File, Other), OpenRollFile(*File, Other)})
+    EXPECT_NE(error.find(Other), std::string::npos) << error;
   EXPECT_EQ(RollFileLength(*File), 0);
 }
 
@@ -354,6 +417,7 @@ TEST_F(RollFiles, AHundredThousandEditsAgreeWithAPlainVector) {
   const Rolls other = RandomRolls(random, 700);
   Write(Other, other);
   Generators generators;
+  File->Durable = false;
   ASSERT_EQ(OpenRollFile(*File, Path), "");
   const auto at = [&](std::int64_t offset) { return model.begin() + static_cast<std::ptrdiff_t>(offset); };
   for (int edit = 0; edit < 100'000; ++edit) {

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <csignal>
 #include <filesystem>
 #include <limits>
 #include <random>
@@ -157,6 +160,52 @@ TEST_F(RecordFiles, AFailedReplacementLeavesTheOldFileAndNothingBesideIt) {
   ASSERT_EQ(ReadWholeFile(Path, content), "");
   EXPECT_EQ(content, "old");
   EXPECT_EQ(FilesInFolder(), 1u);
+}
+
+TEST_F(RecordFiles, WhatIsNoFileOrTooLongIsRefusedAtOnce) {
+  const std::string pipe = (Folder / "pipe").string();
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  ASSERT_EQ(ReplaceFile(Path, ""), "");
+  std::filesystem::resize_file(Path, 3'000'000'000u);  // a hole
+  for (const std::string& path : {Path, pipe, Folder.string(), std::string("/dev/zero"), std::string()}) {
+    std::string content = "before";
+    bool tooLong = false;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_NE(ReadWholeFile(path, content, 1'000, &tooLong).find(path + ":"), std::string::npos);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1)) << path;
+    EXPECT_EQ(tooLong, path == Path);
+    EXPECT_EQ(content, "before");
+  }
+}
+
+TEST_F(RecordFiles, WhatAKilledProgramWasWritingIsClearedAndWhatALivingOneWritesStays) {
+  const pid_t child = fork();
+  if (child == 0) {
+    FileReplacement file;
+    if (!BeginReplacement(file, Path).empty() || !WriteReplacement(file, "half").empty()) _exit(1);
+    raise(SIGKILL);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFSIGNALED(status));
+  FileReplacement file;
+  ASSERT_EQ(BeginReplacement(file, Path), "");
+  ASSERT_EQ(ReplaceFile((Folder / ".tessaryn-mine").string(), "mine"), "");
+  EXPECT_EQ(FilesInFolder(), 3u);
+  ClearLeftovers(Folder.string());
+  EXPECT_EQ(FilesInFolder(), 2u);
+  EXPECT_EQ(CommitReplacement(file), "");
+  EXPECT_TRUE(std::filesystem::exists(Path));
+}
+
+TEST_F(RecordFiles, NamesThatNoListCouldCarryAreTold) {
+  for (const char* good :
+       {"", "Ann", "Grüße €5", "\xf0\x9f\x8e\xb2", "\xed\x9f\xbf", "\xf4\x8f\xbf\xbf", "a\tb"})
+    EXPECT_EQ(TextProblem(good), "") << good;
+  for (const std::string bad : {"a\nb", "a\r", "\xff", "\x80", "\xc3", "\xc0\xaf", "\xe0\x80\x80",
+                                "\xed\xa0\x80", "\xf4\x90\x80\x80", "\xf5\x80\x80\x80", "x\xe2\x82"})
+    EXPECT_NE(TextProblem(bad), "") << bad;
+  EXPECT_NE(TextProblem(std::string_view("a\0b", 3)), "");
 }
 
 TEST_F(RecordFiles, AReplacedFileKeepsItsLinkAndPermissions) {
