@@ -29,6 +29,15 @@ struct ScriptOutput {
   }
 };
 
+// A kind of run-time error of a script, with the place where it first came up.
+struct ScriptErrorKind {
+  int code = 0;
+  std::string text;  // "\r" between its lines
+  std::int64_t count = 0;
+  int line = 0;  // 1-based
+  std::string statement;
+};
+
 struct SeatScript {
   std::vector<std::string> ScriptLines;  // as typed; seat 0 the hot-key script
   std::vector<int> ScriptNesting;        // the level of each line
@@ -39,6 +48,9 @@ struct SeatScript {
   bool AllowReset = false;    // new sessions
   bool AllowActProb = false;  // probability files and dice roll files
   ScriptOutput Output;
+  // What came of running it.
+  std::vector<ScriptErrorKind> Errors;  // in the order in which they came up
+  bool Acted = false;                   // some action of it was taken
 };
 
 // Held by the interpreter alone: the program in its ready-to-run form.
@@ -53,6 +65,7 @@ struct ScriptStep {
   int line = 0;  // 1-based source line
   int column = 0;
   std::string text;  // "\r" between its lines
+  int error = 0;     // the code of a statement's run-time error
 };
 
 struct AutoBet {
@@ -71,6 +84,7 @@ struct AutoBet {
   bool ScriptRunning = false;  // clearing it stops the run at the next statement
   bool ScriptInitializing = false;
   int CurrentAutobettor = 0;
+  std::size_t Work = 0;              // done since the host had its turn: see GiveWay
   int ScriptError = 0;               // run-time error of the current statement; 0 none
   std::string ScriptFault;           // the text of error 10000
   bool StepMode = false;             // the run waits after each statement

@@ -32,9 +32,19 @@ bool MixedOperandsCompare(const PreparedProgram& program, int relation, Operand 
   return NumbersCompare(relation, NumberOf(program, left), NumberOf(program, right));
 }
 
+bool GiveWay(Game& game) {
+  AutoBet& autobet = game.autobet;
+  if (autobet.Work < kWorkPerLook) return true;
+  autobet.Work = 0;
+  game.host->YieldByClock(game);
+  return autobet.ScriptRunning;
+}
+
 namespace {
 
 constexpr double kTrue = -1;
+// More than this no script needs for its texts at one time.
+constexpr std::size_t kMostTextRoom = 256u << 20;
 
 // Visits the members that pass the list's qualifier until visit says that the answer is settled.
 template <typename Visit>
@@ -53,11 +63,23 @@ bool ListHolds(const PreparedProgram& program, const PreparedList& list, Test&& 
   return !AnyMember(program, list, [&](Operand member) { return !test(member); });
 }
 
-bool ListsCompare(const PreparedProgram& program, int relation, const PreparedList& left,
-                  const PreparedList& right) {
-  return ListHolds(program, left, [&](Operand a) {
-    return ListHolds(program, right, [&](Operand b) { return OperandsCompare(program, relation, a, b); });
+// False when the run was stopped in it.
+bool ListsCompare(Game& game, const PreparedProgram& program, int relation, const PreparedList& left,
+                  const PreparedList& right, bool& holds) {
+  bool goesOn = true;
+  const auto pairHolds = [&](Operand a, Operand b) {
+    if (a.text && goesOn) {
+      game.autobet.Work += program.texts[static_cast<std::size_t>(a.place)].size();
+      goesOn = GiveWay(game);
+    }
+    return goesOn && OperandsCompare(program, relation, a, b);
+  };
+  holds = ListHolds(program, left, [&](Operand a) {
+    game.autobet.Work += right.members.size();
+    goesOn = goesOn && GiveWay(game);
+    return goesOn && ListHolds(program, right, [&](Operand b) { return pairHolds(a, b); });
   });
+  return goesOn;
 }
 
 bool Finite(Game& game, double value) { return std::isfinite(value) || ScriptFaults(game, kNumberOverflow); }
@@ -99,13 +121,14 @@ bool Join(Game& game, PreparedProgram& program, const Instruction& step) {
   return true;
 }
 
-// The steps that end in a text, or begin with one.
-bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
+// The steps that begin with a text or end in one: see TextStep.
+bool TakeTextStep(Game& game, PreparedProgram& program, const Instruction& step) {
   const auto to = static_cast<std::size_t>(step.to);
   const auto a = static_cast<std::size_t>(step.a);
   switch (step.op) {
     case Op::kNumberOf:
       program.numbers[to] = LeadingNumber(program.texts[a]);
+      game.autobet.Work += program.texts[a].size();
       return true;
     case Op::kTextOf:
       program.texts[to] = GeneralNumber(program.numbers[a]);
@@ -116,11 +139,14 @@ bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
       const bool holds = TextsCompare(step.relation + kTokenEqual, program.texts[a],
                                       program.texts[static_cast<std::size_t>(step.b)]);
       program.numbers[to] = holds ? kTrue : 0;
+      game.autobet.Work += program.texts[a].size();
       return true;
     }
     case Op::kCompareLists: {
-      const bool holds = ListsCompare(program, step.relation + kTokenEqual, program.lists[a],
-                                      program.lists[static_cast<std::size_t>(step.b)]);
+      bool holds = false;
+      if (!ListsCompare(game, program, step.relation + kTokenEqual, program.lists[a],
+                        program.lists[static_cast<std::size_t>(step.b)], holds))
+        return false;
       program.numbers[to] = holds ? kTrue : 0;
       return true;
     }
@@ -135,6 +161,24 @@ bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
       program.texts[to] = game.host->TimeText();
       return true;
   }
+}
+
+constexpr bool GivesText(Op op) {
+  return op == Op::kTextOf || op == Op::kJoin || op == Op::kVariableText || op == Op::kFunctionText;
+}
+
+// The same, with the room for texts and the time watched.
+bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
+  if (!GivesText(step.op)) return TakeTextStep(game, program, step) && GiveWay(game);
+  std::string& to = program.texts[static_cast<std::size_t>(step.to)];
+  const std::size_t room = to.capacity();
+  const bool taken = TakeTextStep(game, program, step);
+  game.autobet.Work += to.size();
+  program.textRoom += to.capacity() - room;
+  if (program.textRoom <= kMostTextRoom) return taken && GiveWay(game);
+  program.textRoom -= to.capacity();
+  std::string().swap(to);  // its room goes as well
+  return ScriptFaults(game, kTextTooLong);
 }
 
 bool SeatOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat) {
@@ -212,7 +256,8 @@ bool ReadBets(Game& game, PreparedProgram& program, const Instruction& step) {
 // The steps that look at the table.
 bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, double& result) {
   const auto a = static_cast<std::size_t>(step.a);
-  if (step.op == Op::kFunction) return ReadNumberFunction(game, program, program.calls[a], result);
+  if (step.op == Op::kFunction)
+    return ReadNumberFunction(game, program, program.calls[a], result) && GiveWay(game);
   const Reference& reference = program.references[a];
   if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
   int seat = 0;

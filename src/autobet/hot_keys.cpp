@@ -105,7 +105,7 @@ bool RunHotKeyFile(Game& game, const std::string& path) {
     RunHotKeyScript(game, std::move(script));
   else
     ShowMessage(
-        game, "Auto-Bet Script Error",
+        game, kHotKeyErrorTitle,
         "The Auto-Bet script for this hot-key contains a syntax error which must be corrected before you "
         "can use it.");
   game.autobet.ScriptsCompiled = false;

@@ -9,6 +9,8 @@ namespace tessaryn {
 struct Game;
 
 inline constexpr const char* kHotKeysFile = "HotKeys.dta";
+// The title of the box that tells of a bad script.
+inline constexpr const char* kHotKeyErrorTitle = "Auto-Bet Script Error";
 
 struct HotKey {
   char key = 0;

@@ -33,7 +33,7 @@ namespace {
 
 void TellBadScript(Game& game, int seat) {
   const std::string& name = game.table.SeatName[seat];
-  ShowMessage(game, "Auto-bet script error",
+  ShowMessage(game, kScriptErrorTitle,
               name +
                   "'s auto-bet script contains an error which must be corrected before you can run it."
                   "\r\rSelect " +
@@ -115,6 +115,9 @@ bool Compares(int relation, const ScriptValue& left, const PreparedProgram& prog
   return NumbersCompare(relation, left.AsNumber(), NumberOf(program, right));
 }
 
+// Setting one costs about as much as handling this much text.
+constexpr std::size_t kWorkOfTarget = 100;
+
 // Calls take(target, resolved) for each target that its qualifier selects, in order.
 template <typename Take>
 bool ForTargets(Run& run, const PreparedStatement& statement, Take&& take) {
@@ -132,6 +135,8 @@ bool ForTargets(Run& run, const PreparedStatement& statement, Take&& take) {
       if (!Compares(qualifier.relation, now, program, qualifier.operand)) continue;
     }
     if (!take(item.target, resolved)) return false;
+    run.autobet().Work += kWorkOfTarget;
+    if (!GiveWay(run.game)) return false;
   }
   return true;
 }
@@ -141,6 +146,7 @@ bool ForTargets(Run& run, const PreparedStatement& statement, Take&& take) {
 bool Assign(Run& run, const PreparedStatement& statement) {
   const ScriptValue value = ValueAt(run.program, statement.operand);
   return ForTargets(run, statement, [&](const Reference&, const ResolvedTarget& target) {
+    run.autobet().Work += value.text.size();
     return SetVariable(run.game, target, value);
   });
 }
@@ -246,8 +252,21 @@ std::string ErrorStep(const AutoBet& autobet, const char* first) {
   return std::string(first) + "\r" + ScriptErrorText(autobet.ScriptError, autobet.ScriptFault);
 }
 
+// Keeps the error of a statement for who asks what came of the script.
+void NoteError(Run& run, const PreparedStatement& statement) {
+  if (run.autobet().ScriptError == kErrorNone) return;
+  const std::vector<PreparedStatement>& statements = run.program.statements;
+  const auto next = static_cast<std::size_t>(&statement - statements.data()) + 1;
+  const bool goesOn = next < statements.size() && statements[next].line == statement.line;
+  NoteScriptError(run.game, {statement.line, statement.column, goesOn ? statements[next].column : -1});
+}
+
 void TakeActionStatement(Run& run, const PreparedStatement& statement) {
   const bool taken = TakeStatement(run, statement);
+  if (taken)
+    run.autobet().Scripts[run.autobet().CurrentAutobettor].Acted = true;
+  else
+    NoteError(run, statement);
   if (!run.showsSteps) return;
   run.text = taken ? "Action taken." : ErrorStep(run.autobet(), "No action taken.");
 }
@@ -259,6 +278,7 @@ bool Holds(const PreparedProgram& program, const PreparedStatement& condition) {
 
 void TestCondition(Run& run, const PreparedStatement& statement) {
   if (!Evaluate(run.game, run.program, statement.value)) {
+    NoteError(run, statement);
     if (run.showsSteps) run.text = ErrorStep(run.autobet(), "Unable to evaluate.");
     return;
   }
@@ -297,7 +317,11 @@ void EndCondition(Run& run, const PreparedStatement& statement) {
 
 bool CallSubroutine(Run& run, const PreparedStatement& statement) {
   std::vector<std::int32_t>& returns = run.program.returns;
-  if (returns.size() >= kDeepestCalls) return ScriptFaults(run.game, kCallsTooDeep);
+  if (returns.size() >= kDeepestCalls) {
+    ScriptFaults(run.game, kCallsTooDeep);
+    NoteError(run, statement);
+    return false;
+  }
   returns.push_back(run.counter);
   run.counter = statement.jump;
   return true;
@@ -363,7 +387,7 @@ void ShowStep(Run& run, const PreparedStatement& statement) {
   AutoBet& autobet = game.autobet;
   if (statement.kind == StatementKind::kHeader) return;
   const ScriptStep step{autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor, statement.line, statement.column,
-                        run.text};
+                        run.text, autobet.ScriptError};
   game.host->ShowStep(game, step);
   if (!autobet.StepMode) return;
   autobet.StepWaiting = true;
@@ -404,6 +428,8 @@ void PassConditions(Run& run) {
               ? TestsHold(run.game, run.program, condition)
               : Evaluate(run.game, run.program, condition.value) && Holds(run.program, condition))
         holds = true;
+      else
+        NoteError(run, condition);
     }
     run.conditionTrue = holds;
     LetEventsPass(run, then - run.counter);
@@ -434,7 +460,7 @@ void RunStatements(Run& run) {
     autobet.ScriptError = kErrorNone;
     Dispatch(run, statement);
     if (run.showsSteps) ShowStep(run, statement);
-    LetEventsPass(run, 1);
+    LetEventsPass(run, 1 + (statement.value.end - statement.value.begin) / kStatementsPerLook);
   }
 }
 
@@ -464,6 +490,7 @@ void RunHotKeyScript(Game& game, CompiledScript script) {
   AutoBet& autobet = game.autobet;
   if (autobet.ScriptRunning) return;
   autobet.Program = std::move(script);
+  autobet.Scripts[0].Errors.clear();
   Prepare(autobet);
   autobet.ScriptsCompiled = true;
   autobet.ScriptInitializing = autobet.HotKeyRun = true;

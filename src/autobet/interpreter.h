@@ -9,6 +9,8 @@ namespace tessaryn {
 
 struct Game;
 
+// The title of the box that tells of a bad script.
+inline constexpr const char* kScriptErrorTitle = "Auto-bet script error";
 // Compiles every active script, in seat order, into Program. On an error it tells so and leaves
 // ScriptsCompiled off.
 void CompileALLAutobets(Game& game);

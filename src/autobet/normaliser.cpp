@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "autobet/compiler_passes.h"
+#include "autobet/likely_word.h"
 #include "autobet/script_text.h"
 #include "autobet/vocabulary.h"
 
@@ -405,6 +406,21 @@ bool ReadLine(std::string_view line, const std::vector<Phrase>& names, CompiledS
   return true;
 }
 
+// The span and the offer of an unknown word. Returns false.
+bool FailAtWord(std::string_view line, const std::vector<WorkWord>& words, std::size_t unknown,
+                const ScriptSurroundings& surroundings, ScriptDiagnostic& diagnostic) {
+  const auto typed = [&](std::size_t i) {
+    if (i >= words.size()) return std::string();
+    const std::size_t begin = std::min(static_cast<std::size_t>(words[i].begin), line.size());
+    return Lowered(line.substr(begin, static_cast<std::size_t>(words[i].end) - begin));
+  };
+  diagnostic.firstColumn = words[unknown].begin;
+  diagnostic.lastColumn = words[unknown].end;
+  const std::string before = unknown > 0 ? typed(unknown - 1) : std::string();
+  diagnostic.offer = LikelyWord(words[unknown].text, before, typed(unknown + 1), surroundings);
+  return false;
+}
+
 bool IsEmptyLine(std::string_view line) {
   const std::string_view text = Trimmed(line);
   return text.empty() || text.front() == '\'';
@@ -425,10 +441,10 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
     if (!ReadLine(lines[i], names, script, words)) {
       return FailAt(script, lines, writer.LastIndex(), "Missing quotation mark.", diagnostic);
     }
-    for (const WorkWord& word : words) {
-      if (!writer.AddWord(word)) {
-        return FailAt(script, lines, writer.LastIndex(), UnknownWordMessage(word.text), diagnostic);
-      }
+    for (std::size_t w = 0; w < words.size(); ++w) {
+      if (writer.AddWord(words[w])) continue;
+      FailAt(script, lines, writer.LastIndex(), UnknownWordMessage(words[w].text), diagnostic);
+      return FailAtWord(lines[i], words, w, surroundings, diagnostic);
     }
     if (script.tokens.size() > kMostTokens) return FailTooLarge(script, lines, diagnostic);
   }

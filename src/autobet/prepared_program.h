@@ -191,6 +191,7 @@ struct PreparedProgram {
   std::vector<TargetItem> targets;
   std::vector<double> numbers{0.0};   // registers; never empty, so that every step has a place to point at
   std::vector<std::string> texts;     // registers
+  std::size_t textRoom = 0;           // bytes that the texts have grown by
   std::vector<std::int32_t> returns;  // the run's return stack
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "autobet/characters.h"
 #include "autobet/evaluate.h"
 #include "autobet/language.h"
 #include "autobet/read_variable.h"
@@ -21,8 +22,11 @@ struct CallInHand {
 
   const std::vector<Operand>& Members() const { return call.arguments.members; }
   double Number(std::size_t i) const { return i < Members().size() ? NumberOf(program, Members()[i]) : 0; }
-  std::string Text(std::size_t i) const {
-    return i < Members().size() ? TextOf(program, Members()[i]) : std::string();
+  std::string Text(std::size_t i) const { return i < Members().size() ? Text(Members()[i]) : std::string(); }
+  std::string Text(Operand operand) const {
+    std::string text = TextOf(program, operand);
+    game.autobet.Work += text.size();
+    return text;
   }
   bool Fails(int code) const { return ScriptFails(game, code); }
 };
@@ -97,14 +101,17 @@ bool ListFunction(const CallInHand& hand, double& value) {
 // The text that stands highest or lowest in the order of texts.
 bool ListText(const CallInHand& hand, std::string& text) {
   bool first = true;
+  bool goesOn = true;
   const int wanted = hand.call.code == 132 ? 1 : -1;
   text.clear();
   ForMembers(hand, [&](Operand member) {
-    std::string candidate = TextOf(hand.program, member);
+    goesOn = goesOn && GiveWay(hand.game);
+    if (!goesOn) return;
+    std::string candidate = hand.Text(member);
     if (first || candidate.compare(text) * wanted > 0) text = std::move(candidate);
     first = false;
   });
-  return true;
+  return goesOn;
 }
 
 // --- The table.
@@ -182,25 +189,26 @@ bool Place(const CallInHand& hand, std::size_t argument, double first, double mo
 // A count may ask for more than there is.
 constexpr double kAnyCount = 2147483647;
 
+// Parts of a text are counted in characters, and cut at bytes.
 bool EndFunction(const CallInHand& hand, std::string& text) {
   const std::string whole = hand.Text(0);
   std::size_t count = 0;
   if (!Place(hand, 1, 0, kAnyCount, count)) return false;
-  count = std::min(count, whole.size());
-  switch (hand.call.code) {
-    case 801:
-      text = whole.substr(0, count);
-      break;
-    case 802:
-      text = whole.substr(whole.size() - count);
-      break;
-    case 803:
-      text = whole.substr(count);
-      break;
-    default:
-      text = whole.substr(0, whole.size() - count);
-      break;
+  const bool fromLeft = hand.call.code == 801 || hand.call.code == 803;
+  if (!fromLeft) {
+    const std::size_t characters = CountCharacters(whole);
+    count = characters - std::min(count, characters);
   }
+  const std::size_t cut = CharacterStart(whole, count);
+  const bool front = hand.call.code == 801 || hand.call.code == 804;
+  text = front ? whole.substr(0, cut) : whole.substr(cut);
+  return true;
+}
+
+// Argument i as a position in a text, from 1 to the one behind its end: the byte where it is.
+bool PlaceInText(const CallInHand& hand, std::size_t argument, const std::string& text, std::size_t& at) {
+  if (!Place(hand, argument, 1, static_cast<double>(CountCharacters(text)) + 1, at)) return false;
+  at = CharacterStart(text, at - 1);
   return true;
 }
 
@@ -208,12 +216,12 @@ bool MiddleFunction(const CallInHand& hand, std::string& text) {
   text = hand.Text(0);
   std::size_t start = 0;
   std::size_t count = 0;
-  if (!Place(hand, 1, 1, static_cast<double>(text.size()) + 1, start) || !Place(hand, 2, 0, kAnyCount, count))
-    return false;
+  if (!PlaceInText(hand, 1, text, start) || !Place(hand, 2, 0, kAnyCount, count)) return false;
+  const std::size_t bytes = CharacterStart(std::string_view(text).substr(start), count);
   if (hand.call.code == 805)
-    text = text.substr(start - 1, count);
+    text = text.substr(start, bytes);
   else
-    text.erase(start - 1, count);
+    text.erase(start, bytes);
   return true;
 }
 
@@ -221,9 +229,9 @@ bool Insert(const CallInHand& hand, std::string& text) {
   text = hand.Text(0);
   const std::string inserted = hand.Text(1);
   std::size_t at = 0;
-  if (!Place(hand, 2, 1, static_cast<double>(text.size()) + 1, at)) return false;
+  if (!PlaceInText(hand, 2, text, at)) return false;
   if (text.size() + inserted.size() > kLongestText) return ScriptFaults(hand.game, kTextTooLong);
-  text.insert(at - 1, inserted);
+  text.insert(at, inserted);
   return true;
 }
 
@@ -231,10 +239,12 @@ bool Find(const CallInHand& hand, double& value) {
   const bool hasStart = hand.Members().size() > 2;
   const std::string text = hand.Text(hasStart ? 1 : 0);
   const std::string sought = hand.Text(hasStart ? 2 : 1);
-  const double start = hasStart ? std::nearbyint(hand.Number(0)) : 1;
-  if (!(start >= 1 && start <= static_cast<double>(text.size()) + 1)) return hand.Fails(kErrorInstr);
-  const std::size_t at = text.find(sought, static_cast<std::size_t>(start) - 1);
-  value = at == std::string::npos ? 0 : static_cast<double>(at) + 1;
+  std::size_t start = 0;
+  if (hasStart && !PlaceInText(hand, 0, text, start)) return false;
+  const std::size_t at = FindText(text, sought, start);
+  value = at == std::string::npos
+              ? 0
+              : static_cast<double>(CountCharacters(std::string_view(text).substr(0, at))) + 1;
   return true;
 }
 
@@ -252,10 +262,10 @@ bool NameOfPlayer(const CallInHand& hand, std::string& text) {
   return !text.empty() || hand.Fails(kErrorNoPlayer);
 }
 
-bool Character(const CallInHand& hand, std::string& text) {
+bool CharacterOf(const CallInHand& hand, std::string& text) {
   std::size_t code = 0;
   if (!Place(hand, 0, 0, 255, code)) return false;
-  text.assign(1, static_cast<char>(static_cast<unsigned char>(code)));
+  text = CharacterText(static_cast<char32_t>(code));
   return true;
 }
 
@@ -275,7 +285,7 @@ bool SquareRoot(const CallInHand& hand, double& value) {
 bool CodeOfCharacter(const CallInHand& hand, double& value) {
   const std::string text = hand.Text(0);
   if (text.empty()) return hand.Fails(kErrorExtract);
-  value = static_cast<unsigned char>(text[0]);
+  value = static_cast<double>(CharacterAt(text, 0).code);
   return true;
 }
 
@@ -303,7 +313,7 @@ bool ReadNumberFunction(Game& game, const PreparedProgram& program, const Prepar
       value = LeadingNumber(hand.Text(0));
       return true;
     case 118:
-      value = static_cast<double>(hand.Text(0).size());
+      value = static_cast<double>(CountCharacters(hand.Text(0)));
       return true;
     case 125:
       return AskNumber(hand, value);
@@ -339,7 +349,7 @@ bool ReadTextFunction(Game& game, const PreparedProgram& program, const Prepared
       text = GeneralNumber(hand.Number(0));
       return true;
     case 811:
-      return Character(hand, text);
+      return CharacterOf(hand, text);
     case 812:
       return Blanks(hand, text);
     case 825:

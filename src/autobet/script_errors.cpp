@@ -1,6 +1,9 @@
 #include "autobet/script_errors.h"
 
+#include <algorithm>
+
 #include "autobet/language.h"
+#include "autobet/script_text.h"
 #include "engine/game.h"
 
 namespace tessaryn {
@@ -96,6 +99,39 @@ bool ScriptFails(Game& game, int code) {
 bool ScriptFaults(Game& game, const char* text) {
   game.autobet.ScriptFault = text;
   return ScriptFails(game, kErrorFault);
+}
+
+namespace {
+
+// The statement as typed, without the colon ahead of it and the comment behind it.
+std::string StatementText(const std::vector<std::string>& lines, const StatementSpan& span) {
+  if (span.line < 1 || static_cast<std::size_t>(span.line) > lines.size()) return {};
+  std::string_view text = lines[static_cast<std::size_t>(span.line) - 1];
+  if (span.end >= 0) text = text.substr(0, static_cast<std::size_t>(span.end));
+  text.remove_prefix(std::min(static_cast<std::size_t>(span.column), text.size()));
+  bool quoted = false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    quoted = quoted != (text[i] == '"');
+    if (text[i] == '\'' && !quoted) text = text.substr(0, i);
+  }
+  text = Trimmed(text);
+  if (text.starts_with(':')) text = Trimmed(text.substr(1));
+  return std::string(text);
+}
+
+}  // namespace
+
+void NoteScriptError(Game& game, const StatementSpan& span) {
+  const AutoBet& autobet = game.autobet;
+  SeatScript& script = game.autobet.Scripts[autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor];
+  for (ScriptErrorKind& kind : script.Errors) {
+    if (kind.code != autobet.ScriptError) continue;
+    if (kind.code == kErrorFault && kind.text != autobet.ScriptFault) continue;
+    ++kind.count;
+    return;
+  }
+  script.Errors.push_back({autobet.ScriptError, ScriptErrorText(autobet.ScriptError, autobet.ScriptFault), 1,
+                           span.line, StatementText(script.ScriptLines, span)});
 }
 
 }  // namespace tessaryn

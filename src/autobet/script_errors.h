@@ -60,6 +60,16 @@ bool ScriptFails(Game& game, int code);
 // The same for what no code foresees.
 bool ScriptFaults(Game& game, const char* text);
 
+// Where a statement stands in its script.
+struct StatementSpan {
+  int line = 0;    // 1-based
+  int column = 0;  // from 0
+  int end = -1;    // the column behind it; -1 the end of the line
+};
+
+// Counts the error of the statement in hand with its script's, whose it is or the hot-key's.
+void NoteScriptError(Game& game, const StatementSpan& span);
+
 // No text of a script grows beyond this many bytes, and no return stack beyond that many calls.
 inline constexpr std::size_t kLongestText = 1'000'000;
 inline constexpr std::size_t kDeepestCalls = 50'000'000;

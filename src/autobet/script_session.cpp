@@ -68,6 +68,8 @@ ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
   ClampSpan(check.diagnostic, static_cast<int>(lines.size()));
   check.title = ErrorTitle(check.diagnostic);
   check.text = check.diagnostic.message;
+  if (!check.diagnostic.offer.empty())
+    check.text += Concat({"\r\rDid you mean \"", check.diagnostic.offer, "\"?"});
   return check;
 }
 
@@ -89,6 +91,8 @@ void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::
   script.ScriptNesting.clear();
   script.ScriptFileName = fileName;
   script.Unsaved = false;
+  script.Errors.clear();
+  script.Acted = false;
 }
 
 bool OpenScript(Game& game, int seat, const std::string& path, std::string& error) {

@@ -89,6 +89,7 @@ struct CompiledScript {
 // What went wrong in a compile and where. Lines count from 1, columns from 0; firstLine 0: nothing did.
 struct ScriptDiagnostic {
   std::string message;  // "\r" between lines, two for a blank line
+  std::string offer;    // of an unknown word: what was likely meant; may be empty
   int firstLine = 0;
   int firstColumn = 0;
   int lastLine = 0;

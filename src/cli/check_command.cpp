@@ -46,7 +46,8 @@ bool CheckFile(const CheckOptions& options, const std::string& file) {
     return true;
   }
   if (options.json)
-    std::printf("%s\n", CheckJson(file, check).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+    std::printf("%s\n",
+                CheckJson(file, lines, check).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     std::fputs(CheckReport(file, lines, check).c_str(), stdout);
   return check.ok;

@@ -25,18 +25,23 @@ void SafeAnswer(MessageBox& box) {
 
 void CliHost::ShowMessage(Game&, MessageBox& box) { SafeAnswer(box); }
 
+bool CliHost::YieldByClock(Game& game) {
+  yields_ = kYieldsPerLook - 1;
+  return Yield(game);
+}
+
 bool CliHost::Yield(Game& game) {
   if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) {
     StopRun(game, "");
     return false;
   }
-  // The clock is looked at now and then only: a roll costs less than asking for the time.
-  if ((++yields_ & 0x3fff) != 0 && game.table.TurboRollActive) return false;
   if (interrupted.load(std::memory_order_relaxed)) {
     game.autobet.ScriptRunning = false;
     StopRun(game, "Stopped by Ctrl-C.");
     return true;
   }
+  // The clock is looked at now and then only: a roll costs less than asking for the time.
+  if ((++yields_ % kYieldsPerLook) != 0 && game.table.TurboRollActive) return false;
   if (progress && game.table.TurboRollActive) progress(game);
   return false;
 }

@@ -29,6 +29,7 @@ class CliHost : public Host {
 
   void ShowMessage(Game& game, MessageBox& box) override;
   bool Yield(Game& game) override;
+  bool YieldByClock(Game& game) override;
   void Wait(Game& game) override;
   void ShowStep(Game& game, const ScriptStep& shown) override {
     if (step) step(game, shown);
@@ -40,6 +41,7 @@ class CliHost : public Host {
   double DateTimeNumber() override;
 
  private:
+  static constexpr std::uint32_t kYieldsPerLook = 0x4000;
   std::uint32_t yields_ = 0;
 };
 

@@ -44,6 +44,13 @@ std::vector<std::string> SplitWords(const std::string& line) {
   return words;
 }
 
+void PlayHost::TellStep(Game&, const ScriptStep& shown) {
+  Json object{{"seat", shown.seat}, {"line", shown.line}, {"text", shown.text}};
+  if (shown.error != 0) object["error"] = shown.error;
+  const Json line{{"step", object}};
+  std::printf("%s\n", line.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+}
+
 void PipeHost::ShowMessage(Game&, MessageBox& box) {
   const Json message{{"message", {{"title", box.MsgTitle}, {"text", box.MsgText}}}};
   std::printf("%s\n", message.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
@@ -534,6 +541,11 @@ const std::vector<PlayCommandInfo>& PlayCommands() {
     return list;
   }();
   return infos;
+}
+
+PlaySession::PlaySession(Game& game, PlayHost& host) : game_(game), host_(host) {
+  game.autobet.StepsHold = false;
+  host.step = [&host](Game& running, const ScriptStep& shown) { host.TellStep(running, shown); };
 }
 
 Json PlaySession::Do(const std::string& line) {

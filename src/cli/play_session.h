@@ -16,6 +16,8 @@ class PlayHost : public CliHost {
   // The command in hand is itself the wish to have this asked done: the next yes/no box without contract
   // money is answered with yes.
   bool confirmNext = false;
+  // A step of a script, while they are shown: as a line of JSON.
+  virtual void TellStep(Game& game, const ScriptStep& shown);
 };
 
 // Prints every box as one line of JSON ahead of the command's answer.
@@ -35,7 +37,7 @@ const std::vector<PlayCommandInfo>& PlayCommands();
 
 class PlaySession {
  public:
-  PlaySession(Game& game, PlayHost& host) : game_(game), host_(host) {}
+  PlaySession(Game& game, PlayHost& host);
   // Carries out one line and returns its answer: {"ok":true,...} or {"ok":false,"error":"..."}.
   Json Do(const std::string& line);
   bool Ended() const { return ended_; }

@@ -9,12 +9,19 @@
 #include <cstring>
 #include <iostream>
 
+#include "autobet/characters.h"
+#include "autobet/hot_keys.h"
+#include "autobet/interpreter.h"
+#include "autobet/script_session.h"
+#include "autobet/script_text.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
+#include "cli/script_report.h"
 #include "config/setting_table.h"
 #include "engine/bet_catalogue.h"
 #include "engine/bet_rules.h"
 #include "engine/handling.h"
+#include "stats/check_stacks.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -34,11 +41,21 @@ std::string AskLine(const std::string& prompt) {
   return first == std::string::npos ? "" : line.substr(first, line.find_last_not_of(' ') - first + 1);
 }
 
+// The check of a seat's script; false for a bad one, with its lines marked.
+bool TellCheck(const Game& game, int seat, bool alsoGood) {
+  const SeatScript& script = game.autobet.Scripts[seat];
+  const ScriptCheck check = CheckLines(SurroundingsOf(game), seat, script.ScriptLines);
+  const std::string name = script.ScriptFileName.empty() ? "hot-key" : script.ScriptFileName;
+  if (!check.ok || alsoGood) std::fputs(CheckReport(name, script.ScriptLines, check).c_str(), stdout);
+  return check.ok;
+}
+
 // Asks the person at the terminal.
 class TerminalHost : public PlayHost {
  public:
-  void ShowMessage(Game&, MessageBox& box) override {
+  void ShowMessage(Game& game, MessageBox& box) override {
     std::printf("\n-- %s --\n%s\n", box.MsgTitle.c_str(), WithNewlines(box.MsgText).c_str());
+    TellBadScripts(game, box.MsgTitle);
     const bool yesNo = (box.MsgFlags & kMsgYes) != 0;
     const bool input = (box.MsgFlags & kMsgInput) != 0;
     if (!yesNo && !input) {
@@ -72,7 +89,31 @@ class TerminalHost : public PlayHost {
     return answer;
   }
 
+  // The statement once, and under it what came of it.
+  void TellStep(Game& game, const ScriptStep& shown) override {
+    const std::vector<std::string>& lines = game.autobet.Scripts[shown.seat].ScriptLines;
+    const auto line = static_cast<std::size_t>(shown.line);
+    if (shown.seat != stepSeat_ || shown.line != stepLine_)
+      std::printf("%s, line %d: %s\n", shown.seat == 0 ? "Hot-key" : game.table.SeatName[shown.seat].c_str(),
+                  shown.line,
+                  line >= 1 && line <= lines.size() ? std::string(Trimmed(lines[line - 1])).c_str() : "");
+    stepSeat_ = shown.seat;
+    stepLine_ = shown.line;
+    std::string text = shown.text;
+    std::replace(text.begin(), text.end(), '\r', ' ');
+    std::printf("    %s%s\n", text.c_str(),
+                shown.error == 0 ? "" : (" (error " + std::to_string(shown.error) + ")").c_str());
+  }
+  // Ahead of the next command's steps nothing was told yet.
+  void ForgetSteps() { stepLine_ = 0; }
+
  private:
+  // The window has a button that shows the error; here it is told at once.
+  static void TellBadScripts(const Game& game, const std::string& title) {
+    if (title == kHotKeyErrorTitle) TellCheck(game, 0, false);
+    for (int seat = 1; seat <= kSeats && title == kScriptErrorTitle; ++seat)
+      if (game.autobet.ScriptActive[seat]) TellCheck(game, seat, false);
+  }
   static void AskYesNo(MessageBox& box) {
     const std::string typed = AskLine("yes or no? [no] ");
     box.MsgResult = !typed.empty() && (typed[0] == 'y' || typed[0] == 'Y') ? kResultYes : kResultNo;
@@ -83,6 +124,9 @@ class TerminalHost : public PlayHost {
     box.MsgEntry = typed;
     TryParseMoney(typed, box.MsgValue1);
   }
+
+  int stepSeat_ = 0;
+  int stepLine_ = 0;
 };
 
 const char* CallMark(int working) {
@@ -98,7 +142,25 @@ const char* CallMark(int working) {
   }
 }
 
+// What a seat has, several on a line.
+class IndentedList {
+ public:
+  void Add(const std::string& text) {
+    if (line_.size() + text.size() > 78) Flush();
+    line_ += (line_.empty() ? "" : "   ") + text;
+  }
+  void Flush() {
+    if (!line_.empty()) std::printf("     %s\n", line_.c_str());
+    line_.clear();
+  }
+
+ private:
+  std::string line_;
+};
+
 constexpr const char* kFaces[7] = {"", "⚀", "⚁", "⚂", "⚃", "⚄", "⚅"};
+
+constexpr std::size_t kMostOfName = 40;
 
 void DrawSeat(const Game& game, int seat) {
   const TableState& table = game.table;
@@ -106,18 +168,20 @@ void DrawSeat(const Game& game, int seat) {
               seat, table.SeatName[seat].c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
               FormatMoney(table.OnTableAmount[seat]).c_str(),
               FormatMoney(table.BankrollCurrent[seat] - table.OnTableAmount[seat]).c_str());
-  std::string line;
-  const auto flush = [&line] {
-    if (!line.empty()) std::printf("     %s\n", line.c_str());
-    line.clear();
-  };
+  IndentedList list;
   table.SeatBets[seat].ForEach([&](int bet) {
-    const std::string text = BetName(bet) + " $" + FormatMoney(table.BetAmount(seat, bet)) +
-                             CallMark(BetWorkingOf(game, seat, bet));
-    if (line.size() + text.size() > 78) flush();
-    line += (line.empty() ? "" : "   ") + text;
+    list.Add(BetName(bet) + " $" + FormatMoney(table.BetAmount(seat, bet)) +
+             CallMark(BetWorkingOf(game, seat, bet)));
   });
-  flush();
+  list.Flush();
+  for (int stack = 0; stack < kCheckStacks; ++stack) {
+    const std::string name = CheckStackNameOf(game, seat, stack);
+    if (name.empty() && CheckStackValue(game, seat, stack) == kZero) continue;
+    const std::string shown = name.substr(0, CharacterStart(name, kMostOfName));
+    list.Add("cs" + std::to_string(stack) + (name.empty() ? "" : " " + Shown(shown)) + " = " +
+             FormatMoney(CheckStackValue(game, seat, stack)));
+  }
+  list.Flush();
 }
 
 void DrawTable(const Game& game) {
@@ -173,6 +237,35 @@ void PrintHelp() {
   std::printf("  Bets by number or name: 43, passline, place6, hop13 ... Tab completes, arrows recall.\n");
 }
 
+// The check of the script that a command loads or activates; whether it was told.
+bool PrintScriptCheck(const Game& game, const std::vector<std::string>& words, const Json& answer) {
+  const bool loads = words[0] == "script" && answer["ok"].get<bool>();
+  if (!loads && words[0] != "activate") return false;
+  if (words.size() < 2 || words[1].size() != 1 || words[1][0] < '1' || words[1][0] > '8') return false;
+  const int seat = words[1][0] - '0';
+  return IsOccupied(game.table, seat) && (!TellCheck(game, seat, loads) || loads);
+}
+
+// The kinds of run-time errors that are new since the last command.
+class ErrorTeller {
+ public:
+  void TellNew(const Game& game) {
+    for (int seat = 0; seat <= kSeats; ++seat) {
+      const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
+      if (errors.size() < told_[seat]) told_[seat] = 0;
+      for (; told_[seat] < errors.size(); ++told_[seat])
+        std::printf("%s: %s\n", seat == 0 ? "Hot-key" : (game.table.SeatName[seat] + "'s script").c_str(),
+                    ErrorReport(errors[told_[seat]]).c_str());
+    }
+  }
+
+  // Each run of a hot-key has its own errors.
+  void ForgetHotKey() { told_[0] = 0; }
+
+ private:
+  std::size_t told_[kSeatRows] = {};
+};
+
 // The answer of a command that a person would want to read.
 void PrintAnswer(const std::string& command, const Json& answer) {
   if (!answer["ok"].get<bool>()) {
@@ -181,13 +274,19 @@ void PrintAnswer(const std::string& command, const Json& answer) {
   }
   if (command == "get") std::printf("%s\n", answer["value"].dump().c_str());
   if (command == "stats") std::printf("%s\n", answer.dump(2).c_str());
+  if (command == "errors")
+    for (const Json& error : answer["errors"])
+      std::printf("seat %d: %lld x error %d in line %d: %s\n    %s\n", error["seat"].get<int>(),
+                  error["count"].get<long long>(), error["code"].get<int>(), error["line"].get<int>(),
+                  WithNewlines(error["text"].get<std::string>()).c_str(),
+                  error["statement"].get<std::string>().c_str());
   if (command == "turbo")
     std::printf("%s rolls a second\n",
                 FormatMoney(WholePart(Currency::FromDouble(answer["rollsPerSecond"].get<double>()))).c_str());
 }
 
 bool ShowsTable(const std::string& command) {
-  for (const char* quiet : {"get", "set", "stats", "answer", "help", "quit", "rng", "seed"})
+  for (const char* quiet : {"get", "set", "stats", "answer", "errors", "help", "quit", "rng", "seed"})
     if (command == quiet) return false;
   return true;
 }
@@ -205,6 +304,7 @@ int PlayTerminal(const TableOptions& options) {
       "Tessaryn. A table without players: \"join 1 Ann 500\", \"bet 1 passline 10\", \"roll\".\n"
       "\"help\" lists the commands, \"quit\" ends.\n");
   PlaySession session(*game, host);
+  ErrorTeller errors;
   while (!session.Ended()) {
     interrupted = false;
     char* typed = readline("table> ");
@@ -218,8 +318,11 @@ int PlayTerminal(const TableOptions& options) {
       PrintHelp();
       continue;
     }
+    host.ForgetSteps();
+    if (words[0] == "hotkey") errors.ForgetHotKey();
     const Json answer = session.Do(line);
-    PrintAnswer(words[0], answer);
+    if (!PrintScriptCheck(*game, words, answer)) PrintAnswer(words[0], answer);
+    errors.TellNew(*game);
     if (ShowsTable(words[0])) DrawTable(*game);
   }
   std::printf("\n");

@@ -9,6 +9,7 @@
 #include "autobet/script_session.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/script_report.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "dice/auto_roll.h"
@@ -85,7 +86,7 @@ void PrintReport(const Game& game, const Json& run) {
                 money("bankrollStart").c_str(), money("bankroll").c_str(), money("onTable").c_str(),
                 money("wagered").c_str(), wagered > 0 ? 100 * net / wagered : 0.0);
   }
-  (void)game;
+  PrintErrors(game);
 }
 
 int Run(const RunOptions& options) {
@@ -106,12 +107,13 @@ int Run(const RunOptions& options) {
   figures.seconds = SecondsSince(start);
   figures.rolls = SessionRolls(game->stats);
   figures.stopReason = game->table.StopReason;
-  const Json run = RunJson(*game, figures);
+  Json run = RunJson(*game, figures);
+  run["scriptErrors"] = ErrorsJson(*game);
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
-  return kDone;
+  return EveryScriptCouldAct(*game) ? kDone : kBad;
 }
 
 }  // namespace

@@ -39,7 +39,7 @@ bool Load(ScriptCommandCall& call) {
   if (!Usage(call, 3, "script SEAT FILE") || !SeatWord(call, seat)) return false;
   if (!OpenScript(call.game, seat, call.words[2], error)) return Bad(call, error);
   const ScriptCheck check = CheckScript(call.game, seat);
-  call.answer["script"] = CheckJson(call.words[2], check);
+  call.answer["script"] = CheckJson(call.words[2], call.game.autobet.Scripts[seat].ScriptLines, check);
   return true;
 }
 
@@ -75,11 +75,12 @@ bool Steps(ScriptCommandCall& call) {
   bool on = false;
   if (!Usage(call, 2, "steps on|off") || !OnOff(call, call.words[1], on)) return false;
   call.game.autobet.StepsShown = on;
-  call.game.autobet.StepsHold = false;
-  call.host.step = [](Game&, const ScriptStep& step) {
-    const Json shown{{"step", {{"seat", step.seat}, {"line", step.line}, {"text", step.text}}}};
-    std::printf("%s\n", shown.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
-  };
+  return true;
+}
+
+bool Errors(ScriptCommandCall& call) {
+  if (!Usage(call, 1, "errors")) return false;
+  call.answer["errors"] = ErrorsJson(call.game);
   return true;
 }
 
@@ -108,6 +109,7 @@ const std::vector<ScriptCommand>& ScriptCommands() {
       {{"initialise", "SEAT", "activates a script and runs the active scripts once"}, Initialise},
       {{"hotkey", "FILE", "runs a script once for the selected player"}, HotKeyCommand},
       {{"steps", "on|off", "shows each step of the scripts as a line"}, Steps},
+      {{"errors", "", "the run-time errors of the scripts by kind, each with its first place"}, Errors},
       {{"permission", "SEAT others|reset|files on|off", "what a player's script may do"}, Permission},
   };
   return commands;

@@ -1,33 +1,36 @@
 #include "cli/script_report.h"
 
-#include <charconv>
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 
+#include "autobet/characters.h"
+#include "cli/commands.h"
 #include "cli/script_commands.h"
 
 namespace tessaryn::cli {
 namespace {
 
-// What is no script may hold bytes that a terminal takes for commands.
-std::string Shown(std::string text) {
-  for (char& c : text)
-    if ((static_cast<unsigned char>(c) < ' ' && c != '\n' && c != '\t') || c == '\x7f') c = '?';
-  return text;
-}
-
-// A source line with the columns first to last marked under it.
+// A source line with the bytes first to last marked under it, a sign for each character.
 std::string MarkedLine(const std::string& line, int number, int first, int last) {
   char head[32];
   std::snprintf(head, sizeof head, "%6d | ", number);
   std::string text = head + line + "\n       | ";
   const int length = static_cast<int>(line.size());
-  const int from = std::clamp(first, 0, length);
-  const int to = std::clamp(last, from, length);
-  for (int i = 0; i < from; ++i) text += line[static_cast<std::size_t>(i)] == '\t' ? '\t' : ' ';
+  const auto from = static_cast<std::size_t>(std::clamp(first, 0, length));
+  const auto to = static_cast<std::size_t>(std::clamp(last, static_cast<int>(from), length));
+  for (std::size_t i = 0; i < from; i += CharacterAt(line, i).bytes) text += line[i] == '\t' ? '\t' : ' ';
   text += '^';
-  text.append(static_cast<std::size_t>(std::max(to - from - 1, 0)), '~');
+  const std::size_t marked = CountCharacters(std::string_view(line).substr(from, to - from));
+  text.append(marked > 0 ? marked - 1 : 0, '~');
   return text + "\n";
+}
+
+// A byte of a line as a column in characters, from 0.
+int ColumnOf(const std::vector<std::string>& lines, int line, int byte) {
+  if (line < 1 || static_cast<std::size_t>(line) > lines.size() || byte < 0) return byte;
+  const std::string_view text = lines[static_cast<std::size_t>(line) - 1];
+  return static_cast<int>(CountCharacters(text.substr(0, static_cast<std::size_t>(byte))));
 }
 
 constexpr int kMostLinesShown = 6;
@@ -51,24 +54,73 @@ std::string MarkedSpan(const std::vector<std::string>& lines, const ScriptDiagno
 
 }  // namespace
 
+std::string Shown(std::string text) {
+  for (char& c : text)
+    if ((static_cast<unsigned char>(c) < ' ' && c != '\n' && c != '\t') || c == '\x7f') c = '?';
+  return text;
+}
+
 std::string CheckReport(const std::string& file, const std::vector<std::string>& lines,
                         const ScriptCheck& check) {
   if (!check.diagnostic.Failed()) return file + ": " + AsLines(check.text) + "\n";
-  const std::string place = file + ":" + std::to_string(check.diagnostic.firstLine) + ":" +
-                            std::to_string(check.diagnostic.firstColumn + 1);
-  return Shown(place + ": " + check.title + "\n" + AsLines(check.text) + "\n" +
-               MarkedSpan(lines, check.diagnostic));
+  const ScriptDiagnostic& span = check.diagnostic;
+  const std::string place = file + ":" + std::to_string(span.firstLine) + ":" +
+                            std::to_string(ColumnOf(lines, span.firstLine, span.firstColumn) + 1);
+  return Shown(place + ": " + check.title + "\n" + AsLines(check.text) + "\n" + MarkedSpan(lines, span));
 }
 
-Json CheckJson(const std::string& file, const ScriptCheck& check) {
+Json CheckJson(const std::string& file, const std::vector<std::string>& lines, const ScriptCheck& check) {
   const ScriptDiagnostic& span = check.diagnostic;
   return {{"file", file},
           {"ok", check.ok},
           {"message", check.text},
           {"firstLine", span.firstLine},
-          {"firstColumn", span.firstColumn},
+          {"firstColumn", ColumnOf(lines, span.firstLine, span.firstColumn)},
           {"lastLine", span.lastLine},
-          {"lastColumn", span.lastColumn}};
+          {"lastColumn", ColumnOf(lines, span.lastLine, span.lastColumn)}};
+}
+
+std::string ErrorReport(const ScriptErrorKind& kind) {
+  std::string text = kind.text;
+  std::replace(text.begin(), text.end(), '\r', ' ');
+  return Shown("error " + std::to_string(kind.code) + " in line " + std::to_string(kind.line) + ": " + text +
+               "\n    " + kind.statement);
+}
+
+Json ErrorsJson(const Game& game) {
+  Json errors = Json::array();
+  for (int seat = 0; seat <= kSeats; ++seat)
+    for (const ScriptErrorKind& kind : game.autobet.Scripts[seat].Errors)
+      errors.push_back({{"seat", seat},
+                        {"code", kind.code},
+                        {"text", kind.text},
+                        {"count", kind.count},
+                        {"line", kind.line},
+                        {"statement", kind.statement}});
+  return errors;
+}
+
+void PrintErrors(const Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
+    if (errors.empty()) continue;
+    std::printf("\nRun-time errors of %s's script, and where each came up first:\n",
+                game.table.SeatName[seat].c_str());
+    for (const ScriptErrorKind& kind : errors)
+      std::printf("%12s x %s\n", FormatMoney(Currency::Dollars(kind.count)).c_str(),
+                  ErrorReport(kind).c_str());
+  }
+}
+
+bool EveryScriptCouldAct(const Game& game) {
+  bool could = true;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const SeatScript& script = game.autobet.Scripts[seat];
+    if (script.Acted || script.Errors.empty()) continue;
+    could = false;
+    Fail(game.table.SeatName[seat] + "'s script could never act: " + ErrorReport(script.Errors.front()));
+  }
+  return could;
 }
 
 std::string TokenList(const CompiledScript& script) {

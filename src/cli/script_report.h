@@ -9,11 +9,22 @@
 
 namespace tessaryn::cli {
 
+// A text as a terminal may be given it: what would be a command to it is a "?".
+std::string Shown(std::string text);
 // The message, and on an error the lines of its span with a mark under what is meant.
 std::string CheckReport(const std::string& file, const std::vector<std::string>& lines,
                         const ScriptCheck& check);
 // {"file":...,"ok":...,"message":...,"firstLine":...,"firstColumn":...,"lastLine":...,"lastColumn":...}
-Json CheckJson(const std::string& file, const ScriptCheck& check);
+// Lines count from 1, columns in characters from 0.
+Json CheckJson(const std::string& file, const std::vector<std::string>& lines, const ScriptCheck& check);
+// A run-time error with its code, line and statement.
+std::string ErrorReport(const ScriptErrorKind& kind);
+// The run-time errors of all scripts by kind: [{"seat":...,"code":...,"text":...,"count":...,"line":...,
+// "statement":...}]; seat 0 is the last hot-key's.
+Json ErrorsJson(const Game& game);
+void PrintErrors(const Game& game);
+// False, with the reason told on standard error, when a script had nothing but errors.
+bool EveryScriptCouldAct(const Game& game);
 // The compiled records, one "kind value" a line.
 std::string TokenList(const CompiledScript& script);
 

@@ -83,6 +83,8 @@ struct Host {
   // Offered once a roll and once a statement. Gives way to user events when it is time to; returns whether
   // it did, so that open files are then as another program may read them.
   virtual bool Yield(Game&) { return false; }
+  // The same behind work that took its time: the clock is looked at, however few the calls.
+  virtual bool YieldByClock(Game& game) { return Yield(game); }
   // Waits in Auto-Roll for a little while, giving way to user events.
   virtual void Wait(Game& game) { Yield(game); }
   // A millisecond clock that only goes forward.

@@ -30,8 +30,14 @@ SettleAnswer ShellHost::AskSettlement(Game& game, const SettleQuestion& question
 }
 
 // A roll costs less than a look at the clock, so that is taken now and then only.
+bool ShellHost::YieldByClock(Game& game) {
+  yields_ = kYieldsPerLook - 1;
+  return Yield(game);
+}
+
 bool ShellHost::Yield(Game& game) {
-  if ((++yields_ & 0x3ff) != 0 && game.table.TurboRollActive && game.settings.RollThrottle == 0) return false;
+  if ((++yields_ % kYieldsPerLook) != 0 && game.table.TurboRollActive && game.settings.RollThrottle == 0)
+    return false;
   const qint64 now = clock_.elapsed();
   if (now - lastEvents_ < kEventsEvery) return false;
   if (game.table.TurboRollActive && showProgress && now - lastProgress_ >= kProgressEvery) {

@@ -36,6 +36,7 @@ class ShellHost : public Host {
   void ShowMessage(Game& game, MessageBox& box) override;
   SettleAnswer AskSettlement(Game& game, const SettleQuestion& question) override;
   bool Yield(Game& game) override;
+  bool YieldByClock(Game& game) override;
   void Wait(Game& game) override;
   std::uint32_t TickMilliseconds() override;
   std::string DateText() override;
@@ -51,6 +52,7 @@ class ShellHost : public Host {
   QElapsedTimer clock_;
   qint64 lastEvents_ = 0;  // when user events were last let in, in milliseconds of the clock
   qint64 lastProgress_ = 0;
+  static constexpr std::uint32_t kYieldsPerLook = 0x400;
   std::uint32_t yields_ = 0;
 };
 

@@ -435,8 +435,8 @@ TEST(CompileAutobets, SpansTheStatementThatFailed) {
     int firstLine, firstColumn, lastLine, lastColumn;
   };
   const SpanCase cases[] = {
-      {"\nfoo = 5", 2, 0, 2, 7},
-      {"cs1=5:foo=5", 1, 5, 1, 11},
+      {"\nfoo = 5", 2, 0, 2, 3},
+      {"cs1=5:foo=5", 1, 6, 1, 9},
       {"if 5 6 then\nendif", 1, 2, 1, 7},
       {"if\n\nthen\nendif", 1, 0, 3, 4},
       {"  cs1 = 5 : cs2 = : cs3 = 5", 1, 10, 1, 18},

@@ -1,10 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cctype>
 #include <fstream>
 #include <sstream>
 
-#include "autobet/compile_helpers.h"
+#include "autobet/run_helpers.h"
 #include "autobet/script_errors.h"
 #include "autobet/script_text.h"
 #include "autobet/vocabulary.h"
@@ -34,6 +35,111 @@ TEST(LanguageReference, EveryExampleCompiles) {
     ++examples;
   }
   EXPECT_GT(examples, 10);
+}
+
+// The examples behind a heading are systems: they must bet, and never fail.
+TEST(LanguageReference, EveryWorkedSystemPlays) {
+  const std::string text = Reference();
+  std::size_t at = text.find("## Three systems");
+  int systems = 0;
+  while ((at = text.find("```bet\n", at)) < text.find("## Run-time errors")) {
+    at += 7;
+    const std::string system = text.substr(at, text.find("```", at) - at);
+    SCOPED_TRACE(system);
+    script_test::ScriptTable table;
+    Game& game = *table.game;
+    ASSERT_EQ(table.Load(1, system), "");
+    game.autobet.BeginningNewSession = true;
+    ASSERT_TRUE(InitialiseScripts(game));
+    table.Turbo(3000);
+    EXPECT_TRUE(game.autobet.Scripts[1].Errors.empty()) << game.autobet.Scripts[1].Errors.front().text;
+    double wagered = 0;
+    for (int bet = 1; bet <= kBets; ++bet)
+      wagered += BetStat(game.stats, kWagerStats, kAllSessions, 1, bet, kStatTotal).ToDouble();
+    EXPECT_GT(wagered, 100);
+    ++systems;
+  }
+  EXPECT_EQ(systems, 3);
+}
+
+// What stands in brackets for any number or text, as a script would have it.
+std::string WithValues(std::string text) {
+  const std::pair<const char*, const char*> values[] = {{"s", "csn1"}, {"t", "csn2"},   {"text", "csn1"},
+                                                        {"n", "4"},    {"x", "9"},      {"start", "1"},
+                                                        {"at", "1"},   {"...", "1, 2"}, {"d.e", "3.4"}};
+  const auto ends = [&text](std::size_t at) {
+    return std::string("(,) ").find(text[at]) != std::string::npos;
+  };
+  for (const auto& [sign, value] : values) {
+    const std::size_t length = std::string(sign).size();
+    for (std::size_t at = text.find('('); (at = text.find(sign, at)) != std::string::npos; ++at)
+      if (ends(at - 1) && at + length < text.size() && ends(at + length)) text.replace(at, length, value);
+  }
+  return text;
+}
+
+// What stands between single backquotes, outside of the examples.
+std::vector<std::string> Sentences() {
+  const std::string text = Reference();
+  std::vector<std::string> sentences;
+  for (std::size_t at = 0; (at = text.find('`', at)) != std::string::npos;) {
+    if (text.compare(at, 3, "```") == 0) {
+      at = text.find("```", at + 3) + 3;
+      continue;
+    }
+    const std::size_t end = text.find('`', at + 1);
+    sentences.push_back(text.substr(at + 1, end - at - 1));
+    at = end + 1;
+  }
+  return sentences;
+}
+
+TEST(LanguageReference, EverySentenceInTheTextCompiles) {
+  ScriptSurroundings surroundings;
+  surroundings.seatNames[1] = "Ann";
+  // A sentence of its own, or the part of one that it is told to be.
+  const char* const frames[] = {"%",
+                                "if % then\nendif",
+                                "cs1 = %",
+                                "csn1 = %",
+                                "bet 1 on %",
+                                "cs1 = % passline",
+                                "cs1 = % 7",
+                                "cs1 = # rolls(7) %",
+                                "cs1 = # points %",
+                                "% place6",
+                                "% csn1",
+                                "% 5 on cs1",
+                                "% place6, place8",
+                                "cs1 = 1 % 2",
+                                "cs1 = passline net %",
+                                "cs1 = buy4 %",
+                                "if passline % then\nendif",
+                                "if passline % 6 then\nendif",
+                                "cs1 = % (4)",
+                                "cs1 = %(1, 2)",
+                                "csn1 = %(csn1)",
+                                "csn1 = \"a\" & %",
+                                "% then\nendif",
+                                "% 9\n9",
+                                "start new session %",
+                                "playback dice roll file csn1 % 5"};
+  // What is typed elsewhere.
+  const char* const commands[] = {"tessaryn-cli ", "--",     "script ", "activate ",
+                                  "initialise ",   "steps ", "hotkey ", "permission "};
+  std::string bad;
+  for (const std::string& sentence : Sentences()) {
+    if (std::any_of(std::begin(commands), std::end(commands),
+                    [&](const char* command) { return sentence.starts_with(command); }))
+      continue;
+    const std::string valued = WithValues(sentence);
+    const bool compiles = std::any_of(std::begin(frames), std::end(frames), [&](std::string frame) {
+      frame.replace(frame.find('%'), 1, valued);
+      return script_test::Compile(frame, 1, surroundings).ok;
+    });
+    if (!compiles && sentence.find(' ') != std::string::npos) bad += sentence + "\n";
+  }
+  EXPECT_EQ(bad, "");
 }
 
 // Whether a row is of words, and not of the codes that rows before it left behind.

@@ -155,6 +155,46 @@ TEST(NormaliseScript, NamesTheWordThatIsUnknown) {
   for (const auto& [line, message] : cases) EXPECT_EQ(FirstPass(line), std::string("error: ") + message);
 }
 
+TEST(NormaliseScript, MarksTheUnknownWordAloneAndOffersTheNearest) {
+  struct OfferCase {
+    const char* line;
+    const char* marked;
+    const char* offer;
+  };
+  const OfferCase cases[] = {
+      {"bet 10 on Pasline", "Pasline", "passline"},
+      {"  if \"Grüße €5\" = csn1 then bte 5 on field endif", "bte", "bet"},
+      {"bet 10 on the pass line", "pass", "passline"},
+      {"bet 10 on dont pass", "dont", "dontpass"},
+      {"if comeout then", "comeout", "comeout roll"},
+      {"if comeoutroll then", "comeoutroll", "comeout roll"},
+      {"cs1 = highst(1, 2)", "highst", "highest"},
+      {"cs1=5:bet cs1 on filed", "filed", "field"},
+      {"bet 5 on passline marry ann", "marry", "mary ann"},
+      {"bet 5 on passline maryann", "maryann", "mary ann"},
+      {"bet 5 on place7", "place7", "place"},
+      {"cs1 = cs100", "cs100", ""},
+      {"take dwn place6", "take", "take down"},
+      {"xyzzy", "xyzzy", ""},
+      {"5%mod 3", "mod", ""},
+      {"shw message \"a\"", "shw", "show message"},
+      {"show mesage \"a\"", "show", "show message"},
+      {"if bankroll > 5 than", "than", "then"},
+      {"place6 = 12 autohandel winning bets", "autohandel", "autohandle"},
+  };
+  for (const OfferCase& one : cases) {
+    CompiledScript script;
+    ScriptDiagnostic diagnostic;
+    ASSERT_FALSE(NormaliseScript(1, {"", one.line}, Table(), script, diagnostic)) << one.line;
+    const auto begin = static_cast<std::size_t>(diagnostic.firstColumn);
+    EXPECT_EQ(diagnostic.firstLine, 2);
+    EXPECT_EQ(std::string(one.line).substr(begin, static_cast<std::size_t>(diagnostic.lastColumn) - begin),
+              one.marked)
+        << one.line;
+    EXPECT_EQ(diagnostic.offer, one.offer) << one.line;
+  }
+}
+
 TEST(NormaliseScript, KeepsTheCaseOfStringsAndTheirOrder) {
   CompiledScript script;
   ScriptDiagnostic diagnostic;

@@ -1,7 +1,10 @@
 // Checking and converting scripts, as programs.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 #include "support/cli_process.h"
 
@@ -29,6 +32,20 @@ TEST(CliCheck, GoodScriptsBadScriptsAndMissingOnesHaveTheirWordsAndCodes) {
   ran = RunCli(folder, {"check", folder.File("none.bet")});
   EXPECT_EQ(ran.exitCode, 1);
   EXPECT_NE(ran.err.find("none.bet"), std::string::npos);
+}
+
+TEST(CliCheck, AnUnknownWordIsMarkedInItsColumnAndTheNearestOffered) {
+  TempFolder folder;
+  WriteFile(folder.File("a.bet"), "csn1 = \"Grüße €5\"\ncsn2 = \"ü€\" : bet 5 on\tpasline\n");
+  Ran ran = RunCli(folder, {"check", folder.File("a.bet")});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_EQ(ran.out,
+            folder.File("a.bet") +
+                ":2:24: Auto-bet script error in line 2\nUnknown or misplaced element:\n\npasline\n\n"
+                "Did you mean \"passline\"?\n     2 | csn2 = \"ü€\" : bet 5 on\tpasline\n"
+                "       |                        \t^~~~~~~\n");
+  ran = RunCli(folder, {"check", "--json", folder.File("a.bet")});
+  EXPECT_EQ(nlohmann::json::parse(ran.out)["firstColumn"], 23);
 }
 
 TEST(CliCheck, BytesThatATerminalObeysAreNotPrinted) {
@@ -65,7 +82,8 @@ TEST(CliConvert, AnOldFileBecomesAScriptThatCompiles) {
 
 TEST(CliRun, AScriptPlaysAndABadOneIsToldBeforeTheFirstRoll) {
   TempFolder folder;
-  WriteFile(folder.File("a.bet"), "if passline = 0 and next roll is a comeout roll then bet 10 on passline endif\n");
+  WriteFile(folder.File("a.bet"),
+            "if passline = 0 and next roll is a comeout roll then bet 10 on passline endif\n");
   Ran ran = RunCli(folder, {"run", "--data-folder", folder.Path(), "--player", "Ann=100000", "--script",
                             folder.File("a.bet"), "--rolls", "5000", "--seed", "3", "--json"});
   ASSERT_EQ(ran.exitCode, 0) << ran.err;
@@ -76,6 +94,80 @@ TEST(CliRun, AScriptPlaysAndABadOneIsToldBeforeTheFirstRoll) {
   ran = RunCli(folder, {"run", "--data-folder", folder.Path(), "--player", "Ann=100", "--script",
                         folder.File("a.bet"), "--rolls", "5"});
   EXPECT_EQ(ran.exitCode, 1);
+}
+
+// Every "tessaryn-cli run ..." that a document tells, cut into words.
+std::vector<std::vector<std::string>> ToldRuns(const std::string& document) {
+  const std::string text = ReadFile(document);
+  std::vector<std::vector<std::string>> runs;
+  for (std::size_t at = 0; (at = text.find("tessaryn-cli run ", at)) != std::string::npos; ++at) {
+    const std::size_t begin = at + std::string("tessaryn-cli ").size();
+    std::istringstream words(text.substr(begin, text.find_first_of("`\n", begin) - begin));
+    runs.emplace_back(std::istream_iterator<std::string>(words), std::istream_iterator<std::string>());
+  }
+  return runs;
+}
+
+TEST(CliRun, EachSamplePlaysByTheCommandsThatTheDocumentsTell) {
+  TempFolder folder;
+  int samples = 0;
+  for (const char* document : {"/docs/auto-bet.md", "/README.md"}) {
+    for (const std::vector<std::string>& told : ToldRuns(std::string(TESSARYN_SOURCE_DIR) + document)) {
+      const auto script = std::find(told.begin(), told.end(), "--script");
+      if (script == told.end()) continue;
+      const bool any = *(script + 1) == "FILE";
+      for (int number = 1; number <= (any ? 13 : 1); ++number) {
+        const std::string sample =
+            any ? "data/samples/Sample" + std::to_string(number) + ".bet" : *(script + 1);
+        std::vector<std::string> words = told;
+        words[static_cast<std::size_t>(script - told.begin()) + 1] = TESSARYN_SOURCE_DIR "/" + sample;
+        const auto rolls = std::find(words.begin(), words.end(), "--rolls");
+        if (rolls != words.end()) words.erase(rolls, rolls + 2);
+        words.insert(words.end(), {"--rolls", "200", "--json", "--data-folder", folder.Path()});
+        const Ran ran = RunCli(folder, words);
+        ASSERT_EQ(ran.exitCode, 0) << sample << ran.err;
+        EXPECT_GT(nlohmann::json::parse(ran.out)["seats"][0]["wagered"], 100) << sample;
+        ++samples;
+      }
+    }
+  }
+  EXPECT_GE(samples, 14);
+}
+
+TEST(CliRun, TellsRunTimeErrorsByKindAndThatAScriptCouldNeverAct) {
+  TempFolder folder;
+  const auto run = [&folder](const std::string& script, bool json) {
+    WriteFile(folder.File("a.bet"), script);
+    std::vector<std::string> words = {
+        "run",      "--data-folder",      folder.Path(), "--set", "ShooterBetRule=0", "--player", "Ann=100",
+        "--script", folder.File("a.bet"), "--rolls",     "5"};
+    if (json) words.emplace_back("--json");
+    return RunCli(folder, words);
+  };
+  const char* const both =
+      "cs1 = 7 ' ok\ncs2 = 1 : cs3 = 1 / cs0 : cs0 = sqr(-1) ' it's\nif sqr(-1) = 1 then\nendif\n";
+  const nlohmann::json errors = nlohmann::json::parse(run(both, true).out)["scriptErrors"];
+  ASSERT_EQ(errors.size(), 2u);
+  EXPECT_EQ(errors[0], (nlohmann::json{{"seat", 1},
+                                       {"code", 9999},
+                                       {"text", "Division by zero."},
+                                       {"count", 6},
+                                       {"line", 2},
+                                       {"statement", "cs3 = 1 / cs0"}}));
+  EXPECT_EQ(errors[1]["count"], 12) << "initialised once, and five rolls";
+  EXPECT_EQ(errors[1]["statement"], "cs0 = sqr(-1)");
+  Ran ran = run(both, false);
+  EXPECT_EQ(ran.exitCode, 0) << ran.err;
+  EXPECT_NE(ran.out.find("6 x error 9999 in line 2: Division by zero.\n    cs3 = 1 / cs0\n"),
+            std::string::npos)
+      << ran.out;
+  ran = run("field player2 = 5\n", false);
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_NE(
+      ran.err.find("Ann's script could never act: error 851 in line 1: No player at designated position.\n"
+                   "    field player2 = 5"),
+      std::string::npos)
+      << ran.err;
 }
 
 }  // namespace

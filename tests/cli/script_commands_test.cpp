@@ -81,6 +81,8 @@ TEST(CliScript, StepsAreLinesOfTheirOwnUntilTheyAreOff) {
       "4 End of If/Then structure.",
   };
   EXPECT_EQ(steps, wanted);
+  WriteFile(folder.File("b.bet"), "show steps\ncs1 = 1\n");
+  EXPECT_TRUE(Has(Play(folder, {"join 1 Ann 500", "hotkey " + folder.File("b.bet")}), "step"));
   std::vector<std::string> off = commands;
   off.insert(off.end() - 1, "steps off");
   EXPECT_FALSE(Has(Play(folder, off), "step"));
