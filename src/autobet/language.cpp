@@ -5,6 +5,7 @@
 
 #include "autobet/script_text.h"
 #include "autobet/vocabulary.h"
+#include "engine/bet_catalogue.h"
 
 namespace tessaryn {
 namespace {
@@ -208,8 +209,7 @@ struct BetFamily {
 
 constexpr BetFamily kOptionalFamilies[] = {
     {50, 51, "Big", &ScriptSurroundings::big68},
-    {84, 89, "Small-Tall-All", &ScriptSurroundings::smallTall},
-    {91, 92, "Small-Tall-All", &ScriptSurroundings::smallTall},
+    {kFirstSpecialProp, kLastSpecialProp, "Small-Tall-All", &ScriptSurroundings::smallTall},
     {90, 90, "Midway", &ScriptSurroundings::midway},
     {93, 93, "Fire", &ScriptSurroundings::fire},
 };

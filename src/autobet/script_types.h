@@ -102,7 +102,7 @@ struct ScriptDiagnostic {
 struct ScriptSurroundings {
   std::string seatNames[9];  // 1 to 8; empty for an open seat
   bool big68 = true;         // bets 50 and 51
-  bool smallTall = true;     // bets 84 to 89, 91 and 92
+  bool smallTall = true;     // bets 84 to 89
   bool midway = true;        // bet 90
   bool fire = true;          // bet 93
 };

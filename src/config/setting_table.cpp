@@ -476,13 +476,14 @@ constexpr Family kFamilies[] = {
      "one or more bets on the Big 6 and/or Big 8"},
     {&Settings::UseFire, kFire, kFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
     {&Settings::UseMidway, kMidway, kMidway, "Remove Midway Bets", "one or more Midway bets present"},
-    {&Settings::SmallTallEnabled, kAllSmall, kSevenPoint7, "Remove Special Prop Bets", ""},
+    {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, "Remove Special Prop Bets", ""},
 };
 
 std::string SpecialBetsUp(const Game& game) {
   std::string names;
-  for (int bet = kAllSmall; bet <= kSevenPoint7; ++bet)
-    if (game.table.AnyBets.Has(bet)) names += (names.empty() ? "" : ", ") + BetName(bet);
+  (game.table.AnyBets & kSpecialProps).ForEach([&names](int bet) {
+    names += (names.empty() ? "" : ", ") + BetName(bet);
+  });
   return "one or more wagers on the following special prop bets: " + names;
 }
 
@@ -498,7 +499,7 @@ bool SevenPoint7Rides(const Game& game) {
 bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
   const BetSet bets = BetRange(family.first, family.last);
   if (!AnySeatHas(game, bets)) return true;
-  const bool special = family.first == kAllSmall;
+  const bool special = IsSpecialProp(family.first);
   error = std::string(family.title) + ": bets are up, and stay.";
   if (special && SevenPoint7Rides(game)) {
     error =
@@ -519,9 +520,12 @@ bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
 
 void TakeFamilyDown(Game& game, const Family& family) {
   const BetSet bets = BetRange(family.first, family.last);
-  if (!AnySeatHas(game, bets)) return;
-  for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
-  if (family.first == kAllSmall) game.table.NumberMarks = 0;
+  if (AnySeatHas(game, bets))
+    for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
+  if (!IsSpecialProp(family.first)) return;
+  // What was counted for these bets says nothing to those of a table that offers them again.
+  game.table.NumberMarks = 0;
+  game.table.FourRollCount = 0;
 }
 
 // Every question comes before the first bet is touched, so that one No leaves all families as they were.

@@ -15,6 +15,12 @@ struct BetFacts {
   bool callable;           // a player may call it ON or OFF
 };
 
+// The special propositions, which a table may be without (SmallTallEnabled): for clicks, scripts and counts.
+inline constexpr int kFirstSpecialProp = kAllSmall;
+inline constexpr int kLastSpecialProp = kSevenPoint7;
+inline constexpr BetSet kSpecialProps = BetRange(kFirstSpecialProp, kLastSpecialProp);
+constexpr bool IsSpecialProp(int bet) { return bet >= kFirstSpecialProp && bet <= kLastSpecialProp; }
+
 // The facts of bet 1 to 93; those of bet 0 are empty.
 const BetFacts& FactsOf(int bet);
 // The bet's name; "CheckStack #n" for bets 100 up; empty for a number that names nothing.

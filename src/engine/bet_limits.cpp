@@ -54,10 +54,11 @@ Currency MaxSharedBet(const Game& game, int bet) {
 
 Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
   const PayoffRecord& record = game.payoffs.PayoffTable[bet];
-  const Currency most =
-      MaxOddsFor(game, bet, game.table.BetAmount(seat, FlatBetOf(bet)), record.PayTo, record.PayPer);
-  // Who lays states the maximum in what can be won.
-  return laying && record.PayTo > kZero ? Divide(Multiply(most, record.PayPer), record.PayTo) : most;
+  const Currency flat = game.table.BetAmount(seat, FlatBetOf(bet));
+  if (!laying || record.PayTo <= kZero) return MaxOddsFor(game, bet, flat, record.PayTo, record.PayPer);
+  // Who lays is measured by what can be won: that is the stake of the method, and what is laid its payoff.
+  const Currency mostWon = MaxOddsFor(game, bet, flat, record.PayPer, record.PayTo);
+  return Divide(Multiply(mostWon, record.PayPer), record.PayTo);
 }
 
 Currency OddsMultiple(const Game& game, int bet) {

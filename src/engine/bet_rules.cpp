@@ -234,30 +234,39 @@ std::string BankrollText(const Game& game, int seat, int bet) {
          "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
 }
 
-// Lowers the change, unit by unit, until the bankroll covers it.
+// The furthest that a limit may lower the bet: all of it, or down to what its contract holds.
+Currency LowestChange(const Game& game, int seat, int bet) {
+  return std::min(ContractFloor(game, seat, bet) - game.table.BetAmount(seat, bet), kZero);
+}
+
+// Lowers the change, unit by unit, until the bankroll covers it or the bet can't go lower.
 void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
   const TableState& table = game.table;
-  if (table.AllowNegativeBankroll[seat]) return;
+  // A bet that moves to its number brings no new money to the table; odds that follow it do.
+  const bool moves = table.MovingComeBet && !IsOdds(bet);
+  if (table.AllowNegativeBankroll[seat] || moves) return;
   const Currency amount = table.BetAmount(seat, bet);
   const Currency vigOnTable = VigUpFront(game, bet) ? VigHeld(game, seat, bet) : kZero;
   const Currency room = table.BankrollCurrent[seat] - table.OnTableAmount[seat];
   if (TableCost(game, seat, bet, change, vigOnTable) <= room) return;
+  const Currency lowest = LowestChange(game, seat, bet);
+  if (change <= lowest) return;
   // The cost rises with the change, so the first that fits is found by halving.
   const std::int64_t unit = game.settings.Unit().raw;
   std::int64_t low = 1;
   std::int64_t high = std::max<std::int64_t>((change.raw + amount.raw + unit - 1) / unit, 1);
   while (low < high) {
     const std::int64_t steps = low + (high - low) / 2;
-    const Currency candidate = std::max(Currency::FromRaw(change.raw - steps * unit), -amount);
+    const Currency candidate = std::max(Currency::FromRaw(change.raw - steps * unit), lowest);
     if (TableCost(game, seat, bet, candidate, vigOnTable) <= room)
       high = steps;
     else
       low = steps + 1;
   }
-  change = std::max(Currency::FromRaw(change.raw - low * unit), -amount);
+  change = std::max(Currency::FromRaw(change.raw - low * unit), lowest);
   const Currency minimum = MinBetFor(game, bet);
-  if (amount + change > kZero && amount + change < minimum) {
-    change = -amount;
+  if (change > lowest && amount + change < minimum) {
+    change = lowest;
     ShowNote(game, seat, bet, kNoteRefusals, "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
   }
   if (NotesShown(game, kNoteBankroll))
@@ -302,7 +311,7 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
 
 // The families that the configuration can take off the table.
 constexpr BetSet kSwitchableBets =
-    BetRange(kBig6, kBig8) | BetRange(kAllSmall, kMidway) | BetRange(kFire, kFire);
+    BetRange(kBig6, kBig8) | kSpecialProps | BetRange(kMidway, kMidway) | BetRange(kFire, kFire);
 
 // Bets whose maximum is the table's.
 constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetRange(kCome4, kCome4 + 5) |
@@ -340,12 +349,13 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
   Currency change = std::clamp(request.IsError() ? kZero : request, -kBankrollLimit, kBankrollLimit);
   change = std::max(RoundChange(change, game.settings.Unit()), -amount);
   const bool decrease = change < kZero;
-  if (change > kZero && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
+  const bool increase = change > kZero;
+  if (increase && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
     ShowNote(game, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
     return kZero;
   }
   const Verdict verdict = ApplyRules(game, seat, bet, change);
-  if (verdict == Verdict::kEnds) return kZero;
+  if (verdict == Verdict::kEnds || (verdict == Verdict::kRefused && increase)) return kZero;
   if (verdict == Verdict::kAllowed) {
     ApplyMinimum(game, seat, bet, change, decrease);
     if (amount + change > kZero) {
@@ -353,7 +363,7 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
       if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
     }
     // No limit takes a contract bet below what has ridden.
-    if (change < kZero) change = std::max(change, std::min(ContractFloor(game, seat, bet) - amount, kZero));
+    if (change < kZero) change = std::max(change, LowestChange(game, seat, bet));
   }
   ApplyBankroll(game, seat, bet, change);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
@@ -376,6 +386,8 @@ constexpr OddsFollow kOddsFollow[] = {
     {kDontPass, kDontPass, kDontPassOdds, &Handling::AutoLayOdds},
 };
 
+}  // namespace
+
 void BringOddsIntoLine(Game& game, int seat, int bet) {
   for (const OddsFollow& follow : kOddsFollow) {
     if (bet < follow.firstFlat || bet > follow.lastFlat) continue;
@@ -383,16 +395,15 @@ void BringOddsIntoLine(Game& game, int seat, int bet) {
     if (onLine && game.table.Point == 0) return;
     const int odds = follow.firstOdds + bet - follow.firstFlat;
     const Currency up = game.table.BetAmount(seat, odds);
+    if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
     const bool automatic = game.table.handling[seat].*follow.automatic;
     if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
   }
 }
 
-}  // namespace
-
 bool BetOffered(const Settings& settings, int bet) {
   if (bet == kBig6 || bet == kBig8) return settings.UseBig68;
-  if (bet >= kAllSmall && bet <= kSevenPoint7) return settings.SmallTallEnabled;
+  if (IsSpecialProp(bet)) return settings.SmallTallEnabled;
   if (bet == kMidway) return settings.UseMidway;
   if (bet == kFire) return settings.UseFire;
   return IsTableBet(bet);
@@ -411,6 +422,9 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
     return;
   }
   table.OnTableAmount[seat] += amount - cell;
+  // A new bet has the seat's present choice of what works on the come-out; a point sets all of them.
+  if (cell == kZero && table.Point == 0)
+    table.BetWorking[seat].byDefault.Set(bet, table.BetDefaultWorking[seat].Has(bet));
   cell = amount;
   TouchBefore(table, seat, bet);
   table.TouchedSinceAfter[seat].Add(bet);

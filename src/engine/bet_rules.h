@@ -22,6 +22,8 @@ Currency RemoveBet(Game& game, int seat, int bet);
 void TakeFullOdds(Game& game, int seat, int bet);
 // Full odds on every Come number and the Pass Line (take side), or their opposites (lay side).
 void TakeAllFullOdds(Game& game, int seat, bool laySide);
+// Odds after a change of their flat bet: cut to its maximum, or full odds where the seat has them automatic.
+void BringOddsIntoLine(Game& game, int seat, int bet);
 // Sets an amount without any rule; keeps every set and sum of the table. Requires that the amount is not
 // negative for bets 1 to 93. CheckStacks take any amount.
 void SetBetAmount(Game& game, int seat, int bet, Currency amount);

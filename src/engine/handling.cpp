@@ -54,6 +54,16 @@ void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
   ShowMessage(game, title, text);
 }
 
+// An increase. One that the rules refuse leaves the bet as it is, which the bankroll must cover still.
+void Raise(Game& game, int seat, int bet, Currency request) {
+  TableState& table = game.table;
+  if (ChangeBet(game, seat, bet, request) != kZero || request <= kZero) return;
+  if (table.OnTableAmount[seat] <= table.BankrollCurrent[seat]) return;
+  ++table.QuietChanges;
+  ChangeBet(game, seat, bet, kZero);
+  --table.QuietChanges;
+}
+
 void TakeDown(Game& game, int seat, int bet) {
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
   game.table.BetFinished = false;
@@ -73,12 +83,12 @@ void BetRemainder(Game& game, int seat, int bet) {
 }
 
 void PressOneUnit(Game& game, int seat, int bet) {
-  ChangeBet(game, seat, bet, game.table.PressUnit);
+  Raise(game, seat, bet, game.table.PressUnit);
   ShowActionNote(game, seat, bet, "Press 1 Unit");
 }
 
 void PressDouble(Game& game, int seat, int bet) {
-  ChangeBet(game, seat, bet, AmountUp(game, seat, bet));
+  Raise(game, seat, bet, AmountUp(game, seat, bet));
   ShowActionNote(game, seat, bet, "Press Double");
 }
 
@@ -87,7 +97,7 @@ void Parlay(Game& game, int seat, int bet) {
   const Handling before = handling;
   handling.PlaceBias = handling.DoBias = handling.DontBias = handling.LayBias = 2;
   if (game.table.NetPayoff != kZero)
-    ChangeBet(game, seat, bet, game.table.NetPayoff);
+    Raise(game, seat, bet, game.table.NetPayoff);
   else
     TakeFullOdds(game, seat, bet);
   handling.PlaceBias = before.PlaceBias;
@@ -143,7 +153,7 @@ void SameBetAdjusted(Game& game, int seat, int bet, const Adjustment& adjustment
     wanted = adjustment.kind == kTimes ? Multiply(before, factor) : Divide(before, factor);
   }
   if (wanted.IsError()) wanted = before;  // a division by 0 leaves the bet as it was
-  ChangeBet(game, seat, bet, wanted - AmountUp(game, seat, bet));
+  Raise(game, seat, bet, wanted - AmountUp(game, seat, bet));
   ShowActionNote(game, seat, bet, AdjustTitle(adjustment));
 }
 

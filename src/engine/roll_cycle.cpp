@@ -194,28 +194,33 @@ std::string SourceText(const Game& game, DiceSource source) {
                                                       : " using probability matrix: " + title);
 }
 
-// False when no roll is to be had.
-bool ThrowDice(Game& game) {
+// The faces of the next roll. False when no roll is to be had: the table is then as it was.
+bool FindDice(Game& game, DiceSource& source) {
   TableState& table = game.table;
-  DiceSource source = DiceSource::kGenerator;
   if (table.ManualRollPending) {
     source = DiceSource::kPad;
     table.Die1 = table.ManualDie1;
     table.Die2 = table.ManualDie2;
     table.ManualRollPending = false;
-  } else if (game.rollFile.RecorderState == kRecorderPlayback) {
-    source = DiceSource::kFile;
-    if (!PlayFile(game)) return false;
-  } else {
-    DrawFromGenerator(game);
+    return true;
   }
+  if (game.rollFile.RecorderState == kRecorderPlayback) {
+    source = DiceSource::kFile;
+    return PlayFile(game);
+  }
+  DrawFromGenerator(game);
+  return true;
+}
+
+// The dice fall.
+void ThrowDice(Game& game, DiceSource source) {
+  TableState& table = game.table;
   table.RollTotal = table.Die1 + table.Die2;
   if (game.rollFile.RecorderState == kRecorderRecord && !RecordRoll(game.rollFile, table.Die1, table.Die2))
     ReportError(game, game.rollFile.LastErrorText, 61, "Record Roll");
   if (game.events.RecordEventsActive && game.events.RecordRolls)
     LogRoll(game, SourceText(game, source).c_str());
   Speak(game, Sound::kDice);
-  return true;
 }
 
 // --- After the dice.
@@ -361,14 +366,17 @@ const char* WinsLossesHeading(const EventsLog& log) {
   return log.RecordBetsWon ? "    Wins:" : "    Losses:";
 }
 
-// From the shooter's bet to the dice. False: nothing is rolled.
-bool BeforeDice(Game& game) {
+// From the shooter's bet to the fallen dice. False: nothing is rolled, and no bet has ridden.
+bool MakeRoll(Game& game) {
   TableState& table = game.table;
   if (!table.StopReason.empty()) table.StopReason.clear();
-  if (!ShooterHasBet(game) || !RollsWithinLimit(game)) return false;
+  DiceSource source = DiceSource::kGenerator;
+  if (!ShooterHasBet(game) || !RollsWithinLimit(game) || !FindDice(game, source)) return false;
   NoteRails(table);
+  // Told with the roll that follows: without one they are still to come, and must not be told twice.
   if (game.events.RecordEventsActive) LogChangesBeforeRoll(game);
   TakeSnapshots(table);
+  ThrowDice(game, source);
   return true;
 }
 
@@ -407,7 +415,7 @@ void RollDice(Game& game) {
   if (!BankrollsWithinLimit(game) || !ScriptsReady(game)) return;
   table.RollInProgress = true;
   do {
-    if (!BeforeDice(game) || !ThrowDice(game)) break;
+    if (!MakeRoll(game)) break;
     AfterDice(game);
     if (!BankrollsWithinLimit(game)) break;
   } while (GoRoundAgain(game));

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "engine/bet_catalogue.h"
 #include "engine/bet_limits.h"
 #include "engine/bet_rules.h"
 #include "engine/game.h"
@@ -175,7 +176,9 @@ void SettleOffOdds(Game& game, int seat, int bet) {
   TableState& table = game.table;
   table.NetPayoff = kZero;
   table.GrossPayoff = kZero;
-  table.BetFinished = !table.SeatBets[seat].Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
+  // Without their point line odds ride with nothing, even where handling made the flat bet again.
+  const bool onLine = bet == kPassLineOdds || bet == kDontPassOdds;
+  table.BetFinished = onLine || !table.SeatBets[seat].Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
   HandleOffOdds(game, seat, bet);
 }
 
@@ -251,8 +254,12 @@ void PassOver(Game& game, const SettleStep& step) {
   if (step.oddsBet != 0) seats |= table.SeatsUp[step.oddsBet];
   for (; seats != 0; seats &= seats - 1) {
     const int seat = kPayOrder[std::countr_zero(seats)];
+    const Currency flat = table.BetAmount(seat, step.bet);
     SettleBet(game, seat, step.code, step.bet);
-    if (step.oddsBet != 0) SettleBet(game, seat, step.code < 0 ? kOddsLose : kOddsWin, step.oddsBet);
+    if (step.oddsBet == 0) continue;
+    SettleBet(game, seat, step.code < 0 ? kOddsLose : kOddsWin, step.oddsBet);
+    // Only now, so that the odds are paid as they rode.
+    if (table.BetAmount(seat, step.bet) != flat) BringOddsIntoLine(game, seat, step.bet);
   }
 }
 
@@ -279,21 +286,19 @@ void MoveAll(Game& game, int fromBet, int toBet) {
     MoveComeBet(game, kPayOrder[std::countr_zero(seats)], fromBet, toBet);
 }
 
-constexpr BetSet kMarkBets = BetRange(kAllSmall, kSevenPoint7);
-
 // A seven takes 84 to 87.
 void LoseMarkBets(Game& game) {
   TableState& table = game.table;
   if (table.RollTotal != 7) return;
   table.NumberMarks = 0;
-  if (!table.AnyBets.Meets(kMarkBets)) return;
+  if (!table.AnyBets.Meets(kSpecialProps)) return;
   for (int bet = kAllSmall; bet <= kFourRolls; ++bet) SettleAll(game, kFlatLoses, bet);
 }
 
 // 88 and 89 when the roll after the point, or a come-out, leaves them undecided.
 void LosePointBets(Game& game, const RollFacts& roll) {
   TableState& table = game.table;
-  if (!table.AnyBets.Meets(kMarkBets)) return;
+  if (!table.AnyBets.Meets(kSpecialProps)) return;
   const bool seven = table.RollTotal == 7;
   if (!roll.comeOut) {
     if (!seven && table.PointTwoRollsAgo == 0) {
@@ -308,7 +313,7 @@ void LosePointBets(Game& game, const RollFacts& roll) {
 
 void WinPointBets(Game& game, const RollFacts& roll) {
   TableState& table = game.table;
-  if (!table.AnyBets.Meets(kMarkBets)) return;
+  if (!table.AnyBets.Meets(kSpecialProps)) return;
   if (roll.comeOut) {
     SettleAll(game, kFlatWins, kSevenPoint7);
   } else if (table.PointTwoRollsAgo == 0) {

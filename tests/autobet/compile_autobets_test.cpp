@@ -417,16 +417,16 @@ TEST(CompileAutobets, RefusesBetsThatTheTableDoesNotOffer) {
       {"cs1 = midway", "Midway"},
       {"cs1 = fire", "Fire"},
       {"cs1 = makeall", "Small-Tall-All"},
-      {"cs1 = ridetheline", "Small-Tall-All"},
+      {"bet 5 on point7", "Small-Tall-All"},
   };
   for (const auto& [script, family] : cases) {
     EXPECT_EQ(Message(Compile(script, 1, bare)), std::string("Table not configured for ") + family +
                                                      " bets. |  | Check 'Bets' tab on Configuration screen.");
     EXPECT_TRUE(Compile(script).ok) << script;
   }
-  EXPECT_TRUE(Compile("bets = 0", 1, bare).ok);
+  EXPECT_TRUE(Compile("bets = 0\nbet 5 on sharpshooter, ridetheline", 1, bare).ok);
   EXPECT_EQ(Compile("bets = 0").script.tokens.size() - Compile("bets = 0", 1, bare).script.tokens.size(),
-            (93u - 81u) * 6);
+            (93u - 83u) * 6);
 }
 
 TEST(CompileAutobets, SpansTheStatementThatFailed) {

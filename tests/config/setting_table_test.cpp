@@ -310,16 +310,22 @@ TEST(SettingTableFamilies, ASevenPointSevenThatRidesKeepsItsFamily) {
   EXPECT_EQ(Read(*table.game, "SmallTallEnabled"), "on");
 }
 
-TEST(SettingTableFamilies, TheMarksGoWithTheSpecialBets) {
-  TestTable table;
-  table.Set("ShooterBetRule", "0");
-  table.Join(1, "Ann");
-  table.Bet(1, kMakeAll, "5");
-  table.Roll(2, 2);
-  EXPECT_NE(table.State().NumberMarks, 0u);
-  table.host.answers = {"yes"};
-  table.Set("SmallTallEnabled", "off");
-  EXPECT_EQ(table.State().NumberMarks, 0u);
+TEST(SettingTableFamilies, SpecialBetsThatComeBackFindNoMarksAndNoCount) {
+  for (const bool up : {false, true}) {
+    SCOPED_TRACE(up ? "with bets up" : "with the bets taken down before");
+    TestTable table;
+    table.Set("ShooterBetRule", "0");
+    table.Join(1, "Ann");
+    for (const int bet : {kMakeAll, kFourRolls}) table.Bet(1, bet, "5");
+    table.Roll(2, 2);
+    if (!up)
+      for (const int bet : {kMakeAll, kFourRolls}) table.Bet(1, bet, "-5");
+    table.host.answers = {"yes"};
+    table.Set("SmallTallEnabled", "off");
+    table.Set("SmallTallEnabled", "on");
+    for (const int bet : {kAllSmall, kMakeAll, kFourRolls})
+      EXPECT_EQ(table.Bet(1, bet, "10"), Money("10")) << bet;
+  }
 }
 
 // --- Vig.

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "autobet/interpreter.h"
+#include "autobet/language.h"
 #include "engine/bet_catalogue.h"
 #include "engine/bet_limits.h"
 #include "engine/roll_cycle.h"
@@ -316,6 +318,46 @@ TEST(BetRules, AContractAboveALoweredMaximumStaysAndSaysWhy) {
   EXPECT_EQ(table.State().BetAmount(1, kPassLine), Money("500"));
 }
 
+TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
+  // Of the 20 on each contract 10 have ridden; the Hard 6 took all the money there was.
+  struct Case {
+    int bet;
+    const char* request;
+    const char* change;
+    std::string sentence;
+  };
+  const std::string noMoney = kNoMoney + "      - Bet less on other bets.\r" + kNoMoneyEnd;
+  const Case cases[] = {
+      {kPassLine, "5", "-10", noMoney},
+      {kPassLine, "0", "-10", noMoney},
+      {kPassLine, "-10", "-10", ""},
+      {kPassLine, "-20", "-10", kPassDown},
+      {kCome4 + 2, "5", "-10", noMoney},
+      {kField, "5", "-20", noMoney},
+      {kSevenPoint7, "5", "0", ComeOutOnly("7 Point 7")},
+      {kDontPass, "5", "0", "You may not make or increase a Don't Pass bet \rwhile a point is established."},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(BetName(c.bet) + " by " + c.request);
+    TestTable table;
+    table.Join(1, "Ann", "100");
+    table.State().AllowNegativeBankroll[1] = true;
+    for (const int bet : {static_cast<int>(kPassLine), static_cast<int>(kSevenPoint7)})
+      table.Bet(1, bet, "10");
+    table.Roll(2, 2);
+    table.Bet(1, kCome4 + 2, "10");
+    table.Bet(1, kHard6, "100");
+    table.Roll(5, 1);
+    for (const int bet : {static_cast<int>(kPassLine), kCome4 + 2}) table.Bet(1, bet, "10");
+    table.Bet(1, kField, "20");
+    table.State().AllowNegativeBankroll[1] = false;
+    table.host.boxes.clear();
+    EXPECT_EQ(PlaceBet(*table.game, 1, c.bet, Money(c.request)), Money(c.change));
+    EXPECT_EQ(table.host.boxes.size(), c.sentence.empty() ? 0u : 1u);
+    EXPECT_EQ(table.host.LastText(), c.sentence.empty() ? "" : "Ann,\r\r" + c.sentence);
+  }
+}
+
 TEST(BetRules, TheVigIsToldAsItIsCharged) {
   for (const bool upFront : {true, false}) {
     TestTable table;
@@ -421,14 +463,57 @@ TEST(BetRulesOdds, EveryMethodGivesWhatItsRuleGivesByHand) {
 }
 
 TEST(BetRulesOdds, LaidOddsAreMeasuredByWhatTheyWin) {
-  TestTable table;
-  table.Join(1, "Ann", "5000");
-  table.Bet(1, kDontPass, "10");
-  table.Roll(2, 2);
-  EXPECT_EQ(MaxBetFor(*table.game, 1, kDontPassOdds), Money("60"));
-  TakeFullOdds(*table.game, 1, kDontPassOdds);
-  EXPECT_EQ(table.State().BetAmount(1, kDontPassOdds), Money("60"));
-  EXPECT_EQ(table.game->payoffs.PayoffTable[kDontPassOdds].PayPer, Money("2"));
+  // 3, 4 and 5 times the flat bet is won on 4 and 10, 5 and 9, 6 and 8: six times is laid on all of them.
+  const std::pair<const char*, const char*> cases[] = {{"5", "30"},   {"10", "60"},  {"15", "90"},
+                                                       {"20", "120"}, {"25", "150"}, {"50", "300"},
+                                                       {"75", "450"}, {"100", "600"}};
+  for (const int number : kBoxNumbers) {
+    TestTable table;
+    table.Join(1, "Ann", "5000");
+    table.Bet(1, kDontPass, "10");
+    table.Roll(number / 2, number - number / 2);
+    const int dontCome = kDontCome4 + BoxPosition(number);
+    for (const auto& [flat, laid] : cases) {
+      SCOPED_TRACE(std::string(flat) + " on " + std::to_string(number));
+      SetBetAmount(*table.game, 1, kDontPass, Money(flat));
+      SetBetAmount(*table.game, 1, dontCome, Money(flat));
+      for (const int odds : {static_cast<int>(kDontPassOdds), dontCome + 6}) {
+        TakeFullOdds(*table.game, 1, odds);
+        EXPECT_EQ(table.State().BetAmount(1, odds), Money(laid)) << BetName(odds);
+      }
+    }
+  }
+}
+
+TEST(BetRulesOdds, LaidOddsAreChosenSoThatWholeChecksAreLaid) {
+  struct Case {
+    int method;
+    const char* multiple;
+    int number;
+    const char* flat;
+    const char* laid;
+  };
+  const Case cases[] = {
+      {1, "1", 5, "5", "7"},    // it takes 7.50 to win 5
+      {2, "1", 5, "5", "9"},    // and 9 to win 6, the next that is laid in whole dollars
+      {2, "1", 4, "5", "10"},   // every dollar takes 2
+      {3, "1", 5, "15", "30"},  // 22.50 for 15, but 30 for 20
+      {4, "1", 6, "6", "12"},   // 12 for 10, which is twice five checks
+      {5, "2", 6, "6", "24"},   // and twice that
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE("method " + std::to_string(c.method) + ", " + c.multiple + " times " + c.flat + " on " +
+                 std::to_string(c.number));
+    TestTable table;
+    Game& game = *table.game;
+    game.settings.OddsCalcMethod = c.method;
+    game.settings.OddsAllowed410 = game.settings.OddsAllowed59 = game.settings.OddsAllowed68 =
+        Money(c.multiple);
+    table.Join(1, "Ann", "5000");
+    const int flat = kDontCome4 + BoxPosition(c.number);
+    SetBetAmount(game, 1, flat, Money(c.flat));
+    EXPECT_EQ(MaxBetFor(game, 1, flat + 6), Money(c.laid));
+  }
 }
 
 TEST(BetRulesOdds, AShareIsRaisedToAMultipleOrNothing) {
@@ -534,6 +619,17 @@ TEST(BetRules, AFamilyThatIsOffTakesNoBet) {
     table.Set(name, "off");
     EXPECT_EQ(table.Bet(1, bet, "5"), kZero);
     EXPECT_EQ(table.host.LastText(), "Ann,\r\rTable not configured for " + BetName(bet) + " bets.");
+  }
+}
+
+TEST(BetRules, WhereTheSpecialPropositionsAreOffClicksAndScriptsMayMakeTheSameBets) {
+  TestTable table;
+  table.Join(1, "Ann");
+  table.Set("SmallTallEnabled", "off");
+  for (int bet = 1; bet <= kBets; ++bet) {
+    const bool offered = bet < 84 || bet > 89;
+    EXPECT_EQ(BetOffered(table.game->settings, bet), offered) << BetName(bet);
+    EXPECT_EQ(MissingBetFamily(bet, SurroundingsOf(*table.game)).empty(), offered) << BetName(bet);
   }
 }
 

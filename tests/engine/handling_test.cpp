@@ -179,6 +179,53 @@ TEST(Handling, AParlayOfAVigBetBetsTheWinningsBeforeVig) {
   EXPECT_EQ(table.State().BankrollCurrent[1], Money("2078"));
 }
 
+TEST(Handling, AutomaticOddsFollowAFlatBetThatHandlingChanged) {
+  // Come 6 with full odds of 50, both paid as they rode; then handling makes each a bet of what it is told.
+  struct Case {
+    const char* fixed;
+    bool automatic;
+    const char* odds;
+  };
+  for (const Case& c : {Case{"30", true, "150"}, Case{"30", false, "30"}, Case{"10", true, "10"}}) {
+    SCOPED_TRACE(std::string("to ") + c.fixed + (c.automatic ? " with automatic odds" : ""));
+    TestTable table;
+    table.Set("ShooterBetRule", "0");
+    table.Set("OddsCalcMethod", "1");
+    table.Join(1, "Ann");
+    Handling& handling = table.State().handling[1];
+    handling.AutoTakeOdds = true;
+    handling.WinHandling = kWinFixed;
+    handling.AdjustValue[6] = Money(c.fixed);
+    table.Roll(4, 6);
+    table.Bet(1, kCome, "10");
+    table.Roll(2, 4);
+    EXPECT_EQ(table.State().BetAmount(1, kComeOdds4 + 2), Money("50"));
+    handling.AutoTakeOdds = c.automatic;
+    table.Roll(2, 4);
+    EXPECT_EQ(table.State().BankrollCurrent[1], Money("1070"));
+    EXPECT_EQ(table.State().BetAmount(1, kCome4 + 2), Money(c.fixed));
+    EXPECT_EQ(table.State().BetAmount(1, kComeOdds4 + 2), Money(c.odds));
+  }
+}
+
+TEST(Handling, ALostBetThatMayNotBePressedStaysOnlyIfThereIsMoneyForIt) {
+  for (const char* bankroll : {"9", "10"}) {
+    TestTable table;
+    table.Set("ShooterBetRule", "0");
+    table.Join(1, "Ann", bankroll);
+    table.State().handling[1].LoseHandling = kLoseDouble;
+    table.Bet(1, kFire, "5");
+    table.Roll(2, 2);
+    table.host.boxes.clear();
+    table.Roll(3, 4);
+    const bool covered = table.State().BankrollCurrent[1] >= Money("5");
+    EXPECT_EQ(table.State().BetAmount(1, kFire), covered ? Money("5") : kZero) << bankroll;
+    ASSERT_EQ(table.host.boxes.size(), 2u);
+    EXPECT_EQ(table.host.boxes[0].title, "Fire Bet");
+    EXPECT_EQ(table.host.boxes[1].title, "Press Double") << "the refusal, and what became of the bet";
+  }
+}
+
 TEST(Handling, OddsThatWereOffComeBackWithoutAPayoff) {
   TestTable table;
   table.Set("ShooterBetRule", "0");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "dice/auto_roll.h"
 #include "engine/bet_rules.h"
 #include "support/test_host.h"
@@ -251,6 +253,33 @@ TEST(RollCycleFiles, AValueOutOfLimitsStopsAndTurnsTheRecorderOff) {
   }
 }
 
+TEST(RollCycleFiles, WithoutARollNothingOfARollHasHappened) {
+  // The file ends behind a point of 4, or goes on with no roll; then the shooter sevens out from the pad.
+  const std::string point4(1, static_cast<char>(RollByte(2, 2)));
+  for (const std::string& file : {point4, point4 + std::string(1, '\0')}) {
+    SCOPED_TRACE(file.size() == 1 ? "end of the file" : "bad value");
+    PlayingTable table(file);
+    table.Set("RecordEventsActive", "on");
+    table.Join(1, "Ann");
+    for (const int bet : {kPoint7, kSevenPoint7}) table.Bet(1, bet, "5");
+    RollDice(*table.game);
+    table.Bet(1, kPassLine, "20");
+    const std::int64_t rolls = SessionRolls(table.game->stats);
+    for (int tries = 0; tries < 2 && table.game->rollFile.RecorderState == kRecorderPlayback; ++tries)
+      RollDice(*table.game);
+    SetRecorderState(table.game->rollFile, kRecorderOff);
+    EXPECT_EQ(SessionRolls(table.game->stats), rolls);
+    EXPECT_EQ(table.State().BetCommitted(1, kPassLine), kZero);
+    EXPECT_EQ(table.Bet(1, kPassLine, "-10"), Money("-10")) << "a Put bet that hasn't ridden comes down";
+    table.Roll(3, 4);
+    EXPECT_EQ(table.State().BankrollCurrent[1], Money("1040"))
+        << "35 of Point 7 and 15 of 7 Point 7, less the Pass Line";
+    const std::vector<std::string> log = table.Log();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "      Ann bet $10 on Pass Line"), 1);
+    EXPECT_EQ(std::count(log.begin(), log.end(), "      Ann bet $20 on Pass Line"), 0);
+  }
+}
+
 TEST(RollCycleFiles, TheRollPadWinsOverTheFile) {
   PlayingTable table(std::string{static_cast<char>(RollByte(3, 4))});
   table.Roll(6, 6);
@@ -283,6 +312,24 @@ TEST(RollCyclePoint, TheWorkingStatesFollowThePointAndCallsStandAboveIt) {
   EXPECT_EQ(BetWorkingOf(game, 1, kPlace4 + 3), 0) << "a bet that comes down loses its call";
   table.Bet(1, kPlace4 + 3, "6");
   EXPECT_EQ(BetWorkingOf(game, 1, kPlace4 + 3), 0);
+}
+
+TEST(RollCyclePoint, ABetTakesTheSeatsChoiceOfTheComeOutAsItIsMade) {
+  TestTable table;
+  table.Join(1, "Ann");
+  int made = kPlace4;
+  for (const bool works : {true, false, true}) {
+    table.Set("BetDefaultWorking." + std::to_string(made), works ? "on" : "off", 1);
+    table.Bet(1, made, "10");
+    EXPECT_EQ(BetWorkingOf(*table.game, 1, made), works ? 1 : 0);
+    table.Set("BetDefaultWorking." + std::to_string(made), works ? "off" : "on", 1);
+    EXPECT_EQ(BetWorkingOf(*table.game, 1, made), works ? 1 : 0) << "the choice is for the bets to come";
+    ++made;
+  }
+  CallBet(*table.game, 1, kBuy4, false);
+  table.Set("BetDefaultWorking." + std::to_string(kBuy4), "on", 1);
+  table.Bet(1, kBuy4, "20");
+  EXPECT_EQ(BetWorkingOf(*table.game, 1, kBuy4), -1) << "a call stands above it";
 }
 
 TEST(RollCyclePoint, AutomaticOddsAndPlaceBetsThatComeDown) {

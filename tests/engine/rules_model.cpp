@@ -598,7 +598,7 @@ std::int64_t OddsChipCount(std::int64_t count, Currency q) {
 
 std::int64_t WholeChecks(Currency amount, Currency check) { return amount.raw / check.raw; }
 
-// The smallest amount from start upward, in steps of a dollar, that pays a whole number of the check.
+// The smallest amount from start upward, in steps of a dollar, whose payoff is a whole number of the check.
 Currency SmallestPayingWhole(Currency start, Currency check, Currency payTo, Currency payPer) {
   Currency amount = start;
   for (int step = 0; step < 20'000; ++step) {
@@ -638,6 +638,51 @@ Currency SmallestForPayoff(Currency limit, const Payoff* first, const Payoff* la
   return smallest;
 }
 
+// Of odds that are laid the multiple says how much may be won. The methods then choose among what may be
+// won so that it takes whole checks to win it; the answer is what must be laid for it.
+Currency MostLaid(const RulesModel& m, int bet, Currency flat) {
+  const Payoff& own = m.PayoffTable[bet];
+  const Currency multiple = OddsMultiple(m, bet);
+  const int method = m.OddsCalcMethod == 0 ? AutoOddsMethod(multiple) : m.OddsCalcMethod;
+  const auto laidFor = [&own](Currency won) { return Ratio(won, own.PayPer, own.PayTo); };
+  // Whether it takes a whole number of the check to win so much; the sum has more decimals than money has.
+  const auto takesWhole = [&own](Currency won, Currency check) {
+    return won.raw * own.PayPer.raw % (own.PayTo.raw * check.raw) == 0;
+  };
+  const Currency least = Multiply(multiple, flat);  // what may be won in any case
+  const Currency tooMuch = least + flat;
+  Currency won = least;
+  if (method == 2) {
+    // In steps that are laid in whole units: the last below, or the first above if that isn't too much.
+    const Currency step = Multiply(own.PayTo, Unit(m));
+    won = Floor(least, step);
+    if (won < least && won + step < tooMuch) won += step;
+    if (won == kZero) won = least;
+  }
+  for (int n = 5; method == 3 && n >= 1; --n) {
+    const int flatInWhole[] = {0, 0, 0, 5, 25, 100};
+    if (flat < m.CheckValue[n]) continue;
+    if (n >= 3 && !IsMultiple(flat, Currency::Dollars(flatInWhole[n]))) continue;
+    Currency tried = least;
+    for (int step = 0; step < 20'000 && !takesWhole(tried, m.CheckValue[n]); ++step) tried += kOne;
+    if (!takesWhole(tried, m.CheckValue[n])) tried = least;
+    const bool fits = n == 1 || (tried > least && tried < tooMuch);
+    if (!fits) continue;
+    won = tried;
+    break;
+  }
+  for (int n = 1; n <= 5; ++n) {
+    const Currency check = m.CheckValue[n];
+    if (method == 4)
+      won = std::max(won, TimesCount(check, OddsChipCount(WholeChecks(least, check), own.PayTo)));
+    if (method == 5)
+      won = std::max(
+          won, Multiply(TimesCount(check, OddsChipCount(WholeChecks(flat, check), own.PayTo)), multiple));
+  }
+  won = Floor(std::min(won, Floor(m.MaxOddsBet, Unit(m))), Unit(m));
+  return laidFor(won);
+}
+
 // The bets by whose records the winning numbers of 62, 63 and 64 are paid, and in how many shares.
 std::vector<int> ShareRecords(int bet) {
   if (bet == 62) return {59, 61};
@@ -650,8 +695,7 @@ Currency RawMaxBet(const RulesModel& m, int seat, int bet) {
   const Payoff& own = m.PayoffTable[bet];
   const Currency* amounts = m.BetAmount[seat];
   if (bet == 44 || In(bet, 25, 30)) return MaxOddsFor(m, bet, amounts[FlatBetOf(bet)], own.PayTo, own.PayPer);
-  if (bet == 47 || In(bet, 13, 18))
-    return Ratio(MaxOddsFor(m, bet, amounts[FlatBetOf(bet)], own.PayTo, own.PayPer), own.PayPer, own.PayTo);
+  if (bet == 47 || In(bet, 13, 18)) return MostLaid(m, bet, amounts[FlatBetOf(bet)]);
   if (In(bet, 1, 6)) return Ratio(m.MaxBet, own.PayPer, own.PayTo);
   if (In(bet, 62, 64)) {
     Currency smallest = kLargest;
@@ -822,15 +866,25 @@ bool Affordable(const RulesModel& m, int seat, int bet, Currency change) {
   return m.OnTableAmount[seat] + change + vigChange <= m.BankrollCurrent[seat];
 }
 
-Currency LimitToBankroll(const RulesModel& m, int seat, int bet, Currency change) {
-  if (m.AllowNegativeBankroll[seat] || Affordable(m, seat, bet, change)) return change;
+// The furthest down that a limit may take the bet: what has ridden under a contract stays.
+Currency LowestChange(const RulesModel& m, int seat, int bet) {
   const Currency amount = m.BetAmount[seat][bet];
-  while (change > -amount && !Affordable(m, seat, bet, change)) change = std::max(change - Unit(m), -amount);
-  const Currency newAmount = amount + change;
-  return newAmount > kZero && newAmount < MinimumFor(m, bet) ? -amount : change;
+  return IsUnderContract(m, bet) ? std::min(m.BetCommitted[seat][bet] - amount, kZero) : -amount;
+}
+
+Currency LimitToBankroll(const RulesModel& m, int seat, int bet, Currency change) {
+  const bool moved = m.MovingComeBet && (In(bet, 7, 12) || In(bet, 19, 24));
+  if (m.AllowNegativeBankroll[seat] || moved || Affordable(m, seat, bet, change)) return change;
+  const Currency amount = m.BetAmount[seat][bet];
+  const Currency lowest = LowestChange(m, seat, bet);
+  while (change > lowest && !Affordable(m, seat, bet, change)) change = std::max(change - Unit(m), lowest);
+  return amount + change < MinimumFor(m, bet) ? std::min(change, lowest) : change;
 }
 
 Currency ApplyChange(RulesModel& m, int seat, int bet, Currency change) {
+  const bool isNew = m.BetAmount[seat][bet] == kZero && change > kZero;
+  const bool called = m.BetWorking[seat][bet] == 2 || m.BetWorking[seat][bet] == -1;
+  if (isNew && !called) ResetBetWorking(m, seat, bet);
   m.BetAmount[seat][bet] += change;
   m.OnTableAmount[seat] += change;
   if (m.BetAmount[seat][bet] == kZero && change != kZero) ResetBetWorking(m, seat, bet);
@@ -861,7 +915,7 @@ Currency ChangeBet(RulesModel& m, int seat, int bet, Currency request) {
       if (change == kZero) return kZero;
     }
   } else if (IncreaseRefused(m, seat, bet, amount + change)) {
-    if (bet == 45) return kZero;
+    if (bet == 45 || change > kZero) return kZero;
     refused = true;
     change = kZero;
   }
@@ -870,8 +924,7 @@ Currency ChangeBet(RulesModel& m, int seat, int bet, Currency request) {
     change = LimitToMaximum(m, seat, bet, change);
     if (m.ProperOddsMode[seat] > 0) change = ProperOddsAmount(m, seat, bet, change);
     // Neither takes a contract bet below what has ridden.
-    if (change < kZero && IsUnderContract(m, bet) && committed <= amount)
-      change = std::max(change, committed - amount);
+    change = std::max(change, LowestChange(m, seat, bet));
   }
   change = LimitToBankroll(m, seat, bet, change);
   return ApplyChange(m, seat, bet, change);
@@ -888,9 +941,10 @@ void TakeFullOdds(RulesModel& m, int seat, int bet) {
   ChangeBet(m, seat, bet, kLargest);
 }
 
-Currency PlaceBet(RulesModel& m, int seat, int bet, Currency request) {
-  const Currency change = ChangeBet(m, seat, bet, request);
-  if (change == kZero) return change;
+namespace {
+
+// Odds after a change of their flat bet.
+void FollowFlatBet(RulesModel& m, int seat, int bet) {
   int odds = 0;
   bool automatic = false;
   if (In(bet, 19, 24) || (bet == 43 && m.Point != 0)) {
@@ -900,8 +954,15 @@ Currency PlaceBet(RulesModel& m, int seat, int bet, Currency request) {
     odds = bet == 46 ? 47 : bet + 6;
     automatic = m.AutoLayOdds[seat];
   }
-  if (odds == 0) return change;
+  if (odds == 0) return;
   if (automatic || m.BetAmount[seat][odds] > MaxBetFor(m, seat, odds)) TakeFullOdds(m, seat, odds);
+}
+
+}  // namespace
+
+Currency PlaceBet(RulesModel& m, int seat, int bet, Currency request) {
+  const Currency change = ChangeBet(m, seat, bet, request);
+  if (change != kZero) FollowFlatBet(m, seat, bet);
   return change;
 }
 
@@ -950,6 +1011,12 @@ void BuyPlaceBet(RulesModel& m, int seat, int bet) {
 
 namespace {
 
+// What a player adds to a decided bet. Where the rules refuse it the bet stays as it is if it can be paid.
+void Press(RulesModel& m, int seat, int bet, Currency request) {
+  const Currency change = ChangeBet(m, seat, bet, request);
+  if (request > kZero && change == kZero) ChangeBet(m, seat, bet, kZero);
+}
+
 void ComputePressOptions(RulesModel& m, int seat, int bet) {
   const Currency amount = m.BetAmount[seat][bet];
   for (int n = 5; n >= 1; --n) {
@@ -988,7 +1055,7 @@ void SameBetAdjusted(RulesModel& m, int seat, int bet, int slot) {
       request = value == kZero ? kZero : Divide(before, value) - before;
       break;
   }
-  ChangeBet(m, seat, bet, request);
+  Press(m, seat, bet, request);
 }
 
 void BetFixed(RulesModel& m, int seat, int bet, int slot) {
@@ -1006,7 +1073,7 @@ void BetRemainder(RulesModel& m, int seat, int bet) {
 void Parlay(RulesModel& m, int seat, int bet) {
   m.ParlayBias[seat] = true;
   if (m.NetPayoff != kZero) {
-    ChangeBet(m, seat, bet, m.NetPayoff);
+    Press(m, seat, bet, m.NetPayoff);
   } else {
     TakeFullOdds(m, seat, bet);
   }
@@ -1019,11 +1086,9 @@ void HandleWin(RulesModel& m, int seat, int bet) {
     case 1:
       return TakeDown(m, seat, bet);
     case 3:
-      ChangeBet(m, seat, bet, m.PressUnit);
-      return;
+      return Press(m, seat, bet, m.PressUnit);
     case 4:
-      ChangeBet(m, seat, bet, m.BetAmount[seat][bet]);
-      return;
+      return Press(m, seat, bet, m.BetAmount[seat][bet]);
     case 5:
       return Parlay(m, seat, bet);
     case 6:
@@ -1045,11 +1110,9 @@ void HandleLoss(RulesModel& m, int seat, int bet) {
     case 3:
       return BetRemainder(m, seat, bet);
     case 4:
-      ChangeBet(m, seat, bet, m.PressUnit);
-      return;
+      return Press(m, seat, bet, m.PressUnit);
     case 5:
-      ChangeBet(m, seat, bet, m.BetAmount[seat][bet]);
-      return;
+      return Press(m, seat, bet, m.BetAmount[seat][bet]);
     case 6:
       return SameBetAdjusted(m, seat, bet, 5);
     case 7:
@@ -1184,7 +1247,7 @@ void UpdateBetStats(RulesModel& m, int seat, int bet, Currency wagered, Currency
 void SettleOffOdds(RulesModel& m, int seat, int bet) {
   const int flat = FlatBetOf(bet);
   m.NetPayoff = kZero;
-  m.BetFinished = !IsUp(m, seat, flat) || !m.AllowPutBets;
+  m.BetFinished = !IsUp(m, seat, flat) || !m.AllowPutBets || bet == 44 || bet == 47;
   ComputePressOptions(m, seat, bet);
   if (m.BetStreak[seat][flat] < 2) {
     HandleLoss(m, seat, bet);
@@ -1235,12 +1298,15 @@ enum class Visit { Losers, Winners, Both };
 void VisitAll(RulesModel& m, const VisitOrder& order, Visit visit) {
   const RollCase roll{m.Die1, m.Die2, m.PointBeforeRoll, m.PointTwoRollsAgo, m.BarNumber};
   for (const std::vector<int>& group : order)
-    for (int seat : kPayOrder)
+    for (int seat : kPayOrder) {
+      const Currency flat = m.BetAmount[seat][group[0]];
       for (int bet : group) {
         const int code = EffectOf(bet, roll);
         if (code < 0 && visit != Visit::Winners) SettleBet(m, seat, code, bet);
         if (code > 0 && visit != Visit::Losers) SettleBet(m, seat, code, bet);
       }
+      if (group.size() > 1 && m.BetAmount[seat][group[0]] != flat) FollowFlatBet(m, seat, group[0]);
+    }
 }
 
 void TakeOffNumber(RulesModel& m, int seat, int comeBet) {

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "engine/bet_catalogue.h"
 #include "engine/bet_rules.h"
+#include "engine/handling.h"
 #include "support/test_host.h"
 
 namespace tessaryn {
@@ -87,6 +91,40 @@ TEST(Settlement, ABetThatIsOffIsNeitherWonNorLost) {
   table.Roll(3, 4);
   EXPECT_EQ(table.State().BetAmount(1, kPlace4), Money("10"));
   EXPECT_EQ(table.State().BankrollCurrent[1], Money("1000"));
+}
+
+TEST(Settlement, LineOddsThatWereOffGoBackWithTheirPoint) {
+  // The flat bet is made again by handling, so that it is up as the odds are looked at.
+  struct Case {
+    int flat;
+    int die1;
+    int die2;
+    const char* bankroll;
+  };
+  const Case cases[] = {{kPassLine, 3, 1, "1010"},
+                        {kPassLine, 3, 4, "990"},
+                        {kDontPass, 3, 1, "990"},
+                        {kDontPass, 3, 4, "1010"}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(BetName(c.flat) + " and " + std::to_string(c.die1 + c.die2));
+    TestTable table;
+    table.Set("RecordEventsActive", "on");
+    table.Join(1, "Ann");
+    table.State().handling[1].WinHandling = kWinSame;
+    table.State().handling[1].LoseHandling = kLoseSame;
+    table.Bet(1, c.flat, "10");
+    table.Roll(2, 2);
+    table.Bet(1, c.flat + 1, "20");
+    CallBet(*table.game, 1, c.flat + 1, false);
+    table.Roll(c.die1, c.die2);
+    EXPECT_EQ(table.State().BetAmount(1, c.flat), Money("10"));
+    EXPECT_EQ(table.State().BetAmount(1, c.flat + 1), kZero);
+    EXPECT_EQ(table.State().OnTableAmount[1], Money("10"));
+    EXPECT_EQ(table.State().BankrollCurrent[1], Money(c.bankroll));
+    table.Roll(1, 2);
+    const std::vector<std::string> log = table.Log();
+    EXPECT_EQ(std::count(log.begin(), log.end(), "      Ann removed $20 bet on " + BetName(c.flat + 1)), 1);
+  }
 }
 
 // --- Money that doesn't fit.
