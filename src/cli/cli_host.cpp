@@ -26,7 +26,7 @@ void SafeAnswer(MessageBox& box) {
 void CliHost::ShowMessage(Game&, MessageBox& box) { SafeAnswer(box); }
 
 bool CliHost::Yield(Game& game) {
-  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) {
+  if (rollTarget > 0 && Throws(game.stats) >= rollTarget && game.table.AutoRollActive) {
     StopRun(game, "");
     return false;
   }
