@@ -68,6 +68,9 @@ struct ScriptStep {
   int error = 0;     // the code of a statement's run-time error
 };
 
+// Seats 1 to 8 as bits.
+inline constexpr std::uint16_t kEverySeat = ((1u << kSeats) - 1) << 1;
+
 struct AutoBet {
   SeatScript Scripts[kSeatRows];
   bool ScriptActive[kSeatRows] = {};  // 0 the master switch that the roll cycle tests
@@ -84,18 +87,21 @@ struct AutoBet {
   bool ScriptRunning = false;  // clearing it stops the run at the next statement
   bool ScriptInitializing = false;
   int CurrentAutobettor = 0;
-  std::size_t Work = 0;              // done since the host had its turn: see GiveWay
-  int ScriptError = 0;               // run-time error of the current statement; 0 none
-  std::string ScriptFault;           // the text of error 10000
-  bool StepMode = false;             // the run waits after each statement
-  bool StepsShown = false;           // the steps viewer is open
-  bool StepsHold = true;             // a watched run lasts long enough to be seen
-  bool StepWaiting = false;          // in step mode: until the user asks for the next statement
-  bool HotKeyRun = false;            // Program is a hot-key's for the moment
-  std::string StatusCaption;         // "Auto-Betting" or "Hot-Key" during a run that is shown
-  double Answer = 0;                 // the last question's: 6 yes, 7 no
-  bool BeginningNewSession = false;  // no roll since the session began
-  bool RollFileEndReached = false;   // set when playback came to its end
+  std::size_t Work = 0;       // done since the host had its turn: see GiveWay
+  int ScriptError = 0;        // run-time error of the current statement; 0 none
+  std::string ScriptFault;    // the text of error 10000
+  bool StepMode = false;      // the run waits after each statement
+  bool StepsShown = false;    // the steps viewer is open
+  bool StepsHold = true;      // a watched run lasts long enough to be seen
+  bool StepWaiting = false;   // in step mode: until the user asks for the next statement
+  bool HotKeyRun = false;     // Program is a hot-key's for the moment
+  std::string StatusCaption;  // "Auto-Betting" or "Hot-Key" during a run that is shown
+  double Answer = 0;          // the last question's: 6 yes, 7 no
+  // By seat, a bit each: whose script has had no run in this session, which has not closed a roll yet; and of
+  // the run in hand, whose scripts have their first one.
+  std::uint16_t SessionAhead = kEverySeat;
+  std::uint16_t BeginningNewSession = 0;
+  bool RollFileEndReached = false;  // set when playback came to its end
 };
 
 }  // namespace tessaryn

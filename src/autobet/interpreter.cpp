@@ -466,6 +466,19 @@ void RunStatements(Run& run) {
 
 }  // namespace
 
+namespace {
+
+// The scripts that are active come to know in this run, and in no later one, that a session is beginning.
+void TakeSessionAhead(AutoBet& autobet) {
+  std::uint16_t active = 0;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (autobet.ScriptActive[seat]) active = static_cast<std::uint16_t>(active | 1u << seat);
+  autobet.BeginningNewSession = autobet.SessionAhead & active;
+  autobet.SessionAhead = static_cast<std::uint16_t>(autobet.SessionAhead & ~active);
+}
+
+}  // namespace
+
 void RunAutoBet(Game& game) {
   AutoBet& autobet = game.autobet;
   if (autobet.ScriptRunning) return;
@@ -476,10 +489,12 @@ void RunAutoBet(Game& game) {
   const std::uint32_t start = watched ? game.host->TickMilliseconds() : 0;
   if (!game.table.TurboRollActive) autobet.StatusCaption = autobet.HotKeyRun ? "Hot-Key" : "Auto-Betting";
   autobet.ScriptRunning = true;
+  if (autobet.SessionAhead != 0 && !autobet.HotKeyRun) TakeSessionAhead(autobet);
   program->returns.clear();
   Run run{game, *program, 0, false, false, false, 0, {}};
   RunStatements(run);
   autobet.ScriptRunning = false;
+  autobet.BeginningNewSession = 0;
   if (!autobet.StatusCaption.empty()) autobet.StatusCaption.clear();
   if (!game.table.TurboRollActive) FlushScriptOutputs(game);
   if (watched && autobet.StepsShown && autobet.StepsHold) EndWatchedRun(game, start);

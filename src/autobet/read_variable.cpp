@@ -29,7 +29,7 @@ bool ReadTableState(Game& game, int code, double& value) {
       value = Flag(game.autobet.ScriptInitializing);
       return true;
     case 3001:
-      value = Flag(game.autobet.BeginningNewSession);
+      value = Flag((game.autobet.BeginningNewSession >> game.autobet.CurrentAutobettor & 1) != 0);
       return true;
     case 3002:
       value = Flag(HandRolls(game.stats) == 0);

@@ -93,6 +93,9 @@ void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::
   script.Unsaved = false;
   script.Errors.clear();
   script.Acted = false;
+  // A script that comes in before the first roll has not been told yet.
+  if (SessionRolls(game.stats) == 0)
+    game.autobet.SessionAhead = static_cast<std::uint16_t>(game.autobet.SessionAhead | 1u << seat);
 }
 
 bool OpenScript(Game& game, int seat, const std::string& path, std::string& error) {

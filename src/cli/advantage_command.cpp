@@ -1,6 +1,4 @@
-#include <cmath>
 #include <cstdio>
-#include <map>
 #include <memory>
 
 #include "cli/cli_host.h"
@@ -8,6 +6,7 @@
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "config/advantage.h"
+#include "config/bets_together.h"
 #include "engine/bet_catalogue.h"
 
 namespace tessaryn::cli {
@@ -20,9 +19,7 @@ struct AdvantageOptions {
   bool json = false;
 };
 
-using Amounts = std::map<int, double>;  // dollars by bet
-
-bool ReadBets(const std::vector<std::string>& texts, Amounts& amounts) {
+bool ReadBets(const std::vector<std::string>& texts, BetAmounts& amounts) {
   for (const std::string& text : texts) {
     const auto equals = text.find('=');
     const int bet = BetByName(text.substr(0, equals));
@@ -40,32 +37,21 @@ bool ReadBets(const std::vector<std::string>& texts, Amounts& amounts) {
   return true;
 }
 
-// What the bets together are expected to bring in an hour, and how far an hour strays from it. Each bet is
-// taken to be up on every roll, and on its own: what two bets have in common is left out.
-struct Session {
-  double evPerHour = 0;
-  double stdevPerHour = 0;
-};
-
-Session SessionOf(const Game& game, const Amounts& amounts) {
-  const double rolls = game.settings.SimRollRate.ToDouble();
-  Session session;
-  double variance = 0;
-  for (const auto& [bet, amount] : amounts) {
-    const Advantage figures = FigureAdvantage(game, bet);
-    session.evPerHour += figures.evPerRoll * amount * rolls;
-    variance += figures.stdevPerRoll * figures.stdevPerRoll * amount * amount * rolls;
-  }
-  session.stdevPerHour = std::sqrt(variance);
-  return session;
+std::string NoteOn(const BetsTogether& set) {
+  std::string note;
+  if (set.waitsForPoint)
+    note = "Odds are counted while a point is on, and Come and Don't Come bets are made while one is.";
+  if (set.unknownBet == 0) return note;
+  return note + (note.empty() ? "" : " ") + "How far an hour strays from that is left out: what " +
+         BetName(set.unknownBet) + " has in common with the other bets can't be told.";
 }
 
-double AmountOn(const Amounts& amounts, int bet) {
+double AmountOn(const BetAmounts& amounts, int bet) {
   const auto found = amounts.find(bet);
   return found == amounts.end() ? 1 : found->second;
 }
 
-void PrintJson(const Game& game, const std::vector<AdvantageRow>& rows, const Amounts& amounts) {
+void PrintJson(const Game& game, const std::vector<AdvantageRow>& rows, const BetAmounts& amounts) {
   Json list = Json::array();
   for (const AdvantageRow& row : rows) {
     const Advantage& figures = row.figures;
@@ -84,13 +70,15 @@ void PrintJson(const Game& game, const std::vector<AdvantageRow>& rows, const Am
               {"dice", game.percentage.PercentageDiceActive ? "percentage" : "fair"},
               {"rows", list}};
   if (!amounts.empty()) {
-    const Session session = SessionOf(game, amounts);
-    result["session"] = {{"evPerHour", session.evPerHour}, {"stdevPerHour", session.stdevPerHour}};
+    const BetsTogether set = FigureBetsTogether(game, amounts);
+    result["session"] = {{"evPerHour", set.evPerHour}, {"stdevPerHour", set.stdevPerHour}};
+    if (set.unknownBet != 0) result["session"]["stdevPerHour"] = nullptr;
+    if (const std::string note = NoteOn(set); !note.empty()) result["session"]["note"] = note;
   }
   std::printf("%s\n", result.dump().c_str());
 }
 
-void PrintTable(const Game& game, const std::vector<AdvantageRow>& rows, const Amounts& amounts) {
+void PrintTable(const Game& game, const std::vector<AdvantageRow>& rows, const BetAmounts& amounts) {
   const double rollsPerHour = game.settings.SimRollRate.ToDouble();
   std::printf("%-24s %10s %10s %10s %10s %9s %10s\n", "bet", "EV/roll", "StDev/roll", "EV/dec", "StDev/dec",
               "rolls/dec", "EV/hour");
@@ -101,9 +89,12 @@ void PrintTable(const Game& game, const std::vector<AdvantageRow>& rows, const A
                 figures.rollsPerDecision, figures.evPerRoll * AmountOn(amounts, row.bet) * rollsPerHour);
   }
   if (amounts.empty()) return;
-  const Session session = SessionOf(game, amounts);
-  std::printf("\nAt %s rolls an hour these bets are expected to bring $%.2f an hour, give or take $%.2f.\n",
-              FormatMoney(game.settings.SimRollRate).c_str(), session.evPerHour, session.stdevPerHour);
+  const BetsTogether set = FigureBetsTogether(game, amounts);
+  std::printf("\nAt %s rolls an hour these bets are expected to bring $%.2f an hour",
+              FormatMoney(game.settings.SimRollRate).c_str(), set.evPerHour);
+  if (set.unknownBet == 0) std::printf(", give or take $%.2f", set.stdevPerHour);
+  const std::string note = NoteOn(set);
+  std::printf(".%s%s\n", note.empty() ? "" : "\n", note.c_str());
 }
 
 int ShowAdvantage(const AdvantageOptions& options) {
@@ -111,7 +102,7 @@ int ShowAdvantage(const AdvantageOptions& options) {
   const std::unique_ptr<Game> game = SetUpTable(host, options.table);
   if (!game) return kBad;
   if (options.zeroOutcomes) game->settings.IncludeZeroOutcomes = true;
-  Amounts amounts;
+  BetAmounts amounts;
   if (!ReadBets(options.bets, amounts)) return kBad;
   const std::vector<AdvantageRow> rows = AdvantageTable(*game);
   options.json ? PrintJson(*game, rows, amounts) : PrintTable(*game, rows, amounts);

@@ -31,7 +31,7 @@ bool CliHost::YieldByClock(Game& game) {
 }
 
 bool CliHost::Yield(Game& game) {
-  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) {
+  if (rollTarget > 0 && Throws(game.stats) >= rollTarget && game.table.AutoRollActive) {
     StopRun(game, "");
     return false;
   }

@@ -20,7 +20,7 @@ void WatchInterrupts();
 // The clocks, and a run of so many rolls. Questions get their safe answer: No, else Cancel, else OK.
 class CliHost : public Host {
  public:
-  // The run stops once this many rolls of the session are made; 0 never.
+  // The run stops once the dice were thrown this often, whatever sessions begin meanwhile; 0 never.
   std::int64_t rollTarget = 0;
   // Called every few milliseconds of a run.
   std::function<void(Game&)> progress;

@@ -236,10 +236,10 @@ bool Buy(Call& call) {
   return true;
 }
 
-void AnswerWithRoll(Call& call, std::int64_t rollsBefore) {
+void AnswerWithRoll(Call& call, std::int64_t throwsBefore) {
   const Game& game = call.game;
   call.answer["rolls"] = SessionRolls(game.stats);
-  call.answer["rolled"] = SessionRolls(game.stats) - rollsBefore;
+  call.answer["rolled"] = Throws(game.stats) - throwsBefore;
   call.answer["die1"] = game.table.Die1;
   call.answer["die2"] = game.table.Die2;
   call.answer["total"] = game.table.RollTotal;
@@ -259,11 +259,11 @@ bool Roll(Call& call) {
     table.ManualDie2 = faces[1];
     table.ManualRollPending = true;
   }
-  const std::int64_t before = SessionRolls(call.game.stats);
+  const std::int64_t before = Throws(call.game.stats);
   RollDice(call.game);
   table.ManualRollPending = false;
   AnswerWithRoll(call, before);
-  if (SessionRolls(call.game.stats) == before)
+  if (Throws(call.game.stats) == before)
     return call.Bad(table.StopReason.empty() ? "nothing was rolled" : table.StopReason);
   return true;
 }
@@ -273,7 +273,7 @@ bool Turbo(Call& call) {
   if (!WantWords(call, 2, 2, "turbo ROLLS") || !Amount(call, 1, rolls)) return false;
   if (!rolls.IsWhole() || rolls < Currency::Dollars(1) || rolls > Currency::Dollars(kMaxRolls))
     return call.Bad("\"" + call.words[1] + "\" is no number of rolls; 1 to 2,000,000,000");
-  const std::int64_t before = SessionRolls(call.game.stats);
+  const std::int64_t before = Throws(call.game.stats);
   call.host.rollTarget = before + rolls.raw / Currency::kPerDollar;
   const int throttle = call.game.settings.RollThrottle;
   if (throttle == kThrottleAutoRoll) call.game.settings.RollThrottle = 0;
@@ -285,7 +285,7 @@ bool Turbo(Call& call) {
   AnswerWithRoll(call, before);
   call.answer["seconds"] = seconds;
   call.answer["rollsPerSecond"] =
-      seconds > 0 ? static_cast<double>(SessionRolls(call.game.stats) - before) / seconds : 0.0;
+      seconds > 0 ? static_cast<double>(Throws(call.game.stats) - before) / seconds : 0.0;
   return true;
 }
 

@@ -10,6 +10,7 @@
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
+#include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "dice/auto_roll.h"
@@ -89,6 +90,28 @@ void PrintReport(const Game& game, const Json& run) {
   PrintErrors(game);
 }
 
+// What lets a refused run roll, by the reason that refused it.
+constexpr struct {
+  const char* reason;
+  const char* hint;
+} kHints[] = {
+    {"Shooter has no line bet.",
+     "have a script bet on passline or dontpass, or let the shooter go without: --set ShooterBetRule=0"},
+    {"Shooter has no bet.",
+     "have a script make a bet, or let the shooter go without: --set ShooterBetRule=0"},
+    {"No players are available to bet.",
+     "seat a player, --player NAME=BANKROLL, or roll without bets: --set ShooterBetRule=0"},
+};
+
+// A run that not one roll came of.
+int Refused(const std::string& reason) {
+  std::string text = "nothing was rolled";
+  if (!reason.empty()) text += ": " + AsLines(reason);
+  for (const auto& known : kHints)
+    if (reason == known.reason) text += std::string("\nHint: ") + known.hint;
+  return Fail(text);
+}
+
 int Run(const RunOptions& options) {
   CliHost host;
   const std::unique_ptr<Game> game = SetUpTable(host, options.table);
@@ -101,12 +124,13 @@ int Run(const RunOptions& options) {
   const auto start = Clock::now();
   {
     ProgressBar bar(options.rolls);
-    host.progress = [&bar](Game& running) { bar.Update(SessionRolls(running.stats)); };
+    host.progress = [&bar](Game& running) { bar.Update(Throws(running.stats)); };
     if (options.rolls > 0) ToggleAutoRoll(*game);
   }
   figures.seconds = SecondsSince(start);
-  figures.rolls = SessionRolls(game->stats);
+  figures.rolls = Throws(game->stats);
   figures.stopReason = game->table.StopReason;
+  if (options.rolls > 0 && figures.rolls == 0 && !interrupted) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
   run["scriptErrors"] = ErrorsJson(*game);
   if (options.json)

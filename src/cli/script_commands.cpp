@@ -20,12 +20,17 @@ bool Usage(ScriptCommandCall& call, std::size_t words, const char* usage) {
   return call.words.size() == words || Bad(call, std::string("expected: ") + usage);
 }
 
-bool SeatWord(ScriptCommandCall& call, int& seat) {
-  const std::string& word = call.words[1];
+// Empty, or what is wrong with the word.
+std::string ReadSeat(const Game& game, const std::string& word, int& seat) {
   const bool digit = word.size() == 1 && word[0] >= '1' && word[0] <= '8';
-  if (!digit) return Bad(call, "\"" + word + "\" is no seat; seats are 1 to 8");
+  if (!digit) return "\"" + word + "\" is no seat; seats are 1 to 8";
   seat = word[0] - '0';
-  return IsOccupied(call.game.table, seat) || Bad(call, "there is no player at seat " + word);
+  return IsOccupied(game.table, seat) ? "" : "there is no player at seat " + word;
+}
+
+bool SeatWord(ScriptCommandCall& call, int& seat) {
+  const std::string problem = ReadSeat(call.game, call.words[1], seat);
+  return problem.empty() || Bad(call, problem);
 }
 
 bool OnOff(ScriptCommandCall& call, const std::string& word, bool& on) {
@@ -84,19 +89,32 @@ bool Errors(ScriptCommandCall& call) {
   return true;
 }
 
+constexpr struct {
+  const char* word;
+  ScriptPermission permission;
+} kPermissions[] = {{"others", ScriptPermission::kOthers},
+                    {"reset", ScriptPermission::kReset},
+                    {"probabilities", ScriptPermission::kFiles},
+                    {"files", ScriptPermission::kFiles}};
+
+// Empty, or what is wrong with the word.
+std::string Permit(Game& game, int seat, const std::string& word, bool on) {
+  for (const auto& known : kPermissions) {
+    if (word != known.word) continue;
+    SetScriptPermission(game, seat, known.permission, on);
+    return "";
+  }
+  return "\"" + word + "\" is no permission; there are others, reset and probabilities (or files)";
+}
+
 bool Permission(ScriptCommandCall& call) {
   int seat = 0;
   bool on = false;
-  if (!Usage(call, 4, "permission SEAT others|reset|files on|off") || !SeatWord(call, seat) ||
+  if (!Usage(call, 4, "permission SEAT others|reset|probabilities on|off") || !SeatWord(call, seat) ||
       !OnOff(call, call.words[3], on))
     return false;
-  const char* const names[] = {"others", "reset", "files"};
-  for (int i = 0; i < 3; ++i) {
-    if (call.words[2] != names[i]) continue;
-    SetScriptPermission(call.game, seat, static_cast<ScriptPermission>(i), on);
-    return true;
-  }
-  return Bad(call, "\"" + call.words[2] + "\" is no permission; there are others, reset and files");
+  const std::string problem = Permit(call.game, seat, call.words[2], on);
+  return problem.empty() || Bad(call, problem);
 }
 
 }  // namespace
@@ -110,7 +128,7 @@ const std::vector<ScriptCommand>& ScriptCommands() {
       {{"hotkey", "FILE", "runs a script once for the selected player"}, HotKeyCommand},
       {{"steps", "on|off", "shows each step of the scripts as a line"}, Steps},
       {{"errors", "", "the run-time errors of the scripts by kind, each with its first place"}, Errors},
-      {{"permission", "SEAT others|reset|files on|off", "what a player's script may do"}, Permission},
+      {{"permission", "SEAT others|reset|probabilities on|off", "what a player's script may do"}, Permission},
   };
   return commands;
 }
@@ -150,6 +168,25 @@ bool LoadScripts(Game& game, const std::vector<std::string>& files,
       return false;
     }
     SetScriptActive(game, seat, true);
+  }
+  return true;
+}
+
+bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
+  for (const std::string& permit : permits) {
+    const auto equals = permit.find('=');
+    int seat = 0;
+    std::string problem = equals == std::string::npos ? "expected SEAT=PERMISSION,..."
+                                                      : ReadSeat(game, permit.substr(0, equals), seat);
+    for (auto at = equals; problem.empty() && at != std::string::npos;) {
+      const auto comma = permit.find(',', at + 1);
+      problem = Permit(game, seat, permit.substr(at + 1, comma - at - 1), true);
+      at = comma;
+    }
+    if (!problem.empty()) {
+      Fail("--permit " + permit + ": " + problem);
+      return false;
+    }
   }
   return true;
 }

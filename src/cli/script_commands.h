@@ -30,6 +30,10 @@ bool DoScriptCommand(Game& game, PlayHost& host, const std::vector<std::string>&
 bool LoadScripts(Game& game, const std::vector<std::string>& files,
                  const std::vector<std::string>& outputFolders);
 
+// Gives the permissions of SEAT=PERMISSION,... to the seats' scripts. False, with the reason told on standard
+// error, when one names no player or no permission.
+bool PermitScripts(Game& game, const std::vector<std::string>& permits);
+
 // A message of the table with its line ends as lines of a terminal.
 std::string AsLines(const std::string& text);
 

@@ -87,7 +87,7 @@ std::int64_t SumNumbers(const Statistics& stats, int slot, NumberKind kind) {
 
 Currency SumBets(const Statistics& stats, StatTable table, int seat, StatKind kind) {
   Currency sum;
-  for (int bet = 1; bet <= kBets; ++bet) sum += BetStat(stats, table, kCurrentSession, seat, bet, kind);
+  for (int bet = 1; bet <= kBets; ++bet) sum += BetStat(stats, table, kAllSessions, seat, bet, kind);
   return sum;
 }
 
@@ -141,10 +141,11 @@ Json StatsJson(const Game& game, int seat, int scope, int bet) {
 
 Json RunJson(const Game& game, const RunFigures& figures) {
   const Statistics& stats = game.stats;
-  const int table = Slot(kCurrentSession, 0);
+  // A script may have begun sessions: the run is all of them.
+  const int table = Slot(kAllSessions, 0);
   Json totals = Json::object();
   for (int total = 2; total <= 12; ++total)
-    totals[std::to_string(total)] = RollCount(stats, kCurrentSession, 0, total);
+    totals[std::to_string(total)] = RollCount(stats, kAllSessions, 0, total);
   Json seats = Json::array();
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;

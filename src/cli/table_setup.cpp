@@ -37,6 +37,13 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
       ->take_all()
       ->allow_extra_args(false);
   command
+      .add_option(
+          "--permit", options.permits,
+          "What a player's script may do, SEAT=others,reset,probabilities: act for other players, start "
+          "sessions, use probability and dice roll files")
+      ->take_all()
+      ->allow_extra_args(false);
+  command
       .add_option("--allow-output", options.outputFolders,
                   "A folder that scripts may write to, besides output in the data folder")
       ->take_all()
@@ -192,8 +199,8 @@ std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
   std::vector<WantedSetting> wanted;
   const bool ready = CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
                      SeatPlayers(*game, options) && ApplySettings(*game, wanted, true) &&
-                     SaveSettings(*game, options) && SeedDice(*game, options) &&
-                     OpenDiceFiles(*game, options) &&
+                     PermitScripts(*game, options.permits) && SaveSettings(*game, options) &&
+                     SeedDice(*game, options) && OpenDiceFiles(*game, options) &&
                      LoadScripts(*game, options.scripts, options.outputFolders);
   return ready ? std::move(game) : nullptr;
 }

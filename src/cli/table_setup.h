@@ -24,6 +24,7 @@ struct TableOptions {
   std::string probabilities;
   std::string eventsLog;
   std::vector<std::string> scripts;        // the k-th for the k-th player
+  std::vector<std::string> permits;        // SEAT=PERMISSION,...: what scripts may do
   std::vector<std::string> outputFolders;  // where scripts may write, besides the data folder
   int rng = 0;                             // 1 to 8; 0 the start-up generator
   std::string seed;

@@ -7,43 +7,12 @@
 #include <limits>
 #include <span>
 
+#include "config/bet_results.h"
 #include "engine/bet_catalogue.h"
 #include "engine/game.h"
 
 namespace tessaryn {
 namespace {
-
-// The dice as probabilities, by faces and by total.
-struct DiceOdds {
-  double cell[7][7] = {};
-  double total[13] = {};
-};
-
-DiceOdds OddsInForce(const Game& game, bool percentageDice) {
-  DiceOdds odds;
-  const ProbabilityPlane& values = game.percentage.ProbMatrix[1];
-  for (int die1 = 1; die1 <= 6; ++die1)
-    for (int die2 = 1; die2 <= 6; ++die2) {
-      const int row = ProbabilityRow(die1, die2);
-      const int column = ProbabilityColumn(die1, die2);
-      const double p = percentageDice ? values[row][column] / 100'000.0 : 1.0 / 36.0;
-      odds.cell[die1][die2] = p;
-      odds.total[die1 + die2] += p;
-    }
-  return odds;
-}
-
-// Brought to a sum of 1: a chain of rolls must end somewhere.
-DiceOdds Normalised(const DiceOdds& odds) {
-  double sum = 0;
-  for (const double p : odds.total) sum += p;
-  DiceOdds result = odds;
-  if (sum <= 0) return result;
-  for (auto& row : result.cell)
-    for (double& p : row) p /= sum;
-  for (double& p : result.total) p /= sum;
-  return result;
-}
 
 // How a decision of a bet comes out: the mean of the result, of its square, and the rolls it takes.
 struct Outcome {
@@ -72,115 +41,16 @@ struct Results {
   }
 };
 
-double Ratio(const PayoffRecord& record) { return record.PayTo.ToDouble() / record.PayPer.ToDouble(); }
+// --- Bets that stand by themselves.
 
-struct Case {
-  const Game& game;
-  const DiceOdds& odds;
-
-  double Pays(int bet) const { return Ratio(game.payoffs.PayoffTable[bet]); }
-  double Total(int total) const { return odds.total[total]; }
-};
-
-// --- Bets that stay up until their number or the seven.
-
-Outcome AgainstSeven(const Case& c, int number, double onNumber, double onSeven) {
-  Results results;
-  results.Add(c.Total(number), onNumber);
-  results.Add(c.Total(7), onSeven);
-  return results.Decision(1);
-}
-
-// The win of a bet with vig, for a unit laid out: the bet alone, or bet and vig when it is up front.
-double WinAfterVig(double ratio, double vig, bool upFront) {
-  if (!upFront) return ratio - vig;
-  const double bet = 1 / (1 + vig);
-  return bet * ratio - (1 - bet);
-}
-
-Outcome Lay(const Case& c, int bet) {
-  const Settings& settings = c.game.settings;
-  const double ratio = c.Pays(bet);
-  const double vig = ratio > 0 ? settings.LayVigRate.ToDouble() * ratio : 0;
-  return AgainstSeven(c, kBoxNumbers[bet - kLay4], -1, WinAfterVig(ratio, vig, settings.LayVigUpFront));
-}
-
-Outcome Buy(const Case& c, int bet) {
-  const Settings& settings = c.game.settings;
-  const double ratio = c.Pays(bet);
-  const double vig = ratio > 0 ? settings.BuyVigRate.ToDouble() : 0;
-  return AgainstSeven(c, kBoxNumbers[bet - kBuy4], WinAfterVig(ratio, vig, settings.BuyVigUpFront), -1);
-}
-
-Outcome Hardway(const Case& c, int bet) {
-  const int face = bet - kHard4 + 2;
-  const double hard = c.odds.cell[face][face];
-  Results results;
-  results.Add(hard, c.Pays(bet));
-  results.Add(c.Total(2 * face) - hard + c.Total(7), -1);
-  return results.Decision(1);
-}
-
-// --- Bets on one roll: a result for each pair of faces.
-
-double FieldResult(const Case& c, int, int die1, int die2) {
-  return Ratio(c.game.payoffs.FieldPayoffs[FieldRow(die1, die2)]);
-}
-double MidwayResult(const Case& c, int, int die1, int die2) {
-  const int row = MidwayRow(die1, die2);
-  return row == 0 ? -1 : Ratio(c.game.payoffs.MidwayPayoffs[row]);
-}
-double TotalResult(const Case& c, int bet, int die1, int die2) {
-  constexpr int kTotals[] = {2, 3, 7, 11, 12};
-  return die1 + die2 == kTotals[bet - kTwo] ? c.Pays(bet) : -1;
-}
-double CrapsResult(const Case& c, int bet, int die1, int die2) {
-  const int total = die1 + die2;
-  return total == 2 || total == 3 || total == 12 ? c.Pays(bet) : -1;
-}
-double OverUnderResult(const Case& c, int bet, int die1, int die2) {
-  const int total = die1 + die2;
-  return (bet == kOver7 ? total > 7 : total < 7) ? c.Pays(bet) : -1;
-}
-double HopResult(const Case& c, int bet, int die1, int die2) {
-  return HopBet(die1, die2) == bet ? c.Pays(bet) : -1;
-}
-// One share wins by the record of its own bet, the others lose.
-double SharedResult(const Case& c, int bet, int die1, int die2) {
-  int part = 0;
-  switch (die1 + die2) {
-    case 2:
-      part = bet == kCAndE ? kCraps : kTwo;
-      break;
-    case 3:
-      part = bet == kCAndE ? kCraps : kThree;
-      break;
-    case 7:
-      part = bet == kWorld ? kSeven : 0;
-      break;
-    case 11:
-      part = kEleven;
-      break;
-    case 12:
-      part = bet == kCAndE ? kCraps : kTwelve;
-      break;
-    default:
-      break;
-  }
-  if (part == 0) return -1;
-  const double shares = bet == kCAndE ? 2 : bet == kHorn ? 4 : 5;
-  return (c.Pays(part) - (shares - 1)) / shares;
-}
-
-using CellResult = double (*)(const Case&, int bet, int die1, int die2);
-
-Outcome OneRoll(const Case& c, int bet, CellResult result) {
+Outcome StandingOutcome(const Case& c, int bet) {
   Results results;
   for (int die1 = 1; die1 <= 6; ++die1)
-    for (int die2 = 1; die2 <= 6; ++die2) results.Add(c.odds.cell[die1][die2], result(c, bet, die1, die2));
+    for (int die2 = 1; die2 <= 6; ++die2)
+      results.Add(c.odds.cell[die1][die2], ResultOnRoll(c, bet, die1, die2));
   Outcome outcome = results.Decision(1);
   // Whatever the cells add up to, every roll decides.
-  if (outcome.rolls > 0) outcome = {results.sum, results.squares, 1};
+  if (outcome.rolls > 0 && IsOneRollBet(bet)) outcome = {results.sum, results.squares, 1};
   return outcome;
 }
 
@@ -195,45 +65,35 @@ double RollsToDecide(const DiceOdds& odds, int number) {
   return both > 0 ? 1 / both : 0;
 }
 
-void AddPassComeOut(const Case& c, Results& results) {
-  results.Add(c.Total(7) + c.Total(11), c.Pays(kCome));
-  results.Add(c.Total(2) + c.Total(3) + c.Total(12), -1);
+// The come-out roll alone. A barred number decides nothing.
+void AddComeOut(const Case& c, bool pass, Results& results) {
+  for (int total = 2; total <= 12; ++total) results.Add(c.Total(total), LineResult(c, pass, 0, total));
 }
 
-void AddDontComeOut(const Case& c, Results& results) {
-  for (const int craps : {2, 3, 12})
-    if (craps != c.game.settings.BarNumber) results.Add(c.Total(craps), c.Pays(kDontCome));
-  results.Add(c.Total(7) + c.Total(11), -1);
-}
-
-// From the come-out to the decision. A barred number decides nothing.
-Outcome Line(const Case& c, bool pass) {
-  Results results;
-  pass ? AddPassComeOut(c, results) : AddDontComeOut(c, results);
-  double rolls = 1;
-  for (int i = 0; i < 6; ++i) {
-    const int number = kBoxNumbers[i];
+// The points as they are set, each to its decision. Returns the rolls that they take.
+double AddPoints(const Case& c, bool pass, LineResultOf result, Results& results) {
+  double rolls = 0;
+  for (const int number : kBoxNumbers) {
     const double set = c.Total(number);
     const double made = ChanceBeforeSeven(c.odds, number);
     rolls += set * RollsToDecide(c.odds, number);
-    results.Add(set * made, pass ? c.Pays(kCome4 + i) : -1);
-    results.Add(set * (1 - made), pass ? -1 : c.Pays(kDontCome4 + i));
+    results.Add(set * made, result(c, pass, number, number));
+    results.Add(set * (1 - made), result(c, pass, number, 7));
   }
+  return rolls;
+}
+
+// From the come-out to the decision.
+Outcome Line(const Case& c, bool pass) {
+  Results results;
+  AddComeOut(c, pass, results);
+  const double rolls = 1 + AddPoints(c, pass, LineResult, results);
   return results.Decision(rolls);
 }
 
-// Odds on the points as they are set.
 Outcome LineOdds(const Case& c, bool pass) {
   Results results;
-  double rolls = 0;
-  for (int i = 0; i < 6; ++i) {
-    const int number = kBoxNumbers[i];
-    const double set = c.Total(number);
-    const double made = ChanceBeforeSeven(c.odds, number);
-    rolls += set * RollsToDecide(c.odds, number);
-    results.Add(set * made, pass ? c.Pays(kComeOdds4 + i) : -1);
-    results.Add(set * (1 - made), pass ? -1 : c.Pays(kDontComeOdds4 + i));
-  }
+  const double rolls = AddPoints(c, pass, LineOddsResult, results);
   return results.Decision(rolls);
 }
 
@@ -406,64 +266,25 @@ Outcome SpecialOutcome(const Case& c, int bet) {
   }
 }
 
-Outcome ComeOutOutcome(const Case& c, int row) {
+Outcome ComeOutOutcome(const Case& c, bool pass) {
   Results results;
-  row == kPassComeOutRow ? AddPassComeOut(c, results) : AddDontComeOut(c, results);
+  AddComeOut(c, pass, results);
   return results.Decision(1);
 }
 
-Outcome NumberOutcome(const Case& c, int bet) {
-  const int number = kBoxNumbers[(bet - 1) % 6];
-  if (IsLay(bet)) return Lay(c, bet);
-  if (IsBuy(bet)) return Buy(c, bet);
-  if (IsDontComeNumber(bet) || IsDontComeOdds(bet)) return AgainstSeven(c, number, -1, c.Pays(bet));
-  return AgainstSeven(c, number, c.Pays(bet), -1);
+Outcome TableOutcome(const Case& c, int bet) {
+  if (IsLineOdds(bet)) return LineOdds(c, bet == kPassLineOdds);
+  if (IsLineFamily(bet)) return Line(c, bet == kPassLine || bet == kCome);
+  return StandingOutcome(c, bet);
 }
-
-Outcome LayoutOutcome(const Case& c, int bet) {
-  switch (bet) {
-    case kPassLine:
-    case kCome:
-      return Line(c, true);
-    case kDontPass:
-    case kDontCome:
-      return Line(c, false);
-    case kPassLineOdds:
-      return LineOdds(c, true);
-    case kDontPassOdds:
-      return LineOdds(c, false);
-    case kField:
-      return OneRoll(c, bet, FieldResult);
-    case kBig6:
-      return AgainstSeven(c, 6, c.Pays(bet), -1);
-    case kBig8:
-      return AgainstSeven(c, 8, c.Pays(bet), -1);
-    case kCraps:
-      return OneRoll(c, bet, CrapsResult);
-    case kOver7:
-    case kUnder7:
-      return OneRoll(c, bet, OverUnderResult);
-    case kMidway:
-      return OneRoll(c, bet, MidwayResult);
-    default:
-      break;
-  }
-  if (bet >= kHard4 && bet <= kHard10) return Hardway(c, bet);
-  if (bet >= kTwo && bet <= kTwelve) return OneRoll(c, bet, TotalResult);
-  if (bet >= kCAndE && bet <= kWorld) return OneRoll(c, bet, SharedResult);
-  return OneRoll(c, bet, HopResult);
-}
-
-bool IsSpecial(int bet) { return bet >= kAllSmall && bet <= kFire && bet != kMidway; }
 
 Outcome OutcomeOf(const Game& game, const DiceOdds& odds, int bet) {
-  if (bet == kPassComeOutRow || bet == kDontComeOutRow) return ComeOutOutcome({game, odds}, bet);
+  const bool passComeOut = bet == kPassComeOutRow;
+  if (passComeOut || bet == kDontComeOutRow) return ComeOutOutcome({game, odds}, passComeOut);
   if (!IsTableBet(bet)) return {};
-  if (IsSpecial(bet)) {
-    const DiceOdds normalised = Normalised(odds);
-    return SpecialOutcome({game, normalised}, bet);
-  }
-  return bet < kPassLine ? NumberOutcome({game, odds}, bet) : LayoutOutcome({game, odds}, bet);
+  if (!IsLongBet(bet)) return TableOutcome({game, odds}, bet);
+  const DiceOdds normalised = Normalised(odds);
+  return SpecialOutcome({game, normalised}, bet);
 }
 
 double Rounded(double value, double places) {

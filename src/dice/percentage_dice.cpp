@@ -69,7 +69,10 @@ using Combinations = std::array<std::int32_t, 36>;  // in the order of the walk
 struct Edit {
   Combinations Values{};
   Combinations Flags{};
+  std::array<std::int32_t, kProbabilityColumns>
+      LockedTotals{};  // their own values, by column; else kUnlocked
 };
+constexpr std::int32_t kUnlocked = -1;
 
 // Whether the combination at a place of the walk belongs to the group of a total or a face.
 bool InGroup(std::size_t at, int row, int column) {
@@ -111,6 +114,9 @@ Edit StartEdit(PercentageDice& dice) {
     edit.Values[at] = Value(dice, cell.row, cell.column);
     edit.Flags[at] = Flags(dice, cell.row, cell.column) & kCellLocked;
   }
+  edit.LockedTotals.fill(kUnlocked);
+  for (int column = 1; column <= 11; ++column)
+    if (IsLocked(dice, kTotalRow, column)) edit.LockedTotals[column] = Value(dice, kTotalRow, column);
   ForEachGroupCell([&](int row, int column) {
     if (!IsLocked(dice, row, column)) return;
     for (std::size_t at = 0; at < 36; ++at)
@@ -125,6 +131,25 @@ struct Share {
   int Free = 0;
 };
 
+// By what the combinations of a part hold more than the locked totals that lie wholly in it. These claim
+// their own value, whatever their combinations add up to by rounding.
+template <typename Belongs>
+std::int64_t RoundedExcess(const Edit& edit, Belongs belongs) {
+  std::int64_t excess = 0;
+  for (int column = 1; column <= 11; ++column) {
+    if (edit.LockedTotals[column] == kUnlocked) continue;
+    std::int64_t sum = 0;
+    bool whole = true;
+    for (std::size_t at = 0; at < 36; ++at) {
+      if (kGeometry.Walk[at].column != column) continue;
+      sum += edit.Values[at];
+      whole = whole && belongs(at);
+    }
+    if (whole) excess += sum - edit.LockedTotals[column];
+  }
+  return excess;
+}
+
 template <typename Belongs>
 Share Survey(const Edit& edit, std::int32_t bindingFlags, Belongs belongs) {
   Share share;
@@ -136,6 +161,7 @@ Share Survey(const Edit& edit, std::int32_t bindingFlags, Belongs belongs) {
       ++share.Free;
     }
   }
+  if ((bindingFlags & kInLockedTotal) != 0) share.Bound -= RoundedExcess(edit, belongs);
   return share;
 }
 

@@ -87,7 +87,9 @@ struct Host {
   virtual bool YieldByClock(Game& game) { return Yield(game); }
   // Waits in Auto-Roll for a little while, giving way to user events.
   virtual void Wait(Game& game) { Yield(game); }
-  // A millisecond clock that only goes forward.
+  // A millisecond clock that only goes forward: the machine's own tick, counted since the machine's start and
+  // never since the program's. Dice are seeded from it, and a clock that begins with the program would give
+  // every evening the same few seeds.
   virtual std::uint32_t TickMilliseconds() = 0;
   // Date and time in the platform's short form, and as seconds since midnight.
   virtual std::string DateText() = 0;

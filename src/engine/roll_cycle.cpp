@@ -402,7 +402,8 @@ void AfterDice(Game& game) {
   CloseRoll(table);
   RunScripts(game);
   CopyAfterRoll(table);
-  game.autobet.BeginningNewSession = false;
+  // Unless a script has just begun the next session.
+  if (game.autobet.SessionAhead != 0 && SessionRolls(game.stats) > 0) game.autobet.SessionAhead = 0;
   RequireConsistency(game);
 }
 

@@ -29,7 +29,6 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   ResetPayoffs(game->payoffs, game->settings.Unit());
   table.BetDefaultWorking[0] = HouseWorkingBets();
   for (int seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
-  game->autobet.BeginningNewSession = true;
   return game;
 }
 

@@ -19,13 +19,14 @@ std::string Lower(std::string text) {
   return text;
 }
 
-// A contract bet that the session leaves behind is the house's.
+// A contract bet that the session leaves behind is the house's: what has ridden. What was added since is no
+// contract yet and goes back with the other bets.
 void Abandon(Game& game, int seat, int bet) {
   TableState& table = game.table;
-  const Currency amount = table.BetAmount(seat, bet);
-  if (amount == kZero || table.BetCommitted(seat, bet) == kZero) return;
-  table.BankrollCurrent[seat] -= amount;
-  SetBetAmount(game, seat, bet, kZero);
+  const Currency ridden = std::min(table.BetAmount(seat, bet), table.BetCommitted(seat, bet));
+  if (ridden == kZero) return;
+  table.BankrollCurrent[seat] -= ridden;
+  SetBetAmount(game, seat, bet, table.BetAmount(seat, bet) - ridden);
 }
 
 void AbandonContracts(Game& game) {
@@ -150,7 +151,7 @@ void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool ke
   if (game.events.RecordEventsActive && game.events.ClearLogOnNewSession) ClearEventsLog(game);
   if (game.generators.RngReseedNewSessions) SeedRng(game, false);
   LogSessionStart(game);
-  game.autobet.BeginningNewSession = true;
+  game.autobet.SessionAhead = kEverySeat;
   game.autobet.RollFileEndReached = false;
   game.host->Changed(game, Change::kEverything);
   RequireConsistency(game);

@@ -102,7 +102,7 @@ QLabel* TurboPanel::AddFigure(QGridLayout& grid, int row, const QString& caption
 
 void TurboPanel::Begin(const Game& game) {
   clock_.start();
-  firstRoll_ = SessionRolls(game.stats);
+  firstRoll_ = Throws(game.stats);
   cents_ = false;
   const int nameWidth = names_[0]->fontMetrics().averageCharWidth() * kNameColumns;
   for (int row = 0; row < kSeats; ++row) {
@@ -124,7 +124,7 @@ QString TurboPanel::Amount(Currency value) const {
 
 void TurboPanel::Refresh(const Game& game) {
   const qint64 elapsed = clock_.elapsed();
-  const double rolls = static_cast<double>(SessionRolls(game.stats) - firstRoll_);
+  const double rolls = static_cast<double>(Throws(game.stats) - firstRoll_);
   rolls_->setText(WholeNumber(rolls));
   rate_->setText(WholeNumber(elapsed > 0 ? rolls * 1000 / static_cast<double>(elapsed) : 0));
   time_->setText(ClockText(elapsed));

@@ -386,6 +386,7 @@ void EndHandStatistics(Game& game) {
 
 void StartSessionStatistics(Game& game) {
   Statistics& stats = game.stats;
+  stats.ThrowsBeforeSession += SessionRolls(stats);
   if (HandRolls(stats) > 0) EndHandStatistics(game);
   if (SessionRolls(stats) > 0) {
     for (int seat = 0; seat <= kSeats; ++seat) {
@@ -413,9 +414,7 @@ void StartSessionStatistics(Game& game) {
   stats.HandComeoutRolls = stats.HandPasses = stats.HandMisses = 0;
 }
 
-void ClearPreviousSessions(Game& game) {
-  for (const int scope : {kLastHand, kLastSession, kAllSessions}) ZeroScope(game.stats, scope, true);
-}
+void ClearPreviousSessions(Game& game) { ZeroScope(game.stats, kAllSessions, true); }
 
 void ClearSeatStatistics(Game& game, int seat) {
   Statistics& stats = game.stats;

@@ -49,6 +49,8 @@ struct Statistics {
   // Like the bets, rolls are counted in the current hand alone.
   std::int32_t PairCounts[kSlots][kDicePairs] = {};
   std::int32_t RollTotals[kSlots] = {};  // item 0
+  // Of all sessions before this one, whatever is kept of them: no new session sets it back.
+  std::int64_t ThrowsBeforeSession = 0;
   // A gap is counted when it ends: the session roll that an item last came on, 0 never.
   std::int32_t ItemLastRoll[kRollItems] = {};
   std::int32_t RollGapCounts[kRollItems][kGapCells] = {};
@@ -88,6 +90,11 @@ Currency BankrollOf(const Game& game, int scope, int seat);
 inline std::int64_t SessionRolls(const Statistics& stats) {
   return stats.RollTotals[Slot(kCurrentSession, 0)];
 }
+// How often the dice were thrown at this table: what a run of so many rolls counts, since a script may begin
+// a session in the middle of it.
+inline std::int64_t Throws(const Statistics& stats) {
+  return stats.ThrowsBeforeSession + SessionRolls(stats);
+}
 inline std::int64_t HandRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentHand, 0)]; }
 // Turns a StatLastRoll of a scope into rolls since then; -1 for never.
 std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);
@@ -114,7 +121,7 @@ void CloseRollStatistics(Game& game);
 void EndHandStatistics(Game& game);
 // The rotation of a new session: session slots become last session; hand and session start at zero.
 void StartSessionStatistics(Game& game);
-// Everything of all sessions, and of the last session, to zero.
+// Everything of all sessions to zero; the last session and the last hand stay.
 void ClearPreviousSessions(Game& game);
 // A seat's entries to zero, and the exchange of two seats.
 void ClearSeatStatistics(Game& game, int seat);

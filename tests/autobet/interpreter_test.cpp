@@ -192,6 +192,41 @@ TEST(Interpreter, SeveralScriptsRunInSeatOrder) {
   EXPECT_EQ(table.Bet(101, 2), 0) << "jumps are moved with the script";
 }
 
+TEST(Interpreter, ASessionBeginsInOneRunOfEachScript) {
+  constexpr const char* kCount = "add 1 to cs2\nif beginning new session then add 1 to cs1 endif\n";
+  struct Case {
+    const char* name;
+    bool initialised[2];  // the scripts of both seats together, and the second on its own later
+    const char* more;     // of Ann's script
+    double begun[2];      // by seat, after four rolls
+  };
+  const Case cases[] = {
+      {"the first run", {false, false}, "", {1, 1}},
+      {"the initialising run", {true, false}, "", {1, 1}},
+      {"a script that comes later has its own", {false, true}, "", {1, 1}},
+      {"a session in mid run begins in the next",
+       {true, false},
+       "if cs2 = 3 then start new session (preserve checkstacks) endif",
+       {2, 2}},
+  };
+  for (const Case& one : cases) {
+    SCOPED_TRACE(one.name);
+    ScriptTable table;
+    ASSERT_EQ(table.Load(1, std::string(kCount) + one.more), "");
+    SetScriptPermission(*table.game, 1, ScriptPermission::kReset, true);
+    if (one.initialised[1]) {
+      EXPECT_TRUE(InitialiseScripts(*table.game));
+    }
+    ASSERT_EQ(table.Load(2, kCount), "");
+    if (one.initialised[0] || one.initialised[1]) {
+      EXPECT_TRUE(InitialiseScripts(*table.game));
+    }
+    for (int roll = 0; roll < 4; ++roll) table.Dice(3, 1 + roll % 2);
+    EXPECT_EQ(table.Bet(101, 1), one.begun[0]);
+    EXPECT_EQ(table.Bet(101, 2), one.begun[1]);
+  }
+}
+
 TEST(Interpreter, AScriptWithoutEndIsStoppedWithTheTableWhole) {
   ScriptTable table;
   table.host.yieldLimit = 5000;

@@ -30,8 +30,7 @@ struct TestHost : Host {
   int result = 0;                   // 0: the safe answer
   std::vector<std::string> steps;   // "line text"
   std::vector<std::string> sounds;
-  std::int64_t rollTarget = 0;      // of the session
-  std::int64_t allRollsTarget = 0;  // of all sessions
+  std::int64_t rollTarget = 0;      // of dice thrown
   std::int64_t yields = 0;
   std::int64_t yieldLimit = 0;  // stops the run in progress
   std::uint32_t tick = 0;
@@ -56,9 +55,7 @@ struct TestHost : Host {
       game.autobet.ScriptRunning = false;
       StopRun(game, "");
     }
-    const std::int64_t allRolls = allRollsTarget > 0 ? RollCount(game.stats, kAllSessions, 0, 0) : -1;
-    if (allRolls >= allRollsTarget) StopRun(game, "");
-    if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget) StopRun(game, "");
+    if (rollTarget > 0 && Throws(game.stats) >= rollTarget) StopRun(game, "");
     return false;
   }
   void Wait(Game& game) override {
@@ -158,7 +155,7 @@ struct ScriptTable {
   }
   // So many rolls at full speed.
   void Turbo(std::int64_t rolls) {
-    host.rollTarget = SessionRolls(game->stats) + rolls;
+    host.rollTarget = Throws(game->stats) + rolls;
     ToggleAutoRoll(*game);
     host.rollTarget = 0;
   }

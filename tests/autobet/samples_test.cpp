@@ -47,9 +47,7 @@ TEST(Samples, EachPlaysTenThousandRollsWithAPlausibleOutcome) {
       SetBankroll(game, seat, Currency::Dollars(100'000));
       SetScriptActive(game, seat, seat == 1 || sample.number == 11);
     }
-    game.autobet.BeginningNewSession = true;
-    table.host.allRollsTarget = 10'000;
-    ToggleAutoRoll(game);
+    table.Turbo(10'000);
     EXPECT_EQ(RollCount(game.stats, kAllSessions, 0, 0), 10'000);
     double wagered = 0;
     double net = 0;

@@ -257,6 +257,11 @@ TEST(CliAdvantage, TheTableIsThereAndBadBetsAreNamed) {
     }
   EXPECT_TRUE(found);
   EXPECT_NEAR(table["session"]["evPerHour"].get<double>(), -0.004189 * 10 * 120, 1e-6);
+  const Ran set = RunCli(folder, {"advantage", "--data-folder", folder.Path(), "--json", "--bet",
+                                  "passline=10", "--bet", "fire=5"});
+  const Json session = Json::parse(set.out)["session"];
+  EXPECT_TRUE(session["stdevPerHour"].is_null());
+  EXPECT_NE(session["note"].get<std::string>().find("left out"), std::string::npos);
   for (const char* bad : {"94=5", "passline", "passline=x", "passline=0"}) {
     const Ran refused = RunCli(folder, {"advantage", "--data-folder", folder.Path(), "--bet", bad});
     EXPECT_EQ(refused.exitCode, 1) << bad;

@@ -1,8 +1,10 @@
 // The command-line program as other programs use it: commands in, JSON lines out, exit codes.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <set>
 #include <sstream>
 
 #include "support/cli_process.h"
@@ -247,6 +249,23 @@ TEST(CliPlay, RubbishOnThePipeIsAnsweredLineByLine) {
   EXPECT_EQ(answers.back()["ok"], true);
 }
 
+// Seeds come from the machine's own clock: one that began with the program would give all starts the same few.
+TEST(CliPlay, EveryStartHasASeedOfItsOwn) {
+  const auto tick = [] {
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(now).count() & 0xffffffff;
+  };
+  constexpr std::int64_t kLimit = 2'147'483'647;
+  std::set<std::int64_t> seeds;
+  for (int start = 0; start < 6; ++start) {
+    const std::int64_t before = tick();
+    const std::int64_t seed = Answers({"get RngLastSeed"})[0]["value"].get<std::int64_t>();
+    EXPECT_LT((seed - before + 3 * kLimit) % kLimit, 60'000) << seed << " against " << before;
+    seeds.insert(seed);
+  }
+  EXPECT_EQ(seeds.size(), 6u);
+}
+
 // --- run
 
 TEST(CliRun, TheReportHasItsKeysAndASeedRepeatsIt) {
@@ -325,6 +344,11 @@ TEST(CliExit, CodesTellBadThingsFromWrongUseAndNameThem) {
   const Case cases[] = {
       {{"run", "--rolls", "10", "--set", "ShooterBetRule=0", "--json"}, 0, ""},
       {{"run", "--rolls", "0", "--json"}, 0, ""},
+      {{"run", "--player", "Ann=500"},
+       1,
+       "nothing was rolled: Shooter has no line bet.\nHint: have a script bet"},
+      {{"run", "--player", "Ann=500", "--set", "ShooterBetRule=2"}, 1, "Shooter has no bet.\nHint: "},
+      {{"run", "--json"}, 1, "No players are available to bet.\nHint: seat a player"},
       {{"run", "--set", "MaxBet=-1"}, 1, "MaxBet must be from 0"},
       {{"run", "--set", "Nonsense=1"}, 1, "Nonsense"},
       {{"run", "--set", "MaxBet"}, 1, "--set MaxBet"},

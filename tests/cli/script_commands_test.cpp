@@ -95,10 +95,71 @@ TEST(CliScript, PermissionsOpenWhatTheyName) {
                                              "script 1 " + folder.File("a.bet"), "initialise 1",
                                              "remove 2 field"};
   EXPECT_EQ(Play(folder, commands).back()["change"], 0);
-  for (const char* word : {"others on", "reset on", "files on"}) {
+  for (const char* word : {"others on", "reset on", "probabilities on", "files on"}) {
     std::vector<std::string> allowed = commands;
     allowed.insert(allowed.begin() + 3, std::string("permission 1 ") + word);
     EXPECT_EQ(Play(folder, allowed).back()["change"], std::string(word) == "others on" ? -9 : 0) << word;
+  }
+}
+
+// A script that begins a session after every roll takes nothing from what was asked for.
+TEST(CliScript, RollsAreDiceThrownWhateverSessionsDo) {
+  TempFolder folder;
+  WriteFile(folder.File("a.bet"), "start new session\nbet 9 on field bob\n");
+  const std::string script = folder.File("a.bet");
+  const std::vector<Json> lines =
+      Play(folder, {"set ShooterBetRule 0", "join 1 Ann 500", "join 2 Bob 500", "script 1 " + script,
+                    "permission 1 reset on", "initialise 1", "turbo 50", "roll 1 2"});
+  const Json& turbo = *(lines.end() - 2);
+  EXPECT_EQ(turbo["rolled"], 50) << turbo;
+  EXPECT_EQ(turbo["rolls"], 0) << "of the session";
+  EXPECT_EQ(lines.back()["ok"], true) << lines.back();
+  EXPECT_EQ(lines.back()["rolled"], 1);
+
+  std::vector<std::string> run = {"run",
+                                  "--data-folder",
+                                  folder.Path(),
+                                  "--set",
+                                  "ShooterBetRule=0",
+                                  "--player",
+                                  "Ann=500",
+                                  "--player",
+                                  "Bob=500",
+                                  "--script",
+                                  script,
+                                  "--rolls",
+                                  "50",
+                                  "--json",
+                                  "--events-log",
+                                  folder.File("log.txt"),
+                                  "--permit",
+                                  "1=reset,others"};
+  const Json report = Json::parse(RunCli(folder, run).out);
+  EXPECT_EQ(report["rolls"], 50);
+  int rolls = 0;
+  for (const Json& count : report["table"]["totals"]) rolls += count.get<int>();
+  EXPECT_EQ(rolls, 50);
+  EXPECT_EQ(report["seats"][1]["onTable"], 9);
+  int sessions = 0;
+  for (const std::string& line : test::Lines(test::ReadFile(folder.File("log.txt"))))
+    sessions += line.rfind(" New session started", 0) == 0 ? 1 : 0;
+  EXPECT_GE(sessions, 50);
+  for (const char* wrong : {"1", "9=reset", "3=reset", "1=reset,all", "1="}) {
+    run.back() = wrong;
+    const Ran ran = RunCli(folder, run);
+    EXPECT_EQ(ran.exitCode, 1) << wrong;
+    EXPECT_NE(ran.err.find("--permit " + run.back()), std::string::npos) << ran.err;
+  }
+}
+
+TEST(CliScript, EverySampleRunsAsTheReferenceSays) {
+  TempFolder folder;
+  for (int sample = 1; sample <= 13; ++sample) {
+    const std::string file = TESSARYN_SOURCE_DIR "/data/samples/Sample" + std::to_string(sample) + ".bet";
+    const Ran ran = RunCli(folder, {"run", "--data-folder", folder.Path(), "--player", "Ann=1000", "--set",
+                                    "ShooterBetRule=0", "--script", file, "--rolls", "200", "--json"});
+    ASSERT_EQ(ran.exitCode, 0) << file << ": " << ran.err;
+    EXPECT_EQ(Json::parse(ran.out)["rolls"], 200) << file;
   }
 }
 

@@ -243,6 +243,26 @@ TEST(ProbabilityEdit, ACombinationInLockedGroupsIsTakenUpWithinThem) {
   EXPECT_EQ(ValueAt(dice, 4, 3), 0);
 }
 
+TEST(ProbabilityEdit, LockedTotalsClaimTheirOwnValues) {
+  struct Entry {
+    int row, column;
+    std::int32_t asked, taken;
+  };
+  const std::vector<Entry> evenings[] = {
+      {{kTotalRow, 5, 33'334, 33'334}, {kTotalRow, 6, 33'333, 33'333}, {kTotalRow, 7, 90'000, 33'333}},
+      {{kTotalRow, 6, 33'334, 33'334}, {kTotalRow, 5, 33'333, 33'333}, {2, 1, 90'000, 33'333}},
+      {{kTotalRow, 6, 50'000, 50'000}, {kTotalRow, 8, 49'999, 49'999}, {kTotalRow, 2, 5, 0}},
+      {{kTotalRow, 6, 50'000, 50'000}, {kTotalRow, 8, 49'998, 49'998}, {kTotalRow, 2, 5, 2}},
+  };
+  for (const std::vector<Entry>& entries : evenings) {
+    PercentageDice dice;
+    for (const Entry& entry : entries) {
+      EXPECT_TRUE(SetProbabilityCell(dice, entry.row, entry.column, entry.asked, true));
+      EXPECT_EQ(ValueAt(dice, entry.row, entry.column), entry.taken) << entry.row << "," << entry.column;
+    }
+  }
+}
+
 // Whether the combinations of a cell's group, by the dice they show.
 bool Shows(int row, int column, int cellRow, int cellColumn) {
   switch (KindOfProbabilityCell(row, column)) {

@@ -68,7 +68,8 @@ struct RunningTable : TestTable {
     Bet(kBob, kDontCome, "15");
     RollDice(*game);
     RollDice(*game);
-    Bet(kBob, kCome, "25");  // rides no roll, so it is no contract
+    Bet(kBob, kCome, "25");                              // rides no roll, so it is no contract
+    EXPECT_EQ(Bet(kAnn, kPassLine, "15"), Money("15"));  // nor is what comes to a bet that has ridden
     CallBet(*game, kAnn, kPlace4, false);
     SetCheckStackValue(*game, kAnn, kStack, Money("-12.5"));
     SetCheckStackName(*game, kAnn, kStack, "steps");
@@ -107,8 +108,11 @@ void ExpectStatistics(const RunningTable& table, const Choices& choices, Currenc
   const Statistics& stats = table.game->stats;
   const std::int64_t kept = choices.keepSessions ? kRolls : 0;
   EXPECT_EQ(SessionRolls(stats), 0);
+  EXPECT_EQ(Throws(stats), kRolls);
   EXPECT_EQ(HandRolls(stats), 0);
-  EXPECT_EQ(PlayerRolls(stats, kLastSession, kAnn), kept);
+  EXPECT_EQ(PlayerRolls(stats, kLastHand, kAnn), kRolls);
+  EXPECT_EQ(PlayerRolls(stats, kLastSession, kAnn), kRolls);
+  EXPECT_EQ(RollCount(stats, kLastSession, 0, 4), 1);
   EXPECT_EQ(PlayerRolls(stats, kAllSessions, kAnn), kept);
   EXPECT_EQ(RollCount(stats, kAllSessions, 0, 4), choices.keepSessions ? 1 : 0);
   EXPECT_EQ(RollsSinceLast(stats, 4), 0);

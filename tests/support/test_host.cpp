@@ -52,8 +52,7 @@ SettleAnswer TestHost::AskSettlement(Game&, const SettleQuestion& question) {
 }
 
 bool TestHost::Yield(Game& game) {
-  if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive)
-    StopRun(game, "");
+  if (rollTarget > 0 && Throws(game.stats) >= rollTarget && game.table.AutoRollActive) StopRun(game, "");
   return yields;
 }
 
@@ -123,7 +122,7 @@ void TestTable::Roll(int die1, int die2) {
 
 void TestTable::Turbo(std::int64_t rolls) {
   game->settings.RollThrottle = 0;
-  host.rollTarget = SessionRolls(game->stats) + rolls;
+  host.rollTarget = Throws(game->stats) + rolls;
   ToggleAutoRoll(*game);
   host.rollTarget = 0;
   Check("turbo");

@@ -25,10 +25,10 @@ struct TestHost : Host {
   std::deque<SettleAnswer> settleAnswers;
   std::vector<SettleQuestion> settleQuestions;
   std::vector<Sound> sounds;
-  std::uint32_t tick = 1'000'000;
-  std::uint32_t tickStep = 0;   // by which every look at the clock moves it
-  std::int64_t rollTarget = 0;  // a run stops once the session has so many rolls; 0 never
-  bool yields = false;          // what Yield tells the table
+  std::uint32_t tick = 1'000'000;  // the machine's, at a moment that never changes: tests repeat their dice
+  std::uint32_t tickStep = 0;      // by which every look at the clock moves it
+  std::int64_t rollTarget = 0;     // a run stops once the dice were thrown so often; 0 never
+  bool yields = false;             // what Yield tells the table
 
   void ShowMessage(Game& game, MessageBox& box) override;
   SettleAnswer AskSettlement(Game& game, const SettleQuestion& question) override;
