@@ -1,18 +1,13 @@
 #include "cli/cli_host.h"
 
-#include <csignal>
+#include <cstdio>
 #include <ctime>
 #include <thread>
 
+#include "cli/script_commands.h"
 #include "dice/auto_roll.h"
 
 namespace tessaryn::cli {
-
-std::atomic<bool> interrupted{false};
-
-void WatchInterrupts() {
-  std::signal(SIGINT, [](int) { interrupted = true; });
-}
 
 void SafeAnswer(MessageBox& box) {
   if ((box.MsgFlags & kMsgNo) != 0)
@@ -23,27 +18,32 @@ void SafeAnswer(MessageBox& box) {
     box.MsgResult = kResultOk;
 }
 
-void CliHost::ShowMessage(Game&, MessageBox& box) { SafeAnswer(box); }
+// The reason of a run that stopped is told by whoever asked for the run.
+void CliHost::ShowMessage(Game&, MessageBox& box) {
+  SafeAnswer(box);
+  if (box.MsgTitle == kRunStoppedTitle) return;
+  std::fprintf(stderr, "%s: %s\n", box.MsgTitle.c_str(), AsLines(box.MsgText).c_str());
+}
 
 bool CliHost::Yield(Game& game) {
   if (rollTarget > 0 && SessionRolls(game.stats) >= rollTarget && game.table.AutoRollActive) {
     StopRun(game, "");
     return false;
   }
-  // The clock is looked at now and then only: a roll costs less than asking for the time.
-  if ((++yields_ & 0x3fff) != 0 && game.table.TurboRollActive) return false;
-  if (interrupted.load(std::memory_order_relaxed)) {
+  if (Interrupted()) {
     game.autobet.ScriptRunning = false;
-    StopRun(game, "Stopped by Ctrl-C.");
+    StopRun(game, SignalReason());
     return true;
   }
+  // The clock is looked at now and then only: a roll costs less than asking for the time.
+  if ((++yields_ & 0x3fff) != 0 && game.table.TurboRollActive) return false;
   if (progress && game.table.TurboRollActive) progress(game);
   return false;
 }
 
 void CliHost::Wait(Game& game) {
   std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  if (interrupted) StopRun(game, "Stopped by Ctrl-C.");
+  Yield(game);
 }
 
 std::uint32_t CliHost::TickMilliseconds() {

@@ -233,10 +233,10 @@ int Probabilities(const ProbabilityOptions& options) {
                 (std::filesystem::exists(options.file) ? error : "File not found (--new makes one)"));
   for (const Operation& operation : options.operations)
     if (!RunOperation(work, operation)) return Fail(work.error);
-  if (options.operations.empty()) Show(work, {"--show", "percent"});
   const std::string target = options.out.empty() ? options.file : options.out;
   if ((work.edited || !options.out.empty()) && !SaveProbabilityFile(work.dice, target, error))
     return Fail(error);
+  if (options.operations.empty()) Show(work, {"--show", "percent"});
   return kDone;
 }
 

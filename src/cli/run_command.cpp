@@ -9,9 +9,11 @@
 #include "autobet/script_session.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "dice/auto_roll.h"
+#include "engine/table_files.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -101,17 +103,18 @@ int Run(const RunOptions& options) {
   {
     ProgressBar bar(options.rolls);
     host.progress = [&bar](Game& running) { bar.Update(SessionRolls(running.stats)); };
-    if (options.rolls > 0) ToggleAutoRoll(*game);
+    if (options.rolls > 0 && !Interrupted()) ToggleAutoRoll(*game);
   }
   figures.seconds = SecondsSince(start);
   figures.rolls = SessionRolls(game->stats);
   figures.stopReason = game->table.StopReason;
+  const std::string unwritten = EndGame(*game);
   const Json run = RunJson(*game, figures);
   if (options.json)
     std::printf("%s\n", run.dump().c_str());
   else
     PrintReport(*game, run);
-  return kDone;
+  return unwritten.empty() ? kDone : Fail(AsLines(unwritten));
 }
 
 }  // namespace

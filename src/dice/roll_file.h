@@ -46,6 +46,7 @@ struct RollFile {
   std::string RollFileOutputFormat = kDefaultRollFormat;
   bool RollFileInsertMode = false;  // typed rolls are inserted, not typed over
   std::string LastErrorText;        // of PlayRoll, RecordRoll and FlushRollFile
+  std::string FaultReported;        // the recorder's fault that was told; empty while it works
   RollFileChannel Channel;          // nobody else's business
 
   RollFile() = default;
