@@ -4,6 +4,7 @@
 
 #include "autobet/compiler_passes.h"
 #include "autobet/language.h"
+#include "persist/interrupts.h"
 
 namespace tessaryn {
 namespace {
@@ -658,6 +659,7 @@ class CheckPass {
 
   bool Run() {
     for (std::size_t start = 2; start < tokens_.size();) {
+      if (Interrupted()) return FailAt(job_, start, SignalReason());
       const std::size_t end = StatementEnd(tokens_, start);
       if (end > start + 1 && !CheckStatement(start + 1, end)) return false;
       start = end;

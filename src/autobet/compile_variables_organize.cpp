@@ -5,6 +5,7 @@
 
 #include "autobet/compiler_passes.h"
 #include "autobet/language.h"
+#include "persist/interrupts.h"
 
 namespace tessaryn {
 namespace {
@@ -406,6 +407,7 @@ bool CompileVariablesOrganize(CompileJob& job) {
   const std::vector<ScriptToken>& tokens = job.script.tokens;
   std::vector<ScriptToken> result(tokens.begin(), tokens.begin() + 2);
   for (std::size_t start = 2; start < tokens.size();) {
+    if (Interrupted()) return FailAt(job, start, SignalReason());
     const std::size_t end = StatementEnd(tokens, start);
     result.push_back(tokens[start]);
     StatementOrganizer statement(job.player, tokens.data() + start + 1, tokens.data() + end);

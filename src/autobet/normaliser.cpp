@@ -9,6 +9,7 @@
 #include "autobet/likely_word.h"
 #include "autobet/script_text.h"
 #include "autobet/vocabulary.h"
+#include "persist/interrupts.h"
 
 namespace tessaryn {
 namespace {
@@ -438,6 +439,7 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
     if (IsEmptyLine(lines[i])) continue;
     const int line = static_cast<int>(i) + 1;
     writer.OpenLine(line);
+    if (Interrupted()) return FailAt(script, lines, writer.LastIndex(), SignalReason(), diagnostic);
     if (!ReadLine(lines[i], names, script, words)) {
       return FailAt(script, lines, writer.LastIndex(), "Missing quotation mark.", diagnostic);
     }

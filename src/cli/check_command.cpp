@@ -6,6 +6,7 @@
 #include "autobet/script_session.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
+#include "persist/interrupts.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -69,7 +70,7 @@ void AddCheckCommand(CLI::App& program, int& exitCode) {
   command->footer("Example:\n  tessaryn-cli check data/samples/Sample1.bet");
   command->callback([options, &exitCode] {
     for (const std::string& file : options->files)
-      if (!CheckFile(*options, file)) exitCode = kBad;
+      if (Interrupted() || !CheckFile(*options, file)) exitCode = kBad;
   });
 }
 

@@ -1,18 +1,13 @@
 #include "cli/cli_host.h"
 
-#include <csignal>
+#include <cstdio>
 #include <ctime>
 #include <thread>
 
+#include "cli/script_commands.h"
 #include "dice/auto_roll.h"
 
 namespace tessaryn::cli {
-
-std::atomic<bool> interrupted{false};
-
-void WatchInterrupts() {
-  std::signal(SIGINT, [](int) { interrupted = true; });
-}
 
 void SafeAnswer(MessageBox& box) {
   if ((box.MsgFlags & kMsgNo) != 0)
@@ -23,7 +18,12 @@ void SafeAnswer(MessageBox& box) {
     box.MsgResult = kResultOk;
 }
 
-void CliHost::ShowMessage(Game&, MessageBox& box) { SafeAnswer(box); }
+// The reason of a run that stopped is told by whoever asked for the run.
+void CliHost::ShowMessage(Game&, MessageBox& box) {
+  SafeAnswer(box);
+  if (box.MsgTitle == kRunStoppedTitle) return;
+  std::fprintf(stderr, "%s: %s\n", box.MsgTitle.c_str(), AsLines(box.MsgText).c_str());
+}
 
 bool CliHost::YieldByClock(Game& game) {
   yields_ = kYieldsPerLook - 1;
@@ -35,9 +35,9 @@ bool CliHost::Yield(Game& game) {
     StopRun(game, "");
     return false;
   }
-  if (interrupted.load(std::memory_order_relaxed)) {
+  if (Interrupted()) {
     game.autobet.ScriptRunning = false;
-    StopRun(game, "Stopped by Ctrl-C.");
+    StopRun(game, SignalReason());
     return true;
   }
   // The clock is looked at now and then only: a roll costs less than asking for the time.
@@ -48,7 +48,7 @@ bool CliHost::Yield(Game& game) {
 
 void CliHost::Wait(Game& game) {
   std::this_thread::sleep_for(std::chrono::milliseconds(5));
-  if (interrupted) StopRun(game, "Stopped by Ctrl-C.");
+  Yield(game);
 }
 
 std::uint32_t CliHost::TickMilliseconds() {

@@ -1,7 +1,6 @@
 // What the command-line programs do for the table: clocks, questions and answers, the end of a run.
 #pragma once
 
-#include <atomic>
 #include <chrono>
 #include <cstdint>
 #include <deque>
@@ -9,15 +8,13 @@
 #include <string>
 
 #include "engine/game.h"
+#include "persist/interrupts.h"
 #include "persist/program_folders.h"
 
 namespace tessaryn::cli {
 
-// Set by Ctrl-C; every yield looks at it.
-extern std::atomic<bool> interrupted;
-void WatchInterrupts();
-
-// The clocks, and a run of so many rolls. Questions get their safe answer: No, else Cancel, else OK.
+// The clocks, and a run of so many rolls. Boxes are told on standard error; questions get their safe answer:
+// No, else Cancel, else OK.
 class CliHost : public Host {
  public:
   // The run stops once the dice were thrown this often, whatever sessions begin meanwhile; 0 never.

@@ -20,7 +20,7 @@ int Dice(const DiceOptions& options) {
   if (!game) return kBad;
   ReplaceMissingGenerator(game->generators);
   if (options.json) std::printf("[");
-  for (std::int64_t roll = 0; roll < options.count && !interrupted; ++roll) {
+  for (std::int64_t roll = 0; roll < options.count && !Interrupted() && std::ferror(stdout) == 0; ++roll) {
     int die1 = 0;
     int die2 = 0;
     if (game->percentage.PercentageDiceActive)

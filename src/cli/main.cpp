@@ -1,4 +1,10 @@
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 #include "cli/cli_host.h"
@@ -11,6 +17,31 @@ int Fail(const std::string& what) {
   std::fprintf(stderr, "tessaryn-cli: %s\n", what.c_str());
   return kBad;
 }
+
+namespace {
+
+// A file that is opened must not become one of the three streams. Reading a closed one ends at once; writing
+// to one is an error, as it should be.
+void HoldStandardStreams() {
+  int descriptor = 0;
+  do descriptor = open("/dev/null", O_RDONLY);
+  while (descriptor >= 0 && descriptor <= 2);
+  if (descriptor > 2) close(descriptor);
+}
+
+// Results that don't reach standard output are no results; a signal that ended the work is told.
+int Ending(int exitCode) {
+  errno = 0;
+  const bool unwritten = std::fflush(stdout) != 0;
+  const std::string why = errno == 0 ? "" : std::string(": ") + std::strerror(errno);
+  if (unwritten || std::ferror(stdout) != 0) exitCode = Fail("standard output can't be written" + why);
+  // A lost reader is told by the write that failed.
+  if (!Interrupted() || (NotedSignal() == SIGPIPE && exitCode != kDone)) return exitCode;
+  Fail(SignalReason());
+  return SignalExitCode();
+}
+
+}  // namespace
 
 }  // namespace tessaryn::cli
 
@@ -30,7 +61,8 @@ int main(int argc, char** argv) {
   AddAdvantageCommand(program, exitCode);
   AddProbabilitiesCommand(program, exitCode);
   AddRollsCommand(program, exitCode);
-  WatchInterrupts();
+  HoldStandardStreams();
+  tessaryn::NoteSignals();
   for (int i = 1; i < argc; ++i)
     if (const std::string problem = tessaryn::TextProblem(argv[i]); !problem.empty()) {
       std::fprintf(stderr, "tessaryn-cli: argument %d, \"%s\": %s\n", i, argv[i], problem.c_str());
@@ -40,11 +72,11 @@ int main(int argc, char** argv) {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     const int shown = program.exit(error);
-    return shown == 0 ? kDone : kUsage;
+    return Ending(shown == 0 ? kDone : kUsage);
   }
   if (program.get_subcommands().empty()) {
     std::fprintf(stderr, "A subcommand is required\nRun with --help for more information.\n");
     return kUsage;
   }
-  return exitCode;
+  return Ending(exitCode);
 }

@@ -6,6 +6,8 @@
 #include "cli/commands.h"
 #include "cli/play_session.h"
 #include "cli/play_terminal.h"
+#include "cli/script_commands.h"
+#include "engine/table_files.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -22,14 +24,15 @@ int PlayPipe(const PlayOptions& options) {
   if (!game) return kBad;
   PlaySession session(*game, host);
   std::string line;
-  while (!interrupted && std::getline(std::cin, line)) {
+  while (!Interrupted() && std::getline(std::cin, line)) {
     if (!line.empty() && line.back() == '\r') line.pop_back();
     if (line.find_first_not_of(" \t") == std::string::npos) continue;
     const Json answer = session.Do(line);
     std::cout << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
-    if (session.Ended()) break;
+    if (session.Ended() || !std::cout) break;
   }
-  return kDone;
+  const std::string unwritten = EndGame(*game);
+  return unwritten.empty() ? kDone : Fail(AsLines(unwritten));
 }
 
 int Play(const PlayOptions& options) {

@@ -2,8 +2,11 @@
 
 #include <readline/history.h>
 #include <readline/readline.h>
+#include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -16,11 +19,13 @@
 #include "autobet/script_text.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
+#include "cli/script_commands.h"
 #include "cli/script_report.h"
 #include "config/setting_table.h"
 #include "engine/bet_catalogue.h"
 #include "engine/bet_rules.h"
 #include "engine/handling.h"
+#include "engine/table_files.h"
 #include "stats/check_stacks.h"
 
 namespace tessaryn::cli {
@@ -31,12 +36,31 @@ std::string WithNewlines(std::string text) {
   return text;
 }
 
-// A line typed by the user without the history; empty at the end of input.
-std::string AskLine(const std::string& prompt) {
+// A key, or the end of input when a signal wants it.
+int ReadKey(std::FILE* input) {
+  for (;;) {
+    if (Interrupted()) return EOF;
+    unsigned char key = 0;
+    const ssize_t count = read(fileno(input), &key, 1);
+    if (count == 1) return key;
+    if (count == 0 || errno != EINTR) return EOF;
+    rl_check_signals();  // readline has them while a line is typed, and hands them on
+  }
+}
+
+// A line typed by the user. False at the end of input, or when a signal came.
+bool TypedLine(const std::string& prompt, std::string& line) {
+  rl_getc_function = ReadKey;
   char* typed = readline(prompt.c_str());
-  if (typed == nullptr) return "";
-  std::string line = typed;
+  if (typed != nullptr) line = typed;
   std::free(typed);
+  return typed != nullptr && !Interrupted();
+}
+
+// An answer, without the history; empty when there is none.
+std::string AskLine(const std::string& prompt) {
+  std::string line;
+  if (!TypedLine(prompt, line)) return "";
   const auto first = line.find_first_not_of(' ');
   return first == std::string::npos ? "" : line.substr(first, line.find_last_not_of(' ') - first + 1);
 }
@@ -291,6 +315,33 @@ bool ShowsTable(const std::string& command) {
   return true;
 }
 
+// The next command. Ctrl-C drops what was typed, and pressed again at the empty prompt it ends the program:
+// it may have been meant for a run that was just over. False at the end.
+bool NextLine(std::string& line) {
+  bool warned = false;
+  while (!TypedLine("table> ", line)) {
+    if (NotedSignal() != SIGINT || warned) return false;
+    ForgetSignal();
+    warned = true;
+    std::printf("\nCtrl-C again, Ctrl-D or \"quit\" ends.\n");
+  }
+  return true;
+}
+
+void CarryOut(PlaySession& session, TerminalHost& host, Game& game, ErrorTeller& errors,
+              const std::string& line) {
+  const std::vector<std::string> words = SplitWords(line);
+  if (words.empty()) return;
+  add_history(line.c_str());
+  if (words[0] == "help") return PrintHelp();
+  host.ForgetSteps();
+  if (words[0] == "hotkey") errors.ForgetHotKey();
+  const Json answer = session.Do(line);
+  if (!PrintScriptCheck(game, words, answer)) PrintAnswer(words[0], answer);
+  errors.TellNew(game);
+  if (ShowsTable(words[0])) DrawTable(game);
+}
+
 }  // namespace
 
 int PlayTerminal(const TableOptions& options) {
@@ -305,29 +356,16 @@ int PlayTerminal(const TableOptions& options) {
       "\"help\" lists the commands, \"quit\" ends.\n");
   PlaySession session(*game, host);
   ErrorTeller errors;
-  while (!session.Ended()) {
-    interrupted = false;
-    char* typed = readline("table> ");
-    if (typed == nullptr) break;
-    const std::string line = typed;
-    std::free(typed);
-    const std::vector<std::string> words = SplitWords(line);
-    if (words.empty()) continue;
-    add_history(line.c_str());
-    if (words[0] == "help") {
-      PrintHelp();
-      continue;
-    }
-    host.ForgetSteps();
-    if (words[0] == "hotkey") errors.ForgetHotKey();
-    const Json answer = session.Do(line);
-    if (!PrintScriptCheck(*game, words, answer)) PrintAnswer(words[0], answer);
-    errors.TellNew(*game);
-    if (ShowsTable(words[0])) DrawTable(*game);
+  std::string line;
+  while (!session.Ended() && NextLine(line)) {
+    CarryOut(session, host, *game, errors, line);
+    // Ctrl-C stopped what was carried out; the table goes on.
+    if (NotedSignal() == SIGINT) ForgetSignal();
   }
   std::printf("\n");
   write_history(historyFile.c_str());
-  return kDone;
+  const std::string unwritten = EndGame(*game);
+  return unwritten.empty() ? kDone : Fail(AsLines(unwritten));
 }
 
 }  // namespace tessaryn::cli

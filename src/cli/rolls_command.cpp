@@ -215,6 +215,7 @@ std::string Count(RollFile& file, Distribution& counts) {
   constexpr std::int32_t kBlock = 1 << 20;
   std::vector<unsigned char> block;
   for (std::int64_t at = 1; at <= RollFileLength(file); at += kBlock) {
+    if (Interrupted()) return SignalReason();
     const std::string problem = ReadRolls(file, static_cast<std::int32_t>(at), kBlock, block);
     if (!problem.empty()) return problem;
     for (const unsigned char roll : block) {

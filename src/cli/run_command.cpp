@@ -14,6 +14,7 @@
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "dice/auto_roll.h"
+#include "engine/table_files.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -125,19 +126,21 @@ int Run(const RunOptions& options) {
   {
     ProgressBar bar(options.rolls);
     host.progress = [&bar](Game& running) { bar.Update(Throws(running.stats)); };
-    if (options.rolls > 0) ToggleAutoRoll(*game);
+    if (options.rolls > 0 && !Interrupted()) ToggleAutoRoll(*game);
   }
   figures.seconds = SecondsSince(start);
   figures.rolls = Throws(game->stats);
   figures.stopReason = game->table.StopReason;
-  if (options.rolls > 0 && figures.rolls == 0 && !interrupted) return Refused(figures.stopReason);
+  const std::string unwritten = EndGame(*game);
+  if (!unwritten.empty()) Fail(AsLines(unwritten));
+  if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
   run["scriptErrors"] = ErrorsJson(*game);
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
-  return EveryScriptCouldAct(*game) ? kDone : kBad;
+  return unwritten.empty() && EveryScriptCouldAct(*game) ? kDone : kBad;
 }
 
 }  // namespace

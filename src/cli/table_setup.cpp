@@ -1,7 +1,9 @@
 #include "cli/table_setup.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <charconv>
 #include <cstdio>
 
@@ -12,6 +14,7 @@
 #include "config/settings_file.h"
 #include "dice/seed_rng.h"
 #include "engine/players.h"
+#include "persist/record_file.h"
 
 namespace tessaryn::cli {
 
@@ -134,12 +137,6 @@ bool ApplySettings(Game& game, const std::vector<WantedSetting>& wanted, bool of
   return SetSettings(game, changes, error) || Told("--set: " + error);
 }
 
-bool SaveSettings(const Game& game, const TableOptions& options) {
-  if (options.saveSettings.empty()) return true;
-  const std::string error = SaveSettingsFile(game, options.saveSettings);
-  return error.empty() || Told("--save-settings: " + error);
-}
-
 bool SeedDice(Game& game, const TableOptions& options) {
   if (options.rng != 0) SelectGenerator(game, options.rng);
   if (options.seed.empty()) {
@@ -153,23 +150,7 @@ bool SeedDice(Game& game, const TableOptions& options) {
                           std::to_string(SeedLimit(game.generators)));
 }
 
-bool OpenDiceFiles(Game& game, const TableOptions& options) {
-  if (!options.rollFile.empty() && !options.recordFile.empty())
-    return Told("--roll-file and --record can't be used together: a table has one dice roll file");
-  const bool records = !options.recordFile.empty();
-  const std::string path = records ? options.recordFile : options.rollFile;
-  if (!path.empty()) {
-    if (!records && access(path.c_str(), R_OK) != 0) return Told("--roll-file " + path + ": File not found");
-    std::string problem = OpenRollFile(game.rollFile, path);
-    if (problem.empty() && records) {
-      SelectAllRolls(game.rollFile);
-      if (RollFileLength(game.rollFile) > 0) problem = DeleteRolls(game.rollFile);
-      SetRollFileCursor(game.rollFile, 1);
-    }
-    if (problem.empty())
-      problem = SetRecorderState(game.rollFile, records ? kRecorderRecord : kRecorderPlayback);
-    if (!problem.empty()) return Told((records ? "--record " : "--roll-file ") + path + ": " + problem);
-  }
+bool LoadDice(Game& game, const TableOptions& options) {
   if (options.probabilities.empty()) return true;
   std::string error;
   if (!OpenProbabilityFile(game.percentage, options.probabilities, "", error))
@@ -178,30 +159,116 @@ bool OpenDiceFiles(Game& game, const TableOptions& options) {
          Told(std::string("--probabilities: ") + kNothingToRollText);
 }
 
+bool PlayRollFile(Game& game, const TableOptions& options) {
+  const std::string& path = options.rollFile;
+  if (path.empty()) return true;
+  if (access(path.c_str(), R_OK) != 0) return Told("--roll-file " + path + ": File not found");
+  std::string problem = OpenRollFile(game.rollFile, path);
+  if (problem.empty()) problem = SetRecorderState(game.rollFile, kRecorderPlayback);
+  if (!problem.empty()) return Told("--roll-file " + path + ": " + problem);
+  if (game.events.RecordEventsActive) WriteEventsLogLine(game, PlaybackLogLine(game.rollFile));
+  return true;
+}
+
+// --- What is written. First it is looked at, and touched when all else is found good.
+
+struct Target {
+  const char* option;
+  const std::string& path;
+};
+
+// Whether a file could be written; the problem is a text.
+std::string TargetProblem(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) == 0) {
+    if (S_ISDIR(status.st_mode)) return FileErrorText("write", path, EISDIR);
+    return access(path.c_str(), W_OK) == 0 ? "" : FileErrorText("write", path, errno);
+  }
+  const auto slash = path.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+  const bool possible = errno == ENOENT && access(folder.c_str(), W_OK | X_OK) == 0;
+  return possible ? "" : FileErrorText("write", path, errno);
+}
+
+bool IsOneFile(const std::string& path, const std::string& other) {
+  return !path.empty() && (path == other || IsSameFile(path, other));
+}
+
+bool CheckTargets(Game& game, const TableOptions& options) {
+  if (!options.rollFile.empty() && !options.recordFile.empty())
+    return Told("--roll-file and --record can't be used together: a table has one dice roll file");
+  const Target targets[] = {{"--save-settings ", options.saveSettings},
+                            {"--events-log ", options.eventsLog},
+                            {"--record ", options.recordFile},
+                            {"--roll-file ", options.rollFile}};
+  for (const Target& target : targets) {
+    for (const Target& other : targets)
+      if (&other < &target && IsOneFile(target.path, other.path))
+        return Told(target.option + target.path + ": is the file of " + other.option + "too");
+    if (target.path.empty() || target.path == options.rollFile) continue;
+    if (const std::string problem = TargetProblem(target.path); !problem.empty())
+      return Told(target.option + target.path + ": " + problem);
+  }
+  // An old recording must be one, whatever is to become of it.
+  if (options.recordFile.empty() || access(options.recordFile.c_str(), F_OK) != 0) return true;
+  const std::string problem = OpenRollFile(game.rollFile, options.recordFile);
+  return problem.empty() || Told("--record " + options.recordFile + ": " + problem);
+}
+
+bool SaveSettings(const Game& game, const TableOptions& options) {
+  if (options.saveSettings.empty()) return true;
+  const std::string error = SaveSettingsFile(game, options.saveSettings);
+  return error.empty() || Told("--save-settings: " + error);
+}
+
+bool StartLog(Game& game) {
+  game.events.Held = false;
+  const std::string problem = CloseEventsLog(game);
+  return problem.empty() || Told(problem);
+}
+
+bool StartRecording(Game& game, const TableOptions& options) {
+  RollFile& file = game.rollFile;
+  if (options.recordFile.empty()) return true;
+  std::string problem = IsRollFileOpen(file) ? "" : OpenRollFile(file, options.recordFile);
+  SelectAllRolls(file);
+  if (problem.empty() && RollFileLength(file) > 0) problem = DeleteRolls(file);
+  SetRollFileCursor(file, 1);
+  if (problem.empty()) problem = SetRecorderState(file, kRecorderRecord);
+  return problem.empty() || Told("--record " + options.recordFile + ": " + problem);
+}
+
+// The data folder is made, and taken by a table that is played: beside another program it gets its own.
+bool TakeDataFolder(Game& game, const TableOptions& options) {
+  std::string folder = options.dataFolder;
+  std::string error;
+  if (!PrepareDataFolder(folder, error)) return Told(error);
+  if (!options.writes) return true;
+  const std::string told = ClaimDataFolder(game.folderLock, game.ownFolder, "tessaryn-cli");
+  if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());
+  return true;
+}
+
 }  // namespace
 
 std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
-  std::string folder = options.dataFolder;
-  std::string error;
-  if (!PrepareDataFolder(folder, error)) {
-    Fail(error);
-    return nullptr;
-  }
-  std::unique_ptr<Game> game = StartGame(host, ApplicationFolder(), folder);
-  if (options.writes) {
-    const std::string told = ClaimDataFolder(game->folderLock, game->ownFolder, "tessaryn-cli");
-    if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());
-  }
+  std::unique_ptr<Game> game = StartGame(
+      host, ApplicationFolder(), options.dataFolder.empty() ? DefaultDataFolder() : options.dataFolder);
+  game->events.Held = true;
   if (!options.eventsLog.empty()) {
     game->events.Path = options.eventsLog;
     game->events.RecordEventsActive = true;
   }
   std::vector<WantedSetting> wanted;
-  const bool ready = CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
-                     SeatPlayers(*game, options) && ApplySettings(*game, wanted, true) &&
-                     PermitScripts(*game, options.permits) && SaveSettings(*game, options) &&
-                     SeedDice(*game, options) && OpenDiceFiles(*game, options) &&
-                     LoadScripts(*game, options.scripts, options.outputFolders);
+  const bool good = CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
+                    SeatPlayers(*game, options) && ApplySettings(*game, wanted, true) &&
+                    PermitScripts(*game, options.permits) && SeedDice(*game, options) &&
+                    LoadDice(*game, options) && PlayRollFile(*game, options) &&
+                    LoadScripts(*game, options.scripts, options.outputFolders) &&
+                    CheckTargets(*game, options) && !Interrupted();
+  // Everything that was asked for is good: from here on files are touched.
+  const bool ready = good && TakeDataFolder(*game, options) && SaveSettings(*game, options) &&
+                     StartLog(*game) && StartRecording(*game, options);
   return ready ? std::move(game) : nullptr;
 }
 

@@ -5,6 +5,7 @@
 
 #include "engine/game.h"
 #include "engine/roll_cycle.h"
+#include "engine/table_files.h"
 
 namespace tessaryn {
 namespace {
@@ -29,9 +30,7 @@ bool AutoStopDue(const Game& game) {
 
 // Gives way to user events; what others may read is then up to date.
 void GiveWay(Game& game) {
-  if (!game.host->Yield(game)) return;
-  FlushEventsLog(game);
-  FlushRollFile(game.rollFile);
+  if (game.host->Yield(game)) FlushTableFiles(game);
 }
 
 // A tenth of the counting loops of 100 milliseconds, measured once when pacing is first wanted.
@@ -100,7 +99,7 @@ void StopRun(Game& game, const std::string& reason) {
   if (!reason.empty()) table.StopReason = reason;
   game.host->Changed(game, Change::kRun);
   if (!turbo) return;
-  if (!table.StopReason.empty()) ShowMessage(game, "Turbo-Roll Stopped", table.StopReason);
+  if (!table.StopReason.empty()) ShowMessage(game, kRunStoppedTitle, table.StopReason);
   game.host->Changed(game, Change::kEverything);
 }
 
@@ -123,7 +122,7 @@ void ToggleAutoRoll(Game& game) {
 bool GoRoundAgain(Game& game) {
   TableState& table = game.table;
   if (table.TurboRollActive) return GoRoundTurbo(game);
-  FlushEventsLog(game);
+  FlushTableFiles(game);
   game.host->Changed(game, Change::kEverything);
   if (!table.AutoRollActive) return false;
   if (AutoStopDue(game)) {

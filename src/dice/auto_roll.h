@@ -11,6 +11,7 @@ namespace tessaryn {
 struct Game;
 
 inline constexpr int kThrottleAutoRoll = 12;
+inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
 
 // Starts a run, or stops the one that is on. A start does not return until the run ends. With a script that
 // is being stepped through it asks whether to interrupt that instead.

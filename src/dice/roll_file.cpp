@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "persist/interrupts.h"
 #include "persist/record_file.h"
 
 namespace tessaryn {
@@ -415,6 +416,7 @@ void DiscardRollFile(RollFile& file) {
   channel.ReadOnly = channel.Pending = channel.IsWriter = false;
   channel.Length = channel.WindowStart = channel.WindowUsed = 0;
   file.RollFileName.clear();
+  file.FaultReported.clear();
   file.RecorderState = kRecorderOff;
   SetCursor(file, 1);
 }
@@ -429,6 +431,7 @@ std::string CheckRollFile(const std::string& path, bool& valid) {
     const std::int64_t got = ReadAt(source.Descriptor, offset, block.data(), block.size());
     if (got < 0) return FileErrorText("read", path, errno);
     if (got == 0) break;
+    if (Interrupted()) return FileErrorText("read", path, EINTR);
     offset += got;
     unsigned lowBits = 0;
     for (std::int64_t i = 0; i < got; ++i) lowBits |= block[static_cast<std::size_t>(i)];
@@ -485,8 +488,10 @@ std::string SetRecorderState(RollFile& file, int state) {
   if (state != kRecorderOff && !IsRollFileOpen(file)) return kNoRollFileOpen;
   std::string error;
   if (IsRollFileOpen(file)) error = state == kRecorderRecord ? PrepareToWrite(file) : Prepare(file);
-  if (error.empty()) file.RecorderState = state;
-  return error;
+  if (!error.empty()) return error;
+  file.RecorderState = state;
+  if (state != kRecorderOff) file.FaultReported.clear();
+  return {};
 }
 
 std::string RewindForPlayback(RollFile& file) {
@@ -755,7 +760,7 @@ std::string RewindQuestion(const RollFile& file) {
 }
 
 std::string PlaybackLogLine(const RollFile& file) {
-  return "    Dice roll file playback activated (" + file.RollFileName + ")";
+  return "    Dice roll file playback activated (" + FileTitle(file.RollFileName) + ")";
 }
 
 std::string CopyToOpenFileText(std::string_view command) {

@@ -51,6 +51,7 @@ struct RollFile {
   bool RollFileInsertMode = false;  // typed rolls are inserted, not typed over
   bool Durable = true;              // false for a work file, whose edits need not reach the disk
   std::string LastErrorText;        // of PlayRoll, RecordRoll and FlushRollFile
+  std::string FaultReported;        // the recorder's fault that was told; empty while it works
   RollFileChannel Channel;          // nobody else's business
 
   RollFile() = default;

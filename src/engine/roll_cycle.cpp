@@ -12,6 +12,7 @@
 #include "engine/game.h"
 #include "engine/players.h"
 #include "engine/settlement.h"
+#include "engine/table_files.h"
 
 namespace tessaryn {
 namespace {
@@ -217,7 +218,7 @@ void ThrowDice(Game& game, DiceSource source) {
   TableState& table = game.table;
   table.RollTotal = table.Die1 + table.Die2;
   if (game.rollFile.RecorderState == kRecorderRecord && !RecordRoll(game.rollFile, table.Die1, table.Die2))
-    ReportError(game, game.rollFile.LastErrorText, 61, "Record Roll");
+    ReportRecorderFault(game);
   if (game.events.RecordEventsActive && game.events.RecordRolls)
     LogRoll(game, SourceText(game, source).c_str());
   Speak(game, Sound::kDice);
@@ -421,8 +422,7 @@ void RollDice(Game& game) {
     if (!BankrollsWithinLimit(game)) break;
   } while (GoRoundAgain(game));
   table.RollInProgress = false;
-  FlushEventsLog(game);
-  if (!FlushRollFile(game.rollFile)) ReportError(game, game.rollFile.LastErrorText, 61, "Record Roll");
+  FlushTableFiles(game);
   game.host->Changed(game, Change::kEverything);
   if (table.Point == 0) Speak(game, Sound::kComeOut);
 }

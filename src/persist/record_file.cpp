@@ -14,6 +14,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "persist/interrupts.h"
+
 namespace tessaryn {
 namespace {
 
@@ -48,7 +50,8 @@ struct Descriptor {
 bool WriteAll(int descriptor, std::string_view content) {
   while (!content.empty()) {
     const ssize_t written = write(descriptor, content.data(), content.size());
-    if (written < 0 && errno == EINTR) continue;
+    // A pipe whose reader sleeps would hold up the program's end; a file is written on.
+    if (written < 0 && errno == EINTR && !Interrupted()) continue;
     if (written <= 0) return false;
     content.remove_prefix(static_cast<std::size_t>(written));
   }
@@ -284,6 +287,7 @@ std::string ReadWholeFile(const std::string& path, std::string& content, std::ui
   char block[65536];
   for (;;) {
     const ssize_t count = read(descriptor.Number, block, sizeof block);
+    if (Interrupted()) return FileErrorText("read", path, EINTR);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return FileErrorText("read", path, errno);
     if (count == 0) break;

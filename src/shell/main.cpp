@@ -14,6 +14,7 @@
 #include "shell/main_window.h"
 #include "shell/screen_tools.h"
 #include "shell/screens/about.h"
+#include "shell/signals.h"
 #include "shell/sounds.h"
 #include "shell/start_up.h"
 
@@ -46,6 +47,7 @@ int RunProgram(QApplication& application, std::string dataFolder) {
   host.sounds = &sounds;
   MainWindow window(*game, host);
   window.RestoreWindow();
+  const SignalWatch watch(*game, window);
   QTimer::singleShot(kSplashMilliseconds, &window, [&] {
     window.show();
     window.activateWindow();

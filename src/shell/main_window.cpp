@@ -12,6 +12,7 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <cstdio>
 #include <filesystem>
 
 #include "autobet/script_session.h"
@@ -21,6 +22,7 @@
 #include "engine/game.h"
 #include "engine/players.h"
 #include "engine/roll_cycle.h"
+#include "engine/table_files.h"
 #include "shell/amount_selector.h"
 #include "shell/file_chooser.h"
 #include "shell/pictures.h"
@@ -920,19 +922,31 @@ bool MainWindow::MayClose() {
   return SaveScriptsFirst() && SaveProbabilitiesFirst();
 }
 
-void MainWindow::WriteFinalFiles() {
-  const std::string problem = CloseRollFile(game_.rollFile);
-  if (!problem.empty()) ShowMessage(game_, "Error", problem);
+std::string MainWindow::WriteFinalFiles() {
+  std::string problem;
+  if (!hotKeys_.empty() || std::filesystem::exists(game_.dataFolder + kHotKeysFile))
+    WriteHotKeys(game_.dataFolder + kHotKeysFile, hotKeys_, problem);
+  const std::string unwritten = EndGame(game_);
+  if (problem.empty()) problem = unwritten;
   std::error_code gone;
   std::filesystem::remove(game_.ownFolder + kRollCopyFile, gone);
   SaveWindow();
+  return problem;
+}
+
+void MainWindow::CloseUnasked() {
+  if (closing_) return;
+  closing_ = true;
+  if (const std::string problem = WriteFinalFiles(); !problem.empty())
+    std::fprintf(stderr, "tessaryn: %s\n", problem.c_str());
+  close();
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (closing_) return event->accept();
   if (!MayClose()) return event->ignore();
   closing_ = true;
-  WriteFinalFiles();
+  if (const std::string problem = WriteFinalFiles(); !problem.empty()) ShowMessage(game_, "Error", problem);
   event->accept();
   QMainWindow::closeEvent(event);
 }

@@ -37,6 +37,8 @@ class MainWindow : public QMainWindow {
 
   // The window's place and the chosen check as the last session left them.
   void RestoreWindow();
+  // As closing it, but without questions: what can't be written is told on standard error.
+  void CloseUnasked();
   void SaveWindow() const;
 
   // --- What the menu's entries do; public for the table of them.
@@ -120,7 +122,8 @@ class MainWindow : public QMainWindow {
   bool MayClose();
   bool SaveScriptsFirst();
   bool SaveProbabilitiesFirst();
-  void WriteFinalFiles();
+  // The problem is a text.
+  std::string WriteFinalFiles();
 
   // --- When a command can act.
   bool Free() const;  // no roll is under way, or one of a run, which can be asked to stop

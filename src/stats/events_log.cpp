@@ -9,6 +9,7 @@
 #include <fstream>
 #include <system_error>
 
+#include "dice/auto_roll.h"
 #include "engine/bet_catalogue.h"
 #include "engine/game.h"
 
@@ -32,14 +33,20 @@ void ForgetFiles(EventsLog& log) {
   CloseFiles(log);
   log.textBuffer.clear();
   log.indexBuffer.clear();
+  log.failedAt = 0;
 }
 
-// Told once, until writing works again. The game goes on without its journal.
+// A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there it
+// is told once.
 void ReportFault(Game& game, const std::string& what) {
   EventsLog& log = game.events;
-  if (log.FaultReported == what) return;
+  const bool told = log.FaultReported == what;
   log.FaultReported = what;
-  ShowMessage(game, "Events Log", what + "\r\rThe game goes on; the lines are kept and tried again.");
+  const bool run = game.table.AutoRollActive;
+  const bool turbo = game.table.TurboRollActive;
+  if (run) StopRun(game, what);  // of a Turbo-Roll the reason is shown
+  if (turbo || (told && !run)) return;
+  ShowMessage(game, "Events Log", what + "\r\rThe lines are kept and tried again after every roll.");
 }
 
 std::string FaultText(const std::string& path, int error) {
@@ -53,15 +60,13 @@ std::int64_t FileSize(const std::string& path) {
 }
 
 // Appends all of the buffer, or leaves the file as it was. Returns 0 or errno.
-int AppendAll(std::FILE* file, std::int64_t length, const std::string& buffer) {
+int AppendAll(std::FILE* file, const std::string& buffer) {
   if (buffer.empty()) return 0;
   errno = 0;
   const bool written =
       std::fwrite(buffer.data(), 1, buffer.size(), file) == buffer.size() && std::fflush(file) == 0;
   if (written) return 0;
-  const int error = errno == 0 ? EIO : errno;
-  (void)length;
-  return error;
+  return errno == 0 ? EIO : errno;
 }
 
 std::int64_t IndexRecord(std::ifstream& index, std::int64_t line) {
@@ -119,63 +124,84 @@ void PlaceWaitingLines(EventsLog& log, std::int64_t textSize, std::int64_t lines
   log.textLength += waitingBytes;
 }
 
-bool OpenFiles(Game& game) {
+// A pipe would hold the program up until somebody reads it.
+bool IsPipe(const std::string& path) {
+  std::error_code ignored;
+  return fs::is_fifo(path, ignored) || fs::is_socket(path, ignored);
+}
+
+// The error is a text.
+std::string OpenFiles(Game& game) {
   EventsLog& log = game.events;
-  if (log.textFile != nullptr) return true;
+  if (log.textFile != nullptr) return "";
   const std::string textPath = EventsLogPath(game);
   const std::string indexPath = EventsIndexPath(game);
   std::int64_t textSize = std::max<std::int64_t>(FileSize(textPath), 0);
-  if (textSize > 0 && !IndexBelongs(game, textSize)) {
-    std::string error;
-    RebuildEventsLogIndex(game, error);
-  }
+  for (const std::string& path : {textPath, indexPath})
+    if (IsPipe(path)) return "The Events Log can't be written: " + path + ": it is not a file.";
+  std::string problem;
+  if (textSize > 0 && !IndexBelongs(game, textSize) && !RebuildEventsLogIndex(game, problem)) return problem;
   errno = 0;
   log.textFile = std::fopen(textPath.c_str(), "ab");
-  if (log.textFile == nullptr) {
-    ReportFault(game, FaultText(textPath, errno));
-    return false;
-  }
+  if (log.textFile == nullptr) return FaultText(textPath, errno);
   log.indexFile = std::fopen(indexPath.c_str(), textSize > 0 ? "ab" : "wb");
   if (log.indexFile == nullptr) {
     const int error = errno;
     CloseFiles(log);
-    ReportFault(game, FaultText(indexPath, error));
-    return false;
+    return FaultText(indexPath, error);
   }
   std::setvbuf(log.textFile, nullptr, _IONBF, 0);
   std::setvbuf(log.indexFile, nullptr, _IONBF, 0);
   // A text that was edited by hand may lack its last line's end.
   if (textSize > 0 && !EndsWithLine(textPath, textSize) && std::fputc('\n', log.textFile) != EOF) ++textSize;
   PlaceWaitingLines(log, textSize, std::max<std::int64_t>(FileSize(indexPath), 0) / kIndexBytes);
-  return true;
+  return "";
 }
 
-void WriteBuffers(Game& game) {
+// Both files go back to where they agreed.
+void CutBack(EventsLog& log, const std::string& textPath, std::int64_t text, const std::string& indexPath,
+             std::int64_t index) {
+  CloseFiles(log);
+  std::error_code ignored;
+  if (text >= 0) fs::resize_file(textPath, static_cast<std::uintmax_t>(text), ignored);
+  if (index >= 0) fs::resize_file(indexPath, static_cast<std::uintmax_t>(index), ignored);
+}
+
+// All or nothing of what waits. The error is a text; what waits is then tried again.
+std::string WriteBuffers(Game& game) {
   EventsLog& log = game.events;
-  if (log.textBuffer.empty() || !OpenFiles(game)) return;
+  if (log.Held || log.textBuffer.empty()) return "";
+  log.failedAt = log.textBuffer.size();
+  if (std::string problem = OpenFiles(game); !problem.empty()) return problem;
   const std::string textPath = EventsLogPath(game);
   const std::string indexPath = EventsIndexPath(game);
   const std::int64_t textBefore = FileSize(textPath);
   const std::int64_t indexBefore = FileSize(indexPath);
-  int error = AppendAll(log.textFile, textBefore, log.textBuffer);
+  int error = AppendAll(log.textFile, log.textBuffer);
   std::string path = textPath;
   if (error == 0) {
-    error = AppendAll(log.indexFile, indexBefore, log.indexBuffer);
+    error = AppendAll(log.indexFile, log.indexBuffer);
     path = indexPath;
   }
   if (error != 0) {
-    // Both files go back to where they agreed; the lines wait for the next try.
-    CloseFiles(log);
-    std::error_code ignored;
-    if (textBefore >= 0) fs::resize_file(textPath, static_cast<std::uintmax_t>(textBefore), ignored);
-    if (indexBefore >= 0) fs::resize_file(indexPath, static_cast<std::uintmax_t>(indexBefore), ignored);
-    if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
-    ReportFault(game, FaultText(path, error));
-    return;
+    CutBack(log, textPath, textBefore, indexPath, indexBefore);
+    return FaultText(path, error);
   }
   log.textBuffer.clear();
   log.indexBuffer.clear();
   log.FaultReported.clear();
+  log.failedAt = 0;
+  return "";
+}
+
+void WriteAndTell(Game& game) {
+  if (const std::string problem = WriteBuffers(game); !problem.empty()) ReportFault(game, problem);
+}
+
+// Lines that can't be written wait, up to a bound.
+void KeepWithinBounds(EventsLog& log) {
+  if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
+  if (log.textBuffer.empty()) log.textLength = log.lineCount = 0;
 }
 
 bool BeginsWithRoll(std::string_view text) {
@@ -229,9 +255,12 @@ std::string EventsIndexPath(const Game& game) { return game.ownFolder + kEventsI
 void WriteEventsLogLine(Game& game, std::string_view text) {
   EventsLog& log = game.events;
   if (!log.RecordEventsActive) return;
-  if (log.textFile == nullptr && !OpenFiles(game)) {
-    if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
-    if (log.textBuffer.empty()) log.textLength = log.lineCount = 0;
+  if (log.textFile == nullptr) {
+    // After a fault not every line tries again: a roll's end does.
+    const bool waits = log.Held || !log.FaultReported.empty();
+    const std::string problem = waits ? "" : OpenFiles(game);
+    if (!problem.empty()) ReportFault(game, problem);
+    if (log.textFile == nullptr) KeepWithinBounds(log);
   }
   if (log.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
     ReportFault(game, "The Events Log is full: " + EventsLogPath(game) + ".");
@@ -244,7 +273,7 @@ void WriteEventsLogLine(Game& game, std::string_view text) {
   ++log.lineCount;
   if (log.KeepLatestRollOnTop && BeginsWithRoll(text))
     log.EventsLogTopLine = static_cast<std::int32_t>(log.lineCount);
-  if (log.textBuffer.size() >= kFlushAt) WriteBuffers(game);
+  if (log.textBuffer.size() >= log.failedAt + kFlushAt) WriteAndTell(game);
 }
 
 void WriteGroupedLine(Game& game, std::string_view text) {
@@ -258,8 +287,14 @@ void WriteGroupedLine(Game& game, std::string_view text) {
 }
 
 void FlushEventsLog(Game& game) {
-  WriteBuffers(game);
+  WriteAndTell(game);
   CloseFiles(game.events);
+}
+
+std::string CloseEventsLog(Game& game) {
+  const std::string problem = WriteBuffers(game);
+  CloseFiles(game.events);
+  return problem.empty() ? game.events.FaultReported : problem;
 }
 
 bool RebuildEventsLogIndex(Game& game, std::string& error) {

@@ -34,6 +34,7 @@ struct EventsLog {
   std::string PendingLogHeading;    // a group heading that is not written yet
   bool ScriptActiveLogged[9] = {};  // what the log has told of each script
   std::string FaultReported;        // the write error that was reported; empty while writing works
+  bool Held = false;                // lines wait in memory: no file is touched before all is found good
   // Open while lines come fast; FlushEventsLog brings both files up to date.
   std::FILE* textFile = nullptr;
   std::FILE* indexFile = nullptr;
@@ -41,6 +42,7 @@ struct EventsLog {
   std::string indexBuffer;
   std::int64_t textLength = 0;  // of the text file with the buffer
   std::int64_t lineCount = 0;   // of the index with the buffer
+  std::size_t failedAt = 0;     // bytes of text that waited when writing last failed; 0 while it works
 
   EventsLog() = default;
   ~EventsLog();
@@ -52,14 +54,16 @@ struct EventsLog {
 std::string EventsLogPath(const Game& game);
 std::string EventsIndexPath(const Game& game);
 
-// The only writer. Does nothing while recording is off. A file that can't be written is reported once, and
-// the game goes on.
+// The only writer. Does nothing while recording is off. A file that can't be written stops a run and is told
+// once; its lines wait, and are tried again after every roll that a user asks for.
 void WriteEventsLogLine(Game& game, std::string_view text);
 // Writes the pending heading, if any, and then the line.
 void WriteGroupedLine(Game& game, std::string_view text);
 // Brings the files up to date and closes them: at the end of a roll that a user asked for, at every yield
 // that lets others look, and before any other procedure touches the files.
 void FlushEventsLog(Game& game);
+// The same at the end of a game: what could not be written is returned, not told.
+std::string CloseEventsLog(Game& game);
 
 // Deletes the index and makes it anew from the text file. False, with text, on a file error.
 bool RebuildEventsLogIndex(Game& game, std::string& error);

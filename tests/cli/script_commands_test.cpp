@@ -1,12 +1,9 @@
 // Scripts on the command line: the commands of play, the folders that a script may write to, and Ctrl-C.
 #include <gtest/gtest.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <chrono>
+#include <csignal>
+#include <filesystem>
 #include <nlohmann/json.hpp>
-#include <thread>
 
 #include "support/cli_process.h"
 
@@ -230,50 +227,32 @@ TEST(CliScript, WritesOutsideTheDataFolderOnlyWhereItIsAllowed) {
   EXPECT_EQ(ReadFile(data.File("in.txt")), "inside\ninside\n");
 }
 
-// Runs the program with a script without end and presses Ctrl-C. Its exit code, or -1 when it had to be
-// killed.
-int ExitAfterCtrlC(const std::vector<std::string>& arguments, const TempFolder& folder) {
-  const pid_t child = fork();
-  if (child == 0) {
-    std::string program = TESSARYN_BIN_DIR "/tessaryn-cli";
-    std::vector<char*> words = {program.data()};
-    std::vector<std::string> copies = arguments;
-    for (std::string& word : copies) words.push_back(word.data());
-    words.push_back(nullptr);
-    if (freopen(folder.File("in").c_str(), "r", stdin) == nullptr) _exit(126);
-    if (freopen(folder.File("out").c_str(), "w", stdout) == nullptr) _exit(126);
-    execv(words[0], words.data());
-    _exit(127);
-  }
-  std::this_thread::sleep_for(std::chrono::milliseconds(700));
-  kill(child, SIGINT);
-  for (int i = 0; i < 500; ++i) {
-    int status = 0;
-    if (waitpid(child, &status, WNOHANG) == child) return WIFEXITED(status) ? WEXITSTATUS(status) : -2;
-    std::this_thread::sleep_for(std::chrono::milliseconds(20));
-  }
-  kill(child, SIGKILL);
-  waitpid(child, nullptr, 0);
-  return -1;
-}
-
 TEST(CliScript, CtrlCStopsAScriptWithoutEnd) {
   TempFolder folder;
   WriteFile(folder.File("loop.bet"),
-            "bet 5 on field\ndo\nadd 1 to cs0\nif cs0 < 0 then exitdo endif\nloop\n");
-  WriteFile(folder.File("in"),
-            "join 1 Ann 500\nscript 1 " + folder.File("loop.bet") + "\ninitialise 1\nstate\n");
-  EXPECT_EQ(ExitAfterCtrlC({"play", "--data-folder", folder.Path()}, folder), 0);
-  const std::vector<std::string> lines = Lines(ReadFile(folder.File("out")));
-  ASSERT_EQ(lines.size(), 3u) << "the command that was stopped is answered, and no further one is done";
-  EXPECT_TRUE(Json::accept(lines.back()));
+            "bet 5 on field\nopen/clear file for output \"begun\"\ndo\nadd 1 to cs0\n"
+            "if cs0 < 0 then exitdo endif\nloop\n");
+  Surroundings around;
+  around.signal = SIGINT;
+  around.when = [&folder] {
+    return std::filesystem::exists(folder.File("begun")) ||
+           std::filesystem::exists(folder.File("output/begun"));
+  };
+  const Ran played =
+      RunCli(folder, {"play", "--data-folder", folder.Path()},
+             "join 1 Ann 500\nscript 1 " + folder.File("loop.bet") + "\ninitialise 1\nstate\n", around);
+  EXPECT_EQ(played.exitCode, 128 + SIGINT);
+  const std::vector<std::string> lines = Lines(played.out);
+  ASSERT_EQ(lines.size(), 3u) << "no command is done behind the one that was stopped";
+  for (const std::string& line : lines) EXPECT_TRUE(Json::accept(line));
 
-  EXPECT_EQ(
-      ExitAfterCtrlC({"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set",
-                      "ShooterBetRule=0", "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
-                     folder),
-      0);
-  const Json run = Json::parse(ReadFile(folder.File("out")));
+  for (const char* name : {"begun", "output/begun"}) std::filesystem::remove(folder.File(name));
+  const Ran ran = RunCli(folder,
+                         {"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set",
+                          "ShooterBetRule=0", "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
+                         "", around);
+  EXPECT_EQ(ran.exitCode, 128 + SIGINT);
+  const Json run = Json::parse(ran.out);
   EXPECT_EQ(run["seats"][0]["onTable"], 5) << "the table is as the last statement left it";
   EXPECT_LT(run["rolls"], 1000);
 }

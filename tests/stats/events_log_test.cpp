@@ -5,11 +5,13 @@
 #include <filesystem>
 #include <random>
 
+#include "dice/auto_roll.h"
 #include "dice/seed_rng.h"
 #include "engine/bankroll.h"
 #include "engine/bet_rules.h"
 #include "engine/players.h"
 #include "engine/roll_cycle.h"
+#include "engine/table_files.h"
 #include "persist/new_session.h"
 #include "support/test_host.h"
 
@@ -375,14 +377,20 @@ TEST(EventsLogFiles, AnUnwritableLogIsToldOnceAndTheGameGoesOn) {
   }
 }
 
-TEST(EventsLogFiles, ALongRunOverAFullDiskIsNotHeldUp) {
+TEST(EventsLogFiles, AFullDiskStopsEveryRunWithItsReason) {
   LoggedTable table;
-  table.game->events.Path = "/dev/full";
+  Game& game = *table.game;
+  game.events.Path = "/dev/full";
   table.Join(1, "Ann");
-  table.Turbo(60'000);
-  EXPECT_EQ(SessionRolls(table.game->stats), 60'000);
-  EXPECT_EQ(table.host.boxes.size(), 1u) << table.host.LastText();
-  EXPECT_LE(table.game->events.textBuffer.size(), 5u * 1024 * 1024) << "what waits is bounded";
+  for (int run = 1; run <= 3; ++run) {
+    const std::int64_t before = SessionRolls(game.stats);
+    table.Turbo(60'000);
+    EXPECT_LT(SessionRolls(game.stats) - before, 20'000);
+    EXPECT_EQ(table.host.boxes.size(), static_cast<std::size_t>(run)) << "told once in a run";
+    EXPECT_EQ(table.host.boxes.back().title, kRunStoppedTitle);
+    EXPECT_NE(game.table.StopReason.find("/dev/full"), std::string::npos) << game.table.StopReason;
+  }
+  EXPECT_NE(EndGame(game).find("/dev/full"), std::string::npos);
 }
 
 TEST(EventsLogFiles, WaitingLinesGoBehindWhatTheNextLogHolds) {

@@ -1,6 +1,7 @@
 // The command-line program run as a process.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -9,12 +10,29 @@
 namespace tessaryn::test {
 
 struct Ran {
-  int exitCode = -1;  // 128 and the signal's number for a program that was stopped by one
+  // 128 and the signal's number for a program that was stopped by one before it could note it; -1 for one
+  // that had to be killed.
+  int exitCode = -1;
   std::string out;
   std::string err;
+  bool killedBySignal = false;
+};
+
+// What stands around a run that isn't as usual.
+struct Surroundings {
+  std::string out;                  // standard output, if it is not to be read
+  bool noReader = false;            // standard output is a pipe that nobody reads
+  bool openInput = false;           // standard input stays open behind the input
+  long fileLimit = 0;               // bytes that a file may have, as on a full disk; 0 any
+  int signal = 0;                   // sent when the program notes signals, and
+  std::function<bool()> when = {};  // this holds
 };
 
 // Its input and output go through files in the folder.
-Ran RunCli(const TempFolder& folder, std::vector<std::string> arguments, const std::string& input = "");
+Ran RunCli(const TempFolder& folder, std::vector<std::string> arguments, const std::string& input = "",
+           const Surroundings& around = {});
+
+// Whether a process has a handler for a signal by now.
+bool NotesSignal(int process, int signal);
 
 }  // namespace tessaryn::test

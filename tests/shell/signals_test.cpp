@@ -1,0 +1,62 @@
+// A signal ends the window in order, whatever it is at.
+#include "shell/signals.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QTimer>
+#include <csignal>
+
+#include "dice/auto_roll.h"
+#include "persist/interrupts.h"
+#include "shell/main_window.h"
+#include "shell/screens_support.h"
+#include "support/test_host.h"
+
+namespace tessaryn::test {
+namespace {
+
+// Runs the window until it ends, with a signal in the middle of what it does, and returns its exit code.
+int ExitAfter(ScreenTable& table, int signal, const std::function<void()>& work) {
+  MainWindow window(*table.game, table.host);
+  window.show();
+  const SignalWatch watch(*table.game, window);
+  QTimer::singleShot(0, &window, work);
+  QTimer::singleShot(300, &window, [signal] { raise(signal); });
+  const int code = QCoreApplication::exec();
+  EXPECT_FALSE(window.isVisible());
+  ForgetSignal();
+  return code;
+}
+
+TEST(Signals, LogAndRecordingAreOfTheSameRollWhenTheWindowIsEnded) {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP, SIGPIPE}) {
+    SCOPED_TRACE(signal);
+    ScreenTable table;
+    Game& game = *table.game;
+    game.settings.ShooterBetRule = 0;
+    game.events.RecordEventsActive = true;
+    const std::string recording = game.dataFolder + "new.rol";
+    ASSERT_EQ(OpenRollFile(game.rollFile, recording), "");
+    ASSERT_EQ(SetRecorderState(game.rollFile, kRecorderRecord), "");
+    EXPECT_EQ(ExitAfter(table, signal, [&game] { ToggleAutoRoll(game); }), 128 + signal);
+    const std::int64_t rolls = SessionRolls(game.stats);
+    EXPECT_GT(rolls, 0);
+    EXPECT_EQ(static_cast<std::int64_t>(ReadFile(recording).size()), rolls);
+    EXPECT_EQ(QString::fromStdString(ReadFile(EventsLogPath(game))).count(" Roll #"), rolls);
+  }
+}
+
+TEST(Signals, ABoxThatWaitsInARollGetsItsSafeAnswer) {
+  ScreenTable table;
+  Game& game = *table.game;
+  game.settings.ShooterBetRule = 0;
+  table.Join(4, "Ann");
+  table.Bet(4, kField, "5");
+  EXPECT_EQ(ExitAfter(table, SIGTERM, [&table] { table.Roll(1, 2); }), 128 + SIGTERM);
+  EXPECT_EQ(SessionRolls(game.stats), 1);
+  EXPECT_FALSE(game.table.RollInProgress);
+}
+
+}  // namespace
+}  // namespace tessaryn::test
