@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
-# The speed of a Turbo-Roll as a ratio to the floor (bench/floor.cpp), both measured in turn in this run.
-# Usage: bench/compare_floor.sh [rounds]     after a release build
+# The speed of a Turbo-Roll as a ratio to the floor (bench/floor.cpp), both measured in turn in this run, by
+# processor time. Usage: bench/compare_floor.sh [rounds]     after a release build
 set -euo pipefail
 cd "$(dirname "$0")/.."
 bin=build/release/bin
-rate() { sed 's/.*"rollsPerSecond":\([0-9]*\).*/\1/'; }
+source bench/rate.sh
+folder=$(mktemp -d)
+trap 'rm -r "$folder"' EXIT
 
 eight() {
   local seat=0 name
@@ -16,18 +18,27 @@ eight() {
   for seat in 1 2 3 4 5 6 7 8; do
     echo "bet $seat passline 10"; echo "bet $seat place6 12"; echo "bet $seat place8 12"; echo "bet $seat field 5"
   done
-  echo "turbo 2000000"
 }
-pass_line() {
-  printf '%s\n' "join 1 Ann 5000000" "set WinHandling 2" "set LoseHandling 2" "bet 1 passline 10" "turbo 10000000"
+logged() { echo "set RecordEventsActive on"; eight; }
+alone() { printf '%s\n' "join 1 Ann 5000000" "set WinHandling 2" "set LoseHandling 2" "set ShooterBetRule 0"; }
+pass_line() { alone; echo "bet 1 passline 10"; }
+# A hop, a hard way and eight more that every roll decides.
+propositions() {
+  alone
+  local bet
+  for bet in hop33 hop12 hop46 hard6 seven two eleven craps horn over7; do echo "bet 1 $bet 4"; done
 }
+# played ROLLS TABLE: that table's rate.
+played() { rate "$1" "$bin/tessaryn-cli" play --data-folder "$folder" < <("$2"; echo "turbo $1"); }
 
-printf '%12s %10s %10s %12s\n' "floor/s" "no bets" "pass line" "eight seats"
+printf '%12s %10s %10s %12s %13s %12s\n' "floor/s" "no bets" "pass line" "propositions" "eight seats" "eight logged"
 for _ in $(seq "${1:-3}"); do
-  floor=$($bin/tessaryn_floor | rate)
-  none=$($bin/tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --json | rate)
-  pass=$(pass_line | $bin/tessaryn-cli play | tail -1 | rate)
-  busy=$(eight | $bin/tessaryn-cli play | tail -1 | rate)
-  awk -v f="$floor" -v n="$none" -v p="$pass" -v b="$busy" \
-    'BEGIN { printf "%12d %10.3f %10.3f %12.3f\n", f, n/f, p/f, b/f }'
+  floor=$(rate 20000000 $bin/tessaryn_floor)
+  none=$(rate 10000000 $bin/tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --json)
+  pass=$(played 10000000 pass_line)
+  props=$(played 2000000 propositions)
+  busy=$(played 2000000 eight)
+  logs=$(played 200000 logged)
+  awk -v f="$floor" -v n="$none" -v p="$pass" -v o="$props" -v b="$busy" -v l="$logs" \
+    'BEGIN { printf "%12d %10.3f %10.3f %12.3f %13.3f %12.4f\n", f, n/f, p/f, o/f, b/f, l/f }'
 done

@@ -1,8 +1,10 @@
-// What a Turbo-Roll costs: the counting alone, a standing bet, a full table, the Events Log, and the dice.
+// What a Turbo-Roll costs: the counting alone, standing bets, a full table, scripts, the Events Log, and the
+// dice.
 #include <benchmark/benchmark.h>
 
 #include <filesystem>
 
+#include "autobet/script_session.h"
 #include "config/advantage.h"
 #include "config/setting_table.h"
 #include "dice/auto_roll.h"
@@ -82,15 +84,48 @@ void EightBusySeats(benchmark::State& state) {
 }
 BENCHMARK(EightBusySeats)->Unit(benchmark::kMillisecond);
 
-void EightBusySeatsLogged(benchmark::State& state) {
+// Decided on every roll and bet again by handling, as no other bet is.
+void StandingPropositions(benchmark::State& state) {
+  Table table(1);
+  for (int bet = kHop13; bet <= kHop55; ++bet) PlaceBet(*table.game, 1, bet, Currency::Dollars(1));
+  for (const int bet : {kTwo, kSeven, kHorn, kWorld}) PlaceBet(*table.game, 1, bet, Currency::Dollars(20));
+  table.Roll(state);
+}
+BENCHMARK(StandingPropositions)->Unit(benchmark::kMillisecond);
+
+// A script on every roll; items are its statements.
+void RollScript(benchmark::State& state, const std::vector<std::string>& lines, int statements) {
+  Table table(1);
+  SetScript(*table.game, 1, lines, "");
+  SetScriptActive(*table.game, 1, true);
+  table.Roll(state);
+  state.SetItemsProcessed(state.items_processed() * statements);
+}
+
+void CheckStackArithmetic(benchmark::State& state) {
+  RollScript(state,
+             {"cs1 = 1", "cs2 = cs1 + 2", "add 1 to cs3", "cs4 = cs3 * 2 - cs2", "subtract 1 from cs5",
+              "cs6 = cs4 / 3", "multiply by 2 on cs1", "round to the nearest 5 on cs6"},
+             8);
+}
+BENCHMARK(CheckStackArithmetic)->Unit(benchmark::kMillisecond);
+
+void BetsThatStandAlready(benchmark::State& state) {
+  RollScript(state, {"bet 12 on place6", "bet 12 on place8", "bet 5 on hard6", "bet 10 on big6"}, 4);
+}
+BENCHMARK(BetsThatStandAlready)->Unit(benchmark::kMillisecond);
+
+// Items are the lines of the log.
+void EventsLogLines(benchmark::State& state) {
   Table table(kSeats);
   PutEverySeatToWork(table);
   ClearEventsLog(*table.game);
   table.game->events.RecordEventsActive = true;
   table.Roll(state);
+  state.SetItemsProcessed(EventsLogLineCount(*table.game));
   ClearEventsLog(*table.game);
 }
-BENCHMARK(EightBusySeatsLogged)->Unit(benchmark::kMillisecond)->Iterations(5);
+BENCHMARK(EventsLogLines)->Unit(benchmark::kMillisecond)->Iterations(5);
 
 void DiceAlone(benchmark::State& state) {
   Table table(0);

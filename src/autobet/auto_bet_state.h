@@ -43,6 +43,7 @@ struct SeatScript {
   std::vector<int> ScriptNesting;        // the level of each line
   std::string ScriptFileName;            // empty: untitled
   bool Unsaved = false;
+  std::unique_ptr<KeptScript> Kept;  // the last good compile; may be null. Written by the interpreter
   // Permissions.
   bool AllowAct4Others = false;
   bool AllowReset = false;    // new sessions

@@ -245,6 +245,14 @@ inline bool TestMoney(Game& game, const PreparedProgram& program, const Instruct
 // Most bets are not up, and a division costs more than a look.
 double Dollars(Currency money) { return money.raw == 0 ? 0 : money.ToDouble(); }
 
+// A bet or CheckStack.
+bool ReadMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
+  int seat = 0;
+  if (!SeatOf(game, program, program.references[static_cast<std::size_t>(step.a)], seat)) return false;
+  result = Dollars(game.table.BetAmount(seat, step.b));
+  return true;
+}
+
 bool ReadBets(Game& game, PreparedProgram& program, const Instruction& step) {
   int seat = 0;
   if (!SeatOf(game, program, program.references[static_cast<std::size_t>(step.a)], seat)) return false;
@@ -262,11 +270,7 @@ bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, dou
   if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
   int seat = 0;
   if (!SeatOf(game, program, reference, seat)) return false;
-  if (step.op == Op::kLastRoll) {
-    result = Dollars(SessionLastRoll(game, reference.metric, seat, step.b));
-    return true;
-  }
-  result = Dollars(game.table.BetAmount(seat, step.b));
+  result = Dollars(SessionLastRoll(game, reference.metric, seat, step.b));
   return true;
 }
 
@@ -353,6 +357,8 @@ bool Evaluate(Game& game, PreparedProgram& program, CodeRange code) {
         break;
       case Op::kBetMoney:
       case Op::kStack:
+        if (!ReadMoney(game, program, *step, to)) return false;
+        break;
       case Op::kLastRoll:
       case Op::kVariable:
       case Op::kFunction:

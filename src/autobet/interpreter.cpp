@@ -47,6 +47,24 @@ void Prepare(AutoBet& autobet) {
 
 }  // namespace
 
+const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroundings& surroundings,
+                                       ScriptDiagnostic& diagnostic) {
+  SeatScript& script = game.autobet.Scripts[seat];
+  const KeptScript* before = script.Kept.get();
+  if (before == nullptr || before->seat != seat || before->lines != script.ScriptLines ||
+      before->surroundings != surroundings) {
+    auto kept = std::make_unique<KeptScript>();
+    if (!CompileAutobets(seat, script.ScriptLines, surroundings, kept->script, diagnostic, &kept->nesting))
+      return nullptr;
+    kept->seat = seat;
+    kept->lines = script.ScriptLines;
+    kept->surroundings = surroundings;
+    script.Kept = std::move(kept);
+  }
+  script.ScriptNesting = script.Kept->nesting;
+  return &script.Kept->script;
+}
+
 void CompileALLAutobets(Game& game) {
   AutoBet& autobet = game.autobet;
   autobet.ScriptsCompiled = false;
@@ -54,12 +72,10 @@ void CompileALLAutobets(Game& game) {
   const ScriptSurroundings surroundings = SurroundingsOf(game);
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!autobet.ScriptActive[seat]) continue;
-    SeatScript& script = autobet.Scripts[seat];
-    CompiledScript compiled;
     ScriptDiagnostic diagnostic;
-    if (!CompileAutobets(seat, script.ScriptLines, surroundings, compiled, diagnostic, &script.ScriptNesting))
-      return TellBadScript(game, seat);
-    JoinScript(autobet.Program, compiled);
+    const CompiledScript* compiled = CompiledScriptOf(game, seat, surroundings, diagnostic);
+    if (compiled == nullptr) return TellBadScript(game, seat);
+    JoinScript(autobet.Program, *compiled);
   }
   Prepare(autobet);
   autobet.ScriptsCompiled = true;
@@ -193,6 +209,19 @@ bool TakeAmount(Run& run, const PreparedStatement& statement) {
   });
 }
 
+// One bet or CheckStack of whose script it is: no list to walk and nothing to look up.
+bool SetOwn(Run& run, const PreparedStatement& statement) {
+  Game& game = run.game;
+  const int seat = game.autobet.CurrentAutobettor;
+  if (!PlayerMayAct(game, seat)) return false;
+  double value = run.program.numbers[static_cast<std::size_t>(statement.operand.place)];
+  if (statement.kind == StatementKind::kAmount && statement.code != kActionBet) {
+    const double now = game.table.BetAmount(seat, statement.own).ToDouble();
+    if (!Combined(game, statement.code, now, value, value)) return false;
+  }
+  return SetAmount(game, seat, statement.own, value);
+}
+
 bool TakeOnTarget(Game& game, int action, const ResolvedTarget& target) {
   if (action == kActionBuyPlace) {
     if (!IsPlace(target.code)) return ScriptFails(game, kErrorPlaceReference);
@@ -234,6 +263,7 @@ bool Swap(Run& run, const PreparedStatement& statement) {
 
 bool TakeStatement(Run& run, const PreparedStatement& statement) {
   if (!Evaluate(run.game, run.program, statement.value)) return false;
+  if (statement.own != 0) return SetOwn(run, statement);
   switch (statement.kind) {
     case StatementKind::kAssign:
       return Assign(run, statement);

@@ -704,7 +704,7 @@ class ProgramPreparer {
     statement.value.begin = rangeStart_ = CodeEnd();
     if (first.kind == kTokenHeader) {
       statement.kind = StatementKind::kHeader;
-      statement.code = CodeOf(first);
+      statement.code = owner_ = CodeOf(first);
       inCondition_ = false;
     } else if (first.kind == kTokenLabel) {
       statement.kind = StatementKind::kLabel;
@@ -808,6 +808,18 @@ class ProgramPreparer {
     statement.kind = StatementKind::kAssign;
     SetValue(std::min(equal + 1, end), end, statement);
     Targets(begin, equal, statement);
+    statement.own = OwnTarget(statement);
+  }
+
+  std::int32_t OwnTarget(const PreparedStatement& statement) const {
+    if (statement.operand.text || statement.targets.end - statement.targets.begin != 1) return 0;
+    const TargetItem& item = out_.targets[static_cast<Index>(statement.targets.begin)];
+    const Reference& target = item.target;
+    const bool ownPlayer = target.player == PlayerChoice::kAutobettor ||
+                           (target.player == PlayerChoice::kSeat && target.seat == owner_);
+    const bool plain =
+        !item.isQualifier && item.qualifier < 0 && item.code.begin == item.code.end && !target.function;
+    return ownPlayer && plain && (IsTableBet(target.code) || IsCheckStack(target.code)) ? target.code : 0;
   }
 
   void Action(Index begin, Index end, PreparedStatement& statement) {
@@ -821,6 +833,7 @@ class ProgramPreparer {
         statement.operand = AsNumber(statement.operand);
         statement.value.end = CodeEnd();
         Targets(std::min(preposition + 1, end), end, statement);
+        statement.own = OwnTarget(statement);
         return;
       }
       case ActionShape::kTargets:
@@ -926,6 +939,7 @@ class ProgramPreparer {
   Index usedTexts_ = 0;
   std::int32_t rangeStart_ = 0;  // the first instruction of the stretch in hand
   int listDepth_ = 0;
+  int owner_ = 0;  // whose script it is; 0 a hot-key's
   int line_ = 0;
   int column_ = 0;
   bool inCondition_ = false;

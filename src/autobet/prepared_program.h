@@ -169,13 +169,15 @@ struct PreparedStatement {
   std::int32_t keyword = 0;  // of a block keyword: its token kind
   std::int32_t line = 0;     // 1-based source line
   std::int32_t column = 0;
-  std::int32_t code = 0;       // of an action; of a header the player
-  std::int32_t jump = 0;       // a statement's index; the run goes on behind it
-  std::int32_t tests = 0;      // of a condition that is nothing but tests joined by AND: how many
-  std::int32_t then = 0;       // of if and elseif: the statement that ends the condition
-  CodeRange value;             // computes the operands below
-  Operand operand;             // the value, the amount, the first argument
-  Operand second;              // a second argument
+  std::int32_t code = 0;   // of an action; of a header the player
+  std::int32_t jump = 0;   // a statement's index; the run goes on behind it
+  std::int32_t tests = 0;  // of a condition that is nothing but tests joined by AND: how many
+  std::int32_t own = 0;    // of kAssign and kAmount: the bet or CheckStack of whose script it is that takes
+                           // the number, and nothing else does; 0 any other targets
+  std::int32_t then = 0;   // of if and elseif: the statement that ends the condition
+  CodeRange value;         // computes the operands below
+  Operand operand;         // the value, the amount, the first argument
+  Operand second;          // a second argument
   std::int32_t arguments = 0;  // how many of the two there are
   CodeRange targets;           // stretch of the target items
 };

@@ -46,10 +46,9 @@ bool IsEmpty(const std::vector<std::string>& lines) {
                      [](const std::string& line) { return Trimmed(line).empty(); });
 }
 
-}  // namespace
-
-ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
-                       const std::vector<std::string>& lines, std::vector<int>* nesting) {
+// compile: whether the lines compile, and what is wrong with them.
+template <typename Compile>
+ScriptCheck CheckBy(const std::vector<std::string>& lines, Compile&& compile) {
   ScriptCheck check;
   check.title = kTitle;
   if (IsEmpty(lines)) {
@@ -59,8 +58,7 @@ ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
         "is empty.";
     return check;
   }
-  CompiledScript script;
-  check.ok = CompileAutobets(seat, lines, surroundings, script, check.diagnostic, nesting);
+  check.ok = compile(check.diagnostic);
   if (check.ok) {
     check.text = "Your script is properly structured.";
     return check;
@@ -73,14 +71,21 @@ ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
   return check;
 }
 
+}  // namespace
+
+ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
+                       const std::vector<std::string>& lines, std::vector<int>* nesting) {
+  return CheckBy(lines, [&](ScriptDiagnostic& diagnostic) {
+    CompiledScript script;
+    return CompileAutobets(seat, lines, surroundings, script, diagnostic, nesting);
+  });
+}
+
 ScriptCheck CheckScript(Game& game, int seat) {
-  SeatScript& script = game.autobet.Scripts[seat];
-  std::vector<int> nesting;
-  ScriptCheck check = CheckLines(SurroundingsOf(game), seat, script.ScriptLines, &nesting);
-  if (check.ok) {
-    script.ScriptNesting = std::move(nesting);
-    game.autobet.ScriptsCompiled = false;
-  }
+  ScriptCheck check = CheckBy(game.autobet.Scripts[seat].ScriptLines, [&](ScriptDiagnostic& diagnostic) {
+    return CompiledScriptOf(game, seat, SurroundingsOf(game), diagnostic) != nullptr;
+  });
+  if (check.ok) game.autobet.ScriptsCompiled = false;
   return check;
 }
 

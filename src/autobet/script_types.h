@@ -105,6 +105,17 @@ struct ScriptSurroundings {
   bool smallTall = true;     // bets 84 to 89
   bool midway = true;        // bet 90
   bool fire = true;          // bet 93
+
+  friend bool operator==(const ScriptSurroundings&, const ScriptSurroundings&) = default;
+};
+
+// A script that compiled, and all that it was compiled from.
+struct KeptScript {
+  int seat = 0;
+  std::vector<std::string> lines;
+  ScriptSurroundings surroundings;
+  CompiledScript script;
+  std::vector<int> nesting;
 };
 
 }  // namespace tessaryn

@@ -28,6 +28,7 @@ bool SetBet(Game& game, int seat, int bet, double dollars) {
   const Currency wanted = Currency::FromDouble(dollars);
   if (wanted.IsError()) return ScriptFaults(game, kNumberOverflow);
   TableState& table = game.table;
+  if (wanted == table.BetAmount(seat, bet) && StaysWhenBetAgain(game, seat, bet)) return true;
   WorkingState& working = table.BetWorking[seat];
   const bool calledOn = working.calledOn.Has(bet);
   const bool calledOff = working.calledOff.Has(bet);
@@ -42,6 +43,11 @@ bool SetBet(Game& game, int seat, int bet, double dollars) {
 }
 
 bool SetStack(Game& game, int seat, int bet, double dollars) {
+  // Within what a stack holds there is nothing to refuse.
+  if (std::fabs(dollars) < kStackLimit.ToDouble()) {
+    SetBetAmount(game, seat, bet, Currency::FromDouble(dollars));
+    return true;
+  }
   const Currency wanted = Currency::FromDouble(std::clamp(dollars, -1e12, 1e12));
   ChangeBet(game, seat, bet, wanted - game.table.BetAmount(seat, bet));
   return true;
@@ -264,12 +270,15 @@ bool ResolveTarget(Game& game, const PreparedProgram& program, const Reference& 
   return PlayerMayAct(game, resolved.seat);
 }
 
+bool SetAmount(Game& game, int seat, int bet, double dollars) {
+  return IsTableBet(bet) ? SetBet(game, seat, bet, dollars) : SetStack(game, seat, bet, dollars);
+}
+
 bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
   const int code = target.code;
   const int seat = target.seat;
   if (code == 0) return true;
-  if (IsBetVariable(code)) return SetBet(game, seat, code, value.AsNumber());
-  if (code >= 100 && code <= 199) return SetStack(game, seat, code, value.AsNumber());
+  if (IsTableBet(code) || IsCheckStack(code)) return SetAmount(game, seat, code, value.AsNumber());
   if (code == 1300 || code == 1301) return SetBankrollOf(game, seat, value.AsNumber());
   if (code == 670) return SetHandling(game, seat, kWinRule, value);
   if (code == 671) return SetHandling(game, seat, kLoseRule, value);

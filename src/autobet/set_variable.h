@@ -30,6 +30,8 @@ bool ResolveTarget(Game& game, const PreparedProgram& program, const Reference& 
                    ResolvedTarget& resolved);
 bool PlayerMayAct(Game& game, int seat);
 bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& value);
+// The same for a bet or CheckStack of a seat that the script may act for.
+bool SetAmount(Game& game, int seat, int bet, double dollars);
 // What the target holds now.
 bool ReadTarget(Game& game, const PreparedProgram& program, const Reference& target,
                 const ResolvedTarget& resolved, ScriptValue& value);

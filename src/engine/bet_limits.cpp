@@ -24,11 +24,35 @@ Currency AmountThatWins(const Game& game, Currency limit, const PayoffRecord& re
   return Divide(Multiply(limit, record.PayPer), record.PayTo);
 }
 
-Currency SmallestAmount(const Game& game, std::span<const PayoffRecord> rows) {
+// The same, figured anew only when the limit, the betting unit or the payoff is another.
+inline const KeptMaximum& KeptAmount(const Game& game, std::size_t place, Currency limit,
+                                     const PayoffRecord& record) {
+  KeptMaximum& kept = game.maximums.of[place];
+  const Currency unit = game.settings.Unit();
+  // A record that can't win asks for another limit.
+  if (record.PayTo <= kZero) limit = game.settings.MaxBet;
+  const std::int64_t differs = (kept.limit.raw ^ limit.raw) | (kept.unit.raw ^ unit.raw) |
+                               (kept.payTo.raw ^ record.PayTo.raw) | (kept.payPer.raw ^ record.PayPer.raw);
+  if (differs != 0) {
+    const Currency amount = AmountThatWins(game, limit, record);
+    kept = {limit, unit, record.PayTo, record.PayPer, amount, WholeUnits(game, amount)};
+  }
+  return kept;
+}
+
+inline const KeptMaximum& KeptProposition(const Game& game, int bet) {
+  return KeptAmount(game, static_cast<std::size_t>(bet), game.settings.MaxPropBetPayoff,
+                    game.payoffs.PayoffTable[bet]);
+}
+
+// place: where the amounts of the table's rows are kept.
+Currency SmallestAmount(const Game& game, std::size_t place, std::span<const PayoffRecord> table) {
   Currency smallest = kBankrollLimit;
-  for (const PayoffRecord& record : rows)
+  for (const PayoffRecord& record : table.subspan(1)) {
     if (record.PayTo > kZero)
-      smallest = std::min(smallest, AmountThatWins(game, game.settings.MaxPropBetPayoff, record));
+      smallest = std::min(smallest, KeptAmount(game, place, game.settings.MaxPropBetPayoff, record).amount);
+    ++place;
+  }
   return smallest;
 }
 
@@ -46,9 +70,7 @@ constexpr SharedBet kSharedBets[] = {
 Currency MaxSharedBet(const Game& game, int bet) {
   const SharedBet& shared = kSharedBets[bet - kCAndE];
   Currency smallest = kBankrollLimit;
-  for (const int part : shared.parts)
-    smallest = std::min(smallest,
-                        AmountThatWins(game, game.settings.MaxPropBetPayoff, game.payoffs.PayoffTable[part]));
+  for (const int part : shared.parts) smallest = std::min(smallest, KeptProposition(game, part).amount);
   return Multiply(smallest, Currency::Dollars(shared.shares));
 }
 
@@ -176,22 +198,26 @@ Currency MinBetFor(const Game& game, int bet) {
 
 Currency MaxBetFor(const Game& game, int seat, int bet) {
   const Settings& settings = game.settings;
-  const PayoffRecord& record = game.payoffs.PayoffTable[bet];
+  if (bet >= kHard4 && bet <= kPoint7 && !(bet >= kCAndE && bet <= kWorld))
+    return KeptProposition(game, bet).whole;
   if (bet == kPassLineOdds || IsComeOdds(bet)) return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, false));
   if (bet == kDontPassOdds || IsDontComeOdds(bet))
     return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, true));
-  if (IsLay(bet)) return WholeUnits(game, AmountThatWins(game, settings.MaxBet, record));
+  if (IsLay(bet))
+    return KeptAmount(game, static_cast<std::size_t>(bet), settings.MaxBet, game.payoffs.PayoffTable[bet])
+        .whole;
   if (bet >= kCAndE && bet <= kWorld) return WholeUnits(game, MaxSharedBet(game, bet));
-  if (bet >= kHard4 && bet <= kPoint7)
-    return WholeUnits(game, AmountThatWins(game, settings.MaxPropBetPayoff, record));
+  constexpr std::size_t kSevenPointSevenPlace = kBets + 1;
+  constexpr std::size_t kSharpShooterPlace = kSevenPointSevenPlace + kSevenPointSevenRows;
+  constexpr std::size_t kRideTheLinePlace = kSharpShooterPlace + kSharpShooterRows;
   switch (bet) {
     case kSevenPoint7:
       return WholeUnits(game,
-                        SmallestAmount(game, std::span(game.payoffs.SevenPointSevenPayoffs).subspan(1)));
+                        SmallestAmount(game, kSevenPointSevenPlace, game.payoffs.SevenPointSevenPayoffs));
     case kSharpShooter:
-      return WholeUnits(game, SmallestAmount(game, std::span(game.payoffs.SharpShooterPayoffs).subspan(1)));
+      return WholeUnits(game, SmallestAmount(game, kSharpShooterPlace, game.payoffs.SharpShooterPayoffs));
     case kRideTheLine:
-      return WholeUnits(game, SmallestAmount(game, std::span(game.payoffs.RideTheLinePayoffs).subspan(1)));
+      return WholeUnits(game, SmallestAmount(game, kRideTheLinePlace, game.payoffs.RideTheLinePayoffs));
     case kFire:
       return WholeUnits(game, settings.MaxFireBet);
     default:

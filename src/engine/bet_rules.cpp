@@ -309,6 +309,10 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
   return allowed - value;
 }
 
+bool WorksByDefault(const TableState& table, int seat, int bet) {
+  return table.Point != 0 || table.BetDefaultWorking[seat].Has(bet);
+}
+
 // The families that the configuration can take off the table.
 constexpr BetSet kSwitchableBets =
     BetRange(kBig6, kBig8) | kSpecialProps | BetRange(kMidway, kMidway) | BetRange(kFire, kFire);
@@ -318,14 +322,19 @@ constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetR
                                      BetRange(kPlace4, kPlace4 + 5) | BetRange(kPassLine, kPassLine) |
                                      BetRange(kCome, kDontPass) | BetRange(kDontCome, kBig8);
 
+bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
+  const Settings& settings = game.settings;
+  const bool surely = kTableMaximumBets.Has(bet) && amount.raw <= settings.MaxBet.raw - settings.Unit().raw;
+  return surely || amount <= MaxBetFor(game, seat, bet);
+}
+
 // Whether the bet, as it stands, is one that no rule would change: what handling asks of every bet that
 // stays up, on every roll.
 bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
   const TableState& table = game.table;
-  const Settings& settings = game.settings;
-  return kTableMaximumBets.Has(bet) && amount.raw <= settings.MaxBet.raw - settings.Unit().raw &&
-         amount >= settings.MinBetMain && table.handling[seat].ProperOddsMode == 0 &&
-         table.OnTableAmount[seat] <= table.BankrollCurrent[seat];
+  return amount >= MinBetFor(game, bet) && table.handling[seat].ProperOddsMode == 0 &&
+         table.OnTableAmount[seat] <= table.BankrollCurrent[seat] && WithinMaximum(game, seat, bet, amount) &&
+         (!HasVig(bet) || VigHeld(game, seat, bet) == VigFor(game, bet, amount));
 }
 
 // Whether the change takes the bet off whole with nothing to stop or to charge it: no limit and no contract
@@ -378,6 +387,8 @@ struct OddsFollow {
   int lastFlat;
   int firstOdds;
   bool Handling::*automatic;
+
+  int OddsOf(int flat) const { return firstOdds + flat - firstFlat; }
 };
 constexpr OddsFollow kOddsFollow[] = {
     {kPassLine, kPassLine, kPassLineOdds, &Handling::AutoTakeOdds},
@@ -386,19 +397,33 @@ constexpr OddsFollow kOddsFollow[] = {
     {kDontPass, kDontPass, kDontPassOdds, &Handling::AutoLayOdds},
 };
 
-}  // namespace
-
-void BringOddsIntoLine(Game& game, int seat, int bet) {
+// What follows the flat bet now; null for nothing.
+const OddsFollow* FollowOf(const Game& game, int bet) {
   for (const OddsFollow& follow : kOddsFollow) {
     if (bet < follow.firstFlat || bet > follow.lastFlat) continue;
     const bool onLine = bet == kPassLine || bet == kDontPass;
-    if (onLine && game.table.Point == 0) return;
-    const int odds = follow.firstOdds + bet - follow.firstFlat;
-    const Currency up = game.table.BetAmount(seat, odds);
-    if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
-    const bool automatic = game.table.handling[seat].*follow.automatic;
-    if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
+    return onLine && game.table.Point == 0 ? nullptr : &follow;
   }
+  return nullptr;
+}
+
+// Whether odds are up, or wanted, that a change of the bet could change.
+bool OddsFollowBet(const Game& game, int seat, int bet) {
+  const OddsFollow* follow = FollowOf(game, bet);
+  return follow != nullptr && (game.table.handling[seat].*follow->automatic ||
+                               game.table.BetAmount(seat, follow->OddsOf(bet)) > kZero);
+}
+
+}  // namespace
+
+void BringOddsIntoLine(Game& game, int seat, int bet) {
+  const OddsFollow* follow = FollowOf(game, bet);
+  if (follow == nullptr) return;
+  const int odds = follow->OddsOf(bet);
+  const Currency up = game.table.BetAmount(seat, odds);
+  if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
+  const bool automatic = game.table.handling[seat].*follow->automatic;
+  if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
 }
 
 bool BetOffered(const Settings& settings, int bet) {
@@ -439,6 +464,21 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
     if (table.SeatsUp[bet] == 0) table.AnyBets.Remove(bet);
     ResetBetWorking(game, seat, bet);
   }
+}
+
+bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
+  const TableState& table = game.table;
+  const Settings& settings = game.settings;
+  const Currency amount = table.BetAmount(seat, bet);
+  if (amount == kZero) return true;
+  // A check is heard outside a Turbo-Roll, and a bet that comes down forgets its calls.
+  const WorkingState& working = table.BetWorking[seat];
+  const bool unseen = table.TurboRollActive && !working.calledOn.Has(bet) && !working.calledOff.Has(bet) &&
+                      working.byDefault.Has(bet) == WorksByDefault(table, seat, bet);
+  if (!unseen || !IsMultiple(amount, settings.Unit()) || !StandsAsItIs(game, seat, bet, amount)) return false;
+  if (kSwitchableBets.Has(bet) && !BetOffered(settings, bet)) return false;
+  const int place = kRuleOf[bet][0];
+  return (place < 0 || !kRules[place].refuses({game, seat, bet, amount})) && !OddsFollowBet(game, seat, bet);
 }
 
 Currency ChangeBet(Game& game, int seat, int bet, Currency request) {
@@ -496,7 +536,7 @@ void ResetBetWorking(Game& game, int seat, int bet) {
     state.calledOff.Remove(bet);
     game.table.CallsTouched = true;
   }
-  state.byDefault.Set(bet, game.table.Point != 0 || game.table.BetDefaultWorking[seat].Has(bet));
+  state.byDefault.Set(bet, WorksByDefault(game.table, seat, bet));
 }
 
 namespace {

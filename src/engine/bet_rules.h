@@ -28,6 +28,10 @@ void BringOddsIntoLine(Game& game, int seat, int bet);
 // negative for bets 1 to 93. CheckStacks take any amount.
 void SetBetAmount(Game& game, int seat, int bet, Currency amount);
 
+// Whether a bet that is taken down and asked for again at its amount, as a script's bet is, would come to
+// what it was, unseen and unheard: then nothing need be done. May say no where it would.
+bool StaysWhenBetAgain(const Game& game, int seat, int bet);
+
 // Whether the table, as configured, takes the bet at all.
 bool BetOffered(const Settings& settings, int bet);
 

@@ -10,6 +10,7 @@
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
+#include "engine/bet_limits.h"
 #include "engine/host.h"
 #include "engine/table_state.h"
 #include "persist/folder_lock.h"
@@ -23,6 +24,7 @@ struct Game {
   TableState table;
   Settings settings;
   PayoffTables payoffs;
+  mutable KeptMaximums maximums;  // of the two above
   Statistics stats;
   BankrollGraph graph;
   Generators generators;

@@ -54,26 +54,25 @@ std::string FormatMoney(Currency value) {
   return text + digits.whole + "." + digits.fraction;
 }
 
-void AppendPlainMoney(std::string& text, Currency value) {
-  if (value.raw < 0) text += '-';
+char* WritePlainMoney(char* to, Currency value) {
+  if (value.raw < 0) *to++ = '-';
   const std::uint64_t magnitude =
       value.raw < 0 ? 0 - static_cast<std::uint64_t>(value.raw) : static_cast<std::uint64_t>(value.raw);
-  char buffer[24];
-  const auto end = std::to_chars(buffer, buffer + sizeof buffer, magnitude / Currency::kPerDollar).ptr;
-  text.append(buffer, end);
+  constexpr int kMostDigits = 20;
+  to = std::to_chars(to, to + kMostDigits, magnitude / Currency::kPerDollar).ptr;
   std::uint64_t fraction = magnitude % Currency::kPerDollar;
-  if (fraction == 0) return;
-  text += '.';
+  if (fraction == 0) return to;
+  *to++ = '.';
   for (std::uint64_t place = Currency::kPerDollar / 10; fraction != 0; place /= 10) {
-    text += static_cast<char>('0' + fraction / place);
+    *to++ = static_cast<char>('0' + fraction / place);
     fraction %= place;
   }
+  return to;
 }
 
 std::string PlainMoney(Currency value) {
-  std::string text;
-  AppendPlainMoney(text, value);
-  return text;
+  char text[kLongestPlainMoney];
+  return std::string(text, WritePlainMoney(text, value));
 }
 
 double LeadingNumber(std::string_view text) {

@@ -94,7 +94,9 @@ inline constexpr Currency kZero{};
 std::string FormatMoney(Currency value);
 // "1234567", "-2.5", "0.125": no separators, no trailing zeros; the form of the Events Log.
 std::string PlainMoney(Currency value);
-void AppendPlainMoney(std::string& text, Currency value);
+inline constexpr std::size_t kLongestPlainMoney = 24;
+// Writes it where there is room for the longest; returns its end.
+char* WritePlainMoney(char* to, Currency value);
 // The reverse of both, also with a leading "$"; 0 for a text that is no number.
 Currency ParseMoney(std::string_view text);
 // As ParseMoney, but tells a text that is no number, or out of range, from 0: returns false and leaves

@@ -390,7 +390,7 @@ void AfterDice(Game& game) {
   MovePoint(game);
   if (logged) game.events.PendingLogHeading = WinsLossesHeading(game.events);
   SettleRoll(game);
-  if (logged) game.events.PendingLogHeading.clear();
+  if (logged) game.events.PendingLogHeading = {};
   CloseRollStatistics(game);
   const bool handEnded = table.RollTotal == 7 && table.PointBeforeRoll > 0;
   if (handEnded) EndHand(game);

@@ -104,7 +104,9 @@ bool EndsWithLine(const std::string& path, std::int64_t size) {
 }
 
 void AppendIndexRecord(std::string& buffer, std::int64_t position) {
-  for (int shift = 0; shift < 32; shift += 8) buffer += static_cast<char>(position >> shift & 0xff);
+  char record[kIndexBytes];
+  for (int i = 0; i < kIndexBytes; ++i) record[i] = static_cast<char>(position >> (8 * i) & 0xff);
+  buffer.append(record, kIndexBytes);
 }
 
 // Lines that wait from an earlier fault go behind what the files hold now.
@@ -205,8 +207,9 @@ void KeepWithinBounds(EventsLog& log) {
 }
 
 bool BeginsWithRoll(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  return first != std::string_view::npos && text.substr(first, 4) == "Roll";
+  std::size_t first = 0;
+  while (first < text.size() && text[first] == ' ') ++first;
+  return first < text.size() && text[first] == 'R' && text.substr(first, 4) == "Roll";
 }
 
 std::string Lower(std::string_view text) {
@@ -239,6 +242,7 @@ std::string LineAt(std::ifstream& text, std::ifstream& index, std::int64_t line)
 }
 
 void BeginGroup(EventsLog& log, const char* heading) { log.PendingLogHeading = heading; }
+void EndGroup(EventsLog& log) { log.PendingLogHeading = {}; }
 
 std::string FileNameOf(const std::string& path) { return fs::path(path).filename().string(); }
 
@@ -279,8 +283,8 @@ void WriteEventsLogLine(Game& game, std::string_view text) {
 void WriteGroupedLine(Game& game, std::string_view text) {
   EventsLog& log = game.events;
   if (!log.PendingLogHeading.empty()) {
-    const std::string heading = std::move(log.PendingLogHeading);
-    log.PendingLogHeading.clear();
+    const std::string_view heading = log.PendingLogHeading;
+    EndGroup(log);
     WriteEventsLogLine(game, heading);
   }
   WriteEventsLogLine(game, text);
@@ -430,12 +434,77 @@ std::string StickPosition(int seat) {
 
 namespace {
 
-std::string ScriptLine(const Game& game, int seat, bool active) {
-  const SeatScript& script = game.autobet.Scripts[seat];
-  std::string line = "      " + game.table.SeatName[seat];
-  if (!active) return line + " deactivated script";
-  if (script.ScriptFileName.empty()) return line + " activated untitled script";
-  return line + " activated script (" + script.ScriptFileName + ")";
+// A line that is formed piece by piece, on the stack as long as it is no longer than lines are.
+class Line {
+ public:
+  void Add(std::string_view text) {
+    std::memcpy(Room(text.size()), text.data(), text.size());
+    length_ += text.size();
+  }
+  // Of a known size, so that it is copied in a move or two.
+  template <std::size_t size>
+  [[gnu::always_inline]] void Add(const char (&literal)[size]) {
+    std::memcpy(Room(size - 1), literal, size - 1);
+    length_ += size - 1;
+  }
+  void Add(std::int64_t number) {
+    constexpr std::size_t kMostDigits = 20;
+    char* const at = Room(kMostDigits);
+    length_ += static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, number).ptr - at);
+  }
+  void Add(Currency amount) {
+    char* const at = Room(kLongestPlainMoney);
+    length_ += static_cast<std::size_t>(WritePlainMoney(at, amount) - at);
+  }
+  std::string_view Text() const { return {begin_, length_}; }
+
+ private:
+  [[gnu::always_inline]] char* Room(std::size_t more) {
+    if (length_ + more > size_) [[unlikely]]
+      Widen(more);
+    return begin_ + length_;
+  }
+  [[gnu::noinline]] void Widen(std::size_t more) {
+    std::string wider(2 * (length_ + more), ' ');
+    Text().copy(wider.data(), length_);
+    wide_ = std::move(wider);
+    begin_ = wide_.data();
+    size_ = wide_.size();
+  }
+
+  char usual_[200];
+  std::string wide_;
+  char* begin_ = usual_;
+  std::size_t size_ = sizeof usual_;
+  std::size_t length_ = 0;
+};
+
+template <typename... Pieces>
+void WriteAlone(Game& game, const Pieces&... pieces) {
+  Line line;
+  (line.Add(pieces), ...);
+  WriteEventsLogLine(game, line.Text());
+}
+
+// A line of the group in hand, which is about a player.
+template <typename... Pieces>
+void WriteOf(Game& game, int seat, const Pieces&... pieces) {
+  if (!game.events.RecordEventsActive) return;
+  Line line;
+  line.Add("      ");
+  line.Add(game.table.SeatName[seat]);
+  (line.Add(pieces), ...);
+  WriteGroupedLine(game, line.Text());
+}
+
+void WriteScript(Game& game, int seat, bool active) {
+  const std::string& file = game.autobet.Scripts[seat].ScriptFileName;
+  if (!active)
+    WriteOf(game, seat, " deactivated script");
+  else if (file.empty())
+    WriteOf(game, seat, " activated untitled script");
+  else
+    WriteOf(game, seat, " activated script (", file, ")");
 }
 
 void LogScriptChanges(Game& game) {
@@ -445,7 +514,7 @@ void LogScriptChanges(Game& game) {
     const bool active = game.autobet.ScriptActive[seat];
     if (active == log.ScriptActiveLogged[seat]) continue;
     log.ScriptActiveLogged[seat] = active;
-    if (IsOccupied(game.table, seat)) WriteGroupedLine(game, ScriptLine(game, seat, active));
+    if (IsOccupied(game.table, seat)) WriteScript(game, seat, active);
   }
 }
 
@@ -458,9 +527,8 @@ void LogAtmMovements(Game& game) {
     table.AtmLogged[seat] = total;
     if (moved == kZero || !IsOccupied(table, seat) || !game.events.RecordBankrollChanges) continue;
     const bool up = moved > kZero;
-    WriteGroupedLine(game, "      " + table.SeatName[seat] + (up ? " increased to $" : " decreased to $") +
-                               PlainMoney(table.BankrollCurrent[seat]) + " ($" + PlainMoney(Abs(moved)) +
-                               (up ? " ATM withdrawal)" : " ATM deposit)"));
+    WriteOf(game, seat, up ? " increased to $" : " decreased to $", table.BankrollCurrent[seat], " ($",
+            Abs(moved), up ? " ATM withdrawal)" : " ATM deposit)");
   }
 }
 
@@ -479,30 +547,27 @@ void LogAmountChange(Game& game, int seat, int bet) {
   const Currency before = table.BetBeforeRoll(seat, bet);
   const Currency now = table.BetAmount(seat, bet);
   if (now == before || MadeByMove(table, seat, bet)) return;
-  const std::string start = "      " + table.SeatName[seat];
   const char* name = FactsOf(bet).name;
   if (now == kZero)
-    WriteGroupedLine(game, start + " removed $" + PlainMoney(before) + " bet on " + name);
+    WriteOf(game, seat, " removed $", before, " bet on ", name);
   else if (before == kZero)
-    WriteGroupedLine(game, start + " bet $" + PlainMoney(now) + " on " + name);
+    WriteOf(game, seat, " bet $", now, " on ", name);
   else
-    WriteGroupedLine(
-        game, start + (now < before ? " decreased " : " increased ") + name + " to $" + PlainMoney(now));
+    WriteOf(game, seat, now < before ? " decreased " : " increased ", name, " to $", now);
 }
 
 void LogCallChange(Game& game, int seat, int bet) {
   const TableState& table = game.table;
   const int before = WorkingValue(table.BetWorkingBeforeRoll[seat], bet);
   const int now = WorkingValue(table.BetWorking[seat], bet);
-  const std::string start = "      " + table.SeatName[seat];
   const char* name = FactsOf(bet).name;
   if (now == before) return;
   if (now == -1)
-    WriteGroupedLine(game, start + " called OFF " + name + " bet");
+    WriteOf(game, seat, " called OFF ", name, " bet");
   else if (now == 2)
-    WriteGroupedLine(game, start + " called ON " + name + " bet");
+    WriteOf(game, seat, " called ON ", name, " bet");
   else if ((before == -1 || before == 2) && table.SeatBets[seat].Has(bet))
-    WriteGroupedLine(game, start + " called " + name + " bet working normally again");
+    WriteOf(game, seat, " called ", name, " bet working normally again");
 }
 
 void LogBetChanges(Game& game) {
@@ -529,8 +594,7 @@ void LogCheckStackChanges(Game& game) {
       const Currency before = table.BetBeforeRoll(seat, bet);
       const Currency now = table.BetAmount(seat, bet);
       if (now == before || !IsOccupied(table, seat)) return;
-      WriteGroupedLine(game, "      " + table.SeatName[seat] + (now > before ? " increased" : " decreased") +
-                                 " CheckStack #" + std::to_string(stack) + " to " + PlainMoney(now));
+      WriteOf(game, seat, now > before ? " increased" : " decreased", " CheckStack #", stack, " to ", now);
     });
 }
 
@@ -542,16 +606,14 @@ void LogChangesBeforeRoll(Game& game) {
   LogAtmMovements(game);
   if (log.RecordBetChanges) LogBetChanges(game);
   if (log.RecordCheckStackChanges) LogCheckStackChanges(game);
-  log.PendingLogHeading.clear();
+  EndGroup(log);
 }
 
 void LogRoll(Game& game, const char* sourcePrefix) {
   if (!game.events.RecordRolls) return;
   const TableState& table = game.table;
-  std::string line = " Roll #" + std::to_string(SessionRolls(game.stats) + 1) + ":  " +
-                     std::to_string(table.RollTotal) + " (" + std::to_string(table.Die1) + "." +
-                     std::to_string(table.Die2) + ")" + sourcePrefix;
-  WriteEventsLogLine(game, line);
+  WriteAlone(game, " Roll #", SessionRolls(game.stats) + 1, ":  ", table.RollTotal, " (", table.Die1, ".",
+             table.Die2, ")", sourcePrefix);
 }
 
 void LogWinOrLoss(Game& game, int seat, int bet) {
@@ -559,17 +621,13 @@ void LogWinOrLoss(Game& game, int seat, int bet) {
   const Currency net = game.table.NetPayoff;
   const bool won = net > kZero;
   if (!(won ? log.RecordBetsWon : log.RecordBetsLost)) return;
-  std::string line = "      " + game.table.SeatName[seat] + (won ? " won $" : " lost $");
-  AppendPlainMoney(line, Abs(net));
-  line += " on ";
-  line += FactsOf(bet).name;
-  WriteGroupedLine(game, line);
+  WriteOf(game, seat, won ? " won $" : " lost $", Abs(net), " on ", FactsOf(bet).name);
 }
 
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet) {
   if (!game.events.RecordBetChanges) return;
-  WriteEventsLogLine(game, "    " + game.table.SeatName[seat] + "'s " + FactsOf(fromBet).name +
-                               " bet moved to " + FactsOf(toBet).name);
+  WriteAlone(game, "    ", game.table.SeatName[seat], "'s ", FactsOf(fromBet).name, " bet moved to ",
+             FactsOf(toBet).name);
 }
 
 void LogBankrollChanges(Game& game) {
@@ -580,11 +638,10 @@ void LogBankrollChanges(Game& game) {
     const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
     if (change == kZero || !IsOccupied(table, seat)) continue;
     const bool up = change > kZero;
-    WriteGroupedLine(game, "      " + table.SeatName[seat] + (up ? " increased to $" : " decreased to $") +
-                               PlainMoney(table.BankrollCurrent[seat]) + " ($" + PlainMoney(Abs(change)) +
-                               (up ? " gain)" : " loss)"));
+    WriteOf(game, seat, up ? " increased to $" : " decreased to $", table.BankrollCurrent[seat], " ($",
+            Abs(change), up ? " gain)" : " loss)");
   }
-  game.events.PendingLogHeading.clear();
+  EndGroup(game.events);
 }
 
 namespace {
@@ -593,7 +650,7 @@ void WriteDivider(Game& game, const char* start, int seat) {
   if (seat == 0)
     WriteEventsLogLine(game, "----New hand, come-out roll----------");
   else
-    WriteEventsLogLine(game, std::string(start) + game.table.SeatName[seat] + ") coming out----------");
+    WriteAlone(game, start, game.table.SeatName[seat], ") coming out----------");
 }
 
 }  // namespace
@@ -616,19 +673,17 @@ void LogSessionStart(Game& game) {
   BeginGroup(log, "    Players:");
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat))
-      WriteGroupedLine(game, "      " + table.SeatName[seat] + " at " + StickPosition(seat) + " with $" +
-                                 PlainMoney(table.BankrollCurrent[seat]));
-  log.PendingLogHeading.clear();
+      WriteOf(game, seat, " at ", StickPosition(seat), " with $", table.BankrollCurrent[seat]);
+  EndGroup(log);
   if (game.rollFile.RecorderState == kRecorderPlayback)
     WriteEventsLogLine(
         game, "    Dice roll file playback actived (" + FileNameOf(game.rollFile.RollFileName) + ")");
   BeginGroup(log, "    AutoBets:");
   for (int seat = 1; seat <= kSeats; ++seat) {
     log.ScriptActiveLogged[seat] = game.autobet.ScriptActive[seat];
-    if (IsOccupied(table, seat) && game.autobet.ScriptActive[seat])
-      WriteGroupedLine(game, ScriptLine(game, seat, true));
+    if (IsOccupied(table, seat) && game.autobet.ScriptActive[seat]) WriteScript(game, seat, true);
   }
-  log.PendingLogHeading.clear();
+  EndGroup(log);
   WriteDivider(game, "----New shooter (", log.RecordShooterChanges ? table.ShooterSeat : 0);
   FlushEventsLog(game);
 }

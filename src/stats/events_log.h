@@ -30,11 +30,11 @@ struct EventsLog {
   // --- The view.
   std::int32_t EventsLogTopLine = 1;  // 1-based
   // --- The files. Written by events_log.cpp.
-  std::string Path;                 // of the text file; empty: the default name in the data folder
-  std::string PendingLogHeading;    // a group heading that is not written yet
-  bool ScriptActiveLogged[9] = {};  // what the log has told of each script
-  std::string FaultReported;        // the write error that was reported; empty while writing works
-  bool Held = false;                // lines wait in memory: no file is touched before all is found good
+  std::string Path;                    // of the text file; empty: the default name in the data folder
+  std::string_view PendingLogHeading;  // a group heading, a literal, that is not written yet; empty for none
+  bool ScriptActiveLogged[9] = {};     // what the log has told of each script
+  std::string FaultReported;           // the write error that was reported; empty while writing works
+  bool Held = false;                   // lines wait in memory: no file is touched before all is found good
   // Open while lines come fast; FlushEventsLog brings both files up to date.
   std::FILE* textFile = nullptr;
   std::FILE* indexFile = nullptr;

@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <iterator>
 #include <random>
 
 #include "autobet/run_helpers.h"
+#include "engine/bankroll.h"
 #include "engine/bet_catalogue.h"
 #include "engine/consistency.h"
 
@@ -394,6 +397,119 @@ TEST(Interpreter, BlocksAtOneGoDoWhatTheirStepsDo) {
     EXPECT_EQ(sums[0], sums[1]) << script;
   }
   EXPECT_GT(compiled, 40);
+}
+
+// The same statements as plain ones, and with a qualifier that every amount passes, which no short way takes.
+struct Twins {
+  std::string plain;
+  std::string qualified;
+};
+
+Twins RandomSystem(std::mt19937& random) {
+  const auto pick = [&random](const auto& words) { return std::string(words[random() % std::size(words)]); };
+  const char* const bets[] = {
+      "passline", "passline", "dontpass", "come",      "dontcome",  "field",        "place6",       "place8",
+      "buy4",     "lay10",    "come6",    "dontcome8", "comeodds6", "passlineodds", "dontpassodds", "hard6",
+      "hop(3,3)", "horn",     "big6",     "small",     "fire",      "sharpshooter", "7point7"};
+  const char* const amounts[] = {"0",    "1",  "5",    "10",  "10",        "10",
+                                 "12.5", "30", "2000", "cs1", "cs2 / cs3", "-4"};
+  const char* const values[] = {"cs1 + 1",    "cs2 - 0.33335", "cs1 * cs2",  "cs3 / cs2",
+                                "bankroll",   "1 / cs4",       "field",      "place6 / 7",
+                                "-cs2 * 1e6", "# rolls",       "1e300 * cs1"};
+  const char* const whens[] = {"comeout roll", "point is established", "cs1 > 4", "field = 0"};
+  const char* const sums[] = {
+      "add 1.5 to ",       "subtract 7.00005 from ",        "multiply by 1.1 on ",
+      "divide by cs4 on ", "round to the nearest 0.25 on ", "round up to the nearest 5 on "};
+  const char* const calls[] = {"call off place6, hard6", "call on place8, come6", "clear cs4, big6"};
+  Twins twins;
+  const auto both = [&twins](const std::string& text) {
+    twins.plain += text;
+    twins.qualified += text;
+  };
+  for (int i = 0; i < 14; ++i) {
+    const bool guarded = random() % 3 == 0;
+    if (guarded) both("if " + pick(whens) + " then\n");
+    const std::string stack = "cs" + std::to_string(1 + random() % 5);
+    std::string target = random() % 2 == 0 ? stack : pick(bets);
+    std::string verb = "bet " + pick(amounts) + " on ";
+    if (random() % 9 == 0) {
+      both(pick(calls) + "\n");
+    } else if (target == stack && random() % 2 == 0) {
+      const std::string value = " = " + pick(values) + "\n";
+      twins.plain += stack + value;
+      twins.qualified += "all(<> 0.00005, " + stack + ")" + value;
+    } else {
+      if (target == stack) verb = pick(sums);
+      twins.plain += verb + target + "\n";
+      twins.qualified += verb + "<> 0.00005, " + target + "\n";
+    }
+    if (guarded) both("endif\n");
+  }
+  return twins;
+}
+
+// House rules and habits of the player by which bets come to stand, or not.
+void ChooseRules(Game& game, std::mt19937 random) {
+  Settings& settings = game.settings;
+  settings.AllowPutBets = random() % 2 == 0;
+  settings.MaxBet = Currency::Dollars(random() % 2 == 0 ? 1000 : 10);
+  settings.MinBetMain = Currency::Dollars(random() % 4 == 0 ? 10 : 1);
+  settings.MaxPropBetPayoff = Currency::Dollars(random() % 2 == 0 ? 3000 : 90);
+  if (random() % 3 == 0) settings.CheckValue[1] = Currency::FromRaw(25'000);
+  TableState& table = game.table;
+  Handling& handling = table.handling[1];
+  handling.WinHandling = 1 + static_cast<int>(random() % 5);
+  handling.LoseHandling = 1 + static_cast<int>(random() % 5);
+  handling.ProperOddsMode = static_cast<int>(random() % 4) / 2;
+  handling.AutoTakeOdds = random() % 3 == 0;
+  handling.AutoLayOdds = random() % 3 == 0;
+  table.AllowNegativeBankroll[1] = random() % 2 == 0;
+  table.BetDefaultWorking[1].Set(kPlace4 + 2, random() % 2 == 0);
+  if (random() % 3 == 0) SetBankroll(game, 1, Currency::Dollars(40));
+  game.events.RecordEventsActive = true;
+}
+
+std::string WhatIsLeft(const Game& game) {
+  const TableState& table = game.table;
+  std::string left =
+      PlainMoney(table.BankrollCurrent[1]) + "; error " + std::to_string(game.autobet.ScriptError) + ";";
+  for (int bet = 1; bet < 110; ++bet)
+    left += " " + PlainMoney(table.BetAmount(1, bet)) + "/" + PlainMoney(table.BetCommitted(1, bet)) + "/" +
+            std::to_string(bet <= kBets ? WorkingValue(table.BetWorking[1], bet) : 0);
+  return left;
+}
+
+TEST(Interpreter, ShortWaysDoWhatTheLongWaysDo) {
+  std::mt19937 random(17);
+  constexpr int kRolls = 150;
+  std::size_t logged = 0;
+  for (int round = 0; round < 120; ++round) {
+    const Twins twins = RandomSystem(random);
+    std::string left[2];
+    std::string logs[2];
+    for (const bool shortWay : {true, false}) {
+      ScriptTable table;
+      Game& game = *table.game;
+      ChooseRules(game, random);
+      bool given = true;
+      SeedRng(game, given, Currency::Dollars(100 + round));
+      ASSERT_EQ(table.Load(1, shortWay ? twins.plain : twins.qualified), "") << twins.qualified;
+      if (shortWay)
+        table.Turbo(kRolls);
+      else  // a roll by itself is heard, so that bets come down and go up again
+        for (int i = 0; i < kRolls; ++i) RollDice(game);
+      EXPECT_EQ(CheckConsistency(game), "");
+      FlushEventsLog(game);
+      std::ifstream log(EventsLogPath(game));
+      logs[shortWay ? 1 : 0] = std::string(std::istreambuf_iterator<char>(log), {});
+      left[shortWay ? 1 : 0] = WhatIsLeft(game);
+    }
+    ASSERT_EQ(left[0], left[1]) << round << "\n" << twins.plain;
+    ASSERT_TRUE(logs[0] == logs[1]) << round << "\n" << twins.plain;
+    logged += logs[0].size();
+    random.discard(40);
+  }
+  EXPECT_GT(logged, 1'000'000u);
 }
 
 }  // namespace

@@ -119,6 +119,28 @@ TEST(LoggedBets, EveryBetIsAStatementThatCompiles) {
   }
 }
 
+// What compiled is kept, but nothing of it outlives what it was made from.
+TEST(CheckScript, AScriptIsCompiledOnceAndAgainWhenSomethingOfItChanges) {
+  ScriptTable table;
+  Game& game = *table.game;
+  ASSERT_EQ(table.Load(1, "cs0 = bob's place6 : bet 5 on big6"), "");
+  const KeptScript* kept = game.autobet.Scripts[1].Kept.get();
+  CompileALLAutobets(game);
+  EXPECT_EQ(game.autobet.Scripts[1].Kept.get(), kept);
+  std::string error;
+  for (const char* const name : {"Rob", "Bob"}) {
+    ASSERT_TRUE(RenameTo(game, 2, name, error)) << error;
+    EXPECT_EQ(CheckScript(game, 1).ok, std::string(name) == "Bob") << name;
+  }
+  ASSERT_TRUE(SetSetting(game, "UseBig68", 0, "off", error)) << error;
+  CompileALLAutobets(game);
+  EXPECT_FALSE(game.autobet.ScriptsCompiled);
+  SetScript(game, 1, {"bet 7 on field"}, "");
+  CompileALLAutobets(game);
+  RunAutoBet(game);
+  EXPECT_EQ(table.Bet(kField), 7);
+}
+
 TEST(CheckScript, AnEmptyScriptIsToldAndNotCompiled) {
   ScriptTable table;
   Game& game = *table.game;

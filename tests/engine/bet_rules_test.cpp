@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <iterator>
+#include <random>
+
 #include "autobet/interpreter.h"
 #include "autobet/language.h"
 #include "engine/bet_catalogue.h"
@@ -554,6 +557,45 @@ TEST(BetRulesProper, AmountsGoToTheNeighbourThatTheBiasNames) {
     table.State().handling[1].PlaceBias = c.bias;
     table.Bet(1, kPlace4 + 2, c.request);
     EXPECT_EQ(table.State().BetAmount(1, kPlace4 + 2), Money(c.amount));
+  }
+}
+
+TEST(BetRules, AKeptMaximumFollowsLimitsChecksAndPayoffs) {
+  TestTable table;
+  table.Join(1, "Ann", "5000");
+  Game& game = *table.game;
+  std::mt19937 random(5);
+  const auto pick = [&random](int first, int last) {
+    return Currency::Dollars(first + static_cast<int>(random() % static_cast<unsigned>(last - first + 1)));
+  };
+  PayoffTables& payoffs = game.payoffs;
+  for (int change = 0; change < 3000; ++change) {
+    PayoffRecord* const records[] = {&payoffs.PayoffTable[1 + random() % kBets],
+                                     &payoffs.PayoffTable[kTwo + random() % 6],
+                                     &payoffs.SevenPointSevenPayoffs[1 + random() % kSevenPointSevenRows],
+                                     &payoffs.SharpShooterPayoffs[1 + random() % kSharpShooterRows],
+                                     &payoffs.RideTheLinePayoffs[1 + random() % kRideTheLineRows]};
+    switch (random() % 4) {
+      case 0:
+        game.settings.MaxPropBetPayoff = pick(1, 3000);
+        break;
+      case 1:
+        game.settings.MaxBet = pick(1, 1000);
+        break;
+      case 2:
+        game.settings.CheckValue[1] = pick(1, 3);
+        break;
+      default:
+        PayoffRecord& record = *records[random() % std::size(records)];
+        (random() % 2 == 0 ? record.PayTo : record.PayPer) = pick(1, 40);
+        if (random() % 5 == 0) record.PayTo = -record.PayTo;
+        break;
+    }
+    Currency kept[kBets + 1];
+    for (int bet = 1; bet <= kBets; ++bet) kept[bet] = MaxBetFor(game, 1, bet);
+    game.maximums = {};
+    for (int bet = 1; bet <= kBets; ++bet)
+      ASSERT_EQ(kept[bet], MaxBetFor(game, 1, bet)) << BetName(bet) << " after change " << change;
   }
 }
 
