@@ -7,11 +7,11 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
-#include "dice/auto_roll.h"
-#include "engine/bet_rules.h"
-#include "engine/game.h"
-#include "engine/players.h"
-#include "shell/main_window.h"
+#include "play/auto_roll.h"
+#include "rules/bet_rules.h"
+#include "state/game.h"
+#include "play/players.h"
+#include "shell/frame/main_window.h"
 
 namespace tessaryn {
 namespace {

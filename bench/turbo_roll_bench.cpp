@@ -4,13 +4,13 @@
 
 #include <filesystem>
 
-#include "autobet/script_session.h"
-#include "config/advantage.h"
-#include "config/setting_table.h"
-#include "dice/auto_roll.h"
-#include "engine/bet_rules.h"
-#include "engine/game.h"
-#include "engine/players.h"
+#include "play/script_session.h"
+#include "rules/advantage.h"
+#include "play/setting_table.h"
+#include "play/auto_roll.h"
+#include "rules/bet_rules.h"
+#include "state/game.h"
+#include "play/players.h"
 
 namespace tessaryn {
 namespace {

@@ -5,9 +5,9 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "autobet/compile_autobets.h"
-#include "autobet/normaliser.h"
-#include "autobet/script_files.h"
+#include "autobet/compile/compile_autobets.h"
+#include "autobet/language/normaliser.h"
+#include "autobet/language/script_files.h"
 
 namespace {
 

@@ -9,14 +9,14 @@
 #include <memory>
 #include <string_view>
 
-#include "autobet/interpreter.h"
-#include "autobet/script_files.h"
-#include "autobet/script_session.h"
-#include "engine/consistency.h"
-#include "engine/game.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
-#include "persist/new_session.h"
+#include "autobet/run/interpreter.h"
+#include "autobet/language/script_files.h"
+#include "play/script_session.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
+#include "rules/session.h"
 
 namespace {
 

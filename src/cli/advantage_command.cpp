@@ -5,9 +5,9 @@
 #include "cli/commands.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
-#include "config/advantage.h"
-#include "config/bets_together.h"
-#include "engine/bet_catalogue.h"
+#include "rules/advantage.h"
+#include "rules/bets_together.h"
+#include "base/bet_catalogue.h"
 
 namespace tessaryn::cli {
 namespace {

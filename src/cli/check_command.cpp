@@ -1,12 +1,12 @@
 #include <cstdio>
 #include <memory>
 
-#include "autobet/compile_autobets.h"
-#include "autobet/script_files.h"
-#include "autobet/script_session.h"
+#include "autobet/compile/compile_autobets.h"
+#include "autobet/language/script_files.h"
+#include "play/script_session.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
-#include "persist/interrupts.h"
+#include "base/interrupts.h"
 
 namespace tessaryn::cli {
 namespace {

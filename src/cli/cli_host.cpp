@@ -5,7 +5,7 @@
 #include <thread>
 
 #include "cli/script_commands.h"
-#include "dice/auto_roll.h"
+#include "play/auto_roll.h"
 
 namespace tessaryn::cli {
 

@@ -1,6 +1,6 @@
 #include <memory>
 
-#include "autobet/script_files.h"
+#include "autobet/language/script_files.h"
 #include "cli/commands.h"
 
 namespace tessaryn::cli {

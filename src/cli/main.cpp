@@ -9,7 +9,7 @@
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
-#include "persist/record_file.h"
+#include "base/record_file.h"
 
 namespace tessaryn::cli {
 

@@ -7,18 +7,18 @@
 #include <cstdio>
 #include <iterator>
 
-#include "autobet/script_session.h"
+#include "play/script_session.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
-#include "config/setting_table.h"
-#include "dice/auto_roll.h"
-#include "dice/seed_rng.h"
-#include "engine/bankroll.h"
-#include "engine/bet_catalogue.h"
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
-#include "persist/new_session.h"
+#include "play/setting_table.h"
+#include "play/auto_roll.h"
+#include "rules/seed_rng.h"
+#include "rules/bankroll.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
+#include "rules/session.h"
 #include "stats/bankroll_graph.h"
 
 namespace tessaryn::cli {

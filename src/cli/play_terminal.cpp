@@ -12,21 +12,21 @@
 #include <cstring>
 #include <iostream>
 
-#include "autobet/characters.h"
-#include "autobet/hot_keys.h"
-#include "autobet/interpreter.h"
-#include "autobet/script_session.h"
-#include "autobet/script_text.h"
+#include "autobet/language/characters.h"
+#include "play/hot_keys.h"
+#include "autobet/run/interpreter.h"
+#include "play/script_session.h"
+#include "autobet/language/script_text.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
-#include "config/setting_table.h"
-#include "engine/bet_catalogue.h"
-#include "engine/bet_rules.h"
-#include "engine/handling.h"
-#include "engine/table_files.h"
-#include "stats/check_stacks.h"
+#include "play/setting_table.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "rules/handling.h"
+#include "play/table_files.h"
+#include "rules/check_stacks.h"
 
 namespace tessaryn::cli {
 namespace {

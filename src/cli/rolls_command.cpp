@@ -12,8 +12,8 @@
 #include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "dice/roll_file.h"
-#include "persist/folder_lock.h"
-#include "persist/record_file.h"
+#include "base/folder_lock.h"
+#include "base/record_file.h"
 
 namespace tessaryn::cli {
 namespace {

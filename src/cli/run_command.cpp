@@ -6,15 +6,15 @@
 #include <cstdio>
 #include <memory>
 
-#include "autobet/script_session.h"
+#include "play/script_session.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
 #include "cli/script_commands.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
-#include "dice/auto_roll.h"
-#include "engine/table_files.h"
+#include "play/auto_roll.h"
+#include "play/table_files.h"
 
 namespace tessaryn::cli {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <cstdio>
 
-#include "autobet/hot_keys.h"
-#include "autobet/interpreter.h"
-#include "autobet/script_session.h"
+#include "play/hot_keys.h"
+#include "autobet/run/interpreter.h"
+#include "play/script_session.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
 

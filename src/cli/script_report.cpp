@@ -4,7 +4,7 @@
 #include <charconv>
 #include <cstdio>
 
-#include "autobet/characters.h"
+#include "autobet/language/characters.h"
 #include "cli/commands.h"
 #include "cli/script_commands.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "autobet/script_session.h"
+#include "play/script_session.h"
 #include "cli/table_json.h"
 
 namespace tessaryn::cli {

@@ -1,7 +1,7 @@
 #include "cli/table_json.h"
 
-#include "engine/bet_catalogue.h"
-#include "engine/bet_rules.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
 
 namespace tessaryn::cli {
 

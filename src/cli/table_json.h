@@ -3,7 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
-#include "engine/game.h"
+#include "state/game.h"
 
 namespace tessaryn::cli {
 

@@ -9,12 +9,12 @@
 
 #include "cli/commands.h"
 #include "cli/script_commands.h"
-#include "config/payoffs.h"
-#include "config/setting_table.h"
-#include "config/settings_file.h"
-#include "dice/seed_rng.h"
-#include "engine/players.h"
-#include "persist/record_file.h"
+#include "rules/payoffs.h"
+#include "play/setting_table.h"
+#include "play/settings_file.h"
+#include "rules/seed_rng.h"
+#include "play/players.h"
+#include "base/record_file.h"
 
 namespace tessaryn::cli {
 

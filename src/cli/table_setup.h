@@ -8,7 +8,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/cli_host.h"
-#include "engine/game.h"
+#include "state/game.h"
 
 namespace tessaryn::cli {
 

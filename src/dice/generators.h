@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "engine/money.h"
+#include "base/money.h"
 
 namespace tessaryn {
 

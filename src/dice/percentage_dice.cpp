@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstdio>
 
-#include "dice/roll_items.h"
-#include "persist/record_file.h"
+#include "base/roll_items.h"
+#include "base/record_file.h"
 
 namespace tessaryn {
 namespace {

@@ -9,8 +9,8 @@
 #include <cerrno>
 #include <cstring>
 
-#include "persist/interrupts.h"
-#include "persist/record_file.h"
+#include "base/interrupts.h"
+#include "base/record_file.h"
 
 namespace tessaryn {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "engine/game.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

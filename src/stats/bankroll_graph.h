@@ -7,7 +7,7 @@
 #include <span>
 #include <string>
 
-#include "engine/table_types.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 

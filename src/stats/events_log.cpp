@@ -9,9 +9,9 @@
 #include <fstream>
 #include <system_error>
 
-#include "dice/auto_roll.h"
-#include "engine/bet_catalogue.h"
-#include "engine/game.h"
+#include "play/auto_roll.h"
+#include "base/bet_catalogue.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "dice/roll_items.h"
+#include "base/roll_items.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {

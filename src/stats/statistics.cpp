@@ -4,8 +4,8 @@
 #include <cstring>
 #include <iterator>
 
-#include "engine/bet_limits.h"
-#include "engine/game.h"
+#include "rules/bet_limits.h"
+#include "state/game.h"
 #include "stats/roll_item_lists.h"
 
 namespace tessaryn {

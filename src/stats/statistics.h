@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string>
 
-#include "engine/table_types.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 

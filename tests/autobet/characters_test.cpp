@@ -1,5 +1,5 @@
 // Texts by their characters, and long ones in good time.
-#include "autobet/characters.h"
+#include "autobet/language/characters.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "autobet/compile_autobets.h"
+#include "autobet/compile/compile_autobets.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "autobet/compile_autobets.h"
-#include "autobet/normaliser.h"
+#include "autobet/compile/compile_autobets.h"
+#include "autobet/language/normaliser.h"
 
 namespace tessaryn::script_test {
 

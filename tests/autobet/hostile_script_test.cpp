@@ -4,7 +4,7 @@
 #include <chrono>
 #include <random>
 
-#include "autobet/vocabulary.h"
+#include "autobet/language/vocabulary.h"
 #include "compile_helpers.h"
 
 namespace tessaryn {

@@ -1,5 +1,5 @@
 // Hot-keys and their file.
-#include "autobet/hot_keys.h"
+#include "play/hot_keys.h"
 
 #include <gtest/gtest.h>
 

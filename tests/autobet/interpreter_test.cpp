@@ -1,4 +1,4 @@
-#include "autobet/interpreter.h"
+#include "autobet/run/interpreter.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <random>
 
 #include "autobet/run_helpers.h"
-#include "engine/bankroll.h"
-#include "engine/bet_catalogue.h"
-#include "engine/consistency.h"
+#include "rules/bankroll.h"
+#include "base/bet_catalogue.h"
+#include "rules/consistency.h"
 
 namespace tessaryn {
 namespace {

@@ -6,9 +6,9 @@
 #include <sstream>
 
 #include "autobet/run_helpers.h"
-#include "autobet/script_errors.h"
-#include "autobet/script_text.h"
-#include "autobet/vocabulary.h"
+#include "autobet/run/script_errors.h"
+#include "autobet/language/script_text.h"
+#include "autobet/language/vocabulary.h"
 
 namespace tessaryn {
 namespace {

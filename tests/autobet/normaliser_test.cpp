@@ -1,4 +1,4 @@
-#include "autobet/normaliser.h"
+#include "autobet/language/normaliser.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <cstring>
 #include <random>
 
-#include "autobet/script_text.h"
+#include "autobet/language/script_text.h"
 #include "compile_helpers.h"
 
 namespace tessaryn {

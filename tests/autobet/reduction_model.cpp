@@ -4,8 +4,8 @@
 #include <cmath>
 #include <functional>
 
-#include "autobet/script_text.h"
-#include "engine/game.h"
+#include "autobet/language/script_text.h"
+#include "state/game.h"
 
 namespace tessaryn::reduction_model {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "autobet/script_types.h"
+#include "state/script_types.h"
 
 namespace tessaryn {
 struct Game;

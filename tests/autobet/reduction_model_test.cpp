@@ -5,8 +5,8 @@
 #include <cmath>
 #include <random>
 
-#include "autobet/evaluate.h"
-#include "autobet/prepared_program.h"
+#include "autobet/run/evaluate.h"
+#include "autobet/run/prepared_program.h"
 #include "autobet/run_helpers.h"
 
 namespace tessaryn {

@@ -11,15 +11,15 @@
 #include <vector>
 
 #include "autobet/compile_helpers.h"
-#include "autobet/interpreter.h"
-#include "autobet/script_session.h"
-#include "config/setting_table.h"
-#include "dice/auto_roll.h"
-#include "dice/seed_rng.h"
-#include "engine/bet_rules.h"
-#include "engine/game.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
+#include "autobet/run/interpreter.h"
+#include "play/script_session.h"
+#include "play/setting_table.h"
+#include "play/auto_roll.h"
+#include "rules/seed_rng.h"
+#include "rules/bet_rules.h"
+#include "state/game.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
 
 namespace tessaryn::script_test {
 

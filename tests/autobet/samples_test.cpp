@@ -4,8 +4,8 @@
 
 #include "autobet/run_helpers.h"
 #include "dice/percentage_dice.h"
-#include "engine/bankroll.h"
-#include "engine/consistency.h"
+#include "rules/bankroll.h"
+#include "rules/consistency.h"
 
 namespace tessaryn {
 namespace {

@@ -4,11 +4,11 @@
 #include <fstream>
 #include <set>
 
-#include "autobet/language.h"
+#include "autobet/language/language.h"
 #include "autobet/run_helpers.h"
-#include "autobet/script_errors.h"
+#include "autobet/run/script_errors.h"
 #include "dice/percentage_dice.h"
-#include "engine/bet_catalogue.h"
+#include "base/bet_catalogue.h"
 
 namespace tessaryn {
 namespace {

@@ -1,4 +1,4 @@
-#include "autobet/script_files.h"
+#include "autobet/language/script_files.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -7,8 +7,8 @@
 #include <fstream>
 #include <random>
 
-#include "autobet/old_script_rows.h"
-#include "autobet/script_text.h"
+#include "autobet/language/old_script_rows.h"
+#include "autobet/language/script_text.h"
 #include "compile_helpers.h"
 
 namespace tessaryn {

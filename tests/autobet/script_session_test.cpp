@@ -1,10 +1,10 @@
 // What the script screen does, without the screen.
-#include "autobet/script_session.h"
+#include "play/script_session.h"
 
 #include <gtest/gtest.h>
 
 #include "autobet/run_helpers.h"
-#include "engine/bet_catalogue.h"
+#include "base/bet_catalogue.h"
 
 namespace tessaryn {
 namespace {

@@ -1,11 +1,11 @@
-#include "autobet/vocabulary.h"
+#include "autobet/language/vocabulary.h"
 
 #include <gtest/gtest.h>
 
 #include <map>
 #include <set>
 
-#include "autobet/script_text.h"
+#include "autobet/language/script_text.h"
 #include "compile_helpers.h"
 
 namespace tessaryn {

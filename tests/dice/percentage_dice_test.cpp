@@ -12,8 +12,8 @@
 #include <random>
 #include <vector>
 
-#include "dice/roll_items.h"
-#include "persist/record_file.h"
+#include "base/roll_items.h"
+#include "base/record_file.h"
 
 namespace tessaryn {
 namespace {

@@ -14,7 +14,7 @@
 #include <random>
 #include <vector>
 
-#include "persist/record_file.h"
+#include "base/record_file.h"
 
 namespace tessaryn {
 namespace {

@@ -5,8 +5,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "config/setting_table.h"
-#include "engine/bankroll.h"
+#include "play/setting_table.h"
+#include "rules/bankroll.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

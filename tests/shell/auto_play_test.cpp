@@ -7,8 +7,8 @@
 #include <QRadioButton>
 #include <random>
 
-#include "config/setting_table.h"
-#include "engine/handling.h"
+#include "play/setting_table.h"
+#include "rules/handling.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

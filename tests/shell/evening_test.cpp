@@ -15,12 +15,12 @@
 #include <functional>
 #include <set>
 
-#include "engine/bet_catalogue.h"
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "shell/file_chooser.h"
-#include "shell/main_window.h"
-#include "shell/screen_tools.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "shell/screens/file_chooser.h"
+#include "shell/frame/main_window.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

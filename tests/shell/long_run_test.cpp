@@ -8,8 +8,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "dice/auto_roll.h"
-#include "shell/main_window.h"
+#include "play/auto_roll.h"
+#include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

@@ -1,12 +1,12 @@
 // The one box for questions and warnings.
-#include "shell/message_screen.h"
+#include "shell/screens/message_screen.h"
 
 #include <gtest/gtest.h>
 
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "shell/screen_tools.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

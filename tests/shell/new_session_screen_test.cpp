@@ -5,7 +5,7 @@
 #include <QRadioButton>
 
 #include "dice/roll_file.h"
-#include "shell/screen_tools.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens/new_session.h"
 #include "shell/screens_support.h"
 

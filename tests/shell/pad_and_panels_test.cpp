@@ -9,13 +9,13 @@
 #include <QSignalSpy>
 #include <set>
 
-#include "shell/run_controls.h"
+#include "shell/table/run_controls.h"
 #include "shell/screens/about.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/new_session.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/screens_support.h"
-#include "shell/turbo_panel.h"
+#include "shell/table/turbo_panel.h"
 
 namespace tessaryn::test {
 namespace {

@@ -6,11 +6,11 @@
 #include <QPalette>
 #include <QTest>
 
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "shell/main_window.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
-#include "shell/table_widget.h"
+#include "shell/table/table_widget.h"
 #include "shell_table.h"
 
 namespace tessaryn {

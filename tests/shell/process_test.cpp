@@ -11,7 +11,7 @@
 #include <QtEndian>
 #include <csignal>
 
-#include "shell/main_window.h"
+#include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

@@ -11,7 +11,7 @@
 #include <QSlider>
 #include <set>
 
-#include "dice/auto_roll.h"
+#include "play/auto_roll.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

@@ -1,5 +1,5 @@
 // The bar of run controls, the panel of a Turbo-Roll and the panel that moves the table, by mouse and keys.
-#include "shell/run_controls.h"
+#include "shell/table/run_controls.h"
 
 #include <gtest/gtest.h>
 
@@ -10,10 +10,10 @@
 #include <QSignalSpy>
 #include <QSlider>
 
-#include "dice/auto_roll.h"
+#include "play/auto_roll.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens_support.h"
-#include "shell/turbo_panel.h"
+#include "shell/table/turbo_panel.h"
 
 namespace tessaryn::test {
 namespace {

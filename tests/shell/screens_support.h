@@ -16,12 +16,12 @@
 #include <memory>
 #include <string>
 
-#include "engine/bet_rules.h"
-#include "engine/consistency.h"
-#include "engine/game.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
-#include "shell/shell_host.h"
+#include "rules/bet_rules.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
+#include "shell/frame/shell_host.h"
 #include "shell/shell_table.h"
 
 namespace tessaryn::test {

@@ -7,7 +7,7 @@
 #include <map>
 #include <utility>
 
-#include "engine/bet_catalogue.h"
+#include "base/bet_catalogue.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {

@@ -6,9 +6,9 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
 
 namespace tessaryn {
 

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-#include "shell/table_commands.h"
+#include "shell/table/table_commands.h"
 #include "support/test_host.h"
 
 class QWidget;

@@ -1,5 +1,5 @@
 // A signal ends the window in order, whatever it is at.
-#include "shell/signals.h"
+#include "shell/frame/signals.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 #include <QTimer>
 #include <csignal>
 
-#include "dice/auto_roll.h"
-#include "persist/interrupts.h"
-#include "shell/main_window.h"
+#include "play/auto_roll.h"
+#include "base/interrupts.h"
+#include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 #include "support/test_host.h"
 

@@ -1,4 +1,4 @@
-#include "shell/sounds.h"
+#include "shell/frame/sounds.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@
 #include <cstdlib>
 #include <memory>
 
-#include "engine/game.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

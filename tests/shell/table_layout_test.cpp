@@ -1,14 +1,14 @@
 // The felt's areas, lettering and check places; and the map that tells what is under a point.
-#include "shell/table_layout.h"
+#include "shell/table/table_layout.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 #include <random>
 
-#include "engine/bet_catalogue.h"
-#include "engine/bet_rules.h"
-#include "shell/table_painter.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "shell/table/table_painter.h"
 #include "shell_table.h"
 
 namespace tessaryn {

@@ -1,5 +1,5 @@
 // Rotation, zoom and shift of the table.
-#include "shell/table_view.h"
+#include "shell/table/table_view.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "engine/players.h"
+#include "play/players.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

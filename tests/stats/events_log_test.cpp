@@ -5,14 +5,14 @@
 #include <filesystem>
 #include <random>
 
-#include "dice/auto_roll.h"
-#include "dice/seed_rng.h"
-#include "engine/bankroll.h"
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
-#include "engine/table_files.h"
-#include "persist/new_session.h"
+#include "play/auto_roll.h"
+#include "rules/seed_rng.h"
+#include "rules/bankroll.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
+#include "play/table_files.h"
+#include "rules/session.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

@@ -5,10 +5,10 @@
 #include <map>
 #include <random>
 
-#include "engine/bankroll.h"
-#include "engine/bet_rules.h"
-#include "engine/players.h"
-#include "persist/new_session.h"
+#include "rules/bankroll.h"
+#include "rules/bet_rules.h"
+#include "play/players.h"
+#include "rules/session.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

@@ -8,12 +8,12 @@
 #include <fstream>
 #include <iterator>
 
-#include "config/setting_table.h"
-#include "dice/auto_roll.h"
-#include "engine/bet_rules.h"
-#include "engine/consistency.h"
-#include "engine/players.h"
-#include "engine/roll_cycle.h"
+#include "play/setting_table.h"
+#include "play/auto_roll.h"
+#include "rules/bet_rules.h"
+#include "rules/consistency.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
 
 namespace tessaryn::test {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/game.h"
+#include "state/game.h"
 
 namespace tessaryn::test {
 

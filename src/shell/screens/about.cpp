@@ -7,9 +7,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "engine/game.h"
-#include "shell/pictures.h"
-#include "shell/screen_tools.h"
+#include "state/game.h"
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
 
 namespace tessaryn {
 

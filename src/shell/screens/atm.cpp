@@ -6,11 +6,11 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "config/setting_table.h"
-#include "engine/bankroll.h"
-#include "engine/game.h"
-#include "shell/pictures.h"
-#include "shell/screen_tools.h"
+#include "play/setting_table.h"
+#include "rules/bankroll.h"
+#include "state/game.h"
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens/screen_parts.h"
 
 namespace tessaryn {

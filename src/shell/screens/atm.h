@@ -3,7 +3,7 @@
 
 #include <QDialog>
 
-#include "engine/table_types.h"
+#include "base/table_types.h"
 
 class QCheckBox;
 class QFormLayout;

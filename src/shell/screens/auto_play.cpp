@@ -12,11 +12,11 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "config/setting_table.h"
-#include "engine/bet_catalogue.h"
-#include "engine/game.h"
-#include "engine/handling.h"
-#include "shell/screen_tools.h"
+#include "play/setting_table.h"
+#include "base/bet_catalogue.h"
+#include "state/game.h"
+#include "rules/handling.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens/screen_parts.h"
 
 namespace tessaryn {

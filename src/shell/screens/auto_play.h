@@ -5,7 +5,7 @@
 #include <QDialog>
 #include <string>
 
-#include "engine/table_state.h"
+#include "state/table_state.h"
 
 class QBoxLayout;
 class QButtonGroup;

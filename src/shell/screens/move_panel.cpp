@@ -6,7 +6,7 @@
 #include <QPainter>
 #include <QToolButton>
 
-#include "shell/table_view.h"
+#include "shell/table/table_view.h"
 
 namespace tessaryn {
 

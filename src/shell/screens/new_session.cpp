@@ -7,9 +7,9 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "autobet/script_session.h"
-#include "engine/game.h"
-#include "persist/new_session.h"
+#include "play/script_session.h"
+#include "state/game.h"
+#include "rules/session.h"
 
 namespace tessaryn {
 

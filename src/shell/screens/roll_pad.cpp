@@ -14,11 +14,11 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "dice/auto_roll.h"
-#include "engine/game.h"
-#include "engine/roll_cycle.h"
-#include "shell/pictures.h"
-#include "shell/run_controls.h"
+#include "play/auto_roll.h"
+#include "state/game.h"
+#include "play/roll_cycle.h"
+#include "shell/table/pictures.h"
+#include "shell/table/run_controls.h"
 
 namespace tessaryn {
 

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "dice/roll_pad.h"
+#include "play/roll_pad.h"
 
 class QLabel;
 class QMenu;

@@ -7,7 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "shell/screen_tools.h"
+#include "shell/table/screen_tools.h"
 
 namespace tessaryn {
 

@@ -7,7 +7,7 @@
 #include <QPixmap>
 #include <QString>
 
-#include "config/settings.h"
+#include "state/settings.h"
 
 class QComboBox;
 class QLabel;

@@ -6,12 +6,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "engine/bet_catalogue.h"
-#include "engine/bet_limits.h"
-#include "engine/game.h"
-#include "engine/handling.h"
-#include "shell/pictures.h"
-#include "shell/screen_tools.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_limits.h"
+#include "state/game.h"
+#include "rules/handling.h"
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
 #include "shell/screens/screen_parts.h"
 
 namespace tessaryn {

@@ -5,7 +5,7 @@
 #include <QString>
 #include <vector>
 
-#include "engine/host.h"
+#include "state/host.h"
 
 class QGridLayout;
 class QPushButton;

@@ -1,0 +1,29 @@
+// From the text of a script to its tokens.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "state/script_types.h"
+#include "autobet/language/tidy_script_line.h"
+
+namespace tessaryn {
+
+// Reads the lines of the script of player 0 to 8 (0 a hot-key script) into script: a header, then for every
+// line that holds anything a marker and its tokens, then a closing marker. On failure diagnostic has the
+// message and the span, and script is worthless.
+bool NormaliseScript(int player, const std::vector<std::string>& lines,
+                     const ScriptSurroundings& surroundings, CompiledScript& script,
+                     ScriptDiagnostic& diagnostic);
+
+enum class ScriptNameProblem {
+  kNone,
+  kNumeric,       // could not be told from a number in a script
+  kReservedWord,  // contains a word, phrase or sign of the language
+};
+
+// Whether a player may be called name. The texts of the refusals are those of the player's screens.
+ScriptNameProblem CheckPlayerName(std::string_view name);
+
+}  // namespace tessaryn

@@ -1,0 +1,263 @@
+#include "autobet/run/read_bet.h"
+
+#include <algorithm>
+
+#include "autobet/language/language.h"
+#include "autobet/run/script_errors.h"
+#include "rules/advantage.h"
+#include "rules/bet_limits.h"
+#include "rules/bet_rules.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kMetricWins = 2;
+constexpr int kMetricLosses = 3;
+constexpr int kMetricNet = 4;
+
+// Measures by their codes.
+enum Measure : int {
+  kTotal = 0,
+  kTotalCount = 21,
+  kTotalMoney = 22,
+  kHigh = 23,
+  kLow = 24,
+  kAverage = 25,
+  kLastMoney = 26,
+  kSinceLast = 27,
+  kLastRollCount = 28,
+  kLastRollMoney = 29,
+  kCountPerHour = 30,
+  kMoneyPerHour = 31,
+  kExpectedValue = 32,
+  kCurrentCount = 33,
+  kCurrentMoney = 34,
+  kPriorCount = 35,
+  kPriorMoney = 36,
+  kWorkingFlag = 37,
+  kCalledOn = 38,
+  kCalledOff = 39,
+  kVigHeld = 40,
+};
+
+struct BetQuestion {
+  Game& game;
+  int scope;
+  int seat;
+  int bet;
+
+  double Stat(StatTable table, StatKind kind) const {
+    return BetStat(game.stats, table, scope, seat, bet, kind).ToDouble();
+  }
+  // Rolls since the bet's last entry in a table; -1 for never.
+  double Since(StatTable table) const {
+    return static_cast<double>(
+        RollsSince(game.stats, scope, BetStat(game.stats, table, scope, seat, bet, kStatLastRoll)));
+  }
+};
+
+// What the metric's table has of the last roll: 0 when that roll decided nothing.
+double OfLastRoll(const BetQuestion& question, StatTable table, StatKind kind) {
+  return question.Since(table) == 0 ? question.Stat(table, kind) : 0;
+}
+
+double PerHour(const BetQuestion& question, double amount) {
+  const double hours = SimulatedHours(question.game, question.scope, question.seat);
+  return hours > 0 ? amount / hours : 0;
+}
+
+bool TableStatistic(const BetQuestion& question, StatTable table, int measure, double& value) {
+  switch (measure) {
+    case kTotalCount:
+      value = question.Stat(table, kStatCount);
+      return true;
+    case kTotal:
+    case kTotalMoney:
+      value = question.Stat(table, kStatTotal);
+      return true;
+    case kHigh:
+      value = question.Stat(table, kStatHigh);
+      return true;
+    case kLow:
+      value = question.Stat(table, kStatLow);
+      return true;
+    case kAverage: {
+      const double count = question.Stat(table, kStatCount);
+      if (count == 0)
+        return ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
+      value = question.Stat(table, kStatTotal) / count;
+      return true;
+    }
+    case kLastMoney:
+      value = question.Stat(table, kStatLastAmount);
+      return true;
+    case kSinceLast:
+      value = question.Since(table);
+      return value >= 0 ||
+             ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
+    case kLastRollCount:
+      value = question.Since(table) == 0 ? 1 : 0;
+      return true;
+    case kLastRollMoney:
+      value = OfLastRoll(question, table, kStatLastAmount);
+      return true;
+    case kCountPerHour:
+      value = PerHour(question, question.Stat(table, kStatCount));
+      return true;
+    case kMoneyPerHour:
+      value = PerHour(question, question.Stat(table, kStatTotal));
+      return true;
+    default:
+      value = 0;
+      return true;
+  }
+}
+
+// The later of the last win and the last loss, with its sign.
+double LastNet(const BetQuestion& question) {
+  const double sinceWin = question.Since(kWinStats);
+  const double sinceLoss = question.Since(kLossStats);
+  if (sinceWin < 0 && sinceLoss < 0) return 0;
+  const bool won = sinceLoss < 0 || (sinceWin >= 0 && sinceWin < sinceLoss);
+  return won ? question.Stat(kWinStats, kStatLastAmount) : -question.Stat(kLossStats, kStatLastAmount);
+}
+
+bool NetStatistic(const BetQuestion& question, int measure, double& value) {
+  const auto difference = [&question](StatKind kind) {
+    return question.Stat(kWinStats, kind) - question.Stat(kLossStats, kind);
+  };
+  switch (measure) {
+    case kTotalCount:
+      value = difference(kStatCount);
+      return true;
+    case kTotal:
+    case kTotalMoney:
+      value = difference(kStatTotal);
+      return true;
+    case kHigh:
+      value = question.Stat(kWinStats, kStatHigh);
+      return true;
+    case kLow:
+      value = -question.Stat(kLossStats, kStatHigh);
+      return true;
+    case kAverage: {
+      const double count = question.Stat(kWagerStats, kStatCount);
+      if (count == 0) return ScriptFails(question.game, kErrorNoWagers);
+      value = difference(kStatTotal) / count;
+      return true;
+    }
+    case kLastMoney:
+      value = LastNet(question);
+      return true;
+    case kLastRollCount:
+      value = question.Since(kWagerStats) == 0 ? 1 : 0;
+      return true;
+    case kLastRollMoney:
+      value = OfLastRoll(question, kWinStats, kStatLastAmount) -
+              OfLastRoll(question, kLossStats, kStatLastAmount);
+      return true;
+    case kCountPerHour:
+      value = PerHour(question, difference(kStatCount));
+      return true;
+    case kMoneyPerHour:
+      value = PerHour(question, difference(kStatTotal));
+      return true;
+    case kExpectedValue:
+      value =
+          question.Stat(kWagerStats, kStatTotal) * FigureAdvantage(question.game, question.bet).evPerDecision;
+      return true;
+    default:
+      value = 0;
+      return true;
+  }
+}
+
+// The net in percent of what was wagered.
+bool NetPercent(const BetQuestion& question, int measure, double& value) {
+  if (measure == kExpectedValue) {
+    value = 100 * FigureAdvantage(question.game, question.bet).evPerDecision;
+    return true;
+  }
+  double net = 0;
+  double wagered = 0;
+  if (!NetStatistic(question, measure, net) || !TableStatistic(question, kWagerStats, measure, wagered))
+    return false;
+  value = wagered == 0 ? 0 : 100 * net / wagered;
+  return true;
+}
+
+double Flag(bool on) { return on ? -1 : 0; }
+
+// What lies on the table now, or lay there as the dice were thrown.
+bool Standing(const BetQuestion& question, int measure, double& value) {
+  const TableState& table = question.game.table;
+  const Currency now = table.BetAmount(question.seat, question.bet);
+  const Currency prior = table.BetBeforeRoll(question.seat, question.bet);
+  switch (measure) {
+    case kCurrentCount:
+      value = now > kZero ? 1 : 0;
+      return true;
+    case kCurrentMoney:
+      value = now.ToDouble();
+      return true;
+    case kPriorCount:
+      value = prior > kZero ? 1 : 0;
+      return true;
+    case kPriorMoney:
+      value = prior.ToDouble();
+      return true;
+    case kWorkingFlag:
+      value = Flag(BetWorkingOf(question.game, question.seat, question.bet) > 0);
+      return true;
+    case kCalledOn:
+      value = Flag(BetWorkingOf(question.game, question.seat, question.bet) == 2);
+      return true;
+    case kCalledOff:
+      value = Flag(BetWorkingOf(question.game, question.seat, question.bet) == -1);
+      return true;
+    default:
+      if (!IsLay(question.bet) && !IsBuy(question.bet)) return ScriptFails(question.game, kErrorVig);
+      value = VigHeld(question.game, question.seat, question.bet).ToDouble();
+      return true;
+  }
+}
+
+}  // namespace
+
+Currency SessionLastRoll(const Game& game, int metric, int seat, int bet) {
+  const Currency roll = Currency::Dollars(SessionRolls(game.stats));
+  if (roll == kZero) return kZero;
+  const int table = metric == kMetricWins ? kWinStats : kLossStats;
+  // A hand's figures are its own until it ends, and then the session's.
+  for (const int scope : {kCurrentHand, kCurrentSession}) {
+    const auto& kinds = game.stats.Bets[bet][seat][scope].kinds[table];
+    if (kinds[kStatLastRoll - 1] == roll) return kinds[kStatLastAmount - 1];
+  }
+  return kZero;
+}
+
+bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value) {
+  const BetQuestion question{game, reference.scope, seat, bet};
+  const int measure = static_cast<int>(reference.measure);
+  if (measure >= kCurrentCount) return Standing(question, measure, value);
+  switch (reference.metric) {
+    case kMetricTendered:
+      // Tendered is what was offered, decided or not.
+      if (measure == kLastRollCount || measure == kLastRollMoney)
+        return Standing(question, measure == kLastRollCount ? kPriorCount : kPriorMoney, value);
+      return TableStatistic(question, kWagerStats, measure, value);
+    case kMetricWins:
+      return TableStatistic(question, kWinStats, measure, value);
+    case kMetricLosses:
+      return TableStatistic(question, kLossStats, measure, value);
+    case kMetricNet:
+      return NetStatistic(question, measure, value);
+    case kMetricNetPercent:
+      return NetPercent(question, measure, value);
+    default:
+      return TableStatistic(question, kWagerStats, measure, value);
+  }
+}
+
+}  // namespace tessaryn

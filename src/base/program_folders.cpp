@@ -1,0 +1,57 @@
+#include "base/program_folders.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+
+#include "base/record_file.h"
+
+namespace tessaryn {
+
+namespace fs = std::filesystem;
+
+std::string ApplicationFolder() {
+  std::error_code error;
+  const fs::path program = fs::read_symlink("/proc/self/exe", error);
+  return error ? "./" : program.parent_path().string() + "/";
+}
+
+std::string DefaultDataFolder() {
+  const std::string application = ApplicationFolder();
+  if (access(application.c_str(), W_OK) == 0) return application;
+  if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data != 0)
+    return std::string(data) + "/tessaryn/";
+  const char* home = std::getenv("HOME");
+  return std::string(home == nullptr ? "." : home) + "/.local/share/tessaryn/";
+}
+
+namespace {
+
+// Why a folder can't be worked in; empty when it can.
+std::string FolderProblem(const std::string& folder) {
+  if (std::string problem = TextProblem(folder); !problem.empty()) return problem;
+  std::error_code fault;
+  fs::create_directories(folder, fault);
+  std::error_code unseen;
+  if (!fs::is_directory(folder, unseen))
+    return fault ? fault.message() : unseen ? unseen.message() : "is no folder";
+  if (faccessat(AT_FDCWD, folder.c_str(), R_OK | X_OK, AT_EACCESS) != 0)
+    return std::system_category().message(errno);
+  return {};
+}
+
+}  // namespace
+
+bool PrepareDataFolder(std::string& folder, std::string& error) {
+  if (folder.empty()) folder = DefaultDataFolder();
+  if (folder.back() != '/') folder += '/';
+  const std::string problem = FolderProblem(folder);
+  if (!problem.empty()) error = "data folder " + folder + ": " + problem;
+  return problem.empty();
+}
+
+}  // namespace tessaryn

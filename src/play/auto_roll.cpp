@@ -1,0 +1,193 @@
+#include "play/auto_roll.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "state/game.h"
+#include "play/roll_cycle.h"
+#include "play/table_files.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr const char* kAutoStopReason = "Stopped by Auto-Stop.";
+constexpr const char* kInterruptText = "'s script processing.\r\rDo you want to interrupt auto-betting?";
+
+bool Ask(Game& game, const char* title, const std::string& text) {
+  return ShowMessage(game, title, text, kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+}
+
+std::string ScriptOwner(const Game& game) {
+  return game.table.SeatName[std::clamp(game.autobet.CurrentAutobettor, 0, kSeats)];
+}
+
+bool AutoStopDue(const Game& game) {
+  const std::int64_t interval = game.settings.AutoStopInterval.raw / Currency::kPerDollar;
+  if (interval <= 0) return false;
+  const std::int64_t rolls = SessionRolls(game.stats);
+  return rolls > 0 && rolls % interval == 0;
+}
+
+// Gives way to user events; what others may read is then up to date.
+void GiveWay(Game& game) {
+  if (game.host->Yield(game)) FlushTableFiles(game);
+}
+
+// A tenth of the counting loops of 100 milliseconds, measured once when pacing is first wanted.
+void Calibrate(Game& game) {
+  if (game.table.TurboCalibration > 0) return;
+  const std::uint32_t start = game.host->TickMilliseconds();
+  volatile std::uint64_t count = 0;
+  for (;;) {
+    for (int i = 0; i < 1000; ++i) count = count + 1;
+    if (game.host->TickMilliseconds() - start >= 100) break;
+  }
+  game.table.TurboCalibration = static_cast<std::int32_t>(std::min<std::uint64_t>(count / 10, 2'000'000'000));
+}
+
+// The busy wait by which a throttle slows Turbo-Roll: each step doubles it. Gives way now and then, so that a
+// long wait can be stopped, or cut short by moving the throttle.
+void Pace(Game& game) {
+  Calibrate(game);
+  const auto stepsWanted = [&game] {
+    const int throttle = game.settings.RollThrottle;
+    return throttle > 0 ? std::ldexp(1.0, throttle) * game.table.TurboCalibration : 0.0;
+  };
+  const double perYield = std::max(1, game.table.TurboCalibration) * 5.0;  // 50 milliseconds
+  volatile double counted = 0;
+  while (counted < stepsWanted() && game.table.AutoRollActive && game.table.TurboRollActive) {
+    const double until = std::min(stepsWanted(), counted + perYield);
+    while (counted < until) counted = counted + 1;
+    if (counted < stepsWanted()) GiveWay(game);
+  }
+}
+
+bool GoRoundTurbo(Game& game) {
+  TableState& table = game.table;
+  GiveWay(game);
+  if (table.AutoRollActive && AutoStopDue(game)) {
+    StopRun(game, table.StopReason.empty() ? kAutoStopReason : table.StopReason);
+    return false;
+  }
+  if (table.AutoRollActive && table.TurboRollActive && game.settings.RollThrottle > 0) Pace(game);
+  return table.AutoRollActive;
+}
+
+void WaitForNextRoll(Game& game) {
+  TableState& table = game.table;
+  table.LastActivityTick = game.host->TickMilliseconds();
+  const auto delay = [&game] {
+    return static_cast<std::uint32_t>(game.settings.AutoRollDelay.raw / (Currency::kPerDollar / 1000));
+  };
+  do {
+    game.host->Wait(game);
+  } while (table.AutoRollActive && !table.TurboRollActive &&
+           game.host->TickMilliseconds() - table.LastActivityTick < delay());
+}
+
+}  // namespace
+
+void StopRun(Game& game, const std::string& reason) {
+  TableState& table = game.table;
+  if (!table.AutoRollActive) {
+    if (!reason.empty()) table.StopReason = reason;
+    return;
+  }
+  table.AutoRollActive = false;
+  const bool turbo = table.TurboRollActive;
+  table.TurboRollActive = false;
+  if (!reason.empty()) table.StopReason = reason;
+  game.host->Changed(game, Change::kRun);
+  if (!turbo) return;
+  if (!table.StopReason.empty()) ShowMessage(game, kRunStoppedTitle, table.StopReason);
+  game.host->Changed(game, Change::kEverything);
+}
+
+void ToggleAutoRoll(Game& game) {
+  TableState& table = game.table;
+  if (table.AutoRollActive) return StopRun(game, "");
+  if (game.autobet.ScriptRunning && game.autobet.StepMode) {
+    if (Ask(game, "Auto-Bet Active", ScriptOwner(game) + kInterruptText)) game.autobet.StepMode = false;
+    return;
+  }
+  if (table.RollInProgress) return;
+  table.AutoRollActive = true;
+  table.TurboRollActive = game.settings.RollThrottle != kThrottleAutoRoll;
+  game.host->Changed(game, Change::kRun);
+  RollDice(game);
+  // A roll that was not even begun leaves no run behind.
+  if (table.AutoRollActive && !table.RollInProgress) StopRun(game, "");
+}
+
+bool GoRoundAgain(Game& game) {
+  TableState& table = game.table;
+  if (table.TurboRollActive) return GoRoundTurbo(game);
+  FlushTableFiles(game);
+  game.host->Changed(game, Change::kEverything);
+  if (!table.AutoRollActive) return false;
+  if (AutoStopDue(game)) {
+    StopRun(game, "");
+    ShowMessage(game, "Auto-Roll Stopped", "Stopped by Auto-Stop");
+    return false;
+  }
+  WaitForNextRoll(game);
+  return table.AutoRollActive;
+}
+
+void SetThrottle(Game& game, int position) {
+  TableState& table = game.table;
+  game.settings.RollThrottle = position < 0 || position > kThrottleAutoRoll ? 0 : position;
+  if (table.AutoRollActive) {
+    table.TurboRollActive = game.settings.RollThrottle != kThrottleAutoRoll;
+    game.host->Changed(game, Change::kEverything);
+  }
+  game.host->Changed(game, Change::kRun);
+}
+
+Currency ClampAutoRollDelay(Currency seconds) { return std::clamp(seconds, kZero, Currency::Dollars(300)); }
+
+Currency ClampAutoStop(Currency rolls) { return std::max(WholePart(rolls), kZero); }
+
+void SetAutoRollDelay(Game& game) {
+  game.box.MsgValue1 = game.settings.AutoRollDelay;
+  if (ShowMessage(game, "Set Auto-Roll Time Delay",
+                  "How many seconds would you like between rolls? (0 to 300)",
+                  kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
+    return;
+  game.settings.AutoRollDelay = ClampAutoRollDelay(game.box.MsgValue1);
+}
+
+void SetAutoStop(Game& game) {
+  game.box.MsgValue1 = game.settings.AutoStopInterval;
+  if (ShowMessage(
+          game, "Set Auto-Roll / Turbo-Roll Auto-Stop",
+          "How often (number of rolls) would you like Auto-Roll / Turbo-Roll to automatically stop?  "
+          "\r\r(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
+          "automatic stopping.)",
+          kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
+    return;
+  game.settings.AutoStopInterval = ClampAutoStop(game.box.MsgValue1);
+}
+
+bool AskBeforeCommand(Game& game) {
+  TableState& table = game.table;
+  if (table.AutoRollActive) {
+    const bool turbo = table.TurboRollActive;
+    if (Ask(game, turbo ? "Turbo-Roll Active" : "Auto-Roll Active",
+            turbo ? "Do you want to stop the Turbo-Roll?" : "Do you want to stop Auto-Rolling?"))
+      StopRun(game, "");
+    return false;
+  }
+  if (game.autobet.ScriptRunning) {
+    if (Ask(game, "Auto-Bet Active", ScriptOwner(game) + kInterruptText)) {
+      game.autobet.StepMode = false;
+      game.autobet.ScriptRunning = false;
+    }
+    return false;
+  }
+  return true;
+}
+
+void NoteActivity(Game& game) { game.table.LastActivityTick = game.host->TickMilliseconds(); }
+
+}  // namespace tessaryn

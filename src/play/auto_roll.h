@@ -1,0 +1,37 @@
+// Rolling without the user: Auto-Roll at a paced rate, Turbo-Roll at full speed.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "base/money.h"
+
+namespace tessaryn {
+
+struct Game;
+
+inline constexpr int kThrottleAutoRoll = 12;
+inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
+
+// Starts a run, or stops the one that is on. A start does not return until the run ends. With a script that
+// is being stepped through it asks whether to interrupt that instead.
+void ToggleAutoRoll(Game& game);
+// Ends the run that is on, with its reason shown; nothing without one.
+void StopRun(Game& game, const std::string& reason);
+// A position 0 to 12, also in the middle of a run. Others become 0.
+void SetThrottle(Game& game, int position);
+// The two setting dialogs, and their rules: 0 to 300 seconds; whole rolls, not negative.
+void SetAutoRollDelay(Game& game);
+void SetAutoStop(Game& game);
+Currency ClampAutoRollDelay(Currency seconds);
+Currency ClampAutoStop(Currency rolls);
+// Asks to stop what runs (Turbo-Roll, Auto-Roll, a script) before another command acts. True when nothing
+// runs. After a yes the run is stopped and the answer is still false: the command does not go on.
+bool AskBeforeCommand(Game& game);
+// A key or mouse press on the table: the wait of an Auto-Roll starts again.
+void NoteActivity(Game& game);
+
+// For the roll cycle: what stands between the end of a roll and the next one. False when the run is over.
+bool GoRoundAgain(Game& game);
+
+}  // namespace tessaryn

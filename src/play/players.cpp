@@ -1,0 +1,484 @@
+#include "play/players.h"
+
+#include <algorithm>
+#include <bit>
+#include <cctype>
+#include <utility>
+
+#include "autobet/language/normaliser.h"
+#include "rules/bet_rules.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+#include "base/record_file.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr const char* kPassTitle = "Pass the Dice";
+
+// The dice go round downwards.
+int NextSeat(int seat) { return seat <= 1 ? kSeats : seat - 1; }
+
+// The list of occupied seats, after a name came or went.
+void ListSeated(TableState& table) {
+  table.OccupiedSeats = 0;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (!table.SeatName[seat].empty()) table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
+}
+
+std::string Lower(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+std::string Trimmed(const std::string& text) {
+  const auto first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string::npos) return "";
+  return text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
+}
+
+int NextOccupied(const TableState& table, int seat) {
+  for (int step = 0, next = NextSeat(seat); step < kSeats - 1; ++step, next = NextSeat(next))
+    if (IsOccupied(table, next)) return next;
+  return 0;
+}
+
+struct ShooterSearch {
+  int seat = 0;         // who may take the dice; 0 nobody
+  int others = 0;       // other players at the table
+  int otherSeat = 0;    // one of them
+  int lackLineBet = 0;  // willing, but without the line bet that is needed
+};
+
+ShooterSearch SearchShooter(const Game& game) {
+  const TableState& table = game.table;
+  const bool lineNeeded =
+      !game.settings.AllowPutBets && game.settings.ShooterBetRule == 1 && table.Point != 0;
+  ShooterSearch search;
+  for (int step = 0, seat = NextSeat(table.ShooterSeat); step < kSeats - 1; ++step, seat = NextSeat(seat)) {
+    if (!IsOccupied(table, seat) || seat == table.ShooterSeat) continue;
+    ++search.others;
+    search.otherSeat = seat;
+    if (table.handling[seat].AutoPassDice) continue;
+    const bool hasLine = table.SeatBets[seat].Has(kPassLine) || table.SeatBets[seat].Has(kDontPass);
+    if (lineNeeded && !hasLine) {
+      ++search.lackLineBet;
+    } else if (search.seat == 0) {
+      search.seat = seat;
+    }
+  }
+  return search;
+}
+
+std::string NobodyText(const Game& game, const ShooterSearch& search) {
+  std::string text = "Unable to pass the dice at this time.\r\r";
+  if (search.lackLineBet == 0) {
+    return text + (search.others == 1 ? game.table.SeatName[search.otherSeat] + " doesn't want to shoot."
+                                      : "None of the other players want to shoot.");
+  }
+  text += search.lackLineBet == 1
+              ? "There's one other player who wants to shoot "
+              : "There are " + std::to_string(search.lackLineBet) + " other players who want to shoot ";
+  return text +
+         "but can't because a line bet is required and Put bets are not allowed.\r\rPlease wait for a "
+         "come-out roll or check the 'Allow Put bets' option on the 'Bets tab' of the configuration screen.";
+}
+
+void GiveDice(Game& game, int seat, int reason) {
+  TableState& table = game.table;
+  const int oldShooter = table.ShooterSeat;
+  const bool byUser = reason == kPassByUser;
+  if (byUser && game.events.RecordShooterChanges)
+    WriteEventsLogLine(game, "    The dice were passed to " + table.SeatName[seat]);
+  table.ShooterSeat = seat;
+  game.host->Changed(game, Change::kShooter);
+  if (HandRolls(game.stats) == 0) {
+    table.HandSeat = seat;
+    return;
+  }
+  if (!byUser || table.TurboRollActive || oldShooter == 0) return;
+  const std::string& oldName = table.SeatName[oldShooter];
+  const std::string& newName = table.SeatName[seat];
+  const bool back = seat == table.HandSeat;
+  ShowMessage(game, kPassTitle,
+              back
+                  ? oldName + " is passing the dice back to " + newName + " who originally started this hand."
+                  : oldName + " is passing the dice to " + newName +
+                        " who may finish the current hand and then roll his/her own hand.");
+}
+
+// Who asked for the dice to pass hears why they can't; nobody else does, and no text is formed.
+bool MustTell(const Game& game, int reason) {
+  return reason == kPassByUser && !game.table.TurboRollActive && !game.autobet.ScriptRunning;
+}
+
+}  // namespace
+
+void PassDice(Game& game, int reason) {
+  TableState& table = game.table;
+  if (table.OccupiedSeats == 0) {
+    if (MustTell(game, reason))
+      ShowMessage(game, kPassTitle, "Unable to pass the dice.\r\rThere are no players at the table.");
+    table.ShooterSeat = 0;
+    if (reason == kPassShooterLeft) table.HandSeat = 0;
+    return;
+  }
+  // A player alone keeps the dice: the usual case of a system under test.
+  if (table.OccupiedSeats == 1 && reason == kPassAfterSevenOut) return;
+  const ShooterSearch search = SearchShooter(game);
+  if (search.seat > 0) return GiveDice(game, search.seat, reason);
+  if (reason == kPassShooterLeft) {
+    const int next = NextOccupied(table, table.ShooterSeat);
+    if (next > 0) GiveDice(game, next, reason);
+    return;
+  }
+  if (!MustTell(game, reason)) return;
+  ShowMessage(game, kPassTitle,
+              search.others == 0 ? "Unable to pass the dice.\r\rThere are no other players at the table."
+                                 : NobodyText(game, search));
+}
+
+std::string NameProblem(const Game& game, const std::string& name, int ownSeat) {
+  if (const std::string problem = TextProblem(name); !problem.empty())
+    return "That can't be a player's name: " + problem + ".";
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (seat != ownSeat && Lower(game.table.SeatName[seat]) == Lower(name))
+      return "There's already a player named " + name + ".";
+  switch (CheckPlayerName(name)) {
+    case ScriptNameProblem::kNumeric:
+      return "A player's name can't be all numeric because it can't be used in auto-betting.";
+    case ScriptNameProblem::kReservedWord:
+      return name +
+             " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a "
+             "player's name.";
+    default:
+      return "";
+  }
+}
+
+void ClearSeat(Game& game, int seat) {
+  TableState& table = game.table;
+  for (int bet = 1; bet < kBetRows; ++bet) SetBetAmount(game, seat, bet, kZero);
+  for (int bet = 0; bet < kBetRows; ++bet) {
+    table.BetBeforeRoll(seat, bet) = table.BetAfterRoll(seat, bet) = kZero;
+    if (bet < 100) table.BetCommitted(seat, bet) = kZero;
+    if (bet <= 100) table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
+  }
+  table.TouchedSinceBefore[seat] = table.TouchedSinceAfter[seat] = {};
+  table.StacksSinceBefore[seat] = table.StacksSinceAfter[seat] = {};
+  table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
+  table.BetWorking[seat] = {};
+  table.BetWorking[seat].byDefault = table.Point != 0 ? kAllTableBets : table.BetDefaultWorking[seat];
+  table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
+  for (std::string& name : table.CheckStackName[seat]) name.clear();
+  for (int i = 0; i < 6; ++i)
+    table.LayVigHeld[seat][i] = table.BuyVigHeld[seat][i] = table.ComeTravelAmount[seat][i] = kZero;
+  for (auto* money : {table.BankrollCurrent, table.OnTableAmount, table.RailAmount, table.BankrollBeforeRoll,
+                      table.BankrollAfterRoll, table.AtmLogged, table.BankrollInitAmount})
+    money[seat] = kZero;
+  table.AllowNegativeBankroll[seat] = false;
+  table.BankrollInitType[seat] = 0;
+  table.handling[seat] = Handling{};
+  table.ComeMovedTo[seat] = table.DontComeMovedTo[seat] = 0;
+  table.SessionsLogName[seat].clear();
+  for (int i = 0; i < 4; ++i) table.VisibleStacks[seat][i] = i + 1;
+  ClearSeatStatistics(game, seat);
+}
+
+bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency bankroll, std::string& error) {
+  TableState& table = game.table;
+  const std::string name = Trimmed(givenName);
+  if (seat < 1 || seat > kSeats) {
+    error = "There is no seat " + std::to_string(seat) + "; seats are 1 to 8.";
+  } else if (IsOccupied(table, seat)) {
+    error = "Seat " + std::to_string(seat) + " is taken by " + table.SeatName[seat] + ".";
+  } else if (name.empty()) {
+    error = "A player needs a name.";
+  } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
+    error = "The maximum player bankroll is $9,999,999";
+  } else if (bankroll < -kBankrollLimit) {
+    error = "The minimum player bankroll is -$9,999,999";
+  } else {
+    error = NameProblem(game, name, 0);
+  }
+  if (!error.empty()) return false;
+  ClearSeat(game, seat);
+  table.SeatName[seat] = name;
+  ListSeated(table);
+  StartBankroll(game, seat, bankroll);
+  table.BankrollInitAmount[seat] = bankroll;
+  table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+  if (table.ShooterSeat == 0) {
+    table.ShooterSeat = seat;
+    if (HandRolls(game.stats) == 0) table.HandSeat = seat;
+  }
+  if (table.SelectedSeat == 0) table.SelectedSeat = seat;
+  game.autobet.ScriptsCompiled = false;
+  WriteEventsLogLine(
+      game, "    " + name + " joined the game at " + StickPosition(seat) + " with $" + PlainMoney(bankroll));
+  game.host->Changed(game, Change::kPlayers);
+  if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
+  RequireConsistency(game);
+  return true;
+}
+
+namespace {
+
+// A question with one input box. False when given up.
+bool AskText(Game& game, const std::string& title, const std::string& text, const std::string& preset,
+             std::string& answer) {
+  game.box.MsgEntry = preset;
+  if (ShowMessage(game, title, text, kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion) !=
+      kResultOk)
+    return false;
+  answer = Trimmed(game.box.MsgEntry);
+  return !answer.empty();
+}
+
+// Repeats the question until the name is fit or the user gives up.
+bool AskName(Game& game, const std::string& title, const std::string& prompt, const std::string& preset,
+             int ownSeat, std::string& name) {
+  std::string text = prompt;
+  std::string entry = preset;
+  for (;;) {
+    if (!AskText(game, title, text, entry, name)) return false;
+    const std::string problem = NameProblem(game, name, ownSeat);
+    if (problem.empty()) return true;
+    entry = name;
+    text = problem + "\r\r" + prompt;
+  }
+}
+
+}  // namespace
+
+bool AddPlayer(Game& game, int seat) {
+  if (seat < 1 || seat > kSeats || IsOccupied(game.table, seat)) return false;
+  if (ShowMessage(game, kAddPlayerTitle, "Would you like to add a player here?",
+                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+    return false;
+  std::string name;
+  if (!AskName(game, kAddPlayerTitle, "What's the new player's name?", "", 0, name)) return false;
+  const std::string prompt = "How much would " + name + " like to buy-in for?";
+  std::string text = prompt;
+  for (;;) {
+    game.box.MsgValue1 = game.settings.StartBank;
+    if (ShowMessage(game, kAddPlayerTitle, text, kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
+      return false;
+    const Currency bankroll = game.box.MsgValue1;
+    std::string error;
+    if (JoinPlayer(game, seat, name, bankroll, error)) return true;
+    text = error + "\r\r" + prompt;
+  }
+}
+
+namespace {
+
+struct Abandoned {
+  bool passLine = false;
+  int comeBets = 0;
+  Currency total;
+};
+
+Abandoned ContractMoney(const TableState& table, int seat) {
+  Abandoned abandoned;
+  const auto riding = [&](int bet) {
+    return table.BetAmount(seat, bet) > kZero && table.BetCommitted(seat, bet) > kZero;
+  };
+  for (int bet = kCome4; bet < kCome4 + 6; ++bet)
+    if (riding(bet)) {
+      ++abandoned.comeBets;
+      abandoned.total += table.BetAmount(seat, bet);
+    }
+  if (table.Point != 0 && riding(kPassLine)) {
+    abandoned.passLine = true;
+    abandoned.total += table.BetAmount(seat, kPassLine);
+  }
+  return abandoned;
+}
+
+std::string RemoveQuestion(const std::string& name, const Abandoned& abandoned) {
+  std::string text = "Would you like to remove " + name + "?";
+  if (abandoned.total == kZero) return text;
+  text += "\r\r" + name + " still has ";
+  if (abandoned.passLine) text += "an active Pass Line bet ";
+  if (abandoned.passLine && abandoned.comeBets > 0) text += "and ";
+  if (abandoned.comeBets == 1) text += "an active Come bet ";
+  if (abandoned.comeBets > 1) text += std::to_string(abandoned.comeBets) + " active Come bets ";
+  return text + "\r\rthat can't be removed and will be abandoned.\r\rTotal to be abandoned: $" +
+         FormatMoney(abandoned.total);
+}
+
+void LogLeaving(Game& game, int seat, Currency total) {
+  const TableState& table = game.table;
+  const Currency cashed = table.BankrollCurrent[seat] - total;
+  const Currency result = cashed - game.stats.BankrollSessionStart[seat];
+  std::string line = "    " + table.SeatName[seat] + " cashed out with $" + PlainMoney(cashed) + " (";
+  if (result == kZero)
+    line += "broke even";
+  else
+    line += "$" + PlainMoney(Abs(result)) + (result > kZero ? " win" : " loss");
+  line += total > kZero ? " after $" + PlainMoney(total) + " abandoned)" : ")";
+  WriteEventsLogLine(game, line);
+}
+
+void RecomputeMasterScriptFlag(AutoBet& autobet) {
+  autobet.ScriptActive[0] =
+      std::any_of(autobet.ScriptActive + 1, autobet.ScriptActive + kSeatRows, [](bool on) { return on; });
+}
+
+}  // namespace
+
+bool RemovePlayer(Game& game) {
+  const int seat = game.table.SelectedSeat;
+  if (!IsOccupied(game.table, seat)) return false;
+  const Abandoned abandoned = ContractMoney(game.table, seat);
+  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.SeatName[seat], abandoned),
+                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+    return false;
+  LeaveTable(game, seat);
+  return true;
+}
+
+void LeaveTable(Game& game, int seat) {
+  TableState& table = game.table;
+  if (!IsOccupied(table, seat)) return;
+  LogLeaving(game, seat, ContractMoney(table, seat).total);
+  ClearSeat(game, seat);
+  game.autobet.Scripts[seat] = SeatScript{};
+  game.autobet.ScriptActive[seat] = false;
+  game.events.ScriptActiveLogged[seat] = false;
+  RecomputeMasterScriptFlag(game.autobet);
+  game.autobet.ScriptsCompiled = false;
+  table.SeatName[seat].clear();
+  ListSeated(table);
+  const bool handRolled = HandRolls(game.stats) > 0;
+  if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
+  if (table.HandSeat == seat && handRolled) table.HandSeat = 0;
+  if (table.PreviousHandSeat == seat) table.PreviousHandSeat = 0;
+  if (table.SelectedSeat == seat) table.SelectedSeat = NextOccupied(table, seat);
+  game.host->Changed(game, Change::kPlayers);
+  if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
+  RequireConsistency(game);
+}
+
+bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& error) {
+  TableState& table = game.table;
+  const std::string name = Trimmed(givenName);
+  if (!IsOccupied(table, seat))
+    error = "There is no player at seat " + std::to_string(seat) + ".";
+  else
+    error = name.empty() ? "A player needs a name." : NameProblem(game, name, seat);
+  if (!error.empty()) return false;
+  const std::string old = table.SeatName[seat];
+  WriteEventsLogLine(game, "    " + old + "'s name changed to " + name);
+  table.SeatName[seat] = name;
+  game.autobet.ScriptsCompiled = false;
+  game.host->Changed(game, Change::kPlayers);
+  return true;
+}
+
+bool RenamePlayer(Game& game) {
+  const int seat = game.table.SelectedSeat;
+  if (!IsOccupied(game.table, seat)) return false;
+  const std::string old = game.table.SeatName[seat];
+  std::string name;
+  if (!AskName(game, "Rename Player", "Enter a new name for " + old + ".", old, seat, name)) return false;
+  std::string error;
+  if (!RenameTo(game, seat, name, error)) return false;
+  if (Lower(old) == Lower(name)) return true;
+  if (ShowMessage(game, "Rename Sessions Log",
+                  "Would you also like to change " + name + "'s sessions log filename?",
+                  kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
+    game.table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+  return true;
+}
+
+namespace {
+
+template <typename T, int kRows>
+void SwapColumns(SeatBetTable<T, kRows>& table, int a, int b) {
+  for (auto& row : table.cells) std::swap(row[a], row[b]);
+}
+
+void SwapSeatTables(Game& game, int a, int b) {
+  TableState& table = game.table;
+  std::swap(table.SeatName[a], table.SeatName[b]);
+  ListSeated(table);
+  // Both seats' copies may be out of date now.
+  table.SeatsSinceBefore |= 1u << a | 1u << b;
+  table.SeatsSinceAfter |= 1u << a | 1u << b;
+  SwapColumns(table.BetAmount, a, b);
+  SwapColumns(table.BetBeforeRoll, a, b);
+  SwapColumns(table.BetAfterRoll, a, b);
+  SwapColumns(table.BetCommitted, a, b);
+  SwapColumns(table.BetStreak, a, b);
+  SwapColumns(table.BetStreakBefore, a, b);
+  const auto swap = [a, b](auto& rows) { std::swap(rows[a], rows[b]); };
+  swap(table.BetWorking);
+  swap(table.BetWorkingBeforeRoll);
+  swap(table.BetDefaultWorking);
+  swap(table.CheckStackName);
+  swap(table.SeatBets);
+  swap(table.TouchedSinceBefore);
+  swap(table.TouchedSinceAfter);
+  swap(table.StacksSinceBefore);
+  swap(table.StacksSinceAfter);
+  swap(table.LayVigHeld);
+  swap(table.BuyVigHeld);
+  swap(table.ComeTravelAmount);
+  swap(table.ComeMovedTo);
+  swap(table.DontComeMovedTo);
+  swap(table.BankrollCurrent);
+  swap(table.OnTableAmount);
+  swap(table.RailAmount);
+  swap(table.BankrollBeforeRoll);
+  swap(table.BankrollAfterRoll);
+  swap(table.AtmLogged);
+  swap(table.AllowNegativeBankroll);
+  swap(table.BankrollInitType);
+  swap(table.BankrollInitAmount);
+  swap(table.handling);
+  swap(table.SessionsLogName);
+  swap(table.VisibleStacks);
+  swap(game.autobet.Scripts);
+  swap(game.autobet.ScriptActive);
+  swap(game.events.ScriptActiveLogged);
+  // Who has each bet up is kept by place in the pay order.
+  for (std::uint8_t& seats : table.SeatsUp) seats = 0;
+  for (int place = 0; place < kSeats; ++place)
+    table.SeatBets[kPayOrder[place]].ForEach(
+        [&](int bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
+  for (PlotRow& row : game.graph.Rows) std::swap(row.cells[a], row.cells[b]);
+  BankrollPlotChanged(game);
+  SwapSeatStatistics(game, a, b);
+}
+
+}  // namespace
+
+bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
+  TableState& table = game.table;
+  if (!IsOccupied(table, fromSeat)) {
+    error = "There is no player at seat " + std::to_string(fromSeat) + ".";
+  } else if (toSeat < 1 || toSeat > kSeats) {
+    error = "There is no seat " + std::to_string(toSeat) + "; seats are 1 to 8.";
+  } else if (IsOccupied(table, toSeat)) {
+    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.SeatName[toSeat] + ".";
+  }
+  if (!error.empty()) return false;
+  SwapSeatTables(game, fromSeat, toSeat);
+  for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
+    if (*seat == fromSeat) *seat = toSeat;
+  game.autobet.ScriptsCompiled = false;
+  WriteEventsLogLine(game, "    " + table.SeatName[toSeat] + " moved to " + StickPosition(toSeat));
+  game.host->Changed(game, Change::kPlayers);
+  RequireConsistency(game);
+  return true;
+}
+
+void SelectSeat(Game& game, int seat) {
+  if (!IsOccupied(game.table, seat)) return;
+  game.table.SelectedSeat = seat;
+  game.host->Changed(game, Change::kPlayers);
+}
+
+}  // namespace tessaryn

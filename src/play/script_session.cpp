@@ -1,0 +1,288 @@
+#include "play/script_session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "autobet/compile/compile_autobets.h"
+#include "autobet/run/interpreter.h"
+#include "autobet/language/script_files.h"
+#include "autobet/language/script_text.h"
+#include "autobet/language/vocabulary.h"
+#include "base/bet_catalogue.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr const char* kTitle = "Auto-Bet";
+
+void ScriptsChanged(Game& game) {
+  game.autobet.ScriptRunning = false;
+  game.autobet.ScriptsCompiled = false;
+}
+
+// A place outside the script is brought to its nearest line.
+void ClampSpan(ScriptDiagnostic& diagnostic, int lines) {
+  if (diagnostic.firstLine < 1) diagnostic.firstLine = 1;
+  if (diagnostic.lastLine < diagnostic.firstLine) diagnostic.lastLine = diagnostic.firstLine;
+  if (diagnostic.firstLine > lines) {
+    diagnostic.firstLine = lines;
+    diagnostic.firstColumn = 0;
+  }
+  if (diagnostic.lastLine > lines) {
+    diagnostic.lastLine = lines;
+    diagnostic.lastColumn = 0;
+  }
+}
+
+std::string ErrorTitle(const ScriptDiagnostic& diagnostic) {
+  const std::string first = std::to_string(diagnostic.firstLine);
+  if (diagnostic.firstLine == diagnostic.lastLine) return "Auto-bet script error in line " + first;
+  return "Auto-bet script error in lines " + first + " thru " + std::to_string(diagnostic.lastLine);
+}
+
+bool IsEmpty(const std::vector<std::string>& lines) {
+  return std::all_of(lines.begin(), lines.end(),
+                     [](const std::string& line) { return Trimmed(line).empty(); });
+}
+
+// compile: whether the lines compile, and what is wrong with them.
+template <typename Compile>
+ScriptCheck CheckBy(const std::vector<std::string>& lines, Compile&& compile) {
+  ScriptCheck check;
+  check.title = kTitle;
+  if (IsEmpty(lines)) {
+    check.text =
+        "This feature checks to see that your auto-bet script is properly structured, but presently your "
+        "script "
+        "is empty.";
+    return check;
+  }
+  check.ok = compile(check.diagnostic);
+  if (check.ok) {
+    check.text = "Your script is properly structured.";
+    return check;
+  }
+  ClampSpan(check.diagnostic, static_cast<int>(lines.size()));
+  check.title = ErrorTitle(check.diagnostic);
+  check.text = check.diagnostic.message;
+  if (!check.diagnostic.offer.empty())
+    check.text += Concat({"\r\rDid you mean \"", check.diagnostic.offer, "\"?"});
+  return check;
+}
+
+}  // namespace
+
+ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
+                       const std::vector<std::string>& lines, std::vector<int>* nesting) {
+  return CheckBy(lines, [&](ScriptDiagnostic& diagnostic) {
+    CompiledScript script;
+    return CompileAutobets(seat, lines, surroundings, script, diagnostic, nesting);
+  });
+}
+
+ScriptCheck CheckScript(Game& game, int seat) {
+  ScriptCheck check = CheckBy(game.autobet.Scripts[seat].ScriptLines, [&](ScriptDiagnostic& diagnostic) {
+    return CompiledScriptOf(game, seat, SurroundingsOf(game), diagnostic) != nullptr;
+  });
+  if (check.ok) game.autobet.ScriptsCompiled = false;
+  return check;
+}
+
+void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::string& fileName) {
+  ScriptsChanged(game);
+  SeatScript& script = game.autobet.Scripts[seat];
+  script.ScriptLines = std::move(lines);
+  script.ScriptNesting.clear();
+  script.ScriptFileName = fileName;
+  script.Unsaved = false;
+  script.Errors.clear();
+  script.Acted = false;
+  // A script that comes in before the first roll has not been told yet.
+  if (SessionRolls(game.stats) == 0)
+    game.autobet.SessionAhead = static_cast<std::uint16_t>(game.autobet.SessionAhead | 1u << seat);
+}
+
+bool OpenScript(Game& game, int seat, const std::string& path, std::string& error) {
+  std::vector<std::string> lines;
+  const ScriptFileResult result = ReadScriptFile(path, lines);
+  if (!result.Ok()) {
+    error = result.problem == ScriptFileProblem::kNotFound ? path + ": File not found" : result.message;
+    return false;
+  }
+  SetScript(game, seat, std::move(lines), path);
+  return true;
+}
+
+bool SaveScript(Game& game, int seat, const std::string& path, std::string& error) {
+  SeatScript& script = game.autobet.Scripts[seat];
+  const ScriptFileResult result = WriteScriptFile(path, script.ScriptLines);
+  if (!result.Ok()) {
+    error = result.message;
+    return false;
+  }
+  script.ScriptFileName = path;
+  script.Unsaved = false;
+  return true;
+}
+
+void SetScriptActive(Game& game, int seat, bool active) {
+  AutoBet& autobet = game.autobet;
+  ScriptsChanged(game);
+  autobet.ScriptActive[seat] = active && IsOccupied(game.table, seat);
+  autobet.ScriptActive[0] =
+      std::any_of(autobet.ScriptActive + 1, autobet.ScriptActive + kSeatRows, [](bool on) { return on; });
+}
+
+void SetAllScriptsActive(Game& game, bool active) {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    SetScriptActive(game, seat, active && !IsEmpty(game.autobet.Scripts[seat].ScriptLines));
+}
+
+namespace {
+
+// The offer behind an activation; name empty for all scripts.
+std::string InitialiseQuestion(const std::string& name) {
+  const bool all = name.empty();
+  std::string text = all ? "All players' auto-bet scripts have been activated."
+                         : name + "'s auto-bet script has been activated.";
+  text += "\r\rYou have an opportunity now to run ";
+  text += all ? "each script for one cycle BEFORE " : name + "'s script for one cycle BEFORE ";
+  text +=
+      "the dice roll in order to check and set any initial conditions.  This is called initializing. If "
+      "you're "
+      "not ready yet, then just recheck the active checkbox later or note that all players' active auto-bets "
+      "are "
+      "automatically initialized whenever NEW is selected from the GAME menu.\r\r";
+  return text + (all ? "Would you like to initialize all auto-bet scripts now?"
+                     : "Would you like to initialize " + name + "'s auto-bet script now?");
+}
+
+}  // namespace
+
+void CloseScripts(Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    SetScriptActive(game, seat, false);
+    SetScript(game, seat, {}, "");
+  }
+}
+
+void ActivateScript(Game& game, int seat) {
+  if (seat == 0)
+    SetAllScriptsActive(game, true);
+  else
+    SetScriptActive(game, seat, true);
+  const std::string name = seat == 0 ? std::string() : game.table.SeatName[seat];
+  if (ShowMessage(game, kTitle, InitialiseQuestion(name), kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
+    InitialiseScripts(game);
+}
+
+bool InitialiseScripts(Game& game) {
+  AutoBet& autobet = game.autobet;
+  if (!autobet.ScriptsCompiled) CompileALLAutobets(game);
+  if (!autobet.ScriptsCompiled) return false;
+  autobet.ScriptInitializing = true;
+  RunAutoBet(game);
+  autobet.ScriptInitializing = false;
+  return true;
+}
+
+void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool allowed) {
+  SeatScript& script = game.autobet.Scripts[seat];
+  bool SeatScript::*const flags[] = {&SeatScript::AllowAct4Others, &SeatScript::AllowReset,
+                                     &SeatScript::AllowActProb};
+  script.*flags[static_cast<int>(permission)] = allowed;
+}
+
+namespace {
+
+std::string BetTarget(int bet) {
+  return IsTableBet(bet) ? std::string(BetWord(bet)) : "cs" + std::to_string(bet - kFirstCheckStack);
+}
+
+}  // namespace
+
+std::string BetStatement(int bet, Currency amount) {
+  return "bet " + PlainMoney(amount) + " on " + BetTarget(bet);
+}
+
+void LogBet(Game& game, int seat, int bet) {
+  AutoBet& autobet = game.autobet;
+  if (!autobet.BetLogging || autobet.ScriptRunning) return;
+  const Currency amount = game.table.BetAmount(seat, bet);
+  autobet.LoggedBets.push_back(amount == kZero ? "remove " + BetTarget(bet) : BetStatement(bet, amount));
+  autobet.LoggedBetsUnsaved = true;
+}
+
+int InsertLoggedBets(Game& game, int seat, int line) {
+  AutoBet& autobet = game.autobet;
+  SeatScript& script = autobet.Scripts[seat];
+  const int count = static_cast<int>(autobet.LoggedBets.size());
+  if (count == 0) return 0;
+  const int lines = static_cast<int>(script.ScriptLines.size());
+  script.ScriptLines.insert(script.ScriptLines.begin() + std::clamp(line - 1, 0, lines),
+                            autobet.LoggedBets.begin(), autobet.LoggedBets.end());
+  script.ScriptNesting.clear();
+  script.Unsaved = true;
+  autobet.LoggedBets.clear();
+  autobet.LoggedBetsUnsaved = false;
+  ScriptsChanged(game);
+  return count;
+}
+
+bool OfferToSaveLoggedBets(Game& game) {
+  return game.autobet.LoggedBetsUnsaved &&
+         ShowMessage(game, "Save Auto-Bets?",
+                     "Your current logged bets have not been saved.\r\rDo you want to save them now?",
+                     kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+}
+
+ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from) {
+  if (text.empty() || lines.empty()) return {};
+  const std::string sought = Lowered(text);
+  const std::size_t count = lines.size();
+  const std::size_t start = static_cast<std::size_t>(std::clamp(from.line, 1, static_cast<int>(count))) - 1;
+  for (std::size_t step = 0; step <= count; ++step) {
+    const std::size_t line = (start + step) % count;
+    const std::size_t column = step == 0 ? static_cast<std::size_t>(std::max(from.column, 0)) : 0;
+    const std::size_t at = Lowered(lines[line]).find(sought, column);
+    if (at != std::string::npos) return {static_cast<int>(line) + 1, static_cast<int>(at)};
+  }
+  return {};
+}
+
+bool ReplaceInScript(Game& game, int seat, const std::string& text, ScriptPlace at,
+                     const std::string& replacement) {
+  SeatScript& script = game.autobet.Scripts[seat];
+  if (text.empty() || at.line < 1 || at.column < 0 ||
+      static_cast<std::size_t>(at.line) > script.ScriptLines.size())
+    return false;
+  std::string& line = script.ScriptLines[static_cast<std::size_t>(at.line) - 1];
+  const auto column = static_cast<std::size_t>(at.column);
+  if (column > line.size() || Lowered(line.substr(column, text.size())) != Lowered(text)) return false;
+  line.replace(column, text.size(), replacement);
+  script.Unsaved = true;
+  ScriptsChanged(game);
+  return true;
+}
+
+int ReplaceAllInScript(Game& game, int seat, const std::string& text, const std::string& replacement) {
+  SeatScript& script = game.autobet.Scripts[seat];
+  const std::string sought = Lowered(text);
+  int count = 0;
+  for (std::string& line : script.ScriptLines) {
+    // What a replacement brings in is not looked at again.
+    for (std::size_t at = 0; !sought.empty() && (at = Lowered(line).find(sought, at)) != std::string::npos;
+         at += replacement.size()) {
+      line.replace(at, text.size(), replacement);
+      ++count;
+    }
+  }
+  if (count > 0) {
+    script.Unsaved = true;
+    ScriptsChanged(game);
+  }
+  return count;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,41 @@
+// Every setting by its name: reading, checking and carrying out what a change brings with it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// Sets NAME to the text. seat 0: the table's setting, or every occupied seat for one that is kept by seat;
+// seat 1 to 8: that seat's. Asks the questions that a change brings (bets that would come down). On failure
+// returns false with the reason, and nothing is changed.
+bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error);
+// Several at once, checked together at the end: for settings that depend on each other.
+struct SettingChange {
+  std::string name;
+  int seat = 0;
+  std::string value;
+};
+bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// The place in changes of the one that SetSettings would refuse: a value that is out of its limits, or the
+// one behind which the settings no longer hold together. changes.size() if there is none. Changes nothing and
+// asks nothing.
+std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// Whether the setting is kept by players alone, so that without a seat it means every player at the table.
+bool IsSeatSetting(std::string_view name);
+// The value as text. False with the reason for an unknown name.
+bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error);
+// All names in their order; bySeat tells those that are kept for each seat.
+struct SettingName {
+  std::string name;
+  bool bySeat = false;
+  std::string help;
+};
+std::vector<SettingName> AllSettings();
+
+}  // namespace tessaryn

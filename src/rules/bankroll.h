@@ -1,0 +1,18 @@
+// The ATM and the size that a bankroll may have.
+#pragma once
+
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// deposit: into the ATM, so that the bankroll falls. Returns the amount allowed; 0 while AtmEnabled is off.
+// alwaysTell: the caller is the configuration screen. Requires amount >= 0.
+Currency AtmTransaction(Game& game, int seat, bool deposit, Currency amount, bool alwaysTell = false);
+// The seat's bankroll has passed the limit: tells so, and stops a run.
+void BankrollLimitReached(Game& game, int seat);
+// The bankroll, with its beginning, as a script may set it before the session's first roll.
+void SetBankroll(Game& game, int seat, Currency amount);
+
+}  // namespace tessaryn

@@ -1,0 +1,49 @@
+// What one roll makes of a bet: the ground on which the worth of a bet and of several bets together stand.
+#pragma once
+
+#include "rules/payoffs.h"
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// The dice as probabilities, by faces and by total.
+struct DiceOdds {
+  double cell[7][7] = {};
+  double total[13] = {};
+};
+
+// With percentage dice or fair ones.
+DiceOdds OddsInForce(const Game& game, bool percentageDice);
+// Brought to a sum of 1: a chain of rolls must end somewhere.
+DiceOdds Normalised(const DiceOdds& odds);
+
+double Ratio(const PayoffRecord& record);
+
+struct Case {
+  const Game& game;
+  const DiceOdds& odds;
+
+  double Pays(int bet) const;
+  double Total(int total) const { return odds.total[total]; }
+};
+
+// Bets 43 to 48: decided by the point, on the line or of their own.
+constexpr bool IsLineFamily(int bet) { return bet >= kPassLine && bet <= kDontCome; }
+constexpr bool IsLineOdds(int bet) { return bet == kPassLineOdds || bet == kDontPassOdds; }
+// Marks, counts and bets on a hand: decided by more than the point and the roll.
+constexpr bool IsLongBet(int bet) { return bet >= kAllSmall && bet <= kFire && bet != kMidway; }
+// Every roll decides it.
+bool IsOneRollBet(int bet);
+
+// All results are per unit laid out; 0 for a roll that leaves the bet in place.
+// Of a bet that is neither of the line family nor long.
+double ResultOnRoll(const Case& c, int bet, int die1, int die2);
+// Of the Pass Line or Come bet, or of the Don't side, with a point of 4 to 10 or 0 before it is set.
+double LineResult(const Case& c, bool pass, int point, int total);
+// Of the odds behind it; 0 without a point.
+double LineOddsResult(const Case& c, bool pass, int point, int total);
+using LineResultOf = double (*)(const Case& c, bool pass, int point, int total);
+
+}  // namespace tessaryn

@@ -1,0 +1,631 @@
+#include "rules/bet_rules.h"
+
+#include <algorithm>
+
+#include "base/bet_catalogue.h"
+#include "rules/bet_limits.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kNoteRefusals = 1;
+constexpr int kNoteBankroll = 2;
+constexpr int kNoteAdjusted = 4;
+
+constexpr int PayPosition(int seat) {
+  for (int i = 0; i < kSeats; ++i)
+    if (kPayOrder[i] == seat) return i;
+  return 0;
+}
+constexpr std::array<std::uint8_t, kSeatRows> kPayBit = [] {
+  std::array<std::uint8_t, kSeatRows> bits{};
+  for (int seat = 1; seat <= kSeats; ++seat) bits[seat] = static_cast<std::uint8_t>(1u << PayPosition(seat));
+  return bits;
+}();
+
+// --- Texts.
+
+bool NotesShown(const Game& game, int bit) {
+  return !game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0 &&
+         (game.settings.MessageMask & bit) != 0;
+}
+
+void ShowNote(Game& game, int seat, int bet, int bit, const std::string& sentence) {
+  if (!NotesShown(game, bit)) return;
+  ShowMessage(game, BetName(bet) + " Bet", game.table.SeatName[seat] + ",\r\r" + sentence);
+}
+
+std::string Dollars(Currency amount) { return "$" + FormatMoney(amount); }
+
+// --- The rules of the game. A rule refuses an increase (or a decrease) of its bets when its condition
+// holds, with its text.
+
+struct RuleCase {
+  const Game& game;
+  int seat;
+  int bet;
+  Currency newAmount;
+};
+
+bool OverCommitted(const RuleCase& c) { return c.newAmount > c.game.table.BetCommitted(c.seat, c.bet); }
+bool UnderCommitted(const RuleCase& c) { return c.newAmount < c.game.table.BetCommitted(c.seat, c.bet); }
+bool PointOn(const RuleCase& c) { return c.game.table.Point != 0; }
+bool PutRefused(const RuleCase& c) { return !c.game.settings.AllowPutBets && OverCommitted(c); }
+bool PutRefusedWithPoint(const RuleCase& c) { return PointOn(c) && PutRefused(c); }
+bool NoPoint(const RuleCase& c) { return !PointOn(c); }
+bool PointAndOver(const RuleCase& c) { return PointOn(c) && OverCommitted(c); }
+bool PointAndUnder(const RuleCase& c) { return PointOn(c) && UnderCommitted(c); }
+bool NoFlatBet(const RuleCase& c) { return c.game.table.BetAmount(c.seat, FlatBetOf(c.bet)) == kZero; }
+bool NoPointOrFlat(const RuleCase& c) { return NoPoint(c) || NoFlatBet(c); }
+bool DirectPutRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && PutRefused(c); }
+bool DirectRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && OverCommitted(c); }
+bool SmallMarked(const RuleCase& c) {
+  return (c.game.table.NumberMarks & kSmallMarks) != 0 && OverCommitted(c);
+}
+bool TallMarked(const RuleCase& c) {
+  return (c.game.table.NumberMarks & kTallMarks) != 0 && OverCommitted(c);
+}
+bool AnyMarked(const RuleCase& c) { return (c.game.table.NumberMarks & kAllMarks) != 0 && OverCommitted(c); }
+bool CountRunning(const RuleCase& c) { return c.game.table.FourRollCount > 0 && OverCommitted(c); }
+bool HandStarted(const RuleCase& c) { return HandRolls(c.game.stats) > 0 && OverCommitted(c); }
+
+struct BetRule {
+  int first;
+  int last;
+  bool decrease;
+  bool (*refuses)(const RuleCase&);
+  bool endsCall;     // nothing of the change is left to look at
+  const char* text;  // NAME is the bet's name, FLAT that of its flat bet
+};
+
+constexpr const char* kOddsText = "You may not make a NAME bet \runtil you've established a FLAT bet.";
+constexpr const char* kContractText =
+    "You may not decrease or remove a NAME bet \rwhile a point is established.";
+constexpr const char* kComeOutText =
+    "You may not make or increase a NAME bet unless the shooter is on a come-out roll.";
+constexpr const char* kHandText =
+    "You may not make or increase a NAME bet after the shooter has started a hand.";
+
+constexpr BetRule kRules[] = {
+    {kPassLine, kPassLine, true, PointAndUnder, false,
+     "You may not decrease or remove your Pass Line bet \rwhile a point is established."},
+    {kCome4, kCome4 + 5, true, UnderCommitted, false,
+     "You may not decrease or remove a Come bet \rwhich is established on a point."},
+    {kSevenPoint7, kSevenPoint7, true, PointAndUnder, false, kContractText},
+
+    {kPassLine, kPassLine, false, PutRefusedWithPoint, false,
+     "You may not make or increase a Pass Line bet \rwhile a point is established.\r\r(Unless you check "
+     "\"Allow Put Bets\" on the\rConfiguration screen.)"},
+    {kCome, kCome, false, NoPoint, true, "You may not make a Come bet \runtil a point is established."},
+    {kDontPass, kDontPass, false, PointAndOver, false,
+     "You may not make or increase a Don't Pass bet \rwhile a point is established."},
+    {kDontCome, kDontCome, false, NoPoint, false,
+     "You may not make a Don't Come bet \runtil a point is established."},
+    {kPassLineOdds, kPassLineOdds, false, NoPointOrFlat, false,
+     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
+     "established."},
+    {kDontPassOdds, kDontPassOdds, false, NoPointOrFlat, false,
+     "You may not make a Don't Pass Odds bet unless \ryou also have a Don't Pass bet and a point is "
+     "established."},
+    {kComeOdds4, kComeOdds4 + 5, false, NoFlatBet, false, kOddsText},
+    {kDontComeOdds4, kDontComeOdds4 + 5, false, NoFlatBet, false, kOddsText},
+    {kCome4, kCome4 + 5, false, DirectPutRefused, false,
+     "You may not make or increase a Come bet \rdirectly on a point number.\r\r(Unless you check \"Allow Put "
+     "Bets\" on the\rConfiguration screen.)"},
+    {kDontCome4, kDontCome4 + 5, false, DirectRefused, false,
+     "You may not make or increase a Don't Come bet \rdirectly on a point number."},
+    {kAllSmall, kAllSmall, false, SmallMarked, false,
+     "You may not make or increase an NAME bet \rwhile any small numbers are marked."},
+    {kAllTall, kAllTall, false, TallMarked, false,
+     "You may not make or increase an NAME bet \rwhile any tall numbers are marked."},
+    {kMakeAll, kMakeAll, false, AnyMarked, false,
+     "You may not make or increase a NAME bet \rwhile any numbers are marked."},
+    {kFourRolls, kFourRolls, false, CountRunning, false,
+     "You may not make or increase a NAME bet if the count is in progress."},
+    {kPoint7, kSevenPoint7, false, PointAndOver, false, kComeOutText},
+    {kSharpShooter, kRideTheLine, false, HandStarted, false, kHandText},
+    {kFire, kFire, false, HandStarted, false,
+     "You may not make or increase a Fire bet after the shooter has started a hand."},
+};
+
+// The rule of each bet for an increase (0) and a decrease (1), by its place in the table; -1 for none.
+constexpr auto kRuleOf = [] {
+  std::array<std::array<std::int8_t, 2>, kBets + 1> places{};
+  for (auto& place : places) place = {-1, -1};
+  std::int8_t at = 0;
+  for (const BetRule& rule : kRules) {
+    for (int bet = rule.first; bet <= rule.last; ++bet) places[bet][rule.decrease ? 1 : 0] = at;
+    ++at;
+  }
+  return places;
+}();
+
+std::string RuleText(const BetRule& rule, int bet) {
+  std::string text = rule.text;
+  const auto replace = [&text](const char* word, const std::string& name) {
+    if (const auto at = text.find(word); at != std::string::npos) text.replace(at, 4, name);
+  };
+  replace("NAME", BetName(bet));
+  replace("FLAT", BetName(FlatBetOf(bet)));
+  return text;
+}
+
+enum class Verdict { kAllowed, kRefused, kEnds };
+
+// Applies the bet's rule. A refused increase changes nothing, so no limit is looked at.
+Verdict ApplyRules(Game& game, int seat, int bet, Currency& change) {
+  const bool decrease = change < kZero;
+  const int place = kRuleOf[bet][decrease ? 1 : 0];
+  if (place < 0) return Verdict::kAllowed;
+  const BetRule& rule = kRules[place];
+  const Currency amount = game.table.BetAmount(seat, bet);
+  if (!rule.refuses({game, seat, bet, amount + change})) return Verdict::kAllowed;
+  // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
+  if (change != kZero && NotesShown(game, kNoteRefusals))
+    ShowNote(game, seat, bet, kNoteRefusals, RuleText(rule, bet));
+  change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
+  if (rule.endsCall || (decrease && change == kZero)) return Verdict::kEnds;
+  return decrease ? Verdict::kAllowed : Verdict::kRefused;
+}
+
+// --- Limits.
+
+bool IsContract(int bet) { return bet == kPassLine || IsComeNumber(bet); }
+
+// What a contract holds up now: no limit takes the bet below it.
+Currency ContractFloor(const Game& game, int seat, int bet) {
+  const bool held = IsComeNumber(bet) || ((bet == kPassLine || bet == kSevenPoint7) && game.table.Point != 0);
+  return held ? game.table.BetCommitted(seat, bet) : kZero;
+}
+
+void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease) {
+  const Currency amount = game.table.BetAmount(seat, bet);
+  const Currency minimum = MinBetFor(game, bet);
+  const Currency wanted = amount + change;
+  if (wanted >= minimum || wanted <= kZero) return;
+  if (decrease) {
+    change = -amount;
+    return;
+  }
+  change = minimum - amount;
+  ShowNote(game, seat, bet, kNoteRefusals, "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+}
+
+void ApplyMaximum(Game& game, int seat, int bet, Currency& change) {
+  const Currency amount = game.table.BetAmount(seat, bet);
+  const Currency maximum = MaxBetFor(game, seat, bet);
+  if (amount + change <= maximum) return;
+  const Currency committed = game.table.BetCommitted(seat, bet);
+  const bool keptByContract = IsContract(bet) && committed > maximum;
+  if (NotesShown(game, kNoteRefusals)) {
+    std::string text = "The maximum " + BetName(bet) + " bet is " + Dollars(maximum);
+    if (keptByContract)
+      text += "\r\rHowever, because the " + BetName(bet) + " is a contract bet and you established it at " +
+              Dollars(committed) +
+              " before you recently lowered the maximum allowed on the Configuration screen, it must remain "
+              "unchanged until it resolves.";
+    ShowNote(game, seat, bet, kNoteRefusals, text);
+  }
+  if (keptByContract) {
+    change = committed - amount;
+  } else if (change < kZero) {
+    change = maximum - amount;
+  } else {
+    change = std::max(maximum - amount, kZero);
+  }
+}
+
+// What the change adds to the money on the table, vig included.
+Currency TableCost(const Game& game, int seat, int bet, Currency change, Currency vigOnTable) {
+  if (!VigUpFront(game, bet)) return change;
+  return change + VigFor(game, bet, game.table.BetAmount(seat, bet) + change) - vigOnTable;
+}
+
+std::string BankrollText(const Game& game, int seat, int bet) {
+  BetSet others = game.table.SeatBets[seat];
+  others.Remove(bet);
+  return std::string(
+             "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options "
+             "are: "
+             "\r") +
+         (others.Empty() ? "" : "      - Bet less on other bets.\r") +
+         "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
+}
+
+// The furthest that a limit may lower the bet: all of it, or down to what its contract holds.
+Currency LowestChange(const Game& game, int seat, int bet) {
+  return std::min(ContractFloor(game, seat, bet) - game.table.BetAmount(seat, bet), kZero);
+}
+
+// Lowers the change, unit by unit, until the bankroll covers it or the bet can't go lower.
+void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
+  const TableState& table = game.table;
+  // A bet that moves to its number brings no new money to the table; odds that follow it do.
+  const bool moves = table.MovingComeBet && !IsOdds(bet);
+  if (table.AllowNegativeBankroll[seat] || moves) return;
+  const Currency amount = table.BetAmount(seat, bet);
+  const Currency vigOnTable = VigUpFront(game, bet) ? VigHeld(game, seat, bet) : kZero;
+  const Currency room = table.BankrollCurrent[seat] - table.OnTableAmount[seat];
+  if (TableCost(game, seat, bet, change, vigOnTable) <= room) return;
+  const Currency lowest = LowestChange(game, seat, bet);
+  if (change <= lowest) return;
+  // The cost rises with the change, so the first that fits is found by halving.
+  const std::int64_t unit = game.settings.Unit().raw;
+  std::int64_t low = 1;
+  std::int64_t high = std::max<std::int64_t>((change.raw + amount.raw + unit - 1) / unit, 1);
+  while (low < high) {
+    const std::int64_t steps = low + (high - low) / 2;
+    const Currency candidate = std::max(Currency::FromRaw(change.raw - steps * unit), lowest);
+    if (TableCost(game, seat, bet, candidate, vigOnTable) <= room)
+      high = steps;
+    else
+      low = steps + 1;
+  }
+  change = std::max(Currency::FromRaw(change.raw - low * unit), lowest);
+  const Currency minimum = MinBetFor(game, bet);
+  if (change > lowest && amount + change < minimum) {
+    change = lowest;
+    ShowNote(game, seat, bet, kNoteRefusals, "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+  }
+  if (NotesShown(game, kNoteBankroll))
+    ShowNote(game, seat, bet, kNoteBankroll, BankrollText(game, seat, bet));
+}
+
+Currency RoundChange(Currency change, Currency unit) {
+  if (change == kZero || IsMultiple(change, unit)) return change;
+  const std::int64_t rest = change.raw % unit.raw;
+  return change > kZero ? Currency::FromRaw(change.raw - rest) + unit
+                        : Currency::FromRaw(change.raw - rest) - unit;
+}
+
+void ApplyVig(Game& game, int seat, int bet) {
+  Currency& held = VigHeld(game, seat, bet);
+  const Currency vig = VigFor(game, bet, game.table.BetAmount(seat, bet));
+  if (vig == held) return;
+  if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] += vig - held;
+  held = vig;
+  if (!NotesShown(game, kNoteAdjusted) || vig == kZero) return;
+  ShowNote(
+      game, seat, bet, kNoteAdjusted,
+      (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
+}
+
+Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
+  const Currency value = game.table.BetAmount(seat, bet);
+  const Currency wanted = value + change;
+  Currency allowed = wanted;
+  if (wanted.IsError()) allowed = change < kZero ? -kStackLimit : kStackLimit;
+  allowed = std::clamp(allowed, -kStackLimit, kStackLimit);
+  if (allowed != wanted && NotesShown(game, kNoteRefusals)) {
+    const bool least = change < kZero;
+    ShowNote(game, seat, bet, kNoteRefusals,
+             std::string(least ? "The minimum" : "The maximum") + " CheckStack value is: $" +
+                 FormatMoney(least ? -kStackLimit : kStackLimit) + "\r\r" + BetName(bet) + "\r" +
+                 (allowed == value ? "which is already stacked." : "which is being stacked."));
+  }
+  SetBetAmount(game, seat, bet, allowed);
+  return allowed - value;
+}
+
+bool WorksByDefault(const TableState& table, int seat, int bet) {
+  return table.Point != 0 || table.BetDefaultWorking[seat].Has(bet);
+}
+
+// The families that the configuration can take off the table.
+constexpr BetSet kSwitchableBets =
+    BetRange(kBig6, kBig8) | kSpecialProps | BetRange(kMidway, kMidway) | BetRange(kFire, kFire);
+
+// Bets whose maximum is the table's.
+constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetRange(kCome4, kCome4 + 5) |
+                                     BetRange(kPlace4, kPlace4 + 5) | BetRange(kPassLine, kPassLine) |
+                                     BetRange(kCome, kDontPass) | BetRange(kDontCome, kBig8);
+
+bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
+  const Settings& settings = game.settings;
+  const bool surely = kTableMaximumBets.Has(bet) && amount.raw <= settings.MaxBet.raw - settings.Unit().raw;
+  return surely || amount <= MaxBetFor(game, seat, bet);
+}
+
+// Whether the bet, as it stands, is one that no rule would change: what handling asks of every bet that
+// stays up, on every roll.
+bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
+  const TableState& table = game.table;
+  return amount >= MinBetFor(game, bet) && table.handling[seat].ProperOddsMode == 0 &&
+         table.OnTableAmount[seat] <= table.BankrollCurrent[seat] && WithinMaximum(game, seat, bet, amount) &&
+         (!HasVig(bet) || VigHeld(game, seat, bet) == VigFor(game, bet, amount));
+}
+
+// Whether the change takes the bet off whole with nothing to stop or to charge it: no limit and no contract
+// has a say then but the bet's own rule.
+bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currency request) {
+  if (request != -amount || amount <= kZero || amount > kBankrollLimit || HasVig(bet)) return false;
+  const int place = kRuleOf[bet][1];
+  if (place >= 0 && kRules[place].refuses({game, seat, bet, kZero})) return false;
+  return game.table.OnTableAmount[seat] - amount <= game.table.BankrollCurrent[seat];
+}
+
+Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
+  TableState& table = game.table;
+  const Currency amount = table.BetAmount(seat, bet);
+  if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
+  if (ComesOffWhole(game, seat, bet, amount, request)) {
+    SetBetAmount(game, seat, bet, kZero);
+    return request;
+  }
+  // A request beyond any bankroll is as good as one for the whole of it.
+  Currency change = std::clamp(request.IsError() ? kZero : request, -kBankrollLimit, kBankrollLimit);
+  change = std::max(RoundChange(change, game.settings.Unit()), -amount);
+  const bool decrease = change < kZero;
+  const bool increase = change > kZero;
+  if (increase && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
+    ShowNote(game, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
+    return kZero;
+  }
+  const Verdict verdict = ApplyRules(game, seat, bet, change);
+  if (verdict == Verdict::kEnds || (verdict == Verdict::kRefused && increase)) return kZero;
+  if (verdict == Verdict::kAllowed) {
+    ApplyMinimum(game, seat, bet, change, decrease);
+    if (amount + change > kZero) {
+      ApplyMaximum(game, seat, bet, change);
+      if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
+    }
+    // No limit takes a contract bet below what has ridden.
+    if (change < kZero) change = std::max(change, LowestChange(game, seat, bet));
+  }
+  ApplyBankroll(game, seat, bet, change);
+  if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
+  if (HasVig(bet)) ApplyVig(game, seat, bet);
+  return change;
+}
+
+// --- Odds that follow their flat bet.
+
+struct OddsFollow {
+  int firstFlat;
+  int lastFlat;
+  int firstOdds;
+  bool Handling::*automatic;
+
+  int OddsOf(int flat) const { return firstOdds + flat - firstFlat; }
+};
+constexpr OddsFollow kOddsFollow[] = {
+    {kPassLine, kPassLine, kPassLineOdds, &Handling::AutoTakeOdds},
+    {kCome4, kCome4 + 5, kComeOdds4, &Handling::AutoTakeOdds},
+    {kDontCome4, kDontCome4 + 5, kDontComeOdds4, &Handling::AutoLayOdds},
+    {kDontPass, kDontPass, kDontPassOdds, &Handling::AutoLayOdds},
+};
+
+// What follows the flat bet now; null for nothing.
+const OddsFollow* FollowOf(const Game& game, int bet) {
+  for (const OddsFollow& follow : kOddsFollow) {
+    if (bet < follow.firstFlat || bet > follow.lastFlat) continue;
+    const bool onLine = bet == kPassLine || bet == kDontPass;
+    return onLine && game.table.Point == 0 ? nullptr : &follow;
+  }
+  return nullptr;
+}
+
+// Whether odds are up, or wanted, that a change of the bet could change.
+bool OddsFollowBet(const Game& game, int seat, int bet) {
+  const OddsFollow* follow = FollowOf(game, bet);
+  return follow != nullptr && (game.table.handling[seat].*follow->automatic ||
+                               game.table.BetAmount(seat, follow->OddsOf(bet)) > kZero);
+}
+
+}  // namespace
+
+void BringOddsIntoLine(Game& game, int seat, int bet) {
+  const OddsFollow* follow = FollowOf(game, bet);
+  if (follow == nullptr) return;
+  const int odds = follow->OddsOf(bet);
+  const Currency up = game.table.BetAmount(seat, odds);
+  if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
+  const bool automatic = game.table.handling[seat].*follow->automatic;
+  if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
+}
+
+bool BetOffered(const Settings& settings, int bet) {
+  if (bet == kBig6 || bet == kBig8) return settings.UseBig68;
+  if (IsSpecialProp(bet)) return settings.SmallTallEnabled;
+  if (bet == kMidway) return settings.UseMidway;
+  if (bet == kFire) return settings.UseFire;
+  return IsTableBet(bet);
+}
+
+void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
+  TableState& table = game.table;
+  Currency& cell = table.BetAmount(seat, bet);
+  if (cell == amount) return;
+  if (bet >= kFirstCheckStack) {
+    cell = amount;
+    table.StacksSinceBefore[seat].Add(bet - kFirstCheckStack);
+    table.StacksSinceAfter[seat].Add(bet - kFirstCheckStack);
+    table.SeatsSinceBefore |= 1u << seat;
+    table.SeatsSinceAfter |= 1u << seat;
+    return;
+  }
+  table.OnTableAmount[seat] += amount - cell;
+  // A new bet has the seat's present choice of what works on the come-out; a point sets all of them.
+  if (cell == kZero && table.Point == 0)
+    table.BetWorking[seat].byDefault.Set(bet, table.BetDefaultWorking[seat].Has(bet));
+  cell = amount;
+  TouchBefore(table, seat, bet);
+  table.TouchedSinceAfter[seat].Add(bet);
+  table.SeatsSinceAfter |= 1u << seat;
+  if (amount.raw > 0) {
+    table.SeatBets[seat].Add(bet);
+    table.SeatsUp[bet] |= kPayBit[seat];
+    table.AnyBets.Add(bet);
+  } else {
+    table.SeatBets[seat].Remove(bet);
+    table.SeatsUp[bet] &= static_cast<std::uint8_t>(~kPayBit[seat]);
+    if (table.SeatsUp[bet] == 0) table.AnyBets.Remove(bet);
+    ResetBetWorking(game, seat, bet);
+  }
+}
+
+bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
+  const TableState& table = game.table;
+  const Settings& settings = game.settings;
+  const Currency amount = table.BetAmount(seat, bet);
+  if (amount == kZero) return true;
+  // A check is heard outside a Turbo-Roll, and a bet that comes down forgets its calls.
+  const WorkingState& working = table.BetWorking[seat];
+  const bool unseen = table.TurboRollActive && !working.calledOn.Has(bet) && !working.calledOff.Has(bet) &&
+                      working.byDefault.Has(bet) == WorksByDefault(table, seat, bet);
+  if (!unseen || !IsMultiple(amount, settings.Unit()) || !StandsAsItIs(game, seat, bet, amount)) return false;
+  if (kSwitchableBets.Has(bet) && !BetOffered(settings, bet)) return false;
+  const int place = kRuleOf[bet][0];
+  return (place < 0 || !kRules[place].refuses({game, seat, bet, amount})) && !OddsFollowBet(game, seat, bet);
+}
+
+Currency ChangeBet(Game& game, int seat, int bet, Currency request) {
+  TableState& table = game.table;
+  table.BetRequest = request;
+  table.BetChange = kZero;
+  if (IsTableBet(bet))
+    table.BetChange = ChangeTableBet(game, seat, bet, request);
+  else if (IsCheckStack(bet))
+    table.BetChange = ChangeCheckStack(game, seat, bet, request);
+  return table.BetChange;
+}
+
+Currency PlaceBet(Game& game, int seat, int bet, Currency request) {
+  const Currency change = ChangeBet(game, seat, bet, request);
+  if (!game.table.TurboRollActive && change != kZero) {
+    if (!game.table.MovingComeBet) game.host->PlaySound(game, Sound::kCheck);
+    game.host->Changed(game, Change::kLayout);
+  }
+  if (change != kZero) BringOddsIntoLine(game, seat, bet);
+  game.table.BetChange = change;
+  RequireConsistency(game);
+  return change;
+}
+
+Currency RemoveBet(Game& game, int seat, int bet) {
+  return PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet));
+}
+
+void TakeFullOdds(Game& game, int seat, int bet) {
+  ++game.table.QuietChanges;
+  ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet));
+  ChangeBet(game, seat, bet, kBankrollLimit);
+  --game.table.QuietChanges;
+}
+
+void TakeAllFullOdds(Game& game, int seat, bool laySide) {
+  const int line = laySide ? kDontPass : kPassLine;
+  const int firstFlat = laySide ? kDontCome4 : kCome4;
+  const TableState& table = game.table;
+  if (table.Point != 0 && table.SeatBets[seat].Has(line)) TakeFullOdds(game, seat, line + 1);
+  for (int i = 0; i < 6; ++i)
+    if (table.SeatBets[seat].Has(firstFlat + i)) TakeFullOdds(game, seat, firstFlat + 6 + i);
+  RequireConsistency(game);
+}
+
+int BetWorkingOf(const Game& game, int seat, int bet) {
+  return WorkingValue(game.table.BetWorking[seat], bet);
+}
+
+void ResetBetWorking(Game& game, int seat, int bet) {
+  WorkingState& state = game.table.BetWorking[seat];
+  if (state.calledOn.Has(bet) || state.calledOff.Has(bet)) {
+    state.calledOn.Remove(bet);
+    state.calledOff.Remove(bet);
+    game.table.CallsTouched = true;
+  }
+  state.byDefault.Set(bet, WorksByDefault(game.table, seat, bet));
+}
+
+namespace {
+
+void Call(Game& game, int seat, int bet, bool on) {
+  WorkingState& state = game.table.BetWorking[seat];
+  BetSet& wanted = on ? state.calledOn : state.calledOff;
+  const BetSet& other = on ? state.calledOff : state.calledOn;
+  game.table.CallsTouched = true;
+  if (other.Has(bet))
+    ResetBetWorking(game, seat, bet);
+  else
+    wanted.Add(bet);
+}
+
+}  // namespace
+
+bool CallBet(Game& game, int seat, int bet, bool on) {
+  if (!IsTableBet(bet) || !FactsOf(bet).callable) {
+    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
+      ShowMessage(game, "Action not allowed", "You may not call the " + BetName(bet) + " bet ON or OFF.");
+    return false;
+  }
+  Call(game, seat, bet, on);
+  game.host->Changed(game, Change::kLayout);
+  RequireConsistency(game);
+  return true;
+}
+
+void CallAllBets(Game& game, int seat, bool on) {
+  (game.table.SeatBets[seat] & CallableBets()).ForEach([&](int bet) { Call(game, seat, bet, on); });
+  game.host->Changed(game, Change::kLayout);
+}
+
+void RemoveCall(Game& game, int seat, int bet) {
+  ResetBetWorking(game, seat, bet);
+  game.host->Changed(game, Change::kLayout);
+}
+
+bool BuyPlaceBet(Game& game, int seat, int bet) {
+  if (!IsPlace(bet)) {
+    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
+      ShowMessage(game, "Action not allowed", "You may only buy Place bets.");
+    return false;
+  }
+  const Currency amount = game.table.BetAmount(seat, bet);
+  if (amount == kZero) return true;
+  const int call = BetWorkingOf(game, seat, bet);
+  const int buy = bet + kBuy4 - kPlace4;
+  RemoveBet(game, seat, bet);
+  PlaceBet(game, seat, buy, amount);
+  const bool called = call == 2 || call == -1;
+  if (called && game.table.SeatBets[seat].Has(buy)) {
+    WorkingState& state = game.table.BetWorking[seat];
+    state.calledOn.Set(buy, call == 2);
+    state.calledOff.Set(buy, call == -1);
+    game.table.CallsTouched = true;
+  }
+  RequireConsistency(game);
+  return true;
+}
+
+void TakeDownBets(Game& game, int seat, const BetSet& bets) {
+  (game.table.SeatBets[seat] & bets).ForEach([&](int bet) {
+    SetBetAmount(game, seat, bet, kZero);
+    game.table.BetCommitted(seat, bet) = kZero;
+    if (HasVig(bet)) {
+      Currency& held = VigHeld(game, seat, bet);
+      if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] -= held;
+      held = kZero;
+    }
+  });
+  game.host->Changed(game, Change::kLayout);
+}
+
+void RecomputeVig(Game& game) {
+  constexpr BetSet kVigBets = BetRange(kLay4, kLay4 + 5) | BetRange(kBuy4, kBuy4 + 5);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    (game.table.SeatBets[seat] & kVigBets).ForEach([&](int bet) {
+      VigHeld(game, seat, bet) = VigFor(game, bet, game.table.BetAmount(seat, bet));
+    });
+    // With what is charged up front changed too, the sum is made anew.
+    Currency onTable;
+    game.table.SeatBets[seat].ForEach([&](int bet) {
+      onTable += game.table.BetAmount(seat, bet);
+      if (VigUpFront(game, bet)) onTable += VigHeld(game, seat, bet);
+    });
+    game.table.OnTableAmount[seat] = onTable;
+  }
+}
+
+}  // namespace tessaryn

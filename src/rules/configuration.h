@@ -1,0 +1,16 @@
+// The rules that the settings must keep among themselves.
+#pragma once
+
+#include "rules/payoffs.h"
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// The leaving check of the configuration: check values, limits, payoffs, Fire bet, in that order.
+ConfigurationProblem CheckConfiguration(const Game& game);
+// The original checks.
+void RestoreDefaultDenominations(Game& game);
+
+}  // namespace tessaryn

@@ -1,0 +1,44 @@
+// What becomes of a bet that was decided: the stored choices of each seat, or the settlement dialog.
+#pragma once
+
+#include "state/host.h"
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// The choices of WinHandling and LoseHandling.
+enum WinChoice : int {
+  kWinManual,
+  kWinTakeDown,
+  kWinSame,
+  kWinPressUnit,
+  kWinPressDouble,
+  kWinParlay,
+  kWinAdjusted,
+  kWinFixed
+};
+enum LoseChoice : int {
+  kLoseManual,
+  kLoseTakeDown,
+  kLoseSame,
+  kLoseRemainder,
+  kLosePlusUnit,
+  kLoseDouble,
+  kLoseAdjusted,
+  kLoseFixed
+};
+// The captions of the choices 0 to 7 on the Auto-Play screen.
+extern const char* const kWinChoiceCaptions[8];
+extern const char* const kLoseChoiceCaptions[8];
+
+// The bet that SettleBet has just paid or taken: closes its vig and carries out the seat's choice.
+void HandleWin(Game& game, int seat, int bet);
+void HandleLoss(Game& game, int seat, int bet);
+// Odds that weren't working as their flat bet was decided.
+void HandleOffOdds(Game& game, int seat, int bet);
+// PressUnit of the bet.
+void ComputePressOptions(Game& game, int seat, int bet);
+
+}  // namespace tessaryn

@@ -1,0 +1,362 @@
+#include "rules/payoffs.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cstring>
+#include <iterator>
+#include <numeric>
+
+namespace tessaryn {
+namespace {
+
+constexpr Currency kTo = Currency::FromRaw(-Currency::kPerDollar);
+constexpr Currency kFor = kZero;
+
+PayoffRecord Ratio(std::int64_t payTo, std::int64_t payPer, Currency word = kTo) {
+  return {kZero, Currency::Dollars(payTo), word, Currency::Dollars(payPer)};
+}
+
+// Rows first to last pay payTo to payPer.
+struct RatioRows {
+  int first;
+  int last;
+  int payTo;
+  int payPer;
+  bool readsFor = false;
+};
+
+constexpr RatioRows kDefaults[] = {
+    {1, 93, 1, 1},
+    // Lay, Don't Come Odds: 4 to 10
+    {1, 1, 1, 2},
+    {2, 2, 2, 3},
+    {3, 4, 5, 6},
+    {5, 5, 2, 3},
+    {6, 6, 1, 2},
+    {13, 13, 1, 2},
+    {14, 14, 2, 3},
+    {15, 16, 5, 6},
+    {17, 17, 2, 3},
+    {18, 18, 1, 2},
+    // Come Odds, Place, Buy
+    {25, 25, 2, 1},
+    {26, 26, 3, 2},
+    {27, 28, 6, 5},
+    {29, 29, 3, 2},
+    {30, 30, 2, 1},
+    {31, 31, 9, 5},
+    {32, 32, 7, 5},
+    {33, 34, 7, 6},
+    {35, 35, 7, 5},
+    {36, 36, 9, 5},
+    {37, 37, 2, 1},
+    {38, 38, 3, 2},
+    {39, 40, 6, 5},
+    {41, 41, 3, 2},
+    {42, 42, 2, 1},
+    // Hardways and the one-roll propositions
+    {52, 52, 7, 1},
+    {53, 54, 9, 1},
+    {55, 55, 7, 1},
+    {56, 56, 30, 1},
+    {57, 57, 15, 1},
+    {58, 58, 4, 1},
+    {59, 59, 15, 1},
+    {60, 60, 30, 1},
+    {61, 61, 7, 1},
+    {62, 62, 1, 2},
+    {63, 63, 1, 4},
+    {64, 64, 1, 5},
+    {67, 83, 15, 1},
+    {71, 71, 30, 1},
+    {76, 76, 30, 1},
+    {80, 80, 30, 1},
+    {83, 83, 30, 1},
+    // Specials
+    {84, 85, 34, 1},
+    {86, 86, 175, 1},
+    {88, 88, 7, 1},
+};
+
+constexpr int kSharpShooterRow[kSharpShooterRows] = {-1, -1, -1, 5, 9, 19, 29, 49, 99, 199, 299};
+constexpr int kRideTheLineRow[kRideTheLineRows] = {-1, -1, -1, 1, 2, 3, 6, 10, 20, 30, 40, 100};
+constexpr int kFireRow[kFireRows + 1] = {-1, -1, -1, -1, 24, 249, 999};
+constexpr int kMidwayDefault[kMidwayRows] = {2, 1, 1, 1, 2};
+
+// The rows of each preset, in order; a later line overrides an earlier one.
+constexpr RatioRows kPresetRows[kFieldPresets][8] = {
+    {{1, 21, 1, 1}, {5, 15, -1, 1}, {1, 1, 2, 1}, {21, 21, 2, 1}},
+    {{1, 21, -1, 1},
+     {3, 4, -1, 3},
+     {5, 6, -1, 5},
+     {7, 15, -1, 11},
+     {10, 12, 1, 1},
+     {16, 17, -1, 5},
+     {18, 19, -1, 3},
+     {20, 20, 1, 1}},
+    {{1, 2, 1, 1},
+     {3, 4, 1, 3},
+     {5, 6, 1, 5},
+     {7, 15, 1, 11},
+     {10, 12, -1, 1},
+     {16, 17, 1, 5},
+     {18, 19, 1, 3},
+     {20, 21, -1, 1}},
+    {{1, 21, -5, 7}, {2, 20, -1, 2}, {3, 19, -1, 3}, {5, 17, -1, 5}, {7, 15, -1, 11}, {10, 12, 1, 1}},
+    {{1, 21, 0, 1}, {7, 9, 7, 6}, {10, 12, -1, 1}},
+    {{1, 21, 0, 1}, {10, 12, 4, 5}, {13, 15, -5, 5}},
+    {{1, 21, 0, 1}, {10, 12, -1, 1}, {18, 19, 39, 21}},
+    {{1, 21, 0, 1}, {3, 4, -1, 1}, {10, 12, 19, 40}},
+    {{1, 21, 0, 1}, {10, 14, -1, 1}, {15, 15, 9, 1}},
+    {{1, 21, -1, 1}, {1, 1, 27, 4, true}, {21, 21, 27, 4, true}, {2, 2, 12, 4, true}, {20, 20, 12, 4, true}},
+    {{1, 21, -1, 1},
+     {1, 1, 26, 5, true},
+     {21, 21, 26, 5, true},
+     {2, 2, 11, 5, true},
+     {20, 20, 11, 5, true},
+     {10, 12, 0, 5, true}},
+    {{1, 21, -1, 1}, {3, 3, 15, 1}},
+    {{1, 21, -1, 1}, {7, 8, 1, 1}, {9, 9, 2, 1}, {10, 14, 1, 1}, {15, 15, 2, 1}},
+};
+
+constexpr FieldPreset kPresets[kFieldPresets] = {
+    {"mnuSFField", "&Field w/ 2x on Two and Twelve"},
+    {"mnuSFPass", "&Pass Line"},
+    {"mnuSFDontPass", "&Don't Pass (bar 12)"},
+    {"mnuSFCrapless", "&Crapless Craps Pass Line"},
+    {"mnuSFPlace6", "Place &6"},
+    {"mnuSFPlaceLose8", "Place to &Lose 8"},
+    {"mnuSFBuy10", "Buy &10 (5 % vig)"},
+    {"mnuSFLay4", "Lay &4 (5% vig on win only)"},
+    {"mnuSFHard8", "H&ard 8"},
+    {"mnuSFHorn", "&Horn"},
+    {"mnuSFWorld", "&World"},
+    {"mnuSFHop13", "H&op 13"},
+    {"mnuSFMidway", "&Midway"},
+};
+constexpr int kDontPassPreset = 2;
+constexpr const char* kPresetPrefix = "mnuSF";
+
+constexpr const char* kFieldCaptions[kFieldRows + 1] = {"",
+                                                        "2     (1.1)",
+                                                        "3     (1.2) (2.1)",
+                                                        "4     (1.3) (3.1)",
+                                                        "4     (2.2)",
+                                                        "5     (1.4) (4.1)",
+                                                        "5     (2.3) (3.2)",
+                                                        "6     (1.5) (5.1)",
+                                                        "6     (2.4) (4.2)",
+                                                        "6     (3.3)",
+                                                        "7     (1.6) (6.1)",
+                                                        "7     (2.5) (5.2)",
+                                                        "7     (3.4) (4.3)",
+                                                        "8     (2.6) (6.2)",
+                                                        "8     (3.5) (5.3)",
+                                                        "8     (4.4)",
+                                                        "9     (3.6) (6.3)",
+                                                        "9     (4.5) (5.4)",
+                                                        "10   (4.6) (6.4)",
+                                                        "10   (5.5)",
+                                                        "11   (5.6) (6.5)",
+                                                        "12   (6.6)"};
+
+// By the smaller face, then the greater.
+constexpr int kFieldRowOf[7][7] = {{},
+                                   {0, 1, 2, 3, 5, 7, 10},
+                                   {0, 0, 4, 6, 8, 11, 13},
+                                   {0, 0, 0, 9, 12, 14, 16},
+                                   {0, 0, 0, 0, 15, 17, 18},
+                                   {0, 0, 0, 0, 0, 19, 20},
+                                   {0, 0, 0, 0, 0, 0, 21}};
+
+constexpr PayoffTableInfo kTables[kPayoffTables] = {
+    {"PayoffTable", 1, kBets},
+    {"FieldPayoffs", 1, kFieldRows},
+    {"SevenPointSevenPayoffs", 1, kSevenPointSevenRows},
+    {"MidwayPayoffs", 1, kMidwayRows},
+    {"SharpShooterPayoffs", 1, kSharpShooterRows},
+    {"RideTheLinePayoffs", 1, kRideTheLineRows},
+    {"FirePayoffs", 0, kFireRows},
+};
+
+void SetRows(PayoffRecord* table, const RatioRows& rows) {
+  for (int row = rows.first; row <= rows.last; ++row)
+    table[row] = Ratio(rows.payTo, rows.payPer, rows.readsFor ? kFor : kTo);
+}
+
+Currency BetUnitOf(const PayoffRecord& record, Currency unit) {
+  if (record.PayTo.raw == 0 || record.PayPer.raw <= 0) return unit;
+  const std::int64_t shared = std::gcd(record.PayTo.raw, record.PayPer.raw);
+  std::int64_t size = 0;
+  if (__builtin_mul_overflow(unit.raw, record.PayPer.raw / shared, &size)) return unit;
+  return Currency::FromRaw(size);
+}
+
+bool LosesMoreThanBet(const PayoffRecord& record) { return record.PayTo < -record.PayPer; }
+
+// The rules of a table whose rows may lose.
+ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const std::string& name,
+                                    const char* title, const char* positive) {
+  for (int row = 1; row <= count; ++row)
+    if (LosesMoreThanBet(rows[row]))
+      return {title, "The loss on any " + name + " bet payoff cannot exceed the amount wagered."};
+  const bool anyWin = std::any_of(rows + 1, rows + count + 1,
+                                  [](const PayoffRecord& record) { return record.PayTo > kZero; });
+  if (!anyWin) return {title, "At least one of the " + name + " bet payoffs must be " + positive + "."};
+  return {};
+}
+
+struct LineRow {
+  int bet;
+  const char* name;
+};
+constexpr LineRow kLineRows[] = {{45, "Passline/Come (c.o.)"},
+                                 {19, "Pass/Come 4"},
+                                 {20, "Pass/Come 5"},
+                                 {21, "Pass/Come 6"},
+                                 {22, "Pass/Come 8"},
+                                 {23, "Pass/Come 9"},
+                                 {24, "Pass/Come 10"},
+                                 {48, "Don't Pass/Come (c.o.)"},
+                                 {7, "DP/DC 4"},
+                                 {8, "DP/DC 5"},
+                                 {9, "DP/DC 6"},
+                                 {10, "DP/DC 8"},
+                                 {11, "DP/DC 9"},
+                                 {12, "DP/DC 10"}};
+
+bool AllPositive(const PayoffRecord* rows, int count) {
+  return std::all_of(rows + 1, rows + count + 1,
+                     [](const PayoffRecord& record) { return record.PayTo > kZero; });
+}
+
+}  // namespace
+
+const PayoffTableInfo& PayoffTableFacts(int table) { return kTables[table]; }
+
+PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row) {
+  PayoffRecord* const tables[kPayoffTables] = {
+      payoffs.PayoffTable,   payoffs.FieldPayoffs,        payoffs.SevenPointSevenPayoffs,
+      payoffs.MidwayPayoffs, payoffs.SharpShooterPayoffs, payoffs.RideTheLinePayoffs,
+      payoffs.FirePayoffs};
+  return tables[table][row];
+}
+
+void ResetPayoffs(PayoffTables& payoffs, Currency unit) {
+  for (PayoffRecord& record : payoffs.PayoffTable) record = Ratio(1, 1);
+  for (const RatioRows& rows : kDefaults) SetRows(payoffs.PayoffTable, rows);
+  payoffs.SevenPointSevenPayoffs[1] = Ratio(2, 1);
+  payoffs.SevenPointSevenPayoffs[2] = Ratio(3, 1);
+  for (int row = 1; row <= kMidwayRows; ++row) payoffs.MidwayPayoffs[row] = Ratio(kMidwayDefault[row - 1], 1);
+  for (int row = 1; row <= kSharpShooterRows; ++row)
+    payoffs.SharpShooterPayoffs[row] = Ratio(kSharpShooterRow[row - 1], 1);
+  for (int row = 1; row <= kRideTheLineRows; ++row)
+    payoffs.RideTheLinePayoffs[row] = Ratio(kRideTheLineRow[row - 1], 1);
+  for (int row = 0; row <= kFireRows; ++row) payoffs.FirePayoffs[row] = Ratio(kFireRow[row], 1);
+  for (int table : {2, 3, 4, 5}) PayoffRow(payoffs, table, 0) = Ratio(1, 1);
+  payoffs.FieldPayoffs[0] = Ratio(1, 1);
+  SetFieldPreset(payoffs, 0, unit);
+}
+
+void RebuildBetUnits(PayoffTables& payoffs, Currency unit) {
+  for (PayoffRecord& record : payoffs.PayoffTable) record.BetUnit = BetUnitOf(record, unit);
+  for (int table = 1; table < kPayoffTables; ++table)
+    for (int row = 0; row <= kTables[table].lastRow; ++row) {
+      PayoffRecord& record = PayoffRow(payoffs, table, row);
+      record.BetUnit = BetUnitOf(record, unit);
+    }
+}
+
+const FieldPreset& FieldPresetFacts(int id) { return kPresets[id]; }
+
+void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit) {
+  for (const RatioRows& rows : kPresetRows[id])
+    if (rows.first > 0) SetRows(payoffs.FieldPayoffs, rows);
+  if (id == kDontPassPreset) payoffs.FieldPayoffs[kFieldRows] = Ratio(0, 1);  // the barred twelve
+  RebuildBetUnits(payoffs, unit);
+}
+
+int FieldPresetByName(std::string_view name) {
+  const auto same = [](char a, char b) {
+    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
+  };
+  for (int id = 0; id < kFieldPresets; ++id) {
+    const std::string_view control = kPresets[id].control;
+    for (const std::string_view form : {control, control.substr(std::strlen(kPresetPrefix))})
+      if (std::equal(form.begin(), form.end(), name.begin(), name.end(), same)) return id;
+  }
+  return -1;
+}
+
+std::string FieldPresetNames() {
+  std::string names;
+  for (const FieldPreset& preset : kPresets)
+    names.append(names.empty() ? "" : ", ").append(preset.control + std::strlen(kPresetPrefix));
+  return names;
+}
+
+const char* FieldRowCaption(int row) { return kFieldCaptions[row]; }
+
+int FieldRow(int die1, int die2) { return kFieldRowOf[std::min(die1, die2)][std::max(die1, die2)]; }
+
+int MidwayRow(int die1, int die2) {
+  switch (die1 + die2) {
+    case 6:
+      return die1 == 3 ? 1 : 2;
+    case 7:
+      return 3;
+    case 8:
+      return die1 == 4 ? 5 : 4;
+    default:
+      return 0;
+  }
+}
+
+ConfigurationProblem CheckPayoffs(const PayoffTables& payoffs, const OfferedFamilies& offered) {
+  constexpr const char* kTitle = "Payoff ratio error";
+  for (const LineRow& line : kLineRows)
+    if (payoffs.PayoffTable[line.bet].PayTo <= kZero)
+      return {kTitle, std::string("The payoff on ") + line.name + " must be a positive amount."};
+  if (offered.smallTall && !AllPositive(payoffs.SevenPointSevenPayoffs, kSevenPointSevenRows))
+    return {kTitle, "The payoffs on SevenPoint7 must be positive amounts."};
+  if (offered.midway && !AllPositive(payoffs.MidwayPayoffs, kMidwayRows))
+    return {kTitle, "The payoffs on Midway must be positive amounts."};
+  ConfigurationProblem problem =
+      CheckHandTable(payoffs.SharpShooterPayoffs, kSharpShooterRows, "Sharpshooter", kTitle, "positive");
+  if (problem.Found()) return problem;
+  problem = CheckHandTable(payoffs.RideTheLinePayoffs, kRideTheLineRows, "Ride The Line", kTitle, "positive");
+  if (problem.Found()) return problem;
+  if (offered.fire) {
+    problem = CheckHandTable(payoffs.FirePayoffs, kFireRows, "Fire", kTitle, "positive");
+    if (problem.Found()) return problem;
+    if (LosesMoreThanBet(payoffs.FirePayoffs[0]))
+      return {kTitle, "The loss on any Fire bet payoff cannot exceed the amount wagered."};
+  }
+  // Misspelled since the first table; people know the text.
+  return CheckHandTable(payoffs.FieldPayoffs, kFieldRows, "Field", "Payoff error", "postiive");
+}
+
+std::string PayoffText(const PayoffRecord& record) {
+  return PlainMoney(record.PayTo) + (record.ForFlag.raw != 0 ? " to " : " for ") + PlainMoney(record.PayPer);
+}
+
+bool ParsePayoff(std::string_view text, PayoffRecord& record) {
+  std::string lower;
+  for (const char c : text) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (const std::string_view word : {" to ", " for ", ":", "/"}) {
+    const auto at = lower.find(word);
+    if (at == std::string::npos) continue;
+    Currency payTo;
+    Currency payPer;
+    if (!TryParseMoney(lower.substr(0, at), payTo) ||
+        !TryParseMoney(lower.substr(at + word.size()), payPer) || payPer <= kZero)
+      return false;
+    record.PayTo = payTo;
+    record.PayPer = payPer;
+    record.ForFlag = word == " for " ? kFor : kTo;
+    return true;
+  }
+  return false;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,98 @@
+// Payoff records and the tables of them: what every bet pays.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+// An amount is paid amount * PayTo / PayPer. A negative PayTo is a loss, 0 a push.
+struct PayoffRecord {
+  Currency BetUnit;  // the size in which the bet is paid whole; written by RebuildBetUnits alone
+  Currency PayTo;
+  Currency ForFlag;  // -1 reads "to", 0 reads "for"; the arithmetic is the same
+  Currency PayPer;   // above 0
+
+  friend bool operator==(const PayoffRecord&, const PayoffRecord&) = default;
+};
+
+inline constexpr int kFieldRows = 21;
+inline constexpr int kSevenPointSevenRows = 2;
+inline constexpr int kMidwayRows = 5;
+inline constexpr int kSharpShooterRows = 11;
+inline constexpr int kRideTheLineRows = 12;
+inline constexpr int kFireRows = 6;
+
+// Row 0 of PayoffTable is the working copy of the settlement in progress; row 0 of the others is unused but
+// for the Fire bet, where it is the hand without a point.
+struct PayoffTables {
+  PayoffRecord PayoffTable[101];
+  PayoffRecord FieldPayoffs[kFieldRows + 1];
+  PayoffRecord SevenPointSevenPayoffs[kSevenPointSevenRows + 1];
+  PayoffRecord MidwayPayoffs[kMidwayRows + 1];
+  PayoffRecord SharpShooterPayoffs[kSharpShooterRows + 1];
+  PayoffRecord RideTheLinePayoffs[kRideTheLineRows + 1];
+  PayoffRecord FirePayoffs[kFireRows + 1];
+};
+
+struct PayoffTableInfo {
+  const char* name;  // as settings name it
+  int firstRow;
+  int lastRow;
+};
+
+// The tables by index 0 to 6: PayoffTable, FieldPayoffs, SevenPointSevenPayoffs, MidwayPayoffs,
+// SharpShooterPayoffs, RideTheLinePayoffs, FirePayoffs.
+inline constexpr int kPayoffTables = 7;
+const PayoffTableInfo& PayoffTableFacts(int table);
+// Row of a table. Requires 0 <= row <= its last.
+PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row);
+
+// The house's original payoffs, BetUnit included.
+void ResetPayoffs(PayoffTables& payoffs, Currency unit);
+// BetUnit of every record from its ratio and the betting unit (element 1 of CheckValue).
+void RebuildBetUnits(PayoffTables& payoffs, Currency unit);
+
+// Presets of the Field. Each rewrites all 21 rows.
+struct FieldPreset {
+  const char* control;  // "mnuSFField" ...
+  const char* caption;  // "&Field w/ 2x on Two and Twelve" ...
+};
+inline constexpr int kFieldPresets = 13;
+const FieldPreset& FieldPresetFacts(int id);
+// Requires 0 <= id < kFieldPresets.
+void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit);
+// By its control's name, case ignored; -1 for none.
+int FieldPresetByName(std::string_view name);
+// All names without what they begin with alike: "Field, Pass, ...".
+std::string FieldPresetNames();
+// The caption of Field row 1 to 21: "2     (1.1)" ...
+const char* FieldRowCaption(int row);
+// The Field row of two dice.
+int FieldRow(int die1, int die2);
+// The Midway row of two dice; 0 when the total is not 6, 7 or 8.
+int MidwayRow(int die1, int die2);
+
+// Which families the table offers, for the checks that ask.
+struct OfferedFamilies {
+  bool smallTall = true;
+  bool midway = true;
+  bool fire = true;
+};
+struct ConfigurationProblem {
+  std::string title;
+  std::string text;
+  bool Found() const { return !text.empty(); }
+};
+// The rules that keep the tables valid, in their order; the first that fails.
+ConfigurationProblem CheckPayoffs(const PayoffTables& payoffs, const OfferedFamilies& offered);
+
+// "7 to 5", "27 for 4".
+std::string PayoffText(const PayoffRecord& record);
+// Reads "7 to 5", "27 for 4", "7:5" or "7/5". False, and the record unchanged, for anything else and for a
+// PayPer that is not above 0.
+bool ParsePayoff(std::string_view text, PayoffRecord& record);
+
+}  // namespace tessaryn

@@ -1,0 +1,160 @@
+#include "rules/session.h"
+
+#include <algorithm>
+#include <cctype>
+#include <filesystem>
+
+#include "rules/seed_rng.h"
+#include "rules/bet_limits.h"
+#include "rules/bet_rules.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+#include "play/players.h"
+
+namespace tessaryn {
+namespace {
+
+std::string Lower(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+// A contract bet that the session leaves behind is the house's: what has ridden. What was added since is no
+// contract yet and goes back with the other bets.
+void Abandon(Game& game, int seat, int bet) {
+  TableState& table = game.table;
+  const Currency ridden = std::min(table.BetAmount(seat, bet), table.BetCommitted(seat, bet));
+  if (ridden == kZero) return;
+  table.BankrollCurrent[seat] -= ridden;
+  SetBetAmount(game, seat, bet, table.BetAmount(seat, bet) - ridden);
+}
+
+void AbandonContracts(Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (game.table.Point != 0)
+      for (const int bet : {static_cast<int>(kPassLine), static_cast<int>(kSevenPoint7)})
+        Abandon(game, seat, bet);
+    for (int bet = kCome4; bet < kCome4 + 6; ++bet) Abandon(game, seat, bet);
+  }
+}
+
+void StartSessionsLogs(Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!IsOccupied(game.table, seat)) continue;
+    std::string& name = game.table.SessionsLogName[seat];
+    name = game.dataFolder + Lower(game.table.SeatName[seat]) + ".slg";
+    std::error_code ignored;
+    std::filesystem::remove(name, ignored);
+  }
+}
+
+void ClearBets(Game& game, bool keepCheckstacks) {
+  TableState& table = game.table;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    TakeDownBets(game, seat, kAllTableBets);
+    if (!keepCheckstacks) {
+      for (int stack = 0; stack < kCheckStacks; ++stack) {
+        SetBetAmount(game, seat, kFirstCheckStack + stack, kZero);
+        table.CheckStackName[seat][stack].clear();
+      }
+    }
+    for (int bet = 1; bet < kBetRows; ++bet)
+      table.BetBeforeRoll(seat, bet) = table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
+    for (int bet = 1; bet <= 100; ++bet) {
+      if (bet < 100) table.BetCommitted(seat, bet) = kZero;
+      table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
+    }
+    table.TouchedSinceBefore[seat] = table.TouchedSinceAfter[seat] = {};
+    table.StacksSinceBefore[seat] = table.StacksSinceAfter[seat] = {};
+    for (Currency& travelled : table.ComeTravelAmount[seat]) travelled = kZero;
+  }
+}
+
+Currency AskBankroll(Game& game, int seat) {
+  const std::string question = "Enter " + game.table.SeatName[seat] + "'s beginning bankroll:";
+  Currency& stored = game.table.BankrollInitAmount[seat];
+  game.box.MsgValue1 = stored;
+  if (ShowMessage(game, "Beginning Bankroll", question, kMsgOk | kMsgInput | kMsgQuestion) == kResultOk)
+    stored = std::clamp(game.box.MsgValue1, -kBankrollLimit, kBankrollLimit);
+  return stored;
+}
+
+// The session starts with the amount; what all sessions have seen of the bankroll stays if they stay.
+void StartSeat(Game& game, int seat, Currency amount, bool keepPrevSessions) {
+  Statistics& stats = game.stats;
+  const int all = Slot(kAllSessions, seat);
+  const Currency beginning = stats.BankrollBeginning[all];
+  const Currency high = std::max(stats.BankrollHigh[all], amount);
+  const Currency low = std::min(stats.BankrollLow[all], amount);
+  StartBankroll(game, seat, amount);
+  if (!keepPrevSessions) return;
+  stats.BankrollBeginning[all] = beginning;
+  stats.BankrollHigh[all] = high;
+  stats.BankrollLow[all] = low;
+}
+
+void StartBankrolls(Game& game, bool keepPrevSessions) {
+  TableState& table = game.table;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!IsOccupied(table, seat)) continue;
+    Currency amount = table.BankrollCurrent[seat];
+    if (table.BankrollInitType[seat] == 1) amount = table.BankrollInitAmount[seat];
+    if (table.BankrollInitType[seat] == 2) amount = AskBankroll(game, seat);
+    StartSeat(game, seat, amount, keepPrevSessions);
+    table.AtmLogged[seat] = game.stats.AtmTotal[Slot(kAllSessions, seat)];
+    table.RailAmount[seat] = amount;
+  }
+}
+
+void ResetTable(TableState& table) {
+  table.Point = table.PointBeforeRoll = table.PointTwoRollsAgo = table.LastPoint = 0;
+  table.NumberMarks = 0;
+  table.FourRollCount = 0;
+  table.FireMarks = 0;
+  table.FireCount = table.SharpShooterCount = table.RideTheLineCount = 0;
+  table.ManualRollPending = false;
+  table.PreviousHandSeat = 0;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    table.BetWorking[seat] = {};
+    table.BetWorking[seat].byDefault = table.BetDefaultWorking[seat];
+    table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
+  }
+  table.CallsTouched = false;
+  table.StopReason.clear();
+}
+
+void SetRollFile(Game& game, int choice) {
+  RollFile& file = game.rollFile;
+  std::string problem;
+  if (choice == kCloseRollFile && IsRollFileOpen(file)) problem = CloseRollFile(file);
+  if (choice == kRewindRollFile && IsRollFileOpen(file)) problem = RewindForPlayback(file);
+  if (!problem.empty()) ShowMessage(game, kRewindTitle, problem);
+}
+
+}  // namespace
+
+void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool keepSessionsLogs,
+                int rollFileChoice) {
+  if (!game.settings.ReturnAbandonedBets) AbandonContracts(game);
+  if (!keepSessionsLogs) StartSessionsLogs(game);
+  StartSessionStatistics(game);
+  if (!keepPrevSessions) ClearPreviousSessions(game);
+  ClearBets(game, keepCheckstacks);
+  ClearBankrollGraph(game);
+  ResetTable(game.table);
+  StartBankrolls(game, keepPrevSessions);
+  BankrollPlotChanged(game);
+  ResetBankrollGraph(game, true);
+  game.table.HandSeat = game.table.ShooterSeat;
+  SetRollFile(game, rollFileChoice);
+  // A new log holds the seed too, which stands before the heading.
+  if (game.events.RecordEventsActive && game.events.ClearLogOnNewSession) ClearEventsLog(game);
+  if (game.generators.RngReseedNewSessions) SeedRng(game, false);
+  LogSessionStart(game);
+  game.autobet.SessionAhead = kEverySeat;
+  game.autobet.RollFileEndReached = false;
+  game.host->Changed(game, Change::kEverything);
+  RequireConsistency(game);
+}
+
+}  // namespace tessaryn

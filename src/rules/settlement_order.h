@@ -1,0 +1,63 @@
+// The fixed order in which a roll decides the bets, as data. It is the order in which a dealer takes and
+// pays: all losers, then all winners. Each step is one pass over the seats.
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+// On which rolls of its total a step stands.
+enum class StepWhen : std::uint8_t {
+  kAlways,
+  kComeOut,
+  kPointOn,
+  kPair,
+  kNoPair,
+  kFace1,
+  kFace2,
+  kFace3,
+  kNotFace1,
+  kNotFace3,
+  kBar12,
+  kBar12ComeOut,
+  kBar2,
+  kBar2ComeOut,
+};
+
+struct SettleStep {
+  std::uint8_t bet;
+  std::int8_t code;  // of the bet; its odds take -2 or 2
+  StepWhen when = StepWhen::kAlways;
+  std::uint8_t oddsBet = 0;  // settled seat by seat right behind the bet
+};
+
+// Steps and the bets in them, so that a list without a bet that is up costs one test.
+struct SettleSteps {
+  std::span<const SettleStep> steps;
+  BetSet bets;
+
+  constexpr SettleSteps() = default;
+  constexpr SettleSteps(std::span<const SettleStep> list) : steps(list) {  // NOLINT: a list is its steps
+    for (const SettleStep& step : list) {
+      bets.Add(step.bet);
+      if (step.oddsBet != 0) bets.Add(step.oddsBet);
+    }
+  }
+};
+
+// Don't Pass as the point is made; Pass Line as the point is made.
+extern const SettleSteps kPointMadeLosers;
+extern const SettleSteps kPointMadeWinners;
+// By total 2 to 12.
+extern const SettleSteps kLosersByTotal[13];
+extern const SettleSteps kWinnersByTotal[13];
+// The Field, whose table tells a win from a loss, the one-roll propositions that lose on the total, and
+// Over and Under, which are decided here either way.
+extern const SettleSteps kOneRollSteps[13];
+// By pair of faces (PairIndex): every hop bet but the one rolled.
+extern const SettleSteps kHopLosers[36];
+
+}  // namespace tessaryn

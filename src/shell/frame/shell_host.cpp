@@ -1,0 +1,96 @@
+#include "shell/frame/shell_host.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QLocale>
+#include <QTimer>
+
+#include "state/game.h"
+#include "shell/table/screen_tools.h"
+#include "shell/frame/sounds.h"
+
+namespace tessaryn {
+
+namespace {
+constexpr qint64 kEventsEvery = 10;     // milliseconds between two looks at the user's events in a run
+constexpr qint64 kProgressEvery = 100;  // and between two refreshes of the Turbo-Roll panel
+constexpr int kWaitStep = 10;
+}  // namespace
+
+ShellHost::ShellHost() { clock_.start(); }
+
+void ShellHost::ShowMessage(Game&, MessageBox& box) {
+  if (answers.Take(box)) return;
+  ShowMessageScreen(box, window);
+}
+
+SettleAnswer ShellHost::AskSettlement(Game& game, const SettleQuestion& question) {
+  return askSettlement ? askSettlement(game, question) : SettleAnswer{};
+}
+
+// A roll costs less than a look at the clock, so that is taken now and then only.
+bool ShellHost::YieldByClock(Game& game) {
+  yields_ = kYieldsPerLook - 1;
+  return Yield(game);
+}
+
+bool ShellHost::Yield(Game& game) {
+  if ((++yields_ % kYieldsPerLook) != 0 && game.table.TurboRollActive && game.settings.RollThrottle == 0)
+    return false;
+  const qint64 now = clock_.elapsed();
+  if (now - lastEvents_ < kEventsEvery) return false;
+  if (game.table.TurboRollActive && showProgress && now - lastProgress_ >= kProgressEvery) {
+    lastProgress_ = now;
+    showProgress(game);
+  }
+  QCoreApplication::processEvents(QEventLoop::AllEvents);
+  lastEvents_ = clock_.elapsed();
+  return true;
+}
+
+void ShellHost::Wait(Game&) {
+  QEventLoop loop;
+  QTimer::singleShot(kWaitStep, &loop, &QEventLoop::quit);
+  loop.exec();
+}
+
+std::uint32_t ShellHost::TickMilliseconds() { return static_cast<std::uint32_t>(clock_.elapsed()); }
+
+std::string ShellHost::DateText() {
+  return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();
+}
+
+std::string ShellHost::TimeText() {
+  return QLocale().toString(QTime::currentTime(), QLocale::ShortFormat).toStdString();
+}
+
+double ShellHost::SecondsSinceMidnight() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+
+double ShellHost::DateTimeNumber() {
+  const QDateTime now = QDateTime::currentDateTime();
+  const qint64 days = QDate(1899, 12, 30).daysTo(now.date());
+  return static_cast<double>(days) + now.time().msecsSinceStartOfDay() / 86'400'000.0;
+}
+
+void ShellHost::PlaySound(Game& game, Sound sound) {
+  if (game.table.TurboRollActive) return;
+  if (sounds != nullptr) sounds->Play(sound, game);
+  if (sound == Sound::kDice && showThrow) showThrow(game);
+  if (sound == Sound::kWin && showWin) showWin(game);
+}
+
+bool ShellHost::PlaySoundFile(Game& game, const std::string& name) {
+  if (sounds == nullptr || game.settings.DisableAllSound) return false;
+  return sounds->PlayFile(FromCore(name));
+}
+
+void ShellHost::Changed(Game& game, Change change) {
+  if (changed) changed(game, change);
+}
+
+void ShellHost::ShowStep(Game& game, const ScriptStep& step) {
+  if (showStep) showStep(game, step);
+}
+
+}  // namespace tessaryn

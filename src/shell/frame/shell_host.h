@@ -1,0 +1,59 @@
+// What the window does for the table: boxes, user events, clocks, sounds, redraws.
+#pragma once
+
+#include <QElapsedTimer>
+#include <QPointer>
+#include <QWidget>
+#include <functional>
+
+#include "state/host.h"
+#include "shell/screens/message_screen.h"
+
+namespace tessaryn {
+
+class Sounds;
+
+class ShellHost : public Host {
+ public:
+  ShellHost();
+
+  // The window that boxes stand over. Not owned.
+  QPointer<QWidget> window;
+  // Answers given in advance, for tests; while there are some, boxes aren't shown.
+  AnswerQueue answers;
+  // Called in a Turbo-Roll ten times a second.
+  std::function<void(Game&)> showProgress;
+  // The settlement dialog. Empty: the safe choice.
+  std::function<SettleAnswer(Game&, const SettleQuestion&)> askSettlement;
+  std::function<void(Game&, Change)> changed;
+  // The dice have been thrown: shows their tumble. Not called in a Turbo-Roll.
+  std::function<void(Game&)> showThrow;
+  // The house's bank is broken: shows it. Not called in a Turbo-Roll.
+  std::function<void(Game&)> showWin;
+  std::function<void(Game&, const ScriptStep&)> showStep;
+  Sounds* sounds = nullptr;  // not owned; null: silent
+
+  void ShowMessage(Game& game, MessageBox& box) override;
+  SettleAnswer AskSettlement(Game& game, const SettleQuestion& question) override;
+  bool Yield(Game& game) override;
+  bool YieldByClock(Game& game) override;
+  void Wait(Game& game) override;
+  std::uint32_t TickMilliseconds() override;
+  std::string DateText() override;
+  std::string TimeText() override;
+  double SecondsSinceMidnight() override;
+  double DateTimeNumber() override;
+  void PlaySound(Game& game, Sound sound) override;
+  bool PlaySoundFile(Game& game, const std::string& name) override;
+  void Changed(Game& game, Change change) override;
+  void ShowStep(Game& game, const ScriptStep& step) override;
+
+ private:
+  QElapsedTimer clock_;
+  qint64 lastEvents_ = 0;  // when user events were last let in, in milliseconds of the clock
+  qint64 lastProgress_ = 0;
+  static constexpr std::uint32_t kYieldsPerLook = 0x400;
+  std::uint32_t yields_ = 0;
+};
+
+}  // namespace tessaryn

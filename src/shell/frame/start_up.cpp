@@ -1,0 +1,36 @@
+#include "shell/frame/start_up.h"
+
+#include <QFile>
+#include <QFontDatabase>
+
+#include "state/game.h"
+#include "shell/table/screen_tools.h"
+#include "shell/table/table_layout.h"
+
+namespace tessaryn {
+
+namespace {
+constexpr const char* kTableFontFile = "tessaryn.ttf";
+}
+
+QString RegisterTableFont(const std::string& applicationFolder) {
+  const QString file = FromCore(applicationFolder) + kTableFontFile;
+  if (!QFile::exists(file)) return kDefaultTableFont;
+  const int id = QFontDatabase::addApplicationFont(file);
+  const QStringList families = id < 0 ? QStringList() : QFontDatabase::applicationFontFamilies(id);
+  return families.isEmpty() ? QString(kDefaultTableFont) : families.first();
+}
+
+std::unique_ptr<Game> StartTable(ShellHost& host, const std::string& applicationFolder,
+                                 const std::string& dataFolder) {
+  std::unique_ptr<Game> game = StartGame(host, applicationFolder, dataFolder);
+  SetTableFont(RegisterTableFont(applicationFolder));
+  return game;
+}
+
+void TellMissingFiles(Game& game) {
+  const std::string text = MissingSupportFileText(game.generators.MissingGeneratorFiles);
+  if (!text.empty()) ShowMessage(game, kMissingSupportFileTitle, text, kMsgOk | kMsgAlert, 640);
+}
+
+}  // namespace tessaryn

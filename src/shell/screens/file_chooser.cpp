@@ -1,0 +1,101 @@
+#include "shell/screens/file_chooser.h"
+
+#include <QFileDialog>
+#include <filesystem>
+
+#include "dice/roll_file.h"
+#include "state/game.h"
+#include "base/record_file.h"
+#include "shell/table/screen_tools.h"
+
+namespace tessaryn {
+
+namespace fs = std::filesystem;
+
+const FilePurpose kOpenAutoBet{"Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false,
+                               false};
+const FilePurpose kSaveAutoBet{"Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true,
+                               true};
+const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)",
+                                ".bet", false, false};
+const FilePurpose kOpenProbabilities{"Open Probability File", "Probability file (*.prb);;All files (*)",
+                                     ".prb", false, false};
+const FilePurpose kSaveProbabilities{"Save Probability File As", "Probability file (*.prb);;All files (*)",
+                                     ".prb", true, true};
+const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New File",
+                                "Dice roll file (*.rol);;All files (*)", ".rol", false, true};
+
+std::deque<std::string>& QueuedFileNames() {
+  static std::deque<std::string> names;
+  return names;
+}
+
+FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
+                          std::string& path) {
+  if (typed.find_first_not_of(' ') == std::string::npos)
+    return {"Missing Filename", "Please enter a file name."};
+  path = ResolvePath(typed, game.dataFolder);
+  if (fs::path(path).extension().empty()) path += purpose.extension;
+  std::error_code error;
+  const fs::path folder = fs::path(path).parent_path();
+  if (!fs::is_directory(folder, error)) return {"Error", "Check path and file name\r\r" + folder.string()};
+  if (fs::is_directory(path, error)) return {"Error", "Path, file, or device error.\r\r" + path};
+  const bool there = fs::exists(path, error);
+  if (!there && !purpose.mayBeNew) return {"Error", "File not found\r\r" + path};
+  if (there && &purpose == &kOpenRollFile) {
+    bool valid = false;
+    const std::string problem = CheckRollFile(path, valid);
+    if (!problem.empty()) return {"Error", problem};
+    if (!valid) return {"Unable to Open Dice Roll File", NotARollFileText(path)};
+  }
+  return {};
+}
+
+namespace {
+
+// The platform's own dialog. False when it was closed without a name.
+bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::string& name) {
+  std::deque<std::string>& queued = QueuedFileNames();
+  if (!queued.empty()) {
+    name = queued.front();
+    queued.pop_front();
+    return !name.empty();
+  }
+  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(game.dataFolder),
+                     QObject::tr(purpose.types));
+  dialog.setObjectName("frmFile");
+  dialog.setAcceptMode(purpose.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  // The rules below ask and refuse in the table's own words.
+  dialog.setFileMode(purpose.mayBeNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  if (!name.empty()) dialog.selectFile(FromCore(name));
+  if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  name = dialog.selectedFiles().first().toStdString();
+  return true;
+}
+
+bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
+  std::error_code error;
+  if (!purpose.save || !fs::exists(path, error)) return true;
+  return ShowMessage(
+             game, purpose.title,
+             fs::path(path).filename().string() + " is already on file.\r\rDo you want to overwrite it?",
+             kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+}
+
+}  // namespace
+
+std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose, const std::string& preset) {
+  std::string name = preset;
+  while (AskName(game, parent, purpose, name)) {
+    std::string path;
+    const FileProblem problem = CheckFileName(game, purpose, name, path);
+    if (problem.Found())
+      ShowMessage(game, problem.title, problem.text);
+    else if (MayReplace(game, purpose, path))
+      return path;
+  }
+  return {};
+}
+
+}  // namespace tessaryn

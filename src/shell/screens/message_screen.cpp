@@ -1,0 +1,167 @@
+#include "shell/screens/message_screen.h"
+
+#include <QDialogButtonBox>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
+
+namespace tessaryn {
+
+namespace {
+
+struct ButtonFacts {
+  std::uint32_t flag;
+  const char* caption;
+  const char* name;
+  int result;
+};
+
+// cmdButton 0 to 4. Help answers nothing; the caller that offers it takes it as a Cancel.
+constexpr ButtonFacts kButtons[] = {{kMsgOk, "&OK", "cmdButton0", kResultOk},
+                                    {kMsgYes, "&Yes", "cmdButton1", kResultYes},
+                                    {kMsgNo, "&No", "cmdButton2", kResultNo},
+                                    {kMsgCancel, "&Cancel", "cmdButton3", kResultCancel},
+                                    {kMsgHelp, "&Help", "cmdButton4", kResultCancel}};
+
+// The narrowest text column of each layout value, in characters of an average width.
+int TextColumns(int width) { return width <= 130 ? 34 : width <= 302 ? 48 : 68; }
+
+QPixmap PictureOf(std::uint32_t flags, const QWidget& box) {
+  const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
+  if ((flags & kMsgDice) != 0) return DicePicture(size, box.devicePixelRatioF());
+  struct Row {
+    std::uint32_t flag;
+    QStyle::StandardPixmap picture;
+  };
+  constexpr Row kRows[] = {{kMsgStop, QStyle::SP_MessageBoxCritical},
+                           {kMsgAlert, QStyle::SP_MessageBoxWarning},
+                           {kMsgQuestion, QStyle::SP_MessageBoxQuestion},
+                           {kMsgDone, QStyle::SP_MessageBoxInformation}};
+  for (const Row& row : kRows)
+    if ((flags & row.flag) != 0) return box.style()->standardIcon(row.picture).pixmap(size, size);
+  return {};
+}
+
+}  // namespace
+
+MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent) : QDialog(parent), flags_(box.MsgFlags) {
+  setObjectName("frmMsg");
+  setWindowTitle(FromCore(box.MsgTitle));
+  setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+  auto* column = new QVBoxLayout(this);
+  auto* row = new QHBoxLayout;
+  row->setSpacing(16);
+  column->addLayout(row);
+  const QPixmap picture = PictureOf(flags_, *this);
+  if (!picture.isNull()) {
+    auto* icon = new QLabel(this);
+    icon->setPixmap(picture);
+    row->addWidget(icon, 0, Qt::AlignTop);
+  }
+  auto* text = new QLabel(FromCore(box.MsgText), this);
+  text->setObjectName("lblMsg");
+  text->setTextFormat(Qt::PlainText);
+  text->setWordWrap(true);
+  text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * TextColumns(box.MsgWidth));
+  if ((flags_ & kMsgCentred) != 0) text->setAlignment(Qt::AlignCenter);
+  row->addWidget(text, 1);
+  AddInputs(box);
+  AddButtons();
+  column->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void MessageScreen::AddInputs(const MessageBox& box) {
+  if ((flags_ & (kMsgInput | kMsgTextInput)) == 0) return;
+  auto* row = new QHBoxLayout;
+  qobject_cast<QVBoxLayout*>(layout())->addLayout(row);
+  const bool anyText = (flags_ & kMsgTextInput) != 0;
+  const int count = (flags_ & kMsgTwoInputs) == kMsgTwoInputs ? 2 : 1;
+  for (int n = 0; n < count; ++n) {
+    if (anyText) {
+      inputs_[n] = new QLineEdit(FromCore(box.MsgEntry), this);
+    } else {
+      auto* edit = new MoneyEdit(this);
+      edit->SetKeys(4, true);
+      edit->SetValue(n == 0 ? box.MsgValue1 : box.MsgValue2);
+      inputs_[n] = edit;
+    }
+    inputs_[n]->setObjectName(QString("txtInput%1").arg(n));
+    inputs_[n]->setAccessibleName(n == 0 ? windowTitle() : windowTitle() + " (2)");
+    inputs_[n]->selectAll();
+    row->addWidget(inputs_[n]);
+  }
+  inputs_[0]->setFocus();
+}
+
+void MessageScreen::AddButtons() {
+  auto* row = new QHBoxLayout;
+  qobject_cast<QVBoxLayout*>(layout())->addLayout(row);
+  row->addStretch();
+  bool first = true;
+  for (const ButtonFacts& facts : kButtons) {
+    if ((flags_ & facts.flag) == 0) continue;
+    auto* button = new QPushButton(facts.caption, this);
+    button->setObjectName(facts.name);
+    button->setDefault(first);
+    const int result = facts.result;
+    connect(button, &QPushButton::clicked, this, [this, result] { PressedButton(result); });
+    row->addWidget(button);
+    first = false;
+  }
+  row->addStretch();
+}
+
+void MessageScreen::keyPressEvent(QKeyEvent* event) {
+  const QString typed = event->text().toUpper();
+  if (inputs_[0] == nullptr && typed.size() == 1)
+    for (QPushButton* button : findChildren<QPushButton*>())
+      if (button->text().toUpper().contains("&" + typed)) return button->click();
+  QDialog::keyPressEvent(event);
+}
+
+void MessageScreen::PressedButton(int result) {
+  pressed_ = result;
+  accept();
+}
+
+void MessageScreen::Answer(MessageBox& box) const {
+  box.MsgResult = pressed_;
+  if (box.MsgResult == 0)
+    box.MsgResult = (flags_ & kMsgCancel) != 0 ? kResultCancel
+                    : (flags_ & kMsgNo) != 0   ? kResultNo
+                                               : kResultOk;
+  if (box.MsgResult != kResultOk || inputs_[0] == nullptr) return;
+  box.MsgEntry = ToCore(inputs_[0]->text());
+  box.MsgValue1 = ParseMoney(box.MsgEntry);
+  if (inputs_[1] != nullptr) box.MsgValue2 = ParseMoney(ToCore(inputs_[1]->text()));
+}
+
+bool AnswerQueue::Take(MessageBox& box) {
+  if (answers_.empty()) return false;
+  const Answer answer = answers_.front();
+  answers_.pop_front();
+  box.MsgResult = answer.result;
+  if (answer.result == kResultOk && (box.MsgFlags & (kMsgInput | kMsgTextInput)) != 0) {
+    if (!answer.entry.empty()) {
+      box.MsgEntry = answer.entry;
+      box.MsgValue1 = ParseMoney(answer.entry);
+    }
+    if (!answer.entry2.empty()) box.MsgValue2 = ParseMoney(answer.entry2);
+  }
+  return true;
+}
+
+void ShowMessageScreen(MessageBox& box, QWidget* parent) {
+  MessageScreen screen(box, parent);
+  RunDialog(screen);
+  screen.Answer(box);
+}
+
+}  // namespace tessaryn

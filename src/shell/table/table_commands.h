@@ -1,0 +1,66 @@
+// What a click or a key on the table means: the commands of the table window, apart from the window.
+#pragma once
+
+#include <QString>
+
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+struct Game;
+
+// What the next click on a bet means.
+enum PendingAction : int {
+  kPendingNone = 0,
+  kPendingCallOn = 1,
+  kPendingCallOff = 2,
+  kPendingBuy = 3,
+  kPendingRemove = 4,
+};
+
+// How the amount of a click is chosen.
+enum BetAmountMode : int {
+  kAddClickAmount = 1,  // the selector's amount is added
+  kKeyInAmounts = 2,    // an entry box asks for the amount
+};
+
+struct TableCommands {
+  int PendingAction = kPendingNone;
+  int BetAmountMode = kAddClickAmount;
+  Currency ClickAmount = Currency::Dollars(5);  // what a click adds
+  Currency CarriedAmount;                       // taken up with Alt, to be put down by the next click; 0 none
+};
+
+// A command of the same kind again, or a right click, gives it up.
+void SetPendingAction(TableCommands& commands, int action);
+
+// The left button on a bet, for the selected seat: carries out the pending action, or adds. alt: the Alt key
+// is held. Returns whether the click asks for an amount to be keyed in; the caller then opens the entry box.
+bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt);
+// The amount typed replaces the bet.
+void TakeEnteredAmount(Game& game, int bet, Currency amount);
+// The right button: drops a pending action; then asks to stop an Auto-Roll, or rolls.
+void RightClick(Game& game, TableCommands& commands);
+// Takes the bet down; odds that share their place with the flat bet take that down when they aren't up.
+void RemoveClickedBet(Game& game, int bet);
+// All bets of the selected seat that the rules let go.
+void RemoveAllBets(Game& game);
+
+// Whether the bet holds money under contract.
+bool IsContractBet(const Game& game, int seat, int bet);
+
+// --- What the pointer is over.
+
+// "Place 6:  12" and for Lay and Buy "vig:  .60".
+QString BetAmountText(const Game& game, int seat, int bet);
+// What the bet pays: "7 to 6"; of bets with a table of payoffs their range.
+QString PayoffSummary(const Game& game, int bet);
+// The whole line: name, amount, vig, payoff, and what may still be bet.
+QString PointerText(const Game& game, int seat, int bet);
+// The tip beside the pointer by InfoTipLevel; empty for none.
+QString InfoTip(const Game& game, int seat, int bet);
+
+// The seat that the arrow keys come to, upwards or downwards; the present one when there is no other.
+int NextSeat(const Game& game, int direction);
+
+}  // namespace tessaryn

@@ -1,0 +1,528 @@
+#include "shell/table/table_widget.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QTimer>
+#include <QToolTip>
+#include <QWheelEvent>
+#include <cmath>
+
+#include "base/bet_catalogue.h"
+#include "state/game.h"
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
+
+namespace tessaryn {
+
+namespace {
+
+constexpr int kFlashMilliseconds = 160;
+constexpr int kFlashes = 6;
+constexpr int kThrowMilliseconds = 520;
+constexpr int kRainMilliseconds = 3000;
+constexpr int kFrameMilliseconds = 15;
+constexpr double kSeatReach = 52;  // along the rail, in table units
+
+// A number from the roll's own count, so that dice lie elsewhere each time and a repaint moves nothing.
+double Scatter(std::int64_t roll, int which) {
+  std::uint64_t x = static_cast<std::uint64_t>(roll) * 0x9E3779B97F4A7C15ull + which * 0xD1B54A32D192ED03ull;
+  x ^= x >> 29;
+  x *= 0xBF58476D1CE4E5B9ull;
+  x ^= x >> 32;
+  return static_cast<double>(x >> 11) / 9007199254740992.0;
+}
+
+// Where a roll's dice come to lie: the end away from the shooter.
+DicePose RestingDice(const Game& game, std::int64_t roll) {
+  const bool shooterLeft = game.table.ShooterSeat <= 4;
+  DicePose pose;
+  const double x = (shooterLeft ? 820 : 300) + 120 * Scatter(roll, 1);
+  const double y = 268 + 44 * Scatter(roll, 2);
+  const double direction = 6.283 * Scatter(roll, 3);
+  const double apart = 13 + 9 * Scatter(roll, 4);
+  pose.Die1 = QPointF(x - apart * std::cos(direction), y - apart * std::sin(direction));
+  pose.Die2 = QPointF(x + apart * std::cos(direction), y + apart * std::sin(direction));
+  pose.Turn1 = 360 * Scatter(roll, 5);
+  pose.Turn2 = 360 * Scatter(roll, 6);
+  pose.Face1 = game.table.Die1;
+  pose.Face2 = game.table.Die2;
+  return pose;
+}
+
+// The dice on their way, at a share 0 to 1 of it.
+DicePose FlyingDice(const DicePose& rest, QPointF from, double share) {
+  const double eased = 1 - (1 - share) * (1 - share);
+  DicePose pose = rest;
+  pose.Die1 = from + (rest.Die1 - from) * eased;
+  pose.Die2 = from + (rest.Die2 - from) * eased;
+  pose.Turn1 = rest.Turn1 - 900 * (1 - eased);
+  pose.Turn2 = rest.Turn2 + 760 * (1 - eased);
+  pose.Height = 0.9 * std::fabs(std::cos(share * 7.85)) * (1 - share);
+  if (share < 0.85) {
+    const int tumble = static_cast<int>(share * 14);
+    pose.Face1 = (rest.Face1 + tumble * 2) % 6 + 1;
+    pose.Face2 = (rest.Face2 + tumble * 5 + 2) % 6 + 1;
+  }
+  return pose;
+}
+
+}  // namespace
+
+TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
+    : QWidget(parent),
+      game_(game),
+      commands_(commands),
+      flashTimer_(new QTimer(this)),
+      entry_(new MoneyEdit(this)) {
+  setObjectName("picLayout");
+  setAccessibleName(tr("Craps table"));
+  setMouseTracking(true);
+  setFocusPolicy(Qt::StrongFocus);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMinimumSize(320, 200);
+  scene.game = &game_;
+  entry_->setObjectName("txtBetAmount");
+  entry_->setAccessibleName(tr("Bet amount"));
+  entry_->hide();
+  entry_->installEventFilter(this);
+  connect(flashTimer_, &QTimer::timeout, this, [this] {
+    scene.hideBets = --flashes_ % 2 != 0;
+    if (flashes_ <= 0) {
+      scene.hideBets = false;
+      flashTimer_->stop();
+    }
+    update();
+  });
+  RebuildLayout();
+  PlaceDice();
+}
+
+// --- The layout and its caches.
+
+void TableWidget::RebuildLayout() {
+  layout_ = BuildTableLayout(game_.settings, game_.payoffs);
+  drawing_ = {BuildTableLayout(game_.settings, game_.payoffs),
+              BuildTableLayout(game_.settings, game_.payoffs)};
+  tableStale_ = mapStale_ = boxesStale_ = true;
+  Refresh();
+}
+
+void TableWidget::SetMargins() {
+  view.MarginY = static_cast<int>(QFontMetricsF(font()).height() * 5 + 16);
+  view.MarginX = 6;
+}
+
+void TableWidget::ShowWhole() {
+  SetMargins();
+  FitTable(view);
+  ViewChanged();
+  fitted_ = true;
+}
+
+void TableWidget::ViewChanged() {
+  fitted_ = false;
+  tableStale_ = mapStale_ = boxesStale_ = true;
+  update();
+}
+
+void TableWidget::Refresh() {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(game_.table, seat)) PlaceVisibleStacks(layout_, seat, game_.table.VisibleStacks[seat]);
+  mapStale_ = boxesStale_ = true;
+  scene.rain.clear();
+  RefreshPointer();
+  update();
+}
+
+void TableWidget::PrepareTable() {
+  const double ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
+  if (!tableStale_ && table_.size() == pixels) return;
+  if (table_.size() != pixels) table_ = QImage(pixels, QImage::Format_RGB32);
+  table_.setDevicePixelRatio(ratio);
+  DrawTable(table_, drawing_, view, colors);
+  tableStale_ = false;
+}
+
+void TableWidget::PrepareMap() {
+  if (!mapStale_ && map_.size() == size()) return;
+  if (map_.size() != size()) map_ = QImage(size(), QImage::Format_RGB32);
+  DrawTableHotspots(map_, layout_, view, game_);
+  mapStale_ = false;
+}
+
+void TableWidget::paintEvent(QPaintEvent*) {
+  PrepareTable();
+  if (boxesStale_) boxes_ = PlaceStatusBoxes(game_, layout_, view, font());
+  boxesStale_ = false;
+  QPainter painter(this);
+  painter.drawImage(0, 0, table_);
+  DrawChecksNDice(painter, scene, layout_, view, colors, checks_);
+  DrawStatusBoxes(painter, game_, boxes_, font());
+  if (game_.table.OccupiedSeats == 0) {
+    QFont large = font();
+    large.setPointSizeF(font().pointSizeF() * 1.5);
+    painter.setFont(large);
+    const QString hint = tr("Click an open position on the rail to add a player.");
+    QRectF box = QFontMetricsF(large).boundingRect(hint).adjusted(-18, -10, 18, 10);
+    box.moveCenter(QPointF(width() / 2.0, height() - box.height() / 2 - 8));
+    painter.setPen(QPen(QColor(255, 214, 92), 1.5));
+    painter.setBrush(QColor(20, 18, 16, 232));
+    painter.drawRoundedRect(box, 8, 8);
+    painter.setPen(QColor(255, 240, 205));
+    painter.drawText(box, Qt::AlignCenter, hint);
+  }
+}
+
+void TableWidget::resizeEvent(QResizeEvent*) {
+  SetMargins();
+  if (fitted_) {
+    view.Window = size();
+    ShowWhole();
+  } else {
+    ResizeView(view, size());
+    ViewChanged();
+  }
+}
+
+void TableWidget::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::FontChange) boxesStale_ = true;
+  if (event->type() == QEvent::LanguageChange) setAccessibleName(tr("Craps table"));
+  QWidget::changeEvent(event);
+}
+
+// --- Where things are.
+
+int TableWidget::BetAt(QPoint point) {
+  PrepareMap();
+  const Hit hit = HitTest(map_, point, game_);
+  // A stack at another seat's rail is that player's: a click there chooses the seat.
+  return hit.Seat == game_.table.SelectedSeat ? hit.Bet : 0;
+}
+
+int TableWidget::SeatAt(QPoint point) const {
+  const QPointF table = view.ToTable(point);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const SeatPlace& place = layout_.Seats[seat];
+    const QPointF offset = table - place.Rail;
+    const double along = QPointF::dotProduct(offset, place.Along);
+    const double out = QPointF::dotProduct(offset, place.Out);
+    if (std::fabs(along) <= kSeatReach && out >= -19 && out <= 60) return seat;
+  }
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (boxes_[seat].contains(point)) return seat;
+  return 0;
+}
+
+QPoint TableWidget::PointOfBet(int seat, int bet) const {
+  return view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))).toPoint();
+}
+
+QPoint TableWidget::PointOfSeat(int seat) const {
+  return view.ToScreen(layout_.Seats[seat].Rail + layout_.Seats[seat].Out * 8).toPoint();
+}
+
+// --- The pointer.
+
+void TableWidget::mousePressEvent(QMouseEvent* event) {
+  if (throwing_) {
+    cutShort_ = true;
+    return;
+  }
+  setFocus();
+  if (event->button() == Qt::MiddleButton) {
+    dragging_ = true;
+    dragFrom_ = event->position().toPoint();
+    setCursor(Qt::ClosedHandCursor);
+    return;
+  }
+  if (EntryOpen() && !CommitEntry()) return;
+  if (event->button() == Qt::RightButton)
+    emit rightClicked();
+  else if (event->button() == Qt::LeftButton)
+    LeftPress(event);
+}
+
+void TableWidget::LeftPress(QMouseEvent* event) {
+  const QPoint point = event->position().toPoint();
+  SetFocusBet(0, 0);
+  const int bet = BetAt(point);
+  if (bet != 0) {
+    emit betClicked(bet, (event->modifiers() & Qt::AltModifier) != 0);
+    return;
+  }
+  const int seat = SeatAt(point);
+  if (seat != 0) emit seatClicked(seat);
+}
+
+void TableWidget::mouseMoveEvent(QMouseEvent* event) {
+  const QPoint point = event->position().toPoint();
+  if (dragging_) {
+    const QPoint way = point - dragFrom_;
+    dragFrom_ = point;
+    ShiftTable(view, way.x(), way.y());
+    ViewChanged();
+    return;
+  }
+  const int bet = BetAt(point);
+  const int openSeat = bet == 0 ? SeatAt(point) : 0;
+  if (bet == scene.hoverBet && openSeat == scene.hoverSeat) return;
+  scene.hoverBet = bet;
+  scene.hoverSeat = openSeat;
+  RefreshPointer();
+  const QString tip = InfoTip(game_, game_.table.SelectedSeat, bet);
+  if (tip.isEmpty())
+    QToolTip::hideText();
+  else
+    QToolTip::showText(event->globalPosition().toPoint() + QPoint(14, 14), tip, this);
+  emit pointedAt(bet);
+  update();
+}
+
+void TableWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::MiddleButton || !dragging_) return;
+  dragging_ = false;
+  RefreshPointer();
+}
+
+void TableWidget::leaveEvent(QEvent*) {
+  scene.hoverBet = scene.hoverSeat = 0;
+  emit pointedAt(0);
+  update();
+}
+
+void TableWidget::wheelEvent(QWheelEvent* event) {
+  const double steps = event->angleDelta().y() / 120.0;
+  if (steps == 0) return;
+  ZoomTo(view, static_cast<int>(std::lround(view.TableZoom * std::pow(1.1, steps))), event->position());
+  ShiftTable(view, 0, 0);
+  ViewChanged();
+  emit wheelZoomed();
+  event->accept();
+}
+
+void TableWidget::RefreshPointer() {
+  if (dragging_) return;
+  if (scene.hoverSeat != 0) return setCursor(Qt::PointingHandCursor);
+  if (scene.hoverBet == 0 || !IsOccupied(game_.table, game_.table.SelectedSeat))
+    return setCursor(Qt::ArrowCursor);
+  constexpr const char* kActionTexts[] = {"", "ON", "OFF", "BUY", "X"};
+  constexpr int kSize = 30;
+  const double ratio = devicePixelRatioF();
+  int denomination = 6;
+  QString text = kActionTexts[commands_.PendingAction];
+  if (text.isEmpty() && commands_.CarriedAmount > kZero) text = "$";
+  if (text.isEmpty()) {
+    text = "$";
+    for (int n = 1; n <= 5; ++n)
+      if (game_.settings.CheckValue[n] == commands_.ClickAmount) {
+        denomination = n;
+        text = CheckText(n, game_.settings.CheckValue);
+      }
+  }
+  setCursor(QCursor(CheckPicture(denomination, text, kSize, ratio), kSize / 2, kSize / 2));
+}
+
+// --- Keys.
+
+void TableWidget::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  update();
+}
+
+// Tab goes into the areas before it leaves the table.
+bool TableWidget::focusNextPrevChild(bool next) {
+  if (next && scene.focusBet == 0 && IsOccupied(game_.table, game_.table.SelectedSeat)) {
+    SetFocusBet(kPassLine, game_.table.SelectedSeat <= 4 ? 1 : 2);
+    return true;
+  }
+  SetFocusBet(0, 0);
+  return QWidget::focusNextPrevChild(next);
+}
+
+void TableWidget::keyPressEvent(QKeyEvent* event) {
+  if (throwing_) {
+    cutShort_ = true;
+    return;
+  }
+  const bool walks = scene.focusBet != 0;
+  switch (event->key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+      if (!walks) break;
+      WalkFocus(event->key());
+      return;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      if (!walks) break;
+      emit betClicked(MeantBet(game_, scene.focusBet), (event->modifiers() & Qt::AltModifier) != 0);
+      TellFocus();
+      return;
+    case Qt::Key_Escape:
+      if (!walks) break;
+      SetFocusBet(0, 0);
+      return;
+    default:
+      break;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+void TableWidget::SetFocusBet(int bet, int side) {
+  if (scene.focusBet == bet && scene.focusSide == side) return;
+  scene.focusBet = bet;
+  scene.focusSide = side;
+  TellFocus();
+  update();
+}
+
+// What a screen reader hears, and the status line shows.
+void TableWidget::TellFocus() {
+  if (scene.focusBet == 0) {
+    setAccessibleName(tr("Craps table"));
+    emit pointedAt(scene.hoverBet);
+    return;
+  }
+  const int bet = MeantBet(game_, scene.focusBet);
+  setAccessibleName(PointerText(game_, game_.table.SelectedSeat, bet));
+  emit pointedAt(bet);
+}
+
+// To the nearest area in the key's direction as the user sees the table.
+void TableWidget::WalkFocus(int key) {
+  const QTransform toScreen = view.Transform();
+  const auto centreOf = [&](const TableArea& area) {
+    if (area.Id == kPassLine || area.Id == kPassLineOdds || area.Id == kDontPass) {
+      // A band's bounding box is no place on it.
+      const int seat = area.Side == 1 ? 4 : 5;
+      return toScreen.map(QPointF(layout_.CheckX(seat, area.Id), layout_.CheckY(seat, area.Id)));
+    }
+    return toScreen.map(area.Outline.boundingRect().center());
+  };
+  QPointF from;
+  for (const TableArea& area : layout_.Areas)
+    if (area.Id == scene.focusBet && (area.Side == 0 || area.Side == scene.focusSide)) from = centreOf(area);
+  const QPointF ahead = key == Qt::Key_Left    ? QPointF(-1, 0)
+                        : key == Qt::Key_Right ? QPointF(1, 0)
+                        : key == Qt::Key_Up    ? QPointF(0, -1)
+                                               : QPointF(0, 1);
+  const TableArea* best = nullptr;
+  double bestCost = 1e18;
+  for (const TableArea& area : layout_.Areas) {
+    const QPointF way = centreOf(area) - from;
+    const double forward = QPointF::dotProduct(way, ahead);
+    const double aside = std::fabs(way.x() * ahead.y() - way.y() * ahead.x());
+    if (forward < 2) continue;
+    const double cost = forward + 2.5 * aside;
+    if (cost < bestCost) {
+      bestCost = cost;
+      best = &area;
+    }
+  }
+  if (best != nullptr) SetFocusBet(best->Id, best->Side);
+}
+
+// --- The entry box.
+
+void TableWidget::OpenEntry(int bet) {
+  entryBet_ = bet;
+  const int seat = game_.table.SelectedSeat;
+  entry_->SetKeys(4, !IsTableBet(bet));
+  entry_->SetValue(game_.table.BetAmount(seat, bet));
+  entry_->resize(96, entry_->sizeHint().height());
+  QPoint place = PointOfBet(seat, bet) - QPoint(entry_->width() / 2, entry_->height() / 2);
+  place.setX(std::clamp(place.x(), 0, std::max(0, width() - entry_->width())));
+  place.setY(std::clamp(place.y(), 0, std::max(0, height() - entry_->height())));
+  entry_->move(place);
+  entry_->show();
+  entry_->selectAll();
+  entry_->setFocus();
+}
+
+bool TableWidget::CommitEntry() {
+  if (!EntryOpen()) return true;
+  const int bet = std::exchange(entryBet_, 0);
+  const Currency amount = entry_->Value();
+  CloseEntry();
+  TakeEnteredAmount(game_, bet, amount);
+  Refresh();
+  return game_.table.BetAmount(game_.table.SelectedSeat, bet) == amount;
+}
+
+// The focus goes first, so that it isn't handed on to the areas.
+void TableWidget::CloseEntry() {
+  entryBet_ = 0;
+  setFocus();
+  entry_->hide();
+}
+
+bool TableWidget::eventFilter(QObject* object, QEvent* event) {
+  if (object == entry_ && event->type() == QEvent::KeyPress) {
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Escape) CloseEntry();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) CommitEntry();
+    if (!EntryOpen()) return true;
+  }
+  return QWidget::eventFilter(object, event);
+}
+
+// --- Dice and flashing.
+
+void TableWidget::PlaceDice() {
+  scene.dice = RestingDice(game_, SessionRolls(game_.stats));
+  update();
+}
+
+void TableWidget::Animate(int milliseconds, const std::function<void(double)>& frame) {
+  if (!animate || !isVisible() || throwing_) return;
+  throwing_ = true;
+  cutShort_ = false;
+  QElapsedTimer clock;
+  clock.start();
+  QEventLoop loop;
+  QTimer frames;
+  connect(&frames, &QTimer::timeout, this, [&] {
+    const double share = static_cast<double>(clock.elapsed()) / milliseconds;
+    if (share >= 1 || cutShort_) return loop.quit();
+    frame(share);
+    update();
+  });
+  frames.start(kFrameMilliseconds);
+  loop.exec();
+  throwing_ = false;
+}
+
+void TableWidget::ShowThrow() {
+  // Thrown, but not yet counted.
+  const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
+  const QPointF from = layout_.Seats[std::max(1, game_.table.ShooterSeat)].Rail;
+  if (game_.settings.DiceAction == 0)
+    Animate(kThrowMilliseconds, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
+  scene.dice = rest;
+  update();
+}
+
+void TableWidget::RainChecks() {
+  constexpr int kChecks = 1000;
+  scene.rain.clear();
+  const auto fallTo = [&](int count) {
+    for (int n = static_cast<int>(scene.rain.size()); n < count; ++n)
+      scene.rain.push_back({{105 + 1037 * Scatter(n, 11), 86 + 343 * Scatter(n, 12)},
+                            1 + static_cast<int>(5 * Scatter(n, 13))});
+  };
+  Animate(kRainMilliseconds, [&](double share) { fallTo(static_cast<int>(kChecks * share)); });
+  fallTo(kChecks);
+  update();
+}
+
+void TableWidget::FlashBets() {
+  flashes_ = kFlashes;
+  flashTimer_->start(kFlashMilliseconds);
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,119 @@
+// The table in the window: paints it from the state through one transform, and turns the pointer and the keys
+// into commands.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+#include "shell/table/table_commands.h"
+#include "shell/table/table_painter.h"
+
+class QTimer;
+
+namespace tessaryn {
+
+class MoneyEdit;
+
+class TableWidget : public QWidget {
+  Q_OBJECT
+
+ public:
+  TableWidget(Game& game, TableCommands& commands, QWidget* parent = nullptr);
+
+  TableView view;
+  TableColors colors;
+  TableScene scene;
+  bool animate = true;  // whether thrown dice tumble
+
+  const TableLayout& Layout() const { return layout_; }
+  // The bet meant under a point of the widget; 0 for none.
+  int BetAt(QPoint point);
+  // The seat whose place at the rail is under a point; 0 for none.
+  int SeatAt(QPoint point) const;
+  // The middle of an area on the screen, where a click hits it; the seat's end of the table first.
+  QPoint PointOfBet(int seat, int bet) const;
+  QPoint PointOfSeat(int seat) const;
+
+  // The rules or payoffs changed: lettering and areas are made anew.
+  void RebuildLayout();
+  // The view was changed from outside.
+  void ViewChanged();
+  // The whole table, as large as the window shows it.
+  void ShowWhole();
+  // The state changed: amounts, markers, dice, boxes.
+  void Refresh();
+  // Brings the dice from the shooter to the far end; returns when they lie still. A key or click cuts it
+  // short.
+  void ShowThrow();
+  // A thousand checks fall on the layout; they lie there until the state changes. A key or click ends the
+  // fall.
+  void RainChecks();
+  // The dice as the state has them.
+  void PlaceDice();
+  void FlashBets();
+  // The area with the keyboard's focus; 0 takes it away.
+  void SetFocusBet(int bet, int side);
+  // The entry box of a bet's amount.
+  void OpenEntry(int bet);
+  // Closes it and takes its amount. False when the amount was not taken as typed.
+  bool CommitEntry();
+  bool EntryOpen() const { return entryBet_ != 0; }
+  // The check that hangs on the pointer.
+  void RefreshPointer();
+
+ signals:
+  void betClicked(int bet, bool alt);
+  void rightClicked();
+  void seatClicked(int seat);
+  void pointedAt(int bet);
+  void wheelZoomed();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  void PrepareTable();
+  void PrepareMap();
+  void WalkFocus(int key);
+  void TellFocus();
+  void LeftPress(QMouseEvent* event);
+  void SetMargins();
+  // Calls frame with the share 0 to 1 of the time that is over, until it is or the user cuts it short.
+  void Animate(int milliseconds, const std::function<void(double)>& frame);
+  void CloseEntry();
+
+  Game& game_;
+  TableCommands& commands_;
+  TableLayout layout_;
+  CheckPictures checks_;
+  TableDrawing drawing_;
+  QImage table_;  // the table without what changes
+  QImage map_;     // ids under the points
+  bool tableStale_ = true;
+  bool mapStale_ = true;
+  bool fitted_ = true;  // shows the whole table until the user chooses a view
+  std::array<QRectF, kSeatRows> boxes_;
+  bool boxesStale_ = true;
+  QPoint dragFrom_;
+  bool dragging_ = false;
+  bool throwing_ = false;
+  bool cutShort_ = false;
+  int flashes_ = 0;
+  QTimer* flashTimer_;
+  MoneyEdit* entry_;
+  int entryBet_ = 0;
+};
+
+}  // namespace tessaryn

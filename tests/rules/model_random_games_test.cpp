@@ -1,0 +1,649 @@
+// Random games on the engine and on the plain statement of the rules side by side; whatever differs is told
+// with the seed of the game, the step and the last commands. TESSARYN_MODEL_ROLLS makes the games longer,
+// TESSARYN_MODEL_SEED plays the one game of that seed.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <deque>
+#include <memory>
+#include <random>
+#include <sstream>
+
+#include "rules/payoffs.h"
+#include "rules/bankroll.h"
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "rules/consistency.h"
+#include "state/game.h"
+#include "play/players.h"
+#include "play/roll_cycle.h"
+#include "rules/rules_model.h"
+
+namespace tessaryn {
+namespace {
+
+using model::RulesModel;
+
+struct SilentHost : Host {
+  void ShowMessage(Game&, MessageBox& box) override {
+    box.MsgResult = (box.MsgFlags & kMsgNo) != 0       ? kResultNo
+                    : (box.MsgFlags & kMsgCancel) != 0 ? kResultCancel
+                                                       : kResultOk;
+  }
+  std::uint32_t TickMilliseconds() override { return 0; }
+  std::string DateText() override { return "1/1/2001"; }
+  std::string TimeText() override { return "12:00:00"; }
+  double SecondsSinceMidnight() override { return 43'200; }
+  double DateTimeNumber() override { return 36'892.5; }
+};
+
+// What a kind of game does more often than others.
+struct Profile {
+  const char* name;
+  bool randomPayoffs;
+  bool oddUnits;      // betting units other than a dollar
+  bool changesRules;  // limits and rules change while bets are up
+  bool playersComeAndGo;
+  bool shortMoney;  // bankrolls that run out
+  int rollPercent;  // of the commands
+};
+
+struct Pair {
+  SilentHost host;
+  std::unique_ptr<Game> game;
+  std::unique_ptr<RulesModel> m = std::make_unique<RulesModel>();
+  std::mt19937_64 random;
+  std::deque<std::string> commands;  // the last few
+  std::ostringstream differences;
+  int differenceCount = 0;
+  int differentSeat = 0;  // of the first difference, where it is a seat's
+  int step = 0;
+
+  int Pick(int first, int last) {
+    const std::uint64_t range = static_cast<std::uint64_t>(last - first + 1);
+    return first + static_cast<int>((random() >> 32) * range >> 32);
+  }
+  bool Chance(int percent) { return Pick(1, 100) <= percent; }
+  template <typename T, std::size_t n>
+  T OneOf(const T (&values)[n]) {
+    return values[Pick(0, static_cast<int>(n) - 1)];
+  }
+
+  void Note(const std::string& command) {
+    commands.push_back(command);
+    if (commands.size() > 12) commands.pop_front();
+  }
+
+  template <typename T, typename U>
+  void Same(const char* what, int seat, int index, const T& expected, const U& actual) {
+    if (static_cast<std::int64_t>(expected) == static_cast<std::int64_t>(actual)) return;
+    if (differentSeat == 0) differentSeat = seat % kSeatRows;
+    if (++differenceCount > 12) return;
+    differences << "  " << what << " seat " << seat << " [" << index << "]: rules "
+                << static_cast<std::int64_t>(expected) << ", table " << static_cast<std::int64_t>(actual)
+                << "\n";
+  }
+  void Same(const char* what, int seat, int index, Currency expected, Currency actual) {
+    if (expected == actual) return;
+    if (differentSeat == 0) differentSeat = seat % kSeatRows;
+    if (++differenceCount > 12) return;
+    differences << "  " << what << " seat " << seat << " [" << index << "]: rules " << PlainMoney(expected)
+                << ", table " << PlainMoney(actual) << "\n";
+  }
+};
+
+// ---------------------------------------------------------------- settings on both sides
+
+void CopyPayoffs(const Game& game, RulesModel& m) {
+  const auto copy = [](const PayoffRecord* from, model::Payoff* to, int rows) {
+    for (int i = 0; i < rows; ++i) to[i] = {to[i].BetUnit, from[i].PayTo, from[i].ForFlag, from[i].PayPer};
+  };
+  const PayoffTables& p = game.payoffs;
+  copy(p.PayoffTable + 1, m.PayoffTable + 1, 100);
+  copy(p.FieldPayoffs + 1, m.FieldPayoffs + 1, kFieldRows);
+  copy(p.SevenPointSevenPayoffs + 1, m.SevenPointSevenPayoffs + 1, kSevenPointSevenRows);
+  copy(p.MidwayPayoffs + 1, m.MidwayPayoffs + 1, kMidwayRows);
+  copy(p.SharpShooterPayoffs + 1, m.SharpShooterPayoffs + 1, kSharpShooterRows);
+  copy(p.RideTheLinePayoffs + 1, m.RideTheLinePayoffs + 1, kRideTheLineRows);
+  copy(p.FirePayoffs, m.FirePayoffs, kFireRows + 1);
+  model::RefreshBetUnits(m);
+}
+
+void CopySettings(const Game& game, RulesModel& m) {
+  const Settings& s = game.settings;
+  for (int i = 0; i < 6; ++i) m.CheckValue[i] = s.CheckValue[i];
+  m.MinBetMain = s.MinBetMain;
+  m.MinBetProp = s.MinBetProp;
+  m.MaxBet = s.MaxBet;
+  m.MaxPropBetPayoff = s.MaxPropBetPayoff;
+  m.MaxOddsBet = s.MaxOddsBet;
+  m.MaxFireBet = s.MaxFireBet;
+  m.OddsAllowed410 = s.OddsAllowed410;
+  m.OddsAllowed59 = s.OddsAllowed59;
+  m.OddsAllowed68 = s.OddsAllowed68;
+  m.OddsCalcMethod = s.OddsCalcMethod;
+  m.LayVigRate = s.LayVigRate;
+  m.BuyVigRate = s.BuyVigRate;
+  m.LayVigRound = s.LayVigRound;
+  m.BuyVigRound = s.BuyVigRound;
+  m.LayVigUpFront = s.LayVigUpFront;
+  m.BuyVigUpFront = s.BuyVigUpFront;
+  m.AllowPutBets = s.AllowPutBets;
+  m.SmallTallEnabled = s.SmallTallEnabled;
+  m.BarNumber = s.BarNumber;
+  m.ShooterBetRule = s.ShooterBetRule;
+}
+
+Currency Units(const Pair& pair, int count) {
+  return Currency::FromRaw(pair.game->settings.Unit().raw * count);
+}
+
+void ChooseLimits(Pair& pair) {
+  Settings& s = pair.game->settings;
+  static const int minimums[] = {1, 1, 1, 2, 5, 10};
+  static const int maximums[] = {20, 50, 97, 200, 1000, 1003};
+  static const int multiples[] = {10'000, 20'000, 30'000, 40'000, 50'000, 100'000, 15'000, 25'000, 200'000};
+  s.MinBetMain = Units(pair, pair.OneOf(minimums));
+  s.MinBetProp = Units(pair, pair.OneOf(minimums));
+  s.MaxBet = Units(pair, pair.OneOf(maximums));
+  s.MaxPropBetPayoff = Units(pair, pair.OneOf(maximums) * 3);
+  s.MaxOddsBet = Units(pair, pair.OneOf(maximums) * 3);
+  s.MaxFireBet = Units(pair, pair.OneOf(minimums));
+  s.OddsAllowed410 = Currency::FromRaw(pair.OneOf(multiples));
+  s.OddsAllowed59 = Currency::FromRaw(pair.OneOf(multiples));
+  s.OddsAllowed68 = Currency::FromRaw(pair.OneOf(multiples));
+  s.OddsCalcMethod = pair.Pick(0, 5);
+}
+
+void ChooseRules(Pair& pair) {
+  Settings& s = pair.game->settings;
+  s.BarNumber = pair.Chance(50) ? 12 : 2;
+  s.AllowPutBets = pair.Chance(50);
+  s.ShooterBetRule = pair.Chance(70) ? 0 : pair.Pick(1, 2);
+}
+
+void ChooseVig(Pair& pair) {
+  Settings& s = pair.game->settings;
+  static const int rates[] = {500, 500, 400, 333, 100, 0};
+  s.LayVigRate = Currency::FromRaw(pair.OneOf(rates));
+  s.BuyVigRate = Currency::FromRaw(pair.OneOf(rates));
+  s.LayVigRound = pair.Pick(0, 2);
+  s.BuyVigRound = pair.Pick(0, 2);
+  s.LayVigUpFront = pair.Chance(50);
+  s.BuyVigUpFront = pair.Chance(50);
+}
+
+void ChooseChecks(Pair& pair) {
+  static const int units[] = {2'500, 5'000, 10'000, 20'000, 50'000, 100};
+  static const int steps[] = {1, 5, 25, 100, 500};
+  const int unit = pair.OneOf(units);
+  for (int i = 1; i <= 5; ++i)
+    pair.game->settings.CheckValue[i] = Currency::FromRaw(std::int64_t{unit} * steps[i - 1]);
+}
+
+void ChoosePayoffs(Pair& pair) {
+  PayoffTables& p = pair.game->payoffs;
+  for (int bet = 1; bet <= kBets; ++bet) {
+    if (!pair.Chance(30)) continue;
+    p.PayoffTable[bet].PayTo = Currency::Dollars(pair.Pick(1, 12));
+    p.PayoffTable[bet].PayPer = Currency::Dollars(pair.Pick(1, 7));
+  }
+  for (int row = 1; row <= kFieldRows; ++row)
+    if (pair.Chance(30)) p.FieldPayoffs[row].PayTo = Currency::Dollars(pair.Pick(-1, 3));
+}
+
+void SetUp(Pair& pair, const Profile& profile) {
+  pair.game = StartGame(pair.host, TESSARYN_BIN_DIR, ::testing::TempDir());
+  model::ResetModel(*pair.m);
+  Settings& s = pair.game->settings;
+  s.MessageMask = pair.Chance(50) ? 0 : 15;
+  if (profile.oddUnits) ChooseChecks(pair);
+  ChooseLimits(pair);
+  ChooseRules(pair);
+  ChooseVig(pair);
+  s.SmallTallEnabled = pair.Chance(80);
+  if (pair.Chance(60)) SetFieldPreset(pair.game->payoffs, pair.Pick(0, kFieldPresets - 1), s.Unit());
+  if (profile.randomPayoffs) ChoosePayoffs(pair);
+  RebuildBetUnits(pair.game->payoffs, s.Unit());
+  CopySettings(*pair.game, *pair.m);
+  CopyPayoffs(*pair.game, *pair.m);
+}
+
+// ---------------------------------------------------------------- comparing
+
+void CompareSeat(Pair& pair, int seat) {
+  const TableState& t = pair.game->table;
+  const RulesModel& m = *pair.m;
+  pair.Same("occupied", seat, 0, m.Occupied[seat], IsOccupied(t, seat));
+  pair.Same("BankrollCurrent", seat, 0, m.BankrollCurrent[seat], t.BankrollCurrent[seat]);
+  pair.Same("OnTableAmount", seat, 0, m.OnTableAmount[seat], t.OnTableAmount[seat]);
+  for (int i = 0; i < 6; ++i) {
+    pair.Same("LayVigHeld", seat, i, m.LayVigHeld[seat][i], t.LayVigHeld[seat][i]);
+    pair.Same("BuyVigHeld", seat, i, m.BuyVigHeld[seat][i], t.BuyVigHeld[seat][i]);
+    pair.Same("ComeTravelAmount", seat, i, m.ComeTravelAmount[seat][i], t.ComeTravelAmount[seat][i]);
+  }
+  for (int bet = 1; bet <= kBets; ++bet) {
+    pair.Same("BetAmount", seat, bet, m.BetAmount[seat][bet], t.BetAmount(seat, bet));
+    pair.Same("BetCommitted", seat, bet, m.BetCommitted[seat][bet], t.BetCommitted(seat, bet));
+    pair.Same("BetStreak", seat, bet, m.BetStreak[seat][bet], t.BetStreak(seat, bet));
+    if (m.Occupied[seat])
+      pair.Same("BetWorking", seat, bet, m.BetWorking[seat][bet], BetWorkingOf(*pair.game, seat, bet));
+  }
+}
+
+void CompareTable(Pair& pair) {
+  const TableState& t = pair.game->table;
+  const RulesModel& m = *pair.m;
+  pair.Same("Point", 0, 0, m.Point, t.Point);
+  pair.Same("PointBeforeRoll", 0, 0, m.PointBeforeRoll, t.PointBeforeRoll);
+  pair.Same("PointTwoRollsAgo", 0, 0, m.PointTwoRollsAgo, t.PointTwoRollsAgo);
+  pair.Same("LastPoint", 0, 0, m.LastPoint, t.LastPoint);
+  pair.Same("ShooterSeat", 0, 0, m.ShooterSeat, t.ShooterSeat);
+  pair.Same("HandSeat", 0, 0, m.HandSeat, t.HandSeat);
+  pair.Same("PreviousHandSeat", 0, 0, m.PreviousHandSeat, t.PreviousHandSeat);
+  pair.Same("NumberMarks", 0, 0, m.NumberMarks, t.NumberMarks);
+  pair.Same("FourRollCount", 0, 0, m.FourRollCount, t.FourRollCount);
+  pair.Same("FireMarks", 0, 0, m.FireMarks, t.FireMarks);
+  pair.Same("FireCount", 0, 0, m.FireCount, t.FireCount);
+  pair.Same("SharpShooterCount", 0, 0, m.SharpShooterCount, t.SharpShooterCount);
+  pair.Same("RideTheLineCount", 0, 0, m.RideTheLineCount, t.RideTheLineCount);
+  for (int seat = 1; seat <= kSeats; ++seat) CompareSeat(pair, seat);
+  const std::string fault = CheckConsistency(*pair.game);
+  if (!fault.empty()) {
+    ++pair.differenceCount;
+    pair.differences << "  table contradicts itself: " << fault << "\n";
+  }
+  const std::string modelFault = model::CheckModel(m);
+  if (!modelFault.empty()) {
+    ++pair.differenceCount;
+    pair.differences << "  rules contradict themselves: " << modelFault << "\n";
+  }
+}
+
+void CompareBetStatistics(Pair& pair, int scope, int seat) {
+  const Statistics& s = pair.game->stats;
+  const RulesModel& m = *pair.m;
+  const int slot = Slot(scope, seat);
+  for (int bet = 1; bet <= kBets; ++bet)
+    for (int kind = 1; kind <= 6; ++kind) {
+      const auto statKind = static_cast<StatKind>(kind);
+      pair.Same("WagerStats", slot, bet * 10 + kind, m.WagerStats[slot][bet][kind],
+                BetStat(s, kWagerStats, scope, seat, bet, statKind));
+      pair.Same("WinStats", slot, bet * 10 + kind, m.WinStats[slot][bet][kind],
+                BetStat(s, kWinStats, scope, seat, bet, statKind));
+      pair.Same("LossStats", slot, bet * 10 + kind, m.LossStats[slot][bet][kind],
+                BetStat(s, kLossStats, scope, seat, bet, statKind));
+    }
+}
+
+void CompareSlot(Pair& pair, int scope, int seat) {
+  const Statistics& s = pair.game->stats;
+  const RulesModel& m = *pair.m;
+  const int slot = Slot(scope, seat);
+  for (int item = 0; item < kRollItems; ++item)
+    pair.Same("RollCounts", slot, item, m.RollCounts[slot][item], RollCount(s, scope, seat, item));
+  for (int number = 2; number <= 12; ++number)
+    for (int kind = 0; kind < 3; ++kind)
+      pair.Same("NumberCounts", slot, number * 10 + kind, m.NumberCounts[slot][number][kind],
+                s.NumberCounts[slot][number][kind]);
+  pair.Same("HandCount", slot, 0, m.HandCount[slot], s.HandCount[slot]);
+  if (seat == 0 || m.Occupied[seat])
+    pair.Same("PlayerRolls", slot, 0, m.PlayerRolls[slot], PlayerRolls(s, scope, seat));
+  pair.Same("MostRollsInHand", slot, 0, m.MostRollsInHand[slot], s.MostRollsInHand[slot]);
+  pair.Same("MostComeoutRollsInHand", slot, 0, m.MostComeoutRollsInHand[slot],
+            s.MostComeoutRollsInHand[slot]);
+  pair.Same("MostPassesInHand", slot, 0, m.MostPassesInHand[slot], s.MostPassesInHand[slot]);
+  pair.Same("MostMissesInHand", slot, 0, m.MostMissesInHand[slot], s.MostMissesInHand[slot]);
+  if (seat == 0) return;
+  pair.Same("BankrollBeginning", slot, 0, m.BankrollBeginning[slot], s.BankrollBeginning[slot]);
+  pair.Same("BankrollHigh", slot, 0, m.BankrollHigh[slot], s.BankrollHigh[slot]);
+  pair.Same("BankrollLow", slot, 0, m.BankrollLow[slot], s.BankrollLow[slot]);
+  pair.Same("BankrollCurrent", slot, 0, m.BankrollCurrent[slot], BankrollOf(*pair.game, scope, seat));
+  for (int i = 0; i < 6; ++i)
+    pair.Same("ComeTravelTotals", slot, i, m.ComeTravelTotals[slot][i], s.ComeTravelTotals[slot][i]);
+  CompareBetStatistics(pair, scope, seat);
+}
+
+void CompareStatistics(Pair& pair) {
+  const Statistics& s = pair.game->stats;
+  const RulesModel& m = *pair.m;
+  for (int scope : {kCurrentHand, kLastHand, kCurrentSession, kAllSessions})
+    for (int seat = 0; seat <= kSeats; ++seat) CompareSlot(pair, scope, seat);
+  for (int item = 0; item < kRollItems; ++item) {
+    pair.Same("RollsSinceLast", 0, item, m.RollsSinceLast[item], RollsSinceLast(s, item));
+    for (int gap = 0; gap < kGapCells; ++gap)
+      pair.Same("RollGapCounts", item, gap, m.RollGapCounts[item][gap], s.RollGapCounts[item][gap]);
+  }
+  for (int seat = 1; seat <= kSeats; ++seat)
+    pair.Same("BankrollRollSum", seat, 0, m.BankrollRollSum[seat], s.BankrollRollSum[seat]);
+  pair.Same("HandComeoutRolls", 0, 0, m.HandComeoutRolls, s.HandComeoutRolls);
+  pair.Same("HandPasses", 0, 0, m.HandPasses, s.HandPasses);
+  pair.Same("HandMisses", 0, 0, m.HandMisses, s.HandMisses);
+}
+
+// ---------------------------------------------------------------- commands on both sides
+
+void ChooseHandling(Pair& pair, int seat) {
+  Handling& h = pair.game->table.handling[seat];
+  RulesModel& m = *pair.m;
+  static const int values[] = {1, 2, 3, 5, 10, 25, 50, 150};
+  m.WinHandling[seat] = h.WinHandling = pair.Pick(0, 7);
+  m.LoseHandling[seat] = h.LoseHandling = pair.Pick(0, 7);
+  m.ProperOddsMode[seat] = h.ProperOddsMode = pair.Chance(75) ? 0 : pair.Pick(1, 2);
+  m.AutoTakeOdds[seat] = h.AutoTakeOdds = pair.Chance(40);
+  m.AutoLayOdds[seat] = h.AutoLayOdds = pair.Chance(40);
+  m.AutoDownPlace[seat] = h.AutoDownPlace = pair.Chance(30);
+  m.AutoPassDice[seat] = h.AutoPassDice = pair.Chance(20);
+  for (int slot = 4; slot <= 7; ++slot) {
+    m.AdjustKind[seat][slot] = h.AdjustKind[slot] = pair.Pick(0, 3);
+    m.AdjustUnit[seat][slot] = h.AdjustUnit[slot] = pair.Pick(0, 4);
+    m.AdjustValue[seat][slot] = h.AdjustValue[slot] = Currency::Dollars(pair.OneOf(values));
+  }
+  const int flips = pair.Chance(50) ? 0 : pair.Pick(1, 20);
+  for (int i = 0; i < flips; ++i) {
+    const int bet = pair.Pick(1, kBets);
+    const bool works = pair.Chance(50);
+    pair.game->table.BetDefaultWorking[seat].Set(bet, works);
+    m.BetDefaultWorking[seat][bet] = works ? 1 : 0;
+  }
+  pair.Note("handling of seat " + std::to_string(seat) + ": win " + std::to_string(h.WinHandling) +
+            ", loss " + std::to_string(h.LoseHandling) + ", proper " + std::to_string(h.ProperOddsMode));
+}
+
+int PickSeat(Pair& pair) {
+  int seats[kSeats];
+  int count = 0;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (pair.m->Occupied[seat]) seats[count++] = seat;
+  return count == 0 ? 0 : seats[pair.Pick(0, count - 1)];
+}
+
+void Join(Pair& pair, int seat, const Profile& profile) {
+  const Currency bankroll = Units(pair, profile.shortMoney ? pair.Pick(0, 300) : pair.Pick(500, 20'000));
+  const bool negative = !profile.shortMoney && pair.Chance(30);
+  pair.Note("seat " + std::to_string(seat) + " joins with " + PlainMoney(bankroll));
+  std::string error;
+  ASSERT_TRUE(JoinPlayer(*pair.game, seat, "Zebedee" + std::string(1, static_cast<char>('A' + seat)),
+                         bankroll, error))
+      << error;
+  model::AddPlayer(*pair.m, seat, bankroll);
+  pair.game->table.AllowNegativeBankroll[seat] = negative;
+  pair.m->AllowNegativeBankroll[seat] = negative;
+  ChooseHandling(pair, seat);
+}
+
+// Bets that a player at the rail makes often, among all the others.
+int PickBet(Pair& pair, int seat) {
+  if (pair.Chance(15)) {
+    static const int odds[] = {13, 14, 15, 16, 17, 18, 25, 26, 27, 28, 29, 30};
+    const int bet = pair.OneOf(odds);
+    if (pair.m->BetAmount[seat][FlatBetOf(bet)] > kZero) return bet;
+  }
+  if (pair.Chance(60)) return pair.Pick(1, kBets);
+  static const int often[] = {43, 43, 45, 45, 46, 48, 48, 48, 44, 47, 33,
+                              34, 39, 1,  6,  84, 85, 86, 87, 91, 92, 93};
+  return pair.OneOf(often);
+}
+
+Currency PickRequest(Pair& pair, int seat, int bet) {
+  const Currency amount = pair.m->BetAmount[seat][bet];
+  switch (pair.Pick(0, 9)) {
+    case 0:
+      return -amount;
+    case 1:
+      return -Units(pair, pair.Pick(1, 20));
+    case 2:
+      return Units(pair, pair.Pick(0, 3000));
+    case 3:
+      return Currency::FromRaw(pair.Pick(-200'000, 400'000));  // no whole units
+    case 4:
+      return kZero;
+    default:
+      return Units(pair, pair.Pick(1, 30));
+  }
+}
+
+void Bet(Pair& pair, int seat) {
+  const int bet = PickBet(pair, seat);
+  const Currency request = PickRequest(pair, seat, bet);
+  const bool plain = pair.Chance(20);
+  pair.Note((plain ? "change seat " : "place seat ") + std::to_string(seat) + " bet " + std::to_string(bet) +
+            " by " + PlainMoney(request) + " on " + PlainMoney(pair.m->BetAmount[seat][bet]));
+  const Currency actual =
+      plain ? ChangeBet(*pair.game, seat, bet, request) : PlaceBet(*pair.game, seat, bet, request);
+  const Currency expected =
+      plain ? model::ChangeBet(*pair.m, seat, bet, request) : model::PlaceBet(*pair.m, seat, bet, request);
+  pair.Same("change allowed", seat, bet, expected, actual);
+}
+
+void Call(Pair& pair, int seat) {
+  const int bet = pair.Pick(1, kBets);
+  const bool on = pair.Chance(50);
+  pair.Note("call seat " + std::to_string(seat) + " bet " + std::to_string(bet) + (on ? " on" : " off"));
+  const bool actual = CallBet(*pair.game, seat, bet, on);
+  pair.Same("call allowed", seat, bet, model::CallBet(*pair.m, seat, bet, on), actual);
+}
+
+void Uncall(Pair& pair, int seat) {
+  const int bet = pair.Pick(1, kBets);
+  pair.Note("button off seat " + std::to_string(seat) + " bet " + std::to_string(bet));
+  RemoveCall(*pair.game, seat, bet);
+  model::RemoveCall(*pair.m, seat, bet);
+}
+
+void Buy(Pair& pair, int seat) {
+  const int bet = pair.Pick(31, 36);
+  pair.Note("buy seat " + std::to_string(seat) + " bet " + std::to_string(bet));
+  BuyPlaceBet(*pair.game, seat, bet);
+  model::BuyPlaceBet(*pair.m, seat, bet);
+}
+
+void FullOdds(Pair& pair, int seat) {
+  static const int odds[] = {44, 47, 13, 14, 15, 16, 17, 18, 25, 26, 27, 28, 29, 30};
+  const int bet = pair.OneOf(odds);
+  pair.Note("full odds seat " + std::to_string(seat) + " bet " + std::to_string(bet));
+  TakeFullOdds(*pair.game, seat, bet);
+  model::TakeFullOdds(*pair.m, seat, bet);
+}
+
+void UseAtm(Pair& pair, int seat) {
+  const bool deposit = pair.Chance(30);
+  const Currency amount = Units(pair, pair.Pick(0, 1000));
+  pair.Note("atm seat " + std::to_string(seat) + (deposit ? " deposit " : " withdraw ") + PlainMoney(amount));
+  const Currency actual = AtmTransaction(*pair.game, seat, deposit, amount);
+  pair.Same("atm allowed", seat, 0, model::AtmTransaction(*pair.m, seat, deposit, amount), actual);
+}
+
+void ComeOrGo(Pair& pair, const Profile& profile) {
+  const int seat = pair.Pick(1, kSeats);
+  if (!pair.m->Occupied[seat]) return Join(pair, seat, profile);
+  pair.Note("seat " + std::to_string(seat) + " leaves");
+  LeaveTable(*pair.game, seat);
+  model::RemovePlayer(*pair.m, seat);
+}
+
+void ChangeVig(Pair& pair) {
+  pair.Note("the vig's rules change");
+  ChooseVig(pair);
+  RecomputeVig(*pair.game);
+  const Settings& s = pair.game->settings;
+  model::ChangeVigRules(
+      *pair.m, {s.LayVigRate, s.BuyVigRate, s.LayVigRound, s.BuyVigRound, s.LayVigUpFront, s.BuyVigUpFront});
+}
+
+void ChangeRules(Pair& pair) {
+  pair.Note("limits and rules change");
+  ChooseLimits(pair);
+  ChooseRules(pair);
+  CopySettings(*pair.game, *pair.m);
+}
+
+void RollBoth(Pair& pair) {
+  const int die1 = pair.Pick(1, 6);
+  const int die2 = pair.Pick(1, 6);
+  pair.Note("roll " + std::to_string(die1) + " " + std::to_string(die2) + " on point " +
+            std::to_string(pair.m->Point));
+  TableState& t = pair.game->table;
+  t.ManualDie1 = die1;
+  t.ManualDie2 = die2;
+  t.ManualRollPending = true;
+  const std::int64_t before = SessionRolls(pair.game->stats);
+  RollDice(*pair.game);
+  t.ManualRollPending = false;
+  const bool rolled = model::Roll(*pair.m, die1, die2);
+  pair.Same("rolls made", 0, 0, rolled ? 1 : 0, SessionRolls(pair.game->stats) - before);
+}
+
+// One command, chosen by the profile. Returns whether the dice were rolled.
+bool Step(Pair& pair, const Profile& profile) {
+  const int seat = PickSeat(pair);
+  if (seat == 0) {
+    Join(pair, pair.Pick(1, kSeats), profile);
+    return false;
+  }
+  if (pair.Chance(profile.rollPercent)) {
+    RollBoth(pair);
+    return true;
+  }
+  const int choice = pair.Pick(1, 1000);
+  if (choice <= 700) {
+    Bet(pair, seat);
+  } else if (choice <= 780) {
+    Call(pair, seat);
+  } else if (choice <= 800) {
+    Uncall(pair, seat);
+  } else if (choice <= 850) {
+    Buy(pair, seat);
+  } else if (choice <= 920) {
+    FullOdds(pair, seat);
+  } else if (choice <= 940) {
+    pair.Note("the dice are passed");
+    PassDice(*pair.game, kPassByUser);
+    model::PassDice(*pair.m, 1);
+  } else if (choice <= 960) {
+    UseAtm(pair, seat);
+  } else if (choice <= 980) {
+    ChooseHandling(pair, seat);
+  } else if (choice <= 988) {
+    if (profile.playersComeAndGo) ComeOrGo(pair, profile);
+  } else if (choice <= 995) {
+    if (profile.changesRules) ChangeRules(pair);
+  } else {
+    if (profile.changesRules) ChangeVig(pair);
+  }
+  return false;
+}
+
+// What the seat of a difference has chosen, and the rules of the table.
+std::string Circumstances(const Pair& pair) {
+  const int seat = pair.differentSeat;
+  const RulesModel& m = *pair.m;
+  std::ostringstream text;
+  text << "  seat " << seat << ": win " << m.WinHandling[seat] << ", loss " << m.LoseHandling[seat]
+       << ", proper " << m.ProperOddsMode[seat] << ", take " << m.AutoTakeOdds[seat] << ", lay "
+       << m.AutoLayOdds[seat] << ", down " << m.AutoDownPlace[seat] << ", negative "
+       << m.AllowNegativeBankroll[seat] << ", bankroll " << PlainMoney(m.BankrollCurrent[seat])
+       << ", on table " << PlainMoney(m.OnTableAmount[seat]) << ", press unit " << PlainMoney(m.PressUnit)
+       << "\n  slots";
+  for (int slot = 4; slot <= 7; ++slot)
+    text << " (" << m.AdjustKind[seat][slot] << ", " << PlainMoney(m.AdjustValue[seat][slot]) << ", "
+         << m.AdjustUnit[seat][slot] << ")";
+  text << "\n  unit " << PlainMoney(m.CheckValue[1]) << ", minimum " << PlainMoney(m.MinBetMain) << " and "
+       << PlainMoney(m.MinBetProp) << ", maximum " << PlainMoney(m.MaxBet) << ", prop payoff "
+       << PlainMoney(m.MaxPropBetPayoff) << ", odds " << PlainMoney(m.MaxOddsBet) << " by method "
+       << m.OddsCalcMethod << " (" << PlainMoney(m.OddsAllowed410) << ", " << PlainMoney(m.OddsAllowed59)
+       << ", " << PlainMoney(m.OddsAllowed68) << "), put " << m.AllowPutBets << ", bar " << m.BarNumber
+       << ", vig lay " << PlainMoney(m.LayVigRate) << "/" << m.LayVigRound << "/" << m.LayVigUpFront
+       << ", buy " << PlainMoney(m.BuyVigRate) << "/" << m.BuyVigRound << "/" << m.BuyVigUpFront << "\n";
+  for (const model::Decision& decision : m.Decisions)
+    if (decision.seat == seat)
+      text << "  decided: bet " << decision.bet << " from " << PlainMoney(m.BetBeforeRoll[seat][decision.bet])
+           << " net " << PlainMoney(decision.net) << " now " << PlainMoney(m.BetAmount[seat][decision.bet])
+           << " at " << PlainMoney(m.PayoffTable[decision.bet].PayTo) << " to "
+           << PlainMoney(m.PayoffTable[decision.bet].PayPer) << "\n";
+  return text.str();
+}
+
+constexpr int kStepsPerGame = 3000;
+constexpr long kEnoughRolls = 150'000;
+
+// How often each bet was won and lost.
+struct Tally {
+  long won[kBets + 1] = {};
+  long lost[kBets + 1] = {};
+};
+
+// Plays the game of a seed; returns the rolls made, or -1 at a difference.
+int PlayGame(const Profile& profile, std::uint64_t seed, Tally& tally) {
+  Pair pair;
+  pair.random.seed(seed);
+  SetUp(pair, profile);
+  const int players = pair.Pick(1, kSeats);
+  for (int i = 0; i < players; ++i) {
+    const int seat = pair.Pick(1, kSeats);
+    if (!pair.m->Occupied[seat]) Join(pair, seat, profile);
+  }
+  int rolls = 0;
+  for (pair.step = 0; pair.step < kStepsPerGame && pair.differenceCount == 0; ++pair.step) {
+    const bool rolled = Step(pair, profile);
+    rolls += rolled ? 1 : 0;
+    if (rolled)
+      for (const model::Decision& decision : pair.m->Decisions)
+        ++(decision.net > kZero ? tally.won : tally.lost)[decision.bet];
+    CompareTable(pair);
+    if (pair.step % 250 == 249) CompareStatistics(pair);
+  }
+  if (pair.differenceCount == 0) return rolls;
+  std::ostringstream last;
+  for (const std::string& command : pair.commands) last << "  " << command << "\n";
+  ADD_FAILURE() << profile.name << ", game of seed " << seed << ", step " << pair.step - 1 << ", "
+                << pair.differenceCount << " differences:\n"
+                << pair.differences.str() << Circumstances(pair) << "last commands:\n"
+                << last.str();
+  return -1;
+}
+
+void PlayGames(const Profile& profile, std::uint64_t firstSeed) {
+  Tally tally;
+  const char* rollsText = std::getenv("TESSARYN_MODEL_ROLLS");
+  const long wanted = rollsText != nullptr ? std::atol(rollsText) : kEnoughRolls;
+  if (const char* seedText = std::getenv("TESSARYN_MODEL_SEED")) {
+    PlayGame(profile, std::strtoull(seedText, nullptr, 10), tally);
+    return;
+  }
+  long rolls = 0;
+  for (std::uint64_t seed = firstSeed; rolls < wanted; ++seed) {
+    const int played = PlayGame(profile, seed, tally);
+    if (played < 0) return;
+    rolls += played;
+  }
+  // Games that never decide a bet would compare nothing; a shortened run can't decide the rarest.
+  if (wanted < kEnoughRolls) return;
+  for (int bet = 1; bet <= kBets; ++bet) {
+    EXPECT_GT(tally.lost[bet], 0) << BetName(bet);
+    EXPECT_GT(tally.won[bet], 0) << BetName(bet);
+  }
+}
+
+TEST(ModelRandomGames, TableByTheBook) {
+  PlayGames({"by the book", false, false, false, false, false, 40}, 1'000'000);
+}
+
+TEST(ModelRandomGames, OddUnitsAndPayoffs) {
+  PlayGames({"odd units and payoffs", true, true, false, false, false, 40}, 2'000'000);
+}
+
+TEST(ModelRandomGames, RulesThatChangeUnderBets) {
+  PlayGames({"rules that change", true, false, true, true, false, 40}, 3'000'000);
+}
+
+TEST(ModelRandomGames, ShortMoney) {
+  PlayGames({"short money", false, true, true, true, true, 40}, 4'000'000);
+}
+
+TEST(ModelRandomGames, LongHands) {
+  PlayGames({"long runs of rolls", false, false, false, true, false, 90}, 5'000'000);
+}
+
+}  // namespace
+}  // namespace tessaryn
