@@ -8,10 +8,11 @@
 #include <QTimer>
 
 #include "play/auto_roll.h"
-#include "rules/bet_rules.h"
-#include "state/game.h"
 #include "play/players.h"
+#include "play/start_up.h"
+#include "rules/bet_rules.h"
 #include "shell/frame/main_window.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

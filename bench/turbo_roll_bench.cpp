@@ -4,13 +4,16 @@
 
 #include <filesystem>
 
-#include "play/script_session.h"
-#include "rules/advantage.h"
-#include "play/setting_table.h"
+#include "dice/generators.h"
 #include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/script_session.h"
+#include "play/setting_table.h"
+#include "play/start_up.h"
+#include "rules/advantage.h"
 #include "rules/bet_rules.h"
 #include "state/game.h"
-#include "play/players.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

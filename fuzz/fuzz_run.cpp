@@ -9,14 +9,15 @@
 #include <memory>
 #include <string_view>
 
-#include "autobet/run/interpreter.h"
 #include "autobet/language/script_files.h"
-#include "play/script_session.h"
-#include "rules/consistency.h"
-#include "state/game.h"
+#include "autobet/run/interpreter.h"
+#include "play/auto_roll.h"
 #include "play/players.h"
-#include "play/roll_cycle.h"
+#include "play/script_session.h"
+#include "play/start_up.h"
+#include "rules/consistency.h"
 #include "rules/session.h"
+#include "state/game.h"
 
 namespace {
 

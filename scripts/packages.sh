@@ -41,6 +41,6 @@ build_preset() {
   fi
   # With these ccache knows precompiled headers again.
   export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
-  cmake --preset "$preset" >/dev/null
+  cmake --preset "$preset" ${CI:+-DTESSARYN_WERROR=ON} >/dev/null  # warnings stop the build where nobody reads them
   cmake --build --preset "$preset" ${1:+--target "$@"}
 }

@@ -9,8 +9,8 @@
 #include <ctime>
 #include <filesystem>
 
-#include "dice/roll_file.h"
 #include "base/record_file.h"
+#include "base/work_files.h"
 
 namespace tessaryn {
 namespace {

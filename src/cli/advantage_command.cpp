@@ -1,13 +1,13 @@
 #include <cstdio>
 #include <memory>
 
+#include "base/bet_catalogue.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "rules/advantage.h"
 #include "rules/bets_together.h"
-#include "base/bet_catalogue.h"
 
 namespace tessaryn::cli {
 namespace {

@@ -3,10 +3,10 @@
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/script_files.h"
-#include "play/script_session.h"
+#include "base/interrupts.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
-#include "base/interrupts.h"
+#include "play/script_session.h"
 
 namespace tessaryn::cli {
 namespace {

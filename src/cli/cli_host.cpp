@@ -4,7 +4,7 @@
 #include <ctime>
 #include <thread>
 
-#include "cli/script_commands.h"
+#include "cli/script_report.h"
 #include "play/auto_roll.h"
 
 namespace tessaryn::cli {

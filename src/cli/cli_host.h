@@ -7,9 +7,9 @@
 #include <functional>
 #include <string>
 
-#include "state/game.h"
 #include "base/interrupts.h"
 #include "base/program_folders.h"
+#include "state/game.h"
 
 namespace tessaryn::cli {
 

@@ -7,7 +7,7 @@
 namespace tessaryn::cli {
 
 inline constexpr int kDone = 0;
-inline constexpr int kBad = 1;       // what was asked about is bad
+inline constexpr int kBad = 1;  // what was asked about is bad
 inline constexpr int kUsage = 2;
 
 void AddRunCommand(CLI::App& program, int& exitCode);

@@ -4,6 +4,8 @@
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/table_setup.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
 
 namespace tessaryn::cli {
 namespace {

@@ -7,9 +7,9 @@
 #include <cstring>
 #include <string>
 
+#include "base/record_file.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
-#include "base/record_file.h"
 
 namespace tessaryn::cli {
 

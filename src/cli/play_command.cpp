@@ -7,6 +7,7 @@
 #include "cli/play_session.h"
 #include "cli/play_terminal.h"
 #include "cli/script_commands.h"
+#include "cli/script_report.h"
 #include "play/table_files.h"
 
 namespace tessaryn::cli {

@@ -7,19 +7,23 @@
 #include <cstdio>
 #include <iterator>
 
-#include "play/script_session.h"
+#include "base/bet_catalogue.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
-#include "play/setting_table.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
 #include "play/auto_roll.h"
-#include "rules/seed_rng.h"
-#include "rules/bankroll.h"
-#include "base/bet_catalogue.h"
-#include "rules/bet_rules.h"
 #include "play/players.h"
-#include "play/roll_cycle.h"
+#include "play/script_session.h"
+#include "play/setting_table.h"
+#include "rules/bankroll.h"
+#include "rules/bet_rules.h"
+#include "rules/seed_rng.h"
 #include "rules/session.h"
+#include "rules/shooter.h"
 #include "stats/bankroll_graph.h"
+#include "stats/events_log.h"
 
 namespace tessaryn::cli {
 

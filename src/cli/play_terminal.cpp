@@ -13,20 +13,20 @@
 #include <iostream>
 
 #include "autobet/language/characters.h"
-#include "play/hot_keys.h"
-#include "autobet/run/interpreter.h"
-#include "play/script_session.h"
 #include "autobet/language/script_text.h"
+#include "autobet/run/interpreter.h"
+#include "base/bet_catalogue.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
+#include "play/hot_keys.h"
+#include "play/script_session.h"
 #include "play/setting_table.h"
-#include "base/bet_catalogue.h"
-#include "rules/bet_rules.h"
-#include "rules/handling.h"
 #include "play/table_files.h"
+#include "rules/bet_rules.h"
 #include "rules/check_stacks.h"
+#include "rules/handling.h"
 
 namespace tessaryn::cli {
 namespace {

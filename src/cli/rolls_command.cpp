@@ -7,13 +7,14 @@
 #include <filesystem>
 #include <memory>
 
+#include "base/folder_lock.h"
+#include "base/record_file.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
 #include "cli/script_commands.h"
+#include "cli/script_report.h"
 #include "cli/table_json.h"
 #include "dice/roll_file.h"
-#include "base/folder_lock.h"
-#include "base/record_file.h"
 
 namespace tessaryn::cli {
 namespace {

@@ -6,14 +6,14 @@
 #include <cstdio>
 #include <memory>
 
-#include "play/script_session.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
-#include "cli/script_report.h"
 #include "cli/script_commands.h"
+#include "cli/script_report.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "play/auto_roll.h"
+#include "play/script_session.h"
 #include "play/table_files.h"
 
 namespace tessaryn::cli {

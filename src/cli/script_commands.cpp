@@ -2,11 +2,11 @@
 
 #include <cstdio>
 
-#include "play/hot_keys.h"
 #include "autobet/run/interpreter.h"
-#include "play/script_session.h"
 #include "cli/commands.h"
 #include "cli/script_report.h"
+#include "play/hot_keys.h"
+#include "play/script_session.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -146,56 +146,6 @@ bool DoScriptCommand(Game& game, PlayHost& host, const std::vector<std::string>&
     return true;
   }
   return false;
-}
-
-bool LoadScripts(Game& game, const std::vector<std::string>& files,
-                 const std::vector<std::string>& outputFolders) {
-  game.autobet.AllowedOutputFolders = outputFolders;
-  int seat = 0;
-  for (const std::string& file : files) {
-    std::string error;
-    if (++seat > kSeats || !IsOccupied(game.table, seat)) {
-      Fail("--script " + file + ": there is no player " + std::to_string(seat) + " to play it");
-      return false;
-    }
-    if (!OpenScript(game, seat, file, error)) {
-      Fail("--script " + error);
-      return false;
-    }
-    const ScriptCheck check = CheckScript(game, seat);
-    if (!check.ok && !game.autobet.Scripts[seat].ScriptLines.empty() && check.diagnostic.Failed()) {
-      std::fputs(CheckReport(file, game.autobet.Scripts[seat].ScriptLines, check).c_str(), stderr);
-      return false;
-    }
-    SetScriptActive(game, seat, true);
-  }
-  return true;
-}
-
-bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
-  for (const std::string& permit : permits) {
-    const auto equals = permit.find('=');
-    int seat = 0;
-    std::string problem = equals == std::string::npos ? "expected SEAT=PERMISSION,..."
-                                                      : ReadSeat(game, permit.substr(0, equals), seat);
-    for (auto at = equals; problem.empty() && at != std::string::npos;) {
-      const auto comma = permit.find(',', at + 1);
-      problem = Permit(game, seat, permit.substr(at + 1, comma - at - 1), true);
-      at = comma;
-    }
-    if (!problem.empty()) {
-      Fail("--permit " + permit + ": " + problem);
-      return false;
-    }
-  }
-  return true;
-}
-
-std::string AsLines(const std::string& text) {
-  std::string lines = text;
-  for (char& c : lines)
-    if (c == '\r') c = '\n';
-  return lines;
 }
 
 }  // namespace tessaryn::cli

@@ -6,8 +6,6 @@
 
 #include "autobet/language/characters.h"
 #include "cli/commands.h"
-#include "cli/script_commands.h"
-
 namespace tessaryn::cli {
 namespace {
 
@@ -131,6 +129,13 @@ std::string TokenList(const CompiledScript& script) {
     text += std::to_string(script.tokens[i].kind) + " " + std::string(value, end) + "\n";
   }
   return text;
+}
+
+std::string AsLines(const std::string& text) {
+  std::string lines = text;
+  for (char& c : lines)
+    if (c == '\r') c = '\n';
+  return lines;
 }
 
 }  // namespace tessaryn::cli

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "play/script_session.h"
 #include "cli/table_json.h"
+#include "play/script_session.h"
 
 namespace tessaryn::cli {
 
@@ -27,5 +27,8 @@ void PrintErrors(const Game& game);
 bool EveryScriptCouldAct(const Game& game);
 // The compiled records, one "kind value" a line.
 std::string TokenList(const CompiledScript& script);
+
+// A message of the table with its line ends as lines of a terminal.
+std::string AsLines(const std::string& text);
 
 }  // namespace tessaryn::cli

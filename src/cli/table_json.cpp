@@ -1,7 +1,9 @@
 #include "cli/table_json.h"
 
 #include "base/bet_catalogue.h"
+#include "dice/roll_file.h"
 #include "rules/bet_rules.h"
+#include "stats/statistics.h"
 
 namespace tessaryn::cli {
 

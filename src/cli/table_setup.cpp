@@ -7,14 +7,19 @@
 #include <charconv>
 #include <cstdio>
 
+#include "base/record_file.h"
 #include "cli/commands.h"
-#include "cli/script_commands.h"
-#include "rules/payoffs.h"
+#include "cli/script_report.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
+#include "play/players.h"
 #include "play/setting_table.h"
 #include "play/settings_file.h"
+#include "play/start_up.h"
+#include "rules/payoffs.h"
 #include "rules/seed_rng.h"
-#include "play/players.h"
-#include "base/record_file.h"
+#include "stats/events_log.h"
 
 namespace tessaryn::cli {
 
@@ -246,6 +251,51 @@ bool TakeDataFolder(Game& game, const TableOptions& options) {
   if (!options.writes) return true;
   const std::string told = ClaimDataFolder(game.folderLock, game.ownFolder, "tessaryn-cli");
   if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());
+  return true;
+}
+
+// Gives the k-th file to the k-th player, and activates it. False, with the reason told on standard error,
+// when a file can't be read or its script has an error.
+bool LoadScripts(Game& game, const std::vector<std::string>& files,
+                 const std::vector<std::string>& outputFolders) {
+  game.autobet.AllowedOutputFolders = outputFolders;
+  int seat = 0;
+  for (const std::string& file : files) {
+    std::string error;
+    if (++seat > kSeats || !IsOccupied(game.table, seat)) {
+      Fail("--script " + file + ": there is no player " + std::to_string(seat) + " to play it");
+      return false;
+    }
+    if (!OpenScript(game, seat, file, error)) {
+      Fail("--script " + error);
+      return false;
+    }
+    const ScriptCheck check = CheckScript(game, seat);
+    if (!check.ok && !game.autobet.Scripts[seat].ScriptLines.empty() && check.diagnostic.Failed()) {
+      std::fputs(CheckReport(file, game.autobet.Scripts[seat].ScriptLines, check).c_str(), stderr);
+      return false;
+    }
+    SetScriptActive(game, seat, true);
+  }
+  return true;
+}
+
+bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
+  for (const std::string& permit : permits) {
+    const auto equals = permit.find('=');
+    int seat = 0;
+    std::string problem = equals == std::string::npos ? "expected SEAT=PERMISSION,..."
+                                                      : ReadSeat(game, permit.substr(0, equals), seat);
+    for (auto at = equals; problem.empty() && at != std::string::npos;) {
+      const auto comma = permit.find(',', at + 1);
+      problem = Permit(game, seat, permit.substr(at + 1, comma - at - 1), true);
+      at = comma;
+    }
+    if (!problem.empty()) {
+      Fail("--permit " + permit + ": " + problem);
+      return false;
+    }
+  }
   return true;
 }
 

@@ -1,11 +1,10 @@
 // Options that bring a table into shape before it plays: shared by run and play.
 #pragma once
 
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 #include <vector>
-
-#include <CLI/CLI.hpp>
 
 #include "cli/cli_host.h"
 #include "state/game.h"

@@ -4,8 +4,9 @@
 #include <cmath>
 #include <cstdio>
 
-#include "base/roll_items.h"
 #include "base/record_file.h"
+#include "base/roll_items.h"
+#include "dice/generators.h"
 
 namespace tessaryn {
 namespace {

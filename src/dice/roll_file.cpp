@@ -11,6 +11,7 @@
 
 #include "base/interrupts.h"
 #include "base/record_file.h"
+#include "dice/generators.h"
 
 namespace tessaryn {
 namespace {

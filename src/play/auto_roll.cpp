@@ -3,9 +3,13 @@
 #include <algorithm>
 #include <cmath>
 
-#include "state/game.h"
+#include "dice/roll_file.h"
 #include "play/roll_cycle.h"
 #include "play/table_files.h"
+#include "state/game.h"
+#include "state/run_stop.h"
+#include "stats/events_log.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
@@ -85,22 +89,30 @@ void WaitForNextRoll(Game& game) {
            game.host->TickMilliseconds() - table.LastActivityTick < delay());
 }
 
+// What stands between the end of a roll and the next one. False when the run is over.
+bool GoRoundAgain(Game& game) {
+  TableState& table = game.table;
+  if (table.TurboRollActive) return GoRoundTurbo(game);
+  FlushTableFiles(game);
+  game.host->Changed(game, Change::kEverything);
+  if (!table.AutoRollActive) return false;
+  if (AutoStopDue(game)) {
+    StopRun(game, "");
+    ShowMessage(game, "Auto-Roll Stopped", "Stopped by Auto-Stop");
+    return false;
+  }
+  WaitForNextRoll(game);
+  return table.AutoRollActive;
+}
+
 }  // namespace
 
-void StopRun(Game& game, const std::string& reason) {
-  TableState& table = game.table;
-  if (!table.AutoRollActive) {
-    if (!reason.empty()) table.StopReason = reason;
-    return;
+void RollDice(Game& game) {
+  if (game.table.RollInProgress || !ReadyToRoll(game)) return;
+  game.table.RollInProgress = true;
+  while (MakeRoll(game) && GoRoundAgain(game)) {
   }
-  table.AutoRollActive = false;
-  const bool turbo = table.TurboRollActive;
-  table.TurboRollActive = false;
-  if (!reason.empty()) table.StopReason = reason;
-  game.host->Changed(game, Change::kRun);
-  if (!turbo) return;
-  if (!table.StopReason.empty()) ShowMessage(game, kRunStoppedTitle, table.StopReason);
-  game.host->Changed(game, Change::kEverything);
+  CloseRolling(game);
 }
 
 void ToggleAutoRoll(Game& game) {
@@ -117,21 +129,6 @@ void ToggleAutoRoll(Game& game) {
   RollDice(game);
   // A roll that was not even begun leaves no run behind.
   if (table.AutoRollActive && !table.RollInProgress) StopRun(game, "");
-}
-
-bool GoRoundAgain(Game& game) {
-  TableState& table = game.table;
-  if (table.TurboRollActive) return GoRoundTurbo(game);
-  FlushTableFiles(game);
-  game.host->Changed(game, Change::kEverything);
-  if (!table.AutoRollActive) return false;
-  if (AutoStopDue(game)) {
-    StopRun(game, "");
-    ShowMessage(game, "Auto-Roll Stopped", "Stopped by Auto-Stop");
-    return false;
-  }
-  WaitForNextRoll(game);
-  return table.AutoRollActive;
 }
 
 void SetThrottle(Game& game, int position) {

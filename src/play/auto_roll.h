@@ -13,11 +13,12 @@ struct Game;
 inline constexpr int kThrottleAutoRoll = 12;
 inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
 
+// Makes one roll and settles everything that hangs on it; in a run goes on until something stops it. Does
+// nothing while a roll is in progress.
+void RollDice(Game& game);
 // Starts a run, or stops the one that is on. A start does not return until the run ends. With a script that
 // is being stepped through it asks whether to interrupt that instead.
 void ToggleAutoRoll(Game& game);
-// Ends the run that is on, with its reason shown; nothing without one.
-void StopRun(Game& game, const std::string& reason);
 // A position 0 to 12, also in the middle of a run. Others become 0.
 void SetThrottle(Game& game, int position);
 // The two setting dialogs, and their rules: 0 to 300 seconds; whole rolls, not negative.
@@ -30,8 +31,5 @@ Currency ClampAutoStop(Currency rolls);
 bool AskBeforeCommand(Game& game);
 // A key or mouse press on the table: the wait of an Auto-Roll starts again.
 void NoteActivity(Game& game);
-
-// For the roll cycle: what stands between the end of a roll and the next one. False when the run is over.
-bool GoRoundAgain(Game& game);
 
 }  // namespace tessaryn

@@ -5,10 +5,10 @@
 #include <cctype>
 
 #include "autobet/compile/compile_autobets.h"
-#include "autobet/run/interpreter.h"
 #include "autobet/language/script_files.h"
-#include "state/game.h"
+#include "autobet/run/interpreter.h"
 #include "base/record_file.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

@@ -9,11 +9,6 @@ namespace tessaryn {
 
 struct Game;
 
-enum PassReason : int { kPassAfterSevenOut = 0, kPassByUser = 1, kPassShooterLeft = 2 };
-
-// The dice go on, downwards. A user's call says why they can't.
-void PassDice(Game& game, int reason);
-
 // With its questions: whether, the name, the bankroll. False when given up.
 bool AddPlayer(Game& game, int seat);
 // Without questions. The seat must be open, the name fit for a player and the bankroll within the limit;

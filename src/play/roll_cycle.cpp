@@ -4,15 +4,21 @@
 #include <cstring>
 
 #include "autobet/run/interpreter.h"
-#include "play/auto_roll.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
+#include "play/table_files.h"
 #include "rules/bankroll.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
-#include "state/game.h"
-#include "play/players.h"
 #include "rules/settlement.h"
-#include "play/table_files.h"
+#include "rules/shooter.h"
+#include "state/game.h"
+#include "state/run_stop.h"
+#include "stats/bankroll_graph.h"
+#include "stats/events_log.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
@@ -368,7 +374,7 @@ const char* WinsLossesHeading(const EventsLog& log) {
 }
 
 // From the shooter's bet to the fallen dice. False: nothing is rolled, and no bet has ridden.
-bool MakeRoll(Game& game) {
+bool BeginRoll(Game& game) {
   TableState& table = game.table;
   if (!table.StopReason.empty()) table.StopReason.clear();
   DiceSource source = DiceSource::kGenerator;
@@ -410,21 +416,22 @@ void AfterDice(Game& game) {
 
 }  // namespace
 
-void RollDice(Game& game) {
-  TableState& table = game.table;
-  if (table.RollInProgress) return;
+bool ReadyToRoll(Game& game) {
   ReplaceMissingGenerator(game.generators);
-  if (!BankrollsWithinLimit(game) || !ScriptsReady(game)) return;
-  table.RollInProgress = true;
-  do {
-    if (!MakeRoll(game)) break;
-    AfterDice(game);
-    if (!BankrollsWithinLimit(game)) break;
-  } while (GoRoundAgain(game));
-  table.RollInProgress = false;
+  return BankrollsWithinLimit(game) && ScriptsReady(game);
+}
+
+bool MakeRoll(Game& game) {
+  if (!BeginRoll(game)) return false;
+  AfterDice(game);
+  return BankrollsWithinLimit(game);
+}
+
+void CloseRolling(Game& game) {
+  game.table.RollInProgress = false;
   FlushTableFiles(game);
   game.host->Changed(game, Change::kEverything);
-  if (table.Point == 0) Speak(game, Sound::kComeOut);
+  if (game.table.Point == 0) Speak(game, Sound::kComeOut);
 }
 
 }  // namespace tessaryn

@@ -1,12 +1,17 @@
-// One roll of the dice, from the shooter's bet to the next bets on the table; and the runs that go round it.
+// One roll of the dice, from the shooter's bet to the next bets on the table. The runs that go round it are
+// in auto_roll.h.
 #pragma once
 
 namespace tessaryn {
 
 struct Game;
 
-// Makes one roll and settles everything that hangs on it. While AutoRollActive is set it goes on until
-// something stops the run. Does nothing while a roll is in progress.
-void RollDice(Game& game);
+// Whether rolling may begin: bankrolls within their limit, scripts that compile.
+bool ReadyToRoll(Game& game);
+// Makes one roll and settles everything that hangs on it. False when nothing was rolled, or when nothing more
+// may be. Requires ReadyToRoll.
+bool MakeRoll(Game& game);
+// After the last roll: files are brought up to date, and what is shown.
+void CloseRolling(Game& game);
 
 }  // namespace tessaryn

@@ -4,10 +4,10 @@
 #include <utility>
 
 #include "autobet/compile/compile_autobets.h"
-#include "autobet/run/interpreter.h"
 #include "autobet/language/script_files.h"
 #include "autobet/language/script_text.h"
 #include "autobet/language/vocabulary.h"
+#include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
 #include "state/game.h"
 

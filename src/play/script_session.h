@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "state/script_types.h"
 #include "base/money.h"
+#include "state/script_types.h"
 
 namespace tessaryn {
 

@@ -7,13 +7,17 @@
 #include <iterator>
 #include <optional>
 
-#include "rules/configuration.h"
-#include "play/auto_roll.h"
+#include "autobet/run/operands.h"
 #include "base/bet_catalogue.h"
+#include "dice/generators.h"
+#include "play/auto_roll.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
+#include "rules/configuration.h"
 #include "rules/consistency.h"
+#include "rules/payoffs.h"
 #include "state/game.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

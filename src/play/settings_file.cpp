@@ -3,8 +3,8 @@
 #include <charconv>
 
 #include "base/bet_catalogue.h"
-#include "state/game.h"
 #include "base/record_file.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

@@ -3,9 +3,11 @@
 #include <cerrno>
 #include <cstdio>
 
-#include "play/auto_roll.h"
-#include "state/game.h"
 #include "base/record_file.h"
+#include "dice/roll_file.h"
+#include "state/game.h"
+#include "state/run_stop.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

@@ -7,8 +7,8 @@
 #include <limits>
 #include <span>
 
-#include "rules/bet_results.h"
 #include "base/bet_catalogue.h"
+#include "rules/bet_results.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -352,7 +352,8 @@ double EvPerHour(const Game& game, const Advantage& advantage, Currency amount) 
 }
 
 std::string TimePerDecisionText(const Game& game, const Advantage& advantage) {
-  const double tenths = std::round(advantage.rollsPerDecision / game.settings.SimRollRate.ToDouble() * 36'000);
+  const double tenths =
+      std::round(advantage.rollsPerDecision / game.settings.SimRollRate.ToDouble() * 36'000);
   const double minutes = std::floor(tenths / 600);
   char text[64];
   std::snprintf(text, sizeof text, "%02.0f:%04.1f", minutes, (tenths - minutes * 600) / 10);

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "play/auto_roll.h"
 #include "rules/consistency.h"
 #include "state/game.h"
+#include "state/run_stop.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

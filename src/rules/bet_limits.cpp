@@ -272,19 +272,11 @@ Currency LayVigFor(const Game& game, int bet, Currency amount) {
   return RoundVig(game, Multiply(game.settings.LayVigRate, win), game.settings.LayVigRound);
 }
 
-bool VigUpFront(const Game& game, int bet) {
-  return (IsLay(bet) && game.settings.LayVigUpFront) || (IsBuy(bet) && game.settings.BuyVigUpFront);
-}
-
 Currency VigFor(const Game& game, int bet, Currency amount) {
   if (amount <= kZero) return kZero;
   if (IsLay(bet)) return LayVigFor(game, bet, amount);
   if (IsBuy(bet)) return BuyVigFor(game, amount);
   return kZero;
-}
-
-Currency& VigHeld(Game& game, int seat, int bet) {
-  return IsLay(bet) ? game.table.LayVigHeld[seat][bet - kLay4] : game.table.BuyVigHeld[seat][bet - kBuy4];
 }
 
 Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change) {

@@ -1,6 +1,7 @@
 #include "rules/bet_results.h"
 
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
 #include "state/game.h"
 
 namespace tessaryn {

@@ -1,8 +1,8 @@
 // What one roll makes of a bet: the ground on which the worth of a bet and of several bets together stand.
 #pragma once
 
-#include "rules/payoffs.h"
 #include "base/table_types.h"
+#include "rules/payoffs.h"
 
 namespace tessaryn {
 

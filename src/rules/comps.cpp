@@ -2,6 +2,7 @@
 
 #include "rules/advantage.h"
 #include "state/game.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

@@ -1,8 +1,8 @@
 // The rules that the settings must keep among themselves.
 #pragma once
 
-#include "rules/payoffs.h"
 #include "base/table_types.h"
+#include "rules/payoffs.h"
 
 namespace tessaryn {
 

@@ -6,6 +6,7 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "state/game.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

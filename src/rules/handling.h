@@ -1,8 +1,8 @@
 // What becomes of a bet that was decided: the stored choices of each seat, or the settlement dialog.
 #pragma once
 
-#include "state/host.h"
 #include "base/table_types.h"
+#include "state/host.h"
 
 namespace tessaryn {
 

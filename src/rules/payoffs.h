@@ -4,38 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "base/table_types.h"
+#include "state/payoff_tables.h"
 
 namespace tessaryn {
-
-// An amount is paid amount * PayTo / PayPer. A negative PayTo is a loss, 0 a push.
-struct PayoffRecord {
-  Currency BetUnit;  // the size in which the bet is paid whole; written by RebuildBetUnits alone
-  Currency PayTo;
-  Currency ForFlag;  // -1 reads "to", 0 reads "for"; the arithmetic is the same
-  Currency PayPer;   // above 0
-
-  friend bool operator==(const PayoffRecord&, const PayoffRecord&) = default;
-};
-
-inline constexpr int kFieldRows = 21;
-inline constexpr int kSevenPointSevenRows = 2;
-inline constexpr int kMidwayRows = 5;
-inline constexpr int kSharpShooterRows = 11;
-inline constexpr int kRideTheLineRows = 12;
-inline constexpr int kFireRows = 6;
-
-// Row 0 of PayoffTable is the working copy of the settlement in progress; row 0 of the others is unused but
-// for the Fire bet, where it is the hand without a point.
-struct PayoffTables {
-  PayoffRecord PayoffTable[101];
-  PayoffRecord FieldPayoffs[kFieldRows + 1];
-  PayoffRecord SevenPointSevenPayoffs[kSevenPointSevenRows + 1];
-  PayoffRecord MidwayPayoffs[kMidwayRows + 1];
-  PayoffRecord SharpShooterPayoffs[kSharpShooterRows + 1];
-  PayoffRecord RideTheLinePayoffs[kRideTheLineRows + 1];
-  PayoffRecord FirePayoffs[kFireRows + 1];
-};
 
 struct PayoffTableInfo {
   const char* name;  // as settings name it

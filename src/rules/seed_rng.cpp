@@ -1,6 +1,8 @@
 #include "rules/seed_rng.h"
 
+#include "dice/generators.h"
 #include "state/game.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

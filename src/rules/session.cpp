@@ -4,12 +4,15 @@
 #include <cctype>
 #include <filesystem>
 
-#include "rules/seed_rng.h"
+#include "dice/roll_file.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
+#include "rules/seed_rng.h"
 #include "state/game.h"
-#include "play/players.h"
+#include "stats/bankroll_graph.h"
+#include "stats/events_log.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

@@ -5,9 +5,12 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
-#include "state/game.h"
 #include "rules/handling.h"
+#include "rules/payoffs.h"
 #include "rules/settlement_order.h"
+#include "state/game.h"
+#include "stats/events_log.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

@@ -9,8 +9,8 @@
 #include <utility>
 #include <vector>
 
-#include "state/script_types.h"
 #include "base/table_types.h"
+#include "state/script_types.h"
 
 namespace tessaryn {
 

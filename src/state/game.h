@@ -4,19 +4,19 @@
 #include <memory>
 #include <string>
 
-#include "state/auto_bet_state.h"
-#include "rules/payoffs.h"
-#include "state/settings.h"
-#include "dice/generators.h"
-#include "dice/percentage_dice.h"
-#include "dice/roll_file.h"
-#include "rules/bet_limits.h"
-#include "state/host.h"
-#include "state/table_state.h"
 #include "base/folder_lock.h"
-#include "stats/bankroll_graph.h"
-#include "stats/events_log.h"
-#include "stats/statistics.h"
+#include "state/auto_bet_state.h"
+#include "state/events_log_state.h"
+#include "state/generators_state.h"
+#include "state/graph_state.h"
+#include "state/host.h"
+#include "state/kept_maximums.h"
+#include "state/payoff_tables.h"
+#include "state/percentage_dice_state.h"
+#include "state/roll_file_state.h"
+#include "state/settings.h"
+#include "state/statistics_state.h"
+#include "state/table_state.h"
 
 namespace tessaryn {
 
@@ -41,18 +41,7 @@ struct Game {
   Host* host = nullptr;           // not owned; outlives the game
 };
 
-// A table on its defaults: rules, payoffs and generators as at a first start. host outlives the game.
-// applicationFolder and dataFolder may come with or without a separator at the end.
-std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder,
-                                const std::string& dataFolder);
-
 // Shows a box and returns its MsgResult. Requires that no box is being shown.
 int ShowMessage(Game& game, const std::string& title, const std::string& text,
                 std::uint32_t flags = kMsgOk | kMsgAlert, int width = 302);
-// The general error report: text + ", Error #" + number + line end + " occurred at: " + label. In a
-// Turbo-Roll it becomes the stop reason instead, and the run stops.
-void ReportError(Game& game, const std::string& text, int number, const char* label);
-inline constexpr int kOverflowError = 6;
-inline constexpr const char* kOverflowText = "Overflow";
-
 }  // namespace tessaryn

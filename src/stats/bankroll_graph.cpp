@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "state/game.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

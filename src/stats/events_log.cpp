@@ -9,9 +9,9 @@
 #include <fstream>
 #include <system_error>
 
-#include "play/auto_roll.h"
 #include "base/bet_catalogue.h"
 #include "state/game.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {
@@ -36,8 +36,8 @@ void ForgetFiles(EventsLog& log) {
   log.failedAt = 0;
 }
 
-// A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there it
-// is told once.
+// A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there
+// it is told once.
 void ReportFault(Game& game, const std::string& what) {
   EventsLog& log = game.events;
   const bool told = log.FaultReported == what;

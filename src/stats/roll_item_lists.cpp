@@ -48,6 +48,10 @@ std::string CombinationText(int item) {
 
 }  // namespace
 
+bool ItemHasPair(int item, int die1, int die2) {
+  return item >= 0 && item < kRollItems && (kItemPairs[item] >> PairIndex(die1, die2) & 1) != 0;
+}
+
 std::string RollItemText(int item) {
   if (item < 2 || item >= kRollItems - 1) return "";
   if (item <= 12) return TotalText(item);

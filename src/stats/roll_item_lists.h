@@ -6,7 +6,7 @@
 #include <string>
 
 #include "base/roll_items.h"
-#include "stats/statistics.h"
+#include "state/statistics_state.h"
 
 namespace tessaryn {
 
@@ -31,6 +31,8 @@ inline constexpr auto kPairItems = [] {
   return lists;
 }();
 
+// Whether an item counts the pair of faces.
+bool ItemHasPair(int item, int die1, int die2);
 // "Number 2 (1.1)", "Any 7", "Die 1, face 3" ...; empty for an item that is never counted.
 std::string RollItemText(int item);
 

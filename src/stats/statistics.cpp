@@ -4,8 +4,8 @@
 #include <cstring>
 #include <iterator>
 
-#include "rules/bet_limits.h"
 #include "state/game.h"
+#include "state/vig.h"
 #include "stats/roll_item_lists.h"
 
 namespace tessaryn {
@@ -233,10 +233,6 @@ std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRol
 }
 
 std::string RollItemName(int item) { return RollItemText(item); }
-
-bool ItemHasPair(int item, int die1, int die2) {
-  return item >= 0 && item < kRollItems && (kItemPairs[item] >> PairIndex(die1, die2) & 1) != 0;
-}
 
 void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow) {
   BetStats& row = stats.Bets[0][seat][kCurrentHand];

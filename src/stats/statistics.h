@@ -5,79 +5,11 @@
 #include <cstdint>
 #include <string>
 
-#include "base/table_types.h"
+#include "state/statistics_state.h"
 
 namespace tessaryn {
 
 struct Game;
-
-enum StatKind : int {
-  kStatCount = 1,  // bets resolved, won or lost
-  kStatTotal = 2,
-  kStatHigh = 3,
-  kStatLow = 4,       // never 0 once there is one
-  kStatLastRoll = 5,  // session roll number; in the all-sessions slot that of all sessions
-  kStatLastAmount = 6,
-};
-enum StatTable : int { kWagerStats = 0, kWinStats = 1, kLossStats = 2 };
-inline constexpr int kStatTables = 3;
-
-// Roll items: 0 rolls, 2 to 89 outcomes and groups of outcomes, 1 and 90 never counted.
-inline constexpr int kRollItems = 91;
-inline constexpr int kGapCells = 201;
-inline constexpr int kDicePairs = 36;
-// The pair of two faces as an index 0 to 35.
-constexpr int PairIndex(int die1, int die2) { return (die1 - 1) * 6 + die2 - 1; }
-
-// The six kinds of one bet in the wagers, wins and losses of one slot.
-struct BetStats {
-  Currency kinds[kStatTables][6];  // kind - 1
-};
-
-enum NumberKind : int { kComeoutRolls = 0, kPasses = 1, kMisses = 2 };
-
-struct Statistics {
-  // The running scopes lie within each other, so a resolved bet is counted in the current hand alone: the
-  // current session here is what was before this hand, all sessions what was before this session. BetStat
-  // puts them together.
-  BetStats Bets[101][kSeatRows][kScopes];
-  // Which bets 1 to 93 have entries in the current-hand and last-hand scopes.
-  BetSet HandBets[kSeatRows];
-  BetSet LastHandBets[kSeatRows];
-
-  // Roll items are counted by exact pair of faces and summed when read: item counts are unions of pairs.
-  // Like the bets, rolls are counted in the current hand alone.
-  std::int32_t PairCounts[kSlots][kDicePairs] = {};
-  std::int32_t RollTotals[kSlots] = {};  // item 0
-  // Of all sessions before this one, whatever is kept of them: no new session sets it back.
-  std::int64_t ThrowsBeforeSession = 0;
-  // A gap is counted when it ends: the session roll that an item last came on, 0 never.
-  std::int32_t ItemLastRoll[kRollItems] = {};
-  std::int32_t RollGapCounts[kRollItems][kGapCells] = {};
-
-  std::int32_t NumberCounts[kSlots][13][3] = {};  // by number 2 to 12 and NumberKind
-  std::int32_t HandCount[kSlots] = {};
-  std::int32_t MostRollsInHand[kSlots] = {};
-  std::int32_t MostComeoutRollsInHand[kSlots] = {};
-  std::int32_t MostPassesInHand[kSlots] = {};
-  std::int32_t MostMissesInHand[kSlots] = {};
-  // PlayerRolls is the table's roll count of the scope less what was rolled before the player joined.
-  std::int32_t RollsNotSeen[kSlots] = {};
-  std::int32_t HandComeoutRolls = 0;
-  std::int32_t HandPasses = 0;
-  std::int32_t HandMisses = 0;
-  std::uint16_t HandSlotsUsed = 0;  // seats with rolls in the current-hand scope
-  std::uint16_t LastHandSlotsUsed = 0;
-
-  Currency BankrollBeginning[kSlots];
-  Currency BankrollHigh[kSlots];
-  Currency BankrollLow[kSlots];
-  Currency BankrollClosing[kSlots];     // of the last-hand and last-session scopes
-  Currency AtmTotal[kSlots];            // drawn from the ATM, less what was deposited
-  Currency BankrollRollSum[kSeatRows];  // sum of the closing bankroll over the session's rolls
-  Currency BankrollSessionStart[kSeatRows];
-  Currency ComeTravelTotals[kSlots][6];
-};
 
 // --- Reading. Every table by its slot, whatever the storage.
 std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item);
@@ -86,22 +18,10 @@ Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, 
 std::int64_t RollsSinceLast(const Statistics& stats, int item);
 // The bankroll by slot; the running scopes read the seat's own.
 Currency BankrollOf(const Game& game, int scope, int seat);
-// Session rolls so far, and rolls of all sessions.
-inline std::int64_t SessionRolls(const Statistics& stats) {
-  return stats.RollTotals[Slot(kCurrentSession, 0)];
-}
-// How often the dice were thrown at this table: what a run of so many rolls counts, since a script may begin
-// a session in the middle of it.
-inline std::int64_t Throws(const Statistics& stats) {
-  return stats.ThrowsBeforeSession + SessionRolls(stats);
-}
-inline std::int64_t HandRolls(const Statistics& stats) { return stats.RollTotals[Slot(kCurrentHand, 0)]; }
 // Turns a StatLastRoll of a scope into rolls since then; -1 for never.
 std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);
 // The text of a roll item as selectors list it; empty for items that are never counted.
 std::string RollItemName(int item);
-// Whether an item counts the pair of faces.
-bool ItemHasPair(int item, int die1, int die2);
 // Kinds 1 to 6 of the bets first to last, added up (extremes too) into bet row 0 of the seat's current hand.
 void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow);
 // The note about the hand's shooter that summaries show; empty when there is nothing to tell.

@@ -7,9 +7,12 @@
 #include <random>
 
 #include "autobet/run_helpers.h"
-#include "rules/bankroll.h"
 #include "base/bet_catalogue.h"
+#include "dice/roll_file.h"
+#include "play/auto_roll.h"
+#include "rules/bankroll.h"
 #include "rules/consistency.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

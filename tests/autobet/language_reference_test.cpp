@@ -5,16 +5,18 @@
 #include <fstream>
 #include <sstream>
 
-#include "autobet/run_helpers.h"
-#include "autobet/run/script_errors.h"
 #include "autobet/language/script_text.h"
 #include "autobet/language/vocabulary.h"
+#include "autobet/run/script_errors.h"
+#include "autobet/run_helpers.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
 
 std::string Reference() {
-  std::ifstream file(TESSARYN_SOURCE_DIR "/docs/auto-bet.md");
+  std::ifstream file(std::string(test::kSourceFolder) + "/docs/auto-bet.md");
   std::stringstream text;
   text << file.rdbuf();
   return text.str();

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "autobet/run/evaluate.h"
+#include "autobet/run/operands.h"
 #include "autobet/run/prepared_program.h"
 #include "autobet/run_helpers.h"
 

@@ -12,14 +12,17 @@
 
 #include "autobet/compile_helpers.h"
 #include "autobet/run/interpreter.h"
+#include "play/auto_roll.h"
+#include "play/players.h"
 #include "play/script_session.h"
 #include "play/setting_table.h"
-#include "play/auto_roll.h"
-#include "rules/seed_rng.h"
+#include "play/start_up.h"
 #include "rules/bet_rules.h"
+#include "rules/seed_rng.h"
 #include "state/game.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
+#include "state/run_stop.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 
 namespace tessaryn::script_test {
 
@@ -30,7 +33,7 @@ struct TestHost : Host {
   int result = 0;                   // 0: the safe answer
   std::vector<std::string> steps;   // "line text"
   std::vector<std::string> sounds;
-  std::int64_t rollTarget = 0;      // of dice thrown
+  std::int64_t rollTarget = 0;  // of dice thrown
   std::int64_t yields = 0;
   std::int64_t yieldLimit = 0;  // stops the run in progress
   std::uint32_t tick = 0;
@@ -95,7 +98,7 @@ struct ScriptTable {
   TestHost host;
   std::unique_ptr<Game> game;
 
-  ScriptTable() : game(StartGame(host, TESSARYN_BIN_DIR "/", folder.path)) {
+  ScriptTable() : game(StartGame(host, std::string(test::kBinFolder) + "/", folder.path)) {
     std::string error;
     JoinPlayer(*game, 1, "Ann", Currency::Dollars(1000), error);
     JoinPlayer(*game, 2, "Bob", Currency::Dollars(1000), error);

@@ -6,6 +6,8 @@
 #include "dice/percentage_dice.h"
 #include "rules/bankroll.h"
 #include "rules/consistency.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -37,7 +39,7 @@ TEST(Samples, EachPlaysTenThousandRollsWithAPlausibleOutcome) {
     ApplyShooterEffectiveness(setter, 20, kAxis16, 20, kAxis16);
     ASSERT_TRUE(SaveProbabilityFile(setter, table.folder.path + "setter.prb", error)) << error;
     const std::string path =
-        TESSARYN_SOURCE_DIR "/data/samples/Sample" + std::to_string(sample.number) + ".bet";
+        std::string(test::kSourceFolder) + "/data/samples/Sample" + std::to_string(sample.number) + ".bet";
     for (const int seat : {1, 2}) {
       ASSERT_TRUE(OpenScript(game, seat, path, error)) << error;
       const ScriptCheck check = CheckScript(game, seat);

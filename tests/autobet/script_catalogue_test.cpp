@@ -5,10 +5,14 @@
 #include <set>
 
 #include "autobet/language/language.h"
-#include "autobet/run_helpers.h"
 #include "autobet/run/script_errors.h"
-#include "dice/percentage_dice.h"
+#include "autobet/run_helpers.h"
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "rules/payoffs.h"
 
 namespace tessaryn {
 namespace {

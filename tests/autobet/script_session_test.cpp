@@ -5,6 +5,7 @@
 
 #include "autobet/run_helpers.h"
 #include "base/bet_catalogue.h"
+#include "play/players.h"
 
 namespace tessaryn {
 namespace {

@@ -8,8 +8,8 @@
 #include <csignal>
 #include <filesystem>
 
-#include "dice/roll_file.h"
 #include "base/program_folders.h"
+#include "dice/roll_file.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "support/cli_process.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 namespace {
@@ -112,7 +113,7 @@ TEST(CliRun, EachSamplePlaysByTheCommandsThatTheDocumentsTell) {
   TempFolder folder;
   int samples = 0;
   for (const char* document : {"/docs/auto-bet.md", "/README.md"}) {
-    for (const std::vector<std::string>& told : ToldRuns(std::string(TESSARYN_SOURCE_DIR) + document)) {
+    for (const std::vector<std::string>& told : ToldRuns(std::string(test::kSourceFolder) + document)) {
       const auto script = std::find(told.begin(), told.end(), "--script");
       if (script == told.end()) continue;
       const bool any = *(script + 1) == "FILE";
@@ -120,7 +121,8 @@ TEST(CliRun, EachSamplePlaysByTheCommandsThatTheDocumentsTell) {
         const std::string sample =
             any ? "data/samples/Sample" + std::to_string(number) + ".bet" : *(script + 1);
         std::vector<std::string> words = told;
-        words[static_cast<std::size_t>(script - told.begin()) + 1] = TESSARYN_SOURCE_DIR "/" + sample;
+        words[static_cast<std::size_t>(script - told.begin()) + 1] =
+            std::string(test::kSourceFolder) + "/" + sample;
         const auto rolls = std::find(words.begin(), words.end(), "--rolls");
         if (rolls != words.end()) words.erase(rolls, rolls + 2);
         words.insert(words.end(), {"--rolls", "200", "--json", "--data-folder", folder.Path()});

@@ -11,8 +11,10 @@
 #include <filesystem>
 #include <map>
 
+#include "cli/script_report.h"
 #include "dice/roll_file.h"
 #include "support/cli_process.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -324,7 +326,7 @@ class TerminalPlay {
   explicit TerminalPlay(const TempFolder& folder) : master_(posix_openpt(O_RDWR | O_NOCTTY)) {
     EXPECT_TRUE(master_ >= 0 && grantpt(master_) == 0 && unlockpt(master_) == 0);
     const std::string slave = ptsname(master_);
-    const std::string program = std::string(TESSARYN_BIN_DIR) + "/tessaryn-cli";
+    const std::string program = std::string(test::kBinFolder) + "/tessaryn-cli";
     child_ = fork();
     if (child_ != 0) return;
     setsid();

@@ -249,7 +249,8 @@ TEST(CliPlay, RubbishOnThePipeIsAnsweredLineByLine) {
   EXPECT_EQ(answers.back()["ok"], true);
 }
 
-// Seeds come from the machine's own clock: one that began with the program would give all starts the same few.
+// Seeds come from the machine's own clock: one that began with the program would give all starts the same
+// few.
 TEST(CliPlay, EveryStartHasASeedOfItsOwn) {
   const auto tick = [] {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "support/cli_process.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 namespace {
@@ -152,7 +153,8 @@ TEST(CliScript, RollsAreDiceThrownWhateverSessionsDo) {
 TEST(CliScript, EverySampleRunsAsTheReferenceSays) {
   TempFolder folder;
   for (int sample = 1; sample <= 13; ++sample) {
-    const std::string file = TESSARYN_SOURCE_DIR "/data/samples/Sample" + std::to_string(sample) + ".bet";
+    const std::string file =
+        std::string(test::kSourceFolder) + "/data/samples/Sample" + std::to_string(sample) + ".bet";
     const Ran ran = RunCli(folder, {"run", "--data-folder", folder.Path(), "--player", "Ann=1000", "--set",
                                     "ShooterBetRule=0", "--script", file, "--rolls", "200", "--json"});
     ASSERT_EQ(ran.exitCode, 0) << file << ": " << ran.err;
@@ -247,10 +249,11 @@ TEST(CliScript, CtrlCStopsAScriptWithoutEnd) {
   for (const std::string& line : lines) EXPECT_TRUE(Json::accept(line));
 
   for (const char* name : {"begun", "output/begun"}) std::filesystem::remove(folder.File(name));
-  const Ran ran = RunCli(folder,
-                         {"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set",
-                          "ShooterBetRule=0", "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
-                         "", around);
+  const Ran ran =
+      RunCli(folder,
+             {"run", "--data-folder", folder.Path(), "--player", "Ann=500", "--set", "ShooterBetRule=0",
+              "--script", folder.File("loop.bet"), "--rolls", "1000", "--json"},
+             "", around);
   EXPECT_EQ(ran.exitCode, 128 + SIGINT);
   const Json run = Json::parse(ran.out);
   EXPECT_EQ(run["seats"][0]["onTable"], 5) << "the table is as the last statement left it";

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "support/cli_process.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 namespace {
@@ -17,8 +18,8 @@ std::string AtTerminal(const TempFolder& folder, const std::string& typed) {
   const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
   if (child == 0) {
     setenv("TERM", "dumb", 1);
-    execl(TESSARYN_BIN_DIR "/tessaryn-cli", "tessaryn-cli", "play", "--data-folder", folder.Path().c_str(),
-          "--set", "ShooterBetRule=0", static_cast<char*>(nullptr));
+    execl(std::string(test::kBinFolder) + "/tessaryn-cli", "tessaryn-cli", "play", "--data-folder",
+          folder.Path().c_str(), "--set", "ShooterBetRule=0", static_cast<char*>(nullptr));
     _exit(127);
   }
   std::string shown;

@@ -12,12 +12,14 @@
 #include <random>
 #include <vector>
 
+#include "support/places.h"
+
 namespace tessaryn {
 namespace {
 
 std::unique_ptr<Generators> WithLibraries() {
   auto generators = std::make_unique<Generators>();
-  LoadSupportLibraries(*generators, TESSARYN_BIN_DIR);
+  LoadSupportLibraries(*generators, test::kBinFolder);
   return generators;
 }
 
@@ -32,7 +34,7 @@ struct PlainExports {
 };
 
 PlainExports Exports(const char* file, const char* seed, const char* real) {
-  void* library = dlopen((std::string(TESSARYN_BIN_DIR) + "/" + file).c_str(), RTLD_NOW | RTLD_NODELETE);
+  void* library = dlopen((std::string(test::kBinFolder) + "/" + file).c_str(), RTLD_NOW | RTLD_NODELETE);
   if (library == nullptr) return {};
   PlainExports exports{reinterpret_cast<void (*)(unsigned long)>(dlsym(library, seed)),
                        reinterpret_cast<double (*)()>(dlsym(library, real))};
@@ -76,7 +78,7 @@ TEST(SupportLibraries, ABrokenOrForeignFileCountsAsMissing) {
   const std::filesystem::path folder = std::filesystem::path(testing::TempDir()) / "tessaryn_libraries";
   std::filesystem::create_directories(folder);
   std::ofstream(folder / "mt19937ar.dll") << "not a library";
-  std::filesystem::copy_file(std::string(TESSARYN_BIN_DIR) + "/mt19937ar.dll", folder / "cokus.dll",
+  std::filesystem::copy_file(std::string(test::kBinFolder) + "/mt19937ar.dll", folder / "cokus.dll",
                              std::filesystem::copy_options::overwrite_existing);
   Generators generators;
   LoadSupportLibraries(generators, folder.string());
@@ -84,7 +86,7 @@ TEST(SupportLibraries, ABrokenOrForeignFileCountsAsMissing) {
   std::filesystem::remove_all(folder);
   LoadSupportLibraries(generators, folder.string());
   EXPECT_EQ(generators.MissingGeneratorFiles, kMissingMersenne | kMissingCokus);
-  LoadSupportLibraries(generators, std::string(TESSARYN_BIN_DIR) + "/");
+  LoadSupportLibraries(generators, std::string(test::kBinFolder) + "/");
   EXPECT_EQ(generators.MissingGeneratorFiles, 0);
 }
 

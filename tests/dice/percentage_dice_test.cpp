@@ -12,8 +12,10 @@
 #include <random>
 #include <vector>
 
-#include "base/roll_items.h"
 #include "base/record_file.h"
+#include "base/roll_items.h"
+#include "dice/generators.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -155,7 +157,7 @@ TEST(ProbabilityMatrix, TenMillionDrawsKeepTheCellsAndTheBiasOfTheRetry) {
   dice.ProbMatrix[1][2][1] = 300;
   const std::vector<double> chances = ExactChances(dice);
   auto generators = std::make_unique<Generators>();
-  LoadSupportLibraries(*generators, TESSARYN_BIN_DIR);
+  LoadSupportLibraries(*generators, test::kBinFolder);
   StartGenerators(*generators, 31'337);
   constexpr int kDraws = 10'000'000;
   std::int64_t counts[36] = {};

@@ -7,8 +7,8 @@
 #include <new>
 
 #include "autobet/run/interpreter.h"
-#include "play/script_session.h"
 #include "play/auto_roll.h"
+#include "play/script_session.h"
 #include "rules/handling.h"
 #include "support/test_host.h"
 

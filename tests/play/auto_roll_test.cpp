@@ -4,7 +4,9 @@
 
 #include <functional>
 
-#include "play/roll_cycle.h"
+#include "dice/roll_file.h"
+#include "play/start_up.h"
+#include "support/places.h"
 #include "support/test_host.h"
 
 namespace tessaryn {
@@ -43,7 +45,7 @@ struct PacedHost : test::TestHost {
 struct PacedTable {
   test::TempFolder folder;
   PacedHost host;
-  std::unique_ptr<Game> game = StartGame(host, TESSARYN_BIN_DIR, folder.Path());
+  std::unique_ptr<Game> game = StartGame(host, test::kBinFolder, folder.Path());
 
   explicit PacedTable(int throttle = kThrottleAutoRoll, const char* delay = "1") {
     game->settings.ShooterBetRule = 0;

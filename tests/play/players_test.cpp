@@ -6,6 +6,7 @@
 
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
+#include "rules/shooter.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

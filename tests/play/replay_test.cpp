@@ -6,6 +6,7 @@
 #include <random>
 
 #include "support/cli_process.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -133,7 +134,7 @@ std::string FirstDifference(const std::string& now, const std::string& then) {
 // One small game, kept whole: a commit that changes its journal or its answers says why. With
 // TESSARYN_NEW_FINGERPRINT set the kept files are written anew, to be looked at and committed.
 TEST(Replay, TheFingerprintGameIsAsItWasKept) {
-  const std::string data = std::string(TESSARYN_SOURCE_DIR) + "/tests/data/";
+  const std::string data = std::string(test::kSourceFolder) + "/tests/data/";
   TempFolder folder;
   const std::string dice = folder.File("fingerprint.rol");
   test::WriteFile(dice, test::ReadFile(data + "fingerprint.rol"));

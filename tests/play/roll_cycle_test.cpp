@@ -1,9 +1,9 @@
-#include "play/roll_cycle.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
+#include "dice/roll_file.h"
 #include "play/auto_roll.h"
 #include "rules/bet_rules.h"
 #include "support/test_host.h"

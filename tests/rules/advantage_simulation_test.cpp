@@ -7,13 +7,17 @@
 #include <ostream>
 #include <random>
 
-#include "rules/advantage.h"
-#include "play/setting_table.h"
-#include "play/auto_roll.h"
-#include "rules/seed_rng.h"
 #include "base/bet_catalogue.h"
-#include "rules/bet_rules.h"
+#include "dice/percentage_dice.h"
+#include "play/auto_roll.h"
 #include "play/players.h"
+#include "play/setting_table.h"
+#include "play/start_up.h"
+#include "rules/advantage.h"
+#include "rules/bet_rules.h"
+#include "rules/seed_rng.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 #include "support/test_host.h"
 
 namespace tessaryn {
@@ -182,7 +186,7 @@ TEST_P(AdvantageSimulation, EveryBetIsWorthWhatTheTablePays) {
   const House& house = GetParam();
   test::TempFolder folder;
   Crowd crowd;
-  const auto game = StartGame(crowd, TESSARYN_BIN_DIR, folder.Path());
+  const auto game = StartGame(crowd, test::kBinFolder, folder.Path());
   for (int seat = kBoxSeat; seat <= kDontComeSeat; ++seat) {
     std::string error;
     const std::string name = "Player" + std::string(1, static_cast<char>('A' + seat));

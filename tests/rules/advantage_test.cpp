@@ -6,11 +6,14 @@
 #include <cmath>
 #include <random>
 
-#include "rules/comps.h"
-#include "play/setting_table.h"
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
+#include "play/setting_table.h"
+#include "play/start_up.h"
+#include "rules/comps.h"
 #include "rules/edge_table.h"
 #include "state/game.h"
+#include "support/places.h"
 #include "support/test_host.h"
 
 namespace tessaryn {
@@ -19,7 +22,7 @@ namespace {
 class AdvantageTest : public testing::Test {
  protected:
   test::TestHost host_;
-  std::unique_ptr<Game> game_ = StartGame(host_, TESSARYN_BIN_DIR, testing::TempDir());
+  std::unique_ptr<Game> game_ = StartGame(host_, test::kBinFolder, testing::TempDir());
 
   void Set(const char* name, const char* value) {
     std::string error;

@@ -5,11 +5,10 @@
 #include <iterator>
 #include <random>
 
-#include "autobet/run/interpreter.h"
 #include "autobet/language/language.h"
+#include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
-#include "play/roll_cycle.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

@@ -6,8 +6,10 @@
 #include <cmath>
 #include <random>
 
-#include "rules/advantage.h"
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
+#include "rules/advantage.h"
+#include "rules/payoffs.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "base/bet_catalogue.h"
+#include "dice/roll_file.h"
 #include "rules/bet_rules.h"
 #include "support/test_host.h"
 

@@ -9,14 +9,17 @@
 #include <set>
 #include <vector>
 
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/start_up.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
 #include "rules/edge_table.h"
-#include "state/game.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
 #include "rules/rules_model.h"
+#include "state/game.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 
 namespace tessaryn::model {
 namespace {
@@ -141,7 +144,7 @@ struct SilentHost : Host {
 
 TEST(ModelEdges, TablePaysWhatTheBetsAreWorth) {
   SilentHost host;
-  const auto game = StartGame(host, TESSARYN_BIN_DIR, ::testing::TempDir());
+  const auto game = StartGame(host, test::kBinFolder, ::testing::TempDir());
   game->settings.ShooterBetRule = 0;
   game->settings.AllowPutBets = false;
   game->settings.MessageMask = 0;

@@ -9,15 +9,19 @@
 #include <random>
 #include <sstream>
 
-#include "rules/payoffs.h"
-#include "rules/bankroll.h"
 #include "base/bet_catalogue.h"
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/start_up.h"
+#include "rules/bankroll.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
-#include "state/game.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
+#include "rules/payoffs.h"
 #include "rules/rules_model.h"
+#include "rules/shooter.h"
+#include "state/game.h"
+#include "stats/statistics.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -193,7 +197,7 @@ void ChoosePayoffs(Pair& pair) {
 }
 
 void SetUp(Pair& pair, const Profile& profile) {
-  pair.game = StartGame(pair.host, TESSARYN_BIN_DIR, ::testing::TempDir());
+  pair.game = StartGame(pair.host, test::kBinFolder, ::testing::TempDir());
   model::ResetModel(*pair.m);
   Settings& s = pair.game->settings;
   s.MessageMask = pair.Chance(50) ? 0 : 15;

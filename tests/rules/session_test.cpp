@@ -4,11 +4,13 @@
 
 #include <filesystem>
 
+#include "dice/roll_file.h"
+#include "play/auto_roll.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
-#include "play/roll_cycle.h"
-#include "stats/bankroll_graph.h"
 #include "rules/check_stacks.h"
+#include "stats/bankroll_graph.h"
+#include "stats/statistics.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

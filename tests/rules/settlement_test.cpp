@@ -5,8 +5,10 @@
 #include <algorithm>
 
 #include "base/bet_catalogue.h"
+#include "dice/roll_file.h"
 #include "rules/bet_rules.h"
 #include "rules/handling.h"
+#include "stats/statistics.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

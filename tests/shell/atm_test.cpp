@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "play/players.h"
 #include "play/setting_table.h"
 #include "rules/bankroll.h"
 #include "shell/screens_support.h"

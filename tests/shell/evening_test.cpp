@@ -16,12 +16,13 @@
 #include <set>
 
 #include "base/bet_catalogue.h"
-#include "rules/bet_rules.h"
 #include "play/players.h"
-#include "shell/screens/file_chooser.h"
+#include "rules/bet_rules.h"
+#include "rules/shooter.h"
 #include "shell/frame/main_window.h"
-#include "shell/table/screen_tools.h"
+#include "shell/screens/file_chooser.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 
 namespace tessaryn::test {
 namespace {

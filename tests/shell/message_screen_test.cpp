@@ -6,8 +6,8 @@
 #include <QLineEdit>
 #include <QPushButton>
 
-#include "shell/table/screen_tools.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 
 namespace tessaryn::test {
 namespace {

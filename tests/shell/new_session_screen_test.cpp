@@ -5,9 +5,10 @@
 #include <QRadioButton>
 
 #include "dice/roll_file.h"
-#include "shell/table/screen_tools.h"
+#include "play/auto_roll.h"
 #include "shell/screens/new_session.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 
 namespace tessaryn::test {
 namespace {

@@ -9,13 +9,15 @@
 #include <QSignalSpy>
 #include <set>
 
-#include "shell/table/run_controls.h"
+#include "rules/session.h"
 #include "shell/screens/about.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/new_session.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/screens_support.h"
+#include "shell/table/run_controls.h"
 #include "shell/table/turbo_panel.h"
+#include "stats/statistics.h"
 
 namespace tessaryn::test {
 namespace {

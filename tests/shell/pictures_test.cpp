@@ -6,8 +6,8 @@
 #include <QPalette>
 #include <QTest>
 
-#include "rules/bet_rules.h"
 #include "play/players.h"
+#include "rules/bet_rules.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 #include "shell/table/table_widget.h"

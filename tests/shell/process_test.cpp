@@ -13,6 +13,7 @@
 
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 namespace {
@@ -164,7 +165,8 @@ struct FirstEvening {
 TEST(Program, TwoClicksToAPlayerABetAndARollThenATurboRollAndTheQuestionsOfTheEnd) {
   FirstEvening evening;
   ASSERT_FALSE(evening.display.Name().isEmpty()) << evening.display.Why().toStdString();
-  Program program(evening.display, TESSARYN_BIN_DIR "/tessaryn", {"--data-folder", evening.data.path()});
+  Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
+                  {"--data-folder", evening.data.path()});
   const QRect all(QPoint(0, 0), kScreen);
   // The empty table.
   ASSERT_TRUE(QTest::qWaitFor(
@@ -237,7 +239,7 @@ TEST(Program, StartsWithoutSoundsGeneratorsOrFontAndSaysSo) {
   // The program alone in a folder, as someone may copy it; a font file that is none.
   QTemporaryDir bare;
   const QString program = bare.filePath("tessaryn");
-  ASSERT_TRUE(QFile::copy(TESSARYN_BIN_DIR "/tessaryn", program));
+  ASSERT_TRUE(QFile::copy(QString(test::kBinFolder) + "/tessaryn", program));
   QFile font(bare.filePath("tessaryn.ttf"));
   ASSERT_TRUE(font.open(QIODevice::WriteOnly));
   font.write("no font");
@@ -276,7 +278,7 @@ TEST(Program, WrongOptionsAndFoldersAreNamed) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     process.setProcessEnvironment(environment);
-    process.start(TESSARYN_BIN_DIR "/tessaryn", wrong.arguments);
+    process.start(QString(test::kBinFolder) + "/tessaryn", wrong.arguments);
     ASSERT_TRUE(process.waitForFinished(15'000));
     EXPECT_EQ(process.exitCode(), wrong.code) << wrong.names;
     const QString said = process.readAllStandardOutput() + process.readAllStandardError();

@@ -16,13 +16,15 @@
 #include <memory>
 #include <string>
 
+#include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/start_up.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
-#include "state/game.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
 #include "shell/frame/shell_host.h"
 #include "shell/shell_table.h"
+#include "state/game.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 
@@ -44,7 +46,7 @@ struct ScreenTable {
       const bool platform = text.contains("propagateSizeHints") || text.contains("does not support raise");
       if (type != QtDebugMsg && type != QtInfoMsg && !platform) QtWarnings().append(text);
     });
-    game = StartGame(host, TESSARYN_BIN_DIR, folder.path().toStdString());
+    game = StartGame(host, test::kBinFolder, folder.path().toStdString());
     // A dialog that nobody works would keep the test for ever.
     QObject::connect(&watchdog, &QTimer::timeout, qApp, [] {
       for (QWidget* widget : QApplication::topLevelWidgets()) {

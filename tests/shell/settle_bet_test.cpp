@@ -7,6 +7,7 @@
 #include <map>
 #include <utility>
 
+#include "autobet/run/operands.h"
 #include "base/bet_catalogue.h"
 #include "shell/screens_support.h"
 

@@ -6,9 +6,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include "rules/bet_rules.h"
 #include "play/players.h"
-#include "play/roll_cycle.h"
+#include "rules/bet_rules.h"
 
 namespace tessaryn {
 

@@ -7,10 +7,12 @@
 #include <QTimer>
 #include <csignal>
 
-#include "play/auto_roll.h"
 #include "base/interrupts.h"
+#include "dice/roll_file.h"
+#include "play/auto_roll.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
+#include "stats/events_log.h"
 #include "support/test_host.h"
 
 namespace tessaryn::test {

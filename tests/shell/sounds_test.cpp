@@ -14,11 +14,12 @@
 #include <memory>
 
 #include "state/game.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
 
-const QString kSamples = QStringLiteral(TESSARYN_SOURCE_DIR "/data/sounds");
+const QString kSamples = QString(test::kSourceFolder) + "/data/sounds";
 
 QByteArray Bytes(const QString& path) {
   QFile file(path);

@@ -5,14 +5,15 @@
 #include <filesystem>
 #include <random>
 
+#include "dice/roll_file.h"
 #include "play/auto_roll.h"
-#include "rules/seed_rng.h"
+#include "play/players.h"
+#include "play/table_files.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
-#include "play/table_files.h"
+#include "rules/seed_rng.h"
 #include "rules/session.h"
+#include "rules/shooter.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

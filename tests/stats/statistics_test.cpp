@@ -5,10 +5,12 @@
 #include <map>
 #include <random>
 
+#include "play/players.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
-#include "play/players.h"
 #include "rules/session.h"
+#include "rules/shooter.h"
+#include "stats/roll_item_lists.h"
 #include "support/test_host.h"
 
 namespace tessaryn {

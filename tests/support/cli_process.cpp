@@ -10,6 +10,8 @@
 #include <fstream>
 #include <thread>
 
+#include "support/places.h"
+
 namespace tessaryn::test {
 namespace {
 
@@ -74,7 +76,7 @@ bool NotesSignal(int process, int signal) {
 
 Ran RunCli(const TempFolder& folder, std::vector<std::string> arguments, const std::string& input,
            const Surroundings& around) {
-  arguments.insert(arguments.begin(), std::string(TESSARYN_BIN_DIR) + "/tessaryn-cli");
+  arguments.insert(arguments.begin(), std::string(test::kBinFolder) + "/tessaryn-cli");
   WriteFile(folder.File("stdin"), input);
   WriteFile(folder.File("stdout"), "");
   int in[2] = {-1, -1};

@@ -8,12 +8,14 @@
 #include <fstream>
 #include <iterator>
 
-#include "play/setting_table.h"
 #include "play/auto_roll.h"
+#include "play/players.h"
+#include "play/setting_table.h"
+#include "play/start_up.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
-#include "play/players.h"
-#include "play/roll_cycle.h"
+#include "stats/events_log.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 
@@ -96,7 +98,7 @@ std::vector<std::string> Lines(const std::string& text) {
   return lines;
 }
 
-TestTable::TestTable() : game(StartGame(host, TESSARYN_BIN_DIR, folder.Path())) {}
+TestTable::TestTable() : game(StartGame(host, test::kBinFolder, folder.Path())) {}
 
 void TestTable::Check(const char* after) { EXPECT_EQ(CheckConsistency(*game), "") << "after " << after; }
 

@@ -4,7 +4,9 @@
 
 #include "autobet/compile/compiler_passes.h"
 #include "autobet/language/language.h"
+#include "autobet/language/script_spans.h"
 #include "base/interrupts.h"
+#include "dice/roll_file.h"
 
 namespace tessaryn {
 namespace {

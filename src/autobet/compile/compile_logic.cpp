@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
 
 namespace tessaryn {

@@ -5,6 +5,7 @@
 
 #include "autobet/compile/compiler_passes.h"
 #include "autobet/language/language.h"
+#include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
 
 namespace tessaryn {

@@ -3,6 +3,7 @@
 
 #include "autobet/compile/compiler_passes.h"
 #include "autobet/language/language.h"
+#include "autobet/language/script_spans.h"
 
 namespace tessaryn {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "state/script_types.h"
+#include "autobet/language/script_spans.h"
 
 namespace tessaryn {
 
@@ -32,24 +32,9 @@ bool CompileLogic(CompileJob& job, std::vector<int>* nesting);
 // Reduces every statement as a run will, with kinds of values for values.
 bool CompileCheck(CompileJob& job);
 
-// A script of more records than this is refused: nobody writes one, and a line of a few words can ask for
-// any number of them ("bets, bets, bets").
-inline constexpr std::size_t kMostTokens = 1'000'000;
-
 // Each reports message with the span of the statement, or statements, of the given records. Returns false.
-bool FailAt(const CompiledScript& script, const std::vector<std::string>& lines, std::size_t index,
-            std::string message, ScriptDiagnostic& diagnostic);
 bool FailAt(CompileJob& job, std::size_t index, std::string message);
 bool FailBetween(CompileJob& job, std::size_t first, std::size_t last, std::string message);
-bool FailTooLarge(const CompiledScript& script, const std::vector<std::string>& lines,
-                  ScriptDiagnostic& diagnostic);
-
-inline bool IsMarker(const ScriptToken& token) { return token.kind >= kStatementMarker; }
-inline int LineOfMarker(const ScriptToken& token) { return token.kind - kStatementMarker; }
-// The marker that opens the statement of record index, or the record itself if it is one.
-std::size_t StatementStart(const std::vector<ScriptToken>& tokens, std::size_t index);
-// The next marker behind record index, or the count of records.
-std::size_t StatementEnd(const std::vector<ScriptToken>& tokens, std::size_t index);
 // For every open bracket the index of its close bracket; 0 elsewhere. Requires balanced brackets.
 std::vector<std::size_t> MatchBrackets(const std::vector<ScriptToken>& tokens);
 

@@ -5,8 +5,8 @@
 #include <unordered_map>
 #include <utility>
 
-#include "autobet/compile/compiler_passes.h"
 #include "autobet/language/likely_word.h"
+#include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
 #include "autobet/language/vocabulary.h"
 #include "base/interrupts.h"

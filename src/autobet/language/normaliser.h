@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "state/script_types.h"
 #include "autobet/language/tidy_script_line.h"
+#include "state/script_types.h"
 
 namespace tessaryn {
 

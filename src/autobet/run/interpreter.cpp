@@ -5,8 +5,9 @@
 #include <utility>
 
 #include "autobet/compile/compile_autobets.h"
-#include "autobet/run/evaluate.h"
 #include "autobet/language/language.h"
+#include "autobet/run/evaluate.h"
+#include "autobet/run/operands.h"
 #include "autobet/run/output_file.h"
 #include "autobet/run/prepared_program.h"
 #include "autobet/run/script_errors.h"

@@ -7,8 +7,8 @@
 #include <filesystem>
 
 #include "autobet/language/script_text.h"
-#include "state/game.h"
 #include "base/record_file.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

@@ -5,8 +5,9 @@
 
 #include "autobet/compile/compiler_passes.h"
 #include "autobet/language/language.h"
-#include "autobet/run/prepared_program.h"
 #include "autobet/language/roll_item_of.h"
+#include "autobet/language/script_spans.h"
+#include "autobet/run/prepared_program.h"
 #include "base/table_types.h"
 
 namespace tessaryn {

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "state/script_types.h"
 #include "base/table_types.h"
+#include "state/script_types.h"
 
 namespace tessaryn {
 

@@ -4,10 +4,12 @@
 
 #include "autobet/language/language.h"
 #include "autobet/run/script_errors.h"
+#include "dice/percentage_dice.h"
 #include "rules/advantage.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
 #include "state/game.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

@@ -4,11 +4,11 @@
 #include <cmath>
 
 #include "autobet/language/characters.h"
-#include "autobet/run/evaluate.h"
 #include "autobet/language/language.h"
+#include "autobet/language/script_text.h"
+#include "autobet/run/operands.h"
 #include "autobet/run/read_variable.h"
 #include "autobet/run/script_errors.h"
-#include "autobet/language/script_text.h"
 #include "state/game.h"
 
 namespace tessaryn {

@@ -3,15 +3,19 @@
 #include <cmath>
 #include <iterator>
 
-#include "autobet/run/evaluate.h"
 #include "autobet/language/language.h"
-#include "autobet/run/read_bet.h"
 #include "autobet/language/roll_item_of.h"
-#include "autobet/run/script_errors.h"
 #include "autobet/language/script_text.h"
-#include "rules/comps.h"
+#include "autobet/run/operands.h"
+#include "autobet/run/read_bet.h"
+#include "autobet/run/script_errors.h"
 #include "base/bet_catalogue.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
+#include "rules/comps.h"
 #include "state/game.h"
+#include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {

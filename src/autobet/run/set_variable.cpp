@@ -4,15 +4,16 @@
 #include <cmath>
 #include <string_view>
 
-#include "autobet/run/evaluate.h"
 #include "autobet/language/language.h"
+#include "autobet/language/script_text.h"
+#include "autobet/run/operands.h"
 #include "autobet/run/read_bet.h"
 #include "autobet/run/read_variable.h"
 #include "autobet/run/script_errors.h"
-#include "autobet/language/script_text.h"
-#include "rules/seed_rng.h"
+#include "dice/roll_file.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
+#include "rules/seed_rng.h"
 #include "state/game.h"
 
 namespace tessaryn {

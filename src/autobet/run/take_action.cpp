@@ -6,16 +6,18 @@
 #include <cmath>
 #include <filesystem>
 
-#include "autobet/run/evaluate.h"
+#include "autobet/run/operands.h"
 #include "autobet/run/output_file.h"
 #include "autobet/run/script_errors.h"
 #include "autobet/run/set_variable.h"
-#include "play/auto_roll.h"
-#include "rules/seed_rng.h"
+#include "dice/percentage_dice.h"
+#include "dice/roll_file.h"
 #include "rules/bankroll.h"
-#include "state/game.h"
-#include "play/players.h"
+#include "rules/seed_rng.h"
 #include "rules/session.h"
+#include "rules/shooter.h"
+#include "state/game.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {
@@ -69,8 +71,7 @@ bool ActivateProbabilities(const ActionInHand& action) {
                     game.percentage.ProbFileName == path && !game.percentage.ProbDirty;
   if (same) return true;
   if (path.empty()) return action.Fails(kErrorNotProbabilityFile);
-  if (!OpenProbabilityFile(game.percentage, path, "", error))
-    return action.Fails(kErrorNotProbabilityFile);
+  if (!OpenProbabilityFile(game.percentage, path, "", error)) return action.Fails(kErrorNotProbabilityFile);
   return ActivatePercentageDice(game.percentage, true) || action.Fails(kErrorNotProbabilityFile);
 }
 

@@ -9,14 +9,14 @@
 #include <QTimer>
 #include <cstdio>
 
-#include "state/game.h"
 #include "base/program_folders.h"
 #include "shell/frame/main_window.h"
-#include "shell/table/screen_tools.h"
-#include "shell/screens/about.h"
 #include "shell/frame/signals.h"
 #include "shell/frame/sounds.h"
 #include "shell/frame/start_up.h"
+#include "shell/screens/about.h"
+#include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

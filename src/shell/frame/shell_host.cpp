@@ -6,9 +6,9 @@
 #include <QLocale>
 #include <QTimer>
 
-#include "state/game.h"
-#include "shell/table/screen_tools.h"
 #include "shell/frame/sounds.h"
+#include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -6,8 +6,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "state/host.h"
 #include "shell/screens/message_screen.h"
+#include "state/host.h"
 
 namespace tessaryn {
 

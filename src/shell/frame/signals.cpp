@@ -5,10 +5,10 @@
 
 #include <QApplication>
 
-#include "play/auto_roll.h"
-#include "state/game.h"
 #include "base/interrupts.h"
+#include "play/auto_roll.h"
 #include "shell/frame/main_window.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

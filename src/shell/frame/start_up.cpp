@@ -3,9 +3,11 @@
 #include <QFile>
 #include <QFontDatabase>
 
-#include "state/game.h"
+#include "dice/generators.h"
+#include "play/start_up.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -7,9 +7,9 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "state/game.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -8,10 +8,10 @@
 
 #include "play/setting_table.h"
 #include "rules/bankroll.h"
-#include "state/game.h"
+#include "shell/screens/screen_parts.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
-#include "shell/screens/screen_parts.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

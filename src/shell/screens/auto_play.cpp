@@ -12,12 +12,12 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "play/setting_table.h"
 #include "base/bet_catalogue.h"
-#include "state/game.h"
+#include "play/setting_table.h"
 #include "rules/handling.h"
-#include "shell/table/screen_tools.h"
 #include "shell/screens/screen_parts.h"
+#include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -3,10 +3,10 @@
 #include <QFileDialog>
 #include <filesystem>
 
-#include "dice/roll_file.h"
-#include "state/game.h"
 #include "base/record_file.h"
+#include "dice/roll_file.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

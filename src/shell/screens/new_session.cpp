@@ -7,9 +7,10 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "dice/roll_file.h"
 #include "play/script_session.h"
-#include "state/game.h"
 #include "rules/session.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

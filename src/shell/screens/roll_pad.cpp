@@ -15,10 +15,9 @@
 #include <algorithm>
 
 #include "play/auto_roll.h"
-#include "state/game.h"
-#include "play/roll_cycle.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

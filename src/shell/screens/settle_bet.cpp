@@ -8,11 +8,11 @@
 
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
-#include "state/game.h"
 #include "rules/handling.h"
+#include "shell/screens/screen_parts.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
-#include "shell/screens/screen_parts.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

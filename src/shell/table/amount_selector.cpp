@@ -6,9 +6,9 @@
 #include <QWheelEvent>
 #include <algorithm>
 
-#include "state/game.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -4,14 +4,14 @@
 #include <QStringList>
 #include <algorithm>
 
-#include "play/script_session.h"
-#include "play/auto_roll.h"
 #include "base/bet_catalogue.h"
+#include "play/auto_roll.h"
+#include "play/script_session.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
-#include "state/game.h"
-#include "play/roll_cycle.h"
+#include "rules/payoffs.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -5,9 +5,9 @@
 #include <QTransform>
 #include <cmath>
 
+#include "rules/bet_rules.h"
 #include "rules/payoffs.h"
 #include "state/settings.h"
-#include "rules/bet_rules.h"
 
 namespace tessaryn {
 

@@ -8,9 +8,9 @@
 #include <thread>
 #include <vector>
 
-#include "state/game.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 
@@ -455,8 +455,7 @@ void DrawNamePlate(QPainter& painter, const Game& game, const SeatPlace& place, 
     brush.save();
     brush.translate(centre);
     brush.rotate(angle);
-    brush.setPen(
-        QPen(selected ? QColor(255, 214, 92) : QColor(120, 92, 60), std::max(1.0, scale)));
+    brush.setPen(QPen(selected ? QColor(255, 214, 92) : QColor(120, 92, 60), std::max(1.0, scale)));
     brush.setBrush(selected ? QColor(86, 58, 20) : QColor(40, 26, 18));
     brush.drawRoundedRect(plate, 4 * scale, 4 * scale);
     double left = plate.left() + 3 * scale;
@@ -471,9 +470,8 @@ void DrawNamePlate(QPainter& painter, const Game& game, const SeatPlace& place, 
     brush.setFont(TableFont(selected, 9.5 * scale));
     brush.setPen(selected ? QColor(255, 236, 180) : QColor(232, 222, 206));
     const QRectF room(left, plate.top(), plate.right() - left - 2 * scale, plate.height());
-    brush.drawText(
-        room, Qt::AlignCenter,
-        brush.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(room.width())));
+    brush.drawText(room, Qt::AlignCenter,
+                   brush.fontMetrics().elidedText(name, Qt::ElideRight, static_cast<int>(room.width())));
     brush.restore();
   });
 }

@@ -35,9 +35,9 @@ struct TableColors {
 // White in the hit map: nothing there.
 inline constexpr QRgb kNothing = 0xffffffffu;
 
-// The table without anything that changes from roll to roll, into a picture of the window's device pixels. Two
-// threads draw a half each, so each has a layout of its own: outlines keep what they worked out for drawing,
-// and copies of one share it.
+// The table without anything that changes from roll to roll, into a picture of the window's device pixels.
+// Two threads draw a half each, so each has a layout of its own: outlines keep what they worked out for
+// drawing, and copies of one share it.
 struct TableDrawing {
   TableLayout Left;
   TableLayout Right;

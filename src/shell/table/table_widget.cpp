@@ -11,9 +11,9 @@
 #include <cmath>
 
 #include "base/bet_catalogue.h"
-#include "state/game.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -100,7 +100,7 @@ class TableWidget : public QWidget {
   CheckPictures checks_;
   TableDrawing drawing_;
   QImage table_;  // the table without what changes
-  QImage map_;     // ids under the points
+  QImage map_;    // ids under the points
   bool tableStale_ = true;
   bool mapStale_ = true;
   bool fitted_ = true;  // shows the whole table until the user chooses a view

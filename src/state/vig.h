@@ -1,0 +1,21 @@
+// The vig that Lay and Buy bets hold, and when it is charged.
+#pragma once
+
+#include "state/game.h"
+
+namespace tessaryn {
+
+inline bool VigUpFront(const Game& game, int bet) {
+  return (IsLay(bet) && game.settings.LayVigUpFront) || (IsBuy(bet) && game.settings.BuyVigUpFront);
+}
+
+// The vig that the seat's bet holds; a reference so that its writers (bet_rules, settlement) share it.
+// Requires a Lay or Buy bet.
+inline Currency& VigHeld(Game& game, int seat, int bet) {
+  return IsLay(bet) ? game.table.LayVigHeld[seat][bet - kLay4] : game.table.BuyVigHeld[seat][bet - kBuy4];
+}
+inline Currency VigHeld(const Game& game, int seat, int bet) {
+  return VigHeld(const_cast<Game&>(game), seat, bet);
+}
+
+}  // namespace tessaryn
