@@ -13,6 +13,7 @@
 #include "rules/bet_rules.h"
 #include "shell/frame/main_window.h"
 #include "state/game.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {

@@ -14,6 +14,8 @@
 #include "rules/bet_rules.h"
 #include "state/game.h"
 #include "stats/events_log.h"
+#include "dice/percentage_dice.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {

@@ -6,6 +6,7 @@
 
 #include "cli/script_report.h"
 #include "play/auto_roll.h"
+#include "state/run_stop.h"
 
 namespace tessaryn::cli {
 

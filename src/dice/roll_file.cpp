@@ -12,6 +12,7 @@
 #include "base/interrupts.h"
 #include "base/record_file.h"
 #include "dice/generators.h"
+#include "dice/percentage_dice.h"
 
 namespace tessaryn {
 namespace {

@@ -11,7 +11,6 @@ namespace tessaryn {
 struct Game;
 
 inline constexpr int kThrottleAutoRoll = 12;
-inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
 
 // Makes one roll and settles everything that hangs on it; in a run goes on until something stops it. Does
 // nothing while a roll is in progress.

@@ -11,6 +11,7 @@
 #include "state/game.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {

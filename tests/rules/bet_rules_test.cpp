@@ -10,6 +10,7 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "support/test_host.h"
+#include "dice/percentage_dice.h"
 
 namespace tessaryn {
 namespace {

@@ -1,4 +1,8 @@
 #include "rules_model.h"
+#include "rules/payoffs.h"
+#include "stats/statistics.h"
+#include "rules/shooter.h"
+#include "play/players.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -11,6 +11,7 @@
 #include "play/auto_roll.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
+#include "state/run_stop.h"
 
 namespace tessaryn::test {
 namespace {

@@ -15,6 +15,7 @@
 #include "rules/session.h"
 #include "rules/shooter.h"
 #include "support/test_host.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {

@@ -16,6 +16,7 @@
 #include "rules/consistency.h"
 #include "stats/events_log.h"
 #include "support/places.h"
+#include "state/run_stop.h"
 
 namespace tessaryn::test {
 

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "autobet/language/script_text.h"
+#include "autobet/run/give_way.h"
 #include "autobet/run/read_bet.h"
 #include "autobet/run/read_function.h"
 #include "autobet/run/read_variable.h"

@@ -6,6 +6,7 @@
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/language.h"
+#include "autobet/run/give_way.h"
 #include "autobet/run/evaluate.h"
 #include "autobet/run/operands.h"
 #include "autobet/run/output_file.h"

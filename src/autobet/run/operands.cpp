@@ -25,12 +25,4 @@ bool MixedOperandsCompare(const PreparedProgram& program, int relation, Operand 
   return NumbersCompare(relation, NumberOf(program, left), NumberOf(program, right));
 }
 
-bool GiveWay(Game& game) {
-  AutoBet& autobet = game.autobet;
-  if (autobet.Work < kWorkPerLook) return true;
-  autobet.Work = 0;
-  game.host->YieldByClock(game);
-  return autobet.ScriptRunning;
-}
-
 }  // namespace tessaryn

@@ -6,6 +6,7 @@
 #include "autobet/language/characters.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_text.h"
+#include "autobet/run/give_way.h"
 #include "autobet/run/operands.h"
 #include "autobet/run/read_variable.h"
 #include "autobet/run/script_errors.h"

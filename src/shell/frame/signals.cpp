@@ -9,6 +9,7 @@
 #include "play/auto_roll.h"
 #include "shell/frame/main_window.h"
 #include "state/game.h"
+#include "state/run_stop.h"
 
 namespace tessaryn {
 
