@@ -74,6 +74,9 @@ enum class Sound { kDice, kCheck, kWin, kLose, kComeOut, kPoint, kPass, kMiss, k
 // What changed, so that a screen can redraw it.
 enum class Change { kLayout, kDice, kPoint, kPlayers, kShooter, kStatistics, kRun, kSettings, kEverything };
 
+// Milliseconds since the machine was started, without its sleep; they begin anew after 49 days.
+std::uint32_t MachineTick();
+
 struct Host {
   virtual ~Host() = default;
   // Fills the answer. A host that can't ask gives the safe answer: No, else Cancel, else OK.
@@ -85,7 +88,7 @@ struct Host {
   virtual bool Yield(Game&) { return false; }
   // Waits in Auto-Roll for a little while, giving way to user events.
   virtual void Wait(Game& game) { Yield(game); }
-  // A millisecond clock that only goes forward.
+  // A millisecond clock that only goes forward. It seeds, so it is never one that starts with the program.
   virtual std::uint32_t TickMilliseconds() = 0;
   // Date and time in the platform's short form, and as seconds since midnight.
   virtual std::string DateText() = 0;

@@ -1,3 +1,4 @@
+#include <chrono>
 #include <filesystem>
 
 #include "dice/auto_roll.h"
@@ -31,6 +32,11 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   for (int seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
   game->autobet.BeginningNewSession = true;
   return game;
+}
+
+std::uint32_t MachineTick() {
+  const auto sinceBoot = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::milliseconds>(sinceBoot).count());
 }
 
 int ShowMessage(Game& game, const std::string& title, const std::string& text, std::uint32_t flags,
