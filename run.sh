@@ -16,8 +16,7 @@ if [ "${1:-}" = "--headless" ]; then
   exec "$bin/tessaryn-cli" run --player Ann=100000 --script data/samples/Sample1.bet --rolls 1000000
 fi
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
-  echo "There is no display to open the window on. ./run.sh --headless plays without one," >&2
-  echo "and ./run.sh --headless play is a table at this terminal." >&2
+  echo "There is no display to open the window on; ./run.sh --headless play is a table at this terminal." >&2
   exit 1
 fi
 exec "$bin/tessaryn" "$@"

@@ -54,4 +54,14 @@ bool PrepareDataFolder(std::string& folder, std::string& error) {
   return problem.empty();
 }
 
+// Tried, since permissions alone don't tell of a system that is mounted to be read.
+bool CanWriteIn(const std::string& folder) {
+  std::string name = folder + ".writable-XXXXXX";
+  const int file = mkstemp(name.data());
+  if (file < 0) return false;
+  close(file);
+  unlink(name.c_str());
+  return true;
+}
+
 }  // namespace tessaryn

@@ -14,4 +14,7 @@ std::string DefaultDataFolder();
 // reason.
 bool PrepareDataFolder(std::string& folder, std::string& error);
 
+// Whether a new file can be made in a folder that ends with a separator.
+bool CanWriteIn(const std::string& folder);
+
 }  // namespace tessaryn

@@ -52,10 +52,7 @@ void CliHost::Wait(Game& game) {
   Yield(game);
 }
 
-std::uint32_t CliHost::TickMilliseconds() {
-  const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  return static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count());
-}
+std::uint32_t CliHost::TickMilliseconds() { return MachineTick(); }
 
 namespace {
 

@@ -13,7 +13,7 @@ enum RollPadLayout : int {
 };
 inline constexpr int kRollPadLayouts = 4;
 inline constexpr const char* kRollPadCaptions[kRollPadLayouts] = {
-    "&11 basic numbers", "&36 combos (triangle)", "&36 combos (box)", "&Individual dice faces"};
+    "&11 basic numbers", "&36 combos (triangle)", "3&6 combos (box)", "&Individual dice faces"};
 
 struct RollPadGrid {
   int Rows = 0;

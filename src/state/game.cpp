@@ -1,6 +1,13 @@
 #include "state/game.h"
 
+#include <chrono>
+
 namespace tessaryn {
+
+std::uint32_t MachineTick() {
+  const auto sinceBoot = std::chrono::steady_clock::now().time_since_epoch();
+  return static_cast<std::uint32_t>(std::chrono::duration_cast<std::chrono::milliseconds>(sinceBoot).count());
+}
 
 int ShowMessage(Game& game, const std::string& title, const std::string& text, std::uint32_t flags,
                 int width) {

@@ -74,6 +74,9 @@ enum class Sound { kDice, kCheck, kWin, kLose, kComeOut, kPoint, kPass, kMiss, k
 // What changed, so that a screen can redraw it.
 enum class Change { kLayout, kDice, kPoint, kPlayers, kShooter, kStatistics, kRun, kSettings, kEverything };
 
+// Milliseconds since the machine was started, without its sleep; they begin anew after 49 days.
+std::uint32_t MachineTick();
+
 struct Host {
   virtual ~Host() = default;
   // Fills the answer. A host that can't ask gives the safe answer: No, else Cancel, else OK.

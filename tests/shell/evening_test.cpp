@@ -2,6 +2,7 @@
 // that has no window: after every step both tables are the same, and both said the same.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QElapsedTimer>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <deque>
@@ -16,13 +18,16 @@
 #include <set>
 
 #include "base/bet_catalogue.h"
+#include "play/auto_roll.h"
 #include "play/players.h"
 #include "rules/bet_rules.h"
 #include "rules/shooter.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens/file_chooser.h"
+#include "shell/screens/roll_pad.h"
 #include "shell/screens_support.h"
 #include "shell/table/screen_tools.h"
+#include "support/places.h"
 
 namespace tessaryn::test {
 namespace {
@@ -72,6 +77,7 @@ class Hands {
 };
 
 void PressReturn(QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); }
+void PressEscape(QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }
 
 std::function<void(QDialog&)> Typing(const char* text) {
   return [text](QDialog& box) {
@@ -393,7 +399,7 @@ TEST(MainWindow, ClosingAsksToStopARunAndARefusalKeepsItOn) {
   evening.real.game->settings.ShooterBetRule = 0;
   int closed = 0;
   QTimer::singleShot(150, [&] {
-    evening.hands.answers = {[](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); }};
+    evening.hands.answers = {PressEscape};
     closed += evening.window.close() ? 1 : 0;
     EXPECT_TRUE(evening.real.game->table.AutoRollActive);
     EXPECT_EQ(closed, 0);
@@ -484,6 +490,32 @@ TEST(FileChooser, RefusesInTheTablesWordsAndAsksAgain) {
   EXPECT_EQ(ChooseFile(*table.game, nullptr, kSaveAutoBet), "") << "given up";
 }
 
+// Scripts are looked for among the samples, as built and as installed; then where the player's own is.
+TEST(FileChooser, ScriptsAreLookedForWhereTheSamplesAre) {
+  QTemporaryDir installed;
+  QProcess install;
+  install.start("cmake", {"--install", QString(test::kBinFolder) + "/..", "--prefix", installed.path()});
+  ASSERT_TRUE(install.waitForFinished(60'000) && install.exitCode() == 0)
+      << install.readAllStandardError().toStdString();
+  EXPECT_TRUE(QFileInfo(installed.filePath("tessaryn")).isExecutable());
+  ScreenTable table;
+  Game& game = *table.game;
+  for (const std::string& program : {game.applicationFolder, installed.path().toStdString() + "/"}) {
+    game.applicationFolder = program;
+    for (const FilePurpose* purpose : {&kOpenAutoBet, &kHotKeyScript}) {
+      EXPECT_EQ(StartFolder(game, *purpose), program + "samples/");
+      EXPECT_TRUE(QFile::exists(FromCore(StartFolder(game, *purpose)) + "Sample1.bet"));
+    }
+    EXPECT_EQ(StartFolder(game, kSaveAutoBet), game.dataFolder);
+  }
+  table.Join(3, "Ann");
+  game.autobet.Scripts[3].ScriptFileName = game.dataFolder + "mine.bet";
+  EXPECT_EQ(StartFolder(game, kOpenAutoBet) + "/", game.dataFolder);
+  game.autobet.Scripts[3].ScriptFileName.clear();
+  game.applicationFolder = "/nowhere/";
+  EXPECT_EQ(StartFolder(game, kOpenAutoBet), game.dataFolder) << "a copy without samples";
+}
+
 TEST(MainWindow, APlayerMovesToAClickedPlace) {
   Evening evening;
   evening.Join(4, "Eve");
@@ -492,6 +524,154 @@ TEST(MainWindow, APlayerMovesToAClickedPlace) {
   EXPECT_EQ(evening.real.game->table.SeatName[7], "Eve");
   EXPECT_TRUE(evening.real.game->table.SeatName[4].empty());
   EXPECT_EQ(evening.real.game->table.SelectedSeat, 7);
+}
+
+// No two captions have the same letter after their "&".
+void ExpectOwnLetters(const QStringList& captions, const QString& where) {
+  QMap<QChar, QString> owners;
+  for (const QString& caption : captions) {
+    const auto mark = caption.indexOf('&');
+    if (mark < 0 || mark + 1 >= caption.size()) continue;
+    const QChar letter = caption[mark + 1].toUpper();
+    EXPECT_FALSE(owners.contains(letter)) << where.toStdString() << ": \"" << caption.toStdString()
+                                          << "\" and \"" << owners[letter].toStdString() << "\"";
+    owners[letter] = caption;
+  }
+}
+
+void ExpectOwnLetters(const QMenu& menu, const QString& name) {
+  QStringList captions;
+  for (const QAction* action : menu.actions()) {
+    captions.append(action->text());
+    if (action->menu() != nullptr) ExpectOwnLetters(*action->menu(), action->text());
+  }
+  ExpectOwnLetters(captions, name);
+}
+
+// Of one menu's entries, and of all that Alt reaches at once: the menus, the window's buttons and those of
+// the tool windows, from which the window's are reached too.
+TEST(MainWindow, EveryAccessLetterHasOneOwner) {
+  Evening evening;
+  for (const char* opens : {"mnuRollYourOwnNumbers", "mnuTableMove"})
+    evening.window.Command(opens)->trigger();
+  auto* pad = evening.window.findChild<RollPad*>();
+  ASSERT_NE(pad, nullptr);
+  QTest::mouseClick(&pad->Grid(), Qt::RightButton);
+  for (const int throttle : {0, kThrottleAutoRoll}) {
+    SetThrottle(*evening.real.game, throttle);
+    QStringList together;
+    for (const QAction* menu : evening.window.menuBar()->actions()) together.append(menu->text());
+    for (const QAbstractButton* button : evening.window.findChildren<QAbstractButton*>())
+      together.append(button->text());
+    EXPECT_GT(together.size(), 20);
+    ExpectOwnLetters(together, "the window");
+    for (const QMenu* menu : evening.window.findChildren<QMenu*>()) ExpectOwnLetters(*menu, menu->title());
+  }
+  pad->findChild<QMenu*>("mnuRYON")->close();
+  QtWarnings().removeAll("This plugin does not support grabbing the keyboard");
+}
+
+// Wherever the keyboard is but in an entry box.
+TEST(MainWindow, PlainKeysActFromEveryButtonAndToolWindow) {
+  Evening evening;
+  evening.Join(2, "Ann");
+  evening.Join(6, "Fay");
+  evening.Bet(kField, 2);
+  for (const char* opens : {"mnuRollYourOwnNumbers", "mnuTableMove"})
+    evening.window.Command(opens)->trigger();
+  const TableState& state = evening.real.game->table;
+  struct Case {
+    const char* window;
+    const char* focus;
+  };
+  const Case cases[] = {{"frmRYON", "picRYON"},          {"frmRYON", "cmdRandomRoll"},
+                        {"frmRYON", "cmdTurboRoll"},     {"frmRYON", "hsbThrottle"},
+                        {"frmMove", "cmdZoomIn"},        {"frmMove", "cmdCenter"},
+                        {"frmCrapTable", "picLayout"},   {"frmCrapTable", "cmdRoll"},
+                        {"frmCrapTable", "hsbThrottle"}, {"frmCrapTable", "picCheck3"}};
+  for (const Case& one : cases) {
+    QWidget* place = &evening.window;
+    if (place->objectName() != one.window) place = evening.window.findChild<QWidget*>(one.window);
+    ASSERT_NE(place, nullptr) << one.window;
+    place->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(place)) << one.window;
+    auto& focus = Find<QWidget>(*place, one.focus);
+    focus.setFocus();
+    const auto press = [&](Qt::Key key) { QTest::keyClick(&focus, key); };
+    press(Qt::Key_2);
+    EXPECT_EQ(state.SelectedSeat, 2) << one.focus;
+    press(Qt::Key_6);
+    EXPECT_EQ(state.SelectedSeat, 6) << one.focus;
+    press(Qt::Key_Delete);
+    EXPECT_EQ(evening.window.Commands().PendingAction, kPendingRemove) << one.focus;
+    press(Qt::Key_Escape);
+    EXPECT_EQ(evening.window.Commands().PendingAction, kPendingNone) << one.focus;
+    const int shooter = state.ShooterSeat;
+    press(Qt::Key_P);
+    EXPECT_NE(state.ShooterSeat, shooter) << one.focus;
+    for (const bool on : {true, false}) {
+      press(Qt::Key_C);
+      EXPECT_EQ(evening.window.Command("mnuDisplayPropBets")->isChecked(), on) << one.focus;
+      press(Qt::Key_F9);
+      EXPECT_EQ(evening.window.Command("mnuKeyInBetAmounts")->isChecked(), on) << one.focus;
+    }
+  }
+}
+
+// What a decided bet or a script asks stands over the roll that it is about.
+TEST(MainWindow, ABoxComesUpOverTheTableAsItIs) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.Join(6, "Fay");
+  evening.real.game->table.handling[4].WinHandling = evening.real.game->table.handling[4].LoseHandling = 0;
+  const TableState& state = evening.real.game->table;
+  WriteFile(evening.real.game->dataFolder + "told.bet", "show message \"rolled\"");
+  QueuedFileNames() = {"told.bet"};
+  evening.window.Command("mnuOpenScript")->trigger();
+  evening.hands.answers = {PressEscape};  // it need not be initialised
+  evening.window.Command("mnuActivateScript")->trigger();
+  auto* status = evening.window.findChild<QLabel*>("lblStatus");
+  int boxes = 0;
+  evening.hands.watch = [&] {
+    ++boxes;
+    const DicePose& dice = evening.Table().scene.dice;
+    EXPECT_EQ(std::pair(dice.Face1, dice.Face2), std::pair(state.Die1, state.Die2));
+    const QString roll = QString("Roll %1   ").arg(SessionRolls(evening.real.game->stats));
+    const QString point = state.Point == 0 ? QString("Come-out") : QString("Point %1").arg(state.Point);
+    EXPECT_TRUE(status->text().startsWith(roll + point)) << status->text().toStdString();
+  };
+  const int dice[][2] = {{6, 5}, {1, 1}, {2, 2}, {6, 3}, {3, 1}};
+  for (const auto& [die1, die2] : dice) {
+    const int before = boxes;
+    PlaceBet(*evening.real.game, 4, kField, Currency::Dollars(5));
+    PlaceBet(*evening.real.game, 4, kPassLine, Currency::Dollars(5));
+    evening.real.Roll(die1, die2);
+    EXPECT_GT(boxes, before + 1) << "a settled bet and the script's message";
+  }
+}
+
+TEST(MainWindow, AScriptAndWhetherItIsActiveShowInTheStatusBox) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  evening.Bet(kPassLine, 2);
+  const auto text = [&] { return ScriptText(*evening.real.game, 4); };
+  QList<QImage> pictures{evening.Table().grab().toImage()};
+  EXPECT_EQ(text(), "");
+  QueuedFileNames() = {evening.real.game->applicationFolder + "samples/Sample1.bet"};
+  const struct {
+    const char* command;
+    const char* text;
+  } steps[] = {{"mnuOpenScript", "Sample1: off"},
+               {"mnuActivateScript", "Sample1: on"},
+               {"mnuActivateScript", "Sample1: off"}};
+  evening.hands.answers = {PressEscape};
+  for (const auto& step : steps) {
+    evening.window.Command(step.command)->trigger();
+    EXPECT_EQ(text(), step.text);
+    pictures.append(evening.Table().grab().toImage());
+    EXPECT_NE(pictures.back(), pictures[pictures.size() - 2]) << step.text;
+  }
+  EXPECT_EQ(pictures[3], pictures[1]);
 }
 
 TEST(MainWindow, EveryMenuEntryHasAName) {

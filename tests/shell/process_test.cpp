@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
@@ -11,6 +12,7 @@
 #include <QtEndian>
 #include <csignal>
 
+#include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 #include "support/places.h"
@@ -18,15 +20,16 @@
 namespace tessaryn::test {
 namespace {
 
-constexpr QSize kScreen(1280, 800);
+constexpr QSize kWindow(1280, 800);  // of a first start on a screen that has room for it
 
 // A display without a screen; its picture can be read from a file.
 class Display {
  public:
-  Display() {
+  explicit Display(QSize size = {1400, 900}) {
+    const QString screen = QString("%1x%2x24").arg(size.width()).arg(size.height());
     server_.setProgram("Xvfb");
     server_.setArguments(
-        {"-displayfd", "1", "-screen", "0", "1280x800x24", "-fbdir", folder_.path(), "-nolisten", "tcp"});
+        {"-displayfd", "1", "-screen", "0", screen, "-fbdir", folder_.path(), "-nolisten", "tcp"});
     server_.start();
     if (server_.waitForReadyRead(15'000)) name_ = ":" + QString(server_.readAllStandardOutput()).trimmed();
   }
@@ -85,12 +88,33 @@ class Program {
     process_.kill();
     process_.waitForFinished(5000);
   }
-  void Do(const QStringList& arguments) {
+  // What the tool says; a search that finds nothing is no failure.
+  QString Ask(const QStringList& arguments) {
     QProcess tool;
     tool.setProcessEnvironment(process_.processEnvironment());
     tool.start("xdotool", arguments);
-    ASSERT_TRUE(tool.waitForFinished(10'000)) << "xdotool: " << tool.errorString().toStdString();
-    ASSERT_EQ(tool.exitCode(), 0) << tool.readAllStandardError().toStdString();
+    EXPECT_TRUE(tool.waitForFinished(10'000)) << "xdotool: " << tool.errorString().toStdString();
+    EXPECT_TRUE(tool.exitCode() == 0 || arguments[0] == "search")
+        << tool.readAllStandardError().toStdString();
+    return tool.readAllStandardOutput();
+  }
+  void Do(const QStringList& arguments) { Ask(arguments); }
+  // The titles of the boxes that are open. Tool tips have none.
+  QStringList Boxes() {
+    QStringList titles;
+    const QString all = Ask({"search", "--onlyvisible", "--class", "tessaryn", "getwindowname", "%@"});
+    for (const QString& title : all.split('\n', Qt::SkipEmptyParts))
+      if (title.contains(" \u2014 ")) titles.append(title.section(" \u2014 ", 0, 0));
+    return titles;
+  }
+  // Each gets its safe answer, until no more come.
+  void AnswerBoxes() {
+    for (int quiet = 0, tries = 0; quiet < 2 && tries < 60; ++tries) {
+      quiet = Boxes().isEmpty() ? quiet + 1 : 0;
+      if (quiet == 0) Key("Return");
+      QTest::qWait(150);
+    }
+    EXPECT_EQ(Boxes().join(", ").toStdString(), "");
   }
   void Click(QPoint point, int button = 1) {
     Do({"mousemove", QString::number(point.x()), QString::number(point.y()), "click",
@@ -143,7 +167,7 @@ struct Places {
     ScreenTable table;
     MainWindow window(*table.game, table.host);
     window.RestoreWindow();
-    window.resize(kScreen);
+    window.resize(kWindow);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     TableWidget& felt = window.Table();
@@ -160,11 +184,32 @@ struct FirstEvening {
   Display display;
   QTemporaryDir data;
   Places places;
+
+  // Until the table is on the screen.
+  bool WaitForTable() {
+    return QTest::qWaitFor(
+        [&] { return display.Picture().pixelColor(places.passLine + QPoint(0, 12)).green() > 40; }, 15'000);
+  }
+  // Clicks a place at the rail and answers who it is.
+  void Join(Program& program) {
+    const QImage before = program.Settled();
+    program.Click(places.seat);
+    ASSERT_TRUE(program.WaitForChange(before, Around(places.middle, 150), 500)) << "no question";
+    program.Key("Return");
+    program.Settled();
+    program.Do({"type", "Ann"});
+    program.Key("Return");
+    program.Settled();
+    program.Key("Return");
+    ASSERT_TRUE(program.WaitForChange(before, Around(places.seat, 30))) << "no name at the rail";
+    program.Settled();
+  }
 };
 
 TEST(Program, TwoClicksToAPlayerABetAndARollThenATurboRollAndTheQuestionsOfTheEnd) {
   FirstEvening evening;
   ASSERT_FALSE(evening.display.Name().isEmpty()) << evening.display.Why().toStdString();
+<<<<<<< HEAD
   Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
                   {"--data-folder", evening.data.path()});
   const QRect all(QPoint(0, 0), kScreen);
@@ -175,30 +220,27 @@ TEST(Program, TwoClicksToAPlayerABetAndARollThenATurboRollAndTheQuestionsOfTheEn
       },
       15'000));
   QImage before = program.Settled();
+=======
+  Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", evening.data.path()});
+  ASSERT_TRUE(evening.WaitForTable());
+>>>>>>> front
   // The first click: a player.
-  program.Click(evening.places.seat);
-  ASSERT_TRUE(program.WaitForChange(before, Around(evening.places.middle, 150), 500)) << "no question";
-  program.Key("Return");
-  program.Settled();
-  program.Do({"type", "Ann"});
-  program.Key("Return");
-  program.Settled();
-  program.Key("Return");
-  ASSERT_TRUE(program.WaitForChange(before, Around(evening.places.seat, 30))) << "no name at the rail";
-  // The second: a bet. Then a roll.
-  before = program.Settled();
+  ASSERT_NO_FATAL_FAILURE(evening.Join(program));
+  // The second: a bet. Then a roll, which is told before the box of a bet that it decides.
+  QImage before = program.Settled();
   program.Click(evening.places.passLine);
   ASSERT_TRUE(program.WaitForChange(before, Around(evening.places.passLine, 12)))
       << "no check on the Pass Line";
   before = program.Settled();
-  const QRect status(kScreen.width() - 330, kScreen.height() - 24, 330, 24);
+  const QRect status(kWindow.width() - 330, kWindow.height() - 24, 330, 24);
   program.Click(evening.places.passLine, 3);
   ASSERT_TRUE(program.WaitForChange(before, status, 5)) << "no roll was counted";
   program.Settled();
+  program.AnswerBoxes();
   // A Turbo-Roll at its slowest, so that it is still on when it is looked at.
-  program.Key("Return");  // the box of a bet that was decided, if it was
   program.Click(evening.places.passLine);
   program.Settled();
+  program.AnswerBoxes();
   program.Click(evening.places.throttle);
   program.Key("End");
   program.Key("Left");
@@ -264,26 +306,120 @@ TEST(Program, StartsWithoutSoundsGeneratorsOrFontAndSaysSo) {
 }
 
 TEST(Program, WrongOptionsAndFoldersAreNamed) {
+  enum Screen { kOffscreen, kNone, kDead };
   struct Case {
+    Screen screen;
     QStringList arguments;
     int code;
     const char* names;
   };
-  const Case cases[] = {{{"--no-such-option"}, 2, "--no-such-option"},
-                        {{"--data-folder", "/dev/null/x"}, 1, "/dev/null/x"},
-                        {{"--help"}, 0, "--data-folder"},
-                        {{"--version"}, 0, TESSARYN_VERSION}};
+  const Case cases[] = {{kOffscreen, {"--no-such-option"}, 2, "--no-such-option"},
+                        {kOffscreen, {"--data-folder"}, 2, "--data-folder"},
+                        {kOffscreen, {"--data-folder", "/dev/null/x"}, 1, "/dev/null/x"},
+                        {kOffscreen, {"--help"}, 0, "--data-folder"},
+                        {kNone, {"--help"}, 0, "--data-folder"},
+                        {kNone, {"--version"}, 0, TESSARYN_VERSION},
+                        {kNone, {}, 1, "no display"},
+                        {kNone, {"--no-such-option"}, 1, "no display"},
+                        {kNone, {"--data-folder"}, 1, "no display"},
+                        {kNone, {"--data-folder", "/dev/null/x"}, 1, "no display"},
+                        {kDead, {}, 1, ":98765"},
+                        {kDead, {"-platform", "nonsense"}, 1, "no display"}};
   for (const Case& wrong : cases) {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) environment.remove(name);
+    if (wrong.screen == kOffscreen) environment.insert("QT_QPA_PLATFORM", "offscreen");
+    if (wrong.screen == kDead) environment.insert("DISPLAY", ":98765");
     process.setProcessEnvironment(environment);
     process.start(QString(test::kBinFolder) + "/tessaryn", wrong.arguments);
     ASSERT_TRUE(process.waitForFinished(15'000));
-    EXPECT_EQ(process.exitCode(), wrong.code) << wrong.names;
+    const std::string what = wrong.arguments.join(' ').toStdString() + " on " + std::to_string(wrong.screen);
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit) << what;
+    EXPECT_EQ(process.exitCode(), wrong.code) << what;
     const QString said = process.readAllStandardOutput() + process.readAllStandardError();
-    EXPECT_TRUE(said.contains(wrong.names)) << said.toStdString();
+    EXPECT_TRUE(said.contains(wrong.names)) << what << ": " << said.toStdString();
+    EXPECT_TRUE(wrong.code != 1 || said.trimmed().count('\n') == 0) << what << ": " << said.toStdString();
   }
+}
+
+// Each start is seeded by the machine's clock, so no two evenings are the same.
+TEST(Program, EveryStartHasItsOwnSeed) {
+  FirstEvening evening;
+  ASSERT_FALSE(evening.display.Name().isEmpty());
+  const std::string folder = evening.data.path().toStdString() + "/";
+  WriteFile(folder + "seed.bet", "open/append file for output \"seeds.txt\"\noutput to file seed\n");
+  std::string error;
+  ASSERT_TRUE(WriteHotKeys(folder + kHotKeysFile, {{'s', folder + "seed.bet", "Seed"}}, error)) << error;
+  const auto seeds = [&] {
+    QStringList all;
+    QDirIterator found(evening.data.path(), {"seeds.txt"}, QDir::Files, QDirIterator::Subdirectories);
+    if (found.hasNext())
+      all = QString::fromStdString(ReadFile(found.next().toStdString())).split('\n', Qt::SkipEmptyParts);
+    return all;
+  };
+  Generators clocked;
+  double earliest = TimeSeed(clocked, MachineTick()).ToDouble();
+  constexpr int kStarts = 5;
+  for (int start = 1; start <= kStarts; ++start) {
+    Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", evening.data.path()});
+    ASSERT_TRUE(evening.WaitForTable());
+    ASSERT_NO_FATAL_FAILURE(evening.Join(program));
+    program.Focus("^Tessaryn$");
+    program.Key("ctrl+s");
+    program.Settled();
+    EXPECT_EQ(program.Boxes().join(", ").toStdString(), "");
+    program.Key("ctrl+shift+q");
+    ASSERT_TRUE(program.WaitForEnd());
+    ASSERT_EQ(seeds().size(), start);
+    const double seed = seeds().back().toDouble();
+    EXPECT_GE(seed, earliest);
+    earliest = TimeSeed(clocked, MachineTick()).ToDouble();
+    EXPECT_LE(seed, earliest);
+  }
+}
+
+// The whole window, with its status bar and buttons, on a small screen; so does one that was left large.
+TEST(Program, TheWindowFitsASmallScreen) {
+  constexpr QSize kSmall(1024, 600);
+  Display display(kSmall);
+  ASSERT_FALSE(display.Name().isEmpty());
+  for (const bool leftLarge : {false, true}) {
+    ScreenTable table;
+    if (leftLarge) {
+      MainWindow large(*table.game, table.host);
+      large.resize(1900, 1000);
+      large.SaveWindow();
+    }
+    Program program(display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", table.folder.path()});
+    const QStringList ask = {"search", "--sync", "--onlyvisible", "--name", "^Tessaryn$", "getwindowgeometry",
+                             "--shell"};
+    QMap<QString, int> geometry;
+    for (const QString& line : program.Ask(ask).split('\n', Qt::SkipEmptyParts))
+      geometry[line.section('=', 0, 0)] = line.section('=', 1).toInt();
+    const QRect place(geometry["X"], geometry["Y"], geometry["WIDTH"], geometry["HEIGHT"]);
+    EXPECT_GT(place.height(), 400);
+    EXPECT_TRUE(QRect(QPoint(), kSmall).contains(place))
+        << place.x() << "," << place.y() << " " << place.width() << "x" << place.height();
+  }
+}
+
+// One box says so; the game goes on, and the end asks and writes nothing.
+TEST(Program, ADataFolderThatCantBeWrittenIsToldOnce) {
+  FirstEvening evening;
+  ASSERT_FALSE(evening.display.Name().isEmpty());
+  Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", "/proc"});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000));
+  EXPECT_EQ(program.Boxes(), QStringList("Data Folder"));
+  program.Settled();
+  program.Key("Return");
+  program.Settled();
+  EXPECT_EQ(program.Boxes(), QStringList());
+  program.Focus("^Tessaryn$");
+  program.Key("ctrl+shift+q");
+  EXPECT_TRUE(program.WaitForEnd());
+  EXPECT_EQ(program.ExitCode(), 0);
+  EXPECT_EQ(program.Complaints().toStdString(), "");
 }
 
 }  // namespace

@@ -126,17 +126,24 @@ TEST(RollPadPresses, OnlyTheLeftButtonRollsAndOnlyInACell) {
   EXPECT_EQ(table.Rolls(), 0);
 }
 
-// With a line bet wanting, the dice asked for don't turn up in the random roll after it.
-TEST(RollPadPresses, ARandomRollIsNotTheOneThatWasRefusedBefore) {
+// With a line bet wanting, the dice asked for don't turn up in the roll after it, from the pad or elsewhere.
+TEST(RollPadPresses, TheNextRollIsNotTheOneThatWasRefusedBefore) {
   OpenPad table(1);
   table.pad.SetPadLayout(kPadBox);
   std::set<std::pair<int, int>> rolled;
   for (int n = 0; n < 12; ++n) {
+    if (n == 6) {
+      EXPECT_GT(rolled.size(), 1u);
+      rolled.clear();
+    }
     table.host.answers.Ok();
     table.Press(5, 5);
     EXPECT_TRUE(table.host.answers.Empty()) << "a line bet is required";
     table.game->settings.ShooterBetRule = 0;
-    QTest::mouseClick(&Find<QPushButton>(table.pad, "cmdRandomRoll"), Qt::LeftButton);
+    if (n < 6)
+      RollDice(*table.game);
+    else
+      QTest::mouseClick(&Find<QPushButton>(table.pad, "cmdRandomRoll"), Qt::LeftButton);
     table.game->settings.ShooterBetRule = 1;
     rolled.insert({table.State().Die1, table.State().Die2});
   }
@@ -289,10 +296,10 @@ TEST(RollPadButtons, TheThrottleIsSetByKeysAndNamesTheRun) {
   auto& run = Find<QPushButton>(table.pad, "cmdTurboRoll");
   QTest::keyClick(&throttle, Qt::Key_End);
   EXPECT_EQ(table.game->settings.RollThrottle, kThrottleAutoRoll);
-  EXPECT_EQ(run.text(), "Start &Auto-Roll");
+  EXPECT_EQ(run.text(), "Start Auto-Roll");
   QTest::keyClick(&throttle, Qt::Key_Left);
   EXPECT_EQ(table.game->settings.RollThrottle, 11);
-  EXPECT_EQ(run.text(), "Start &Turbo-Roll");
+  EXPECT_EQ(run.text(), "Start Turbo-Roll");
   EXPECT_EQ(Find<QLabel>(table.pad, "lblThrottle").text(), "20.48 s a roll");
   SetThrottle(*table.game, 3);
   EXPECT_EQ(throttle.value(), 3) << "a throttle that moved elsewhere is followed";

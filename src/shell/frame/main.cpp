@@ -6,8 +6,10 @@
 #include <QDir>
 #include <QFile>
 #include <QStatusBar>
+#include <QStringList>
 #include <QTimer>
 #include <cstdio>
+#include <cstdlib>
 
 #include "base/program_folders.h"
 #include "shell/frame/main_window.h"
@@ -32,9 +34,32 @@ void ProvideRuntimeFolder() {
   qputenv("XDG_RUNTIME_DIR", folder.toUtf8());
 }
 
+// What is said while the window system is looked for. It is worth telling only if there is one.
+QStringList& EarlyWords() {
+  static QStringList words;
+  return words;
+}
+
+void HearEarlyWords(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+  if (type != QtFatalMsg) return EarlyWords().append(qFormatLogMessage(type, context, text));
+  const QByteArray display = qgetenv("DISPLAY");
+  std::fprintf(
+      stderr,
+      "tessaryn: there is no display to open the window on (DISPLAY is %s); tessaryn-cli plays without one\n",
+      display.isEmpty() ? "not set" : display.constData());
+  std::_Exit(1);
+}
+
+void TellEarlyWords() {
+  qInstallMessageHandler(nullptr);
+  for (const QString& words : EarlyWords()) std::fprintf(stderr, "%s\n", qPrintable(words));
+}
+
 int RunProgram(QApplication& application, std::string dataFolder) {
   std::string error;
-  if (!PrepareDataFolder(dataFolder, error)) {
+  const bool named = !dataFolder.empty();
+  // Without the usual folder there is a table to play at all the same; it tells that nothing is kept.
+  if (!PrepareDataFolder(dataFolder, error) && named) {
     std::fprintf(stderr, "tessaryn: %s\n", error.c_str());
     return 1;
   }
@@ -54,6 +79,7 @@ int RunProgram(QApplication& application, std::string dataFolder) {
     splash.close();
     TellMissingFiles(*game);
     if (!shared.empty()) ShowMessage(*game, "Data Folder", shared);
+    window.TellIfNothingIsKept();
     if (!sounds.Missing().isEmpty()) window.statusBar()->showMessage(sounds.Missing(), 15'000);
   });
   return application.exec();
@@ -71,20 +97,25 @@ int main(int count, char** arguments) {
       ->type_name("DIR");
   QApplication::setApplicationName("tessaryn");
   QApplication::setApplicationDisplayName("Tessaryn");
-  // Help and wrong usage need no screen; the window system's own options are taken out by the application.
-  const auto parse = [&]() -> int {
-    try {
-      options.parse(count, arguments);
-      return -1;
-    } catch (const CLI::ParseError& problem) {
-      return options.exit(problem) == 0 ? 0 : 2;
-    }
-  };
+  // Help needs no screen. All else does; the window system's own options are taken out by the application.
   options.allow_extras();
-  if (const int code = parse(); code >= 0) return code;
+  try {
+    options.parse(count, arguments);
+  } catch (const CLI::Success& help) {
+    return options.exit(help);
+  } catch (const CLI::ParseError&) {
+    // Told below.
+  }
   tessaryn::ProvideRuntimeFolder();
+  qInstallMessageHandler(tessaryn::HearEarlyWords);
   QApplication application(count, arguments);
+  tessaryn::TellEarlyWords();
   options.allow_extras(false);
-  if (const int code = parse(); code >= 0) return code;
+  try {
+    options.parse(count, arguments);
+  } catch (const CLI::ParseError& problem) {
+    options.exit(problem);
+    return 2;
+  }
   return tessaryn::RunProgram(application, dataFolder);
 }

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTimer>
@@ -16,6 +17,7 @@
 #include <filesystem>
 
 #include "base/bet_catalogue.h"
+#include "base/program_folders.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
@@ -72,7 +74,7 @@ const MainWindow::CommandFacts MainWindow::kCommands[] = {
      &MainWindow::RenameSelected, &MainWindow::HasPlayer},
     {TITLE("&Players"), "mnuPlayerMove", TITLE("&Move"), nullptr, false, true, &MainWindow::MoveSelected,
      &MainWindow::CanMove},
-    {TITLE("&Players"), "mnuPlayerDelete", TITLE("Re&move ..."), nullptr, false, true,
+    {TITLE("&Players"), "mnuPlayerDelete", TITLE("R&emove ..."), nullptr, false, true,
      &MainWindow::RemoveSelected, &MainWindow::HasPlayer},
     {TITLE("&Players"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Players"), "mnuAtm", TITLE("A&TM ..."), nullptr, false, true, &MainWindow::OpenAtm,
@@ -91,7 +93,7 @@ const MainWindow::CommandFacts MainWindow::kCommands[] = {
      &MainWindow::HasCallableBet},
     {TITLE("&Bets"), "mnuCallAllBetsOn", TITLE("Call all bets O&N"), nullptr, false, true,
      &MainWindow::CallAllOn, &MainWindow::HasCallableBet},
-    {TITLE("&Bets"), "mnuCallAllBetsOff", TITLE("Call all bets OF&F"), nullptr, false, true,
+    {TITLE("&Bets"), "mnuCallAllBetsOff", TITLE("&Call all bets OFF"), nullptr, false, true,
      &MainWindow::CallAllOff, &MainWindow::HasCallableBet},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Bets"), "mnuTakeFullOdds", TITLE("&Take full odds"), nullptr, false, true, &MainWindow::TakeFull,
@@ -130,16 +132,16 @@ const MainWindow::CommandFacts MainWindow::kCommands[] = {
     {TITLE("&Dice"), "mnuCloseRollFile", TITLE("C&lose the dice roll file"), "Esc", false, true,
      &MainWindow::CloseRollFileNow, &MainWindow::RollFileOpen},
 
-    {TITLE("&Auto-Bet"), "mnuOpenScript", TITLE("&Open script ..."), nullptr, false, true,
+    {TITLE("A&uto-Bet"), "mnuOpenScript", TITLE("&Open script ..."), nullptr, false, true,
      &MainWindow::OpenScriptFile, &MainWindow::HasPlayer},
-    {TITLE("&Auto-Bet"), "mnuActivateScript", TITLE("&Active"), nullptr, true, true,
+    {TITLE("A&uto-Bet"), "mnuActivateScript", TITLE("&Active"), nullptr, true, true,
      &MainWindow::ActivateSelected, &MainWindow::HasScript},
-    {TITLE("&Auto-Bet"), "mnuInitialiseScripts", TITLE("&Initialize"), nullptr, false, true,
+    {TITLE("A&uto-Bet"), "mnuInitialiseScripts", TITLE("&Initialize"), nullptr, false, true,
      &MainWindow::InitialiseAll, &MainWindow::AnyScript},
-    {TITLE("&Auto-Bet"), "mnuStopAutobetting", TITLE("&Stop auto-betting"), nullptr, false, false,
+    {TITLE("A&uto-Bet"), "mnuStopAutobetting", TITLE("&Stop auto-betting"), nullptr, false, false,
      &MainWindow::StopScripts, &MainWindow::ScriptsRun},
-    {TITLE("&Auto-Bet"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
-    {TITLE("&Auto-Bet"), "mnuHotKey", TITLE("Assign a &hot-key ..."), nullptr, false, true,
+    {TITLE("A&uto-Bet"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
+    {TITLE("A&uto-Bet"), "mnuHotKey", TITLE("Assign a &hot-key ..."), nullptr, false, true,
      &MainWindow::ChooseHotKey, &MainWindow::Free},
 
     {TITLE("&View"), "mnuDisplayBetAmounts", TITLE("Bet &amounts"), "F11", true, false,
@@ -206,6 +208,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host) : game_(game), host_(host) {
 
 MainWindow::~MainWindow() {
   host_.changed = nullptr;
+  host_.beforeBox = nullptr;
   host_.showThrow = nullptr;
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
@@ -438,11 +441,11 @@ void MainWindow::ConnectTable() {
 void MainWindow::ConnectHost() {
   host_.window = this;
   host_.changed = [this](Game&, Change change) { OnChanged(change); };
+  host_.beforeBox = [this] { ShowState(); };
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
   host_.showWin = [this](Game&) { table_->RainChecks(); };
   host_.showProgress = [this](Game& game) { turbo_->Refresh(game); };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
-    table_->Refresh();
     return AskSettleBet(this, game, question);
   };
 }
@@ -454,11 +457,23 @@ void MainWindow::OnChanged(Change change) {
     amounts_->RefreshChecks();
     table_->RebuildLayout();
   }
-  if (change == Change::kEverything &&
-      (table_->scene.dice.Face1 != game_.table.Die1 || table_->scene.dice.Face2 != game_.table.Die2))
-    table_->PlaceDice();
+  if (change == Change::kEverything) ShowFallenDice();
   table_->Refresh();
   RefreshSoon();
+}
+
+void MainWindow::ShowFallenDice() {
+  const DicePose& shown = table_->scene.dice;
+  if (shown.Face1 != game_.table.Die1 || shown.Face2 != game_.table.Die2) table_->PlaceDice();
+}
+
+void MainWindow::ShowState() {
+  ShowFallenDice();
+  // Checks that rained lie there while the box that tells why is read.
+  auto rain = std::move(table_->scene.rain);
+  table_->Refresh();
+  table_->scene.rain = std::move(rain);
+  RefreshCommands();
 }
 
 void MainWindow::OnRunChanged() {
@@ -747,6 +762,7 @@ void MainWindow::OpenScriptFile() {
     ShowMessage(game_, kOpenAutoBet.title, error);
     return;
   }
+  table_->update();
   const ScriptCheck check = CheckScript(game_, seat);
   if (!check.ok) ShowMessage(game_, check.title, check.text);
 }
@@ -757,6 +773,7 @@ void MainWindow::ActivateSelected() {
     SetScriptActive(game_, seat, false);
   else
     ActivateScript(game_, seat);
+  table_->update();
 }
 
 void MainWindow::InitialiseAll() {
@@ -767,6 +784,7 @@ void MainWindow::InitialiseAll() {
 void MainWindow::StopScripts() {
   game_.autobet.ScriptRunning = false;
   SetAllScriptsActive(game_, false);
+  table_->update();
 }
 
 void MainWindow::ChooseHotKey() {
@@ -787,7 +805,7 @@ void MainWindow::ChooseHotKey() {
   // Those that another window has added since are kept.
   const std::string file = game_.dataFolder + kHotKeysFile;
   if (!ReadHotKeys(file, hotKeys_, error) || !AddHotKey(hotKeys_, key, error) ||
-      !WriteHotKeys(file, hotKeys_, error))
+      (keeps_ && !WriteHotKeys(file, hotKeys_, error)))
     ShowMessage(game_, "Hot-Keys", error);
 }
 
@@ -924,15 +942,21 @@ bool MainWindow::MayClose() {
   return SaveScriptsFirst() && SaveProbabilitiesFirst();
 }
 
+void MainWindow::TellIfNothingIsKept() {
+  keeps_ = CanWriteIn(game_.dataFolder);
+  if (keeps_) return;
+  ShowMessage(game_, "Data Folder",
+              "Nothing can be written into the data folder\r\r" + game_.dataFolder +
+                  "\r\rNothing will be kept: what goes there, as hot-keys, logs and the window's place, ends "
+                  "with the program. The option --data-folder names another folder.",
+              kMsgOk | kMsgAlert, 640);
+}
+
 std::string MainWindow::WriteFinalFiles() {
-  std::string problem;
-  if (!hotKeys_.empty() || std::filesystem::exists(game_.dataFolder + kHotKeysFile))
-    WriteHotKeys(game_.dataFolder + kHotKeysFile, hotKeys_, problem);
-  const std::string unwritten = EndGame(game_);
-  if (problem.empty()) problem = unwritten;
+  const std::string problem = EndGame(game_);
   std::error_code gone;
   std::filesystem::remove(game_.ownFolder + kRollCopyFile, gone);
-  SaveWindow();
+  if (keeps_) SaveWindow();
   return problem;
 }
 
@@ -953,9 +977,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   QMainWindow::closeEvent(event);
 }
 
+// The first window, and what the desktop puts round it at most.
+constexpr QSize kFirstSize(1280, 800);
+constexpr QSize kFrame(16, 40);
+
 void MainWindow::RestoreWindow() {
   QSettings settings(FromCore(game_.dataFolder) + "window.ini", QSettings::IniFormat);
-  if (!restoreGeometry(settings.value("geometry").toByteArray())) resize(1280, 800);
+  if (!restoreGeometry(settings.value("geometry").toByteArray()))
+    resize(kFirstSize.boundedTo(screen()->availableGeometry().size() - kFrame));
   const Currency amount = ParseMoney(settings.value("clickAmount").toString().toStdString());
   if (amount > kZero) amounts_->SetAmount(amount);
   table_->scene.showAmounts = settings.value("showAmounts", false).toBool();

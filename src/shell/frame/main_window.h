@@ -40,6 +40,8 @@ class MainWindow : public QMainWindow {
   // As closing it, but without questions: what can't be written is told on standard error.
   void CloseUnasked();
   void SaveWindow() const;
+  // The box for a data folder that can't be written; the end then writes nothing into it.
+  void TellIfNothingIsKept();
 
   // --- What the menu's entries do; public for the table of them.
   void NewGame();
@@ -109,6 +111,9 @@ class MainWindow : public QMainWindow {
   void RefreshCommands();
   void RefreshSoon();
   void OnChanged(Change change);
+  void ShowFallenDice();
+  // Everything as the state has it, at once.
+  void ShowState();
   void OnRunChanged();
   void OnBetClicked(int bet, bool alt);
   void OnSeatClicked(int seat);
@@ -165,6 +170,7 @@ class MainWindow : public QMainWindow {
   int movingSeat_ = 0;  // the player who waits for a new place; 0 none
   bool refreshPending_ = false;
   bool closing_ = false;
+  bool keeps_ = true;  // the data folder can be written
 };
 
 }  // namespace tessaryn

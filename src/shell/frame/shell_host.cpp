@@ -21,11 +21,13 @@ constexpr int kWaitStep = 10;
 ShellHost::ShellHost() { clock_.start(); }
 
 void ShellHost::ShowMessage(Game&, MessageBox& box) {
+  if (beforeBox) beforeBox();
   if (answers.Take(box)) return;
   ShowMessageScreen(box, window);
 }
 
 SettleAnswer ShellHost::AskSettlement(Game& game, const SettleQuestion& question) {
+  if (beforeBox) beforeBox();
   return askSettlement ? askSettlement(game, question) : SettleAnswer{};
 }
 
@@ -55,7 +57,7 @@ void ShellHost::Wait(Game&) {
   loop.exec();
 }
 
-std::uint32_t ShellHost::TickMilliseconds() { return static_cast<std::uint32_t>(clock_.elapsed()); }
+std::uint32_t ShellHost::TickMilliseconds() { return MachineTick(); }
 
 std::string ShellHost::DateText() {
   return QLocale().toString(QDate::currentDate(), QLocale::ShortFormat).toStdString();

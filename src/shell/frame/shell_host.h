@@ -23,6 +23,9 @@ class ShellHost : public Host {
   AnswerQueue answers;
   // Called in a Turbo-Roll ten times a second.
   std::function<void(Game&)> showProgress;
+  // A box is about to come up: what it stands over is brought up to date, since the state rests until it is
+  // answered.
+  std::function<void()> beforeBox;
   // The settlement dialog. Empty: the safe choice.
   std::function<SettleAnswer(Game&, const SettleQuestion&)> askSettlement;
   std::function<void(Game&, Change)> changed;

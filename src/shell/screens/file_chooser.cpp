@@ -1,6 +1,7 @@
 #include "shell/screens/file_chooser.h"
 
 #include <QFileDialog>
+#include <QUrl>
 #include <filesystem>
 
 #include "base/record_file.h"
@@ -12,12 +13,12 @@ namespace tessaryn {
 
 namespace fs = std::filesystem;
 
-const FilePurpose kOpenAutoBet{"Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false,
-                               false};
+const FilePurpose kOpenAutoBet{
+    "Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, true};
 const FilePurpose kSaveAutoBet{"Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true,
                                true};
-const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)",
-                                ".bet", false, false};
+const FilePurpose kHotKeyScript{
+    "Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, true};
 const FilePurpose kOpenProbabilities{"Open Probability File", "Probability file (*.prb);;All files (*)",
                                      ".prb", false, false};
 const FilePurpose kSaveProbabilities{"Save Probability File As", "Probability file (*.prb);;All files (*)",
@@ -28,6 +29,19 @@ const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New F
 std::deque<std::string>& QueuedFileNames() {
   static std::deque<std::string> names;
   return names;
+}
+
+namespace {
+std::string SamplesFolder(const Game& game) { return game.applicationFolder + "samples/"; }
+}  // namespace
+
+std::string StartFolder(const Game& game, const FilePurpose& purpose) {
+  if (!purpose.samples) return game.dataFolder;
+  const fs::path own = game.autobet.Scripts[game.table.SelectedSeat].ScriptFileName;
+  std::error_code error;
+  for (const std::string& folder : {own.parent_path().string(), SamplesFolder(game)})
+    if (fs::is_directory(folder, error)) return folder;
+  return game.dataFolder;
 }
 
 FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
@@ -61,10 +75,16 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
     queued.pop_front();
     return !name.empty();
   }
-  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(game.dataFolder),
+  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(StartFolder(game, purpose)),
                      QObject::tr(purpose.types));
   dialog.setObjectName("frmFile");
   dialog.setAcceptMode(purpose.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  if (purpose.samples) {
+    QList<QUrl> places = dialog.sidebarUrls();
+    for (const std::string& folder : {game.dataFolder, SamplesFolder(game)})
+      places.append(QUrl::fromLocalFile(FromCore(folder)));
+    dialog.setSidebarUrls(places);
+  }
   // The rules below ask and refuse in the table's own words.
   dialog.setFileMode(purpose.mayBeNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);

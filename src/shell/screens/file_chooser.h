@@ -18,6 +18,7 @@ struct FilePurpose {
   const char* extension;  // added to a name without one; empty: none
   bool save;              // asks before an existing file is replaced
   bool mayBeNew;          // a file that is opened may also be made
+  bool samples = false;   // there are samples of it
 };
 
 extern const FilePurpose kOpenAutoBet;
@@ -31,6 +32,9 @@ extern const FilePurpose kOpenRollFile;
 // as boxes, and the question is asked again.
 std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose,
                        const std::string& preset = {});
+
+// The folder that the dialog begins in: for scripts that of the selected player's own, else the samples.
+std::string StartFolder(const Game& game, const FilePurpose& purpose);
 
 // What is wrong with a name for a purpose: title and text of the box. Found() false for a good one. path is
 // made full. The overwrite question is the caller's.

@@ -81,7 +81,7 @@ int KeysHeld() { return KeyMode(QGuiApplication::keyboardModifiers()); }
 
 }  // namespace
 
-MovePanel::MovePanel(QWidget* parent) : QWidget(parent, Qt::Tool) {
+MovePanel::MovePanel(QWidget* parent) : ToolWindow(parent) {
   setObjectName("frmMove");
   setWindowTitle(tr("Move Table"));
   auto* grid = new QGridLayout(this);

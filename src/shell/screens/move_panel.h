@@ -5,12 +5,14 @@
 #include <QWidget>
 #include <vector>
 
+#include "shell/table/screen_tools.h"
+
 class QGridLayout;
 class QToolButton;
 
 namespace tessaryn {
 
-class MovePanel : public QWidget {
+class MovePanel : public ToolWindow {
   Q_OBJECT
 
  public:

@@ -215,7 +215,7 @@ void PadGrid::keyPressEvent(QKeyEvent* event) {
 // --- The pad.
 
 RollPad::RollPad(Game& game, QWidget* parent)
-    : QWidget(parent, Qt::Tool),
+    : ToolWindow(parent),
       game_(game),
       grid_(new PadGrid(this)),
       counter_(new QLabel(this)),
@@ -261,7 +261,8 @@ void RollPad::Refresh() {
   const QSignalBlocker quiet(throttle_);
   throttle_->setValue(game_.settings.RollThrottle);
   speed_->setText(ThrottleText(game_.settings.RollThrottle));
-  run_->setText(RunCaption(game_));
+  // The window's own button has the access letter; it works from here too.
+  run_->setText(RunCaption(game_).remove('&'));
   run_->setEnabled(game_.table.AutoRollActive || !game_.table.RollInProgress);
   random_->setEnabled(!game_.table.RollInProgress || game_.table.AutoRollActive);
   counter_->setText(tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats)))));
@@ -288,13 +289,13 @@ void RollPad::Pressed(int row, int column) {
   game_.table.ManualDie2 = roll.Die2;
   game_.table.ManualRollPending = true;
   RollDice(game_);
+  // Dice that were not rolled, as when a line bet was wanting, are no other roll's.
+  game_.table.ManualRollPending = false;
   Refresh();
 }
 
-// Dice that were asked for and not rolled, as when a line bet was wanting, are forgotten.
 void RollPad::RandomRoll() {
   if (!MayAct()) return;
-  game_.table.ManualRollPending = false;
   RollDice(game_);
   Refresh();
 }
@@ -376,7 +377,7 @@ void RollPad::AddSettings(QMenu& menu) {
     const char* name;
     QString text;
     void (*ask)(Game&);
-  } settings[] = {{"mnuSetAutoRollTimeDelay", tr("Set Auto-Roll time &delay ..."), SetAutoRollDelay},
+  } settings[] = {{"mnuSetAutoRollTimeDelay", tr("Set Auto-Roll t&ime delay ..."), SetAutoRollDelay},
                   {"mnuSetAutoStop", tr("Set Auto-&Stop ..."), SetAutoStop}};
   for (const auto& row : settings) {
     QAction* action = menu.addAction(row.text);

@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "play/roll_pad.h"
+#include "shell/table/screen_tools.h"
 
 class QLabel;
 class QMenu;
@@ -54,7 +55,7 @@ class PadGrid : public QWidget {
   PadCell focus_{0, 0};
 };
 
-class RollPad : public QWidget {
+class RollPad : public ToolWindow {
   Q_OBJECT
 
  public:

@@ -44,7 +44,7 @@ void Trim(QPushButton& button, const QStringList& captions) {
 
 RunControls::RunControls(QWidget* parent)
     : QWidget(parent),
-      roll_(new QPushButton(tr("&Roll"), this)),
+      roll_(new QPushButton(tr("R&oll"), this)),
       pass_(new QPushButton(tr("Pass dice"), this)),
       run_(new QPushButton(this)),
       throttle_(new QSlider(Qt::Horizontal, this)),

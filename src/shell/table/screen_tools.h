@@ -24,6 +24,15 @@ QString MoneyText(Currency value);  // "1,234.50"
 // Returns the dialog's result code. The dialog must not delete itself.
 int RunDialog(QDialog& dialog);
 
+// A small window beside the main window. A key that it has no use for goes to the window it belongs to.
+class ToolWindow : public QWidget {
+ public:
+  explicit ToolWindow(QWidget* parent) : QWidget(parent, Qt::Tool) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
 // An entry box that takes only what a money field may hold.
 class MoneyEdit : public QLineEdit {
  public:

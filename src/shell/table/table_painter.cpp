@@ -5,6 +5,7 @@
 #include <QPixmapCache>
 #include <QStringList>
 #include <cmath>
+#include <filesystem>
 #include <thread>
 #include <vector>
 
@@ -549,6 +550,14 @@ QStringList StatusLines(const Game& game, int seat) {
           outcome + amount(result)};
 }
 
+QString ScriptText(const Game& game, int seat) {
+  const SeatScript& script = game.autobet.Scripts[seat];
+  if (script.ScriptLines.empty()) return {};
+  const std::string name = std::filesystem::path(script.ScriptFileName).stem().string();
+  return (name.empty() ? QStringLiteral("untitled") : FromCore(name)) +
+         (game.autobet.ScriptActive[seat] ? QStringLiteral(": on") : QStringLiteral(": off"));
+}
+
 namespace {
 
 constexpr double kBoxGap = 4;
@@ -628,8 +637,26 @@ std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayo
 
 namespace {
 
-void DrawStatusBox(QPainter& painter, const QRectF& box, const QString& name, const QStringList& lines,
-                   bool selected, const QFont& font) {
+// The player's name, and at the right the script. The name gives way: it stands on the rail too.
+void DrawStatusHead(QPainter& painter, const QRectF& row, const QString& name, const QString& script,
+                    const QFont& font, const QFont& bold) {
+  const QFontMetricsF metrics(font);
+  const QFontMetricsF boldMetrics(bold);
+  const double gap = script.isEmpty() ? 0 : 8;
+  const double room = std::max(row.width() * 2 / 3, row.width() - boldMetrics.horizontalAdvance(name));
+  const double scriptWidth = std::min(metrics.horizontalAdvance(script), room - gap);
+  painter.setFont(bold);
+  painter.drawText(row, Qt::AlignVCenter | Qt::AlignLeft,
+                   boldMetrics.elidedText(name, Qt::ElideRight, row.width() - scriptWidth - gap));
+  painter.setFont(font);
+  if (script.isEmpty()) return;
+  painter.setPen(script.endsWith(QLatin1String(": on")) ? QColor(140, 224, 150) : QColor(190, 182, 170));
+  painter.drawText(row, Qt::AlignVCenter | Qt::AlignRight,
+                   metrics.elidedText(script, Qt::ElideMiddle, scriptWidth + 1));
+}
+
+void DrawStatusBox(QPainter& painter, const QRectF& box, const QString& name, const QString& script,
+                   const QStringList& lines, bool selected, const QFont& font) {
   painter.setPen(QPen(selected ? QColor(255, 214, 92) : QColor(130, 120, 108), selected ? 1.6 : 1));
   painter.setBrush(QColor(24, 22, 20, 225));
   painter.drawRoundedRect(box.adjusted(0.5, 0.5, -0.5, -0.5), 5, 5);
@@ -637,11 +664,8 @@ void DrawStatusBox(QPainter& painter, const QRectF& box, const QString& name, co
   bold.setBold(true);
   const double line = (box.height() - 8) / 5;
   QRectF row(box.left() + 8, box.top() + 4, box.width() - 16, line);
-  painter.setFont(bold);
   painter.setPen(selected ? QColor(255, 226, 140) : QColor(236, 228, 214));
-  painter.drawText(row, Qt::AlignVCenter | Qt::AlignLeft,
-                   QFontMetricsF(bold).elidedText(name, Qt::ElideRight, row.width()));
-  painter.setFont(font);
+  DrawStatusHead(painter, row, name, script, font, bold);
   for (const QString& text : lines) {
     row.translate(0, line);
     const auto colon = text.indexOf(QLatin1Char(':')) + 1;
@@ -665,11 +689,12 @@ void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRect
     const bool selected = game.table.SelectedSeat == seat;
     const QString name = FromCore(game.table.SeatName[seat]);
     const QStringList lines = StatusLines(game, seat);
-    const QString key = QStringLiteral("status|%1|%2|%3|%4")
-                            .arg(name, lines.join(QLatin1Char('|')), font.key())
+    const QString script = ScriptText(game, seat);
+    const QString key = QStringLiteral("status|%1|%2|%3|%4|%5")
+                            .arg(name, script, lines.join(QLatin1Char('|')), font.key())
                             .arg(selected);
     DrawKept(painter, key, box,
-             [&](QPainter& brush) { DrawStatusBox(brush, box, name, lines, selected, font); });
+             [&](QPainter& brush) { DrawStatusBox(brush, box, name, script, lines, selected, font); });
   }
 }
 

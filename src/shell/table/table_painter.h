@@ -120,6 +120,8 @@ void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayo
 
 // The lines of a seat's status box.
 QStringList StatusLines(const Game& game, int seat);
+// The seat's script and whether it is active, for the head of the box; empty without one.
+QString ScriptText(const Game& game, int seat);
 // Where the boxes of the occupied seats stand: near their seat, within the window, off the table and off each
 // other as far as there is room. Empty rectangles for empty seats.
 std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayout& layout,
