@@ -375,7 +375,7 @@ Twins RandomSystem(std::mt19937& random) {
   const char* const bets[] = {
       "passline", "passline", "dontpass", "come",      "dontcome",  "field",        "place6",       "place8",
       "buy4",     "lay10",    "come6",    "dontcome8", "comeodds6", "passlineodds", "dontpassodds", "hard6",
-      "hop(3,3)", "horn",     "big6",     "small",     "fire",      "sharpshooter", "7point7"};
+      "hop33",    "horn",     "big6",     "allsmall",  "fire",      "sharpshooter", "7point7"};
   const char* const amounts[] = {"0",    "1",  "5",    "10",  "10",        "10",
                                  "12.5", "30", "2000", "cs1", "cs2 / cs3", "-4"};
   const char* const values[] = {"cs1 + 1",    "cs2 - 0.33335", "cs1 * cs2",  "cs3 / cs2",
