@@ -446,9 +446,9 @@ std::string WhatIsLeft(const Game& game) {
 
 TEST(Interpreter, ShortWaysDoWhatTheLongWaysDo) {
   std::mt19937 random(17);
-  constexpr int kRolls = 150;
+  constexpr int kRolls = 100;
   std::size_t logged = 0;
-  for (int round = 0; round < 120; ++round) {
+  for (int round = 0; round < 40; ++round) {
     const Twins twins = RandomSystem(random);
     std::string left[2];
     std::string logs[2];
@@ -474,7 +474,7 @@ TEST(Interpreter, ShortWaysDoWhatTheLongWaysDo) {
     logged += logs[0].size();
     random.discard(40);
   }
-  EXPECT_GT(logged, 1'000'000u);
+  EXPECT_GT(logged, 150'000u);
 }
 
 }  // namespace
