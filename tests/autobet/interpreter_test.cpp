@@ -413,7 +413,7 @@ Twins RandomSystem(std::mt19937& random) {
   const char* const bets[] = {
       "passline", "passline", "dontpass", "come",      "dontcome",  "field",        "place6",       "place8",
       "buy4",     "lay10",    "come6",    "dontcome8", "comeodds6", "passlineodds", "dontpassodds", "hard6",
-      "hop(3,3)", "horn",     "big6",     "small",     "fire",      "sharpshooter", "7point7"};
+      "hop33",    "horn",     "big6",     "allsmall",  "fire",      "sharpshooter", "7point7"};
   const char* const amounts[] = {"0",    "1",  "5",    "10",  "10",        "10",
                                  "12.5", "30", "2000", "cs1", "cs2 / cs3", "-4"};
   const char* const values[] = {"cs1 + 1",    "cs2 - 0.33335", "cs1 * cs2",  "cs3 / cs2",
@@ -484,9 +484,9 @@ std::string WhatIsLeft(const Game& game) {
 
 TEST(Interpreter, ShortWaysDoWhatTheLongWaysDo) {
   std::mt19937 random(17);
-  constexpr int kRolls = 150;
+  constexpr int kRolls = 100;
   std::size_t logged = 0;
-  for (int round = 0; round < 120; ++round) {
+  for (int round = 0; round < 40; ++round) {
     const Twins twins = RandomSystem(random);
     std::string left[2];
     std::string logs[2];
@@ -512,7 +512,7 @@ TEST(Interpreter, ShortWaysDoWhatTheLongWaysDo) {
     logged += logs[0].size();
     random.discard(40);
   }
-  EXPECT_GT(logged, 1'000'000u);
+  EXPECT_GT(logged, 150'000u);
 }
 
 }  // namespace

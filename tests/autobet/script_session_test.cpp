@@ -124,7 +124,7 @@ TEST(LoggedBets, EveryBetIsAStatementThatCompiles) {
 TEST(CheckScript, AScriptIsCompiledOnceAndAgainWhenSomethingOfItChanges) {
   ScriptTable table;
   Game& game = *table.game;
-  ASSERT_EQ(table.Load(1, "cs0 = bob's place6 : bet 5 on big6"), "");
+  ASSERT_EQ(table.Load(1, "cs0 = place6 bob : bet 5 on big6"), "");
   const KeptScript* kept = game.autobet.Scripts[1].Kept.get();
   CompileALLAutobets(game);
   EXPECT_EQ(game.autobet.Scripts[1].Kept.get(), kept);
