@@ -209,21 +209,9 @@ struct FirstEvening {
 TEST(Program, TwoClicksToAPlayerABetAndARollThenATurboRollAndTheQuestionsOfTheEnd) {
   FirstEvening evening;
   ASSERT_FALSE(evening.display.Name().isEmpty()) << evening.display.Why().toStdString();
-<<<<<<< HEAD
   Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
                   {"--data-folder", evening.data.path()});
-  const QRect all(QPoint(0, 0), kScreen);
-  // The empty table.
-  ASSERT_TRUE(QTest::qWaitFor(
-      [&] {
-        return evening.display.Picture().pixelColor(evening.places.passLine + QPoint(0, 12)).green() > 40;
-      },
-      15'000));
-  QImage before = program.Settled();
-=======
-  Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", evening.data.path()});
   ASSERT_TRUE(evening.WaitForTable());
->>>>>>> front
   // The first click: a player.
   ASSERT_NO_FATAL_FAILURE(evening.Join(program));
   // The second: a bet. Then a roll, which is told before the box of a bet that it decides.
