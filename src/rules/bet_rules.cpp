@@ -346,14 +346,10 @@ bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currenc
   return game.table.OnTableAmount[seat] - amount <= game.table.BankrollCurrent[seat];
 }
 
-Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
-  TableState& table = game.table;
+// What the rules and limits leave of a request. Shows their texts and changes nothing.
+Currency DecideChange(Game& game, int seat, int bet, Currency request) {
+  const TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
-  if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
-  if (ComesOffWhole(game, seat, bet, amount, request)) {
-    SetBetAmount(game, seat, bet, kZero);
-    return request;
-  }
   // A request beyond any bankroll is as good as one for the whole of it.
   Currency change = std::clamp(request.IsError() ? kZero : request, -kBankrollLimit, kBankrollLimit);
   change = std::max(RoundChange(change, game.settings.Unit()), -amount);
@@ -375,6 +371,17 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
     if (change < kZero) change = std::max(change, LowestChange(game, seat, bet));
   }
   ApplyBankroll(game, seat, bet, change);
+  return change;
+}
+
+Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
+  const Currency amount = game.table.BetAmount(seat, bet);
+  if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
+  if (ComesOffWhole(game, seat, bet, amount, request)) {
+    SetBetAmount(game, seat, bet, kZero);
+    return request;
+  }
+  const Currency change = DecideChange(game, seat, bet, request);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
   if (HasVig(bet)) ApplyVig(game, seat, bet);
   return change;
@@ -481,6 +488,10 @@ bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
   return (place < 0 || !kRules[place].refuses({game, seat, bet, amount})) && !OddsFollowBet(game, seat, bet);
 }
 
+Currency AllowedChange(Game& game, int seat, int bet, Currency request) {
+  return DecideChange(game, seat, bet, request);
+}
+
 Currency ChangeBet(Game& game, int seat, int bet, Currency request) {
   TableState& table = game.table;
   table.BetRequest = request;
@@ -577,13 +588,12 @@ void RemoveCall(Game& game, int seat, int bet) {
 }
 
 bool BuyPlaceBet(Game& game, int seat, int bet) {
-  if (!IsPlace(bet)) {
+  const Currency amount = IsPlace(bet) ? game.table.BetAmount(seat, bet) : kZero;
+  if (amount == kZero) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
       ShowMessage(game, "Action not allowed", "You may only buy Place bets.");
-    return false;
+    return IsPlace(bet);
   }
-  const Currency amount = game.table.BetAmount(seat, bet);
-  if (amount == kZero) return true;
   const int call = BetWorkingOf(game, seat, bet);
   const int buy = bet + kBuy4 - kPlace4;
   RemoveBet(game, seat, bet);

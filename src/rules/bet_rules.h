@@ -14,6 +14,8 @@ struct Settings;
 // allow. Returns the change made, also left in BetChange. Refusals and notes are shown as boxes unless a
 // Turbo-Roll or a script runs, or QuietChanges is above 0.
 Currency ChangeBet(Game& game, int seat, int bet, Currency request);
+// What ChangeBet would make of the request on a bet 1 to 93, with the same texts; nothing changes.
+Currency AllowedChange(Game& game, int seat, int bet, Currency request);
 // ChangeBet with the chip sound, and the odds brought back into line with their flat bet.
 Currency PlaceBet(Game& game, int seat, int bet, Currency request);
 // The bet down, as far as a contract lets it.
@@ -44,8 +46,8 @@ void RemoveCall(Game& game, int seat, int bet);
 // BetWorking as a bet that has come down has it.
 void ResetBetWorking(Game& game, int seat, int bet);
 int BetWorkingOf(const Game& game, int seat, int bet);
-// The Place bet's amount goes to the Buy bet of its number; a call goes with it. False, with a box, for any
-// other bet.
+// The Place bet's amount goes to the Buy bet of its number; a call goes with it. A box where there is no Place
+// bet; false for any other bet.
 bool BuyPlaceBet(Game& game, int seat, int bet);
 
 // All bets of a family down, without contract or questions: the table no longer offers them.

@@ -645,8 +645,13 @@ TEST(BetRulesCalls, ABoughtPlaceBetTakesItsCallAlong) {
   EXPECT_EQ(table.State().BetAmount(1, kBuy4 + 1), Money("30"));
   EXPECT_EQ(BetWorkingOf(*table.game, 1, kBuy4 + 1), 2);
   EXPECT_EQ(table.State().BuyVigHeld[1][1], Money("2"));
-  EXPECT_FALSE(BuyPlaceBet(*table.game, 1, kField));
-  EXPECT_EQ(table.host.LastText(), "You may only buy Place bets.");
+  // Any other place, that of a Place bet which isn't up too.
+  for (const int bet : {int(kField), kPlace4 + 1, kBuy4 + 1}) {
+    table.host.boxes.clear();
+    EXPECT_EQ(BuyPlaceBet(*table.game, 1, bet), IsPlace(bet));
+    EXPECT_EQ(table.host.LastText(), "You may only buy Place bets.") << bet;
+    EXPECT_EQ(table.State().OnTableAmount[1], Money("32")) << bet;
+  }
 }
 
 TEST(BetRules, AFamilyThatIsOffTakesNoBet) {

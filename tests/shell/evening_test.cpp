@@ -147,6 +147,12 @@ struct Evening {
     QTest::keyClick(window.windowHandle(), key);
   }
 
+  // The pointer over the table, with buttons held.
+  void Point(QPoint point, Qt::MouseButtons buttons = Qt::NoButton) {
+    QMouseEvent move(QEvent::MouseMove, point, Table().mapToGlobal(point), Qt::NoButton, buttons, {});
+    QApplication::sendEvent(&Table(), &move);
+  }
+
   // --- Each step, by hand and by command.
   void Join(int seat, const char* name) {
     hands.answers = {PressReturn, Typing(name), Typing("9000")};
@@ -273,10 +279,12 @@ TEST(MainWindow, CommandsAreEnabledExactlyWhenTheyCanAct) {
   for (const char* name :
        {"mnuPlayerRename", "mnuPlayerDelete", "mnuPlayerMove", "mnuPassDice", "mnuAtm", "mnuNew"})
     EXPECT_TRUE(enabled(name)) << name;
-  EXPECT_FALSE(enabled("mnuRemoveBet"));
-  evening.Bet(kPlace4, 3);
-  for (const char* name : {"mnuRemoveBet", "mnuBuyPlaceBet", "mnuCallBetOn", "mnuRemoveAllBets"})
+  // What gives the next click another meaning always does, or that click would bet.
+  for (const char* name : {"mnuRemoveBet", "mnuMoveBet", "mnuBuyPlaceBet", "mnuCallBetOn", "mnuCallBetOff"})
     EXPECT_TRUE(enabled(name)) << name;
+  EXPECT_FALSE(enabled("mnuRemoveAllBets"));
+  evening.Bet(kPlace4, 3);
+  EXPECT_TRUE(enabled("mnuRemoveAllBets"));
   EXPECT_FALSE(enabled("mnuTakeFullOdds"));
   evening.real.game->settings.AtmEnabled = false;
   evening.window.Table().Refresh();
@@ -297,6 +305,159 @@ TEST(MainWindow, AltTakesABetUpAndTheNextClickPutsItDown) {
   QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, kField));
   EXPECT_EQ(evening.real.game->table.BetAmount(4, kField), Currency::Dollars(50));
   EXPECT_EQ(evening.window.Commands().CarriedAmount, kZero);
+}
+
+// Keys that give the next click another meaning, with nothing up that they could act on.
+TEST(MainWindow, AClickThatIsMeantForSomethingElseNeverBets) {
+  struct Case {
+    Qt::Key key;  // 0: the menu entry
+    const char* says;
+  };
+  const Case cases[] = {{Qt::Key_F5, "Action not allowed|You may only buy Place bets."},
+                        {Qt::Key_Delete, ""},
+                        {Qt::Key(0), "Action not allowed|You may only move a bet that is on the table."}};
+  Evening evening;
+  evening.Join(4, "Eve");
+  for (const Case& one : cases)
+    for (const int bet : {int(kPlace4), int(kPassLine), int(kBuy4)}) {
+      evening.hands.texts.clear();
+      one.key == 0 ? evening.window.Command("mnuMoveBet")->trigger() : evening.Key(one.key);
+      QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, bet));
+      EXPECT_EQ(evening.real.game->table.OnTableAmount[4], kZero) << one.says;
+      EXPECT_EQ(evening.hands.texts.empty() ? "" : evening.hands.texts.back(), one.says) << BetName(bet);
+      EXPECT_EQ(evening.window.Commands().PendingAction, kPendingNone);
+    }
+}
+
+TEST(MainWindow, PlaceAndBuyOnOneNumberAreEachReachedAtTheirOwnArea) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  for (const int bet : {kPlace4 + 1, kBuy4 + 1, kPlace4 + 1})
+    QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, bet));
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, kPlace4 + 1), Currency::Dollars(10));
+  EXPECT_EQ(evening.real.game->table.BetAmount(4, kBuy4 + 1), Currency::Dollars(5));
+}
+
+TEST(MainWindow, ABetMovesByDraggingItsStackAndByTheMenu) {
+  struct Case {
+    int from;
+    int to;               // the area it is let go over; 0 off the felt, -1 a gap in the felt
+    bool menu;            // by the menu and two clicks
+    const char* fromHas;  // then
+    const char* toHas;
+  };
+  const Case cases[] = {{kPlace4, kPlace4 + 2, false, "0", "25"},
+                        {kPlace4, kPlace4 + 2, true, "0", "25"},
+                        {kBuy4, kPlace4, false, "0", "25"},
+                        {kBuy4, kPlace4, true, "0", "25"},
+                        {kField, 0, false, "0", ""},
+                        {kField, 0, true, "0", ""},
+                        {kField, -1, false, "25", ""},
+                        {kField, kCome, false, "25", "0"},
+                        {kPassLine, kPassLine, true, "25", "25"}};
+  Evening evening;
+  evening.Join(4, "Eve");
+  TableWidget& table = evening.Table();
+  Game& game = *evening.real.game;
+  const QPoint gap = table.view.ToScreen(QPointF(620, 34)).toPoint();
+  ASSERT_EQ(table.BetAt(gap), 0);
+  for (const Case& one : cases) {
+    const std::string what =
+        BetName(one.from) + " to " + std::to_string(one.to) + (one.menu ? " by the menu" : "");
+    RemoveAllBets(game);
+    PlaceBet(game, 4, one.from, Currency::Dollars(25));
+    const QPoint from = table.PointOfBet(4, one.from);
+    const QPoint to = one.to > 0 ? table.PointOfBet(4, one.to) : one.to == 0 ? QPoint(5, 5) : gap;
+    if (one.menu) {
+      evening.window.Command("mnuMoveBet")->trigger();
+      QTest::mouseClick(&table, Qt::LeftButton, {}, from);
+      EXPECT_EQ(game.table.BetAmount(4, one.from), Currency::Dollars(25)) << what << ": it stays until then";
+      evening.Point(to);
+      QTest::mouseClick(&table, Qt::LeftButton, {}, to);
+    } else {
+      QTest::mousePress(&table, Qt::LeftButton, {}, from);
+      evening.Point((from + to) / 2, Qt::LeftButton);
+      evening.Point(to, Qt::LeftButton);
+      EXPECT_EQ(table.scene.heldBet, one.from) << what;
+      SavePicture(evening.window, "drag");
+      QTest::mouseRelease(&table, Qt::LeftButton, {}, to);
+    }
+    EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.from)), one.fromHas) << what;
+    if (one.to > 0) EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.toHas) << what;
+    EXPECT_EQ(table.scene.heldBet, 0) << what;
+  }
+}
+
+TEST(MainWindow, AStackIsDraggedBeyondAThresholdOnlyAndGivenUpByTheRightButtonAndEscape) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  TableWidget& table = evening.Table();
+  TableState& state = evening.real.game->table;
+  evening.real.game->settings.ShooterBetRule = 0;
+  const QPoint place = table.PointOfBet(4, kPlace4);
+  QTest::mouseClick(&table, Qt::LeftButton, {}, place);
+  // A hand that trembles bets.
+  QTest::mousePress(&table, Qt::LeftButton, {}, place);
+  evening.Point(place + QPoint(3, 2), Qt::LeftButton);
+  QTest::mouseRelease(&table, Qt::LeftButton, {}, place + QPoint(3, 2));
+  EXPECT_EQ(state.BetAmount(4, kPlace4), Currency::Dollars(10));
+  const auto drag = [&](const std::function<void()>& meanwhile) {
+    QTest::mousePress(&table, Qt::LeftButton, {}, place);
+    evening.Point(QPoint(5, 5), Qt::LeftButton);
+    EXPECT_EQ(table.scene.heldBet, kPlace4);
+    meanwhile();
+    QTest::mouseRelease(&table, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(state.BetAmount(4, kPlace4), Currency::Dollars(10)) << "it stays";
+    EXPECT_EQ(table.scene.heldBet, 0);
+  };
+  drag([&] { evening.Key(Qt::Key_Escape); });
+  state.ManualDie1 = state.ManualDie2 = 3;
+  state.ManualRollPending = true;
+  drag([&] { QTest::mouseClick(&table, Qt::RightButton, {}, QPoint(5, 5)); });
+  EXPECT_EQ(state.Point, 6) << "the right button rolls";
+}
+
+// Without the pointer being moved.
+TEST(MainWindow, ThePointersLineFollowsEveryChange) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  Game& game = *evening.real.game;
+  const auto line = [&] {
+    QTest::qWait(5);
+    return ToCore(evening.window.findChild<QLabel*>("lblPointer")->text());
+  };
+  game.settings.ShooterBetRule = 0;
+  evening.Point(evening.Table().PointOfBet(4, kCome));
+  struct Case {
+    std::function<void()> change;
+    const char* says;
+  };
+  const Case cases[] = {{[] {}, "may still be bet: 0"},  // there is no point
+                        {[&] { evening.real.Roll(2, 2); }, "may still be bet: 1,000"},
+                        {[&] { PlaceBet(game, 4, kCome, Currency::Dollars(40)); }, "Come:  40"},
+                        {[&] {
+                           game.settings.MaxBet = Currency::Dollars(300);
+                           evening.real.host.Changed(game, Change::kSettings);
+                         },
+                         "may still be bet: 260"},
+                        {[&] {
+                           game.table.BankrollCurrent[4] = Currency::Dollars(90);
+                           evening.Table().Refresh();
+                         },
+                         "may still be bet: 50"},
+                        {[&] { evening.Key(Qt::Key_Delete); }, "Next click: remove a bet   Come"},
+                        {[&] { evening.Key(Qt::Key_Escape); }, "may still be bet: 50"},
+                        {[&] {
+                           evening.window.Command("mnuViewRight")->trigger();
+                           evening.window.Command("mnuViewWhole")->trigger();
+                           evening.Point(QPoint(3, 3));
+                         },
+                         "Eve   Rail:  50.00"}};
+  for (const Case& one : cases) {
+    one.change();
+    const std::string told = line();
+    EXPECT_NE(told.find(one.says), std::string::npos) << told << "\nnot: " << one.says;
+  }
 }
 
 TEST(MainWindow, AKeyedInAmountReplacesTheBet) {

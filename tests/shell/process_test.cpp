@@ -16,6 +16,8 @@
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 #include "support/places.h"
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
 
 namespace tessaryn::test {
 namespace {

@@ -174,6 +174,9 @@ TEST(HitTest, SharedPlacesMeanWhatTheSelectedSeatHasUp) {
   EXPECT_EQ(MeantBet(game, kPlace4), kPlace4);
   SetBetAmount(game, 1, kBuy4, Currency::Dollars(20));
   EXPECT_EQ(MeantBet(game, kPlace4), kBuy4);
+  SetBetAmount(game, 1, kPlace4, Currency::Dollars(5));
+  EXPECT_EQ(MeantBet(game, kPlace4), kPlace4) << "both are up";
+  EXPECT_EQ(MeantBet(game, kBuy4), kBuy4);
   EXPECT_EQ(MeantBet(game, kDontPass), kDontPass);
   SetBetAmount(game, 1, kDontPass, Currency::Dollars(5));
   EXPECT_EQ(MeantBet(game, kDontPass), kDontPass) << "no point is on";

@@ -86,11 +86,11 @@ const MainWindow::CommandFacts MainWindow::kCommands[] = {
      &MainWindow::KeyInAmounts, &MainWindow::Always},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Bets"), "mnuBuyPlaceBet", TITLE("&Buy a Place bet"), "F5", true, true, &MainWindow::BuyNext,
-     &MainWindow::HasPlaceBet},
+     &MainWindow::HasPlayer},
     {TITLE("&Bets"), "mnuCallBetOn", TITLE("Call a bet &ON"), "F6", true, true, &MainWindow::CallNextOn,
-     &MainWindow::HasCallableBet},
+     &MainWindow::HasPlayer},
     {TITLE("&Bets"), "mnuCallBetOff", TITLE("Call a bet O&FF"), "F7", true, true, &MainWindow::CallNextOff,
-     &MainWindow::HasCallableBet},
+     &MainWindow::HasPlayer},
     {TITLE("&Bets"), "mnuCallAllBetsOn", TITLE("Call all bets O&N"), nullptr, false, true,
      &MainWindow::CallAllOn, &MainWindow::HasCallableBet},
     {TITLE("&Bets"), "mnuCallAllBetsOff", TITLE("&Call all bets OFF"), nullptr, false, true,
@@ -102,7 +102,9 @@ const MainWindow::CommandFacts MainWindow::kCommands[] = {
      &MainWindow::CanLayOdds},
     {TITLE("&Bets"), nullptr, nullptr, nullptr, false, false, nullptr, nullptr},
     {TITLE("&Bets"), "mnuRemoveBet", TITLE("&Remove a bet"), "Del", true, true, &MainWindow::RemoveNext,
-     &MainWindow::HasBets},
+     &MainWindow::HasPlayer},
+    {TITLE("&Bets"), "mnuMoveBet", TITLE("&Move a bet"), nullptr, true, true, &MainWindow::MoveNext,
+     &MainWindow::HasPlayer},
     {TITLE("&Bets"), "mnuRemoveAllBets", TITLE("Remove &all bets"), nullptr, false, true,
      &MainWindow::RemoveAll, &MainWindow::HasBets},
 
@@ -338,9 +340,6 @@ bool MainWindow::HasPlayer() const { return Free() && IsOccupied(game_.table, ga
 bool MainWindow::HasBets() const {
   return HasPlayer() && !game_.table.SeatBets[game_.table.SelectedSeat].Empty();
 }
-bool MainWindow::HasPlaceBet() const {
-  return HasPlayer() && game_.table.SeatBets[game_.table.SelectedSeat].Meets(BetRange(kPlace4, kPlace4 + 5));
-}
 bool MainWindow::HasCallableBet() const {
   return HasPlayer() && game_.table.SeatBets[game_.table.SelectedSeat].Meets(CallableBets());
 }
@@ -386,6 +385,7 @@ void MainWindow::RefreshCommands() {
   check("mnuCallBetOn", commands_.PendingAction == kPendingCallOn);
   check("mnuCallBetOff", commands_.PendingAction == kPendingCallOff);
   check("mnuRemoveBet", commands_.PendingAction == kPendingRemove);
+  check("mnuMoveBet", commands_.PendingAction == kPendingMove || commands_.Moving.Bet != 0);
   check("mnuRollYourOwnNumbers", pad_ != nullptr && pad_->isVisible());
   check("mnuTableMove", mover_ != nullptr && mover_->isVisible());
   check("mnuDisplayBetAmounts", table_->scene.showAmounts);
@@ -413,6 +413,7 @@ void MainWindow::ShowTableStatus() {
 
 void MainWindow::ConnectTable() {
   connect(table_, &TableWidget::betClicked, this, &MainWindow::OnBetClicked);
+  connect(table_, &TableWidget::betMoved, this, &MainWindow::OnBetMoved);
   connect(table_, &TableWidget::seatClicked, this, &MainWindow::OnSeatClicked);
   connect(table_, &TableWidget::rightClicked, this, [this] {
     NoteActivity(game_);
@@ -497,16 +498,23 @@ void MainWindow::OnRunChanged() {
   RefreshCommands();
 }
 
-void MainWindow::OnBetClicked(int bet, bool alt) {
+// Betting goes on between the rolls of an Auto-Roll; not while a script or a Turbo-Roll is at work.
+bool MainWindow::MayBet() {
   NoteActivity(game_);
-  if (!Free()) return;
-  if (game_.table.AutoRollActive || game_.autobet.ScriptRunning) {
-    // Betting goes on between the rolls of an Auto-Roll; not while a script or a Turbo-Roll is at work.
-    if (game_.table.TurboRollActive || game_.autobet.ScriptRunning) {
-      AskBeforeCommand(game_);
-      return;
-    }
-  }
+  if (!Free()) return false;
+  if (!game_.table.TurboRollActive && !game_.autobet.ScriptRunning) return true;
+  AskBeforeCommand(game_);
+  return false;
+}
+
+void MainWindow::OnBetMoved(int from, int to) {
+  if (!MayBet()) return;
+  MoveBet(game_, from, to);
+  RefreshCommands();
+}
+
+void MainWindow::OnBetClicked(int bet, bool alt) {
+  if (!MayBet()) return;
   if (!IsOccupied(game_.table, game_.table.SelectedSeat)) {
     ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.",
                 kMsgOk | kMsgAlert);
@@ -539,9 +547,7 @@ void MainWindow::OnSeatClicked(int seat) {
 }
 
 void MainWindow::ShowPointer(int bet) {
-  QString text = PointerText(game_, game_.table.SelectedSeat, bet);
-  if (commands_.CarriedAmount > kZero)
-    text = tr("Carrying %1").arg(MoneyText(commands_.CarriedAmount)) + "   " + text;
+  const QString text = PointerText(game_, commands_, bet);
   pointer_->setText(text);
   pointer_->setToolTip(text);
 }
@@ -630,6 +636,7 @@ void MainWindow::ShowKeys() {
   constexpr const char* kKeys =
       "Left click: bet the chosen amount\r"
       "Right click or F2: roll the dice\r"
+      "Drag a stack: move the bet; off the felt: take it down\r"
       "Alt and click: take a bet up, click again to put it down\r"
       "Wheel: zoom.  Middle button: move the table\r"
       "Delete, F5, F6, F7: the next click removes, buys, calls ON, calls OFF\r"
@@ -641,7 +648,7 @@ void MainWindow::ShowKeys() {
 }
 
 void MainWindow::Roll() {
-  commands_.PendingAction = kPendingNone;
+  GiveUp(commands_);
   RollDice(game_);
   table_->Refresh();
 }
@@ -665,6 +672,7 @@ void MainWindow::BuyNext() { ArmAction(kPendingBuy); }
 void MainWindow::CallNextOn() { ArmAction(kPendingCallOn); }
 void MainWindow::CallNextOff() { ArmAction(kPendingCallOff); }
 void MainWindow::RemoveNext() { ArmAction(kPendingRemove); }
+void MainWindow::MoveNext() { ArmAction(kPendingMove); }
 void MainWindow::CallAllOn() { CallAllBets(game_, game_.table.SelectedSeat, true); }
 void MainWindow::CallAllOff() { CallAllBets(game_, game_.table.SelectedSeat, false); }
 void MainWindow::RemoveAll() { RemoveAllBets(game_); }
@@ -852,8 +860,7 @@ void MainWindow::CloseRollFileNow() {
 void MainWindow::keyPressEvent(QKeyEvent* event) {
   if (HotKeyPressed(event)) return;
   if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
-    if (event->key() == Qt::Key_Escape && (commands_.PendingAction != kPendingNone || movingSeat_ != 0)) {
-      commands_.PendingAction = kPendingNone;
+    if (event->key() == Qt::Key_Escape && (GiveUp(commands_) || movingSeat_ != 0)) {
       movingSeat_ = 0;
       table_->scene.movingPlayer = false;
       table_->Refresh();

@@ -66,6 +66,7 @@ class MainWindow : public QMainWindow {
   void CallNextOn();
   void CallNextOff();
   void RemoveNext();
+  void MoveNext();
   void CallAllOn();
   void CallAllOff();
   void RemoveAll();
@@ -115,7 +116,9 @@ class MainWindow : public QMainWindow {
   // Everything as the state has it, at once.
   void ShowState();
   void OnRunChanged();
+  bool MayBet();
   void OnBetClicked(int bet, bool alt);
+  void OnBetMoved(int from, int to);
   void OnSeatClicked(int seat);
   void ShowPointer(int bet);
   void ShowTableStatus();
@@ -134,7 +137,6 @@ class MainWindow : public QMainWindow {
   bool Free() const;  // no roll is under way, or one of a run, which can be asked to stop
   bool HasPlayer() const;
   bool HasBets() const;
-  bool HasPlaceBet() const;
   bool HasCallableBet() const;
   bool HasOpenPlace() const;
   bool CanMove() const;

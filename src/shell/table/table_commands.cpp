@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <algorithm>
+#include <memory>
 
 #include "base/bet_catalogue.h"
 #include "play/auto_roll.h"
@@ -11,6 +12,7 @@
 #include "rules/bet_rules.h"
 #include "rules/payoffs.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_painter.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -33,6 +35,20 @@ void CarryBet(Game& game, TableCommands& commands, int bet) {
   const Currency taken = -RemoveBet(game, seat, bet);
   if (taken > kZero) commands.CarriedAmount = taken;
 }
+
+// The bet that a click on odds means when they aren't up: the flat bet that shares their place.
+int OrItsFlatBet(const Game& game, int bet) {
+  const bool up = game.table.BetAmount(game.table.SelectedSeat, bet) != kZero;
+  return !up && IsOdds(bet) ? FlatBetOf(bet) : bet;
+}
+
+// What the next click is meant for, by PendingAction.
+constexpr const char* kNextClickTexts[] = {"",
+                                           QT_TRANSLATE_NOOP("TableCommands", "call a bet ON"),
+                                           QT_TRANSLATE_NOOP("TableCommands", "call a bet OFF"),
+                                           QT_TRANSLATE_NOOP("TableCommands", "buy a Place bet"),
+                                           QT_TRANSLATE_NOOP("TableCommands", "remove a bet"),
+                                           QT_TRANSLATE_NOOP("TableCommands", "take a bet to move it")};
 
 // Where a bet's payoffs stand: in its record, or in a table of its own.
 struct PayoffRows {
@@ -63,7 +79,17 @@ PayoffRows RowsOf(const PayoffTables& payoffs, int bet) {
 }  // namespace
 
 void SetPendingAction(TableCommands& commands, int action) {
+  commands.Moving = {};
   commands.PendingAction = commands.PendingAction == action ? kPendingNone : action;
+}
+
+bool GiveUp(TableCommands& commands) {
+  const bool any =
+      commands.PendingAction != kPendingNone || commands.CarriedAmount > kZero || commands.Moving.Bet != 0;
+  commands.PendingAction = kPendingNone;
+  commands.CarriedAmount = kZero;
+  commands.Moving = {};
+  return any;
 }
 
 bool IsContractBet(const Game& game, int seat, int bet) {
@@ -72,9 +98,55 @@ bool IsContractBet(const Game& game, int seat, int bet) {
 }
 
 void RemoveClickedBet(Game& game, int bet) {
+  bet = OrItsFlatBet(game, bet);
+  PlaceByHand(game, bet, -game.table.BetAmount(game.table.SelectedSeat, bet));
+}
+
+bool TakeInHand(Game& game, TableCommands& commands, int bet) {
+  commands.PendingAction = kPendingNone;
   const int seat = game.table.SelectedSeat;
-  if (game.table.BetAmount(seat, bet) == kZero && IsOdds(bet)) bet = FlatBetOf(bet);
-  PlaceByHand(game, bet, -game.table.BetAmount(seat, bet));
+  bet = OrItsFlatBet(game, bet);
+  if (!IsTableBet(bet) || game.table.BetAmount(seat, bet) == kZero) {
+    ShowMessage(game, "Action not allowed", "You may only move a bet that is on the table.");
+    return false;
+  }
+  commands.Moving = {seat, bet};
+  return true;
+}
+
+int PutDownBet(const Game& game, const BetInHand& hand, int area) {
+  if (area == AreaOf(hand.Bet)) return hand.Bet;
+  // An area that means the bet in hand while that is up means itself once it has left.
+  const int bet = MeantBet(game, area);
+  return bet == hand.Bet ? area : bet;
+}
+
+void MoveBet(Game& game, int from, int to) {
+  if (from == to) return;
+  if (to == 0) return RemoveClickedBet(game, from);
+  TableState& table = game.table;
+  const int seat = table.SelectedSeat;
+  const Currency amount = table.BetAmount(seat, from);
+  // Tried without a word first: what the other bet refuses can't always be made anew where it was.
+  const auto before = std::make_unique<const TableState>(table);
+  ++table.QuietChanges;
+  const Currency taken = -ChangeBet(game, seat, from, -amount);
+  const bool placed = taken > kZero && ChangeBet(game, seat, to, taken) > kZero;
+  table = *before;
+  if (placed) {
+    RemoveBet(game, seat, from);
+    PlaceBet(game, seat, to, taken);
+    LogBet(game, seat, from);
+    LogBet(game, seat, to);
+  } else if (taken <= kZero) {
+    RemoveBet(game, seat, from);  // tells why not
+  } else if (IsOdds(to) && FlatBetOf(to) == from) {
+    // Allowed as the table stands, but not without the bet that would leave.
+    ShowMessage(game, "Action not allowed",
+                "You may not move the " + BetName(from) + " bet to its own odds.");
+  } else {
+    AllowedChange(game, seat, to, taken);  // tells why not
+  }
 }
 
 void RemoveAllBets(Game& game) {
@@ -102,6 +174,9 @@ bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
       return false;
     case kPendingRemove:
       RemoveClickedBet(game, bet);
+      return false;
+    case kPendingMove:
+      TakeInHand(game, commands, bet);
       return false;
     default:
       break;
@@ -135,8 +210,7 @@ void TakeEnteredAmount(Game& game, int bet, Currency amount) {
 }
 
 void RightClick(Game& game, TableCommands& commands) {
-  commands.PendingAction = kPendingNone;
-  commands.CarriedAmount = kZero;
+  GiveUp(commands);
   if (!AskBeforeCommand(game) || game.table.RollInProgress) return;
   RollDice(game);
 }
@@ -166,24 +240,46 @@ QString PayoffSummary(const Game& game, int bet) {
   return texts.join(", ");
 }
 
-QString PointerText(const Game& game, int seat, int bet) {
-  if (bet == 0) return {};
-  QString text = BetAmountText(game, seat, bet);
-  const QString pays = PayoffSummary(game, bet);
-  if (!pays.isEmpty()) text += "   " + Translated("pays") + " " + pays;
-  if (!IsTableBet(bet) || !IsOccupied(game.table, seat)) return text;
-  const Currency rail = game.table.AllowNegativeBankroll[seat]
-                            ? kBankrollLimit
-                            : game.table.BankrollCurrent[seat] - game.table.OnTableAmount[seat];
-  const Currency room =
-      std::min(MaxBetFor(game, seat, bet) - game.table.BetAmount(seat, bet), std::max(rail, kZero));
-  text += "   " + Translated("minimum") + " " + MoneyText(MinBetFor(game, bet));
-  text += "   " + Translated("may still be bet") + ": " + MoneyText(std::max(room, kZero));
-  return text;
+Currency RoomFor(Game& game, int seat, int bet) {
+  ++game.table.QuietChanges;
+  Currency room = AllowedChange(game, seat, bet, kBankrollLimit);
+  // Corrections for the payoff may give less for less; what is told is given in full.
+  for (Currency given; room > kZero; room = given) {
+    given = AllowedChange(game, seat, bet, room);
+    if (given >= room) break;
+  }
+  --game.table.QuietChanges;
+  return std::max(room, kZero);
 }
 
-QString InfoTip(const Game& game, int seat, int bet) {
+QString PointerText(Game& game, const TableCommands& commands, int bet) {
+  const int seat = game.table.SelectedSeat;
+  const bool occupied = IsOccupied(game.table, seat);
+  const int action = commands.PendingAction;
+  QStringList parts;
+  if (action != kPendingNone) parts += Translated("Next click") + ": " + Translated(kNextClickTexts[action]);
+  if (commands.CarriedAmount > kZero)
+    parts += Translated("Carrying %1").arg(MoneyText(commands.CarriedAmount));
+  if (commands.Moving.Bet != 0)
+    parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
+  if (bet == 0) {
+    if (occupied) parts += FromCore(game.table.SeatName[seat]) + "   " + StatusLines(game, seat).join("   ");
+    return parts.join("   ");
+  }
+  parts += BetAmountText(game, seat, bet);
+  const QString pays = PayoffSummary(game, bet);
+  if (!pays.isEmpty()) parts += Translated("pays") + " " + pays;
+  // A click that is meant for something else bets nothing.
+  if (IsTableBet(bet) && occupied && action == kPendingNone && commands.Moving.Bet == 0) {
+    parts += Translated("minimum") + " " + MoneyText(MinBetFor(game, bet));
+    parts += Translated("may still be bet") + ": " + MoneyText(RoomFor(game, seat, bet));
+  }
+  return parts.join("   ");
+}
+
+QString InfoTip(Game& game, const TableCommands& commands, int bet) {
   if (bet == 0) return {};
+  const int seat = game.table.SelectedSeat;
   const Currency amount = game.table.BetAmount(seat, bet);
   switch (game.settings.InfoTipLevel) {
     case 1:
@@ -193,7 +289,7 @@ QString InfoTip(const Game& game, int seat, int bet) {
     case 3:
       return BetAmountText(game, seat, bet);
     case 4:
-      return PointerText(game, seat, bet).replace("   ", "\n");
+      return PointerText(game, commands, bet).replace("   ", "\n");
     default:
       return {};
   }

@@ -16,6 +16,13 @@ enum PendingAction : int {
   kPendingCallOff = 2,
   kPendingBuy = 3,
   kPendingRemove = 4,
+  kPendingMove = 5,  // takes the bet in hand; the click after it says where it goes
+};
+
+// A bet that is being moved. It stays up until it is put down elsewhere.
+struct BetInHand {
+  int Seat = 0;
+  int Bet = 0;  // 0 none
 };
 
 // How the amount of a click is chosen.
@@ -29,10 +36,13 @@ struct TableCommands {
   int BetAmountMode = kAddClickAmount;
   Currency ClickAmount = Currency::Dollars(5);  // what a click adds
   Currency CarriedAmount;                       // taken up with Alt, to be put down by the next click; 0 none
+  BetInHand Moving;
 };
 
 // A command of the same kind again, or a right click, gives it up.
 void SetPendingAction(TableCommands& commands, int action);
+// Drops whatever the next click was meant for. False when it was meant for nothing but a bet.
+bool GiveUp(TableCommands& commands);
 
 // The left button on a bet, for the selected seat: carries out the pending action, or adds. alt: the Alt key
 // is held. Returns whether the click asks for an amount to be keyed in; the caller then opens the entry box.
@@ -43,6 +53,14 @@ void TakeEnteredAmount(Game& game, int bet, Currency amount);
 void RightClick(Game& game, TableCommands& commands);
 // Takes the bet down; odds that share their place with the flat bet take that down when they aren't up.
 void RemoveClickedBet(Game& game, int bet);
+// Takes the selected seat's bet in hand; for odds that aren't up their flat bet. False, with a box, when
+// there is nothing to move.
+bool TakeInHand(Game& game, TableCommands& commands, int bet);
+// Which bet the one in hand becomes when it is put down on an area; the same bet on its own.
+int PutDownBet(const Game& game, const BetInHand& hand, int area);
+// The selected seat's money goes from one bet to the other, as far as the rules of both let it; all stays
+// where it is when they don't. to 0: off the table.
+void MoveBet(Game& game, int from, int to);
 // All bets of the selected seat that the rules let go.
 void RemoveAllBets(Game& game);
 
@@ -55,10 +73,14 @@ bool IsContractBet(const Game& game, int seat, int bet);
 QString BetAmountText(const Game& game, int seat, int bet);
 // What the bet pays: "7 to 6"; of bets with a table of payoffs their range.
 QString PayoffSummary(const Game& game, int bet);
-// The whole line: name, amount, vig, payoff, and what may still be bet.
-QString PointerText(const Game& game, int seat, int bet);
+// What a click may still add to the bet, which is what the gate for bets lets through: a click of that amount
+// adds just that.
+Currency RoomFor(Game& game, int seat, int bet);
+// The whole line for the selected seat: what the next click is meant for if not for a bet, name, amount, vig,
+// payoff, and what may still be bet. Over no bet: what the player has.
+QString PointerText(Game& game, const TableCommands& commands, int bet);
 // The tip beside the pointer by InfoTipLevel; empty for none.
-QString InfoTip(const Game& game, int seat, int bet);
+QString InfoTip(Game& game, const TableCommands& commands, int bet);
 
 // The seat that the arrow keys come to, upwards or downwards; the present one when there is no other.
 int NextSeat(const Game& game, int direction);

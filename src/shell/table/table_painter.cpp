@@ -190,17 +190,20 @@ int MeantBet(const Game& game, int id) {
   const BetSet& up = table.SeatBets[table.SelectedSeat];
   if (IsDontComeOdds(id) && !up.Has(id - 6) && !up.Has(id)) return id - 6;
   if (id == kDontPass && up.Has(kDontPass) && table.Point != 0) return kDontPassOdds;
-  if (IsPlace(id) && up.Has(id + 6)) return id + 6;
+  // With both up each has its own area.
+  if (IsPlace(id) && up.Has(id + 6) && !up.Has(id)) return id + 6;
   return id;
 }
+
+int AreaOf(int bet) { return bet == kDontPassOdds ? static_cast<int>(kDontPass) : bet; }
 
 Hit HitTest(const QImage& map, QPoint point, const Game& game) {
   if (!map.rect().contains(point)) return {};
   const QRgb color = map.pixel(point) & 0xffffffu;
   if (color == (kNothing & 0xffffffu)) return {};
   const int id = static_cast<int>(color);
-  if (id >= kRailIds) return {id / kRailIds, id % kRailIds + kFirstCheckStack - kRailStackIds};
-  return {game.table.SelectedSeat, MeantBet(game, id)};
+  if (id >= kRailIds) return {id / kRailIds, id % kRailIds + kFirstCheckStack - kRailStackIds, id};
+  return {game.table.SelectedSeat, MeantBet(game, id), id};
 }
 
 // --- Checks.
@@ -324,12 +327,15 @@ struct Pile {
   Currency amount;
 };
 
-std::vector<Pile> CollectPiles(const Game& game, const TableLayout& layout, const QTransform& toScreen) {
+std::vector<Pile> CollectPiles(const TableScene& scene, const TableLayout& layout,
+                               const QTransform& toScreen) {
   std::vector<Pile> piles;
-  const TableState& table = game.table;
+  const TableState& table = scene.game->table;
+  const auto isHeld = [&](int seat, int bet) { return bet == scene.heldBet && seat == table.SelectedSeat; };
   const auto add = [&](int seat, int bet) {
-    piles.push_back({toScreen.map(QPointF(layout.CheckX(seat, bet), layout.CheckY(seat, bet))), seat, bet,
-                     table.BetAmount(seat, bet)});
+    const QPointF stands(layout.CheckX(seat, bet), layout.CheckY(seat, bet));
+    piles.push_back(
+        {isHeld(seat, bet) ? scene.heldAt : toScreen.map(stands), seat, bet, table.BetAmount(seat, bet)});
   };
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
@@ -337,9 +343,12 @@ std::vector<Pile> CollectPiles(const Game& game, const TableLayout& layout, cons
     for (const int stack : table.VisibleStacks[seat])
       if (table.BetAmount(seat, kFirstCheckStack + stack).raw != 0) add(seat, kFirstCheckStack + stack);
   }
-  // From the back to the front, as they cover each other.
-  std::stable_sort(piles.begin(), piles.end(),
-                   [](const Pile& a, const Pile& b) { return a.base.y() < b.base.y(); });
+  // From the back to the front, as they cover each other; what is held is in front of all.
+  std::stable_sort(piles.begin(), piles.end(), [&](const Pile& a, const Pile& b) {
+    const bool heldA = isHeld(a.seat, a.bet);
+    const bool heldB = isHeld(b.seat, b.bet);
+    return heldA != heldB ? heldB : a.base.y() < b.base.y();
+  });
   return piles;
 }
 
@@ -424,11 +433,13 @@ double ReadableAngle(QPointF direction) {
   return degrees;
 }
 
+constexpr double kOpenPlaceRadius = 10;
+
 void DrawOpenPlace(QPainter& painter, const TableScene& scene, const SeatPlace& place, const TableView& view,
                    int seat) {
   const bool hover = scene.hoverSeat == seat;
   const QPointF centre = view.ToScreen(place.Rail);
-  const double radius = 10 * view.Scale();
+  const double radius = kOpenPlaceRadius * view.Scale();
   const QColor ink = hover || scene.movingPlayer ? QColor(255, 220, 120) : QColor(200, 180, 160, 150);
   painter.setPen(QPen(ink, std::max(1.0, radius * 0.12)));
   painter.setBrush(hover ? QColor(255, 220, 120, 50) : QColor(0, 0, 0, 40));
@@ -522,7 +533,7 @@ void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayo
   CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale()};
   pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue);
   if (!scene.hideBets) {
-    for (const Pile& pile : CollectPiles(*scene.game, layout, view.Transform())) DrawPile(brush, pile);
+    for (const Pile& pile : CollectPiles(scene, layout, view.Transform())) DrawPile(brush, pile);
   }
   for (const FallenCheck& check : scene.rain)
     painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),
@@ -561,21 +572,63 @@ QString ScriptText(const Game& game, int seat) {
 namespace {
 
 constexpr double kBoxGap = 4;
-constexpr int kMaskStep = 8;  // screen units to a point of the mask
 
-// Where the table lies, coarsely: asking its outline for every place that is tried would take longer than
-// drawing it.
-QImage TableMask(const TableView& view) {
-  QImage mask(view.Window.width() / kMaskStep + 1, view.Window.height() / kMaskStep + 1,
-              QImage::Format_Grayscale8);
-  mask.fill(0);
-  QPainter painter(&mask);
-  painter.scale(1.0 / kMaskStep, 1.0 / kMaskStep);
-  painter.setTransform(view.Transform(), true);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(Qt::white);
-  painter.drawPath(RailOutline());
-  return mask;
+// How much of the window an outline covers, in cells. Sums tell it of any box at once: asking the outline for
+// every place that is tried would take longer than drawing it. A cell that is only touched counts too.
+class Cover {
+ public:
+  Cover(const TableView& view, const QPainterPath& outline)
+      : columns_(view.Window.width() / kCell + 1),
+        rows_(view.Window.height() / kCell + 1),
+        sums_(static_cast<std::size_t>(columns_ + 1) * (rows_ + 1)) {
+    QImage mask(columns_, rows_, QImage::Format_Grayscale8);
+    mask.fill(0);
+    QPainter painter(&mask);
+    painter.scale(1.0 / kCell, 1.0 / kCell);
+    painter.setTransform(view.Transform(), true);
+    QPen edge(Qt::white, 2);
+    edge.setCosmetic(true);
+    painter.setPen(edge);
+    painter.setBrush(Qt::white);
+    painter.drawPath(outline);
+    painter.end();
+    for (int y = 0; y < rows_; ++y)
+      for (int x = 0; x < columns_; ++x)
+        sums_[At(x + 1, y + 1)] = sums_[At(x, y + 1)] + sums_[At(x + 1, y)] - sums_[At(x, y)] +
+                                  (mask.constScanLine(y)[x] != 0 ? 1 : 0);
+  }
+
+  // The share of the box that is covered.
+  double Under(const QRectF& box) const {
+    const int left = std::clamp(static_cast<int>(box.left()) / kCell, 0, columns_);
+    const int right = std::clamp(static_cast<int>(box.right()) / kCell + 1, left, columns_);
+    const int top = std::clamp(static_cast<int>(box.top()) / kCell, 0, rows_);
+    const int bottom = std::clamp(static_cast<int>(box.bottom()) / kCell + 1, top, rows_);
+    const int cells =
+        sums_[At(right, bottom)] - sums_[At(left, bottom)] - sums_[At(right, top)] + sums_[At(left, top)];
+    return cells / std::max(1.0, static_cast<double>(right - left) * (bottom - top));
+  }
+
+ private:
+  static constexpr int kCell = 4;  // screen units
+  std::size_t At(int x, int y) const { return static_cast<std::size_t>(y) * (columns_ + 1) + x; }
+
+  int columns_;
+  int rows_;
+  std::vector<int> sums_;
+};
+
+// What takes clicks: the felt, and at the rail the players' stacks and the open places.
+QPainterPath WhereClicksGo(const Game& game, const TableLayout& layout) {
+  QPainterPath path = FeltOutline();
+  path.setFillRule(Qt::WindingFill);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const SeatPlace& place = layout.Seats[seat];
+    if (!IsOccupied(game.table, seat)) path.addEllipse(place.Rail, kOpenPlaceRadius, kOpenPlaceRadius);
+    for (int n = 0; n < 4 && IsOccupied(game.table, seat); ++n)
+      path.addEllipse(VisibleStackPlace(place, n), kCheckUnits / 2, kCheckUnits / 2);
+  }
+  return path;
 }
 
 QSizeF StatusBoxSize(const QFont& font) {
@@ -583,55 +636,66 @@ QSizeF StatusBoxSize(const QFont& font) {
   return {metrics.horizontalAdvance("  Bankroll:  9,999,999 ") + 16, metrics.height() * 5 + 8};
 }
 
-// How bad a place is: on the table or on another box weighs most, then the way to the seat.
-double PlaceCost(const QRectF& box, const QPointF& spot, const QImage& table,
-                 const std::array<QRectF, kSeatRows>& taken) {
-  double cost = std::hypot(box.center().x() - spot.x(), box.center().y() - spot.y());
-  constexpr int kProbes = 5;
-  for (int x = 0; x < kProbes; ++x)
-    for (int y = 0; y < kProbes; ++y) {
-      const QPoint probe(static_cast<int>(box.left() + box.width() * x / (kProbes - 1)) / kMaskStep,
-                         static_cast<int>(box.top() + box.height() * y / (kProbes - 1)) / kMaskStep);
-      if (table.rect().contains(probe) && table.constScanLine(probe.y())[probe.x()] != 0) cost += 400;
-    }
-  for (const QRectF& other : taken) {
-    const QRectF shared = other.intersected(box);
-    cost += shared.width() * shared.height() * 4;
-  }
-  return cost;
+// Where the boxes may stand.
+struct BoxGround {
+  Cover clicked;
+  Cover table;
+  QSizeF size;
+  QRectF corners;  // within which a box's top left corner keeps it in the window
+};
+
+// The free place next to the spot; a place on the rail is taken only when there is none off the table. An
+// empty rectangle when there is none at all.
+QRectF PlaceBox(const BoxGround& ground, const QPointF& spot, const std::array<QRectF, kSeatRows>& taken) {
+  constexpr double kOnTheTable = 10'000;
+  QRectF best;
+  double bestCost = 1e18;
+  const QRectF& corners = ground.corners;
+  const auto attempt = [&](double x, double y) {
+    const QRectF box(QPointF(std::clamp(x, corners.left(), corners.right()),
+                             std::clamp(y, corners.top(), corners.bottom())),
+                     ground.size);
+    const QPointF way = box.center() - spot;
+    const double cost = std::hypot(way.x(), way.y()) + kOnTheTable * ground.table.Under(box);
+    if (cost >= bestCost || ground.clicked.Under(box) > 0) return;
+    for (const QRectF& other : taken)
+      if (other.intersects(box)) return;
+    bestCost = cost;
+    best = box;
+  };
+  const double width = ground.size.width();
+  const double height = ground.size.height();
+  for (const double dx : {-1.0, -0.5, 0.0})
+    for (const double dy : {-1.0, -0.5, 0.0}) attempt(spot.x() + dx * width, spot.y() + dy * height);
+  for (double x = corners.left(); x <= corners.right(); x += (width + kBoxGap) / 4)
+    for (const double y : {corners.top(), corners.bottom()}) attempt(x, y);
+  for (double y = corners.top(); y <= corners.bottom(); y += (height + kBoxGap) / 4)
+    for (const double x : {corners.left(), corners.right()}) attempt(x, y);
+  return best;
 }
 
 }  // namespace
 
 std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayout& layout,
                                                const TableView& view, const QFont& font) {
-  std::array<QRectF, kSeatRows> boxes;
   const QSizeF size = StatusBoxSize(font);
-  const QImage table = TableMask(view);
-  const QRectF room(kBoxGap, kBoxGap, view.Window.width() - size.width() - 2 * kBoxGap,
-                    view.Window.height() - size.height() - 2 * kBoxGap);
+  const QSizeF room = QSizeF(view.Window) - size - QSizeF(2 * kBoxGap, 2 * kBoxGap);
+  if (room.width() < 0 || room.height() < 0) return {};
+  const BoxGround ground{Cover(view, WhereClicksGo(game, layout)), Cover(view, RailOutline()), size,
+                         QRectF(QPointF(kBoxGap, kBoxGap), room)};
+  std::array<QRectF, kSeatRows> boxes;
+  const auto place = [&](int seat) {
+    if (boxes[seat].isEmpty() && IsOccupied(game.table, seat))
+      boxes[seat] = PlaceBox(ground, view.ToScreen(layout.Seats[seat].Spot), boxes);
+  };
   // From the dealers' side round both ends, so that nobody's corner is taken by a neighbour.
-  for (const int seat : kPayOrder) {
-    if (!IsOccupied(game.table, seat)) continue;
-    const QPointF spot = view.ToScreen(layout.Seats[seat].Spot);
-    double best = 1e18;
-    const auto attempt = [&](double x, double y) {
-      const QRectF box(std::clamp(x, room.left(), std::max(room.left(), room.right())),
-                       std::clamp(y, room.top(), std::max(room.top(), room.bottom())), size.width(),
-                       size.height());
-      const double cost = PlaceCost(box, spot, table, boxes);
-      if (cost >= best) return;
-      best = cost;
-      boxes[seat] = box;
-    };
-    for (const double dx : {-1.0, -0.5, 0.0})
-      for (const double dy : {-1.0, -0.5, 0.0})
-        attempt(spot.x() + dx * size.width(), spot.y() + dy * size.height());
-    for (double x = room.left(); x <= room.right(); x += (size.width() + kBoxGap) / 4)
-      for (const double y : {room.top(), room.bottom()}) attempt(x, y);
-    for (double y = room.top(); y <= room.bottom(); y += (size.height() + kBoxGap) / 4)
-      for (const double x : {room.left(), room.right()}) attempt(x, y);
-  }
+  for (const int seat : kPayOrder) place(seat);
+  const int selected = game.table.SelectedSeat;
+  if (!IsOccupied(game.table, selected) || !boxes[selected].isEmpty()) return boxes;
+  // Too little room for all: the player who bets comes first.
+  boxes = {};
+  place(selected);
+  for (const int seat : kPayOrder) place(seat);
   return boxes;
 }
 

@@ -52,10 +52,13 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
 struct Hit {
   int Seat = 0;
   int Bet = 0;
+  int Area = 0;  // the area's own id
 };
 Hit HitTest(const QImage& map, QPoint point, const Game& game);
 // The same for an area's id, without a map.
 int MeantBet(const Game& game, int id);
+// The id of the area in which a bet's checks stand.
+int AreaOf(int bet);
 
 // A pile: denominations 1 to 6 from the bottom up.
 using CheckPile = std::vector<int>;
@@ -111,6 +114,8 @@ struct TableScene {
   int focusBet = 0;  // the area with the keyboard's focus
   int focusSide = 0;
   int hoverSeat = 0;  // an open position under the pointer
+  int heldBet = 0;    // a stack of the selected seat that hangs on the pointer
+  QPointF heldAt;     // there, on the screen
   bool movingPlayer = false;
   std::vector<FallenCheck> rain;
 };
@@ -122,8 +127,9 @@ void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayo
 QStringList StatusLines(const Game& game, int seat);
 // The seat's script and whether it is active, for the head of the box; empty without one.
 QString ScriptText(const Game& game, int seat);
-// Where the boxes of the occupied seats stand: near their seat, within the window, off the table and off each
-// other as far as there is room. Empty rectangles for empty seats.
+// Where the boxes of the occupied seats stand: near their seat, within the window, off each other and off all
+// bets, off the rail too as far as there is room. Empty rectangles for empty seats, and where there is no
+// room.
 std::array<QRectF, kSeatRows> PlaceStatusBoxes(const Game& game, const TableLayout& layout,
                                                const TableView& view, const QFont& font);
 void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRectF, kSeatRows>& boxes,

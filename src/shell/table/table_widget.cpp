@@ -1,5 +1,6 @@
 #include "shell/table/table_widget.h"
 
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -14,6 +15,7 @@
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
+#include "cli/script_report.h"
 
 namespace tessaryn {
 
@@ -125,13 +127,25 @@ void TableWidget::ShowWhole() {
 void TableWidget::ViewChanged() {
   fitted_ = false;
   tableStale_ = mapStale_ = boxesStale_ = true;
+  TellSoon();
   update();
 }
 
 void TableWidget::Refresh() {
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(game_.table, seat)) PlaceVisibleStacks(layout_, seat, game_.table.VisibleStacks[seat]);
-  mapStale_ = boxesStale_ = true;
+  const TableState& table = game_.table;
+  Shown now;
+  now.selected = table.SelectedSeat;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    now.seats[seat] = IsOccupied(table, seat);
+    if (!now.seats[seat]) continue;
+    std::copy_n(table.VisibleStacks[seat], 4, now.stacks[seat].begin());
+    PlaceVisibleStacks(layout_, seat, table.VisibleStacks[seat]);
+  }
+  if (!(now == shown_)) mapStale_ = boxesStale_ = true;
+  shown_ = now;
+  BetInHand& hand = commands_.Moving;
+  if (hand.Seat != table.SelectedSeat || table.BetAmount(hand.Seat, hand.Bet) == kZero) hand = {};
+  ShowHeld();
   scene.rain.clear();
   RefreshPointer();
   update();
@@ -190,20 +204,39 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 
 void TableWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) boxesStale_ = true;
-  if (event->type() == QEvent::LanguageChange) setAccessibleName(tr("Craps table"));
+  if (event->type() == QEvent::LanguageChange) TellSoon();
   QWidget::changeEvent(event);
 }
 
 // --- Where things are.
 
-int TableWidget::BetAt(QPoint point) {
+Hit TableWidget::HitAt(QPoint point) {
   PrepareMap();
   const Hit hit = HitTest(map_, point, game_);
   // A stack at another seat's rail is that player's: a click there chooses the seat.
-  return hit.Seat == game_.table.SelectedSeat ? hit.Bet : 0;
+  return hit.Seat == game_.table.SelectedSeat ? hit : Hit{};
+}
+
+int TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
+
+int TableWidget::StackAt(QPoint point) const {
+  const int seat = game_.table.SelectedSeat;
+  const double radius = kCheckUnits / 2 * view.Scale();
+  int found = 0;
+  double nearest = radius;
+  game_.table.SeatBets[seat].ForEach([&](int bet) {
+    const QPointF way = view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))) - point;
+    const double apart = std::hypot(way.x(), way.y());
+    if (apart > nearest) return;
+    nearest = apart;
+    found = bet;
+  });
+  return found;
 }
 
 int TableWidget::SeatAt(QPoint point) const {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (boxes_[seat].contains(point)) return seat;
   const QPointF table = view.ToTable(point);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const SeatPlace& place = layout_.Seats[seat];
@@ -212,8 +245,6 @@ int TableWidget::SeatAt(QPoint point) const {
     const double out = QPointF::dotProduct(offset, place.Out);
     if (std::fabs(along) <= kSeatReach && out >= -19 && out <= 60) return seat;
   }
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (boxes_[seat].contains(point)) return seat;
   return 0;
 }
 
@@ -233,6 +264,7 @@ void TableWidget::mousePressEvent(QMouseEvent* event) {
     return;
   }
   setFocus();
+  pointer_ = event->position().toPoint();
   if (event->button() == Qt::MiddleButton) {
     dragging_ = true;
     dragFrom_ = event->position().toPoint();
@@ -249,17 +281,75 @@ void TableWidget::mousePressEvent(QMouseEvent* event) {
 void TableWidget::LeftPress(QMouseEvent* event) {
   const QPoint point = event->position().toPoint();
   SetFocusBet(0, 0);
-  const int bet = BetAt(point);
+  if (commands_.Moving.Bet != 0) return PutDown(point);
+  const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
+  const int stack = StackAt(point);
+  if (stack != 0 && !alt && commands_.PendingAction == kPendingNone && commands_.CarriedAmount == kZero) {
+    // A click if it is let go here; else it drags the stack.
+    pressedStack_ = stack;
+    pressedAt_ = point;
+    return;
+  }
+  int bet = BetAt(point);
+  if (commands_.PendingAction == kPendingMove && stack != 0) bet = stack;
   if (bet != 0) {
-    emit betClicked(bet, (event->modifiers() & Qt::AltModifier) != 0);
+    emit betClicked(bet, alt);
     return;
   }
   const int seat = SeatAt(point);
   if (seat != 0) emit seatClicked(seat);
 }
 
+void TableWidget::LeftRelease(QMouseEvent* event) {
+  if (std::exchange(pressedStack_, 0) != 0) {
+    const int bet = BetAt(pressedAt_);
+    if (bet != 0) emit betClicked(bet, false);
+  }
+  if (std::exchange(dragsStack_, false) && commands_.Moving.Bet != 0) PutDown(event->position().toPoint());
+}
+
+// With the left button held on a stack, or with a bet in hand.
+void TableWidget::DragStack(QMouseEvent* event) {
+  const QPoint point = event->position().toPoint();
+  const bool held = (event->buttons() & Qt::LeftButton) != 0;
+  if (!held) pressedStack_ = 0;
+  // A box took the button's release.
+  if (!held && std::exchange(dragsStack_, false)) commands_.Moving = {};
+  if (pressedStack_ != 0 && (point - pressedAt_).manhattanLength() >= QApplication::startDragDistance()) {
+    dragsStack_ = TakeInHand(game_, commands_, std::exchange(pressedStack_, 0));
+    RefreshPointer();
+  }
+  if (commands_.Moving.Bet == 0) return;
+  ShowHeld();
+  scene.heldAt = point;
+  update();
+}
+
+// A bet that is taken in hand without the pointer stays at its place.
+void TableWidget::ShowHeld() {
+  const BetInHand& hand = commands_.Moving;
+  if (scene.heldBet != hand.Bet) scene.heldAt = PointOfBet(hand.Seat, hand.Bet);
+  scene.heldBet = hand.Bet;
+}
+
+void TableWidget::PutDown(QPoint point) {
+  const Hit hit = HitAt(point);
+  if (IsTableBet(hit.Bet)) return PutDownOn(hit.Area);
+  const bool onFelt = rect().contains(point) && FeltOutline().contains(view.ToTable(point));
+  PutDownOn(onFelt ? AreaOf(commands_.Moving.Bet) : 0);
+}
+
+// Area 0: off the table.
+void TableWidget::PutDownOn(int area) {
+  const BetInHand hand = std::exchange(commands_.Moving, {});
+  const int to = area == 0 ? 0 : PutDownBet(game_, hand, area);
+  if (to != hand.Bet && hand.Seat == game_.table.SelectedSeat) emit betMoved(hand.Bet, to);
+  Refresh();
+}
+
 void TableWidget::mouseMoveEvent(QMouseEvent* event) {
   const QPoint point = event->position().toPoint();
+  pointer_ = point;
   if (dragging_) {
     const QPoint way = point - dragFrom_;
     dragFrom_ = point;
@@ -267,28 +357,57 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
     ViewChanged();
     return;
   }
-  const int bet = BetAt(point);
-  const int openSeat = bet == 0 ? SeatAt(point) : 0;
-  if (bet == scene.hoverBet && openSeat == scene.hoverSeat) return;
-  scene.hoverBet = bet;
-  scene.hoverSeat = openSeat;
-  RefreshPointer();
-  const QString tip = InfoTip(game_, game_.table.SelectedSeat, bet);
+  DragStack(event);
+  const int pointed = scene.hoverBet;
+  const int openSeat = scene.hoverSeat;
+  FindPointed();
+  if (pointed == scene.hoverBet && openSeat == scene.hoverSeat) return;
+  ShowCursor();
+  const QString tip = InfoTip(game_, commands_, scene.hoverBet);
   if (tip.isEmpty())
     QToolTip::hideText();
   else
     QToolTip::showText(event->globalPosition().toPoint() + QPoint(14, 14), tip, this);
-  emit pointedAt(bet);
+  emit pointedAt(scene.hoverBet);
   update();
 }
 
+// What is under the pointer now; the table may have changed below it.
+void TableWidget::FindPointed() {
+  const bool inside = rect().contains(pointer_);
+  scene.hoverBet = inside ? BetAt(pointer_) : 0;
+  scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : 0;
+}
+
+// The line of what is pointed at is told anew once the events at hand are done: of many changes the last.
+void TableWidget::TellSoon() {
+  if (std::exchange(tellPending_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    tellPending_ = false;
+    const auto shown = [this] { return std::array{scene.hoverBet, scene.hoverSeat, scene.heldBet}; };
+    const auto before = shown();
+    FindPointed();
+    ShowHeld();
+    ShowCursor();
+    TellFocus();
+    if (shown() != before) update();
+  });
+}
+
 void TableWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) LeftRelease(event);
   if (event->button() != Qt::MiddleButton || !dragging_) return;
   dragging_ = false;
   RefreshPointer();
 }
 
+void TableWidget::enterEvent(QEnterEvent* event) {
+  pointer_ = event->position().toPoint();
+  TellSoon();
+}
+
 void TableWidget::leaveEvent(QEvent*) {
+  pointer_ = QPoint(-1, -1);
   scene.hoverBet = scene.hoverSeat = 0;
   emit pointedAt(0);
   update();
@@ -305,7 +424,14 @@ void TableWidget::wheelEvent(QWheelEvent* event) {
 }
 
 void TableWidget::RefreshPointer() {
+  ShowCursor();
+  TellSoon();
+}
+
+void TableWidget::ShowCursor() {
   if (dragging_) return;
+  if (commands_.Moving.Bet != 0) return setCursor(Qt::ClosedHandCursor);
+  if (commands_.PendingAction == kPendingMove) return setCursor(Qt::OpenHandCursor);
   if (scene.hoverSeat != 0) return setCursor(Qt::PointingHandCursor);
   if (scene.hoverBet == 0 || !IsOccupied(game_.table, game_.table.SelectedSeat))
     return setCursor(Qt::ArrowCursor);
@@ -360,7 +486,10 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (!walks) break;
-      emit betClicked(MeantBet(game_, scene.focusBet), (event->modifiers() & Qt::AltModifier) != 0);
+      if (commands_.Moving.Bet != 0)
+        PutDownOn(scene.focusBet);
+      else
+        emit betClicked(MeantBet(game_, scene.focusBet), (event->modifiers() & Qt::AltModifier) != 0);
       TellFocus();
       return;
     case Qt::Key_Escape:
@@ -383,14 +512,10 @@ void TableWidget::SetFocusBet(int bet, int side) {
 
 // What a screen reader hears, and the status line shows.
 void TableWidget::TellFocus() {
-  if (scene.focusBet == 0) {
-    setAccessibleName(tr("Craps table"));
-    emit pointedAt(scene.hoverBet);
-    return;
-  }
-  const int bet = MeantBet(game_, scene.focusBet);
-  setAccessibleName(PointerText(game_, game_.table.SelectedSeat, bet));
-  emit pointedAt(bet);
+  const int bet = scene.focusBet == 0 ? 0 : MeantBet(game_, scene.focusBet);
+  const QString name = bet == 0 ? tr("Craps table") : PointerText(game_, commands_, bet);
+  if (name != accessibleName()) setAccessibleName(name);
+  emit pointedAt(bet == 0 ? scene.hoverBet : bet);
 }
 
 // To the nearest area in the key's direction as the user sees the table.

@@ -59,11 +59,13 @@ class TableWidget : public QWidget {
   // Closes it and takes its amount. False when the amount was not taken as typed.
   bool CommitEntry();
   bool EntryOpen() const { return entryBet_ != 0; }
-  // The check that hangs on the pointer.
+  // The check that hangs on the pointer, and the line of what is under it.
   void RefreshPointer();
 
  signals:
   void betClicked(int bet, bool alt);
+  // A bet of the selected seat is put down on another; to 0: off the table.
+  void betMoved(int from, int to);
   void rightClicked();
   void seatClicked(int seat);
   void pointedAt(int bet);
@@ -76,6 +78,7 @@ class TableWidget : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
@@ -86,9 +89,20 @@ class TableWidget : public QWidget {
  private:
   void PrepareTable();
   void PrepareMap();
+  Hit HitAt(QPoint point);
+  // The selected seat's bet whose stack is drawn under a point; 0 for none.
+  int StackAt(QPoint point) const;
+  void ShowHeld();
+  void PutDown(QPoint point);
+  void PutDownOn(int area);
+  void FindPointed();
+  void ShowCursor();
+  void TellSoon();
   void WalkFocus(int key);
   void TellFocus();
   void LeftPress(QMouseEvent* event);
+  void LeftRelease(QMouseEvent* event);
+  void DragStack(QMouseEvent* event);
   void SetMargins();
   // Calls frame with the share 0 to 1 of the time that is over, until it is or the user cuts it short.
   void Animate(int milliseconds, const std::function<void(double)>& frame);
@@ -106,8 +120,21 @@ class TableWidget : public QWidget {
   bool fitted_ = true;  // shows the whole table until the user chooses a view
   std::array<QRectF, kSeatRows> boxes_;
   bool boxesStale_ = true;
+  // What the map and the boxes were made for, beside the view.
+  struct Shown {
+    int selected = 0;
+    std::array<bool, kSeatRows> seats{};
+    std::array<std::array<int, 4>, kSeatRows> stacks{};
+    bool operator==(const Shown&) const = default;
+  };
+  Shown shown_;
+  QPoint pointer_{-1, -1};  // where it was last; outside when it has left
+  bool tellPending_ = false;
   QPoint dragFrom_;
-  bool dragging_ = false;
+  bool dragging_ = false;  // the table, with the middle button
+  int pressedStack_ = 0;   // under the left button, which hasn't moved yet
+  QPoint pressedAt_;
+  bool dragsStack_ = false;
   bool throwing_ = false;
   bool cutShort_ = false;
   int flashes_ = 0;
