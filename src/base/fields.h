@@ -37,6 +37,20 @@
 
 namespace tessaryn {
 
+// A part that is not of the value: an open file, a lock, what was made ready and can be made again. A copy
+// starts with none, and any two are equal.
+template <typename T>
+struct Unshared : T {
+  using T::operator=;
+
+  Unshared() = default;
+  Unshared(const Unshared&) : T() {}
+  Unshared(Unshared&&) = default;
+  Unshared& operator=(const Unshared&) = delete;
+  Unshared& operator=(Unshared&&) = default;
+  friend bool operator==(const Unshared&, const Unshared&) { return true; }
+};
+
 template <typename T>
 concept HasFields = requires {
   ForEachMember(std::type_identity<T>{}, [](const char*, auto) {});
@@ -80,6 +94,8 @@ std::string FirstDifference(const T& a, const T& b) {
       const std::string inner = FirstDifference(a[i], b[i]);
       if (!inner.empty()) path = "[" + std::to_string(i) + "]" + (inner == "." ? "" : inner);
     }
+  } else if constexpr (std::is_pointer_v<T>) {
+    // Where a pointer leads is the outside.
   } else if (!(a == b)) {
     path = ".";
   }

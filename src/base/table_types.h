@@ -108,6 +108,7 @@ struct SeatBetTable {
   T cells[kRows][kSeatRows] = {};
   T& operator()(int seat, int bet) { return cells[bet][seat]; }
   const T& operator()(int seat, int bet) const { return cells[bet][seat]; }
+  friend bool operator==(const SeatBetTable&, const SeatBetTable&) = default;
 };
 
 // A set of small numbers below 128: the bets 1 to 93, or the CheckStacks 0 to 99.

@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/fields.h"
 #include "base/table_types.h"
 #include "state/script_types.h"
 
@@ -19,6 +20,7 @@ struct ScriptOutput {
   std::FILE* File = nullptr;
 
   ScriptOutput() = default;
+  ScriptOutput(const ScriptOutput&) {}  // a copy has no file open
   ScriptOutput(ScriptOutput&& other) noexcept : File(std::exchange(other.File, nullptr)) {}
   ScriptOutput& operator=(ScriptOutput&& other) noexcept {
     std::swap(File, other.File);
@@ -27,6 +29,7 @@ struct ScriptOutput {
   ~ScriptOutput() {
     if (File != nullptr) std::fclose(File);
   }
+  friend bool operator==(const ScriptOutput&, const ScriptOutput&) { return true; }
 };
 
 // A kind of run-time error of a script, with the place where it first came up.
@@ -37,13 +40,15 @@ struct ScriptErrorKind {
   int line = 0;  // 1-based
   std::string statement;
 };
+TESSARYN_FIELDS(ScriptErrorKind, code, text, count, line, statement)
 
 struct SeatScript {
   std::vector<std::string> ScriptLines;  // as typed; seat 0 the hot-key script
   std::vector<int> ScriptNesting;        // the level of each line
   std::string ScriptFileName;            // empty: untitled
   bool Unsaved = false;
-  std::unique_ptr<KeptScript> Kept;  // the last good compile; may be null. Written by the interpreter
+  Unshared<std::unique_ptr<KeptScript>>
+      Kept;  // the last good compile; may be null. Written by the interpreter
   // Permissions.
   bool AllowAct4Others = false;
   bool AllowReset = false;    // new sessions
@@ -53,6 +58,8 @@ struct SeatScript {
   std::vector<ScriptErrorKind> Errors;  // in the order in which they came up
   bool Acted = false;                   // some action of it was taken
 };
+TESSARYN_FIELDS(SeatScript, ScriptLines, ScriptNesting, ScriptFileName, Unsaved, Kept, AllowAct4Others,
+                AllowReset, AllowActProb, Output, Errors, Acted)
 
 // Held by the interpreter alone: the program in its ready-to-run form.
 struct PreparedProgram;
@@ -77,7 +84,8 @@ struct AutoBet {
   bool ScriptActive[kSeatRows] = {};  // 0 the master switch that the roll cycle tests
   bool ScriptsCompiled = false;       // Program is valid
   CompiledScript Program;             // the joined scripts of all active players
-  std::unique_ptr<PreparedProgram, PreparedProgramDeleter> Prepared;  // Program as it is run; may be null
+  Unshared<std::unique_ptr<PreparedProgram, PreparedProgramDeleter>>
+      Prepared;                                     // Program as it is run; may be null
   std::vector<std::string> AllowedOutputFolders;    // besides the scripts' own; set by the user for the run
   std::map<std::string, std::string> OutputOwners;  // the files that scripts wrote, and for which player
   // --- Bets made by hand, as statements to insert into a script.
@@ -104,5 +112,10 @@ struct AutoBet {
   std::uint16_t BeginningNewSession = 0;
   bool RollFileEndReached = false;  // set when playback came to its end
 };
+TESSARYN_FIELDS(AutoBet, Scripts, ScriptActive, ScriptsCompiled, Program, Prepared, AllowedOutputFolders,
+                OutputOwners, BetLogging, LoggedBets, LoggedBetsUnsaved, ScriptRunning, ScriptInitializing,
+                CurrentAutobettor, Work, ScriptError, ScriptFault, StepMode, StepsShown, StepsHold,
+                StepWaiting, HotKeyRun, StatusCaption, Answer, SessionAhead, BeginningNewSession,
+                RollFileEndReached)
 
 }  // namespace tessaryn

@@ -5,7 +5,20 @@
 #include <cstdio>
 #include <string>
 
+#include "base/fields.h"
+
 namespace tessaryn {
+
+// Open while lines come fast; FlushEventsLog brings both files up to date.
+struct EventsLogFiles {
+  std::FILE* textFile = nullptr;
+  std::FILE* indexFile = nullptr;
+  std::string textBuffer;
+  std::string indexBuffer;
+  std::int64_t textLength = 0;  // of the text file with the buffer
+  std::int64_t lineCount = 0;   // of the index with the buffer
+  std::size_t failedAt = 0;     // bytes of text that waited when writing last failed; 0 while it works
+};
 
 struct EventsLog {
   // --- Choices of the user.
@@ -28,19 +41,16 @@ struct EventsLog {
   bool ScriptActiveLogged[9] = {};     // what the log has told of each script
   std::string FaultReported;           // the write error that was reported; empty while writing works
   bool Held = false;                   // lines wait in memory: no file is touched before all is found good
-  // Open while lines come fast; FlushEventsLog brings both files up to date.
-  std::FILE* textFile = nullptr;
-  std::FILE* indexFile = nullptr;
-  std::string textBuffer;
-  std::string indexBuffer;
-  std::int64_t textLength = 0;  // of the text file with the buffer
-  std::int64_t lineCount = 0;   // of the index with the buffer
-  std::size_t failedAt = 0;     // bytes of text that waited when writing last failed; 0 while it works
+  Unshared<EventsLogFiles> Files;
 
   EventsLog() = default;
   ~EventsLog();
-  EventsLog(const EventsLog&) = delete;
+  EventsLog(const EventsLog&) = default;
   EventsLog& operator=(const EventsLog&) = delete;
 };
+TESSARYN_FIELDS(EventsLog, RecordEventsActive, RecordRolls, RecordBetChanges, RecordBetsWon, RecordBetsLost,
+                RecordCheckStackChanges, RecordPassesMisses, RecordShooterChanges, RecordBankrollChanges,
+                ClearLogOnNewSession, KeepLatestRollOnTop, EventsLogTopLine, Path, PendingLogHeading,
+                ScriptActiveLogged, FaultReported, Held, Files)
 
 }  // namespace tessaryn

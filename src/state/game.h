@@ -4,6 +4,7 @@
 #include <memory>
 #include <string>
 
+#include "base/fields.h"
 #include "base/folder_lock.h"
 #include "state/auto_bet_state.h"
 #include "state/events_log_state.h"
@@ -24,7 +25,7 @@ struct Game {
   TableState table;
   Settings settings;
   PayoffTables payoffs;
-  mutable KeptMaximums maximums;  // of the two above
+  mutable Unshared<KeptMaximums> maximums;  // of the two above
   Statistics stats;
   BankrollGraph graph;
   Generators generators;
@@ -32,14 +33,16 @@ struct Game {
   RollFile rollFile;
   AutoBet autobet;
   EventsLog events;
-  MessageBox box;                 // the box being asked
-  std::string applicationFolder;  // the programs and support files; ends with a separator
-  std::string dataFolder;         // everything that is kept; ends with a separator
-  std::string ownFolder;          // logs, work files and what scripts write: the data folder, or one in it
-                                  // while another program has that; see ClaimDataFolder
-  FolderLock folderLock;          // on ownFolder, of programs
-  Host* host = nullptr;           // not owned; outlives the game
+  MessageBox box;                   // the box being asked
+  std::string applicationFolder;    // the programs and support files; ends with a separator
+  std::string dataFolder;           // everything that is kept; ends with a separator
+  std::string ownFolder;            // logs, work files and what scripts write: the data folder, or one in it
+                                    // while another program has that; see ClaimDataFolder
+  Unshared<FolderLock> folderLock;  // on ownFolder, of programs
+  Host* host = nullptr;             // not owned; outlives the game
 };
+TESSARYN_FIELDS(Game, table, settings, payoffs, maximums, stats, graph, generators, percentage, rollFile,
+                autobet, events, box, applicationFolder, dataFolder, ownFolder, folderLock, host)
 
 // Shows a box and returns its MsgResult. Requires that no box is being shown.
 int ShowMessage(Game& game, const std::string& title, const std::string& text,

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "base/fields.h"
+
 namespace tessaryn {
 
 enum GeneratorNumber : int {
@@ -36,6 +38,7 @@ struct TwisterStream {
   std::uint32_t State[kTwisterWords]{};    // the library's own
   std::uint32_t Numbers[kTwisterWords]{};  // 32-bit numbers not yet all drawn
 };
+TESSARYN_FIELDS(TwisterStream, SeedBlock, NextBlock, Seeded, Next, State, Numbers)
 
 struct Ran1State {
   bool Initialised = false;
@@ -45,6 +48,7 @@ struct Ran1State {
   std::int32_t j = 0;    // the slot last drawn from, 1 to 97
   float r[98]{};         // 1 to 97 used
 };
+TESSARYN_FIELDS(Ran1State, Initialised, ix1, ix2, ix3, j, r)
 
 struct Ran2State {
   bool Initialised = false;
@@ -53,6 +57,7 @@ struct Ran2State {
   std::int32_t j = 0;     // the slot last drawn from, 1 to 97
   std::int32_t ir[98]{};  // 1 to 97 used
 };
+TESSARYN_FIELDS(Ran2State, Initialised, idum, iy, j, ir)
 
 struct Generators {
   std::int32_t GeneratorIndex = kGeneratorRan2;                  // 0 to 7
@@ -68,5 +73,7 @@ struct Generators {
   std::uint64_t RndState = 0;  // the runtime generator; the same at every start
   std::string LastErrorText;   // what Ran1 or Ran2 last had to complain of; empty if nothing
 };
+TESSARYN_FIELDS(Generators, GeneratorIndex, RngUserSeed, RngReseedNewSessions, RngSeedState, RngLastSeed,
+                MissingGeneratorFiles, Mersenne, Cokus, Ran1, Ran2, RndState, LastErrorText)
 
 }  // namespace tessaryn

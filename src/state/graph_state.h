@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
@@ -24,6 +25,7 @@ inline constexpr const char* kScaleModeCaptions[4] = {
 struct PlotRow {
   Currency cells[kSeatRows];
 };
+TESSARYN_FIELDS(PlotRow, cells)
 
 struct BankrollGraph {
   // --- The points. Written by PlotRoll, ClearBankrollGraph and LoadBankrollPlot; a change of seats moves
@@ -55,5 +57,9 @@ struct BankrollGraph {
   std::int64_t HighPoint = 0;
   std::int64_t LowPoint = 0;
 };
+TESSARYN_FIELDS(BankrollGraph, Rows, Next, PlotPoints, PlotCount, PagesFilled, PlotSeat, PlotType, ScaleMode,
+                MovingAverageRolls, RefRoll1, RefRoll2, DisplayGridLines, DisplayRefLines, DisplayAverage,
+                ScaleUnit, ScaleBase, ScaleTop, ScaleBottom, ScaleCentre, ShownHigh, ShownLow, HighPoint,
+                LowPoint)
 
 }  // namespace tessaryn

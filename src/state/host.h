@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/fields.h"
 #include "base/money.h"
 
 namespace tessaryn {
@@ -46,6 +47,7 @@ struct MessageBox {
   Currency MsgValue2;
   std::string MsgEntry;  // with kMsgTextInput, in: the preset; out: the text typed
 };
+TESSARYN_FIELDS(MessageBox, MsgText, MsgTitle, MsgWidth, MsgFlags, MsgResult, MsgValue1, MsgValue2, MsgEntry)
 
 // What a player wants done with a decided bet. choice is 1 to 7 of the handling tables; 0 leaves it to the
 // host's lack of an answer: the safe choice for a win (2) or a loss (1).

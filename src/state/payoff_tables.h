@@ -1,6 +1,7 @@
 // What every bet pays, as the house has it.
 #pragma once
 
+#include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
@@ -33,5 +34,7 @@ struct PayoffTables {
   PayoffRecord RideTheLinePayoffs[kRideTheLineRows + 1];
   PayoffRecord FirePayoffs[kFireRows + 1];
 };
+TESSARYN_FIELDS(PayoffTables, PayoffTable, FieldPayoffs, SevenPointSevenPayoffs, MidwayPayoffs,
+                SharpShooterPayoffs, RideTheLinePayoffs, FirePayoffs)
 
 }  // namespace tessaryn

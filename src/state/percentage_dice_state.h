@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "base/fields.h"
+
 namespace tessaryn {
 
 inline constexpr int kProbabilityRows = 8;
@@ -42,6 +44,7 @@ struct ProbabilityDrawTable {
   std::array<std::int32_t, 36> Sums{};    // running sums in the order of the walk
   std::array<std::uint8_t, 392> First{};  // first cell of the walk that can hold draw (index * 256) + 1
 };
+TESSARYN_FIELDS(ProbabilityDrawTable, Ready, Sums, First)
 
 struct PercentageDice {
   ProbabilityCells ProbMatrix = FairProbabilities();  // written by the procedures below alone
@@ -52,5 +55,7 @@ struct PercentageDice {
   bool ProbDirty = false;                             // edited since it was saved or opened
   ProbabilityDrawTable DrawTable;
 };
+TESSARYN_FIELDS(PercentageDice, ProbMatrix, PercentageDiceActive, ProbDisplayMode, ProbRollsOutOf,
+                ProbFileName, ProbDirty, DrawTable)
 
 }  // namespace tessaryn

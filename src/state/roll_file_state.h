@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "base/fields.h"
+
 namespace tessaryn {
 
 enum RecorderMode : int { kRecorderOff = 0, kRecorderRecord = 1, kRecorderPlayback = 2 };
@@ -30,16 +32,18 @@ struct RollFile {
   std::int32_t RollFileCursor = 1;            // what the next roll reads or writes
   std::int32_t RollFileSelectEnd = 1;         // the other end of the selection
   std::string RollFileOutputFormat = kDefaultRollFormat;
-  bool RollFileInsertMode = false;  // typed rolls are inserted, not typed over
-  bool Durable = true;              // false for a work file, whose edits need not reach the disk
-  std::string LastErrorText;        // of PlayRoll, RecordRoll and FlushRollFile
-  std::string FaultReported;        // the recorder's fault that was told; empty while it works
-  RollFileChannel Channel;          // nobody else's business
+  bool RollFileInsertMode = false;    // typed rolls are inserted, not typed over
+  bool Durable = true;                // false for a work file, whose edits need not reach the disk
+  std::string LastErrorText;          // of PlayRoll, RecordRoll and FlushRollFile
+  std::string FaultReported;          // the recorder's fault that was told; empty while it works
+  Unshared<RollFileChannel> Channel;  // nobody else's business
 
   RollFile() = default;
-  RollFile(const RollFile&) = delete;
+  RollFile(const RollFile&) = default;  // no file is open in a copy: see CopyGame
   RollFile& operator=(const RollFile&) = delete;
   ~RollFile();  // writes what is pending and closes
 };
+TESSARYN_FIELDS(RollFile, RollFileName, RecorderState, RollFileCursor, RollFileSelectEnd,
+                RollFileOutputFormat, RollFileInsertMode, Durable, LastErrorText, FaultReported, Channel)
 
 }  // namespace tessaryn

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "base/fields.h"
+
 namespace tessaryn {
 
 // What a token is. A statement marker's kind is kStatementMarker + its 1-based source line.
@@ -85,6 +87,7 @@ struct CompiledScript {
   std::vector<ScriptToken> tokens;    // tokens[0] is a filler; the program begins at 1
   std::vector<ScriptString> strings;  // strings[0] is a filler
 };
+TESSARYN_FIELDS(CompiledScript, tokens, strings)
 
 // What went wrong in a compile and where. Lines count from 1, columns from 0; firstLine 0: nothing did.
 struct ScriptDiagnostic {

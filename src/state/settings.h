@@ -2,6 +2,7 @@
 // one place where a value that came from outside is checked and its effects carried out.
 #pragma once
 
+#include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
@@ -75,5 +76,13 @@ struct Settings {
 
   Currency Unit() const { return CheckValue[1]; }
 };
+TESSARYN_FIELDS(Settings, MinBetMain, MinBetProp, MaxBet, MaxPropBetPayoff, MaxOddsBet, MaxFireBet,
+                OddsAllowed410, OddsAllowed59, OddsAllowed68, OddsCalcMethod, BarNumber, AllowPutBets,
+                ShooterBetRule, UseBig68, UseMidway, SmallTallEnabled, UseFire, ReturnAbandonedBets,
+                BuyVigRate, LayVigRate, BuyVigRound, LayVigRound, BuyVigUpFront, LayVigUpFront, CheckValue,
+                SimRollRate, RollThrottle, AutoRollDelay, AutoStopInterval, StartBank, AtmEnabled, AtmUnit,
+                MessageMask, UseCentsSymbol, AutoArrangeChecks, SnapMouse, ColorPrint, InfoTipLevel,
+                ScreenFontSize, DiceAction, StickPerson, DiceSound, CheckSound, WinSound, AutoBetSounds,
+                DisableAllSound, IncludeZeroOutcomes, CompBase, CompRate, CompUseTrueProbs, CompBetFlags)
 
 }  // namespace tessaryn

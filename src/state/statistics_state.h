@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
@@ -30,6 +31,7 @@ constexpr int PairIndex(int die1, int die2) { return (die1 - 1) * 6 + die2 - 1; 
 struct BetStats {
   Currency kinds[kStatTables][6];  // kind - 1
 };
+TESSARYN_FIELDS(BetStats, kinds)
 
 enum NumberKind : int { kComeoutRolls = 0, kPasses = 1, kMisses = 2 };
 
@@ -75,6 +77,11 @@ struct Statistics {
   Currency BankrollSessionStart[kSeatRows];
   Currency ComeTravelTotals[kSlots][6];
 };
+TESSARYN_FIELDS(Statistics, Bets, HandBets, LastHandBets, PairCounts, RollTotals, ThrowsBeforeSession,
+                ItemLastRoll, RollGapCounts, NumberCounts, HandCount, MostRollsInHand, MostComeoutRollsInHand,
+                MostPassesInHand, MostMissesInHand, RollsNotSeen, HandComeoutRolls, HandPasses, HandMisses,
+                HandSlotsUsed, LastHandSlotsUsed, BankrollBeginning, BankrollHigh, BankrollLow,
+                BankrollClosing, AtmTotal, BankrollRollSum, BankrollSessionStart, ComeTravelTotals)
 
 // Session rolls so far, and rolls of all sessions.
 inline std::int64_t SessionRolls(const Statistics& stats) {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
@@ -17,6 +18,7 @@ struct WorkingState {
 
   BetSet Working() const { return Without(byDefault | calledOn, calledOff); }
 };
+TESSARYN_FIELDS(WorkingState, calledOn, calledOff, byDefault)
 
 // What happens to a decided bet, and the other choices of the Auto-Play screen. By seat.
 struct Handling {
@@ -36,6 +38,8 @@ struct Handling {
   Currency AdjustValue[8] = {};
   int AdjustUnit[8] = {};  // 0 dollars, 1 percent, n >= 2 units of the check n - 1
 };
+TESSARYN_FIELDS(Handling, WinHandling, LoseHandling, ProperOddsMode, PlaceBias, DoBias, DontBias, LayBias,
+                AutoTakeOdds, AutoLayOdds, AutoDownPlace, AutoPassDice, AdjustKind, AdjustValue, AdjustUnit)
 
 struct TableState {
   // --- Seats. Written by players.cpp.
@@ -135,6 +139,19 @@ struct TableState {
   bool MovingComeBet = false;
   int QuietChanges = 0;  // above 0: changes show no texts
 };
+TESSARYN_FIELDS(TableState, SeatName, OccupiedSeats, Seated, ShooterSeat, HandSeat, PreviousHandSeat,
+                SelectedSeat, BetAmount, BetBeforeRoll, BetAfterRoll, BetCommitted, BetStreak,
+                BetStreakBefore, BetWorking, BetWorkingBeforeRoll, CallsTouched, BetDefaultWorking,
+                CheckStackName, SeatBets, AnyBets, SeatsUp, TouchedSinceBefore, TouchedSinceAfter,
+                StacksSinceBefore, StacksSinceAfter, SeatsSinceBefore, SeatsSinceAfter, ComeMovedTo,
+                DontComeMovedTo, AnyBetMoved, LayVigHeld, BuyVigHeld, ComeTravelAmount, BankrollCurrent,
+                OnTableAmount, RailAmount, BankrollBeforeRoll, BankrollAfterRoll, AtmLogged,
+                AllowNegativeBankroll, BankrollInitType, BankrollInitAmount, handling, SessionsLogName,
+                VisibleStacks, Point, PointBeforeRoll, PointTwoRollsAgo, LastPoint, Die1, Die2, RollTotal,
+                ManualDie1, ManualDie2, ManualRollPending, RollInProgress, NumberMarks, FourRollCount,
+                FireMarks, FireCount, SharpShooterCount, RideTheLineCount, TurboRollActive, AutoRollActive,
+                StopReason, LastActivityTick, TurboCalibration, SettlingBet, GrossPayoff, NetPayoff,
+                BetFinished, PressUnit, BetRequest, BetChange, MovingComeBet, QuietChanges)
 
 inline constexpr std::uint32_t kSmallMarks = 124;
 inline constexpr std::uint32_t kTallMarks = 7936;

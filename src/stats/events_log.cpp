@@ -24,16 +24,16 @@ constexpr std::int64_t kLongestLog = 4'294'967'295;  // the index counts in 32 b
 constexpr int kIndexBytes = 4;
 
 void CloseFiles(EventsLog& log) {
-  if (log.textFile != nullptr) std::fclose(log.textFile);
-  if (log.indexFile != nullptr) std::fclose(log.indexFile);
-  log.textFile = log.indexFile = nullptr;
+  if (log.Files.textFile != nullptr) std::fclose(log.Files.textFile);
+  if (log.Files.indexFile != nullptr) std::fclose(log.Files.indexFile);
+  log.Files.textFile = log.Files.indexFile = nullptr;
 }
 
 void ForgetFiles(EventsLog& log) {
   CloseFiles(log);
-  log.textBuffer.clear();
-  log.indexBuffer.clear();
-  log.failedAt = 0;
+  log.Files.textBuffer.clear();
+  log.Files.indexBuffer.clear();
+  log.Files.failedAt = 0;
 }
 
 // A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there
@@ -112,18 +112,18 @@ void AppendIndexRecord(std::string& buffer, std::int64_t position) {
 // Lines that wait from an earlier fault go behind what the files hold now.
 void PlaceWaitingLines(EventsLog& log, std::int64_t textSize, std::int64_t lines) {
   // On a full disk every line tries again, and mostly the files are as they were.
-  const auto waiting = static_cast<std::int64_t>(log.indexBuffer.size()) / kIndexBytes;
-  const auto waitingBytes = static_cast<std::int64_t>(log.textBuffer.size());
-  if (log.textLength - waitingBytes == textSize && log.lineCount - waiting == lines) return;
-  log.textLength = textSize;
-  log.lineCount = lines;
-  log.indexBuffer.clear();
-  for (std::size_t at = 0; at < log.textBuffer.size();) {
-    AppendIndexRecord(log.indexBuffer, textSize + static_cast<std::int64_t>(at) + 1);
-    at = log.textBuffer.find('\n', at) + 1;
-    ++log.lineCount;
+  const auto waiting = static_cast<std::int64_t>(log.Files.indexBuffer.size()) / kIndexBytes;
+  const auto waitingBytes = static_cast<std::int64_t>(log.Files.textBuffer.size());
+  if (log.Files.textLength - waitingBytes == textSize && log.Files.lineCount - waiting == lines) return;
+  log.Files.textLength = textSize;
+  log.Files.lineCount = lines;
+  log.Files.indexBuffer.clear();
+  for (std::size_t at = 0; at < log.Files.textBuffer.size();) {
+    AppendIndexRecord(log.Files.indexBuffer, textSize + static_cast<std::int64_t>(at) + 1);
+    at = log.Files.textBuffer.find('\n', at) + 1;
+    ++log.Files.lineCount;
   }
-  log.textLength += waitingBytes;
+  log.Files.textLength += waitingBytes;
 }
 
 // A pipe would hold the program up until somebody reads it.
@@ -135,7 +135,7 @@ bool IsPipe(const std::string& path) {
 // The error is a text.
 std::string OpenFiles(Game& game) {
   EventsLog& log = game.events;
-  if (log.textFile != nullptr) return "";
+  if (log.Files.textFile != nullptr) return "";
   const std::string textPath = EventsLogPath(game);
   const std::string indexPath = EventsIndexPath(game);
   std::int64_t textSize = std::max<std::int64_t>(FileSize(textPath), 0);
@@ -144,18 +144,19 @@ std::string OpenFiles(Game& game) {
   std::string problem;
   if (textSize > 0 && !IndexBelongs(game, textSize) && !RebuildEventsLogIndex(game, problem)) return problem;
   errno = 0;
-  log.textFile = std::fopen(textPath.c_str(), "ab");
-  if (log.textFile == nullptr) return FaultText(textPath, errno);
-  log.indexFile = std::fopen(indexPath.c_str(), textSize > 0 ? "ab" : "wb");
-  if (log.indexFile == nullptr) {
+  log.Files.textFile = std::fopen(textPath.c_str(), "ab");
+  if (log.Files.textFile == nullptr) return FaultText(textPath, errno);
+  log.Files.indexFile = std::fopen(indexPath.c_str(), textSize > 0 ? "ab" : "wb");
+  if (log.Files.indexFile == nullptr) {
     const int error = errno;
     CloseFiles(log);
     return FaultText(indexPath, error);
   }
-  std::setvbuf(log.textFile, nullptr, _IONBF, 0);
-  std::setvbuf(log.indexFile, nullptr, _IONBF, 0);
+  std::setvbuf(log.Files.textFile, nullptr, _IONBF, 0);
+  std::setvbuf(log.Files.indexFile, nullptr, _IONBF, 0);
   // A text that was edited by hand may lack its last line's end.
-  if (textSize > 0 && !EndsWithLine(textPath, textSize) && std::fputc('\n', log.textFile) != EOF) ++textSize;
+  if (textSize > 0 && !EndsWithLine(textPath, textSize) && std::fputc('\n', log.Files.textFile) != EOF)
+    ++textSize;
   PlaceWaitingLines(log, textSize, std::max<std::int64_t>(FileSize(indexPath), 0) / kIndexBytes);
   return "";
 }
@@ -172,27 +173,27 @@ void CutBack(EventsLog& log, const std::string& textPath, std::int64_t text, con
 // All or nothing of what waits. The error is a text; what waits is then tried again.
 std::string WriteBuffers(Game& game) {
   EventsLog& log = game.events;
-  if (log.Held || log.textBuffer.empty()) return "";
-  log.failedAt = log.textBuffer.size();
+  if (log.Held || log.Files.textBuffer.empty()) return "";
+  log.Files.failedAt = log.Files.textBuffer.size();
   if (std::string problem = OpenFiles(game); !problem.empty()) return problem;
   const std::string textPath = EventsLogPath(game);
   const std::string indexPath = EventsIndexPath(game);
   const std::int64_t textBefore = FileSize(textPath);
   const std::int64_t indexBefore = FileSize(indexPath);
-  int error = AppendAll(log.textFile, log.textBuffer);
+  int error = AppendAll(log.Files.textFile, log.Files.textBuffer);
   std::string path = textPath;
   if (error == 0) {
-    error = AppendAll(log.indexFile, log.indexBuffer);
+    error = AppendAll(log.Files.indexFile, log.Files.indexBuffer);
     path = indexPath;
   }
   if (error != 0) {
     CutBack(log, textPath, textBefore, indexPath, indexBefore);
     return FaultText(path, error);
   }
-  log.textBuffer.clear();
-  log.indexBuffer.clear();
+  log.Files.textBuffer.clear();
+  log.Files.indexBuffer.clear();
   log.FaultReported.clear();
-  log.failedAt = 0;
+  log.Files.failedAt = 0;
   return "";
 }
 
@@ -202,8 +203,8 @@ void WriteAndTell(Game& game) {
 
 // Lines that can't be written wait, up to a bound.
 void KeepWithinBounds(EventsLog& log) {
-  if (log.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
-  if (log.textBuffer.empty()) log.textLength = log.lineCount = 0;
+  if (log.Files.textBuffer.size() > kKeepUnwritten) ForgetFiles(log);
+  if (log.Files.textBuffer.empty()) log.Files.textLength = log.Files.lineCount = 0;
 }
 
 bool BeginsWithRoll(std::string_view text) {
@@ -259,25 +260,25 @@ std::string EventsIndexPath(const Game& game) { return game.ownFolder + kEventsI
 void WriteEventsLogLine(Game& game, std::string_view text) {
   EventsLog& log = game.events;
   if (!log.RecordEventsActive) return;
-  if (log.textFile == nullptr) {
+  if (log.Files.textFile == nullptr) {
     // After a fault not every line tries again: a roll's end does.
     const bool waits = log.Held || !log.FaultReported.empty();
     const std::string problem = waits ? "" : OpenFiles(game);
     if (!problem.empty()) ReportFault(game, problem);
-    if (log.textFile == nullptr) KeepWithinBounds(log);
+    if (log.Files.textFile == nullptr) KeepWithinBounds(log);
   }
-  if (log.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
+  if (log.Files.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
     ReportFault(game, "The Events Log is full: " + EventsLogPath(game) + ".");
     return;
   }
-  AppendIndexRecord(log.indexBuffer, log.textLength + 1);
-  log.textBuffer += text;
-  log.textBuffer += '\n';
-  log.textLength += static_cast<std::int64_t>(text.size()) + 1;
-  ++log.lineCount;
+  AppendIndexRecord(log.Files.indexBuffer, log.Files.textLength + 1);
+  log.Files.textBuffer += text;
+  log.Files.textBuffer += '\n';
+  log.Files.textLength += static_cast<std::int64_t>(text.size()) + 1;
+  ++log.Files.lineCount;
   if (log.KeepLatestRollOnTop && BeginsWithRoll(text))
-    log.EventsLogTopLine = static_cast<std::int32_t>(log.lineCount);
-  if (log.textBuffer.size() >= log.failedAt + kFlushAt) WriteAndTell(game);
+    log.EventsLogTopLine = static_cast<std::int32_t>(log.Files.lineCount);
+  if (log.Files.textBuffer.size() >= log.Files.failedAt + kFlushAt) WriteAndTell(game);
 }
 
 void WriteGroupedLine(Game& game, std::string_view text) {
@@ -363,7 +364,7 @@ void ClearEventsLog(Game& game) {
   fs::remove(EventsIndexPath(game), ignored);
   fs::remove(EventsLogPath(game), ignored);
   game.events.EventsLogTopLine = 1;
-  game.events.textLength = game.events.lineCount = 0;
+  game.events.Files.textLength = game.events.Files.lineCount = 0;
 }
 
 void NewEventsLog(Game& game) {
