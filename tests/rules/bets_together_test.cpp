@@ -119,7 +119,7 @@ TEST(BetsTogether, AnHourStraysAsFarAsItDoesInPlay) {
     std::array<double, 36> weights{};
     ProbabilityPlane& cells = game.percentage.ProbMatrix[1];
     for (int pair = 0; pair < 36; ++pair) {
-      weights[pair] = loaded ? 1'000 + 3'000 * (pair % 6) / 5 + 2'000 * ((pair * 7) % 11) / 10 : 1;
+      weights[pair] = loaded ? 800 + 2'000 * (pair % 6) / 5 + 1'500 * ((pair * 7) % 11) / 10 : 1;
       if (loaded)
         cells[ProbabilityRow(pair / 6 + 1, pair % 6 + 1)][ProbabilityColumn(pair / 6 + 1, pair % 6 + 1)] =
             static_cast<std::int32_t>(weights[pair]);
