@@ -4,6 +4,7 @@
 
 #include "autobet/run/interpreter.h"
 #include "cli/commands.h"
+#include "cli/script_permissions.h"
 #include "cli/script_report.h"
 #include "play/hot_keys.h"
 #include "play/script_session.h"
@@ -18,14 +19,6 @@ bool Bad(ScriptCommandCall& call, const std::string& what) {
 
 bool Usage(ScriptCommandCall& call, std::size_t words, const char* usage) {
   return call.words.size() == words || Bad(call, std::string("expected: ") + usage);
-}
-
-// Empty, or what is wrong with the word.
-std::string ReadSeat(const Game& game, const std::string& word, int& seat) {
-  const bool digit = word.size() == 1 && word[0] >= '1' && word[0] <= '8';
-  if (!digit) return "\"" + word + "\" is no seat; seats are 1 to 8";
-  seat = word[0] - '0';
-  return IsOccupied(game.table, seat) ? "" : "there is no player at seat " + word;
 }
 
 bool SeatWord(ScriptCommandCall& call, int& seat) {
@@ -87,24 +80,6 @@ bool Errors(ScriptCommandCall& call) {
   if (!Usage(call, 1, "errors")) return false;
   call.answer["errors"] = ErrorsJson(call.game);
   return true;
-}
-
-constexpr struct {
-  const char* word;
-  ScriptPermission permission;
-} kPermissions[] = {{"others", ScriptPermission::kOthers},
-                    {"reset", ScriptPermission::kReset},
-                    {"probabilities", ScriptPermission::kFiles},
-                    {"files", ScriptPermission::kFiles}};
-
-// Empty, or what is wrong with the word.
-std::string Permit(Game& game, int seat, const std::string& word, bool on) {
-  for (const auto& known : kPermissions) {
-    if (word != known.word) continue;
-    SetScriptPermission(game, seat, known.permission, on);
-    return "";
-  }
-  return "\"" + word + "\" is no permission; there are others, reset and probabilities (or files)";
 }
 
 bool Permission(ScriptCommandCall& call) {

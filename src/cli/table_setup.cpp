@@ -9,6 +9,7 @@
 
 #include "base/record_file.h"
 #include "cli/commands.h"
+#include "cli/script_permissions.h"
 #include "cli/script_report.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
@@ -280,6 +281,7 @@ bool LoadScripts(Game& game, const std::vector<std::string>& files,
   return true;
 }
 
+// SEAT=PERMISSION,... False, with the reason told, for one that means nothing.
 bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
   for (const std::string& permit : permits) {
     const auto equals = permit.find('=');

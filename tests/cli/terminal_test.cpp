@@ -18,7 +18,7 @@ std::string AtTerminal(const TempFolder& folder, const std::string& typed) {
   const pid_t child = forkpty(&terminal, nullptr, nullptr, &size);
   if (child == 0) {
     setenv("TERM", "dumb", 1);
-    execl(std::string(test::kBinFolder) + "/tessaryn-cli", "tessaryn-cli", "play", "--data-folder",
+    execl((std::string(test::kBinFolder) + "/tessaryn-cli").c_str(), "tessaryn-cli", "play", "--data-folder",
           folder.Path().c_str(), "--set", "ShooterBetRule=0", static_cast<char*>(nullptr));
     _exit(127);
   }

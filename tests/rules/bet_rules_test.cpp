@@ -593,7 +593,7 @@ TEST(BetRules, AKeptMaximumFollowsLimitsChecksAndPayoffs) {
     }
     Currency kept[kBets + 1];
     for (int bet = 1; bet <= kBets; ++bet) kept[bet] = MaxBetFor(game, 1, bet);
-    game.maximums = {};
+    game.maximums = KeptMaximums{};
     for (int bet = 1; bet <= kBets; ++bet)
       ASSERT_EQ(kept[bet], MaxBetFor(game, 1, bet)) << BetName(bet) << " after change " << change;
   }

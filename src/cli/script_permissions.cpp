@@ -1,0 +1,35 @@
+#include "cli/script_permissions.h"
+
+#include "play/script_session.h"
+#include "state/game.h"
+
+namespace tessaryn::cli {
+namespace {
+
+constexpr struct {
+  const char* word;
+  ScriptPermission permission;
+} kPermissions[] = {{"others", ScriptPermission::kOthers},
+                    {"reset", ScriptPermission::kReset},
+                    {"probabilities", ScriptPermission::kFiles},
+                    {"files", ScriptPermission::kFiles}};
+
+}  // namespace
+
+std::string ReadSeat(const Game& game, const std::string& word, int& seat) {
+  const bool digit = word.size() == 1 && word[0] >= '1' && word[0] <= '8';
+  if (!digit) return "\"" + word + "\" is no seat; seats are 1 to 8";
+  seat = word[0] - '0';
+  return IsOccupied(game.table, seat) ? "" : "there is no player at seat " + word;
+}
+
+std::string Permit(Game& game, int seat, const std::string& word, bool on) {
+  for (const auto& known : kPermissions) {
+    if (word != known.word) continue;
+    SetScriptPermission(game, seat, known.permission, on);
+    return "";
+  }
+  return "\"" + word + "\" is no permission; there are others, reset and probabilities (or files)";
+}
+
+}  // namespace tessaryn::cli
