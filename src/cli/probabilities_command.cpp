@@ -250,8 +250,9 @@ int Probabilities(const ProbabilityOptions& options) {
   const bool writes = work.edited || !options.out.empty();
   if (writes && !options.force && IsOtherFile(target))
     return Fail(target + ": is there and is no probability file; --force replaces it");
+  if (writes && !SaveProbabilityFile(work.dice, target, error)) return Fail(error);
   if (options.operations.empty()) Show(work, {"--show", "percent"});
-  return !writes || SaveProbabilityFile(work.dice, target, error) ? kDone : Fail(error);
+  return kDone;
 }
 
 }  // namespace

@@ -135,7 +135,7 @@ int Run(const RunOptions& options) {
   if (!unwritten.empty()) Fail(AsLines(unwritten));
   if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
-  run["scriptErrors"] = ErrorsJson(*game);
+  if (const Json errors = ErrorsJson(*game); !errors.empty()) run["scriptErrors"] = errors;
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else

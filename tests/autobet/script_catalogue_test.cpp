@@ -474,6 +474,8 @@ TEST(ScriptCatalogue, SettingsAndActionsDoWhatTheySay) {
   table.Run("cs5 = 9\nstart new session (preserve checkstacks)\ncs6 = beginning new session");
   EXPECT_EQ(SessionRolls(game.stats), 0);
   EXPECT_EQ(table.Bet(105), 9);
+  EXPECT_EQ(table.Bet(106), 0);  // the run that began it is of the session before
+  table.Run("cs6 = beginning new session");
   EXPECT_EQ(table.Bet(106), -1);
   table.Run("start new session");
   EXPECT_EQ(table.Bet(105), 0);

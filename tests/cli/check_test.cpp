@@ -44,7 +44,7 @@ TEST(CliCheck, AnUnknownWordIsMarkedInItsColumnAndTheNearestOffered) {
             folder.File("a.bet") +
                 ":2:24: Auto-bet script error in line 2\nUnknown or misplaced element:\n\npasline\n\n"
                 "Did you mean \"passline\"?\n     2 | csn2 = \"ü€\" : bet 5 on\tpasline\n"
-                "       |                        \t^~~~~~~\n");
+                "       |                       \t^~~~~~~\n");
   ran = RunCli(folder, {"check", "--json", folder.File("a.bet")});
   EXPECT_EQ(nlohmann::json::parse(ran.out)["firstColumn"], 23);
 }

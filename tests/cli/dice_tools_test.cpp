@@ -209,20 +209,20 @@ TEST(CliPlay, TheRecorderTellsItsStateFileAndPlace) {
   TempFolder folder;
   const std::string file = folder.File("r.rol");
   const Ran ran = RunCli(folder, {"play", "--data-folder", folder.Path()},
-                         "state\nrollfile " + file +
+                         "set ShooterBetRule 0\nstate\nrollfile " + file +
                              " record\nroll 3 4\nstate\nget RecorderState\nget RollFileName\n"
                              "get RollFileCursor\nset FieldPreset Nonsense\n");
   const std::vector<std::string> lines = Lines(ran.out);
-  ASSERT_EQ(lines.size(), 8u) << ran.out;
-  EXPECT_EQ(Json::parse(lines[0])["recorder"]["state"], "off");
-  EXPECT_EQ(Json::parse(lines[3])["recorder"],
+  ASSERT_EQ(lines.size(), 9u) << ran.out;
+  EXPECT_EQ(Json::parse(lines[1])["recorder"]["state"], "off");
+  EXPECT_EQ(Json::parse(lines[4])["recorder"],
             (Json{{"state", "record"}, {"file", file}, {"next", 2}, {"rolls", 1}}));
-  EXPECT_EQ(Json::parse(lines[4])["value"], 1);
-  EXPECT_EQ(Json::parse(lines[5])["value"], file);
-  EXPECT_EQ(Json::parse(lines[6])["value"], 2);
+  EXPECT_EQ(Json::parse(lines[5])["value"], 1);
+  EXPECT_EQ(Json::parse(lines[6])["value"], file);
+  EXPECT_EQ(Json::parse(lines[7])["value"], 2);
   const std::string help = RunCli(folder, {"run", "--help"}).out;
   for (const char* preset : {"Crapless", "PlaceLose8", "Midway"}) {
-    EXPECT_NE(lines[7].find(preset), std::string::npos) << lines[7];
+    EXPECT_NE(lines[8].find(preset), std::string::npos) << lines[8];
     EXPECT_NE(help.find(preset), std::string::npos) << help;
   }
 }

@@ -91,6 +91,7 @@ TEST(CliPlay, TheStateHasItsExactShape) {
                          {"handSeat", 3},
                          {"selected", 3},
                          {"stopReason", ""},
+                         {"recorder", {{"state", "off"}, {"file", ""}, {"next", 1}, {"rolls", 0}}},
                          {"seats",
                           {{{"seat", 3},
                             {"name", "Ann"},

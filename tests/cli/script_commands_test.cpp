@@ -222,11 +222,11 @@ TEST(CliScript, WritesOutsideTheDataFolderOnlyWhereItIsAllowed) {
       "No action taken.\rBad path and/or filename.|No action taken.\rOutput file not open.|Action taken.|"
       "Action taken.|");
   EXPECT_EQ(ReadFile(folder.File("log.txt")), "");
-  EXPECT_EQ(ReadFile(data.File("in.txt")), "inside\n");
+  EXPECT_EQ(ReadFile(data.File("output/in.txt")), "inside\n");
   EXPECT_EQ(told(Play(data, commands, {"--allow-output", folder.Path()})),
             "Action taken.|Action taken.|Action taken.|Action taken.|");
   EXPECT_EQ(ReadFile(folder.File("log.txt")), "outside\n");
-  EXPECT_EQ(ReadFile(data.File("in.txt")), "inside\ninside\n");
+  EXPECT_EQ(ReadFile(data.File("output/in.txt")), "inside\ninside\n");
 }
 
 TEST(CliScript, CtrlCStopsAScriptWithoutEnd) {

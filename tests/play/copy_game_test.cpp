@@ -26,10 +26,9 @@ std::unique_ptr<Game> SeatedTable(Host& host, const std::string& folder, int gen
   game->generators.GeneratorIndex = generator;
   EXPECT_TRUE(SeedGenerator(game->generators, Currency::Dollars(seed)));
   std::string error;
+  const char* const names[] = {"House", "Ann", "Bob", "Cid"};
   for (int seat = 1; seat <= 3; ++seat)
-    EXPECT_TRUE(JoinPlayer(*game, seat, "Player " + std::string(1, static_cast<char>('A' + seat)),
-                           Currency::Dollars(50'000), error))
-        << error;
+    EXPECT_TRUE(JoinPlayer(*game, seat, names[seat], Currency::Dollars(50'000), error)) << error;
   game->settings.ShooterBetRule = 0;
   game->settings.MessageMask = 0;
   for (int seat = 1; seat <= 3; ++seat) {

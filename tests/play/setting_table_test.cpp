@@ -117,7 +117,7 @@ TEST(SettingTable, BadValuesAreNamedAndChangeNothing) {
       {"PayoffTable.94", 0, "1 to 1", "There is no setting named"},
       {"PayoffTable.45", 0, "0 to 1", "The payoff on Passline/Come (c.o.) must be a positive amount."},
       {"PayoffTable.12", 0, "-1 to 1", "The payoff on DP/DC 10 must be a positive amount."},
-      {"FieldPreset", 0, "nothing", "FieldPreset: there is no preset \"nothing\"."},
+      {"FieldPreset", 0, "nothing", "FieldPreset: there is no preset \"nothing\"; there are Field, Pass,"},
       {"WinHandling", 1, "8", "WinHandling must be from 0 to 7."},
       {"WinHandling", 3, "1", "There is no player at seat 3."},
       {"WinHandling", 9, "1", "There is no seat 9; seats are 1 to 8."},

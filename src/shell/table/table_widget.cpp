@@ -15,7 +15,6 @@
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
-#include "cli/script_report.h"
 
 namespace tessaryn {
 
