@@ -11,6 +11,7 @@
 
 #include "autobet/language/script_files.h"
 #include "autobet/run/interpreter.h"
+#include "fuzz_host.h"
 #include "play/auto_roll.h"
 #include "play/players.h"
 #include "play/script_session.h"
@@ -22,26 +23,6 @@
 namespace {
 
 using namespace tessaryn;
-
-constexpr int kMostStatements = 1000;
-
-struct FuzzHost : Host {
-  int statements = 0;
-
-  void ShowMessage(Game&, MessageBox& box) override {
-    box.MsgEntry = (statements & 1) != 0 ? "12" : "";
-    box.MsgResult = (box.MsgFlags & kMsgNo) != 0 ? kResultNo : kResultOk;
-  }
-  bool Yield(Game& game) override {
-    if (++statements > kMostStatements) game.autobet.ScriptRunning = false;
-    return false;
-  }
-  std::uint32_t TickMilliseconds() override { return static_cast<std::uint32_t>(statements); }
-  std::string DateText() override { return "2001-02-03"; }
-  std::string TimeText() override { return "04:05:06"; }
-  double SecondsSinceMidnight() override { return 1; }
-  double DateTimeNumber() override { return 36925.5; }
-};
 
 void Require(const Game& game, const std::string& problem) {
   if (problem.empty()) return;
@@ -65,10 +46,10 @@ void SeatPlayers(Game& game, unsigned choice) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   if (size == 0) return 0;
-  static FuzzHost host;
+  static fuzz::FuzzHost host;
   static const std::unique_ptr<Game> game = StartGame(host, "/nonexistent/", "/nonexistent/");
   const unsigned choice = data[0];
-  host.statements = 0;
+  host.turns = 0;
   SeatPlayers(*game, choice);
   NewSession(*game, false, false, true, kCloseRollFile);
   game->autobet.StepsShown = (choice & 16) != 0;
@@ -81,7 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   }
   if (!CheckScript(*game, 1).ok || !InitialiseScripts(*game)) return 0;
   for (int roll = 0; roll < 4; ++roll) {
-    host.statements = 0;
+    host.turns = 0;
     RollDice(*game);
     Require(*game, CheckConsistency(*game));
   }

@@ -386,8 +386,8 @@ TEST(CliEndings, APromptHeedsSignals) {
   play.Type("\x03");
   ASSERT_TRUE(play.Sees("Ctrl-C again"));
   ASSERT_TRUE(play.Sees("table> "));
-  play.Type("get Point\n");
-  ASSERT_TRUE(play.Sees("0")) << "what was typed is gone, and the table goes on";
+  play.Type("get BarNumber\n");
+  ASSERT_TRUE(play.Sees("12")) << "what was typed is gone, and the table goes on";
   ASSERT_TRUE(play.Sees("table> "));
   play.Type("\x03");
   ASSERT_TRUE(play.Sees("Ctrl-C again"));
