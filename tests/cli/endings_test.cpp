@@ -40,6 +40,7 @@ struct Ground {
     test::WriteFile(At("file"), "");
     EXPECT_EQ(Run({"probabilities", At("good.prb"), "--new", "--total", "7=12000"}).exitCode, 0);
     mkfifo(At("pipe").c_str(), 0600);
+    fs::create_directory(At("locked"));
   }
   std::string At(const std::string& name) const { return folder.File(name); }
   // Every "@/" of the words is the folder, "@" alone the place.
@@ -56,7 +57,8 @@ struct Ground {
   // What is there, by name.
   std::map<std::string, std::string> Contents() const {
     std::map<std::string, std::string> contents;
-    for (const auto& entry : fs::recursive_directory_iterator(folder.Path()))
+    for (const auto& entry :
+         fs::recursive_directory_iterator(folder.Path(), fs::directory_options::skip_permission_denied))
       contents[entry.path().string()] = entry.is_regular_file() ? test::ReadFile(entry.path().string()) : "";
     return contents;
   }
@@ -104,16 +106,21 @@ const std::vector<Words> kWriters = {LongRun({"--record", "@"}),
 TEST(CliEndings, FilesThatCannotBeHadAreNamedAndNothingIsTouched) {
   Ground ground;
   const auto before = ground.Contents();
-  for (const char* place : {"none/x", "file/x", ""})
+  const fs::path locked = ground.At("locked");
+  fs::permissions(locked, fs::perms::none);
+  Surroundings around;
+  around.powerless = true;
+  for (const char* place : {"none/x", "file/x", "locked/x", ""})
     for (const std::vector<Words>& commands : {kReaders, kWriters})
       for (const Words& words : commands) {
         SCOPED_TRACE(Shown(words) + "at " + place);
-        const Ran ran = ground.Run(words, {}, ground.At(place));
+        const Ran ran = ground.Run(words, around, ground.At(place));
         EXPECT_EQ(ran.exitCode, 1) << ran.err;
         EXPECT_NE(ran.err.find(ground.At(place)), std::string::npos) << ran.err;
         EXPECT_EQ(ran.out, "");
         EXPECT_EQ(ground.Contents(), before);
       }
+  fs::permissions(locked, fs::perms::owner_all);
 }
 
 // "Standard output" is where results go; convert has none.
