@@ -13,11 +13,6 @@
 
 namespace tessaryn::cli {
 
-int Fail(const std::string& what) {
-  std::fprintf(stderr, "tessaryn-cli: %s\n", what.c_str());
-  return kBad;
-}
-
 namespace {
 
 // A file that is opened must not become one of the three streams. Reading a closed one ends at once; writing
