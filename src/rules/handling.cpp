@@ -58,7 +58,7 @@ void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
 void Raise(Game& game, int seat, int bet, Currency request) {
   TableState& table = game.table;
   if (ChangeBet(game, seat, bet, request) != kZero || request <= kZero) return;
-  if (table.OnTableAmount[seat] <= table.BankrollCurrent[seat]) return;
+  if (table.AllowNegativeBankroll[seat] || table.OnTableAmount[seat] <= table.BankrollCurrent[seat]) return;
   ++table.QuietChanges;
   ChangeBet(game, seat, bet, kZero);
   --table.QuietChanges;

@@ -322,7 +322,7 @@ TEST(BetRules, AContractAboveALoweredMaximumStaysAndSaysWhy) {
 }
 
 TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
-  // Of the 20 on each contract 10 have ridden; the Hard 6 took all the money there was.
+  // Of the 20 on each contract 10 have ridden; the Hard 8 took all the money there was.
   struct Case {
     int bet;
     const char* request;
@@ -349,8 +349,8 @@ TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
       table.Bet(1, bet, "10");
     table.Roll(2, 2);
     table.Bet(1, kCome4 + 2, "10");
-    table.Bet(1, kHard6, "100");
-    table.Roll(5, 1);
+    table.Bet(1, kHard8, "100");
+    table.Roll(6, 2);
     for (const int bet : {static_cast<int>(kPassLine), kCome4 + 2}) table.Bet(1, bet, "10");
     table.Bet(1, kField, "20");
     table.State().AllowNegativeBankroll[1] = false;

@@ -209,8 +209,8 @@ TEST(Handling, AutomaticOddsFollowAFlatBetThatHandlingChanged) {
   }
 }
 
-TEST(Handling, ALostBetThatMayNotBePressedStaysOnlyIfThereIsMoneyForIt) {
-  for (const char* bankroll : {"9", "10"}) {
+TEST(Handling, ALostBetThatMayNotBePressedStaysAsFarAsThereIsMoneyForIt) {
+  for (const char* bankroll : {"5", "9", "10"}) {
     TestTable table;
     table.Set("ShooterBetRule", "0");
     table.Join(1, "Ann", bankroll);
@@ -219,8 +219,7 @@ TEST(Handling, ALostBetThatMayNotBePressedStaysOnlyIfThereIsMoneyForIt) {
     table.Roll(2, 2);
     table.host.boxes.clear();
     table.Roll(3, 4);
-    const bool covered = table.State().BankrollCurrent[1] >= Money("5");
-    EXPECT_EQ(table.State().BetAmount(1, kFire), covered ? Money("5") : kZero) << bankroll;
+    EXPECT_EQ(table.State().BetAmount(1, kFire), table.State().BankrollCurrent[1]) << bankroll;
     ASSERT_EQ(table.host.boxes.size(), 2u);
     EXPECT_EQ(table.host.boxes[0].title, "Fire Bet");
     EXPECT_EQ(table.host.boxes[1].title, "Press Double") << "the refusal, and what became of the bet";

@@ -1015,10 +1015,12 @@ void BuyPlaceBet(RulesModel& m, int seat, int bet) {
 
 namespace {
 
-// What a player adds to a decided bet. Where the rules refuse it the bet stays as it is if it can be paid.
+// What a player adds to a decided bet. One that the rules refuse is one of nothing: the bet stays, as far as
+// it can be paid.
 void Press(RulesModel& m, int seat, int bet, Currency request) {
-  const Currency change = ChangeBet(m, seat, bet, request);
-  if (request > kZero && change == kZero) ChangeBet(m, seat, bet, kZero);
+  const Currency wanted = m.BetAmount[seat][bet] + Ceiling(request, Unit(m));
+  const bool refused = request > kZero && IncreaseRefused(m, seat, bet, wanted);
+  ChangeBet(m, seat, bet, refused ? kZero : request);
 }
 
 void ComputePressOptions(RulesModel& m, int seat, int bet) {
