@@ -816,7 +816,13 @@ TEST(MainWindow, AScriptAndWhetherItIsActiveShowInTheStatusBox) {
   evening.Join(4, "Eve");
   evening.Bet(kPassLine, 2);
   const auto text = [&] { return ScriptText(*evening.real.game, 4); };
-  QList<QImage> pictures{evening.Table().grab().toImage()};
+  // Of the box alone: what is pointed at lights up and goes out as well.
+  const auto picture = [&] {
+    TableWidget& table = evening.Table();
+    const auto boxes = PlaceStatusBoxes(*evening.real.game, table.Layout(), table.view, table.font());
+    return table.grab(boxes[4].toRect()).toImage();
+  };
+  QList<QImage> pictures{picture()};
   EXPECT_EQ(text(), "");
   QueuedFileNames() = {evening.real.game->applicationFolder + "samples/Sample1.bet"};
   const struct {
@@ -829,7 +835,7 @@ TEST(MainWindow, AScriptAndWhetherItIsActiveShowInTheStatusBox) {
   for (const auto& step : steps) {
     evening.window.Command(step.command)->trigger();
     EXPECT_EQ(text(), step.text);
-    pictures.append(evening.Table().grab().toImage());
+    pictures.append(picture());
     EXPECT_NE(pictures.back(), pictures[pictures.size() - 2]) << step.text;
   }
   EXPECT_EQ(pictures[3], pictures[1]);
