@@ -5,7 +5,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,6 +15,7 @@
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <deque>
 #include <functional>
 #include <set>
@@ -675,6 +678,25 @@ TEST(FileChooser, ScriptsAreLookedForWhereTheSamplesAre) {
   game.autobet.Scripts[3].ScriptFileName.clear();
   game.applicationFolder = "/nowhere/";
   EXPECT_EQ(StartFolder(game, kOpenAutoBet), game.dataFolder) << "a copy without samples";
+}
+
+// In this dialog alone: the list of places is kept for the dialogs of the whole desktop.
+TEST(FileChooser, TheTablesPlacesAreListedForScriptsAndNotKept) {
+  ScreenTable table;
+  Game& game = *table.game;
+  const QList<QUrl> usual = QFileDialog().sidebarUrls();
+  for (const FilePurpose* purpose : {&kOpenAutoBet, &kHotKeyScript}) {
+    QList<QDir> listed;
+    WhenOpen("frmFile", [&](QDialog& dialog) {
+      for (const QUrl& place : qobject_cast<QFileDialog*>(&dialog)->sidebarUrls())
+        listed.append(QDir(place.toLocalFile()));
+      dialog.reject();
+    });
+    EXPECT_EQ(ChooseFile(game, nullptr, *purpose), "");
+    for (const std::string& place : {game.dataFolder, game.applicationFolder + "samples/"})
+      EXPECT_TRUE(listed.contains(QDir(FromCore(place)))) << place;
+    EXPECT_EQ(QFileDialog().sidebarUrls(), usual);
+  }
 }
 
 TEST(MainWindow, APlayerMovesToAClickedPlace) {
