@@ -5,7 +5,9 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -13,6 +15,7 @@
 #include <QProcess>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <deque>
 #include <functional>
 #include <set>
@@ -677,6 +680,25 @@ TEST(FileChooser, ScriptsAreLookedForWhereTheSamplesAre) {
   EXPECT_EQ(StartFolder(game, kOpenAutoBet), game.dataFolder) << "a copy without samples";
 }
 
+// In this dialog alone: the list of places is kept for the dialogs of the whole desktop.
+TEST(FileChooser, TheTablesPlacesAreListedForScriptsAndNotKept) {
+  ScreenTable table;
+  Game& game = *table.game;
+  const QList<QUrl> usual = QFileDialog().sidebarUrls();
+  for (const FilePurpose* purpose : {&kOpenAutoBet, &kHotKeyScript}) {
+    QList<QDir> listed;
+    WhenOpen("frmFile", [&](QDialog& dialog) {
+      for (const QUrl& place : qobject_cast<QFileDialog*>(&dialog)->sidebarUrls())
+        listed.append(QDir(place.toLocalFile()));
+      dialog.reject();
+    });
+    EXPECT_EQ(ChooseFile(game, nullptr, *purpose), "");
+    for (const std::string& place : {game.dataFolder, game.applicationFolder + "samples/"})
+      EXPECT_TRUE(listed.contains(QDir(FromCore(place)))) << place;
+    EXPECT_EQ(QFileDialog().sidebarUrls(), usual);
+  }
+}
+
 TEST(MainWindow, APlayerMovesToAClickedPlace) {
   Evening evening;
   evening.Join(4, "Eve");
@@ -816,7 +838,13 @@ TEST(MainWindow, AScriptAndWhetherItIsActiveShowInTheStatusBox) {
   evening.Join(4, "Eve");
   evening.Bet(kPassLine, 2);
   const auto text = [&] { return ScriptText(*evening.real.game, 4); };
-  QList<QImage> pictures{evening.Table().grab().toImage()};
+  // Of the box alone: what is pointed at lights up and goes out as well.
+  const auto picture = [&] {
+    TableWidget& table = evening.Table();
+    const auto boxes = PlaceStatusBoxes(*evening.real.game, table.Layout(), table.view, table.font());
+    return table.grab(boxes[4].toRect()).toImage();
+  };
+  QList<QImage> pictures{picture()};
   EXPECT_EQ(text(), "");
   QueuedFileNames() = {evening.real.game->applicationFolder + "samples/Sample1.bet"};
   const struct {
@@ -829,7 +857,7 @@ TEST(MainWindow, AScriptAndWhetherItIsActiveShowInTheStatusBox) {
   for (const auto& step : steps) {
     evening.window.Command(step.command)->trigger();
     EXPECT_EQ(text(), step.text);
-    pictures.append(evening.Table().grab().toImage());
+    pictures.append(picture());
     EXPECT_NE(pictures.back(), pictures[pictures.size() - 2]) << step.text;
   }
   EXPECT_EQ(pictures[3], pictures[1]);

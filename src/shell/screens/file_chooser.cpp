@@ -79,8 +79,9 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
                      QObject::tr(purpose.types));
   dialog.setObjectName("frmFile");
   dialog.setAcceptMode(purpose.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  const QList<QUrl> usual = dialog.sidebarUrls();
   if (purpose.samples) {
-    QList<QUrl> places = dialog.sidebarUrls();
+    QList<QUrl> places = usual;
     for (const std::string& folder : {game.dataFolder, SamplesFolder(game)})
       places.append(QUrl::fromLocalFile(FromCore(folder)));
     dialog.setSidebarUrls(places);
@@ -89,7 +90,10 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
   dialog.setFileMode(purpose.mayBeNew ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   if (!name.empty()) dialog.selectFile(FromCore(name));
-  if (RunDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
+  const int result = RunDialog(dialog);
+  // The list is kept for every program's dialogs; the table's own places are none of theirs.
+  dialog.setSidebarUrls(usual);
+  if (result != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return false;
   name = dialog.selectedFiles().first().toStdString();
   return true;
 }

@@ -243,10 +243,12 @@ QString PayoffSummary(const Game& game, int bet) {
 Currency RoomFor(Game& game, int seat, int bet) {
   ++game.table.QuietChanges;
   Currency room = AllowedChange(game, seat, bet, kBankrollLimit);
-  // Corrections for the payoff may give less for less; what is told is given in full.
+  // Corrections for the payoff may give less for less, or more where they and the betting unit don't meet;
+  // what is told is given, and just that as far as any amount is.
   for (Currency given; room > kZero; room = given) {
     given = AllowedChange(game, seat, bet, room);
-    if (given >= room) break;
+    if (given == room) break;
+    if (given > room && AllowedChange(game, seat, bet, given) != given) break;
   }
   --game.table.QuietChanges;
   return std::max(room, kZero);

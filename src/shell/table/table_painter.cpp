@@ -572,6 +572,7 @@ QString ScriptText(const Game& game, int seat) {
 namespace {
 
 constexpr double kBoxGap = 4;
+constexpr double kBoxPadding = 5;  // left and right of the text
 
 // How much of the window an outline covers, in cells. Sums tell it of any box at once: asking the outline for
 // every place that is tried would take longer than drawing it. A cell that is only touched counts too.
@@ -633,7 +634,8 @@ QPainterPath WhereClicksGo(const Game& game, const TableLayout& layout) {
 
 QSizeF StatusBoxSize(const QFont& font) {
   const QFontMetricsF metrics(font);
-  return {metrics.horizontalAdvance("  Bankroll:  9,999,999 ") + 16, metrics.height() * 5 + 8};
+  return {std::ceil(metrics.horizontalAdvance("Bankroll: 9,999,999.00") + 2 * kBoxPadding),
+          std::ceil(metrics.height() * 5 + 8)};
 }
 
 // Where the boxes may stand.
@@ -652,8 +654,9 @@ QRectF PlaceBox(const BoxGround& ground, const QPointF& spot, const std::array<Q
   double bestCost = 1e18;
   const QRectF& corners = ground.corners;
   const auto attempt = [&](double x, double y) {
-    const QRectF box(QPointF(std::clamp(x, corners.left(), corners.right()),
-                             std::clamp(y, corners.top(), corners.bottom())),
+    // On whole pixels: its edge is sharp, and every pixel of it its own.
+    const QRectF box(QPointF(std::round(std::clamp(x, corners.left(), corners.right())),
+                             std::round(std::clamp(y, corners.top(), corners.bottom()))),
                      ground.size);
     const QPointF way = box.center() - spot;
     const double cost = std::hypot(way.x(), way.y()) + kOnTheTable * ground.table.Under(box);
@@ -727,7 +730,7 @@ void DrawStatusBox(QPainter& painter, const QRectF& box, const QString& name, co
   QFont bold = font;
   bold.setBold(true);
   const double line = (box.height() - 8) / 5;
-  QRectF row(box.left() + 8, box.top() + 4, box.width() - 16, line);
+  QRectF row(box.left() + kBoxPadding, box.top() + 4, box.width() - 2 * kBoxPadding, line);
   painter.setPen(selected ? QColor(255, 226, 140) : QColor(236, 228, 214));
   DrawStatusHead(painter, row, name, script, font, bold);
   for (const QString& text : lines) {

@@ -24,6 +24,8 @@ constexpr int kFlashMilliseconds = 160;
 constexpr int kFlashes = 6;
 constexpr int kThrowMilliseconds = 520;
 constexpr int kRainMilliseconds = 3000;
+// A stack in hand shows beside the hand that is the pointer then, not below it.
+constexpr QPoint kHeldAbove(10, 12);
 constexpr int kFrameMilliseconds = 15;
 constexpr double kSeatReach = 52;  // along the rail, in table units
 
@@ -320,7 +322,7 @@ void TableWidget::DragStack(QMouseEvent* event) {
   }
   if (commands_.Moving.Bet == 0) return;
   ShowHeld();
-  scene.heldAt = point;
+  scene.heldAt = point - kHeldAbove;
   update();
 }
 
