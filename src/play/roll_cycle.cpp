@@ -51,7 +51,7 @@ bool BankrollsWithinLimit(Game& game) {
 bool ScriptsReady(Game& game) {
   AutoBet& autobet = game.autobet;
   if (!autobet.ScriptActive[0] || autobet.ScriptsCompiled) return true;
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   if (!autobet.ScriptsCompiled) StopRun(game, "");
   return autobet.ScriptsCompiled;
 }
@@ -342,7 +342,7 @@ void PointChanged(Game& game) {
 
 void RunScripts(Game& game) {
   if (!game.autobet.ScriptActive[0]) return;
-  if (!game.autobet.ScriptsCompiled) CompileALLAutobets(game);
+  if (!game.autobet.ScriptsCompiled) CompileActiveScripts(game);
   if (game.autobet.ScriptsCompiled) RunAutoBet(game);
 }
 

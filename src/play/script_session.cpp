@@ -179,7 +179,7 @@ void ActivateScript(Game& game, int seat) {
 
 bool InitialiseScripts(Game& game) {
   AutoBet& autobet = game.autobet;
-  if (!autobet.ScriptsCompiled) CompileALLAutobets(game);
+  if (!autobet.ScriptsCompiled) CompileActiveScripts(game);
   if (!autobet.ScriptsCompiled) return false;
   autobet.ScriptInitializing = true;
   RunAutoBet(game);

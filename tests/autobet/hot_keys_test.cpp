@@ -121,7 +121,7 @@ TEST(HotKey, RunsForTheSelectedSeatAndHasTheScriptsCompiledAgain) {
   const std::string path = table.folder.path + "key.bet";
   WriteText(path, "bet 7 on field\nif initializing script then add 1 to cs5 endif\ncs6 = autobettor");
   ASSERT_EQ(table.Load(1, "add 1 to cs0"), "");
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   game.table.SelectedSeat = 2;
   const std::vector<HotKey> keys = {{'f', path, ""}};
   EXPECT_FALSE(PressHotKey(game, keys, 'g')) << "no hot-key";

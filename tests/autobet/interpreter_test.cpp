@@ -191,7 +191,7 @@ TEST(Interpreter, SeveralScriptsRunInSeatOrder) {
   ScriptTable table;
   table.Load(1, "cs0 = autobettor");
   table.Load(2, "cs0 = autobettor + cs0 ann * 10\ngoto \"x\"\ncs1 = 1\n\"x\"");
-  CompileALLAutobets(*table.game);
+  CompileActiveScripts(*table.game);
   RunAutoBet(*table.game);
   EXPECT_EQ(table.Bet(100, 1), 1);
   EXPECT_EQ(table.Bet(100, 2), 12);
@@ -283,7 +283,7 @@ TEST(Interpreter, ABadScriptIsToldAndNothingRuns) {
   table.Load(1, "cs0 = 1");
   SetScript(*table.game, 2, {"nonsense"}, "");
   SetScriptActive(*table.game, 2, true);
-  CompileALLAutobets(*table.game);
+  CompileActiveScripts(*table.game);
   EXPECT_FALSE(table.game->autobet.ScriptsCompiled);
   EXPECT_EQ(table.host.titles.back(), "Auto-bet script error");
   EXPECT_EQ(table.host.boxes.back(),
@@ -388,7 +388,7 @@ TEST(Interpreter, BlocksAtOneGoDoWhatTheirStepsDo) {
     const std::string script = RandomBlocks(random);
     if (!table.Load(1, script).empty()) continue;
     ++compiled;
-    CompileALLAutobets(game);
+    CompileActiveScripts(game);
     game.autobet.StepsHold = false;
     double sums[2];
     for (const bool watched : {false, true}) {

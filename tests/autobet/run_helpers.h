@@ -119,7 +119,7 @@ struct ScriptTable {
   std::string Run(const std::string& text) {
     const std::string problem = Load(1, text);
     if (!problem.empty()) return problem;
-    CompileALLAutobets(*game);
+    CompileActiveScripts(*game);
     RunAutoBet(*game);
     return "";
   }

@@ -35,7 +35,7 @@ struct HistoryTable : ScriptTable {
     game->table.handling[1].WinHandling = 2;
     game->table.handling[1].LoseHandling = 2;
     Load(1, "passline = 10\nfield = 5");
-    CompileALLAutobets(*game);
+    CompileActiveScripts(*game);
     RunAutoBet(*game);
     SetScriptActive(*game, 1, false);
     constexpr int kRolls[][2] = {{2, 2}, {6, 1}, {4, 3}, {3, 3}, {5, 1}, {6, 6}};

@@ -44,7 +44,7 @@ TEST(ReplaceInScript, ReplacesWhereItStandsAndStopsTheRun) {
   ScriptTable table;
   Game& game = *table.game;
   ASSERT_EQ(table.Load(1, "bet 5 on Field\nbet 5 on field"), "");
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   game.autobet.ScriptRunning = true;
   EXPECT_FALSE(ReplaceInScript(game, 1, "field", {1, 8}, "passline")) << "it doesn't stand there";
   EXPECT_FALSE(ReplaceInScript(game, 1, "field", {3, 0}, "passline"));
@@ -126,7 +126,7 @@ TEST(CheckScript, AScriptIsCompiledOnceAndAgainWhenSomethingOfItChanges) {
   Game& game = *table.game;
   ASSERT_EQ(table.Load(1, "cs0 = place6 bob : bet 5 on big6"), "");
   const KeptScript* kept = game.autobet.Scripts[1].Kept.get();
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   EXPECT_EQ(game.autobet.Scripts[1].Kept.get(), kept);
   std::string error;
   for (const char* const name : {"Rob", "Bob"}) {
@@ -134,10 +134,10 @@ TEST(CheckScript, AScriptIsCompiledOnceAndAgainWhenSomethingOfItChanges) {
     EXPECT_EQ(CheckScript(game, 1).ok, std::string(name) == "Bob") << name;
   }
   ASSERT_TRUE(SetSetting(game, "UseBig68", 0, "off", error)) << error;
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   EXPECT_FALSE(game.autobet.ScriptsCompiled);
   SetScript(game, 1, {"bet 7 on field"}, "");
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   RunAutoBet(game);
   EXPECT_EQ(table.Bet(kField), 7);
 }
@@ -145,7 +145,7 @@ TEST(CheckScript, AScriptIsCompiledOnceAndAgainWhenSomethingOfItChanges) {
 TEST(CheckScript, AnEmptyScriptIsToldAndNotCompiled) {
   ScriptTable table;
   Game& game = *table.game;
-  CompileALLAutobets(game);
+  CompileActiveScripts(game);
   SetScript(game, 1, {"", "  "}, "");
   game.autobet.ScriptsCompiled = true;
   const ScriptCheck check = CheckScript(game, 1);
@@ -222,7 +222,7 @@ TEST(StepMode, WaitsBehindEveryStatementUntilTheUserAsksOrStops) {
     game.autobet.StepsShown = game.autobet.StepMode = true;
     game.autobet.StepsHold = false;
     ASSERT_EQ(table.Load(1, "bet 5 on field\nbet 6 on passline\nbet 7 on big6"), "");
-    CompileALLAutobets(game);
+    CompileActiveScripts(game);
     RunAutoBet(game);
     EXPECT_EQ(host.waits, stopAt == 0 ? 3 : 2);
     EXPECT_EQ(table.Bet(kField), 5);

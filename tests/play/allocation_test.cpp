@@ -152,7 +152,7 @@ TEST(Allocation, NoneWithAScriptOnEverySeat) {
     ASSERT_TRUE(check.ok) << check.title << check.text;
     SetScriptActive(*table.game, seat, true);
   }
-  CompileALLAutobets(*table.game);
+  CompileActiveScripts(*table.game);
   EXPECT_EQ(AllocationsOf(table, 20'000), 0);
   EXPECT_NE(table.State().BetAmount(8, kPassLine), kZero);
 }

@@ -6,8 +6,8 @@
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/language.h"
-#include "autobet/run/give_way.h"
 #include "autobet/run/evaluate.h"
+#include "autobet/run/give_way.h"
 #include "autobet/run/operands.h"
 #include "autobet/run/output_file.h"
 #include "autobet/run/prepared_program.h"
@@ -67,7 +67,7 @@ const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroun
   return &script.Kept->script;
 }
 
-void CompileALLAutobets(Game& game) {
+void CompileActiveScripts(Game& game) {
   AutoBet& autobet = game.autobet;
   autobet.ScriptsCompiled = false;
   autobet.Program = {};

@@ -17,7 +17,7 @@ const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroun
                                        ScriptDiagnostic& diagnostic);
 // Compiles every active script, in seat order, into Program. On an error it tells so and leaves
 // ScriptsCompiled off.
-void CompileALLAutobets(Game& game);
+void CompileActiveScripts(Game& game);
 // Runs Program once, from its first record to its last. Requires ScriptsCompiled.
 void RunAutoBet(Game& game);
 // Runs a hot-key script, compiled for player 0, in place of Program. The players' scripts must be compiled

@@ -522,8 +522,8 @@ void DrawAreaMark(QPainter& painter, const TableLayout& layout, const TableView&
 
 }  // namespace
 
-void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
-                     const TableView& view, const TableColors& colors, CheckPictures& pictures) {
+void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
+                       const TableView& view, const TableColors& colors, CheckPictures& pictures) {
   painter.setRenderHint(QPainter::Antialiasing);
   DrawAreaMark(painter, layout, view, scene.hoverBet, 0, Qt::NoPen, QColor(255, 255, 255, 42));
   DrawAreaMark(painter, layout, view, scene.focusBet, scene.focusSide, QPen(QColor(255, 226, 90), 2.2),

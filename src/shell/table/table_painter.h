@@ -120,8 +120,8 @@ struct TableScene {
   std::vector<FallenCheck> rain;
 };
 
-void DrawChecksNDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
-                     const TableView& view, const TableColors& colors, CheckPictures& pictures);
+void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,
+                       const TableView& view, const TableColors& colors, CheckPictures& pictures);
 
 // The lines of a seat's status box.
 QStringList StatusLines(const Game& game, int seat);

@@ -175,7 +175,7 @@ void TableWidget::paintEvent(QPaintEvent*) {
   boxesStale_ = false;
   QPainter painter(this);
   painter.drawImage(0, 0, table_);
-  DrawChecksNDice(painter, scene, layout_, view, colors, checks_);
+  DrawChecksAndDice(painter, scene, layout_, view, colors, checks_);
   DrawStatusBoxes(painter, game_, boxes_, font());
   if (game_.table.OccupiedSeats == 0) {
     QFont large = font();
