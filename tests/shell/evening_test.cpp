@@ -386,7 +386,9 @@ TEST(MainWindow, ABetMovesByDraggingItsStackAndByTheMenu) {
       QTest::mouseRelease(&table, Qt::LeftButton, {}, to);
     }
     EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.from)), one.fromHas) << what;
-    if (one.to > 0) EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.toHas) << what;
+    if (one.to > 0) {
+      EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.toHas) << what;
+    }
     EXPECT_EQ(table.scene.heldBet, 0) << what;
   }
 }

@@ -118,7 +118,9 @@ TEST(TablePictures, StatusBoxesStandOffAllBetsAndOffEachOther) {
       if (boxes[a].isEmpty()) continue;
       EXPECT_TRUE(QRectF(widget.rect()).contains(boxes[a])) << look.name << " " << a;
       EXPECT_FALSE(felt.intersects(boxes[a])) << look.name << " " << a;
-      if (look.all) EXPECT_FALSE(rail.contains(boxes[a].center())) << look.name << " " << a;
+      if (look.all) {
+        EXPECT_FALSE(rail.contains(boxes[a].center())) << look.name << " " << a;
+      }
       for (int x = 0; x < 20; ++x)
         for (int y = 0; y < 20; ++y) {
           const QPointF point =

@@ -12,12 +12,12 @@
 #include <QtEndian>
 #include <csignal>
 
+#include "dice/generators.h"
+#include "dice/percentage_dice.h"
 #include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
 #include "support/places.h"
-#include "dice/generators.h"
-#include "dice/percentage_dice.h"
 
 namespace tessaryn::test {
 namespace {
@@ -352,7 +352,8 @@ TEST(Program, EveryStartHasItsOwnSeed) {
   double earliest = TimeSeed(clocked, MachineTick()).ToDouble();
   constexpr int kStarts = 5;
   for (int start = 1; start <= kStarts; ++start) {
-    Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", evening.data.path()});
+    Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
+                    {"--data-folder", evening.data.path()});
     ASSERT_TRUE(evening.WaitForTable());
     ASSERT_NO_FATAL_FAILURE(evening.Join(program));
     program.Focus("^Tessaryn$");

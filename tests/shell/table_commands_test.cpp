@@ -225,8 +225,12 @@ TEST(MoveBet, GoesAsFarAsTheRulesOfBothLetItAndElseStays) {
     const std::string what = BetName(one.from) + " to " + (one.to == 0 ? "the rail" : BetName(one.to));
     const bool stays = *one.lands == '0' && *one.says != 0;
     EXPECT_EQ(game.table.BetAmount(4, one.from), stays ? Money("200") : kZero) << what;
-    if (stays && IsPlace(one.from)) EXPECT_EQ(BetWorkingOf(game, 4, one.from), -1) << "with its call";
-    if (one.to != 0) EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.lands) << what;
+    if (stays && IsPlace(one.from)) {
+      EXPECT_EQ(BetWorkingOf(game, 4, one.from), -1) << "with its call";
+    }
+    if (one.to != 0) {
+      EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.lands) << what;
+    }
     EXPECT_NE(table.host.LastText().find(one.says), std::string::npos)
         << what << ": " << table.host.LastText();
     EXPECT_EQ(table.host.boxes.empty(), *one.says == 0) << what << ": " << table.host.LastText();
