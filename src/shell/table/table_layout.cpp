@@ -182,13 +182,13 @@ double ShiftOf(const std::vector<TableLabel>& labels) {
   return 2 * kTableMiddle - all.left() - all.right();
 }
 
-void AddEndArea(Builder& build, const EndArea& spec) {
+void AddEndArea(Builder& build, const EndArea& ends) {
   for (int side = 1; side <= 2; ++side) {
-    TableArea* area = build.Add(spec.bet, side, side == 1 ? spec.outline : Mirror().map(spec.outline));
+    TableArea* area = build.Add(ends.bet, side, side == 1 ? ends.outline : Mirror().map(ends.outline));
     if (area == nullptr) return;
-    for (TableLabel label : spec.labels) {
-      if (side == 2 && spec.inOrder && label.Rotation == 0) {
-        label.Box.translate(ShiftOf(spec.labels), 0);
+    for (TableLabel label : ends.labels) {
+      if (side == 2 && ends.inOrder && label.Rotation == 0) {
+        label.Box.translate(ShiftOf(ends.labels), 0);
       } else if (side == 2) {
         label.Box.moveCenter(Mirror().map(label.Box.center()));
         label.Rotation = -label.Rotation;
@@ -197,9 +197,9 @@ void AddEndArea(Builder& build, const EndArea& spec) {
     }
     for (int place = 0; place < 4; ++place) {
       if (side == 1)
-        build.Place(1 + place, spec.bet, spec.places[place]);
+        build.Place(1 + place, ends.bet, ends.places[place]);
       else
-        build.Place(8 - place, spec.bet, Mirror().map(spec.places[place]));
+        build.Place(8 - place, ends.bet, Mirror().map(ends.places[place]));
     }
   }
 }
