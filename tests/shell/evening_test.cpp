@@ -206,7 +206,7 @@ struct Evening {
 TEST(Evening, FourPlayersBetEverythingAndLeaveTheSameTableAsTheCore) {
   Evening evening;
   for (Game* game : {evening.real.game.get(), evening.model.game.get()})
-    for (auto& handling : game->table.handling) handling.WinHandling = handling.LoseHandling = 0;
+    for (SeatState& seat : game->table.seats) seat.handling.WinHandling = seat.handling.LoseHandling = 0;
   evening.Join(2, "Ann");
   evening.Join(4, "Boris");
   evening.Join(5, "Cleo");
@@ -539,7 +539,8 @@ TEST(MainWindow, ArrowsWalkTheSeatsUntilTheAreasHaveTheFocus) {
 
 TEST(MainWindow, ATurboRollShowsItsPanelAndStopsWithinATenthOfASecond) {
   Evening evening;
-  for (auto& handling : evening.real.game->table.handling) handling.WinHandling = handling.LoseHandling = 2;
+  for (SeatState& seat : evening.real.game->table.seats)
+    seat.handling.WinHandling = seat.handling.LoseHandling = 2;
   evening.Join(4, "Eve");
   evening.real.game->table.seats[4].handling.WinHandling =
       evening.real.game->table.seats[4].handling.LoseHandling = 2;
