@@ -8,9 +8,9 @@
 #include "autobet/language/language.h"
 #include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
 #include "rules/bet_limits.h"
 #include "support/test_host.h"
-#include "dice/percentage_dice.h"
 
 namespace tessaryn {
 namespace {

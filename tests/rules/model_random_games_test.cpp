@@ -471,8 +471,8 @@ void ChangeVig(Pair& pair) {
   ChooseVig(pair);
   RecomputeVig(*pair.game);
   const Settings& s = pair.game->settings;
-  model::ChangeVigRules(
-      *pair.m, {s.LayVigRate.Number(), s.BuyVigRate.Number(), s.LayVigRound, s.BuyVigRound, s.LayVigUpFront, s.BuyVigUpFront});
+  model::ChangeVigRules(*pair.m, {s.LayVigRate.Number(), s.BuyVigRate.Number(), s.LayVigRound, s.BuyVigRound,
+                                  s.LayVigUpFront, s.BuyVigUpFront});
 }
 
 void ChangeRules(Pair& pair) {

@@ -204,7 +204,8 @@ bool SetNextRoll(Game& game, double number) {
 }
 
 bool SetRollRate(Game& game, double number) {
-  const bool fits = number >= kSimRollRateLimits.least.ToDouble() && number <= kSimRollRateLimits.most.ToDouble();
+  const bool fits =
+      number >= kSimRollRateLimits.least.ToDouble() && number <= kSimRollRateLimits.most.ToDouble();
   if (!fits) return ScriptFails(game, kErrorRollRate);
   game.settings.SimRollRate = RollRate::Of(Currency::FromDouble(number));
   return true;
