@@ -13,6 +13,7 @@
 #include "state/game.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
+#include "stats/sessions_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -107,7 +108,8 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   ListSeated(table);
   StartBankroll(game, seat, bankroll);
   table.BankrollInitAmount[seat] = bankroll;
-  table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+  table.SessionsLogName[seat] = DefaultSessionsLogName(game, name);
+  game.sessions.Files.Tally[seat] = {};
   if (table.ShooterSeat == 0) {
     table.ShooterSeat = seat;
     if (HandRolls(game.stats) == 0) table.HandSeat = seat;
@@ -243,6 +245,7 @@ void LeaveTable(Game& game, int seat) {
   TableState& table = game.table;
   if (!IsOccupied(table, seat)) return;
   LogLeaving(game, seat, ContractMoney(table, seat).total);
+  AppendSessionRecord(game, seat);
   ClearSeat(game, seat);
   game.autobet.Scripts[seat] = SeatScript{};
   game.autobet.ScriptActive[seat] = false;
@@ -255,10 +258,12 @@ void LeaveTable(Game& game, int seat) {
   if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
   if (table.HandSeat == seat && handRolled) table.HandSeat = 0;
   if (table.PreviousHandSeat == seat) table.PreviousHandSeat = 0;
+  if (game.sessions.SessionsSeat == seat) game.sessions.SessionsSeat = 0;
   if (table.SelectedSeat == seat) table.SelectedSeat = NextOccupied(table, seat);
   game.host->Changed(game, Change::kPlayers);
   if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
   RequireConsistency(game);
+  TellSessionsLogFault(game);
 }
 
 bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& error) {
@@ -288,8 +293,10 @@ bool RenamePlayer(Game& game) {
   if (Lower(old) == Lower(name)) return true;
   if (ShowMessage(game, "Rename Sessions Log",
                   "Would you also like to change " + name + "'s sessions log filename?",
-                  kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-    game.table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+    return true;
+  const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
+  if (!problem.empty()) ShowMessage(game, "Rename Sessions Log", problem);
   return true;
 }
 
@@ -339,6 +346,7 @@ void SwapSeatTables(Game& game, int a, int b) {
   swap(table.BankrollInitAmount);
   swap(table.handling);
   swap(table.SessionsLogName);
+  swap(game.sessions.Files.Tally);
   swap(table.VisibleStacks);
   swap(game.autobet.Scripts);
   swap(game.autobet.ScriptActive);
@@ -366,7 +374,8 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   }
   if (!error.empty()) return false;
   SwapSeatTables(game, fromSeat, toSeat);
-  for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
+  for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat,
+                    &game.sessions.SessionsSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
   WriteEventsLogLine(game, "    " + table.SeatName[toSeat] + " moved to " + StickPosition(toSeat));

@@ -40,9 +40,7 @@ std::string NoLogText(const std::string& path) {
          " is either from an older version, has been corrupted, or is not a true Tessaryn Sessions Log.";
 }
 
-off_t PlaceOf(std::int64_t session) {
-  return static_cast<off_t>(session) * static_cast<off_t>(kRecordBytes);
-}
+off_t PlaceOf(std::int64_t session) { return static_cast<off_t>(session) * static_cast<off_t>(kRecordBytes); }
 
 // 0 or errno.
 int WriteAt(int descriptor, off_t place, const void* bytes, std::size_t size) {
@@ -62,8 +60,8 @@ int WriteAt(int descriptor, off_t place, const void* bytes, std::size_t size) {
 ssize_t ReadAt(int descriptor, off_t place, void* bytes, std::size_t size) {
   std::size_t got = 0;
   while (got < size) {
-    const ssize_t count = pread(descriptor, static_cast<char*>(bytes) + got, size - got,
-                                place + static_cast<off_t>(got));
+    const ssize_t count =
+        pread(descriptor, static_cast<char*>(bytes) + got, size - got, place + static_cast<off_t>(got));
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return -errno;
     if (count == 0) break;
@@ -72,7 +70,8 @@ ssize_t ReadAt(int descriptor, off_t place, void* bytes, std::size_t size) {
   return static_cast<ssize_t>(got);
 }
 
-// Held as long as the header and the records don't agree. Where the file system knows no locks there are none.
+// Held as long as the header and the records don't agree. Where the file system knows no locks there are
+// none.
 class Lock {
  public:
   explicit Lock(const SessionsLogFile& file) : descriptor_(file.Descriptor) {
@@ -301,8 +300,7 @@ std::string DeleteSessionRange(SessionsLogFile& file, std::int64_t first, std::i
   if (!lock.problem.empty()) return lock.problem;
   Header header;
   if (std::string problem = SettledHeader(file, header); !problem.empty()) return problem;
-  if (first < 1 || last > header.count || first > last)
-    return "No sessions deleted.  Entry out of range.";
+  if (first < 1 || last > header.count || first > last) return "No sessions deleted.  Entry out of range.";
   header.moveTo = first;
   header.moveGap = last - first + 1;
   if (last < header.count)
@@ -332,7 +330,8 @@ std::string CopySessionsLog(SessionsLogFile& file, const std::string& path) {
   };
   if (problem.empty()) problem = WriteReplacement(copy, bytes(&head, 1));
   std::vector<Record> records;
-  for (std::int64_t done = 0; done < count && problem.empty(); done += static_cast<std::int64_t>(records.size())) {
+  for (std::int64_t done = 0; done < count && problem.empty();
+       done += static_cast<std::int64_t>(records.size())) {
     const std::int64_t block = std::min(kCopyBlock, count - done);
     problem = ReadSessions(file, done + 1, static_cast<std::size_t>(block), records);
     if (problem.empty()) problem = WriteReplacement(copy, bytes(records.data(), records.size()));

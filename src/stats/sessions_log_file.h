@@ -2,8 +2,8 @@
 // record is written before the header counts it, and a deletion that was cut short is gone on with as soon as
 // somebody opens the log again. Programs that have one log open don't disturb each other.
 //
-// Errors are texts that name the file and the reason; an empty text is success. After an error the log is as it
-// was, but for a deletion under way.
+// Errors are texts that name the file and the reason; an empty text is success. After an error the log is as
+// it was, but for a deletion under way.
 #pragma once
 
 #include <cstdint>

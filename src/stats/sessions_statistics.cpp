@@ -24,8 +24,9 @@ constexpr std::string_view kMeasures[kSessionMeasures] = {
     "Ending bankroll",
 };
 
-constexpr std::string_view kLabels[kStatisticLabels] = {"Sum", "Mean",  "Median",   "Mode",    "High", "Mid",
-                                                        "Low", "Range", "Variance", "Std Dev", "Skew", "Kurtosis"};
+constexpr std::string_view kLabels[kStatisticLabels] = {"Sum",      "Mean",    "Median", "Mode",
+                                                        "High",     "Mid",     "Low",    "Range",
+                                                        "Variance", "Std Dev", "Skew",   "Kurtosis"};
 
 constexpr const char* kOverflow = "a sum of its values is beyond what can be counted";
 
@@ -104,7 +105,7 @@ void FindMedian(SessionsStatistics& s) {
   std::int64_t running = 0;
   int column = -1;
   do running += s.Histogram[++column];
-  while (2 * running < position - 1 || running == 0);
+  while (2 * running < position - 1);
   s.Median = ColumnValue(s, column);
   s.MedianMarked = HoldsSeveral(s, column);
   if (2 * running >= position) return;
@@ -118,8 +119,8 @@ void FindMode(SessionsStatistics& s) {
 }
 
 // Sums, extremes and mean. The bounds are values.
-std::string FirstPass(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& s, bool& overflow,
-                      const SessionsGoOn& goOn) {
+std::string FirstPass(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& s,
+                      bool& overflow, const SessionsGoOn& goOn) {
   std::string error = CountSessions(file, s.Total);
   if (error.empty())
     error = ForEachSession(
@@ -128,7 +129,8 @@ std::string FirstPass(SessionsLogFile& file, const SessionsQuery& query, Session
   s.Range = s.High - s.Low;
   const auto included = static_cast<double>(s.Included);
   s.Mean = Currency::FromDouble(s.Sum.ToDouble() / included);
-  overflow = s.Sum.IsError() || s.Range.IsError() || s.Mean.IsError() || s.Net.IsError() || s.Handle.IsError();
+  overflow =
+      s.Sum.IsError() || s.Range.IsError() || s.Mean.IsError() || s.Net.IsError() || s.Handle.IsError();
   if (overflow) return kOverflow;
   s.MeanColumn = HistogramColumn(std::clamp(s.Mean, s.Low, s.High), s.Low, s.High);
   if (s.Handle != kZero)
@@ -150,8 +152,8 @@ std::string SecondPass(SessionsLogFile& file, const SessionsQuery& query, Sessio
   return overflow ? kOverflow : "";
 }
 
-std::string ThirdPass(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& s, bool& overflow,
-                      const SessionsGoOn& goOn) {
+std::string ThirdPass(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& s,
+                      bool& overflow, const SessionsGoOn& goOn) {
   Moments moments;
   std::string error = ForEachSession(
       file, 1, s.Total, [&](const Record& session, std::int64_t) { AddMoments(moments, s, query, session); },
@@ -164,13 +166,29 @@ std::string ThirdPass(SessionsLogFile& file, const SessionsQuery& query, Session
   return {};
 }
 
+// Replaces bounds by deviations with values.
+std::string BoundsOf(SessionsLogFile& file, SessionsQuery& query, bool& overflow, const SessionsGoOn& goOn) {
+  SessionsQuery all = query;
+  all.Outliers = OutlierRule::kNone;
+  SessionsStatistics s;
+  std::string error = FirstPass(file, all, s, overflow, goOn);
+  if (error.empty() && s.Included > 0) error = SecondPass(file, all, s, overflow, Behind(goOn, s.Total));
+  if (!error.empty()) return error;
+  query.Outliers = OutlierRule::kByValue;
+  query.OutlierLow = s.Mean + Multiply(query.OutlierLow, s.StdDev);
+  query.OutlierHigh = s.Mean + Multiply(query.OutlierHigh, s.StdDev);
+  overflow = query.OutlierLow.IsError() || query.OutlierHigh.IsError();
+  return overflow ? kOverflow : "";
+}
+
 std::string Passes(SessionsLogFile& file, SessionsQuery query, SessionsStatistics& s, bool& overflow,
                    const SessionsGoOn& goOn) {
   const bool byDeviations = query.Outliers == OutlierRule::kByDeviations;
-  std::string error = byDeviations ? BoundsOf(file, query, goOn) : "";
+  std::string error = byDeviations ? BoundsOf(file, query, overflow, goOn) : "";
   std::int64_t done = 0;
   if (error.empty() && byDeviations) error = CountSessions(file, done);
   done *= 2;
+  s.Query = query;
   if (error.empty()) error = FirstPass(file, query, s, overflow, Behind(goOn, done));
   if (!error.empty() || s.Included == 0) return error;
   done += s.Total;
@@ -210,27 +228,15 @@ bool TakesPart(const SessionsQuery& query, const Record& session) {
   return value >= query.OutlierLow && value <= query.OutlierHigh;
 }
 
-std::string BoundsOf(SessionsLogFile& file, SessionsQuery& query, const SessionsGoOn& goOn) {
-  if (query.Outliers != OutlierRule::kByDeviations) return {};
-  SessionsQuery all = query;
-  all.Outliers = OutlierRule::kNone;
-  bool overflow = false;
-  SessionsStatistics s;
-  std::string error = FirstPass(file, all, s, overflow, goOn);
-  if (error.empty() && s.Included > 0) error = SecondPass(file, all, s, overflow, Behind(goOn, s.Total));
-  if (!error.empty()) return error;
-  query.Outliers = OutlierRule::kByValue;
-  query.OutlierLow = s.Mean + Multiply(query.OutlierLow, s.StdDev);
-  query.OutlierHigh = s.Mean + Multiply(query.OutlierHigh, s.StdDev);
-  return query.OutlierLow.IsError() || query.OutlierHigh.IsError() ? kOverflow : "";
-}
-
 std::string ComputeSessions(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& statistics,
                             bool& overflow, const SessionsGoOn& goOn) {
   statistics = {};
   overflow = false;
   std::string error = Passes(file, query, statistics, overflow, goOn);
-  if (!error.empty()) statistics = {};
+  if (error.empty()) return {};
+  statistics = {};
+  statistics.Query = query;
+  if (query.Outliers == OutlierRule::kByDeviations) statistics.Query.Outliers = OutlierRule::kNone;
   return error;
 }
 
@@ -311,14 +317,9 @@ double DeviationsOf(const SessionsStatistics& statistics, Currency value) {
   return (value - statistics.Mean).ToDouble() / statistics.StdDev.ToDouble();
 }
 
-std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& wanted, const std::string& path) {
-  if (IsSameFile(file.Path, path)) return "Unable to write " + path + ": it is the log itself.";
-  SessionsQuery query = wanted;
+std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& query, FileReplacement& table) {
   std::int64_t count = 0;
-  std::string error = BoundsOf(file, query);
-  if (error.empty()) error = CountSessions(file, count);
-  FileReplacement table;
-  if (error.empty()) error = BeginReplacement(table, path);
+  std::string error = CountSessions(file, count);
   if (!error.empty()) return error;
   std::string lines = "Session #";
   for (int field = 0; field < kSessionFields; ++field) lines += "," + SessionFieldName(field);
@@ -339,8 +340,7 @@ std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& wanted, c
     return problem;
   };
   error = ForEachSession(file, 1, count, add, write);
-  if (error.empty() && !lines.empty()) error = write(count);
-  return error.empty() ? CommitReplacement(table) : error;
+  return error.empty() && !lines.empty() ? write(count) : error;
 }
 
 std::string FindSessionValue(SessionsLogFile& file, int measure, Currency value, std::int64_t from, int step,

@@ -1,5 +1,5 @@
-// What a Sessions Log says of a measure: classes, the spread of the sessions' values, and their histogram. The
-// log is walked through a block at a time and never held.
+// What a Sessions Log says of a measure: classes, the spread of the sessions' values, and their histogram.
+// The log is walked through a block at a time and never held.
 #pragma once
 
 #include <cstdint>
@@ -31,6 +31,7 @@ struct SessionsQuery {
 SessionsQuery QueryOf(const SessionsLogs& screen);
 
 struct SessionsStatistics {
+  SessionsQuery Query;     // what was asked, its bounds now by value
   std::int64_t Total = 0;  // of the log
   std::int64_t Won = 0;
   std::int64_t BrokeEven = 0;
@@ -63,16 +64,12 @@ struct SessionsStatistics {
 SessionClass ClassOf(const SessionsQuery& query, const Record& session);
 bool IsClassIncluded(const SessionsQuery& query, SessionClass which);
 
-// Whether a session takes part, for bounds by value: by deviations they are known after a computation only,
-// see BoundsOf.
+// Whether a session takes part. Requires bounds by value, as a computation leaves them.
 bool TakesPart(const SessionsQuery& query, const Record& session);
 
-// Replaces bounds by deviations with values. The error is a text.
-std::string BoundsOf(SessionsLogFile& file, SessionsQuery& query, const SessionsGoOn& goOn = {});
-
-// The passes over the log. goOn counts the records of all of them, kSessionPasses at most for each session. The
-// error is a text, and statistics are then cleared; overflow tells whether the values themselves, and not the
-// file, are what is wrong.
+// The passes over the log. goOn counts the records of all of them, kSessionPasses at most for each session.
+// The error is a text, and statistics are then cleared but for their query; overflow tells whether the values
+// themselves, and not the file, are what is wrong.
 inline constexpr int kSessionPasses = 5;
 std::string ComputeSessions(SessionsLogFile& file, const SessionsQuery& query, SessionsStatistics& statistics,
                             bool& overflow, const SessionsGoOn& goOn = {});
@@ -106,8 +103,9 @@ std::string ShareText(std::int64_t part, std::int64_t total);
 // (value - mean) / standard deviation; 0 without one.
 double DeviationsOf(const SessionsStatistics& statistics, Currency value);
 
-// The included sessions as a table, a line each with its number and all fields, put in place when it is whole.
-std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& query, const std::string& path);
+// The sessions that take part as a table, a line each with its number and all fields. The table is begun and
+// committed by the caller. Requires bounds by value.
+std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& query, FileReplacement& table);
 
 // The next session after (step 1) or before (step -1) from, whose measure has the value; 0 for none.
 std::string FindSessionValue(SessionsLogFile& file, int measure, Currency value, std::int64_t from, int step,
