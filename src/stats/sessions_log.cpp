@@ -261,6 +261,7 @@ std::string RemoveSessionsLogs(Game& game) {
     if (unlink(path.c_str()) != 0 && errno != ENOENT && problem.empty())
       problem = FileErrorText("delete", path, errno);
   }
+  if (files.Waiting.empty()) files.Fault.clear();  // of a log that is gone
   return problem;
 }
 
