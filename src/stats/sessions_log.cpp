@@ -410,7 +410,7 @@ bool FindSession(Game& game, bool ask, int step) {
   if (ask) {
     game.box.MsgValue1 = screen.FindValue;
     const std::string text =
-        "Enter the value you'd like to find for: " + std::string(MeasureName(screen.SessionsStat)) +
+        "Enter the value you'd like to find for: " + std::string(MeasureName(QueryOf(screen).Measure)) +
         "\r\rIf found, the line will scroll to the top of the data box.";
     if (ShowMessage(game, "Find", text, kMsgOk | kMsgCancel | kMsgInput) != kResultOk) return false;
     screen.FindValue = game.box.MsgValue1;
@@ -420,8 +420,12 @@ bool FindSession(Game& game, bool ask, int step) {
   // What was just typed may stand in the top line itself.
   const std::int64_t from = ask ? screen.SessionsTopRow - step : screen.SessionsTopRow;
   std::string problem = OpenOf(game, screen.SessionsSeat, file, SessionsAccess::kRead);
+  const auto goOn = [&](std::int64_t) {
+    game.host->YieldByClock(game);
+    return Interrupted() ? SignalReason() : std::string();
+  };
   if (problem.empty())
-    problem = FindSessionValue(file, screen.SessionsStat, screen.FindValue, from, step, found);
+    problem = FindSessionValue(file, QueryOf(screen).Measure, screen.FindValue, from, step, found, goOn);
   TellProblem(game, problem);
   if (found > 0) screen.SessionsTopRow = found;
   return found > 0;
@@ -446,7 +450,7 @@ std::string ReadSessionsRows(Game& game, const SessionsStatistics& statistics, s
   const std::int64_t first = std::max<std::int64_t>(screen.SessionsTopRow, 1);
   const std::int64_t last = std::min(sessions, first + static_cast<std::int64_t>(count) - 1);
   const auto add = [&](const Record& session, std::int64_t number) {
-    const Currency value = SessionValue(session, screen.SessionsStat);
+    const Currency value = SessionValue(session, statistics.Query.Measure);
     rows.push_back({number, SessionValue(session, kSessionRolls), value, TakesPart(statistics.Query, session),
                     DeviationsOf(statistics, value)});
   };

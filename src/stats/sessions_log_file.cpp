@@ -23,6 +23,7 @@ constexpr std::size_t kCountAt = 92;
 constexpr std::size_t kMoveMarkAt = 96;  // a deletion under way, else zeros
 constexpr std::size_t kMoveToAt = 104;
 constexpr std::size_t kMoveGapAt = 108;
+constexpr std::size_t kMoveAsideAt = 112;
 constexpr std::string_view kMoveMark = "Deleting";
 
 constexpr std::int64_t kCopyBlock = 2'048;  // records
@@ -32,7 +33,8 @@ struct Header {
   std::int64_t count = 0;
   // While sessions are deleted: those from moveTo + moveGap on are still to move down by moveGap.
   std::int64_t moveTo = 0;
-  std::int64_t moveGap = 0;  // 0: none under way
+  std::int64_t moveGap = 0;    // 0: none under way
+  std::int64_t moveAside = 0;  // so many of them stand behind the log's end
 };
 
 std::string NoLogText(const std::string& path) {
@@ -99,6 +101,14 @@ class Lock {
   int descriptor_;
 };
 
+// The first of them, to session first and those behind it.
+std::string WriteRecords(const SessionsLogFile& file, std::int64_t first, const std::vector<Record>& records,
+                         std::int64_t count) {
+  const int fault = WriteAt(file.Descriptor, PlaceOf(first), records.data(),
+                            static_cast<std::size_t>(count) * kRecordBytes);
+  return fault == 0 ? std::string() : FileErrorText("write", file.Path, fault);
+}
+
 // The whole record, so that it is written at once.
 std::string WriteHeader(const SessionsLogFile& file, const Header& header) {
   Record record{};
@@ -108,6 +118,7 @@ std::string WriteHeader(const SessionsLogFile& file, const Header& header) {
     PutText(record, kMoveMarkAt, kMoveMark.size(), kMoveMark);
     PutInt32(record, kMoveToAt, static_cast<std::int32_t>(header.moveTo));
     PutInt32(record, kMoveGapAt, static_cast<std::int32_t>(header.moveGap));
+    PutInt32(record, kMoveAsideAt, static_cast<std::int32_t>(header.moveAside));
   }
   const int error = WriteAt(file.Descriptor, 0, record.data(), record.size());
   return error == 0 ? std::string() : FileErrorText("write", file.Path, error);
@@ -130,26 +141,39 @@ std::string ReadHeader(const SessionsLogFile& file, Header& header) {
   if (GetText(record, kMoveMarkAt, kMoveMark.size()) != kMoveMark) return {};
   header.moveTo = GetInt32(record, kMoveToAt);
   header.moveGap = GetInt32(record, kMoveGapAt);
-  if (header.moveTo >= 1 && header.moveGap >= 1 && header.moveTo + header.moveGap - 1 <= header.count)
+  header.moveAside = GetInt32(record, kMoveAsideAt);
+  if (header.moveTo >= 1 && header.moveGap >= 1 && header.moveAside >= 0 &&
+      header.moveTo + header.moveGap + header.moveAside - 1 <= header.count &&
+      header.count + header.moveAside <= held)
     return {};
   return NoLogText(file.Path) + " Its header tells of a deletion that can't be.";
 }
 
-// Goes on with the deletion that the header tells of. Each block lies wholly above where it goes, and the
-// header says how far the work is: a block that was cut short is copied again.
+// Goes on with the deletion that the header tells of. What a block is copied from lies wholly above where it
+// goes, or is put behind the log's end first, and the header says how far the work is: a block that was cut
+// short is copied again.
 std::string FinishMove(const SessionsLogFile& file, Header& header) {
   if (header.moveGap == 0) return {};
   std::vector<Record> records;
-  for (bool first = true; header.moveTo + header.moveGap <= header.count; first = false) {
+  while (header.moveTo + header.moveGap <= header.count) {
+    const bool aside = header.moveAside > 0;
     const std::int64_t from = header.moveTo + header.moveGap;
-    const std::int64_t block = std::min({header.count - from + 1, header.moveGap, kCopyBlock});
-    std::string error = ReadSessions(file, from, static_cast<std::size_t>(block), records);
-    if (error.empty() && !first) error = WriteHeader(file, header);
+    std::int64_t block = aside ? header.moveAside : std::min(header.count - from + 1, kCopyBlock);
+    std::string error =
+        ReadSessions(file, aside ? header.count + 1 : from, static_cast<std::size_t>(block), records);
+    if (error.empty() && !aside && block > header.moveGap) {
+      if (WriteRecords(file, header.count + 1, records, block).empty()) {
+        header.moveAside = block;
+        error = WriteHeader(file, header);
+      } else {
+        block = header.moveGap;  // no room behind the end: on a full disk it takes longer
+      }
+    }
+    if (error.empty()) error = WriteRecords(file, header.moveTo, records, block);
     if (!error.empty()) return error;
-    const int fault = WriteAt(file.Descriptor, PlaceOf(header.moveTo), records.data(),
-                              static_cast<std::size_t>(block) * kRecordBytes);
-    if (fault != 0) return FileErrorText("write", file.Path, fault);
     header.moveTo += block;
+    header.moveAside = 0;
+    if (error = WriteHeader(file, header); !error.empty()) return error;
   }
   header.count -= header.moveGap;
   header.moveTo = header.moveGap = 0;
@@ -286,9 +310,8 @@ std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
     if (std::string problem = ReadSessions(other, done + 1, static_cast<std::size_t>(block), records);
         !problem.empty())
       return problem;
-    const int fault = WriteAt(file.Descriptor, PlaceOf(header.count + done + 1), records.data(),
-                              static_cast<std::size_t>(block) * kRecordBytes);
-    if (fault != 0) return FileErrorText("write", file.Path, fault);
+    if (std::string problem = WriteRecords(file, header.count + done + 1, records, block); !problem.empty())
+      return problem;
     done += block;
   }
   header.count += further;

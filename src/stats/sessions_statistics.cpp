@@ -205,9 +205,15 @@ std::string Passes(SessionsLogFile& file, SessionsQuery query, SessionsStatistic
 }  // namespace
 
 SessionsQuery QueryOf(const SessionsLogs& screen) {
-  return {screen.SessionsStat, screen.BreakPointLow,    screen.BreakPointHigh,
-          screen.IncludeWon,   screen.IncludeBrokeEven, screen.IncludeLost,
-          screen.Outliers,     screen.OutlierLow,       screen.OutlierHigh};
+  return {std::clamp(screen.SessionsStat, 0, kSessionMeasures - 1),
+          screen.BreakPointLow,
+          screen.BreakPointHigh,
+          screen.IncludeWon,
+          screen.IncludeBrokeEven,
+          screen.IncludeLost,
+          screen.Outliers,
+          screen.OutlierLow,
+          screen.OutlierHigh};
 }
 
 SessionClass ClassOf(const SessionsQuery& query, const Record& session) {
@@ -344,13 +350,14 @@ std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& query, Fi
 }
 
 std::string FindSessionValue(SessionsLogFile& file, int measure, Currency value, std::int64_t from, int step,
-                             std::int64_t& found) {
+                             std::int64_t& found, const SessionsGoOn& goOn) {
   constexpr std::int64_t kBlock = 2'048;
   std::int64_t count = 0;
   found = 0;
   std::string error = CountSessions(file, count);
   std::vector<Record> records;
-  for (std::int64_t at = from + step; error.empty() && at >= 1 && at <= count;) {
+  for (std::int64_t at = std::min(from + step, step > 0 ? kMostSessions : count);
+       error.empty() && at >= 1 && at <= count;) {
     // A block on from here, or back to here.
     const std::int64_t first = step > 0 ? at : std::max<std::int64_t>(at - kBlock + 1, 1);
     const std::int64_t last = step > 0 ? std::min(at + kBlock - 1, count) : at;
@@ -360,6 +367,7 @@ std::string FindSessionValue(SessionsLogFile& file, int measure, Currency value,
         found = at;
         return {};
       }
+    if (goOn && error.empty()) error = goOn(std::abs(at - from));
   }
   return error;
 }

@@ -77,6 +77,7 @@ std::string ComputeSessions(SessionsLogFile& file, const SessionsQuery& query, S
 // Column 0 to 524 of a value. Requires low <= value <= high and that the range fits.
 int HistogramColumn(Currency value, Currency low, Currency high);
 // So many columns as one bar of a drawing. Requires 0 <= first < 525.
+inline constexpr int kBarColumns[] = {1, 3, 7, 15};  // by GraphBarWidth
 struct HistogramBar {
   Currency Low;  // the values that it stands for
   Currency High;
@@ -109,6 +110,6 @@ std::string ExportSessions(SessionsLogFile& file, const SessionsQuery& query, Fi
 
 // The next session after (step 1) or before (step -1) from, whose measure has the value; 0 for none.
 std::string FindSessionValue(SessionsLogFile& file, int measure, Currency value, std::int64_t from, int step,
-                             std::int64_t& found);
+                             std::int64_t& found, const SessionsGoOn& goOn = {});
 
 }  // namespace tessaryn

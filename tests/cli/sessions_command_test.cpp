@@ -27,7 +27,8 @@ struct Ground {
 TEST(SessionsCommand, ReadsWhatARunOfSessionsLeft) {
   Ground ground;
   WriteFile(ground.folder.File("s.bet"),
-            "if rolls(s) = 20 then start new session endif\nif comeout roll then bet 10 on passline endif\n");
+            "if # of rolls current session >= 20 then start new session endif\nif comeout roll then bet 10 "
+            "on passline endif\n");
   const std::vector<std::string> run = {
       "run",     "--player", "Ann=5000", "--script", ground.folder.File("s.bet"), "--permit", "1=reset",
       "--rolls", "2010",     "--seed",   "7"};
