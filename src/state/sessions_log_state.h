@@ -47,6 +47,8 @@ struct SessionsLogFiles {
   std::vector<WaitingSession> Waiting;  // in their order; tried again
   std::string Fault;                    // not told yet
   std::string FaultTold;                // empty while writing works
+  bool Off = false;                     // in the copy of a game, whose sessions are nobody's
+  bool Calculating = false;             // a computation is on; a second one doesn't begin
 };
 
 enum class OutlierRule {
@@ -56,7 +58,6 @@ enum class OutlierRule {
 };
 
 struct SessionsLogs {
-  // --- The screen.
   int SessionsSeat = 0;         // 0 nobody
   int SessionsStat = 8;         // the measure, a field 0 to 11
   int SessionsDisplayMode = 0;  // 0 " Histogram", 1 " Data"
@@ -71,13 +72,10 @@ struct SessionsLogs {
   std::int64_t SessionsTopRow = 1;  // the session at the top of the data
   int GraphBarWidth = 0;            // 0 "&Fine" to 3 "&Extra wide"
   Currency FindValue;               // what was looked for last
-  bool Calculating = false;         // a computation is on; a second one doesn't begin
-  // --- The files.
-  bool RecordSessions = true;  // false in the copy of a game: its sessions are nobody's
   Unshared<SessionsLogFiles> Files;
 };
 TESSARYN_FIELDS(SessionsLogs, SessionsSeat, SessionsStat, SessionsDisplayMode, BreakPointLow, BreakPointHigh,
                 IncludeWon, IncludeBrokeEven, IncludeLost, Outliers, OutlierLow, OutlierHigh, SessionsTopRow,
-                GraphBarWidth, FindValue, Calculating, RecordSessions, Files)
+                GraphBarWidth, FindValue, Files)
 
 }  // namespace tessaryn

@@ -221,7 +221,7 @@ Record SessionOf(Game& game, int seat) {
 
 void AppendSessionRecord(Game& game, int seat) {
   SessionsLogFiles& files = game.sessions.Files;
-  if (!game.sessions.RecordSessions || SessionRolls(game.stats) == 0 || !IsOccupied(game.table, seat)) return;
+  if (files.Off || SessionRolls(game.stats) == 0 || !IsOccupied(game.table, seat)) return;
   const std::string path = SessionsLogPath(game, seat);
   const Record session = SessionOf(game, seat);
   Tally(files.Tally[seat], session);
@@ -253,7 +253,7 @@ std::string RemoveSessionsLogs(Game& game) {
   SessionsLogFiles& files = game.sessions.Files;
   std::string problem;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!IsOccupied(game.table, seat) || !game.sessions.RecordSessions) continue;
+    if (!IsOccupied(game.table, seat) || files.Off) continue;
     const std::string path = DefaultSessionsLogName(game, game.table.SeatName[seat]);
     CloseSessionsFile(files.Seats[seat]);
     game.table.SessionsLogName[seat] = path;
@@ -277,15 +277,15 @@ std::string CloseSessionsLogs(Game& game) {
 
 bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
   SessionsLogs& screen = game.sessions;
-  if (screen.Calculating) return false;
+  if (screen.Files.Calculating) return false;
   statistics = {};
   const int seat = screen.SessionsSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const std::string name = game.table.SeatName[seat];
   bool overflow = false;
-  screen.Calculating = true;
+  screen.Files.Calculating = true;
   const std::string problem = Compute(game, seat, statistics, overflow);
-  screen.Calculating = false;
+  screen.Files.Calculating = false;
   if (overflow)
     ShowMessage(game, kErrorTitle, SessionsErrorText(name));
   else if (!problem.empty())

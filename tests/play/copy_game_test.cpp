@@ -63,8 +63,7 @@ TEST(CopyGame, ACopyGoesOnAsTheOriginalDoes) {
     const auto original = SeatedTable(host, folder.Path(), generator, 77 + generator);
     PlayOn(*original, choices, 200 + generator);
     const auto copy = CopyGame(*original, host);
-    // Only the scripts wait to be made ready again, and its sessions are nobody's.
-    copy->sessions.RecordSessions = true;
+    // Only the scripts wait to be made ready again.
     copy->autobet.ScriptsCompiled = original->autobet.ScriptsCompiled;
     EXPECT_EQ(FirstDifference(*copy, *original), "");
     copy->autobet.ScriptsCompiled = false;
