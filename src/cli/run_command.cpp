@@ -67,7 +67,7 @@ Json SessionsJson(const Game& game) {
     if (tally.Sessions == 0) continue;
     const double handle = tally.Handle.ToDouble();
     sessions.push_back({{"seat", seat},
-                        {"name", game.table.SeatName[seat]},
+                        {"name", game.table.seats[seat].SeatName},
                         {"sessions", tally.Sessions},
                         {"won", tally.Won},
                         {"brokeEven", tally.BrokeEven},
@@ -86,7 +86,7 @@ void PrintSessions(const Game& game) {
     if (!headed)
       std::printf("\n%-16s %10s %8s %8s %8s  %s\n", "sessions of", "ended", "won", "even", "lost", "log");
     headed = true;
-    std::printf("%-16s %10s %8s %8s %8s  %s\n", game.table.SeatName[seat].c_str(),
+    std::printf("%-16s %10s %8s %8s %8s  %s\n", game.table.seats[seat].SeatName.c_str(),
                 FormatMoney(Currency::Dollars(tally.Sessions)).c_str(),
                 ShareText(tally.Won, tally.Sessions).c_str(),
                 ShareText(tally.BrokeEven, tally.Sessions).c_str(),

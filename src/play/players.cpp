@@ -23,7 +23,8 @@ namespace {
 void ListSeated(TableState& table) {
   table.OccupiedSeats = 0;
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (!table.SeatName[seat].empty()) table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
+    if (!table.seats[seat].SeatName.empty())
+      table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
 }
 
 std::string Lower(std::string text) {
@@ -43,7 +44,7 @@ std::string NameProblem(const Game& game, const std::string& name, int ownSeat) 
   if (const std::string problem = TextProblem(name); !problem.empty())
     return "That can't be a player's name: " + problem + ".";
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (seat != ownSeat && Lower(game.table.SeatName[seat]) == Lower(name))
+    if (seat != ownSeat && Lower(game.table.seats[seat].SeatName) == Lower(name))
       return "There's already a player named " + name + ".";
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
@@ -65,24 +66,26 @@ void ClearSeat(Game& game, int seat) {
     if (bet < 100) table.BetCommitted(seat, bet) = kZero;
     if (bet <= 100) table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
   }
-  table.TouchedSinceBefore[seat] = table.TouchedSinceAfter[seat] = {};
-  table.StacksSinceBefore[seat] = table.StacksSinceAfter[seat] = {};
-  table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
-  table.BetWorking[seat] = {};
-  table.BetWorking[seat].byDefault = table.Point != 0 ? kAllTableBets : table.BetDefaultWorking[seat];
-  table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
-  for (std::string& name : table.CheckStackName[seat]) name.clear();
+  table.seats[seat].TouchedSinceBefore = table.seats[seat].TouchedSinceAfter = {};
+  table.seats[seat].StacksSinceBefore = table.seats[seat].StacksSinceAfter = {};
+  table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
+  table.seats[seat].BetWorking = {};
+  table.seats[seat].BetWorking.byDefault =
+      table.Point != 0 ? kAllTableBets : table.seats[seat].BetDefaultWorking;
+  table.seats[seat].BetWorkingBeforeRoll = table.seats[seat].BetWorking;
+  for (std::string& name : table.seats[seat].CheckStackName) name.clear();
   for (int i = 0; i < 6; ++i)
-    table.LayVigHeld[seat][i] = table.BuyVigHeld[seat][i] = table.ComeTravelAmount[seat][i] = kZero;
+    table.seats[seat].LayVigHeld[i] = table.seats[seat].BuyVigHeld[i] =
+        table.seats[seat].ComeTravelAmount[i] = kZero;
   for (auto* money : {table.BankrollCurrent, table.OnTableAmount, table.RailAmount, table.BankrollBeforeRoll,
                       table.BankrollAfterRoll, table.AtmLogged, table.BankrollInitAmount})
     money[seat] = kZero;
-  table.AllowNegativeBankroll[seat] = false;
-  table.BankrollInitType[seat] = 0;
-  table.handling[seat] = Handling{};
+  table.seats[seat].AllowNegativeBankroll = false;
+  table.seats[seat].BankrollInitType = 0;
+  table.seats[seat].handling = Handling{};
   table.ComeMovedTo[seat] = table.DontComeMovedTo[seat] = 0;
-  table.SessionsLogName[seat].clear();
-  for (int i = 0; i < 4; ++i) table.VisibleStacks[seat][i] = i + 1;
+  table.seats[seat].SessionsLogName.clear();
+  for (int i = 0; i < 4; ++i) table.seats[seat].VisibleStacks[i] = i + 1;
   ClearSeatStatistics(game, seat);
 }
 
@@ -92,7 +95,7 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   if (seat < 1 || seat > kSeats) {
     error = "There is no seat " + std::to_string(seat) + "; seats are 1 to 8.";
   } else if (IsOccupied(table, seat)) {
-    error = "Seat " + std::to_string(seat) + " is taken by " + table.SeatName[seat] + ".";
+    error = "Seat " + std::to_string(seat) + " is taken by " + table.seats[seat].SeatName + ".";
   } else if (name.empty()) {
     error = "A player needs a name.";
   } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
@@ -104,11 +107,11 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   }
   if (!error.empty()) return false;
   ClearSeat(game, seat);
-  table.SeatName[seat] = name;
+  table.seats[seat].SeatName = name;
   ListSeated(table);
   StartBankroll(game, seat, bankroll);
-  table.BankrollInitAmount[seat] = bankroll;
-  table.SessionsLogName[seat] = DefaultSessionsLogName(game, name);
+  table.seats[seat].BankrollInitAmount = bankroll;
+  table.seats[seat].SessionsLogName = DefaultSessionsLogName(game, name);
   game.sessions.Files.Tally[seat] = {};
   if (table.ShooterSeat == 0) {
     table.ShooterSeat = seat;
@@ -214,7 +217,7 @@ void LogLeaving(Game& game, int seat, Currency total) {
   const TableState& table = game.table;
   const Currency cashed = table.BankrollCurrent[seat] - total;
   const Currency result = cashed - game.stats.BankrollSessionStart[seat];
-  std::string line = "    " + table.SeatName[seat] + " cashed out with $" + PlainMoney(cashed) + " (";
+  std::string line = "    " + table.seats[seat].SeatName + " cashed out with $" + PlainMoney(cashed) + " (";
   if (result == kZero)
     line += "broke even";
   else
@@ -234,7 +237,7 @@ bool RemovePlayer(Game& game) {
   const int seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const Abandoned abandoned = ContractMoney(game.table, seat);
-  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.SeatName[seat], abandoned),
+  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.seats[seat].SeatName, abandoned),
                   kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
     return false;
   LeaveTable(game, seat);
@@ -252,7 +255,7 @@ void LeaveTable(Game& game, int seat) {
   game.events.ScriptActiveLogged[seat] = false;
   RecomputeMasterScriptFlag(game.autobet);
   game.autobet.ScriptsCompiled = false;
-  table.SeatName[seat].clear();
+  table.seats[seat].SeatName.clear();
   ListSeated(table);
   const bool handRolled = HandRolls(game.stats) > 0;
   if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
@@ -274,9 +277,9 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
   else
     error = name.empty() ? "A player needs a name." : NameProblem(game, name, seat);
   if (!error.empty()) return false;
-  const std::string old = table.SeatName[seat];
+  const std::string old = table.seats[seat].SeatName;
   WriteEventsLogLine(game, "    " + old + "'s name changed to " + name);
-  table.SeatName[seat] = name;
+  table.seats[seat].SeatName = name;
   game.autobet.ScriptsCompiled = false;
   game.host->Changed(game, Change::kPlayers);
   return true;
@@ -285,7 +288,7 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
 bool RenamePlayer(Game& game) {
   const int seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
-  const std::string old = game.table.SeatName[seat];
+  const std::string old = game.table.seats[seat].SeatName;
   std::string name;
   if (!AskName(game, "Rename Player", "Enter a new name for " + old + ".", old, seat, name)) return false;
   std::string error;
@@ -309,7 +312,7 @@ void SwapColumns(SeatBetTable<T, kRows>& table, int a, int b) {
 
 void SwapSeatTables(Game& game, int a, int b) {
   TableState& table = game.table;
-  std::swap(table.SeatName[a], table.SeatName[b]);
+  std::swap(table.seats[a].SeatName, table.seats[b].SeatName);
   ListSeated(table);
   // Both seats' copies may be out of date now.
   table.SeatsSinceBefore |= 1u << a | 1u << b;
@@ -354,7 +357,7 @@ void SwapSeatTables(Game& game, int a, int b) {
   // Who has each bet up is kept by place in the pay order.
   for (std::uint8_t& seats : table.SeatsUp) seats = 0;
   for (int place = 0; place < kSeats; ++place)
-    table.SeatBets[kPayOrder[place]].ForEach(
+    table.seats[kPayOrder[place]].SeatBets.ForEach(
         [&](int bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
   for (PlotRow& row : game.graph.Rows) std::swap(row.cells[a], row.cells[b]);
   BankrollPlotChanged(game);
@@ -370,7 +373,7 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   } else if (toSeat < 1 || toSeat > kSeats) {
     error = "There is no seat " + std::to_string(toSeat) + "; seats are 1 to 8.";
   } else if (IsOccupied(table, toSeat)) {
-    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.SeatName[toSeat] + ".";
+    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.seats[toSeat].SeatName + ".";
   }
   if (!error.empty()) return false;
   SwapSeatTables(game, fromSeat, toSeat);
@@ -378,7 +381,7 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
                     &game.sessions.SessionsSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
-  WriteEventsLogLine(game, "    " + table.SeatName[toSeat] + " moved to " + StickPosition(toSeat));
+  WriteEventsLogLine(game, "    " + table.seats[toSeat].SeatName + " moved to " + StickPosition(toSeat));
   game.host->Changed(game, Change::kPlayers);
   RequireConsistency(game);
   return true;

@@ -92,7 +92,7 @@ void TellProblem(Game& game, const std::string& problem) {
 // From here on the seat's log is another one.
 void UseLog(Game& game, int seat, const std::string& path) {
   CloseSessionsFile(game.sessions.Files.Seats[seat]);
-  game.table.SessionsLogName[seat] = path;
+  game.table.seats[seat].SessionsLogName = path;
   game.sessions.SessionsTopRow = 1;
 }
 
@@ -107,7 +107,7 @@ bool AgreesToSessionInProgress(Game& game, bool all) {
 
 // The default log of a seat begins anew. One with sessions is asked for.
 NewLog StartDefaultLog(Game& game, int seat) {
-  const std::string& name = game.table.SeatName[seat];
+  const std::string& name = game.table.seats[seat].SeatName;
   const std::string path = DefaultSessionsLogName(game, name);
   SessionsLogFile file;
   std::int64_t sessions = 0;
@@ -184,8 +184,8 @@ std::string DefaultSessionsLogName(const Game& game, std::string_view playerName
 }
 
 std::string SessionsLogPath(const Game& game, int seat) {
-  const std::string& name = game.table.SessionsLogName[seat];
-  const std::string& player = game.table.SeatName[seat];
+  const std::string& name = game.table.seats[seat].SessionsLogName;
+  const std::string& player = game.table.seats[seat].SeatName;
   if (name.empty()) return DefaultSessionsLogName(game, player);
   const bool elsewhere = game.ownFolder != game.dataFolder && name == game.dataFolder + DefaultTitle(player);
   return elsewhere ? DefaultSessionsLogName(game, player) : name;
@@ -228,7 +228,7 @@ void AppendSessionRecord(Game& game, int seat) {
   std::string problem = HasWaiting(files, path) ? TryWaiting(files) : "";
   if (!HasWaiting(files, path)) problem = Write(files.Seats[seat], path, session);
   if (problem.empty()) return;
-  files.Fault = game.table.SeatName[seat] + "'s session is not in the Sessions Log.\r\r" + problem;
+  files.Fault = game.table.seats[seat].SeatName + "'s session is not in the Sessions Log.\r\r" + problem;
   if (files.Waiting.size() < kMostWaiting) files.Waiting.push_back({path, session});
 }
 
@@ -254,9 +254,9 @@ std::string RemoveSessionsLogs(Game& game) {
   std::string problem;
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat) || files.Off) continue;
-    const std::string path = DefaultSessionsLogName(game, game.table.SeatName[seat]);
+    const std::string path = DefaultSessionsLogName(game, game.table.seats[seat].SeatName);
     CloseSessionsFile(files.Seats[seat]);
-    game.table.SessionsLogName[seat] = path;
+    game.table.seats[seat].SessionsLogName = path;
     ForgetWaiting(files, path);
     if (unlink(path.c_str()) != 0 && errno != ENOENT && problem.empty())
       problem = FileErrorText("delete", path, errno);
@@ -281,7 +281,7 @@ bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
   statistics = {};
   const int seat = screen.SessionsSeat;
   if (!IsOccupied(game.table, seat)) return false;
-  const std::string name = game.table.SeatName[seat];
+  const std::string name = game.table.seats[seat].SeatName;
   bool overflow = false;
   screen.Files.Calculating = true;
   const std::string problem = Compute(game, seat, statistics, overflow);
@@ -357,7 +357,7 @@ std::string MergeSessionsLog(Game& game, int seat, const std::string& path) {
 
 bool DeleteAllSessions(Game& game, int seat) {
   const std::string text =
-      "Are you sure you want to delete ALL of " + game.table.SeatName[seat] + "'s recorded sessions?";
+      "Are you sure you want to delete ALL of " + game.table.seats[seat].SeatName + "'s recorded sessions?";
   if (ShowMessage(game, "Delete All Sessions", text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
     return false;
   SessionsLogFile file;

@@ -251,9 +251,9 @@ std::string LastHandNote(const Game& game, int scope) {
   const TableState& table = game.table;
   if (scope == kCurrentHand && table.ShooterSeat != table.HandSeat && table.ShooterSeat > 0) {
     const std::string credited = table.HandSeat > 0
-                                     ? table.SeatName[table.HandSeat]
+                                     ? table.seats[table.HandSeat].SeatName
                                      : "another player who started the hand but is no longer at the table.";
-    return "Although " + table.SeatName[table.ShooterSeat] +
+    return "Although " + table.seats[table.ShooterSeat].SeatName +
            " is presently shooting the dice, the current hand is being credited to " + credited +
            (table.HandSeat > 0 ? " who started the hand." : "") +
            "\r\rThe dice were passed during the current hand.";
@@ -285,7 +285,7 @@ bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency ne
   if (IsComeNumber(bet))
     for (const int scope : kRunningScopes)
       stats.ComeTravelTotals[Slot(scope, seat)][bet - kCome4] +=
-          game.table.ComeTravelAmount[seat][bet - kCome4];
+          game.table.seats[seat].ComeTravelAmount[bet - kCome4];
   return true;
 }
 

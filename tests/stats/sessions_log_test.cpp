@@ -524,9 +524,9 @@ TEST(SessionsLog, HoldsWhatTheTableCountedForEverySessionOfEveryPlayer) {
   copy->stats = game.stats;
   NewSession(*copy, false, false, false, 0);
   EXPECT_EQ(test::ReadFile(table.folder.File("ann.slg")), before);
-  game.table.SessionsLogName[2] = table.folder.File("mine.slg");
+  game.table.seats[2].SessionsLogName = table.folder.File("mine.slg");
   NewSession(game, true, true, false, 0);
-  EXPECT_EQ(game.table.SessionsLogName[2], table.folder.File("bob.slg"));
+  EXPECT_EQ(game.table.seats[2].SessionsLogName, table.folder.File("bob.slg"));
   EXPECT_NE(access(table.folder.File("ann.slg").c_str(), F_OK), 0);
   EXPECT_EQ(ReadAll(table.folder.File("mine.slg")).size(), 1u);
 }
@@ -538,7 +538,7 @@ TEST(SessionsLog, OneThatCantBeWrittenStopsTheRunAndLosesNothing) {
   table.Join(1, "Ann");
   table.Join(2, "Bob");
   const std::string common = table.folder.File("common.slg");
-  for (const int seat : {1, 2}) game.table.SessionsLogName[seat] = common;
+  for (const int seat : {1, 2}) game.table.seats[seat].SessionsLogName = common;
   test::WriteFile(common, "something else");
   Records model;
   for (int session = 0; session < 3; ++session) {
@@ -569,7 +569,7 @@ TEST(SessionsLog, ASecondProgramKeepsItsOwn) {
   table.Join(2, "Bob");
   mkdir(table.folder.File("table 2").c_str(), 0700);
   game.ownFolder = table.folder.File("table 2/");
-  game.table.SessionsLogName[2].clear();
+  game.table.seats[2].SessionsLogName.clear();
   table.Roll(1, 2);
   NewSession(game, true, true, true, 0);
   EXPECT_EQ(ReadAll(game.ownFolder + "ann.slg").size(), 1u);
@@ -627,7 +627,7 @@ TEST(SessionsLog, TheScreensCommandsAskAndDo) {
   answers = {"yes", "no"};
   EXPECT_EQ(NewAllSessionsLogs(game), NewLog::kStarted);
   EXPECT_EQ(ReadAll(ann).size(), 0u);
-  EXPECT_EQ(game.table.SessionsLogName[1], ann);
+  EXPECT_EQ(game.table.seats[1].SessionsLogName, ann);
   EXPECT_EQ(OpenSessionsLog(game, 1, table.folder.File("kept.slg")), "");
   answers = {"yes"};
   EXPECT_TRUE(DeleteAllSessions(game, 1));
