@@ -15,6 +15,7 @@
 #include "play/auto_roll.h"
 #include "play/script_session.h"
 #include "play/table_files.h"
+#include "stats/sessions_log.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -58,6 +59,41 @@ class ProgressBar {
   Clock::time_point last_ = Clock::now();
 };
 
+// The sessions that scripts began and ended, by player.
+Json SessionsJson(const Game& game) {
+  Json sessions = Json::array();
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const SessionsTally& tally = game.sessions.Files.Tally[seat];
+    if (tally.Sessions == 0) continue;
+    const double handle = tally.Handle.ToDouble();
+    sessions.push_back({{"seat", seat},
+                        {"name", game.table.seats[seat].SeatName},
+                        {"sessions", tally.Sessions},
+                        {"won", tally.Won},
+                        {"brokeEven", tally.BrokeEven},
+                        {"lost", tally.Lost},
+                        {"net", MoneyJson(tally.Net)},
+                        {"advantagePercent", handle > 0 ? 100 * tally.Net.ToDouble() / handle : 0.0}});
+  }
+  return sessions;
+}
+
+void PrintSessions(const Game& game) {
+  bool headed = false;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const SessionsTally& tally = game.sessions.Files.Tally[seat];
+    if (tally.Sessions == 0) continue;
+    if (!headed)
+      std::printf("\n%-16s %10s %8s %8s %8s  %s\n", "sessions of", "ended", "won", "even", "lost", "log");
+    headed = true;
+    std::printf("%-16s %10s %8s %8s %8s  %s\n", game.table.seats[seat].SeatName.c_str(),
+                FormatMoney(Currency::Dollars(tally.Sessions)).c_str(),
+                ShareText(tally.Won, tally.Sessions).c_str(),
+                ShareText(tally.BrokeEven, tally.Sessions).c_str(),
+                ShareText(tally.Lost, tally.Sessions).c_str(), SessionsLogPath(game, seat).c_str());
+  }
+}
+
 void PrintReport(const Game& game, const Json& run) {
   const auto whole = [](const Json& number) {
     return FormatMoney(Currency::Dollars(number.get<std::int64_t>()));
@@ -88,6 +124,7 @@ void PrintReport(const Game& game, const Json& run) {
                 money("bankrollStart").c_str(), money("bankroll").c_str(), money("onTable").c_str(),
                 money("wagered").c_str(), wagered > 0 ? 100 * net / wagered : 0.0);
   }
+  PrintSessions(game);
   PrintErrors(game);
 }
 
@@ -135,6 +172,7 @@ int Run(const RunOptions& options) {
   if (!unwritten.empty()) Fail(AsLines(unwritten));
   if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
+  if (Json sessions = SessionsJson(*game); !sessions.empty()) run["sessions"] = std::move(sessions);
   if (const Json errors = ErrorsJson(*game); !errors.empty()) run["scriptErrors"] = errors;
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());

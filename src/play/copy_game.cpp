@@ -22,6 +22,7 @@ std::unique_ptr<Game> CopyGame(const Game& game, Host& host) {
   auto copy = std::make_unique<Game>(game);
   copy->host = &host;
   copy->events.RecordEventsActive = false;
+  copy->sessions.Files.Off = true;
   TableState& table = copy->table;
   table.RollInProgress = table.AutoRollActive = table.TurboRollActive = false;
   AutoBet& autobet = copy->autobet;

@@ -14,6 +14,7 @@
 #include "state/seat_parts.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
+#include "stats/sessions_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -89,6 +90,7 @@ void ForEachPartOfASeat(Game& game, Part&& part) {
   ForEachSeatPart(game.stats, part);
   ForEachSeatPart(game.autobet, part);
   ForEachSeatPart(game.events, part);
+  part([&game](int seat) -> auto& { return game.sessions.Files.Tally[seat]; });
 }
 
 }  // namespace
@@ -129,7 +131,7 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   ListSeated(table);
   StartBankroll(game, seat, bankroll);
   table.seats[seat].BankrollInitAmount = bankroll;
-  table.seats[seat].SessionsLogName = game.dataFolder + Lower(name) + ".slg";
+  table.seats[seat].SessionsLogName = DefaultSessionsLogName(game, name);
   if (table.ShooterSeat == 0) {
     table.ShooterSeat = seat;
     if (HandRolls(game.stats) == 0) table.HandSeat = seat;
@@ -265,6 +267,7 @@ void LeaveTable(Game& game, int seat) {
   TableState& table = game.table;
   if (!IsOccupied(table, seat)) return;
   LogLeaving(game, seat, ContractMoney(table, seat).total);
+  AppendSessionRecord(game, seat);
   ClearSeat(game, seat);
   RecomputeMasterScriptFlag(game.autobet);
   game.autobet.ScriptsCompiled = false;
@@ -272,10 +275,12 @@ void LeaveTable(Game& game, int seat) {
   if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
   if (table.HandSeat == seat && handRolled) table.HandSeat = 0;
   if (table.PreviousHandSeat == seat) table.PreviousHandSeat = 0;
+  if (game.sessions.SessionsSeat == seat) game.sessions.SessionsSeat = 0;
   if (table.SelectedSeat == seat) table.SelectedSeat = NextOccupied(table, seat);
   game.host->Changed(game, Change::kPlayers);
   if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
   RequireConsistency(game);
+  TellSessionsLogFault(game);
 }
 
 bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& error) {
@@ -305,8 +310,10 @@ bool RenamePlayer(Game& game) {
   if (Lower(old) == Lower(name)) return true;
   if (ShowMessage(game, "Rename Sessions Log",
                   "Would you also like to change " + name + "'s sessions log filename?",
-                  kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-    game.table.seats[seat].SessionsLogName = game.dataFolder + Lower(name) + ".slg";
+                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+    return true;
+  const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
+  if (!problem.empty()) ShowMessage(game, "Rename Sessions Log", problem);
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include "state/game.h"
 #include "state/run_stop.h"
 #include "stats/events_log.h"
+#include "stats/sessions_log.h"
 
 namespace tessaryn {
 namespace {
@@ -33,6 +34,7 @@ std::string FinishScriptOutput(Game& game, int seat) {
 
 void FlushTableFiles(Game& game) {
   FlushEventsLog(game);
+  WriteWaitingSessions(game);
   if (!FlushRollFile(game.rollFile)) ReportRecorderFault(game);
 }
 
@@ -52,6 +54,7 @@ std::string EndGame(Game& game) {
     if (problem.empty()) problem = what;
   };
   note(CloseRecording(game.rollFile));
+  note(CloseSessionsLogs(game));
   for (int seat = 1; seat <= kSeats; ++seat) note(FinishScriptOutput(game, seat));
   return problem;
 }

@@ -1,4 +1,5 @@
-// The files that a table writes while it plays: the Events Log, the recording, what scripts put out.
+// The files that a table writes while it plays: the Events Log, the Sessions Logs, the recording, what
+// scripts put out.
 #pragma once
 
 #include <string>

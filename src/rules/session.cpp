@@ -1,8 +1,6 @@
 #include "rules/session.h"
 
 #include <algorithm>
-#include <cctype>
-#include <filesystem>
 
 #include "dice/roll_file.h"
 #include "rules/bet_limits.h"
@@ -10,17 +8,14 @@
 #include "rules/consistency.h"
 #include "rules/seed_rng.h"
 #include "state/game.h"
+#include "state/run_stop.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
+#include "stats/sessions_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
-
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
 
 // A contract bet that the session leaves behind is the house's: what has ridden. What was added since is no
 // contract yet and goes back with the other bets.
@@ -38,16 +33,6 @@ void AbandonContracts(Game& game) {
       for (const int bet : {static_cast<int>(kPassLine), static_cast<int>(kSevenPoint7)})
         Abandon(game, seat, bet);
     for (int bet = kCome4; bet < kCome4 + 6; ++bet) Abandon(game, seat, bet);
-  }
-}
-
-void StartSessionsLogs(Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!IsOccupied(game.table, seat)) continue;
-    std::string& name = game.table.seats[seat].SessionsLogName;
-    name = game.dataFolder + Lower(game.table.seats[seat].SeatName) + ".slg";
-    std::error_code ignored;
-    std::filesystem::remove(name, ignored);
   }
 }
 
@@ -139,7 +124,8 @@ void SetRollFile(Game& game, int choice) {
 void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool keepSessionsLogs,
                 int rollFileChoice) {
   if (!game.settings.ReturnAbandonedBets) AbandonContracts(game);
-  if (!keepSessionsLogs) StartSessionsLogs(game);
+  for (int seat = 1; seat <= kSeats; ++seat) AppendSessionRecord(game, seat);
+  const std::string undeleted = keepSessionsLogs ? "" : RemoveSessionsLogs(game);
   StartSessionStatistics(game);
   if (!keepPrevSessions) ClearPreviousSessions(game);
   ClearBets(game, keepCheckstacks);
@@ -158,6 +144,9 @@ void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool ke
   game.autobet.RollFileEndReached = false;
   game.host->Changed(game, Change::kEverything);
   RequireConsistency(game);
+  // The table is whole again and may be looked at.
+  TellSessionsLogFault(game);
+  if (!undeleted.empty()) ReportError(game, undeleted, kPathAccessError, "NewSession");
 }
 
 }  // namespace tessaryn

@@ -16,6 +16,7 @@ void ReportError(Game& game, const std::string& text, int number, const char* la
 // The box that tells the reason of a Turbo-Roll that stopped.
 inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
 inline constexpr int kOverflowError = 6;
+inline constexpr int kPathAccessError = 75;
 inline constexpr const char* kOverflowText = "Overflow";
 
 }  // namespace tessaryn

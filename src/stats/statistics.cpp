@@ -237,11 +237,14 @@ std::string RollItemName(int item) { return RollItemText(item); }
 void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow) {
   BetStats& row = stats.Bets[0][seat][kCurrentHand];
   if (clearRow) row = BetStats{};
-  for (int bet = firstBet; bet <= lastBet; ++bet)
+  for (int bet = firstBet; bet <= lastBet; ++bet) {
+    // What was never decided has nothing to add, and that is most bets.
+    if (BetStat(stats, kWagerStats, scope, seat, bet, kStatCount) == kZero) continue;
     for (int table = 0; table < kStatTables; ++table)
       for (int kind = 0; kind < 6; ++kind)
         row.kinds[table][kind] +=
             BetStat(stats, static_cast<StatTable>(table), scope, seat, bet, static_cast<StatKind>(kind + 1));
+  }
 }
 
 std::string LastHandNote(const Game& game, int scope) {

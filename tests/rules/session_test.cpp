@@ -58,7 +58,6 @@ struct RunningTable : TestTable {
     test::WriteFile(folder.File("Dice.rol"), rolls);
     EXPECT_EQ(OpenRollFile(game->rollFile, folder.File("Dice.rol")), "");
     EXPECT_EQ(SetRecorderState(game->rollFile, kRecorderPlayback), "");
-    test::WriteFile(folder.File("ann.slg"), "old sessions");
     Bet(kAnn, kPassLine, "10");
     Bet(kAnn, kAllSmall, "1");
     Bet(kBob, kSevenPoint7, "3");
