@@ -18,6 +18,7 @@ void AddConvertCommand(CLI::App& program, int& exitCode);
 void AddAdvantageCommand(CLI::App& program, int& exitCode);
 void AddProbabilitiesCommand(CLI::App& program, int& exitCode);
 void AddRollsCommand(CLI::App& program, int& exitCode);
+void AddGameCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);

@@ -56,6 +56,7 @@ int main(int argc, char** argv) {
   AddAdvantageCommand(program, exitCode);
   AddProbabilitiesCommand(program, exitCode);
   AddRollsCommand(program, exitCode);
+  AddGameCommand(program, exitCode);
   HoldStandardStreams();
   tessaryn::NoteSignals();
   for (int i = 1; i < argc; ++i)
