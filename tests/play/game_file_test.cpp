@@ -153,7 +153,7 @@ struct RandomTable : test::TestTable {
     Set("CheckValue.1", Pick(2) == 0 ? "1" : "0.5");
     game->events.RecordEventsActive = true;
     for (int seat = 1; seat <= kSeats; ++seat) {
-      Handling& handling = game->table.handling[seat];
+      Handling& handling = game->table.seats[seat].handling;
       handling.WinHandling = 1 + Pick(7);
       handling.LoseHandling = 1 + Pick(7);
       handling.AutoTakeOdds = Pick(2) == 0;
@@ -256,8 +256,8 @@ struct ReferringTable : test::TestTable {
     SetScript(*game, 2, {"bet 5 on field"}, "");
     EXPECT_TRUE(SaveScript(*game, 2, folder.File("ann.bet"), error)) << error;
     SetScriptActive(*game, 2, true);
-    game->table.SessionsLogName[2] = folder.File("sessions.slg");
-    test::WriteFile(game->table.SessionsLogName[2], "log");
+    game->table.seats[2].SessionsLogName = folder.File("sessions.slg");
+    test::WriteFile(game->table.seats[2].SessionsLogName, "log");
     EXPECT_TRUE(SaveGame(*game, gamePath, error)) << error;
   }
 };
@@ -308,7 +308,7 @@ TEST(GameFile, EachFileThatItRefersToHasItsToldCheck) {
     EXPECT_EQ(game.percentage.ProbMatrix == FairProbabilities(), gone && name == "loaded.prb");
     EXPECT_EQ(game.events.Path.empty(), name == "log.txt");
     EXPECT_EQ(game.autobet.ScriptActive[2], !(gone && name == "ann.bet"));
-    EXPECT_EQ(game.table.SessionsLogName[2],
+    EXPECT_EQ(game.table.seats[2].SessionsLogName,
               name == "sessions.slg" ? game.dataFolder + "ann.slg" : saved.folder.File("sessions.slg"));
   }
 }
@@ -448,7 +448,7 @@ TEST(GameFile, FilesOfOthersAreToldApart) {
     EXPECT_NE(table.host.LastText().find(text), std::string::npos) << table.host.LastText();
   }
   table.Join(1, "Ann");
-  table.game->table.SessionsLogName[1] = "/" + std::string(200, 'x');
+  table.game->table.seats[1].SessionsLogName = "/" + std::string(200, 'x');
   EXPECT_FALSE(SaveGame(*table.game, path, error));
   EXPECT_NE(error.find("Ann's Sessions Log"), std::string::npos) << error;
   EXPECT_EQ(test::ReadFile(path), cases[3].first);
