@@ -19,6 +19,7 @@ void AddAdvantageCommand(CLI::App& program, int& exitCode);
 void AddProbabilitiesCommand(CLI::App& program, int& exitCode);
 void AddRollsCommand(CLI::App& program, int& exitCode);
 void AddSessionsCommand(CLI::App& program, int& exitCode);
+void AddGameCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);

@@ -57,6 +57,7 @@ int main(int argc, char** argv) {
   AddProbabilitiesCommand(program, exitCode);
   AddRollsCommand(program, exitCode);
   AddSessionsCommand(program, exitCode);
+  AddGameCommand(program, exitCode);
   HoldStandardStreams();
   tessaryn::NoteSignals();
   for (int i = 1; i < argc; ++i)

@@ -8,7 +8,6 @@
 #include "cli/play_terminal.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
-#include "play/table_files.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -32,8 +31,7 @@ int PlayPipe(const PlayOptions& options) {
     std::cout << answer.dump(-1, ' ', false, Json::error_handler_t::replace) << std::endl;
     if (session.Ended() || !std::cout) break;
   }
-  const std::string unwritten = EndGame(*game);
-  return unwritten.empty() ? kDone : Fail(AsLines(unwritten));
+  return EndTable(*game, options.table) ? kDone : kBad;
 }
 
 int Play(const PlayOptions& options) {

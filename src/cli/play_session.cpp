@@ -14,6 +14,7 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
+#include "play/game_file.h"
 #include "play/players.h"
 #include "play/script_session.h"
 #include "play/setting_table.h"
@@ -470,6 +471,22 @@ bool State(Call& call) {
   return true;
 }
 
+bool SaveIt(Call& call) {
+  if (!WantWords(call, 2, 99, "save FILE")) return false;
+  const std::string path = Joined(call.words, 1, call.words.size());
+  if (!SaveGame(call.game, path, call.error)) return false;
+  call.answer["file"] = path;
+  return true;
+}
+
+bool OpenIt(Call& call) {
+  if (!WantWords(call, 2, 99, "open FILE")) return false;
+  const std::string path = Joined(call.words, 1, call.words.size());
+  if (!OpenGame(call.game, path)) return call.Bad(path + ": the game can't be opened");
+  call.answer["caption"] = GameCaption(call.game);
+  return true;
+}
+
 bool Stats(Call& call) {
   int seat = 0;
   int scope = 0;
@@ -527,6 +544,8 @@ constexpr Handler kHandlers[] = {
     {{"probabilities", "FILE|off", "percentage dice from a file, or none"}, LoadProbabilities},
     {{"rollfile", "FILE play|record|off", "a dice roll file; rollfile off closes it"}, UseRollFile},
     {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack},
+    {{"save", "FILE", "writes the game to a file"}, SaveIt},
+    {{"open", "FILE", "opens a game in place of the table"}, OpenIt},
     {{"plot", "SEAT", "the bankroll graph's points"}, Plot},
     {{"answer", "yes|no|ok|cancel|VALUE ...", "answers the next questions in advance"}, Answer},
     {{"state", "", "the table"}, State},

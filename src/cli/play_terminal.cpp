@@ -23,7 +23,6 @@
 #include "play/hot_keys.h"
 #include "play/script_session.h"
 #include "play/setting_table.h"
-#include "play/table_files.h"
 #include "rules/bet_rules.h"
 #include "rules/check_stacks.h"
 #include "rules/handling.h"
@@ -365,8 +364,7 @@ int PlayTerminal(const TableOptions& options) {
   }
   std::printf("\n");
   write_history(historyFile.c_str());
-  const std::string unwritten = EndGame(*game);
-  return unwritten.empty() ? kDone : Fail(AsLines(unwritten));
+  return EndTable(*game, options) ? kDone : kBad;
 }
 
 }  // namespace tessaryn::cli

@@ -107,10 +107,12 @@ void PrintReport(const Game& game, const Json& run) {
               whole(table["comeoutRolls"]).c_str(), whole(table["passes"]).c_str(),
               whole(table["misses"]).c_str());
   std::printf("\n%8s %14s %9s\n", "total", "rolls", "percent");
+  // A game that was opened brings its own rolls along.
+  double rolls = 0;
+  for (const Json& count : table["totals"]) rolls += count.get<double>();
   for (const auto& [total, count] : table["totals"].items())
-    std::printf(
-        "%8s %14s %8.3f%%\n", total.c_str(), whole(count).c_str(),
-        run["rolls"].get<double>() > 0 ? 100.0 * count.get<double>() / run["rolls"].get<double>() : 0.0);
+    std::printf("%8s %14s %8.3f%%\n", total.c_str(), whole(count).c_str(),
+                rolls > 0 ? 100.0 * count.get<double>() / rolls : 0.0);
   if (run["seats"].empty()) return;
   std::printf("\n%-16s %14s %14s %14s %16s %9s\n", "player", "start", "bankroll", "on table", "wagered",
               "result");
@@ -157,19 +159,22 @@ int Run(const RunOptions& options) {
   RunFigures figures;
   for (int seat = 1; seat <= kSeats; ++seat) figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
   // Nobody is there to be asked: scripts are initialised, so that they can bet before the first roll.
-  if (game->autobet.ScriptActive[0] && !InitialiseScripts(*game)) return Fail("a script can't be run");
-  host.rollTarget = options.rolls;
+  // Those of a game file were, when the game began.
+  const bool initialise = options.table.game.empty() || !options.table.scripts.empty();
+  if (initialise && game->autobet.ScriptActive[0] && !InitialiseScripts(*game))
+    return Fail("a script can't be run");
+  const std::int64_t before = Throws(game->stats);
+  host.rollTarget = before + options.rolls;
   const auto start = Clock::now();
   {
     ProgressBar bar(options.rolls);
-    host.progress = [&bar](Game& running) { bar.Update(Throws(running.stats)); };
+    host.progress = [&](Game& running) { bar.Update(Throws(running.stats) - before); };
     if (options.rolls > 0 && !Interrupted()) ToggleAutoRoll(*game);
   }
   figures.seconds = SecondsSince(start);
-  figures.rolls = Throws(game->stats);
+  figures.rolls = Throws(game->stats) - before;
   figures.stopReason = game->table.StopReason;
-  const std::string unwritten = EndGame(*game);
-  if (!unwritten.empty()) Fail(AsLines(unwritten));
+  const bool written = EndTable(*game, options.table);
   if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
   if (Json sessions = SessionsJson(*game); !sessions.empty()) run["sessions"] = std::move(sessions);
@@ -178,7 +183,7 @@ int Run(const RunOptions& options) {
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
-  return unwritten.empty() && EveryScriptCouldAct(*game) ? kDone : kBad;
+  return written && EveryScriptCouldAct(*game) ? kDone : kBad;
 }
 
 }  // namespace

@@ -14,10 +14,13 @@
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
+#include "play/game_file.h"
+#include "play/game_file_records.h"
 #include "play/players.h"
 #include "play/setting_table.h"
 #include "play/settings_file.h"
 #include "play/start_up.h"
+#include "play/table_files.h"
 #include "rules/payoffs.h"
 #include "rules/seed_rng.h"
 #include "stats/events_log.h"
@@ -27,6 +30,9 @@ namespace tessaryn::cli {
 void AddTableOptions(CLI::App& command, TableOptions& options) {
   options.writes = true;
   command.add_option("--data-folder", options.dataFolder, "Folder of everything that is written");
+  command.add_option("--game", options.game,
+                     "A game file to start from; other options then change its table");
+  command.add_option("--save-game", options.saveGame, "Write the game to this file at the end");
   command.add_option("--player", options.players, "A player, NAME=BANKROLL; the k-th takes seat k")
       ->take_all()
       ->allow_extra_args(false);
@@ -89,6 +95,16 @@ bool Told(const std::string& what) {
   return false;
 }
 
+bool OpenTheGame(Game& game, const TableOptions& options) {
+  if (options.game.empty()) return true;
+  std::unique_ptr<Game> read;
+  GameReferences references;
+  const GameFileProblem problem =
+      ReadGame(*game.host, game.applicationFolder, options.game, read, references);
+  if (problem.Found()) return Told("--game " + options.game + ": " + ProblemLine(problem));
+  return OpenGame(game, options.game) || Told("--game " + options.game + ": it can't be opened");
+}
+
 bool SeatPlayers(Game& game, const TableOptions& options) {
   int seat = 0;
   for (const std::string& player : options.players) {
@@ -141,6 +157,12 @@ bool ApplySettings(Game& game, const std::vector<WantedSetting>& wanted, bool of
   const std::size_t problem = FindSettingProblem(game, changes, error);
   if (problem < changes.size()) return Told(where[problem] + error);
   return SetSettings(game, changes, error) || Told("--set: " + error);
+}
+
+bool WriteLogTo(Game& game, const std::string& path) {
+  if (path.empty()) return true;
+  game.events.Path = path;
+  return game.events.RecordEventsActive = true;
 }
 
 bool SeedDice(Game& game, const TableOptions& options) {
@@ -204,6 +226,7 @@ bool CheckTargets(Game& game, const TableOptions& options) {
   if (!options.rollFile.empty() && !options.recordFile.empty())
     return Told("--roll-file and --record can't be used together: a table has one dice roll file");
   const Target targets[] = {{"--save-settings ", options.saveSettings},
+                            {"--save-game ", options.saveGame},
                             {"--events-log ", options.eventsLog},
                             {"--record ", options.recordFile},
                             {"--roll-file ", options.rollFile}};
@@ -303,16 +326,31 @@ bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
 
 }  // namespace
 
+std::string ProblemLine(const GameFileProblem& problem) {
+  std::string line;
+  for (const char c : problem.text) {
+    const bool blank = c == '\r' || c == ' ';
+    if (!blank) line += c;
+    if (blank && !line.empty() && line.back() != ' ') line += ' ';
+  }
+  return problem.reason.empty() ? line : line + " (" + problem.reason + ")";
+}
+
+bool EndTable(Game& game, const TableOptions& options) {
+  std::string error;
+  const bool saved = options.saveGame.empty() || SaveGame(game, options.saveGame, error) ||
+                     Told("--save-game: " + AsLines(error));
+  const std::string unwritten = EndGame(game);
+  return (unwritten.empty() || Told(AsLines(unwritten))) && saved;
+}
+
 std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options) {
   std::unique_ptr<Game> game = StartGame(
       host, ApplicationFolder(), options.dataFolder.empty() ? DefaultDataFolder() : options.dataFolder);
   game->events.Held = true;
-  if (!options.eventsLog.empty()) {
-    game->events.Path = options.eventsLog;
-    game->events.RecordEventsActive = true;
-  }
   std::vector<WantedSetting> wanted;
-  const bool good = CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
+  const bool good = OpenTheGame(*game, options) && WriteLogTo(*game, options.eventsLog) &&
+                    CollectSettings(options, wanted) && ApplySettings(*game, wanted, false) &&
                     SeatPlayers(*game, options) && ApplySettings(*game, wanted, true) &&
                     PermitScripts(*game, options.permits) && SeedDice(*game, options) &&
                     LoadDice(*game, options) && PlayRollFile(*game, options) &&

@@ -7,12 +7,15 @@
 #include <vector>
 
 #include "cli/cli_host.h"
+#include "play/game_file.h"
 #include "state/game.h"
 
 namespace tessaryn::cli {
 
 struct TableOptions {
   std::string dataFolder;
+  std::string game;                   // a game file to start from
+  std::string saveGame;               // where the game is written at the end
   bool writes = false;                // the table is played: it needs a folder that no other program has
   std::vector<std::string> players;   // NAME=BANKROLL
   std::vector<std::string> settings;  // NAME=VALUE, NAME@SEAT=VALUE
@@ -35,6 +38,12 @@ void AddSettingsFileOptions(CLI::App& command, TableOptions& options);
 
 // A table as the options want it. Null, with the reason told on standard error, when one of them is bad.
 std::unique_ptr<Game> SetUpTable(CliHost& host, const TableOptions& options);
+
+// What is wrong with a game file, on one line.
+std::string ProblemLine(const GameFileProblem& problem);
+// The end of a table: the game is written if that was asked for, and every file closed. False, with the
+// reason told on standard error, when something is not on the disk.
+bool EndTable(Game& game, const TableOptions& options);
 
 // NAME=VALUE or NAME@SEAT=VALUE. False without a "=", or with a seat that is no number.
 bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value);
