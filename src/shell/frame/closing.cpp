@@ -5,9 +5,13 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
+#include "play/game_file.h"
+#include "play/hot_keys.h"
 #include "play/script_session.h"
 #include "play/table_files.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/game_files.h"
+#include "shell/frame/places.h"
 #include "shell/screens/file_chooser.h"
 #include "state/game.h"
 
@@ -57,13 +61,56 @@ bool SaveProbabilitiesFirst(Desk& desk) {
   return false;
 }
 
-bool MayClose(Desk& desk) {
+bool StopRunFirst(Desk& desk) {
   const Game& game = desk.game;
-  if (!AskBeforeCommand(desk.game) && (game.table.AutoRollActive || game.autobet.ScriptRunning)) return false;
-  return SaveScriptsFirst(desk) && SaveProbabilitiesFirst(desk);
+  return AskBeforeCommand(desk.game) || !(game.table.AutoRollActive || game.autobet.ScriptRunning);
 }
 
-std::string WriteFinalFiles(Desk& desk) {
+bool SaveOwnFilesFirst(Desk& desk) { return SaveScriptsFirst(desk) && SaveProbabilitiesFirst(desk); }
+
+bool MayClose(Desk& desk) {
+  return SaveOwnFilesFirst(desk) && SaveSessionFirst(desk, Leaving::kToTheDefault);
+}
+
+namespace {
+
+// Those that another window has added since are kept.
+bool WriteChangedHotKeys(const Game& game, std::string& error) {
+  const std::string path = game.dataFolder + kHotKeysFile;
+  std::vector<HotKey> filed;
+  if (!ReadHotKeys(path, filed, error)) return false;
+  const std::vector<HotKey> before = filed;
+  for (const HotKey& key : game.screen.HotKeys)
+    if (!AddHotKey(filed, key, error)) return false;
+  return filed == before || WriteHotKeys(path, filed, error);
+}
+
+std::string WriteGame(Desk& desk) {
+  KeepScreen(desk);
+  // If the program goes on after all, the table still belongs to its own file.
+  const GameFileState file = desk.game.file;
+  std::string error;
+  const bool written = SaveDefaultGame(desk.game, error);
+  desk.game.file = file;
+  if (!written) return error;
+  return WriteChangedHotKeys(desk.game, error) ? std::string() : error;
+}
+
+}  // namespace
+
+std::string KeepGameUnasked(Desk& desk) { return desk.keeps ? WriteGame(desk) : std::string(); }
+
+bool KeepGame(Desk& desk) {
+  const std::string problem = KeepGameUnasked(desk);
+  return problem.empty() ||
+         ShowMessage(desk.game, "Error",
+                     problem +
+                         "\r\rWhat has changed at the table since the last start will be lost.\r\rDo you "
+                         "want to close it all the same?",
+                     kMsgYes | kMsgNo | kMsgAlert, 640) == kResultYes;
+}
+
+std::string CloseFiles(Desk& desk) {
   const std::string problem = EndGame(desk.game);
   std::error_code gone;
   std::filesystem::remove(desk.game.ownFolder + kRollCopyFile, gone);

@@ -8,10 +8,11 @@
 #include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
-#include <QScreen>
-#include <QSettings>
+#include <QMimeData>
+#include <QSessionManager>
 #include <QStatusBar>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cstdio>
@@ -19,9 +20,13 @@
 
 #include "base/program_folders.h"
 #include "play/auto_roll.h"
+#include "play/game_file.h"
+#include "play/hot_keys.h"
 #include "play/players.h"
 #include "shell/frame/closing.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/game_files.h"
+#include "shell/frame/places.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
 #include "shell/table/amount_selector.h"
@@ -34,6 +39,9 @@
 namespace tessaryn {
 
 namespace {
+
+constexpr int kLookAgain = 20;    // milliseconds between two looks whether a roll has ended
+constexpr int kToldFor = 10'000;  // milliseconds that a line stays at the window's foot
 
 template <typename Work>
 void ForEachCommand(const Work& work) {
@@ -55,17 +63,34 @@ const CommandRow* PlainKeyCommand(int key) {
 MainWindow::MainWindow(Game& game, ShellHost& host)
     : game_(game), host_(host), desk_{.game = game, .host = host, .window = this} {
   setObjectName("frmCrapTable");
+  setAcceptDrops(true);
   desk_.refresh = [this] { RefreshCommands(); };
+  desk_.showGame = [this] { ShowGame(); };
+  desk_.keeps = CanWriteIn(game_.dataFolder);
+  desk_.recentGames = ReadRecentGames(game_.dataFolder);
   setWindowIcon(ProgramIcon());
   BuildBody();
   BuildMenu();
   ConnectTable();
   ConnectHost();
   Retranslate();
-  std::string error;
-  if (!ReadHotKeys(game_.dataFolder + kHotKeysFile, desk_.hotKeys, error))
-    QTimer::singleShot(0, this, [this, error] { ShowMessage(game_, "Hot-Keys", error); });
   RefreshCommands();
+  StartAutosaves();
+  connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
+    const bool mayAsk = manager.allowsInteraction();
+    if (!KeepForSessionEnd(mayAsk)) manager.cancel();
+    if (mayAsk) manager.release();
+  });
+}
+
+void MainWindow::StartAutosaves() {
+  auto* timer = new QTimer(this);
+  timer->setInterval(kAutosaveMinutes * 60'000);
+  connect(timer, &QTimer::timeout, this, [this] {
+    autosaveDue_ = true;
+    if (!IsUnderWay()) Autosave();
+  });
+  timer->start();
 }
 
 MainWindow::~MainWindow() {
@@ -75,6 +100,7 @@ MainWindow::~MainWindow() {
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
   host_.askSettlement = nullptr;
+  host_.betweenRolls = nullptr;
 }
 
 void MainWindow::BuildBody() {
@@ -86,7 +112,7 @@ void MainWindow::BuildBody() {
   column->addWidget(table_, 1);
   auto* bar = new QHBoxLayout;
   bar->setContentsMargins(4, 2, 4, 2);
-  amounts_ = new AmountSelector(game_, body);
+  amounts_ = desk_.amounts = new AmountSelector(game_, body);
   controls_ = new RunControls(body);
   bar->addWidget(amounts_);
   bar->addStretch();
@@ -146,7 +172,6 @@ QAction* MainWindow::Command(const char* name) const {
 }
 
 void MainWindow::Retranslate() {
-  setWindowTitle(tr("Tessaryn"));
   for (std::size_t n = 0; n < menus_.size(); ++n)
     menus_[n]->setTitle(QCoreApplication::translate("Commands", CommandMenus()[n].title));
   ForEachCommand([this](const CommandRow& command) {
@@ -173,7 +198,9 @@ void MainWindow::RunCommand(const CommandRow& command) {
   // A pending bet amount is taken before anything else happens.
   if (!table_->CommitEntry()) return;
   if (command.run == InRun::kAsksFirst && !AskBeforeCommand(game_)) return RefreshCommands();
+  ++working_;
   command.act(desk_);
+  --working_;
   RefreshCommands();
 }
 
@@ -196,6 +223,15 @@ void MainWindow::RefreshCommands() {
   controls_->Refresh(game_);
   RefreshTools(desk_);
   ShowTableStatus();
+  ShowCaption();
+}
+
+// The desktop puts the program's name behind the title of every window that hasn't got it there: so it is
+// that of the table.
+void MainWindow::ShowCaption() {
+  const QString caption = FromCore(GameCaption(game_));
+  QGuiApplication::setApplicationDisplayName(caption);
+  setWindowTitle(runEndedUnseen_ ? tr("Tessaryn Turbo-Roll Stopped") : caption);
 }
 
 void MainWindow::ShowTableStatus() {
@@ -242,6 +278,7 @@ void MainWindow::ConnectHost() {
   host_.beforeBox = [this] { ShowState(); };
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
   host_.showWin = [this](Game&) { table_->RainChecks(); };
+  host_.betweenRolls = [this](Game&) { Autosave(); };
   host_.showProgress = [this](Game& game) { turbo_->Refresh(game); };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
     return AskSettleBet(this, game, question);
@@ -249,6 +286,8 @@ void MainWindow::ConnectHost() {
 }
 
 void MainWindow::OnChanged(Change change) {
+  changed_ = true;
+  agreed_ = false;
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
@@ -275,6 +314,11 @@ void MainWindow::ShowState() {
 }
 
 void MainWindow::OnRunChanged() {
+  // Nobody looks at a run of hours: what was there before it is kept.
+  if (game_.table.AutoRollActive && !game_.table.RollInProgress) {
+    autosaveDue_ = true;
+    Autosave();
+  }
   const bool turbo = game_.table.TurboRollActive;
   if (turbo && !turbo_->isVisible()) {
     turbo_->setGeometry(table_->rect());
@@ -288,10 +332,7 @@ void MainWindow::OnRunChanged() {
     table_->PlaceDice();
     table_->Refresh();
   }
-  if (isMinimized() && !game_.table.AutoRollActive)
-    setWindowTitle(tr("Tessaryn Turbo-Roll Stopped"));
-  else
-    setWindowTitle(tr("Tessaryn"));
+  runEndedUnseen_ = isMinimized() && !game_.table.AutoRollActive;
   RefreshCommands();
 }
 
@@ -389,72 +430,136 @@ bool MainWindow::HotKeyPressed(QKeyEvent* event) {
   const bool digit = key >= Qt::Key_0 && key <= Qt::Key_9;
   if (!letter && !digit) return false;
   const char typed = static_cast<char>(letter ? 'a' + (key - Qt::Key_A) : '0' + (key - Qt::Key_0));
-  const bool known = std::any_of(desk_.hotKeys.begin(), desk_.hotKeys.end(),
-                                 [&](const HotKey& hot) { return hot.key == typed; });
+  const std::vector<HotKey> hotKeys = game_.screen.HotKeys;
+  const bool known =
+      std::any_of(hotKeys.begin(), hotKeys.end(), [&](const HotKey& hot) { return hot.key == typed; });
   if (!known || !AskBeforeCommand(game_)) return known;
-  PressHotKey(game_, desk_.hotKeys, typed);
+  ++working_;
+  PressHotKey(game_, hotKeys, typed);
+  --working_;
   table_->Refresh();
   RefreshCommands();
   return true;
 }
 
-// --- The end.
+// --- Start and end.
+
+void MainWindow::OpenAtStart(const std::string& argument) {
+  starting_ = true;
+  host_.window = nullptr;  // questions stand alone until the window is there
+  std::string error;
+  if (!ReadHotKeys(game_.dataFolder + kHotKeysFile, game_.screen.HotKeys, error))
+    ShowMessage(game_, "Hot-Keys", error);
+  if (!OfferAutosave(game_)) OpenFirstGame(game_, argument);
+  if (!game_.file.Path.empty()) NoteRecentGame(desk_, game_.file.Path);
+  host_.window = this;
+  starting_ = false;
+  PlaceMainWindow(desk_);
+  ShowGame();
+  changed_ = false;
+  if (game_.table.ShooterSeat != 0 && game_.table.Point == 0) host_.PlaySound(game_, Sound::kComeOut);
+}
+
+void MainWindow::ShowGame() {
+  screenPending_ = !isVisible();
+  if (!screenPending_) {
+    PlaceMainWindow(desk_);
+    ShowScreen(desk_);
+  }
+  desk_.movingSeat = 0;
+  table_->scene.movingPlayer = false;
+  amounts_->RefreshChecks();
+  table_->RebuildLayout();
+  table_->PlaceDice();
+  table_->Refresh();
+  RefreshCommands();
+}
+
+// The view can be restored only into a window that has its size.
+void MainWindow::showEvent(QShowEvent* event) {
+  QMainWindow::showEvent(event);
+  if (std::exchange(screenPending_, false)) ShowScreen(desk_);
+}
 
 void MainWindow::TellIfNothingIsKept() {
-  desk_.keeps = CanWriteIn(game_.dataFolder);
   if (desk_.keeps) return;
   ShowMessage(game_, "Data Folder",
               "Nothing can be written into the data folder\r\r" + game_.dataFolder +
-                  "\r\rNothing will be kept: what goes there, as hot-keys, logs and the window's place, ends "
-                  "with the program. The option --data-folder names another folder.",
+                  "\r\rNothing will be kept: what goes there, as the game, hot-keys and logs, ends with the "
+                  "program. The option --data-folder names another folder.",
               kMsgOk | kMsgAlert, 640);
 }
 
-std::string MainWindow::Finish() {
-  const std::string problem = WriteFinalFiles(desk_);
-  if (desk_.keeps) SaveWindow();
-  return problem;
+bool MainWindow::IsUnderWay() const {
+  return game_.table.RollInProgress || game_.autobet.ScriptInitializing || working_ > 0;
+}
+
+// A game is written between rolls only, so that it can go on where it stood.
+void MainWindow::Autosave() {
+  if (!autosaveDue_ || !desk_.keeps || closing_ || starting_) return;
+  autosaveDue_ = false;
+  if (!std::exchange(changed_, false)) return;
+  KeepScreen(desk_);
+  std::string error;
+  if (!AutosaveGame(game_, error)) statusBar()->showMessage(FromCore(error), kToldFor);
+}
+
+bool MainWindow::KeepForSessionEnd(bool mayAsk) {
+  if (mayAsk && !(StopRunFirst(desk_) && MayClose(desk_))) return false;
+  agreed_ = mayAsk;
+  // The close that follows waits for the roll's end.
+  if (IsUnderWay()) return true;
+  if (mayAsk) return KeepGame(desk_);
+  if (const std::string problem = KeepGameUnasked(desk_); !problem.empty())
+    std::fprintf(stderr, "tessaryn: %s\n", problem.c_str());
+  return true;
 }
 
 void MainWindow::CloseUnasked() {
   if (closing_) return;
   closing_ = true;
-  if (const std::string problem = Finish(); !problem.empty())
-    std::fprintf(stderr, "tessaryn: %s\n", problem.c_str());
+  for (const std::string& problem : {KeepGameUnasked(desk_), CloseFiles(desk_)})
+    if (!problem.empty()) std::fprintf(stderr, "tessaryn: %s\n", problem.c_str());
   close();
 }
 
+// What is under way goes on below this: the close comes again when it has ended.
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (closing_) return event->accept();
-  if (!MayClose(desk_)) return event->ignore();
-  closing_ = true;
-  if (const std::string problem = Finish(); !problem.empty()) ShowMessage(game_, "Error", problem);
+  event->ignore();
+  if (std::exchange(asking_, true)) return;
+  if (StopRunFirst(desk_)) {
+    if (IsUnderWay())
+      QTimer::singleShot(kLookAgain, this, &QWidget::close);
+    else
+      closing_ = (agreed_ || MayClose(desk_)) && KeepGame(desk_);
+  }
+  asking_ = false;
+  if (!closing_) return;
+  if (const std::string problem = CloseFiles(desk_); !problem.empty()) ShowMessage(game_, "Error", problem);
   event->accept();
-  QMainWindow::closeEvent(event);
 }
 
-// The first window, and what the desktop puts round it at most.
-constexpr QSize kFirstSize(1280, 800);
-constexpr QSize kFrame(16, 40);
+// --- Files dropped on the window.
 
-void MainWindow::RestoreWindow() {
-  QSettings settings(FromCore(game_.dataFolder) + "window.ini", QSettings::IniFormat);
-  if (!restoreGeometry(settings.value("geometry").toByteArray()))
-    resize(kFirstSize.boundedTo(screen()->availableGeometry().size() - kFrame));
-  const Currency amount = ParseMoney(settings.value("clickAmount").toString().toStdString());
-  if (amount > kZero) amounts_->SetAmount(amount);
-  table_->scene.showAmounts = settings.value("showAmounts", false).toBool();
-  game_.settings.DisableAllSound = !settings.value("sound", true).toBool();
-  RefreshCommands();
+namespace {
+QString DroppedFile(const QMimeData& data) {
+  const QList<QUrl> urls = data.urls();
+  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+}  // namespace
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(*event->mimeData()).isEmpty()) event->acceptProposedAction();
 }
 
-void MainWindow::SaveWindow() const {
-  QSettings settings(FromCore(game_.dataFolder) + "window.ini", QSettings::IniFormat);
-  settings.setValue("geometry", saveGeometry());
-  settings.setValue("clickAmount", QString::fromStdString(PlainMoney(amounts_->Amount())));
-  settings.setValue("showAmounts", table_->scene.showAmounts);
-  settings.setValue("sound", !game_.settings.DisableAllSound);
-  settings.sync();
+// Its questions wait until the program that it comes from has been let go.
+void MainWindow::dropEvent(QDropEvent* event) {
+  const std::string path = DroppedFile(*event->mimeData()).toStdString();
+  event->acceptProposedAction();
+  QTimer::singleShot(0, this, [this, path] {
+    if (IsFree(desk_) && table_->CommitEntry() && AskBeforeCommand(game_)) OpenGameFile(desk_, path);
+  });
 }
 
 }  // namespace tessaryn

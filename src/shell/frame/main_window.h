@@ -32,16 +32,25 @@ class MainWindow : public QMainWindow {
   // Menu entry by its name ("mnuRollDice"); null for none.
   QAction* Command(const char* name) const;
 
-  // The window's place and the chosen check as the last session left them.
-  void RestoreWindow();
+  // The game that the program was started with, or else the last one, with the windows where they were; to be
+  // called before the window is shown. Its questions come first.
+  void OpenAtStart(const std::string& argument);
+  // Until that has returned nothing is lost when the program is ended at once.
+  bool IsStarting() const { return starting_; }
+  // A roll or a command hasn't ended yet.
+  bool IsUnderWay() const;
   // As closing it, but without questions: what can't be written is told on standard error.
   void CloseUnasked();
-  void SaveWindow() const;
+  // The desktop's session ends. False refuses that. mayAsk: whether the desktop lets the user be asked.
+  bool KeepForSessionEnd(bool mayAsk);
   // The box for a data folder that can't be written; the end then writes nothing into it.
   void TellIfNothingIsKept();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
@@ -68,8 +77,12 @@ class MainWindow : public QMainWindow {
   void ShowPointer(int bet);
   void ShowTableStatus();
   bool HotKeyPressed(QKeyEvent* event);
-  // Writes what is kept; what went wrong, as a text.
-  std::string Finish();
+  void ShowCaption();
+  // Everything as the game has it that was just opened.
+  void ShowGame();
+  void StartAutosaves();
+  // Writes the autosave if it is due and something has changed. Requires that the table is between two rolls.
+  void Autosave();
 
   Game& game_;
   ShellHost& host_;
@@ -83,6 +96,14 @@ class MainWindow : public QMainWindow {
   std::map<std::string, QAction*> actions_;
   std::vector<QMenu*> menus_;
   bool refreshPending_ = false;
+  int working_ = 0;              // commands that haven't returned
+  bool screenPending_ = false;   // the view and the tool windows wait until the window is shown
+  bool runEndedUnseen_ = false;  // while the window was minimised
+  bool changed_ = false;         // since the last autosave
+  bool autosaveDue_ = false;
+  bool starting_ = false;
+  bool asking_ = false;  // the questions of the end
+  bool agreed_ = false;  // they have been answered, and nothing has changed since
   bool closing_ = false;
 };
 

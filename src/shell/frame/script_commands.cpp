@@ -1,6 +1,7 @@
 #include <cctype>
 #include <filesystem>
 
+#include "play/hot_keys.h"
 #include "play/script_session.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
@@ -76,8 +77,8 @@ void ChooseHotKey(Desk& desk) {
                    std::filesystem::path(path).stem().string()};
   // Those that another window has added since are kept.
   const std::string file = game.dataFolder + kHotKeysFile;
-  if (!ReadHotKeys(file, desk.hotKeys, error) || !AddHotKey(desk.hotKeys, key, error) ||
-      (desk.keeps && !WriteHotKeys(file, desk.hotKeys, error)))
+  if (!ReadHotKeys(file, game.screen.HotKeys, error) || !AddHotKey(game.screen.HotKeys, key, error) ||
+      (desk.keeps && !WriteHotKeys(file, game.screen.HotKeys, error)))
     ShowMessage(game, "Hot-Keys", error);
 }
 

@@ -4,7 +4,6 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
-#include <string_view>
 
 #include "base/record_file.h"
 #include "shell/frame/desk.h"
@@ -47,7 +46,7 @@ ToolWindow* MakeMovePanel(Desk& desk) {
 }
 
 struct ToolRow {
-  const char* name;
+  int number;
   ToolWindow* (*make)(Desk&);
 };
 constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
@@ -74,29 +73,44 @@ QString CsvField(QString text) {
 
 }  // namespace
 
-ToolWindow& Tool(Desk& desk, const char* name) {
-  QPointer<ToolWindow>& tool = desk.tools[name];
+ToolWindow& Tool(Desk& desk, int number) {
+  QPointer<ToolWindow>& tool = desk.tools[number];
   for (const ToolRow& row : kTools)
-    if (tool == nullptr && std::string_view(row.name) == name) {
+    if (tool == nullptr && row.number == number) {
       tool = row.make(desk);
+      tool->SetPlace(desk.game.screen.ToolWindows[number]);
       OfferRows(desk, *tool);
     }
   return *tool;
 }
 
-void ToggleTool(Desk& desk, const char* name) {
-  ToolWindow& tool = Tool(desk, name);
+void ToggleTool(Desk& desk, int number) {
+  ToolWindow& tool = Tool(desk, number);
   tool.setVisible(!tool.isVisible());
 }
 
-bool ToolIsShown(const Desk& desk, const char* name) {
-  const auto found = desk.tools.find(name);
-  return found != desk.tools.end() && found->second != nullptr && found->second->isVisible();
+bool ToolIsShown(const Desk& desk, int number) {
+  return desk.tools[number] != nullptr && desk.tools[number]->isVisible();
 }
 
 void RefreshTools(const Desk& desk) {
-  for (const auto& [name, tool] : desk.tools)
+  for (const auto& tool : desk.tools)
     if (tool != nullptr && tool->isVisible()) tool->Refresh();
+}
+
+void KeepTools(Desk& desk) {
+  for (int number = 0; number < kToolWindows; ++number)
+    if (desk.tools[number] != nullptr) desk.game.screen.ToolWindows[number] = desk.tools[number]->Place();
+}
+
+void PlaceTools(Desk& desk) {
+  for (const ToolRow& row : kTools) {
+    const WindowPlace& place = desk.game.screen.ToolWindows[row.number];
+    if (desk.tools[row.number] == nullptr && !place.Open) continue;
+    ToolWindow& tool = Tool(desk, row.number);
+    tool.SetPlace(place);
+    tool.setVisible(place.Open);
+  }
 }
 
 void PrintRows(const ToolWindow& window) {

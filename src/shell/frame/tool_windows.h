@@ -1,5 +1,5 @@
-// The tool windows: a row for each in the table of tool_windows.cpp, by which commands and game files know
-// it.
+// The tool windows: a row for each in the table of tool_windows.cpp, with the number by which commands and
+// game files know it (ToolWindowNumber).
 #pragma once
 
 namespace tessaryn {
@@ -7,16 +7,16 @@ namespace tessaryn {
 struct Desk;
 class ToolWindow;
 
-inline constexpr const char* kRollPadWindow = "frmRYON";
-inline constexpr const char* kMoveWindow = "frmMove";
-
-// The window of the name, made when it isn't there yet.
-ToolWindow& Tool(Desk& desk, const char* name);
+// The window of a number, made when it isn't there yet.
+ToolWindow& Tool(Desk& desk, int number);
 // Shows it, or hides it when it is shown.
-void ToggleTool(Desk& desk, const char* name);
-bool ToolIsShown(const Desk& desk, const char* name);
+void ToggleTool(Desk& desk, int number);
+bool ToolIsShown(const Desk& desk, int number);
 // Those that are shown are brought to the state.
 void RefreshTools(const Desk& desk);
+// Their places into the game, and from it: those that were open are opened.
+void KeepTools(Desk& desk);
+void PlaceTools(Desk& desk);
 
 // Asks where to, and does it. What is wrong is told.
 void PrintRows(const ToolWindow& window);

@@ -2,17 +2,23 @@
 #pragma once
 
 #include <QList>
-#include <QPoint>
 #include <QStringList>
 #include <QWidget>
 
+#include "state/screen_state.h"
+
 namespace tessaryn {
 
-// Keeps its place while it is hidden. A key that it has no use for goes to the window it belongs to.
+// Its place is kept while it is hidden, and in the game file. A key that it has no use for goes to the window
+// it belongs to.
 class ToolWindow : public QWidget {
  public:
-  // name: the object name, by which the window is known to the commands and to the game file.
   ToolWindow(const char* name, QWidget* parent);
+
+  // Where it is, or was when it was last shown.
+  WindowPlace Place() const;
+  // Where it is shown next, on a screen that is there; at once if it is shown. Doesn't open it.
+  void SetPlace(const WindowPlace& place);
 
   // The state changed, as by a roll. Called while the window is shown, and before it is.
   virtual void Refresh() {}
@@ -25,8 +31,9 @@ class ToolWindow : public QWidget {
   void hideEvent(QHideEvent* event) override;
 
  private:
-  QPoint place_;
-  bool placed_ = false;
+  void TakePlace();
+
+  WindowPlace place_;
 };
 
 }  // namespace tessaryn
