@@ -21,7 +21,7 @@ read -r number <&3
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR=$folder
 # A closed program has windows and fonts that it never gives back: only what it writes over or past is a fault.
 export ASAN_OPTIONS=detect_leaks=0:halt_on_error=1 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
-game= manager=
+game="" manager=""
 finish() {
   for process in $game $manager $server; do kill "$process" 2>/dev/null || true; done
   wait 2>/dev/null || true
