@@ -1,9 +1,11 @@
 #include "shell/frame/game_files.h"
 
 #include <QSettings>
+#include <memory>
 
 #include "base/record_file.h"
 #include "play/game_file.h"
+#include "play/game_file_records.h"
 #include "shell/frame/closing.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/places.h"
@@ -54,10 +56,11 @@ bool SaveSessionFirst(Desk& desk, Leaving leaving) {
 }
 
 void OpenGameFile(Desk& desk, const std::string& path) {
-  std::vector<GameFileFact> facts;
-  std::string error;
+  std::unique_ptr<Game> looked;
+  GameReferences unused;
   // A file that can't be opened is told by the opening itself, which then leaves the table as it is.
-  const bool good = DescribeGameFile(path, facts, error);
+  const bool good = !ReadGame(desk.host, desk.game.applicationFolder, path, looked, unused).Found();
+  looked.reset();
   if (good && !(SaveOwnFilesFirst(desk) && SaveSessionFirst(desk, Leaving::kForAnother))) return;
   if (!OpenGame(desk.game, path)) return;
   NoteRecentGame(desk, path);

@@ -498,7 +498,8 @@ bool MainWindow::IsUnderWay() const {
 void MainWindow::Autosave() {
   if (!autosaveDue_ || !desk_.keeps || closing_ || starting_) return;
   autosaveDue_ = false;
-  if (!std::exchange(changed_, false)) return;
+  // A Turbo-Roll tells of its end only.
+  if (!std::exchange(changed_, false) && !game_.table.AutoRollActive) return;
   KeepScreen(desk_);
   std::string error;
   if (!AutosaveGame(game_, error)) statusBar()->showMessage(FromCore(error), kToldFor);
