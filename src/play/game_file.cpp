@@ -61,7 +61,7 @@ FileReference ReferenceTo(const std::string& path) {
 }
 
 std::string DefaultSessionsLog(const Game& game, int seat) {
-  return game.dataFolder + Lower(game.table.SeatName[seat]) + ".slg";
+  return game.dataFolder + Lower(game.table.seats[seat].SeatName) + ".slg";
 }
 
 // --- What a game refers to.
@@ -75,7 +75,7 @@ GameReferences ReferencesOf(const Game& game, const std::string& probabilityFile
   if (!game.events.Path.empty() || Exists(log)) references.eventsLog = ReferenceTo(log);
   for (int seat = 1; seat <= kSeats; ++seat) {
     references.script[seat] = ReferenceTo(game.autobet.Scripts[seat].ScriptFileName);
-    references.sessionsLog[seat] = ReferenceTo(game.table.SessionsLogName[seat]);
+    references.sessionsLog[seat] = ReferenceTo(game.table.seats[seat].SessionsLogName);
   }
   return references;
 }
@@ -97,7 +97,7 @@ std::string ReferencesProblem(const Game& game, const GameReferences& references
   look("the path of the probability file", references.probability.path);
   look("the path of the Events Log", references.eventsLog.path);
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const std::string& name = game.table.SeatName[seat];
+    const std::string& name = game.table.seats[seat].SeatName;
     if (name.empty()) continue;
     look("the name of seat " + std::to_string(seat), name);
     look("the path of " + name + "'s auto-bet file", references.script[seat].path);
@@ -375,7 +375,7 @@ void DropScript(Game& game, int seat) {
 
 void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
   SeatScript& script = game.autobet.Scripts[seat];
-  const std::string& name = game.table.SeatName[seat];
+  const std::string& name = game.table.seats[seat].SeatName;
   script.ScriptFileName = reference.path;
   if (reference.path.empty()) return;
   if (!Exists(reference.path)) {
@@ -401,12 +401,12 @@ void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
 }
 
 void OpenReferredSessionsLog(Game& game, int seat, const FileReference& reference) {
-  std::string& log = game.table.SessionsLogName[seat];
+  std::string& log = game.table.seats[seat].SessionsLogName;
   log = reference.path;
   if (reference.date.empty() || Exists(reference.path)) return;
   log = DefaultSessionsLog(game, seat);
   ShowMessage(game, "Sessions Log Not Found",
-              "The following Sessions Log for " + game.table.SeatName[seat] + " was not found: \r\r" +
+              "The following Sessions Log for " + game.table.seats[seat].SeatName + " was not found: \r\r" +
                   reference.path + "\r\r" +
                   (Exists(log) ? "The following existing Sessions Log will be opened instead:"
                                : "The following new Sessions Log will be created and opened instead:") +

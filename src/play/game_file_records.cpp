@@ -119,7 +119,7 @@ class RecordsOut {
   }
   int NextSeat(const Game& game, int seat) {
     do ++seat;
-    while (seat <= kSeats && game.table.SeatName[seat].empty());
+    while (seat <= kSeats && game.table.seats[seat].SeatName.empty());
     return seat;
   }
   bool Failed() const { return false; }
@@ -470,7 +470,7 @@ void Layout(Io& io, GameType& game, Screen& screen) {
   io.Long(screen.BetAmountMode);
   io.Long(screen.HotKeysEnabled);
   io.EndLongs();
-  WorkingDefaults(io, game.table.BetDefaultWorking[0]);
+  WorkingDefaults(io, game.table.seats[0].BetDefaultWorking);
 }
 
 // --- Blocks 5 to 11.
@@ -554,11 +554,11 @@ void SeatMoney(Io& io, GameType& game, int seat) {
   auto& table = game.table;
   auto& stats = game.stats;
   io.Money(table.BankrollCurrent[seat]);
-  io.Money(table.OnTableAmount[seat]);
-  io.Money(table.RailAmount[seat]);
+  io.Money(table.seats[seat].OnTableAmount);
+  io.Money(table.seats[seat].RailAmount);
   io.Money(table.BankrollBeforeRoll[seat]);
   io.Money(table.BankrollAfterRoll[seat]);
-  io.Money(table.AtmLogged[seat]);
+  io.Money(table.seats[seat].AtmLogged);
   io.Money(stats.BankrollRollSum[seat]);
   io.Money(stats.BankrollSessionStart[seat]);
   for (auto* values : {&stats.BankrollBeginning, &stats.BankrollHigh, &stats.BankrollLow})
@@ -566,9 +566,9 @@ void SeatMoney(Io& io, GameType& game, int seat) {
   io.MoneyTo(kSeatPlace);
   int number = seat;
   io.Money(number);
-  io.Money(table.AllowNegativeBankroll[seat]);
-  io.Money(table.BankrollInitType[seat]);
-  io.Money(table.BankrollInitAmount[seat]);
+  io.Money(table.seats[seat].AllowNegativeBankroll);
+  io.Money(table.seats[seat].BankrollInitType);
+  io.Money(table.seats[seat].BankrollInitAmount);
   io.EndMoney();
 }
 
@@ -597,11 +597,11 @@ void SeatBets(Io& io, Table& table, int seat) {
     for (int bet = 0; bet < kBetRows; ++bet) io.Money((*amounts)(seat, bet));
     io.EndMoney();
   }
-  for (const auto* working : {&table.BetWorking[seat], &table.BetWorkingBeforeRoll[seat]}) {
+  for (const auto* working : {&table.seats[seat].BetWorking, &table.seats[seat].BetWorkingBeforeRoll}) {
     for (int bet = 0; bet <= 100; ++bet) io.ToldShort(WorkingValue(*working, bet));
     io.EndShorts();
   }
-  WorkingDefaults(io, table.BetDefaultWorking[seat]);
+  WorkingDefaults(io, table.seats[seat].BetDefaultWorking);
 }
 
 template <typename Io, typename GameType>
@@ -615,7 +615,7 @@ void SeatStatistics(Io& io, GameType& game, int seat) {
                                             static_cast<StatKind>(kind)));
     io.EndMoney();
   }
-  for (auto& stack : game.table.VisibleStacks[seat]) io.Long(stack);
+  for (auto& stack : game.table.seats[seat].VisibleStacks) io.Long(stack);
   for (int bet = 0; bet <= 100; ++bet) io.Long(game.table.BetStreak(seat, bet));
   io.EndLongs();
 }
@@ -624,11 +624,11 @@ template <typename Io, typename GameType, typename References>
 void SeatPart(Io& io, GameType& game, References& references, int seat) {
   std::string blank;
   SeatMoney(io, game, seat);
-  io.Name(game.table.SeatName[seat], blank);
+  io.Name(game.table.seats[seat].SeatName, blank);
   Refer(io, references.script[seat]);
   Refer(io, references.sessionsLog[seat]);
   io.ToldText("");  // a log of hands is not kept
-  AutoPlay(io, game.table.handling[seat]);
+  AutoPlay(io, game.table.seats[seat].handling);
   SeatBets(io, game.table, seat);
   SeatStatistics(io, game, seat);
 }

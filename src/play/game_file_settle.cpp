@@ -24,15 +24,15 @@ std::string SettlePlayers(Game& game) {
   const int told = table.OccupiedSeats;
   table.OccupiedSeats = 0;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    const std::string& name = table.SeatName[seat];
+    const std::string& name = table.seats[seat].SeatName;
     if (name.empty()) continue;
     if (!TextProblem(name).empty()) return "the name of seat " + std::to_string(seat);
     for (int other = 1; other < seat; ++other)
-      if (Lower(table.SeatName[other]) == Lower(name)) return "two players named " + name;
+      if (Lower(table.seats[other].SeatName) == Lower(name)) return "two players named " + name;
     table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
   }
   for (int i = table.OccupiedSeats; i < kSeats; ++i) table.Seated[i] = 0;
-  table.SeatName[0] = "House";
+  table.seats[0].SeatName = "House";
   return told == table.OccupiedSeats ? "" : "the count of players";
 }
 
@@ -49,7 +49,7 @@ std::string SettleBets(Game& game) {
   TableState& table = game.table;
   table.AnyBets.Clear();
   std::fill(std::begin(table.SeatsUp), std::end(table.SeatsUp), std::uint8_t{0});
-  for (int seat = 0; seat < kSeatRows; ++seat) table.SeatBets[seat].Clear();
+  for (int seat = 0; seat < kSeatRows; ++seat) table.seats[seat].SeatBets.Clear();
   for (int place = 0; place < kSeats; ++place) {
     const int seat = kPayOrder[static_cast<std::size_t>(place)];
     for (int bet = 0; bet < kBetRows; ++bet) {
@@ -57,7 +57,7 @@ std::string SettleBets(Game& game) {
       if (IsCheckStack(bet) && (amount > kStackLimit || amount < -kStackLimit)) return "a CheckStack";
       if (!IsTableBet(bet) && !IsCheckStack(bet) && amount != kZero) return "a bet that is none";
       if (!IsTableBet(bet) || amount <= kZero) continue;
-      table.SeatBets[seat].Add(bet);
+      table.seats[seat].SeatBets.Add(bet);
       table.AnyBets.Add(bet);
       table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place);
     }

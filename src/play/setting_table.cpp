@@ -39,7 +39,7 @@ struct Entry {
 
 #define TESSARYN_CELL(expression) [](Game& game, [[maybe_unused]] int seat) -> void* { return &(expression); }
 #define TESSARYN_SET(field) TESSARYN_CELL(game.settings.field)
-#define TESSARYN_HANDLING(field) TESSARYN_CELL(game.table.handling[seat].field)
+#define TESSARYN_HANDLING(field) TESSARYN_CELL(game.table.seats[seat].handling.field)
 #define TESSARYN_LOG(field) TESSARYN_CELL(game.events.field)
 
 constexpr double kMost = 9'999'999;
@@ -147,12 +147,12 @@ constexpr Entry kEntries[] = {
     {"AutoDownPlace", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoDownPlace),
      "Place and Buy on a covered number come down"},
     {"AutoPassDice", Kind::kFlag, true, 0, 0, TESSARYN_HANDLING(AutoPassDice), "the seat won't shoot"},
-    {"AllowNegativeBankroll", Kind::kFlag, true, 0, 0, TESSARYN_CELL(game.table.AllowNegativeBankroll[seat]),
-     "bets without money"},
-    {"BankrollInitType", Kind::kWhole, true, 0, 2, TESSARYN_CELL(game.table.BankrollInitType[seat]),
+    {"AllowNegativeBankroll", Kind::kFlag, true, 0, 0,
+     TESSARYN_CELL(game.table.seats[seat].AllowNegativeBankroll), "bets without money"},
+    {"BankrollInitType", Kind::kWhole, true, 0, 2, TESSARYN_CELL(game.table.seats[seat].BankrollInitType),
      "new session: 0 carry, 1 amount, 2 ask"},
     {"BankrollInitAmount", Kind::kMoney, true, -kMost, kMost,
-     TESSARYN_CELL(game.table.BankrollInitAmount[seat]), "new session's bankroll"},
+     TESSARYN_CELL(game.table.seats[seat].BankrollInitAmount), "new session's bankroll"},
     // State, to be read.
     {"Point", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.Point), "0 on a come-out", Access::kState},
     {"LastPoint", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.table.LastPoint), "", Access::kState},
@@ -179,12 +179,13 @@ constexpr Entry kEntries[] = {
     {"RollFileName", Kind::kText, false, 0, 0, TESSARYN_CELL(game.rollFile.RollFileName), "", Access::kState},
     {"RollFileCursor", Kind::kWhole, false, 0, 0, TESSARYN_CELL(game.rollFile.RollFileCursor), "",
      Access::kState},
-    {"SeatName", Kind::kText, true, 0, 0, TESSARYN_CELL(game.table.SeatName[seat]), "", Access::kState},
+    {"SeatName", Kind::kText, true, 0, 0, TESSARYN_CELL(game.table.seats[seat].SeatName), "", Access::kState},
     {"BankrollCurrent", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.BankrollCurrent[seat]), "",
      Access::kState},
-    {"OnTableAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.OnTableAmount[seat]), "",
+    {"OnTableAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.seats[seat].OnTableAmount), "",
      Access::kState},
-    {"RailAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.RailAmount[seat]), "", Access::kState},
+    {"RailAmount", Kind::kMoney, true, 0, 0, TESSARYN_CELL(game.table.seats[seat].RailAmount), "",
+     Access::kState},
 };
 
 #undef TESSARYN_CELL
@@ -357,7 +358,7 @@ std::string TextOf(Game& game, const Entry& entry, int seat) {
 bool ReadRow(Game& game, const RowEntry& entry, int row, int seat, const std::string& text,
              std::string& error) {
   const std::string name = std::string(entry.name) + "." + std::to_string(row);
-  Handling& handling = game.table.handling[seat];
+  Handling& handling = game.table.seats[seat].handling;
   bool flag = false;
   switch (entry.rows) {
     case Rows::kChecks:
@@ -368,7 +369,7 @@ bool ReadRow(Game& game, const RowEntry& entry, int row, int seat, const std::st
       return false;
     case Rows::kDefaultWorking:
       if (!ReadFlag(name, text, flag, error)) return false;
-      game.table.BetDefaultWorking[seat].Set(row, flag);
+      game.table.seats[seat].BetDefaultWorking.Set(row, flag);
       return true;
     case Rows::kCompBets:
       if (!ReadFlag(name, text, flag, error)) return false;
@@ -385,7 +386,7 @@ bool ReadRow(Game& game, const RowEntry& entry, int row, int seat, const std::st
 }
 
 std::string RowText(Game& game, const RowEntry& entry, int row, int seat) {
-  const Handling& handling = game.table.handling[seat];
+  const Handling& handling = game.table.seats[seat].handling;
   const auto onOff = [](bool on) { return std::string(on ? "on" : "off"); };
   switch (entry.rows) {
     case Rows::kChecks:
@@ -393,7 +394,7 @@ std::string RowText(Game& game, const RowEntry& entry, int row, int seat) {
     case Rows::kPayoffs:
       return PayoffText(PayoffRow(game.payoffs, entry.table, row));
     case Rows::kDefaultWorking:
-      return onOff(game.table.BetDefaultWorking[seat].Has(row));
+      return onOff(game.table.seats[seat].BetDefaultWorking.Has(row));
     case Rows::kCompBets:
       return onOff(game.settings.CompBetFlags.Has(row));
     case Rows::kAdjustKind:
@@ -411,11 +412,7 @@ std::string RowText(Game& game, const RowEntry& entry, int row, int seat) {
 struct Before {
   Settings settings;
   PayoffTables payoffs;
-  Handling handling[kSeatRows];
-  bool allowNegative[kSeatRows];
-  int initType[kSeatRows];
-  Currency initAmount[kSeatRows];
-  BetSet defaultWorking[kSeatRows];
+  SeatState seats[kSeatRows];
   bool logFlags[11];
   int generatorIndex;
   bool userSeed;
@@ -430,18 +427,19 @@ bool* LogFlag(EventsLog& log, int i) {
   return flags[i];
 }
 
+void CopySettings(SeatState& to, const SeatState& from) {
+  to.handling = from.handling;
+  to.AllowNegativeBankroll = from.AllowNegativeBankroll;
+  to.BankrollInitType = from.BankrollInitType;
+  to.BankrollInitAmount = from.BankrollInitAmount;
+  to.BetDefaultWorking = from.BetDefaultWorking;
+}
+
 std::unique_ptr<Before> Keep(Game& game) {
   auto before = std::make_unique<Before>();
   before->settings = game.settings;
   before->payoffs = game.payoffs;
-  std::copy(std::begin(game.table.handling), std::end(game.table.handling), before->handling);
-  std::copy(std::begin(game.table.AllowNegativeBankroll), std::end(game.table.AllowNegativeBankroll),
-            before->allowNegative);
-  std::copy(std::begin(game.table.BankrollInitType), std::end(game.table.BankrollInitType), before->initType);
-  std::copy(std::begin(game.table.BankrollInitAmount), std::end(game.table.BankrollInitAmount),
-            before->initAmount);
-  std::copy(std::begin(game.table.BetDefaultWorking), std::end(game.table.BetDefaultWorking),
-            before->defaultWorking);
+  for (int seat = 0; seat < kSeatRows; ++seat) CopySettings(before->seats[seat], game.table.seats[seat]);
   for (int i = 0; i < 11; ++i) before->logFlags[i] = *LogFlag(game.events, i);
   before->generatorIndex = game.generators.GeneratorIndex;
   before->userSeed = game.generators.RngUserSeed;
@@ -452,12 +450,7 @@ std::unique_ptr<Before> Keep(Game& game) {
 void Restore(Game& game, const Before& before) {
   game.settings = before.settings;
   game.payoffs = before.payoffs;
-  std::copy(std::begin(before.handling), std::end(before.handling), game.table.handling);
-  std::copy(std::begin(before.allowNegative), std::end(before.allowNegative),
-            game.table.AllowNegativeBankroll);
-  std::copy(std::begin(before.initType), std::end(before.initType), game.table.BankrollInitType);
-  std::copy(std::begin(before.initAmount), std::end(before.initAmount), game.table.BankrollInitAmount);
-  std::copy(std::begin(before.defaultWorking), std::end(before.defaultWorking), game.table.BetDefaultWorking);
+  for (int seat = 0; seat < kSeatRows; ++seat) CopySettings(game.table.seats[seat], before.seats[seat]);
   for (int i = 0; i < 11; ++i) *LogFlag(game.events, i) = before.logFlags[i];
   game.generators.GeneratorIndex = before.generatorIndex;
   game.generators.RngUserSeed = before.userSeed;
@@ -556,7 +549,7 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
   bool lay = false;
   for (int seat = 1; seat <= kSeats; ++seat) {
     Currency onTable;
-    game.table.SeatBets[seat].ForEach([&](int bet) {
+    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
       const Currency amount = game.table.BetAmount(seat, bet);
       onTable += amount;
       if (VigUpFront(game, bet)) {
@@ -565,8 +558,8 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
       }
     });
     const bool covered =
-        game.table.AllowNegativeBankroll[seat] ||
-        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.OnTableAmount[seat]);
+        game.table.seats[seat].AllowNegativeBankroll ||
+        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.seats[seat].OnTableAmount);
     if (!covered) ++short_;
   }
   if (short_ == 0) return true;
@@ -602,9 +595,9 @@ bool CheckRules(Game& game, const Before& before, std::string& error) {
     return false;
   }
   for (int seat = 1; seat <= kSeats; ++seat) {
-    if (!before.allowNegative[seat] || game.table.AllowNegativeBankroll[seat]) continue;
+    if (!before.seats[seat].AllowNegativeBankroll || game.table.seats[seat].AllowNegativeBankroll) continue;
     if (game.table.BankrollCurrent[seat] >= kZero) continue;
-    error = "Before you can un-check this box, " + game.table.SeatName[seat] +
+    error = "Before you can un-check this box, " + game.table.seats[seat].SeatName +
             " must have a non-negative bankroll. Some options:\r\r -- Make a withdrawal from the ATM";
     return false;
   }
@@ -613,7 +606,8 @@ bool CheckRules(Game& game, const Before& before, std::string& error) {
 
 void OfferHouseStandard(Game& game, const Before& before) {
   TableState& table = game.table;
-  if (table.BetDefaultWorking[0] == before.defaultWorking[0] || table.OccupiedSeats == 0) return;
+  if (table.seats[0].BetDefaultWorking == before.seats[0].BetDefaultWorking || table.OccupiedSeats == 0)
+    return;
   constexpr const char* kTitle = "Work On Come-out Roll";
   if (ShowMessage(game, kTitle,
                   "You've changed the house standard for bets that work on the come-out roll.\r\rNew players "
@@ -624,10 +618,10 @@ void OfferHouseStandard(Game& game, const Before& before) {
     return;
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat) && ShowMessage(game, kTitle,
-                                               "Would you like to make " + table.SeatName[seat] +
+                                               "Would you like to make " + table.seats[seat].SeatName +
                                                    "'s settings match the house standard?",
                                                kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-      table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
+      table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
 }
 
 // Carries out what the new values bring with them. False with the reason: nothing may stay changed.

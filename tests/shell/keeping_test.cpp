@@ -62,7 +62,7 @@ struct Visit {
   Answers answers;
 
   explicit Visit(const QTemporaryDir& folder, std::deque<const char*> buttons = {},
-               const std::string& argument = "")
+                 const std::string& argument = "")
       : game(StartGame(host, test::kBinFolder, folder.path().toStdString())),
         window(std::make_unique<MainWindow>(*game, host)) {
     answers.buttons = std::move(buttons);
@@ -147,7 +147,7 @@ TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
       }
       // Whatever was answered, the table is found as it was left.
       Visit next(folder);
-      EXPECT_EQ(next.game->table.SeatName[3], "Ann");
+      EXPECT_EQ(next.game->table.seats[3].SeatName, "Ann");
       EXPECT_EQ(next.OnField(3), Currency::Dollars(25));
       EXPECT_EQ(next.game->autobet.Scripts[3].ScriptLines, std::vector<std::string>{"bet 10 on field"});
       EXPECT_EQ(next.window->windowTitle(), "Tessaryn");
@@ -164,7 +164,7 @@ TEST(Closing, ADefaultThatCantBeWrittenIsToldAndCanBeRefused) {
   // A folder of the name stands where the game should go.
   ASSERT_TRUE(QDir(folder.path()).mkpath("default.crp/x"));
   EXPECT_FALSE(run.Close({kNo}));
-  EXPECT_EQ(run.game->table.SeatName[3], "Ann");
+  EXPECT_EQ(run.game->table.seats[3].SeatName, "Ann");
   EXPECT_TRUE(run.Close({kYes}));
 }
 
@@ -292,12 +292,12 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
       argument.insert(at, folder.path().toStdString() + "/");
     Visit run(folder, one.buttons, argument);
     EXPECT_EQ(run.answers.titles, one.titles);
-    EXPECT_EQ(run.game->table.SeatName[2], one.player);
+    EXPECT_EQ(run.game->table.seats[2].SeatName, one.player);
     EXPECT_EQ(run.window->windowTitle(), one.caption);
     EXPECT_FALSE(IsThere(folder, "autosave.crp"));
     EXPECT_TRUE(run.Close());
     Visit next(folder);
-    EXPECT_EQ(next.game->table.SeatName[2], one.player) << "it is the last game now";
+    EXPECT_EQ(next.game->table.seats[2].SeatName, one.player) << "it is the last game now";
     next.window->CloseUnasked();
   }
 }
@@ -432,7 +432,7 @@ TEST(GameMenu, AFileDroppedOnTheWindowIsOpened) {
   QDropEvent drop(QPointF(90, 90), Qt::CopyAction, &files, Qt::LeftButton, {});
   run.answers.buttons = {kNo};
   QApplication::sendEvent(run.window.get(), &drop);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return run.game->table.SeatName[5] == "Eve"; }, 5000));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return run.game->table.seats[5].SeatName == "Eve"; }, 5000));
   run.window->CloseUnasked();
 }
 

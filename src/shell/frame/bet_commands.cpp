@@ -8,7 +8,9 @@
 namespace tessaryn {
 namespace {
 
-const BetSet& BetsUp(const Desk& desk) { return desk.game.table.SeatBets[desk.game.table.SelectedSeat]; }
+const BetSet& BetsUp(const Desk& desk) {
+  return desk.game.table.seats[desk.game.table.SelectedSeat].SeatBets;
+}
 
 bool HasCallableBet(const Desk& desk) { return HasPlayer(desk) && BetsUp(desk).Meets(CallableBets()); }
 

@@ -25,10 +25,11 @@ bool SaveScriptsFirst(Desk& desk) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = game.autobet.Scripts[seat];
     if (!IsOccupied(game.table, seat) || !script.Unsaved) continue;
-    const int answer = ShowMessage(
-        game, "Save Auto-Bets?",
-        game.table.SeatName[seat] + "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
-        kAskToSave);
+    const int answer =
+        ShowMessage(game, "Save Auto-Bets?",
+                    game.table.seats[seat].SeatName +
+                        "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
+                    kAskToSave);
     if (answer == kResultCancel) return false;
     if (answer != kResultYes) continue;
     const std::string path = ChooseFile(game, desk.window, kSaveAutoBet, script.ScriptFileName);

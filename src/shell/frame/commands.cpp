@@ -33,7 +33,7 @@ bool HasPlayer(const Desk& desk) {
 bool HasOpenPlace(const Desk& desk) { return IsFree(desk) && desk.game.table.OccupiedSeats < kSeats; }
 
 bool HasBets(const Desk& desk) {
-  return HasPlayer(desk) && !desk.game.table.SeatBets[desk.game.table.SelectedSeat].Empty();
+  return HasPlayer(desk) && !desk.game.table.seats[desk.game.table.SelectedSeat].SeatBets.Empty();
 }
 
 }  // namespace tessaryn

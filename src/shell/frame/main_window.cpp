@@ -238,7 +238,8 @@ void MainWindow::ShowTableStatus() {
   const TableState& table = game_.table;
   QStringList parts{tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats))))};
   parts += table.Point == 0 ? tr("Come-out") : tr("Point %1").arg(table.Point);
-  if (table.ShooterSeat != 0) parts += tr("Shooter: %1").arg(FromCore(table.SeatName[table.ShooterSeat]));
+  if (table.ShooterSeat != 0)
+    parts += tr("Shooter: %1").arg(FromCore(table.seats[table.ShooterSeat].SeatName));
   status_->setText(parts.join("   "));
 }
 

@@ -23,7 +23,7 @@ void MoveSelected(Desk& desk) {
   desk.table->scene.movingPlayer = true;
   desk.table->update();
   ShowMessage(desk.game, "Move Player",
-              "Click the rail where you want to put " + desk.game.table.SeatName[desk.movingSeat] + ".",
+              "Click the rail where you want to put " + desk.game.table.seats[desk.movingSeat].SeatName + ".",
               kMsgOk | kMsgAlert);
 }
 
