@@ -226,7 +226,7 @@ void Window(Io& io, Place& place, bool sized) {
 
 struct WindowRow {
   std::size_t at;
-  ToolWindow window;
+  ToolWindowNumber window;
   bool sized;
 };
 constexpr WindowRow kFirstWindows[] = {{5, kDiceRollFilesWindow, true},

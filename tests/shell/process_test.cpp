@@ -14,6 +14,7 @@
 
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
+#include "play/game_file.h"
 #include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
@@ -146,6 +147,7 @@ class Program {
     return last;
   }
   bool Running() { return process_.state() == QProcess::Running; }
+  void Terminate() { process_.terminate(); }
   bool WaitForEnd() { return process_.waitForFinished(10'000); }
   int ExitCode() const { return process_.exitCode(); }
   QString Complaints() { return process_.readAllStandardError(); }
@@ -168,7 +170,6 @@ struct Places {
   Places() {
     ScreenTable table;
     MainWindow window(*table.game, table.host);
-    window.RestoreWindow();
     window.resize(kWindow);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
@@ -257,12 +258,22 @@ TEST(Program, TwoClicksToAPlayerABetAndARollThenATurboRollAndTheQuestionsOfTheEn
   const long ticks = program.ProcessorTicks();
   QTest::qWait(1500);
   EXPECT_LE(program.ProcessorTicks() - ticks, 2);
+  const QImage left = program.Settled();
   program.Focus("^Tessaryn$");
   program.Key("ctrl+shift+q");
   EXPECT_TRUE(program.WaitForEnd());
   EXPECT_EQ(program.ExitCode(), 0);
   EXPECT_EQ(program.Complaints().toStdString(), "");
-  EXPECT_TRUE(QFile::exists(evening.data.filePath("window.ini")));
+  EXPECT_TRUE(QFile::exists(evening.data.filePath("default.crp")));
+  // The next evening goes on where this one ended.
+  Program next(evening.display, QString(test::kBinFolder) + "/tessaryn",
+               {"--data-folder", evening.data.path()});
+  ASSERT_TRUE(evening.WaitForTable());
+  const QRect place = Around(evening.places.seat, 20);
+  EXPECT_EQ(Differences(next.Settled(), left, place), 0) << "another face at the rail";
+  next.Focus("^Tessaryn$");
+  next.Key("ctrl+shift+q");
+  EXPECT_TRUE(next.WaitForEnd());
 }
 
 TEST(Program, StartsWithoutSoundsGeneratorsOrFontAndSaysSo) {
@@ -352,6 +363,7 @@ TEST(Program, EveryStartHasItsOwnSeed) {
   double earliest = TimeSeed(clocked, MachineTick()).ToDouble();
   constexpr int kStarts = 5;
   for (int start = 1; start <= kStarts; ++start) {
+    QFile::remove(evening.data.filePath(kDefaultGameFile));  // an evening of its own
     Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
                     {"--data-folder", evening.data.path()});
     ASSERT_TRUE(evening.WaitForTable());
@@ -380,7 +392,7 @@ TEST(Program, TheWindowFitsASmallScreen) {
     if (leftLarge) {
       MainWindow large(*table.game, table.host);
       large.resize(1900, 1000);
-      large.SaveWindow();
+      large.close();
     }
     Program program(display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", table.folder.path()});
     const QStringList ask = {"search", "--sync", "--onlyvisible", "--name", "^Tessaryn$", "getwindowgeometry",
@@ -393,6 +405,28 @@ TEST(Program, TheWindowFitsASmallScreen) {
     EXPECT_TRUE(QRect(QPoint(), kSmall).contains(place))
         << place.x() << "," << place.y() << " " << place.width() << "x" << place.height();
   }
+}
+
+// The question of a start has nobody to answer it: what it is about must be there the next time.
+TEST(Program, ASignalAtTheFirstQuestionLeavesTheAutosave) {
+  FirstEvening evening;
+  ASSERT_FALSE(evening.display.Name().isEmpty());
+  const std::string autosave = evening.data.filePath(kAutosaveGameFile).toStdString();
+  {
+    ScreenTable table;
+    table.Join(3, "Ann");
+    std::string error;
+    ASSERT_TRUE(AutosaveGame(*table.game, error)) << error;
+    WriteFile(autosave, ReadFile(AutosavePath(*table.game)));
+  }
+  const std::string kept = ReadFile(autosave);
+  Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
+                  {"--data-folder", evening.data.path()});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000));
+  program.Terminate();
+  EXPECT_TRUE(program.WaitForEnd());
+  EXPECT_EQ(program.ExitCode(), 128 + SIGTERM);
+  EXPECT_EQ(ReadFile(autosave), kept);
 }
 
 // One box says so; the game goes on, and the end asks and writes nothing.

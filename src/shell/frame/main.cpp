@@ -55,7 +55,7 @@ void TellEarlyWords() {
   for (const QString& words : EarlyWords()) std::fprintf(stderr, "%s\n", qPrintable(words));
 }
 
-int RunProgram(QApplication& application, std::string dataFolder) {
+int RunProgram(QApplication& application, std::string dataFolder, const std::string& argument) {
   std::string error;
   const bool named = !dataFolder.empty();
   // Without the usual folder there is a table to play at all the same; it tells that nothing is kept.
@@ -71,12 +71,12 @@ int RunProgram(QApplication& application, std::string dataFolder) {
   Sounds sounds(FromCore(game->applicationFolder));
   host.sounds = &sounds;
   MainWindow window(*game, host);
-  window.RestoreWindow();
   const SignalWatch watch(*game, window);
   QTimer::singleShot(kSplashMilliseconds, &window, [&] {
+    splash.close();
+    window.OpenAtStart(argument);
     window.show();
     window.activateWindow();
-    splash.close();
     TellMissingFiles(*game);
     if (!shared.empty()) ShowMessage(*game, "Data Folder", shared);
     window.TellIfNothingIsKept();
@@ -90,11 +90,13 @@ int RunProgram(QApplication& application, std::string dataFolder) {
 
 int main(int count, char** arguments) {
   CLI::App options{"Tessaryn: a craps table to play at.", "tessaryn"};
-  options.footer("Example: tessaryn --data-folder ~/craps");
+  options.footer("Example: tessaryn --data-folder ~/craps evening.crp");
   options.set_version_flag("--version", TESSARYN_VERSION);
   std::string dataFolder;
   options.add_option("--data-folder", dataFolder, "where everything is written; made if need be")
       ->type_name("DIR");
+  std::string game;
+  options.add_option("game", game, "the game to open; without one the last game goes on")->type_name("FILE");
   QApplication::setApplicationName("tessaryn");
   QApplication::setApplicationDisplayName("Tessaryn");
   // Help needs no screen. All else does; the window system's own options are taken out by the application.
@@ -111,11 +113,13 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   tessaryn::TellEarlyWords();
   options.allow_extras(false);
+  dataFolder.clear();
+  game.clear();
   try {
     options.parse(count, arguments);
   } catch (const CLI::ParseError& problem) {
     options.exit(problem);
     return 2;
   }
-  return tessaryn::RunProgram(application, dataFolder);
+  return tessaryn::RunProgram(application, dataFolder, game);
 }

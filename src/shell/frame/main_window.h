@@ -2,23 +2,20 @@
 #pragma once
 
 #include <QMainWindow>
-#include <QPointer>
 #include <map>
 #include <string>
 #include <vector>
 
-#include "play/hot_keys.h"
-#include "shell/frame/shell_host.h"
+#include "shell/frame/desk.h"
 #include "shell/table/table_widget.h"
 
 class QLabel;
-class QSettings;
+class QMenu;
 
 namespace tessaryn {
 
 class AmountSelector;
-class MovePanel;
-class RollPad;
+struct CommandRow;
 class RunControls;
 class TurboPanel;
 
@@ -31,83 +28,40 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   TableWidget& Table() { return *table_; }
-  TableCommands& Commands() { return commands_; }
+  TableCommands& Commands() { return desk_.commands; }
   // Menu entry by its name ("mnuRollDice"); null for none.
   QAction* Command(const char* name) const;
 
-  // The window's place and the chosen check as the last session left them.
-  void RestoreWindow();
+  // The game that the program was started with, or else the last one, with the windows where they were; to be
+  // called before the window is shown. Its questions come first.
+  void OpenAtStart(const std::string& argument);
+  // Until that has returned nothing is lost when the program is ended at once.
+  bool IsStarting() const { return starting_; }
+  // A roll or a command hasn't ended yet.
+  bool IsUnderWay() const;
   // As closing it, but without questions: what can't be written is told on standard error.
   void CloseUnasked();
-  void SaveWindow() const;
+  // The desktop's session ends. False refuses that. mayAsk: whether the desktop lets the user be asked.
+  bool KeepForSessionEnd(bool mayAsk);
   // The box for a data folder that can't be written; the end then writes nothing into it.
   void TellIfNothingIsKept();
 
-  // --- What the menu's entries do; public for the table of them.
-  void NewGame();
-  void ToggleSound();
-  void AddAPlayer();
-  void RenameSelected();
-  void MoveSelected();
-  void RemoveSelected();
-  void OpenAtm();
-  void OpenAutoPlay();
-  void OpenPadWindow();
-  void OpenMoveWindow();
-  void OpenAbout();
-  void ShowKeys();
-  void Roll();
-  void Pass();
-  void ToggleRun();
-  void SetDelay();
-  void SetStop();
-  void KeyInAmounts();
-  void BuyNext();
-  void CallNextOn();
-  void CallNextOff();
-  void RemoveNext();
-  void MoveNext();
-  void CallAllOn();
-  void CallAllOff();
-  void RemoveAll();
-  void TakeFull();
-  void LayFull();
-  void ShowAmounts();
-  void Flash();
-  void ShowPropositions();
-  void ZoomInView();
-  void ZoomOutView();
-  void RotateView();
-  void WholeView();
-  void LeftEndView();
-  void RightEndView();
-  void OpenScriptFile();
-  void ActivateSelected();
-  void InitialiseAll();
-  void StopScripts();
-  void ChooseHotKey();
-  void OpenProbabilities();
-  void UsePercentageDice();
-  void PlayRollFile();
-  void RecordRollFile();
-  void CloseRollFileNow();
-
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
-  struct CommandFacts;
-  static const CommandFacts kCommands[];
-
   void BuildMenu();
-  void BuildViewMenus();
+  QAction* AddSubmenu(QMenu& menu, const CommandRow& command);
   void BuildBody();
   void ConnectTable();
   void ConnectHost();
   void Retranslate();
-  void RunCommand(const CommandFacts& facts);
+  void RunCommand(const CommandRow& command);
   // Enables and captions everything as the state has it; at once, or with the next events.
   void RefreshCommands();
   void RefreshSoon();
@@ -122,57 +76,35 @@ class MainWindow : public QMainWindow {
   void OnSeatClicked(int seat);
   void ShowPointer(int bet);
   void ShowTableStatus();
-  void ArmAction(int action);
-  void LookAt(QRectF tableArea);
-  void NewView(const char* preset);
   bool HotKeyPressed(QKeyEvent* event);
-  // The questions of the end, in their order. False keeps the program running.
-  bool MayClose();
-  bool SaveScriptsFirst();
-  bool SaveProbabilitiesFirst();
-  // The problem is a text.
-  std::string WriteFinalFiles();
-
-  // --- When a command can act.
-  bool Free() const;  // no roll is under way, or one of a run, which can be asked to stop
-  bool HasPlayer() const;
-  bool HasBets() const;
-  bool HasCallableBet() const;
-  bool HasOpenPlace() const;
-  bool CanMove() const;
-  bool CanPass() const;
-  bool CanAtm() const;
-  bool CanTakeOdds() const;
-  bool CanLayOdds() const;
-  bool Always() const { return true; }
-  bool HasScript() const;
-  bool ScriptsRun() const;
-  bool AnyScript() const;
-  bool HasProbabilities() const;
-  bool RollFileOpen() const;
-  bool CanToggle() const;
+  void ShowCaption();
+  // Everything as the game has it that was just opened.
+  void ShowGame();
+  void StartAutosaves();
+  // Writes the autosave if it is due and something has changed. Requires that the table is between two rolls.
+  void Autosave();
 
   Game& game_;
   ShellHost& host_;
-  TableCommands commands_;
+  Desk desk_;
   TableWidget* table_ = nullptr;
   AmountSelector* amounts_ = nullptr;
   RunControls* controls_ = nullptr;
   TurboPanel* turbo_ = nullptr;
-  QPointer<RollPad> pad_;
-  QPointer<MovePanel> mover_;
   QLabel* pointer_ = nullptr;  // what the pointer is over
   QLabel* status_ = nullptr;   // rolls, point, shooter
   std::map<std::string, QAction*> actions_;
   std::vector<QMenu*> menus_;
-  std::vector<QAction*> saveViews_;
-  std::vector<QAction*> restoreViews_;
-  std::vector<HotKey> hotKeys_;
-  SavedView beforePropositions_;
-  int movingSeat_ = 0;  // the player who waits for a new place; 0 none
   bool refreshPending_ = false;
+  int working_ = 0;              // commands that haven't returned
+  bool screenPending_ = false;   // the view and the tool windows wait until the window is shown
+  bool runEndedUnseen_ = false;  // while the window was minimised
+  bool changed_ = false;         // since the last autosave
+  bool autosaveDue_ = false;
+  bool starting_ = false;
+  bool asking_ = false;  // the questions of the end
+  bool agreed_ = false;  // they have been answered, and nothing has changed since
   bool closing_ = false;
-  bool keeps_ = true;  // the data folder can be written
 };
 
 }  // namespace tessaryn

@@ -37,6 +37,11 @@ bool ShellHost::YieldByClock(Game& game) {
   return Yield(game);
 }
 
+// A script gives way and waits too, at its own places in a roll.
+void ShellHost::TellBetweenRolls(Game& game) {
+  if (betweenRolls && game.table.AutoRollActive && !game.autobet.ScriptRunning) betweenRolls(game);
+}
+
 bool ShellHost::Yield(Game& game) {
   if ((++yields_ % kYieldsPerLook) != 0 && game.table.TurboRollActive && game.settings.RollThrottle == 0)
     return false;
@@ -46,12 +51,14 @@ bool ShellHost::Yield(Game& game) {
     lastProgress_ = now;
     showProgress(game);
   }
+  TellBetweenRolls(game);
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   lastEvents_ = clock_.elapsed();
   return true;
 }
 
-void ShellHost::Wait(Game&) {
+void ShellHost::Wait(Game& game) {
+  TellBetweenRolls(game);
   QEventLoop loop;
   QTimer::singleShot(kWaitStep, &loop, &QEventLoop::quit);
   loop.exec();

@@ -23,6 +23,8 @@ class ShellHost : public Host {
   AnswerQueue answers;
   // Called in a Turbo-Roll ten times a second.
   std::function<void(Game&)> showProgress;
+  // A run stands between two rolls, so that the table is whole. Called many times a second.
+  std::function<void(Game&)> betweenRolls;
   // A box is about to come up: what it stands over is brought up to date, since the state rests until it is
   // answered.
   std::function<void()> beforeBox;
@@ -52,6 +54,8 @@ class ShellHost : public Host {
   void ShowStep(Game& game, const ScriptStep& step) override;
 
  private:
+  void TellBetweenRolls(Game& game);
+
   QElapsedTimer clock_;
   qint64 lastEvents_ = 0;  // when user events were last let in, in milliseconds of the clock
   qint64 lastProgress_ = 0;

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <QApplication>
+#include <cstdlib>
 
 #include "base/interrupts.h"
 #include "play/auto_roll.h"
@@ -41,12 +42,13 @@ SignalWatch::~SignalWatch() {
 void SignalWatch::Heed() {
   game_.autobet.StepMode = game_.autobet.ScriptRunning = false;
   if (game_.table.AutoRollActive) StopRun(game_, "");
+  if (window_.IsStarting()) std::_Exit(SignalExitCode());
   if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr) popup->close();
   if (QWidget* box = QApplication::activeModalWidget(); box != nullptr) {
     box->close();
     return;
   }
-  if (game_.table.RollInProgress || game_.autobet.ScriptInitializing) return;
+  if (window_.IsUnderWay()) return;
   again_.stop();
   window_.CloseUnasked();
   QCoreApplication::exit(SignalExitCode());

@@ -12,6 +12,7 @@ struct Game;
 
 // While it lives, SIGTERM, SIGHUP, SIGPIPE and SIGINT stop the run, close what boxes are open with their safe
 // answer, close the window without its questions, and end the application with 128 and the signal's number.
+// Nothing is lost: the table goes into the default game, with scripts and percentage dice that aren't saved.
 class SignalWatch : public QObject {
  public:
   SignalWatch(Game& game, MainWindow& window);

@@ -3,6 +3,7 @@
 #include <QFileDialog>
 #include <QUrl>
 #include <filesystem>
+#include <vector>
 
 #include "base/record_file.h"
 #include "dice/roll_file.h"
@@ -13,18 +14,33 @@ namespace tessaryn {
 
 namespace fs = std::filesystem;
 
+const FilePurpose kOpenGame{"Open Session File", "Session files (*.crp);;All files (*)", ".crp", false, false,
+                            kGameFolder};
+const FilePurpose kSaveGame{
+    "Save Session File As", "Session files (*.crp);;All files (*)", ".crp", true, true, kGameFolder};
 const FilePurpose kOpenAutoBet{
-    "Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, true};
-const FilePurpose kSaveAutoBet{"Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true,
-                               true};
-const FilePurpose kHotKeyScript{
-    "Select Auto-Bet File for Hot-Key", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, true};
-const FilePurpose kOpenProbabilities{"Open Probability File", "Probability file (*.prb);;All files (*)",
-                                     ".prb", false, false};
-const FilePurpose kSaveProbabilities{"Save Probability File As", "Probability file (*.prb);;All files (*)",
-                                     ".prb", true, true};
+    "Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, kScriptFolder, true};
+const FilePurpose kSaveAutoBet{
+    "Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true, true, kScriptFolder};
+const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key",
+                                "Auto-bet files (*.bet);;All files (*)",
+                                ".bet",
+                                false,
+                                false,
+                                kScriptFolder,
+                                true};
+const FilePurpose kOpenProbabilities{
+    "Open Probability File", "Probability file (*.prb);;All files (*)", ".prb", false, false,
+    kProbabilityFolder};
+const FilePurpose kSaveProbabilities{
+    "Save Probability File As", "Probability file (*.prb);;All files (*)", ".prb", true, true,
+    kProbabilityFolder};
 const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New File",
-                                "Dice roll file (*.rol);;All files (*)", ".rol", false, true};
+                                "Dice roll file (*.rol);;All files (*)",
+                                ".rol",
+                                false,
+                                true,
+                                kRollFileFolder};
 
 std::deque<std::string>& QueuedFileNames() {
   static std::deque<std::string> names;
@@ -36,10 +52,14 @@ std::string SamplesFolder(const Game& game) { return game.applicationFolder + "s
 }  // namespace
 
 std::string StartFolder(const Game& game, const FilePurpose& purpose) {
-  if (!purpose.samples) return game.dataFolder;
-  const fs::path own = game.autobet.Scripts[game.table.SelectedSeat].ScriptFileName;
+  const std::string last = purpose.folder < 0 ? "" : game.screen.Folders[purpose.folder];
+  std::vector<std::string> folders = {last};
+  if (purpose.samples) {
+    const fs::path own = game.autobet.Scripts[game.table.SelectedSeat].ScriptFileName;
+    folders = {own.parent_path().string(), last, SamplesFolder(game)};
+  }
   std::error_code error;
-  for (const std::string& folder : {own.parent_path().string(), SamplesFolder(game)})
+  for (const std::string& folder : folders)
     if (fs::is_directory(folder, error)) return folder;
   return game.dataFolder;
 }
@@ -114,10 +134,12 @@ std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose, 
   while (AskName(game, parent, purpose, name)) {
     std::string path;
     const FileProblem problem = CheckFileName(game, purpose, name, path);
-    if (problem.Found())
+    if (problem.Found()) {
       ShowMessage(game, problem.title, problem.text);
-    else if (MayReplace(game, purpose, path))
+    } else if (MayReplace(game, purpose, path)) {
+      if (purpose.folder >= 0) game.screen.Folders[purpose.folder] = fs::path(path).parent_path().string();
       return path;
+    }
   }
   return {};
 }

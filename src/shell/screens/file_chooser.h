@@ -5,6 +5,8 @@
 #include <deque>
 #include <string>
 
+#include "state/screen_state.h"
+
 class QWidget;
 
 namespace tessaryn {
@@ -18,9 +20,12 @@ struct FilePurpose {
   const char* extension;  // added to a name without one; empty: none
   bool save;              // asks before an existing file is replaced
   bool mayBeNew;          // a file that is opened may also be made
+  int folder = -1;        // ChooserFolder: the one that is remembered for it; -1 none
   bool samples = false;   // there are samples of it
 };
 
+extern const FilePurpose kOpenGame;
+extern const FilePurpose kSaveGame;
 extern const FilePurpose kOpenAutoBet;
 extern const FilePurpose kSaveAutoBet;
 extern const FilePurpose kHotKeyScript;
@@ -33,7 +38,8 @@ extern const FilePurpose kOpenRollFile;
 std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose,
                        const std::string& preset = {});
 
-// The folder that the dialog begins in: for scripts that of the selected player's own, else the samples.
+// The folder that the dialog begins in: for scripts that of the selected player's own; then the one that a
+// file of the kind was last chosen in; then that of the samples.
 std::string StartFolder(const Game& game, const FilePurpose& purpose);
 
 // What is wrong with a name for a purpose: title and text of the box. Found() false for a good one. path is

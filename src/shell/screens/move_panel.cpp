@@ -81,8 +81,7 @@ int KeysHeld() { return KeyMode(QGuiApplication::keyboardModifiers()); }
 
 }  // namespace
 
-MovePanel::MovePanel(QWidget* parent) : ToolWindow(parent) {
-  setObjectName("frmMove");
+MovePanel::MovePanel(QWidget* parent) : ToolWindow("frmMove", parent) {
   setWindowTitle(tr("Move Table"));
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(8, 8, 8, 8);

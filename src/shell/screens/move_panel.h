@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "shell/table/screen_tools.h"
+#include "shell/screens/tool_window.h"
 
 class QGridLayout;
 class QToolButton;

@@ -215,7 +215,7 @@ void PadGrid::keyPressEvent(QKeyEvent* event) {
 // --- The pad.
 
 RollPad::RollPad(Game& game, QWidget* parent)
-    : ToolWindow(parent),
+    : ToolWindow("frmRYON", parent),
       game_(game),
       grid_(new PadGrid(this)),
       counter_(new QLabel(this)),
@@ -223,7 +223,6 @@ RollPad::RollPad(Game& game, QWidget* parent)
       run_(new QPushButton(this)),
       throttle_(new QSlider(Qt::Horizontal, this)),
       speed_(new QLabel(this)) {
-  setObjectName("frmRYON");
   setWindowTitle(tr("Roll Your Own Numbers"));
   counter_->setObjectName("lblRollCounter");
   random_->setObjectName("cmdRandomRoll");

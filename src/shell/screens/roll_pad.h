@@ -6,7 +6,7 @@
 #include <functional>
 
 #include "play/roll_pad.h"
-#include "shell/table/screen_tools.h"
+#include "shell/screens/tool_window.h"
 
 class QLabel;
 class QMenu;
@@ -63,8 +63,7 @@ class RollPad : public ToolWindow {
   // Takes the amount of an open bet entry before anything is rolled. False when that gave a message: the
   // press is dropped then. May be empty.
   std::function<bool()> commitEntry;
-  // The state changed.
-  void Refresh();
+  void Refresh() override;
   PadGrid& Grid() { return *grid_; }
   // The pad takes its new size at once.
   void SetPadLayout(int layout);

@@ -1,6 +1,5 @@
 #include "shell/table/screen_tools.h"
 
-#include <QCoreApplication>
 #include <QDialog>
 #include <QEventLoop>
 #include <QKeyEvent>
@@ -27,11 +26,6 @@ int RunDialog(QDialog& dialog) {
   dialog.activateWindow();
   if (dialog.isVisible()) loop.exec();
   return dialog.result();
-}
-
-void ToolWindow::keyPressEvent(QKeyEvent* event) {
-  if (parentWidget() == nullptr) return QWidget::keyPressEvent(event);
-  QCoreApplication::sendEvent(parentWidget(), event);
 }
 
 MoneyEdit::MoneyEdit(QWidget* parent) : QLineEdit(parent) { setAlignment(Qt::AlignRight); }

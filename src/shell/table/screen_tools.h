@@ -9,7 +9,6 @@
 #include "base/money.h"
 
 class QDialog;
-class QWidget;
 
 namespace tessaryn {
 
@@ -23,15 +22,6 @@ QString MoneyText(Currency value);  // "1,234.50"
 // Opens the dialog window-modally and waits for its end while the rest of the program goes on being drawn.
 // Returns the dialog's result code. The dialog must not delete itself.
 int RunDialog(QDialog& dialog);
-
-// A small window beside the main window. A key that it has no use for goes to the window it belongs to.
-class ToolWindow : public QWidget {
- public:
-  explicit ToolWindow(QWidget* parent) : QWidget(parent, Qt::Tool) {}
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override;
-};
 
 // An entry box that takes only what a money field may hold.
 class MoneyEdit : public QLineEdit {

@@ -8,23 +8,19 @@
 #include <QTransform>
 #include <array>
 
+#include "state/screen_state.h"
+
 namespace tessaryn {
 
-inline constexpr int kMinimumZoom = 500;
-inline constexpr int kMaximumZoom = 5000;
+inline constexpr int kMinimumZoom = kLeastZoom;
+inline constexpr int kMaximumZoom = kMostZoom;
 inline constexpr double kTableUnits = 1248;    // the whole table's width in table units
 inline constexpr double kTableRatio = 0.4487;  // height to width of the whole table
 inline constexpr int kZoomStep = 100;
 inline constexpr int kMoveStep = 50;
-inline constexpr int kSavedViews = 10;
+inline constexpr int kSavedViews = kKeptViews;
 
-// A kept view; empty with a zoom below 500.
-struct SavedView {
-  int TableZoom = 0;
-  int TableAngle = 0;
-  int TableOffsetX = 0;
-  int TableOffsetY = 0;
-};
+using SavedView = KeptView;
 
 // Everything in screen units (device-independent pixels) but the angle. Written by the functions below.
 struct TableView {

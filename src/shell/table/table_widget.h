@@ -41,6 +41,8 @@ class TableWidget : public QWidget {
   void ViewChanged();
   // The whole table, as large as the window shows it.
   void ShowWhole();
+  // It is shown so until the user chooses another view.
+  bool IsFitted() const { return fitted_; }
   // The state changed: amounts, markers, dice, boxes.
   void Refresh();
   // Brings the dice from the shooter to the far end; returns when they lie still. A key or click cuts it

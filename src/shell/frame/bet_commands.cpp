@@ -1,0 +1,90 @@
+#include "base/bet_catalogue.h"
+#include "rules/bet_rules.h"
+#include "shell/frame/commands.h"
+#include "shell/frame/desk.h"
+#include "shell/table/table_widget.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+
+const BetSet& BetsUp(const Desk& desk) {
+  return desk.game.table.seats[desk.game.table.SelectedSeat].SeatBets;
+}
+
+bool HasCallableBet(const Desk& desk) { return HasPlayer(desk) && BetsUp(desk).Meets(CallableBets()); }
+
+bool HasLineOrCome(const Desk& desk, int line, int come4) {
+  return HasPlayer(desk) && ((BetsUp(desk).Has(line) && desk.game.table.Point != 0) ||
+                             BetsUp(desk).Meets(BetRange(come4, come4 + 5)));
+}
+bool CanTakeOdds(const Desk& desk) { return HasLineOrCome(desk, kPassLine, kCome4); }
+bool CanLayOdds(const Desk& desk) { return HasLineOrCome(desk, kDontPass, kDontCome4); }
+
+bool KeysInAmounts(const Desk& desk) { return desk.commands.BetAmountMode == kKeyInAmounts; }
+
+void KeyInAmounts(Desk& desk) {
+  desk.commands.BetAmountMode = KeysInAmounts(desk) ? kAddClickAmount : kKeyInAmounts;
+}
+
+// What the next click on a bet is for.
+template <int action>
+void Arm(Desk& desk) {
+  SetPendingAction(desk.commands, action);
+  desk.table->RefreshPointer();
+}
+
+template <int action>
+bool Armed(const Desk& desk) {
+  return desk.commands.PendingAction == action || (action == kPendingMove && desk.commands.Moving.Bet != 0);
+}
+
+template <bool on>
+void CallAll(Desk& desk) {
+  CallAllBets(desk.game, desk.game.table.SelectedSeat, on);
+}
+
+template <bool lay>
+void FullOdds(Desk& desk) {
+  TakeAllFullOdds(desk.game, desk.game.table.SelectedSeat, lay);
+  desk.table->Refresh();
+}
+
+}  // namespace
+
+std::span<const CommandRow> BetCommands() {
+  constexpr InRun kAsks = InRun::kAsksFirst;
+  static const CommandRow kCommands[] = {
+      {.name = "mnuKeyInBetAmounts",
+       .caption = QT_TRANSLATE_NOOP("Commands", "&Key in bet amounts"),
+       .key = "F9",
+       .act = KeyInAmounts,
+       .ticked = KeysInAmounts},
+      {},
+      {"mnuBuyPlaceBet", QT_TRANSLATE_NOOP("Commands", "&Buy a Place bet"), "F5", kAsks, Arm<kPendingBuy>,
+       HasPlayer, Armed<kPendingBuy>},
+      {"mnuCallBetOn", QT_TRANSLATE_NOOP("Commands", "Call a bet &ON"), "F6", kAsks, Arm<kPendingCallOn>,
+       HasPlayer, Armed<kPendingCallOn>},
+      {"mnuCallBetOff", QT_TRANSLATE_NOOP("Commands", "Call a bet O&FF"), "F7", kAsks, Arm<kPendingCallOff>,
+       HasPlayer, Armed<kPendingCallOff>},
+      {"mnuCallAllBetsOn", QT_TRANSLATE_NOOP("Commands", "Call all bets O&N"), nullptr, kAsks, CallAll<true>,
+       HasCallableBet},
+      {"mnuCallAllBetsOff", QT_TRANSLATE_NOOP("Commands", "&Call all bets OFF"), nullptr, kAsks,
+       CallAll<false>, HasCallableBet},
+      {},
+      {"mnuTakeFullOdds", QT_TRANSLATE_NOOP("Commands", "&Take full odds"), nullptr, kAsks, FullOdds<false>,
+       CanTakeOdds},
+      {"mnuLayFullOdds", QT_TRANSLATE_NOOP("Commands", "&Lay full odds"), nullptr, kAsks, FullOdds<true>,
+       CanLayOdds},
+      {},
+      {"mnuRemoveBet", QT_TRANSLATE_NOOP("Commands", "&Remove a bet"), "Del", kAsks, Arm<kPendingRemove>,
+       HasPlayer, Armed<kPendingRemove>},
+      {"mnuMoveBet", QT_TRANSLATE_NOOP("Commands", "&Move a bet"), nullptr, kAsks, Arm<kPendingMove>,
+       HasPlayer, Armed<kPendingMove>},
+      {"mnuRemoveAllBets", QT_TRANSLATE_NOOP("Commands", "Remove &all bets"), nullptr, kAsks,
+       [](Desk& desk) { RemoveAllBets(desk.game); }, HasBets},
+  };
+  return kCommands;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,86 @@
+#include "shell/frame/game_files.h"
+
+#include <QSettings>
+#include <memory>
+
+#include "base/record_file.h"
+#include "play/game_file.h"
+#include "play/game_file_records.h"
+#include "shell/frame/closing.h"
+#include "shell/frame/desk.h"
+#include "shell/frame/places.h"
+#include "shell/screens/file_chooser.h"
+#include "shell/table/screen_tools.h"
+#include "state/game.h"
+#include "stats/statistics.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kRecentGames = 8;
+constexpr const char* kRecentFile = "recent.ini";
+constexpr const char* kRecentKey = "games";
+
+bool HasSomethingToLose(const Game& game) {
+  return game.table.OccupiedSeats > 0 || SessionRolls(game.stats) > 0;
+}
+
+bool SaveUnder(Desk& desk, const std::string& path) {
+  KeepScreen(desk);
+  if (!SaveGameAndTell(desk.game, path)) return false;
+  NoteRecentGame(desk, path);
+  desk.refresh();
+  return true;
+}
+
+}  // namespace
+
+bool SaveGameFileAs(Desk& desk) {
+  const std::string path = ChooseFile(desk.game, desk.window, kSaveGame, desk.game.file.Path);
+  return !path.empty() && SaveUnder(desk, path);
+}
+
+bool SaveGameFile(Desk& desk) {
+  return desk.game.file.Path.empty() ? SaveGameFileAs(desk) : SaveUnder(desk, desk.game.file.Path);
+}
+
+bool SaveSessionFirst(Desk& desk, Leaving leaving) {
+  Game& game = desk.game;
+  const bool lost = leaving == Leaving::kForAnother && game.file.Path.empty() && HasSomethingToLose(game);
+  if (!lost && !IsSessionUnsaved(game)) return true;
+  const int answer = ShowMessage(game, "Save Session",
+                                 "Your current session has not been saved.\r\rDo you want to save it now?",
+                                 kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+  if (answer != kResultYes) return answer == kResultNo;
+  return SaveGameFile(desk);
+}
+
+void OpenGameFile(Desk& desk, const std::string& path) {
+  std::unique_ptr<Game> looked;
+  GameReferences unused;
+  // A file that can't be opened is told by the opening itself, which then leaves the table as it is.
+  const bool good = !ReadGame(desk.host, desk.game.applicationFolder, path, looked, unused).Found();
+  looked.reset();
+  if (good && !(SaveOwnFilesFirst(desk) && SaveSessionFirst(desk, Leaving::kForAnother))) return;
+  if (!OpenGame(desk.game, path)) return;
+  NoteRecentGame(desk, path);
+  desk.showGame();
+}
+
+QStringList ReadRecentGames(const std::string& dataFolder) {
+  const QSettings settings(FromCore(dataFolder) + kRecentFile, QSettings::IniFormat);
+  return settings.value(kRecentKey).toStringList().mid(0, kRecentGames);
+}
+
+void NoteRecentGame(Desk& desk, const std::string& path) {
+  if (IsDefaultGame(path)) return;
+  const QString name = FromCore(path);
+  desk.recentGames.removeAll(name);
+  desk.recentGames.prepend(name);
+  desk.recentGames = desk.recentGames.mid(0, kRecentGames);
+  if (!desk.keeps) return;
+  QSettings settings(FromCore(desk.game.dataFolder) + kRecentFile, QSettings::IniFormat);
+  settings.setValue(kRecentKey, desk.recentGames);
+}
+
+}  // namespace tessaryn

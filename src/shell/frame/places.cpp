@@ -1,0 +1,97 @@
+#include "shell/frame/places.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+#include <algorithm>
+
+#include "shell/frame/desk.h"
+#include "shell/frame/tool_windows.h"
+#include "shell/table/amount_selector.h"
+#include "shell/table/table_painter.h"
+#include "shell/table/table_widget.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+
+// The first window, and what the desktop puts round it at most.
+constexpr QSize kFirstSize(1280, 800);
+constexpr QSize kFrame(16, 40);
+
+WindowPlace MainPlace(const QWidget& window) {
+  const bool plain = (window.windowState() & (Qt::WindowMaximized | Qt::WindowMinimized)) == 0;
+  const QRect inner = plain ? window.geometry() : window.normalGeometry();
+  const QPoint corner = plain ? window.pos() : inner.topLeft();
+  return {true, corner.y(), corner.x(), inner.width(), inner.height()};
+}
+
+void KeepRails(ScreenState& screen, const Desk& desk) {
+  const TableWidget& table = *desk.table;
+  const auto boxes = PlaceStatusBoxes(desk.game, table.Layout(), table.view, table.font());
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    screen.RailLeft[seat] = static_cast<int>(boxes[seat].left());
+    screen.RailTop[seat] = static_cast<int>(boxes[seat].top());
+  }
+}
+
+}  // namespace
+
+void KeepScreen(Desk& desk) {
+  ScreenState& screen = desk.game.screen;
+  const QWidget& window = *desk.window;
+  screen.MainWindow = window.isMinimized()   ? kMainMinimised
+                      : window.isMaximized() ? kMainMaximised
+                                             : kMainNormal;
+  screen.MainPlace = MainPlace(window);
+  KeepTools(desk);
+  KeepRails(screen, desk);
+  const TableView& view = desk.table->view;
+  // A table that is fitted into the window is so again in one of another size.
+  screen.View = desk.table->IsFitted()
+                    ? KeptView{}
+                    : KeptView{view.TableZoom, view.TableAngle, view.TableOffsetX, view.TableOffsetY};
+  std::copy(view.SavedViews.begin(), view.SavedViews.end(), screen.SavedViews);
+  screen.ShowBetAmounts = desk.table->scene.showAmounts;
+  screen.ShowPropositions = desk.beforePropositions.TableZoom != 0;
+  screen.BetAmountMode = desk.commands.BetAmountMode;
+  screen.ClickAmount = desk.amounts->Amount();
+}
+
+void PlaceMainWindow(Desk& desk) {
+  QWidget& window = *desk.window;
+  const WindowPlace& place = desk.game.screen.MainPlace;
+  const QPoint corner(place.Left, place.Top);
+  const QSize wanted(place.Width, place.Height);
+  const bool placed = !wanted.isEmpty();
+  const QScreen* screen = placed ? QGuiApplication::screenAt(QRect(corner, wanted).center()) : nullptr;
+  const QRect room = (screen != nullptr ? screen : window.screen())->availableGeometry();
+  window.setWindowState(window.windowState() & ~Qt::WindowMaximized);
+  window.resize((placed ? wanted : kFirstSize).boundedTo(room.size() - kFrame));
+  if (screen != nullptr)
+    window.move(std::clamp(corner.x(), room.left(), room.right() + 1 - window.width()),
+                std::clamp(corner.y(), room.top(), room.bottom() + 1 - window.height()));
+  if (desk.game.screen.MainWindow == kMainMaximised)
+    window.setWindowState(window.windowState() | Qt::WindowMaximized);
+}
+
+void ShowScreen(Desk& desk) {
+  const ScreenState& screen = desk.game.screen;
+  TableView& view = desk.table->view;
+  view.TableAngle = 0;
+  ShowView(desk, "mnuViewWhole");
+  desk.view = "";
+  if (screen.ShowPropositions)
+    desk.beforePropositions = {view.TableZoom, view.TableAngle, view.TableOffsetX, view.TableOffsetY};
+  view.SavedViews[0] = screen.View;
+  if (RestoreView(view, 0)) desk.table->ViewChanged();
+  std::copy(std::begin(screen.SavedViews), std::end(screen.SavedViews), view.SavedViews.begin());
+  desk.table->scene.showAmounts = screen.ShowBetAmounts;
+  desk.commands = {};
+  desk.commands.BetAmountMode = screen.BetAmountMode == kKeyInAmounts ? kKeyInAmounts : kAddClickAmount;
+  desk.amounts->SetAmount(screen.ClickAmount);
+  desk.commands.ClickAmount = desk.amounts->Amount();
+  PlaceTools(desk);
+}
+
+}  // namespace tessaryn
