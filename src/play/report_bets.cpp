@@ -1,7 +1,8 @@
 // Bet Results and Bet Trends: what became of the bets.
 #include <algorithm>
 #include <array>
-#include <optional>
+#include <cmath>
+#include <limits>
 
 #include "base/bet_catalogue.h"
 #include "base/number_text.h"
@@ -88,34 +89,36 @@ void AddWithoutNet(ReportTable& report, const char* label, ThreeCells cells) {
               TextCell(kNoValueText)});
 }
 
-using Ratio = std::optional<double>;  // none: nothing to divide by
+// Ratios; not a number where there is nothing to divide by, which shows as no value.
+using Ratios = std::array<double, kStatTables>;
+constexpr double kNoRatio = std::numeric_limits<double>::quiet_NaN();
 
-// Rows of ratios. A side without a value takes nothing from the other.
-void AddRatios(ReportTable& report, const char* label, const std::array<Ratio, kStatTables>& ratios,
-               bool money) {
-  const auto cell = [money](const Ratio& ratio) {
-    if (!ratio) return TextCell(kNoValueText);
-    ReportCell shown = NumberCell(*ratio);
-    if (money && *ratio != 0) shown.tone = *ratio < 0 ? Tone::kLoss : Tone::kGain;
+double OrNothing(double ratio) { return std::isnan(ratio) ? 0 : ratio; }
+
+// A side without a value takes nothing from the other.
+void AddRatios(ReportTable& report, const char* label, const Ratios& ratios, bool money) {
+  const auto cell = [money](double ratio) {
+    ReportCell shown = NumberCell(ratio);
+    if (money && shown.value != 0) shown.tone = ratio < 0 ? Tone::kLoss : Tone::kGain;
     return shown;
   };
-  const Ratio& wins = ratios[kWinStats];
-  const Ratio& losses = ratios[kLossStats];
-  const Ratio net = wins || losses ? Ratio(wins.value_or(0) - losses.value_or(0)) : std::nullopt;
-  const double wagers = ratios[kWagerStats].value_or(0);
+  const double wins = ratios[kWinStats];
+  const double losses = ratios[kLossStats];
+  const bool any = !std::isnan(wins) || !std::isnan(losses);
+  const double net = any ? OrNothing(wins) - OrNothing(losses) : kNoRatio;
   report.Add(kResolved, label,
              {cell(ratios[kWagerStats]), cell(wins), cell(losses), cell(net),
-              net ? NetPercentCell(*net, wagers) : TextCell("")});
+              any ? NetPercentCell(net, OrNothing(ratios[kWagerStats])) : TextCell("")});
 }
 
 // Money divided comes back as money.
-Ratio Quotient(Currency amount, double divisor) {
-  if (divisor == 0 || amount.IsError()) return std::nullopt;
+double Quotient(Currency amount, double divisor) {
+  if (divisor == 0 || amount.IsError()) return kNoRatio;
   return Currency::FromDouble(amount.ToDouble() / divisor).ToDouble();
 }
 
 void AddAverages(const Three& sums, ReportTable& report) {
-  std::array<Ratio, kStatTables> averages;
+  Ratios averages;
   for (std::size_t i = 0; i < averages.size(); ++i)
     averages[i] = Quotient(sums[i].total, sums[i].count.ToDouble());
   AddRatios(report, "Average $", averages, true);
@@ -130,11 +133,11 @@ void AddHourly(const Game& game, int scope, const Three& sums, ReportTable& repo
   }
   const double hours = static_cast<double>(RollCount(game.stats, scope, 0, 0)) / rate;
   const bool any = hours > 0 && sums[kWagerStats].count != kZero;
-  std::array<Ratio, kStatTables> counts;
-  std::array<Ratio, kStatTables> amounts;
-  for (std::size_t i = 0; any && i < counts.size(); ++i) {
-    counts[i] = sums[i].count.ToDouble() / hours;
-    amounts[i] = Quotient(sums[i].total, hours);
+  Ratios counts;
+  Ratios amounts;
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    counts[i] = any ? sums[i].count.ToDouble() / hours : kNoRatio;
+    amounts[i] = any ? Quotient(sums[i].total, hours) : kNoRatio;
   }
   AddRatios(report, "Avg # / hour", counts, false);
   AddRatios(report, "Avg $ / hour", amounts, true);

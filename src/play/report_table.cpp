@@ -1,6 +1,7 @@
 #include "play/report_table.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/number_text.h"
 
@@ -17,7 +18,7 @@ ReportCell CountCell(std::int64_t count) {
   return {NumberText(Currency::Dollars(count), kWholeNumber), static_cast<double>(count)};
 }
 
-ReportCell NumberCell(double value) { return {FewestDecimals(value), value}; }
+ReportCell NumberCell(double value) { return {FewestDecimals(value), std::isfinite(value) ? value : 0}; }
 
 ReportCell MoneyCell(Currency amount) {
   if (amount.IsError()) return {kNoValueText};

@@ -46,7 +46,7 @@ struct ReportTable {
 
 ReportCell TextCell(std::string text);
 ReportCell CountCell(std::int64_t count);
-// With the fewest decimals that keep the value.
+// With the fewest decimals that keep the value; what is no number shows as no value.
 ReportCell NumberCell(double value);
 // Likewise, with the tone of its sign.
 ReportCell MoneyCell(Currency amount);

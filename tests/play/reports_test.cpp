@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cmath>
+#include <functional>
 #include <map>
 #include <random>
 
@@ -69,9 +70,17 @@ struct Thrown {
   std::array<double, kSeatRows> bankroll;  // as it closed
   int Total() const { return die1 + die2; }
 };
+using Amounts = std::array<double, kSeatRows>;
 struct Stretch {
   std::vector<Thrown> rolls;
-  std::array<double, kSeatRows> start{};
+  Amounts start{}, end{}, high{}, low{};
+  void See(const Amounts& bankrolls) {
+    end = bankrolls;
+    for (std::size_t seat = 1; seat <= kSeats; ++seat) {
+      high[seat] = std::max(high[seat], end[seat]);
+      low[seat] = std::min(low[seat], end[seat]);
+    }
+  }
 };
 
 struct Ledger : test::TestHost {
@@ -98,14 +107,15 @@ struct Ledger : test::TestHost {
     return answer;
   }
 
-  static std::array<double, kSeatRows> Bankrolls(const Game& game) {
-    std::array<double, kSeatRows> amounts{};
+  static Amounts Bankrolls(const Game& game) {
+    Amounts amounts{};
     for (int seat = 1; seat <= kSeats; ++seat) amounts[seat] = game.table.BankrollCurrent[seat].ToDouble();
     return amounts;
   }
 
   void Begin(const Game& game, std::initializer_list<int> begun) {
-    for (const int scope : begun) scopes[scope] = {{}, Bankrolls(game)};
+    const Amounts now = Bankrolls(game);
+    for (const int scope : begun) scopes[scope] = {{}, now, now, now, now};
   }
 
   void Roll(TestTable& table) {
@@ -118,19 +128,27 @@ struct Ledger : test::TestHost {
     table.Roll(thrown.die1, thrown.die2);
     thrown.decisions = heard;
     thrown.bankroll = Bankrolls(*table.game);
-    for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})
+    for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions}) {
       scopes[scope].rolls.push_back(thrown);
+      scopes[scope].See(thrown.bankroll);
+    }
     if (thrown.pointBefore == 0 || thrown.Total() != 7) return;
     scopes[kLastHand] = scopes[kCurrentHand];
     Begin(*table.game, {kCurrentHand});
   }
 
   void NewSession(Game& game, bool keepPrevious) {
-    if (!scopes[kCurrentHand].rolls.empty()) scopes[kLastHand] = scopes[kCurrentHand];
-    if (!scopes[kCurrentSession].rolls.empty()) scopes[kLastSession] = scopes[kCurrentSession];
+    const bool handRolled = !scopes[kCurrentHand].rolls.empty();
+    const bool rolled = !scopes[kCurrentSession].rolls.empty();
+    if (handRolled) scopes[kLastHand] = scopes[kCurrentHand];
+    if (rolled) scopes[kLastSession] = scopes[kCurrentSession];
     tessaryn::NewSession(game, keepPrevious, false, true, kCloseRollFile);
+    // What the session abandoned is gone as it ends, without having been seen at a roll.
+    if (handRolled) scopes[kLastHand].end = Bankrolls(game);
+    if (rolled) scopes[kLastSession].end = Bankrolls(game);
     Begin(game, {kCurrentHand, kCurrentSession});
     if (!keepPrevious) Begin(game, {kAllSessions});
+    scopes[kAllSessions].See(Bankrolls(game));
     streaks = {};
     priorBets = {};
   }
@@ -183,11 +201,13 @@ Sums SumUp(const Ledger& ledger, int scope, const Seats& seats, const BetSet& be
 
 double Expected(const Game& game, const Ledger& ledger, int scope, const Seats& seats, const BetSet& bets,
                 bool dice) {
-  double expected = 0;
+  std::map<int, double> wagered;
   for (const Thrown& roll : ledger.scopes[scope].rolls)
     for (const Decision& decision : roll.decisions)
-      if (Has(seats, decision.seat) && bets.Has(decision.bet))
-        expected += decision.wagered * FigureAdvantage(game, decision.bet, dice).evPerDecision;
+      if (Has(seats, decision.seat) && bets.Has(decision.bet)) wagered[decision.bet] += decision.wagered;
+  double expected = 0;
+  for (const auto& [bet, amount] : wagered)
+    expected += amount * FigureAdvantage(game, bet, dice).evPerDecision;
   return expected;
 }
 
@@ -205,18 +225,14 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
     tableHands += roll.opensHand;
     hands += roll.opensHand && Has(seats, roll.credited);
   }
-  double high = -1e9, low = 1e9, begin = 0, now = 0, average = 0, averageAction = 0, action = 0,
+  double high = -1e9, low = 1e9, begin = 0, now = 0, average = 0, averageAction = 0, action = 0, comps = 0,
          decisions = 0;
   const bool over = scope == kLastHand || scope == kLastSession;
   for (const int seat : seats) {
-    high = std::max(high, stretch.start[seat]);
-    low = std::min(low, stretch.start[seat]);
+    high = std::max(high, stretch.high[seat]);
+    low = std::min(low, stretch.low[seat]);
     begin += stretch.start[seat];
-    for (const Thrown& roll : stretch.rolls) {
-      high = std::max(high, roll.bankroll[seat]);
-      low = std::min(low, roll.bankroll[seat]);
-    }
-    now += over ? (rolls > 0 ? stretch.rolls.back().bankroll[seat] : 0) : Ledger::Bankrolls(game)[seat];
+    now += stretch.end[seat];
     const Stretch& session = ledger.scopes[kCurrentSession];
     double sum = session.start[seat];
     for (const Thrown& roll : session.rolls) sum += roll.bankroll[seat];
@@ -224,6 +240,7 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
     const Sums comped = SumUp(ledger, scope, {seat}, game.settings.CompBetFlags, 0);
     action += comped.total;
     decisions += comped.count;
+    comps += Money(-0.3 * Expected(game, ledger, scope, {seat}, game.settings.CompBetFlags, false));
     if (comped.count > 0) averageAction += Money(comped.total * (rolls / rate) / comped.count);
   }
   const BetSet& flags = game.settings.CompBetFlags;
@@ -252,7 +269,7 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
       {"Avg action x time $", money(averageAction)},
       {star ? "* Theoretical vig $" : "Theoretical vig $", money(vig)},
       {"Comp rate %", {"30"}},
-      {"Total comp value $", money(0.3 * vig)}};
+      {"Total comp value $", money(comps)}};
   Sums sums[3];
   for (int side = 0; side < 3; ++side) sums[side] = SumUp(ledger, scope, seats, kAllTableBets, side);
   const char* names[] = {"Wagers", "Wins", "Losses"};
@@ -351,36 +368,35 @@ Rows BetResults(const Game& game, const Ledger& ledger, int scope, const Seats& 
   Sums sums[3];
   for (int side = 0; side < 3; ++side) sums[side] = SumUp(ledger, scope, seats, bets, side);
   Rows rows;
-  const auto add = [&](const char* label, auto value) {
-    const double net = value(sums[1]) - value(sums[2]);
-    rows[label] = {Fewest(value(sums[0])), Fewest(value(sums[1])), Fewest(value(sums[2])), Fewest(net),
-                   PerCent(net, value(sums[0]), "")};
+  const auto add = [&](const char* label, auto value, bool net) {
+    const double all = std::invoke(value, sums[0]), won = std::invoke(value, sums[1]),
+                 lost = std::invoke(value, sums[2]);
+    rows[label] = {Fewest(all), Fewest(won), Fewest(lost), net ? Fewest(won - lost) : "---",
+                   net ? PerCent(won - lost, all, "") : "---"};
   };
-  const auto addAlone = [&](const char* label, auto value) {
-    rows[label] = {Fewest(value(sums[0])), Fewest(value(sums[1])), Fewest(value(sums[2])), "---", "---"};
-  };
-  add("Total #", [](const Sums& of) { return of.count; });
-  add("Total $", [](const Sums& of) { return of.total; });
-  addAlone("High $", [](const Sums& of) { return of.high; });
-  addAlone("Low $", [](const Sums& of) { return of.low; });
-  add("Last $", [](const Sums& of) { return of.last; });
-  addAlone("# rolls since last", [&](const Sums& of) {
+  add("Total #", &Sums::count, true);
+  add("Total $", &Sums::total, true);
+  add("High $", &Sums::high, false);
+  add("Low $", &Sums::low, false);
+  add("Last $", &Sums::last, true);
+  const auto since = [&](const Sums& of) {
     return of.lastAt == 0 ? NeverDecided(ledger, scope) : static_cast<double>(ledger.rolls - of.lastAt);
-  });
-  add("Last roll #", [](const Sums& of) { return of.onLatest; });
-  add("Last roll $", [](const Sums& of) { return of.onLatestAmount; });
+  };
+  add("# rolls since last", since, false);
+  add("Last roll #", &Sums::onLatest, true);
+  add("Last roll $", &Sums::onLatestAmount, true);
   const double hours =
       static_cast<double>(ledger.scopes[scope].rolls.size()) / game.settings.SimRollRate.ToDouble();
-  if (sums[0].count == 0) {
-    for (const char* label : {"Average $", "Avg # / hour", "Avg $ / hour"})
-      rows[label] = {"---", "---", "---", "---", ""};
-  } else {
-    add("Average $", [](const Sums& of) { return of.count == 0 ? 0 : Money(of.total / of.count); });
-    for (int side = 1; side < 3; ++side)
-      if (sums[side].count == 0) rows["Average $"][static_cast<std::size_t>(side)] = "---";
-    add("Avg # / hour", [hours](const Sums& of) { return of.count / hours; });
-    add("Avg $ / hour", [hours](const Sums& of) { return Money(of.total / hours); });
-  }
+  add(
+      "Average $", [](const Sums& of) { return of.count == 0 ? 0 : Money(of.total / of.count); }, true);
+  add(
+      "Avg # / hour", [hours](const Sums& of) { return of.count / hours; }, true);
+  add(
+      "Avg $ / hour", [hours](const Sums& of) { return of.total == 0 ? 0 : Money(of.total / hours); }, true);
+  for (std::size_t side = 0; side < 3; ++side)
+    if (sums[side].count == 0) rows["Average $"][side] = "---";
+  if (sums[0].count == 0)
+    rows["Average $"] = rows["Avg # / hour"] = rows["Avg $ / hour"] = {"---", "---", "---", "---", ""};
   double nowCount = 0, now = 0, priorCount = 0, prior = 0;
   for (const int seat : seats)
     bets.ForEach([&](int bet) {
@@ -417,7 +433,7 @@ bool Fits(const std::string& outcome, const Thrown& roll) {
 Rows RollTotals(const Game& game, const Ledger& ledger, const ReportSelection& selection,
                 const Seats& seats) {
   Rows rows;
-  const auto add = [&](const std::string& label, const std::string& outcome, double ways) {
+  const auto add = [&](const std::string& label, const std::string& outcome, double ways, double skewed) {
     double rolls = 0, count = 0;
     for (const Thrown& roll : ledger.scopes[selection.scope].rolls) {
       if (!Has(seats, roll.credited)) continue;
@@ -428,33 +444,30 @@ Rows RollTotals(const Game& game, const Ledger& ledger, const ReportSelection& s
     const auto found =
         std::find_if(session.rbegin(), session.rend(), [&](const Thrown& r) { return Fits(outcome, r); });
     const bool running = selection.scope == kCurrentHand || selection.scope == kCurrentSession;
-    double matrix = 0;
-    for (int die1 = 1; die1 <= 6; ++die1)
-      for (int die2 = 1; die2 <= 6; ++die2)
-        if (Fits(outcome, {0, die1, die2, 0, 0, false, {}, {}}))
-          matrix += game.percentage.ProbMatrix[1][ProbabilityRow(die1, die2)][ProbabilityColumn(die1, die2)] /
-                    1000.0;
     rows[label] = {Whole(count), running ? Whole(static_cast<double>(found - session.rbegin())) : "---",
                    rolls == 0 ? "0" : Shown(100 * count / rolls, 2, 2, false),
-                   selection.skewed ? Fewest(std::round(matrix * 1000) / 1000)
-                                    : Fewest(std::round(ways * 10000 / 36) / 100)};
+                   selection.skewed ? Fewest(skewed / 1000) : Fewest(std::round(ways * 10000 / 36) / 100)};
   };
-  if (selection.grouping == RollGrouping::kFaces) {
-    for (const char* label : {"Die 1, face ", "Die 2, face "})
-      for (int face = 1; face <= 6; ++face)
-        add(label + std::to_string(face), label + std::to_string(face), 6);
-    return rows;
-  }
-  for (int die1 = 1; die1 <= 6; ++die1)
-    for (int die2 = 1; die2 <= 6; ++die2) {
-      const std::string there = std::to_string(die1) + "." + std::to_string(die2);
-      const std::string back = std::to_string(die2) + "." + std::to_string(die1);
-      const std::string total = std::to_string(die1 + die2);
-      if (selection.grouping == RollGrouping::kCombinations) add(there, there, 1);
-      if (selection.grouping == RollGrouping::kPairs && die1 <= die2)
-        add(there, there + " " + back, die1 == die2 ? 1 : 2);
-      if (selection.grouping == RollGrouping::kTotals) add(total, total, 6 - std::abs(7 - die1 - die2));
+  const auto& matrix = game.percentage.ProbMatrix[1];
+  const auto text = [](int number) { return std::to_string(number); };
+  for (int die1 = 1; die1 <= 6; ++die1) {
+    if (selection.grouping == RollGrouping::kFaces) {
+      add("Die 1, face " + text(die1), "Die 1, face " + text(die1), 6, matrix[die1 + 1][12]);
+      add("Die 2, face " + text(die1), "Die 2, face " + text(die1), 6, matrix[die1 + 1][13]);
     }
+    for (int die2 = 1; die2 <= 6; ++die2) {
+      const std::string there = text(die1) + "." + text(die2);
+      const std::string back = text(die2) + "." + text(die1);
+      const int total = die1 + die2;
+      const double one = matrix[ProbabilityRow(die1, die2)][total - 1];
+      const double two = die1 == die2 ? one : one + matrix[ProbabilityRow(die2, die1)][total - 1];
+      if (selection.grouping == RollGrouping::kCombinations) add(there, there, 1, one);
+      if (selection.grouping == RollGrouping::kPairs && die1 <= die2)
+        add(there, there + " " + back, die1 == die2 ? 1 : 2, two);
+      if (selection.grouping == RollGrouping::kTotals)
+        add(text(total), text(total), 6 - std::abs(7 - total), matrix[1][total - 1]);
+    }
+  }
   return rows;
 }
 
@@ -523,8 +536,8 @@ void ExpectAllReports(const Game& game, const Ledger& ledger, const ReportSelect
 }
 
 struct LedgerTable {
-  TestTable table;
   Ledger ledger;
+  TestTable table;
   Game& game = *table.game;
   Seats players;
 
@@ -534,7 +547,7 @@ struct LedgerTable {
     table.Set("ShooterBetRule", "0");
     table.Set("MessageMask", "0");
     for (int seat = 1; seat <= count; ++seat) {
-      table.Join(seat, "Player " + std::to_string(seat), "50000");
+      table.Join(seat, std::string(1, static_cast<char>('A' + seat)) + "nn", "50000");
       players.push_back(seat);
       game.table.handling[seat].WinHandling = game.table.handling[seat].LoseHandling = 0;
     }
@@ -573,11 +586,11 @@ TEST(Reports, EqualWhatALedgerOfTheGameSays) {
     if (seed % 3 == 0) play.table.Set("CheckValue.1", "0.25");
     if (seed % 3 == 1) play.table.Set("LayVigUpFront", "off");
     play.table.Set("SimRollRate", seed % 2 == 0 ? "120" : "97.5");
-    for (int roll = 0; roll < 400 && !::testing::Test::HasFailure(); ++roll) {
+    for (int roll = 0; roll < 300 && !::testing::Test::HasFailure(); ++roll) {
       for (const int seat : play.players) play.BetSomething(seat);
       if (play.ledger.Pick(1, 25) == 1) PassDice(play.game, kPassByUser);
       play.ledger.Roll(play.table);
-      if (roll % 7 == 0) ExpectAllReports(play.game, play.ledger, play.Selection());
+      if (roll % 20 == 0) ExpectAllReports(play.game, play.ledger, play.Selection());
       if (play.ledger.Pick(1, 90) != 1) continue;
       play.ledger.NewSession(play.game, play.ledger.Pick(0, 2) != 0);
       ExpectAllReports(play.game, play.ledger, play.Selection());
