@@ -126,7 +126,7 @@ void TurboInTheWindow(benchmark::State& state) {
   std::int64_t rolls = 0;
   for (auto _ : state) {
     const std::int64_t before = SessionRolls(shown.game->stats);
-    shown.game->settings.AutoStopInterval = Currency::Dollars(kRolls);
+    shown.game->settings.AutoStopInterval = kRolls;
     shown.host.answers.Ok();
     ToggleAutoRoll(*shown.game);
     rolls += SessionRolls(shown.game->stats) - before;

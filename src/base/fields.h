@@ -30,7 +30,7 @@
 #define TESSARYN_FIELDS(Type, ...)                                                             \
   inline void RequireEveryField(Type& value) { [[maybe_unused]] auto& [__VA_ARGS__] = value; } \
   template <typename Visit>                                                                    \
-  void ForEachMember(std::type_identity<Type>, Visit&& visit) {                                \
+  constexpr void ForEachMember(std::type_identity<Type>, Visit&& visit) {                      \
     using Struct = Type;                                                                       \
     TESSARYN_FOR_EACH(TESSARYN_VISIT_MEMBER, __VA_ARGS__)                                      \
   }

@@ -6,12 +6,18 @@
 #include <cstdint>
 
 #include "base/money.h"
+#include "base/quantities.h"
 
 namespace tessaryn {
 
 // Seats. 0 is the table as a whole ("House"), 1 to 8 the players.
 inline constexpr int kSeats = 8;
 inline constexpr int kSeatRows = kSeats + 1;
+// Seats, bets and rolls as types of their own, for procedures that take two of them.
+using SeatId = Id<struct SeatKind>;
+using BetId = Id<struct BetKind>;
+using RollNumber = Id<struct RollKind, std::int64_t>;
+inline constexpr SeatId kHouse{};
 // The order in which the table pays: around the table from both ends.
 inline constexpr std::array<int, kSeats> kPayOrder{1, 8, 2, 7, 3, 6, 4, 5};
 
@@ -108,6 +114,8 @@ struct SeatBetTable {
   T cells[kRows][kSeatRows] = {};
   T& operator()(int seat, int bet) { return cells[bet][seat]; }
   const T& operator()(int seat, int bet) const { return cells[bet][seat]; }
+  T& operator()(SeatId seat, BetId bet) { return cells[bet.value][seat.value]; }
+  const T& operator()(SeatId seat, BetId bet) const { return cells[bet.value][seat.value]; }
   friend bool operator==(const SeatBetTable&, const SeatBetTable&) = default;
 };
 
@@ -115,6 +123,8 @@ struct SeatBetTable {
 struct BetSet {
   std::uint64_t words[2] = {0, 0};
 
+  constexpr bool Has(BetId bet) const { return Has(bet.value); }
+  constexpr void Set(BetId bet, bool in) { Set(bet.value, in); }
   constexpr bool Has(int bet) const { return (words[bet >> 6] >> (bet & 63) & 1) != 0; }
   constexpr void Add(int bet) { words[bet >> 6] |= std::uint64_t{1} << (bet & 63); }
   constexpr void Remove(int bet) { words[bet >> 6] &= ~(std::uint64_t{1} << (bet & 63)); }

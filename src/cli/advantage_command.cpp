@@ -66,7 +66,7 @@ void PrintJson(const Game& game, const std::vector<AdvantageRow>& rows, const Be
                     {"evPerHour",
                      figures.evPerRoll * AmountOn(amounts, row.bet) * game.settings.SimRollRate.ToDouble()}});
   }
-  Json result{{"rollsPerHour", MoneyJson(game.settings.SimRollRate)},
+  Json result{{"rollsPerHour", MoneyJson(game.settings.SimRollRate.Number())},
               {"dice", game.percentage.PercentageDiceActive ? "percentage" : "fair"},
               {"rows", list}};
   if (!amounts.empty()) {
@@ -91,7 +91,7 @@ void PrintTable(const Game& game, const std::vector<AdvantageRow>& rows, const B
   if (amounts.empty()) return;
   const BetsTogether set = FigureBetsTogether(game, amounts);
   std::printf("\nAt %s rolls an hour these bets are expected to bring $%.2f an hour",
-              FormatMoney(game.settings.SimRollRate).c_str(), set.evPerHour);
+              FormatMoney(game.settings.SimRollRate.Number()).c_str(), set.evPerHour);
   if (set.unknownBet == 0) std::printf(", give or take $%.2f", set.stdevPerHour);
   const std::string note = NoteOn(set);
   std::printf(".%s%s\n", note.empty() ? "" : "\n", note.c_str());

@@ -26,7 +26,7 @@ std::string ScriptOwner(const Game& game) {
 }
 
 bool AutoStopDue(const Game& game) {
-  const std::int64_t interval = game.settings.AutoStopInterval.raw / Currency::kPerDollar;
+  const std::int64_t interval = game.settings.AutoStopInterval;
   if (interval <= 0) return false;
   const std::int64_t rolls = SessionRolls(game.stats);
   return rolls > 0 && rolls % interval == 0;
@@ -141,21 +141,17 @@ void SetThrottle(Game& game, int position) {
   game.host->Changed(game, Change::kRun);
 }
 
-Currency ClampAutoRollDelay(Currency seconds) { return std::clamp(seconds, kZero, Currency::Dollars(300)); }
-
-Currency ClampAutoStop(Currency rolls) { return std::max(WholePart(rolls), kZero); }
-
 void SetAutoRollDelay(Game& game) {
-  game.box.MsgValue1 = game.settings.AutoRollDelay;
+  game.box.MsgValue1 = game.settings.AutoRollDelay.Number();
   if (ShowMessage(game, "Set Auto-Roll Time Delay",
                   "How many seconds would you like between rolls? (0 to 300)",
                   kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
     return;
-  game.settings.AutoRollDelay = ClampAutoRollDelay(game.box.MsgValue1);
+  game.settings.AutoRollDelay = kAutoRollDelayLimits.Clamp(Seconds::Of(game.box.MsgValue1));
 }
 
 void SetAutoStop(Game& game) {
-  game.box.MsgValue1 = game.settings.AutoStopInterval;
+  game.box.MsgValue1 = Currency::Dollars(game.settings.AutoStopInterval);
   if (ShowMessage(
           game, "Set Auto-Roll / Turbo-Roll Auto-Stop",
           "How often (number of rolls) would you like Auto-Roll / Turbo-Roll to automatically stop?  "
@@ -163,7 +159,8 @@ void SetAutoStop(Game& game) {
           "automatic stopping.)",
           kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
     return;
-  game.settings.AutoStopInterval = ClampAutoStop(game.box.MsgValue1);
+  game.settings.AutoStopInterval =
+      kAutoStopLimits.Clamp(WholePart(game.box.MsgValue1).raw / Currency::kPerDollar);
 }
 
 bool AskBeforeCommand(Game& game) {

@@ -20,11 +20,9 @@ void RollDice(Game& game);
 void ToggleAutoRoll(Game& game);
 // A position 0 to 12, also in the middle of a run. Others become 0.
 void SetThrottle(Game& game, int position);
-// The two setting dialogs, and their rules: 0 to 300 seconds; whole rolls, not negative.
+// The two setting dialogs. What is typed is brought within the limits of the setting.
 void SetAutoRollDelay(Game& game);
 void SetAutoStop(Game& game);
-Currency ClampAutoRollDelay(Currency seconds);
-Currency ClampAutoStop(Currency rolls);
 // Asks to stop what runs (Turbo-Roll, Auto-Roll, a script) before another command acts. True when nothing
 // runs. After a yes the run is stopped and the answer is still false: the command does not go on.
 bool AskBeforeCommand(Game& game);

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "state/screen_state.h"
+
 namespace tessaryn {
 
 struct Game;
@@ -11,14 +13,6 @@ struct Game;
 inline constexpr const char* kHotKeysFile = "HotKeys.dta";
 // The title of the box that tells of a bad script.
 inline constexpr const char* kHotKeyErrorTitle = "Auto-Bet Script Error";
-
-struct HotKey {
-  char key = 0;
-  std::string path;         // of a script file; at most 100 bytes in the file
-  std::string description;  // likewise
-
-  friend bool operator==(const HotKey&, const HotKey&) = default;
-};
 
 // As it is shown: a letter as a capital.
 std::string HotKeyText(char key);

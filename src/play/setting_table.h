@@ -28,6 +28,11 @@ bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::str
 std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error);
 // Whether the setting is kept by players alone, so that without a seat it means every player at the table.
 bool IsSeatSetting(std::string_view name);
+// Brings every setting back within the limits of its row, and what the settings must keep among themselves
+// with it: for values that came past SetSettings, as from a game file. BetUnit of the payoffs and FieldPreset
+// are figured anew. Asks nothing, and carries nothing out. The names of those that were outside, as NAME or
+// NAME@SEAT.
+std::vector<std::string> ClampSettings(Game& game);
 // The value as text. False with the reason for an unknown name.
 bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error);
 // All names in their order; bySeat tells those that are kept for each seat.

@@ -83,7 +83,7 @@ Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
   return Divide(Multiply(mostWon, record.PayPer), record.PayTo);
 }
 
-Currency OddsMultiple(const Game& game, int bet) {
+Multiple OddsMultiple(const Game& game, int bet) {
   int number = game.table.Point;
   if (IsComeOdds(bet)) number = kBoxNumbers[bet - kComeOdds4];
   if (IsDontComeOdds(bet)) number = kBoxNumbers[bet - kDontComeOdds4];
@@ -102,7 +102,7 @@ Currency OddsMultiple(const Game& game, int bet) {
 
 // What the five methods work on, in dollars.
 struct OddsCase {
-  Currency multiple;  // M
+  Multiple multiple;  // M
   Currency flat;      // F
   Currency base;      // M times F
   Currency limit;     // (M + 1) times F
@@ -158,18 +158,18 @@ Currency SingleOdds(const OddsCase& odds, const Currency* checks, bool multiplyF
     const std::int64_t checksHeld = whole.raw / checks[n].raw;
     const std::int64_t count = OddsChipCount(checksHeld, multiple);
     Currency amount = Multiply(Currency::Dollars(count), checks[n]);
-    if (!multiplyFirst) amount = Multiply(amount, odds.multiple);
+    if (!multiplyFirst) amount = Multiply(odds.multiple, amount);
     if (!amount.IsError() && amount > result) result = amount;
   }
   return result;
 }
 
 // Method 0 chooses by the multiple.
-int OddsMethod(int method, Currency multiple) {
+int OddsMethod(int method, Multiple multiple) {
   if (method != 0) return method;
   if (!multiple.IsWhole()) return 1;
-  if (multiple == Currency::Dollars(1)) return 4;
-  if (multiple == Currency::Dollars(3)) return 5;
+  if (multiple == Multiple::Whole(1)) return 4;
+  if (multiple == Multiple::Whole(3)) return 5;
   return 3;
 }
 
@@ -236,7 +236,7 @@ Currency MaxOddsFor(const Game& game, int bet, Currency flatAmount, Currency pay
   odds.multiple = OddsMultiple(game, bet);
   odds.flat = flatAmount;
   odds.base = Multiply(odds.multiple, flatAmount);
-  odds.limit = Multiply(odds.multiple + Currency::Dollars(1), flatAmount);
+  odds.limit = Multiply(odds.multiple.Number() + Currency::Dollars(1), flatAmount);
   odds.payTo = payTo;
   odds.payPer = payPer;
   if (odds.base.IsError() || odds.limit.IsError()) return WholeUnits(game, settings.MaxOddsBet);

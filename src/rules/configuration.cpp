@@ -7,21 +7,6 @@ namespace {
 
 constexpr const char* kLimitsTitle = "Configuration Limits";
 
-ConfigurationProblem CheckValues(const Settings& settings) {
-  constexpr const char* kTitle = "Check Values";
-  for (int n = 1; n <= 5; ++n)
-    if (settings.CheckValue[n] <= kZero) return {kTitle, "Check values must be greater than zero."};
-  for (int n = 2; n <= 5; ++n)
-    if (settings.CheckValue[n] <= settings.CheckValue[n - 1])
-      return {kTitle,
-              "Checks must be listed in ascending order with the smallest valued check in the leftmost "
-              "position."};
-  for (int n = 2; n <= 5; ++n)
-    if (!IsMultiple(settings.CheckValue[n], settings.Unit()))
-      return {kTitle, "All checks must be wholly divisible by the smallest check."};
-  return {};
-}
-
 ConfigurationProblem CheckMinimum(const Settings& settings, Currency minimum, const std::string& name) {
   const Currency unit = settings.Unit();
   if (minimum < unit)
@@ -36,9 +21,24 @@ ConfigurationProblem CheckMinimum(const Settings& settings, Currency minimum, co
 
 }  // namespace
 
+ConfigurationProblem CheckDenominations(const Settings& settings) {
+  constexpr const char* kTitle = "Check Values";
+  for (int n = 1; n <= 5; ++n)
+    if (settings.CheckValue[n] <= kZero) return {kTitle, "Check values must be greater than zero."};
+  for (int n = 2; n <= 5; ++n)
+    if (settings.CheckValue[n] <= settings.CheckValue[n - 1])
+      return {kTitle,
+              "Checks must be listed in ascending order with the smallest valued check in the leftmost "
+              "position."};
+  for (int n = 2; n <= 5; ++n)
+    if (!IsMultiple(settings.CheckValue[n], settings.Unit()))
+      return {kTitle, "All checks must be wholly divisible by the smallest check."};
+  return {};
+}
+
 ConfigurationProblem CheckConfiguration(const Game& game) {
   const Settings& settings = game.settings;
-  ConfigurationProblem problem = CheckValues(settings);
+  ConfigurationProblem problem = CheckDenominations(settings);
   if (!problem.Found()) problem = CheckMinimum(settings, settings.MinBetMain, "minimum bet");
   if (!problem.Found()) problem = CheckMinimum(settings, settings.MinBetProp, "minimum prop bet");
   if (problem.Found()) return problem;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstring>
 #include <iterator>
 #include <numeric>
 
@@ -120,22 +119,22 @@ constexpr RatioRows kPresetRows[kFieldPresets][8] = {
 };
 
 constexpr FieldPreset kPresets[kFieldPresets] = {
-    {"mnuSFField", "&Field w/ 2x on Two and Twelve"},
-    {"mnuSFPass", "&Pass Line"},
-    {"mnuSFDontPass", "&Don't Pass (bar 12)"},
-    {"mnuSFCrapless", "&Crapless Craps Pass Line"},
-    {"mnuSFPlace6", "Place &6"},
-    {"mnuSFPlaceLose8", "Place to &Lose 8"},
-    {"mnuSFBuy10", "Buy &10 (5 % vig)"},
-    {"mnuSFLay4", "Lay &4 (5% vig on win only)"},
-    {"mnuSFHard8", "H&ard 8"},
-    {"mnuSFHorn", "&Horn"},
-    {"mnuSFWorld", "&World"},
-    {"mnuSFHop13", "H&op 13"},
-    {"mnuSFMidway", "&Midway"},
+    {"Field", "Field w/ 2x on Two and Twelve"},
+    {"Pass", "Pass Line"},
+    {"DontPass", "Don't Pass (bar 12)"},
+    {"Crapless", "Crapless Craps Pass Line"},
+    {"Place6", "Place 6"},
+    {"PlaceLose8", "Place to Lose 8"},
+    {"Buy10", "Buy 10 (5 % vig)"},
+    {"Lay4", "Lay 4 (5% vig on win only)"},
+    {"Hard8", "Hard 8"},
+    {"Horn", "Horn"},
+    {"World", "World"},
+    {"Hop13", "Hop 13"},
+    {"Midway", "Midway"},
 };
 constexpr int kDontPassPreset = 2;
-constexpr const char* kPresetPrefix = "mnuSF";
+constexpr const char* kOlderPrefix = "mnuSF";  // which the names once began with
 
 constexpr const char* kFieldCaptions[kFieldRows + 1] = {"",
                                                         "2     (1.1)",
@@ -182,6 +181,12 @@ constexpr PayoffTableInfo kTables[kPayoffTables] = {
 void SetRows(PayoffRecord* table, const RatioRows& rows) {
   for (int row = rows.first; row <= rows.last; ++row)
     table[row] = Ratio(rows.payTo, rows.payPer, rows.readsFor ? kFor : kTo);
+}
+
+void SetFieldRows(PayoffTables& payoffs, int preset) {
+  for (const RatioRows& rows : kPresetRows[preset])
+    if (rows.first > 0) SetRows(payoffs.FieldPayoffs, rows);
+  if (preset == kDontPassPreset) payoffs.FieldPayoffs[kFieldRows] = Ratio(0, 1);  // the barred twelve
 }
 
 Currency BetUnitOf(const PayoffRecord& record, Currency unit) {
@@ -270,9 +275,7 @@ void RebuildBetUnits(PayoffTables& payoffs, Currency unit) {
 const FieldPreset& FieldPresetFacts(int id) { return kPresets[id]; }
 
 void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit) {
-  for (const RatioRows& rows : kPresetRows[id])
-    if (rows.first > 0) SetRows(payoffs.FieldPayoffs, rows);
-  if (id == kDontPassPreset) payoffs.FieldPayoffs[kFieldRows] = Ratio(0, 1);  // the barred twelve
+  SetFieldRows(payoffs, id);
   RebuildBetUnits(payoffs, unit);
 }
 
@@ -280,18 +283,33 @@ int FieldPresetByName(std::string_view name) {
   const auto same = [](char a, char b) {
     return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
   };
+  const std::string_view prefix = kOlderPrefix;
+  if (name.size() > prefix.size() && std::equal(prefix.begin(), prefix.end(), name.begin(), same))
+    name.remove_prefix(prefix.size());
   for (int id = 0; id < kFieldPresets; ++id) {
-    const std::string_view control = kPresets[id].control;
-    for (const std::string_view form : {control, control.substr(std::strlen(kPresetPrefix))})
-      if (std::equal(form.begin(), form.end(), name.begin(), name.end(), same)) return id;
+    const std::string_view known = kPresets[id].name;
+    if (std::equal(known.begin(), known.end(), name.begin(), name.end(), same)) return id;
+  }
+  return -1;
+}
+
+int FieldPresetOf(const PayoffTables& payoffs) {
+  PayoffTables preset;
+  for (int id = 0; id < kFieldPresets; ++id) {
+    SetFieldRows(preset, id);
+    const auto paysTheSame = [](const PayoffRecord& a, const PayoffRecord& b) {
+      return a.PayTo == b.PayTo && a.PayPer == b.PayPer && a.ForFlag == b.ForFlag;
+    };
+    if (std::equal(std::begin(preset.FieldPayoffs) + 1, std::end(preset.FieldPayoffs),
+                   std::begin(payoffs.FieldPayoffs) + 1, paysTheSame))
+      return id;
   }
   return -1;
 }
 
 std::string FieldPresetNames() {
   std::string names;
-  for (const FieldPreset& preset : kPresets)
-    names.append(names.empty() ? "" : ", ").append(preset.control + std::strlen(kPresetPrefix));
+  for (const FieldPreset& preset : kPresets) names.append(names.empty() ? "" : ", ").append(preset.name);
   return names;
 }
 

@@ -28,16 +28,18 @@ void RebuildBetUnits(PayoffTables& payoffs, Currency unit);
 
 // Presets of the Field. Each rewrites all 21 rows.
 struct FieldPreset {
-  const char* control;  // "mnuSFField" ...
-  const char* caption;  // "&Field w/ 2x on Two and Twelve" ...
+  const char* name;     // "Field" ...
+  const char* caption;  // "Field w/ 2x on Two and Twelve" ...
 };
 inline constexpr int kFieldPresets = 13;
 const FieldPreset& FieldPresetFacts(int id);
 // Requires 0 <= id < kFieldPresets.
 void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit);
-// By its control's name, case ignored; -1 for none.
+// By its name, case ignored; -1 for none.
 int FieldPresetByName(std::string_view name);
-// All names without what they begin with alike: "Field, Pass, ...".
+// The preset that the Field pays by now; -1 for none of them.
+int FieldPresetOf(const PayoffTables& payoffs);
+// All names: "Field, Pass, ...".
 std::string FieldPresetNames();
 // The caption of Field row 1 to 21: "2     (1.1)" ...
 const char* FieldRowCaption(int row);

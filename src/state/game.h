@@ -15,6 +15,7 @@
 #include "state/payoff_tables.h"
 #include "state/percentage_dice_state.h"
 #include "state/roll_file_state.h"
+#include "state/screen_state.h"
 #include "state/settings.h"
 #include "state/statistics_state.h"
 #include "state/table_state.h"
@@ -33,6 +34,8 @@ struct Game {
   RollFile rollFile;
   AutoBet autobet;
   EventsLog events;
+  ScreenState screen;
+  GameFileState file;
   MessageBox box;                   // the box being asked
   std::string applicationFolder;    // the programs and support files; ends with a separator
   std::string dataFolder;           // everything that is kept; ends with a separator
@@ -42,7 +45,8 @@ struct Game {
   Host* host = nullptr;             // not owned; outlives the game
 };
 TESSARYN_FIELDS(Game, table, settings, payoffs, maximums, stats, graph, generators, percentage, rollFile,
-                autobet, events, box, applicationFolder, dataFolder, ownFolder, folderLock, host)
+                autobet, events, screen, file, box, applicationFolder, dataFolder, ownFolder, folderLock,
+                host)
 
 // Shows a box and returns its MsgResult. Requires that no box is being shown.
 int ShowMessage(Game& game, const std::string& title, const std::string& text,

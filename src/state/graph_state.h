@@ -19,7 +19,7 @@ enum PlotTypes : int { kPlotPage = 0, kPlotScroll = 1 };
 inline constexpr const char* kPlotTypeCaptions[2] = {"Page", "Scroll"};
 enum ScaleModes : int { kScaleManual = 0, kScaleShift = 1, kScaleExpanding = 2, kScaleSnapBack = 3 };
 inline constexpr const char* kScaleModeCaptions[4] = {
-    "&Manual", "Auto-&shift ", "Auto-shift with &expanding scale", "Auto-shift with s&nap-back scale"};
+    "Manual", "Auto-shift ", "Auto-shift with expanding scale", "Auto-shift with snap-back scale"};
 
 // One roll of the graph. Row cells: seat 0 the session's roll number, in whole dollars; 1 to 8 the bankrolls.
 struct PlotRow {

@@ -1,11 +1,20 @@
-// The settings of the table. Defaults here are those of a first start; SetSetting (setting_table.h) is the
-// one place where a value that came from outside is checked and its effects carried out.
+// The settings of the table. Defaults here are those of a first start; each has its row in
+// play/setting_rows.cpp, and SetSetting (play/setting_table.h) is the one place where a value that came from
+// outside is checked and its effects carried out.
 #pragma once
 
 #include "base/fields.h"
 #include "base/table_types.h"
 
 namespace tessaryn {
+
+// What the Field pays: one of the presets, or rows of the house's own.
+enum class FieldPresetId : int { kOwn = -1, kField = 0 };  // to kFieldPresets - 1: see rules/payoffs.h
+
+// Limits that are also kept where scripts and dialogs set these.
+inline constexpr Limits<RollRate> kSimRollRateLimits{RollRate::FromRaw(1), RollRate::Whole(36'000'000)};
+inline constexpr Limits<Seconds> kAutoRollDelayLimits{Seconds{}, Seconds::Whole(300)};
+inline constexpr Limits<std::int64_t> kAutoStopLimits{0, kMaxRolls};
 
 struct Settings {
   // Limits, in dollars.
@@ -16,9 +25,9 @@ struct Settings {
   Currency MaxOddsBet = Currency::Dollars(3000);
   Currency MaxFireBet = Currency::Dollars(5);
   // Odds: multiples of the flat bet.
-  Currency OddsAllowed410 = Currency::Dollars(3);
-  Currency OddsAllowed59 = Currency::Dollars(4);
-  Currency OddsAllowed68 = Currency::Dollars(5);
+  Multiple OddsAllowed410 = Multiple::Whole(3);
+  Multiple OddsAllowed59 = Multiple::Whole(4);
+  Multiple OddsAllowed68 = Multiple::Whole(5);
   int OddsCalcMethod = 0;  // 0 "Auto select" to 5 "Flat - Single Odds X"
   // Rules.
   int BarNumber = 12;  // 12 or 2
@@ -29,9 +38,10 @@ struct Settings {
   bool SmallTallEnabled = true;  // bets 84 to 89
   bool UseFire = true;
   bool ReturnAbandonedBets = false;
-  // Vig, as a fraction; rounding 0 nearest, 1 down, 2 up.
-  Currency BuyVigRate = Currency::FromRaw(500);
-  Currency LayVigRate = Currency::FromRaw(500);
+  FieldPresetId FieldPreset = FieldPresetId::kField;  // kept beside PayoffTables::FieldPayoffs
+  // Vig; rounding 0 nearest, 1 down, 2 up.
+  Fraction BuyVigRate = Fraction::FromRaw(500);
+  Fraction LayVigRate = Fraction::FromRaw(500);
   int BuyVigRound = 0;
   int LayVigRound = 0;
   bool BuyVigUpFront = true;
@@ -44,11 +54,11 @@ struct Settings {
                             Currency::Dollars(100),
                             Currency::Dollars(500)};
   // Rolling.
-  Currency SimRollRate = Currency::Dollars(120);  // rolls per hour, above 0, at most 36,000,000
-  int RollThrottle = 0;                           // 12 Auto-Roll; 0 (fastest) to 11 Turbo-Roll
-  Currency AutoRollDelay = Currency::Dollars(1);  // seconds, 0 to 300
-  Currency AutoStopInterval;                      // whole rolls, 0 never
-  Currency StartBank = Currency::Dollars(500);    // offered to a new player
+  RollRate SimRollRate = RollRate::Whole(120);
+  int RollThrottle = 0;  // 12 Auto-Roll; 0 (fastest) to 11 Turbo-Roll
+  Seconds AutoRollDelay = Seconds::Whole(1);
+  std::int64_t AutoStopInterval = 0;            // rolls, 0 never
+  Currency StartBank = Currency::Dollars(500);  // offered to a new player
   bool AtmEnabled = true;
   Currency AtmUnit = Currency::Dollars(500);  // the amount of an ATM action that names none
   // Notes: bit 0 refusals, 1 bankroll, 2 adjustments, 3 scripts in normal play, 4 scripts in Turbo-Roll.
@@ -69,8 +79,8 @@ struct Settings {
   bool DisableAllSound = false;
   // Analysis.
   bool IncludeZeroOutcomes = false;
-  int CompBase = 0;                           // 0 theoretical vig, 1 action, 2 action and time
-  Currency CompRate = Currency::Dollars(30);  // percent
+  int CompBase = 0;  // 0 theoretical vig, 1 action, 2 action and time
+  Percent CompRate = Percent::Whole(30);
   bool CompUseTrueProbs = true;
   BetSet CompBetFlags = kAllTableBets;  // the bets that count
 
@@ -79,9 +89,9 @@ struct Settings {
 TESSARYN_FIELDS(Settings, MinBetMain, MinBetProp, MaxBet, MaxPropBetPayoff, MaxOddsBet, MaxFireBet,
                 OddsAllowed410, OddsAllowed59, OddsAllowed68, OddsCalcMethod, BarNumber, AllowPutBets,
                 ShooterBetRule, UseBig68, UseMidway, SmallTallEnabled, UseFire, ReturnAbandonedBets,
-                BuyVigRate, LayVigRate, BuyVigRound, LayVigRound, BuyVigUpFront, LayVigUpFront, CheckValue,
-                SimRollRate, RollThrottle, AutoRollDelay, AutoStopInterval, StartBank, AtmEnabled, AtmUnit,
-                MessageMask, UseCentsSymbol, AutoArrangeChecks, SnapMouse, ColorPrint, InfoTipLevel,
+                FieldPreset, BuyVigRate, LayVigRate, BuyVigRound, LayVigRound, BuyVigUpFront, LayVigUpFront,
+                CheckValue, SimRollRate, RollThrottle, AutoRollDelay, AutoStopInterval, StartBank, AtmEnabled,
+                AtmUnit, MessageMask, UseCentsSymbol, AutoArrangeChecks, SnapMouse, ColorPrint, InfoTipLevel,
                 ScreenFontSize, DiceAction, StickPerson, DiceSound, CheckSound, WinSound, AutoBetSounds,
                 DisableAllSound, IncludeZeroOutcomes, CompBase, CompRate, CompUseTrueProbs, CompBetFlags)
 

@@ -440,7 +440,7 @@ TEST(ScriptCatalogue, SettingsAndActionsDoWhatTheySay) {
   table.Run("atm withdraw");
   EXPECT_EQ(game.table.BankrollCurrent[1], Currency::Dollars(3400)) << "without an amount it is the unit";
   table.Run("seed = 55\nrng = 4\ncomp rate = .25");
-  EXPECT_EQ(game.settings.CompRate, Currency::Dollars(25));
+  EXPECT_EQ(game.settings.CompRate, Percent::Whole(25));
   table.host.result = kResultYes;
   table.Run("ask yes/no question \"Well?\"\ncs0 = answer\nshow message \"Now \" & 5");
   EXPECT_EQ(table.Bet(100), 6);

@@ -50,7 +50,7 @@ struct PacedTable {
   explicit PacedTable(int throttle = kThrottleAutoRoll, const char* delay = "1") {
     game->settings.ShooterBetRule = 0;
     game->settings.RollThrottle = throttle;
-    game->settings.AutoRollDelay = Money(delay);
+    game->settings.AutoRollDelay = Seconds::Of(Money(delay));
     host.rollTarget = 5;
   }
   std::int64_t Rolls() const { return SessionRolls(game->stats); }
@@ -108,15 +108,15 @@ TEST(AutoRollTest, StopsAtOnceInTheMiddleOfAWait) {
 TEST(AutoRollTest, AutoStopComesAtEveryMultiple) {
   struct Case {
     int throttle;
-    const char* interval;
+    std::int64_t interval;
     std::int64_t rolls;  // after each of two starts
     std::int64_t more;
   };
-  for (const Case& c : {Case{kThrottleAutoRoll, "3", 3, 6}, Case{kThrottleAutoRoll, "1", 1, 2},
-                        Case{0, "3", 3, 6}, Case{0, "1", 1, 2}, Case{0, "0", 7, 7}, Case{0, "2.9", 2, 4}}) {
+  for (const Case& c : {Case{kThrottleAutoRoll, 3, 3, 6}, Case{kThrottleAutoRoll, 1, 1, 2}, Case{0, 3, 3, 6},
+                        Case{0, 1, 1, 2}, Case{0, 0, 7, 7}, Case{0, 2, 2, 4}}) {
     PacedTable table(c.throttle, "0");
     table.host.rollTarget = 7;
-    table.game->settings.AutoStopInterval = ClampAutoStop(Money(c.interval));
+    table.game->settings.AutoStopInterval = c.interval;
     ToggleAutoRoll(*table.game);
     EXPECT_EQ(table.Rolls(), c.rolls) << c.interval;
     EXPECT_EQ(table.game->table.StopReason, c.throttle == 0 && c.rolls < 7 ? "Stopped by Auto-Stop." : "");
@@ -289,7 +289,7 @@ TEST(AutoRollTest, TheDialogsKeepWithinTheirLimits) {
   for (const auto& [answer, seconds] : delays) {
     table.host.answers = {answer};
     SetAutoRollDelay(*table.game);
-    EXPECT_EQ(table.game->settings.AutoRollDelay, Money(seconds)) << answer;
+    EXPECT_EQ(table.game->settings.AutoRollDelay, Seconds::Of(Money(seconds))) << answer;
   }
   EXPECT_EQ(table.host.boxes[0].title, "Set Auto-Roll Time Delay");
   const std::pair<const char*, const char*> stops[] = {
@@ -297,7 +297,7 @@ TEST(AutoRollTest, TheDialogsKeepWithinTheirLimits) {
   for (const auto& [answer, rolls] : stops) {
     table.host.answers = {answer};
     SetAutoStop(*table.game);
-    EXPECT_EQ(table.game->settings.AutoStopInterval, Money(rolls)) << answer;
+    EXPECT_EQ(table.game->settings.AutoStopInterval, std::stoll(rolls)) << answer;
   }
   EXPECT_EQ(table.host.boxes.back().title, "Set Auto-Roll / Turbo-Roll Auto-Stop");
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <random>
 
 #include "rules/bet_limits.h"
@@ -58,7 +59,7 @@ TEST(SettingTable, EveryValueThatIsSetIsReadAgain) {
     const int seat = setting.bySeat ? 1 : 0;
     const std::string old = Read(*table.game, setting.name, seat);
     std::vector<std::string> others{
-        old == "on" ? "off" : "on", "1", "2", "3", "11", "12", "0.03", "4 to 3", "0"};
+        old == "on" ? "off" : "on", "1", "2", "3", "11", "12", "0.03", "4 to 3", "0", "Crapless"};
     if (old.find(" to ") != std::string::npos) others = {"4 to 3", "5 to 2"};
     if (setting.name.rfind("CheckValue", 0) == 0) continue;  // below, together
     bool changed = false;
@@ -152,11 +153,31 @@ TEST(SettingTable, ValuesReadTheirForms) {
   EXPECT_EQ(Read(*table.game, "AllowPutBets"), "off");
   table.Set("PayoffTable.31", "27 for 4");
   EXPECT_EQ(Read(*table.game, "PayoffTable.31"), "27 for 4");
+  table.Set("AutoStopInterval", "12.9");
+  EXPECT_EQ(Read(*table.game, "AutoStopInterval"), "12");
   table.Set("WinHandling", "3");
   EXPECT_EQ(Read(*table.game, "WinHandling", 1), "3") << "without a seat it is everybody's";
   EXPECT_EQ(Read(*table.game, "WinHandling", 2), "3");
   table.Set("WinHandling", "5", 2);
   EXPECT_EQ(Read(*table.game, "WinHandling", 1), "3");
+}
+
+TEST(SettingTable, TheFieldAndItsPresetGoTogether) {
+  TestTable table;
+  const auto field = [&table] { return Read(*table.game, "FieldPreset"); };
+  table.Set("FieldPreset", "hop13");
+  EXPECT_EQ(field(), "Hop13");
+  EXPECT_EQ(Read(*table.game, "FieldPayoffs.3"), "15 to 1");
+  table.Set("FieldPayoffs.3", "14 to 1");
+  EXPECT_EQ(field(), "Own");
+  table.Set("FieldPreset", "own");
+  EXPECT_EQ(Read(*table.game, "FieldPayoffs.3"), "14 to 1");
+  table.Set("FieldPayoffs.3", "15 to 1");
+  EXPECT_EQ(field(), "Hop13");
+  std::string error;
+  EXPECT_FALSE(SetSettings(*table.game, {{"FieldPreset", 0, "World"}, {"MaxBet", 0, "x"}}, error));
+  EXPECT_EQ(field(), "Hop13");
+  EXPECT_EQ(Read(*table.game, "FieldPayoffs.3"), "15 to 1");
 }
 
 TEST(SettingTable, ChecksChangeTogether) {
@@ -173,6 +194,77 @@ TEST(SettingTable, ChecksChangeTogether) {
   EXPECT_FALSE(
       SetSettings(*table.game, {{"MaxBet", 0, "77"}, {"WinHandling", 1, "4"}, {"BarNumber", 0, "4"}}, error));
   EXPECT_EQ(Everything(*table.game), before) << "one bad value takes the others back";
+}
+
+// --- Values that came past the table.
+
+TEST(SettingTableClamp, BringsBackWhatIsOutsideAndNamesIt) {
+  TwoPlayers table;
+  Game& game = *table.game;
+  EXPECT_EQ(ClampSettings(game), std::vector<std::string>{})
+      << "a table on its defaults is within its limits";
+  Settings& settings = game.settings;
+  settings.MaxBet = Currency::Error();
+  settings.ScreenFontSize = 99;
+  settings.InfoTipLevel = -7;
+  settings.BarNumber = 3;
+  settings.AutoRollDelay = Seconds::Whole(-1);
+  settings.BuyVigRate = Fraction::Whole(5);
+  settings.CheckValue[2] = kZero;
+  settings.CompBetFlags.Add(120);
+  game.table.handling[2].WinHandling = 8;
+  game.table.handling[1].AdjustUnit[7] = -1;
+  game.payoffs.PayoffTable[kPlace4].PayPer = kZero;
+  game.generators.GeneratorIndex = 8;
+  const std::vector<std::string> names{"MaxBet",       "BarNumber",      "BuyVigRate",     "AutoRollDelay",
+                                       "InfoTipLevel", "ScreenFontSize", "GeneratorIndex", "WinHandling@2",
+                                       "CheckValue.2", "PayoffTable.31", "CompBetFlags.1", "AdjustUnit.7@1"};
+  EXPECT_EQ(ClampSettings(game), names);
+  EXPECT_EQ(settings.ScreenFontSize, 13);
+  EXPECT_EQ(settings.InfoTipLevel, 0);
+  EXPECT_EQ(Read(game, "PayoffTable.31"), "9 to 5");
+  EXPECT_EQ(Read(game, "CheckValue.2"), "5");
+  EXPECT_EQ(ClampSettings(game), std::vector<std::string>{});
+}
+
+TEST(SettingTableClamp, WhateverTheNumbersAreTheTableIsWhole) {
+  for (unsigned seed = 1; seed <= 30; ++seed) {
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937_64 random(seed);
+    TwoPlayers table;
+    Game& game = *table.game;
+    const auto any = [&random] {
+      constexpr std::int64_t kNumbers[] = {0,
+                                           1,
+                                           -1,
+                                           50'000,
+                                           70'000,
+                                           std::numeric_limits<std::int64_t>::min(),
+                                           std::numeric_limits<std::int64_t>::max()};
+      return random() % 8 == 0 ? static_cast<std::int64_t>(random())
+                               : kNumbers[random() % std::size(kNumbers)];
+    };
+    ForEachField(game.settings, [&]<typename T>(const char*, T& value) {
+      if constexpr (std::is_same_v<T, int>) value = static_cast<int>(any());
+      if constexpr (std::is_same_v<T, std::int64_t>) value = any();
+      if constexpr (requires { value.raw; }) value.raw = any();
+    });
+    for (Currency& check : game.settings.CheckValue) check.raw = any();
+    for (PayoffRecord& record : game.payoffs.PayoffTable)
+      record.PayTo.raw = any(), record.PayPer.raw = any(), record.ForFlag.raw = any();
+    ClampSettings(game);
+    EXPECT_EQ(ClampSettings(game), std::vector<std::string>{});
+    // What holds together is taken back as it is.
+    for (const SettingName& setting : AllSettings()) {
+      std::string error;
+      const std::string value = Read(game, setting.name, setting.bySeat ? 1 : 0);
+      EXPECT_TRUE(SetSetting(game, setting.name, setting.bySeat ? 1 : 0, value, error))
+          << setting.name << error;
+    }
+    for (int bet = 1; bet <= kBets; ++bet) table.Bet(1, bet, "10");
+    table.Roll(3, 3);
+    table.Check("clamped");
+  }
 }
 
 // Money and bets that a refused change must leave alone, and that no setting changes unasked.

@@ -8,9 +8,9 @@
 #include "autobet/language/language.h"
 #include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
+#include "dice/percentage_dice.h"
 #include "rules/bet_limits.h"
 #include "support/test_host.h"
-#include "dice/percentage_dice.h"
 
 namespace tessaryn {
 namespace {
@@ -458,7 +458,7 @@ TEST(BetRulesOdds, EveryMethodGivesWhatItsRuleGivesByHand) {
     Game& game = *table.game;
     game.settings.OddsCalcMethod = c.method;
     game.settings.OddsAllowed410 = game.settings.OddsAllowed59 = game.settings.OddsAllowed68 =
-        Money(c.multiple);
+        Multiple::Of(Money(c.multiple));
     const int bet = kComeOdds4 + BoxPosition(c.number);
     const PayoffRecord& record = game.payoffs.PayoffTable[bet];
     EXPECT_EQ(MaxOddsFor(game, bet, Money(c.flat), record.PayTo, record.PayPer), Money(c.most));
@@ -511,7 +511,7 @@ TEST(BetRulesOdds, LaidOddsAreChosenSoThatWholeChecksAreLaid) {
     Game& game = *table.game;
     game.settings.OddsCalcMethod = c.method;
     game.settings.OddsAllowed410 = game.settings.OddsAllowed59 = game.settings.OddsAllowed68 =
-        Money(c.multiple);
+        Multiple::Of(Money(c.multiple));
     table.Join(1, "Ann", "5000");
     const int flat = kDontCome4 + BoxPosition(c.number);
     SetBetAmount(game, 1, flat, Money(c.flat));

@@ -122,12 +122,12 @@ void CopySettings(const Game& game, RulesModel& m) {
   m.MaxPropBetPayoff = s.MaxPropBetPayoff;
   m.MaxOddsBet = s.MaxOddsBet;
   m.MaxFireBet = s.MaxFireBet;
-  m.OddsAllowed410 = s.OddsAllowed410;
-  m.OddsAllowed59 = s.OddsAllowed59;
-  m.OddsAllowed68 = s.OddsAllowed68;
+  m.OddsAllowed410 = s.OddsAllowed410.Number();
+  m.OddsAllowed59 = s.OddsAllowed59.Number();
+  m.OddsAllowed68 = s.OddsAllowed68.Number();
   m.OddsCalcMethod = s.OddsCalcMethod;
-  m.LayVigRate = s.LayVigRate;
-  m.BuyVigRate = s.BuyVigRate;
+  m.LayVigRate = s.LayVigRate.Number();
+  m.BuyVigRate = s.BuyVigRate.Number();
   m.LayVigRound = s.LayVigRound;
   m.BuyVigRound = s.BuyVigRound;
   m.LayVigUpFront = s.LayVigUpFront;
@@ -153,9 +153,9 @@ void ChooseLimits(Pair& pair) {
   s.MaxPropBetPayoff = Units(pair, pair.OneOf(maximums) * 3);
   s.MaxOddsBet = Units(pair, pair.OneOf(maximums) * 3);
   s.MaxFireBet = Units(pair, pair.OneOf(minimums));
-  s.OddsAllowed410 = Currency::FromRaw(pair.OneOf(multiples));
-  s.OddsAllowed59 = Currency::FromRaw(pair.OneOf(multiples));
-  s.OddsAllowed68 = Currency::FromRaw(pair.OneOf(multiples));
+  s.OddsAllowed410 = Multiple::FromRaw(pair.OneOf(multiples));
+  s.OddsAllowed59 = Multiple::FromRaw(pair.OneOf(multiples));
+  s.OddsAllowed68 = Multiple::FromRaw(pair.OneOf(multiples));
   s.OddsCalcMethod = pair.Pick(0, 5);
 }
 
@@ -169,8 +169,8 @@ void ChooseRules(Pair& pair) {
 void ChooseVig(Pair& pair) {
   Settings& s = pair.game->settings;
   static const int rates[] = {500, 500, 400, 333, 100, 0};
-  s.LayVigRate = Currency::FromRaw(pair.OneOf(rates));
-  s.BuyVigRate = Currency::FromRaw(pair.OneOf(rates));
+  s.LayVigRate = Fraction::FromRaw(pair.OneOf(rates));
+  s.BuyVigRate = Fraction::FromRaw(pair.OneOf(rates));
   s.LayVigRound = pair.Pick(0, 2);
   s.BuyVigRound = pair.Pick(0, 2);
   s.LayVigUpFront = pair.Chance(50);
@@ -471,8 +471,8 @@ void ChangeVig(Pair& pair) {
   ChooseVig(pair);
   RecomputeVig(*pair.game);
   const Settings& s = pair.game->settings;
-  model::ChangeVigRules(
-      *pair.m, {s.LayVigRate, s.BuyVigRate, s.LayVigRound, s.BuyVigRound, s.LayVigUpFront, s.BuyVigUpFront});
+  model::ChangeVigRules(*pair.m, {s.LayVigRate.Number(), s.BuyVigRate.Number(), s.LayVigRound, s.BuyVigRound,
+                                  s.LayVigUpFront, s.BuyVigUpFront});
 }
 
 void ChangeRules(Pair& pair) {

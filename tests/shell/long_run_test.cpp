@@ -34,7 +34,7 @@ TEST(LongRun, AnAutoRollLeavesNoMemoryBehind) {
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
   table.game->settings.ShooterBetRule = 0;
   table.game->settings.RollThrottle = kThrottleAutoRoll;
-  table.game->settings.AutoRollDelay = kZero;
+  table.game->settings.AutoRollDelay = Seconds{};
   for (int seat = 1; seat <= kSeats; ++seat) {
     table.Join(seat, "P" + std::to_string(seat) + "x", "9000000");
     table.State().handling[seat].WinHandling = table.State().handling[seat].LoseHandling = 2;

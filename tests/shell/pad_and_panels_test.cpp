@@ -82,7 +82,7 @@ TEST(RollPad, TheKeyboardWalksAndPresses) {
 TEST(RollPad, APressDuringARunAsksAndNeverRolls) {
   PadTable table;
   table.game->settings.RollThrottle = 12;
-  table.game->settings.AutoRollDelay = Currency::Dollars(300);
+  table.game->settings.AutoRollDelay = Seconds::Whole(300);
   std::int64_t before = 0;
   QTimer::singleShot(100, [&] {
     before = SessionRolls(table.game->stats);

@@ -232,10 +232,10 @@ TEST(RollPadMenu, EachEntryDoesWhatItSays) {
   }
   table.host.answers.Type("1000");
   table.Choose("mnuSetAutoRollTimeDelay");
-  EXPECT_EQ(table.game->settings.AutoRollDelay, Currency::Dollars(300));
+  EXPECT_EQ(table.game->settings.AutoRollDelay, Seconds::Whole(300));
   table.host.answers.Type("-5");
   table.Choose("mnuSetAutoStop");
-  EXPECT_EQ(table.game->settings.AutoStopInterval, kZero);
+  EXPECT_EQ(table.game->settings.AutoStopInterval, 0);
   EXPECT_TRUE(table.host.answers.Empty());
   table.Choose("mnuHide");
   EXPECT_FALSE(table.pad.isVisible());
@@ -259,7 +259,7 @@ TEST(RollPadMenu, OpensByKeyboardAndOverTheButtonsToo) {
 TEST(RollPadMenu, ARunGoesOnBehindItAndItsSettingsAsk) {
   OpenPad table;
   table.game->settings.RollThrottle = kThrottleAutoRoll;
-  table.game->settings.AutoRollDelay = kZero;
+  table.game->settings.AutoRollDelay = Seconds{};
   std::int64_t seen = 0;
   QTimer::singleShot(50, [&] {
     table.OpenMenu();
@@ -279,7 +279,7 @@ TEST(RollPadMenu, ARunGoesOnBehindItAndItsSettingsAsk) {
   QTest::mouseClick(&Find<QWidget>(table.pad, "cmdTurboRoll"), Qt::LeftButton);
   EXPECT_FALSE(table.State().AutoRollActive);
   EXPECT_TRUE(table.host.answers.Empty());
-  EXPECT_EQ(table.game->settings.AutoRollDelay, kZero);
+  EXPECT_EQ(table.game->settings.AutoRollDelay, Seconds{});
 }
 
 TEST(RollPadButtons, AnEntryThatGaveAMessageStartsNoRun) {

@@ -118,7 +118,7 @@ class RandomTable {
         settings.MaxOddsBet = Pick({"50", "3000"});
         break;
       case 5:
-        settings.OddsAllowed410 = settings.OddsAllowed68 = Pick({"1", "2", "2.5", "3", "10"});
+        settings.OddsAllowed410 = settings.OddsAllowed68 = Multiple::Of(Pick({"1", "2", "2.5", "3", "10"}));
         break;
       case 6:
         settings.AllowPutBets = Chance(0.5);

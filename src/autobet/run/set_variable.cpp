@@ -204,8 +204,10 @@ bool SetNextRoll(Game& game, double number) {
 }
 
 bool SetRollRate(Game& game, double number) {
-  if (!(number >= 0.0001 && number <= 36'000'000)) return ScriptFails(game, kErrorRollRate);
-  game.settings.SimRollRate = Currency::FromDouble(number);
+  const bool fits =
+      number >= kSimRollRateLimits.least.ToDouble() && number <= kSimRollRateLimits.most.ToDouble();
+  if (!fits) return ScriptFails(game, kErrorRollRate);
+  game.settings.SimRollRate = RollRate::Of(Currency::FromDouble(number));
   return true;
 }
 
@@ -226,7 +228,7 @@ bool SetGenerator(Game& game, double number) {
 bool SetCompRate(Game& game, double number) {
   const Currency rate = Currency::FromDouble(number * 100);
   if (!(number >= 0) || rate.IsError()) return ScriptFails(game, kErrorCompRate);
-  game.settings.CompRate = rate;
+  game.settings.CompRate = Percent::Of(rate);
   return true;
 }
 

@@ -129,9 +129,8 @@ std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& ques
   lines.push_back(
       {"lblPayoff", plainLoss ? Screen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
   if (HasVig(bet)) {
-    const Currency rate = IsLay(bet) ? game.settings.LayVigRate : game.settings.BuyVigRate;
-    const Currency percent = Multiply(rate, Currency::Dollars(100));
-    lines.push_back({"lblVig", Screen::tr("%1% vig:").arg(MoneyText(percent)), DollarText(-vig)});
+    const Percent percent = ToPercent(IsLay(bet) ? game.settings.LayVigRate : game.settings.BuyVigRate);
+    lines.push_back({"lblVig", Screen::tr("%1% vig:").arg(MoneyText(percent.Number())), DollarText(-vig)});
   }
   if (paid != question.gross)
     lines.push_back({"lblNet", question.won ? Screen::tr("Net payoff:") : Screen::tr("Net loss:"),

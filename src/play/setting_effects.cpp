@@ -1,0 +1,263 @@
+#include "play/setting_effects.h"
+
+#include <algorithm>
+
+#include "base/bet_catalogue.h"
+#include "dice/generators.h"
+#include "play/auto_roll.h"
+#include "rules/bet_limits.h"
+#include "rules/bet_rules.h"
+#include "rules/configuration.h"
+#include "rules/consistency.h"
+#include "rules/payoffs.h"
+#include "state/game.h"
+#include "stats/events_log.h"
+
+namespace tessaryn {
+namespace {
+
+// BetUnit follows from the rest.
+template <typename T>
+bool Same(const T& a, const T& b) {
+  return a == b;
+}
+bool Same(const PayoffRecord& a, const PayoffRecord& b) {
+  return a.PayTo == b.PayTo && a.ForFlag == b.ForFlag && a.PayPer == b.PayPer;
+}
+
+bool Has(const std::vector<SettingPlace>& changes, Effect effect) {
+  return std::any_of(changes.begin(), changes.end(),
+                     [effect](const SettingPlace& place) { return place.row->facts.effect == effect; });
+}
+
+// --- What a change brings with it.
+
+bool AnySeatHas(const Game& game, const BetSet& bets) { return game.table.AnyBets.Meets(bets); }
+
+struct Family {
+  bool Settings::*offered;
+  int first;
+  int last;
+  const char* title;
+  const char* text;  // what is up
+};
+constexpr Family kFamilies[] = {
+    {&Settings::UseBig68, kBig6, kBig8, "Remove Big 6 / Big 8 Bets",
+     "one or more bets on the Big 6 and/or Big 8"},
+    {&Settings::UseFire, kFire, kFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
+    {&Settings::UseMidway, kMidway, kMidway, "Remove Midway Bets", "one or more Midway bets present"},
+    {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, "Remove Special Prop Bets", ""},
+};
+
+std::string SpecialBetsUp(const Game& game) {
+  std::string names;
+  (game.table.AnyBets & kSpecialProps).ForEach([&names](int bet) {
+    names += (names.empty() ? "" : ", ") + BetName(bet);
+  });
+  return "one or more wagers on the following special prop bets: " + names;
+}
+
+bool SevenPoint7Rides(const Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (game.table.BetAmount(seat, kSevenPoint7) > kZero &&
+        game.table.BetCommitted(seat, kSevenPoint7) > kZero)
+      return true;
+  return false;
+}
+
+// A family that is switched off with bets up: asks whether they may come down. False: it stays.
+bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
+  const BetSet bets = BetRange(family.first, family.last);
+  if (!AnySeatHas(game, bets)) return true;
+  const bool special = IsSpecialProp(family.first);
+  error = std::string(family.title) + ": bets are up, and stay.";
+  if (special && SevenPoint7Rides(game)) {
+    error =
+        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
+        "contract "
+        "bet, you can't remove it until it resolves.";
+    ShowMessage(game, family.title, error);
+    return false;
+  }
+  const std::string text = "There are currently " +
+                           (special ? SpecialBetsUp(game) : std::string(family.text)) +
+                           " which will be removed if you continue with this operation.  Would you like to "
+                           "continue?";
+  if (ShowMessage(game, family.title, text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes) return false;
+  error.clear();
+  return true;
+}
+
+void TakeFamilyDown(Game& game, const Family& family) {
+  const BetSet bets = BetRange(family.first, family.last);
+  if (AnySeatHas(game, bets))
+    for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
+  if (!IsSpecialProp(family.first)) return;
+  // What was counted for these bets says nothing to those of a table that offers them again.
+  game.table.NumberMarks = 0;
+  game.table.FourRollCount = 0;
+}
+
+// Every question comes before the first bet is touched, so that one No leaves all families as they were.
+bool SwitchFamiliesOff(Game& game, const Settings& before, std::string& error) {
+  const auto goesOff = [&](const Family& family) {
+    return before.*family.offered && !(game.settings.*family.offered);
+  };
+  for (const Family& family : kFamilies)
+    if (goesOff(family) && !MaySwitchOff(game, family, error)) return false;
+  // Bets come down by the rules under which they were made.
+  const Settings wanted = game.settings;
+  for (const Family& family : kFamilies) {
+    if (!goesOff(family)) continue;
+    game.settings = before;
+    TakeFamilyDown(game, family);
+    game.settings = wanted;
+  }
+  return true;
+}
+
+// Whether every seat can pay the vig that the new settings ask for up front.
+bool VigCovered(Game& game, const char*& title, std::string& error) {
+  int short_ = 0;
+  bool lay = false;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    Currency onTable;
+    game.table.SeatBets[seat].ForEach([&](int bet) {
+      const Currency amount = game.table.BetAmount(seat, bet);
+      onTable += amount;
+      if (VigUpFront(game, bet)) {
+        onTable += VigFor(game, bet, amount);
+        lay = lay || IsLay(bet);
+      }
+    });
+    const bool covered =
+        game.table.AllowNegativeBankroll[seat] ||
+        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.OnTableAmount[seat]);
+    if (!covered) ++short_;
+  }
+  if (short_ == 0) return true;
+  title = lay ? "Lay Bet Vig" : "Buy Bet Vig";
+  error =
+      std::string("You're not allowed to change this setting at this time because ") +
+      (short_ == 1 && game.table.OccupiedSeats == 1
+           ? "you don't have enough bankroll remaining to pay the added up-front vig that would be required."
+           : "one or more players doesn't have enough bankroll remaining to pay the added up-front vig that "
+             "would be required.") +
+      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
+      "negative bankroll\"";
+  return false;
+}
+
+void OfferHouseStandard(Game& game) {
+  TableState& table = game.table;
+  if (table.OccupiedSeats == 0) return;
+  constexpr const char* kTitle = "Work On Come-out Roll";
+  if (ShowMessage(game, kTitle,
+                  "You've changed the house standard for bets that work on the come-out roll.\r\rNew players "
+                  "take the house standard as they buy in.\r\rPlayers who are at the table keep the settings "
+                  "that they have.\r\rWould you like to make any of the present players' settings match the "
+                  "new house standard now?",
+                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+    return;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(table, seat) && ShowMessage(game, kTitle,
+                                               "Would you like to make " + table.SeatName[seat] +
+                                                   "'s settings match the house standard?",
+                                               kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
+      table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
+}
+
+// A value that is within its limits, and yet none of those that there are.
+bool OneOfThose(const SettingRow& row, Game& game, std::string& error) {
+  const auto* cell = std::get_if<Cell<int>>(&row.cell);
+  if (cell == nullptr || row.oneOf.empty()) return true;
+  const int value = cell->at(game, kHouse, row.firstRow);
+  std::string values;
+  for (const int each : row.oneOf) {
+    if (value == each) return true;
+    values += (values.empty() ? "" : " or ") + std::to_string(each);
+  }
+  error = std::string(row.name) + " must be " + values + ".";
+  return false;
+}
+
+}  // namespace
+
+KeptSettings KeepSettings(Game& game) {
+  KeptSettings kept{game.settings, game.payoffs, {}};
+  ForEachSettingPlace(game, [&kept]<typename T>(const SettingPlace&, const T& value) {
+    kept.values.emplace_back(Value<T>{value});
+  });
+  return kept;
+}
+
+void RestoreSettings(Game& game, const KeptSettings& kept) {
+  std::size_t i = 0;
+  ForEachSettingPlace(game, [&]<typename T>(const SettingPlace&, T& value) {
+    value = std::get<Value<T>>(kept.values[i++]).value;
+  });
+  game.settings = kept.settings;
+  game.payoffs = kept.payoffs;
+}
+
+std::vector<SettingPlace> ChangesSince(Game& game, const KeptSettings& kept) {
+  std::vector<SettingPlace> changes;
+  std::size_t i = 0;
+  ForEachSettingPlace(game, [&]<typename T>(const SettingPlace& place, const T& value) {
+    if (!Same(value, std::get<Value<T>>(kept.values[i++]).value)) changes.push_back(place);
+  });
+  return changes;
+}
+
+void TakeEffectAtOnce(Game& game, const SettingRow& row) {
+  Settings& settings = game.settings;
+  const bool preset = row.facts.effect == Effect::kFieldPayoffs;
+  if (!preset && !std::holds_alternative<Cell<PayoffRecord>>(row.cell)) return;
+  if (preset && settings.FieldPreset != FieldPresetId::kOwn)
+    SetFieldPreset(game.payoffs, static_cast<int>(settings.FieldPreset), settings.Unit());
+  settings.FieldPreset = static_cast<FieldPresetId>(FieldPresetOf(game.payoffs));
+}
+
+bool SettingsHold(Game& game, const KeptSettings& before, std::string& error) {
+  if (const ConfigurationProblem problem = CheckConfiguration(game); problem.Found()) {
+    error = problem.text;
+    return false;
+  }
+  for (const SettingPlace& place : ChangesSince(game, before)) {
+    if (!OneOfThose(*place.row, game, error)) return false;
+    if (place.row->facts.effect != Effect::kNegativeAllowed) continue;
+    const int seat = place.seat.value;
+    if (game.table.AllowNegativeBankroll[seat] || game.table.BankrollCurrent[seat] >= kZero) continue;
+    error = "Before you can un-check this box, " + game.table.SeatName[seat] +
+            " must have a non-negative bankroll. Some options:\r\r -- Make a withdrawal from the ATM";
+    return false;
+  }
+  return true;
+}
+
+bool CarryOutSettings(Game& game, const KeptSettings& before, std::string& error) {
+  if (!SettingsHold(game, before, error)) return false;
+  RebuildBetUnits(game.payoffs, game.settings.Unit());
+  const std::vector<SettingPlace> changes = ChangesSince(game, before);
+  const bool vig = Has(changes, Effect::kVig);
+  const char* title = "";
+  if (vig && !VigCovered(game, title, error)) {
+    ShowMessage(game, title, error);
+    return false;
+  }
+  if (!SwitchFamiliesOff(game, before.settings, error)) return false;
+  if (vig) RecomputeVig(game);
+  game.autobet.ScriptsCompiled = false;
+  ReplaceMissingGenerator(game.generators);
+  if (Has(changes, Effect::kThrottle)) SetThrottle(game, game.settings.RollThrottle);
+  const bool house = std::any_of(changes.begin(), changes.end(), [](const SettingPlace& place) {
+    return place.row->facts.effect == Effect::kHouseStandard && place.seat == kHouse;
+  });
+  if (house) OfferHouseStandard(game);
+  if (Has(changes, Effect::kLog) && !game.events.RecordEventsActive) FlushEventsLog(game);
+  game.host->Changed(game, Change::kSettings);
+  RequireConsistency(game);
+  return true;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,114 @@
+// How the user has the screens: windows and their places, views of the table, folders, hot-keys. The window
+// fills it as things change and reads it when a table is opened; no rule looks at it, and the core only keeps
+// it in the game file.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "base/fields.h"
+#include "base/table_types.h"
+
+namespace tessaryn {
+
+// The numbers are those of the game file's records and never change.
+enum ToolWindow : int {
+  kDiceRollFilesWindow = 0,
+  kAutoPlayWindow = 1,
+  kAutoBetWindow = 2,
+  kRollPadWindow = 3,
+  kSessionsWindow = 4,
+  kEventsLogWindow = 5,
+  kSummaryWindow = 6,
+  kBankrollWindow = 7,
+  kRollTotalsWindow = 8,
+  kRollFreqsWindow = 9,
+  kBetResultsWindow = 10,
+  kBetTrendsWindow = 11,
+  kCheckStacksWindow = 12,
+  kHandsWindow = 13,
+  kHotKeysWindow = 14,
+  kMoveWindow = 15,
+  kToolWindows = 16,
+};
+
+// In screen units, of the frame's corner and the inner size. Width and height 0: never placed, or a window
+// that keeps no size.
+struct WindowPlace {
+  bool Open = false;
+  int Top = 0;
+  int Left = 0;
+  int Width = 0;
+  int Height = 0;
+};
+TESSARYN_FIELDS(WindowPlace, Open, Top, Left, Width, Height)
+
+// A view of the table; with a zoom below 500 there is none.
+struct KeptView {
+  int TableZoom = 0;
+  int TableAngle = 0;  // 0 to 359
+  int TableOffsetX = 0;
+  int TableOffsetY = 0;
+};
+TESSARYN_FIELDS(KeptView, TableZoom, TableAngle, TableOffsetX, TableOffsetY)
+
+inline constexpr int kKeptViews = 10;
+inline constexpr int kLeastZoom = 500;
+inline constexpr int kMostZoom = 5000;
+
+// The folders that the file chooser remembers, by what is chosen.
+enum ChooserFolder : int {
+  kGameFolder = 0,
+  kScriptFolder = 1,
+  kRollFileFolder = 2,
+  kProbabilityFolder = 3,
+  kEventsLogFolder = 4,
+  kSessionsLogFolder = 5,
+  kChooserFolders = 6,
+};
+
+enum MainWindowState : int { kMainNormal = 0, kMainMinimised = 1, kMainMaximised = 2 };
+
+struct HotKey {
+  char key = 0;
+  std::string path;         // of a script file; at most 100 bytes in the file
+  std::string description;  // likewise
+
+  friend bool operator==(const HotKey&, const HotKey&) = default;
+};
+TESSARYN_FIELDS(HotKey, key, path, description)
+
+struct ScreenState {
+  // --- Windows.
+  int MainWindow = kMainNormal;
+  WindowPlace MainPlace;  // as it is when neither minimised nor maximised
+  WindowPlace ToolWindows[kToolWindows];
+  int RailLeft[kSeatRows] = {};  // of the players' rails
+  int RailTop[kSeatRows] = {};
+  int ReportViewOption = 0;    // of the roll totals
+  int FurtherWindows[8] = {};  // of windows to come
+  // --- The table.
+  KeptView View;
+  KeptView SavedViews[kKeptViews];  // "View 0" to "View 9"
+  bool ShowBetAmounts = false;
+  bool ShowPropositions = false;
+  int BetAmountMode = 1;  // how a click gets its amount, as TableCommands has it
+  Currency ClickAmount = Currency::Dollars(5);
+  bool HotKeysEnabled = true;
+  // --- Files.
+  std::string Folders[kChooserFolders];  // empty: the data folder
+  std::vector<HotKey> HotKeys;           // as HotKeys.dta has them
+};
+TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, RailLeft, RailTop, ReportViewOption,
+                FurtherWindows, View, SavedViews, ShowBetAmounts, ShowPropositions, BetAmountMode,
+                ClickAmount, HotKeysEnabled, Folders, HotKeys)
+
+// The game file that the table belongs to. Written by game_file.cpp.
+struct GameFileState {
+  std::string Path;           // empty: untitled, or the default game
+  std::uint64_t Written = 0;  // a digest of what the file holds; of no meaning without a path
+};
+TESSARYN_FIELDS(GameFileState, Path, Written)
+
+}  // namespace tessaryn
