@@ -124,7 +124,7 @@ std::vector<Bar> BarsOf(RollGrouping grouping) {
   return bars;
 }
 
-double Percent(std::int64_t count, std::int64_t rolls) {
+double ShareOf(std::int64_t count, std::int64_t rolls) {
   return rolls == 0 ? 0 : 100.0 * static_cast<double>(count) / static_cast<double>(rolls);
 }
 
@@ -151,7 +151,7 @@ ReportRow BarRow(const Game& game, const ReportSelection& selection, const Seats
     rolls += RollCount(game.stats, selection.scope, seat, 0);
     count += RollCount(game.stats, selection.scope, seat, bar.item);
   }
-  const double share = Percent(count, rolls);
+  const double share = ShareOf(count, rolls);
   const double chance = ProbabilityOfEvent(game.percentage, bar.item, selection.skewed);
   ReportCell actual{NumberText(share, kTwoDecimals), share};
   actual.marked = IsFarOff(count, rolls, ExactChance(game, bar.item, selection.skewed));
@@ -199,7 +199,7 @@ ReportTable RollFrequenciesReport(const Game& game, const ReportSelection& selec
   const int item = selection.item;
   const std::int64_t rolls = RollCount(stats, kCurrentSession, 0, 0);
   const std::int64_t count = RollCount(stats, kCurrentSession, 0, item);
-  const double share = Percent(count, rolls);
+  const double share = ShareOf(count, rolls);
   constexpr double kLeastShare = 0.001;
   ReportTable report;
   report.selected = RollItemText(item);

@@ -35,12 +35,11 @@ void AddRolls(const Game& game, int scope, const Seats& seats, ReportTable& repo
     rolls += RollCount(stats, scope, seat, 0);
     hands += stats.HandCount[Slot(scope, seat)];
   }
-  const Currency rate = game.settings.SimRollRate;
+  const double rate = game.settings.SimRollRate.ToDouble();
   report.Add("", "Total rolls", {CountCell(tableRolls), CountCell(rolls)});
   report.Add("", "Total hands", {CountCell(stats.HandCount[Slot(scope, 0)]), CountCell(hands)});
-  report.Add("", "Sim hours",
-             {rate > kZero ? NumberCell(static_cast<double>(tableRolls) / rate.ToDouble()) : TextCell("")});
-  report.Add("", "Rolls / hour", {NumberCell(rate.ToDouble())});
+  report.Add("", "Sim hours", {rate > 0 ? NumberCell(static_cast<double>(tableRolls) / rate) : TextCell("")});
+  report.Add("", "Rolls / hour", {NumberCell(rate)});
   report.Add("", "% of rolls", {TextCell(ShareText(rolls, tableRolls))}, kPlayersColumn);
 }
 
@@ -107,7 +106,7 @@ void AddComps(const Game& game, int scope, const Seats& seats, ReportTable& repo
   const Currency vig = Currency::FromDouble(-sum.expectedResult);
   // The mark: the setting of true probabilities, or of zero outcomes, makes it another figure.
   const bool marked = !seats.empty() && vig != Currency::FromDouble(-inForce);
-  const bool timeless = settings.SimRollRate <= kZero;
+  const bool timeless = settings.SimRollRate.ToDouble() <= 0;
   constexpr int kByActionAndTime = 2;
   const auto add = [&](const char* label, ReportCell cell) {
     report.Add("", label, {std::move(cell)}, kPlayersColumn);

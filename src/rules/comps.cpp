@@ -39,7 +39,7 @@ Comps FigureComps(const Game& game, int scope, int seat) {
   });
   comps.rolls = PlayerRolls(game.stats, scope, seat);
   // A table of 0 rolls per hour can come from a file; it plays no time.
-  if (comps.decisions > 0 && settings.SimRollRate > kZero) {
+  if (comps.decisions > 0 && settings.SimRollRate.ToDouble() > 0) {
     const double hours = static_cast<double>(comps.rolls) / settings.SimRollRate.ToDouble();
     comps.averageAction =
         Currency::FromDouble(comps.totalAction.ToDouble() * hours / static_cast<double>(comps.decisions));

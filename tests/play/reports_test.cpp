@@ -639,7 +639,7 @@ TEST(Reports, NothingIsDividedByNothing) {
   selection.scope = kCurrentSession;
   ExpectAllReports(play.game, play.ledger, selection);
   // A rate that only a file can bring.
-  play.game.settings.SimRollRate = kZero;
+  play.game.settings.SimRollRate = {};
   for (const ReportKind& kind : ReportKinds())
     for (const ReportRow& row : MakeReport(play.game, kind, selection).rows)
       for (const ReportCell& cell : row.cells) {
