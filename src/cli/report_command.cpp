@@ -178,10 +178,9 @@ Json ReportJson(const ReportTable& report) {
     rows[RowName(report, i)] = texts;
   }
   Json answer{{"report", report.name}};
-  if (!report.selected.empty()) answer["selected"] = report.selected;
-  if (!report.note.empty()) answer["note"] = report.note;
   answer["columns"] = report.columns;
   answer["rows"] = rows;
+  if (!report.note.empty()) answer["note"] = report.note;
   return answer;
 }
 

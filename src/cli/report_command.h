@@ -16,7 +16,7 @@ inline constexpr const char* kReportArguments =
 // The report that the words ask for; words[0] is the command. False, with the reason, when they are not good.
 bool ReportOf(const Game& game, const std::vector<std::string>& words, ReportTable& report,
               std::string& error);
-// {"report":NAME,"columns":[..],"rows":{LABEL:[TEXT,..]}}, and the note and the players where there are any.
+// {"report":NAME,"columns":[..],"rows":{LABEL:[TEXT,..]}}, and the note where there is one.
 Json ReportJson(const ReportTable& report);
 // What may follow on the command: the names of the reports and of the selections.
 std::vector<std::string> ReportWords();

@@ -29,31 +29,8 @@ using Rows = std::map<std::string, std::vector<std::string>>;
 using Row = std::vector<std::string>;
 using Seats = std::vector<int>;
 
-// --- Texts, the slow way.
-
-std::string Shown(double value, std::size_t least, std::size_t most, bool zeroBeforePoint = true) {
-  if (value == 0) return "0";
-  char digits[64];
-  const double power = std::pow(10, static_cast<double>(most));
-  std::snprintf(digits, sizeof digits, "%.*f", static_cast<int>(most),
-                std::round(std::fabs(value) * power) / power);
-  std::string whole = digits;
-  std::string fraction;
-  if (const auto point = whole.find('.'); point != std::string::npos) {
-    fraction = whole.substr(point + 1);
-    whole.resize(point);
-  }
-  while (fraction.size() > least && fraction.back() == '0') fraction.pop_back();
-  for (std::size_t at = whole.size(); at > 3; at -= 3) whole.insert(at - 3, ",");
-  if (whole == "0" && !zeroBeforePoint && !fraction.empty()) whole.clear();
-  const std::string text = whole + (fraction.empty() ? "" : "." + fraction);
-  return value < 0 ? "-" + text : text;
-}
-std::string Fewest(double value) {
-  if (value > 0 && value < 0.00005) return "< 0.0001";
-  return Shown(value, std::floor(value) == value ? 0 : 1, 4);
-}
-std::string Whole(double value) { return Shown(value, 0, 0); }
+std::string Fewest(double value) { return FewestDecimals(value); }
+std::string Whole(double value) { return NumberText(value, kWholeNumber); }
 double Money(double value) { return Currency::FromDouble(value).ToDouble(); }
 
 // --- The ledger.
@@ -257,7 +234,7 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
       {"% of rolls",
        {shot == 0       ? "0%"
         : shot == rolls ? "100%"
-                        : Shown(100 * shot / rolls, 1, 2) + "%"}},
+                        : NumberText(100 * shot / rolls, kPercentShare)}},
       {"High bankroll", money(high)},
       {"Low bankroll", money(low)},
       {"Beginning bankroll", money(begin)},
@@ -329,7 +306,7 @@ Rows Hands(const Ledger& ledger, int scope, const Seats& seats, bool percent) {
       const double count = value(kind);
       rows[label].push_back(!percent               ? Whole(count)
                             : all.kinds[kind] == 0 ? "0"
-                                                   : Shown(100 * count / all.kinds[kind], 2, 2, false));
+                                                   : NumberText(100 * count / all.kinds[kind], kTwoDecimals));
     }
   };
   const auto points = [&all](int kind) {
@@ -342,7 +319,9 @@ Rows Hands(const Ledger& ledger, int scope, const Seats& seats, bool percent) {
   add("Total", [&](int kind) { return all.kinds[kind]; });
   add("Points", points);
   add("Naturals", [&](int kind) { return all.kinds[kind] - points(kind); });
-  const auto perHand = [hands](double count) { return Row{hands == 0 ? "0" : Shown(count / hands, 0, 2)}; };
+  const auto perHand = [hands](double count) {
+    return Row{hands == 0 ? "0" : NumberText(count / hands, kUpToTwoDecimals)};
+  };
   rows["Total rolls"] = {Whole(all.rolls)};
   rows["Total hands"] = {Whole(hands)};
   rows["Most rolls in a hand"] = {Whole(mostRolls)};
@@ -445,7 +424,7 @@ Rows RollTotals(const Game& game, const Ledger& ledger, const ReportSelection& s
         std::find_if(session.rbegin(), session.rend(), [&](const Thrown& r) { return Fits(outcome, r); });
     const bool running = selection.scope == kCurrentHand || selection.scope == kCurrentSession;
     rows[label] = {Whole(count), running ? Whole(static_cast<double>(found - session.rbegin())) : "---",
-                   rolls == 0 ? "0" : Shown(100 * count / rolls, 2, 2, false),
+                   rolls == 0 ? "0" : NumberText(100 * count / rolls, kTwoDecimals),
                    selection.skewed ? Fewest(skewed / 1000) : Fewest(std::round(ways * 10000 / 36) / 100)};
   };
   const auto& matrix = game.percentage.ProbMatrix[1];
