@@ -23,7 +23,7 @@ void SeatPlayers(Game& game, int count, bool busy) {
   std::string error;
   for (int seat = 1; seat <= count; ++seat) {
     JoinPlayer(game, seat, kNames[seat - 1], Currency::Dollars(5'000'000), error);
-    game.table.handling[seat].WinHandling = game.table.handling[seat].LoseHandling = 2;
+    game.table.seats[seat].handling.WinHandling = game.table.seats[seat].handling.LoseHandling = 2;
     for (int bet = 1; busy && bet <= kBets; ++bet) SetBetAmount(game, seat, bet, Currency::Dollars(31 + bet));
   }
   game.settings.ShooterBetRule = 0;

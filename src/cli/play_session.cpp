@@ -73,7 +73,7 @@ SettleAnswer PipeHost::AskSettlement(Game& game, const SettleQuestion& question)
   SettleAnswer answer;
   answer.choice = answers.TakeChoice();
   if (answer.choice == 0) return answer;
-  const std::string text = game.table.SeatName[question.seat] + ": " + BetName(question.bet) + " $" +
+  const std::string text = game.table.seats[question.seat].SeatName + ": " + BetName(question.bet) + " $" +
                            FormatMoney(game.table.BetAmount(question.seat, question.bet)) +
                            (question.won ? " wins $" : " loses $") + FormatMoney(Abs(question.net));
   const Json message{{"message", {{"title", question.won ? "WINNER" : "LOSER"}, {"text", text}}}};

@@ -105,7 +105,7 @@ class TerminalHost : public PlayHost {
     const char* const* captions = question.won ? kWinChoiceCaptions : kLoseChoiceCaptions;
     const int usual = question.won ? int{kWinSame} : int{kLoseTakeDown};
     std::printf("\n%s  %s's %s: $%s %s $%s\n", question.won ? "WINNER" : "LOSER",
-                game.table.SeatName[question.seat].c_str(), BetName(question.bet).c_str(),
+                game.table.seats[question.seat].SeatName.c_str(), BetName(question.bet).c_str(),
                 FormatMoney(game.table.BetAmount(question.seat, question.bet)).c_str(),
                 question.won ? "wins" : "loses", FormatMoney(Abs(question.net)).c_str());
     for (int choice = 1; choice <= 5; ++choice) std::printf("  %d%s\n", choice, captions[choice]);
@@ -119,8 +119,8 @@ class TerminalHost : public PlayHost {
     const std::vector<std::string>& lines = game.autobet.Scripts[shown.seat].ScriptLines;
     const auto line = static_cast<std::size_t>(shown.line);
     if (shown.seat != stepSeat_ || shown.line != stepLine_)
-      std::printf("%s, line %d: %s\n", shown.seat == 0 ? "Hot-key" : game.table.SeatName[shown.seat].c_str(),
-                  shown.line,
+      std::printf("%s, line %d: %s\n",
+                  shown.seat == 0 ? "Hot-key" : game.table.seats[shown.seat].SeatName.c_str(), shown.line,
                   line >= 1 && line <= lines.size() ? std::string(Trimmed(lines[line - 1])).c_str() : "");
     stepSeat_ = shown.seat;
     stepLine_ = shown.line;
@@ -190,11 +190,11 @@ constexpr std::size_t kMostOfName = 40;
 void DrawSeat(const Game& game, int seat) {
   const TableState& table = game.table;
   std::printf("%c%d %-14s bankroll %12s   on table %10s   rail %12s\n", seat == table.ShooterSeat ? '*' : ' ',
-              seat, table.SeatName[seat].c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
-              FormatMoney(table.OnTableAmount[seat]).c_str(),
-              FormatMoney(table.BankrollCurrent[seat] - table.OnTableAmount[seat]).c_str());
+              seat, table.seats[seat].SeatName.c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
+              FormatMoney(table.seats[seat].OnTableAmount).c_str(),
+              FormatMoney(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount).c_str());
   IndentedList list;
-  table.SeatBets[seat].ForEach([&](int bet) {
+  table.seats[seat].SeatBets.ForEach([&](int bet) {
     list.Add(BetName(bet) + " $" + FormatMoney(table.BetAmount(seat, bet)) +
              CallMark(BetWorkingOf(game, seat, bet)));
   });
@@ -281,7 +281,8 @@ class ErrorTeller {
       const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
       if (errors.size() < told_[seat]) told_[seat] = 0;
       for (; told_[seat] < errors.size(); ++told_[seat])
-        std::printf("%s: %s\n", seat == 0 ? "Hot-key" : (game.table.SeatName[seat] + "'s script").c_str(),
+        std::printf("%s: %s\n",
+                    seat == 0 ? "Hot-key" : (game.table.seats[seat].SeatName + "'s script").c_str(),
                     ErrorReport(errors[told_[seat]]).c_str());
     }
   }

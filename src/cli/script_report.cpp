@@ -103,7 +103,7 @@ void PrintErrors(const Game& game) {
     const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
     if (errors.empty()) continue;
     std::printf("\nRun-time errors of %s's script, and where each came up first:\n",
-                game.table.SeatName[seat].c_str());
+                game.table.seats[seat].SeatName.c_str());
     for (const ScriptErrorKind& kind : errors)
       std::printf("%12s x %s\n", FormatMoney(Currency::Dollars(kind.count)).c_str(),
                   ErrorReport(kind).c_str());
@@ -116,7 +116,8 @@ bool EveryScriptCouldAct(const Game& game) {
     const SeatScript& script = game.autobet.Scripts[seat];
     if (script.Acted || script.Errors.empty()) continue;
     could = false;
-    Fail(game.table.SeatName[seat] + "'s script could never act: " + ErrorReport(script.Errors.front()));
+    Fail(game.table.seats[seat].SeatName +
+         "'s script could never act: " + ErrorReport(script.Errors.front()));
   }
   return could;
 }

@@ -15,7 +15,7 @@ Json MoneyJson(Currency value) {
 
 Json BetsUpJson(const Game& game, int seat) {
   Json bets = Json::object();
-  game.table.SeatBets[seat].ForEach(
+  game.table.seats[seat].SeatBets.ForEach(
       [&](int bet) { bets[std::to_string(bet)] = MoneyJson(game.table.BetAmount(seat, bet)); });
   return bets;
 }
@@ -25,7 +25,7 @@ namespace {
 Json SeatJson(const Game& game, int seat) {
   const TableState& table = game.table;
   Json bets = Json::object();
-  table.SeatBets[seat].ForEach([&](int bet) {
+  table.seats[seat].SeatBets.ForEach([&](int bet) {
     bets[std::to_string(bet)] = {{"amount", MoneyJson(table.BetAmount(seat, bet))},
                                  {"working", BetWorkingOf(game, seat, bet)},
                                  {"committed", MoneyJson(table.BetCommitted(seat, bet))}};
@@ -35,10 +35,10 @@ Json SeatJson(const Game& game, int seat) {
     if (const Currency value = table.BetAmount(seat, kFirstCheckStack + stack); value != kZero)
       stacks[std::to_string(stack)] = MoneyJson(value);
   return {{"seat", seat},
-          {"name", table.SeatName[seat]},
+          {"name", table.seats[seat].SeatName},
           {"bankroll", MoneyJson(table.BankrollCurrent[seat])},
-          {"onTable", MoneyJson(table.OnTableAmount[seat])},
-          {"rail", MoneyJson(table.BankrollCurrent[seat] - table.OnTableAmount[seat])},
+          {"onTable", MoneyJson(table.seats[seat].OnTableAmount)},
+          {"rail", MoneyJson(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount)},
           {"bets", bets},
           {"checkstacks", stacks}};
 }
@@ -152,10 +152,10 @@ Json RunJson(const Game& game, const RunFigures& figures) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     seats.push_back({{"seat", seat},
-                     {"name", game.table.SeatName[seat]},
+                     {"name", game.table.seats[seat].SeatName},
                      {"bankrollStart", MoneyJson(figures.bankrollStart[seat])},
                      {"bankroll", MoneyJson(game.table.BankrollCurrent[seat])},
-                     {"onTable", MoneyJson(game.table.OnTableAmount[seat])},
+                     {"onTable", MoneyJson(game.table.seats[seat].OnTableAmount)},
                      {"betsWon", MoneyJson(SumBets(stats, kWinStats, seat, kStatCount))},
                      {"betsLost", MoneyJson(SumBets(stats, kLossStats, seat, kStatCount))},
                      {"wagered", MoneyJson(SumBets(stats, kWagerStats, seat, kStatTotal))},

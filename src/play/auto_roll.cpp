@@ -22,7 +22,7 @@ bool Ask(Game& game, const char* title, const std::string& text) {
 }
 
 std::string ScriptOwner(const Game& game) {
-  return game.table.SeatName[std::clamp(game.autobet.CurrentAutobettor, 0, kSeats)];
+  return game.table.seats[std::clamp(game.autobet.CurrentAutobettor, 0, kSeats)].SeatName;
 }
 
 bool AutoStopDue(const Game& game) {

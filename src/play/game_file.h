@@ -2,13 +2,15 @@
 // files that it refers to. docs/formats.md has the format, byte by byte.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessaryn {
 
 struct Game;
+struct GameReferences;
+struct Host;
 
 inline constexpr const char* kGameFileExtension = ".crp";
 inline constexpr const char* kGameFileMagic = "Tessaryn Pro Game File, Data Format 2.2";
@@ -17,6 +19,8 @@ inline constexpr const char* kDefaultGameFile = "default.crp";    // read at the
 inline constexpr const char* kBackupGameFile = "default.bak";     // the default as it was before the last end
 inline constexpr const char* kAutosaveGameFile = "autosave.crp";  // there while a table is played
 inline constexpr const char* kAutosaveProbabilityFile = "autosave.prb";
+// What a default game that can't be read is called before another takes its place.
+inline constexpr const char* kDamagedGameFile = "default.damaged";
 
 std::string DefaultGamePath(const Game& game);
 std::string BackupGamePath(const Game& game);
@@ -51,9 +55,9 @@ void ForgetGameFile(Game& game);
 // What a program was started with: trimmed, and without a pair of quotes round it. A name that doesn't end
 // in ".crp" is told, and the default game meant; so does an empty one.
 std::string GameToOpen(Game& game, std::string_view argument);
-// Opens the game that the program was started with, by the rule above. Without a default game the table stays
-// on its defaults, without a word. A default that can't be read is told, and its backup offered. False when
-// the table is on its defaults.
+// Opens the game that the program was started with, by the rule above, and if that can't be opened the
+// default one. Without a default game the table stays on its defaults, without a word. A default that can't
+// be read is told, and its backup offered. False when the table is on its defaults.
 bool OpenFirstGame(Game& game, std::string_view argument);
 // Writes the default game at the end, keeps the former one as its backup, and removes the autosave. On
 // failure, told in error, the former default stands and the autosave stays.
@@ -65,19 +69,23 @@ bool AutosaveGame(Game& game, std::string& error);
 inline constexpr int kAutosaveMinutes = 3;
 // An autosave of a program that came to no orderly end is there.
 bool HasAutosave(const Game& game);
-// Asks whether to open it, and does; whatever the answer the autosave is gone afterwards, but for one that
-// can't be read. False when the table was not replaced. To be called at the start, before OpenFirstGame.
+// Asks whether to open it, and does. One that was declined or can't be read is removed. False when the
+// table was not replaced. To be called at the start, before OpenFirstGame.
 bool OfferAutosave(Game& game);
 void RemoveAutosave(const Game& game);
 
 // --- Looking.
 
-// A line of what a game file holds, for people and programs.
-struct GameFileFact {
-  std::string name;
-  std::string value;
+// What is wrong with a game file, in the words of its box; reason tells more where there is more to tell.
+struct GameFileProblem {
+  std::string title;
+  std::string text;
+  std::string reason;
+  bool Found() const { return !text.empty(); }
 };
-// Without opening anything that it refers to. On failure, told in error, facts is unchanged.
-bool DescribeGameFile(const std::string& path, std::vector<GameFileFact>& facts, std::string& error);
+// A table as a file has it, beside the one in play: nothing that it refers to is opened. On a problem game is
+// null. host outlives the game.
+GameFileProblem ReadGame(Host& host, const std::string& applicationFolder, const std::string& path,
+                         std::unique_ptr<Game>& game, GameReferences& references);
 
 }  // namespace tessaryn

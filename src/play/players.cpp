@@ -11,6 +11,7 @@
 #include "rules/consistency.h"
 #include "rules/shooter.h"
 #include "state/game.h"
+#include "state/seat_parts.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
@@ -22,7 +23,8 @@ namespace {
 void ListSeated(TableState& table) {
   table.OccupiedSeats = 0;
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (!table.SeatName[seat].empty()) table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
+    if (!table.seats[seat].SeatName.empty())
+      table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
 }
 
 std::string Lower(std::string text) {
@@ -42,7 +44,7 @@ std::string NameProblem(const Game& game, const std::string& name, int ownSeat) 
   if (const std::string problem = TextProblem(name); !problem.empty())
     return "That can't be a player's name: " + problem + ".";
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (seat != ownSeat && Lower(game.table.SeatName[seat]) == Lower(name))
+    if (seat != ownSeat && Lower(game.table.seats[seat].SeatName) == Lower(name))
       return "There's already a player named " + name + ".";
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
@@ -56,33 +58,53 @@ std::string NameProblem(const Game& game, const std::string& name, int ownSeat) 
   }
 }
 
+namespace {
+
+// The sets of seats, a bit each.
+template <typename Visit>
+void ForEachSeatMask(Game& game, Visit&& visit) {
+  visit(game.stats.HandSlotsUsed);
+  visit(game.stats.LastHandSlotsUsed);
+  visit(game.autobet.SessionAhead);
+  visit(game.autobet.BeginningNewSession);
+}
+
+template <typename T>
+void Reset(T& value) {
+  if constexpr (std::is_array_v<T>) {
+    for (auto& element : value) Reset(element);
+  } else {
+    value = T{};
+  }
+}
+
+template <typename T>
+void SwapBits(T& mask, int a, int b) {
+  if (((mask >> a ^ mask >> b) & 1u) != 0) mask ^= static_cast<T>(1u << a | 1u << b);
+}
+
+template <typename Part>
+void ForEachPartOfASeat(Game& game, Part&& part) {
+  ForEachSeatPart(game.table, part);
+  ForEachSeatPart(game.stats, part);
+  ForEachSeatPart(game.autobet, part);
+  ForEachSeatPart(game.events, part);
+}
+
+}  // namespace
+
 void ClearSeat(Game& game, int seat) {
   TableState& table = game.table;
   for (int bet = 1; bet < kBetRows; ++bet) SetBetAmount(game, seat, bet, kZero);
-  for (int bet = 0; bet < kBetRows; ++bet) {
-    table.BetBeforeRoll(seat, bet) = table.BetAfterRoll(seat, bet) = kZero;
-    if (bet < 100) table.BetCommitted(seat, bet) = kZero;
-    if (bet <= 100) table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
-  }
-  table.TouchedSinceBefore[seat] = table.TouchedSinceAfter[seat] = {};
-  table.StacksSinceBefore[seat] = table.StacksSinceAfter[seat] = {};
-  table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
-  table.BetWorking[seat] = {};
-  table.BetWorking[seat].byDefault = table.Point != 0 ? kAllTableBets : table.BetDefaultWorking[seat];
-  table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
-  for (std::string& name : table.CheckStackName[seat]) name.clear();
-  for (int i = 0; i < 6; ++i)
-    table.LayVigHeld[seat][i] = table.BuyVigHeld[seat][i] = table.ComeTravelAmount[seat][i] = kZero;
-  for (auto* money : {table.BankrollCurrent, table.OnTableAmount, table.RailAmount, table.BankrollBeforeRoll,
-                      table.BankrollAfterRoll, table.AtmLogged, table.BankrollInitAmount})
-    money[seat] = kZero;
-  table.AllowNegativeBankroll[seat] = false;
-  table.BankrollInitType[seat] = 0;
-  table.handling[seat] = Handling{};
-  table.ComeMovedTo[seat] = table.DontComeMovedTo[seat] = 0;
-  table.SessionsLogName[seat].clear();
-  for (int i = 0; i < 4; ++i) table.VisibleStacks[seat][i] = i + 1;
-  ClearSeatStatistics(game, seat);
+  ForEachPartOfASeat(game, [seat](auto at) { Reset(at(seat)); });
+  ListSeated(table);
+  SeatState& own = table.seats[seat];
+  own.BetDefaultWorking = table.seats[0].BetDefaultWorking;
+  own.BetWorking.byDefault = table.Point != 0 ? kAllTableBets : own.BetDefaultWorking;
+  own.BetWorkingBeforeRoll = own.BetWorking;
+  for (int scope = 0; scope < kScopes; ++scope)
+    game.stats.RollsNotSeen[Slot(scope, seat)] = game.stats.RollTotals[Slot(scope, 0)];
+  game.autobet.SessionAhead |= static_cast<std::uint16_t>(1u << seat);
 }
 
 bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency bankroll, std::string& error) {
@@ -91,7 +113,7 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   if (seat < 1 || seat > kSeats) {
     error = "There is no seat " + std::to_string(seat) + "; seats are 1 to 8.";
   } else if (IsOccupied(table, seat)) {
-    error = "Seat " + std::to_string(seat) + " is taken by " + table.SeatName[seat] + ".";
+    error = "Seat " + std::to_string(seat) + " is taken by " + table.seats[seat].SeatName + ".";
   } else if (name.empty()) {
     error = "A player needs a name.";
   } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
@@ -103,11 +125,11 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   }
   if (!error.empty()) return false;
   ClearSeat(game, seat);
-  table.SeatName[seat] = name;
+  table.seats[seat].SeatName = name;
   ListSeated(table);
   StartBankroll(game, seat, bankroll);
-  table.BankrollInitAmount[seat] = bankroll;
-  table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+  table.seats[seat].BankrollInitAmount = bankroll;
+  table.seats[seat].SessionsLogName = game.dataFolder + Lower(name) + ".slg";
   if (table.ShooterSeat == 0) {
     table.ShooterSeat = seat;
     if (HandRolls(game.stats) == 0) table.HandSeat = seat;
@@ -212,7 +234,7 @@ void LogLeaving(Game& game, int seat, Currency total) {
   const TableState& table = game.table;
   const Currency cashed = table.BankrollCurrent[seat] - total;
   const Currency result = cashed - game.stats.BankrollSessionStart[seat];
-  std::string line = "    " + table.SeatName[seat] + " cashed out with $" + PlainMoney(cashed) + " (";
+  std::string line = "    " + table.seats[seat].SeatName + " cashed out with $" + PlainMoney(cashed) + " (";
   if (result == kZero)
     line += "broke even";
   else
@@ -232,7 +254,7 @@ bool RemovePlayer(Game& game) {
   const int seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const Abandoned abandoned = ContractMoney(game.table, seat);
-  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.SeatName[seat], abandoned),
+  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.seats[seat].SeatName, abandoned),
                   kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
     return false;
   LeaveTable(game, seat);
@@ -244,13 +266,8 @@ void LeaveTable(Game& game, int seat) {
   if (!IsOccupied(table, seat)) return;
   LogLeaving(game, seat, ContractMoney(table, seat).total);
   ClearSeat(game, seat);
-  game.autobet.Scripts[seat] = SeatScript{};
-  game.autobet.ScriptActive[seat] = false;
-  game.events.ScriptActiveLogged[seat] = false;
   RecomputeMasterScriptFlag(game.autobet);
   game.autobet.ScriptsCompiled = false;
-  table.SeatName[seat].clear();
-  ListSeated(table);
   const bool handRolled = HandRolls(game.stats) > 0;
   if (table.ShooterSeat == seat) PassDice(game, kPassShooterLeft);
   if (table.HandSeat == seat && handRolled) table.HandSeat = 0;
@@ -269,9 +286,9 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
   else
     error = name.empty() ? "A player needs a name." : NameProblem(game, name, seat);
   if (!error.empty()) return false;
-  const std::string old = table.SeatName[seat];
+  const std::string old = table.seats[seat].SeatName;
   WriteEventsLogLine(game, "    " + old + "'s name changed to " + name);
-  table.SeatName[seat] = name;
+  table.seats[seat].SeatName = name;
   game.autobet.ScriptsCompiled = false;
   game.host->Changed(game, Change::kPlayers);
   return true;
@@ -280,7 +297,7 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
 bool RenamePlayer(Game& game) {
   const int seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
-  const std::string old = game.table.SeatName[seat];
+  const std::string old = game.table.seats[seat].SeatName;
   std::string name;
   if (!AskName(game, "Rename Player", "Enter a new name for " + old + ".", old, seat, name)) return false;
   std::string error;
@@ -289,68 +306,28 @@ bool RenamePlayer(Game& game) {
   if (ShowMessage(game, "Rename Sessions Log",
                   "Would you also like to change " + name + "'s sessions log filename?",
                   kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-    game.table.SessionsLogName[seat] = game.dataFolder + Lower(name) + ".slg";
+    game.table.seats[seat].SessionsLogName = game.dataFolder + Lower(name) + ".slg";
   return true;
 }
 
 namespace {
 
-template <typename T, int kRows>
-void SwapColumns(SeatBetTable<T, kRows>& table, int a, int b) {
-  for (auto& row : table.cells) std::swap(row[a], row[b]);
-}
-
-void SwapSeatTables(Game& game, int a, int b) {
+void SwapSeats(Game& game, int a, int b) {
   TableState& table = game.table;
-  std::swap(table.SeatName[a], table.SeatName[b]);
+  const auto swap = [a, b](auto at) { std::swap(at(a), at(b)); };
+  ForEachPartOfASeat(game, swap);
+  ForEachSeatPart(game.graph, swap);
+  ForEachSeatMask(game, [a, b](auto& mask) { SwapBits(mask, a, b); });
   ListSeated(table);
   // Both seats' copies may be out of date now.
   table.SeatsSinceBefore |= 1u << a | 1u << b;
   table.SeatsSinceAfter |= 1u << a | 1u << b;
-  SwapColumns(table.BetAmount, a, b);
-  SwapColumns(table.BetBeforeRoll, a, b);
-  SwapColumns(table.BetAfterRoll, a, b);
-  SwapColumns(table.BetCommitted, a, b);
-  SwapColumns(table.BetStreak, a, b);
-  SwapColumns(table.BetStreakBefore, a, b);
-  const auto swap = [a, b](auto& rows) { std::swap(rows[a], rows[b]); };
-  swap(table.BetWorking);
-  swap(table.BetWorkingBeforeRoll);
-  swap(table.BetDefaultWorking);
-  swap(table.CheckStackName);
-  swap(table.SeatBets);
-  swap(table.TouchedSinceBefore);
-  swap(table.TouchedSinceAfter);
-  swap(table.StacksSinceBefore);
-  swap(table.StacksSinceAfter);
-  swap(table.LayVigHeld);
-  swap(table.BuyVigHeld);
-  swap(table.ComeTravelAmount);
-  swap(table.ComeMovedTo);
-  swap(table.DontComeMovedTo);
-  swap(table.BankrollCurrent);
-  swap(table.OnTableAmount);
-  swap(table.RailAmount);
-  swap(table.BankrollBeforeRoll);
-  swap(table.BankrollAfterRoll);
-  swap(table.AtmLogged);
-  swap(table.AllowNegativeBankroll);
-  swap(table.BankrollInitType);
-  swap(table.BankrollInitAmount);
-  swap(table.handling);
-  swap(table.SessionsLogName);
-  swap(table.VisibleStacks);
-  swap(game.autobet.Scripts);
-  swap(game.autobet.ScriptActive);
-  swap(game.events.ScriptActiveLogged);
   // Who has each bet up is kept by place in the pay order.
   for (std::uint8_t& seats : table.SeatsUp) seats = 0;
   for (int place = 0; place < kSeats; ++place)
-    table.SeatBets[kPayOrder[place]].ForEach(
+    table.seats[kPayOrder[place]].SeatBets.ForEach(
         [&](int bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
-  for (PlotRow& row : game.graph.Rows) std::swap(row.cells[a], row.cells[b]);
   BankrollPlotChanged(game);
-  SwapSeatStatistics(game, a, b);
 }
 
 }  // namespace
@@ -362,14 +339,14 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   } else if (toSeat < 1 || toSeat > kSeats) {
     error = "There is no seat " + std::to_string(toSeat) + "; seats are 1 to 8.";
   } else if (IsOccupied(table, toSeat)) {
-    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.SeatName[toSeat] + ".";
+    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.seats[toSeat].SeatName + ".";
   }
   if (!error.empty()) return false;
-  SwapSeatTables(game, fromSeat, toSeat);
+  SwapSeats(game, fromSeat, toSeat);
   for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
-  WriteEventsLogLine(game, "    " + table.SeatName[toSeat] + " moved to " + StickPosition(toSeat));
+  WriteEventsLogLine(game, "    " + table.seats[toSeat].SeatName + " moved to " + StickPosition(toSeat));
   game.host->Changed(game, Change::kPlayers);
   RequireConsistency(game);
   return true;

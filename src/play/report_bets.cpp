@@ -226,7 +226,7 @@ ReportTable BetTrendsReport(const Game& game, const ReportSelection& selection) 
   report.columns = {"in a row"};
   const bool anybody = IsOccupied(game.table, selection.seat);
   report.selected =
-      anybody ? game.table.SeatName[selection.seat] : PlayersSelectedText(game, ReportSelection{});
+      anybody ? game.table.seats[selection.seat].SeatName : PlayersSelectedText(game, ReportSelection{});
   for (int bet = 1; bet <= kBets; ++bet) {
     const std::int32_t streak = anybody ? game.table.BetStreak(selection.seat, bet) : 0;
     ReportCell cell;

@@ -20,7 +20,7 @@ constexpr const char* kScopeNames[kScopes] = {"Current hand", "Last hand", "Curr
 
 std::string NamesOf(const Game& game, const std::vector<int>& seats) {
   std::string names;
-  for (const int seat : seats) names += (names.empty() ? "" : ", ") + game.table.SeatName[seat];
+  for (const int seat : seats) names += (names.empty() ? "" : ", ") + game.table.seats[seat].SeatName;
   return names;
 }
 

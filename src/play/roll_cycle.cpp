@@ -72,10 +72,10 @@ bool ShooterHasBet(Game& game) {
     Refuse(game, text, "Roll the Dice", text);
     return false;
   }
-  const BetSet& bets = table.SeatBets[table.ShooterSeat];
+  const BetSet& bets = table.seats[table.ShooterSeat].SeatBets;
   constexpr const char* kNote =
       "\r\rNote: This requirement can be changed on the 'Bets tab' of the configuration screen.";
-  const std::string& name = table.SeatName[table.ShooterSeat];
+  const std::string& name = table.seats[table.ShooterSeat].SeatName;
   if (rule == 2) {
     if (!bets.Empty()) return true;
     Refuse(game, "Shooter has no bet.", "Any Bet Required",
@@ -101,7 +101,7 @@ bool RollsWithinLimit(Game& game) {
 void NoteRails(TableState& table) {
   for (int i = 0; i < table.OccupiedSeats; ++i) {
     const int seat = table.Seated[i];
-    table.RailAmount[seat] = table.BankrollCurrent[seat] - table.OnTableAmount[seat];
+    table.seats[seat].RailAmount = table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount;
   }
 }
 
@@ -110,18 +110,18 @@ void TakeSnapshots(TableState& table) {
   std::memcpy(table.BankrollBeforeRoll, table.BankrollCurrent, sizeof table.BankrollBeforeRoll);
   for (; table.SeatsSinceBefore != 0; table.SeatsSinceBefore &= table.SeatsSinceBefore - 1) {
     const int seat = std::countr_zero(table.SeatsSinceBefore);
-    table.TouchedSinceBefore[seat].ForEach([&](int bet) {
+    table.seats[seat].TouchedSinceBefore.ForEach([&](int bet) {
       const Currency amount = table.BetAmount(seat, bet);
       table.BetBeforeRoll(seat, bet) = amount;
       table.BetCommitted(seat, bet) = amount;
       table.BetStreakBefore(seat, bet) = table.BetStreak(seat, bet);
     });
-    table.TouchedSinceBefore[seat].Clear();
-    table.StacksSinceBefore[seat].ForEach([&](int stack) {
+    table.seats[seat].TouchedSinceBefore.Clear();
+    table.seats[seat].StacksSinceBefore.ForEach([&](int stack) {
       const int bet = kFirstCheckStack + stack;
       table.BetBeforeRoll(seat, bet) = table.BetAmount(seat, bet);
     });
-    table.StacksSinceBefore[seat].Clear();
+    table.seats[seat].StacksSinceBefore.Clear();
   }
   if (table.AnyBetMoved) {
     std::memset(table.ComeMovedTo, 0, sizeof table.ComeMovedTo);
@@ -314,7 +314,7 @@ void EndHand(Game& game) {
 void MoveWorkingStates(TableState& table) {
   const bool pointOn = table.Point != 0;
   for (int seat = 1; seat <= kSeats; ++seat)
-    table.BetWorking[seat].byDefault = pointOn ? kAllTableBets : table.BetDefaultWorking[seat];
+    table.seats[seat].BetWorking.byDefault = pointOn ? kAllTableBets : table.seats[seat].BetDefaultWorking;
 }
 
 void TakePlaceBetsDown(Game& game, int seat, int number) {
@@ -331,12 +331,12 @@ void PointChanged(Game& game) {
   payoffs[kPassLineOdds] = payoffs[kComeOdds4 + BoxPosition(table.Point)];
   for (unsigned seats = table.SeatsUp[kPassLine]; seats != 0; seats &= seats - 1) {
     const int seat = kPayOrder[std::countr_zero(seats)];
-    if (table.handling[seat].AutoTakeOdds) TakeFullOdds(game, seat, kPassLineOdds);
-    if (table.handling[seat].AutoDownPlace) TakePlaceBetsDown(game, seat, table.Point);
+    if (table.seats[seat].handling.AutoTakeOdds) TakeFullOdds(game, seat, kPassLineOdds);
+    if (table.seats[seat].handling.AutoDownPlace) TakePlaceBetsDown(game, seat, table.Point);
   }
   for (unsigned seats = table.SeatsUp[kDontPass]; seats != 0; seats &= seats - 1) {
     const int seat = kPayOrder[std::countr_zero(seats)];
-    if (table.handling[seat].AutoLayOdds) TakeFullOdds(game, seat, kDontPassOdds);
+    if (table.seats[seat].handling.AutoLayOdds) TakeFullOdds(game, seat, kDontPassOdds);
   }
 }
 
@@ -348,7 +348,8 @@ void RunScripts(Game& game) {
 
 void CloseRoll(TableState& table) {
   if (table.CallsTouched) {
-    for (int seat = 1; seat <= kSeats; ++seat) table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
+    for (int seat = 1; seat <= kSeats; ++seat)
+      table.seats[seat].BetWorkingBeforeRoll = table.seats[seat].BetWorking;
     table.CallsTouched = false;
   }
 }
@@ -357,14 +358,14 @@ void CopyAfterRoll(TableState& table) {
   std::memcpy(table.BankrollAfterRoll, table.BankrollCurrent, sizeof table.BankrollAfterRoll);
   for (; table.SeatsSinceAfter != 0; table.SeatsSinceAfter &= table.SeatsSinceAfter - 1) {
     const int seat = std::countr_zero(table.SeatsSinceAfter);
-    table.TouchedSinceAfter[seat].ForEach(
+    table.seats[seat].TouchedSinceAfter.ForEach(
         [&](int bet) { table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet); });
-    table.TouchedSinceAfter[seat].Clear();
-    table.StacksSinceAfter[seat].ForEach([&](int stack) {
+    table.seats[seat].TouchedSinceAfter.Clear();
+    table.seats[seat].StacksSinceAfter.ForEach([&](int stack) {
       const int bet = kFirstCheckStack + stack;
       table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
     });
-    table.StacksSinceAfter[seat].Clear();
+    table.seats[seat].StacksSinceAfter.Clear();
   }
 }
 

@@ -172,7 +172,7 @@ void ActivateScript(Game& game, int seat) {
     SetAllScriptsActive(game, true);
   else
     SetScriptActive(game, seat, true);
-  const std::string name = seat == 0 ? std::string() : game.table.SeatName[seat];
+  const std::string name = seat == 0 ? std::string() : game.table.seats[seat].SeatName;
   if (ShowMessage(game, kTitle, InitialiseQuestion(name), kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
     InitialiseScripts(game);
 }

@@ -122,7 +122,7 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
   bool lay = false;
   for (int seat = 1; seat <= kSeats; ++seat) {
     Currency onTable;
-    game.table.SeatBets[seat].ForEach([&](int bet) {
+    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
       const Currency amount = game.table.BetAmount(seat, bet);
       onTable += amount;
       if (VigUpFront(game, bet)) {
@@ -131,8 +131,8 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
       }
     });
     const bool covered =
-        game.table.AllowNegativeBankroll[seat] ||
-        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.OnTableAmount[seat]);
+        game.table.seats[seat].AllowNegativeBankroll ||
+        onTable <= std::max(game.table.BankrollCurrent[seat], game.table.seats[seat].OnTableAmount);
     if (!covered) ++short_;
   }
   if (short_ == 0) return true;
@@ -161,10 +161,10 @@ void OfferHouseStandard(Game& game) {
     return;
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat) && ShowMessage(game, kTitle,
-                                               "Would you like to make " + table.SeatName[seat] +
+                                               "Would you like to make " + table.seats[seat].SeatName +
                                                    "'s settings match the house standard?",
                                                kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-      table.BetDefaultWorking[seat] = table.BetDefaultWorking[0];
+      table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
 }
 
 // A value that is within its limits, and yet none of those that there are.
@@ -227,8 +227,8 @@ bool SettingsHold(Game& game, const KeptSettings& before, std::string& error) {
     if (!OneOfThose(*place.row, game, error)) return false;
     if (place.row->facts.effect != Effect::kNegativeAllowed) continue;
     const int seat = place.seat.value;
-    if (game.table.AllowNegativeBankroll[seat] || game.table.BankrollCurrent[seat] >= kZero) continue;
-    error = "Before you can un-check this box, " + game.table.SeatName[seat] +
+    if (game.table.seats[seat].AllowNegativeBankroll || game.table.BankrollCurrent[seat] >= kZero) continue;
+    error = "Before you can un-check this box, " + game.table.seats[seat].SeatName +
             " must have a non-negative bankroll. Some options:\r\r -- Make a withdrawal from the ATM";
     return false;
   }

@@ -34,7 +34,7 @@ Generators& Home(Game& game, SeatId, std::type_identity<Generators>) { return ga
 EventsLog& Home(Game& game, SeatId, std::type_identity<EventsLog>) { return game.events; }
 TableState& Home(Game& game, SeatId, std::type_identity<TableState>) { return game.table; }
 Handling& Home(Game& game, SeatId seat, std::type_identity<Handling>) {
-  return game.table.handling[seat.value];
+  return game.table.seats[seat.value].handling;
 }
 
 template <typename Owner>

@@ -45,12 +45,13 @@ constexpr StateRow kStateRows[] = {
     {"RecorderState", false, [](const Game& game, int) { return Whole(game.rollFile.RecorderState); }},
     {"RollFileName", false, [](const Game& game, int) { return game.rollFile.RollFileName; }},
     {"RollFileCursor", false, [](const Game& game, int) { return Whole(game.rollFile.RollFileCursor); }},
-    {"SeatName", true, [](const Game& game, int seat) { return game.table.SeatName[seat]; }},
+    {"SeatName", true, [](const Game& game, int seat) { return game.table.seats[seat].SeatName; }},
     {"BankrollCurrent", true,
      [](const Game& game, int seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
     {"OnTableAmount", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.OnTableAmount[seat]); }},
-    {"RailAmount", true, [](const Game& game, int seat) { return PlainMoney(game.table.RailAmount[seat]); }},
+     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].OnTableAmount); }},
+    {"RailAmount", true,
+     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].RailAmount); }},
 };
 
 // --- Names.

@@ -23,11 +23,11 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   game->applicationFolder = WithSeparator(applicationFolder);
   game->dataFolder = game->ownFolder = WithSeparator(dataFolder);
   TableState& table = game->table;
-  table.SeatName[0] = "House";
+  table.seats[0].SeatName = "House";
   LoadSupportLibraries(game->generators, game->applicationFolder);
   StartGenerators(game->generators, host.TickMilliseconds());
   ResetPayoffs(game->payoffs, game->settings.Unit());
-  table.BetDefaultWorking[0] = HouseWorkingBets();
+  table.seats[0].BetDefaultWorking = HouseWorkingBets();
   for (int seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
   return game;
 }

@@ -25,7 +25,7 @@ std::string FinishScriptOutput(Game& game, int seat) {
   errno = 0;
   const bool failed = std::fflush(file) != 0;
   if (!failed && std::ferror(file) == 0) return "";
-  return FileErrorText("write", "the output of " + game.table.SeatName[seat] + "'s script",
+  return FileErrorText("write", "the output of " + game.table.seats[seat].SeatName + "'s script",
                        errno == 0 ? EIO : errno);
 }
 

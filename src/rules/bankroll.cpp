@@ -24,9 +24,9 @@ std::string NotAllowedBecause(const std::string& name) {
 
 std::string CoveredDepositText(const Game& game, int seat, bool fromConfiguration) {
   const TableState& table = game.table;
-  const bool wagered = table.OnTableAmount[seat] > kZero;
+  const bool wagered = table.seats[seat].OnTableAmount > kZero;
   std::string text =
-      "The full amount of this transaction was not allowed because " + table.SeatName[seat] + "'s ";
+      "The full amount of this transaction was not allowed because " + table.seats[seat].SeatName + "'s ";
   text += wagered ? "bankroll would've dropped below the amount currently wagered."
                   : "bankroll would've become negative.";
   text += "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\"";
@@ -48,14 +48,14 @@ Currency AtmTransaction(Game& game, int seat, bool deposit, Currency amount, boo
   TableState& table = game.table;
   if (!game.settings.AtmEnabled || amount.IsError() || amount < kZero) return kZero;
   const Currency bankroll = table.BankrollCurrent[seat];
-  const std::string& name = table.SeatName[seat];
+  const std::string& name = table.seats[seat].SeatName;
   const bool quiet = table.TurboRollActive || game.autobet.ScriptRunning;
   const bool tells = alwaysTell || (!quiet && (game.settings.MessageMask & 1) != 0);
   Currency allowed = amount;
   std::string reason;
   if (deposit) {
-    const Currency rail = bankroll - table.OnTableAmount[seat];
-    if (!table.AllowNegativeBankroll[seat]) {
+    const Currency rail = bankroll - table.seats[seat].OnTableAmount;
+    if (!table.seats[seat].AllowNegativeBankroll) {
       if (rail < amount) {
         allowed = std::max(rail, kZero);
         if (tells) reason = CoveredDepositText(game, seat, alwaysTell);
@@ -77,7 +77,7 @@ Currency AtmTransaction(Game& game, int seat, bool deposit, Currency amount, boo
 
 void BankrollLimitReached(Game& game, int seat) {
   TableState& table = game.table;
-  const std::string& name = table.SeatName[seat];
+  const std::string& name = table.seats[seat].SeatName;
   const bool negative = table.BankrollCurrent[seat] < kZero;
   if (table.TurboRollActive) {
     StopRun(game, std::string(negative ? "Stopped by exceeding the negative bankroll limit of -$"

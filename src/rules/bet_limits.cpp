@@ -280,7 +280,7 @@ Currency VigFor(const Game& game, int bet, Currency amount) {
 }
 
 Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change) {
-  const Handling& handling = game.table.handling[seat];
+  const Handling& handling = game.table.seats[seat].handling;
   const Settings& settings = game.settings;
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency wanted = amount + change;

@@ -34,7 +34,7 @@ bool NotesShown(const Game& game, int bit) {
 
 void ShowNote(Game& game, int seat, int bet, int bit, const std::string& sentence) {
   if (!NotesShown(game, bit)) return;
-  ShowMessage(game, BetName(bet) + " Bet", game.table.SeatName[seat] + ",\r\r" + sentence);
+  ShowMessage(game, BetName(bet) + " Bet", game.table.seats[seat].SeatName + ",\r\r" + sentence);
 }
 
 std::string Dollars(Currency amount) { return "$" + FormatMoney(amount); }
@@ -224,7 +224,7 @@ Currency TableCost(const Game& game, int seat, int bet, Currency change, Currenc
 }
 
 std::string BankrollText(const Game& game, int seat, int bet) {
-  BetSet others = game.table.SeatBets[seat];
+  BetSet others = game.table.seats[seat].SeatBets;
   others.Remove(bet);
   return std::string(
              "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options "
@@ -244,10 +244,10 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
   const TableState& table = game.table;
   // A bet that moves to its number brings no new money to the table; odds that follow it do.
   const bool moves = table.MovingComeBet && !IsOdds(bet);
-  if (table.AllowNegativeBankroll[seat] || moves) return;
+  if (table.seats[seat].AllowNegativeBankroll || moves) return;
   const Currency amount = table.BetAmount(seat, bet);
   const Currency vigOnTable = VigUpFront(game, bet) ? VigHeld(game, seat, bet) : kZero;
-  const Currency room = table.BankrollCurrent[seat] - table.OnTableAmount[seat];
+  const Currency room = table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount;
   if (TableCost(game, seat, bet, change, vigOnTable) <= room) return;
   const Currency lowest = LowestChange(game, seat, bet);
   if (change <= lowest) return;
@@ -284,7 +284,7 @@ void ApplyVig(Game& game, int seat, int bet) {
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = VigFor(game, bet, game.table.BetAmount(seat, bet));
   if (vig == held) return;
-  if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] += vig - held;
+  if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount += vig - held;
   held = vig;
   if (!NotesShown(game, kNoteAdjusted) || vig == kZero) return;
   ShowNote(
@@ -310,7 +310,7 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
 }
 
 bool WorksByDefault(const TableState& table, int seat, int bet) {
-  return table.Point != 0 || table.BetDefaultWorking[seat].Has(bet);
+  return table.Point != 0 || table.seats[seat].BetDefaultWorking.Has(bet);
 }
 
 // The families that the configuration can take off the table.
@@ -332,8 +332,9 @@ bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
 // stays up, on every roll.
 bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
   const TableState& table = game.table;
-  return amount >= MinBetFor(game, bet) && table.handling[seat].ProperOddsMode == 0 &&
-         table.OnTableAmount[seat] <= table.BankrollCurrent[seat] && WithinMaximum(game, seat, bet, amount) &&
+  return amount >= MinBetFor(game, bet) && table.seats[seat].handling.ProperOddsMode == 0 &&
+         table.seats[seat].OnTableAmount <= table.BankrollCurrent[seat] &&
+         WithinMaximum(game, seat, bet, amount) &&
          (!HasVig(bet) || VigHeld(game, seat, bet) == VigFor(game, bet, amount));
 }
 
@@ -343,7 +344,7 @@ bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currenc
   if (request != -amount || amount <= kZero || amount > kBankrollLimit || HasVig(bet)) return false;
   const int place = kRuleOf[bet][1];
   if (place >= 0 && kRules[place].refuses({game, seat, bet, kZero})) return false;
-  return game.table.OnTableAmount[seat] - amount <= game.table.BankrollCurrent[seat];
+  return game.table.seats[seat].OnTableAmount - amount <= game.table.BankrollCurrent[seat];
 }
 
 // What the rules and limits leave of a request. Shows their texts and changes nothing.
@@ -365,7 +366,7 @@ Currency DecideChange(Game& game, int seat, int bet, Currency request) {
     ApplyMinimum(game, seat, bet, change, decrease);
     if (amount + change > kZero) {
       ApplyMaximum(game, seat, bet, change);
-      if (table.handling[seat].ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
+      if (table.seats[seat].handling.ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
     }
     // No limit takes a contract bet below what has ridden.
     if (change < kZero) change = std::max(change, LowestChange(game, seat, bet));
@@ -417,7 +418,7 @@ const OddsFollow* FollowOf(const Game& game, int bet) {
 // Whether odds are up, or wanted, that a change of the bet could change.
 bool OddsFollowBet(const Game& game, int seat, int bet) {
   const OddsFollow* follow = FollowOf(game, bet);
-  return follow != nullptr && (game.table.handling[seat].*follow->automatic ||
+  return follow != nullptr && (game.table.seats[seat].handling.*follow->automatic ||
                                game.table.BetAmount(seat, follow->OddsOf(bet)) > kZero);
 }
 
@@ -429,7 +430,7 @@ void BringOddsIntoLine(Game& game, int seat, int bet) {
   const int odds = follow->OddsOf(bet);
   const Currency up = game.table.BetAmount(seat, odds);
   if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
-  const bool automatic = game.table.handling[seat].*follow->automatic;
+  const bool automatic = game.table.seats[seat].handling.*follow->automatic;
   if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
 }
 
@@ -447,26 +448,26 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
   if (cell == amount) return;
   if (bet >= kFirstCheckStack) {
     cell = amount;
-    table.StacksSinceBefore[seat].Add(bet - kFirstCheckStack);
-    table.StacksSinceAfter[seat].Add(bet - kFirstCheckStack);
+    table.seats[seat].StacksSinceBefore.Add(bet - kFirstCheckStack);
+    table.seats[seat].StacksSinceAfter.Add(bet - kFirstCheckStack);
     table.SeatsSinceBefore |= 1u << seat;
     table.SeatsSinceAfter |= 1u << seat;
     return;
   }
-  table.OnTableAmount[seat] += amount - cell;
+  table.seats[seat].OnTableAmount += amount - cell;
   // A new bet has the seat's present choice of what works on the come-out; a point sets all of them.
   if (cell == kZero && table.Point == 0)
-    table.BetWorking[seat].byDefault.Set(bet, table.BetDefaultWorking[seat].Has(bet));
+    table.seats[seat].BetWorking.byDefault.Set(bet, table.seats[seat].BetDefaultWorking.Has(bet));
   cell = amount;
   TouchBefore(table, seat, bet);
-  table.TouchedSinceAfter[seat].Add(bet);
+  table.seats[seat].TouchedSinceAfter.Add(bet);
   table.SeatsSinceAfter |= 1u << seat;
   if (amount.raw > 0) {
-    table.SeatBets[seat].Add(bet);
+    table.seats[seat].SeatBets.Add(bet);
     table.SeatsUp[bet] |= kPayBit[seat];
     table.AnyBets.Add(bet);
   } else {
-    table.SeatBets[seat].Remove(bet);
+    table.seats[seat].SeatBets.Remove(bet);
     table.SeatsUp[bet] &= static_cast<std::uint8_t>(~kPayBit[seat]);
     if (table.SeatsUp[bet] == 0) table.AnyBets.Remove(bet);
     ResetBetWorking(game, seat, bet);
@@ -479,7 +480,7 @@ bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
   const Currency amount = table.BetAmount(seat, bet);
   if (amount == kZero) return true;
   // A check is heard outside a Turbo-Roll, and a bet that comes down forgets its calls.
-  const WorkingState& working = table.BetWorking[seat];
+  const WorkingState& working = table.seats[seat].BetWorking;
   const bool unseen = table.TurboRollActive && !working.calledOn.Has(bet) && !working.calledOff.Has(bet) &&
                       working.byDefault.Has(bet) == WorksByDefault(table, seat, bet);
   if (!unseen || !IsMultiple(amount, settings.Unit()) || !StandsAsItIs(game, seat, bet, amount)) return false;
@@ -530,18 +531,18 @@ void TakeAllFullOdds(Game& game, int seat, bool laySide) {
   const int line = laySide ? kDontPass : kPassLine;
   const int firstFlat = laySide ? kDontCome4 : kCome4;
   const TableState& table = game.table;
-  if (table.Point != 0 && table.SeatBets[seat].Has(line)) TakeFullOdds(game, seat, line + 1);
+  if (table.Point != 0 && table.seats[seat].SeatBets.Has(line)) TakeFullOdds(game, seat, line + 1);
   for (int i = 0; i < 6; ++i)
-    if (table.SeatBets[seat].Has(firstFlat + i)) TakeFullOdds(game, seat, firstFlat + 6 + i);
+    if (table.seats[seat].SeatBets.Has(firstFlat + i)) TakeFullOdds(game, seat, firstFlat + 6 + i);
   RequireConsistency(game);
 }
 
 int BetWorkingOf(const Game& game, int seat, int bet) {
-  return WorkingValue(game.table.BetWorking[seat], bet);
+  return WorkingValue(game.table.seats[seat].BetWorking, bet);
 }
 
 void ResetBetWorking(Game& game, int seat, int bet) {
-  WorkingState& state = game.table.BetWorking[seat];
+  WorkingState& state = game.table.seats[seat].BetWorking;
   if (state.calledOn.Has(bet) || state.calledOff.Has(bet)) {
     state.calledOn.Remove(bet);
     state.calledOff.Remove(bet);
@@ -553,7 +554,7 @@ void ResetBetWorking(Game& game, int seat, int bet) {
 namespace {
 
 void Call(Game& game, int seat, int bet, bool on) {
-  WorkingState& state = game.table.BetWorking[seat];
+  WorkingState& state = game.table.seats[seat].BetWorking;
   BetSet& wanted = on ? state.calledOn : state.calledOff;
   const BetSet& other = on ? state.calledOff : state.calledOn;
   game.table.CallsTouched = true;
@@ -578,7 +579,7 @@ bool CallBet(Game& game, int seat, int bet, bool on) {
 }
 
 void CallAllBets(Game& game, int seat, bool on) {
-  (game.table.SeatBets[seat] & CallableBets()).ForEach([&](int bet) { Call(game, seat, bet, on); });
+  (game.table.seats[seat].SeatBets & CallableBets()).ForEach([&](int bet) { Call(game, seat, bet, on); });
   game.host->Changed(game, Change::kLayout);
 }
 
@@ -599,8 +600,8 @@ bool BuyPlaceBet(Game& game, int seat, int bet) {
   RemoveBet(game, seat, bet);
   PlaceBet(game, seat, buy, amount);
   const bool called = call == 2 || call == -1;
-  if (called && game.table.SeatBets[seat].Has(buy)) {
-    WorkingState& state = game.table.BetWorking[seat];
+  if (called && game.table.seats[seat].SeatBets.Has(buy)) {
+    WorkingState& state = game.table.seats[seat].BetWorking;
     state.calledOn.Set(buy, call == 2);
     state.calledOff.Set(buy, call == -1);
     game.table.CallsTouched = true;
@@ -610,12 +611,12 @@ bool BuyPlaceBet(Game& game, int seat, int bet) {
 }
 
 void TakeDownBets(Game& game, int seat, const BetSet& bets) {
-  (game.table.SeatBets[seat] & bets).ForEach([&](int bet) {
+  (game.table.seats[seat].SeatBets & bets).ForEach([&](int bet) {
     SetBetAmount(game, seat, bet, kZero);
     game.table.BetCommitted(seat, bet) = kZero;
     if (HasVig(bet)) {
       Currency& held = VigHeld(game, seat, bet);
-      if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] -= held;
+      if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount -= held;
       held = kZero;
     }
   });
@@ -625,16 +626,16 @@ void TakeDownBets(Game& game, int seat, const BetSet& bets) {
 void RecomputeVig(Game& game) {
   constexpr BetSet kVigBets = BetRange(kLay4, kLay4 + 5) | BetRange(kBuy4, kBuy4 + 5);
   for (int seat = 1; seat <= kSeats; ++seat) {
-    (game.table.SeatBets[seat] & kVigBets).ForEach([&](int bet) {
+    (game.table.seats[seat].SeatBets & kVigBets).ForEach([&](int bet) {
       VigHeld(game, seat, bet) = VigFor(game, bet, game.table.BetAmount(seat, bet));
     });
     // With what is charged up front changed too, the sum is made anew.
     Currency onTable;
-    game.table.SeatBets[seat].ForEach([&](int bet) {
+    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
       onTable += game.table.BetAmount(seat, bet);
       if (VigUpFront(game, bet)) onTable += VigHeld(game, seat, bet);
     });
-    game.table.OnTableAmount[seat] = onTable;
+    game.table.seats[seat].OnTableAmount = onTable;
   }
 }
 

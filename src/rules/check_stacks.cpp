@@ -38,11 +38,11 @@ Currency SetCheckStackValue(Game& game, int seat, int stack, Currency value) {
 }
 
 std::string CheckStackNameOf(const Game& game, int seat, int stack) {
-  return IsStackOf(seat, stack) ? game.table.CheckStackName[seat][stack] : "";
+  return IsStackOf(seat, stack) ? game.table.seats[seat].CheckStackName[stack] : "";
 }
 
 void SetCheckStackName(Game& game, int seat, int stack, std::string_view name) {
-  if (IsStackOf(seat, stack)) game.table.CheckStackName[seat][stack] = name;
+  if (IsStackOf(seat, stack)) game.table.seats[seat].CheckStackName[stack] = name;
 }
 
 std::string CheckStackValueText(const Game& game, int seat, int stack, bool displayZero) {
@@ -59,7 +59,7 @@ bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks
                 inRange ? kVisibleStacksText : "CheckStacks are numbered from 0 to 99.");
     return false;
   }
-  std::copy(stacks.begin(), stacks.end(), game.table.VisibleStacks[seat]);
+  std::copy(stacks.begin(), stacks.end(), game.table.seats[seat].VisibleStacks);
   game.host->Changed(game, Change::kLayout);
   return true;
 }
@@ -67,7 +67,7 @@ bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks
 void ClearCheckStacks(Game& game, int seat, StackDeletion what) {
   for (int stack = 0; stack < kCheckStacks; ++stack) {
     if (what != StackDeletion::kNames) SetBetAmount(game, seat, kFirstCheckStack + stack, kZero);
-    if (what != StackDeletion::kValues) game.table.CheckStackName[seat][stack].clear();
+    if (what != StackDeletion::kValues) game.table.seats[seat].CheckStackName[stack].clear();
   }
   game.host->Changed(game, Change::kLayout);
 }
@@ -75,7 +75,7 @@ void ClearCheckStacks(Game& game, int seat, StackDeletion what) {
 bool DeleteCheckStacks(Game& game, int seat, StackDeletion what) {
   if (seat < 1 || seat > kSeats) return false;
   const Question& question = kQuestions[static_cast<int>(what)];
-  if (ShowMessage(game, question.title, question.text + game.table.SeatName[seat] + "?",
+  if (ShowMessage(game, question.title, question.text + game.table.seats[seat].SeatName + "?",
                   kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
     return false;
   ClearCheckStacks(game, seat, what);

@@ -12,7 +12,7 @@ namespace tessaryn {
 namespace {
 
 std::string Where(const Game& game, int seat, int bet) {
-  return "seat " + std::to_string(seat) + " (" + game.table.SeatName[seat] + "), " + BetName(bet);
+  return "seat " + std::to_string(seat) + " (" + game.table.seats[seat].SeatName + "), " + BetName(bet);
 }
 
 std::string CheckBet(const Game& game, int seat, int bet) {
@@ -20,19 +20,19 @@ std::string CheckBet(const Game& game, int seat, int bet) {
   const Currency amount = table.BetAmount(seat, bet);
   const bool up = amount > kZero;
   if (amount < kZero) return "negative bet: " + Where(game, seat, bet);
-  if (up != table.SeatBets[seat].Has(bet)) return "set of bets up: " + Where(game, seat, bet);
+  if (up != table.seats[seat].SeatBets.Has(bet)) return "set of bets up: " + Where(game, seat, bet);
   for (int place = 0; place < kSeats; ++place)
     if (kPayOrder[place] == seat && up != ((table.SeatsUp[bet] >> place & 1) != 0))
       return "seats that have the bet: " + Where(game, seat, bet);
   if (up && !table.AnyBets.Has(bet)) return "set of all bets: " + Where(game, seat, bet);
-  const bool touchedBefore = table.TouchedSinceBefore[seat].Has(bet);
+  const bool touchedBefore = table.seats[seat].TouchedSinceBefore.Has(bet);
   if (!touchedBefore &&
       (table.BetBeforeRoll(seat, bet) != amount || table.BetCommitted(seat, bet) != amount ||
        table.BetStreakBefore(seat, bet) != table.BetStreak(seat, bet)))
     return "copy before the roll: " + Where(game, seat, bet);
-  if (!table.TouchedSinceAfter[seat].Has(bet) && table.BetAfterRoll(seat, bet) != amount)
+  if (!table.seats[seat].TouchedSinceAfter.Has(bet) && table.BetAfterRoll(seat, bet) != amount)
     return "copy after the roll: " + Where(game, seat, bet);
-  const WorkingState& working = table.BetWorking[seat];
+  const WorkingState& working = table.seats[seat].BetWorking;
   if (working.calledOn.Has(bet) && working.calledOff.Has(bet))
     return "called both ways: " + Where(game, seat, bet);
   if ((working.calledOn.Has(bet) || working.calledOff.Has(bet)) && !FactsOf(bet).callable)
@@ -49,16 +49,16 @@ std::string CheckSeat(const Game& game, int seat) {
   }
   for (int i = 0; i < 6; ++i) {
     for (const int bet : {kLay4 + i, kBuy4 + i}) {
-      const Currency held = IsLay(bet) ? table.LayVigHeld[seat][i] : table.BuyVigHeld[seat][i];
+      const Currency held = IsLay(bet) ? table.seats[seat].LayVigHeld[i] : table.seats[seat].BuyVigHeld[i];
       if (table.BetAmount(seat, bet) == kZero && held != kZero)
         return "vig without a bet: " + Where(game, seat, bet);
       if (VigUpFront(game, bet)) onTable += held;
     }
   }
-  if (onTable != table.OnTableAmount[seat])
-    return "on-table sum of seat " + std::to_string(seat) + ": " + PlainMoney(table.OnTableAmount[seat]) +
-           " instead of " + PlainMoney(onTable);
-  if (table.SeatName[seat].empty() && (onTable != kZero || table.BankrollCurrent[seat] != kZero))
+  if (onTable != table.seats[seat].OnTableAmount)
+    return "on-table sum of seat " + std::to_string(seat) + ": " +
+           PlainMoney(table.seats[seat].OnTableAmount) + " instead of " + PlainMoney(onTable);
+  if (table.seats[seat].SeatName.empty() && (onTable != kZero || table.BankrollCurrent[seat] != kZero))
     return "money at the open seat " + std::to_string(seat);
   return "";
 }
@@ -66,17 +66,18 @@ std::string CheckSeat(const Game& game, int seat) {
 std::string CheckTableSets(const Game& game) {
   const TableState& table = game.table;
   int occupied = 0;
-  for (int seat = 1; seat <= kSeats; ++seat) occupied += table.SeatName[seat].empty() ? 0 : 1;
+  for (int seat = 1; seat <= kSeats; ++seat) occupied += table.seats[seat].SeatName.empty() ? 0 : 1;
   if (occupied != table.OccupiedSeats) return "count of occupied seats";
   for (int bet = 1; bet <= kBets; ++bet)
     if (table.AnyBets.Has(bet) != (table.SeatsUp[bet] != 0)) return "set of all bets: " + BetName(bet);
   for (const int seat : {table.ShooterSeat, table.SelectedSeat, table.HandSeat})
-    if (seat != 0 && table.SeatName[seat].empty()) return "an open seat " + std::to_string(seat) + " acts";
+    if (seat != 0 && table.seats[seat].SeatName.empty())
+      return "an open seat " + std::to_string(seat) + " acts";
   if (table.OccupiedSeats > 0 && table.ShooterSeat == 0) return "players without a shooter";
   if (table.Point != 0 && !IsBoxNumber(table.Point)) return "point " + std::to_string(table.Point);
   if (!table.RollInProgress)
     for (int seat = 1; seat <= kSeats; ++seat) {
-      const BetSet& now = table.BetWorking[seat].byDefault;
+      const BetSet& now = table.seats[seat].BetWorking.byDefault;
       if (table.Point != 0 && now != kAllTableBets)
         return "bets off with a point on, seat " + std::to_string(seat);
     }

@@ -44,7 +44,7 @@ void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
   if (table.TurboRollActive || table.QuietChanges > 0 || (game.settings.MessageMask & kAdjustNotes) == 0)
     return;
   const Currency difference = AmountUp(game, seat, bet) - table.BetBeforeRoll(seat, bet);
-  std::string text = table.SeatName[seat] + ",\r\r" + BetName(bet) + " bet ";
+  std::string text = table.seats[seat].SeatName + ",\r\r" + BetName(bet) + " bet ";
   if (difference > kZero)
     text += "increased by: $" + FormatMoney(difference);
   else if (difference < kZero)
@@ -58,7 +58,9 @@ void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
 void Raise(Game& game, int seat, int bet, Currency request) {
   TableState& table = game.table;
   if (ChangeBet(game, seat, bet, request) != kZero || request <= kZero) return;
-  if (table.AllowNegativeBankroll[seat] || table.OnTableAmount[seat] <= table.BankrollCurrent[seat]) return;
+  if (table.seats[seat].AllowNegativeBankroll ||
+      table.seats[seat].OnTableAmount <= table.BankrollCurrent[seat])
+    return;
   ++table.QuietChanges;
   ChangeBet(game, seat, bet, kZero);
   --table.QuietChanges;
@@ -93,7 +95,7 @@ void PressDouble(Game& game, int seat, int bet) {
 }
 
 void Parlay(Game& game, int seat, int bet) {
-  Handling& handling = game.table.handling[seat];
+  Handling& handling = game.table.seats[seat].handling;
   const Handling before = handling;
   handling.PlaceBias = handling.DoBias = handling.DontBias = handling.LayBias = 2;
   if (game.table.NetPayoff != kZero)
@@ -115,7 +117,7 @@ struct Adjustment {
 };
 
 Adjustment SlotOf(const Game& game, int seat, int slot) {
-  const Handling& handling = game.table.handling[seat];
+  const Handling& handling = game.table.seats[seat].handling;
   return {handling.AdjustKind[slot], handling.AdjustValue[slot], handling.AdjustUnit[slot]};
 }
 
@@ -254,7 +256,7 @@ Currency CloseVig(Game& game, int seat, int bet) {
   if (!HasVig(bet)) return kZero;
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = held;
-  if (VigUpFront(game, bet)) game.table.OnTableAmount[seat] -= vig;
+  if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount -= vig;
   held = kZero;
   return vig;
 }
@@ -275,7 +277,7 @@ void ComputePressOptions(Game& game, int seat, int bet) {
 
 void HandleWin(Game& game, int seat, int bet) {
   TableState& table = game.table;
-  const int choice = table.handling[seat].WinHandling;
+  const int choice = table.seats[seat].handling.WinHandling;
   // Nothing to ask, nothing to press, no vig to close: what most winners of a system come to.
   if (!HasVig(bet) && choice != kWinManual && choice != kWinPressUnit)
     return DoWinChoice(game, seat, bet, choice, nullptr);
@@ -290,7 +292,7 @@ void HandleWin(Game& game, int seat, int bet) {
 }
 
 void HandleLoss(Game& game, int seat, int bet) {
-  const int choice = game.table.handling[seat].LoseHandling;
+  const int choice = game.table.seats[seat].handling.LoseHandling;
   if (!HasVig(bet) && choice != kLoseManual && choice != kLosePlusUnit)
     return DoLoseChoice(game, seat, bet, choice, nullptr);
   const bool asks = choice == kLoseManual;
@@ -305,7 +307,7 @@ void HandleOffOdds(Game& game, int seat, int bet) {
   TableState& table = game.table;
   ComputePressOptions(game, seat, bet);
   const bool asLoser = table.BetStreak(seat, FlatBetOf(bet)) < 2;
-  const Handling& handling = table.handling[seat];
+  const Handling& handling = table.seats[seat].handling;
   const int choice = asLoser ? handling.LoseHandling : handling.WinHandling;
   const SettleAnswer answer = choice == 0 ? Ask(game, seat, bet, !asLoser, true, kZero) : SettleAnswer{};
   if (asLoser)

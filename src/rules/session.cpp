@@ -44,8 +44,8 @@ void AbandonContracts(Game& game) {
 void StartSessionsLogs(Game& game) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
-    std::string& name = game.table.SessionsLogName[seat];
-    name = game.dataFolder + Lower(game.table.SeatName[seat]) + ".slg";
+    std::string& name = game.table.seats[seat].SessionsLogName;
+    name = game.dataFolder + Lower(game.table.seats[seat].SeatName) + ".slg";
     std::error_code ignored;
     std::filesystem::remove(name, ignored);
   }
@@ -58,7 +58,7 @@ void ClearBets(Game& game, bool keepCheckstacks) {
     if (!keepCheckstacks) {
       for (int stack = 0; stack < kCheckStacks; ++stack) {
         SetBetAmount(game, seat, kFirstCheckStack + stack, kZero);
-        table.CheckStackName[seat][stack].clear();
+        table.seats[seat].CheckStackName[stack].clear();
       }
     }
     for (int bet = 1; bet < kBetRows; ++bet)
@@ -67,15 +67,15 @@ void ClearBets(Game& game, bool keepCheckstacks) {
       if (bet < 100) table.BetCommitted(seat, bet) = kZero;
       table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
     }
-    table.TouchedSinceBefore[seat] = table.TouchedSinceAfter[seat] = {};
-    table.StacksSinceBefore[seat] = table.StacksSinceAfter[seat] = {};
-    for (Currency& travelled : table.ComeTravelAmount[seat]) travelled = kZero;
+    table.seats[seat].TouchedSinceBefore = table.seats[seat].TouchedSinceAfter = {};
+    table.seats[seat].StacksSinceBefore = table.seats[seat].StacksSinceAfter = {};
+    for (Currency& travelled : table.seats[seat].ComeTravelAmount) travelled = kZero;
   }
 }
 
 Currency AskBankroll(Game& game, int seat) {
-  const std::string question = "Enter " + game.table.SeatName[seat] + "'s beginning bankroll:";
-  Currency& stored = game.table.BankrollInitAmount[seat];
+  const std::string question = "Enter " + game.table.seats[seat].SeatName + "'s beginning bankroll:";
+  Currency& stored = game.table.seats[seat].BankrollInitAmount;
   game.box.MsgValue1 = stored;
   if (ShowMessage(game, "Beginning Bankroll", question, kMsgOk | kMsgInput | kMsgQuestion) == kResultOk)
     stored = std::clamp(game.box.MsgValue1, -kBankrollLimit, kBankrollLimit);
@@ -101,11 +101,11 @@ void StartBankrolls(Game& game, bool keepPrevSessions) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
     Currency amount = table.BankrollCurrent[seat];
-    if (table.BankrollInitType[seat] == 1) amount = table.BankrollInitAmount[seat];
-    if (table.BankrollInitType[seat] == 2) amount = AskBankroll(game, seat);
+    if (table.seats[seat].BankrollInitType == 1) amount = table.seats[seat].BankrollInitAmount;
+    if (table.seats[seat].BankrollInitType == 2) amount = AskBankroll(game, seat);
     StartSeat(game, seat, amount, keepPrevSessions);
-    table.AtmLogged[seat] = game.stats.AtmTotal[Slot(kAllSessions, seat)];
-    table.RailAmount[seat] = amount;
+    table.seats[seat].AtmLogged = game.stats.AtmTotal[Slot(kAllSessions, seat)];
+    table.seats[seat].RailAmount = amount;
   }
 }
 
@@ -118,9 +118,9 @@ void ResetTable(TableState& table) {
   table.ManualRollPending = false;
   table.PreviousHandSeat = 0;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    table.BetWorking[seat] = {};
-    table.BetWorking[seat].byDefault = table.BetDefaultWorking[seat];
-    table.BetWorkingBeforeRoll[seat] = table.BetWorking[seat];
+    table.seats[seat].BetWorking = {};
+    table.seats[seat].BetWorking.byDefault = table.seats[seat].BetDefaultWorking;
+    table.seats[seat].BetWorkingBeforeRoll = table.seats[seat].BetWorking;
   }
   table.CallsTouched = false;
   table.StopReason.clear();

@@ -9,9 +9,9 @@
 #include "rules/payoffs.h"
 #include "rules/settlement_order.h"
 #include "state/game.h"
+#include "state/run_stop.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
-#include "state/run_stop.h"
 
 namespace tessaryn {
 namespace {
@@ -108,7 +108,7 @@ bool IsFinished(const Game& game, int bet, int seat) {
   }
   if (bet >= kDontCome4 && bet < kCome4) return true;
   if (IsComeNumber(bet)) return !game.settings.AllowPutBets;
-  if (IsComeOdds(bet)) return !table.SeatBets[seat].Has(bet - 6);
+  if (IsComeOdds(bet)) return !table.seats[seat].SeatBets.Has(bet - 6);
   return false;
 }
 
@@ -146,7 +146,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
   const Currency amount = table.BetAmount(seat, bet);
   if (amount == kZero) return;
   table.SettlingBet = bet;
-  if (WorkingValue(table.BetWorking[seat], bet) <= 0) {
+  if (WorkingValue(table.seats[seat].BetWorking, bet) <= 0) {
     if (code == kOddsWin || code == kOddsLose) {
       if (IsOdds(bet)) SettleOffOdds(game, seat, bet);
     }
@@ -160,7 +160,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
     ReportError(game, kOverflowText, kOverflowError, "SettleBet");
     return;
   }
-  if (IsComeNumber(bet)) table.ComeTravelAmount[seat][bet - kCome4] = kZero;
+  if (IsComeNumber(bet)) table.seats[seat].ComeTravelAmount[bet - kCome4] = kZero;
   if (game.events.RecordEventsActive) LogWinOrLoss(game, seat, bet);
   table.BankrollCurrent[seat] = bankroll;
   table.BetCommitted(seat, bet) = kZero;
@@ -182,7 +182,8 @@ void SettleOffOdds(Game& game, int seat, int bet) {
   table.GrossPayoff = kZero;
   // Without their point line odds ride with nothing, even where handling made the flat bet again.
   const bool onLine = bet == kPassLineOdds || bet == kDontPassOdds;
-  table.BetFinished = onLine || !table.SeatBets[seat].Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
+  table.BetFinished =
+      onLine || !table.seats[seat].SeatBets.Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
   HandleOffOdds(game, seat, bet);
 }
 
@@ -199,8 +200,8 @@ void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
   table.BetCommitted(seat, toBet) = amount;
   TouchBefore(table, seat, toBet);
   if (IsComeNumber(toBet)) {
-    table.ComeTravelAmount[seat][toBet - kCome4] = amount;
-    if (table.handling[seat].AutoDownPlace) {
+    table.seats[seat].ComeTravelAmount[toBet - kCome4] = amount;
+    if (table.seats[seat].handling.AutoDownPlace) {
       for (const int bet : {toBet + kPlace4 - kCome4, toBet + kBuy4 - kCome4})
         ChangeBet(game, seat, bet, -table.BetAmount(seat, bet));
     }

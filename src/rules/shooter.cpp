@@ -30,8 +30,9 @@ ShooterSearch SearchShooter(const Game& game) {
     if (!IsOccupied(table, seat) || seat == table.ShooterSeat) continue;
     ++search.others;
     search.otherSeat = seat;
-    if (table.handling[seat].AutoPassDice) continue;
-    const bool hasLine = table.SeatBets[seat].Has(kPassLine) || table.SeatBets[seat].Has(kDontPass);
+    if (table.seats[seat].handling.AutoPassDice) continue;
+    const bool hasLine =
+        table.seats[seat].SeatBets.Has(kPassLine) || table.seats[seat].SeatBets.Has(kDontPass);
     if (lineNeeded && !hasLine) {
       ++search.lackLineBet;
     } else if (search.seat == 0) {
@@ -44,8 +45,9 @@ ShooterSearch SearchShooter(const Game& game) {
 std::string NobodyText(const Game& game, const ShooterSearch& search) {
   std::string text = "Unable to pass the dice at this time.\r\r";
   if (search.lackLineBet == 0) {
-    return text + (search.others == 1 ? game.table.SeatName[search.otherSeat] + " doesn't want to shoot."
-                                      : "None of the other players want to shoot.");
+    return text + (search.others == 1
+                       ? game.table.seats[search.otherSeat].SeatName + " doesn't want to shoot."
+                       : "None of the other players want to shoot.");
   }
   text += search.lackLineBet == 1
               ? "There's one other player who wants to shoot "
@@ -60,7 +62,7 @@ void GiveDice(Game& game, int seat, int reason) {
   const int oldShooter = table.ShooterSeat;
   const bool byUser = reason == kPassByUser;
   if (byUser && game.events.RecordShooterChanges)
-    WriteEventsLogLine(game, "    The dice were passed to " + table.SeatName[seat]);
+    WriteEventsLogLine(game, "    The dice were passed to " + table.seats[seat].SeatName);
   table.ShooterSeat = seat;
   game.host->Changed(game, Change::kShooter);
   if (HandRolls(game.stats) == 0) {
@@ -68,8 +70,8 @@ void GiveDice(Game& game, int seat, int reason) {
     return;
   }
   if (!byUser || table.TurboRollActive || oldShooter == 0) return;
-  const std::string& oldName = table.SeatName[oldShooter];
-  const std::string& newName = table.SeatName[seat];
+  const std::string& oldName = table.seats[oldShooter].SeatName;
+  const std::string& newName = table.seats[seat].SeatName;
   const bool back = seat == table.HandSeat;
   ShowMessage(game, kPassTitle,
               back

@@ -16,6 +16,7 @@
 #include "state/percentage_dice_state.h"
 #include "state/roll_file_state.h"
 #include "state/screen_state.h"
+#include "state/sessions_log_state.h"
 #include "state/settings.h"
 #include "state/statistics_state.h"
 #include "state/table_state.h"
@@ -34,6 +35,7 @@ struct Game {
   RollFile rollFile;
   AutoBet autobet;
   EventsLog events;
+  SessionsLogs sessions;
   ScreenState screen;
   GameFileState file;
   MessageBox box;                   // the box being asked
@@ -45,8 +47,8 @@ struct Game {
   Host* host = nullptr;             // not owned; outlives the game
 };
 TESSARYN_FIELDS(Game, table, settings, payoffs, maximums, stats, graph, generators, percentage, rollFile,
-                autobet, events, screen, file, box, applicationFolder, dataFolder, ownFolder, folderLock,
-                host)
+                autobet, events, sessions, screen, file, box, applicationFolder, dataFolder, ownFolder,
+                folderLock, host)
 
 // Shows a box and returns its MsgResult. Requires that no box is being shown.
 int ShowMessage(Game& game, const std::string& title, const std::string& text,

@@ -13,7 +13,7 @@
 namespace tessaryn {
 
 // The numbers are those of the game file's records and never change.
-enum ToolWindow : int {
+enum ToolWindowNumber : int {
   kDiceRollFilesWindow = 0,
   kAutoPlayWindow = 1,
   kAutoBetWindow = 2,

@@ -12,7 +12,8 @@ inline bool VigUpFront(const Game& game, int bet) {
 // The vig that the seat's bet holds; a reference so that its writers (bet_rules, settlement) share it.
 // Requires a Lay or Buy bet.
 inline Currency& VigHeld(Game& game, int seat, int bet) {
-  return IsLay(bet) ? game.table.LayVigHeld[seat][bet - kLay4] : game.table.BuyVigHeld[seat][bet - kBuy4];
+  return IsLay(bet) ? game.table.seats[seat].LayVigHeld[bet - kLay4]
+                    : game.table.seats[seat].BuyVigHeld[bet - kBuy4];
 }
 inline Currency VigHeld(const Game& game, int seat, int bet) {
   return VigHeld(const_cast<Game&>(game), seat, bet);

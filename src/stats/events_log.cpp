@@ -493,7 +493,7 @@ void WriteOf(Game& game, int seat, const Pieces&... pieces) {
   if (!game.events.RecordEventsActive) return;
   Line line;
   line.Add("      ");
-  line.Add(game.table.SeatName[seat]);
+  line.Add(game.table.seats[seat].SeatName);
   (line.Add(pieces), ...);
   WriteGroupedLine(game, line.Text());
 }
@@ -524,8 +524,8 @@ void LogAtmMovements(Game& game) {
   BeginGroup(game.events, "    Bankroll:");
   for (int seat = 1; seat <= kSeats; ++seat) {
     const Currency total = game.stats.AtmTotal[Slot(kAllSessions, seat)];
-    const Currency moved = total - table.AtmLogged[seat];
-    table.AtmLogged[seat] = total;
+    const Currency moved = total - table.seats[seat].AtmLogged;
+    table.seats[seat].AtmLogged = total;
     if (moved == kZero || !IsOccupied(table, seat) || !game.events.RecordBankrollChanges) continue;
     const bool up = moved > kZero;
     WriteOf(game, seat, up ? " increased to $" : " decreased to $", table.BankrollCurrent[seat], " ($",
@@ -559,15 +559,15 @@ void LogAmountChange(Game& game, int seat, int bet) {
 
 void LogCallChange(Game& game, int seat, int bet) {
   const TableState& table = game.table;
-  const int before = WorkingValue(table.BetWorkingBeforeRoll[seat], bet);
-  const int now = WorkingValue(table.BetWorking[seat], bet);
+  const int before = WorkingValue(table.seats[seat].BetWorkingBeforeRoll, bet);
+  const int now = WorkingValue(table.seats[seat].BetWorking, bet);
   const char* name = FactsOf(bet).name;
   if (now == before) return;
   if (now == -1)
     WriteOf(game, seat, " called OFF ", name, " bet");
   else if (now == 2)
     WriteOf(game, seat, " called ON ", name, " bet");
-  else if ((before == -1 || before == 2) && table.SeatBets[seat].Has(bet))
+  else if ((before == -1 || before == 2) && table.seats[seat].SeatBets.Has(bet))
     WriteOf(game, seat, " called ", name, " bet working normally again");
 }
 
@@ -576,10 +576,10 @@ void LogBetChanges(Game& game) {
   BeginGroup(game.events, "    Bets:");
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
-    const WorkingState& now = table.BetWorking[seat];
-    const WorkingState& before = table.BetWorkingBeforeRoll[seat];
+    const WorkingState& now = table.seats[seat].BetWorking;
+    const WorkingState& before = table.seats[seat].BetWorkingBeforeRoll;
     const BetSet called = now.calledOn | now.calledOff | before.calledOn | before.calledOff;
-    (table.TouchedSinceBefore[seat] | called).ForEach([&](int bet) {
+    (table.seats[seat].TouchedSinceBefore | called).ForEach([&](int bet) {
       LogAmountChange(game, seat, bet);
       if (called.Has(bet)) LogCallChange(game, seat, bet);
     });
@@ -590,7 +590,7 @@ void LogCheckStackChanges(Game& game) {
   const TableState& table = game.table;
   BeginGroup(game.events, "    CheckStacks:");
   for (int seat = 1; seat <= kSeats; ++seat)
-    table.StacksSinceBefore[seat].ForEach([&](int stack) {
+    table.seats[seat].StacksSinceBefore.ForEach([&](int stack) {
       const int bet = kFirstCheckStack + stack;
       const Currency before = table.BetBeforeRoll(seat, bet);
       const Currency now = table.BetAmount(seat, bet);
@@ -627,7 +627,7 @@ void LogWinOrLoss(Game& game, int seat, int bet) {
 
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet) {
   if (!game.events.RecordBetChanges) return;
-  WriteAlone(game, "    ", game.table.SeatName[seat], "'s ", FactsOf(fromBet).name, " bet moved to ",
+  WriteAlone(game, "    ", game.table.seats[seat].SeatName, "'s ", FactsOf(fromBet).name, " bet moved to ",
              FactsOf(toBet).name);
 }
 
@@ -651,7 +651,7 @@ void WriteDivider(Game& game, const char* start, int seat) {
   if (seat == 0)
     WriteEventsLogLine(game, "----New hand, come-out roll----------");
   else
-    WriteAlone(game, start, game.table.SeatName[seat], ") coming out----------");
+    WriteAlone(game, start, game.table.seats[seat].SeatName, ") coming out----------");
 }
 
 }  // namespace

@@ -248,9 +248,9 @@ std::string LastHandNote(const Game& game, int scope) {
   const TableState& table = game.table;
   if (scope == kCurrentHand && table.ShooterSeat != table.HandSeat && table.ShooterSeat > 0) {
     const std::string credited = table.HandSeat > 0
-                                     ? table.SeatName[table.HandSeat]
+                                     ? table.seats[table.HandSeat].SeatName
                                      : "another player who started the hand but is no longer at the table.";
-    return "Although " + table.SeatName[table.ShooterSeat] +
+    return "Although " + table.seats[table.ShooterSeat].SeatName +
            " is presently shooting the dice, the current hand is being credited to " + credited +
            (table.HandSeat > 0 ? " who started the hand." : "") +
            "\r\rThe dice were passed during the current hand.";
@@ -282,7 +282,7 @@ bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency ne
   if (IsComeNumber(bet))
     for (const int scope : kRunningScopes)
       stats.ComeTravelTotals[Slot(scope, seat)][bet - kCome4] +=
-          game.table.ComeTravelAmount[seat][bet - kCome4];
+          game.table.seats[seat].ComeTravelAmount[bet - kCome4];
   return true;
 }
 
@@ -411,45 +411,6 @@ void StartSessionStatistics(Game& game) {
 }
 
 void ClearPreviousSessions(Game& game) { ZeroScope(game.stats, kAllSessions, true); }
-
-void ClearSeatStatistics(Game& game, int seat) {
-  Statistics& stats = game.stats;
-  for (int scope = 0; scope < kScopes; ++scope) {
-    const int slot = Slot(scope, seat);
-    ForEachCountTable(stats, [slot](auto& table) { ZeroSlot(table, slot); });
-    ForEachBankrollTable(stats, [slot](auto& table) { ZeroSlot(table, slot); });
-    stats.AtmTotal[slot] = kZero;
-    stats.RollsNotSeen[slot] = stats.RollTotals[Slot(scope, 0)];
-    for (auto& bet : stats.Bets) bet[seat][scope] = BetStats{};
-  }
-  stats.HandBets[seat].Clear();
-  stats.LastHandBets[seat].Clear();
-  stats.BankrollRollSum[seat] = kZero;
-  stats.BankrollSessionStart[seat] = kZero;
-}
-
-void SwapSeatStatistics(Game& game, int seatA, int seatB) {
-  Statistics& stats = game.stats;
-  for (int scope = 0; scope < kScopes; ++scope) {
-    const int a = Slot(scope, seatA);
-    const int b = Slot(scope, seatB);
-    const auto swap = [a, b](auto& table) { std::swap(table[a], table[b]); };
-    ForEachCountTable(stats, swap);
-    ForEachBankrollTable(stats, swap);
-    swap(stats.AtmTotal);
-    for (auto& bet : stats.Bets) std::swap(bet[seatA][scope], bet[seatB][scope]);
-  }
-  std::swap(stats.HandBets[seatA], stats.HandBets[seatB]);
-  std::swap(stats.LastHandBets[seatA], stats.LastHandBets[seatB]);
-  std::swap(stats.BankrollRollSum[seatA], stats.BankrollRollSum[seatB]);
-  std::swap(stats.BankrollSessionStart[seatA], stats.BankrollSessionStart[seatB]);
-  for (std::uint16_t* used : {&stats.HandSlotsUsed, &stats.LastHandSlotsUsed}) {
-    const unsigned bitA = *used >> seatA & 1u;
-    const unsigned bitB = *used >> seatB & 1u;
-    *used =
-        static_cast<std::uint16_t>((*used & ~(1u << seatA | 1u << seatB)) | bitA << seatB | bitB << seatA);
-  }
-}
 
 void StartBankroll(Game& game, int seat, Currency amount) {
   Statistics& stats = game.stats;

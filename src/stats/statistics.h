@@ -45,9 +45,6 @@ void EndHandStatistics(Game& game);
 void StartSessionStatistics(Game& game);
 // Everything of all sessions to zero; the last session and the last hand stay.
 void ClearPreviousSessions(Game& game);
-// A seat's entries to zero, and the exchange of two seats.
-void ClearSeatStatistics(Game& game, int seat);
-void SwapSeatStatistics(Game& game, int seatA, int seatB);
 // A seat's bankroll as a start: beginning and extremes of the running scopes.
 void StartBankroll(Game& game, int seat, Currency amount);
 

@@ -170,11 +170,11 @@ TEST(Interpreter, ScriptBetsObeyContractsCallsAndVig) {
   table.Run("place6 = 12\ncall off place6\nplace6 = 18");
   EXPECT_EQ(table.Bet(kPlace4 + 2), 18);
   EXPECT_EQ(table.Number("place6 called off"), -1) << "a call outlives a change of the amount";
-  const Currency before = table.game->table.OnTableAmount[1];
+  const Currency before = table.game->table.seats[1].OnTableAmount;
   table.Run("buy10 = 100");
-  EXPECT_EQ((table.game->table.OnTableAmount[1] - before).ToDouble(), 105) << "vig is on the table too";
+  EXPECT_EQ((table.game->table.seats[1].OnTableAmount - before).ToDouble(), 105) << "vig is on the table too";
   table.Run("buy10 = 40\nclear buy10");
-  EXPECT_EQ(table.game->table.OnTableAmount[1], before);
+  EXPECT_EQ(table.game->table.seats[1].OnTableAmount, before);
   EXPECT_EQ(CheckConsistency(*table.game), "");
 }
 
@@ -248,7 +248,7 @@ TEST(Interpreter, GrowingTextsAndCallsEndInAFault) {
   table.game->autobet.StepsHold = false;
   table.host.yieldLimit = 400;
   table.Run("csn0 = \"abcdefgh\"\ndo\ncsn0 = csn0 & csn0\nloop");
-  EXPECT_LE(table.game->table.CheckStackName[1][0].size(), 1'000'000u);
+  EXPECT_LE(table.game->table.seats[1].CheckStackName[0].size(), 1'000'000u);
   EXPECT_NE(table.host.steps.back().find("Out of string space"), std::string::npos)
       << table.host.steps.back();
 }
@@ -460,14 +460,14 @@ void ChooseRules(Game& game, std::mt19937 random) {
   settings.MaxPropBetPayoff = Currency::Dollars(random() % 2 == 0 ? 3000 : 90);
   if (random() % 3 == 0) settings.CheckValue[1] = Currency::FromRaw(25'000);
   TableState& table = game.table;
-  Handling& handling = table.handling[1];
+  Handling& handling = table.seats[1].handling;
   handling.WinHandling = 1 + static_cast<int>(random() % 5);
   handling.LoseHandling = 1 + static_cast<int>(random() % 5);
   handling.ProperOddsMode = static_cast<int>(random() % 4) / 2;
   handling.AutoTakeOdds = random() % 3 == 0;
   handling.AutoLayOdds = random() % 3 == 0;
-  table.AllowNegativeBankroll[1] = random() % 2 == 0;
-  table.BetDefaultWorking[1].Set(kPlace4 + 2, random() % 2 == 0);
+  table.seats[1].AllowNegativeBankroll = random() % 2 == 0;
+  table.seats[1].BetDefaultWorking.Set(kPlace4 + 2, random() % 2 == 0);
   if (random() % 3 == 0) SetBankroll(game, 1, Currency::Dollars(40));
   game.events.RecordEventsActive = true;
 }
@@ -478,7 +478,7 @@ std::string WhatIsLeft(const Game& game) {
       PlainMoney(table.BankrollCurrent[1]) + "; error " + std::to_string(game.autobet.ScriptError) + ";";
   for (int bet = 1; bet < 110; ++bet)
     left += " " + PlainMoney(table.BetAmount(1, bet)) + "/" + PlainMoney(table.BetCommitted(1, bet)) + "/" +
-            std::to_string(bet <= kBets ? WorkingValue(table.BetWorking[1], bet) : 0);
+            std::to_string(bet <= kBets ? WorkingValue(table.seats[1].BetWorking, bet) : 0);
   return left;
 }
 

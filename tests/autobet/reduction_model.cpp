@@ -210,7 +210,7 @@ struct Reducer {
       while (last + 1 < records.size() && IsModifier(records[last + 1])) ++last;
       const int code = static_cast<int>(records[i].value);
       Replace(records, i, last,
-              code >= 800 ? Text(game.table.CheckStackName[seat][code - 800])
+              code >= 800 ? Text(game.table.seats[seat].CheckStackName[code - 800])
                           : Number(game.table.BetAmount(seat, code).ToDouble()));
     }
   }

@@ -97,7 +97,7 @@ bool Same(double a, double b) { return a == b || (std::isnan(a) && std::isnan(b)
 TEST(ReductionModel, PreparedFormGivesTheSameValuesAndErrors) {
   script_test::ScriptTable table;
   for (int i = 0; i < 6; ++i) SetBetAmount(*table.game, 1, 100 + i, Currency::FromDouble(i * 1.5 - 2));
-  table.game->table.CheckStackName[1][4] = "12x";
+  table.game->table.seats[1].CheckStackName[4] = "12x";
   table.game->autobet.CurrentAutobettor = 1;
   int values = 0;
   int errors = 0;

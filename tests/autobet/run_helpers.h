@@ -145,9 +145,9 @@ struct ScriptTable {
     return game->table.BetAmount(1, 199).ToDouble();
   }
   std::string Text(const std::string& expression) {
-    game->table.CheckStackName[1][99] = "(none)";
+    game->table.seats[1].CheckStackName[99] = "(none)";
     Run("csn99 = " + expression);
-    return game->table.CheckStackName[1][99];
+    return game->table.seats[1].CheckStackName[99];
   }
   double Bet(int bet, int seat = 1) const { return game->table.BetAmount(seat, bet).ToDouble(); }
   void Dice(int die1, int die2) {

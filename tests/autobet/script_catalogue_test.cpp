@@ -32,8 +32,8 @@ struct HistoryTable : ScriptTable {
   HistoryTable() {
     // One player, so that the dice stay.
     LeaveTable(*game, 2);
-    game->table.handling[1].WinHandling = 2;
-    game->table.handling[1].LoseHandling = 2;
+    game->table.seats[1].handling.WinHandling = 2;
+    game->table.seats[1].handling.LoseHandling = 2;
     Load(1, "passline = 10\nfield = 5");
     CompileActiveScripts(*game);
     RunAutoBet(*game);
@@ -404,7 +404,7 @@ TEST(ScriptCatalogue, EveryRunTimeErrorComesFromItsStatement) {
 TEST(ScriptCatalogue, SettingsAndActionsDoWhatTheySay) {
   ScriptTable table;
   Game& game = *table.game;
-  const Handling& handling = game.table.handling[1];
+  const Handling& handling = game.table.seats[1].handling;
   const std::pair<const char*, int> wins[] = {{"\"manual\"", 1},
                                               {"\" Take Bet and Winnings \"", 2},
                                               {"\"same bet/take winnings\"", 3},

@@ -90,11 +90,11 @@ TEST(Allocation, NoneWithEightSeatsOfStandingBets) {
     table.Join(seat, std::string("P") + static_cast<char>('a' + seat), "5000000");
     for (const int bet : {static_cast<int>(kPassLine), kPlace4 + 2, kPlace4 + 3, static_cast<int>(kField)})
       table.Bet(seat, bet, "12");
-    Handling& handling = table.State().handling[seat];
+    Handling& handling = table.State().seats[seat].handling;
     handling.WinHandling = kWinSame;
     handling.LoseHandling = kLoseSame;
     handling.AutoTakeOdds = true;
-    table.State().AllowNegativeBankroll[seat] = true;
+    table.State().seats[seat].AllowNegativeBankroll = true;
   }
   EXPECT_EQ(AllocationsOf(table, kRolls), 0);
   EXPECT_NE(table.State().BetAmount(8, kPassLine), kZero);
@@ -106,7 +106,7 @@ TEST(Allocation, NoneWithEveryBetUpAndChoicesThatPressAndRefuse) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     table.Join(seat, std::string("P") + static_cast<char>('a' + seat), "100000");
     for (int bet = 1; bet <= kBets; ++bet) table.Bet(seat, bet, "5");
-    Handling& handling = table.State().handling[seat];
+    Handling& handling = table.State().seats[seat].handling;
     handling.WinHandling = 2 + seat % 4;
     handling.LoseHandling = 2 + seat % 4;
     handling.AutoTakeOdds = handling.AutoLayOdds = true;

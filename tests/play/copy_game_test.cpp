@@ -33,7 +33,7 @@ std::unique_ptr<Game> SeatedTable(Host& host, const std::string& folder, int gen
   game->settings.ShooterBetRule = 0;
   game->settings.MessageMask = 0;
   for (int seat = 1; seat <= 3; ++seat) {
-    Handling& handling = game->table.handling[seat];
+    Handling& handling = game->table.seats[seat].handling;
     handling.WinHandling = 1 + seat;
     handling.LoseHandling = 1 + seat % 3;
     handling.AutoTakeOdds = handling.AutoLayOdds = seat == 2;

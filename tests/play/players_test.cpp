@@ -75,9 +75,9 @@ TEST(PlayersJoin, TheQuestionsRepeatUntilTheAnswersAreFit) {
     EXPECT_EQ(boxes[i].text, expected[i]);
     EXPECT_EQ(boxes[i].title, "Add New Player");
   }
-  EXPECT_EQ(table.State().SeatName[4], "Bob");
+  EXPECT_EQ(table.State().seats[4].SeatName, "Bob");
   EXPECT_EQ(table.State().BankrollCurrent[4], Money("-5"));
-  EXPECT_EQ(table.State().SessionsLogName[4], table.folder.File("bob.slg"));
+  EXPECT_EQ(table.State().seats[4].SessionsLogName, table.folder.File("bob.slg"));
   table.Check("adding");
 }
 
@@ -115,16 +115,16 @@ TEST(PlayersRename, EveryRefusalKeepsTheOldName) {
   EXPECT_EQ(boxes[0].title, "Rename Player");
   EXPECT_EQ(boxes[1].text, "There's already a player named BOB.\r\r" + prompt);
   EXPECT_EQ(boxes[2].text, std::string(kNumeric) + "\r\r" + prompt);
-  EXPECT_EQ(table.State().SeatName[1], "ann");
+  EXPECT_EQ(table.State().seats[1].SeatName, "ann");
   table.host.boxes.clear();
   table.host.answers = {"Cid", "yes"};
   EXPECT_TRUE(RenamePlayer(*table.game));
   EXPECT_EQ(table.host.boxes.back().title, "Rename Sessions Log");
   EXPECT_EQ(table.host.boxes.back().text, "Would you also like to change Cid's sessions log filename?");
-  EXPECT_EQ(table.State().SessionsLogName[1], table.folder.File("cid.slg"));
+  EXPECT_EQ(table.State().seats[1].SessionsLogName, table.folder.File("cid.slg"));
   table.host.answers = {"cancel"};
   EXPECT_FALSE(RenamePlayer(*table.game));
-  EXPECT_EQ(table.State().SeatName[1], "Cid");
+  EXPECT_EQ(table.State().seats[1].SeatName, "Cid");
 }
 
 // --- The dice go round.
@@ -168,7 +168,7 @@ TEST(PlayersPass, EveryReasonWhyTheyCannotPassIsTold) {
   for (const Case& c : cases) {
     TestTable table;
     for (int i = 0; i < c.players; ++i) table.Join(i + 1, names[i]);
-    for (int i = 0; i < c.declining; ++i) table.State().handling[i + 2].AutoPassDice = true;
+    for (int i = 0; i < c.declining; ++i) table.State().seats[i + 2].handling.AutoPassDice = true;
     if (c.point) {
       table.Set("AllowPutBets", "off");
       table.Bet(1, kPassLine, "10");
@@ -197,7 +197,7 @@ TEST(PlayersPass, AHandStaysCreditedToWhoBeganIt) {
   EXPECT_EQ(table.host.LastText(),
             "Ann is passing the dice to Bob who may finish the current hand and then roll his/her own hand.");
   EXPECT_EQ(table.State().HandSeat, 3);
-  table.State().handling[1].AutoPassDice = true;
+  table.State().seats[1].handling.AutoPassDice = true;
   PassDice(*table.game, kPassByUser);
   EXPECT_EQ(table.host.LastText(), "Bob is passing the dice back to Ann who originally started this hand.");
   PassDice(*table.game, kPassByUser);
@@ -299,7 +299,7 @@ TEST(PlayersLeave, TheDiceAndTheSelectionGoOnDownwards) {
   EXPECT_EQ(table.State().HandSeat, 7);
   EXPECT_EQ(table.State().SelectedSeat, 7);
   table.Roll(2, 2);
-  table.State().handling[4].AutoPassDice = true;
+  table.State().seats[4].handling.AutoPassDice = true;
   LeaveTable(*table.game, 7);
   table.Check("leaving");
   EXPECT_EQ(table.State().ShooterSeat, 4) << "nobody is willing, yet somebody must shoot";
@@ -335,9 +335,9 @@ TEST(PlayersMove, EverythingOfThePlayerGoesAlong) {
   EXPECT_EQ(state.BetAmount(1, kPassLine), Money("10"));
   EXPECT_EQ(state.BetCommitted(1, kPassLine), Money("10"));
   EXPECT_EQ(state.BetAmount(1, kCome4 + 3), Money("15"));
-  EXPECT_EQ(state.ComeTravelAmount[1][3], Money("15"));
+  EXPECT_EQ(state.seats[1].ComeTravelAmount[3], Money("15"));
   EXPECT_EQ(state.BetAmount(1, kFirstCheckStack + 7), Money("33.5"));
-  EXPECT_EQ(state.BuyVigHeld[1][2], Money("2"));
+  EXPECT_EQ(state.seats[1].BuyVigHeld[2], Money("2"));
   EXPECT_EQ(BetWorkingOf(*table.game, 1, kBuy4 + 2), -1);
   for (int bet = 1; bet < kBetRows; ++bet) EXPECT_EQ(state.BetAmount(3, bet), kZero);
   table.host.boxes.clear();

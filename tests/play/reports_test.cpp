@@ -528,7 +528,7 @@ struct LedgerTable {
     for (int seat = 1; seat <= count; ++seat) {
       table.Join(seat, std::string(1, static_cast<char>('A' + seat)) + "nn", "50000");
       players.push_back(seat);
-      game.table.handling[seat].WinHandling = game.table.handling[seat].LoseHandling = 0;
+      game.table.seats[seat].handling.WinHandling = game.table.seats[seat].handling.LoseHandling = 0;
     }
     ledger.Begin(game, {kCurrentHand, kCurrentSession, kAllSessions});
   }

@@ -336,8 +336,8 @@ TEST(RollCyclePoint, AutomaticOddsAndPlaceBetsThatComeDown) {
   TestTable table;
   table.Join(1, "Ann", "5000");
   table.Join(2, "Bob", "5000");
-  table.State().handling[1].AutoTakeOdds = table.State().handling[1].AutoDownPlace = true;
-  table.State().handling[2].AutoLayOdds = true;
+  table.State().seats[1].handling.AutoTakeOdds = table.State().seats[1].handling.AutoDownPlace = true;
+  table.State().seats[2].handling.AutoLayOdds = true;
   table.Bet(1, kPassLine, "10");
   table.Bet(1, kPlace4 + 4, "10");
   table.Bet(1, kBuy4 + 4, "20");

@@ -212,8 +212,8 @@ TEST(SettingTableClamp, BringsBackWhatIsOutsideAndNamesIt) {
   settings.BuyVigRate = Fraction::Whole(5);
   settings.CheckValue[2] = kZero;
   settings.CompBetFlags.Add(120);
-  game.table.handling[2].WinHandling = 8;
-  game.table.handling[1].AdjustUnit[7] = -1;
+  game.table.seats[2].handling.WinHandling = 8;
+  game.table.seats[1].handling.AdjustUnit[7] = -1;
   game.payoffs.PayoffTable[kPlace4].PayPer = kZero;
   game.generators.GeneratorIndex = 8;
   const std::vector<std::string> names{"MaxBet",       "BarNumber",      "BuyVigRate",     "AutoRollDelay",
@@ -273,11 +273,11 @@ std::vector<Currency> Moneys(const TableState& state, bool bets) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     values.push_back(state.BankrollCurrent[seat]);
     if (!bets) continue;
-    values.push_back(state.OnTableAmount[seat]);
+    values.push_back(state.seats[seat].OnTableAmount);
     for (int bet = 1; bet < kBetRows; ++bet) values.push_back(state.BetAmount(seat, bet));
     for (int i = 0; i < 6; ++i) {
-      values.push_back(state.LayVigHeld[seat][i]);
-      values.push_back(state.BuyVigHeld[seat][i]);
+      values.push_back(state.seats[seat].LayVigHeld[i]);
+      values.push_back(state.seats[seat].BuyVigHeld[i]);
     }
   }
   return values;
@@ -451,12 +451,14 @@ TEST(SettingTableVig, AChargeThatCannotBePaidIsRefused) {
       table.Join(1, "Ann", "100");
       if (c.players == 2) table.Join(2, "Bob");
       table.Bet(1, c.bet, c.amount);
-      table.State().AllowNegativeBankroll[1] = negative;
+      table.State().seats[1].AllowNegativeBankroll = negative;
       table.host.boxes.clear();
       std::string error;
       EXPECT_EQ(SetSetting(*table.game, c.name, 0, "on", error), negative);
       EXPECT_EQ(Read(*table.game, c.name), negative ? "on" : "off");
-      EXPECT_EQ(table.State().OnTableAmount[1], Money(!negative ? "100" : IsLay(c.bet) ? "103" : "105"));
+      EXPECT_EQ(table.State().seats[1].OnTableAmount, Money(!negative      ? "100"
+                                                            : IsLay(c.bet) ? "103"
+                                                                           : "105"));
       table.Check("the vig");
       if (negative) continue;
       ASSERT_EQ(table.host.boxes.size(), 1u);
@@ -470,14 +472,14 @@ TEST(SettingTableVig, RatesAndRoundingTakeEffectOnBetsThatAreUp) {
   TestTable table;
   table.Join(1, "Ann");
   table.Bet(1, kBuy4, "50");
-  EXPECT_EQ(table.State().BuyVigHeld[1][0], Money("3"));
+  EXPECT_EQ(table.State().seats[1].BuyVigHeld[0], Money("3"));
   table.Set("BuyVigRound", "1");
-  EXPECT_EQ(table.State().BuyVigHeld[1][0], Money("2"));
+  EXPECT_EQ(table.State().seats[1].BuyVigHeld[0], Money("2"));
   table.Set("BuyVigRate", "10%");
-  EXPECT_EQ(table.State().BuyVigHeld[1][0], Money("5"));
-  EXPECT_EQ(table.State().OnTableAmount[1], Money("55"));
+  EXPECT_EQ(table.State().seats[1].BuyVigHeld[0], Money("5"));
+  EXPECT_EQ(table.State().seats[1].OnTableAmount, Money("55"));
   table.Set("BuyVigUpFront", "off");
-  EXPECT_EQ(table.State().OnTableAmount[1], Money("50"));
+  EXPECT_EQ(table.State().seats[1].OnTableAmount, Money("50"));
 }
 
 TEST(SettingTable, ANegativeBankrollKeepsItsPermission) {

@@ -63,8 +63,8 @@ TEST(SettingsFileTest, SeatsAreNamedBehindTheSign) {
   const std::string path = table.folder.File("players.txt");
   test::WriteFile(path, "WinHandling = 3\nWinHandling @ 4 = 5\n");
   ASSERT_EQ(ApplySettingsFile(*table.game, path), "");
-  EXPECT_EQ(table.State().handling[2].WinHandling, 3);
-  EXPECT_EQ(table.State().handling[4].WinHandling, 5);
+  EXPECT_EQ(table.State().seats[2].handling.WinHandling, 3);
+  EXPECT_EQ(table.State().seats[4].handling.WinHandling, 5);
 }
 
 TEST(SettingsFileTest, AFaultIsToldWithItsLineAndChangesNothing) {

@@ -97,8 +97,8 @@ struct Crowd : test::TestHost {
   // One bet at a time, so that its decisions are independent of each other.
   void AskTraveller(Game& game, int seat, int bet, int firstMoved, std::int64_t& rolls) {
     BetSet up = BetRange(bet, bet) | BetRange(firstMoved, firstMoved + 5);
-    if (!game.table.SeatBets[seat].Meets(up)) Ask(game, seat, bet);
-    if (game.table.SeatBets[seat].Meets(up)) ++rolls;
+    if (!game.table.seats[seat].SeatBets.Meets(up)) Ask(game, seat, bet);
+    if (game.table.seats[seat].SeatBets.Meets(up)) ++rolls;
   }
 
   void BetEverything(Game& game) {
@@ -119,7 +119,7 @@ struct Crowd : test::TestHost {
     AskTraveller(game, kComeSeat, kCome, kCome4, comeRolls[0]);
     AskTraveller(game, kDontComeSeat, kDontCome, kDontCome4, comeRolls[1]);
     for (int seat = 1; seat <= kSeats; ++seat)
-      game.table.SeatBets[seat].ForEach([&](int bet) { ++rollsUp[seat][bet]; });
+      game.table.seats[seat].SeatBets.ForEach([&](int bet) { ++rollsUp[seat][bet]; });
   }
 
   bool Yield(Game& game) override {
@@ -223,7 +223,7 @@ TEST_P(AdvantageSimulation, EveryBetIsWorthWhatTheTablePays) {
       rules.push_back({"BetDefaultWorking." + std::to_string(bet), seat, "on"});
   std::string error;
   ASSERT_TRUE(SetSettings(*game, rules, error)) << error;
-  for (int seat = 1; seat <= kSeats; ++seat) game->table.BetWorking[seat].byDefault = kAllTableBets;
+  for (int seat = 1; seat <= kSeats; ++seat) game->table.seats[seat].BetWorking.byDefault = kAllTableBets;
   Load(game->percentage, house.loading);
   ASSERT_TRUE(SelectGenerator(*game, 1));
   bool seeded = true;
@@ -234,7 +234,7 @@ TEST_P(AdvantageSimulation, EveryBetIsWorthWhatTheTablePays) {
   ASSERT_EQ(SessionRolls(game->stats), RollsWanted()) << game->table.StopReason;
   // The bets of the roll that was not rolled any more.
   for (int seat = 1; seat <= kSeats; ++seat)
-    game->table.SeatBets[seat].ForEach([&](int bet) { --crowd.rollsUp[seat][bet]; });
+    game->table.seats[seat].SeatBets.ForEach([&](int bet) { --crowd.rollsUp[seat][bet]; });
   for (int bet = 1; bet <= kBets; ++bet) ExpectFigures(*game, bet, TallyOf(*game, crowd, bet));
 }
 

@@ -61,7 +61,7 @@ TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
     TestTable table;
     table.Join(1, "Ann", c.bankroll);
     if (*c.bet != 0) table.Bet(1, kPassLine, c.bet);
-    table.State().AllowNegativeBankroll[1] = c.negativeAllowed;
+    table.State().seats[1].AllowNegativeBankroll = c.negativeAllowed;
     table.host.boxes.clear();
     const Currency before = table.State().BankrollCurrent[1];
     EXPECT_EQ(AtmTransaction(*table.game, 1, c.deposit, Money(c.amount), c.fromConfiguration),

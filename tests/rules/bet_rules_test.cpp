@@ -344,7 +344,7 @@ TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
     SCOPED_TRACE(BetName(c.bet) + " by " + c.request);
     TestTable table;
     table.Join(1, "Ann", "100");
-    table.State().AllowNegativeBankroll[1] = true;
+    table.State().seats[1].AllowNegativeBankroll = true;
     for (const int bet : {static_cast<int>(kPassLine), static_cast<int>(kSevenPoint7)})
       table.Bet(1, bet, "10");
     table.Roll(2, 2);
@@ -353,7 +353,7 @@ TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
     table.Roll(6, 2);
     for (const int bet : {static_cast<int>(kPassLine), kCome4 + 2}) table.Bet(1, bet, "10");
     table.Bet(1, kField, "20");
-    table.State().AllowNegativeBankroll[1] = false;
+    table.State().seats[1].AllowNegativeBankroll = false;
     table.host.boxes.clear();
     EXPECT_EQ(PlaceBet(*table.game, 1, c.bet, Money(c.request)), Money(c.change));
     EXPECT_EQ(table.host.boxes.size(), c.sentence.empty() ? 0u : 1u);
@@ -373,7 +373,7 @@ TEST(BetRules, TheVigIsToldAsItIsCharged) {
     table.Bet(1, kLay4, "120");
     EXPECT_EQ(table.host.LastText(),
               upFront ? "Ann,\r\rTotal vig charge $3" : "Ann,\r\rIf you win, the vig charge will be $3");
-    EXPECT_EQ(table.State().OnTableAmount[1], Money(upFront ? "165" : "160"));
+    EXPECT_EQ(table.State().seats[1].OnTableAmount, Money(upFront ? "165" : "160"));
   }
 }
 
@@ -553,8 +553,8 @@ TEST(BetRulesProper, AmountsGoToTheNeighbourThatTheBiasNames) {
     TestTable table;
     table.Join(1, "Ann", "5000");
     table.Bet(1, kPlace4 + 2, c.up);
-    table.State().handling[1].ProperOddsMode = c.mode;
-    table.State().handling[1].PlaceBias = c.bias;
+    table.State().seats[1].handling.ProperOddsMode = c.mode;
+    table.State().seats[1].handling.PlaceBias = c.bias;
     table.Bet(1, kPlace4 + 2, c.request);
     EXPECT_EQ(table.State().BetAmount(1, kPlace4 + 2), Money(c.amount));
   }
@@ -617,7 +617,7 @@ TEST(BetRulesStacks, AValueStopsAtTheLimitEitherWay) {
   EXPECT_EQ(
       table.host.LastText(),
       "Ann,\r\rThe minimum CheckStack value is: $-9,999,999.9999\r\rCheckStack #3\rwhich is being stacked.");
-  EXPECT_EQ(table.State().OnTableAmount[1], kZero) << "no money of the table";
+  EXPECT_EQ(table.State().seats[1].OnTableAmount, kZero) << "no money of the table";
 }
 
 // --- Calls and bought bets.
@@ -644,13 +644,13 @@ TEST(BetRulesCalls, ABoughtPlaceBetTakesItsCallAlong) {
   EXPECT_EQ(table.State().BetAmount(1, kPlace4 + 1), kZero);
   EXPECT_EQ(table.State().BetAmount(1, kBuy4 + 1), Money("30"));
   EXPECT_EQ(BetWorkingOf(*table.game, 1, kBuy4 + 1), 2);
-  EXPECT_EQ(table.State().BuyVigHeld[1][1], Money("2"));
+  EXPECT_EQ(table.State().seats[1].BuyVigHeld[1], Money("2"));
   // Any other place, that of a Place bet which isn't up too.
   for (const int bet : {int(kField), kPlace4 + 1, kBuy4 + 1}) {
     table.host.boxes.clear();
     EXPECT_EQ(BuyPlaceBet(*table.game, 1, bet), IsPlace(bet));
     EXPECT_EQ(table.host.LastText(), "You may only buy Place bets.") << bet;
-    EXPECT_EQ(table.State().OnTableAmount[1], Money("32")) << bet;
+    EXPECT_EQ(table.State().seats[1].OnTableAmount, Money("32")) << bet;
   }
 }
 

@@ -48,7 +48,7 @@ TEST(CheckStacksTest, FourDifferentStacksAreVisible) {
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {1, 2, 3, 100}));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {-1, 2, 3, 4}));
   const int kept[] = {0, 99, 5, 6};
-  EXPECT_TRUE(std::equal(kept, kept + 4, table.State().VisibleStacks[3]));
+  EXPECT_TRUE(std::equal(kept, kept + 4, table.State().seats[3].VisibleStacks));
 }
 
 TEST(CheckStacksTest, DeletionsAskAndTakeWhatTheyName) {

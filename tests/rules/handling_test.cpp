@@ -117,7 +117,7 @@ TEST(Handling, AStoredChoiceDoesWhatTheDialogsDoes) {
     SCOPED_TRACE(BetName(c.bet) + " choice " + std::to_string(c.answer.choice) + " " + c.title);
     TestTable table;
     PrepareFor(table, c);
-    Handling& handling = table.State().handling[1];
+    Handling& handling = table.State().seats[1].handling;
     handling.WinHandling = handling.LoseHandling = c.answer.choice;
     for (int slot = 4; slot < 8; ++slot) {
       handling.AdjustKind[slot] = c.answer.adjustKind;
@@ -173,10 +173,10 @@ TEST(Handling, AParlayOfAVigBetBetsTheWinningsBeforeVig) {
   table.Bet(1, kPassLine, "10");
   table.Roll(4, 6);
   table.Bet(1, kBuy4, "40");
-  table.State().handling[1].WinHandling = kWinParlay;
+  table.State().seats[1].handling.WinHandling = kWinParlay;
   table.Roll(2, 2);
   EXPECT_EQ(table.State().BetAmount(1, kBuy4), Money("120"));
-  EXPECT_EQ(table.State().BuyVigHeld[1][0], Money("6"));
+  EXPECT_EQ(table.State().seats[1].BuyVigHeld[0], Money("6"));
   EXPECT_EQ(table.State().BankrollCurrent[1], Money("2078"));
 }
 
@@ -193,7 +193,7 @@ TEST(Handling, AutomaticOddsFollowAFlatBetThatHandlingChanged) {
     table.Set("ShooterBetRule", "0");
     table.Set("OddsCalcMethod", "1");
     table.Join(1, "Ann");
-    Handling& handling = table.State().handling[1];
+    Handling& handling = table.State().seats[1].handling;
     handling.AutoTakeOdds = true;
     handling.WinHandling = kWinFixed;
     handling.AdjustValue[6] = Money(c.fixed);
@@ -214,7 +214,7 @@ TEST(Handling, ALostBetThatMayNotBePressedStaysAsFarAsThereIsMoneyForIt) {
     TestTable table;
     table.Set("ShooterBetRule", "0");
     table.Join(1, "Ann", bankroll);
-    table.State().handling[1].LoseHandling = kLoseDouble;
+    table.State().seats[1].handling.LoseHandling = kLoseDouble;
     table.Bet(1, kFire, "5");
     table.Roll(2, 2);
     table.host.boxes.clear();

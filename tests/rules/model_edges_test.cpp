@@ -151,9 +151,9 @@ TEST(ModelEdges, TablePaysWhatTheBetsAreWorth) {
   std::string error;
   ASSERT_TRUE(JoinPlayer(*game, 3, "Zebedee", kZero, error)) << error;
   TableState& table = game->table;
-  table.AllowNegativeBankroll[3] = true;
-  table.handling[3].WinHandling = table.handling[3].LoseHandling = 1;
-  table.BetDefaultWorking[3] = kAllTableBets;
+  table.seats[3].AllowNegativeBankroll = true;
+  table.seats[3].handling.WinHandling = table.seats[3].handling.LoseHandling = 1;
+  table.seats[3].BetDefaultWorking = kAllTableBets;
 
   Dice dice{std::mt19937_64(31072026)};
   for (long roll = 0; roll < RollsWanted(10'000'000); ++roll) {

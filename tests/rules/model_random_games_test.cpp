@@ -220,11 +220,11 @@ void CompareSeat(Pair& pair, int seat) {
   const RulesModel& m = *pair.m;
   pair.Same("occupied", seat, 0, m.Occupied[seat], IsOccupied(t, seat));
   pair.Same("BankrollCurrent", seat, 0, m.BankrollCurrent[seat], t.BankrollCurrent[seat]);
-  pair.Same("OnTableAmount", seat, 0, m.OnTableAmount[seat], t.OnTableAmount[seat]);
+  pair.Same("OnTableAmount", seat, 0, m.OnTableAmount[seat], t.seats[seat].OnTableAmount);
   for (int i = 0; i < 6; ++i) {
-    pair.Same("LayVigHeld", seat, i, m.LayVigHeld[seat][i], t.LayVigHeld[seat][i]);
-    pair.Same("BuyVigHeld", seat, i, m.BuyVigHeld[seat][i], t.BuyVigHeld[seat][i]);
-    pair.Same("ComeTravelAmount", seat, i, m.ComeTravelAmount[seat][i], t.ComeTravelAmount[seat][i]);
+    pair.Same("LayVigHeld", seat, i, m.LayVigHeld[seat][i], t.seats[seat].LayVigHeld[i]);
+    pair.Same("BuyVigHeld", seat, i, m.BuyVigHeld[seat][i], t.seats[seat].BuyVigHeld[i]);
+    pair.Same("ComeTravelAmount", seat, i, m.ComeTravelAmount[seat][i], t.seats[seat].ComeTravelAmount[i]);
   }
   for (int bet = 1; bet <= kBets; ++bet) {
     pair.Same("BetAmount", seat, bet, m.BetAmount[seat][bet], t.BetAmount(seat, bet));
@@ -328,7 +328,7 @@ void CompareStatistics(Pair& pair) {
 // ---------------------------------------------------------------- commands on both sides
 
 void ChooseHandling(Pair& pair, int seat) {
-  Handling& h = pair.game->table.handling[seat];
+  Handling& h = pair.game->table.seats[seat].handling;
   RulesModel& m = *pair.m;
   static const int values[] = {1, 2, 3, 5, 10, 25, 50, 150};
   m.WinHandling[seat] = h.WinHandling = pair.Pick(0, 7);
@@ -347,7 +347,7 @@ void ChooseHandling(Pair& pair, int seat) {
   for (int i = 0; i < flips; ++i) {
     const int bet = pair.Pick(1, kBets);
     const bool works = pair.Chance(50);
-    pair.game->table.BetDefaultWorking[seat].Set(bet, works);
+    pair.game->table.seats[seat].BetDefaultWorking.Set(bet, works);
     m.BetDefaultWorking[seat][bet] = works ? 1 : 0;
   }
   pair.Note("handling of seat " + std::to_string(seat) + ": win " + std::to_string(h.WinHandling) +
@@ -371,7 +371,7 @@ void Join(Pair& pair, int seat, const Profile& profile) {
                          bankroll, error))
       << error;
   model::AddPlayer(*pair.m, seat, bankroll);
-  pair.game->table.AllowNegativeBankroll[seat] = negative;
+  pair.game->table.seats[seat].AllowNegativeBankroll = negative;
   pair.m->AllowNegativeBankroll[seat] = negative;
   ChooseHandling(pair, seat);
 }

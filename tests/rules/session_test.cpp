@@ -87,10 +87,10 @@ struct RunningTable : TestTable {
 void ExpectBetsGone(const RunningTable& table) {
   const TableState& state = table.game->table;
   for (int seat = 1; seat <= kSeats; ++seat) {
-    EXPECT_TRUE(state.SeatBets[seat].Empty()) << seat;
-    EXPECT_EQ(state.OnTableAmount[seat], kZero) << seat;
-    EXPECT_TRUE(state.BetWorking[seat].calledOff.Empty()) << seat;
-    EXPECT_EQ(state.BetWorking[seat].byDefault, state.BetDefaultWorking[seat]) << seat;
+    EXPECT_TRUE(state.seats[seat].SeatBets.Empty()) << seat;
+    EXPECT_EQ(state.seats[seat].OnTableAmount, kZero) << seat;
+    EXPECT_TRUE(state.seats[seat].BetWorking.calledOff.Empty()) << seat;
+    EXPECT_EQ(state.seats[seat].BetWorking.byDefault, state.seats[seat].BetDefaultWorking) << seat;
     for (int bet = 1; bet <= kBets; ++bet) {
       EXPECT_EQ(state.BetCommitted(seat, bet), kZero);
       EXPECT_EQ(state.BetStreak(seat, bet), 0);
@@ -173,7 +173,7 @@ TEST(NewSessionTest, EachCombinationKeepsAndClearsWhatItSays) {
       EXPECT_EQ(table.State().BankrollCurrent[kAnn], ann);
       EXPECT_EQ(table.State().BankrollCurrent[kBob], Money("700"));
       EXPECT_EQ(table.State().BankrollCurrent[kCyd], Money("640"));
-      EXPECT_EQ(table.State().BankrollInitAmount[kCyd], Money("640"));
+      EXPECT_EQ(table.State().seats[kCyd].BankrollInitAmount, Money("640"));
       EXPECT_EQ(CheckStackValue(*table.game, kAnn, kStack), choices.keepStacks ? Money("-12.5") : kZero);
       EXPECT_EQ(CheckStackNameOf(*table.game, kAnn, kStack), choices.keepStacks ? "steps" : "");
       EXPECT_EQ(std::filesystem::exists(table.folder.File("ann.slg")), choices.keepLogs);
@@ -202,7 +202,7 @@ TEST(NewSessionTest, AClearedLogBeginsWithTheSession) {
 
 TEST(NewSessionTest, AGivenUpBankrollQuestionKeepsTheStoredAmount) {
   RunningTable table({true, true, true, kCloseRollFile, true});
-  table.State().BankrollInitAmount[kCyd] = Money("333");
+  table.State().seats[kCyd].BankrollInitAmount = Money("333");
   table.host.answers = {"cancel"};
   NewSession(*table.game, true, true, true, kCloseRollFile);
   EXPECT_EQ(table.State().BankrollCurrent[kCyd], Money("333"));

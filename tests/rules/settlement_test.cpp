@@ -112,8 +112,8 @@ TEST(Settlement, LineOddsThatWereOffGoBackWithTheirPoint) {
     TestTable table;
     table.Set("RecordEventsActive", "on");
     table.Join(1, "Ann");
-    table.State().handling[1].WinHandling = kWinSame;
-    table.State().handling[1].LoseHandling = kLoseSame;
+    table.State().seats[1].handling.WinHandling = kWinSame;
+    table.State().seats[1].handling.LoseHandling = kLoseSame;
     table.Bet(1, c.flat, "10");
     table.Roll(2, 2);
     table.Bet(1, c.flat + 1, "20");
@@ -121,7 +121,7 @@ TEST(Settlement, LineOddsThatWereOffGoBackWithTheirPoint) {
     table.Roll(c.die1, c.die2);
     EXPECT_EQ(table.State().BetAmount(1, c.flat), Money("10"));
     EXPECT_EQ(table.State().BetAmount(1, c.flat + 1), kZero);
-    EXPECT_EQ(table.State().OnTableAmount[1], Money("10"));
+    EXPECT_EQ(table.State().seats[1].OnTableAmount, Money("10"));
     EXPECT_EQ(table.State().BankrollCurrent[1], Money(c.bankroll));
     table.Roll(1, 2);
     const std::vector<std::string> log = table.Log();

@@ -77,7 +77,7 @@ TEST_F(AtmTest, ABankrollBelowZeroKeepsTheBoxChecked) {
   auto& box = Find<QCheckBox>(*screen, "chkAllowNegBankroll");
   EXPECT_FALSE(box.isChecked());
   AccessKey(*screen, Qt::Key_N);
-  EXPECT_TRUE(table.State().AllowNegativeBankroll[3]);
+  EXPECT_TRUE(table.State().seats[3].AllowNegativeBankroll);
   TypeInto(*screen, "txtAddSub", "800");
   Click(*screen, "cmdDeposit");
   EXPECT_EQ(Figure("lblBankroll"), "-$300");
@@ -88,11 +88,11 @@ TEST_F(AtmTest, ABankrollBelowZeroKeepsTheBoxChecked) {
             0u)
       << refusal;
   EXPECT_TRUE(box.isChecked());
-  EXPECT_TRUE(table.State().AllowNegativeBankroll[3]);
+  EXPECT_TRUE(table.State().seats[3].AllowNegativeBankroll);
   Click(*screen, "cmdWithdraw");
   Click(*screen, "chkAllowNegBankroll");
   EXPECT_FALSE(box.isChecked());
-  EXPECT_FALSE(table.State().AllowNegativeBankroll[3]);
+  EXPECT_FALSE(table.State().seats[3].AllowNegativeBankroll);
 }
 
 TEST_F(AtmTest, ASwitchedOffAtmMovesNothing) {

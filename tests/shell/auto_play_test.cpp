@@ -26,7 +26,7 @@ class AutoPlayTest : public testing::Test {
     screen->show();
     ASSERT_TRUE(QTest::qWaitForWindowActive(screen.get()));
   }
-  Handling& Of(int seat) { return table.State().handling[seat]; }
+  Handling& Of(int seat) { return table.State().seats[seat].handling; }
   std::string Setting(const std::string& name, int seat) {
     std::string value;
     std::string error;
@@ -126,16 +126,16 @@ TEST_F(AutoPlayTest, EveryBetOfTheListSwitchesItself) {
   list.setFocus();
   QTest::keyClick(&list, Qt::Key_Home);
   for (int bet = 1; bet <= kBets; ++bet) {
-    const BetSet before = table.State().BetDefaultWorking[5];
+    const BetSet before = table.State().seats[5].BetDefaultWorking;
     QTest::keyClick(&list, Qt::Key_Space);
     BetSet after = before;
     after.Set(bet, !before.Has(bet));
-    EXPECT_EQ(table.State().BetDefaultWorking[5], after) << bet;
+    EXPECT_EQ(table.State().seats[5].BetDefaultWorking, after) << bet;
     QTest::keyClick(&list, Qt::Key_Down);
   }
   Click(*screen, "cmdSelectAll");
-  EXPECT_EQ(table.State().BetDefaultWorking[5], kAllTableBets);
-  EXPECT_NE(table.State().BetDefaultWorking[2], kAllTableBets);
+  EXPECT_EQ(table.State().seats[5].BetDefaultWorking, kAllTableBets);
+  EXPECT_NE(table.State().seats[2].BetDefaultWorking, kAllTableBets);
   for (int row = 0; row < list.count(); ++row) EXPECT_EQ(list.item(row)->checkState(), Qt::Checked);
 }
 
@@ -186,7 +186,7 @@ TEST_F(AutoPlayTest, AnotherPlayerIsShownWithoutBeingChanged) {
     EXPECT_EQ(ParseMoney(Find<QLineEdit>(*screen, "txtModifyAmount4").text().toStdString()),
               Of(seat).AdjustValue[4]);
     EXPECT_EQ(Find<QListWidget>(*screen, "lstWorkOnComeOut").item(43)->checkState() == Qt::Checked,
-              table.State().BetDefaultWorking[seat].Has(44));
+              table.State().seats[seat].BetDefaultWorking.Has(44));
   }
   EXPECT_EQ(all(2) + all(5), before);
   EXPECT_EQ(table.State().SelectedSeat, 5);
@@ -209,11 +209,11 @@ TEST(AutoPlayEmpty, NobodyAtTheTableChangesNothing) {
   ScreenTable table;
   AutoPlayScreen screen(*table.game, nullptr);
   screen.show();
-  const BetSet house = table.State().BetDefaultWorking[0];
+  const BetSet house = table.State().seats[0].BetDefaultWorking;
   Click(screen, "optHandleWinningBets3");
   Click(screen, "cmdSelectAll");
-  EXPECT_EQ(table.State().handling[0].WinHandling, 0);
-  EXPECT_EQ(table.State().BetDefaultWorking[0], house);
+  EXPECT_EQ(table.State().seats[0].handling.WinHandling, 0);
+  EXPECT_EQ(table.State().seats[0].BetDefaultWorking, house);
 }
 
 TEST_F(AutoPlayTest, Pictures) {

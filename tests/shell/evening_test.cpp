@@ -122,9 +122,10 @@ struct Evening {
     ASSERT_EQ(a.HandSeat, b.HandSeat) << after;
     ASSERT_EQ(a.SelectedSeat, b.SelectedSeat) << after;
     for (int seat = 0; seat <= kSeats; ++seat) {
-      ASSERT_EQ(a.SeatName[seat], b.SeatName[seat]) << after;
+      ASSERT_EQ(a.seats[seat].SeatName, b.seats[seat].SeatName) << after;
       ASSERT_EQ(a.BankrollCurrent[seat].raw, b.BankrollCurrent[seat].raw) << after << ", seat " << seat;
-      ASSERT_EQ(a.OnTableAmount[seat].raw, b.OnTableAmount[seat].raw) << after << ", seat " << seat;
+      ASSERT_EQ(a.seats[seat].OnTableAmount.raw, b.seats[seat].OnTableAmount.raw)
+          << after << ", seat " << seat;
       for (int bet = 1; bet <= kBets; ++bet) {
         ASSERT_EQ(a.BetAmount(seat, bet).raw, b.BetAmount(seat, bet).raw)
             << after << ", " << BetName(bet) << " of " << seat;
@@ -205,7 +206,7 @@ struct Evening {
 TEST(Evening, FourPlayersBetEverythingAndLeaveTheSameTableAsTheCore) {
   Evening evening;
   for (Game* game : {evening.real.game.get(), evening.model.game.get()})
-    for (auto& handling : game->table.handling) handling.WinHandling = handling.LoseHandling = 0;
+    for (SeatState& seat : game->table.seats) seat.handling.WinHandling = seat.handling.LoseHandling = 0;
   evening.Join(2, "Ann");
   evening.Join(4, "Boris");
   evening.Join(5, "Cleo");
@@ -225,7 +226,7 @@ TEST(Evening, FourPlayersBetEverythingAndLeaveTheSameTableAsTheCore) {
         }
     }
     const int seat = evening.Core().SelectedSeat;
-    const BetSet& up = evening.Core().SeatBets[seat];
+    const BetSet& up = evening.Core().seats[seat].SeatBets;
     const auto first = [&](int from) {
       for (int bet = from; bet < from + 6; ++bet)
         if (up.Has(bet)) return bet;
@@ -326,7 +327,7 @@ TEST(MainWindow, AClickThatIsMeantForSomethingElseNeverBets) {
       evening.hands.texts.clear();
       one.key == 0 ? evening.window.Command("mnuMoveBet")->trigger() : evening.Key(one.key);
       QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, bet));
-      EXPECT_EQ(evening.real.game->table.OnTableAmount[4], kZero) << one.says;
+      EXPECT_EQ(evening.real.game->table.seats[4].OnTableAmount, kZero) << one.says;
       EXPECT_EQ(evening.hands.texts.empty() ? "" : evening.hands.texts.back(), one.says) << BetName(bet);
       EXPECT_EQ(evening.window.Commands().PendingAction, kPendingNone);
     }
@@ -518,7 +519,7 @@ TEST(MainWindow, DigitsAreThePlacesAtTheRail) {
   Evening evening;
   evening.hands.answers = {PressReturn, Typing("Fay"), Typing("300")};
   evening.Key(Qt::Key_6);
-  EXPECT_EQ(evening.real.game->table.SeatName[6], "Fay");
+  EXPECT_EQ(evening.real.game->table.seats[6].SeatName, "Fay");
   evening.hands.answers = {PressReturn, Typing("Gil"), Typing("300")};
   evening.Key(Qt::Key_1);
   EXPECT_EQ(evening.real.game->table.SelectedSeat, 1);
@@ -538,9 +539,11 @@ TEST(MainWindow, ArrowsWalkTheSeatsUntilTheAreasHaveTheFocus) {
 
 TEST(MainWindow, ATurboRollShowsItsPanelAndStopsWithinATenthOfASecond) {
   Evening evening;
-  for (auto& handling : evening.real.game->table.handling) handling.WinHandling = handling.LoseHandling = 2;
+  for (SeatState& seat : evening.real.game->table.seats)
+    seat.handling.WinHandling = seat.handling.LoseHandling = 2;
   evening.Join(4, "Eve");
-  evening.real.game->table.handling[4].WinHandling = evening.real.game->table.handling[4].LoseHandling = 2;
+  evening.real.game->table.seats[4].handling.WinHandling =
+      evening.real.game->table.seats[4].handling.LoseHandling = 2;
   evening.real.game->settings.ShooterBetRule = 0;
   QElapsedTimer clock;
   bool shown = false;
@@ -596,7 +599,7 @@ TEST(MainWindow, AStackAtTheRailIsItsOwnPlayersAndIsFilledLikeABet) {
   const auto place = [&](int seat) {
     return table.view.ToScreen(VisibleStackPlace(table.Layout().Seats[seat], 2)).toPoint();
   };
-  const int stack = kFirstCheckStack + evening.real.game->table.VisibleStacks[4][2];
+  const int stack = kFirstCheckStack + evening.real.game->table.seats[4].VisibleStacks[2];
   QTest::mouseMove(&table, place(4));
   QTest::mouseClick(&table, Qt::LeftButton, {}, place(4));
   EXPECT_EQ(evening.real.game->table.BetAmount(4, stack), evening.window.Commands().ClickAmount);
@@ -706,8 +709,8 @@ TEST(MainWindow, APlayerMovesToAClickedPlace) {
   evening.Join(4, "Eve");
   evening.window.Command("mnuPlayerMove")->trigger();
   QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfSeat(7));
-  EXPECT_EQ(evening.real.game->table.SeatName[7], "Eve");
-  EXPECT_TRUE(evening.real.game->table.SeatName[4].empty());
+  EXPECT_EQ(evening.real.game->table.seats[7].SeatName, "Eve");
+  EXPECT_TRUE(evening.real.game->table.seats[4].SeatName.empty());
   EXPECT_EQ(evening.real.game->table.SelectedSeat, 7);
 }
 
@@ -808,7 +811,8 @@ TEST(MainWindow, ABoxComesUpOverTheTableAsItIs) {
   Evening evening;
   evening.Join(4, "Eve");
   evening.Join(6, "Fay");
-  evening.real.game->table.handling[4].WinHandling = evening.real.game->table.handling[4].LoseHandling = 0;
+  evening.real.game->table.seats[4].handling.WinHandling =
+      evening.real.game->table.seats[4].handling.LoseHandling = 0;
   const TableState& state = evening.real.game->table;
   WriteFile(evening.real.game->dataFolder + "told.bet", "show message \"rolled\"");
   QueuedFileNames() = {"told.bet"};

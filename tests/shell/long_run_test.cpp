@@ -37,7 +37,7 @@ TEST(LongRun, AnAutoRollLeavesNoMemoryBehind) {
   table.game->settings.AutoRollDelay = Seconds{};
   for (int seat = 1; seat <= kSeats; ++seat) {
     table.Join(seat, "P" + std::to_string(seat) + "x", "9000000");
-    table.State().handling[seat].WinHandling = table.State().handling[seat].LoseHandling = 2;
+    table.State().seats[seat].handling.WinHandling = table.State().seats[seat].handling.LoseHandling = 2;
     for (const int bet : std::initializer_list<int>{kPassLine, kField, kHard8, kHorn, kPlace4 + 2, kFire})
       table.Bet(seat, bet, "5");
   }

@@ -68,9 +68,9 @@ TEST(NewSessionRollFile, IsRewoundContinuedOrClosedAsChosen) {
 TEST(NewSessionBankrolls, AreAskedForOverTheTableAndEndAsTyped) {
   SessionTable table;
   table.Join(6, "Bo");
-  table.State().BankrollInitType[4] = 2;
-  table.State().BankrollInitType[6] = 1;
-  table.State().BankrollInitAmount[6] = Currency::Dollars(75);
+  table.State().seats[4].BankrollInitType = 2;
+  table.State().seats[6].BankrollInitType = 1;
+  table.State().seats[6].BankrollInitAmount = Currency::Dollars(75);
   table.host.answers.Type("640");
   table.Ask([](QDialog& screen) { Click(screen, "cmdOK"); });
   EXPECT_TRUE(table.host.answers.Empty());

@@ -122,7 +122,7 @@ TEST(NewSession, EachChoiceKeepsOrClearsWhatItSays) {
     PlaceBet(*table.game, 2, kFirstCheckStack + 3, Currency::Dollars(7));
     table.Roll(2, 1);
     table.game->autobet.Scripts[2].ScriptLines = {"bet 10 on field"};
-    const std::string log = table.State().SessionsLogName[2];
+    const std::string log = table.State().seats[2].SessionsLogName;
     WriteFile(log, "kept");
     NewSessionScreen screen(*table.game, nullptr);
     const bool scripts = (choices & 1) != 0;

@@ -72,7 +72,7 @@ Outcome Play(const Scene& scene, const Ask& ask, const std::function<void(Game&)
   };
   table.Roll(scene.die1, scene.die2);
   outcome.bankroll = table.State().BankrollCurrent[4];
-  outcome.onTable = table.State().OnTableAmount[4];
+  outcome.onTable = table.State().seats[4].OnTableAmount;
   for (int bet = 1; bet <= kBets; ++bet) outcome.bets.push_back(table.State().BetAmount(4, bet));
   return outcome;
 }
@@ -99,7 +99,7 @@ TEST(SettleBet, EveryButtonAndEveryKeyDoesItsOwnChoice) {
     for (int choice = 1; choice <= 7; ++choice) {
       // The amount that the seat keeps for choices 6 and 7 stands in the dialog.
       const auto prepare = [](Game& game) {
-        Handling& handling = game.table.handling[4];
+        Handling& handling = game.table.seats[4].handling;
         for (const int slot : {4, 5, 6, 7}) handling.AdjustValue[slot] = Currency::Dollars(10 * slot);
         handling.AdjustUnit[5] = 1;
       };

@@ -18,7 +18,8 @@ void ShellTable::MakeBusy() {
   } kPlayers[] = {{2, "Alexandra"}, {3, "Bo"}, {5, "Catherine"}, {8, "Dieter"}};
   for (const auto& player : kPlayers) {
     Join(player.seat, player.name, "25000");
-    game->table.handling[player.seat].WinHandling = game->table.handling[player.seat].LoseHandling = 2;
+    game->table.seats[player.seat].handling.WinHandling =
+        game->table.seats[player.seat].handling.LoseHandling = 2;
   }
   const auto bet = [&](int seat, int id, int amount) {
     PlaceBet(*game, seat, id, Currency::Dollars(amount));

@@ -59,7 +59,7 @@ class RandomTable {
     Click(bet, told > kZero ? told : Currency::Dollars(1 + Below(500)));
     const Currency added = game.table.BetAmount(seat, bet) - up;
     // With a correction for the payoff a click for more than there is may get what a smaller one doesn't.
-    const bool corrected = game.table.handling[seat].ProperOddsMode != 0;
+    const bool corrected = game.table.seats[seat].handling.ProperOddsMode != 0;
     if (told == kZero) {
       ASSERT_TRUE(added <= kZero || corrected) << BetName(bet) << " over " << PlainMoney(up);
     } else {
@@ -100,7 +100,7 @@ class RandomTable {
   // One of the rules, limits or the players' own choices becomes another.
   void AnyRules() {
     Settings& settings = game.settings;
-    Handling& handling = game.table.handling[Chance(0.5) ? 2 : 5];
+    Handling& handling = game.table.seats[Chance(0.5) ? 2 : 5].handling;
     switch (Below(12)) {
       case 0:
         settings.MinBetMain = Pick({"1", "5", "10"});
@@ -129,7 +129,7 @@ class RandomTable {
         RecomputeVig(game);
         break;
       case 8:
-        game.table.AllowNegativeBankroll[2] = Chance(0.3);
+        game.table.seats[2].AllowNegativeBankroll = Chance(0.3);
         break;
       case 9:
         handling.ProperOddsMode = Below(3);
@@ -143,7 +143,7 @@ class RandomTable {
         // Little left, plenty left.
         const int seat = Chance(0.5) ? 2 : 5;
         game.table.BankrollCurrent[seat] =
-            game.table.OnTableAmount[seat] + Currency::Dollars(Below(3) * 400 + Below(60));
+            game.table.seats[seat].OnTableAmount + Currency::Dollars(Below(3) * 400 + Below(60));
         break;
       }
     }

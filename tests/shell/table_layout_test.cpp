@@ -189,7 +189,7 @@ TEST(HitTest, VisibleStacksOfOccupiedSeatsAlone) {
   ShellTable table;
   table.Join(3, "Cat");
   Game& game = *table.game;
-  game.table.VisibleStacks[3][2] = 77;
+  game.table.seats[3].VisibleStacks[2] = 77;
   const TableLayout layout = BuildTableLayout(game.settings, game.payoffs);
   const TableView view = WholeAt(1600, 60);
   const QImage map = MapOf(layout, view, game);
@@ -197,7 +197,7 @@ TEST(HitTest, VisibleStacksOfOccupiedSeatsAlone) {
     for (int n = 0; n < 4; ++n) {
       const QPoint point = view.ToScreen(VisibleStackPlace(layout.Seats[seat], n)).toPoint();
       const Hit hit = HitTest(map, point, game);
-      EXPECT_EQ(hit.Bet, seat == 3 ? kFirstCheckStack + game.table.VisibleStacks[3][n] : 0)
+      EXPECT_EQ(hit.Bet, seat == 3 ? kFirstCheckStack + game.table.seats[3].VisibleStacks[n] : 0)
           << seat << " " << n;
       EXPECT_EQ(hit.Seat, seat == 3 ? 3 : 0);
     }

@@ -14,8 +14,8 @@
 #include "rules/seed_rng.h"
 #include "rules/session.h"
 #include "rules/shooter.h"
-#include "support/test_host.h"
 #include "state/run_stop.h"
+#include "support/test_host.h"
 
 namespace tessaryn {
 namespace {
@@ -244,9 +244,9 @@ TEST(EventsLogTurbo, TheSameDiceGiveTheSameLinesAtAnySpeed) {
       for (const int bet : {static_cast<int>(kPassLine), kPlace4 + 2, static_cast<int>(kField),
                             kLay4 + seat % 6, static_cast<int>(kHard6), static_cast<int>(kMakeAll)})
         table.Bet(seat, bet, "6");
-      table.State().handling[seat].WinHandling = 1 + seat % 5;
-      table.State().handling[seat].LoseHandling = 2 + seat % 4;
-      table.State().handling[seat].AutoTakeOdds = seat % 2 == 0;
+      table.State().seats[seat].handling.WinHandling = 1 + seat % 5;
+      table.State().seats[seat].handling.LoseHandling = 2 + seat % 4;
+      table.State().seats[seat].handling.AutoTakeOdds = seat % 2 == 0;
     }
     test::WriteFile(table.folder.File("d.rol"), dice);
     ASSERT_EQ(OpenRollFile(table.game->rollFile, table.folder.File("d.rol")), "");

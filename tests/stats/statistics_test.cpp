@@ -143,7 +143,7 @@ TEST(StatisticsBets, ComeTravelIsSummedAsTheBetResolves) {
   table.Roll(3, 3);
   for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})
     EXPECT_EQ(table.game->stats.ComeTravelTotals[Slot(scope, 1)][2], Money("15"));
-  EXPECT_EQ(table.State().ComeTravelAmount[1][2], kZero);
+  EXPECT_EQ(table.State().seats[1].ComeTravelAmount[2], kZero);
 }
 
 // --- The hand's note.
@@ -288,8 +288,8 @@ class RandomGame {
     table_.game->settings.MessageMask = 0;
     for (int seat = 1; seat <= 3; ++seat) {
       table_.Join(seat, std::string("P") + static_cast<char>('a' + seat), "500000");
-      table_.State().handling[seat].WinHandling = 1 + seat;
-      table_.State().handling[seat].LoseHandling = 1 + seat % 2;
+      table_.State().seats[seat].handling.WinHandling = 1 + seat;
+      table_.State().seats[seat].handling.LoseHandling = 1 + seat % 2;
     }
   }
   TestTable& Table() { return table_; }
@@ -322,8 +322,8 @@ class RandomGame {
     for (int seat = 1; seat <= 3; ++seat)
       for (int bet = 1; bet <= kBets; ++bet) {
         wagered[seat][bet] = state.BetAmount(seat, bet);
-        if (IsLay(bet)) wagered[seat][bet] += state.LayVigHeld[seat][bet - kLay4];
-        if (IsBuy(bet)) wagered[seat][bet] += state.BuyVigHeld[seat][bet - kBuy4];
+        if (IsLay(bet)) wagered[seat][bet] += state.seats[seat].LayVigHeld[bet - kLay4];
+        if (IsBuy(bet)) wagered[seat][bet] += state.seats[seat].BuyVigHeld[bet - kBuy4];
         for (const int table : {kWinStats, kLossStats})
           totals[seat][bet][table - 1] =
               BetStat(game.stats, static_cast<StatTable>(table), kAllSessions, seat, bet, kStatTotal);

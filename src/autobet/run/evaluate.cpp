@@ -178,7 +178,7 @@ int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
   const unsigned accepted = kAccepted[count.relation];
   if (count.raw == 0) {
     // No amount lies below nothing, and the table keeps which bets are up.
-    const int up = (table.SeatBets[seat] & count.range).Size();
+    const int up = (table.seats[seat].SeatBets & count.range).Size();
     return ((accepted & kGreater) != 0 ? up : 0) + ((accepted & kEqual) != 0 ? count.bets - up : 0);
   }
   int passing = 0;

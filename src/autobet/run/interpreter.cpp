@@ -23,7 +23,7 @@ void PreparedProgramDeleter::operator()(PreparedProgram* program) const { delete
 
 ScriptSurroundings SurroundingsOf(const Game& game) {
   ScriptSurroundings surroundings;
-  for (int seat = 1; seat <= kSeats; ++seat) surroundings.seatNames[seat] = game.table.SeatName[seat];
+  for (int seat = 1; seat <= kSeats; ++seat) surroundings.seatNames[seat] = game.table.seats[seat].SeatName;
   surroundings.big68 = game.settings.UseBig68;
   surroundings.smallTall = game.settings.SmallTallEnabled;
   surroundings.midway = game.settings.UseMidway;
@@ -34,7 +34,7 @@ ScriptSurroundings SurroundingsOf(const Game& game) {
 namespace {
 
 void TellBadScript(Game& game, int seat) {
-  const std::string& name = game.table.SeatName[seat];
+  const std::string& name = game.table.seats[seat].SeatName;
   ShowMessage(game, kScriptErrorTitle,
               name +
                   "'s auto-bet script contains an error which must be corrected before you can run it."

@@ -61,7 +61,7 @@ bool OpenScriptOutput(Game& game, int seat, const std::string& name, bool append
   fs::create_directory(game.ownFolder + kScriptOutputFolder, fault);
   std::string path;
   if (!ResolveOutputPath(game, name, path)) return false;
-  if (!MayWrite(game.autobet, game.table.SeatName[seat], path)) return false;
+  if (!MayWrite(game.autobet, game.table.seats[seat].SeatName, path)) return false;
   if (output.File != nullptr) std::fclose(output.File);
   output.File = nullptr;
   // The path was resolved: a link or pipe that stands there now was put there since.

@@ -158,7 +158,7 @@ bool SeatNumber(const CallInHand& hand, double& value) {
 bool Ask(const CallInHand& hand, const char* prompt, int error, std::string& answer) {
   Game& game = hand.game;
   const std::string asked = hand.Text(0);
-  const std::string& name = game.table.SeatName[game.autobet.CurrentAutobettor];
+  const std::string& name = game.table.seats[game.autobet.CurrentAutobettor].SeatName;
   game.box.MsgEntry.clear();
   const int result = ShowMessage(game, "Auto-Bet (" + name + ")", asked.empty() ? prompt : asked,
                                  kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion);
@@ -252,14 +252,14 @@ bool Find(const CallInHand& hand, double& value) {
 bool NameOfStack(const CallInHand& hand, std::string& text) {
   int code = 0;
   if (!VariableOfFunction(hand.game, 800, hand.Number(0), code)) return false;
-  text = hand.game.table.CheckStackName[hand.game.autobet.CurrentAutobettor][code - 800];
+  text = hand.game.table.seats[hand.game.autobet.CurrentAutobettor].CheckStackName[code - 800];
   return true;
 }
 
 bool NameOfPlayer(const CallInHand& hand, std::string& text) {
   const double seat = hand.Number(0);
   if (seat != std::floor(seat) || !(seat >= 1 && seat <= kSeats)) return hand.Fails(kErrorPlayerName);
-  text = hand.game.table.SeatName[static_cast<int>(seat)];
+  text = hand.game.table.seats[static_cast<int>(seat)].SeatName;
   return !text.empty() || hand.Fails(kErrorNoPlayer);
 }
 

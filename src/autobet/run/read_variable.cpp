@@ -162,12 +162,12 @@ bool ReadTableState(Game& game, int code, double& value) {
 
 double SeatValue(Game& game, int code, int seat) {
   const TableState& table = game.table;
-  const Handling& handling = table.handling[seat];
+  const Handling& handling = table.seats[seat].handling;
   switch (code) {
     case 651:
-      return (table.BankrollCurrent[seat] - table.OnTableAmount[seat]).ToDouble();
+      return (table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount).ToDouble();
     case 655:
-      return table.RailAmount[seat].ToDouble();
+      return table.seats[seat].RailAmount.ToDouble();
     case 670:
       return handling.WinHandling + 1;
     case 671:
@@ -402,7 +402,7 @@ bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, 
   }
   const std::string name = Lowered(Trimmed(program.texts[static_cast<std::size_t>(operand.place)]));
   for (int i = 1; i <= kSeats && !name.empty(); ++i) {
-    if (Lowered(Trimmed(game.table.SeatName[i])) != name) continue;
+    if (Lowered(Trimmed(game.table.seats[i].SeatName)) != name) continue;
     seat = i;
     return true;
   }
@@ -486,7 +486,7 @@ bool ReadTextVariable(Game& game, const PreparedProgram& program, const Referenc
   if (!PlayerOf(game, program, reference, seat)) return false;
   const int stack = reference.code - 800;
   const bool known = stack >= 0 && stack < kCheckStacks;
-  text = known ? game.table.CheckStackName[seat][stack] : std::string();
+  text = known ? game.table.seats[seat].CheckStackName[stack] : std::string();
   return true;
 }
 

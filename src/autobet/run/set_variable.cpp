@@ -30,7 +30,7 @@ bool SetBet(Game& game, int seat, int bet, double dollars) {
   if (wanted.IsError()) return ScriptFaults(game, kNumberOverflow);
   TableState& table = game.table;
   if (wanted == table.BetAmount(seat, bet) && StaysWhenBetAgain(game, seat, bet)) return true;
-  WorkingState& working = table.BetWorking[seat];
+  WorkingState& working = table.seats[seat].BetWorking;
   const bool calledOn = working.calledOn.Has(bet);
   const bool calledOff = working.calledOff.Has(bet);
   if (table.BetAmount(seat, bet) > kZero) ChangeBet(game, seat, bet, -table.BetAmount(seat, bet));
@@ -152,7 +152,7 @@ int HandlingOfText(Handling& handling, const HandlingRule& rule, const std::stri
 }
 
 bool SetHandling(Game& game, int seat, const HandlingRule& rule, const ScriptValue& value) {
-  Handling& handling = game.table.handling[seat];
+  Handling& handling = game.table.seats[seat].handling;
   double number = value.number;
   if (value.isText) number = HandlingOfText(handling, rule, value.text);
   number = std::nearbyint(number);
@@ -164,7 +164,7 @@ bool SetHandling(Game& game, int seat, const HandlingRule& rule, const ScriptVal
 // --- The seat's switches.
 
 bool SetSwitch(Game& game, int seat, int code, bool on) {
-  Handling& handling = game.table.handling[seat];
+  Handling& handling = game.table.seats[seat].handling;
   switch (code) {
     case 700:
       handling.AutoTakeOdds = on;
@@ -287,7 +287,7 @@ bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& va
   if (code == 671) return SetHandling(game, seat, kLoseRule, value);
   if (code >= 700 && code <= 703) return SetSwitch(game, seat, code, value.AsNumber() != 0);
   if (code >= 800 && code <= 899) {
-    std::string& name = game.table.CheckStackName[seat][code - 800];
+    std::string& name = game.table.seats[seat].CheckStackName[code - 800];
     if (value.isText)
       name = value.text;  // in the room that it has
     else
@@ -305,7 +305,7 @@ bool ReadTarget(Game& game, const PreparedProgram& program, const Reference& tar
     return true;
   }
   if (value.isText) {
-    value.text = game.table.CheckStackName[resolved.seat][resolved.code - 800];
+    value.text = game.table.seats[resolved.seat].CheckStackName[resolved.code - 800];
     return true;
   }
   if (IsBetVariable(resolved.code) || IsCheckStack(resolved.code)) {

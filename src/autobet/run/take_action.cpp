@@ -110,7 +110,7 @@ bool MessagesOn(const Game& game) {
 }
 
 std::string BoxTitle(const ActionInHand& action) {
-  return "Auto-Bet (" + action.game.table.SeatName[action.Seat()] + ")";
+  return "Auto-Bet (" + action.game.table.seats[action.Seat()].SeatName + ")";
 }
 
 bool TellOrAsk(const ActionInHand& action) {

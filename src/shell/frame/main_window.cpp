@@ -338,22 +338,22 @@ void MainWindow::RunCommand(const CommandFacts& facts) {
 bool MainWindow::Free() const { return !game_.table.RollInProgress || game_.table.AutoRollActive; }
 bool MainWindow::HasPlayer() const { return Free() && IsOccupied(game_.table, game_.table.SelectedSeat); }
 bool MainWindow::HasBets() const {
-  return HasPlayer() && !game_.table.SeatBets[game_.table.SelectedSeat].Empty();
+  return HasPlayer() && !game_.table.seats[game_.table.SelectedSeat].SeatBets.Empty();
 }
 bool MainWindow::HasCallableBet() const {
-  return HasPlayer() && game_.table.SeatBets[game_.table.SelectedSeat].Meets(CallableBets());
+  return HasPlayer() && game_.table.seats[game_.table.SelectedSeat].SeatBets.Meets(CallableBets());
 }
 bool MainWindow::HasOpenPlace() const { return Free() && game_.table.OccupiedSeats < kSeats; }
 bool MainWindow::CanMove() const { return HasPlayer() && HasOpenPlace(); }
 bool MainWindow::CanPass() const { return Free() && game_.table.OccupiedSeats > 0; }
 bool MainWindow::CanAtm() const { return HasPlayer() && game_.settings.AtmEnabled; }
 bool MainWindow::CanTakeOdds() const {
-  const BetSet& up = game_.table.SeatBets[game_.table.SelectedSeat];
+  const BetSet& up = game_.table.seats[game_.table.SelectedSeat].SeatBets;
   return HasPlayer() &&
          ((up.Has(kPassLine) && game_.table.Point != 0) || up.Meets(BetRange(kCome4, kCome4 + 5)));
 }
 bool MainWindow::CanLayOdds() const {
-  const BetSet& up = game_.table.SeatBets[game_.table.SelectedSeat];
+  const BetSet& up = game_.table.seats[game_.table.SelectedSeat].SeatBets;
   return HasPlayer() &&
          ((up.Has(kDontPass) && game_.table.Point != 0) || up.Meets(BetRange(kDontCome4, kDontCome4 + 5)));
 }
@@ -405,7 +405,8 @@ void MainWindow::ShowTableStatus() {
   const TableState& table = game_.table;
   QStringList parts{tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats))))};
   parts += table.Point == 0 ? tr("Come-out") : tr("Point %1").arg(table.Point);
-  if (table.ShooterSeat != 0) parts += tr("Shooter: %1").arg(FromCore(table.SeatName[table.ShooterSeat]));
+  if (table.ShooterSeat != 0)
+    parts += tr("Shooter: %1").arg(FromCore(table.seats[table.ShooterSeat].SeatName));
   status_->setText(parts.join("   "));
 }
 
@@ -577,7 +578,7 @@ void MainWindow::MoveSelected() {
   table_->scene.movingPlayer = true;
   table_->update();
   ShowMessage(game_, "Move Player",
-              "Click the rail where you want to put " + game_.table.SeatName[movingSeat_] + ".",
+              "Click the rail where you want to put " + game_.table.seats[movingSeat_].SeatName + ".",
               kMsgOk | kMsgAlert);
 }
 
@@ -911,10 +912,11 @@ bool MainWindow::SaveScriptsFirst() {
   for (int seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = game_.autobet.Scripts[seat];
     if (!IsOccupied(game_.table, seat) || !script.Unsaved) continue;
-    const int answer = ShowMessage(
-        game_, "Save Auto-Bets?",
-        game_.table.SeatName[seat] + "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
-        kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    const int answer =
+        ShowMessage(game_, "Save Auto-Bets?",
+                    game_.table.seats[seat].SeatName +
+                        "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
+                    kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
     if (answer == kResultCancel) return false;
     if (answer != kResultYes) continue;
     const std::string path = ChooseFile(game_, this, kSaveAutoBet, script.ScriptFileName);

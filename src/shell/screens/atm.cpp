@@ -39,7 +39,7 @@ void AtmScreen::AddHeader() {
   const QPixmap picture = CheckPicture(kPictureCheck, text, kPictureSize, devicePixelRatioF());
   auto* header = new HeaderBand(kBandGreen, picture, this);
   header->AddTitle(tr("ATM"));
-  header->AddLine("lblPlayer", FromCore(game_.table.SeatName[seat_]));
+  header->AddLine("lblPlayer", FromCore(game_.table.seats[seat_].SeatName));
   layout()->addWidget(header);
 }
 
@@ -126,13 +126,13 @@ void AtmScreen::AllowNegative(bool allow) {
 void AtmScreen::Refresh() {
   const TableState& table = game_.table;
   const Currency bankroll = table.BankrollCurrent[seat_];
-  const Currency onTable = table.OnTableAmount[seat_];
+  const Currency onTable = table.seats[seat_].OnTableAmount;
   const auto show = [](QLabel* figure, Currency value) { figure->setText(DollarText(value)); };
   show(bankroll_, bankroll);
   show(onTable_, onTable);
   show(rail_, bankroll - onTable);
   show(total_, game_.stats.AtmTotal[Slot(kCurrentSession, seat_)]);
-  negative_->setChecked(table.AllowNegativeBankroll[seat_]);
+  negative_->setChecked(table.seats[seat_].AllowNegativeBankroll);
 }
 
 }  // namespace tessaryn

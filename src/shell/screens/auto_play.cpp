@@ -61,7 +61,7 @@ const char* const kAmountCaptions[3] = {
     QT_TRANSLATE_NOOP("tessaryn::AutoPlayScreen", " Auto w/ color correction")};
 
 int FirstSeat(const TableState& table) {
-  if (table.SelectedSeat > 0 && !table.SeatName[table.SelectedSeat].empty()) return table.SelectedSeat;
+  if (table.SelectedSeat > 0 && !table.seats[table.SelectedSeat].SeatName.empty()) return table.SelectedSeat;
   return table.OccupiedSeats > 0 ? table.Seated[0] : 0;
 }
 
@@ -101,7 +101,7 @@ void AutoPlayScreen::AddPlayerRow(QBoxLayout& column) {
   player_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   player_->setMinimumContentsLength(24);
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (const std::string& name = game_.table.SeatName[seat]; !name.empty())
+    if (const std::string& name = game_.table.seats[seat].SeatName; !name.empty())
       player_->addItem(FromCore(name), seat);
   player_->setCurrentIndex(player_->findData(seat_));
   player_->setEnabled(seat_ > 0);
@@ -240,7 +240,7 @@ void AutoPlayScreen::ShowSeat(int seat) {
 
 void AutoPlayScreen::Load() {
   loading_ = true;
-  const Handling& handling = game_.table.handling[seat_];
+  const Handling& handling = game_.table.seats[seat_].handling;
   win_->button(handling.WinHandling)->setChecked(true);
   lose_->button(handling.LoseHandling)->setChecked(true);
   amounts_->button(handling.ProperOddsMode)->setChecked(true);
@@ -256,7 +256,7 @@ void AutoPlayScreen::Load() {
 }
 
 void AutoPlayScreen::LoadWorking() {
-  const BetSet& works = game_.table.BetDefaultWorking[seat_];
+  const BetSet& works = game_.table.seats[seat_].BetDefaultWorking;
   for (int bet = 1; bet <= kBets; ++bet)
     working_->item(bet - 1)->setCheckState(works.Has(bet) ? Qt::Checked : Qt::Unchecked);
 }

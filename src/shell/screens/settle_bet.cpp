@@ -159,7 +159,7 @@ void SettleBetScreen::AddHeader(const Game& game) {
   const QColor& colour = question_.offOdds ? kBandGrey : question_.won ? kBandGreen : kBandRed;
   auto* header = new HeaderBand(colour, DiceAsRolled(game.table, devicePixelRatioF()), this);
   const QString title = question_.offOdds ? tr("ODDS OFF") : question_.won ? tr("WINNER") : tr("LOSER");
-  const QString player = FromCore(game.table.SeatName[question_.seat]);
+  const QString player = FromCore(game.table.seats[question_.seat].SeatName);
   const QString bet = tr(BetName(question_.bet).c_str());
   header->AddTitle(title);
   header->AddLine("lblBet", bet)->setAccessibleName(tr("%1, bet %2").arg(player, bet));
@@ -218,7 +218,7 @@ void SettleBetScreen::AddChoices(const Game& game) {
 AdjustEdit* SettleBetScreen::AddAdjusted(QGridLayout& grid, int choice, int slot, const Game& game) {
   QPushButton* button = AddChoice(grid, choice);
   grid.addWidget(button, choice, 0);
-  const Handling& handling = game.table.handling[question_.seat];
+  const Handling& handling = game.table.seats[question_.seat].handling;
   const QString what = button->text().remove('&').remove(':');
   auto* edit = new AdjustEdit(slot, game.settings, what, grid.parentWidget());
   edit->SetValue({handling.AdjustKind[slot], handling.AdjustValue[slot], handling.AdjustUnit[slot]});

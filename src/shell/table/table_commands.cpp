@@ -153,7 +153,7 @@ void RemoveAllBets(Game& game) {
   const int seat = game.table.SelectedSeat;
   // A contract that can't come down is left without a word for each.
   ++game.table.QuietChanges;
-  game.table.SeatBets[seat].ForEach(
+  game.table.seats[seat].SeatBets.ForEach(
       [&](int bet) { PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet)); });
   --game.table.QuietChanges;
   game.host->Changed(game, Change::kLayout);
@@ -265,7 +265,8 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   if (commands.Moving.Bet != 0)
     parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0) {
-    if (occupied) parts += FromCore(game.table.SeatName[seat]) + "   " + StatusLines(game, seat).join("   ");
+    if (occupied)
+      parts += FromCore(game.table.seats[seat].SeatName) + "   " + StatusLines(game, seat).join("   ");
     return parts.join("   ");
   }
   parts += BetAmountText(game, seat, bet);

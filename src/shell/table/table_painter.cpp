@@ -178,7 +178,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     for (int n = 0; n < 4; ++n) {
-      const int id = seat * kRailIds + kRailStackIds + game.table.VisibleStacks[seat][n];
+      const int id = seat * kRailIds + kRailStackIds + game.table.seats[seat].VisibleStacks[n];
       painter.setBrush(QColor::fromRgb(static_cast<QRgb>(id)));
       painter.drawEllipse(VisibleStackPlace(layout.Seats[seat], n), 7, 7);
     }
@@ -187,7 +187,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
 
 int MeantBet(const Game& game, int id) {
   const TableState& table = game.table;
-  const BetSet& up = table.SeatBets[table.SelectedSeat];
+  const BetSet& up = table.seats[table.SelectedSeat].SeatBets;
   if (IsDontComeOdds(id) && !up.Has(id - 6) && !up.Has(id)) return id - 6;
   if (id == kDontPass && up.Has(kDontPass) && table.Point != 0) return kDontPassOdds;
   // With both up each has its own area.
@@ -339,8 +339,8 @@ std::vector<Pile> CollectPiles(const TableScene& scene, const TableLayout& layou
   };
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
-    table.SeatBets[seat].ForEach([&](int bet) { add(seat, bet); });
-    for (const int stack : table.VisibleStacks[seat])
+    table.seats[seat].SeatBets.ForEach([&](int bet) { add(seat, bet); });
+    for (const int stack : table.seats[seat].VisibleStacks)
       if (table.BetAmount(seat, kFirstCheckStack + stack).raw != 0) add(seat, kFirstCheckStack + stack);
   }
   // From the back to the front, as they cover each other; what is held is in front of all.
@@ -355,7 +355,7 @@ std::vector<Pile> CollectPiles(const TableScene& scene, const TableLayout& layou
 // What a pile bears: its kind, and a call that differs from the table's normal state.
 QString PileMarker(const Game& game, int seat, int bet) {
   if (!IsTableBet(bet)) return game.table.BetAmount(seat, bet).raw < 0 ? "-" : QString();
-  const int working = WorkingValue(game.table.BetWorking[seat], bet);
+  const int working = WorkingValue(game.table.seats[seat].BetWorking, bet);
   if (working == 2) return "ON";
   if (working == -1) return "OFF";
   if (IsBuy(bet)) return "BUY";
@@ -456,7 +456,7 @@ void DrawNamePlate(QPainter& painter, const Game& game, const SeatPlace& place, 
   const double angle = ReadableAngle(along);
   const bool selected = game.table.SelectedSeat == seat;
   const bool shooter = game.table.ShooterSeat == seat;
-  const QString name = FromCore(game.table.SeatName[seat]);
+  const QString name = FromCore(game.table.seats[seat].SeatName);
   const QRectF plate(-44 * scale, -7 * scale, 88 * scale, 14 * scale);
   QTransform turn;
   turn.rotate(angle);
@@ -548,16 +548,16 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
 QStringList StatusLines(const Game& game, int seat) {
   const TableState& table = game.table;
   int bets = 0;
-  table.SeatBets[seat].ForEach([&](int) { ++bets; });
+  table.seats[seat].SeatBets.ForEach([&](int) { ++bets; });
   const Currency result = table.BankrollCurrent[seat] - game.stats.BankrollSessionStart[seat];
   const char* outcome = result.raw > 0 ? "Won:  " : result.raw < 0 ? "Lost:  " : "Even:  ";
   const auto amount = [](Currency value) {
     return QLocale(QLocale::English).toString(value.ToDouble(), 'f', 2);
   };
-  return {"Rail:  " + amount(table.BankrollCurrent[seat] - table.OnTableAmount[seat]),
+  return {"Rail:  " + amount(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount),
           "Bankroll:  " + amount(table.BankrollCurrent[seat]),
           (bets == 1 ? QString("1 Bet:  ") : QString::number(bets) + " Bets:  ") +
-              amount(table.OnTableAmount[seat]),
+              amount(table.seats[seat].OnTableAmount),
           outcome + amount(result)};
 }
 
@@ -754,7 +754,7 @@ void DrawStatusBoxes(QPainter& painter, const Game& game, const std::array<QRect
     const QRectF& box = boxes[seat];
     if (box.isEmpty() || !IsOccupied(game.table, seat)) continue;
     const bool selected = game.table.SelectedSeat == seat;
-    const QString name = FromCore(game.table.SeatName[seat]);
+    const QString name = FromCore(game.table.seats[seat].SeatName);
     const QStringList lines = StatusLines(game, seat);
     const QString script = ScriptText(game, seat);
     const QString key = QStringLiteral("status|%1|%2|%3|%4|%5")

@@ -139,8 +139,8 @@ void TableWidget::Refresh() {
   for (int seat = 1; seat <= kSeats; ++seat) {
     now.seats[seat] = IsOccupied(table, seat);
     if (!now.seats[seat]) continue;
-    std::copy_n(table.VisibleStacks[seat], 4, now.stacks[seat].begin());
-    PlaceVisibleStacks(layout_, seat, table.VisibleStacks[seat]);
+    std::copy_n(table.seats[seat].VisibleStacks, 4, now.stacks[seat].begin());
+    PlaceVisibleStacks(layout_, seat, table.seats[seat].VisibleStacks);
   }
   if (!(now == shown_)) mapStale_ = boxesStale_ = true;
   shown_ = now;
@@ -225,7 +225,7 @@ int TableWidget::StackAt(QPoint point) const {
   const double radius = kCheckUnits / 2 * view.Scale();
   int found = 0;
   double nearest = radius;
-  game_.table.SeatBets[seat].ForEach([&](int bet) {
+  game_.table.seats[seat].SeatBets.ForEach([&](int bet) {
     const QPointF way = view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))) - point;
     const double apart = std::hypot(way.x(), way.y());
     if (apart > nearest) return;

@@ -109,8 +109,8 @@ void TurboPanel::Begin(const Game& game) {
     const bool here = row < game.table.OccupiedSeats;
     seats_[row] = here ? game.table.Seated[row] : 0;
     firstBankroll_[seats_[row]] = game.table.BankrollCurrent[seats_[row]];
-    names_[row]->setText(names_[row]->fontMetrics().elidedText(FromCore(game.table.SeatName[seats_[row]]),
-                                                               Qt::ElideRight, nameWidth));
+    names_[row]->setText(names_[row]->fontMetrics().elidedText(
+        FromCore(game.table.seats[seats_[row]].SeatName), Qt::ElideRight, nameWidth));
     for (QLabel* label : {names_[row], bankrolls_[row], changes_[row]}) label->setVisible(here);
   }
   Refresh(game);
