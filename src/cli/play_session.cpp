@@ -8,6 +8,7 @@
 #include <iterator>
 
 #include "base/bet_catalogue.h"
+#include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
 #include "dice/generators.h"
@@ -502,6 +503,13 @@ bool Stats(Call& call) {
   return true;
 }
 
+bool Report(Call& call) {
+  ReportTable report;
+  if (!ReportOf(call.game, call.words, report, call.error)) return false;
+  call.answer.update(ReportJson(report));
+  return true;
+}
+
 bool Help(Call& call) {
   Json commands = Json::array();
   for (const PlayCommandInfo& info : PlayCommands())
@@ -550,6 +558,8 @@ constexpr Handler kHandlers[] = {
     {{"answer", "yes|no|ok|cancel|VALUE ...", "answers the next questions in advance"}, Answer},
     {{"state", "", "the table"}, State},
     {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},
+    {{"report", kReportArguments, "summary, hands, bet-results, bet-trends, roll-totals or roll-frequencies"},
+     Report},
     {{"help", "", "the commands"}, Help},
     {{"quit", "", "ends"}, Quit},
 };

@@ -18,6 +18,7 @@
 #include "base/bet_catalogue.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
+#include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
 #include "play/hot_keys.h"
@@ -230,6 +231,8 @@ std::vector<std::string> Candidates(const std::string& text, bool firstWord, con
     for (const PlayCommandInfo& info : PlayCommands()) words.emplace_back(info.name);
   } else if (command == "set" || command == "get") {
     for (const SettingName& setting : AllSettings()) words.push_back(setting.name);
+  } else if (command == "report") {
+    words = ReportWords();
   } else {
     for (int bet = 1; bet <= kBets; ++bet) words.emplace_back(FactsOf(bet).scriptName);
   }
@@ -309,8 +312,18 @@ void PrintAnswer(const std::string& command, const Json& answer) {
                 FormatMoney(WholePart(Currency::FromDouble(answer["rollsPerSecond"].get<double>()))).c_str());
 }
 
+// The same table as the answer has, laid out to be read; whether there is one.
+bool PrintReport(const Game& game, const std::vector<std::string>& words, const std::string& date) {
+  ReportTable report;
+  std::string error;
+  if (words[0] != "report" || !ReportOf(game, words, report, error)) return false;
+  std::printf("\n%s", ReportAsText(report, date).c_str());
+  return true;
+}
+
 bool ShowsTable(const std::string& command) {
-  for (const char* quiet : {"get", "set", "stats", "answer", "errors", "help", "quit", "rng", "seed"})
+  for (const char* quiet :
+       {"get", "set", "stats", "report", "answer", "errors", "help", "quit", "rng", "seed"})
     if (command == quiet) return false;
   return true;
 }
@@ -337,7 +350,8 @@ void CarryOut(PlaySession& session, TerminalHost& host, Game& game, ErrorTeller&
   host.ForgetSteps();
   if (words[0] == "hotkey") errors.ForgetHotKey();
   const Json answer = session.Do(line);
-  if (!PrintScriptCheck(game, words, answer)) PrintAnswer(words[0], answer);
+  if (!PrintScriptCheck(game, words, answer) && !PrintReport(game, words, host.DateText()))
+    PrintAnswer(words[0], answer);
   errors.TellNew(game);
   if (ShowsTable(words[0])) DrawTable(game);
 }

@@ -4,10 +4,12 @@
 #include <chrono>
 #include <cmath>
 #include <cstdio>
+#include <map>
 #include <memory>
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
 #include "cli/table_json.h"
@@ -25,6 +27,7 @@ using Clock = std::chrono::steady_clock;
 struct RunOptions {
   TableOptions table;
   std::int64_t rolls = 1'000'000;
+  std::vector<std::string> reports;
   bool json = false;
 };
 
@@ -152,6 +155,17 @@ int Refused(const std::string& reason) {
   return Fail(text);
 }
 
+// Over all sessions: a script may have begun some.
+std::map<std::string, ReportTable> ReportsOfRun(const Game& game, const std::vector<std::string>& names) {
+  std::map<std::string, ReportTable> reports;
+  ReportSelection selection;
+  selection.scope = kAllSessions;
+  selection.seats = kAllSeatsSelected;
+  selection.seat = game.table.SelectedSeat;
+  for (const std::string& name : names) reports[name] = MakeReport(game, *FindReport(name), selection);
+  return reports;
+}
+
 int Run(const RunOptions& options) {
   CliHost host;
   const std::unique_ptr<Game> game = SetUpTable(host, options.table);
@@ -178,11 +192,15 @@ int Run(const RunOptions& options) {
   if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
   Json run = RunJson(*game, figures);
   if (Json sessions = SessionsJson(*game); !sessions.empty()) run["sessions"] = std::move(sessions);
+  const auto reports = ReportsOfRun(*game, options.reports);
   if (const Json errors = ErrorsJson(*game); !errors.empty()) run["scriptErrors"] = errors;
+  for (const auto& [name, report] : reports) run["reports"][name] = ReportJson(report);
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
+  for (const auto& [name, report] : reports)
+    if (!options.json) std::printf("\n%s", ReportAsText(report, "").c_str());
   return written && EveryScriptCouldAct(*game) ? kDone : kBad;
 }
 
@@ -194,6 +212,10 @@ void AddRunCommand(CLI::App& program, int& exitCode) {
   AddTableOptions(*command, options->table);
   command->add_option("--rolls", options->rolls, "How many rolls (default 1,000,000)")
       ->check(CLI::Range(std::int64_t{0}, kMaxRolls));
+  std::vector<std::string> names;
+  for (const ReportKind& kind : ReportKinds()) names.emplace_back(kind.name);
+  command->add_option("--report", options->reports, "A report over all sessions as well (repeatable)")
+      ->check(CLI::IsMember(names));
   command->add_flag("--json", options->json, "Print one JSON object");
   command->footer(
       "Example:\n  tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --seed 7");

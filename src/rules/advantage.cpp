@@ -292,7 +292,7 @@ double Rounded(double value, double places) {
   return scaled == 0 ? 0 : scaled;  // no minus zero
 }
 
-Advantage Figures(const Game& game, const DiceOdds& odds, int bet) {
+Advantage Figures(const Game& game, const DiceOdds& odds, int bet, bool includeZeroOutcomes) {
   const Outcome outcome = OutcomeOf(game, odds, bet);
   Advantage result;
   if (!(outcome.rolls > 0)) return result;
@@ -301,7 +301,7 @@ Advantage Figures(const Game& game, const DiceOdds& odds, int bet) {
   double perDecision = outcome.mean;
   double rolls = outcome.rolls;
   double variance = outcome.square - outcome.mean * outcome.mean;
-  if (game.settings.IncludeZeroOutcomes) {
+  if (includeZeroOutcomes) {
     // Every roll counts as a decision; the deviation is still that of the rolls that decide.
     perDecision = perRoll;
     rolls = 1;
@@ -344,7 +344,11 @@ Advantage FigureAdvantage(const Game& game, int bet) {
 }
 
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice) {
-  return Figures(game, OddsInForce(game, usePercentageDice), bet);
+  return FigureAdvantage(game, bet, usePercentageDice, game.settings.IncludeZeroOutcomes);
+}
+
+Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes) {
+  return Figures(game, OddsInForce(game, usePercentageDice), bet, includeZeroOutcomes);
 }
 
 double EvPerHour(const Game& game, const Advantage& advantage, Currency amount) {
@@ -364,7 +368,7 @@ std::vector<AdvantageRow> AdvantageTable(const Game& game) {
   const DiceOdds odds = OddsInForce(game, game.percentage.PercentageDiceActive);
   std::vector<AdvantageRow> rows;
   const auto add = [&](int bet, const std::string& caption) {
-    rows.push_back({bet, caption, Figures(game, odds, bet)});
+    rows.push_back({bet, caption, Figures(game, odds, bet, game.settings.IncludeZeroOutcomes)});
   };
   for (const RowFamily& family : kRowFamilies)
     for (int i = 0; i < 6; ++i)

@@ -38,7 +38,8 @@ Comps FigureComps(const Game& game, int scope, int seat) {
     comps.expectedResult += wagered.ToDouble() * advantage.evPerDecision;
   });
   comps.rolls = PlayerRolls(game.stats, scope, seat);
-  if (comps.decisions > 0) {
+  // A table of 0 rolls per hour can come from a file; it plays no time.
+  if (comps.decisions > 0 && settings.SimRollRate.ToDouble() > 0) {
     const double hours = static_cast<double>(comps.rolls) / settings.SimRollRate.ToDouble();
     comps.averageAction =
         Currency::FromDouble(comps.totalAction.ToDouble() * hours / static_cast<double>(comps.decisions));

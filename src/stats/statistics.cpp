@@ -216,20 +216,20 @@ Currency BankrollOf(const Game& game, int scope, int seat) {
   return running ? game.table.BankrollCurrent[seat] : game.stats.BankrollClosing[Slot(scope, seat)];
 }
 
-std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll) {
-  if (statLastRoll == kZero) return -1;
+std::int64_t LatestRoll(const Statistics& stats, int scope) {
   const std::int64_t session = stats.RollTotals[Slot(kCurrentSession, 0)];
   const std::int64_t lastSession = stats.RollTotals[Slot(kLastSession, 0)];
-  std::int64_t base = session;
   if (scope == kLastHand) {
     const std::int64_t hands = stats.RollTotals[Slot(kLastHand, 0)] + stats.RollTotals[Slot(kCurrentHand, 0)];
-    if (hands > session) base = session + lastSession;
-  } else if (scope == kLastSession) {
-    base = session + lastSession;
-  } else if (scope == kAllSessions) {
-    base = stats.RollTotals[Slot(kAllSessions, 0)];
+    return hands > session ? session + lastSession : session;
   }
-  return base - statLastRoll.raw / Currency::kPerDollar;
+  if (scope == kLastSession) return session + lastSession;
+  return scope == kAllSessions ? std::int64_t{stats.RollTotals[Slot(kAllSessions, 0)]} : session;
+}
+
+std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll) {
+  if (statLastRoll == kZero) return -1;
+  return LatestRoll(stats, scope) - statLastRoll.raw / Currency::kPerDollar;
 }
 
 std::string RollItemName(int item) { return RollItemText(item); }

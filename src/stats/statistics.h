@@ -18,6 +18,8 @@ Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, 
 std::int64_t RollsSinceLast(const Statistics& stats, int item);
 // The bankroll by slot; the running scopes read the seat's own.
 Currency BankrollOf(const Game& game, int scope, int seat);
+// The latest roll as the StatLastRoll of a scope counts: rolls since last are taken from here.
+std::int64_t LatestRoll(const Statistics& stats, int scope);
 // Turns a StatLastRoll of a scope into rolls since then; -1 for never.
 std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);
 // The text of a roll item as selectors list it; empty for items that are never counted.

@@ -122,6 +122,23 @@ TEST(CliPlay, StatisticsTellBetsRollsAndHands) {
   EXPECT_EQ(answers[5]["bets"]["49"]["wins"]["count"], 0);
 }
 
+TEST(CliPlay, ReportsAreTablesOfLabelsAndTexts) {
+  const std::vector<Json> answers =
+      Answers({"join 1 Ann 1000", "bet 1 passline 10", "roll 3 4", "report summary",
+               "report summary seats=", "report bet-results bets=field,43 scope=4",
+               "report roll-totals group=21", "report bet-trends"});
+  const Json& summary = answers[3];
+  EXPECT_EQ(summary["report"], "summary");
+  EXPECT_EQ(summary["columns"], Json::array({"table", "players"}));
+  EXPECT_EQ(summary["rows"]["Total rolls"], Json::array({"1", "1"}));
+  EXPECT_EQ(summary["rows"]["Net % Total $"], Json::array({"100"}));
+  EXPECT_EQ(answers[4]["rows"]["Total rolls"], Json::array({"1", "0"}));
+  EXPECT_EQ(answers[4]["rows"]["Wins Total $"], Json::array({""}));
+  EXPECT_EQ(answers[5]["rows"]["Total $"], Json::array({"10", "10", "0", "10", "100"}));
+  EXPECT_EQ(answers[6]["rows"]["3.4"], Json::array({"1", "0", "100.00", "5.56"}));
+  EXPECT_EQ(answers[7]["rows"]["Pass Line"], Json::array({" 1"}));
+}
+
 TEST(CliPlay, CommandsThatMakeNoSenseSayWhatIsWrong) {
   const std::pair<const char*, const char*> commands[] = {
       {"dance", "unknown command \"dance\""},
@@ -163,6 +180,18 @@ TEST(CliPlay, CommandsThatMakeNoSenseSayWhatIsWrong) {
       {"stats 9 0", "\"9\" is no seat"},
       {"stats 0 5", "\"5\" is no scope"},
       {"stats 1 0 nothing", "is no bet"},
+      {"report", "a report is missing"},
+      {"report totals", "\"totals\" is no report"},
+      {"report hands scope=5", "\"5\" is no scope"},
+      {"report hands seats=9", "\"9\" is no seat"},
+      {"report hands seats=1,", "\"\" is no seat"},
+      {"report hands seats=2", "there is no player at seat 2"},
+      {"report bet-results bets=43,cs5", "\"cs5\" is no bet"},
+      {"report hands units=dollars", "\"dollars\" is no unit"},
+      {"report roll-totals group=12", "\"12\" is no group"},
+      {"report roll-totals probability=", "\"\" is no probability"},
+      {"report roll-frequencies item=90", "\"90\" is no roll item"},
+      {"report hands colour=red", "\"colour=red\": expected scope="},
       {"answer", "expected"},
   };
   std::vector<std::string> lines{"join 1 Ann 1000"};
