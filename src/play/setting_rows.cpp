@@ -24,7 +24,7 @@ template <auto member>
 using OwnerOf = typename MemberFacts<decltype(member)>::Owner;
 template <auto member>
 using FieldOf = typename MemberFacts<decltype(member)>::Field;
-// Of an array, that of an element: the values of the seats or of the rows.
+// Of an array, that of an element: the values of the rows.
 template <auto member>
 using ValueOf = std::remove_extent_t<FieldOf<member>>;
 
@@ -32,20 +32,20 @@ Settings& Home(Game& game, SeatId, std::type_identity<Settings>) { return game.s
 PayoffTables& Home(Game& game, SeatId, std::type_identity<PayoffTables>) { return game.payoffs; }
 Generators& Home(Game& game, SeatId, std::type_identity<Generators>) { return game.generators; }
 EventsLog& Home(Game& game, SeatId, std::type_identity<EventsLog>) { return game.events; }
-TableState& Home(Game& game, SeatId, std::type_identity<TableState>) { return game.table; }
+SeatState& Home(Game& game, SeatId seat, std::type_identity<SeatState>) {
+  return game.table.seats[seat.value];
+}
 Handling& Home(Game& game, SeatId seat, std::type_identity<Handling>) {
   return game.table.seats[seat.value].handling;
 }
 
 template <typename Owner>
-inline constexpr bool kOfSeats = std::same_as<Owner, Handling> || std::same_as<Owner, TableState>;
+inline constexpr bool kOfSeats = std::same_as<Owner, Handling> || std::same_as<Owner, SeatState>;
 
 template <auto member>
 ValueOf<member>& At(Game& game, SeatId seat, int row) {
   auto& field = Home(game, seat, std::type_identity<OwnerOf<member>>{}).*member;
-  if constexpr (std::same_as<OwnerOf<member>, TableState>)
-    return field[seat.value];
-  else if constexpr (std::is_array_v<FieldOf<member>>)
+  if constexpr (std::is_array_v<FieldOf<member>>)
     return field[row];
   else
     return field;
@@ -239,9 +239,9 @@ constexpr SettingRow kRows[] = {
     Flag<&Handling::AutoLayOdds>("full odds on Don't Pass and Don't Come"),
     Flag<&Handling::AutoDownPlace>("Place and Buy on a covered number come down"),
     Flag<&Handling::AutoPassDice>("the seat won't shoot"),
-    Flag<&TableState::AllowNegativeBankroll>("bets without money", {.effect = Effect::kNegativeAllowed}),
-    Number<&TableState::BankrollInitType>({0, 2}, "new session: 0 carry, 1 amount, 2 ask"),
-    Number<&TableState::BankrollInitAmount>(kBankrolls, "new session's bankroll"),
+    Flag<&SeatState::AllowNegativeBankroll>("bets without money", {.effect = Effect::kNegativeAllowed}),
+    Number<&SeatState::BankrollInitType>({0, 2}, "new session: 0 carry, 1 amount, 2 ask"),
+    Number<&SeatState::BankrollInitAmount>(kBankrolls, "new session's bankroll"),
     // In rows.
     InRows(
         Number<&Settings::CheckValue>(kAmounts, "check denominations, ascending", {.effect = Effect::kVig}),
@@ -253,9 +253,9 @@ constexpr SettingRow kRows[] = {
     InRows(Payoffs<&PayoffTables::SharpShooterPayoffs>("by points made + 1"), 1, kSharpShooterRows),
     InRows(Payoffs<&PayoffTables::RideTheLinePayoffs>("by line wins + 1"), 1, kRideTheLineRows),
     InRows(Payoffs<&PayoffTables::FirePayoffs>("by different points made"), 0, kFireRows),
-    BetFlags<&TableState::BetDefaultWorking>(Keeper::kPlayerAndHouse,
-                                             "works on the come-out; seat 0 the house",
-                                             {.effect = Effect::kHouseStandard}),
+    BetFlags<&SeatState::BetDefaultWorking>(Keeper::kPlayerAndHouse,
+                                            "works on the come-out; seat 0 the house",
+                                            {.effect = Effect::kHouseStandard}),
     BetFlags<&Settings::CompBetFlags>(Keeper::kTable, "counts towards comps"),
     InRows(Number<&Handling::AdjustKind>({0, 3}, "0 plus, 1 minus, 2 times, 3 divided by"), 4, 7),
     InRows(Number<&Handling::AdjustValue>({kZero, kStackLimit}, "the value of the slot"), 4, 7),
