@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The one list of what the project needs from the system, and its installation. Sourced by run.sh and
-# test.sh; installs only what is missing.
+# test.sh and .ci/run; installs only what is missing.
 set -euo pipefail
 
 PACKAGES=(
@@ -10,14 +10,18 @@ PACKAGES=(
   qt6-base-dev qt6-multimedia-dev libgl1-mesa-dri fonts-dejavu-core
   xvfb xdotool
 )
+STYLE_PACKAGES=(clang-format clang-tidy)  # for .ci/run alone
+
+# Beside PACKAGES those that it is given.
 
 install_missing_packages() {
+  local wanted=("${PACKAGES[@]}" "$@")
   if ! command -v dpkg-query >/dev/null; then
-    echo "This is no Debian-like system; please install the equivalents of: ${PACKAGES[*]}" >&2
+    echo "This is no Debian-like system; please install the equivalents of: ${wanted[*]}" >&2
     return 0
   fi
   local missing=()
-  for package in "${PACKAGES[@]}"; do
+  for package in "${wanted[@]}"; do
     dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
   done
   [ ${#missing[@]} -eq 0 ] && return 0

@@ -258,7 +258,7 @@ constexpr SettingRow kRows[] = {
                                             {.effect = Effect::kHouseStandard}),
     BetFlags<&Settings::CompBetFlags>(Keeper::kTable, "counts towards comps"),
     InRows(Number<&Handling::AdjustKind>({0, 3}, "0 plus, 1 minus, 2 times, 3 divided by"), 4, 7),
-    InRows(Number<&Handling::AdjustValue>({kZero, kStackLimit}, "the value of the slot"), 4, 7),
+    InRows(Number<&Handling::AdjustValue>({kZero, kStackLimit}, "the value of the slot", {.unit = ""}), 4, 7),
     InRows(Number<&Handling::AdjustUnit>({0, 6}, "0 dollars, 1 percent, 2 to 6 units of a check"), 4, 7),
 };
 

@@ -141,6 +141,27 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   return true;
 }
 
+// The place of the first that is refused; the size if all are put.
+std::size_t PutAll(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
+  std::size_t i = 0;
+  while (i < changes.size() && Put(game, changes[i], error)) ++i;
+  return i;
+}
+
+// The change from which on the settings don't hold together, of some that all can be put.
+std::size_t FirstThatBreaks(Game& game, const KeptSettings& before,
+                            const std::vector<SettingChange>& changes) {
+  RestoreSettings(game, before);
+  std::size_t first = changes.size();
+  std::string ignored;
+  for (std::size_t i = 0; i < changes.size() && Put(game, changes[i], ignored); ++i) {
+    const bool holds = SettingsHold(game, before, ignored);
+    if (holds) first = changes.size();
+    if (!holds && first == changes.size()) first = i;
+  }
+  return first;
+}
+
 // --- Values that came past all this.
 
 // What the settings must keep among themselves. Each leaves alone what is good.
@@ -160,28 +181,17 @@ void BringTogether(Game& game) {
 bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
   const KeptSettings before = KeepSettings(game);
   error.clear();
-  const bool put = std::all_of(changes.begin(), changes.end(),
-                               [&](const SettingChange& change) { return Put(game, change, error); });
-  if (put && CarryOutSettings(game, before, error)) return true;
+  if (PutAll(game, changes, error) == changes.size() && CarryOutSettings(game, before, error)) return true;
   RestoreSettings(game, before);
   return false;
 }
 
 std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
   const KeptSettings before = KeepSettings(game);
-  std::size_t problem = changes.size();
   error.clear();
-  for (std::size_t i = 0; i < changes.size(); ++i) {
-    if (!Put(game, changes[i], error)) {
-      problem = i;
-      break;
-    }
-    std::string broken;
-    const bool holds = SettingsHold(game, before, broken);
-    if (holds) problem = changes.size();
-    if (!holds && problem == changes.size()) problem = i;
-    error = holds ? "" : broken;
-  }
+  std::size_t problem = PutAll(game, changes, error);
+  if (problem == changes.size() && !SettingsHold(game, before, error))
+    problem = FirstThatBreaks(game, before, changes);
   RestoreSettings(game, before);
   return problem;
 }

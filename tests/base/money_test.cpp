@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <random>
+#include <type_traits>
+
+#include "base/table_types.h"
 
 namespace tessaryn {
 namespace {
@@ -74,6 +77,13 @@ TEST(Money, AmountKeysStopAtTheLimits) {
   EXPECT_FALSE(FilterAmountKey("1", 'x', 2, true));
   EXPECT_TRUE(FilterAmountKey("1.25", '\b', 2, true));
 }
+
+// Mixing these up doesn't compile.
+static_assert(!std::is_constructible_v<BetId, SeatId> && !std::is_constructible_v<SeatId, RollNumber>);
+static_assert(!std::is_convertible_v<int, SeatId> && !std::is_convertible_v<SeatId, int>);
+static_assert(!std::is_convertible_v<Currency, Seconds> && !std::is_convertible_v<Percent, Fraction>);
+static_assert(!std::is_constructible_v<Limits<Seconds>, int, int>);
+static_assert(sizeof(SeatId) == sizeof(int) && sizeof(Seconds) == sizeof(Currency));
 
 }  // namespace
 }  // namespace tessaryn

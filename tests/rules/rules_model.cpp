@@ -1,13 +1,14 @@
 #include "rules_model.h"
-#include "rules/payoffs.h"
-#include "stats/statistics.h"
-#include "rules/shooter.h"
-#include "play/players.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <numeric>
 #include <sstream>
+
+#include "play/players.h"
+#include "rules/payoffs.h"
+#include "rules/shooter.h"
+#include "stats/statistics.h"
 
 namespace tessaryn::model {
 
