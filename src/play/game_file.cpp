@@ -513,8 +513,9 @@ bool SaveDefaultGame(Game& game, std::string& error) {
 }
 
 bool AutosaveGame(Game& game, std::string& error) {
+  error = game.table.RollInProgress ? "A roll is under way." : "";
+  if (!error.empty()) return false;
   FlushTableFiles(game);
-  error.clear();
   std::string probabilities = Exists(game.percentage.ProbFileName) ? game.percentage.ProbFileName : "";
   if (game.percentage.ProbDirty) {
     PercentageDice copy = game.percentage;

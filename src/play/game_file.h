@@ -64,7 +64,8 @@ bool OpenFirstGame(Game& game, std::string_view argument);
 bool SaveDefaultGame(Game& game, std::string& error);
 
 // Every few minutes of play, and before a long run. Doesn't touch what the table belongs to, nor whether its
-// probabilities are unsaved. Failure is silent but for the result: play goes on.
+// probabilities are unsaved. Failure is silent but for the result: play goes on. In the middle of a roll it
+// fails.
 bool AutosaveGame(Game& game, std::string& error);
 inline constexpr int kAutosaveMinutes = 3;
 // An autosave of a program that came to no orderly end is there.

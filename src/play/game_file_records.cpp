@@ -141,7 +141,7 @@ class RecordsIn {
 
   template <typename T>
   void Long(T& value) {
-    if (!FromWhole(GetInt32(Here(), Step(4)), value)) failed_ = true;
+    if (!FromWhole(Take(GetInt32, 4), value)) failed_ = true;
   }
   template <typename T>
   void View(T& value) {
@@ -149,15 +149,15 @@ class RecordsIn {
   }
   template <typename T>
   void Money(T& value) {
-    if (!FromMoney(GetInt64(Here(), Step(8)), value)) failed_ = true;
+    if (!FromMoney(Take(GetInt64, 8), value)) failed_ = true;
   }
   template <typename T>
   void Short(T& value) {
-    if (!FromWhole(GetInt16(Here(), Step(2)), value)) failed_ = true;
+    if (!FromWhole(Take(GetInt16, 2), value)) failed_ = true;
   }
-  void ToldLong(std::int64_t) { Here(), Step(4); }
-  void ToldMoney(Currency) { Here(), Step(8); }
-  void ToldShort(int) { Here(), Step(2); }
+  void ToldLong(std::int64_t) { Take(GetInt32, 4); }
+  void ToldMoney(Currency) { Take(GetInt64, 8); }
+  void ToldShort(int) { Take(GetInt16, 2); }
   void LongsTo(std::size_t place) { at_ = place * 4; }
   void MoneyTo(std::size_t place) { at_ = place * 8; }
   void EndLongs() { End(); }
@@ -191,12 +191,13 @@ class RecordsIn {
     failed_ = true;
     return kNothing;
   }
-  // The offset to read at; what stands behind it is next, in the next record when this one is used up.
-  std::size_t Step(std::size_t bytes) {
-    const std::size_t at = at_;
+  // One value; what stands behind it is next, in the next record when this one is used up.
+  template <typename Value>
+  Value Take(Value (*get)(const Record&, std::size_t), std::size_t bytes) {
+    const Value value = get(Here(), at_);
     at_ += bytes;
     if (at_ >= kRecordBytes) Next();
-    return at;
+    return value;
   }
   void Next() {
     ++record_;

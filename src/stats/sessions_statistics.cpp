@@ -39,6 +39,7 @@ SessionsGoOn Behind(const SessionsGoOn& goOn, std::int64_t before) {
 // The mean of two, without their sum.
 Currency Between(Currency a, Currency b) {
   const Currency sum = a + b;
+  if (a == b) return a;
   if (!sum.IsError()) return Divide(sum, Currency::Dollars(2));
   return Currency::FromRaw(a.raw / 2 + b.raw / 2);
 }

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QDir>
 #include <QDropEvent>
 #include <QFileInfo>
 #include <QMenu>
@@ -161,8 +160,8 @@ TEST(Closing, ADefaultThatCantBeWrittenIsToldAndCanBeRefused) {
   const QTemporaryDir folder;
   Visit run(folder);
   run.Join(3, "Ann");
-  // A folder of the name stands where the game should go.
-  ASSERT_TRUE(QDir(folder.path()).mkpath("default.crp/x"));
+  // A name that has no room in the file.
+  run.game->autobet.Scripts[3].ScriptFileName = "/" + std::string(300, 'x') + ".bet";
   EXPECT_FALSE(run.Close({kNo}));
   EXPECT_EQ(run.game->table.seats[3].SeatName, "Ann");
   EXPECT_TRUE(run.Close({kYes}));
@@ -309,7 +308,7 @@ TEST(Starting, WindowsViewsAndChoicesReturn) {
     Visit run(folder);
     MainWindow& window = *run.window;
     EXPECT_LE(window.width(), 1280);
-    window.move(31, 47);
+    window.move(11, 27);
     window.resize(780, 555);
     QTest::mouseClick(window.findChild<QWidget*>("picCheck4"), Qt::LeftButton);
     for (const char* command : {"mnuKeyInBetAmounts", "mnuDisplayBetAmounts", "mnuSound", "mnuZoomIn"})
@@ -325,7 +324,7 @@ TEST(Starting, WindowsViewsAndChoicesReturn) {
   }
   Visit next(folder);
   MainWindow& window = *next.window;
-  EXPECT_EQ(window.pos(), QPoint(31, 47));
+  EXPECT_EQ(window.pos(), QPoint(11, 27));
   EXPECT_EQ(window.size(), QSize(780, 555));
   EXPECT_EQ(window.Commands().ClickAmount, Currency::Dollars(100));
   EXPECT_EQ(window.Commands().BetAmountMode, kKeyInAmounts);
@@ -353,7 +352,8 @@ TEST(Starting, APlaceOffTheScreenIsNotKept) {
   Visit next(folder);
   const QRect screen = next.window->screen()->availableGeometry();
   EXPECT_TRUE(screen.contains(next.window->geometry()));
-  EXPECT_TRUE(screen.contains(next.window->findChild<QWidget*>("frmMove")->geometry()));
+  const QRect panel = next.window->findChild<QWidget*>("frmMove")->geometry();
+  EXPECT_TRUE(screen.contains(panel)) << panel.x() << "," << panel.y() << " of " << panel.width();
   next.window->CloseUnasked();
 }
 
@@ -422,7 +422,6 @@ TEST(GameMenu, AFileDroppedOnTheWindowIsOpened) {
   std::string error;
   run.Join(5, "Eve");
   ASSERT_TRUE(SaveGame(*run.game, folder.filePath("eve.crp").toStdString(), error)) << error;
-  std::string gone;
   LeaveTable(*run.game, 5);
   QMimeData files;
   files.setUrls({QUrl::fromLocalFile(folder.filePath("eve.crp"))});

@@ -17,6 +17,7 @@
 #include "shell/frame/sounds.h"
 #include "shell/frame/start_up.h"
 #include "shell/screens/about.h"
+#include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -63,6 +64,7 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
     std::fprintf(stderr, "tessaryn: %s\n", error.c_str());
     return 1;
   }
+  QApplication::setWindowIcon(ProgramIcon());
   AboutSplash splash;
   splash.show();
   ShellHost host;
