@@ -15,6 +15,7 @@
 #include <system_error>
 
 #include "base/interrupts.h"
+#include "base/messages.h"
 
 namespace tessaryn {
 namespace {
@@ -327,8 +328,8 @@ std::string TextProblem(std::string_view name) {
 }
 
 std::string FileErrorText(std::string_view action, std::string_view path, int number) {
-  return "Unable to " + std::string(action) + " " + std::string(path) + ": " +
-         std::system_category().message(number) + ".";
+  return MessageText<Msg::kFileFault>(With<"action">(action), With<"path">(path),
+                                      With<"reason">(std::system_category().message(number)));
 }
 
 std::string ResolvePath(std::string_view path, std::string_view folder) {

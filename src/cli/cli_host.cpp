@@ -4,6 +4,7 @@
 #include <ctime>
 #include <thread>
 
+#include "base/messages.h"
 #include "cli/script_report.h"
 #include "play/auto_roll.h"
 #include "state/run_stop.h"
@@ -22,7 +23,7 @@ void SafeAnswer(MessageBox& box) {
 // The reason of a run that stopped is told by whoever asked for the run.
 void CliHost::ShowMessage(Game&, MessageBox& box) {
   SafeAnswer(box);
-  if (box.MsgTitle == kRunStoppedTitle) return;
+  if (box.MsgId == Msg::kRunStopped) return;
   std::fprintf(stderr, "%s: %s\n", box.MsgTitle.c_str(), AsLines(box.MsgText).c_str());
 }
 

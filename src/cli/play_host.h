@@ -12,6 +12,7 @@ class PlayHost : public CliHost {
   // The command in hand is itself the wish to have this asked done: the next yes/no box without contract
   // money is answered with yes.
   bool confirmNext = false;
+  bool MayConfirm(const MessageBox& box) const;
   // A step of a script, while they are shown: as a line of JSON.
   virtual void TellStep(Game& game, const ScriptStep& shown);
 };

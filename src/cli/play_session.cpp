@@ -9,6 +9,7 @@
 
 #include "base/bet_catalogue.h"
 #include "cli/report_command.h"
+#include "base/messages.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
 #include "dice/generators.h"
@@ -50,6 +51,10 @@ std::vector<std::string> SplitWords(const std::string& line) {
   return words;
 }
 
+bool PlayHost::MayConfirm(const MessageBox& box) const {
+  return confirmNext && box.MsgId != Msg::kAskAbandon;
+}
+
 void PlayHost::TellStep(Game&, const ScriptStep& shown) {
   Json object{{"seat", shown.seat}, {"line", shown.line}, {"text", shown.text}};
   if (shown.error != 0) object["error"] = shown.error;
@@ -63,11 +68,8 @@ void PipeHost::ShowMessage(Game&, MessageBox& box) {
   std::fflush(stdout);
   const bool question = (box.MsgFlags & (kMsgYes | kMsgNo | kMsgCancel | kMsgInput)) != 0;
   if (question && answers.Answer(box)) return;
-  if (question && confirmNext && box.MsgText.find("Total to be abandoned") == std::string::npos) {
-    box.MsgResult = kResultYes;
-    return;
-  }
   SafeAnswer(box);
+  if (question && MayConfirm(box)) box.MsgResult = kResultYes;
 }
 
 SettleAnswer PipeHost::AskSettlement(Game& game, const SettleQuestion& question) {
@@ -306,7 +308,7 @@ bool Rng(Call& call) {
   int number = 0;
   if (!WantWords(call, 2, 2, "rng 1-8")) return false;
   if (!ReadInt(call.words[1], number) || !SelectGenerator(call.game, number))
-    return call.Bad(kGeneratorOutOfLimitsText);
+    return call.Bad(MessageText<Msg::kNoSuchGenerator>());
   call.answer["rng"] = call.game.generators.GeneratorIndex + 1;
   return true;
 }
@@ -405,7 +407,7 @@ bool LoadProbabilities(Call& call) {
   if (call.words.size() == 2 && call.words[1] == "off") return ActivatePercentageDice(dice, false);
   const std::string path = Joined(call.words, 1, call.words.size());
   if (!OpenProbabilityFile(dice, path, "", call.error)) return false;
-  return ActivatePercentageDice(dice, true) || call.Bad(kNothingToRollText);
+  return ActivatePercentageDice(dice, true) || call.Bad(MessageText<Msg::kNothingToRoll>());
 }
 
 bool UseRollFile(Call& call) {
@@ -419,13 +421,13 @@ bool UseRollFile(Call& call) {
   if (mode != "play" && mode != "record" && mode != "off")
     return call.Bad("\"" + mode + "\" is neither play, record nor off");
   const std::string path = Joined(call.words, 1, call.words.size() - 1);
-  if (mode == "play" && access(path.c_str(), R_OK) != 0) return call.Bad(path + ": File not found");
+  if (mode == "play" && access(path.c_str(), R_OK) != 0)
+    return call.Bad(MessageText<Msg::kNamedFileNotFound>(With<"path">(path)));
   std::string problem = OpenRollFile(file, path);
   const int state = mode == "play" ? kRecorderPlayback : mode == "record" ? kRecorderRecord : kRecorderOff;
   if (problem.empty()) problem = SetRecorderState(file, state);
   if (!problem.empty()) return call.Bad(problem);
-  if (mode == "play" && call.game.events.RecordEventsActive)
-    WriteEventsLogLine(call.game, PlaybackLogLine(file));
+  if (mode == "play") LogPlayback(call.game);
   call.answer["rolls"] = RollFileLength(file);
   return true;
 }

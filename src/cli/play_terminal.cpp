@@ -16,6 +16,7 @@
 #include "autobet/language/script_text.h"
 #include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
+#include "base/messages.h"
 #include "cli/commands.h"
 #include "cli/play_session.h"
 #include "cli/report_command.h"
@@ -79,7 +80,7 @@ class TerminalHost : public PlayHost {
  public:
   void ShowMessage(Game& game, MessageBox& box) override {
     std::printf("\n-- %s --\n%s\n", box.MsgTitle.c_str(), WithNewlines(box.MsgText).c_str());
-    TellBadScripts(game, box.MsgTitle);
+    TellBadScripts(game, box.MsgId);
     const bool yesNo = (box.MsgFlags & kMsgYes) != 0;
     const bool input = (box.MsgFlags & kMsgInput) != 0;
     if (!yesNo && !input) {
@@ -87,7 +88,7 @@ class TerminalHost : public PlayHost {
       return;
     }
     if (answers.Answer(box)) return;
-    if (yesNo && confirmNext && box.MsgText.find("Total to be abandoned") == std::string::npos) {
+    if (yesNo && MayConfirm(box)) {
       box.MsgResult = kResultYes;
       return;
     }
@@ -133,9 +134,9 @@ class TerminalHost : public PlayHost {
 
  private:
   // The window has a button that shows the error; here it is told at once.
-  static void TellBadScripts(const Game& game, const std::string& title) {
-    if (title == kHotKeyErrorTitle) TellCheck(game, 0, false);
-    for (int seat = 1; seat <= kSeats && title == kScriptErrorTitle; ++seat)
+  static void TellBadScripts(const Game& game, Msg told) {
+    if (told == Msg::kHotKeyBad) TellCheck(game, 0, false);
+    for (int seat = 1; seat <= kSeats && told == Msg::kScriptBad; ++seat)
       if (game.autobet.ScriptActive[seat]) TellCheck(game, seat, false);
   }
   static void AskYesNo(MessageBox& box) {

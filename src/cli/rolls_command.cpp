@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "base/folder_lock.h"
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
@@ -119,7 +120,8 @@ bool SelectPart(Workbench& bench, const Operation& operation) {
 
 // What both exports begin with: the rolls to be written, and a place for them.
 std::string PrepareExport(Workbench& bench, const Operation& operation) {
-  if (IsSamePlace(operation.value, bench.path)) return CopyToOpenFileText(operation.name);
+  if (IsSamePlace(operation.value, bench.path))
+    return MessageText<Msg::kCopyToOpenFile>(With<"command">(operation.name));
   bench.copies.emplace_back();
   if (!bench.selection.empty()) return Select(bench.file, bench.selection);
   SelectAllRolls(bench.file);
@@ -149,7 +151,8 @@ bool ImportText(Workbench& bench, const Operation& operation) {
   return bench.Done(operation, PasteFromTextFile(bench.file, path, bench.folder));
 }
 bool ImportRolls(Workbench& bench, const Operation& operation) {
-  if (IsSamePlace(operation.value, bench.path)) return bench.Done(operation, CopyToOpenFileText("--import"));
+  if (IsSamePlace(operation.value, bench.path))
+    return bench.Done(operation, MessageText<Msg::kCopyToOpenFile>(With<"command">("--import")));
   SetRollFileCursor(bench.file, RollFileLength(bench.file) + std::int64_t{1});
   return bench.Done(operation, PasteFromRollFile(bench.file, ImportPath(bench, operation.value)));
 }

@@ -7,6 +7,7 @@
 #include <charconv>
 #include <cstdio>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
 #include "cli/script_permissions.h"
@@ -184,17 +185,18 @@ bool LoadDice(Game& game, const TableOptions& options) {
   if (!OpenProbabilityFile(game.percentage, options.probabilities, "", error))
     return Told("--probabilities " + options.probabilities + ": " + error);
   return ActivatePercentageDice(game.percentage, true) ||
-         Told(std::string("--probabilities: ") + kNothingToRollText);
+         Told("--probabilities: " + MessageText<Msg::kNothingToRoll>());
 }
 
 bool PlayRollFile(Game& game, const TableOptions& options) {
   const std::string& path = options.rollFile;
   if (path.empty()) return true;
-  if (access(path.c_str(), R_OK) != 0) return Told("--roll-file " + path + ": File not found");
+  if (access(path.c_str(), R_OK) != 0)
+    return Told("--roll-file " + MessageText<Msg::kNamedFileNotFound>(With<"path">(path)));
   std::string problem = OpenRollFile(game.rollFile, path);
   if (problem.empty()) problem = SetRecorderState(game.rollFile, kRecorderPlayback);
   if (!problem.empty()) return Told("--roll-file " + path + ": " + problem);
-  if (game.events.RecordEventsActive) WriteEventsLogLine(game, PlaybackLogLine(game.rollFile));
+  LogPlayback(game);
   return true;
 }
 

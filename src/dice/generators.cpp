@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+#include "base/messages.h"
+
 namespace tessaryn {
 namespace {
 
@@ -135,7 +137,7 @@ float Ran1(Generators& generators, std::int32_t idum) {
   Step(state.ix3, 4561, 51349, kRan1Modulus3);
   state.j = ChosenSlot(state.ix3, kRan1Modulus3);
   if (state.j < 1 || state.j > 97) {
-    generators.LastErrorText = "An error occurred in function Ran1\r";
+    generators.LastErrorText = MessageText<Msg::kGeneratorFault>(With<"function">("Ran1"));
     return 0;
   }
   const float result = state.r[state.j];
@@ -148,7 +150,7 @@ float Ran2(Generators& generators, std::int32_t idum) {
   if (idum < 0 || !state.Initialised) SeedRan2(state, idum);
   state.j = ChosenSlot(state.iy, kRan2Modulus);
   if (state.j < 1 || state.j > 97) {
-    generators.LastErrorText = "An error occurred in function Ran2\r";
+    generators.LastErrorText = MessageText<Msg::kGeneratorFault>(With<"function">("Ran2"));
     return 0;
   }
   state.iy = state.ir[state.j];
@@ -300,40 +302,6 @@ int RndPick(Generators& generators, int n) { return static_cast<int>(Rnd(generat
 
 void RandomizeRnd(Generators& generators, std::uint32_t tick) {
   generators.RndState = tick * 0xd1342543de82ef95u + 1;
-}
-
-std::string SeedPrompt(std::int32_t limit) {
-  return "\rPlease enter a whole number between 1 and " + FormatMoney(Currency::Dollars(limit)) +
-         " to seed the random number generator:";
-}
-
-std::string SeedOutOfLimitsPrompt(std::int32_t limit) {
-  return "Your seed value is out of limits.\r\rPlease enter a value between 1 and " +
-         FormatMoney(Currency::Dollars(limit)) + " to seed the random number generator:";
-}
-
-std::string SeedLogLine(const Generators& generators) {
-  return "    RNG #" + std::to_string(generators.GeneratorIndex + 1) +
-         " seeded: " + std::to_string(generators.RngLastSeed);
-}
-
-std::string MissingSupportFileText(int missingGeneratorFiles) {
-  std::string text;
-  if ((missingGeneratorFiles & kMissingMersenne) != 0)
-    text +=
-        "Unable to locate a support file called MT19937AR.DLL\r"
-        "This file is needed to operate random number generators #1, #6, and #8.\r\r";
-  if ((missingGeneratorFiles & kMissingCokus) != 0)
-    text +=
-        "Unable to locate a support file called COKUS.DLL\r"
-        "This file is needed to operate random number generators #2 and #7.\r\r";
-  if (text.empty()) return text;
-  return text +
-         "Don't worry, you can still play the game with one of the remaining random number generators.  "
-         "\r\r"
-         "The main program file seems to have been moved out of the folder it was installed in. An isolated "
-         "main file can't reach its other support files either, such as sounds. Please return it to its "
-         "folder with all the other files, or run the installation again.";
 }
 
 }  // namespace tessaryn

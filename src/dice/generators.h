@@ -72,17 +72,4 @@ double Rnd(Generators& generators);
 int RndPick(Generators& generators, int n);
 void RandomizeRnd(Generators& generators, std::uint32_t tick);
 
-// The texts of seeding. Line ends are "\r".
-inline constexpr const char* kSeedTitle = "RNG Seed";
-inline constexpr const char* kSeededTitle = "RNG Seeded";
-inline constexpr const char* kSeededText = "The random number generator has now been seeded.";
-inline constexpr const char* kGeneratorOutOfLimitsText = "Reference to RNG out of limits.";
-std::string SeedPrompt(std::int32_t limit);
-std::string SeedOutOfLimitsPrompt(std::int32_t limit);
-std::string SeedLogLine(const Generators& generators);
-
-// The one box about missing libraries; empty if none is missing.
-inline constexpr const char* kMissingSupportFileTitle = "Missing Support File";
-std::string MissingSupportFileText(int missingGeneratorFiles);
-
 }  // namespace tessaryn

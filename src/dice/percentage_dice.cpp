@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "base/roll_items.h"
 #include "dice/generators.h"
@@ -617,17 +618,17 @@ bool OpenProbabilityFile(PercentageDice& dice, const std::string& path, const st
   std::string content;
   bool tooLong = false;
   error = ReadWholeFile(fullPath, content, kProbabilityFileRecords * kRecordBytes, &tooLong);
-  if (tooLong) error = kNotAProbabilityFileText;
+  if (tooLong) error = MessageText<Msg::kNotAProbabilityFile>();
   if (!error.empty()) return false;
   RecordFile file;
   ProbabilityCells cells{};
   if (!SplitRecords(content, file) || !ReadCells(file, cells)) {
-    error = kNotAProbabilityFileText;
+    error = MessageText<Msg::kNotAProbabilityFile>();
     return false;
   }
   // A true file, but dice in force must not be given up for dice that can't be rolled.
   if (!HasSomethingToRoll(cells)) {
-    error = kNothingToRollText;
+    error = MessageText<Msg::kNothingToRoll>();
     return false;
   }
   dice.ProbMatrix = cells;

@@ -32,7 +32,8 @@ inline constexpr const char* kProbabilityDisplayCaptions[4] = {
 // To be called when ProbMatrix was changed by anything but the procedures below.
 inline void ProbabilitiesChanged(PercentageDice& dice) { dice.DrawTable.Ready = false; }
 
-// Turns percentage dice on or off. False, and off, if every combination is 0: then kNothingToRollText.
+// Turns percentage dice on or off. False, and off, if every combination is 0: then Msg::kNothingToRoll tells
+// why.
 bool ActivatePercentageDice(PercentageDice& dice, bool active);
 
 // The dice for a draw of 1 or more. A draw above the sum of all combinations takes a new number from the
@@ -80,22 +81,11 @@ float ProbabilityOfEvent(const PercentageDice& dice, int eventId, bool usePercen
 // file that was there is whole.
 bool SaveProbabilityFile(PercentageDice& dice, const std::string& path, std::string& error);
 // Opens a file; a plain name is looked for in the folder. On failure dice is unchanged and error is
-// kNotAProbabilityFileText, kNothingToRollText, or the system's reason with the file's name.
+// Msg::kNotAProbabilityFile, Msg::kNothingToRoll, or the system's reason with the file's name.
 bool OpenProbabilityFile(PercentageDice& dice, const std::string& path, const std::string& folder,
                          std::string& error);
 
 inline constexpr const char* kProbabilityMagic = "Tessaryn Probability File, Data Format 4.6";
 inline constexpr const char* kDefaultProbabilityFile = "default.prb";
-
-inline constexpr const char* kSaveProbabilitiesTitle = "Save Probabilities?";
-inline constexpr const char* kSaveProbabilitiesText =
-    "These numbers have not been saved.\rDo you want to save them now?";
-inline constexpr const char* kUnableToOpenProbabilityTitle = "Unable to Open Probability File";
-inline constexpr const char* kNotAProbabilityFileText =
-    "This file is either from an older version, has been corrupted, or is not a true Tessaryn Probability "
-    "File.";
-inline constexpr const char* kNothingToRollTitle = "Percentage Dice";
-inline constexpr const char* kNothingToRollText =
-    "Percentage dice can't be activated because every combination of the dice has a probability of 0.";
 
 }  // namespace tessaryn

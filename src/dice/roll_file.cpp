@@ -10,6 +10,7 @@
 #include <cstring>
 
 #include "base/interrupts.h"
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
@@ -71,7 +72,7 @@ std::string OpenSource(Source& source, const std::string& path) {
   if (source.Descriptor < 0) return FileErrorText("open", path, errno);
   struct stat status {};
   if (fstat(source.Descriptor, &status) != 0) return FileErrorText("open", path, errno);
-  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  if (!S_ISREG(status.st_mode)) return MessageText<Msg::kNotAFile>(With<"path">(path));
   source.Length = status.st_size;
   return {};
 }
@@ -84,8 +85,8 @@ bool IsOpenFile(const RollFile& file, const std::string& path) {
 }
 
 std::string TooLongText(const std::string& path) {
-  return "Unable to use " + path + ": a dice roll file can't hold more than " +
-         FormatMoney(Currency::Dollars(kRollFileMaximum)) + " rolls.";
+  return MessageText<Msg::kRollFileTooLong>(With<"path">(path),
+                                            With<"limit">(Currency::Dollars(kRollFileMaximum)));
 }
 
 std::string FileError(const RollFile& file, std::string_view action) {
@@ -99,7 +100,7 @@ void SetCursor(RollFile& file, std::int64_t position) {
 
 // What every command on the open file starts with: nothing pending, the length as it is on the disk.
 std::string Prepare(RollFile& file) {
-  if (!IsRollFileOpen(file)) return kNoRollFileOpen;
+  if (!IsRollFileOpen(file)) return MessageText<Msg::kRollFileClosed>();
   return FlushRollFile(file) ? std::string() : file.LastErrorText;
 }
 
@@ -133,7 +134,7 @@ std::string BecomeWriter(RollFile& file) {
   RollFileChannel& channel = file.Channel;
   while (!channel.IsWriter) {
     if (flock(channel.Descriptor, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
-      return "Unable to write " + file.RollFileName + ": another program is writing to it.";
+      return MessageText<Msg::kFileInUse>(With<"path">(file.RollFileName));
     channel.IsWriter = IsOpenFile(file, file.RollFileName);
     if (channel.IsWriter) break;
     if (std::string error = OpenAgain(file); !error.empty()) return error;
@@ -358,11 +359,11 @@ std::string CheckBeforeOpening(const std::string& path, bool& exists) {
   struct stat status {};
   exists = stat(path.c_str(), &status) == 0;
   if (!exists) return errno == ENOENT ? std::string() : FileErrorText("open", path, errno);
-  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  if (!S_ISREG(status.st_mode)) return MessageText<Msg::kNotAFile>(With<"path">(path));
   if (status.st_size > kRollFileMaximum) return TooLongText(path);
   bool valid = false;
   std::string error = CheckRollFile(path, valid);
-  if (error.empty() && !valid) return NotARollFileText(path);
+  if (error.empty() && !valid) return MessageText<Msg::kNotARollFile>(With<"path">(path));
   return error;
 }
 
@@ -459,13 +460,12 @@ bool FlushRollFile(RollFile& file) {
     return true;
   }
   if (!IsOpenFile(file, file.RollFileName)) {
-    file.LastErrorText =
-        "Unable to write " + file.RollFileName + ": another program has removed or replaced it.";
+    file.LastErrorText = MessageText<Msg::kFileReplaced>(With<"path">(file.RollFileName));
     return false;
   }
   // Rolls behind the end of a file that somebody shortened would stand behind a hole of no rolls.
   if (status.st_size < channel.WindowStart) {
-    file.LastErrorText = "Unable to write " + file.RollFileName + ": another program has shortened it.";
+    file.LastErrorText = MessageText<Msg::kFileShortened>(With<"path">(file.RollFileName));
     return false;
   }
   const auto count = static_cast<std::size_t>(channel.WindowUsed);
@@ -487,7 +487,7 @@ bool FlushRollFile(RollFile& file) {
 // ---- The recorder ------------------------------------------------------------------------------------
 
 std::string SetRecorderState(RollFile& file, int state) {
-  if (state != kRecorderOff && !IsRollFileOpen(file)) return kNoRollFileOpen;
+  if (state != kRecorderOff && !IsRollFileOpen(file)) return MessageText<Msg::kRollFileClosed>();
   std::string error;
   if (IsRollFileOpen(file)) error = state == kRecorderRecord ? PrepareToWrite(file) : Prepare(file);
   if (!error.empty()) return error;
@@ -535,7 +535,7 @@ bool RecordRollToFile(RollFile& file, int die1, int die2) {
   if (error.empty() && offset > kRollFileMaximum - static_cast<std::int64_t>(kRollWindowBytes))
     error = TooLongText(file.RollFileName);
   if (error.empty() && (offset < 0 || offset > channel.Length))
-    error = "Unable to write " + file.RollFileName + ": the next roll is behind the end of the file.";
+    error = MessageText<Msg::kRollBehindEnd>(With<"path">(file.RollFileName));
   if (!error.empty()) {
     FailRecording(file, std::move(error));
     return false;
@@ -615,8 +615,8 @@ std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32
   const std::int64_t offset = position - std::int64_t{1};
   const std::int64_t end = offset + count;
   if (offset < 0 || offset > channel.Length || count < 0 || end > kRollFileMaximum || count > source.Length)
-    return "Unable to paste " + std::to_string(count) + " rolls from " + sourcePath + " at roll " +
-           std::to_string(position) + " of " + file.RollFileName + ".";
+    return MessageText<Msg::kRollsNotPasted>(With<"count">(count), With<"source">(sourcePath),
+                                             With<"roll">(position), With<"path">(file.RollFileName));
   return Splice(file, offset, std::min(end, std::int64_t{channel.Length}) - offset,
                 {count, 0, &source, sourcePath});
 }
@@ -655,7 +655,7 @@ std::string CutRolls(RollFile& file, const std::string& workFolder) {
 std::string PasteCopiedRolls(RollFile& file, const std::string& workFolder) {
   std::string error = PrepareToWrite(file);
   const std::string path = InFolder(workFolder, kRollCopyFile);
-  if (error.empty() && access(path.c_str(), F_OK) != 0) return kNothingCopied;
+  if (error.empty() && access(path.c_str(), F_OK) != 0) return MessageText<Msg::kNothingCopied>();
   Source source;
   if (error.empty()) error = OpenSource(source, path);
   return error.empty() ? InsertSource(file, source, path) : error;
@@ -664,13 +664,14 @@ std::string PasteCopiedRolls(RollFile& file, const std::string& workFolder) {
 std::string PasteFromRollFile(RollFile& file, const std::string& path) {
   std::string error = PrepareToWrite(file);
   if (!error.empty()) return error;
-  if (IsOpenFile(file, path)) return CopyToOpenFileText("Paste From Dice Roll File");
+  if (IsOpenFile(file, path))
+    return MessageText<Msg::kCopyToOpenFile>(With<"command">("Paste From Dice Roll File"));
   Source source;
   error = OpenSource(source, path);
   if (error.empty() && source.Length > kRollFileMaximum) error = TooLongText(path);
   bool valid = false;
   if (error.empty()) error = CheckRollFile(path, valid);
-  if (error.empty() && !valid) return NotARollFileText(path);
+  if (error.empty() && !valid) return MessageText<Msg::kNotARollFile>(With<"path">(path));
   return error.empty() ? InsertSource(file, source, path) : error;
 }
 
@@ -679,8 +680,7 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
   Source text;
   if (error.empty()) error = OpenSource(text, path);
   if (error.empty() && text.Length > kRollFileMaximum)
-    error = "Unable to read " + path + ": it is too long. At most " + std::to_string(kRollFileMaximum) +
-            " bytes are read.";
+    error = MessageText<Msg::kFileTooLong>(With<"path">(path), With<"limit">(kRollFileMaximum));
   if (!error.empty()) return error;
   const std::string workPath = InFolder(workFolder, kRollConvertFile);
   error = ConvertText(text, path, workPath);
@@ -695,7 +695,7 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
 
 std::string DraftRollFile(RollFile& file, const std::string& path, FileReplacement& target,
                           std::string_view command) {
-  if (IsOpenFile(file, path)) return CopyToOpenFileText(command);
+  if (IsOpenFile(file, path)) return MessageText<Msg::kCopyToOpenFile>(With<"command">(command));
   return DraftCopy(file, path, target, AsBytes);
 }
 
@@ -726,8 +726,9 @@ std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned 
 }
 
 std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target) {
-  if (IsOpenFile(file, path)) return CopyToOpenFileText(kCopyToTextTitle);
-  if (!IsRollFormatUsable(file.RollFileOutputFormat)) return kNoDiceInFormatText;
+  if (IsOpenFile(file, path))
+    return MessageText<Msg::kCopyToOpenFile>(With<"command">("Copy Dice Rolls To Text File"));
+  if (!IsRollFormatUsable(file.RollFileOutputFormat)) return MessageText<Msg::kNoDiceInFormat>();
   const auto pieces = ParseFormat(file.RollFileOutputFormat);
   std::int64_t number = renumber ? 1 : SelectedRolls(file).First;
   std::string text;
@@ -746,30 +747,6 @@ std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool re
   FileReplacement target;
   std::string error = DraftTextFile(file, path, renumber, target);
   return error.empty() ? CommitReplacement(target) : error;
-}
-
-// ---- Texts -------------------------------------------------------------------------------------------
-
-std::string NotARollFileText(const std::string& path) {
-  return path +
-         "\r\ris either from an earlier version, has been corrupted, or is not a true Tessaryn dice roll "
-         "file.";
-}
-
-std::string RewindQuestion(const RollFile& file) {
-  const char* stopped = file.RecorderState == kRecorderRecord ? "Recording stopped." : "Playback stopped.";
-  return std::string(stopped) + "\rRewind for playback?";
-}
-
-std::string PlaybackLogLine(const RollFile& file) {
-  return "    Dice roll file playback activated (" + FileTitle(file.RollFileName) + ")";
-}
-
-std::string CopyToOpenFileText(std::string_view command) {
-  return "Can't use the \"" + std::string(command) +
-         "\" command to copy rolls to a file that's open and in use.\r\rPlease select another file name or "
-         "use "
-         "the \"Copy\" and \"Paste\" commands to modify the open file.";
 }
 
 }  // namespace tessaryn

@@ -42,8 +42,8 @@ inline bool IsRollFileOpen(const RollFile& file) { return file.Channel.Descripto
 inline std::int32_t RollFileLength(const RollFile& file) { return file.Channel.Length; }
 
 // Opens a file, or makes an empty one under a new name, with cursor and selection at 1 and the recorder off.
-// An existing file must pass CheckRollFile: else the error is NotARollFileText. On failure the file that was
-// open stays open. A file that can't be written is opened for playback alone.
+// An existing file must pass CheckRollFile: else the error is Msg::kNotARollFile. On failure the file that
+// was open stays open. A file that can't be written is opened for playback alone.
 std::string OpenRollFile(RollFile& file, const std::string& path);
 // Writes what is pending, closes and turns the recorder off. If the writing fails the file stays open with
 // its rolls pending, so that the user can make room and close again, or DiscardRollFile.
@@ -60,7 +60,7 @@ bool FlushRollFile(RollFile& file);
 
 // ---- The recorder ------------------------------------------------------------------------------------
 
-// Off, record or playback. The error is kNoRollFileOpen with no file open.
+// Off, record or playback. The error is Msg::kRollFileClosed with no file open.
 std::string SetRecorderState(RollFile& file, int state);
 // Playback from roll 1.
 std::string RewindForPlayback(RollFile& file);
@@ -69,8 +69,8 @@ void SetRollFileCursor(RollFile& file, std::int64_t position);
 
 enum class PlayResult {
   kPlayed,
-  kEndOfFile,    // the roll doesn't happen: kStoppedAtEndReason
-  kOutOfLimits,  // the recorder is now off: kRollOutOfLimitsText, kStoppedOutOfLimitsReason
+  kEndOfFile,    // the roll doesn't happen: Msg::kStoppedAtFileEnd
+  kOutOfLimits,  // the recorder is now off: Msg::kRollOutOfLimits
   kError,        // the recorder is now off: LastErrorText
 };
 PlayResult PlayRollFromFile(RollFile& file, int& die1, int& die2);
@@ -107,9 +107,9 @@ inline bool RecordRoll(RollFile& file, int die1, int die2) {
 }
 
 // ---- Editing -----------------------------------------------------------------------------------------
-// All need an open file that can be written; without one the error is kNoRollFileOpen or says so. On a full
-// disk, or when another program is writing to it, the file is as before. An edit that moves rolls writes the
-// new file beside the old one, so that a program killed in the middle of it leaves one of the two, whole.
+// All need an open file that can be written; without one the error is Msg::kRollFileClosed or says so. On a
+// full disk, or when another program is writing to it, the file is as before. An edit that moves rolls writes
+// the new file beside the old one, so that a program killed in the middle of it leaves one of the two, whole.
 
 struct RollSelection {
   std::int32_t First = 1;
@@ -152,7 +152,7 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
 // ---- Copying out -------------------------------------------------------------------------------------
 
 // The selected rolls into a file of their own, in place of what it held; the caller has asked. The error is
-// CopyToOpenFileText when it is the open file.
+// Msg::kCopyToOpenFile when it is the open file.
 std::string CopyRollsToRollFile(RollFile& file, const std::string& path,
                                 std::string_view command = "Copy To Roll File");
 
@@ -161,49 +161,16 @@ std::string DraftRollFile(RollFile& file, const std::string& path, FileReplaceme
                           std::string_view command = "Copy To Roll File");
 
 // A text for each roll: "roll#", "die1", "die2" and "total" in the format stand for the values, in capitals
-// or not. False: the format has neither die nor total, kNoDiceInFormatText.
+// or not. False: the format has neither die nor total, Msg::kNoDiceInFormat.
 bool IsRollFormatUsable(std::string_view format);
-// Whether the user is to be asked kRenumberText: the numbers are wanted and would not start with 1.
+// Whether the user is to be asked Msg::kAskRenumber: the numbers are wanted and would not start with 1.
 bool IsRenumberQuestion(const RollFile& file);
 std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned char roll);
 // The selected rolls by RollFileOutputFormat, a line each. renumber: the first one counts as roll 1.
 std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber);
 std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target);
 
-// ---- Texts -------------------------------------------------------------------------------------------
-
-inline constexpr const char* kOpenRollFileTitle = "Open Dice Roll File  or  Enter Name For A New File";
+// Of a box that has no id yet.
 inline constexpr const char* kUnableToOpenRollFileTitle = "Unable to Open Dice Roll File";
-// File name, line ends, and what is wrong with it.
-std::string NotARollFileText(const std::string& path);
-inline constexpr const char* kNoRollFileOpen = "Dice roll file not open.";
-inline constexpr const char* kNothingCopied = "No rolls have been cut or copied.";
-
-inline constexpr const char* kStoppedAtEndReason = "Stopped due to end of Dice Roll File reached.";
-inline constexpr const char* kStoppedOutOfLimitsReason = "Stopped due to Dice Roll File value out of limits.";
-inline constexpr const char* kRollOutOfLimitsTitle = "Dice Roll File Error";
-inline constexpr const char* kRollOutOfLimitsText =
-    "A dice roll value has been found to be out of limits. \r\rPlayback of this Dice Roll File has ceased so "
-    "that you can check the file or continue without it.";
-
-// The Yes/No/Cancel question at the end of a file: yes is RewindForPlayback, no turns the recorder off.
-inline constexpr const char* kRewindTitle = "Dice Roll File";
-std::string RewindQuestion(const RollFile& file);
-
-inline constexpr const char* kRecordTitle = "Record Dice Rolls During Game Play";
-inline constexpr const char* kPlaybackTitle = "Playback Dice Rolls During Game Play";
-inline constexpr const char* kRecordByHandTitle = "Record Dice Rolls";
-// "    Dice roll file playback activated (<file>)", for the Events Log.
-std::string PlaybackLogLine(const RollFile& file);
-
-inline constexpr const char* kCopyToTextTitle = "Copy Dice Rolls To Text File";
-inline constexpr const char* kPasteFromTextTitle = "Paste From Ascii/Text File";
-inline constexpr const char* kRenumberText =
-    "The rolls you've selected do not begin with roll #1.  Would you like to renumber them in the output "
-    "starting with #1?";
-inline constexpr const char* kNoDiceInFormatText =
-    "You must include one or more pieces of dice roll information in your output format, such as Die1, Die2, "
-    "or Total.";
-std::string CopyToOpenFileText(std::string_view command);
 
 }  // namespace tessaryn

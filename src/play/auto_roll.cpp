@@ -6,23 +6,17 @@
 #include "dice/roll_file.h"
 #include "play/roll_cycle.h"
 #include "play/table_files.h"
-#include "state/game.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
 
-constexpr const char* kAutoStopReason = "Stopped by Auto-Stop.";
-constexpr const char* kInterruptText = "'s script processing.\r\rDo you want to interrupt auto-betting?";
-
-bool Ask(Game& game, const char* title, const std::string& text) {
-  return ShowMessage(game, title, text, kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
-}
-
-std::string ScriptOwner(const Game& game) {
-  return game.table.seats[std::clamp(game.autobet.CurrentAutobettor, 0, kSeats)].SeatName;
+bool MayInterruptScript(Game& game) {
+  const int seat = std::clamp(game.autobet.CurrentAutobettor, 0, kSeats);
+  return Confirms<Msg::kAskInterruptScript>(game, With<"player">(game.table.seats[seat].SeatName));
 }
 
 bool AutoStopDue(const Game& game) {
@@ -70,7 +64,7 @@ bool GoRoundTurbo(Game& game) {
   TableState& table = game.table;
   GiveWay(game);
   if (table.AutoRollActive && AutoStopDue(game)) {
-    StopRun(game, table.StopReason.empty() ? kAutoStopReason : table.StopReason);
+    StopRun(game, table.StopReason.empty() ? MessageText<Msg::kStoppedByAutoStop>() : table.StopReason);
     return false;
   }
   if (table.AutoRollActive && table.TurboRollActive && game.settings.RollThrottle > 0) Pace(game);
@@ -98,7 +92,7 @@ bool GoRoundAgain(Game& game) {
   if (!table.AutoRollActive) return false;
   if (AutoStopDue(game)) {
     StopRun(game, "");
-    ShowMessage(game, "Auto-Roll Stopped", "Stopped by Auto-Stop");
+    ShowMessage<Msg::kAutoRollStopped>(game);
     return false;
   }
   WaitForNextRoll(game);
@@ -119,7 +113,7 @@ void ToggleAutoRoll(Game& game) {
   TableState& table = game.table;
   if (table.AutoRollActive) return StopRun(game, "");
   if (game.autobet.ScriptRunning && game.autobet.StepMode) {
-    if (Ask(game, "Auto-Bet Active", ScriptOwner(game) + kInterruptText)) game.autobet.StepMode = false;
+    if (MayInterruptScript(game)) game.autobet.StepMode = false;
     return;
   }
   if (table.RollInProgress) return;
@@ -143,22 +137,13 @@ void SetThrottle(Game& game, int position) {
 
 void SetAutoRollDelay(Game& game) {
   game.box.MsgValue1 = game.settings.AutoRollDelay.Number();
-  if (ShowMessage(game, "Set Auto-Roll Time Delay",
-                  "How many seconds would you like between rolls? (0 to 300)",
-                  kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
-    return;
+  if (ShowMessage<Msg::kAskAutoRollDelay>(game) != kResultOk) return;
   game.settings.AutoRollDelay = kAutoRollDelayLimits.Clamp(Seconds::Of(game.box.MsgValue1));
 }
 
 void SetAutoStop(Game& game) {
   game.box.MsgValue1 = Currency::Dollars(game.settings.AutoStopInterval);
-  if (ShowMessage(
-          game, "Set Auto-Roll / Turbo-Roll Auto-Stop",
-          "How often (number of rolls) would you like Auto-Roll / Turbo-Roll to automatically stop?  "
-          "\r\r(This is in addition to any auto-stops commanded through auto-betting.  Enter 0 for no "
-          "automatic stopping.)",
-          kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
-    return;
+  if (ShowMessage<Msg::kAskAutoStop>(game) != kResultOk) return;
   game.settings.AutoStopInterval =
       kAutoStopLimits.Clamp(WholePart(game.box.MsgValue1).raw / Currency::kPerDollar);
 }
@@ -166,14 +151,12 @@ void SetAutoStop(Game& game) {
 bool AskBeforeCommand(Game& game) {
   TableState& table = game.table;
   if (table.AutoRollActive) {
-    const bool turbo = table.TurboRollActive;
-    if (Ask(game, turbo ? "Turbo-Roll Active" : "Auto-Roll Active",
-            turbo ? "Do you want to stop the Turbo-Roll?" : "Do you want to stop Auto-Rolling?"))
-      StopRun(game, "");
+    const Msg question = table.TurboRollActive ? Msg::kAskStopTurboRoll : Msg::kAskStopAutoRoll;
+    if (ShowMessage(game, question, {}) == kResultYes) StopRun(game, "");
     return false;
   }
   if (game.autobet.ScriptRunning) {
-    if (Ask(game, "Auto-Bet Active", ScriptOwner(game) + kInterruptText)) {
+    if (MayInterruptScript(game)) {
       game.autobet.StepMode = false;
       game.autobet.ScriptRunning = false;
     }

@@ -8,7 +8,7 @@
 #include "autobet/language/script_files.h"
 #include "autobet/run/interpreter.h"
 #include "base/record_file.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -20,8 +20,6 @@ constexpr std::size_t kSecondText = 101;
 constexpr std::size_t kMostKeys = 256;
 
 char Folded(char key) { return static_cast<char>(std::tolower(static_cast<unsigned char>(key))); }
-
-std::string NotHotKeys(const std::string& path) { return path + " is not a valid hot-key file."; }
 
 }  // namespace
 
@@ -41,7 +39,7 @@ bool ReadHotKeys(const std::string& path, std::vector<HotKey>& keys, std::string
       file.Records.empty() ? -1 : LeadingNumber(GetText(file.Records[0], kSecondText, kTextWidth));
   const bool whole = count >= 0 && count + 1 == static_cast<double>(file.Records.size());
   if (!whole || GetText(file.Records[0], kFirstText, kTextWidth) != kMark) {
-    error = NotHotKeys(path);
+    error = MessageText<Msg::kNotAHotKeyFile>(With<"path">(path));
     return false;
   }
   keys.clear();
@@ -61,7 +59,7 @@ bool WriteHotKeys(const std::string& path, const std::vector<HotKey>& keys, std:
   file.Append(head);
   for (const HotKey& key : keys) {
     if (key.path.size() > kTextWidth) {
-      error = "The path of hot-key " + HotKeyText(key.key) + " is longer than 100 characters.";
+      error = MessageText<Msg::kHotKeyPathTooLong>(With<"key">(HotKeyText(key.key)));
       return false;
     }
     Record record{};
@@ -76,7 +74,7 @@ bool WriteHotKeys(const std::string& path, const std::vector<HotKey>& keys, std:
 
 bool AddHotKey(std::vector<HotKey>& keys, const HotKey& key, std::string& error) {
   if (key.path.empty()) {
-    error = "Please enter an Auto-Bet filename to define this Hot-Key.";
+    error = MessageText<Msg::kHotKeyPathMissing>();
     return false;
   }
   for (HotKey& known : keys) {
@@ -92,9 +90,7 @@ bool RunHotKeyFile(Game& game, const std::string& path) {
   if (game.autobet.ScriptRunning) return false;
   std::vector<std::string> lines;
   if (!ReadScriptFile(path, lines).Ok()) {
-    ShowMessage(game, "Hot-Key",
-                "The Auto-Bet file defined for that Hot-Key was not found in the specified location.\r\r"
-                "Please check the path and file name on the Hot-Key screen.");
+    ShowMessage<Msg::kHotKeyFileMissing>(game);
     return false;
   }
   CompiledScript script;
@@ -104,10 +100,7 @@ bool RunHotKeyFile(Game& game, const std::string& path) {
   if (good)
     RunHotKeyScript(game, std::move(script));
   else
-    ShowMessage(
-        game, kHotKeyErrorTitle,
-        "The Auto-Bet script for this hot-key contains a syntax error which must be corrected before you "
-        "can use it.");
+    ShowMessage<Msg::kHotKeyBad>(game);
   game.autobet.ScriptsCompiled = false;
   return good;
 }

@@ -12,7 +12,6 @@ struct Game;
 
 inline constexpr const char* kHotKeysFile = "HotKeys.dta";
 // The title of the box that tells of a bad script.
-inline constexpr const char* kHotKeyErrorTitle = "Auto-Bet Script Error";
 
 // As it is shown: a letter as a capital.
 std::string HotKeyText(char key);

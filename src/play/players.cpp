@@ -12,8 +12,10 @@
 #include "rules/shooter.h"
 #include "state/game.h"
 #include "state/seat_parts.h"
+#include "state/show_message.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
+#include "stats/log_line.h"
 #include "stats/sessions_log.h"
 #include "stats/statistics.h"
 
@@ -43,17 +45,15 @@ std::string Trimmed(const std::string& text) {
 
 std::string NameProblem(const Game& game, const std::string& name, int ownSeat) {
   if (const std::string problem = TextProblem(name); !problem.empty())
-    return "That can't be a player's name: " + problem + ".";
+    return MessageText<Msg::kNameUnfit>(With<"reason">(problem));
   for (int seat = 1; seat <= kSeats; ++seat)
     if (seat != ownSeat && Lower(game.table.seats[seat].SeatName) == Lower(name))
-      return "There's already a player named " + name + ".";
+      return MessageText<Msg::kNameTaken>(With<"name">(name));
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
-      return "A player's name can't be all numeric because it can't be used in auto-betting.";
+      return MessageText<Msg::kNameNumeric>();
     case ScriptNameProblem::kReservedWord:
-      return name +
-             " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a "
-             "player's name.";
+      return MessageText<Msg::kNameReserved>(With<"name">(name));
     default:
       return "";
   }
@@ -113,15 +113,15 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   TableState& table = game.table;
   const std::string name = Trimmed(givenName);
   if (seat < 1 || seat > kSeats) {
-    error = "There is no seat " + std::to_string(seat) + "; seats are 1 to 8.";
+    error = MessageText<Msg::kNoSuchSeat>(With<"seat">(seat));
   } else if (IsOccupied(table, seat)) {
-    error = "Seat " + std::to_string(seat) + " is taken by " + table.seats[seat].SeatName + ".";
+    error = MessageText<Msg::kSeatTaken>(With<"seat">(seat), With<"player">(table.seats[seat].SeatName));
   } else if (name.empty()) {
-    error = "A player needs a name.";
+    error = MessageText<Msg::kNameMissing>();
   } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
-    error = "The maximum player bankroll is $9,999,999";
+    error = MessageText<Msg::kBankrollTooHigh>(With<"limit">(kBankrollLimit));
   } else if (bankroll < -kBankrollLimit) {
-    error = "The minimum player bankroll is -$9,999,999";
+    error = MessageText<Msg::kBankrollTooLow>(With<"limit">(kBankrollLimit));
   } else {
     error = NameProblem(game, name, 0);
   }
@@ -138,8 +138,7 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   }
   if (table.SelectedSeat == 0) table.SelectedSeat = seat;
   game.autobet.ScriptsCompiled = false;
-  WriteEventsLogLine(
-      game, "    " + name + " joined the game at " + StickPosition(seat) + " with $" + PlainMoney(bankroll));
+  LogJoined(game, seat);
   game.host->Changed(game, Change::kPlayers);
   if (table.OccupiedSeats == 1 && table.Point == 0) game.host->PlaySound(game, Sound::kComeOut);
   RequireConsistency(game);
@@ -148,50 +147,34 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
 
 namespace {
 
-// A question with one input box. False when given up.
-bool AskText(Game& game, const std::string& title, const std::string& text, const std::string& preset,
-             std::string& answer) {
-  game.box.MsgEntry = preset;
-  if (ShowMessage(game, title, text, kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion) !=
-      kResultOk)
-    return false;
-  answer = Trimmed(game.box.MsgEntry);
-  return !answer.empty();
-}
-
-// Repeats the question until the name is fit or the user gives up.
-bool AskName(Game& game, const std::string& title, const std::string& prompt, const std::string& preset,
-             int ownSeat, std::string& name) {
-  std::string text = prompt;
-  std::string entry = preset;
-  for (;;) {
-    if (!AskText(game, title, text, entry, name)) return false;
-    const std::string problem = NameProblem(game, name, ownSeat);
+// Repeats the question for a name until that is fit or the user gives up. preset: the player's name until
+// now.
+bool AskName(Game& game, Msg question, const std::string& preset, int ownSeat, std::string& name) {
+  std::string problem;
+  for (name = preset;;) {
+    game.box.MsgEntry = name;
+    if (ShowMessage(game, question, {{"problem", problem}, {"player", preset}}) != kResultOk) return false;
+    name = Trimmed(game.box.MsgEntry);
+    if (name.empty()) return false;
+    problem = NameProblem(game, name, ownSeat);
     if (problem.empty()) return true;
-    entry = name;
-    text = problem + "\r\r" + prompt;
   }
 }
+static_assert(NeedOnly({Msg::kAskPlayerName, Msg::kAskNewName}, {"problem", "player"}));
 
 }  // namespace
 
 bool AddPlayer(Game& game, int seat) {
   if (seat < 1 || seat > kSeats || IsOccupied(game.table, seat)) return false;
-  if (ShowMessage(game, kAddPlayerTitle, "Would you like to add a player here?",
-                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
-    return false;
+  if (!Confirms<Msg::kAskAddPlayer>(game)) return false;
   std::string name;
-  if (!AskName(game, kAddPlayerTitle, "What's the new player's name?", "", 0, name)) return false;
-  const std::string prompt = "How much would " + name + " like to buy-in for?";
-  std::string text = prompt;
-  for (;;) {
+  if (!AskName(game, Msg::kAskPlayerName, "", 0, name)) return false;
+  for (std::string problem;;) {
     game.box.MsgValue1 = game.settings.StartBank;
-    if (ShowMessage(game, kAddPlayerTitle, text, kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
+    if (ShowMessage<Msg::kAskBuyIn>(game, With<"player">(name), With<"problem">(problem)) != kResultOk)
       return false;
-    const Currency bankroll = game.box.MsgValue1;
-    std::string error;
-    if (JoinPlayer(game, seat, name, bankroll, error)) return true;
-    text = error + "\r\r" + prompt;
+    problem.clear();
+    if (JoinPlayer(game, seat, name, game.box.MsgValue1, problem)) return true;
   }
 }
 
@@ -220,29 +203,19 @@ Abandoned ContractMoney(const TableState& table, int seat) {
   return abandoned;
 }
 
-std::string RemoveQuestion(const std::string& name, const Abandoned& abandoned) {
-  std::string text = "Would you like to remove " + name + "?";
-  if (abandoned.total == kZero) return text;
-  text += "\r\r" + name + " still has ";
-  if (abandoned.passLine) text += "an active Pass Line bet ";
-  if (abandoned.passLine && abandoned.comeBets > 0) text += "and ";
-  if (abandoned.comeBets == 1) text += "an active Come bet ";
-  if (abandoned.comeBets > 1) text += std::to_string(abandoned.comeBets) + " active Come bets ";
-  return text + "\r\rthat can't be removed and will be abandoned.\r\rTotal to be abandoned: $" +
-         FormatMoney(abandoned.total);
+bool MayRemove(Game& game, const std::string& name, const Abandoned& abandoned) {
+  if (abandoned.total == kZero) return Confirms<Msg::kAskRemovePlayer>(game, With<"player">(name));
+  return Confirms<Msg::kAskAbandon>(game, With<"player">(name), With<"passline">(abandoned.passLine),
+                                    With<"come">(abandoned.comeBets), With<"total">(abandoned.total));
 }
 
-void LogLeaving(Game& game, int seat, Currency total) {
+void LogLeaving(Game& game, int seat, Currency abandoned) {
   const TableState& table = game.table;
-  const Currency cashed = table.BankrollCurrent[seat] - total;
+  const Currency cashed = table.BankrollCurrent[seat] - abandoned;
   const Currency result = cashed - game.stats.BankrollSessionStart[seat];
-  std::string line = "    " + table.seats[seat].SeatName + " cashed out with $" + PlainMoney(cashed) + " (";
-  if (result == kZero)
-    line += "broke even";
-  else
-    line += "$" + PlainMoney(Abs(result)) + (result > kZero ? " win" : " loss");
-  line += total > kZero ? " after $" + PlainMoney(total) + " abandoned)" : ")";
-  WriteEventsLogLine(game, line);
+  WriteLogLine<Msg::kLogCashedOut>(game, With<"player">(table.seats[seat].SeatName), With<"bankroll">(cashed),
+                                   With<"result">(Abs(result)), With<"won">(result > kZero),
+                                   With<"abandoned">(abandoned));
 }
 
 void RecomputeMasterScriptFlag(AutoBet& autobet) {
@@ -256,9 +229,7 @@ bool RemovePlayer(Game& game) {
   const int seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const Abandoned abandoned = ContractMoney(game.table, seat);
-  if (ShowMessage(game, "Remove Player", RemoveQuestion(game.table.seats[seat].SeatName, abandoned),
-                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
-    return false;
+  if (!MayRemove(game, game.table.seats[seat].SeatName, abandoned)) return false;
   LeaveTable(game, seat);
   return true;
 }
@@ -287,12 +258,12 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
   TableState& table = game.table;
   const std::string name = Trimmed(givenName);
   if (!IsOccupied(table, seat))
-    error = "There is no player at seat " + std::to_string(seat) + ".";
+    error = MessageText<Msg::kSeatOpen>(With<"seat">(seat));
   else
-    error = name.empty() ? "A player needs a name." : NameProblem(game, name, seat);
+    error = name.empty() ? MessageText<Msg::kNameMissing>() : NameProblem(game, name, seat);
   if (!error.empty()) return false;
   const std::string old = table.seats[seat].SeatName;
-  WriteEventsLogLine(game, "    " + old + "'s name changed to " + name);
+  WriteLogLine<Msg::kLogRenamed>(game, With<"player">(old), With<"name">(name));
   table.seats[seat].SeatName = name;
   game.autobet.ScriptsCompiled = false;
   game.host->Changed(game, Change::kPlayers);
@@ -304,14 +275,11 @@ bool RenamePlayer(Game& game) {
   if (!IsOccupied(game.table, seat)) return false;
   const std::string old = game.table.seats[seat].SeatName;
   std::string name;
-  if (!AskName(game, "Rename Player", "Enter a new name for " + old + ".", old, seat, name)) return false;
+  if (!AskName(game, Msg::kAskNewName, old, seat, name)) return false;
   std::string error;
   if (!RenameTo(game, seat, name, error)) return false;
   if (Lower(old) == Lower(name)) return true;
-  if (ShowMessage(game, "Rename Sessions Log",
-                  "Would you also like to change " + name + "'s sessions log filename?",
-                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
-    return true;
+  if (!Confirms<Msg::kAskRenameSessionsLog>(game, With<"player">(name))) return true;
   const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
   if (!problem.empty()) ShowMessage(game, "Rename Sessions Log", problem);
   return true;
@@ -342,18 +310,18 @@ void SwapSeats(Game& game, int a, int b) {
 bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   TableState& table = game.table;
   if (!IsOccupied(table, fromSeat)) {
-    error = "There is no player at seat " + std::to_string(fromSeat) + ".";
+    error = MessageText<Msg::kSeatOpen>(With<"seat">(fromSeat));
   } else if (toSeat < 1 || toSeat > kSeats) {
-    error = "There is no seat " + std::to_string(toSeat) + "; seats are 1 to 8.";
+    error = MessageText<Msg::kNoSuchSeat>(With<"seat">(toSeat));
   } else if (IsOccupied(table, toSeat)) {
-    error = "Seat " + std::to_string(toSeat) + " is taken by " + table.seats[toSeat].SeatName + ".";
+    error = MessageText<Msg::kSeatTaken>(With<"seat">(toSeat), With<"player">(table.seats[toSeat].SeatName));
   }
   if (!error.empty()) return false;
   SwapSeats(game, fromSeat, toSeat);
   for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
-  WriteEventsLogLine(game, "    " + table.seats[toSeat].SeatName + " moved to " + StickPosition(toSeat));
+  LogPlayerMoved(game, toSeat);
   game.host->Changed(game, Change::kPlayers);
   RequireConsistency(game);
   return true;

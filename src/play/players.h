@@ -30,6 +30,4 @@ void ClearSeat(Game& game, int seat);
 std::string NameProblem(const Game& game, const std::string& name, int ownSeat);
 void SelectSeat(Game& game, int seat);
 
-inline constexpr const char* kAddPlayerTitle = "Add New Player";
-
 }  // namespace tessaryn

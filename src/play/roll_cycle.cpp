@@ -14,10 +14,10 @@
 #include "rules/consistency.h"
 #include "rules/settlement.h"
 #include "rules/shooter.h"
-#include "state/game.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 #include "stats/bankroll_graph.h"
-#include "stats/events_log.h"
+#include "stats/log_line.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -28,11 +28,13 @@ void Speak(Game& game, Sound sound) {
 }
 
 // Nothing is rolled: a run ends with the reason, otherwise a box says why.
-void Refuse(Game& game, const std::string& reason, const std::string& title, const std::string& text) {
+template <Msg kReason, Msg kBox, typename... Arguments>
+void Refuse(Game& game, const Arguments&... arguments) {
+  const std::string reason = MessageText(kReason, ArgumentsOf(arguments...));
   if (game.table.TurboRollActive) return StopRun(game, reason);
   StopRun(game, "");
   game.table.StopReason = reason;
-  ShowMessage(game, title, text);
+  ShowMessage<kBox>(game, arguments...);
 }
 
 // --- Before the dice.
@@ -56,11 +58,14 @@ bool ScriptsReady(Game& game) {
   return autobet.ScriptsCompiled;
 }
 
-std::string LineBetText(const Game& game, const std::string& name) {
-  const TableState& table = game.table;
-  if (table.OccupiedSeats == 1) return name + " must make a Pass Line bet or a Don't Pass bet.";
-  return name + (table.Point != 0 ? " must make a Pass Line bet or pass the dice."
-                                  : " must make a Pass Line bet, a Don't Pass bet, or pass the dice.");
+void RefuseWithoutLineBet(Game& game, const std::string& name) {
+  const auto shooter = With<"player">(name);
+  if (game.table.OccupiedSeats == 1)
+    Refuse<Msg::kShooterHasNoLineBet, Msg::kLineBetRequiredAlone>(game, shooter);
+  else if (game.table.Point != 0)
+    Refuse<Msg::kShooterHasNoLineBet, Msg::kLineBetRequiredOnPoint>(game, shooter);
+  else
+    Refuse<Msg::kShooterHasNoLineBet, Msg::kLineBetRequired>(game, shooter);
 }
 
 bool ShooterHasBet(Game& game) {
@@ -68,33 +73,24 @@ bool ShooterHasBet(Game& game) {
   const int rule = game.settings.ShooterBetRule;
   if (rule == 0) return true;
   if (table.OccupiedSeats == 0) {
-    const std::string text = "No players are available to bet.";
-    Refuse(game, text, "Roll the Dice", text);
+    Refuse<Msg::kNobodyToBet, Msg::kNobodyToBet>(game);
     return false;
   }
   const BetSet& bets = table.seats[table.ShooterSeat].SeatBets;
-  constexpr const char* kNote =
-      "\r\rNote: This requirement can be changed on the 'Bets tab' of the configuration screen.";
   const std::string& name = table.seats[table.ShooterSeat].SeatName;
   if (rule == 2) {
     if (!bets.Empty()) return true;
-    Refuse(game, "Shooter has no bet.", "Any Bet Required",
-           "A bet is required to shoot.\r\r" + name + " must make any bet or pass the dice." + kNote);
+    Refuse<Msg::kShooterHasNoBet, Msg::kAnyBetRequired>(game, With<"player">(name));
     return false;
   }
   if (bets.Has(kPassLine) || bets.Has(kDontPass)) return true;
-  Refuse(game, "Shooter has no line bet.", "Line Bet Required",
-         "A line bet is required to shoot.\r\r" + LineBetText(game, name) + kNote);
+  RefuseWithoutLineBet(game, name);
   return false;
 }
 
 bool RollsWithinLimit(Game& game) {
   if (SessionRolls(game.stats) < kMaxRolls) return true;
-  const std::string limit = FormatMoney(Currency::Dollars(kMaxRolls));
-  constexpr const char* kReset = "Select \"New\" from the \"Game\" menu to reset the table.";
-  Refuse(game, "Stopped due to reaching the maximum limit of " + limit + " rolls.\r\r" + kReset,
-         "Reached Maximum Roll Limit",
-         "Sorry ... the maximum limit of " + limit + " rolls has been reached.\r\r" + kReset);
+  Refuse<Msg::kStoppedByRollLimit, Msg::kRollLimitReached>(game, With<"limit">(Currency::Dollars(kMaxRolls)));
   return false;
 }
 
@@ -134,21 +130,18 @@ void TakeSnapshots(TableState& table) {
 
 // --- The dice.
 
-enum class DiceSource { kPad, kFile, kGenerator };
-
 void AskRewind(Game& game) {
   RollFile& file = game.rollFile;
-  switch (
-      ShowMessage(game, kRewindTitle, RewindQuestion(file), kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion)) {
-    case kResultYes:
-      RewindForPlayback(file);
-      break;
-    case kResultNo:
-      SetRecorderState(file, kRecorderOff);
-      break;
-    default:
-      break;
-  }
+  const bool recording = file.RecorderState == kRecorderRecord;
+  const int answer = ShowMessage<Msg::kAskRewind>(game, With<"recording">(recording));
+  if (answer == kResultYes) RewindForPlayback(file);
+  if (answer == kResultNo) SetRecorderState(file, kRecorderOff);
+}
+
+// A run, or a roll, that the file had no dice for.
+void StopPlaying(Game& game, const std::string& reason) {
+  StopRun(game, reason);
+  game.table.StopReason = reason;
 }
 
 bool PlayFile(Game& game) {
@@ -162,21 +155,20 @@ bool PlayFile(Game& game) {
     table.Die2 = die2;
     return true;
   }
-  std::string reason = kStoppedAtEndReason;
   if (result == PlayResult::kEndOfFile) {
     game.autobet.RollFileEndReached = true;
-    StopRun(game, reason);
-    table.StopReason = reason;
+    StopPlaying(game, MessageText<Msg::kStoppedAtFileEnd>());
     AskRewind(game);
     return false;
   }
-  std::string text = kRollOutOfLimitsText;
-  reason = kStoppedOutOfLimitsReason;
-  if (result == PlayResult::kError) text = reason = file.LastErrorText;
   const bool turbo = table.TurboRollActive;
-  StopRun(game, reason);
-  table.StopReason = reason;
-  if (!turbo) ShowMessage(game, kRollOutOfLimitsTitle, text);
+  if (result == PlayResult::kError) {
+    StopPlaying(game, file.LastErrorText);
+    if (!turbo) ShowMessage<Msg::kRollNotRead>(game, With<"problem">(file.LastErrorText));
+    return false;
+  }
+  StopPlaying(game, MessageText<Msg::kStoppedByRollOutOfLimits>());
+  if (!turbo) ShowMessage<Msg::kRollOutOfLimits>(game);
   return false;
 }
 
@@ -191,28 +183,18 @@ void DrawFromGenerator(Game& game) {
     DrawDice(generators, rolls, table.Die1, table.Die2);
 }
 
-std::string SourceText(const Game& game, DiceSource source) {
-  if (source == DiceSource::kPad) return " from manual roll pad";
-  if (source == DiceSource::kFile) return " from roll file";
-  std::string text = " from RNG #" + std::to_string(game.generators.GeneratorIndex + 1);
-  if (!game.percentage.PercentageDiceActive) return text;
-  const std::string title = ProbabilityTitle(game.percentage);
-  return text + (game.percentage.ProbFileName.empty() ? " using untitled probability matrix"
-                                                      : " using probability matrix: " + title);
-}
-
 // The faces of the next roll. False when no roll is to be had: the table is then as it was.
-bool FindDice(Game& game, DiceSource& source) {
+bool FindDice(Game& game, RollSource& source) {
   TableState& table = game.table;
   if (table.ManualRollPending) {
-    source = DiceSource::kPad;
+    source = RollSource::kPad;
     table.Die1 = table.ManualDie1;
     table.Die2 = table.ManualDie2;
     table.ManualRollPending = false;
     return true;
   }
   if (game.rollFile.RecorderState == kRecorderPlayback) {
-    source = DiceSource::kFile;
+    source = RollSource::kFile;
     return PlayFile(game);
   }
   DrawFromGenerator(game);
@@ -220,13 +202,12 @@ bool FindDice(Game& game, DiceSource& source) {
 }
 
 // The dice fall.
-void ThrowDice(Game& game, DiceSource source) {
+void ThrowDice(Game& game, RollSource source) {
   TableState& table = game.table;
   table.RollTotal = table.Die1 + table.Die2;
   if (game.rollFile.RecorderState == kRecorderRecord && !RecordRoll(game.rollFile, table.Die1, table.Die2))
     ReportRecorderFault(game);
-  if (game.events.RecordEventsActive && game.events.RecordRolls)
-    LogRoll(game, SourceText(game, source).c_str());
+  if (game.events.RecordEventsActive) LogRoll(game, source);
   Speak(game, Sound::kDice);
 }
 
@@ -255,7 +236,7 @@ void MarkNumbers(Game& game) {
 struct LineDecision {
   NumberKind kind;
   bool decided;
-  const char* line;
+  Msg line;
   Sound sound;
 };
 
@@ -264,18 +245,19 @@ LineDecision ComeOutDecision(int total) {
   switch (total) {
     case 7:
     case 11:
-      return {kPasses, true, "    Pass (natural)", Sound::kPass};
+      return {kPasses, true, Msg::kLogPassNatural, Sound::kPass};
     case 2:
     case 3:
     case 12:
-      return {kMisses, true, "    Miss (craps natural)", Sound::kMiss};
+      return {kMisses, true, Msg::kLogMissCraps, Sound::kMiss};
     default:
-      return {kComeoutRolls, false, "    Point established", Sound::kPoint};
+      return {kComeoutRolls, false, Msg::kLogPointEstablished, Sound::kPoint};
   }
 }
 
-void LogLine(Game& game, const char* line) {
-  if (game.events.RecordEventsActive && game.events.RecordPassesMisses) WriteEventsLogLine(game, line);
+void LogDecision(Game& game, Msg line) {
+  if (game.events.RecordEventsActive && game.events.RecordPassesMisses)
+    WriteEventsLogLine(game, RowOf(line).text);
 }
 
 void MovePoint(Game& game) {
@@ -288,7 +270,7 @@ void MovePoint(Game& game) {
       CountLine(game, decision.kind, total);
     else
       table.Point = total;
-    LogLine(game, decision.line);
+    LogDecision(game, decision.line);
     Speak(game, total == game.settings.BarNumber ? Sound::kBarredMiss : decision.sound);
     return;
   }
@@ -297,7 +279,7 @@ void MovePoint(Game& game) {
   CountLine(game, made ? kPasses : kMisses, table.Point);
   table.LastPoint = table.Point;
   table.Point = 0;
-  LogLine(game, made ? "    Pass (point rolled)" : "    Miss (seven-out)");
+  LogDecision(game, made ? Msg::kLogPassPoint : Msg::kLogMissSevenOut);
   Speak(game, made ? Sound::kPass : Sound::kSevenOut);
 }
 
@@ -369,16 +351,16 @@ void CopyAfterRoll(TableState& table) {
   }
 }
 
-const char* WinsLossesHeading(const EventsLog& log) {
-  if (log.RecordBetsWon && log.RecordBetsLost) return "    Wins/losses:";
-  return log.RecordBetsWon ? "    Wins:" : "    Losses:";
+std::string_view WinsLossesHeading(const EventsLog& log) {
+  if (log.RecordBetsWon && log.RecordBetsLost) return RowOf(Msg::kLogWinsAndLosses).text;
+  return RowOf(log.RecordBetsWon ? Msg::kLogWins : Msg::kLogLosses).text;
 }
 
 // From the shooter's bet to the fallen dice. False: nothing is rolled, and no bet has ridden.
 bool BeginRoll(Game& game) {
   TableState& table = game.table;
   if (!table.StopReason.empty()) table.StopReason.clear();
-  DiceSource source = DiceSource::kGenerator;
+  RollSource source = RollSource::kGenerator;
   if (!ShooterHasBet(game) || !RollsWithinLimit(game) || !FindDice(game, source)) return false;
   NoteRails(table);
   // Told with the roll that follows: without one they are still to come, and must not be told twice.

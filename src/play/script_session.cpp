@@ -9,12 +9,10 @@
 #include "autobet/language/vocabulary.h"
 #include "autobet/run/interpreter.h"
 #include "base/bet_catalogue.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
-
-constexpr const char* kTitle = "Auto-Bet";
 
 void ScriptsChanged(Game& game) {
   game.autobet.ScriptRunning = false;
@@ -36,9 +34,10 @@ void ClampSpan(ScriptDiagnostic& diagnostic, int lines) {
 }
 
 std::string ErrorTitle(const ScriptDiagnostic& diagnostic) {
-  const std::string first = std::to_string(diagnostic.firstLine);
-  if (diagnostic.firstLine == diagnostic.lastLine) return "Auto-bet script error in line " + first;
-  return "Auto-bet script error in lines " + first + " thru " + std::to_string(diagnostic.lastLine);
+  if (diagnostic.firstLine == diagnostic.lastLine)
+    return MessageText<Msg::kScriptErrorInLine>(With<"line">(diagnostic.firstLine));
+  return MessageText<Msg::kScriptErrorInLines>(With<"first">(diagnostic.firstLine),
+                                               With<"last">(diagnostic.lastLine));
 }
 
 bool IsEmpty(const std::vector<std::string>& lines) {
@@ -50,24 +49,20 @@ bool IsEmpty(const std::vector<std::string>& lines) {
 template <typename Compile>
 ScriptCheck CheckBy(const std::vector<std::string>& lines, Compile&& compile) {
   ScriptCheck check;
-  check.title = kTitle;
+  check.title = MessageText<Msg::kTitleAutoBet>();
   if (IsEmpty(lines)) {
-    check.text =
-        "This feature checks to see that your auto-bet script is properly structured, but presently your "
-        "script "
-        "is empty.";
+    check.text = MessageText<Msg::kScriptIsEmpty>();
     return check;
   }
   check.ok = compile(check.diagnostic);
   if (check.ok) {
-    check.text = "Your script is properly structured.";
+    check.text = MessageText<Msg::kScriptIsGood>();
     return check;
   }
   ClampSpan(check.diagnostic, static_cast<int>(lines.size()));
   check.title = ErrorTitle(check.diagnostic);
-  check.text = check.diagnostic.message;
-  if (!check.diagnostic.offer.empty())
-    check.text += Concat({"\r\rDid you mean \"", check.diagnostic.offer, "\"?"});
+  check.text = MessageText<Msg::kScriptFault>(With<"fault">(check.diagnostic.message),
+                                              With<"offer">(check.diagnostic.offer));
   return check;
 }
 
@@ -107,7 +102,9 @@ bool OpenScript(Game& game, int seat, const std::string& path, std::string& erro
   std::vector<std::string> lines;
   const ScriptFileResult result = ReadScriptFile(path, lines);
   if (!result.Ok()) {
-    error = result.problem == ScriptFileProblem::kNotFound ? path + ": File not found" : result.message;
+    error = result.problem == ScriptFileProblem::kNotFound
+                ? MessageText<Msg::kNamedFileNotFound>(With<"path">(path))
+                : result.message;
     return false;
   }
   SetScript(game, seat, std::move(lines), path);
@@ -139,27 +136,6 @@ void SetAllScriptsActive(Game& game, bool active) {
     SetScriptActive(game, seat, active && !IsEmpty(game.autobet.Scripts[seat].ScriptLines));
 }
 
-namespace {
-
-// The offer behind an activation; name empty for all scripts.
-std::string InitialiseQuestion(const std::string& name) {
-  const bool all = name.empty();
-  std::string text = all ? "All players' auto-bet scripts have been activated."
-                         : name + "'s auto-bet script has been activated.";
-  text += "\r\rYou have an opportunity now to run ";
-  text += all ? "each script for one cycle BEFORE " : name + "'s script for one cycle BEFORE ";
-  text +=
-      "the dice roll in order to check and set any initial conditions.  This is called initializing. If "
-      "you're "
-      "not ready yet, then just recheck the active checkbox later or note that all players' active auto-bets "
-      "are "
-      "automatically initialized whenever NEW is selected from the GAME menu.\r\r";
-  return text + (all ? "Would you like to initialize all auto-bet scripts now?"
-                     : "Would you like to initialize " + name + "'s auto-bet script now?");
-}
-
-}  // namespace
-
 void CloseScripts(Game& game) {
   for (int seat = 1; seat <= kSeats; ++seat) {
     SetScriptActive(game, seat, false);
@@ -172,9 +148,10 @@ void ActivateScript(Game& game, int seat) {
     SetAllScriptsActive(game, true);
   else
     SetScriptActive(game, seat, true);
-  const std::string name = seat == 0 ? std::string() : game.table.seats[seat].SeatName;
-  if (ShowMessage(game, kTitle, InitialiseQuestion(name), kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
-    InitialiseScripts(game);
+  const bool initialise =
+      seat == 0 ? Confirms<Msg::kAskInitialiseAll>(game)
+                : Confirms<Msg::kAskInitialise>(game, With<"player">(game.table.seats[seat].SeatName));
+  if (initialise) InitialiseScripts(game);
 }
 
 bool InitialiseScripts(Game& game) {
@@ -231,10 +208,7 @@ int InsertLoggedBets(Game& game, int seat, int line) {
 }
 
 bool OfferToSaveLoggedBets(Game& game) {
-  return game.autobet.LoggedBetsUnsaved &&
-         ShowMessage(game, "Save Auto-Bets?",
-                     "Your current logged bets have not been saved.\r\rDo you want to save them now?",
-                     kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+  return game.autobet.LoggedBetsUnsaved && Confirms<Msg::kAskSaveLoggedBets>(game);
 }
 
 ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from) {

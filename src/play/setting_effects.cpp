@@ -10,7 +10,7 @@
 #include "rules/configuration.h"
 #include "rules/consistency.h"
 #include "rules/payoffs.h"
-#include "state/game.h"
+#include "state/show_message.h"
 #include "stats/events_log.h"
 
 namespace tessaryn {
@@ -38,23 +38,24 @@ struct Family {
   bool Settings::*offered;
   int first;
   int last;
-  const char* title;
-  const char* text;  // what is up
+  Msg question;  // whether what is up may come down
 };
 constexpr Family kFamilies[] = {
-    {&Settings::UseBig68, kBig6, kBig8, "Remove Big 6 / Big 8 Bets",
-     "one or more bets on the Big 6 and/or Big 8"},
-    {&Settings::UseFire, kFire, kFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
-    {&Settings::UseMidway, kMidway, kMidway, "Remove Midway Bets", "one or more Midway bets present"},
-    {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, "Remove Special Prop Bets", ""},
+    {&Settings::UseBig68, kBig6, kBig8, Msg::kAskRemoveBig68},
+    {&Settings::UseFire, kFire, kFire, Msg::kAskRemoveFire},
+    {&Settings::UseMidway, kMidway, kMidway, Msg::kAskRemoveMidway},
+    {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, Msg::kAskRemoveSpecials},
 };
+static_assert(NeedOnly({Msg::kAskRemoveBig68, Msg::kAskRemoveFire, Msg::kAskRemoveMidway,
+                        Msg::kAskRemoveSpecials},
+                       {"bets"}));
 
-std::string SpecialBetsUp(const Game& game) {
+std::string NamesUp(const Game& game, const BetSet& bets) {
   std::string names;
-  (game.table.AnyBets & kSpecialProps).ForEach([&names](int bet) {
+  (game.table.AnyBets & bets).ForEach([&names](int bet) {
     names += (names.empty() ? "" : ", ") + BetName(bet);
   });
-  return "one or more wagers on the following special prop bets: " + names;
+  return names;
 }
 
 bool SevenPoint7Rides(const Game& game) {
@@ -69,23 +70,14 @@ bool SevenPoint7Rides(const Game& game) {
 bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
   const BetSet bets = BetRange(family.first, family.last);
   if (!AnySeatHas(game, bets)) return true;
-  const bool special = IsSpecialProp(family.first);
-  error = std::string(family.title) + ": bets are up, and stay.";
-  if (special && SevenPoint7Rides(game)) {
-    error =
-        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
-        "contract "
-        "bet, you can't remove it until it resolves.";
-    ShowMessage(game, family.title, error);
+  if (IsSpecialProp(family.first) && SevenPoint7Rides(game)) {
+    error = MessageText<Msg::kSpecialsAreContract>();
+    ShowMessage<Msg::kSpecialsAreContract>(game);
     return false;
   }
-  const std::string text = "There are currently " +
-                           (special ? SpecialBetsUp(game) : std::string(family.text)) +
-                           " which will be removed if you continue with this operation.  Would you like to "
-                           "continue?";
-  if (ShowMessage(game, family.title, text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes) return false;
-  error.clear();
-  return true;
+  if (ShowMessage(game, family.question, {{"bets", NamesUp(game, bets)}}) == kResultYes) return true;
+  error = MessageText<Msg::kBetsStay>(With<"title">(MessageText(RowOf(family.question).title)));
+  return false;
 }
 
 void TakeFamilyDown(Game& game, const Family& family) {
@@ -117,7 +109,7 @@ bool SwitchFamiliesOff(Game& game, const Settings& before, std::string& error) {
 }
 
 // Whether every seat can pay the vig that the new settings ask for up front.
-bool VigCovered(Game& game, const char*& title, std::string& error) {
+bool VigCovered(Game& game, std::string& error) {
   int short_ = 0;
   bool lay = false;
   for (int seat = 1; seat <= kSeats; ++seat) {
@@ -136,34 +128,21 @@ bool VigCovered(Game& game, const char*& title, std::string& error) {
     if (!covered) ++short_;
   }
   if (short_ == 0) return true;
-  title = lay ? "Lay Bet Vig" : "Buy Bet Vig";
-  error =
-      std::string("You're not allowed to change this setting at this time because ") +
-      (short_ == 1 && game.table.OccupiedSeats == 1
-           ? "you don't have enough bankroll remaining to pay the added up-front vig that would be required."
-           : "one or more players doesn't have enough bankroll remaining to pay the added up-front vig that "
-             "would be required.") +
-      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
-      "negative bankroll\"";
+  const Msg message = lay ? Msg::kLayVigNotCovered : Msg::kBuyVigNotCovered;
+  const std::vector<MessageArgument> arguments = {{"alone", short_ == 1 && game.table.OccupiedSeats == 1}};
+  error = MessageText(message, arguments);
+  ShowMessage(game, message, arguments);
   return false;
 }
+static_assert(NeedOnly({Msg::kLayVigNotCovered, Msg::kBuyVigNotCovered}, {"alone"}));
 
 void OfferHouseStandard(Game& game) {
   TableState& table = game.table;
   if (table.OccupiedSeats == 0) return;
-  constexpr const char* kTitle = "Work On Come-out Roll";
-  if (ShowMessage(game, kTitle,
-                  "You've changed the house standard for bets that work on the come-out roll.\r\rNew players "
-                  "take the house standard as they buy in.\r\rPlayers who are at the table keep the settings "
-                  "that they have.\r\rWould you like to make any of the present players' settings match the "
-                  "new house standard now?",
-                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
-    return;
+  if (!Confirms<Msg::kAskMatchHouse>(game)) return;
   for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(table, seat) && ShowMessage(game, kTitle,
-                                               "Would you like to make " + table.seats[seat].SeatName +
-                                                   "'s settings match the house standard?",
-                                               kMsgYes | kMsgNo | kMsgQuestion) == kResultYes)
+    if (IsOccupied(table, seat) &&
+        Confirms<Msg::kAskMatchHouseOf>(game, With<"player">(table.seats[seat].SeatName)))
       table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
 }
 
@@ -228,8 +207,7 @@ bool SettingsHold(Game& game, const KeptSettings& before, std::string& error) {
     if (place.row->facts.effect != Effect::kNegativeAllowed) continue;
     const int seat = place.seat.value;
     if (game.table.seats[seat].AllowNegativeBankroll || game.table.BankrollCurrent[seat] >= kZero) continue;
-    error = "Before you can un-check this box, " + game.table.seats[seat].SeatName +
-            " must have a non-negative bankroll. Some options:\r\r -- Make a withdrawal from the ATM";
+    error = MessageText<Msg::kBankrollIsNegative>(With<"player">(game.table.seats[seat].SeatName));
     return false;
   }
   return true;
@@ -240,11 +218,7 @@ bool CarryOutSettings(Game& game, const KeptSettings& before, std::string& error
   RebuildBetUnits(game.payoffs, game.settings.Unit());
   const std::vector<SettingPlace> changes = ChangesSince(game, before);
   const bool vig = Has(changes, Effect::kVig);
-  const char* title = "";
-  if (vig && !VigCovered(game, title, error)) {
-    ShowMessage(game, title, error);
-    return false;
-  }
+  if (vig && !VigCovered(game, error)) return false;
   if (!SwitchFamiliesOff(game, before.settings, error)) return false;
   if (vig) RecomputeVig(game);
   game.autobet.ScriptsCompiled = false;

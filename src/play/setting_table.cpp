@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "base/bet_catalogue.h"
+#include "base/messages.h"
 #include "play/setting_effects.h"
 #include "rules/configuration.h"
 #include "rules/payoffs.h"
@@ -101,7 +102,7 @@ bool HasMeaning(const Meaning& meaning, std::string_view name, std::string& erro
 
 bool IsSeatNumber(int seat, std::string& error) {
   if (seat >= 0 && seat <= kSeats) return true;
-  error = "There is no seat " + std::to_string(seat) + "; seats are 1 to 8.";
+  error = MessageText<Msg::kNoSuchSeat>(With<"seat">(seat));
   return false;
 }
 
@@ -131,7 +132,7 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   }
   if (!BelongsToSeat(meaning, name, change.seat, error)) return false;
   if (change.seat > 0 && !IsOccupied(game.table, change.seat)) {
-    error = "There is no player at seat " + std::to_string(change.seat) + ".";
+    error = MessageText<Msg::kSeatOpen>(With<"seat">(change.seat));
     return false;
   }
   const bool everyPlayer = meaning.row->keeper == Keeper::kPlayer && change.seat == 0;

@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstdio>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "dice/roll_file.h"
 #include "state/game.h"
@@ -26,7 +27,8 @@ std::string FinishScriptOutput(Game& game, int seat) {
   errno = 0;
   const bool failed = std::fflush(file) != 0;
   if (!failed && std::ferror(file) == 0) return "";
-  return FileErrorText("write", "the output of " + game.table.seats[seat].SeatName + "'s script",
+  return FileErrorText("write",
+                       MessageText<Msg::kOutputOfScript>(With<"player">(game.table.seats[seat].SeatName)),
                        errno == 0 ? EIO : errno);
 }
 

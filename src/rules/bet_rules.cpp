@@ -1,11 +1,12 @@
 #include "rules/bet_rules.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/consistency.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -25,19 +26,20 @@ constexpr std::array<std::uint8_t, kSeatRows> kPayBit = [] {
   return bits;
 }();
 
-// --- Texts.
+// --- Notes.
 
 bool NotesShown(const Game& game, int bit) {
   return !game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0 &&
          (game.settings.MessageMask & bit) != 0;
 }
 
-void ShowNote(Game& game, int seat, int bet, int bit, const std::string& sentence) {
-  if (!NotesShown(game, bit)) return;
-  ShowMessage(game, BetName(bet) + " Bet", game.table.seats[seat].SeatName + ",\r\r" + sentence);
+// A note to the seat's player about a bet.
+template <Msg kId, typename... Arguments>
+void ShowNote(Game& game, int seat, int bet, int bit, const Arguments&... arguments) {
+  if (NotesShown(game, bit))
+    ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"bet">(BetName(bet)),
+                     arguments...);
 }
-
-std::string Dollars(Currency amount) { return "$" + FormatMoney(amount); }
 
 // --- The rules of the game. A rule refuses an increase (or a decrease) of its bets when its condition
 // holds, with its text.
@@ -76,59 +78,36 @@ struct BetRule {
   int last;
   bool decrease;
   bool (*refuses)(const RuleCase&);
-  bool endsCall;     // nothing of the change is left to look at
-  const char* text;  // NAME is the bet's name, FLAT that of its flat bet
+  bool endsCall;  // nothing of the change is left to look at
+  Msg text;
 };
-
-constexpr const char* kOddsText = "You may not make a NAME bet \runtil you've established a FLAT bet.";
-constexpr const char* kContractText =
-    "You may not decrease or remove a NAME bet \rwhile a point is established.";
-constexpr const char* kComeOutText =
-    "You may not make or increase a NAME bet unless the shooter is on a come-out roll.";
-constexpr const char* kHandText =
-    "You may not make or increase a NAME bet after the shooter has started a hand.";
 
 constexpr BetRule kRules[] = {
-    {kPassLine, kPassLine, true, PointAndUnder, false,
-     "You may not decrease or remove your Pass Line bet \rwhile a point is established."},
-    {kCome4, kCome4 + 5, true, UnderCommitted, false,
-     "You may not decrease or remove a Come bet \rwhich is established on a point."},
-    {kSevenPoint7, kSevenPoint7, true, PointAndUnder, false, kContractText},
+    {kPassLine, kPassLine, true, PointAndUnder, false, Msg::kPassLineIsContract},
+    {kCome4, kCome4 + 5, true, UnderCommitted, false, Msg::kComeIsContract},
+    {kSevenPoint7, kSevenPoint7, true, PointAndUnder, false, Msg::kBetIsContract},
 
-    {kPassLine, kPassLine, false, PutRefusedWithPoint, false,
-     "You may not make or increase a Pass Line bet \rwhile a point is established.\r\r(Unless you check "
-     "\"Allow Put Bets\" on the\rConfiguration screen.)"},
-    {kCome, kCome, false, NoPoint, true, "You may not make a Come bet \runtil a point is established."},
-    {kDontPass, kDontPass, false, PointAndOver, false,
-     "You may not make or increase a Don't Pass bet \rwhile a point is established."},
-    {kDontCome, kDontCome, false, NoPoint, false,
-     "You may not make a Don't Come bet \runtil a point is established."},
-    {kPassLineOdds, kPassLineOdds, false, NoPointOrFlat, false,
-     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
-     "established."},
-    {kDontPassOdds, kDontPassOdds, false, NoPointOrFlat, false,
-     "You may not make a Don't Pass Odds bet unless \ryou also have a Don't Pass bet and a point is "
-     "established."},
-    {kComeOdds4, kComeOdds4 + 5, false, NoFlatBet, false, kOddsText},
-    {kDontComeOdds4, kDontComeOdds4 + 5, false, NoFlatBet, false, kOddsText},
-    {kCome4, kCome4 + 5, false, DirectPutRefused, false,
-     "You may not make or increase a Come bet \rdirectly on a point number.\r\r(Unless you check \"Allow Put "
-     "Bets\" on the\rConfiguration screen.)"},
-    {kDontCome4, kDontCome4 + 5, false, DirectRefused, false,
-     "You may not make or increase a Don't Come bet \rdirectly on a point number."},
-    {kAllSmall, kAllSmall, false, SmallMarked, false,
-     "You may not make or increase an NAME bet \rwhile any small numbers are marked."},
-    {kAllTall, kAllTall, false, TallMarked, false,
-     "You may not make or increase an NAME bet \rwhile any tall numbers are marked."},
-    {kMakeAll, kMakeAll, false, AnyMarked, false,
-     "You may not make or increase a NAME bet \rwhile any numbers are marked."},
-    {kFourRolls, kFourRolls, false, CountRunning, false,
-     "You may not make or increase a NAME bet if the count is in progress."},
-    {kPoint7, kSevenPoint7, false, PointAndOver, false, kComeOutText},
-    {kSharpShooter, kRideTheLine, false, HandStarted, false, kHandText},
-    {kFire, kFire, false, HandStarted, false,
-     "You may not make or increase a Fire bet after the shooter has started a hand."},
+    {kPassLine, kPassLine, false, PutRefusedWithPoint, false, Msg::kPutPassLineRefused},
+    {kCome, kCome, false, NoPoint, true, Msg::kComeNeedsPoint},
+    {kDontPass, kDontPass, false, PointAndOver, false, Msg::kDontPassRefused},
+    {kDontCome, kDontCome, false, NoPoint, false, Msg::kDontComeNeedsPoint},
+    {kPassLineOdds, kPassLineOdds, false, NoPointOrFlat, false, Msg::kPassLineOddsRefused},
+    {kDontPassOdds, kDontPassOdds, false, NoPointOrFlat, false, Msg::kDontPassOddsRefused},
+    {kComeOdds4, kComeOdds4 + 5, false, NoFlatBet, false, Msg::kOddsNeedFlatBet},
+    {kDontComeOdds4, kDontComeOdds4 + 5, false, NoFlatBet, false, Msg::kOddsNeedFlatBet},
+    {kCome4, kCome4 + 5, false, DirectPutRefused, false, Msg::kPutComeRefused},
+    {kDontCome4, kDontCome4 + 5, false, DirectRefused, false, Msg::kPutDontComeRefused},
+    {kAllSmall, kAllSmall, false, SmallMarked, false, Msg::kSmallNumbersMarked},
+    {kAllTall, kAllTall, false, TallMarked, false, Msg::kTallNumbersMarked},
+    {kMakeAll, kMakeAll, false, AnyMarked, false, Msg::kNumbersMarked},
+    {kFourRolls, kFourRolls, false, CountRunning, false, Msg::kCountInProgress},
+    {kPoint7, kSevenPoint7, false, PointAndOver, false, Msg::kNeedsComeOutRoll},
+    {kSharpShooter, kRideTheLine, false, HandStarted, false, Msg::kHandHasStarted},
+    {kFire, kFire, false, HandStarted, false, Msg::kHandHasStarted},
 };
+static_assert(std::all_of(std::begin(kRules), std::end(kRules), [](const BetRule& rule) {
+  return NeedsOnly(rule.text, {"player", "bet", "flat"});
+}));
 
 // The rule of each bet for an increase (0) and a decrease (1), by its place in the table; -1 for none.
 constexpr auto kRuleOf = [] {
@@ -142,16 +121,6 @@ constexpr auto kRuleOf = [] {
   return places;
 }();
 
-std::string RuleText(const BetRule& rule, int bet) {
-  std::string text = rule.text;
-  const auto replace = [&text](const char* word, const std::string& name) {
-    if (const auto at = text.find(word); at != std::string::npos) text.replace(at, 4, name);
-  };
-  replace("NAME", BetName(bet));
-  replace("FLAT", BetName(FlatBetOf(bet)));
-  return text;
-}
-
 enum class Verdict { kAllowed, kRefused, kEnds };
 
 // Applies the bet's rule. A refused increase changes nothing, so no limit is looked at.
@@ -164,7 +133,10 @@ Verdict ApplyRules(Game& game, int seat, int bet, Currency& change) {
   if (!rule.refuses({game, seat, bet, amount + change})) return Verdict::kAllowed;
   // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
   if (change != kZero && NotesShown(game, kNoteRefusals))
-    ShowNote(game, seat, bet, kNoteRefusals, RuleText(rule, bet));
+    ShowMessage(game, rule.text,
+                {{"player", game.table.seats[seat].SeatName},
+                 {"bet", BetName(bet)},
+                 {"flat", BetName(FlatBetOf(bet))}});
   change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
   if (rule.endsCall || (decrease && change == kZero)) return Verdict::kEnds;
   return decrease ? Verdict::kAllowed : Verdict::kRefused;
@@ -190,7 +162,7 @@ void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease
     return;
   }
   change = minimum - amount;
-  ShowNote(game, seat, bet, kNoteRefusals, "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+  ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
 }
 
 void ApplyMaximum(Game& game, int seat, int bet, Currency& change) {
@@ -199,15 +171,11 @@ void ApplyMaximum(Game& game, int seat, int bet, Currency& change) {
   if (amount + change <= maximum) return;
   const Currency committed = game.table.BetCommitted(seat, bet);
   const bool keptByContract = IsContract(bet) && committed > maximum;
-  if (NotesShown(game, kNoteRefusals)) {
-    std::string text = "The maximum " + BetName(bet) + " bet is " + Dollars(maximum);
-    if (keptByContract)
-      text += "\r\rHowever, because the " + BetName(bet) + " is a contract bet and you established it at " +
-              Dollars(committed) +
-              " before you recently lowered the maximum allowed on the Configuration screen, it must remain "
-              "unchanged until it resolves.";
-    ShowNote(game, seat, bet, kNoteRefusals, text);
-  }
+  if (keptByContract)
+    ShowNote<Msg::kMaximumBetButContract>(game, seat, bet, kNoteRefusals, With<"limit">(maximum),
+                                          With<"contract">(committed));
+  else
+    ShowNote<Msg::kMaximumBet>(game, seat, bet, kNoteRefusals, With<"limit">(maximum));
   if (keptByContract) {
     change = committed - amount;
   } else if (change < kZero) {
@@ -223,15 +191,10 @@ Currency TableCost(const Game& game, int seat, int bet, Currency change, Currenc
   return change + VigFor(game, bet, game.table.BetAmount(seat, bet) + change) - vigOnTable;
 }
 
-std::string BankrollText(const Game& game, int seat, int bet) {
+bool HasOtherBets(const Game& game, int seat, int bet) {
   BetSet others = game.table.seats[seat].SeatBets;
   others.Remove(bet);
-  return std::string(
-             "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options "
-             "are: "
-             "\r") +
-         (others.Empty() ? "" : "      - Bet less on other bets.\r") +
-         "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
+  return !others.Empty();
 }
 
 // The furthest that a limit may lower the bet: all of it, or down to what its contract holds.
@@ -267,10 +230,10 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
   const Currency minimum = MinBetFor(game, bet);
   if (change > lowest && amount + change < minimum) {
     change = lowest;
-    ShowNote(game, seat, bet, kNoteRefusals, "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+    ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
   }
-  if (NotesShown(game, kNoteBankroll))
-    ShowNote(game, seat, bet, kNoteBankroll, BankrollText(game, seat, bet));
+  ShowNote<Msg::kBankrollTooSmall>(game, seat, bet, kNoteBankroll,
+                                   With<"others">(HasOtherBets(game, seat, bet)));
 }
 
 Currency RoundChange(Currency change, Currency unit) {
@@ -286,10 +249,11 @@ void ApplyVig(Game& game, int seat, int bet) {
   if (vig == held) return;
   if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount += vig - held;
   held = vig;
-  if (!NotesShown(game, kNoteAdjusted) || vig == kZero) return;
-  ShowNote(
-      game, seat, bet, kNoteAdjusted,
-      (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
+  if (vig == kZero) return;
+  if (VigUpFront(game, bet))
+    ShowNote<Msg::kVigCharged>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
+  else
+    ShowNote<Msg::kVigOnWin>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
 }
 
 Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
@@ -298,13 +262,10 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
   Currency allowed = wanted;
   if (wanted.IsError()) allowed = change < kZero ? -kStackLimit : kStackLimit;
   allowed = std::clamp(allowed, -kStackLimit, kStackLimit);
-  if (allowed != wanted && NotesShown(game, kNoteRefusals)) {
-    const bool least = change < kZero;
-    ShowNote(game, seat, bet, kNoteRefusals,
-             std::string(least ? "The minimum" : "The maximum") + " CheckStack value is: $" +
-                 FormatMoney(least ? -kStackLimit : kStackLimit) + "\r\r" + BetName(bet) + "\r" +
-                 (allowed == value ? "which is already stacked." : "which is being stacked."));
-  }
+  if (allowed != wanted)
+    ShowNote<Msg::kStackAtLimit>(game, seat, bet, kNoteRefusals, With<"least">(change < kZero),
+                                 With<"limit">(change < kZero ? -kStackLimit : kStackLimit),
+                                 With<"already">(allowed == value));
   SetBetAmount(game, seat, bet, allowed);
   return allowed - value;
 }
@@ -357,7 +318,7 @@ Currency DecideChange(Game& game, int seat, int bet, Currency request) {
   const bool decrease = change < kZero;
   const bool increase = change > kZero;
   if (increase && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
-    ShowNote(game, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
+    ShowNote<Msg::kBetNotOffered>(game, seat, bet, kNoteRefusals);
     return kZero;
   }
   const Verdict verdict = ApplyRules(game, seat, bet, change);
@@ -569,7 +530,7 @@ void Call(Game& game, int seat, int bet, bool on) {
 bool CallBet(Game& game, int seat, int bet, bool on) {
   if (!IsTableBet(bet) || !FactsOf(bet).callable) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
-      ShowMessage(game, "Action not allowed", "You may not call the " + BetName(bet) + " bet ON or OFF.");
+      ShowMessage<Msg::kNotCallable>(game, With<"bet">(BetName(bet)));
     return false;
   }
   Call(game, seat, bet, on);
@@ -592,7 +553,7 @@ bool BuyPlaceBet(Game& game, int seat, int bet) {
   const Currency amount = IsPlace(bet) ? game.table.BetAmount(seat, bet) : kZero;
   if (amount == kZero) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
-      ShowMessage(game, "Action not allowed", "You may only buy Place bets.");
+      ShowMessage<Msg::kOnlyPlaceBetsBuy>(game);
     return IsPlace(bet);
   }
   const int call = BetWorkingOf(game, seat, bet);

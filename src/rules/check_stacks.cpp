@@ -4,7 +4,7 @@
 #include <set>
 
 #include "rules/bet_rules.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -13,16 +13,9 @@ bool IsStackOf(int seat, int stack) {
   return seat >= 1 && seat <= kSeats && stack >= 0 && stack < kCheckStacks;
 }
 
-struct Question {
-  const char* title;
-  const char* text;
-};
-// By StackDeletion, before the player's name.
-constexpr Question kQuestions[3] = {
-    {"Delete All", "Are you sure you want to delete ALL the CheckStack names and values of "},
-    {"Delete All Values", "Are you sure you want to delete ALL the CheckStack values of "},
-    {"Delete All Names", "Are you sure you want to delete ALL the CheckStack names of "},
-};
+// By StackDeletion.
+constexpr Msg kQuestions[3] = {Msg::kAskDeleteStacks, Msg::kAskDeleteStackValues, Msg::kAskDeleteStackNames};
+static_assert(NeedOnly({kQuestions[0], kQuestions[1], kQuestions[2]}, {"player"}));
 
 }  // namespace
 
@@ -55,8 +48,7 @@ bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks
   const bool inRange =
       std::all_of(stacks.begin(), stacks.end(), [seat](int stack) { return IsStackOf(seat, stack); });
   if (!inRange || std::set<int>(stacks.begin(), stacks.end()).size() != stacks.size()) {
-    ShowMessage(game, kVisibleStacksTitle,
-                inRange ? kVisibleStacksText : "CheckStacks are numbered from 0 to 99.");
+    ShowMessage(game, inRange ? Msg::kStacksNotDifferent : Msg::kNoSuchStack, {});
     return false;
   }
   std::copy(stacks.begin(), stacks.end(), game.table.seats[seat].VisibleStacks);
@@ -74,9 +66,8 @@ void ClearCheckStacks(Game& game, int seat, StackDeletion what) {
 
 bool DeleteCheckStacks(Game& game, int seat, StackDeletion what) {
   if (seat < 1 || seat > kSeats) return false;
-  const Question& question = kQuestions[static_cast<int>(what)];
-  if (ShowMessage(game, question.title, question.text + game.table.seats[seat].SeatName + "?",
-                  kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+  if (ShowMessage(game, kQuestions[static_cast<int>(what)], {{"player", game.table.seats[seat].SeatName}}) !=
+      kResultYes)
     return false;
   ClearCheckStacks(game, seat, what);
   return true;

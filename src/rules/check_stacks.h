@@ -17,8 +17,6 @@ inline constexpr int kVisibleStacks = 4;
 inline constexpr const char* kVisibleStackLabels[kVisibleStacks] = {
     "Set 1st checkstack to #", "Set 2nd checkstack to #", "Set 3rd checkstack to #",
     "Set 4th checkstack to #"};
-inline constexpr const char* kVisibleStacksTitle = "Set Visible CheckStacks";
-inline constexpr const char* kVisibleStacksText = "Each CheckStack entry should be a different number.";
 
 // In all of these: seat 1 to 8, stack 0 to 99. Beyond, reading gives nothing and writing does nothing.
 Currency CheckStackValue(const Game& game, int seat, int stack);

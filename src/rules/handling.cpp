@@ -3,7 +3,7 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -38,20 +38,31 @@ constexpr int kAdjustNotes = 4;
 
 Currency AmountUp(const Game& game, int seat, int bet) { return game.table.BetAmount(seat, bet); }
 
-// The note of an action, at its last change. Only formed when somebody can read it.
-void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
-  const TableState& table = game.table;
-  if (table.TurboRollActive || table.QuietChanges > 0 || (game.settings.MessageMask & kAdjustNotes) == 0)
-    return;
-  const Currency difference = AmountUp(game, seat, bet) - table.BetBeforeRoll(seat, bet);
-  std::string text = table.seats[seat].SeatName + ",\r\r" + BetName(bet) + " bet ";
-  if (difference > kZero)
-    text += "increased by: $" + FormatMoney(difference);
-  else if (difference < kZero)
-    text += "decreased by: $" + FormatMoney(-difference);
-  else
-    text += "remains the same.";
-  ShowMessage(game, title, text);
+bool NotesShown(const Game& game) {
+  return !game.table.TurboRollActive && game.table.QuietChanges == 0 &&
+         (game.settings.MessageMask & kAdjustNotes) != 0;
+}
+
+// The note of an action, at its last change. action: what it is called; only formed when somebody can read
+// it.
+template <typename Action>
+void ShowActionNote(Game& game, int seat, int bet, Action&& action) {
+  if (!NotesShown(game)) return;
+  const Currency difference = AmountUp(game, seat, bet) - game.table.BetBeforeRoll(seat, bet);
+  ShowMessage(game,
+              difference > kZero   ? Msg::kBetIncreasedBy
+              : difference < kZero ? Msg::kBetDecreasedBy
+                                   : Msg::kBetRemains,
+              {{"title", action()},
+               {"player", game.table.seats[seat].SeatName},
+               {"bet", BetName(bet)},
+               {"amount", Abs(difference)}});
+}
+static_assert(NeedOnly({Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRemains},
+                       {"title", "player", "bet", "amount"}));
+
+void ShowActionNote(Game& game, int seat, int bet, Msg action) {
+  ShowActionNote(game, seat, bet, [action] { return MessageText(action); });
 }
 
 // An increase. One that the rules refuse leaves the bet as it is, which the bankroll must cover still.
@@ -74,24 +85,24 @@ void TakeDown(Game& game, int seat, int bet) {
 void SameBet(Game& game, int seat, int bet) {
   ChangeBet(game, seat, bet, kZero);
   if (AmountUp(game, seat, bet) != game.table.BetBeforeRoll(seat, bet))
-    ShowActionNote(game, seat, bet, "Same Bet");
+    ShowActionNote(game, seat, bet, Msg::kActionSame);
 }
 
 void BetRemainder(Game& game, int seat, int bet) {
   const Currency remainder = game.table.NetPayoff + game.table.BetBeforeRoll(seat, bet);
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
   ChangeBet(game, seat, bet, remainder);
-  ShowActionNote(game, seat, bet, "Bet remainder");
+  ShowActionNote(game, seat, bet, Msg::kActionRemainder);
 }
 
 void PressOneUnit(Game& game, int seat, int bet) {
   Raise(game, seat, bet, game.table.PressUnit);
-  ShowActionNote(game, seat, bet, "Press 1 Unit");
+  ShowActionNote(game, seat, bet, Msg::kActionPressUnit);
 }
 
 void PressDouble(Game& game, int seat, int bet) {
   Raise(game, seat, bet, AmountUp(game, seat, bet));
-  ShowActionNote(game, seat, bet, "Press Double");
+  ShowActionNote(game, seat, bet, Msg::kActionPressDouble);
 }
 
 void Parlay(Game& game, int seat, int bet) {
@@ -106,7 +117,7 @@ void Parlay(Game& game, int seat, int bet) {
   handling.DoBias = before.DoBias;
   handling.DontBias = before.DontBias;
   handling.LayBias = before.LayBias;
-  ShowActionNote(game, seat, bet, "Parlay");
+  ShowActionNote(game, seat, bet, Msg::kActionParlay);
 }
 
 // What one adjust slot says.
@@ -129,16 +140,16 @@ Currency UnitsInDollars(const Game& game, int bet, const Adjustment& adjustment)
   return Multiply(Multiply(adjustment.value, game.settings.CheckValue[check]), perUnit);
 }
 
+constexpr Msg kAdjustTitles[] = {Msg::kActionPlus, Msg::kActionMinus, Msg::kActionTimes, Msg::kActionDivided};
+
 std::string AdjustTitle(const Adjustment& adjustment) {
-  constexpr const char* kWords[] = {"plus ", "minus ", "times ", "divided by "};
-  std::string text = std::string("Same bet ") + kWords[adjustment.kind & 3];
-  const bool sum = adjustment.kind == kPlus || adjustment.kind == kMinus;
-  if (sum && adjustment.unit == 0) text += "$";
-  text += FormatMoney(adjustment.value);
-  if (adjustment.unit == kPercent) text += "%";
-  if (adjustment.unit > kPercent && sum) text += " units";
-  return text;
+  return MessageText(kAdjustTitles[adjustment.kind & 3], {{"value", adjustment.value},
+                                                          {"dollars", adjustment.unit == 0},
+                                                          {"percent", adjustment.unit == kPercent},
+                                                          {"units", adjustment.unit > kPercent}});
 }
+static_assert(NeedOnly({Msg::kActionPlus, Msg::kActionMinus, Msg::kActionTimes, Msg::kActionDivided},
+                       {"value", "dollars", "percent", "units"}));
 
 void SameBetAdjusted(Game& game, int seat, int bet, const Adjustment& adjustment) {
   const Currency before = game.table.BetBeforeRoll(seat, bet);
@@ -156,7 +167,15 @@ void SameBetAdjusted(Game& game, int seat, int bet, const Adjustment& adjustment
   }
   if (wanted.IsError()) wanted = before;  // a division by 0 leaves the bet as it was
   Raise(game, seat, bet, wanted - AmountUp(game, seat, bet));
-  ShowActionNote(game, seat, bet, AdjustTitle(adjustment));
+  ShowActionNote(game, seat, bet, [&] { return AdjustTitle(adjustment); });
+}
+
+std::string FixedTitle(const Game& game, const Adjustment& adjustment, Currency wanted) {
+  if (adjustment.unit <= kPercent) return MessageText<Msg::kActionBet>(With<"amount">(wanted));
+  const int check = adjustment.unit - 1;
+  return MessageText<Msg::kActionBetUnits>(
+      With<"count">(adjustment.value),
+      With<"check">(check <= 5 ? FormatMoney(game.settings.CheckValue[check]) : std::string()));
 }
 
 void BetFixed(Game& game, int seat, int bet, const Adjustment& adjustment) {
@@ -164,13 +183,7 @@ void BetFixed(Game& game, int seat, int bet, const Adjustment& adjustment) {
   const Currency wanted = units ? UnitsInDollars(game, bet, adjustment) : adjustment.value;
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
   ChangeBet(game, seat, bet, wanted);
-  std::string title = "Bet $" + FormatMoney(wanted);
-  if (units) {
-    const int check = adjustment.unit - 1;
-    title = "Bet $" + FormatMoney(adjustment.value) + " $" +
-            (check <= 5 ? FormatMoney(game.settings.CheckValue[check]) : "") + " units";
-  }
-  ShowActionNote(game, seat, bet, title);
+  ShowActionNote(game, seat, bet, [&] { return FixedTitle(game, adjustment, wanted); });
 }
 
 // The adjustment of choices 6 and 7: what was typed in the dialog, else the seat's stored slot.

@@ -1,7 +1,7 @@
 #include "rules/seed_rng.h"
 
 #include "dice/generators.h"
-#include "state/game.h"
+#include "state/show_message.h"
 #include "stats/events_log.h"
 
 namespace tessaryn {
@@ -9,19 +9,17 @@ namespace {
 
 constexpr Currency kLowestSeed = Currency::Dollars(1);
 
-// False when the user gave up.
+// Asks until the seed is within its limits. False when the user gave up.
 bool AskSeed(Game& game, Currency& candidate) {
-  const std::int32_t limit = SeedLimit(game.generators);
-  std::string text = SeedPrompt(limit);
-  for (;;) {
+  const Currency limit = Currency::Dollars(SeedLimit(game.generators));
+  for (Msg question = Msg::kAskSeed;; question = Msg::kAskSeedWithinLimits) {
     game.box.MsgValue1 = Currency::Dollars(game.generators.RngLastSeed);
-    if (ShowMessage(game, kSeedTitle, text, kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
-      return false;
+    if (ShowMessage(game, question, {{"limit", limit}}) != kResultOk) return false;
     candidate = game.box.MsgValue1;
-    if (candidate >= kLowestSeed && candidate <= Currency::Dollars(limit)) return true;
-    text = SeedOutOfLimitsPrompt(limit);
+    if (candidate >= kLowestSeed && candidate <= limit) return true;
   }
 }
+static_assert(NeedOnly({Msg::kAskSeed, Msg::kAskSeedWithinLimits}, {"limit"}));
 
 }  // namespace
 
@@ -38,7 +36,9 @@ void SeedRng(Game& game, bool& useGivenSeed, Currency candidate) {
     useGivenSeed = false;
     return;
   }
-  if (game.events.RecordEventsActive) WriteEventsLogLine(game, SeedLogLine(generators));
+  if (game.events.RecordEventsActive)
+    WriteEventsLogLine(game, MessageText<Msg::kLogSeeded>(With<"generator">(generators.GeneratorIndex + 1),
+                                                          With<"seed">(generators.RngLastSeed)));
 }
 
 void SeedRng(Game& game, bool useGivenSeed) { SeedRng(game, useGivenSeed, kZero); }

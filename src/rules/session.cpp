@@ -9,6 +9,7 @@
 #include "rules/seed_rng.h"
 #include "state/game.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
 #include "stats/sessions_log.h"
@@ -59,10 +60,10 @@ void ClearBets(Game& game, bool keepCheckstacks) {
 }
 
 Currency AskBankroll(Game& game, int seat) {
-  const std::string question = "Enter " + game.table.seats[seat].SeatName + "'s beginning bankroll:";
   Currency& stored = game.table.seats[seat].BankrollInitAmount;
   game.box.MsgValue1 = stored;
-  if (ShowMessage(game, "Beginning Bankroll", question, kMsgOk | kMsgInput | kMsgQuestion) == kResultOk)
+  if (ShowMessage<Msg::kAskBeginningBankroll>(game, With<"player">(game.table.seats[seat].SeatName)) ==
+      kResultOk)
     stored = std::clamp(game.box.MsgValue1, -kBankrollLimit, kBankrollLimit);
   return stored;
 }
@@ -116,7 +117,7 @@ void SetRollFile(Game& game, int choice) {
   std::string problem;
   if (choice == kCloseRollFile && IsRollFileOpen(file)) problem = CloseRollFile(file);
   if (choice == kRewindRollFile && IsRollFileOpen(file)) problem = RewindForPlayback(file);
-  if (!problem.empty()) ShowMessage(game, kRewindTitle, problem);
+  if (!problem.empty()) ShowMessage<Msg::kNotRewound>(game, With<"problem">(problem));
 }
 
 }  // namespace

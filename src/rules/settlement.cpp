@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/bet_catalogue.h"
+#include "base/messages.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
 #include "rules/handling.h"
@@ -157,7 +158,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
   if (net == kZero) return;
   const Currency bankroll = table.BankrollCurrent[seat] + net;
   if (net.IsError() || bankroll.IsError() || !UpdateBetStats(game, seat, bet, amount, net)) {
-    ReportError(game, kOverflowText, kOverflowError, "SettleBet");
+    ReportError(game, MessageText<Msg::kOverflow>(), kOverflowError, "SettleBet");
     return;
   }
   if (IsComeNumber(bet)) table.seats[seat].ComeTravelAmount[bet - kCome4] = kZero;

@@ -2,14 +2,12 @@
 
 #include <string>
 
-#include "state/game.h"
+#include "state/show_message.h"
 #include "stats/events_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
-
-constexpr const char* kPassTitle = "Pass the Dice";
 
 // The dice go round downwards.
 int NextSeat(int seat) { return seat <= 1 ? kSeats : seat - 1; }
@@ -42,19 +40,16 @@ ShooterSearch SearchShooter(const Game& game) {
   return search;
 }
 
-std::string NobodyText(const Game& game, const ShooterSearch& search) {
-  std::string text = "Unable to pass the dice at this time.\r\r";
-  if (search.lackLineBet == 0) {
-    return text + (search.others == 1
-                       ? game.table.seats[search.otherSeat].SeatName + " doesn't want to shoot."
-                       : "None of the other players want to shoot.");
-  }
-  text += search.lackLineBet == 1
-              ? "There's one other player who wants to shoot "
-              : "There are " + std::to_string(search.lackLineBet) + " other players who want to shoot ";
-  return text +
-         "but can't because a line bet is required and Put bets are not allowed.\r\rPlease wait for a "
-         "come-out roll or check the 'Allow Put bets' option on the 'Bets tab' of the configuration screen.";
+// Why nobody takes the dice.
+void TellNobody(Game& game, const ShooterSearch& search) {
+  if (search.others == 0)
+    ShowMessage<Msg::kNobodyToPassTo>(game, With<"others">(true));
+  else if (search.lackLineBet > 0)
+    ShowMessage<Msg::kShootersLackLineBet>(game, With<"count">(search.lackLineBet));
+  else if (search.others == 1)
+    ShowMessage<Msg::kPlayerWontShoot>(game, With<"player">(game.table.seats[search.otherSeat].SeatName));
+  else
+    ShowMessage<Msg::kNobodyWillShoot>(game);
 }
 
 void GiveDice(Game& game, int seat, int reason) {
@@ -62,7 +57,7 @@ void GiveDice(Game& game, int seat, int reason) {
   const int oldShooter = table.ShooterSeat;
   const bool byUser = reason == kPassByUser;
   if (byUser && game.events.RecordShooterChanges)
-    WriteEventsLogLine(game, "    The dice were passed to " + table.seats[seat].SeatName);
+    WriteEventsLogLine(game, MessageText<Msg::kLogDicePassed>(With<"player">(table.seats[seat].SeatName)));
   table.ShooterSeat = seat;
   game.host->Changed(game, Change::kShooter);
   if (HandRolls(game.stats) == 0) {
@@ -70,15 +65,10 @@ void GiveDice(Game& game, int seat, int reason) {
     return;
   }
   if (!byUser || table.TurboRollActive || oldShooter == 0) return;
-  const std::string& oldName = table.seats[oldShooter].SeatName;
-  const std::string& newName = table.seats[seat].SeatName;
-  const bool back = seat == table.HandSeat;
-  ShowMessage(game, kPassTitle,
-              back
-                  ? oldName + " is passing the dice back to " + newName + " who originally started this hand."
-                  : oldName + " is passing the dice to " + newName +
-                        " who may finish the current hand and then roll his/her own hand.");
+  ShowMessage(game, seat == table.HandSeat ? Msg::kDicePassedBack : Msg::kDicePassed,
+              {{"from", table.seats[oldShooter].SeatName}, {"to", table.seats[seat].SeatName}});
 }
+static_assert(NeedOnly({Msg::kDicePassed, Msg::kDicePassedBack}, {"from", "to"}));
 
 // Who asked for the dice to pass hears why they can't; nobody else does, and no text is formed.
 bool MustTell(const Game& game, int reason) {
@@ -96,8 +86,7 @@ int NextOccupied(const TableState& table, int seat) {
 void PassDice(Game& game, int reason) {
   TableState& table = game.table;
   if (table.OccupiedSeats == 0) {
-    if (MustTell(game, reason))
-      ShowMessage(game, kPassTitle, "Unable to pass the dice.\r\rThere are no players at the table.");
+    if (MustTell(game, reason)) ShowMessage<Msg::kNobodyToPassTo>(game, With<"others">(false));
     table.ShooterSeat = 0;
     if (reason == kPassShooterLeft) table.HandSeat = 0;
     return;
@@ -111,10 +100,7 @@ void PassDice(Game& game, int reason) {
     if (next > 0) GiveDice(game, next, reason);
     return;
   }
-  if (!MustTell(game, reason)) return;
-  ShowMessage(game, kPassTitle,
-              search.others == 0 ? "Unable to pass the dice.\r\rThere are no other players at the table."
-                                 : NobodyText(game, search));
+  if (MustTell(game, reason)) TellNobody(game, search);
 }
 
 }  // namespace tessaryn

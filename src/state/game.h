@@ -50,7 +50,10 @@ TESSARYN_FIELDS(Game, table, settings, payoffs, maximums, stats, graph, generato
                 autobet, events, sessions, screen, file, box, applicationFolder, dataFolder, ownFolder,
                 folderLock, host)
 
-// Shows a box and returns its MsgResult. Requires that no box is being shown.
+// Shows a message's box and returns its MsgResult; input boxes start from the values that stand in game.box.
+// Requires that no box is being shown. Where the id is known, state/show_message.h checks the arguments.
+int ShowMessage(Game& game, Msg id, std::vector<MessageArgument> arguments);
+// The same without an id.
 int ShowMessage(Game& game, const std::string& title, const std::string& text,
                 std::uint32_t flags = kMsgOk | kMsgAlert, int width = 302);
 }  // namespace tessaryn

@@ -4,8 +4,10 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "base/fields.h"
+#include "base/message_value.h"
 #include "base/money.h"
 
 namespace tessaryn {
@@ -36,18 +38,22 @@ inline constexpr int kResultCancel = 2;
 inline constexpr int kResultYes = 6;
 inline constexpr int kResultNo = 7;
 
-// One box: what to ask, and what was answered. Written by the asking procedure, answered by the host.
+// One box: what to ask, and what was answered. Written by the asking procedure, answered by the host. A host
+// goes by MsgId and MsgArguments; the texts are for people.
 struct MessageBox {
+  Msg MsgId{};  // Msg::kNone: only the texts are known
+  std::vector<MessageArgument> MsgArguments;
   std::string MsgText;  // "\r" ends a line
   std::string MsgTitle;
-  int MsgWidth = 302;  // a layout value: 105, 130, 302 or 640
+  int MsgWidth = 302;  // a layout value: 105, 130, 302 or 640; the host's choice
   std::uint32_t MsgFlags = kMsgOk;
   int MsgResult = 0;   // kResultOk, kResultCancel, kResultYes or kResultNo
   Currency MsgValue1;  // in: the preset; out: the number typed
   Currency MsgValue2;
   std::string MsgEntry;  // with kMsgTextInput, in: the preset; out: the text typed
 };
-TESSARYN_FIELDS(MessageBox, MsgText, MsgTitle, MsgWidth, MsgFlags, MsgResult, MsgValue1, MsgValue2, MsgEntry)
+TESSARYN_FIELDS(MessageBox, MsgId, MsgArguments, MsgText, MsgTitle, MsgWidth, MsgFlags, MsgResult, MsgValue1,
+                MsgValue2, MsgEntry)
 
 // What a player wants done with a decided bet. choice is 1 to 7 of the handling tables; 0 leaves it to the
 // host's lack of an answer: the safe choice for a win (2) or a loss (1).

@@ -1,6 +1,6 @@
 #include "state/run_stop.h"
 
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -16,15 +16,16 @@ void StopRun(Game& game, const std::string& reason) {
   if (!reason.empty()) table.StopReason = reason;
   game.host->Changed(game, Change::kRun);
   if (!turbo) return;
-  if (!table.StopReason.empty()) ShowMessage(game, kRunStoppedTitle, table.StopReason);
+  if (!table.StopReason.empty()) ShowMessage<Msg::kRunStopped>(game, With<"reason">(table.StopReason));
   game.host->Changed(game, Change::kEverything);
 }
 
 void ReportError(Game& game, const std::string& text, int number, const char* label) {
-  const std::string report = text + ", Error #" + std::to_string(number) + "\r occurred at: " + label;
+  const std::string report =
+      MessageText<Msg::kErrorReport>(With<"fault">(text), With<"number">(number), With<"place">(label));
   if (game.table.TurboRollActive) return StopRun(game, report);
   StopRun(game, "");
-  ShowMessage(game, "Tessaryn", report, kMsgOk | kMsgStop);
+  ShowMessage<Msg::kErrorReported>(game, With<"report">(report));
 }
 
 }  // namespace tessaryn

@@ -13,10 +13,8 @@ void StopRun(Game& game, const std::string& reason);
 // The general error report: text + ", Error #" + number + line end + " occurred at: " + label. In a
 // Turbo-Roll it becomes the stop reason instead, and the run stops.
 void ReportError(Game& game, const std::string& text, int number, const char* label);
-// The box that tells the reason of a Turbo-Roll that stopped.
-inline constexpr const char* kRunStoppedTitle = "Turbo-Roll Stopped";
+
 inline constexpr int kOverflowError = 6;
 inline constexpr int kPathAccessError = 75;
-inline constexpr const char* kOverflowText = "Overflow";
 
 }  // namespace tessaryn

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-#include "state/game.h"
+#include "state/show_message.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -195,12 +195,7 @@ void RecomputeAverages(const Game& game, int seat, PlotAverages& averages) {
 
 void SetMovingAverage(Game& game) {
   game.box.MsgValue1 = Currency::Dollars(game.graph.MovingAverageRolls);
-  if (ShowMessage(game, "Set Bankroll Moving Average",
-                  "Enter the number of rolls (max 525) that you'd like to include in the bankroll moving "
-                  "average (a value of 0 will display an average of all rolls since the beginning of the "
-                  "session):",
-                  kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion) != kResultOk)
-    return;
+  if (ShowMessage<Msg::kAskMovingAverage>(game, With<"most">(kPlotCells)) != kResultOk) return;
   const Currency wanted = std::clamp(game.box.MsgValue1, kZero, Currency::Dollars(kPlotCells));
   game.graph.MovingAverageRolls = static_cast<int>(wanted.raw / Currency::kPerDollar);
 }

@@ -10,8 +10,11 @@
 #include <system_error>
 
 #include "base/bet_catalogue.h"
-#include "state/game.h"
+#include "base/record_file.h"
+#include "dice/percentage_dice.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
+#include "stats/log_line.h"
 
 namespace tessaryn {
 namespace {
@@ -46,11 +49,11 @@ void ReportFault(Game& game, const std::string& what) {
   const bool turbo = game.table.TurboRollActive;
   if (run) StopRun(game, what);  // of a Turbo-Roll the reason is shown
   if (turbo || (told && !run)) return;
-  ShowMessage(game, "Events Log", what + "\r\rThe lines are kept and tried again after every roll.");
+  ShowMessage<Msg::kLogFaultReported>(game, With<"problem">(what));
 }
 
 std::string FaultText(const std::string& path, int error) {
-  return "The Events Log can't be written: " + path + ": " + std::strerror(error) + ".";
+  return MessageText<Msg::kLogFault>(With<"path">(path), With<"reason">(std::strerror(error)));
 }
 
 std::int64_t FileSize(const std::string& path) {
@@ -242,7 +245,7 @@ std::string LineAt(std::ifstream& text, std::ifstream& index, std::int64_t line)
   return content;
 }
 
-void BeginGroup(EventsLog& log, const char* heading) { log.PendingLogHeading = heading; }
+void BeginGroup(EventsLog& log, Msg heading) { log.PendingLogHeading = RowOf(heading).text; }
 void EndGroup(EventsLog& log) { log.PendingLogHeading = {}; }
 
 std::string FileNameOf(const std::string& path) { return fs::path(path).filename().string(); }
@@ -308,7 +311,7 @@ bool RebuildEventsLogIndex(Game& game, std::string& error) {
   const std::string path = EventsLogPath(game);
   std::ifstream text(path, std::ios::binary);
   if (!text) {
-    error = path + " can't be read.";
+    error = MessageText<Msg::kNotReadable>(With<"path">(path));
     return false;
   }
   const std::string indexPath = EventsIndexPath(game);
@@ -325,7 +328,7 @@ bool RebuildEventsLogIndex(Game& game, std::string& error) {
   index.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
   index.flush();
   if (!index) {
-    error = indexPath + " can't be written.";
+    error = MessageText<Msg::kNotWritable>(With<"path">(indexPath));
     return false;
   }
   return true;
@@ -371,10 +374,7 @@ void NewEventsLog(Game& game) {
   FlushEventsLog(game);
   const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
   if (defaultName && FileSize(EventsLogPath(game)) > 0) {
-    const int answer =
-        ShowMessage(game, "Save Events Log?",
-                    "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
-                    kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    const int answer = ShowMessage<Msg::kAskSaveEventsLog>(game);
     if (answer == kResultCancel) return;
     if (answer == kResultYes) {
       game.host->Changed(game, Change::kEverything);  // the screen's Save As takes it from here
@@ -387,7 +387,7 @@ void NewEventsLog(Game& game) {
 bool OpenEventsLog(Game& game, const std::string& path, std::string& error) {
   std::ifstream test(path, std::ios::binary);
   if (!test || fs::is_directory(path)) {
-    error = path + ": File not found";
+    error = MessageText<Msg::kNamedFileNotFound>(With<"path">(path));
     return false;
   }
   FlushEventsLog(game);
@@ -428,89 +428,44 @@ void RecordAllEvents(EventsLog& log, bool on) {
 
 // --- The lines.
 
-std::string StickPosition(int seat) {
-  return seat <= 4 ? "stick " + std::to_string(5 - seat) + "-left"
-                   : "stick " + std::to_string(seat - 4) + "-right";
-}
-
 namespace {
 
-// A line that is formed piece by piece, on the stack as long as it is no longer than lines are.
-class Line {
- public:
-  void Add(std::string_view text) {
-    std::memcpy(Room(text.size()), text.data(), text.size());
-    length_ += text.size();
-  }
-  // Of a known size, so that it is copied in a move or two.
-  template <std::size_t size>
-  [[gnu::always_inline]] void Add(const char (&literal)[size]) {
-    std::memcpy(Room(size - 1), literal, size - 1);
-    length_ += size - 1;
-  }
-  void Add(std::int64_t number) {
-    constexpr std::size_t kMostDigits = 20;
-    char* const at = Room(kMostDigits);
-    length_ += static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, number).ptr - at);
-  }
-  void Add(Currency amount) {
-    char* const at = Room(kLongestPlainMoney);
-    length_ += static_cast<std::size_t>(WritePlainMoney(at, amount) - at);
-  }
-  std::string_view Text() const { return {begin_, length_}; }
+constexpr int kLastLeftSeat = 4;
 
- private:
-  [[gnu::always_inline]] char* Room(std::size_t more) {
-    if (length_ + more > size_) [[unlikely]]
-      Widen(more);
-    return begin_ + length_;
-  }
-  [[gnu::noinline]] void Widen(std::size_t more) {
-    std::string wider(2 * (length_ + more), ' ');
-    Text().copy(wider.data(), length_);
-    wide_ = std::move(wider);
-    begin_ = wide_.data();
-    size_ = wide_.size();
-  }
-
-  char usual_[200];
-  std::string wide_;
-  char* begin_ = usual_;
-  std::size_t size_ = sizeof usual_;
-  std::size_t length_ = 0;
-};
-
-template <typename... Pieces>
-void WriteAlone(Game& game, const Pieces&... pieces) {
-  Line line;
-  (line.Add(pieces), ...);
-  WriteEventsLogLine(game, line.Text());
-}
+// Counted from the stick.
+int StickPlace(int seat) { return seat <= kLastLeftSeat ? kLastLeftSeat + 1 - seat : seat - kLastLeftSeat; }
 
 // A line of the group in hand, which is about a player.
-template <typename... Pieces>
-void WriteOf(Game& game, int seat, const Pieces&... pieces) {
+template <Msg kId, typename... Arguments>
+void WriteOf(Game& game, int seat, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
-  Line line;
-  line.Add("      ");
-  line.Add(game.table.seats[seat].SeatName);
-  (line.Add(pieces), ...);
+  LogLine line;
+  FormLogLine<kId>(line, With<"player">(game.table.seats[seat].SeatName), arguments...);
   WriteGroupedLine(game, line.Text());
+}
+
+// One of two lines with the same arguments.
+template <Msg kFirst, Msg kSecond, typename... Arguments>
+void WriteEither(bool first, Game& game, int seat, const Arguments&... arguments) {
+  if (first)
+    WriteOf<kFirst>(game, seat, arguments...);
+  else
+    WriteOf<kSecond>(game, seat, arguments...);
 }
 
 void WriteScript(Game& game, int seat, bool active) {
   const std::string& file = game.autobet.Scripts[seat].ScriptFileName;
   if (!active)
-    WriteOf(game, seat, " deactivated script");
+    WriteOf<Msg::kLogScriptDeactivated>(game, seat);
   else if (file.empty())
-    WriteOf(game, seat, " activated untitled script");
+    WriteOf<Msg::kLogUntitledActivated>(game, seat);
   else
-    WriteOf(game, seat, " activated script (", file, ")");
+    WriteOf<Msg::kLogScriptActivated>(game, seat, With<"file">(file));
 }
 
 void LogScriptChanges(Game& game) {
   EventsLog& log = game.events;
-  BeginGroup(log, "    AutoBets:");
+  BeginGroup(log, Msg::kLogAutoBets);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const bool active = game.autobet.ScriptActive[seat];
     if (active == log.ScriptActiveLogged[seat]) continue;
@@ -521,15 +476,14 @@ void LogScriptChanges(Game& game) {
 
 void LogAtmMovements(Game& game) {
   TableState& table = game.table;
-  BeginGroup(game.events, "    Bankroll:");
+  BeginGroup(game.events, Msg::kLogBankroll);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const Currency total = game.stats.AtmTotal[Slot(kAllSessions, seat)];
     const Currency moved = total - table.seats[seat].AtmLogged;
     table.seats[seat].AtmLogged = total;
     if (moved == kZero || !IsOccupied(table, seat) || !game.events.RecordBankrollChanges) continue;
-    const bool up = moved > kZero;
-    WriteOf(game, seat, up ? " increased to $" : " decreased to $", table.BankrollCurrent[seat], " ($",
-            Abs(moved), up ? " ATM withdrawal)" : " ATM deposit)");
+    WriteEither<Msg::kLogAtmIncreased, Msg::kLogAtmDecreased>(
+        moved > kZero, game, seat, With<"bankroll">(table.BankrollCurrent[seat]), With<"amount">(Abs(moved)));
   }
 }
 
@@ -550,11 +504,12 @@ void LogAmountChange(Game& game, int seat, int bet) {
   if (now == before || MadeByMove(table, seat, bet)) return;
   const char* name = FactsOf(bet).name;
   if (now == kZero)
-    WriteOf(game, seat, " removed $", before, " bet on ", name);
+    WriteOf<Msg::kLogBetRemoved>(game, seat, With<"amount">(before), With<"bet">(name));
   else if (before == kZero)
-    WriteOf(game, seat, " bet $", now, " on ", name);
+    WriteOf<Msg::kLogBetMade>(game, seat, With<"amount">(now), With<"bet">(name));
   else
-    WriteOf(game, seat, now < before ? " decreased " : " increased ", name, " to $", now);
+    WriteEither<Msg::kLogBetDecreased, Msg::kLogBetIncreased>(now < before, game, seat, With<"bet">(name),
+                                                              With<"amount">(now));
 }
 
 void LogCallChange(Game& game, int seat, int bet) {
@@ -564,16 +519,16 @@ void LogCallChange(Game& game, int seat, int bet) {
   const char* name = FactsOf(bet).name;
   if (now == before) return;
   if (now == -1)
-    WriteOf(game, seat, " called OFF ", name, " bet");
+    WriteOf<Msg::kLogCalledOff>(game, seat, With<"bet">(name));
   else if (now == 2)
-    WriteOf(game, seat, " called ON ", name, " bet");
+    WriteOf<Msg::kLogCalledOn>(game, seat, With<"bet">(name));
   else if ((before == -1 || before == 2) && table.seats[seat].SeatBets.Has(bet))
-    WriteOf(game, seat, " called ", name, " bet working normally again");
+    WriteOf<Msg::kLogCallRemoved>(game, seat, With<"bet">(name));
 }
 
 void LogBetChanges(Game& game) {
   const TableState& table = game.table;
-  BeginGroup(game.events, "    Bets:");
+  BeginGroup(game.events, Msg::kLogBets);
   for (int seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
     const WorkingState& now = table.seats[seat].BetWorking;
@@ -588,14 +543,15 @@ void LogBetChanges(Game& game) {
 
 void LogCheckStackChanges(Game& game) {
   const TableState& table = game.table;
-  BeginGroup(game.events, "    CheckStacks:");
+  BeginGroup(game.events, Msg::kLogStacks);
   for (int seat = 1; seat <= kSeats; ++seat)
     table.seats[seat].StacksSinceBefore.ForEach([&](int stack) {
       const int bet = kFirstCheckStack + stack;
       const Currency before = table.BetBeforeRoll(seat, bet);
       const Currency now = table.BetAmount(seat, bet);
       if (now == before || !IsOccupied(table, seat)) return;
-      WriteOf(game, seat, now > before ? " increased" : " decreased", " CheckStack #", stack, " to ", now);
+      WriteEither<Msg::kLogStackIncreased, Msg::kLogStackDecreased>(now > before, game, seat,
+                                                                    With<"stack">(stack), With<"value">(now));
     });
 }
 
@@ -610,11 +566,29 @@ void LogChangesBeforeRoll(Game& game) {
   EndGroup(log);
 }
 
-void LogRoll(Game& game, const char* sourcePrefix) {
-  if (!game.events.RecordRolls) return;
+namespace {
+
+template <Msg kId, typename... Arguments>
+void WriteRoll(Game& game, const Arguments&... arguments) {
   const TableState& table = game.table;
-  WriteAlone(game, " Roll #", SessionRolls(game.stats) + 1, ":  ", table.RollTotal, " (", table.Die1, ".",
-             table.Die2, ")", sourcePrefix);
+  WriteLogLine<kId>(game, With<"roll">(SessionRolls(game.stats) + 1), With<"total">(table.RollTotal),
+                    With<"die1">(table.Die1), With<"die2">(table.Die2), arguments...);
+}
+
+}  // namespace
+
+void LogRoll(Game& game, RollSource source) {
+  if (!game.events.RecordRolls) return;
+  if (source == RollSource::kPad) return WriteRoll<Msg::kLogRollFromPad>(game);
+  if (source == RollSource::kFile) return WriteRoll<Msg::kLogRollFromFile>(game);
+  const PercentageDice& dice = game.percentage;
+  const int number = game.generators.GeneratorIndex + 1;
+  if (!dice.PercentageDiceActive)
+    WriteRoll<Msg::kLogRollFromGenerator>(game, With<"generator">(number));
+  else if (dice.ProbFileName.empty())
+    WriteRoll<Msg::kLogRollFromUntitled>(game, With<"generator">(number));
+  else
+    WriteRoll<Msg::kLogRollFromMatrix>(game, With<"generator">(number), With<"file">(ProbabilityTitle(dice)));
 }
 
 void LogWinOrLoss(Game& game, int seat, int bet) {
@@ -622,36 +596,40 @@ void LogWinOrLoss(Game& game, int seat, int bet) {
   const Currency net = game.table.NetPayoff;
   const bool won = net > kZero;
   if (!(won ? log.RecordBetsWon : log.RecordBetsLost)) return;
-  WriteOf(game, seat, won ? " won $" : " lost $", Abs(net), " on ", FactsOf(bet).name);
+  WriteEither<Msg::kLogWon, Msg::kLogLost>(won, game, seat, With<"amount">(Abs(net)),
+                                           With<"bet">(FactsOf(bet).name));
 }
 
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet) {
   if (!game.events.RecordBetChanges) return;
-  WriteAlone(game, "    ", game.table.seats[seat].SeatName, "'s ", FactsOf(fromBet).name, " bet moved to ",
-             FactsOf(toBet).name);
+  WriteLogLine<Msg::kLogBetMoved>(game, With<"player">(game.table.seats[seat].SeatName),
+                                  With<"bet">(FactsOf(fromBet).name), With<"number">(FactsOf(toBet).name));
 }
 
 void LogBankrollChanges(Game& game) {
   if (!game.events.RecordBankrollChanges) return;
   const TableState& table = game.table;
-  BeginGroup(game.events, "    Bankroll:");
+  BeginGroup(game.events, Msg::kLogBankroll);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
     if (change == kZero || !IsOccupied(table, seat)) continue;
-    const bool up = change > kZero;
-    WriteOf(game, seat, up ? " increased to $" : " decreased to $", table.BankrollCurrent[seat], " ($",
-            Abs(change), up ? " gain)" : " loss)");
+    WriteEither<Msg::kLogBankrollIncreased, Msg::kLogBankrollDecreased>(
+        change > kZero, game, seat, With<"bankroll">(table.BankrollCurrent[seat]),
+        With<"amount">(Abs(change)));
   }
   EndGroup(game.events);
 }
 
 namespace {
 
-void WriteDivider(Game& game, const char* start, int seat) {
+void WriteShooter(Game& game, bool same) {
+  const int seat = game.table.ShooterSeat;
   if (seat == 0)
-    WriteEventsLogLine(game, "----New hand, come-out roll----------");
+    WriteLogLine<Msg::kLogNewHand>(game);
+  else if (same)
+    WriteLogLine<Msg::kLogSameShooter>(game, With<"player">(game.table.seats[seat].SeatName));
   else
-    WriteAlone(game, start, game.table.seats[seat].SeatName, ") coming out----------");
+    WriteLogLine<Msg::kLogNewShooter>(game, With<"player">(game.table.seats[seat].SeatName));
 }
 
 }  // namespace
@@ -659,8 +637,32 @@ void WriteDivider(Game& game, const char* start, int seat) {
 void LogHandEnd(Game& game) {
   if (!game.events.RecordShooterChanges) return;
   const TableState& table = game.table;
-  const bool same = table.PreviousHandSeat == table.HandSeat && table.HandSeat == table.ShooterSeat;
-  WriteDivider(game, same ? "----Same shooter (" : "----New shooter (", table.ShooterSeat);
+  WriteShooter(game, table.PreviousHandSeat == table.HandSeat && table.HandSeat == table.ShooterSeat);
+}
+
+void LogPlayback(Game& game) {
+  WriteLogLine<Msg::kLogPlayback>(game, With<"file">(FileTitle(game.rollFile.RollFileName)));
+}
+
+void LogJoined(Game& game, int seat) {
+  const TableState& table = game.table;
+  const auto player = With<"player">(table.seats[seat].SeatName);
+  const int place = StickPlace(seat);
+  if (seat <= kLastLeftSeat)
+    WriteLogLine<Msg::kLogJoinedLeft>(game, player, With<"place">(place),
+                                      With<"bankroll">(table.BankrollCurrent[seat]));
+  else
+    WriteLogLine<Msg::kLogJoinedRight>(game, player, With<"place">(place),
+                                       With<"bankroll">(table.BankrollCurrent[seat]));
+}
+
+void LogPlayerMoved(Game& game, int seat) {
+  const auto player = With<"player">(game.table.seats[seat].SeatName);
+  const int place = StickPlace(seat);
+  if (seat <= kLastLeftSeat)
+    WriteLogLine<Msg::kLogMovedLeft>(game, player, With<"place">(place));
+  else
+    WriteLogLine<Msg::kLogMovedRight>(game, player, With<"place">(place));
 }
 
 void LogSessionStart(Game& game) {
@@ -668,24 +670,28 @@ void LogSessionStart(Game& game) {
   if (!log.RecordEventsActive) return;
   const TableState& table = game.table;
   FlushEventsLog(game);
-  if (FileSize(EventsLogPath(game)) >= 0)
-    WriteEventsLogLine(game, "============================================");
-  WriteEventsLogLine(game, " New session started " + game.host->DateText() + " @ " + game.host->TimeText());
-  BeginGroup(log, "    Players:");
+  if (FileSize(EventsLogPath(game)) >= 0) WriteLogLine<Msg::kLogRule>(game);
+  WriteLogLine<Msg::kLogNewSession>(game, With<"date">(game.host->DateText()),
+                                    With<"time">(game.host->TimeText()));
+  BeginGroup(log, Msg::kLogPlayers);
   for (int seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat))
-      WriteOf(game, seat, " at ", StickPosition(seat), " with $", table.BankrollCurrent[seat]);
+      WriteEither<Msg::kLogPlayerLeft, Msg::kLogPlayerRight>(seat <= kLastLeftSeat, game, seat,
+                                                             With<"place">(StickPlace(seat)),
+                                                             With<"bankroll">(table.BankrollCurrent[seat]));
   EndGroup(log);
   if (game.rollFile.RecorderState == kRecorderPlayback)
-    WriteEventsLogLine(
-        game, "    Dice roll file playback actived (" + FileNameOf(game.rollFile.RollFileName) + ")");
-  BeginGroup(log, "    AutoBets:");
+    WriteLogLine<Msg::kLogSessionPlayback>(game, With<"file">(FileNameOf(game.rollFile.RollFileName)));
+  BeginGroup(log, Msg::kLogAutoBets);
   for (int seat = 1; seat <= kSeats; ++seat) {
     log.ScriptActiveLogged[seat] = game.autobet.ScriptActive[seat];
     if (IsOccupied(table, seat) && game.autobet.ScriptActive[seat]) WriteScript(game, seat, true);
   }
   EndGroup(log);
-  WriteDivider(game, "----New shooter (", log.RecordShooterChanges ? table.ShooterSeat : 0);
+  if (log.RecordShooterChanges)
+    WriteShooter(game, false);
+  else
+    WriteLogLine<Msg::kLogNewHand>(game);
   FlushEventsLog(game);
 }
 

@@ -52,12 +52,15 @@ void RecordAllEvents(EventsLog& log, bool on);
 // --- The lines of each event, in their groups.
 void LogSessionStart(Game& game);
 void LogChangesBeforeRoll(Game& game);
-void LogRoll(Game& game, const char* sourcePrefix);
+enum class RollSource { kPad, kFile, kGenerator };
+void LogRoll(Game& game, RollSource source);
 void LogWinOrLoss(Game& game, int seat, int bet);
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet);
 void LogBankrollChanges(Game& game);
 void LogHandEnd(Game& game);
-// "stick 3-left" of a seat.
-std::string StickPosition(int seat);
+// Playback of the open dice roll file was turned on during play.
+void LogPlayback(Game& game);
+void LogJoined(Game& game, int seat);
+void LogPlayerMoved(Game& game, int seat);
 
 }  // namespace tessaryn

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <iterator>
 
+#include "base/messages.h"
 #include "state/game.h"
 #include "state/vig.h"
 #include "stats/roll_item_lists.h"
@@ -250,16 +251,13 @@ void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastB
 std::string LastHandNote(const Game& game, int scope) {
   const TableState& table = game.table;
   if (scope == kCurrentHand && table.ShooterSeat != table.HandSeat && table.ShooterSeat > 0) {
-    const std::string credited = table.HandSeat > 0
-                                     ? table.seats[table.HandSeat].SeatName
-                                     : "another player who started the hand but is no longer at the table.";
-    return "Although " + table.seats[table.ShooterSeat].SeatName +
-           " is presently shooting the dice, the current hand is being credited to " + credited +
-           (table.HandSeat > 0 ? " who started the hand." : "") +
-           "\r\rThe dice were passed during the current hand.";
+    const std::string& shooter = table.seats[table.ShooterSeat].SeatName;
+    if (table.HandSeat == 0) return MessageText<Msg::kHandOfPlayerGone>(With<"shooter">(shooter));
+    return MessageText<Msg::kHandOfOther>(With<"shooter">(shooter),
+                                          With<"player">(table.seats[table.HandSeat].SeatName));
   }
   if (scope == kLastHand && game.stats.RollTotals[Slot(kLastHand, 0)] > 0 && table.PreviousHandSeat == 0)
-    return "The last hand was shot by a player who is no longer at the table.";
+    return MessageText<Msg::kLastHandOfPlayerGone>();
   return "";
 }
 

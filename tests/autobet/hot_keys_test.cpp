@@ -142,18 +142,12 @@ TEST(HotKey, AMissingFileAndABadScriptAreToldAndNothingRuns) {
   Game& game = *table.game;
   EXPECT_FALSE(PressHotKey(game, {{'f', table.folder.path + "none.bet", ""}}, 'f'));
   ASSERT_EQ(table.host.boxes.size(), 1u);
-  EXPECT_EQ(table.host.titles[0], "Hot-Key");
-  EXPECT_EQ(table.host.boxes[0],
-            "The Auto-Bet file defined for that Hot-Key was not found in the specified location.\r\rPlease "
-            "check the path and file name on the Hot-Key screen.");
+  EXPECT_TRUE(table.host.Said(Msg::kHotKeyFileMissing));
   WriteText(table.folder.path + "bad.bet", "bet 5 on field\nif then");
   game.autobet.ScriptsCompiled = true;
   EXPECT_FALSE(PressHotKey(game, {{'f', table.folder.path + "bad.bet", ""}}, 'f'));
   ASSERT_EQ(table.host.boxes.size(), 2u);
-  EXPECT_EQ(table.host.titles[1], "Auto-Bet Script Error");
-  EXPECT_EQ(table.host.boxes[1],
-            "The Auto-Bet script for this hot-key contains a syntax error which must be corrected before you "
-            "can use it.");
+  EXPECT_TRUE(table.host.Said(Msg::kHotKeyBad));
   EXPECT_FALSE(game.autobet.ScriptsCompiled) << "whatever the outcome";
   EXPECT_EQ(table.Bet(kField, 1), 0);
   game.autobet.ScriptRunning = true;

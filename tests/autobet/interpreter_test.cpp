@@ -285,11 +285,7 @@ TEST(Interpreter, ABadScriptIsToldAndNothingRuns) {
   SetScriptActive(*table.game, 2, true);
   CompileActiveScripts(*table.game);
   EXPECT_FALSE(table.game->autobet.ScriptsCompiled);
-  EXPECT_EQ(table.host.titles.back(), "Auto-bet script error");
-  EXPECT_EQ(table.host.boxes.back(),
-            "Bob's auto-bet script contains an error which must be corrected before you can run "
-            "it.\r\rSelect Bob on "
-            "the auto-bet screen and click the \"Check Script\" button to see the error.");
+  EXPECT_TRUE(table.host.Said(Msg::kScriptBad, {{"player", "Bob"}}));
   table.Dice(3, 4);
   EXPECT_EQ(SessionRolls(table.game->stats), 0) << "no roll with a bad script";
   EXPECT_EQ(table.Bet(100), 0);

@@ -23,12 +23,12 @@
 #include "state/run_stop.h"
 #include "stats/statistics.h"
 #include "support/places.h"
+#include "support/said.h"
 
 namespace tessaryn::script_test {
 
 struct TestHost : Host {
-  std::vector<std::string> titles;  // of the boxes shown
-  std::vector<std::string> boxes;   // their texts
+  std::vector<test::ShownBox> boxes;
   std::deque<std::string> entries;  // for the next input boxes
   int result = 0;                   // 0: the safe answer
   std::vector<std::string> steps;   // "line text"
@@ -39,8 +39,7 @@ struct TestHost : Host {
   std::uint32_t tick = 0;
 
   void ShowMessage(Game&, MessageBox& box) override {
-    titles.push_back(box.MsgTitle);
-    boxes.push_back(box.MsgText);
+    boxes.emplace_back(box);
     if ((box.MsgFlags & kMsgInput) != 0 && !entries.empty()) {
       box.MsgEntry = entries.front();
       entries.pop_front();
@@ -51,6 +50,9 @@ struct TestHost : Host {
                     : (box.MsgFlags & kMsgCancel) != 0 ? kResultCancel
                                                        : kResultOk;
     if (result != 0) box.MsgResult = result;
+  }
+  testing::AssertionResult Said(Msg id, const std::vector<MessageArgument>& arguments = {}) const {
+    return Says(boxes.empty() ? test::ShownBox() : boxes.back(), id, arguments);
   }
   bool Yield(Game& game) override {
     ++yields;

@@ -306,8 +306,8 @@ TEST(ScriptCatalogue, EveryTextFunctionGivesItsRightText) {
   table.host.entries = {"12.5", "word"};
   EXPECT_EQ(table.Number("input(\"How much?\")"), 12.5);
   EXPECT_EQ(table.Text("input$()"), "word");
-  EXPECT_EQ(table.host.boxes, (std::vector<std::string>{"How much?", "Please enter a string"}));
-  EXPECT_EQ(table.host.titles[0], "Auto-Bet (Ann)");
+  EXPECT_TRUE(Says(table.host.boxes[0], Msg::kScriptAsksValue, {{"player", "Ann"}, {"prompt", "How much?"}}));
+  EXPECT_TRUE(table.host.Said(Msg::kScriptAsksString, {{"prompt", ""}}));
 }
 
 TEST(ScriptCatalogue, EveryRunTimeErrorComesFromItsStatement) {
@@ -444,8 +444,8 @@ TEST(ScriptCatalogue, SettingsAndActionsDoWhatTheySay) {
   table.host.result = kResultYes;
   table.Run("ask yes/no question \"Well?\"\ncs0 = answer\nshow message \"Now \" & 5");
   EXPECT_EQ(table.Bet(100), 6);
-  EXPECT_EQ(table.host.boxes, (std::vector<std::string>{"Well?", "Now 5"}));
-  EXPECT_EQ(table.host.titles[1], "Auto-Bet (Ann)");
+  EXPECT_TRUE(Says(table.host.boxes[0], Msg::kScriptAsks, {{"text", "Well?"}}));
+  EXPECT_TRUE(table.host.Said(Msg::kScriptSays, {{"player", "Ann"}, {"text", "Now 5"}}));
   game.settings.AutoBetSounds = true;
   table.Run("play sound \"/x.wav\"");
   EXPECT_EQ(table.host.sounds, std::vector<std::string>{"/x.wav"});

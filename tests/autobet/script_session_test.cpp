@@ -98,9 +98,7 @@ TEST(LoggedBets, PlayTheSameBetsAgain) {
 
   table.host.result = kResultYes;
   EXPECT_TRUE(OfferToSaveLoggedBets(game));
-  EXPECT_EQ(table.host.titles.back(), "Save Auto-Bets?");
-  EXPECT_EQ(table.host.boxes.back(),
-            "Your current logged bets have not been saved.\r\rDo you want to save them now?");
+  EXPECT_TRUE(table.host.Said(Msg::kAskSaveLoggedBets));
   SetScript(game, 1, {"' first", "' last"}, "");
   EXPECT_EQ(InsertLoggedBets(game, 1, 2), 6);
   EXPECT_EQ(game.autobet.Scripts[1].ScriptLines.front(), "' first");
@@ -174,24 +172,18 @@ TEST(CheckScript, TheTitleNamesTheLinesAndTheSpanStaysInTheScript) {
   }
 }
 
-TEST(ActivateScript, OffersToInitialiseInItsWords) {
+TEST(ActivateScript, OffersToInitialise) {
   ScriptTable table;
   Game& game = *table.game;
   SetScript(game, 1, {"if initializing script then add 1 to cs0 endif"}, "");
   ActivateScript(game, 1);
   ASSERT_EQ(table.host.boxes.size(), 1u);
-  EXPECT_EQ(
-      table.host.boxes[0],
-      "Ann's auto-bet script has been activated.\r\rYou have an opportunity now to run Ann's script for "
-      "one cycle BEFORE the dice roll in order to check and set any initial conditions.  This is called "
-      "initializing. If you're not ready yet, then just recheck the active checkbox later or note that "
-      "all players' active auto-bets are automatically initialized whenever NEW is selected from the "
-      "GAME menu.\r\rWould you like to initialize Ann's auto-bet script now?");
+  EXPECT_TRUE(table.host.Said(Msg::kAskInitialise, {{"player", "Ann"}}));
   EXPECT_TRUE(game.autobet.ScriptActive[1] && game.autobet.ScriptActive[0]);
   EXPECT_EQ(table.Bet(100), 0) << "No was the answer";
   table.host.result = kResultYes;
   ActivateScript(game, 0);
-  EXPECT_EQ(table.host.boxes[1].substr(0, 52), "All players' auto-bet scripts have been activated.\r\r");
+  EXPECT_TRUE(table.host.Said(Msg::kAskInitialiseAll));
   EXPECT_EQ(table.Bet(100), 1);
   EXPECT_FALSE(game.autobet.ScriptActive[2]) << "a player without a script";
   SetAllScriptsActive(game, false);

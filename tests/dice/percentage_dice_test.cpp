@@ -12,6 +12,7 @@
 #include <random>
 #include <vector>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "base/roll_items.h"
 #include "dice/generators.h"
@@ -506,9 +507,9 @@ TEST_F(ProbabilityFile, ADamagedFileIsRefusedAndTheMatrixStands) {
   PercentageDice open;
   SetProbabilityCell(open, kTotalRow, 7, 777, true);
   const PercentageDice before = open;
-  const auto refused = [&](const std::string& content, const char* text = kNotAProbabilityFileText) {
+  const auto refused = [&](const std::string& content, Msg text = Msg::kNotAProbabilityFile) {
     std::ofstream(Path, std::ios::binary) << content;
-    return !OpenProbabilityFile(open, Path, "", error) && error == text &&
+    return !OpenProbabilityFile(open, Path, "", error) && error == MessageText(text) &&
            open.ProbMatrix == before.ProbMatrix && open.ProbDirty;
   };
   for (std::size_t length = 0; length < whole.size(); ++length)
@@ -521,7 +522,7 @@ TEST_F(ProbabilityFile, ADamagedFileIsRefusedAndTheMatrixStands) {
   }
   std::string zeros = whole;
   for (std::size_t at = 256 + 112 * 4; at < zeros.size(); ++at) zeros[at] = 0;
-  EXPECT_TRUE(refused(zeros, kNothingToRollText));
+  EXPECT_TRUE(refused(zeros, Msg::kNothingToRoll));
 
   constexpr unsigned kSeed = 8;
   std::mt19937 random(kSeed);

@@ -14,6 +14,7 @@
 #include <random>
 #include <vector>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 
 namespace tessaryn {
@@ -99,7 +100,6 @@ TEST_F(RollFiles, ARecordedGamePlaysBackRollForRoll) {
     }
   }
   EXPECT_EQ(RollFileLength(*File), 200'001);
-  EXPECT_EQ(RewindQuestion(*File), "Recording stopped.\rRewind for playback?");
   ASSERT_EQ(RewindForPlayback(*File), "");
   EXPECT_EQ(OnDisk(Path), rolls);
   int die1 = 0, die2 = 0;
@@ -111,7 +111,6 @@ TEST_F(RollFiles, ARecordedGamePlaysBackRollForRoll) {
   EXPECT_EQ(PlayRoll(*File, die1, die2), PlayResult::kEndOfFile);
   EXPECT_EQ(File->RecorderState, kRecorderPlayback);
   EXPECT_EQ(File->RollFileCursor, 200'002);
-  EXPECT_EQ(RewindQuestion(*File), "Playback stopped.\rRewind for playback?");
   // Recording from the middle writes over what follows.
   SetRollFileCursor(*File, 5);
   ASSERT_EQ(SetRecorderState(*File, kRecorderRecord), "");
@@ -125,7 +124,7 @@ TEST_F(RollFiles, ARecordedGamePlaysBackRollForRoll) {
 
 TEST_F(RollFiles, LowBitsStopAnOpenButNotAPlayback) {
   Write(Path, {RollByte(3, 4), 37});
-  EXPECT_EQ(OpenRollFile(*File, Path), NotARollFileText(Path));
+  EXPECT_EQ(OpenRollFile(*File, Path), MessageText<Msg::kNotARollFile>(With<"path">(Path)));
   EXPECT_FALSE(IsRollFileOpen(*File));
   Write(Path, {RollByte(3, 4), RollByte(2, 2), 0, 232, RollByte(1, 7)});
   ASSERT_EQ(OpenRollFile(*File, Path), "");
@@ -353,7 +352,8 @@ TEST_F(RollFiles, ADamagedFileEndsItsPlaybackWhereTheDamageIs) {
     const bool lowBits =
         std::any_of(damaged.begin(), damaged.end(), [](unsigned char b) { return (b & 3) != 0; });
     const std::string error = OpenRollFile(*File, Path);
-    ASSERT_EQ(error, lowBits ? NotARollFileText(Path) : "") << "seed " << kSeed << " trial " << trial;
+    ASSERT_EQ(error, lowBits ? MessageText<Msg::kNotARollFile>(With<"path">(Path)) : "")
+        << "seed " << kSeed << " trial " << trial;
     if (lowBits) continue;
     ASSERT_EQ(RewindForPlayback(*File), "");
     std::size_t played = 0;
@@ -369,12 +369,12 @@ TEST_F(RollFiles, ADamagedFileEndsItsPlaybackWhereTheDamageIs) {
 
 TEST_F(RollFiles, NothingHappensWithoutAnOpenFile) {
   int die1 = 0, die2 = 0;
-  EXPECT_EQ(SetRecorderState(*File, kRecorderPlayback), kNoRollFileOpen);
+  EXPECT_EQ(SetRecorderState(*File, kRecorderPlayback), MessageText<Msg::kRollFileClosed>());
   EXPECT_EQ(File->RecorderState, kRecorderOff);
   EXPECT_EQ(PlayRoll(*File, die1, die2), PlayResult::kError);
   EXPECT_FALSE(RecordRoll(*File, 1, 1));
-  EXPECT_EQ(EnterRoll(*File, 1, 1), kNoRollFileOpen);
-  EXPECT_EQ(CutRolls(*File, Folder), kNoRollFileOpen);
+  EXPECT_EQ(EnterRoll(*File, 1, 1), MessageText<Msg::kRollFileClosed>());
+  EXPECT_EQ(CutRolls(*File, Folder), MessageText<Msg::kRollFileClosed>());
   EXPECT_EQ(CloseRollFile(*File), "");
   EXPECT_TRUE(FlushRollFile(*File));
   EXPECT_NE(OpenRollFile(*File, Folder), "");
@@ -383,9 +383,9 @@ TEST_F(RollFiles, NothingHappensWithoutAnOpenFile) {
   EXPECT_NE(OpenRollFile(*File, ""), "");
   ASSERT_EQ(OpenRollFile(*File, Path), "");
   Write(Other, {37});
-  EXPECT_EQ(OpenRollFile(*File, Other), NotARollFileText(Other));
+  EXPECT_EQ(OpenRollFile(*File, Other), MessageText<Msg::kNotARollFile>(With<"path">(Other)));
   EXPECT_EQ(File->RollFileName, Path);  // the one that was open stays
-  EXPECT_EQ(PasteFromRollFile(*File, Other), NotARollFileText(Other));
+  EXPECT_EQ(PasteFromRollFile(*File, Other), MessageText<Msg::kNotARollFile>(With<"path">(Other)));
   EXPECT_NE(PasteCopiedRolls(*File, Folder), "");
   EXPECT_NE(PasteFromTextFile(*File, "/dev/zero", Folder), "");
   std::filesystem::resize_file(Other, 3'000'000'000u);  // a hole
@@ -582,7 +582,7 @@ TEST_F(RollFiles, TextComesOutByTheFormat) {
   ASSERT_EQ(PasteFromTextFile(*File, out, Folder), "");
   EXPECT_EQ(OnDisk(Other), Rolls(rolls.begin() + 2, rolls.end()));
   File->RollFileOutputFormat = "roll#";
-  EXPECT_EQ(CopyRollsToTextFile(*File, out, false), kNoDiceInFormatText);
+  EXPECT_EQ(CopyRollsToTextFile(*File, out, false), MessageText<Msg::kNoDiceInFormat>());
 }
 
 }  // namespace

@@ -119,11 +119,11 @@ TEST(AutoRollTest, AutoStopComesAtEveryMultiple) {
     table.game->settings.AutoStopInterval = c.interval;
     ToggleAutoRoll(*table.game);
     EXPECT_EQ(table.Rolls(), c.rolls) << c.interval;
-    EXPECT_EQ(table.game->table.StopReason, c.throttle == 0 && c.rolls < 7 ? "Stopped by Auto-Stop." : "");
+    EXPECT_EQ(table.game->table.StopReason,
+              c.throttle == 0 && c.rolls < 7 ? MessageText<Msg::kStoppedByAutoStop>() : "");
     if (c.rolls == 7) continue;
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_EQ(table.host.boxes[0].title, c.throttle == 0 ? "Turbo-Roll Stopped" : "Auto-Roll Stopped");
-    EXPECT_EQ(table.host.boxes[0].text, c.throttle == 0 ? "Stopped by Auto-Stop." : "Stopped by Auto-Stop");
+    EXPECT_TRUE(table.host.Said(c.throttle == 0 ? Msg::kRunStopped : Msg::kAutoRollStopped));
     ToggleAutoRoll(*table.game);
     EXPECT_EQ(table.Rolls(), c.more) << c.interval;
   }
@@ -205,11 +205,9 @@ TEST(AutoRollTest, NoRollStartsWithinARoll) {
 TEST(AutoRollTest, OtherCommandsAskBeforeTheyDisturbARun) {
   struct Case {
     int throttle;
-    const char* title;
-    const char* text;
+    Msg question;
   };
-  for (const Case& c : {Case{0, "Turbo-Roll Active", "Do you want to stop the Turbo-Roll?"},
-                        Case{kThrottleAutoRoll, "Auto-Roll Active", "Do you want to stop Auto-Rolling?"}})
+  for (const Case& c : {Case{0, Msg::kAskStopTurboRoll}, Case{kThrottleAutoRoll, Msg::kAskStopAutoRoll}})
     for (const bool yes : {false, true}) {
       PacedTable table(c.throttle, "0");
       bool asked = false;
@@ -223,8 +221,7 @@ TEST(AutoRollTest, OtherCommandsAskBeforeTheyDisturbARun) {
       ToggleAutoRoll(*table.game);
       EXPECT_EQ(table.Rolls(), yes ? 2 : 5);
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].title, c.title);
-      EXPECT_EQ(table.host.boxes[0].text, c.text);
+      EXPECT_TRUE(table.host.Said(c.question));
       EXPECT_TRUE(AskBeforeCommand(*table.game)) << "nothing runs any more";
     }
 }
@@ -241,10 +238,10 @@ TEST(AutoRollTest, AFileThatEndsEndsTheRunWithItsQuestion) {
     table.host.answers = {answer};
     ToggleAutoRoll(*table.game);
     EXPECT_EQ(table.Rolls(), 3);
-    EXPECT_EQ(table.game->table.StopReason, "Stopped due to end of Dice Roll File reached.");
+    EXPECT_EQ(table.game->table.StopReason, MessageText<Msg::kStoppedAtFileEnd>());
     ASSERT_EQ(table.host.boxes.size(), 2u);
-    EXPECT_EQ(table.host.boxes[0].title, "Turbo-Roll Stopped");
-    EXPECT_EQ(table.host.boxes[1].title, "Dice Roll File");
+    EXPECT_TRUE(Says(table.host.boxes[0], Msg::kRunStopped));
+    EXPECT_TRUE(table.host.Said(Msg::kAskRewind));
     const RollFile& file = table.game->rollFile;
     EXPECT_EQ(file.RecorderState, std::string(answer) == "no" ? kRecorderOff : kRecorderPlayback) << answer;
     EXPECT_EQ(file.RollFileCursor, std::string(answer) == "yes" ? 1 : 4) << answer;
@@ -273,8 +270,8 @@ TEST(AutoRollTest, AFileThatIsAlteredUnderARunEndsIt) {
     };
     ToggleAutoRoll(*table.game);
     EXPECT_EQ(table.Rolls(), 12) << spoil;
-    EXPECT_EQ(table.game->table.StopReason, spoil ? "Stopped due to Dice Roll File value out of limits."
-                                                  : "Stopped due to end of Dice Roll File reached.");
+    EXPECT_EQ(table.game->table.StopReason,
+              MessageText(spoil ? Msg::kStoppedByRollOutOfLimits : Msg::kStoppedAtFileEnd));
     EXPECT_FALSE(table.game->table.AutoRollActive);
     if (spoil) {
       EXPECT_EQ(table.game->rollFile.RecorderState, kRecorderOff);
@@ -291,7 +288,7 @@ TEST(AutoRollTest, TheDialogsKeepWithinTheirLimits) {
     SetAutoRollDelay(*table.game);
     EXPECT_EQ(table.game->settings.AutoRollDelay, Seconds::Of(Money(seconds))) << answer;
   }
-  EXPECT_EQ(table.host.boxes[0].title, "Set Auto-Roll Time Delay");
+  EXPECT_TRUE(table.host.Said(Msg::kAskAutoRollDelay));
   const std::pair<const char*, const char*> stops[] = {
       {"12.9", "12"}, {"-5", "0"}, {"7", "7"}, {"cancel", "7"}};
   for (const auto& [answer, rolls] : stops) {
@@ -299,7 +296,7 @@ TEST(AutoRollTest, TheDialogsKeepWithinTheirLimits) {
     SetAutoStop(*table.game);
     EXPECT_EQ(table.game->settings.AutoStopInterval, std::stoll(rolls)) << answer;
   }
-  EXPECT_EQ(table.host.boxes.back().title, "Set Auto-Roll / Turbo-Roll Auto-Stop");
+  EXPECT_TRUE(table.host.Said(Msg::kAskAutoStop));
 }
 
 }  // namespace

@@ -15,12 +15,6 @@ namespace {
 using test::Money;
 using test::TestTable;
 
-constexpr const char* kNumeric =
-    "A player's name can't be all numeric because it can't be used in auto-betting.";
-constexpr const char* kReservedEnd =
-    " contains a word, phrase, or symbol used in auto-betting and therefore can't be used as a player's "
-    "name.";
-
 TEST(PlayersJoin, BadNamesSeatsAndBankrollsChangeNothing) {
   struct Case {
     int seat;
@@ -29,16 +23,16 @@ TEST(PlayersJoin, BadNamesSeatsAndBankrollsChangeNothing) {
     std::string error;
   };
   const Case cases[] = {
-      {2, "ANN", "500", "There's already a player named ANN."},
-      {2, " ann ", "500", "There's already a player named ann."},
-      {2, "123", "500", kNumeric},
-      {2, "passline", "500", std::string("passline") + kReservedEnd},
-      {2, "Bob", "9999999.0001", "The maximum player bankroll is $9,999,999"},
-      {2, "Bob", "-9999999.0001", "The minimum player bankroll is -$9,999,999"},
-      {1, "Bob", "500", "Seat 1 is taken by Ann."},
-      {0, "Bob", "500", "There is no seat 0; seats are 1 to 8."},
-      {9, "Bob", "500", "There is no seat 9; seats are 1 to 8."},
-      {2, "  ", "500", "A player needs a name."},
+      {2, "ANN", "500", MessageText<Msg::kNameTaken>(With<"name">("ANN"))},
+      {2, " ann ", "500", MessageText<Msg::kNameTaken>(With<"name">("ann"))},
+      {2, "123", "500", MessageText<Msg::kNameNumeric>()},
+      {2, "passline", "500", MessageText<Msg::kNameReserved>(With<"name">("passline"))},
+      {2, "Bob", "9999999.0001", MessageText<Msg::kBankrollTooHigh>(With<"limit">(kBankrollLimit))},
+      {2, "Bob", "-9999999.0001", MessageText<Msg::kBankrollTooLow>(With<"limit">(kBankrollLimit))},
+      {1, "Bob", "500", MessageText<Msg::kSeatTaken>(With<"seat">(1), With<"player">("Ann"))},
+      {0, "Bob", "500", MessageText<Msg::kNoSuchSeat>(With<"seat">(0))},
+      {9, "Bob", "500", MessageText<Msg::kNoSuchSeat>(With<"seat">(9))},
+      {2, "  ", "500", MessageText<Msg::kNameMissing>()},
   };
   TestTable table;
   table.Join(1, "Ann");
@@ -61,20 +55,16 @@ TEST(PlayersJoin, TheQuestionsRepeatUntilTheAnswersAreFit) {
   table.host.answers = {"yes", "Ann", "77", " Bob ", "10000000", "-10000000", "-5"};
   EXPECT_TRUE(AddPlayer(*table.game, 4));
   const auto& boxes = table.host.boxes;
-  const std::string name = "What's the new player's name?";
-  const std::string bank = "How much would Bob like to buy-in for?";
-  const std::string expected[] = {"Would you like to add a player here?",
-                                  name,
-                                  "There's already a player named Ann.\r\r" + name,
-                                  std::string(kNumeric) + "\r\r" + name,
-                                  bank,
-                                  "The maximum player bankroll is $9,999,999\r\r" + bank,
-                                  "The minimum player bankroll is -$9,999,999\r\r" + bank};
+  const test::Said expected[] = {
+      {Msg::kAskAddPlayer, {}},
+      {Msg::kAskPlayerName, {{"problem", ""}}},
+      {Msg::kAskPlayerName, {{"problem", MessageText<Msg::kNameTaken>(With<"name">("Ann"))}}},
+      {Msg::kAskPlayerName, {{"problem", MessageText<Msg::kNameNumeric>()}}},
+      {Msg::kAskBuyIn, {{"player", "Bob"}, {"problem", ""}}},
+      {Msg::kAskBuyIn, {{"problem", MessageText<Msg::kBankrollTooHigh>(With<"limit">(kBankrollLimit))}}},
+      {Msg::kAskBuyIn, {{"problem", MessageText<Msg::kBankrollTooLow>(With<"limit">(kBankrollLimit))}}}};
   ASSERT_EQ(boxes.size(), std::size(expected));
-  for (std::size_t i = 0; i < boxes.size(); ++i) {
-    EXPECT_EQ(boxes[i].text, expected[i]);
-    EXPECT_EQ(boxes[i].title, "Add New Player");
-  }
+  for (std::size_t i = 0; i < boxes.size(); ++i) EXPECT_TRUE(Says(boxes[i], expected[i]));
   EXPECT_EQ(table.State().seats[4].SeatName, "Bob");
   EXPECT_EQ(table.State().BankrollCurrent[4], Money("-5"));
   EXPECT_EQ(table.State().seats[4].SessionsLogName, table.folder.File("bob.slg"));
@@ -106,21 +96,19 @@ TEST(PlayersRename, EveryRefusalKeepsTheOldName) {
   TestTable table;
   table.Join(1, "Ann");
   table.Join(2, "Bob");
-  const std::string prompt = "Enter a new name for Ann.";
   table.host.answers = {"BOB", "12", "ann", "yes"};
   EXPECT_TRUE(RenamePlayer(*table.game));
   const auto& boxes = table.host.boxes;
   ASSERT_EQ(boxes.size(), 3u) << "the lower-case name is unchanged, so its log keeps its name unasked";
-  EXPECT_EQ(boxes[0].text, prompt);
-  EXPECT_EQ(boxes[0].title, "Rename Player");
-  EXPECT_EQ(boxes[1].text, "There's already a player named BOB.\r\r" + prompt);
-  EXPECT_EQ(boxes[2].text, std::string(kNumeric) + "\r\r" + prompt);
+  const std::string problems[] = {"", MessageText<Msg::kNameTaken>(With<"name">("BOB")),
+                                  MessageText<Msg::kNameNumeric>()};
+  for (std::size_t i = 0; i < boxes.size(); ++i)
+    EXPECT_TRUE(Says(boxes[i], Msg::kAskNewName, {{"player", "Ann"}, {"problem", problems[i]}}));
   EXPECT_EQ(table.State().seats[1].SeatName, "ann");
   table.host.boxes.clear();
   table.host.answers = {"Cid", "yes"};
   EXPECT_TRUE(RenamePlayer(*table.game));
-  EXPECT_EQ(table.host.boxes.back().title, "Rename Sessions Log");
-  EXPECT_EQ(table.host.boxes.back().text, "Would you also like to change Cid's sessions log filename?");
+  EXPECT_TRUE(table.host.Said(Msg::kAskRenameSessionsLog, {{"player", "Cid"}}));
   EXPECT_EQ(table.State().seats[1].SessionsLogName, table.folder.File("cid.slg"));
   table.host.answers = {"cancel"};
   EXPECT_FALSE(RenamePlayer(*table.game));
@@ -144,25 +132,21 @@ TEST(PlayersPass, TheDiceGoDownwardsAndRoundTheCorner) {
 }
 
 TEST(PlayersPass, EveryReasonWhyTheyCannotPassIsTold) {
-  const std::string notNow = "Unable to pass the dice at this time.\r\r";
-  const std::string rest =
-      "but can't because a line bet is required and Put bets are not allowed.\r\rPlease wait for a come-out "
-      "roll or check the 'Allow Put bets' option on the 'Bets tab' of the configuration screen.";
   struct Case {
     int players;
     int declining;  // of the others
     bool point;
-    std::string text;
+    test::Said said;
   };
   const Case cases[] = {
-      {0, 0, false, "Unable to pass the dice.\r\rThere are no players at the table."},
-      {1, 0, false, "Unable to pass the dice.\r\rThere are no other players at the table."},
-      {2, 1, false, notNow + "Bob doesn't want to shoot."},
-      {3, 2, false, notNow + "None of the other players want to shoot."},
-      {8, 7, false, notNow + "None of the other players want to shoot."},
-      {2, 0, true, notNow + "There's one other player who wants to shoot " + rest},
-      {3, 1, true, notNow + "There's one other player who wants to shoot " + rest},
-      {4, 0, true, notNow + "There are 3 other players who want to shoot " + rest},
+      {0, 0, false, {Msg::kNobodyToPassTo, {{"others", false}}}},
+      {1, 0, false, {Msg::kNobodyToPassTo, {{"others", true}}}},
+      {2, 1, false, {Msg::kPlayerWontShoot, {{"player", "Bob"}}}},
+      {3, 2, false, {Msg::kNobodyWillShoot, {}}},
+      {8, 7, false, {Msg::kNobodyWillShoot, {}}},
+      {2, 0, true, {Msg::kShootersLackLineBet, {{"count", 1}}}},
+      {3, 1, true, {Msg::kShootersLackLineBet, {{"count", 1}}}},
+      {4, 0, true, {Msg::kShootersLackLineBet, {{"count", 3}}}},
   };
   const char* names[] = {"Ann", "Bob", "Cid", "Dot", "Eve", "Fay", "Gus", "Hal"};
   for (const Case& c : cases) {
@@ -177,8 +161,7 @@ TEST(PlayersPass, EveryReasonWhyTheyCannotPassIsTold) {
     table.host.boxes.clear();
     PassDice(*table.game, kPassByUser);
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_EQ(table.host.boxes[0].text, c.text);
-    EXPECT_EQ(table.host.boxes[0].title, "Pass the Dice");
+    EXPECT_TRUE(table.host.Said(c.said.id, c.said.arguments));
     EXPECT_EQ(table.State().ShooterSeat, c.players == 0 ? 0 : 1);
     PassDice(*table.game, kPassAfterSevenOut);
     EXPECT_EQ(table.host.boxes.size(), 1u) << "the seven-out asks nobody";
@@ -194,12 +177,11 @@ TEST(PlayersPass, AHandStaysCreditedToWhoBeganIt) {
   table.Bet(2, kPassLine, "10");
   table.Roll(2, 2);
   PassDice(*table.game, kPassByUser);
-  EXPECT_EQ(table.host.LastText(),
-            "Ann is passing the dice to Bob who may finish the current hand and then roll his/her own hand.");
+  EXPECT_TRUE(table.host.Said(Msg::kDicePassed, {{"from", "Ann"}, {"to", "Bob"}}));
   EXPECT_EQ(table.State().HandSeat, 3);
   table.State().seats[1].handling.AutoPassDice = true;
   PassDice(*table.game, kPassByUser);
-  EXPECT_EQ(table.host.LastText(), "Bob is passing the dice back to Ann who originally started this hand.");
+  EXPECT_TRUE(table.host.Said(Msg::kDicePassedBack, {{"from", "Bob"}, {"to", "Ann"}}));
   PassDice(*table.game, kPassByUser);
   table.Roll(3, 4);
   EXPECT_EQ(table.State().PreviousHandSeat, 3);
@@ -213,22 +195,13 @@ TEST(PlayersLeave, TheQuestionNamesWhatIsAbandoned) {
   struct Case {
     bool line;
     int comes;
-    const char* text;
+    test::Said said;
   };
   const Case cases[] = {
-      {false, 0, "Would you like to remove Ann?"},
-      {true, 0,
-       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet \r\rthat can't be removed and "
-       "will "
-       "be abandoned.\r\rTotal to be abandoned: $10"},
-      {false, 1,
-       "Would you like to remove Ann?\r\rAnn still has an active Come bet \r\rthat can't be removed and will "
-       "be "
-       "abandoned.\r\rTotal to be abandoned: $5"},
-      {true, 2,
-       "Would you like to remove Ann?\r\rAnn still has an active Pass Line bet and 2 active Come bets "
-       "\r\rthat "
-       "can't be removed and will be abandoned.\r\rTotal to be abandoned: $20"},
+      {false, 0, {Msg::kAskRemovePlayer, {{"player", "Ann"}}}},
+      {true, 0, {Msg::kAskAbandon, {{"passline", true}, {"come", 0}, {"total", Money("10")}}}},
+      {false, 1, {Msg::kAskAbandon, {{"passline", false}, {"come", 1}, {"total", Money("5")}}}},
+      {true, 2, {Msg::kAskAbandon, {{"passline", true}, {"come", 2}, {"total", Money("20")}}}},
   };
   for (const Case& c : cases) {
     TestTable table;
@@ -243,8 +216,7 @@ TEST(PlayersLeave, TheQuestionNamesWhatIsAbandoned) {
     }
     if (c.comes > 0) table.Roll(1, 1);
     EXPECT_FALSE(RemovePlayer(*table.game));
-    EXPECT_EQ(table.host.LastText(), c.text);
-    EXPECT_EQ(table.host.boxes.back().title, "Remove Player");
+    EXPECT_TRUE(table.host.Said(c.said.id, c.said.arguments));
     table.host.answers = {"yes"};
     EXPECT_TRUE(RemovePlayer(*table.game));
     table.Check("leaving");
@@ -260,7 +232,7 @@ TEST(PlayersLeave, ThePassLineBetBeforeAPointIsNotAbandoned) {
   table.Join(1, "Ann");
   table.Bet(1, kPassLine, "10");
   EXPECT_FALSE(RemovePlayer(*table.game));
-  EXPECT_EQ(table.host.LastText(), "Would you like to remove Ann?");
+  EXPECT_TRUE(table.host.Said(Msg::kAskRemovePlayer, {{"player", "Ann"}}));
 }
 
 TEST(PlayersLeave, TheCashOutLineTellsWinLossAndWhatWasAbandoned) {

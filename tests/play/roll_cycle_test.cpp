@@ -14,17 +14,13 @@ namespace {
 using test::Money;
 using test::TestTable;
 
-constexpr const char* kNote =
-    "\r\rNote: This requirement can be changed on the 'Bets tab' of the configuration screen.";
-constexpr const char* kReset = "\r\rSelect \"New\" from the \"Game\" menu to reset the table.";
-
 // What keeps a roll from being made, and what is told of it by hand and in a run.
 struct Stop {
   const char* name;
   void (*prepare)(TestTable&);
-  std::string title;
-  std::string text;
-  std::string reason;  // of the run
+  Msg box;
+  Msg reason;  // of the run
+  Currency limit = kZero;
 };
 
 void NoPlayers(TestTable&) {}
@@ -69,34 +65,16 @@ void PoorBeyondTheLimit(TestTable& table) {
 }
 
 const Stop kStops[] = {
-    {"no players", NoPlayers, "Roll the Dice", "No players are available to bet.",
-     "No players are available to bet."},
-    {"one without a line bet", AloneWithoutLine, "Line Bet Required",
-     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or a Don't Pass bet.") +
-         kNote,
-     "Shooter has no line bet."},
-    {"two on the come-out", TwoOnTheComeOut, "Line Bet Required",
-     std::string(
-         "A line bet is required to shoot.\r\rAnn must make a Pass Line bet, a Don't Pass bet, or pass the "
-         "dice.") +
-         kNote,
-     "Shooter has no line bet."},
-    {"two with a point", TwoWithAPoint, "Line Bet Required",
-     std::string("A line bet is required to shoot.\r\rAnn must make a Pass Line bet or pass the dice.") +
-         kNote,
-     "Shooter has no line bet."},
-    {"any bet", AnyBetMissing, "Any Bet Required",
-     std::string("A bet is required to shoot.\r\rAnn must make any bet or pass the dice.") + kNote,
-     "Shooter has no bet."},
-    {"limit of rolls", RollsAtTheLimit, "Reached Maximum Roll Limit",
-     std::string("Sorry ... the maximum limit of 2,000,000,000 rolls has been reached.") + kReset,
-     std::string("Stopped due to reaching the maximum limit of 2,000,000,000 rolls.") + kReset},
-    {"too rich", RichBeyondTheLimit, "Tessaryn",
-     std::string("Congratulations!\r\rAnn broke the max bankroll limit of $9,999,999") + kReset,
-     std::string("Stopped by breaking the max bankroll limit of $9,999,999") + kReset},
-    {"too poor", PoorBeyondTheLimit, "Tessaryn",
-     std::string("Sorry ... \r\rAnn has exceeded the negative bankroll limit of -$9,999,999") + kReset,
-     std::string("Stopped by exceeding the negative bankroll limit of -$9,999,999") + kReset},
+    {"no players", NoPlayers, Msg::kNobodyToBet, Msg::kNobodyToBet},
+    {"one without a line bet", AloneWithoutLine, Msg::kLineBetRequiredAlone, Msg::kShooterHasNoLineBet},
+    {"two on the come-out", TwoOnTheComeOut, Msg::kLineBetRequired, Msg::kShooterHasNoLineBet},
+    {"two with a point", TwoWithAPoint, Msg::kLineBetRequiredOnPoint, Msg::kShooterHasNoLineBet},
+    {"any bet", AnyBetMissing, Msg::kAnyBetRequired, Msg::kShooterHasNoBet},
+    {"limit of rolls", RollsAtTheLimit, Msg::kRollLimitReached, Msg::kStoppedByRollLimit,
+     Money("2000000000")},
+    {"too rich", RichBeyondTheLimit, Msg::kBankrollLimitBroken, Msg::kStoppedByBankrollLimit, kBankrollLimit},
+    {"too poor", PoorBeyondTheLimit, Msg::kNegativeLimitExceeded, Msg::kStoppedByNegativeLimit,
+     kBankrollLimit},
 };
 
 TEST(RollCycleStops, ByHandABoxSaysWhyNothingIsRolled) {
@@ -109,8 +87,7 @@ TEST(RollCycleStops, ByHandABoxSaysWhyNothingIsRolled) {
     table.Roll(3, 4);
     EXPECT_EQ(SessionRolls(table.game->stats), rolls);
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_EQ(table.host.boxes[0].title, stop.title);
-    EXPECT_EQ(table.host.boxes[0].text, stop.text);
+    EXPECT_TRUE(table.host.Said(stop.box));
     EXPECT_FALSE(table.State().RollInProgress);
   }
 }
@@ -124,10 +101,10 @@ TEST(RollCycleStops, ARunEndsWithItsReasonAndNoOtherBox) {
     const std::int64_t rolls = SessionRolls(table.game->stats);
     table.Turbo(10);
     EXPECT_EQ(SessionRolls(table.game->stats), rolls);
-    EXPECT_EQ(table.State().StopReason, stop.reason);
+    const std::string reason = MessageText(stop.reason, {{"limit", stop.limit}});
+    EXPECT_EQ(table.State().StopReason, reason);
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_EQ(table.host.boxes[0].title, "Turbo-Roll Stopped");
-    EXPECT_EQ(table.host.boxes[0].text, stop.reason);
+    EXPECT_TRUE(table.host.Said(Msg::kRunStopped, {{"reason", reason}}));
     EXPECT_FALSE(table.State().AutoRollActive);
     EXPECT_FALSE(table.State().TurboRollActive);
   }
@@ -150,8 +127,7 @@ TEST(RollCycleStops, TheWinThatBreaksTheLimitEndsTheRunAfterItsRoll) {
   table.Roll(3, 4);
   EXPECT_EQ(SessionRolls(table.game->stats), 1);
   EXPECT_EQ(table.State().BankrollCurrent[1], Money("10000000"));
-  EXPECT_EQ(table.host.LastText(),
-            std::string("Congratulations!\r\rAnn broke the max bankroll limit of $9,999,999") + kReset);
+  EXPECT_TRUE(table.host.Said(Msg::kBankrollLimitBroken, {{"player", "Ann"}, {"limit", kBankrollLimit}}));
 }
 
 TEST(RollCycleStops, AutoStopEndsBothKindsOfRunAtWholeMultiples) {
@@ -167,8 +143,7 @@ TEST(RollCycleStops, AutoStopEndsBothKindsOfRunAtWholeMultiples) {
       ToggleAutoRoll(*table.game);
       EXPECT_EQ(SessionRolls(table.game->stats), expected);
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].title, turbo ? "Turbo-Roll Stopped" : "Auto-Roll Stopped");
-      EXPECT_EQ(table.host.boxes[0].text, turbo ? "Stopped by Auto-Stop." : "Stopped by Auto-Stop");
+      EXPECT_TRUE(table.host.Said(turbo ? Msg::kRunStopped : Msg::kAutoRollStopped));
     }
   }
 }
@@ -219,15 +194,14 @@ TEST(RollCycleFiles, TheEndOfTheFileStopsAndAsksWhatNext) {
         for (int i = 0; i < 3; ++i) RollDice(*table.game);
       }
       EXPECT_EQ(SessionRolls(table.game->stats), 2);
-      EXPECT_EQ(table.State().StopReason, "Stopped due to end of Dice Roll File reached.");
+      EXPECT_EQ(table.State().StopReason, MessageText<Msg::kStoppedAtFileEnd>());
       EXPECT_EQ(table.game->rollFile.RecorderState, c.recorder);
       EXPECT_EQ(table.game->rollFile.RollFileCursor, c.cursor);
       EXPECT_FALSE(table.State().AutoRollActive);
       EXPECT_TRUE(table.game->autobet.RollFileEndReached);
-      if (turbo) {
-        EXPECT_EQ(table.host.boxes[0].text, "Stopped due to end of Dice Roll File reached.");
-      }
-      EXPECT_EQ(table.host.boxes.size(), turbo ? 2u : 1u);
+      ASSERT_EQ(table.host.boxes.size(), turbo ? 2u : 1u);
+      EXPECT_TRUE(Says(table.host.boxes[0], turbo ? Msg::kRunStopped : Msg::kAskRewind));
+      EXPECT_TRUE(table.host.Said(Msg::kAskRewind, {{"recording", false}}));
     }
   }
 }
@@ -243,11 +217,10 @@ TEST(RollCycleFiles, AValueOutOfLimitsStopsAndTurnsTheRecorderOff) {
         RollDice(*table.game);
       }
       EXPECT_EQ(SessionRolls(table.game->stats), 1) << bad;
-      EXPECT_EQ(table.State().StopReason, "Stopped due to Dice Roll File value out of limits.");
+      EXPECT_EQ(table.State().StopReason, MessageText<Msg::kStoppedByRollOutOfLimits>());
       EXPECT_EQ(table.game->rollFile.RecorderState, kRecorderOff);
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].text, turbo ? "Stopped due to Dice Roll File value out of limits."
-                                                : std::string(kRollOutOfLimitsText));
+      EXPECT_TRUE(table.host.Said(turbo ? Msg::kRunStopped : Msg::kRollOutOfLimits));
       EXPECT_EQ(table.State().Die1 + table.State().Die2, 7) << "the dice lie as they fell";
     }
   }

@@ -335,20 +335,15 @@ TEST(SettingTableRandom, RulesThatChangeInTheMiddleOfPlayKeepTheTableTogether) {
 struct FamilyCase {
   const char* name;
   std::vector<int> bets;
-  const char* title;
-  const char* text;
+  Msg question;
+  const char* told;  // what is up
 };
 
-constexpr const char* kEnd =
-    " which will be removed if you continue with this operation.  Would you like to continue?";
 const FamilyCase kFamilies[] = {
-    {"UseBig68", {kBig6, kBig8}, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
-    {"UseFire", {kFire}, "Remove Fire Bets", "one or more wagers on the Fire bet"},
-    {"UseMidway", {kMidway}, "Remove Midway Bets", "one or more Midway bets present"},
-    {"SmallTallEnabled",
-     {kAllSmall, kPoint7},
-     "Remove Special Prop Bets",
-     "one or more wagers on the following special prop bets: All Small, Point 7"},
+    {"UseBig68", {kBig6, kBig8}, Msg::kAskRemoveBig68, "Big 6, Big 8"},
+    {"UseFire", {kFire}, Msg::kAskRemoveFire, "Fire"},
+    {"UseMidway", {kMidway}, Msg::kAskRemoveMidway, "Midway"},
+    {"SmallTallEnabled", {kAllSmall, kPoint7}, Msg::kAskRemoveSpecials, "All Small, Point 7"},
 };
 
 TEST(SettingTableFamilies, GoOffWithTheirBetsOnlyAfterAYes) {
@@ -362,8 +357,7 @@ TEST(SettingTableFamilies, GoOffWithTheirBetsOnlyAfterAYes) {
       std::string error;
       EXPECT_EQ(SetSetting(*table.game, family.name, 0, "off", error), yes);
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].title, family.title);
-      EXPECT_EQ(table.host.boxes[0].text, std::string("There are currently ") + family.text + kEnd);
+      EXPECT_TRUE(table.host.Said(family.question, {{"bets", family.told}}));
       for (const int bet : family.bets) EXPECT_EQ(table.State().BetAmount(2, bet), Money(yes ? "0" : "5"));
       EXPECT_EQ(table.State().BetAmount(2, kField), Money("5"));
       EXPECT_EQ(table.State().BankrollCurrent[2], Money("1000"));
@@ -395,10 +389,7 @@ TEST(SettingTableFamilies, ASevenPointSevenThatRidesKeepsItsFamily) {
   std::string error;
   table.host.answers = {"yes"};
   EXPECT_FALSE(SetSetting(*table.game, "SmallTallEnabled", 0, "off", error));
-  EXPECT_EQ(table.host.LastText(),
-            "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
-            "contract bet, "
-            "you can't remove it until it resolves.");
+  EXPECT_TRUE(table.host.Said(Msg::kSpecialsAreContract));
   EXPECT_EQ(table.State().BetAmount(1, kSevenPoint7), Money("5"));
   EXPECT_EQ(Read(*table.game, "SmallTallEnabled"), "on");
 }
@@ -429,23 +420,11 @@ TEST(SettingTableVig, AChargeThatCannotBePaidIsRefused) {
     int bet;
     const char* amount;
     const char* name;
-    const char* title;
+    Msg refusal;
   };
-  const std::string one =
-      "You're not allowed to change this setting at this time because you don't have enough bankroll "
-      "remaining to pay "
-      "the added up-front vig that would be required.";
-  const std::string several =
-      "You're not allowed to change this setting at this time because one or more players doesn't have "
-      "enough bankroll "
-      "remaining to pay the added up-front vig that would be required.";
-  const std::string remedies =
-      "\r\r -- Make a withdrawal from the ATM\r -- Reduce the amount on current bets\r -- Check \"Allow "
-      "negative "
-      "bankroll\"";
-  for (const Case& c : {Case{1, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
-                        Case{2, kBuy4, "100", "BuyVigUpFront", "Buy Bet Vig"},
-                        Case{1, kLay4, "100", "LayVigUpFront", "Lay Bet Vig"}}) {
+  for (const Case& c : {Case{1, kBuy4, "100", "BuyVigUpFront", Msg::kBuyVigNotCovered},
+                        Case{2, kBuy4, "100", "BuyVigUpFront", Msg::kBuyVigNotCovered},
+                        Case{1, kLay4, "100", "LayVigUpFront", Msg::kLayVigNotCovered}}) {
     for (const bool negative : {false, true}) {
       TestTable table;
       table.Set(c.name, "off");
@@ -463,8 +442,7 @@ TEST(SettingTableVig, AChargeThatCannotBePaidIsRefused) {
       table.Check("the vig");
       if (negative) continue;
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].title, c.title);
-      EXPECT_EQ(table.host.boxes[0].text, (c.players == 1 ? one : several) + remedies);
+      EXPECT_TRUE(table.host.Said(c.refusal, {{"alone", c.players == 1}}));
     }
   }
 }
@@ -489,9 +467,7 @@ TEST(SettingTable, ANegativeBankrollKeepsItsPermission) {
   table.Set("AllowNegativeBankroll", "on", 1);
   std::string error;
   EXPECT_FALSE(SetSetting(*table.game, "AllowNegativeBankroll", 1, "off", error));
-  EXPECT_NE(
-      error.find("Before you can un-check this box, Ann must have a non-negative bankroll. Some options:"),
-      std::string::npos);
+  EXPECT_EQ(error, MessageText<Msg::kBankrollIsNegative>(With<"player">("Ann")));
   EXPECT_EQ(Read(*table.game, "AllowNegativeBankroll", 1), "on");
 }
 
@@ -500,8 +476,8 @@ TEST(SettingTable, ANewHouseStandardIsOfferedToEachPlayer) {
   table.host.answers = {"yes", "no", "yes"};
   table.Set("BetDefaultWorking.31", "on");
   ASSERT_EQ(table.host.boxes.size(), 3u);
-  EXPECT_EQ(table.host.boxes[0].title, "Work On Come-out Roll");
-  EXPECT_EQ(table.host.boxes[1].text, "Would you like to make Ann's settings match the house standard?");
+  EXPECT_TRUE(Says(table.host.boxes[0], Msg::kAskMatchHouse));
+  EXPECT_TRUE(Says(table.host.boxes[1], Msg::kAskMatchHouseOf, {{"player", "Ann"}}));
   EXPECT_EQ(Read(*table.game, "BetDefaultWorking.31", 1), "off");
   EXPECT_EQ(Read(*table.game, "BetDefaultWorking.31", 2), "on");
   table.Join(3, "Cid");

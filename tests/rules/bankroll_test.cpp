@@ -18,43 +18,21 @@ struct AtmCase {
   const char* amount;
   const char* allowed;
   bool fromConfiguration;
-  std::string text;  // empty: no box
+  Msg said = Msg::kNone;
 };
 
-constexpr const char* kMore =
-    "\r\rYou can deposit more by checking the box marked, \"Allow negative bankroll\"";
-constexpr const char* kNotFull = "The full amount of this transaction was not allowed because ";
-
-std::string Asked(const char* requested, const char* allowed, const std::string& reason) {
-  return std::string("Requested amount:  $") + requested + "\rAllowed amount:  $" + allowed + "\r\r" +
-         kNotFull + reason;
-}
-
 TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
-  const std::string ends = " on the Configuration screen";
   const AtmCase cases[] = {
-      {"500", "", false, true, "500", "500", false, ""},
-      {"500", "", false, true, "501", "500", false,
-       Asked("501", "500", "Ann's bankroll would've become negative." + std::string(kMore) + ends + ".")},
-      {"500", "", false, true, "1000", "500", true,
-       Asked("1,000", "500", "Ann's bankroll would've become negative." + std::string(kMore) + ".")},
-      {"500", "40", false, true, "461", "460", false,
-       Asked("461", "460",
-             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) +
-                 ends + ", and/or by reducing the amount currently wagered.")},
-      {"40", "40", false, true, "10", "0", false,
-       Asked("10", "0",
-             "Ann's bankroll would've dropped below the amount currently wagered." + std::string(kMore) +
-                 ends + ", and/or by reducing the amount currently wagered.")},
-      {"500", "", true, true, "10000499", "10000499", false, ""},
-      {"500", "", true, true, "10000500", "10000499", false,
-       Asked("10,000,500", "10,000,499",
-             "it would've caused Ann's bankroll to drop below the negative bank limit of $9,999,999")},
-      {"500", "", false, false, "9999499", "9999499", false, ""},
-      {"500", "", false, false, "9999499.5", "9999499", false,
-       Asked("9,999,499.50", "9,999,499",
-             "it would've caused Ann's bankroll to exceed the max bank limit of $9,999,999")},
-      {"500", "", false, false, "0", "0", false, ""},
+      {"500", "", false, true, "500", "500", false},
+      {"500", "", false, true, "501", "500", false, Msg::kDepositNegative},
+      {"500", "", false, true, "1000", "500", true, Msg::kDepositNegative},
+      {"500", "40", false, true, "461", "460", false, Msg::kDepositBelowWagers},
+      {"40", "40", false, true, "10", "0", false, Msg::kDepositBelowWagers},
+      {"500", "", true, true, "10000499", "10000499", false},
+      {"500", "", true, true, "10000500", "10000499", false, Msg::kDepositBelowLimit},
+      {"500", "", false, false, "9999499", "9999499", false},
+      {"500", "", false, false, "9999499.5", "9999499", false, Msg::kWithdrawalAboveLimit},
+      {"500", "", false, false, "0", "0", false},
   };
   for (const AtmCase& c : cases) {
     SCOPED_TRACE(std::string(c.bankroll) + (c.deposit ? " deposit " : " withdraw ") + c.amount);
@@ -70,9 +48,11 @@ TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
     EXPECT_EQ(moved, c.deposit ? -Money(c.allowed) : Money(c.allowed));
     for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})
       EXPECT_EQ(table.game->stats.AtmTotal[Slot(scope, 1)], moved);
-    EXPECT_EQ(table.host.LastText(), c.text);
-    if (!c.text.empty()) {
-      EXPECT_EQ(table.host.boxes[0].title, c.deposit ? "ATM Deposit" : "ATM Withdrawal");
+    EXPECT_TRUE(table.host.Said(c.said));
+    if (c.said != Msg::kNone) {
+      EXPECT_TRUE(table.host.Said(c.said, {{"requested", Money(c.amount)},
+                                           {"allowed", Money(c.allowed)},
+                                           {"elsewhere", !c.fromConfiguration}}));
     }
     table.Check("the ATM");
   }

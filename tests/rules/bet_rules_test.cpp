@@ -32,7 +32,7 @@ struct RuleCase {
   int bet;
   const char* request;
   const char* change;
-  std::string sentence;  // empty: no box
+  test::Said said = {};  // of a player and a bet; Msg::kNone: no box
   const char* bankroll = "5000";
 };
 
@@ -40,97 +40,43 @@ using Rolls = std::vector<std::pair<int, int>>;
 const Rolls kPoint4 = {{2, 2}};
 const Rolls kNone = {};
 
-const std::string kPassDown =
-    "You may not decrease or remove your Pass Line bet \rwhile a point is established.";
-const std::string kPassUp =
-    "You may not make or increase a Pass Line bet \rwhile a point is established.\r\r(Unless you check "
-    "\"Allow Put "
-    "Bets\" on the\rConfiguration screen.)";
-const std::string kComeDown = "You may not decrease or remove a Come bet \rwhich is established on a point.";
-const std::string kComeUp =
-    "You may not make or increase a Come bet \rdirectly on a point number.\r\r(Unless you check \"Allow Put "
-    "Bets\" on "
-    "the\rConfiguration screen.)";
-const std::string kNoMoney =
-    "You don't have enough bankroll remaining to bet the full amount requested.\r\rYour options are: \r";
-const std::string kNoMoneyEnd = "      - Make a withdrawal from the ATM.\r      - Allow negative bankroll.";
-
-std::string ComeOutOnly(const char* name) {
-  return std::string("You may not make or increase a ") + name +
-         " bet unless the shooter is on a come-out roll.";
-}
-std::string HandStarted(const char* name) {
-  return std::string("You may not make or increase a ") + name + " bet after the shooter has started a hand.";
-}
-
 const RuleCase kRefusals[] = {
     // Contracts.
-    {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "-10", "0", kPassDown},
-    {{}, {{kPassLine, "10"}}, kPoint4, {{kPassLine, "20"}}, kPassLine, "-30", "-20", kPassDown},
-    {{}, {{kPassLine, "10"}}, kPoint4, {{kPassLine, "20"}}, kPassLine, "-20", "-20", ""},
-    {{}, {{kPassLine, "10"}}, kNone, {}, kPassLine, "-10", "-10", ""},
-    {{}, {}, {{2, 2}, {1, 1}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "-10", "-10", ""},
-    {{}, {{kPassLine, "10"}}, {{2, 2}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "10", "10", ""},
-    {{},
-     {{kSevenPoint7, "10"}},
-     kPoint4,
-     {},
-     kSevenPoint7,
-     "-10",
-     "0",
-     "You may not decrease or remove a 7 Point 7 bet \rwhile a point is established."},
-    {{}, {{kSevenPoint7, "10"}}, kNone, {}, kSevenPoint7, "-10", "-10", ""},
-    {{}, {{kDontPass, "10"}}, kPoint4, {}, kDontPass, "-10", "-10", ""},
-    // Line bets.
-    {{{"AllowPutBets", "off"}}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "5", "0", kPassUp},
-    {{{"AllowPutBets", "off"}}, {}, kPoint4, {}, kPassLine, "5", "0", kPassUp},
-    {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "5", "5", ""},
-    {{}, {}, kNone, {}, kCome, "5", "0", "You may not make a Come bet \runtil a point is established."},
-    {{}, {}, kPoint4, {}, kCome, "5", "5", ""},
-    {{},
-     {},
-     kNone,
-     {},
-     kDontCome,
-     "5",
-     "0",
-     "You may not make a Don't Come bet \runtil a point is established."},
-    {{},
-     {{kDontPass, "10"}},
-     kPoint4,
-     {},
-     kDontPass,
-     "5",
-     "0",
-     "You may not make or increase a Don't Pass bet \rwhile a point is established."},
-    {{}, {{kDontPass, "10"}}, kPoint4, {{kDontPass, "-5"}}, kDontPass, "5", "5", ""},
+    {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "-10", "0", {Msg::kPassLineIsContract}},
     {{},
      {{kPassLine, "10"}},
-     kNone,
-     {},
-     kPassLineOdds,
-     "5",
-     "0",
-     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
-     "established."},
-    {{},
-     {},
+     kPoint4,
+     {{kPassLine, "20"}},
+     kPassLine,
+     "-30",
+     "-20",
+     {Msg::kPassLineIsContract}},
+    {{}, {{kPassLine, "10"}}, kPoint4, {{kPassLine, "20"}}, kPassLine, "-20", "-20", {}},
+    {{}, {{kPassLine, "10"}}, kNone, {}, kPassLine, "-10", "-10", {}},
+    {{}, {}, {{2, 2}, {1, 1}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "-10", "-10", {}},
+    {{}, {{kPassLine, "10"}}, {{2, 2}}, {{kCome4 + 2, "10"}}, kCome4 + 2, "10", "10", {}},
+    {{}, {{kSevenPoint7, "10"}}, kPoint4, {}, kSevenPoint7, "-10", "0", {Msg::kBetIsContract}},
+    {{}, {{kSevenPoint7, "10"}}, kNone, {}, kSevenPoint7, "-10", "-10", {}},
+    {{}, {{kDontPass, "10"}}, kPoint4, {}, kDontPass, "-10", "-10", {}},
+    // Line bets.
+    {{{"AllowPutBets", "off"}},
+     {{kPassLine, "10"}},
      kPoint4,
      {},
-     kPassLineOdds,
+     kPassLine,
      "5",
      "0",
-     "You may not make a Pass Line Odds bet unless \ryou also have a Pass Line bet and a point is "
-     "established."},
-    {{},
-     {},
-     kPoint4,
-     {},
-     kDontPassOdds,
-     "5",
-     "0",
-     "You may not make a Don't Pass Odds bet unless \ryou also have a Don't Pass bet and a point is "
-     "established."},
+     {Msg::kPutPassLineRefused}},
+    {{{"AllowPutBets", "off"}}, {}, kPoint4, {}, kPassLine, "5", "0", {Msg::kPutPassLineRefused}},
+    {{}, {{kPassLine, "10"}}, kPoint4, {}, kPassLine, "5", "5", {}},
+    {{}, {}, kNone, {}, kCome, "5", "0", {Msg::kComeNeedsPoint}},
+    {{}, {}, kPoint4, {}, kCome, "5", "5", {}},
+    {{}, {}, kNone, {}, kDontCome, "5", "0", {Msg::kDontComeNeedsPoint}},
+    {{}, {{kDontPass, "10"}}, kPoint4, {}, kDontPass, "5", "0", {Msg::kDontPassRefused}},
+    {{}, {{kDontPass, "10"}}, kPoint4, {{kDontPass, "-5"}}, kDontPass, "5", "5", {}},
+    {{}, {{kPassLine, "10"}}, kNone, {}, kPassLineOdds, "5", "0", {Msg::kPassLineOddsRefused}},
+    {{}, {}, kPoint4, {}, kPassLineOdds, "5", "0", {Msg::kPassLineOddsRefused}},
+    {{}, {}, kPoint4, {}, kDontPassOdds, "5", "0", {Msg::kDontPassOddsRefused}},
     {{},
      {{kPassLine, "10"}},
      kPoint4,
@@ -138,112 +84,70 @@ const RuleCase kRefusals[] = {
      kPassLineOdds,
      "100",
      "30",
-     "The maximum Pass Line Odds bet is $30"},
+     {Msg::kMaximumBet, {{"limit", Money("30")}}}},
     // On the numbers.
-    {{},
-     {},
-     kPoint4,
-     {},
-     kComeOdds4 + 1,
-     "5",
-     "0",
-     "You may not make a Come 5 Odds bet \runtil you've established a Come 5 bet."},
-    {{},
-     {},
-     kNone,
-     {},
-     kDontComeOdds4 + 5,
-     "5",
-     "0",
-     "You may not make a Don't Come 10 Odds bet \runtil you've established a Don't Come 10 bet."},
-    {{{"AllowPutBets", "off"}}, {}, kPoint4, {}, kCome4, "5", "0", kComeUp},
-    {{}, {}, kPoint4, {}, kCome4, "5", "5", ""},
-    {{},
-     {},
-     kNone,
-     {},
-     kDontCome4,
-     "5",
-     "0",
-     "You may not make or increase a Don't Come bet \rdirectly on a point number."},
+    {{}, {}, kPoint4, {}, kComeOdds4 + 1, "5", "0", {Msg::kOddsNeedFlatBet, {{"flat", "Come 5"}}}},
+    {{}, {}, kNone, {}, kDontComeOdds4 + 5, "5", "0", {Msg::kOddsNeedFlatBet, {{"flat", "Don't Come 10"}}}},
+    {{{"AllowPutBets", "off"}}, {}, kPoint4, {}, kCome4, "5", "0", {Msg::kPutComeRefused}},
+    {{}, {}, kPoint4, {}, kCome4, "5", "5", {}},
+    {{}, {}, kNone, {}, kDontCome4, "5", "0", {Msg::kPutDontComeRefused}},
     // Marks, counts and hands.
-    {{},
-     {{kAllSmall, "5"}},
-     {{1, 1}},
-     {},
-     kAllSmall,
-     "5",
-     "0",
-     "You may not make or increase an All Small bet \rwhile any small numbers are marked."},
-    {{},
-     {{kAllTall, "5"}},
-     {{6, 6}},
-     {},
-     kAllTall,
-     "5",
-     "0",
-     "You may not make or increase an All Tall bet \rwhile any tall numbers are marked."},
-    {{},
-     {{kMakeAll, "5"}},
-     {{6, 6}},
-     {},
-     kMakeAll,
-     "5",
-     "0",
-     "You may not make or increase a Make All bet \rwhile any numbers are marked."},
-    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllSmall, "5", "5", ""},
-    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllTall, "-5", "-5", ""},
-    {{},
-     {{kFourRolls, "5"}},
-     {{6, 6}},
-     {},
-     kFourRolls,
-     "5",
-     "0",
-     "You may not make or increase a 4 Rolls No 7 bet if the count is in progress."},
-    {{}, {}, kPoint4, {}, kPoint7, "5", "0", ComeOutOnly("Point 7")},
-    {{}, {}, kPoint4, {}, kSevenPoint7, "5", "0", ComeOutOnly("7 Point 7")},
-    {{}, {}, {{6, 6}}, {}, kSharpShooter, "5", "0", HandStarted("Sharp Shooter")},
-    {{}, {}, {{6, 6}}, {}, kRideTheLine, "5", "0", HandStarted("Ride The Line")},
-    {{}, {}, {{6, 6}}, {}, kFire, "5", "0", HandStarted("Fire")},
-    {{}, {}, {{2, 2}, {3, 4}}, {}, kFire, "5", "5", ""},
+    {{}, {{kAllSmall, "5"}}, {{1, 1}}, {}, kAllSmall, "5", "0", {Msg::kSmallNumbersMarked}},
+    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllTall, "5", "0", {Msg::kTallNumbersMarked}},
+    {{}, {{kMakeAll, "5"}}, {{6, 6}}, {}, kMakeAll, "5", "0", {Msg::kNumbersMarked}},
+    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllSmall, "5", "5", {}},
+    {{}, {{kAllTall, "5"}}, {{6, 6}}, {}, kAllTall, "-5", "-5", {}},
+    {{}, {{kFourRolls, "5"}}, {{6, 6}}, {}, kFourRolls, "5", "0", {Msg::kCountInProgress}},
+    {{}, {}, kPoint4, {}, kPoint7, "5", "0", {Msg::kNeedsComeOutRoll}},
+    {{}, {}, kPoint4, {}, kSevenPoint7, "5", "0", {Msg::kNeedsComeOutRoll}},
+    {{}, {}, {{6, 6}}, {}, kSharpShooter, "5", "0", {Msg::kHandHasStarted}},
+    {{}, {}, {{6, 6}}, {}, kRideTheLine, "5", "0", {Msg::kHandHasStarted}},
+    {{}, {}, {{6, 6}}, {}, kFire, "5", "0", {Msg::kHandHasStarted}},
+    {{}, {}, {{2, 2}, {3, 4}}, {}, kFire, "5", "5", {}},
     // Limits.
-    {{{"MinBetMain", "10"}}, {}, kNone, {}, kField, "3", "10", "The minimum Field bet is $10"},
-    {{{"MinBetProp", "4"}}, {}, kNone, {}, kHard6, "1", "4", "The minimum Hard 6 bet is $4"},
-    {{{"MinBetMain", "10"}}, {{kField, "15"}}, kNone, {}, kField, "-6", "-15", ""},
-    {{}, {}, kNone, {}, kField, "1000.0001", "1000", "The maximum Field bet is $1,000"},
-    {{}, {{kField, "990"}}, kNone, {}, kField, "11", "10", "The maximum Field bet is $1,000"},
-    {{{"MessageMask", "1"}}, {}, kNone, {}, kLay4, "5000", "2000", "The maximum Lay 4 bet is $2,000"},
-    {{}, {}, kNone, {}, kHard6, "5000", "333", "The maximum Hard 6 bet is $333"},
-    {{}, {}, kNone, {}, kTwo, "5000", "100", "The maximum Two bet is $100"},
-    {{}, {}, kNone, {}, kFire, "9", "5", "The maximum Fire bet is $5"},
-    {{}, {}, kNone, {}, kHorn, "5000", "400", "The maximum Horn bet is $400"},
-    {{}, {}, kNone, {}, kWorld, "5000", "500", "The maximum World bet is $500"},
-    {{}, {}, kNone, {}, kCAndE, "5000", "400", "The maximum C and E bet is $400"},
-    {{}, {}, kNone, {}, kSharpShooter, "5000", "10", "The maximum Sharp Shooter bet is $10"},
-    // Whole units: an increase goes up, a decrease away from zero.
-    {{}, {}, kNone, {}, kField, "2.1", "3", ""},
-    {{}, {{kField, "10"}}, kNone, {}, kField, "-2.1", "-3", ""},
-    {{}, {{kField, "10"}}, kNone, {}, kField, "-200", "-10", ""},
-    {{}, {{kField, "10"}}, kNone, {}, kField, "0", "0", ""},
-    // Money.
-    {{}, {}, kNone, {}, kField, "60", "50", kNoMoney + kNoMoneyEnd, "50"},
-    {{},
-     {{kBig6, "45"}},
+    {{{"MinBetMain", "10"}}, {}, kNone, {}, kField, "3", "10", {Msg::kMinimumBet, {{"limit", Money("10")}}}},
+    {{{"MinBetProp", "4"}}, {}, kNone, {}, kHard6, "1", "4", {Msg::kMinimumBet, {{"limit", Money("4")}}}},
+    {{{"MinBetMain", "10"}}, {{kField, "15"}}, kNone, {}, kField, "-6", "-15", {}},
+    {{}, {}, kNone, {}, kField, "1000.0001", "1000", {Msg::kMaximumBet, {{"limit", Money("1,000")}}}},
+    {{}, {{kField, "990"}}, kNone, {}, kField, "11", "10", {Msg::kMaximumBet, {{"limit", Money("1,000")}}}},
+    {{{"MessageMask", "1"}},
+     {},
      kNone,
      {},
-     kField,
-     "60",
-     "5",
-     kNoMoney + "      - Bet less on other bets.\r" + kNoMoneyEnd,
-     "50"},
+     kLay4,
+     "5000",
+     "2000",
+     {Msg::kMaximumBet, {{"limit", Money("2,000")}}}},
+    {{}, {}, kNone, {}, kHard6, "5000", "333", {Msg::kMaximumBet, {{"limit", Money("333")}}}},
+    {{}, {}, kNone, {}, kTwo, "5000", "100", {Msg::kMaximumBet, {{"limit", Money("100")}}}},
+    {{}, {}, kNone, {}, kFire, "9", "5", {Msg::kMaximumBet, {{"limit", Money("5")}}}},
+    {{}, {}, kNone, {}, kHorn, "5000", "400", {Msg::kMaximumBet, {{"limit", Money("400")}}}},
+    {{}, {}, kNone, {}, kWorld, "5000", "500", {Msg::kMaximumBet, {{"limit", Money("500")}}}},
+    {{}, {}, kNone, {}, kCAndE, "5000", "400", {Msg::kMaximumBet, {{"limit", Money("400")}}}},
+    {{}, {}, kNone, {}, kSharpShooter, "5000", "10", {Msg::kMaximumBet, {{"limit", Money("10")}}}},
+    // Whole units: an increase goes up, a decrease away from zero.
+    {{}, {}, kNone, {}, kField, "2.1", "3", {}},
+    {{}, {{kField, "10"}}, kNone, {}, kField, "-2.1", "-3", {}},
+    {{}, {{kField, "10"}}, kNone, {}, kField, "-200", "-10", {}},
+    {{}, {{kField, "10"}}, kNone, {}, kField, "0", "0", {}},
+    // Money.
+    {{}, {}, kNone, {}, kField, "60", "50", {Msg::kBankrollTooSmall, {{"others", false}}}, "50"},
+    {{}, {{kBig6, "45"}}, kNone, {}, kField, "60", "5", {Msg::kBankrollTooSmall, {{"others", true}}}, "50"},
     // 5 percent of 48 is 2.40, which rounds to 2: 48 and 2 are all the money there is.
-    {{{"MessageMask", "2"}}, {}, kNone, {}, kBuy4, "60", "48", kNoMoney + kNoMoneyEnd, "50"},
+    {{{"MessageMask", "2"}},
+     {},
+     kNone,
+     {},
+     kBuy4,
+     "60",
+     "48",
+     {Msg::kBankrollTooSmall, {{"others", false}}},
+     "50"},
 };
 
-TEST(BetRules, EveryRefusalHasItsWordsAndItsChange) {
+TEST(BetRules, EveryRefusalHasItsNoteAndItsChange) {
   for (const RuleCase& c : kRefusals) {
-    SCOPED_TRACE(BetName(c.bet) + " " + c.request + ": " + c.sentence);
+    SCOPED_TRACE(BetName(c.bet) + " " + c.request + ": " + test::NameOf(c.said.id));
     TestTable table;
     table.Set("ShooterBetRule", "0");
     for (const auto& [name, value] : c.settings) table.Set(name, value);
@@ -256,17 +160,17 @@ TEST(BetRules, EveryRefusalHasItsWordsAndItsChange) {
     EXPECT_EQ(ChangeBet(*table.game, 1, c.bet, Money(c.request)), Money(c.change));
     EXPECT_EQ(table.State().BetAmount(1, c.bet) - before, Money(c.change));
     table.Check("the change");
-    ASSERT_EQ(table.host.boxes.size(), c.sentence.empty() ? 0u : 1u) << table.host.LastText();
-    if (c.sentence.empty()) continue;
-    EXPECT_EQ(table.host.boxes[0].text, "Ann,\r\r" + c.sentence);
-    EXPECT_EQ(table.host.boxes[0].title, BetName(c.bet) + " Bet");
+    ASSERT_EQ(table.host.boxes.size(), c.said.id == Msg::kNone ? 0u : 1u) << table.host.LastText();
+    EXPECT_TRUE(table.host.Said(c.said.id, c.said.arguments));
+    if (c.said.id == Msg::kNone) continue;
+    EXPECT_TRUE(table.host.Said(c.said.id, {{"player", "Ann"}, {"bet", BetName(c.bet)}}));
   }
 }
 
 TEST(BetRules, ATurboRollAndAMaskedNoteChangeTheSameWithoutABox) {
   for (const RuleCase& c : kRefusals) {
     for (const bool turbo : {true, false}) {
-      SCOPED_TRACE(BetName(c.bet) + " " + c.request + ": " + c.sentence);
+      SCOPED_TRACE(BetName(c.bet) + " " + c.request + ": " + test::NameOf(c.said.id));
       TestTable table;
       table.Set("ShooterBetRule", "0");
       for (const auto& [name, value] : c.settings) table.Set(name, value);
@@ -312,12 +216,8 @@ TEST(BetRules, AContractAboveALoweredMaximumStaysAndSaysWhy) {
   table.Set("MaxBet", "100");
   table.host.boxes.clear();
   EXPECT_EQ(ChangeBet(*table.game, 1, kPassLine, Money("50")), kZero);
-  EXPECT_EQ(
-      table.host.LastText(),
-      "Ann,\r\rThe maximum Pass Line bet is $100\r\rHowever, because the Pass Line is a contract bet and you "
-      "established it at $500 before you recently lowered the maximum allowed on the Configuration screen, "
-      "it "
-      "must remain unchanged until it resolves.");
+  EXPECT_TRUE(
+      table.host.Said(Msg::kMaximumBetButContract, {{"limit", Money("100")}, {"contract", Money("500")}}));
   EXPECT_EQ(table.State().BetAmount(1, kPassLine), Money("500"));
 }
 
@@ -327,18 +227,17 @@ TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
     int bet;
     const char* request;
     const char* change;
-    std::string sentence;
+    Msg said = Msg::kNone;
   };
-  const std::string noMoney = kNoMoney + "      - Bet less on other bets.\r" + kNoMoneyEnd;
   const Case cases[] = {
-      {kPassLine, "5", "-10", noMoney},
-      {kPassLine, "0", "-10", noMoney},
-      {kPassLine, "-10", "-10", ""},
-      {kPassLine, "-20", "-10", kPassDown},
-      {kCome4 + 2, "5", "-10", noMoney},
-      {kField, "5", "-20", noMoney},
-      {kSevenPoint7, "5", "0", ComeOutOnly("7 Point 7")},
-      {kDontPass, "5", "0", "You may not make or increase a Don't Pass bet \rwhile a point is established."},
+      {kPassLine, "5", "-10", Msg::kBankrollTooSmall},
+      {kPassLine, "0", "-10", Msg::kBankrollTooSmall},
+      {kPassLine, "-10", "-10"},
+      {kPassLine, "-20", "-10", Msg::kPassLineIsContract},
+      {kCome4 + 2, "5", "-10", Msg::kBankrollTooSmall},
+      {kField, "5", "-20", Msg::kBankrollTooSmall},
+      {kSevenPoint7, "5", "0", Msg::kNeedsComeOutRoll},
+      {kDontPass, "5", "0", Msg::kDontPassRefused},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(BetName(c.bet) + " by " + c.request);
@@ -356,8 +255,8 @@ TEST(BetRules, WithMoreOnTheTableThanTheBankrollHoldsContractsStay) {
     table.State().seats[1].AllowNegativeBankroll = false;
     table.host.boxes.clear();
     EXPECT_EQ(PlaceBet(*table.game, 1, c.bet, Money(c.request)), Money(c.change));
-    EXPECT_EQ(table.host.boxes.size(), c.sentence.empty() ? 0u : 1u);
-    EXPECT_EQ(table.host.LastText(), c.sentence.empty() ? "" : "Ann,\r\r" + c.sentence);
+    EXPECT_EQ(table.host.boxes.size(), c.said == Msg::kNone ? 0u : 1u);
+    EXPECT_TRUE(table.host.Said(c.said));
   }
 }
 
@@ -368,11 +267,10 @@ TEST(BetRules, TheVigIsToldAsItIsCharged) {
     table.Set("LayVigUpFront", upFront ? "on" : "off");
     table.Join(1, "Ann");
     table.Bet(1, kBuy4, "40");
-    EXPECT_EQ(table.host.LastText(),
-              upFront ? "Ann,\r\rTotal vig charge $2" : "Ann,\r\rIf you win, the vig charge will be $2");
+    const Msg told = upFront ? Msg::kVigCharged : Msg::kVigOnWin;
+    EXPECT_TRUE(table.host.Said(told, {{"vig", Money("2")}}));
     table.Bet(1, kLay4, "120");
-    EXPECT_EQ(table.host.LastText(),
-              upFront ? "Ann,\r\rTotal vig charge $3" : "Ann,\r\rIf you win, the vig charge will be $3");
+    EXPECT_TRUE(table.host.Said(told, {{"vig", Money("3")}}));
     EXPECT_EQ(table.State().seats[1].OnTableAmount, Money(upFront ? "165" : "160"));
   }
 }
@@ -610,13 +508,11 @@ TEST(BetRulesStacks, AValueStopsAtTheLimitEitherWay) {
   EXPECT_EQ(table.Bet(1, stack, "9999999.9999"), Money("9999999.9999"));
   EXPECT_TRUE(table.host.boxes.empty());
   EXPECT_EQ(table.Bet(1, stack, "0.5"), kZero);
-  EXPECT_EQ(
-      table.host.LastText(),
-      "Ann,\r\rThe maximum CheckStack value is: $9,999,999.9999\r\rCheckStack #3\rwhich is already stacked.");
+  EXPECT_TRUE(table.host.Said(Msg::kStackAtLimit,
+                              {{"least", false}, {"limit", Money("9999999.9999")}, {"already", true}}));
   EXPECT_EQ(table.Bet(1, stack, "-20000000"), Money("-19999999.9998"));
-  EXPECT_EQ(
-      table.host.LastText(),
-      "Ann,\r\rThe minimum CheckStack value is: $-9,999,999.9999\r\rCheckStack #3\rwhich is being stacked.");
+  EXPECT_TRUE(table.host.Said(Msg::kStackAtLimit,
+                              {{"least", true}, {"limit", Money("-9999999.9999")}, {"already", false}}));
   EXPECT_EQ(table.State().seats[1].OnTableAmount, kZero) << "no money of the table";
 }
 
@@ -630,8 +526,7 @@ TEST(BetRulesCalls, OnlyBetsThatCanBeCalledTakeACall) {
     const bool callable = FactsOf(bet).callable;
     EXPECT_EQ(CallBet(*table.game, 1, bet, true), callable);
     EXPECT_EQ(BetWorkingOf(*table.game, 1, bet) == 2, callable) << bet;
-    EXPECT_EQ(table.host.LastText(),
-              callable ? "" : "You may not call the " + BetName(bet) + " bet ON or OFF.");
+    EXPECT_TRUE(table.host.Said(callable ? Msg::kNone : Msg::kNotCallable));
   }
 }
 
@@ -649,7 +544,7 @@ TEST(BetRulesCalls, ABoughtPlaceBetTakesItsCallAlong) {
   for (const int bet : {int(kField), kPlace4 + 1, kBuy4 + 1}) {
     table.host.boxes.clear();
     EXPECT_EQ(BuyPlaceBet(*table.game, 1, bet), IsPlace(bet));
-    EXPECT_EQ(table.host.LastText(), "You may only buy Place bets.") << bet;
+    EXPECT_TRUE(table.host.Said(Msg::kOnlyPlaceBetsBuy)) << bet;
     EXPECT_EQ(table.State().seats[1].OnTableAmount, Money("32")) << bet;
   }
 }
@@ -665,7 +560,7 @@ TEST(BetRules, AFamilyThatIsOffTakesNoBet) {
     table.Bet(1, bet, "-5");
     table.Set(name, "off");
     EXPECT_EQ(table.Bet(1, bet, "5"), kZero);
-    EXPECT_EQ(table.host.LastText(), "Ann,\r\rTable not configured for " + BetName(bet) + " bets.");
+    EXPECT_TRUE(table.host.Said(Msg::kBetNotOffered, {{"bet", BetName(bet)}}));
   }
 }
 

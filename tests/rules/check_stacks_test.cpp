@@ -43,8 +43,7 @@ TEST(CheckStacksTest, FourDifferentStacksAreVisible) {
   table.Join(3, "Ann");
   ASSERT_TRUE(SetVisibleStacks(*table.game, 3, {0, 99, 5, 6}));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {1, 2, 3, 1}));
-  EXPECT_EQ(table.host.boxes.back().title, "Set Visible CheckStacks");
-  EXPECT_EQ(table.host.LastText(), "Each CheckStack entry should be a different number.");
+  EXPECT_TRUE(table.host.Said(Msg::kStacksNotDifferent));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {1, 2, 3, 100}));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {-1, 2, 3, 4}));
   const int kept[] = {0, 99, 5, 6};
@@ -54,13 +53,13 @@ TEST(CheckStacksTest, FourDifferentStacksAreVisible) {
 TEST(CheckStacksTest, DeletionsAskAndTakeWhatTheyName) {
   struct Case {
     StackDeletion what;
-    const char* title;
+    Msg question;
     bool value;
     bool name;
   };
-  for (const Case& c : {Case{StackDeletion::kAll, "Delete All", false, false},
-                        Case{StackDeletion::kValues, "Delete All Values", false, true},
-                        Case{StackDeletion::kNames, "Delete All Names", true, false}})
+  for (const Case& c : {Case{StackDeletion::kAll, Msg::kAskDeleteStacks, false, false},
+                        Case{StackDeletion::kValues, Msg::kAskDeleteStackValues, false, true},
+                        Case{StackDeletion::kNames, Msg::kAskDeleteStackNames, true, false}})
     for (const bool yes : {false, true}) {
       TestTable table;
       table.Join(3, "Ann");
@@ -71,8 +70,7 @@ TEST(CheckStacksTest, DeletionsAskAndTakeWhatTheyName) {
       }
       table.host.answers = {yes ? "yes" : "no"};
       EXPECT_EQ(DeleteCheckStacks(*table.game, 3, c.what), yes);
-      EXPECT_EQ(table.host.boxes[0].title, c.title);
-      EXPECT_TRUE(table.host.boxes[0].text.starts_with("Are you sure you want to delete ALL the CheckStack"));
+      EXPECT_TRUE(table.host.Said(c.question, {{"player", "Ann"}}));
       EXPECT_EQ(CheckStackValue(*table.game, 3, 50) != kZero, c.value || !yes);
       EXPECT_EQ(!CheckStackNameOf(*table.game, 3, 50).empty(), c.name || !yes);
       EXPECT_EQ(CheckStackValue(*table.game, 4, 50), Money("8"));

@@ -22,7 +22,6 @@ struct ChoiceCase {
   SettleAnswer answer;
   const char* after;
   const char* title;  // "" no note
-  const char* note;
   const char* maxBet = "1000";
 };
 
@@ -34,43 +33,42 @@ SettleAnswer Choice(int choice, int kind = 0, const char* value = "0", int unit 
 
 const ChoiceCase kChoices[] = {
     // Winners: Place 6 of 12 wins 14.
-    {kPlace4 + 2, "12", kWin6[0], kWin6[1], Choice(0), "12", "", ""},
-    {kPlace4 + 2, "12", 2, 4, Choice(1), "0", "", ""},
-    {kPlace4 + 2, "12", 2, 4, Choice(2), "12", "", ""},
-    {kPlace4 + 2, "12", 2, 4, Choice(3), "18", "Press 1 Unit", "increased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(4), "24", "Press Double", "increased by: $12"},
-    {kPlace4 + 2, "12", 2, 4, Choice(5), "26", "Parlay", "increased by: $14"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "6"), "18", "Same bet plus $6", "increased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "6"), "6", "Same bet minus $6", "decreased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "50"), "0", "Same bet minus $50", "decreased by: $12"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "2.5"), "30", "Same bet times 2.50", "increased by: $18"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "2"), "6", "Same bet divided by 2", "decreased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "0"), "12", "Same bet divided by 0", "remains the same."},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "9999999.9999"), "1000", "Same bet times 9,999,999.9999",
-     "increased by: $988"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "50", 1), "18", "Same bet plus 50%", "increased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "25", 1), "9", "Same bet minus 25%", "decreased by: $3"},
+    {kPlace4 + 2, "12", kWin6[0], kWin6[1], Choice(0), "12", ""},
+    {kPlace4 + 2, "12", 2, 4, Choice(1), "0", ""},
+    {kPlace4 + 2, "12", 2, 4, Choice(2), "12", ""},
+    {kPlace4 + 2, "12", 2, 4, Choice(3), "18", "Press 1 Unit"},
+    {kPlace4 + 2, "12", 2, 4, Choice(4), "24", "Press Double"},
+    {kPlace4 + 2, "12", 2, 4, Choice(5), "26", "Parlay"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "6"), "18", "Same bet plus $6"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "6"), "6", "Same bet minus $6"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "50"), "0", "Same bet minus $50"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "2.5"), "30", "Same bet times 2.50"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "2"), "6", "Same bet divided by 2"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 3, "0"), "12", "Same bet divided by 0"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 2, "9999999.9999"), "1000", "Same bet times 9,999,999.9999"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "50", 1), "18", "Same bet plus 50%"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 1, "25", 1), "9", "Same bet minus 25%"},
     // Two units of the five-dollar check, each 5 times 6.
-    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "2", 3), "72", "Same bet plus 2 units", "increased by: $60"},
-    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "30"), "30", "Bet $30", "increased by: $18"},
-    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "3", 2), "18", "Bet $3 $1 units", "increased by: $6"},
-    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "0"), "0", "Bet $0", "decreased by: $12"},
+    {kPlace4 + 2, "12", 2, 4, Choice(6, 0, "2", 3), "72", "Same bet plus 2 units"},
+    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "30"), "30", "Bet $30"},
+    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "3", 2), "18", "Bet $3 $1 units"},
+    {kPlace4 + 2, "12", 2, 4, Choice(7, 0, "0"), "0", "Bet $0"},
     // A press that the maximum cuts.
-    {kPlace4 + 2, "12", 2, 4, Choice(4), "20", "Press Double", "increased by: $8", "20"},
+    {kPlace4 + 2, "12", 2, 4, Choice(4), "20", "Press Double", "20"},
     // Losers: Hard 6 of 10 loses the easy way.
-    {kHard6, "10", 2, 4, Choice(0), "0", "", ""},
-    {kHard6, "10", 2, 4, Choice(1), "0", "", ""},
-    {kHard6, "10", 2, 4, Choice(2), "10", "", ""},
-    {kHard6, "10", 2, 4, Choice(3), "0", "Bet remainder", "decreased by: $10"},
+    {kHard6, "10", 2, 4, Choice(0), "0", ""},
+    {kHard6, "10", 2, 4, Choice(1), "0", ""},
+    {kHard6, "10", 2, 4, Choice(2), "10", ""},
+    {kHard6, "10", 2, 4, Choice(3), "0", "Bet remainder"},
     // The unit of 5 is a whole part of 10 and smaller.
-    {kHard6, "10", 2, 4, Choice(4), "15", "Press 1 Unit", "increased by: $5"},
-    {kHard6, "10", 2, 4, Choice(5), "20", "Press Double", "increased by: $10"},
-    {kHard6, "10", 2, 4, Choice(6, 2, "1"), "10", "Same bet times 1", "remains the same."},
-    {kHard6, "10", 2, 4, Choice(7, 0, "25"), "25", "Bet $25", "increased by: $15"},
+    {kHard6, "10", 2, 4, Choice(4), "15", "Press 1 Unit"},
+    {kHard6, "10", 2, 4, Choice(5), "20", "Press Double"},
+    {kHard6, "10", 2, 4, Choice(6, 2, "1"), "10", "Same bet times 1"},
+    {kHard6, "10", 2, 4, Choice(7, 0, "25"), "25", "Bet $25"},
     // A bet that is over comes down whatever was chosen.
-    {kPassLineOdds, "10", 4, 6, Choice(5), "0", "", ""},
+    {kPassLineOdds, "10", 4, 6, Choice(5), "0", ""},
     // Out of range is no choice.
-    {kPlace4 + 2, "12", 2, 4, Choice(9), "12", "", ""},
+    {kPlace4 + 2, "12", 2, 4, Choice(9), "12", ""},
 };
 
 void PrepareFor(TestTable& table, const ChoiceCase& c) {
@@ -86,13 +84,17 @@ void ExpectChoice(TestTable& table, const ChoiceCase& c) {
   EXPECT_EQ(table.State().BetAmount(1, c.bet), Money(c.after));
   std::vector<test::ShownBox> notes;
   for (const test::ShownBox& box : table.host.boxes)
-    if (box.text.find(" bet increased") != std::string::npos ||
-        box.text.find(" bet decreased") != std::string::npos || box.text.find("remains") != std::string::npos)
+    if (box.id == Msg::kBetIncreasedBy || box.id == Msg::kBetDecreasedBy || box.id == Msg::kBetRemains)
       notes.push_back(box);
   ASSERT_EQ(notes.size(), *c.title == 0 ? 0u : 1u);
   if (*c.title == 0) return;
-  EXPECT_EQ(notes[0].title, c.title);
-  EXPECT_EQ(notes[0].text, "Ann,\r\r" + BetName(c.bet) + " bet " + c.note);
+  const Currency change = Money(c.after) - Money(c.amount);
+  EXPECT_TRUE(
+      Says(notes[0],
+           change > kZero   ? Msg::kBetIncreasedBy
+           : change < kZero ? Msg::kBetDecreasedBy
+                            : Msg::kBetRemains,
+           {{"title", c.title}, {"player", "Ann"}, {"bet", BetName(c.bet)}, {"amount", Abs(change)}}));
 }
 
 TEST(Handling, TheDialogsAnswerIsCarriedOut) {
@@ -221,8 +223,8 @@ TEST(Handling, ALostBetThatMayNotBePressedStaysAsFarAsThereIsMoneyForIt) {
     table.Roll(3, 4);
     EXPECT_EQ(table.State().BetAmount(1, kFire), table.State().BankrollCurrent[1]) << bankroll;
     ASSERT_EQ(table.host.boxes.size(), 2u);
-    EXPECT_EQ(table.host.boxes[0].title, "Fire Bet");
-    EXPECT_EQ(table.host.boxes[1].title, "Press Double") << "the refusal, and what became of the bet";
+    EXPECT_TRUE(Says(table.host.boxes[0], Msg::kHandHasStarted));
+    EXPECT_TRUE(table.host.Said(Msg::kBetDecreasedBy)) << "the refusal, and what became of the bet";
   }
 }
 

@@ -179,8 +179,7 @@ TEST(NewSessionTest, EachCombinationKeepsAndClearsWhatItSays) {
       ExpectStatistics(table, choices, annBefore);
       ExpectRollFile(table, rollFile);
       ASSERT_EQ(table.host.boxes.size(), 1u);
-      EXPECT_EQ(table.host.boxes[0].title, "Beginning Bankroll");
-      EXPECT_EQ(table.host.boxes[0].text, "Enter Cyd's beginning bankroll:");
+      EXPECT_TRUE(table.host.Said(Msg::kAskBeginningBankroll, {{"player", "Cyd"}}));
       ExpectHeading(table, logged, choices, PlainMoney(ann));
       // The table plays on, and its first roll logs no bets or money of the session before.
       const std::size_t started = table.Log().size();

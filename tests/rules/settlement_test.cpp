@@ -157,15 +157,15 @@ struct OverflowTable : TestTable {
   }
 };
 
+constexpr const char* kOverflowReport = "Overflow, Error #6\r occurred at: SettleBet";
+
 TEST(SettlementOverflow, IsReportedAndNothingOfTheBetIsHalfDone) {
   OverflowTable table;
   table.host.boxes.clear();
   table.Roll(3, 3);
   ASSERT_EQ(table.host.boxes.size(), 2u);
-  for (const test::ShownBox& box : table.host.boxes) {
-    EXPECT_EQ(box.title, "Tessaryn");
-    EXPECT_EQ(box.text, "Overflow, Error #6\r occurred at: SettleBet");
-  }
+  for (const test::ShownBox& box : table.host.boxes)
+    EXPECT_TRUE(Says(box, Msg::kErrorReported, {{"report", kOverflowReport}}));
   table.ExpectNothingOfTheBigSix();
   table.Roll(3, 4);
   EXPECT_EQ(SessionRolls(table.game->stats), 2) << "the table plays on";
@@ -179,7 +179,7 @@ TEST(SettlementOverflow, StopsATurboRollWithTheReport) {
   table.host.boxes.clear();
   table.Turbo(40);
   EXPECT_EQ(SessionRolls(table.game->stats), 1);
-  EXPECT_EQ(table.State().StopReason, "Overflow, Error #6\r occurred at: SettleBet");
+  EXPECT_EQ(table.State().StopReason, kOverflowReport);
   table.ExpectNothingOfTheBigSix();
 }
 
@@ -197,7 +197,7 @@ TEST(SettlementOverflow, ABankrollOrASumAtItsEdgeTakesNoFurtherWin) {
       game.payoffs.FieldPayoffs[1].PayTo = Currency::FromRaw(std::numeric_limits<std::int64_t>::max());
     table.Roll(1, 1);
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_EQ(table.host.boxes[0].text, "Overflow, Error #6\r occurred at: SettleBet");
+    EXPECT_TRUE(table.host.Said(Msg::kErrorReported, {{"report", kOverflowReport}}));
     EXPECT_EQ(table.State().BankrollCurrent[1], Money("1000"));
     EXPECT_EQ(table.State().BetAmount(1, kField), Money("10"));
     EXPECT_EQ(BetStat(game.stats, kWagerStats, kCurrentSession, 1, kField, kStatCount), kZero);

@@ -9,6 +9,7 @@
 #include "play/setting_table.h"
 #include "rules/bankroll.h"
 #include "shell/screens_support.h"
+#include "support/said.h"
 
 namespace tessaryn::test {
 namespace {
@@ -26,14 +27,15 @@ class AtmTest : public testing::Test {
   }
   QString Figure(const char* name) { return Find<QLabel>(*screen, name).text(); }
   // Clicks what opens a box, answers it with its first button, and returns what the box said.
-  std::string TextOfBoxAfter(const QString& control) {
+  test::ShownBox BoxAfter(const QString& control) {
     std::string text;
     WhenOpen("frmMsg", [&](QDialog& box) {
       text = Find<QLabel>(box, "lblMsg").text().toStdString();
       Click(box, "cmdButton0");
     });
     Click(*screen, control);
-    return text;
+    EXPECT_EQ(text, table.game->box.MsgText);
+    return test::ShownBox(table.game->box);
   }
 
   ScreenTable table;
@@ -62,13 +64,11 @@ TEST_F(AtmTest, WhatTheCoreCutsIsToldAndShown) {
   table.game->settings.MessageMask = 0;  // this screen tells whatever the notes are set to
   Open();
   TypeInto(*screen, "txtAddSub", "490");
-  const std::string deposit = TextOfBoxAfter("cmdDeposit");
-  EXPECT_NE(deposit.find("Allowed amount:  $480"), std::string::npos) << deposit;
-  EXPECT_NE(deposit.find("\"Allow negative bankroll\", and/or by reducing"), std::string::npos) << deposit;
+  EXPECT_TRUE(Says(BoxAfter("cmdDeposit"), Msg::kDepositBelowWagers,
+                   {{"allowed", Currency::Dollars(480)}, {"elsewhere", false}}));
   EXPECT_EQ(Figure("lblRail"), "$0");
   TypeInto(*screen, "txtAddSub", "9999999");
-  const std::string withdrawal = TextOfBoxAfter("cmdWithdraw");
-  EXPECT_NE(withdrawal.find("to exceed the max bank limit of $9,999,999"), std::string::npos) << withdrawal;
+  EXPECT_TRUE(Says(BoxAfter("cmdWithdraw"), Msg::kWithdrawalAboveLimit, {{"limit", kBankrollLimit}}));
   EXPECT_EQ(Figure("lblBankroll"), "$9,999,999");
 }
 
@@ -81,12 +81,8 @@ TEST_F(AtmTest, ABankrollBelowZeroKeepsTheBoxChecked) {
   TypeInto(*screen, "txtAddSub", "800");
   Click(*screen, "cmdDeposit");
   EXPECT_EQ(Figure("lblBankroll"), "-$300");
-  const std::string refusal = TextOfBoxAfter("chkAllowNegBankroll");
-  EXPECT_EQ(refusal.rfind("Before you can un-check this box, Alice must have a non-negative bankroll. Some "
-                          "options:",
-                          0),
-            0u)
-      << refusal;
+  EXPECT_TRUE(Says(BoxAfter("chkAllowNegBankroll"), Msg::kAllowNegativeRefused,
+                   {{"problem", MessageText<Msg::kBankrollIsNegative>(With<"player">("Alice"))}}));
   EXPECT_TRUE(box.isChecked());
   EXPECT_TRUE(table.State().seats[3].AllowNegativeBankroll);
   Click(*screen, "cmdWithdraw");

@@ -31,6 +31,7 @@
 #include "shell/screens_support.h"
 #include "shell/table/screen_tools.h"
 #include "support/places.h"
+#include "support/said.h"
 
 namespace tessaryn::test {
 namespace {
@@ -315,11 +316,10 @@ TEST(MainWindow, AltTakesABetUpAndTheNextClickPutsItDown) {
 TEST(MainWindow, AClickThatIsMeantForSomethingElseNeverBets) {
   struct Case {
     Qt::Key key;  // 0: the menu entry
-    const char* says;
+    Msg says;
   };
-  const Case cases[] = {{Qt::Key_F5, "Action not allowed|You may only buy Place bets."},
-                        {Qt::Key_Delete, ""},
-                        {Qt::Key(0), "Action not allowed|You may only move a bet that is on the table."}};
+  const Case cases[] = {
+      {Qt::Key_F5, Msg::kOnlyPlaceBetsBuy}, {Qt::Key_Delete, Msg::kNone}, {Qt::Key(0), Msg::kOnlyBetsMove}};
   Evening evening;
   evening.Join(4, "Eve");
   for (const Case& one : cases)
@@ -327,8 +327,11 @@ TEST(MainWindow, AClickThatIsMeantForSomethingElseNeverBets) {
       evening.hands.texts.clear();
       one.key == 0 ? evening.window.Command("mnuMoveBet")->trigger() : evening.Key(one.key);
       QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, evening.Table().PointOfBet(4, bet));
-      EXPECT_EQ(evening.real.game->table.seats[4].OnTableAmount, kZero) << one.says;
-      EXPECT_EQ(evening.hands.texts.empty() ? "" : evening.hands.texts.back(), one.says) << BetName(bet);
+      EXPECT_EQ(evening.real.game->table.seats[4].OnTableAmount, kZero) << test::NameOf(one.says);
+      ASSERT_EQ(evening.hands.texts.empty(), one.says == Msg::kNone) << BetName(bet);
+      if (one.says != Msg::kNone) {
+        EXPECT_EQ(evening.real.game->box.MsgId, one.says) << evening.hands.texts.back();
+      }
       EXPECT_EQ(evening.window.Commands().PendingAction, kPendingNone);
     }
 }
@@ -610,7 +613,7 @@ TEST(MainWindow, ABrokenBankRainsChecksUntilTheTableChanges) {
   EXPECT_TRUE(evening.Table().scene.rain.empty());
   EXPECT_EQ(SessionRolls(evening.real.game->stats), 0);
   ASSERT_FALSE(evening.hands.texts.empty());
-  EXPECT_NE(evening.hands.texts.back().find("Congratulations!"), std::string::npos);
+  EXPECT_EQ(evening.real.game->box.MsgId, Msg::kBankrollLimitBroken) << evening.hands.texts.back();
   evening.real.game->table.BankrollCurrent[4] = Currency::Dollars(9000);
 }
 
@@ -624,21 +627,21 @@ TEST(FileChooser, RefusesInTheTablesWordsAndAsksAgain) {
   struct Case {
     const FilePurpose& purpose;
     const char* typed;
-    const char* title;  // null: good
+    Msg message;  // none: good
     const char* path;
   };
-  const Case cases[] = {{kOpenAutoBet, "  ", "Missing Filename", ""},
-                        {kOpenAutoBet, "there", nullptr, "there.bet"},
-                        {kOpenAutoBet, "gone.bet", "Error", ""},
-                        {kOpenAutoBet, "no/such/folder/x.bet", "Error", ""},
-                        {kSaveAutoBet, "new", nullptr, "new.bet"},
-                        {kOpenRollFile, "new", nullptr, "new.rol"},
-                        {kOpenRollFile, "bad.rol", "Unable to Open Dice Roll File", ""}};
+  const Case cases[] = {{kOpenAutoBet, "  ", Msg::kFileNameMissing, ""},
+                        {kOpenAutoBet, "there", Msg::kNone, "there.bet"},
+                        {kOpenAutoBet, "gone.bet", Msg::kFileNotFound, ""},
+                        {kOpenAutoBet, "no/such/folder/x.bet", Msg::kNoSuchFolder, ""},
+                        {kSaveAutoBet, "new", Msg::kNone, "new.bet"},
+                        {kOpenRollFile, "new", Msg::kNone, "new.rol"},
+                        {kOpenRollFile, "bad.rol", Msg::kRollFileNotOpened, ""}};
   for (const Case& one : cases) {
     std::string path;
     const FileProblem problem = CheckFileName(*table.game, one.purpose, one.typed, path);
-    EXPECT_EQ(problem.title, one.title == nullptr ? "" : one.title) << one.typed;
-    EXPECT_TRUE(one.title != nullptr || path == folder + one.path) << path;
+    EXPECT_EQ(problem.message, one.message) << one.typed;
+    EXPECT_TRUE(one.message != Msg::kNone || path == folder + one.path) << path;
   }
   // An existing file is replaced after a yes alone.
   QueuedFileNames() = {"there", "there", ""};

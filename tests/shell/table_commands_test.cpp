@@ -193,22 +193,22 @@ TEST(MoveBet, GoesAsFarAsTheRulesOfBothLetItAndElseStays) {
     int to;
     bool pointOn;
     const char* lands;  // what is on the other bet then; 0: the bet stays
-    const char* says;
+    Msg says;
     bool putBets = true;
   };
   const Case cases[] = {
-      {kPlace4, kPlace4 + 3, false, "200", ""},
-      {kPlace4, kBuy4, false, "190", "Total vig charge"},  // the vig comes out of what there is
-      {kPlace4, kFire, false, "5", "The maximum Fire bet is $5"},
-      {kPlace4, 0, false, "0", ""},
-      {kPlace4, kCome, false, "0", "You may not make a Come bet"},
-      {kPassLine, kField, false, "200", ""},
-      {kPassLine, kField, true, "0", "You may not decrease or remove your Pass Line bet"},
-      {kPassLine, 0, true, "0", "You may not decrease or remove your Pass Line bet"},
-      {kDontPass, kPlace4, true, "200", ""},
-      {kDontPass, kPassLine, true, "200", ""},
-      {kDontPass, kPassLine, true, "0", "You may not make or increase a Pass Line bet", false},
-      {kDontPass, kDontPassOdds, true, "0", "You may not move the Don't Pass bet to its own odds."},
+      {kPlace4, kPlace4 + 3, false, "200", Msg::kNone},
+      {kPlace4, kBuy4, false, "190", Msg::kVigCharged},  // the vig comes out of what there is
+      {kPlace4, kFire, false, "5", Msg::kMaximumBet},
+      {kPlace4, 0, false, "0", Msg::kNone},
+      {kPlace4, kCome, false, "0", Msg::kComeNeedsPoint},
+      {kPassLine, kField, false, "200", Msg::kNone},
+      {kPassLine, kField, true, "0", Msg::kPassLineIsContract},
+      {kPassLine, 0, true, "0", Msg::kPassLineIsContract},
+      {kDontPass, kPlace4, true, "200", Msg::kNone},
+      {kDontPass, kPassLine, true, "200", Msg::kNone},
+      {kDontPass, kPassLine, true, "0", Msg::kPutPassLineRefused, false},
+      {kDontPass, kDontPassOdds, true, "0", Msg::kNotToOwnOdds},
   };
   for (const Case& one : cases) {
     ShellTable table;
@@ -223,7 +223,7 @@ TEST(MoveBet, GoesAsFarAsTheRulesOfBothLetItAndElseStays) {
     MoveBet(game, one.from, one.to);
     table.Check("move");
     const std::string what = BetName(one.from) + " to " + (one.to == 0 ? "the rail" : BetName(one.to));
-    const bool stays = *one.lands == '0' && *one.says != 0;
+    const bool stays = *one.lands == '0' && one.says != Msg::kNone;
     EXPECT_EQ(game.table.BetAmount(4, one.from), stays ? Money("200") : kZero) << what;
     if (stays && IsPlace(one.from)) {
       EXPECT_EQ(BetWorkingOf(game, 4, one.from), -1) << "with its call";
@@ -231,9 +231,7 @@ TEST(MoveBet, GoesAsFarAsTheRulesOfBothLetItAndElseStays) {
     if (one.to != 0) {
       EXPECT_EQ(PlainMoney(game.table.BetAmount(4, one.to)), one.lands) << what;
     }
-    EXPECT_NE(table.host.LastText().find(one.says), std::string::npos)
-        << what << ": " << table.host.LastText();
-    EXPECT_EQ(table.host.boxes.empty(), *one.says == 0) << what << ": " << table.host.LastText();
+    EXPECT_TRUE(table.host.Said(one.says)) << what;
   }
 }
 

@@ -261,7 +261,7 @@ TEST(BankrollGraphTest, TheAverageIsAskedForInWholeRolls) {
     EXPECT_EQ(table.game->graph.MovingAverageRolls, rolls) << answer;
   }
   EXPECT_EQ(MovingAverageCaption(table.game->graph), "All rolls avg");
-  EXPECT_EQ(table.host.boxes[0].title, "Set Bankroll Moving Average");
+  EXPECT_TRUE(table.host.Said(Msg::kAskMovingAverage));
 }
 
 }  // namespace

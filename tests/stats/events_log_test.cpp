@@ -368,7 +368,8 @@ TEST(EventsLogFiles, AnUnwritableLogIsToldOnceAndTheGameGoesOn) {
     for (int i = 0; i < 20; ++i) table.Roll(3, 4);
     EXPECT_EQ(SessionRolls(game.stats), 20);
     ASSERT_EQ(table.host.boxes.size(), 1u);
-    EXPECT_NE(table.host.boxes[0].text.find(game.events.Path), std::string::npos);
+    EXPECT_TRUE(table.host.Said(Msg::kLogFaultReported));
+    EXPECT_NE(table.host.LastText().find(game.events.Path), std::string::npos);
     // A place to write brings the journal back, with an index that fits.
     std::string error;
     game.events.Path = table.folder.File("good.txt");
@@ -389,7 +390,7 @@ TEST(EventsLogFiles, AFullDiskStopsEveryRunWithItsReason) {
     table.Turbo(60'000);
     EXPECT_LT(SessionRolls(game.stats) - before, 20'000);
     EXPECT_EQ(table.host.boxes.size(), static_cast<std::size_t>(run)) << "told once in a run";
-    EXPECT_EQ(table.host.boxes.back().title, kRunStoppedTitle);
+    EXPECT_TRUE(table.host.Said(Msg::kRunStopped));
     EXPECT_NE(game.table.StopReason.find("/dev/full"), std::string::npos) << game.table.StopReason;
   }
   EXPECT_NE(EndGame(game).find("/dev/full"), std::string::npos);
@@ -434,9 +435,7 @@ TEST(EventsLogFiles, NewAsksForTheDefaultNameAlone) {
   NewEventsLog(game);
   EXPECT_GT(table.Log().size(), 0u);
   ASSERT_EQ(table.host.boxes.size(), 1u);
-  EXPECT_EQ(table.host.boxes[0].title, "Save Events Log?");
-  EXPECT_EQ(table.host.boxes[0].text,
-            "This log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?");
+  EXPECT_TRUE(table.host.Said(Msg::kAskSaveEventsLog));
   NewEventsLog(game);
   EXPECT_EQ(table.Log().size(), 0u);
   EXPECT_EQ(game.events.EventsLogTopLine, 1);

@@ -23,7 +23,7 @@ namespace tessaryn::test {
 namespace fs = std::filesystem;
 
 void TestHost::ShowMessage(Game&, MessageBox& box) {
-  boxes.push_back({box.MsgTitle, box.MsgText, box.MsgFlags});
+  boxes.emplace_back(box);
   const bool question = (box.MsgFlags & (kMsgYes | kMsgNo | kMsgCancel | kMsgInput)) != 0;
   if (!question || answers.empty()) {
     const bool no = (box.MsgFlags & kMsgNo) != 0;

@@ -9,14 +9,9 @@
 #include <vector>
 
 #include "state/game.h"
+#include "support/said.h"
 
 namespace tessaryn::test {
-
-struct ShownBox {
-  std::string title;
-  std::string text;
-  std::uint32_t flags = 0;
-};
 
 struct TestHost : Host {
   // "yes", "no", "ok", "cancel", or what is typed into the box before OK. Without one: the safe answer.
@@ -42,6 +37,10 @@ struct TestHost : Host {
   void PlaySound(Game&, Sound sound) override { sounds.push_back(sound); }
 
   std::string LastText() const { return boxes.empty() ? "" : boxes.back().text; }
+  // Of the last box; Msg::kNone before the first.
+  testing::AssertionResult Said(Msg id, const std::vector<MessageArgument>& arguments = {}) const {
+    return Says(boxes.empty() ? ShownBox() : boxes.back(), id, arguments);
+  }
 };
 
 // A folder that is gone with the test.

@@ -15,7 +15,7 @@
 #include "autobet/run/set_variable.h"
 #include "autobet/run/take_action.h"
 #include "rules/bet_rules.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -32,15 +32,6 @@ ScriptSurroundings SurroundingsOf(const Game& game) {
 }
 
 namespace {
-
-void TellBadScript(Game& game, int seat) {
-  const std::string& name = game.table.seats[seat].SeatName;
-  ShowMessage(game, kScriptErrorTitle,
-              name +
-                  "'s auto-bet script contains an error which must be corrected before you can run it."
-                  "\r\rSelect " +
-                  name + " on the auto-bet screen and click the \"Check Script\" button to see the error.");
-}
 
 void Prepare(AutoBet& autobet) {
   autobet.Prepared.reset(new PreparedProgram);
@@ -76,7 +67,10 @@ void CompileActiveScripts(Game& game) {
     if (!autobet.ScriptActive[seat]) continue;
     ScriptDiagnostic diagnostic;
     const CompiledScript* compiled = CompiledScriptOf(game, seat, surroundings, diagnostic);
-    if (compiled == nullptr) return TellBadScript(game, seat);
+    if (compiled == nullptr) {
+      ShowMessage<Msg::kScriptBad>(game, With<"player">(game.table.seats[seat].SeatName));
+      return;
+    }
     JoinScript(autobet.Program, *compiled);
   }
   Prepare(autobet);

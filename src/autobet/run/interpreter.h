@@ -9,8 +9,6 @@ namespace tessaryn {
 
 struct Game;
 
-// The title of the box that tells of a bad script.
-inline constexpr const char* kScriptErrorTitle = "Auto-bet script error";
 // The script of a seat, compiled; kept until its lines, or what the compiler knows of the table, change.
 // Null, with the reason, for a bad one.
 const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroundings& surroundings,

@@ -10,7 +10,7 @@
 #include "autobet/run/operands.h"
 #include "autobet/run/read_variable.h"
 #include "autobet/run/script_errors.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -155,21 +155,21 @@ bool SeatNumber(const CallInHand& hand, double& value) {
 // --- Questions.
 
 // What the user typed; false when given up or left empty.
-bool Ask(const CallInHand& hand, const char* prompt, int error, std::string& answer) {
+bool Ask(const CallInHand& hand, Msg question, int error, std::string& answer) {
   Game& game = hand.game;
-  const std::string asked = hand.Text(0);
   const std::string& name = game.table.seats[game.autobet.CurrentAutobettor].SeatName;
   game.box.MsgEntry.clear();
-  const int result = ShowMessage(game, "Auto-Bet (" + name + ")", asked.empty() ? prompt : asked,
-                                 kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion);
+  const int result = ShowMessage(game, question, {{"player", name}, {"prompt", hand.Text(0)}});
   answer = game.box.MsgEntry;
   if (answer.size() > kLongestText) answer.resize(kLongestText);
   return (result == kResultOk && !Trimmed(answer).empty()) || hand.Fails(error);
 }
 
+static_assert(NeedOnly({Msg::kScriptAsksValue, Msg::kScriptAsksString}, {"player", "prompt"}));
+
 bool AskNumber(const CallInHand& hand, double& value) {
   std::string answer;
-  if (!Ask(hand, "Please enter a value", kErrorNoValue, answer)) return false;
+  if (!Ask(hand, Msg::kScriptAsksValue, kErrorNoValue, answer)) return false;
   Currency money;
   if (ParseScriptNumber(Trimmed(answer), value)) return true;
   if (!TryParseMoney(Trimmed(answer), money)) return hand.Fails(kErrorNoValue);
@@ -354,7 +354,7 @@ bool ReadTextFunction(Game& game, const PreparedProgram& program, const Prepared
     case 812:
       return Blanks(hand, text);
     case 825:
-      return Ask(hand, "Please enter a string", kErrorNoString, text);
+      return Ask(hand, Msg::kScriptAsksString, kErrorNoString, text);
     case 850:
       return NameOfPlayer(hand, text);
     default:

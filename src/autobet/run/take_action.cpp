@@ -16,8 +16,8 @@
 #include "rules/seed_rng.h"
 #include "rules/session.h"
 #include "rules/shooter.h"
-#include "state/game.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -109,17 +109,16 @@ bool MessagesOn(const Game& game) {
   return (game.settings.MessageMask & (game.table.TurboRollActive ? kInTurboRoll : kInPlay)) != 0;
 }
 
-std::string BoxTitle(const ActionInHand& action) {
-  return "Auto-Bet (" + action.game.table.seats[action.Seat()].SeatName + ")";
-}
+static_assert(NeedOnly({Msg::kScriptAsks, Msg::kScriptSays}, {"player", "text"}));
 
 bool TellOrAsk(const ActionInHand& action) {
   constexpr int kAsk = 211;
   Game& game = action.game;
   if (!MessagesOn(game)) return action.Fails(kErrorMessagesOff);
   const bool asks = action.statement.code == kAsk;
-  const int result = ShowMessage(game, BoxTitle(action), action.Text(),
-                                 asks ? kMsgYes | kMsgNo | kMsgQuestion : kMsgOk | kMsgAlert);
+  const int result =
+      ShowMessage(game, asks ? Msg::kScriptAsks : Msg::kScriptSays,
+                  {{"player", game.table.seats[action.Seat()].SeatName}, {"text", action.Text()}});
   if (asks) game.autobet.Answer = result == kResultYes ? kResultYes : kResultNo;
   return true;
 }
@@ -154,7 +153,7 @@ bool SeedWith(const ActionInHand& action) {
 }
 
 bool StopRolling(const ActionInHand& action) {
-  StopRun(action.game, "Stopped by Auto-Bet command.");
+  StopRun(action.game, MessageText<Msg::kStoppedByScript>());
   return true;
 }
 

@@ -13,12 +13,10 @@
 #include "shell/frame/game_files.h"
 #include "shell/frame/places.h"
 #include "shell/screens/file_chooser.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
-
-constexpr std::uint32_t kAskToSave = kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion;
 
 bool SaveScriptsFirst(Desk& desk) {
   Game& game = desk.game;
@@ -26,17 +24,14 @@ bool SaveScriptsFirst(Desk& desk) {
     SeatScript& script = game.autobet.Scripts[seat];
     if (!IsOccupied(game.table, seat) || !script.Unsaved) continue;
     const int answer =
-        ShowMessage(game, "Save Auto-Bets?",
-                    game.table.seats[seat].SeatName +
-                        "'s Auto-Bet script has not been saved.\r\rDo you want to save it now?",
-                    kAskToSave);
+        ShowMessage<Msg::kAskSaveScript>(game, With<"player">(game.table.seats[seat].SeatName));
     if (answer == kResultCancel) return false;
     if (answer != kResultYes) continue;
     const std::string path = ChooseFile(game, desk.window, kSaveAutoBet, script.ScriptFileName);
     if (path.empty()) return false;
     std::string error;
     if (!SaveScript(game, seat, path, error)) {
-      ShowMessage(game, kSaveAutoBet.title, error);
+      ShowMessage<Msg::kFileProblem>(game, With<"title">(kSaveAutoBet.title), With<"problem">(error));
       return false;
     }
   }
@@ -48,17 +43,13 @@ bool SaveScriptsFirst(Desk& desk) {
 bool SaveProbabilitiesFirst(Desk& desk) {
   Game& game = desk.game;
   if (!game.percentage.ProbDirty) return true;
-  const int answer =
-      ShowMessage(game, kSaveProbabilitiesTitle,
-                  "Your current probabilities (listed on the configuration screen) have not been "
-                  "saved.\r\rDo you want to save them now?",
-                  kAskToSave);
+  const int answer = ShowMessage<Msg::kAskSaveProbabilities>(game);
   if (answer != kResultYes) return answer == kResultNo;
   const std::string path = ChooseFile(game, desk.window, kSaveProbabilities, game.percentage.ProbFileName);
   std::string error;
   if (path.empty()) return false;
   if (SaveProbabilityFile(game.percentage, path, error)) return true;
-  ShowMessage(game, kSaveProbabilities.title, error);
+  ShowMessage<Msg::kFileProblem>(game, With<"title">(kSaveProbabilities.title), With<"problem">(error));
   return false;
 }
 
@@ -103,12 +94,7 @@ std::string KeepGameUnasked(Desk& desk) { return desk.keeps ? WriteGame(desk) : 
 
 bool KeepGame(Desk& desk) {
   const std::string problem = KeepGameUnasked(desk);
-  return problem.empty() ||
-         ShowMessage(desk.game, "Error",
-                     problem +
-                         "\r\rWhat has changed at the table since the last start will be lost.\r\rDo you "
-                         "want to close it all the same?",
-                     kMsgYes | kMsgNo | kMsgAlert, 640) == kResultYes;
+  return problem.empty() || Confirms<Msg::kAskCloseUnkept>(desk.game, With<"problem">(problem));
 }
 
 std::string CloseFiles(Desk& desk) {

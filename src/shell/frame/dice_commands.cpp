@@ -9,7 +9,7 @@
 #include "shell/screens/file_chooser.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/table_widget.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -30,12 +30,12 @@ void OpenProbabilities(Desk& desk) {
   if (path.empty()) return;
   std::string error;
   if (!OpenProbabilityFile(desk.game.percentage, path, desk.game.dataFolder, error))
-    ShowMessage(desk.game, kUnableToOpenProbabilityTitle, error);
+    ShowMessage<Msg::kProbabilitiesNotOpened>(desk.game, With<"problem">(error));
 }
 
 void UsePercentageDice(Desk& desk) {
   if (!ActivatePercentageDice(desk.game.percentage, !desk.game.percentage.PercentageDiceActive))
-    ShowMessage(desk.game, kNothingToRollTitle, kNothingToRollText);
+    ShowMessage<Msg::kNothingToRoll>(desk.game);
 }
 
 // Opens a file of the user's choice and sets the recorder. What is wrong is shown.
@@ -45,12 +45,12 @@ void UseRollFile(Desk& desk) {
   if (path.empty()) return;
   std::string problem = OpenRollFile(desk.game.rollFile, path);
   if (problem.empty()) problem = SetRecorderState(desk.game.rollFile, state);
-  if (!problem.empty()) ShowMessage(desk.game, "Unable to Open Dice Roll File", problem);
+  if (!problem.empty()) ShowMessage<Msg::kRollFileNotOpened>(desk.game, With<"problem">(problem));
 }
 
 void CloseTheRollFile(Desk& desk) {
   const std::string problem = CloseRollFile(desk.game.rollFile);
-  if (!problem.empty()) ShowMessage(desk.game, "Error", problem);
+  if (!problem.empty()) ShowMessage<Msg::kFileFailed>(desk.game, With<"problem">(problem));
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 #include "shell/frame/places.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/table/screen_tools.h"
-#include "state/game.h"
+#include "state/show_message.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -48,9 +48,7 @@ bool SaveSessionFirst(Desk& desk, Leaving leaving) {
   Game& game = desk.game;
   const bool lost = leaving == Leaving::kForAnother && game.file.Path.empty() && HasSomethingToLose(game);
   if (!lost && !IsSessionUnsaved(game)) return true;
-  const int answer = ShowMessage(game, "Save Session",
-                                 "Your current session has not been saved.\r\rDo you want to save it now?",
-                                 kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+  const int answer = ShowMessage<Msg::kAskSaveSession>(game);
   if (answer != kResultYes) return answer == kResultNo;
   return SaveGameFile(desk);
 }

@@ -19,7 +19,7 @@
 #include "shell/screens/about.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -80,7 +80,7 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
     window.show();
     window.activateWindow();
     TellMissingFiles(*game);
-    if (!shared.empty()) ShowMessage(*game, "Data Folder", shared);
+    if (!shared.empty()) ShowMessage<Msg::kDataFolderShared>(*game, With<"problem">(shared));
     window.TellIfNothingIsKept();
     if (!sounds.Missing().isEmpty()) window.statusBar()->showMessage(sounds.Missing(), 15'000);
   });

@@ -34,7 +34,7 @@
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/turbo_panel.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -355,8 +355,7 @@ void MainWindow::OnBetMoved(int from, int to) {
 void MainWindow::OnBetClicked(int bet, bool alt) {
   if (!MayBet()) return;
   if (!IsOccupied(game_.table, game_.table.SelectedSeat)) {
-    ShowMessage(game_, "Add a Player", "Click an open position on the rail to add a player.",
-                kMsgOk | kMsgAlert);
+    ShowMessage<Msg::kClickOpenPosition>(game_);
     return;
   }
   if (ClickBet(game_, desk_.commands, bet, alt)) table_->OpenEntry(bet);
@@ -375,7 +374,7 @@ void MainWindow::OnSeatClicked(int seat) {
     if (desk_.movingSeat != 0) {
       std::string error;
       if (!MovePlayer(game_, std::exchange(desk_.movingSeat, 0), seat, error))
-        ShowMessage(game_, "Move Player", error);
+        ShowMessage<Msg::kPlayerNotMoved>(game_, With<"problem">(error));
       table_->scene.movingPlayer = false;
     } else if (AddPlayer(game_, seat)) {
       SelectSeat(game_, seat);
@@ -450,7 +449,7 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   host_.window = nullptr;  // questions stand alone until the window is there
   std::string error;
   if (!ReadHotKeys(game_.dataFolder + kHotKeysFile, game_.screen.HotKeys, error))
-    ShowMessage(game_, "Hot-Keys", error);
+    ShowMessage<Msg::kHotKeysFailed>(game_, With<"problem">(error));
   if (!OfferAutosave(game_)) OpenFirstGame(game_, argument);
   if (!game_.file.Path.empty()) NoteRecentGame(desk_, game_.file.Path);
   host_.window = this;
@@ -484,11 +483,7 @@ void MainWindow::showEvent(QShowEvent* event) {
 
 void MainWindow::TellIfNothingIsKept() {
   if (desk_.keeps) return;
-  ShowMessage(game_, "Data Folder",
-              "Nothing can be written into the data folder\r\r" + game_.dataFolder +
-                  "\r\rNothing will be kept: what goes there, as the game, hot-keys and logs, ends with the "
-                  "program. The option --data-folder names another folder.",
-              kMsgOk | kMsgAlert, 640);
+  ShowMessage<Msg::kNothingKept>(game_, With<"folder">(game_.dataFolder));
 }
 
 bool MainWindow::IsUnderWay() const {
@@ -538,7 +533,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   }
   asking_ = false;
   if (!closing_) return;
-  if (const std::string problem = CloseFiles(desk_); !problem.empty()) ShowMessage(game_, "Error", problem);
+  if (const std::string problem = CloseFiles(desk_); !problem.empty())
+    ShowMessage<Msg::kFileFailed>(game_, With<"problem">(problem));
   event->accept();
 }
 

@@ -5,7 +5,7 @@
 #include "shell/screens/auto_play.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -13,18 +13,13 @@ namespace {
 bool CanMove(const Desk& desk) { return HasPlayer(desk) && HasOpenPlace(desk); }
 bool CanAtm(const Desk& desk) { return HasPlayer(desk) && desk.game.settings.AtmEnabled; }
 
-void AddAPlayer(Desk& desk) {
-  ShowMessage(desk.game, "Add a Player", "Click an open position on the rail to add a player.",
-              kMsgOk | kMsgAlert);
-}
+void AddAPlayer(Desk& desk) { ShowMessage<Msg::kClickOpenPosition>(desk.game); }
 
 void MoveSelected(Desk& desk) {
   desk.movingSeat = desk.game.table.SelectedSeat;
   desk.table->scene.movingPlayer = true;
   desk.table->update();
-  ShowMessage(desk.game, "Move Player",
-              "Click the rail where you want to put " + desk.game.table.seats[desk.movingSeat].SeatName + ".",
-              kMsgOk | kMsgAlert);
+  ShowMessage<Msg::kClickRail>(desk.game, With<"player">(desk.game.table.seats[desk.movingSeat].SeatName));
 }
 
 void OpenAtm(Desk& desk) {

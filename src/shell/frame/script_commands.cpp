@@ -7,7 +7,7 @@
 #include "shell/frame/desk.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/table/table_widget.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -31,12 +31,13 @@ void OpenScriptFile(Desk& desk) {
   const int seat = game.table.SelectedSeat;
   std::string error;
   if (!OpenScript(game, seat, path, error)) {
-    ShowMessage(game, kOpenAutoBet.title, error);
+    ShowMessage<Msg::kFileProblem>(game, With<"title">(kOpenAutoBet.title), With<"problem">(error));
     return;
   }
   desk.table->update();
   const ScriptCheck check = CheckScript(game, seat);
-  if (!check.ok) ShowMessage(game, check.title, check.text);
+  if (!check.ok)
+    ShowMessage<Msg::kScriptChecked>(game, With<"title">(check.title), With<"result">(check.text));
 }
 
 void ActivateSelected(Desk& desk) {
@@ -62,12 +63,10 @@ void StopScripts(Desk& desk) {
 void ChooseHotKey(Desk& desk) {
   Game& game = desk.game;
   game.box.MsgEntry.clear();
-  if (ShowMessage(game, "Hot-Keys", "Which letter or digit, pressed with Ctrl, shall run a script?",
-                  kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion) != kResultOk)
-    return;
+  if (ShowMessage<Msg::kAskHotKey>(game) != kResultOk) return;
   const std::string typed = game.box.MsgEntry;
   if (typed.size() != 1 || !std::isalnum(static_cast<unsigned char>(typed[0]))) {
-    ShowMessage(game, "Hot-Keys", "\"" + typed + "\" is no single letter or digit.");
+    ShowMessage<Msg::kNoHotKey>(game, With<"typed">(typed));
     return;
   }
   const std::string path = ChooseFile(game, desk.window, kHotKeyScript);
@@ -79,7 +78,7 @@ void ChooseHotKey(Desk& desk) {
   const std::string file = game.dataFolder + kHotKeysFile;
   if (!ReadHotKeys(file, game.screen.HotKeys, error) || !AddHotKey(game.screen.HotKeys, key, error) ||
       (desk.keeps && !WriteHotKeys(file, game.screen.HotKeys, error)))
-    ShowMessage(game, "Hot-Keys", error);
+    ShowMessage<Msg::kHotKeysFailed>(game, With<"problem">(error));
 }
 
 }  // namespace

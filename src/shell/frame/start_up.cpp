@@ -7,7 +7,7 @@
 #include "play/start_up.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -31,8 +31,10 @@ std::unique_ptr<Game> StartTable(ShellHost& host, const std::string& application
 }
 
 void TellMissingFiles(Game& game) {
-  const std::string text = MissingSupportFileText(game.generators.MissingGeneratorFiles);
-  if (!text.empty()) ShowMessage(game, kMissingSupportFileTitle, text, kMsgOk | kMsgAlert, 640);
+  const int missing = game.generators.MissingGeneratorFiles;
+  if (missing != 0)
+    ShowMessage<Msg::kSupportFilesMissing>(game, With<"mersenne">(missing & kMissingMersenne),
+                                           With<"cokus">(missing & kMissingCokus));
 }
 
 }  // namespace tessaryn

@@ -12,7 +12,7 @@
 #include "shell/screens/roll_pad.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -142,7 +142,7 @@ void ExportRows(Desk& desk, ToolWindow& window) {
     text += fields.join(',').toStdString() + "\n";
   }
   if (const std::string problem = ReplaceFile(path, text); !problem.empty())
-    ShowMessage(desk.game, kExportRows.title, problem);
+    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(kExportRows.title), With<"problem">(problem));
 }
 
 }  // namespace tessaryn

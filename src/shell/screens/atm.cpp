@@ -11,7 +11,7 @@
 #include "shell/screens/screen_parts.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -119,7 +119,7 @@ void AtmScreen::Transact(bool deposit) {
 void AtmScreen::AllowNegative(bool allow) {
   std::string error;
   if (!SetSetting(game_, "AllowNegativeBankroll", seat_, allow ? "on" : "off", error))
-    ShowMessage(game_, "Allow negative bankroll", error);
+    ShowMessage<Msg::kAllowNegativeRefused>(game_, With<"problem">(error));
   Refresh();
 }
 

@@ -17,7 +17,7 @@
 #include "rules/handling.h"
 #include "shell/screens/screen_parts.h"
 #include "shell/table/screen_tools.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -265,7 +265,7 @@ void AutoPlayScreen::Set(const std::string& name, const std::string& value) {
   if (loading_ || seat_ == 0) return;
   std::string error;
   if (SetSetting(game_, name, seat_, value, error)) return;
-  ShowMessage(game_, ToCore(windowTitle()), error);
+  ShowMessage<Msg::kSettingRefused>(game_, With<"title">(ToCore(windowTitle())), With<"problem">(error));
   Load();
 }
 
@@ -281,7 +281,7 @@ void AutoPlayScreen::SetSlot(int slot) {
                    {"AdjustUnit" + row, seat_, std::to_string(value.unit)}},
                   error))
     return;
-  ShowMessage(game_, ToCore(windowTitle()), error);
+  ShowMessage<Msg::kSettingRefused>(game_, With<"title">(ToCore(windowTitle())), With<"problem">(error));
   Load();
 }
 
@@ -291,7 +291,8 @@ void AutoPlayScreen::SelectAllWorking() {
   for (int bet = 1; bet <= kBets; ++bet)
     changes.push_back({"BetDefaultWorking." + std::to_string(bet), seat_, "on"});
   std::string error;
-  if (!SetSettings(game_, changes, error)) ShowMessage(game_, ToCore(windowTitle()), error);
+  if (!SetSettings(game_, changes, error))
+    ShowMessage<Msg::kSettingRefused>(game_, With<"title">(ToCore(windowTitle())), With<"problem">(error));
   Load();
 }
 

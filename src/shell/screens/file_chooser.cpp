@@ -8,7 +8,7 @@
 #include "base/record_file.h"
 #include "dice/roll_file.h"
 #include "shell/table/screen_tools.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -66,24 +66,27 @@ std::string StartFolder(const Game& game, const FilePurpose& purpose) {
 
 FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
                           std::string& path) {
-  if (typed.find_first_not_of(' ') == std::string::npos)
-    return {"Missing Filename", "Please enter a file name."};
+  if (typed.find_first_not_of(' ') == std::string::npos) return {Msg::kFileNameMissing, ""};
   path = ResolvePath(typed, game.dataFolder);
   if (fs::path(path).extension().empty()) path += purpose.extension;
   std::error_code error;
   const fs::path folder = fs::path(path).parent_path();
-  if (!fs::is_directory(folder, error)) return {"Error", "Check path and file name\r\r" + folder.string()};
-  if (fs::is_directory(path, error)) return {"Error", "Path, file, or device error.\r\r" + path};
+  if (!fs::is_directory(folder, error)) return {Msg::kNoSuchFolder, folder.string()};
+  if (fs::is_directory(path, error)) return {Msg::kPathIsFolder, path};
   const bool there = fs::exists(path, error);
-  if (!there && !purpose.mayBeNew) return {"Error", "File not found\r\r" + path};
+  if (!there && !purpose.mayBeNew) return {Msg::kFileNotFound, path};
   if (there && &purpose == &kOpenRollFile) {
     bool valid = false;
     const std::string problem = CheckRollFile(path, valid);
-    if (!problem.empty()) return {"Error", problem};
-    if (!valid) return {"Unable to Open Dice Roll File", NotARollFileText(path)};
+    if (!problem.empty()) return {Msg::kFileFailed, problem};
+    if (!valid) return {Msg::kRollFileNotOpened, MessageText<Msg::kNotARollFile>(With<"path">(path))};
   }
   return {};
 }
+
+static_assert(NeedOnly({Msg::kFileNameMissing, Msg::kNoSuchFolder, Msg::kPathIsFolder, Msg::kFileNotFound,
+                        Msg::kFileFailed, Msg::kRollFileNotOpened},
+                       {"path", "problem"}));
 
 namespace {
 
@@ -121,10 +124,8 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
 bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
   std::error_code error;
   if (!purpose.save || !fs::exists(path, error)) return true;
-  return ShowMessage(
-             game, purpose.title,
-             fs::path(path).filename().string() + " is already on file.\r\rDo you want to overwrite it?",
-             kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+  return Confirms<Msg::kAskReplaceFile>(game, With<"title">(purpose.title),
+                                        With<"file">(fs::path(path).filename().string()));
 }
 
 }  // namespace
@@ -135,7 +136,7 @@ std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose, 
     std::string path;
     const FileProblem problem = CheckFileName(game, purpose, name, path);
     if (problem.Found()) {
-      ShowMessage(game, problem.title, problem.text);
+      ShowMessage(game, problem.message, {{"path", problem.told}, {"problem", problem.told}});
     } else if (MayReplace(game, purpose, path)) {
       if (purpose.folder >= 0) game.screen.Folders[purpose.folder] = fs::path(path).parent_path().string();
       return path;

@@ -5,6 +5,7 @@
 #include <deque>
 #include <string>
 
+#include "base/message_value.h"
 #include "state/screen_state.h"
 
 class QWidget;
@@ -42,12 +43,12 @@ std::string ChooseFile(Game& game, QWidget* parent, const FilePurpose& purpose,
 // file of the kind was last chosen in; then that of the samples.
 std::string StartFolder(const Game& game, const FilePurpose& purpose);
 
-// What is wrong with a name for a purpose: title and text of the box. Found() false for a good one. path is
-// made full. The overwrite question is the caller's.
+// What is wrong with a name for a purpose: the box that tells. Found() false for a good one. path is made
+// full. The overwrite question is the caller's.
 struct FileProblem {
-  std::string title;
-  std::string text;
-  bool Found() const { return !text.empty(); }
+  Msg message{};
+  std::string told;  // what the message holds: a path or a problem
+  bool Found() const { return message != Msg{}; }
 };
 FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const std::string& typed,
                           std::string& path);

@@ -8,6 +8,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "base/messages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 
@@ -31,6 +32,14 @@ constexpr ButtonFacts kButtons[] = {{kMsgOk, "&OK", "cmdButton0", kResultOk},
 
 // The narrowest text column of each layout value, in characters of an average width.
 int TextColumns(int width) { return width <= 130 ? 34 : width <= 302 ? 48 : 68; }
+
+// Long texts stand in a wide box.
+int WidthOf(const MessageBox& box) {
+  constexpr int kWide = 640;
+  for (const Msg wide : {Msg::kSupportFilesMissing, Msg::kNothingKept, Msg::kAskCloseUnkept, Msg::kKeys})
+    if (box.MsgId == wide) return kWide;
+  return box.MsgWidth;
+}
 
 QPixmap PictureOf(std::uint32_t flags, const QWidget& box) {
   const int size = box.style()->pixelMetric(QStyle::PM_MessageBoxIconSize);
@@ -69,7 +78,7 @@ MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent) : QDialog(p
   text->setTextFormat(Qt::PlainText);
   text->setWordWrap(true);
   text->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * TextColumns(box.MsgWidth));
+  text->setMinimumWidth(text->fontMetrics().averageCharWidth() * TextColumns(WidthOf(box)));
   if ((flags_ & kMsgCentred) != 0) text->setAlignment(Qt::AlignCenter);
   row->addWidget(text, 1);
   AddInputs(box);

@@ -13,7 +13,7 @@
 #include "rules/payoffs.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
-#include "state/game.h"
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -107,7 +107,7 @@ bool TakeInHand(Game& game, TableCommands& commands, int bet) {
   const int seat = game.table.SelectedSeat;
   bet = OrItsFlatBet(game, bet);
   if (!IsTableBet(bet) || game.table.BetAmount(seat, bet) == kZero) {
-    ShowMessage(game, "Action not allowed", "You may only move a bet that is on the table.");
+    ShowMessage<Msg::kOnlyBetsMove>(game);
     return false;
   }
   commands.Moving = {seat, bet};
@@ -142,8 +142,7 @@ void MoveBet(Game& game, int from, int to) {
     RemoveBet(game, seat, from);  // tells why not
   } else if (IsOdds(to) && FlatBetOf(to) == from) {
     // Allowed as the table stands, but not without the bet that would leave.
-    ShowMessage(game, "Action not allowed",
-                "You may not move the " + BetName(from) + " bet to its own odds.");
+    ShowMessage<Msg::kNotToOwnOdds>(game, With<"bet">(BetName(from)));
   } else {
     AllowedChange(game, seat, to, taken);  // tells why not
   }
