@@ -335,6 +335,7 @@ constexpr std::int64_t kMostCount = 2'147'000'000;
 constexpr std::int64_t kFarthest = 100'000;  // of windows and views
 constexpr std::int64_t kSeatBits = (1 << kSeatRows) - 1;
 
+// Settings are not among them: ClampSettings brings those within their own limits.
 constexpr FieldRange kRanges[] = {
     {"ShooterSeat", 0, kSeats},
     {"HandSeat", 0, kSeats},
@@ -357,9 +358,6 @@ constexpr FieldRange kRanges[] = {
     {"SeatsSinceAfter", 0, kSeatBits},
     {"ComeMovedTo", 0, kBets},
     {"DontComeMovedTo", 0, kBets},
-    {"BankrollInitType", 0, 2},
-    {"AdjustKind", 0, 3},
-    {"AdjustUnit", 0, 6},
     {"VisibleStacks", 0, kCheckStacks - 1},
     {"Die1", 1, 6},
     {"Die2", 1, 6},
@@ -404,7 +402,6 @@ constexpr FieldRange kRanges[] = {
     {"ScaleBase", 100, 10'000'000'000},
     {"HighPoint", 0, 1'000'000'000'000'000'000},
     {"LowPoint", 0, 1'000'000'000'000'000'000},
-    {"GeneratorIndex", 0, kGeneratorCount - 1},
     {"RngSeedState", 0, std::numeric_limits<std::int32_t>::max()},
     {"RngLastSeed", 0, std::numeric_limits<std::int32_t>::max()},
     {"ProbDisplayMode", kShowPercentage, kShowFromTrueRollsOutOf},
@@ -448,6 +445,8 @@ bool IsInRange(const T& value, const FieldRange* range) {
     return range == nullptr || Without(value, Allowed(range->bits)).Empty();
   else if constexpr (WholeNumber<T>)
     return within(static_cast<std::int64_t>(value));
+  else if constexpr (std::is_same_v<T, PayoffRecord>)
+    return !value.PayTo.IsError() && !value.ForFlag.IsError() && !value.PayPer.IsError();
   else if constexpr (HasRaw<T>)
     return value.raw != Currency::kErrorRaw && within(value.raw);
   else if constexpr (std::is_floating_point_v<T>)

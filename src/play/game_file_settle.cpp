@@ -8,7 +8,6 @@
 #include "play/game_file_records.h"
 #include "play/setting_table.h"
 #include "rules/consistency.h"
-#include "rules/payoffs.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -66,23 +65,10 @@ std::string SettleBets(Game& game) {
 }
 
 std::string SettleSettings(Game& game) {
-  Settings& settings = game.settings;
-  settings.ScreenFontSize = std::clamp(settings.ScreenFontSize, 9, 13);
-  if (settings.InfoTipLevel < 0 || settings.InfoTipLevel > 4) settings.InfoTipLevel = 0;
-  std::vector<SettingChange> changes;
-  for (const SettingName& setting : AllSettings()) {
-    // Sets of bets can't be out of their limits; their bits were looked at.
-    if (setting.name.starts_with("BetDefaultWorking.") || setting.name.starts_with("CompBetFlags.")) continue;
-    for (int seat = 0; seat <= kSeats; ++seat) {
-      const bool asked = setting.bySeat ? IsOccupied(game.table, seat) : seat == 0;
-      SettingChange change{setting.name, seat, ""};
-      std::string ignored;
-      if (asked && GetSetting(game, setting.name, seat, change.value, ignored)) changes.push_back(change);
-    }
-  }
-  std::string error;
-  if (FindSettingProblem(game, changes, error) < changes.size()) return error;
-  RebuildBetUnits(game.payoffs, settings.Unit());
+  // An unknown level of info tips is told to be none, where a limit would give the nearest.
+  int& tips = game.settings.InfoTipLevel;
+  if (tips < 0 || tips > 4) tips = 0;
+  ClampSettings(game);
   ReplaceMissingGenerator(game.generators);
   return "";
 }

@@ -203,7 +203,7 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
     hands += roll.opensHand && Has(seats, roll.credited);
   }
   double high = -1e9, low = 1e9, begin = 0, now = 0, average = 0, averageAction = 0, action = 0, comps = 0,
-         decisions = 0;
+         decisions = 0, vig = 0, vigInForce = 0;
   const bool over = scope == kLastHand || scope == kLastSession;
   for (const int seat : seats) {
     high = std::max(high, stretch.high[seat]);
@@ -214,39 +214,38 @@ Rows Summary(const Game& game, const Ledger& ledger, int scope, const Seats& sea
     double sum = session.start[seat];
     for (const Thrown& roll : session.rolls) sum += roll.bankroll[seat];
     average += Money(sum / static_cast<double>(session.rolls.size() + 1));
-    const Sums comped = SumUp(ledger, scope, {seat}, game.settings.CompBetFlags, 0);
+    const Sums comped = SumUp(ledger, scope, {seat}, kAllTableBets, 0);
     action += comped.total;
     decisions += comped.count;
-    comps += Money(-0.3 * Expected(game, ledger, scope, {seat}, game.settings.CompBetFlags, false));
+    const double seatVig = -Expected(game, ledger, scope, {seat}, kAllTableBets, false);
+    vig += seatVig;
+    vigInForce -= Expected(game, ledger, scope, {seat}, kAllTableBets, game.percentage.PercentageDiceActive);
+    comps += Money(seatVig * (30 * 0.01));
     if (comped.count > 0) averageAction += Money(comped.total * (rolls / rate) / comped.count);
   }
-  const BetSet& flags = game.settings.CompBetFlags;
-  const double vig = -Expected(game, ledger, scope, seats, flags, false);
-  const bool star =
-      Money(vig) != Money(-Expected(game, ledger, scope, seats, flags, game.percentage.PercentageDiceActive));
+  const bool star = Money(vig) != Money(vigInForce);
   const bool nobody = seats.empty();
   const auto money = [nobody](double amount) { return Row{nobody ? "" : Fewest(Money(amount))}; };
-  Rows rows{
-      {"Total rolls", {Whole(rolls), Whole(shot)}},
-      {"Total hands", {Whole(tableHands), Whole(hands)}},
-      {"Sim hours", {Fewest(rolls / rate)}},
-      {"Rolls / hour", {Fewest(rate)}},
-      {"% of rolls",
-       {shot == 0       ? "0%"
-        : shot == rolls ? "100%"
-                        : NumberText(100 * shot / rolls, kPercentShare)}},
-      {"High bankroll", money(high)},
-      {"Low bankroll", money(low)},
-      {"Beginning bankroll", money(begin)},
-      {over ? "Ending bankroll" : "Current bankroll", money(now)},
-      {"Average bankroll", money(average / static_cast<double>(std::max<std::size_t>(1, seats.size())))},
-      {"Total comp action $", money(action)},
-      {"Total # comp bets", {Whole(decisions)}},
-      {"Avg comp action $", money(decisions > 0 ? action / decisions : 0)},
-      {"Avg action x time $", money(averageAction)},
-      {star ? "* Theoretical vig $" : "Theoretical vig $", money(vig)},
-      {"Comp rate %", {"30"}},
-      {"Total comp value $", money(comps)}};
+  Rows rows{{"Total rolls", {Whole(rolls), Whole(shot)}},
+            {"Total hands", {Whole(tableHands), Whole(hands)}},
+            {"Sim hours", {Fewest(rolls / rate)}},
+            {"Rolls / hour", {Fewest(rate)}},
+            {"% of rolls",
+             {shot == 0       ? "0%"
+              : shot == rolls ? "100%"
+                              : NumberText(100 * shot / rolls, kPercentShare)}},
+            {"High bankroll", money(high)},
+            {"Low bankroll", money(low)},
+            {"Beginning bankroll", money(begin)},
+            {over ? "Ending bankroll" : "Current bankroll", money(now)},
+            {"Average bankroll", money(Money(average) / std::max(1.0, static_cast<double>(seats.size())))},
+            {"Total comp action $", money(action)},
+            {"Total # comp bets", {Whole(decisions)}},
+            {"Avg comp action $", money(decisions > 0 ? action / decisions : 0)},
+            {"Avg action x time $", money(averageAction)},
+            {star ? "* Theoretical vig $" : "Theoretical vig $", money(vig)},
+            {"Comp rate %", {"30"}},
+            {"Total comp value $", money(comps)}};
   Sums sums[3];
   for (int side = 0; side < 3; ++side) sums[side] = SumUp(ledger, scope, seats, kAllTableBets, side);
   const char* names[] = {"Wagers", "Wins", "Losses"};
