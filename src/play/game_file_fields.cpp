@@ -69,7 +69,7 @@ const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
     {".autobet.RollFileEndReached", kOfARun},
     {".table.OccupiedSeats", kMadeAgain},
     {".table.Seated", kMadeAgain},
-    {".table.SeatBets", kMadeAgain},
+    {".table.seats.SeatBets", kMadeAgain},
     {".table.AnyBets", kMadeAgain},
     {".table.SeatsUp", kMadeAgain},
     {".table.RollInProgress", kOfARun},
