@@ -441,7 +441,7 @@ TEST(Autosaving, ARunIsPrecededByOneAndAnOrderlyEndTakesItAway) {
   const QTemporaryDir folder;
   Visit run(folder);
   run.game->settings.ShooterBetRule = 0;
-  run.game->settings.AutoStopInterval = Currency::Dollars(5);
+  run.game->settings.AutoStopInterval = 5;
   run.Join(3, "Ann");
   run.Do("mnuTurboRoll");
   EXPECT_EQ(SessionRolls(run.game->stats), 5);
