@@ -65,7 +65,22 @@ enum Bet : int {
   kOver7 = 65,
   kUnder7 = 66,
   kHop13 = 67,
-  kHop55 = 83,
+  kHop14,
+  kHop15,
+  kHop16,
+  kHop22,
+  kHop23,
+  kHop24,
+  kHop25,
+  kHop26,
+  kHop33,
+  kHop34,
+  kHop35,
+  kHop36,
+  kHop44,
+  kHop45,
+  kHop46,
+  kHop55,
   kAllSmall = 84,
   kAllTall = 85,
   kMakeAll = 86,
@@ -78,29 +93,11 @@ enum Bet : int {
   kFire = 93,
 };
 
-constexpr bool IsLay(int bet) { return bet >= kLay4 && bet < kDontCome4; }
-constexpr bool IsDontComeNumber(int bet) { return bet >= kDontCome4 && bet < kDontComeOdds4; }
-constexpr bool IsDontComeOdds(int bet) { return bet >= kDontComeOdds4 && bet < kCome4; }
-constexpr bool IsComeNumber(int bet) { return bet >= kCome4 && bet < kComeOdds4; }
-constexpr bool IsComeOdds(int bet) { return bet >= kComeOdds4 && bet < kPlace4; }
-constexpr bool IsPlace(int bet) { return bet >= kPlace4 && bet < kBuy4; }
-constexpr bool IsBuy(int bet) { return bet >= kBuy4 && bet < kPassLine; }
-
-constexpr bool HasVig(int bet) { return IsLay(bet) || IsBuy(bet); }
-
 // The six box numbers, in the order of every family of six bets.
 inline constexpr std::array<int, 6> kBoxNumbers{4, 5, 6, 8, 9, 10};
 // Position 0 to 5 of a box number. Requires one of the six.
 constexpr int BoxPosition(int number) { return number - 4 - number / 7; }
 constexpr bool IsBoxNumber(int number) { return number >= 4 && number <= 10 && number != 7; }
-
-// The flat bet that an odds bet rides with.
-constexpr int FlatBetOf(int oddsBet) {
-  return oddsBet == kPassLineOdds || oddsBet == kDontPassOdds ? oddsBet - 1 : oddsBet - 6;
-}
-constexpr bool IsOdds(int bet) {
-  return IsDontComeOdds(bet) || IsComeOdds(bet) || bet == kPassLineOdds || bet == kDontPassOdds;
-}
 
 // Scopes of the statistics; a slot is scope * 9 + seat.
 enum Scope : int { kCurrentHand = 0, kLastHand = 1, kCurrentSession = 2, kLastSession = 3, kAllSessions = 4 };
@@ -153,7 +150,7 @@ struct BetSet {
   friend constexpr bool operator==(const BetSet&, const BetSet&) = default;
   // Calls visit(bet) for each, ascending. The set itself may change on the way.
   template <typename Visit>
-  void ForEach(Visit&& visit) const {
+  constexpr void ForEach(Visit&& visit) const {
     for (int w = 0; w < 2; ++w)
       for (std::uint64_t rest = words[w]; rest != 0; rest &= rest - 1) visit(w * 64 + std::countr_zero(rest));
   }

@@ -25,7 +25,8 @@ bool ReadBets(const std::vector<std::string>& texts, BetAmounts& amounts) {
     const int bet = BetByName(text.substr(0, equals));
     Currency amount;
     if (equals == std::string::npos || !IsTableBet(bet)) {
-      Fail("--bet " + text + ": expected BET=AMOUNT with a bet 1 to 93 or its name");
+      Fail("--bet " + text + ": expected BET=AMOUNT with a bet 1 to " + std::to_string(kBets) +
+           " or its name");
       return false;
     }
     if (!TryParseMoney(text.substr(equals + 1), amount) || amount <= kZero) {

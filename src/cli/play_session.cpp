@@ -141,7 +141,8 @@ bool BetNumber(Call& call, std::size_t first, std::size_t last, bool stacks, int
   const std::string name = Joined(call.words, first, last);
   bet = BetByName(name);
   if (bet == 0 || (!stacks && !IsTableBet(bet)))
-    return call.Bad("\"" + name + "\" is no bet; bets are 1 to 93, or names such as passline or place6");
+    return call.Bad("\"" + name + "\" is no bet; bets are 1 to " + std::to_string(kBets) +
+                    ", or names such as passline or place6");
   return true;
 }
 

@@ -300,7 +300,7 @@ void MoveWorkingStates(TableState& table) {
 }
 
 void TakePlaceBetsDown(Game& game, int seat, int number) {
-  for (const int bet : {kPlace4 + BoxPosition(number), kBuy4 + BoxPosition(number)})
+  for (const int bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
     ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet));
 }
 
@@ -308,9 +308,6 @@ void PointChanged(Game& game) {
   TableState& table = game.table;
   MoveWorkingStates(table);
   if (table.Point == 0) return;
-  PayoffRecord* payoffs = game.payoffs.PayoffTable;
-  payoffs[kDontPassOdds] = payoffs[kDontComeOdds4 + BoxPosition(table.Point)];
-  payoffs[kPassLineOdds] = payoffs[kComeOdds4 + BoxPosition(table.Point)];
   for (unsigned seats = table.SeatsUp[kPassLine]; seats != 0; seats &= seats - 1) {
     const int seat = kPayOrder[std::countr_zero(seats)];
     if (table.seats[seat].handling.AutoTakeOdds) TakeFullOdds(game, seat, kPassLineOdds);

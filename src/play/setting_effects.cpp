@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "base/bet_catalogue.h"
 #include "dice/generators.h"
 #include "play/auto_roll.h"
 #include "rules/bet_limits.h"
@@ -10,7 +9,12 @@
 #include "rules/configuration.h"
 #include "rules/consistency.h"
 #include "rules/payoffs.h"
+<<<<<<< all
 #include "state/show_message.h"
+=======
+#include "state/bet_families.h"
+#include "state/game.h"
+>>>>>>> branch
 #include "stats/events_log.h"
 
 namespace tessaryn {
@@ -36,6 +40,7 @@ bool AnySeatHas(const Game& game, const BetSet& bets) { return game.table.AnyBet
 
 struct Family {
   bool Settings::*offered;
+<<<<<<< all
   int first;
   int last;
   Msg question;  // whether what is up may come down
@@ -45,6 +50,16 @@ constexpr Family kFamilies[] = {
     {&Settings::UseFire, kFire, kFire, Msg::kAskRemoveFire},
     {&Settings::UseMidway, kMidway, kMidway, Msg::kAskRemoveMidway},
     {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, Msg::kAskRemoveSpecials},
+=======
+  const char* title;
+  const char* text;  // what is up
+};
+constexpr Family kFamilies[] = {
+    {&Settings::UseBig68, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
+    {&Settings::UseFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
+    {&Settings::UseMidway, "Remove Midway Bets", "one or more Midway bets present"},
+    {&Settings::SmallTallEnabled, "Remove Special Prop Bets", ""},
+>>>>>>> branch
 };
 static_assert(NeedOnly({Msg::kAskRemoveBig68, Msg::kAskRemoveFire, Msg::kAskRemoveMidway,
                         Msg::kAskRemoveSpecials},
@@ -68,11 +83,22 @@ bool SevenPoint7Rides(const Game& game) {
 
 // A family that is switched off with bets up: asks whether they may come down. False: it stays.
 bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
-  const BetSet bets = BetRange(family.first, family.last);
+  const BetSet bets = BetsOfferedBy(family.offered);
   if (!AnySeatHas(game, bets)) return true;
+<<<<<<< all
   if (IsSpecialProp(family.first) && SevenPoint7Rides(game)) {
     error = MessageText<Msg::kSpecialsAreContract>();
     ShowMessage<Msg::kSpecialsAreContract>(game);
+=======
+  const bool special = family.offered == &Settings::SmallTallEnabled;
+  error = std::string(family.title) + ": bets are up, and stay.";
+  if (special && SevenPoint7Rides(game)) {
+    error =
+        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
+        "contract "
+        "bet, you can't remove it until it resolves.";
+    ShowMessage(game, family.title, error);
+>>>>>>> branch
     return false;
   }
   if (ShowMessage(game, family.question, {{"bets", NamesUp(game, bets)}}) == kResultYes) return true;
@@ -81,10 +107,10 @@ bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
 }
 
 void TakeFamilyDown(Game& game, const Family& family) {
-  const BetSet bets = BetRange(family.first, family.last);
+  const BetSet bets = BetsOfferedBy(family.offered);
   if (AnySeatHas(game, bets))
     for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
-  if (!IsSpecialProp(family.first)) return;
+  if (family.offered != &Settings::SmallTallEnabled) return;
   // What was counted for these bets says nothing to those of a table that offers them again.
   game.table.NumberMarks = 0;
   game.table.FourRollCount = 0;

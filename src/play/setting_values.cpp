@@ -207,6 +207,8 @@ std::string SettingText(const Game& game, const SettingRow& row, SeatId seat, in
         const T& value = cell.at(places, seat, index);
         if constexpr (std::is_same_v<T, BetSet>)
           return OnOff(value.Has(index));
+        else if constexpr (std::is_same_v<T, PayoffRecord>)
+          return Text(row.byBets ? PayoffOf(game, index) : value);  // odds on the line pay by the point
         else
           return Text(value);
       },

@@ -1,9 +1,9 @@
 #include "play/start_up.h"
 
-#include "base/bet_catalogue.h"
 #include "dice/generators.h"
 #include "play/players.h"
 #include "rules/payoffs.h"
+#include "state/bet_families.h"
 
 namespace tessaryn {
 namespace {
@@ -27,7 +27,7 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   LoadSupportLibraries(game->generators, game->applicationFolder);
   StartGenerators(game->generators, host.TickMilliseconds());
   ResetPayoffs(game->payoffs, game->settings.Unit());
-  table.seats[0].BetDefaultWorking = HouseWorkingBets();
+  table.seats[0].BetDefaultWorking = kHouseWorkingBets;
   for (int seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
   return game;
 }

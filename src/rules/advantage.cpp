@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <span>
 
@@ -349,19 +348,6 @@ Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice) {
 
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes) {
   return Figures(game, OddsInForce(game, usePercentageDice), bet, includeZeroOutcomes);
-}
-
-double EvPerHour(const Game& game, const Advantage& advantage, Currency amount) {
-  return advantage.evPerRoll * game.settings.SimRollRate.ToDouble() * amount.ToDouble();
-}
-
-std::string TimePerDecisionText(const Game& game, const Advantage& advantage) {
-  const double tenths =
-      std::round(advantage.rollsPerDecision / game.settings.SimRollRate.ToDouble() * 36'000);
-  const double minutes = std::floor(tenths / 600);
-  char text[64];
-  std::snprintf(text, sizeof text, "%02.0f:%04.1f", minutes, (tenths - minutes * 600) / 10);
-  return text;
 }
 
 std::vector<AdvantageRow> AdvantageTable(const Game& game) {

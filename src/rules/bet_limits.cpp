@@ -5,6 +5,7 @@
 #include <limits>
 #include <span>
 
+#include "state/bet_families.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -45,10 +46,22 @@ inline const KeptMaximum& KeptProposition(const Game& game, int bet) {
                     game.payoffs.PayoffTable[bet]);
 }
 
-// place: where the amounts of the table's rows are kept.
-Currency SmallestAmount(const Game& game, std::size_t place, std::span<const PayoffRecord> table) {
+// Where the amounts of a table's rows are kept: behind those of the bets.
+constexpr std::size_t KeptPlaceOf(PayoffTableId table) {
+  constexpr std::size_t kFirst = kBets + 1;
+  switch (table) {
+    case PayoffTableId::kSharpShooter:
+      return kFirst + kSevenPointSevenRows;
+    case PayoffTableId::kRideTheLine:
+      return kFirst + kSevenPointSevenRows + kSharpShooterRows;
+    default:
+      return kFirst;
+  }
+}
+
+Currency SmallestAmount(const Game& game, std::size_t place, std::span<const PayoffRecord> rows) {
   Currency smallest = kBankrollLimit;
-  for (const PayoffRecord& record : table.subspan(1)) {
+  for (const PayoffRecord& record : rows) {
     if (record.PayTo > kZero)
       smallest = std::min(smallest, KeptAmount(game, place, game.settings.MaxPropBetPayoff, record).amount);
     ++place;
@@ -56,39 +69,17 @@ Currency SmallestAmount(const Game& game, std::size_t place, std::span<const Pay
   return smallest;
 }
 
-// The bets on each winning number of C and E, Horn and World, and how many shares the bet is cut into.
-struct SharedBet {
-  int shares;
-  int parts[5];
-};
-constexpr SharedBet kSharedBets[] = {
-    {2, {kEleven, kCraps, kCraps, kCraps, kCraps}},
-    {4, {kTwo, kThree, kEleven, kTwelve, kTwelve}},
-    {5, {kTwo, kThree, kSeven, kEleven, kTwelve}},
-};
-
 Currency MaxSharedBet(const Game& game, int bet) {
-  const SharedBet& shared = kSharedBets[bet - kCAndE];
   Currency smallest = kBankrollLimit;
-  for (const int part : shared.parts) smallest = std::min(smallest, KeptProposition(game, part).amount);
-  return Multiply(smallest, Currency::Dollars(shared.shares));
-}
-
-Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
-  const PayoffRecord& record = game.payoffs.PayoffTable[bet];
-  const Currency flat = game.table.BetAmount(seat, FlatBetOf(bet));
-  if (!laying || record.PayTo <= kZero) return MaxOddsFor(game, bet, flat, record.PayTo, record.PayPer);
-  // Who lays is measured by what can be won: that is the stake of the method, and what is laid its payoff.
-  const Currency mostWon = MaxOddsFor(game, bet, flat, record.PayPer, record.PayTo);
-  return Divide(Multiply(mostWon, record.PayPer), record.PayTo);
+  for (const int part : FactsOf(bet).parts)
+    if (part != 0) smallest = std::min(smallest, KeptProposition(game, part).amount);
+  return Multiply(smallest, Currency::Dollars(SharesOf(bet)));
 }
 
 Multiple OddsMultiple(const Game& game, int bet) {
-  int number = game.table.Point;
-  if (IsComeOdds(bet)) number = kBoxNumbers[bet - kComeOdds4];
-  if (IsDontComeOdds(bet)) number = kBoxNumbers[bet - kDontComeOdds4];
+  const int own = FactsOf(bet).number;
   const Settings& settings = game.settings;
-  switch (number) {
+  switch (own != 0 ? own : game.table.Point) {
     case 6:
     case 8:
       return settings.OddsAllowed68;
@@ -150,6 +141,12 @@ Currency ColorPush(const OddsCase& odds, const Currency* checks) {
   return PaysWholeChecks(odds, checks[1], odds.base + Currency::Dollars(10'000));
 }
 
+// c brought to a multiple of q; 0 when c / q is a half or less.
+std::int64_t OddsChipCount(std::int64_t c, std::int64_t q) {
+  if (2 * c <= q) return 0;
+  return (c + q - 1) / q * q;
+}
+
 Currency SingleOdds(const OddsCase& odds, const Currency* checks, bool multiplyFirst) {
   const Currency whole = multiplyFirst ? odds.base : odds.flat;
   const std::int64_t multiple = std::max<std::int64_t>(1, WholePart(odds.payPer).raw / Currency::kPerDollar);
@@ -173,63 +170,7 @@ int OddsMethod(int method, Multiple multiple) {
   return 3;
 }
 
-Currency RoundVig(const Game& game, Currency vig, int rounding) {
-  const Currency unit = game.settings.Unit();
-  const Currency down = RoundDownToUnit(vig, unit);
-  if (down.IsError() || down == vig || rounding == 1) return down;
-  if (rounding == 2) return down + unit;
-  return vig.raw - down.raw >= unit.raw - (vig.raw - down.raw) ? down + unit : down;
-}
-
-int BiasOf(const Handling& handling, int bet) {
-  if (IsPlace(bet) || IsBuy(bet)) return handling.PlaceBias;
-  if (IsLay(bet)) return handling.LayBias;
-  if (IsDontComeNumber(bet) || IsDontComeOdds(bet) || bet == kDontPass || bet == kDontPassOdds ||
-      bet == kDontCome)
-    return handling.DontBias;
-  return handling.DoBias;
-}
-
-}  // namespace
-
-Currency MinBetFor(const Game& game, int bet) {
-  return bet < kHard4 ? game.settings.MinBetMain : game.settings.MinBetProp;
-}
-
-Currency MaxBetFor(const Game& game, int seat, int bet) {
-  const Settings& settings = game.settings;
-  if (bet >= kHard4 && bet <= kPoint7 && !(bet >= kCAndE && bet <= kWorld))
-    return KeptProposition(game, bet).whole;
-  if (bet == kPassLineOdds || IsComeOdds(bet)) return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, false));
-  if (bet == kDontPassOdds || IsDontComeOdds(bet))
-    return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, true));
-  if (IsLay(bet))
-    return KeptAmount(game, static_cast<std::size_t>(bet), settings.MaxBet, game.payoffs.PayoffTable[bet])
-        .whole;
-  if (bet >= kCAndE && bet <= kWorld) return WholeUnits(game, MaxSharedBet(game, bet));
-  constexpr std::size_t kSevenPointSevenPlace = kBets + 1;
-  constexpr std::size_t kSharpShooterPlace = kSevenPointSevenPlace + kSevenPointSevenRows;
-  constexpr std::size_t kRideTheLinePlace = kSharpShooterPlace + kSharpShooterRows;
-  switch (bet) {
-    case kSevenPoint7:
-      return WholeUnits(game,
-                        SmallestAmount(game, kSevenPointSevenPlace, game.payoffs.SevenPointSevenPayoffs));
-    case kSharpShooter:
-      return WholeUnits(game, SmallestAmount(game, kSharpShooterPlace, game.payoffs.SharpShooterPayoffs));
-    case kRideTheLine:
-      return WholeUnits(game, SmallestAmount(game, kRideTheLinePlace, game.payoffs.RideTheLinePayoffs));
-    case kFire:
-      return WholeUnits(game, settings.MaxFireBet);
-    default:
-      return WholeUnits(game, settings.MaxBet);
-  }
-}
-
-std::int64_t OddsChipCount(std::int64_t c, std::int64_t q) {
-  if (2 * c <= q) return 0;
-  return (c + q - 1) / q * q;
-}
-
+// The most odds on a flat amount, by OddsCalcMethod. payTo, payPer: the odds bet's payoff.
 Currency MaxOddsFor(const Game& game, int bet, Currency flatAmount, Currency payTo, Currency payPer) {
   const Settings& settings = game.settings;
   OddsCase odds;
@@ -261,6 +202,23 @@ Currency MaxOddsFor(const Game& game, int bet, Currency flatAmount, Currency pay
   return RoundDownToUnit(std::min(most, ceiling), settings.Unit());
 }
 
+Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
+  const PayoffRecord& record = PayoffOf(game, bet);
+  const Currency flat = game.table.BetAmount(seat, FlatBetOf(bet));
+  if (!laying || record.PayTo <= kZero) return MaxOddsFor(game, bet, flat, record.PayTo, record.PayPer);
+  // Who lays is measured by what can be won: that is the stake of the method, and what is laid its payoff.
+  const Currency mostWon = MaxOddsFor(game, bet, flat, record.PayPer, record.PayTo);
+  return Divide(Multiply(mostWon, record.PayPer), record.PayTo);
+}
+
+Currency RoundVig(const Game& game, Currency vig, int rounding) {
+  const Currency unit = game.settings.Unit();
+  const Currency down = RoundDownToUnit(vig, unit);
+  if (down.IsError() || down == vig || rounding == 1) return down;
+  if (rounding == 2) return down + unit;
+  return vig.raw - down.raw >= unit.raw - (vig.raw - down.raw) ? down + unit : down;
+}
+
 Currency BuyVigFor(const Game& game, Currency amount) {
   return RoundVig(game, Multiply(game.settings.BuyVigRate, amount), game.settings.BuyVigRound);
 }
@@ -270,6 +228,35 @@ Currency LayVigFor(const Game& game, int bet, Currency amount) {
   if (record.PayTo <= kZero) return kZero;
   const Currency win = Divide(Multiply(amount, record.PayTo), record.PayPer);
   return RoundVig(game, Multiply(game.settings.LayVigRate, win), game.settings.LayVigRound);
+}
+
+}  // namespace
+
+Currency MinBetFor(const Game& game, int bet) { return game.settings.*FamilyRowOf(bet).minimum; }
+
+Currency MaxBetFor(const Game& game, int seat, int bet) {
+  const Settings& settings = game.settings;
+  const FamilyRow& family = FamilyRowOf(bet);
+  switch (family.maximum) {
+    case Maximum::kWinOfProp:
+      return KeptProposition(game, bet).whole;
+    case Maximum::kWinOfTable:
+      return KeptAmount(game, static_cast<std::size_t>(bet), settings.MaxBet, game.payoffs.PayoffTable[bet])
+          .whole;
+    case Maximum::kWinOfParts:
+      return WholeUnits(game, MaxSharedBet(game, bet));
+    case Maximum::kWinOfRows:
+      return WholeUnits(game, SmallestAmount(game, KeptPlaceOf(family.payoffs), PayoffRowsOf(game, bet)));
+    case Maximum::kOddsTaken:
+      return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, false));
+    case Maximum::kOddsLaid:
+      return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, true));
+    case Maximum::kFire:
+      return WholeUnits(game, settings.MaxFireBet);
+    case Maximum::kTable:
+      break;
+  }
+  return WholeUnits(game, settings.MaxBet);
 }
 
 Currency VigFor(const Game& game, int bet, Currency amount) {
@@ -284,7 +271,7 @@ Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change) 
   const Settings& settings = game.settings;
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency wanted = amount + change;
-  const Currency betUnit = game.payoffs.PayoffTable[bet].BetUnit;
+  const Currency betUnit = PayoffOf(game, bet).BetUnit;
   if (wanted <= kZero || betUnit <= kZero) return change;
   // The colour correction pays in the largest check of which the bet holds a whole multiple's worth.
   Currency size = betUnit;
@@ -299,7 +286,7 @@ Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change) 
   if (IsMultiple(wanted, size)) return change;
   const Currency lower = Currency::FromRaw(wanted.raw / size.raw * size.raw);
   const Currency higher = lower + size;
-  const int bias = BiasOf(handling, bet);
+  const int bias = handling.*FamilyRowOf(bet).bias;
   const bool up = bias == 0 ? change > kZero : bias == 1;
   Currency proper = up ? higher : lower;
   const Currency most = MaxBetFor(game, seat, bet);

@@ -1,6 +1,5 @@
 #include "rules/bet_results.h"
 
-#include "base/bet_catalogue.h"
 #include "dice/percentage_dice.h"
 #include "state/game.h"
 
@@ -65,17 +64,16 @@ double BuyWin(const Case& c, int bet) {
 }
 
 double NumberResult(const Case& c, int bet, int total) {
-  const int number = kBoxNumbers[(bet - 1) % 6];
+  const int number = FactsOf(bet).number;
   if (total != number && total != 7) return 0;
   if (IsLay(bet)) return AgainstSeven(total, number, -1, LayWin(c, bet));
   if (IsBuy(bet)) return AgainstSeven(total, number, BuyWin(c, bet), -1);
-  if (IsDontComeNumber(bet) || IsDontComeOdds(bet)) return AgainstSeven(total, number, -1, c.Pays(bet));
-  return AgainstSeven(total, number, c.Pays(bet), -1);
+  return FamilyRowOf(bet).decidedBy == DecidedBy::kSeven ? AgainstSeven(total, number, -1, c.Pays(bet))
+                                                         : AgainstSeven(total, number, c.Pays(bet), -1);
 }
 
-double HardwayResult(const Case& c, int bet, int die1, int die2) {
-  const int total = 2 * (bet - kHard4 + 2);
-  return AgainstSeven(die1 + die2, total, die1 == die2 ? c.Pays(bet) : -1, -1);
+double PairResult(const Case& c, int bet, int die1, int die2) {
+  return AgainstSeven(die1 + die2, FactsOf(bet).number, die1 == die2 ? c.Pays(bet) : -1, -1);
 }
 
 // --- Bets on one roll: a result for each pair of faces.
@@ -87,77 +85,29 @@ double MidwayResult(const Case& c, int die1, int die2) {
   const int row = MidwayRow(die1, die2);
   return row == 0 ? -1 : Ratio(c.game.payoffs.MidwayPayoffs[row]);
 }
-double TotalResult(const Case& c, int bet, int die1, int die2) {
-  constexpr int kTotals[] = {2, 3, 7, 11, 12};
-  return die1 + die2 == kTotals[bet - kTwo] ? c.Pays(bet) : -1;
-}
-double CrapsResult(const Case& c, int bet, int die1, int die2) {
-  const int total = die1 + die2;
-  return total == 2 || total == 3 || total == 12 ? c.Pays(bet) : -1;
-}
-double OverUnderResult(const Case& c, int bet, int die1, int die2) {
-  const int total = die1 + die2;
-  return (bet == kOver7 ? total > 7 : total < 7) ? c.Pays(bet) : -1;
-}
-double HopResult(const Case& c, int bet, int die1, int die2) {
-  return HopBet(die1, die2) == bet ? c.Pays(bet) : -1;
-}
 // One share wins by the record of its own bet, the others lose.
 double SharedResult(const Case& c, int bet, int die1, int die2) {
-  int part = 0;
-  switch (die1 + die2) {
-    case 2:
-      part = bet == kCAndE ? kCraps : kTwo;
-      break;
-    case 3:
-      part = bet == kCAndE ? kCraps : kThree;
-      break;
-    case 7:
-      part = bet == kWorld ? kSeven : 0;
-      break;
-    case 11:
-      part = kEleven;
-      break;
-    case 12:
-      part = bet == kCAndE ? kCraps : kTwelve;
-      break;
-    default:
-      break;
-  }
-  if (part == 0) return -1;
-  const double shares = bet == kCAndE ? 2 : bet == kHorn ? 4 : 5;
-  return (c.Pays(part) - (shares - 1)) / shares;
+  const double shares = SharesOf(bet);
+  return (c.Pays(WinningPart(bet, die1, die2)) - (shares - 1)) / shares;
+}
+double OneRollResult(const Case& c, int bet, int die1, int die2) {
+  if (bet == kField) return FieldResult(c, die1, die2);
+  if (bet == kMidway) return MidwayResult(c, die1, die2);
+  if ((FactsOf(bet).wins & CombinationBit(die1, die2)) == 0) return -1;
+  return SharesOf(bet) > 1 ? SharedResult(c, bet, die1, die2) : c.Pays(bet);
 }
 
 }  // namespace
 
-bool IsOneRollBet(int bet) {
-  const bool stays = bet < kPassLine || bet == kBig6 || bet == kBig8 || (bet >= kHard4 && bet <= kHard10);
-  return !stays && !IsLineFamily(bet) && !IsLongBet(bet);
-}
-
 double ResultOnRoll(const Case& c, int bet, int die1, int die2) {
-  if (bet < kPassLine) return NumberResult(c, bet, die1 + die2);
-  switch (bet) {
-    case kField:
-      return FieldResult(c, die1, die2);
-    case kBig6:
-    case kBig8:
-      return AgainstSeven(die1 + die2, bet == kBig6 ? 6 : 8, c.Pays(bet), -1);
-    case kCraps:
-      return CrapsResult(c, bet, die1, die2);
-    case kOver7:
-    case kUnder7:
-      return OverUnderResult(c, bet, die1, die2);
-    case kMidway:
-      return MidwayResult(c, die1, die2);
+  switch (FamilyRowOf(bet).decidedBy) {
+    case DecidedBy::kOneRoll:
+      return OneRollResult(c, bet, die1, die2);
+    case DecidedBy::kPair:
+      return PairResult(c, bet, die1, die2);
     default:
-      break;
+      return NumberResult(c, bet, die1 + die2);
   }
-  if (bet >= kHard4 && bet <= kHard10) return HardwayResult(c, bet, die1, die2);
-  if (bet >= kTwo && bet <= kTwelve) return TotalResult(c, bet, die1, die2);
-  if (bet >= kCAndE && bet <= kWorld) return SharedResult(c, bet, die1, die2);
-  return HopResult(c, bet, die1, die2);
 }
 
 namespace {

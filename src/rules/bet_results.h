@@ -3,6 +3,7 @@
 
 #include "base/table_types.h"
 #include "rules/payoffs.h"
+#include "state/bet_families.h"
 
 namespace tessaryn {
 
@@ -29,13 +30,13 @@ struct Case {
   double Total(int total) const { return odds.total[total]; }
 };
 
-// Bets 43 to 48: decided by the point, on the line or of their own.
-constexpr bool IsLineFamily(int bet) { return bet >= kPassLine && bet <= kDontCome; }
-constexpr bool IsLineOdds(int bet) { return bet == kPassLineOdds || bet == kDontPassOdds; }
-// Marks, counts and bets on a hand: decided by more than the point and the roll.
-constexpr bool IsLongBet(int bet) { return bet >= kAllSmall && bet <= kFire && bet != kMidway; }
+// Decided by the point, on the line or of their own; line odds among them.
+constexpr bool IsLineFamily(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kLine; }
+constexpr bool IsLineOdds(int bet) { return IsLineFamily(bet) && IsOdds(bet); }
+// Marks, counts and bets on a hand.
+constexpr bool IsLongBet(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kHand; }
 // Every roll decides it.
-bool IsOneRollBet(int bet);
+constexpr bool IsOneRollBet(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kOneRoll; }
 
 // All results are per unit laid out; 0 for a roll that leaves the bet in place.
 // Of a bet that is neither of the line family nor long.

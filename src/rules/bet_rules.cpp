@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <iterator>
 
-#include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/consistency.h"
+<<<<<<< all
 #include "state/show_message.h"
+=======
+#include "state/bet_families.h"
+#include "state/game.h"
+>>>>>>> branch
 
 namespace tessaryn {
 namespace {
@@ -28,17 +32,23 @@ constexpr std::array<std::uint8_t, kSeatRows> kPayBit = [] {
 
 // --- Notes.
 
-bool NotesShown(const Game& game, int bit) {
-  return !game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0 &&
+bool NotesShown(const Game& game, Asking asking, int bit) {
+  return !game.table.TurboRollActive && !game.autobet.ScriptRunning && asking != Asking::kQuietly &&
          (game.settings.MessageMask & bit) != 0;
 }
 
+<<<<<<< all
 // A note to the seat's player about a bet.
 template <Msg kId, typename... Arguments>
 void ShowNote(Game& game, int seat, int bet, int bit, const Arguments&... arguments) {
   if (NotesShown(game, bit))
     ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"bet">(BetName(bet)),
                      arguments...);
+=======
+void ShowNote(Game& game, Asking asking, int seat, int bet, int bit, const std::string& sentence) {
+  if (!NotesShown(game, asking, bit)) return;
+  ShowMessage(game, BetName(bet) + " Bet", game.table.seats[seat].SeatName + ",\r\r" + sentence);
+>>>>>>> branch
 }
 
 // --- The rules of the game. A rule refuses an increase (or a decrease) of its bets when its condition
@@ -49,6 +59,7 @@ struct RuleCase {
   int seat;
   int bet;
   Currency newAmount;
+  Asking asking = Asking::kAloud;
 };
 
 bool OverCommitted(const RuleCase& c) { return c.newAmount > c.game.table.BetCommitted(c.seat, c.bet); }
@@ -61,8 +72,8 @@ bool PointAndOver(const RuleCase& c) { return PointOn(c) && OverCommitted(c); }
 bool PointAndUnder(const RuleCase& c) { return PointOn(c) && UnderCommitted(c); }
 bool NoFlatBet(const RuleCase& c) { return c.game.table.BetAmount(c.seat, FlatBetOf(c.bet)) == kZero; }
 bool NoPointOrFlat(const RuleCase& c) { return NoPoint(c) || NoFlatBet(c); }
-bool DirectPutRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && PutRefused(c); }
-bool DirectRefused(const RuleCase& c) { return !c.game.table.MovingComeBet && OverCommitted(c); }
+bool DirectPutRefused(const RuleCase& c) { return c.asking != Asking::kAsMove && PutRefused(c); }
+bool DirectRefused(const RuleCase& c) { return c.asking != Asking::kAsMove && OverCommitted(c); }
 bool SmallMarked(const RuleCase& c) {
   return (c.game.table.NumberMarks & kSmallMarks) != 0 && OverCommitted(c);
 }
@@ -124,19 +135,24 @@ constexpr auto kRuleOf = [] {
 enum class Verdict { kAllowed, kRefused, kEnds };
 
 // Applies the bet's rule. A refused increase changes nothing, so no limit is looked at.
-Verdict ApplyRules(Game& game, int seat, int bet, Currency& change) {
+Verdict ApplyRules(Game& game, int seat, int bet, Currency& change, Asking asking) {
   const bool decrease = change < kZero;
   const int place = kRuleOf[bet][decrease ? 1 : 0];
   if (place < 0) return Verdict::kAllowed;
   const BetRule& rule = kRules[place];
   const Currency amount = game.table.BetAmount(seat, bet);
-  if (!rule.refuses({game, seat, bet, amount + change})) return Verdict::kAllowed;
+  if (!rule.refuses({game, seat, bet, amount + change, asking})) return Verdict::kAllowed;
   // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
+<<<<<<< all
   if (change != kZero && NotesShown(game, kNoteRefusals))
     ShowMessage(game, rule.text,
                 {{"player", game.table.seats[seat].SeatName},
                  {"bet", BetName(bet)},
                  {"flat", BetName(FlatBetOf(bet))}});
+=======
+  if (change != kZero && NotesShown(game, asking, kNoteRefusals))
+    ShowNote(game, asking, seat, bet, kNoteRefusals, RuleText(rule, bet));
+>>>>>>> branch
   change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
   if (rule.endsCall || (decrease && change == kZero)) return Verdict::kEnds;
   return decrease ? Verdict::kAllowed : Verdict::kRefused;
@@ -148,11 +164,10 @@ bool IsContract(int bet) { return bet == kPassLine || IsComeNumber(bet); }
 
 // What a contract holds up now: no limit takes the bet below it.
 Currency ContractFloor(const Game& game, int seat, int bet) {
-  const bool held = IsComeNumber(bet) || ((bet == kPassLine || bet == kSevenPoint7) && game.table.Point != 0);
-  return held ? game.table.BetCommitted(seat, bet) : kZero;
+  return UnderContract(game.table, bet) ? game.table.BetCommitted(seat, bet) : kZero;
 }
 
-void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease) {
+void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency minimum = MinBetFor(game, bet);
   const Currency wanted = amount + change;
@@ -162,20 +177,37 @@ void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease
     return;
   }
   change = minimum - amount;
+<<<<<<< all
   ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
+=======
+  ShowNote(game, asking, seat, bet, kNoteRefusals,
+           "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+>>>>>>> branch
 }
 
-void ApplyMaximum(Game& game, int seat, int bet, Currency& change) {
+void ApplyMaximum(Game& game, int seat, int bet, Currency& change, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency maximum = MaxBetFor(game, seat, bet);
   if (amount + change <= maximum) return;
   const Currency committed = game.table.BetCommitted(seat, bet);
   const bool keptByContract = IsContract(bet) && committed > maximum;
+<<<<<<< all
   if (keptByContract)
     ShowNote<Msg::kMaximumBetButContract>(game, seat, bet, kNoteRefusals, With<"limit">(maximum),
                                           With<"contract">(committed));
   else
     ShowNote<Msg::kMaximumBet>(game, seat, bet, kNoteRefusals, With<"limit">(maximum));
+=======
+  if (NotesShown(game, asking, kNoteRefusals)) {
+    std::string text = "The maximum " + BetName(bet) + " bet is " + Dollars(maximum);
+    if (keptByContract)
+      text += "\r\rHowever, because the " + BetName(bet) + " is a contract bet and you established it at " +
+              Dollars(committed) +
+              " before you recently lowered the maximum allowed on the Configuration screen, it must remain "
+              "unchanged until it resolves.";
+    ShowNote(game, asking, seat, bet, kNoteRefusals, text);
+  }
+>>>>>>> branch
   if (keptByContract) {
     change = committed - amount;
   } else if (change < kZero) {
@@ -203,10 +235,10 @@ Currency LowestChange(const Game& game, int seat, int bet) {
 }
 
 // Lowers the change, unit by unit, until the bankroll covers it or the bet can't go lower.
-void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
+void ApplyBankroll(Game& game, int seat, int bet, Currency& change, Asking asking) {
   const TableState& table = game.table;
   // A bet that moves to its number brings no new money to the table; odds that follow it do.
-  const bool moves = table.MovingComeBet && !IsOdds(bet);
+  const bool moves = asking == Asking::kAsMove && !IsOdds(bet);
   if (table.seats[seat].AllowNegativeBankroll || moves) return;
   const Currency amount = table.BetAmount(seat, bet);
   const Currency vigOnTable = VigUpFront(game, bet) ? VigHeld(game, seat, bet) : kZero;
@@ -230,10 +262,18 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change) {
   const Currency minimum = MinBetFor(game, bet);
   if (change > lowest && amount + change < minimum) {
     change = lowest;
+<<<<<<< all
     ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
   }
   ShowNote<Msg::kBankrollTooSmall>(game, seat, bet, kNoteBankroll,
                                    With<"others">(HasOtherBets(game, seat, bet)));
+=======
+    ShowNote(game, asking, seat, bet, kNoteRefusals,
+             "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
+  }
+  if (NotesShown(game, asking, kNoteBankroll))
+    ShowNote(game, asking, seat, bet, kNoteBankroll, BankrollText(game, seat, bet));
+>>>>>>> branch
 }
 
 Currency RoundChange(Currency change, Currency unit) {
@@ -243,29 +283,46 @@ Currency RoundChange(Currency change, Currency unit) {
                         : Currency::FromRaw(change.raw - rest) - unit;
 }
 
-void ApplyVig(Game& game, int seat, int bet) {
+void ApplyVig(Game& game, int seat, int bet, Asking asking) {
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = VigFor(game, bet, game.table.BetAmount(seat, bet));
   if (vig == held) return;
   if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount += vig - held;
   held = vig;
+<<<<<<< all
   if (vig == kZero) return;
   if (VigUpFront(game, bet))
     ShowNote<Msg::kVigCharged>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
   else
     ShowNote<Msg::kVigOnWin>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
+=======
+  if (!NotesShown(game, asking, kNoteAdjusted) || vig == kZero) return;
+  ShowNote(
+      game, asking, seat, bet, kNoteAdjusted,
+      (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
+>>>>>>> branch
 }
 
-Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change) {
+Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change, Asking asking) {
   const Currency value = game.table.BetAmount(seat, bet);
   const Currency wanted = value + change;
   Currency allowed = wanted;
   if (wanted.IsError()) allowed = change < kZero ? -kStackLimit : kStackLimit;
   allowed = std::clamp(allowed, -kStackLimit, kStackLimit);
+<<<<<<< all
   if (allowed != wanted)
     ShowNote<Msg::kStackAtLimit>(game, seat, bet, kNoteRefusals, With<"least">(change < kZero),
                                  With<"limit">(change < kZero ? -kStackLimit : kStackLimit),
                                  With<"already">(allowed == value));
+=======
+  if (allowed != wanted && NotesShown(game, asking, kNoteRefusals)) {
+    const bool least = change < kZero;
+    ShowNote(game, asking, seat, bet, kNoteRefusals,
+             std::string(least ? "The minimum" : "The maximum") + " CheckStack value is: $" +
+                 FormatMoney(least ? -kStackLimit : kStackLimit) + "\r\r" + BetName(bet) + "\r" +
+                 (allowed == value ? "which is already stacked." : "which is being stacked."));
+  }
+>>>>>>> branch
   SetBetAmount(game, seat, bet, allowed);
   return allowed - value;
 }
@@ -274,14 +331,8 @@ bool WorksByDefault(const TableState& table, int seat, int bet) {
   return table.Point != 0 || table.seats[seat].BetDefaultWorking.Has(bet);
 }
 
-// The families that the configuration can take off the table.
-constexpr BetSet kSwitchableBets =
-    BetRange(kBig6, kBig8) | kSpecialProps | BetRange(kMidway, kMidway) | BetRange(kFire, kFire);
-
-// Bets whose maximum is the table's.
-constexpr BetSet kTableMaximumBets = BetRange(kDontCome4, kDontCome4 + 5) | BetRange(kCome4, kCome4 + 5) |
-                                     BetRange(kPlace4, kPlace4 + 5) | BetRange(kPassLine, kPassLine) |
-                                     BetRange(kCome, kDontPass) | BetRange(kDontCome, kBig8);
+constexpr BetSet kTableMaximumBets =
+    BetsWhere([](const FamilyRow& row) { return row.maximum == Maximum::kTable; });
 
 bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
   const Settings& settings = game.settings;
@@ -309,7 +360,7 @@ bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currenc
 }
 
 // What the rules and limits leave of a request. Shows their texts and changes nothing.
-Currency DecideChange(Game& game, int seat, int bet, Currency request) {
+Currency DecideChange(Game& game, int seat, int bet, Currency request, Asking asking) {
   const TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   // A request beyond any bankroll is as good as one for the whole of it.
@@ -318,89 +369,68 @@ Currency DecideChange(Game& game, int seat, int bet, Currency request) {
   const bool decrease = change < kZero;
   const bool increase = change > kZero;
   if (increase && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
+<<<<<<< all
     ShowNote<Msg::kBetNotOffered>(game, seat, bet, kNoteRefusals);
+=======
+    ShowNote(game, asking, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
+>>>>>>> branch
     return kZero;
   }
-  const Verdict verdict = ApplyRules(game, seat, bet, change);
+  const Verdict verdict = ApplyRules(game, seat, bet, change, asking);
   if (verdict == Verdict::kEnds || (verdict == Verdict::kRefused && increase)) return kZero;
   if (verdict == Verdict::kAllowed) {
-    ApplyMinimum(game, seat, bet, change, decrease);
+    ApplyMinimum(game, seat, bet, change, decrease, asking);
     if (amount + change > kZero) {
-      ApplyMaximum(game, seat, bet, change);
+      ApplyMaximum(game, seat, bet, change, asking);
       if (table.seats[seat].handling.ProperOddsMode > 0) change = ProperOddsAmount(game, seat, bet, change);
     }
     // No limit takes a contract bet below what has ridden.
     if (change < kZero) change = std::max(change, LowestChange(game, seat, bet));
   }
-  ApplyBankroll(game, seat, bet, change);
+  ApplyBankroll(game, seat, bet, change, asking);
   return change;
 }
 
-Currency ChangeTableBet(Game& game, int seat, int bet, Currency request) {
+Currency ChangeTableBet(Game& game, int seat, int bet, Currency request, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
   if (ComesOffWhole(game, seat, bet, amount, request)) {
     SetBetAmount(game, seat, bet, kZero);
     return request;
   }
-  const Currency change = DecideChange(game, seat, bet, request);
+  const Currency change = DecideChange(game, seat, bet, request, asking);
   if (change != kZero) SetBetAmount(game, seat, bet, amount + change);
-  if (HasVig(bet)) ApplyVig(game, seat, bet);
+  if (HasVig(bet)) ApplyVig(game, seat, bet, asking);
   return change;
 }
 
 // --- Odds that follow their flat bet.
 
-struct OddsFollow {
-  int firstFlat;
-  int lastFlat;
-  int firstOdds;
-  bool Handling::*automatic;
+// The odds that follow the flat bet now; 0 for none.
+int OddsThatFollow(const Game& game, int bet) {
+  const bool onLine = bet == kPassLine || bet == kDontPass;
+  return onLine && game.table.Point == 0 ? 0 : OddsBetOf(bet);
+}
 
-  int OddsOf(int flat) const { return firstOdds + flat - firstFlat; }
-};
-constexpr OddsFollow kOddsFollow[] = {
-    {kPassLine, kPassLine, kPassLineOdds, &Handling::AutoTakeOdds},
-    {kCome4, kCome4 + 5, kComeOdds4, &Handling::AutoTakeOdds},
-    {kDontCome4, kDontCome4 + 5, kDontComeOdds4, &Handling::AutoLayOdds},
-    {kDontPass, kDontPass, kDontPassOdds, &Handling::AutoLayOdds},
-};
-
-// What follows the flat bet now; null for nothing.
-const OddsFollow* FollowOf(const Game& game, int bet) {
-  for (const OddsFollow& follow : kOddsFollow) {
-    if (bet < follow.firstFlat || bet > follow.lastFlat) continue;
-    const bool onLine = bet == kPassLine || bet == kDontPass;
-    return onLine && game.table.Point == 0 ? nullptr : &follow;
-  }
-  return nullptr;
+bool OddsAreAutomatic(const Game& game, int seat, int flatBet) {
+  return game.table.seats[seat].handling.*FamilyRowOf(flatBet).automaticOdds;
 }
 
 // Whether odds are up, or wanted, that a change of the bet could change.
 bool OddsFollowBet(const Game& game, int seat, int bet) {
-  const OddsFollow* follow = FollowOf(game, bet);
-  return follow != nullptr && (game.table.seats[seat].handling.*follow->automatic ||
-                               game.table.BetAmount(seat, follow->OddsOf(bet)) > kZero);
+  const int odds = OddsThatFollow(game, bet);
+  return odds != 0 && (OddsAreAutomatic(game, seat, bet) || game.table.BetAmount(seat, odds) > kZero);
 }
 
 }  // namespace
 
 void BringOddsIntoLine(Game& game, int seat, int bet) {
-  const OddsFollow* follow = FollowOf(game, bet);
-  if (follow == nullptr) return;
-  const int odds = follow->OddsOf(bet);
+  const int odds = OddsThatFollow(game, bet);
+  if (odds == 0) return;
   const Currency up = game.table.BetAmount(seat, odds);
   if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
-  const bool automatic = game.table.seats[seat].handling.*follow->automatic;
-  if (automatic || (up > kZero && up > MaxBetFor(game, seat, odds))) TakeFullOdds(game, seat, odds);
-}
-
-bool BetOffered(const Settings& settings, int bet) {
-  if (bet == kBig6 || bet == kBig8) return settings.UseBig68;
-  if (IsSpecialProp(bet)) return settings.SmallTallEnabled;
-  if (bet == kMidway) return settings.UseMidway;
-  if (bet == kFire) return settings.UseFire;
-  return IsTableBet(bet);
+  if (OddsAreAutomatic(game, seat, bet) || (up > kZero && up > MaxBetFor(game, seat, odds)))
+    TakeFullOdds(game, seat, odds);
 }
 
 void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
@@ -450,29 +480,22 @@ bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
   return (place < 0 || !kRules[place].refuses({game, seat, bet, amount})) && !OddsFollowBet(game, seat, bet);
 }
 
-Currency AllowedChange(Game& game, int seat, int bet, Currency request) {
-  return DecideChange(game, seat, bet, request);
+Currency AllowedChange(Game& game, int seat, int bet, Currency request, Asking asking) {
+  return DecideChange(game, seat, bet, request, asking);
 }
 
-Currency ChangeBet(Game& game, int seat, int bet, Currency request) {
-  TableState& table = game.table;
-  table.BetRequest = request;
-  table.BetChange = kZero;
-  if (IsTableBet(bet))
-    table.BetChange = ChangeTableBet(game, seat, bet, request);
-  else if (IsCheckStack(bet))
-    table.BetChange = ChangeCheckStack(game, seat, bet, request);
-  return table.BetChange;
+Currency ChangeBet(Game& game, int seat, int bet, Currency request, Asking asking) {
+  if (IsTableBet(bet)) return ChangeTableBet(game, seat, bet, request, asking);
+  return IsCheckStack(bet) ? ChangeCheckStack(game, seat, bet, request, asking) : kZero;
 }
 
-Currency PlaceBet(Game& game, int seat, int bet, Currency request) {
-  const Currency change = ChangeBet(game, seat, bet, request);
+Currency PlaceBet(Game& game, int seat, int bet, Currency request, Asking asking) {
+  const Currency change = ChangeBet(game, seat, bet, request, asking);
   if (!game.table.TurboRollActive && change != kZero) {
-    if (!game.table.MovingComeBet) game.host->PlaySound(game, Sound::kCheck);
+    if (asking != Asking::kAsMove) game.host->PlaySound(game, Sound::kCheck);
     game.host->Changed(game, Change::kLayout);
   }
   if (change != kZero) BringOddsIntoLine(game, seat, bet);
-  game.table.BetChange = change;
   RequireConsistency(game);
   return change;
 }
@@ -482,19 +505,17 @@ Currency RemoveBet(Game& game, int seat, int bet) {
 }
 
 void TakeFullOdds(Game& game, int seat, int bet) {
-  ++game.table.QuietChanges;
-  ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet));
-  ChangeBet(game, seat, bet, kBankrollLimit);
-  --game.table.QuietChanges;
+  ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet), Asking::kQuietly);
+  ChangeBet(game, seat, bet, kBankrollLimit, Asking::kQuietly);
 }
 
 void TakeAllFullOdds(Game& game, int seat, bool laySide) {
   const int line = laySide ? kDontPass : kPassLine;
   const int firstFlat = laySide ? kDontCome4 : kCome4;
   const TableState& table = game.table;
-  if (table.Point != 0 && table.seats[seat].SeatBets.Has(line)) TakeFullOdds(game, seat, line + 1);
-  for (int i = 0; i < 6; ++i)
-    if (table.seats[seat].SeatBets.Has(firstFlat + i)) TakeFullOdds(game, seat, firstFlat + 6 + i);
+  if (table.Point != 0 && table.seats[seat].SeatBets.Has(line)) TakeFullOdds(game, seat, OddsBetOf(line));
+  for (int flat = firstFlat; flat < firstFlat + 6; ++flat)
+    if (table.seats[seat].SeatBets.Has(flat)) TakeFullOdds(game, seat, OddsBetOf(flat));
   RequireConsistency(game);
 }
 
@@ -528,9 +549,15 @@ void Call(Game& game, int seat, int bet, bool on) {
 }  // namespace
 
 bool CallBet(Game& game, int seat, int bet, bool on) {
+<<<<<<< all
   if (!IsTableBet(bet) || !FactsOf(bet).callable) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
       ShowMessage<Msg::kNotCallable>(game, With<"bet">(BetName(bet)));
+=======
+  if (!IsTableBet(bet) || !kCallableBets.Has(bet)) {
+    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning)
+      ShowMessage(game, "Action not allowed", "You may not call the " + BetName(bet) + " bet ON or OFF.");
+>>>>>>> branch
     return false;
   }
   Call(game, seat, bet, on);
@@ -540,7 +567,7 @@ bool CallBet(Game& game, int seat, int bet, bool on) {
 }
 
 void CallAllBets(Game& game, int seat, bool on) {
-  (game.table.seats[seat].SeatBets & CallableBets()).ForEach([&](int bet) { Call(game, seat, bet, on); });
+  (game.table.seats[seat].SeatBets & kCallableBets).ForEach([&](int bet) { Call(game, seat, bet, on); });
   game.host->Changed(game, Change::kLayout);
 }
 
@@ -552,12 +579,17 @@ void RemoveCall(Game& game, int seat, int bet) {
 bool BuyPlaceBet(Game& game, int seat, int bet) {
   const Currency amount = IsPlace(bet) ? game.table.BetAmount(seat, bet) : kZero;
   if (amount == kZero) {
+<<<<<<< all
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
       ShowMessage<Msg::kOnlyPlaceBetsBuy>(game);
+=======
+    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning)
+      ShowMessage(game, "Action not allowed", "You may only buy Place bets.");
+>>>>>>> branch
     return IsPlace(bet);
   }
   const int call = BetWorkingOf(game, seat, bet);
-  const int buy = bet + kBuy4 - kPlace4;
+  const int buy = BetOn(kBuy4, FactsOf(bet).number);
   RemoveBet(game, seat, bet);
   PlaceBet(game, seat, buy, amount);
   const bool called = call == 2 || call == -1;
@@ -585,7 +617,6 @@ void TakeDownBets(Game& game, int seat, const BetSet& bets) {
 }
 
 void RecomputeVig(Game& game) {
-  constexpr BetSet kVigBets = BetRange(kLay4, kLay4 + 5) | BetRange(kBuy4, kBuy4 + 5);
   for (int seat = 1; seat <= kSeats; ++seat) {
     (game.table.seats[seat].SeatBets & kVigBets).ForEach([&](int bet) {
       VigHeld(game, seat, bet) = VigFor(game, bet, game.table.BetAmount(seat, bet));

@@ -1,23 +1,29 @@
 // The one gate through which a bet changes: clicks, handling, scripts and automatic odds all come here.
 #pragma once
 
-#include <string>
+#include <cstdint>
 
 #include "base/table_types.h"
 
 namespace tessaryn {
 
 struct Game;
-struct Settings;
+
+// How a change is asked for. Refusals and notes are shown as boxes when it is asked aloud, or by a move, and
+// neither a Turbo-Roll nor a script runs.
+enum class Asking : std::uint8_t {
+  kAloud,
+  kQuietly,
+  kAsMove,  // a Come or Don't Come bet goes to its number: no new money, no rule against betting there
+};
 
 // Asks for a change of the seat's bet (bets 1 to 93, CheckStacks 100 to 199) and applies what the rules
-// allow. Returns the change made, also left in BetChange. Refusals and notes are shown as boxes unless a
-// Turbo-Roll or a script runs, or QuietChanges is above 0.
-Currency ChangeBet(Game& game, int seat, int bet, Currency request);
+// allow. Returns the change made.
+Currency ChangeBet(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
 // What ChangeBet would make of the request on a bet 1 to 93, with the same texts; nothing changes.
-Currency AllowedChange(Game& game, int seat, int bet, Currency request);
+Currency AllowedChange(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
 // ChangeBet with the chip sound, and the odds brought back into line with their flat bet.
-Currency PlaceBet(Game& game, int seat, int bet, Currency request);
+Currency PlaceBet(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
 // The bet down, as far as a contract lets it.
 Currency RemoveBet(Game& game, int seat, int bet);
 // Removes the odds and bets the most that is allowed. Shows no texts.
@@ -33,9 +39,6 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount);
 // Whether a bet that is taken down and asked for again at its amount, as a script's bet is, would come to
 // what it was, unseen and unheard: then nothing need be done. May say no where it would.
 bool StaysWhenBetAgain(const Game& game, int seat, int bet);
-
-// Whether the table, as configured, takes the bet at all.
-bool BetOffered(const Settings& settings, int bet);
 
 // Calls. A first press of the other word only cancels the earlier call. False, with a box, for a bet that
 // can't be called.

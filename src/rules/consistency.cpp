@@ -3,8 +3,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
+#include "state/bet_families.h"
 #include "state/game.h"
 #include "stats/statistics.h"
 
@@ -35,7 +35,7 @@ std::string CheckBet(const Game& game, int seat, int bet) {
   const WorkingState& working = table.seats[seat].BetWorking;
   if (working.calledOn.Has(bet) && working.calledOff.Has(bet))
     return "called both ways: " + Where(game, seat, bet);
-  if ((working.calledOn.Has(bet) || working.calledOff.Has(bet)) && !FactsOf(bet).callable)
+  if ((working.calledOn.Has(bet) || working.calledOff.Has(bet)) && !kCallableBets.Has(bet))
     return "a call on a bet that takes none: " + Where(game, seat, bet);
   return "";
 }

@@ -3,7 +3,13 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
+<<<<<<< all
 #include "state/show_message.h"
+=======
+#include "rules/payoffs.h"
+#include "state/bet_families.h"
+#include "state/game.h"
+>>>>>>> branch
 
 namespace tessaryn {
 
@@ -38,6 +44,7 @@ constexpr int kAdjustNotes = 4;
 
 Currency AmountUp(const Game& game, int seat, int bet) { return game.table.BetAmount(seat, bet); }
 
+<<<<<<< all
 bool NotesShown(const Game& game) {
   return !game.table.TurboRollActive && game.table.QuietChanges == 0 &&
          (game.settings.MessageMask & kAdjustNotes) != 0;
@@ -63,24 +70,34 @@ static_assert(NeedOnly({Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRem
 
 void ShowActionNote(Game& game, int seat, int bet, Msg action) {
   ShowActionNote(game, seat, bet, [action] { return MessageText(action); });
+=======
+// The note of an action, at its last change. Only formed when somebody can read it.
+void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
+  const TableState& table = game.table;
+  if (table.TurboRollActive || (game.settings.MessageMask & kAdjustNotes) == 0) return;
+  const Currency difference = AmountUp(game, seat, bet) - table.BetBeforeRoll(seat, bet);
+  std::string text = table.seats[seat].SeatName + ",\r\r" + BetName(bet) + " bet ";
+  if (difference > kZero)
+    text += "increased by: $" + FormatMoney(difference);
+  else if (difference < kZero)
+    text += "decreased by: $" + FormatMoney(-difference);
+  else
+    text += "remains the same.";
+  ShowMessage(game, title, text);
+>>>>>>> branch
 }
 
 // An increase. One that the rules refuse leaves the bet as it is, which the bankroll must cover still.
 void Raise(Game& game, int seat, int bet, Currency request) {
-  TableState& table = game.table;
+  const TableState& table = game.table;
   if (ChangeBet(game, seat, bet, request) != kZero || request <= kZero) return;
   if (table.seats[seat].AllowNegativeBankroll ||
       table.seats[seat].OnTableAmount <= table.BankrollCurrent[seat])
     return;
-  ++table.QuietChanges;
-  ChangeBet(game, seat, bet, kZero);
-  --table.QuietChanges;
+  ChangeBet(game, seat, bet, kZero, Asking::kQuietly);
 }
 
-void TakeDown(Game& game, int seat, int bet) {
-  ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
-  game.table.BetFinished = false;
-}
+void TakeDown(Game& game, int seat, int bet) { ChangeBet(game, seat, bet, -AmountUp(game, seat, bet)); }
 
 void SameBet(Game& game, int seat, int bet) {
   ChangeBet(game, seat, bet, kZero);
@@ -88,16 +105,22 @@ void SameBet(Game& game, int seat, int bet) {
     ShowActionNote(game, seat, bet, Msg::kActionSame);
 }
 
-void BetRemainder(Game& game, int seat, int bet) {
-  const Currency remainder = game.table.NetPayoff + game.table.BetBeforeRoll(seat, bet);
+void BetRemainder(Game& game, int seat, int bet, Currency net) {
+  const Currency remainder = net + game.table.BetBeforeRoll(seat, bet);
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
   ChangeBet(game, seat, bet, remainder);
   ShowActionNote(game, seat, bet, Msg::kActionRemainder);
 }
 
+<<<<<<< all
 void PressOneUnit(Game& game, int seat, int bet) {
   Raise(game, seat, bet, game.table.PressUnit);
   ShowActionNote(game, seat, bet, Msg::kActionPressUnit);
+=======
+void PressOneUnit(Game& game, int seat, int bet, Currency unit) {
+  Raise(game, seat, bet, unit);
+  ShowActionNote(game, seat, bet, "Press 1 Unit");
+>>>>>>> branch
 }
 
 void PressDouble(Game& game, int seat, int bet) {
@@ -105,12 +128,12 @@ void PressDouble(Game& game, int seat, int bet) {
   ShowActionNote(game, seat, bet, Msg::kActionPressDouble);
 }
 
-void Parlay(Game& game, int seat, int bet) {
+void Parlay(Game& game, int seat, int bet, Currency net) {
   Handling& handling = game.table.seats[seat].handling;
   const Handling before = handling;
   handling.PlaceBias = handling.DoBias = handling.DontBias = handling.LayBias = 2;
-  if (game.table.NetPayoff != kZero)
-    Raise(game, seat, bet, game.table.NetPayoff);
+  if (net != kZero)
+    Raise(game, seat, bet, net);
   else
     TakeFullOdds(game, seat, bet);
   handling.PlaceBias = before.PlaceBias;
@@ -136,7 +159,7 @@ Adjustment SlotOf(const Game& game, int seat, int slot) {
 Currency UnitsInDollars(const Game& game, int bet, const Adjustment& adjustment) {
   const int check = adjustment.unit - 1;
   if (check < 1 || check > 5) return adjustment.value;
-  const Currency perUnit = Divide(game.payoffs.PayoffTable[bet].BetUnit, game.settings.Unit());
+  const Currency perUnit = Divide(PayoffOf(game, bet).BetUnit, game.settings.Unit());
   return Multiply(Multiply(adjustment.value, game.settings.CheckValue[check]), perUnit);
 }
 
@@ -186,82 +209,78 @@ void BetFixed(Game& game, int seat, int bet, const Adjustment& adjustment) {
   ShowActionNote(game, seat, bet, [&] { return FixedTitle(game, adjustment, wanted); });
 }
 
-// The adjustment of choices 6 and 7: what was typed in the dialog, else the seat's stored slot.
+// What is done with a decided bet, and with what.
+struct Treatment {
+  int choice;
+  const SettleAnswer* typed = nullptr;  // the dialog's, where it was asked; else the seat's slots hold
+  Currency pressUnit = kZero;           // of the choices that press by it
+};
+
 Adjustment AdjustmentOf(const Game& game, int seat, int slot, const SettleAnswer* typed) {
   if (typed == nullptr) return SlotOf(game, seat, slot);
   return {typed->adjustKind, typed->adjustValue, typed->adjustUnit};
 }
 
-void DoWinChoice(Game& game, int seat, int bet, int choice, const SettleAnswer* typed) {
-  if (game.table.BetFinished || choice == kWinTakeDown) return TakeDown(game, seat, bet);
-  switch (choice) {
+void DoWinChoice(Game& game, int seat, int bet, const Decision& decision, const Treatment& treatment) {
+  if (decision.finished || treatment.choice == kWinTakeDown) return TakeDown(game, seat, bet);
+  switch (treatment.choice) {
     case kWinPressUnit:
-      return PressOneUnit(game, seat, bet);
+      return PressOneUnit(game, seat, bet, treatment.pressUnit);
     case kWinPressDouble:
       return PressDouble(game, seat, bet);
     case kWinParlay:
-      return Parlay(game, seat, bet);
+      return Parlay(game, seat, bet, decision.net);
     case kWinAdjusted:
-      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kWinAdjustSlot, typed));
+      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kWinAdjustSlot, treatment.typed));
     case kWinFixed:
-      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kWinFixedSlot, typed));
+      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kWinFixedSlot, treatment.typed));
     default:
       return SameBet(game, seat, bet);
   }
 }
 
-void DoLoseChoice(Game& game, int seat, int bet, int choice, const SettleAnswer* typed) {
-  if (game.table.BetFinished) return TakeDown(game, seat, bet);
-  switch (choice) {
+void DoLoseChoice(Game& game, int seat, int bet, const Decision& decision, const Treatment& treatment) {
+  if (decision.finished) return TakeDown(game, seat, bet);
+  switch (treatment.choice) {
     case kLoseSame:
       return SameBet(game, seat, bet);
     case kLoseRemainder:
-      return BetRemainder(game, seat, bet);
+      return BetRemainder(game, seat, bet, decision.net);
     case kLosePlusUnit:
-      return PressOneUnit(game, seat, bet);
+      return PressOneUnit(game, seat, bet, treatment.pressUnit);
     case kLoseDouble:
       return PressDouble(game, seat, bet);
     case kLoseAdjusted:
-      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kLoseAdjustSlot, typed));
+      return SameBetAdjusted(game, seat, bet, AdjustmentOf(game, seat, kLoseAdjustSlot, treatment.typed));
     case kLoseFixed:
-      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kLoseFixedSlot, typed));
+      return BetFixed(game, seat, bet, AdjustmentOf(game, seat, kLoseFixedSlot, treatment.typed));
     default:
       return TakeDown(game, seat, bet);
   }
 }
 
-int HandCountOf(const TableState& table, int bet) {
-  if (bet == kSharpShooter) return table.SharpShooterCount;
-  if (bet == kRideTheLine) return table.RideTheLineCount;
-  return bet == kFire ? table.FireCount : 0;
-}
-
-// The dialog's answer, where there is somebody to give one.
-SettleAnswer Ask(Game& game, int seat, int bet, bool won, bool offOdds, Currency vig) {
-  if (game.table.TurboRollActive || game.autobet.ScriptActive[seat]) return {};
-  SettleQuestion question;
-  question.seat = seat;
-  question.bet = bet;
-  question.won = won;
-  question.offOdds = offOdds;
-  question.gross = game.table.GrossPayoff;
-  question.net = game.table.NetPayoff;
-  question.vig = vig;
-  question.pressUnit = game.table.PressUnit;
-  question.count = HandCountOf(game.table, bet);
-  SettleAnswer answer = game.host->AskSettlement(game, question);
-  if (answer.choice < 0 || answer.choice > 7) answer.choice = 0;
+// The dialog's answer, where there is somebody to give one; else the safe choice.
+SettleAnswer Ask(Game& game, int seat, int bet, bool won, const Decision& decision, Currency pressUnit) {
+  const int safe = won ? int{kWinSame} : int{kLoseTakeDown};
+  SettleAnswer answer;
+  if (!game.table.TurboRollActive && !game.autobet.ScriptActive[seat]) {
+    SettleQuestion question;
+    question.seat = seat;
+    question.bet = bet;
+    question.won = won;
+    question.offOdds = decision.paidBy == nullptr;
+    question.finished = decision.finished;
+    if (decision.paidBy != nullptr) question.paidBy = *decision.paidBy;
+    question.gross = decision.gross;
+    question.net = decision.net;
+    question.vig = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
+    question.pressUnit = pressUnit;
+    const auto count = FamilyRowOf(bet).count;
+    question.count = count != nullptr ? game.table.*count : 0;
+    answer = game.host->AskSettlement(game, question);
+  }
+  if (answer.choice < 1 || answer.choice > 7) answer.choice = safe;
   return answer;
-}
-
-void ApplyWinChoice(Game& game, int seat, int bet, int choice, const SettleAnswer& answer) {
-  if (choice != kWinManual) return DoWinChoice(game, seat, bet, choice, nullptr);
-  DoWinChoice(game, seat, bet, answer.choice == 0 ? kWinSame : answer.choice, &answer);
-}
-
-void ApplyLoseChoice(Game& game, int seat, int bet, int choice, const SettleAnswer& answer) {
-  if (choice != kLoseManual) return DoLoseChoice(game, seat, bet, choice, nullptr);
-  DoLoseChoice(game, seat, bet, answer.choice == 0 ? kLoseTakeDown : answer.choice, &answer);
 }
 
 // The vig that the decided bet held comes off the table.
@@ -274,59 +293,63 @@ Currency CloseVig(Game& game, int seat, int bet) {
   return vig;
 }
 
-}  // namespace
-
-void ComputePressOptions(Game& game, int seat, int bet) {
+// What "Press 1 Unit" adds: the largest check that goes into the bet, in units in which the bet is paid
+// whole.
+Currency PressUnitOf(const Game& game, int seat, int bet) {
   const Settings& settings = game.settings;
   const Currency amount = AmountUp(game, seat, bet);
-  const Currency betUnit = game.payoffs.PayoffTable[bet].BetUnit;
+  const Currency betUnit = PayoffOf(game, bet).BetUnit;
   Currency candidate;
   for (int n = 5; n >= 1; --n) {
     candidate = n == 1 ? betUnit : Divide(Multiply(settings.CheckValue[n], betUnit), settings.Unit());
     if (candidate > kZero && candidate < amount && IsMultiple(amount, candidate)) break;
   }
-  game.table.PressUnit = candidate.IsError() ? kZero : candidate;
+  return candidate.IsError() ? kZero : candidate;
 }
 
-void HandleWin(Game& game, int seat, int bet) {
-  TableState& table = game.table;
-  const int choice = table.seats[seat].handling.WinHandling;
+}  // namespace
+
+void HandleWin(Game& game, int seat, int bet, const Decision& decision) {
+  const int choice = game.table.seats[seat].handling.WinHandling;
   // Nothing to ask, nothing to press, no vig to close: what most winners of a system come to.
   if (!HasVig(bet) && choice != kWinManual && choice != kWinPressUnit)
-    return DoWinChoice(game, seat, bet, choice, nullptr);
+    return DoWinChoice(game, seat, bet, decision, {choice});
   const bool upFront = VigUpFront(game, bet);
   const bool asks = choice == kWinManual;
-  if (asks || choice == kWinPressUnit) ComputePressOptions(game, seat, bet);
-  const Currency vigHeld = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
-  const SettleAnswer answer = asks ? Ask(game, seat, bet, true, false, vigHeld) : SettleAnswer{};
+  const Currency pressUnit = asks || choice == kWinPressUnit ? PressUnitOf(game, seat, bet) : kZero;
+  const SettleAnswer answer = asks ? Ask(game, seat, bet, true, decision, pressUnit) : SettleAnswer{};
+  Decision beforeVig = decision;
   const Currency vig = CloseVig(game, seat, bet);
-  if (upFront) table.NetPayoff += vig;  // the handling sees the winnings before vig
-  ApplyWinChoice(game, seat, bet, choice, answer);
+  if (upFront) beforeVig.net += vig;  // the handling sees the winnings before vig
+  DoWinChoice(game, seat, bet, beforeVig,
+              {asks ? answer.choice : choice, asks ? &answer : nullptr, pressUnit});
 }
 
-void HandleLoss(Game& game, int seat, int bet) {
+void HandleLoss(Game& game, int seat, int bet, const Decision& decision) {
   const int choice = game.table.seats[seat].handling.LoseHandling;
   if (!HasVig(bet) && choice != kLoseManual && choice != kLosePlusUnit)
-    return DoLoseChoice(game, seat, bet, choice, nullptr);
+    return DoLoseChoice(game, seat, bet, decision, {choice});
   const bool asks = choice == kLoseManual;
-  if (asks || choice == kLosePlusUnit) ComputePressOptions(game, seat, bet);
-  const Currency vigHeld = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
-  const SettleAnswer answer = asks ? Ask(game, seat, bet, false, false, vigHeld) : SettleAnswer{};
+  const Currency pressUnit = asks || choice == kLosePlusUnit ? PressUnitOf(game, seat, bet) : kZero;
+  const SettleAnswer answer = asks ? Ask(game, seat, bet, false, decision, pressUnit) : SettleAnswer{};
   CloseVig(game, seat, bet);
-  ApplyLoseChoice(game, seat, bet, choice, answer);
+  DoLoseChoice(game, seat, bet, decision,
+               {asks ? answer.choice : choice, asks ? &answer : nullptr, pressUnit});
 }
 
-void HandleOffOdds(Game& game, int seat, int bet) {
-  TableState& table = game.table;
-  ComputePressOptions(game, seat, bet);
-  const bool asLoser = table.BetStreak(seat, FlatBetOf(bet)) < 2;
+void HandleOffOdds(Game& game, int seat, int bet, const Decision& decision) {
+  const TableState& table = game.table;
+  const bool won = table.BetStreak(seat, FlatBetOf(bet)) >= 2;
   const Handling& handling = table.seats[seat].handling;
-  const int choice = asLoser ? handling.LoseHandling : handling.WinHandling;
-  const SettleAnswer answer = choice == 0 ? Ask(game, seat, bet, !asLoser, true, kZero) : SettleAnswer{};
-  if (asLoser)
-    ApplyLoseChoice(game, seat, bet, choice, answer);
+  const int choice = won ? handling.WinHandling : handling.LoseHandling;
+  const bool asks = choice == 0;
+  const Currency pressUnit = PressUnitOf(game, seat, bet);
+  const SettleAnswer answer = asks ? Ask(game, seat, bet, won, decision, pressUnit) : SettleAnswer{};
+  const Treatment treatment{asks ? answer.choice : choice, asks ? &answer : nullptr, pressUnit};
+  if (won)
+    DoWinChoice(game, seat, bet, decision, treatment);
   else
-    ApplyWinChoice(game, seat, bet, choice, answer);
+    DoLoseChoice(game, seat, bet, decision, treatment);
 }
 
 }  // namespace tessaryn

@@ -8,6 +8,14 @@ namespace tessaryn {
 
 struct Game;
 
+// A bet as its settlement decided it.
+struct Decision {
+  const PayoffRecord* paidBy = nullptr;  // none for odds that weren't working
+  Currency gross;
+  Currency net;           // in whole betting units
+  bool finished = false;  // over, and must not stay up
+};
+
 // The choices of WinHandling and LoseHandling.
 enum WinChoice : int {
   kWinManual,
@@ -33,12 +41,10 @@ enum LoseChoice : int {
 extern const char* const kWinChoiceCaptions[8];
 extern const char* const kLoseChoiceCaptions[8];
 
-// The bet that SettleBet has just paid or taken: closes its vig and carries out the seat's choice.
-void HandleWin(Game& game, int seat, int bet);
-void HandleLoss(Game& game, int seat, int bet);
+// The bet that was just paid or taken: closes its vig and carries out the seat's choice.
+void HandleWin(Game& game, int seat, int bet, const Decision& decision);
+void HandleLoss(Game& game, int seat, int bet, const Decision& decision);
 // Odds that weren't working as their flat bet was decided.
-void HandleOffOdds(Game& game, int seat, int bet);
-// PressUnit of the bet.
-void ComputePressOptions(Game& game, int seat, int bet);
+void HandleOffOdds(Game& game, int seat, int bet, const Decision& decision);
 
 }  // namespace tessaryn

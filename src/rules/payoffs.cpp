@@ -5,6 +5,9 @@
 #include <iterator>
 #include <numeric>
 
+#include "state/bet_families.h"
+#include "state/game.h"
+
 namespace tessaryn {
 namespace {
 
@@ -24,58 +27,77 @@ struct RatioRows {
   bool readsFor = false;
 };
 
+// What every bet pays at the start, each once.
 constexpr RatioRows kDefaults[] = {
-    {1, 93, 1, 1},
-    // Lay, Don't Come Odds: 4 to 10
-    {1, 1, 1, 2},
-    {2, 2, 2, 3},
-    {3, 4, 5, 6},
-    {5, 5, 2, 3},
-    {6, 6, 1, 2},
-    {13, 13, 1, 2},
-    {14, 14, 2, 3},
-    {15, 16, 5, 6},
-    {17, 17, 2, 3},
-    {18, 18, 1, 2},
-    // Come Odds, Place, Buy
-    {25, 25, 2, 1},
-    {26, 26, 3, 2},
-    {27, 28, 6, 5},
-    {29, 29, 3, 2},
-    {30, 30, 2, 1},
-    {31, 31, 9, 5},
-    {32, 32, 7, 5},
-    {33, 34, 7, 6},
-    {35, 35, 7, 5},
-    {36, 36, 9, 5},
-    {37, 37, 2, 1},
-    {38, 38, 3, 2},
-    {39, 40, 6, 5},
-    {41, 41, 3, 2},
-    {42, 42, 2, 1},
+    // By their number: 4, 5, 6 and 8, 9, 10.
+    {kLay4, kLay4, 1, 2},
+    {kLay4 + 1, kLay4 + 1, 2, 3},
+    {kLay4 + 2, kLay4 + 3, 5, 6},
+    {kLay4 + 4, kLay4 + 4, 2, 3},
+    {kLay4 + 5, kLay4 + 5, 1, 2},
+    {kDontCome4, kDontCome4 + 5, 1, 1},
+    {kDontComeOdds4, kDontComeOdds4, 1, 2},
+    {kDontComeOdds4 + 1, kDontComeOdds4 + 1, 2, 3},
+    {kDontComeOdds4 + 2, kDontComeOdds4 + 3, 5, 6},
+    {kDontComeOdds4 + 4, kDontComeOdds4 + 4, 2, 3},
+    {kDontComeOdds4 + 5, kDontComeOdds4 + 5, 1, 2},
+    {kCome4, kCome4 + 5, 1, 1},
+    {kComeOdds4, kComeOdds4, 2, 1},
+    {kComeOdds4 + 1, kComeOdds4 + 1, 3, 2},
+    {kComeOdds4 + 2, kComeOdds4 + 3, 6, 5},
+    {kComeOdds4 + 4, kComeOdds4 + 4, 3, 2},
+    {kComeOdds4 + 5, kComeOdds4 + 5, 2, 1},
+    {kPlace4, kPlace4, 9, 5},
+    {kPlace4 + 1, kPlace4 + 1, 7, 5},
+    {kPlace4 + 2, kPlace4 + 3, 7, 6},
+    {kPlace4 + 4, kPlace4 + 4, 7, 5},
+    {kPlace4 + 5, kPlace4 + 5, 9, 5},
+    {kBuy4, kBuy4, 2, 1},
+    {kBuy4 + 1, kBuy4 + 1, 3, 2},
+    {kBuy4 + 2, kBuy4 + 3, 6, 5},
+    {kBuy4 + 4, kBuy4 + 4, 3, 2},
+    {kBuy4 + 5, kBuy4 + 5, 2, 1},
+    // The line, the Field, Big 6 and 8
+    {kPassLine, kBig8, 1, 1},
     // Hardways and the one-roll propositions
-    {52, 52, 7, 1},
-    {53, 54, 9, 1},
-    {55, 55, 7, 1},
-    {56, 56, 30, 1},
-    {57, 57, 15, 1},
-    {58, 58, 4, 1},
-    {59, 59, 15, 1},
-    {60, 60, 30, 1},
-    {61, 61, 7, 1},
-    {62, 62, 1, 2},
-    {63, 63, 1, 4},
-    {64, 64, 1, 5},
-    {67, 83, 15, 1},
-    {71, 71, 30, 1},
-    {76, 76, 30, 1},
-    {80, 80, 30, 1},
-    {83, 83, 30, 1},
-    // Specials
-    {84, 85, 34, 1},
-    {86, 86, 175, 1},
-    {88, 88, 7, 1},
+    {kHard4, kHard4, 7, 1},
+    {kHard6, kHard8, 9, 1},
+    {kHard10, kHard10, 7, 1},
+    {kTwo, kTwo, 30, 1},
+    {kThree, kThree, 15, 1},
+    {kSeven, kSeven, 4, 1},
+    {kEleven, kEleven, 15, 1},
+    {kTwelve, kTwelve, 30, 1},
+    {kCraps, kCraps, 7, 1},
+    {kCAndE, kCAndE, 1, 2},
+    {kHorn, kHorn, 1, 4},
+    {kWorld, kWorld, 1, 5},
+    {kOver7, kUnder7, 1, 1},
+    {kHop13, kHop16, 15, 1},
+    {kHop22, kHop22, 30, 1},
+    {kHop23, kHop26, 15, 1},
+    {kHop33, kHop33, 30, 1},
+    {kHop34, kHop36, 15, 1},
+    {kHop44, kHop44, 30, 1},
+    {kHop45, kHop46, 15, 1},
+    {kHop55, kHop55, 30, 1},
+    // Specials; those with tables of their own have their units here.
+    {kAllSmall, kAllTall, 34, 1},
+    {kMakeAll, kMakeAll, 175, 1},
+    {kFourRolls, kFourRolls, 1, 1},
+    {kPoint7, kPoint7, 7, 1},
+    {kSevenPoint7, kFire, 1, 1},
 };
+static_assert(
+    [] {
+      int expected = 1;
+      for (const RatioRows& rows : kDefaults) {
+        if (rows.first != expected || rows.last < rows.first) return false;
+        expected = rows.last + 1;
+      }
+      return expected == kBets + 1;
+    }(),
+    "a bet without its payoff, or with two");
 
 constexpr int kSharpShooterRow[kSharpShooterRows] = {-1, -1, -1, 5, 9, 19, 29, 49, 99, 199, 299};
 constexpr int kRideTheLineRow[kRideTheLineRows] = {-1, -1, -1, 1, 2, 3, 6, 10, 20, 30, 40, 100};
@@ -247,8 +269,25 @@ PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row) {
   return tables[table][row];
 }
 
+const PayoffRecord& PayoffOf(const Game& game, int bet) {
+  const PayoffRecord* records = game.payoffs.PayoffTable;
+  if (bet != kPassLineOdds && bet != kDontPassOdds) return records[bet];
+  const TableState& table = game.table;
+  const int point = table.Point != 0 ? table.Point : table.LastPoint;
+  if (point == 0) return records[bet];
+  return records[BetOn(bet == kPassLineOdds ? kComeOdds4 : kDontComeOdds4, point)];
+}
+
+std::span<const PayoffRecord> PayoffRowsOf(const Game& game, int bet) {
+  const int table = static_cast<int>(FamilyRowOf(bet).payoffs);
+  if (table == 0) return {&PayoffOf(game, bet), 1};
+  const PayoffTableInfo& rows = kTables[table];
+  return {&PayoffRow(const_cast<PayoffTables&>(game.payoffs), table, rows.firstRow),
+          static_cast<std::size_t>(rows.lastRow - rows.firstRow + 1)};
+}
+
 void ResetPayoffs(PayoffTables& payoffs, Currency unit) {
-  for (PayoffRecord& record : payoffs.PayoffTable) record = Ratio(1, 1);
+  for (PayoffRecord& record : payoffs.PayoffTable) record = Ratio(1, 1);  // rows that are no bet's
   for (const RatioRows& rows : kDefaults) SetRows(payoffs.PayoffTable, rows);
   payoffs.SevenPointSevenPayoffs[1] = Ratio(2, 1);
   payoffs.SevenPointSevenPayoffs[2] = Ratio(3, 1);

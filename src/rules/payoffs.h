@@ -1,6 +1,7 @@
 // Payoff records and the tables of them: what every bet pays.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -8,18 +9,26 @@
 
 namespace tessaryn {
 
+struct Game;
+
 struct PayoffTableInfo {
   const char* name;  // as settings name it
   int firstRow;
   int lastRow;
 };
 
-// The tables by index 0 to 6: PayoffTable, FieldPayoffs, SevenPointSevenPayoffs, MidwayPayoffs,
-// SharpShooterPayoffs, RideTheLinePayoffs, FirePayoffs.
+// The tables by index 0 to 6, as PayoffTableId has them.
 inline constexpr int kPayoffTables = 7;
 const PayoffTableInfo& PayoffTableFacts(int table);
 // Row of a table. Requires 0 <= row <= its last.
 PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row);
+
+// The record by which the bet is paid now. Of odds on the line it is that of the odds on the point, on a
+// come-out on the point before it. Of a bet with a table of its own, and of one in shares, it tells nothing
+// but its BetUnit.
+const PayoffRecord& PayoffOf(const Game& game, int bet);
+// The rows of a bet's payoffs: its own table, or its one record.
+std::span<const PayoffRecord> PayoffRowsOf(const Game& game, int bet);
 
 // The house's original payoffs, BetUnit included.
 void ResetPayoffs(PayoffTables& payoffs, Currency unit);

@@ -7,6 +7,7 @@
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
 #include "rules/seed_rng.h"
+#include "state/bet_families.h"
 #include "state/game.h"
 #include "state/run_stop.h"
 #include "state/show_message.h"
@@ -30,10 +31,9 @@ void Abandon(Game& game, int seat, int bet) {
 
 void AbandonContracts(Game& game) {
   for (int seat = 1; seat <= kSeats; ++seat) {
-    if (game.table.Point != 0)
-      for (const int bet : {static_cast<int>(kPassLine), static_cast<int>(kSevenPoint7)})
-        Abandon(game, seat, bet);
-    for (int bet = kCome4; bet < kCome4 + 6; ++bet) Abandon(game, seat, bet);
+    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
+      if (UnderContract(game.table, bet)) Abandon(game, seat, bet);
+    });
   }
 }
 

@@ -1,6 +1,7 @@
 #include "rules/settlement.h"
 
 #include <algorithm>
+#include <array>
 
 #include "base/bet_catalogue.h"
 #include "base/messages.h"
@@ -9,6 +10,7 @@
 #include "rules/handling.h"
 #include "rules/payoffs.h"
 #include "rules/settlement_order.h"
+#include "state/bet_families.h"
 #include "state/game.h"
 #include "state/run_stop.h"
 #include "stats/events_log.h"
@@ -17,65 +19,67 @@
 namespace tessaryn {
 namespace {
 
-// The record that a winner is paid by, where it is not the bet's own.
+// Codes of a settlement. 1 does not promise a win: some payoff tables hold losses.
+constexpr int kFlatLoses = -1;
+constexpr int kOddsLose = -2;
+constexpr int kFlatWins = 1;
+constexpr int kOddsWin = 2;
+
+// By total: as what a share of a bet in shares wins, 0 where all of them lose.
+constexpr auto kPartOn = [] {
+  std::array<std::array<std::uint8_t, 13>, kBets + 1> parts{};
+  for (int bet = 1; bet <= kBets; ++bet)
+    for (int die1 = 1; die1 <= 6; ++die1)
+      for (int die2 = 1; die2 <= 6; ++die2)
+        parts[bet][die1 + die2] = static_cast<std::uint8_t>(WinningPart(bet, die1, die2));
+  return parts;
+}();
+
+// The record of a bet on the line: that of a bet that travels, or on a come-out of one that waits.
+const PayoffRecord& LineRecord(const Game& game, int waiting, int firstOnNumber) {
+  const int point = game.table.PointBeforeRoll;
+  return game.payoffs.PayoffTable[point == 0 ? waiting : BetOn(firstOnNumber, point)];
+}
+
+// The record that a winner is paid by.
 const PayoffRecord& WinnersRecord(const Game& game, int bet, int code) {
   const PayoffTables& payoffs = game.payoffs;
   const TableState& table = game.table;
-  const int point = table.PointBeforeRoll;
-  const int position = point == 0 ? 0 : BoxPosition(point);
-  const auto record = [&payoffs](int of) -> const PayoffRecord& { return payoffs.PayoffTable[of]; };
-  switch (bet) {
-    case kPassLine:
-      return record(point == 0 ? kCome : kCome4 + position);
-    case kPassLineOdds:
-      return record(kComeOdds4 + position);
-    case kDontPass:
-      return record(point == 0 ? kDontCome : kDontCome4 + position);
-    case kDontPassOdds:
-      return record(kDontComeOdds4 + position);
-    case kCAndE:
-      return record(table.RollTotal == 11 ? kEleven : kCraps);
-    case kHorn:
-    case kWorld:
-      switch (table.RollTotal) {
-        case 2:
-          return record(kTwo);
-        case 3:
-          return record(kThree);
-        case 7:
-          return record(kSeven);
-        case 11:
-          return record(kEleven);
-        default:
-          return record(kTwelve);
-      }
-    case kMidway:
+  switch (FamilyOf(bet)) {
+    case FamilyId::kPassLine:
+      return LineRecord(game, kCome, kCome4);
+    case FamilyId::kPassLineOdds:
+      return LineRecord(game, kComeOdds4, kComeOdds4);
+    case FamilyId::kDontPass:
+      return LineRecord(game, kDontCome, kDontCome4);
+    case FamilyId::kDontPassOdds:
+      return LineRecord(game, kDontComeOdds4, kDontComeOdds4);
+    case FamilyId::kCAndE:
+    case FamilyId::kHorn:
+      return payoffs.PayoffTable[kPartOn[bet][table.RollTotal]];
+    case FamilyId::kMidway:
       return payoffs.MidwayPayoffs[MidwayRow(table.Die1, table.Die2)];
-    case kSevenPoint7:
+    case FamilyId::kSevenPoint7:
       return payoffs.SevenPointSevenPayoffs[code];
-    case kSharpShooter:
+    case FamilyId::kSharpShooter:
       return payoffs.SharpShooterPayoffs[std::min(table.SharpShooterCount + 1, kSharpShooterRows)];
-    case kRideTheLine:
+    case FamilyId::kRideTheLine:
       return payoffs.RideTheLinePayoffs[std::min(table.RideTheLineCount + 1, kRideTheLineRows)];
-    case kFire:
+    case FamilyId::kFire:
       return payoffs.FirePayoffs[table.FireCount];
     default:
-      return record(bet);
+      return payoffs.PayoffTable[bet];
   }
 }
 
-// Into how many shares the bet is cut; one of them wins.
-int SharesOf(int bet) {
-  switch (bet) {
-    case kCAndE:
-      return 2;
-    case kHorn:
-      return 4;
-    case kWorld:
-      return 5;
-    default:
-      return 1;
-  }
+// What takes a loser whole, as "to" and as "for".
+constexpr PayoffRecord kLostTo{kZero, -Currency::Dollars(1), -Currency::Dollars(1), Currency::Dollars(1)};
+constexpr PayoffRecord kLostFor{kZero, -Currency::Dollars(1), kZero, Currency::Dollars(1)};
+
+const PayoffRecord& RecordOf(const Game& game, int bet, int code) {
+  if (bet == kField) return game.payoffs.FieldPayoffs[FieldRow(game.table.Die1, game.table.Die2)];
+  if (code > 0) return WinnersRecord(game, bet, code);
+  return game.payoffs.PayoffTable[bet].ForFlag == kZero ? kLostFor : kLostTo;
 }
 
 Currency Paid(Currency amount, const PayoffRecord& record) {
@@ -87,74 +91,69 @@ Currency Paid(Currency amount, const PayoffRecord& record) {
   return Divide(Multiply(amount, record.PayTo), record.PayPer);
 }
 
+// One share wins, the others lose.
+Currency PaidOnShare(Currency amount, int shares, const PayoffRecord& record) {
+  const Currency share = Divide(amount, Currency::Dollars(shares));
+  return Paid(share, record) - (amount - share);
+}
+
+// What the bet brings. Either sum is the error value on an overflow.
+Decision ComputePayoff(const Game& game, int seat, int bet, int code, Currency amount) {
+  const PayoffRecord& record = RecordOf(game, bet, code);
+  const int shares = code > 0 ? SharesOf(bet) : 1;
+  Currency gross = shares == 1 ? Paid(amount, record) : PaidOnShare(amount, shares, record);
+  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet))) gross -= VigHeld(game, seat, bet);
+  return {&record, gross, RoundDownToUnit(gross, game.settings.Unit())};
+}
+
 // Over, so that it must not stay up.
 bool IsFinished(const Game& game, int bet, int seat) {
   const TableState& table = game.table;
-  switch (bet) {
-    case kCome:
-    case kDontCome:
+  switch (FamilyOf(bet)) {
+    case FamilyId::kCome:
+    case FamilyId::kDontCome:
       return table.RollTotal == 7;
-    case kPassLineOdds:
-    case kDontPassOdds:
+    case FamilyId::kPassLineOdds:
+    case FamilyId::kDontPassOdds:
+    case FamilyId::kDontComeNumber:
+    case FamilyId::kDontComeOdds:
       return true;
-    case kAllSmall:
-      return (table.NumberMarks & kSmallMarks) != 0;
-    case kAllTall:
-      return (table.NumberMarks & kTallMarks) != 0;
-    case kPoint7:
-    case kSevenPoint7:
+    case FamilyId::kComeNumber:
+      return !game.settings.AllowPutBets;
+    case FamilyId::kComeOdds:
+      return !table.seats[seat].SeatBets.Has(FlatBetOf(bet));
+    case FamilyId::kMarks:
+      return (bet == kAllSmall && (table.NumberMarks & kSmallMarks) != 0) ||
+             (bet == kAllTall && (table.NumberMarks & kTallMarks) != 0);
+    case FamilyId::kPoint7:
+    case FamilyId::kSevenPoint7:
       return table.Point != 0;
     default:
-      break;
+      return false;
   }
-  if (bet >= kDontCome4 && bet < kCome4) return true;
-  if (IsComeNumber(bet)) return !game.settings.AllowPutBets;
-  if (IsComeOdds(bet)) return !table.seats[seat].SeatBets.Has(bet - 6);
-  return false;
 }
 
-}  // namespace
-
-void ComputePayoff(Game& game, int seat, int bet, int code, Currency amount) {
-  TableState& table = game.table;
-  PayoffRecord& working = game.payoffs.PayoffTable[0];
-  int shares = 1;
-  if (bet == kField) {
-    working = game.payoffs.FieldPayoffs[FieldRow(table.Die1, table.Die2)];
-  } else if (code < 0) {
-    working.PayTo = -Currency::Dollars(1);
-    working.PayPer = Currency::Dollars(1);
-    working.ForFlag = game.payoffs.PayoffTable[bet].ForFlag;
-  } else {
-    working = WinnersRecord(game, bet, code);
-    shares = SharesOf(bet);
-  }
-  Currency gross;
-  if (shares == 1) {
-    gross = Paid(amount, working);
-  } else {
-    // One share wins, the others lose.
-    const Currency share = Divide(amount, Currency::Dollars(shares));
-    gross = Paid(share, working) - (amount - share);
-  }
-  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet))) gross -= VigHeld(game, seat, bet);
-  table.GrossPayoff = gross;
-  table.NetPayoff = RoundDownToUnit(gross, game.settings.Unit());
+// An odds bet that was not working when its flat bet was decided.
+void SettleOffOdds(Game& game, int seat, int bet) {
+  // Without their point line odds ride with nothing, even where handling made the flat bet again.
+  const bool onLine = FamilyRowOf(bet).decidedBy == DecidedBy::kLine;
+  Decision decision;
+  decision.finished =
+      onLine || !game.table.seats[seat].SeatBets.Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
+  HandleOffOdds(game, seat, bet, decision);
 }
 
+// Decides the seat's bet. A bet that isn't up or isn't working is passed over, odds apart.
 void SettleBet(Game& game, int seat, int code, int bet) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   if (amount == kZero) return;
-  table.SettlingBet = bet;
   if (WorkingValue(table.seats[seat].BetWorking, bet) <= 0) {
-    if (code == kOddsWin || code == kOddsLose) {
-      if (IsOdds(bet)) SettleOffOdds(game, seat, bet);
-    }
+    if ((code == kOddsWin || code == kOddsLose) && IsOdds(bet)) SettleOffOdds(game, seat, bet);
     return;
   }
-  ComputePayoff(game, seat, bet, code, amount);
-  const Currency net = table.NetPayoff;
+  Decision decision = ComputePayoff(game, seat, bet, code, amount);
+  const Currency net = decision.net;
   if (net == kZero) return;
   const Currency bankroll = table.BankrollCurrent[seat] + net;
   if (net.IsError() || bankroll.IsError() || !UpdateBetStats(game, seat, bet, amount, net)) {
@@ -162,40 +161,28 @@ void SettleBet(Game& game, int seat, int code, int bet) {
     return;
   }
   if (IsComeNumber(bet)) table.seats[seat].ComeTravelAmount[bet - kCome4] = kZero;
-  if (game.events.RecordEventsActive) LogWinOrLoss(game, seat, bet);
+  if (game.events.RecordEventsActive) LogWinOrLoss(game, seat, bet, net);
   table.BankrollCurrent[seat] = bankroll;
   table.BetCommitted(seat, bet) = kZero;
   TouchBefore(table, seat, bet);
-  table.BetFinished = IsFinished(game, bet, seat);
+  decision.finished = IsFinished(game, bet, seat);
   std::int32_t& streak = table.BetStreak(seat, bet);
   if (net < kZero) {
     streak = streak <= 0 ? streak - 1 : -1;
-    HandleLoss(game, seat, bet);
+    HandleLoss(game, seat, bet, decision);
   } else {
     streak = streak >= 0 ? streak + 1 : 1;
-    HandleWin(game, seat, bet);
+    HandleWin(game, seat, bet, decision);
   }
 }
 
-void SettleOffOdds(Game& game, int seat, int bet) {
-  TableState& table = game.table;
-  table.NetPayoff = kZero;
-  table.GrossPayoff = kZero;
-  // Without their point line odds ride with nothing, even where handling made the flat bet again.
-  const bool onLine = bet == kPassLineOdds || bet == kDontPassOdds;
-  table.BetFinished =
-      onLine || !table.seats[seat].SeatBets.Has(FlatBetOf(bet)) || !game.settings.AllowPutBets;
-  HandleOffOdds(game, seat, bet);
-}
-
+// Carries a Come or Don't Come bet to its number.
 void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, fromBet);
   if (amount == kZero) return;
   ChangeBet(game, seat, fromBet, -amount);
-  table.MovingComeBet = true;
-  PlaceBet(game, seat, toBet, amount);
-  table.MovingComeBet = false;
+  PlaceBet(game, seat, toBet, amount, Asking::kAsMove);
   (fromBet == kCome ? table.ComeMovedTo : table.DontComeMovedTo)[seat] = toBet;
   table.AnyBetMoved = true;
   table.BetCommitted(seat, toBet) = amount;
@@ -203,19 +190,17 @@ void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
   if (IsComeNumber(toBet)) {
     table.seats[seat].ComeTravelAmount[toBet - kCome4] = amount;
     if (table.seats[seat].handling.AutoDownPlace) {
-      for (const int bet : {toBet + kPlace4 - kCome4, toBet + kBuy4 - kCome4})
+      const int number = FactsOf(toBet).number;
+      for (const int bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
         ChangeBet(game, seat, bet, -table.BetAmount(seat, bet));
     }
   }
   if (game.events.RecordEventsActive) LogBetMoved(game, seat, fromBet, toBet);
 }
 
-namespace {
-
 struct RollFacts {
   bool comeOut;
-  int low;  // the smaller face
-  int high;
+  bool pair;
   int barNumber;
 };
 
@@ -228,19 +213,9 @@ bool Holds(StepWhen when, const RollFacts& roll) {
     case StepWhen::kPointOn:
       return !roll.comeOut;
     case StepWhen::kPair:
-      return roll.low == roll.high;
+      return roll.pair;
     case StepWhen::kNoPair:
-      return roll.low != roll.high;
-    case StepWhen::kFace1:
-      return roll.low == 1;
-    case StepWhen::kFace2:
-      return roll.low == 2 || roll.high == 2;
-    case StepWhen::kFace3:
-      return roll.low == 3 || roll.high == 3;
-    case StepWhen::kNotFace1:
-      return roll.low != 1;
-    case StepWhen::kNotFace3:
-      return roll.low != 3 && roll.high != 3;
+      return !roll.pair;
     case StepWhen::kBar12:
       return roll.barNumber == 12;
     case StepWhen::kBar12ComeOut:
@@ -292,16 +267,16 @@ void MoveAll(Game& game, int fromBet, int toBet) {
     MoveComeBet(game, kPayOrder[std::countr_zero(seats)], fromBet, toBet);
 }
 
-// A seven takes 84 to 87.
+// A seven takes the marks and the count of rolls.
 void LoseMarkBets(Game& game) {
   TableState& table = game.table;
   if (table.RollTotal != 7) return;
   table.NumberMarks = 0;
   if (!table.AnyBets.Meets(kSpecialProps)) return;
-  for (int bet = kAllSmall; bet <= kFourRolls; ++bet) SettleAll(game, kFlatLoses, bet);
+  for (const int bet : {kAllSmall, kAllTall, kMakeAll, kFourRolls}) SettleAll(game, kFlatLoses, bet);
 }
 
-// 88 and 89 when the roll after the point, or a come-out, leaves them undecided.
+// Point 7 and 7 Point 7 when the roll after the point, or a come-out, leaves them undecided.
 void LosePointBets(Game& game, const RollFacts& roll) {
   TableState& table = game.table;
   if (!table.AnyBets.Meets(kSpecialProps)) return;
@@ -369,7 +344,7 @@ void SettleLosers(Game& game, const RollFacts& roll, bool pointMade) {
   WalkSteps(game, kLosersByTotal[table.RollTotal], roll);
   if (game.settings.SmallTallEnabled) LoseMarkBets(game);
   WalkSteps(game, kOneRollSteps[table.RollTotal], roll);
-  WalkSteps(game, kHopLosers[PairIndex(table.Die1, table.Die2)], roll);
+  WalkSteps(game, kHopLosers[CombinationIndex(table.Die1, table.Die2)], roll);
   if (game.settings.SmallTallEnabled) LosePointBets(game, roll);
 }
 
@@ -381,6 +356,7 @@ void SettleWinners(Game& game, const RollFacts& roll, bool pointMade) {
     CountPointMade(table);
   }
   WalkSteps(game, kWinnersByTotal[total], roll);
+  WalkSteps(game, kHopWinners[CombinationIndex(table.Die1, table.Die2)], roll);
   if (roll.comeOut && (total == 7 || total == 11)) ++table.RideTheLineCount;
   const bool sevenOut = total == 7 && !roll.comeOut;
   if (total == 7 && game.settings.SmallTallEnabled) WinPointBets(game, roll);
@@ -390,8 +366,8 @@ void SettleWinners(Game& game, const RollFacts& roll, bool pointMade) {
     table.FireCount = 0;
   }
   if (IsBoxNumber(total)) {
-    MoveAll(game, kCome, kCome4 + BoxPosition(total));
-    MoveAll(game, kDontCome, kDontCome4 + BoxPosition(total));
+    MoveAll(game, kCome, BetOn(kCome4, total));
+    MoveAll(game, kDontCome, BetOn(kDontCome4, total));
   }
   if (game.settings.SmallTallEnabled) WinMarkBets(game);
   if (sevenOut) {
@@ -415,8 +391,7 @@ void CountHandWithoutBets(TableState& table, const RollFacts& roll, bool pointMa
 
 void SettleRoll(Game& game) {
   const TableState& table = game.table;
-  const RollFacts roll{table.PointBeforeRoll == 0, std::min(table.Die1, table.Die2),
-                       std::max(table.Die1, table.Die2), game.settings.BarNumber};
+  const RollFacts roll{table.PointBeforeRoll == 0, table.Die1 == table.Die2, game.settings.BarNumber};
   const bool pointMade = table.RollTotal == table.PointBeforeRoll;
   if (table.AnyBets.Empty()) return CountHandWithoutBets(game.table, roll, pointMade);
   SettleLosers(game, roll, pointMade);

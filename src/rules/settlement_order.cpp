@@ -1,208 +1,197 @@
 #include "rules/settlement_order.h"
 
+#include <algorithm>
 #include <array>
+
+#include "state/bet_families.h"
 
 namespace tessaryn {
 namespace {
 
-constexpr auto kAlways = StepWhen::kAlways;
+using F = FamilyId;
+using W = StepWhen;
 
-// --- Losers by total.
-constexpr SettleStep kPointMadeL[] = {{kDontPass, -1}, {kDontPassOdds, -2}};
-constexpr SettleStep kCrapsL[] = {{kPassLine, -1, StepWhen::kComeOut}, {kCome, -1}};
-constexpr SettleStep kL4[] = {{7, -1, kAlways, 13}, {1, -1}, {kHard4, -1, StepWhen::kNoPair}};
-constexpr SettleStep kL5[] = {{8, -1, kAlways, 14}, {2, -1}};
-constexpr SettleStep kL6[] = {{9, -1, kAlways, 15}, {3, -1}, {kHard6, -1, StepWhen::kNoPair}};
-constexpr SettleStep kL7[] = {
-    {kPassLine, -1, StepWhen::kPointOn, kPassLineOdds},
-    {kDontPass, -1, StepWhen::kComeOut},
-    {19, -1, kAlways, 25},
-    {20, -1, kAlways, 26},
-    {21, -1, kAlways, 27},
-    {22, -1, kAlways, 28},
-    {23, -1, kAlways, 29},
-    {24, -1, kAlways, 30},
-    {kDontCome, -1},
-    {kBig6, -1},
-    {kBig8, -1},
-    {kHard4, -1},
-    {kHard6, -1},
-    {kHard8, -1},
-    {kHard10, -1},
-    {31, -1},
-    {32, -1},
-    {33, -1},
-    {34, -1},
-    {35, -1},
-    {36, -1},
-    {37, -1},
-    {38, -1},
-    {39, -1},
-    {40, -1},
-    {41, -1},
-    {42, -1},
-};
-constexpr SettleStep kL8[] = {{10, -1, kAlways, 16}, {4, -1}, {kHard8, -1, StepWhen::kNoPair}};
-constexpr SettleStep kL9[] = {{11, -1, kAlways, 17}, {5, -1}};
-constexpr SettleStep kL10[] = {{12, -1, kAlways, 18}, {6, -1}, {kHard10, -1, StepWhen::kNoPair}};
-constexpr SettleStep kL11[] = {{kDontPass, -1, StepWhen::kComeOut}, {kDontCome, -1}};
-
-// --- Winners by total. The moves of Come and Don't Come bets follow them.
-constexpr SettleStep kPointMadeW[] = {{kPassLine, 1}, {kPassLineOdds, 2}};
-constexpr SettleStep kW2[] = {
-    {kDontPass, 1, StepWhen::kBar12ComeOut}, {kTwo, 1}, {kCraps, 1}, {kCAndE, 1}, {kHorn, 1}, {kWorld, 1},
-    {kDontCome, 1, StepWhen::kBar12}};
-constexpr SettleStep kW3[] = {{kDontPass, 1, StepWhen::kComeOut},
-                              {kThree, 1},
-                              {kCraps, 1},
-                              {kCAndE, 1},
-                              {kHorn, 1},
-                              {kWorld, 1},
-                              {kDontCome, 1}};
-constexpr SettleStep kW4[] = {
-    {19, 1, kAlways, 25},      {31, 1}, {37, 1}, {kHard4, 1, StepWhen::kPair}, {71, 1, StepWhen::kPair},
-    {67, 1, StepWhen::kNoPair}};
-constexpr SettleStep kW5[] = {
-    {20, 1, kAlways, 26}, {32, 1}, {38, 1}, {68, 1, StepWhen::kFace1}, {72, 1, StepWhen::kNotFace1}};
-constexpr SettleStep kW6[] = {{21, 1, kAlways, 27},
-                              {33, 1},
-                              {39, 1},
-                              {kBig6, 1},
-                              {kMidway, 1},
-                              {kHard6, 1, StepWhen::kPair},
-                              {76, 1, StepWhen::kPair},
-                              {69, 1, StepWhen::kFace1},
-                              {73, 1, StepWhen::kFace2}};
-constexpr SettleStep kW7[] = {
-    {kCome, 1, StepWhen::kPointOn},
-    {kDontPass, 1, StepWhen::kPointOn, kDontPassOdds},
-    {kPassLine, 1, StepWhen::kComeOut},
-    {7, 1, kAlways, 13},
-    {8, 1, kAlways, 14},
-    {9, 1, kAlways, 15},
-    {10, 1, kAlways, 16},
-    {11, 1, kAlways, 17},
-    {12, 1, kAlways, 18},
-    {1, 1},
-    {2, 1},
-    {3, 1},
-    {4, 1},
-    {5, 1},
-    {6, 1},
-    {kMidway, 1},
-    {kSeven, 1},
-    {kWorld, 1},
-    {70, 1, StepWhen::kFace1},
-    {74, 1, StepWhen::kFace2},
-    {77, 1, StepWhen::kFace3},
-};
-constexpr SettleStep kW8[] = {{22, 1, kAlways, 28},
-                              {34, 1},
-                              {40, 1},
-                              {kBig8, 1},
-                              {kMidway, 1},
-                              {kHard8, 1, StepWhen::kPair},
-                              {80, 1, StepWhen::kPair},
-                              {75, 1, StepWhen::kFace2},
-                              {78, 1, StepWhen::kFace3}};
-constexpr SettleStep kW9[] = {
-    {23, 1, kAlways, 29}, {35, 1}, {41, 1}, {79, 1, StepWhen::kFace3}, {81, 1, StepWhen::kNotFace3}};
-constexpr SettleStep kW10[] = {
-    {24, 1, kAlways, 30},    {36, 1}, {42, 1}, {82, 1, StepWhen::kNoPair}, {kHard10, 1, StepWhen::kPair},
-    {83, 1, StepWhen::kPair}};
-constexpr SettleStep kW11[] = {
-    {kPassLine, 1, StepWhen::kComeOut}, {kEleven, 1}, {kCAndE, 1}, {kCome, 1}, {kHorn, 1}, {kWorld, 1}};
-constexpr SettleStep kW12[] = {
-    {kDontPass, 1, StepWhen::kBar2ComeOut}, {kTwelve, 1}, {kCraps, 1}, {kCAndE, 1}, {kHorn, 1}, {kWorld, 1},
-    {kDontCome, 1, StepWhen::kBar2}};
-
-// --- The propositions, in their order: on which totals each does not lose.
-struct OneRollBet {
-  std::uint8_t bet;
-  std::uint32_t survives;  // bit n: not decided as a loss by the total n
-};
 constexpr std::uint32_t Totals(std::initializer_list<int> totals) {
   std::uint32_t bits = 0;
   for (const int total : totals) bits |= 1u << total;
   return bits;
 }
-constexpr OneRollBet kOneRollBets[] = {
-    {kMidway, Totals({6, 7, 8})},    {kTwo, Totals({2})},
-    {kThree, Totals({3})},           {kSeven, Totals({7})},
-    {kEleven, Totals({11})},         {kTwelve, Totals({12})},
-    {kCraps, Totals({2, 3, 12})},    {kCAndE, Totals({2, 3, 11, 12})},
-    {kHorn, Totals({2, 3, 11, 12})}, {kWorld, Totals({2, 3, 7, 11, 12})},
+constexpr std::uint32_t kCrapsTotals = Totals({2, 3, 12});
+constexpr std::uint32_t kBoxTotals = Totals({4, 5, 6, 8, 9, 10});
+
+// --- The order of a dealer, family by family. A family stands on the totals named here; without any on
+// those that its bets' rows tell. Its bets follow in the order of their numbers.
+struct FamilySteps {
+  FamilyId family;
+  std::uint32_t totals = 0;
+  StepWhen when = W::kAlways;
+  FamilyId odds = F::kNone;  // settled right behind each bet
 };
 
-struct OneRollList {
-  std::array<SettleStep, 13> steps{};
+constexpr FamilySteps kLosers[] = {
+    {F::kPassLine, kCrapsTotals, W::kComeOut},
+    {F::kPassLine, Totals({7}), W::kPointOn, F::kPassLineOdds},
+    {F::kDontPass, Totals({7, 11}), W::kComeOut},
+    {F::kComeNumber, Totals({7}), W::kAlways, F::kComeOdds},
+    {F::kCome, kCrapsTotals},
+    {F::kDontCome, Totals({7, 11})},
+    {F::kBig, Totals({7})},
+    {F::kDontComeNumber, 0, W::kAlways, F::kDontComeOdds},
+    {F::kLay},
+    {F::kHardway, 0, W::kNoPair},
+    {F::kHardway, Totals({7})},
+    {F::kPlace, Totals({7})},
+    {F::kBuy, Totals({7})},
+};
+
+// The moves of Come and Don't Come bets follow them.
+constexpr FamilySteps kWinners[] = {
+    {F::kCome, Totals({7}), W::kPointOn},
+    {F::kDontPass, Totals({7}), W::kPointOn, F::kDontPassOdds},
+    {F::kDontPass, Totals({2}), W::kBar12ComeOut},
+    {F::kDontPass, Totals({3}), W::kComeOut},
+    {F::kDontPass, Totals({12}), W::kBar2ComeOut},
+    {F::kPassLine, Totals({7, 11}), W::kComeOut},
+    {F::kDontComeNumber, Totals({7}), W::kAlways, F::kDontComeOdds},
+    {F::kLay, Totals({7})},
+    {F::kComeNumber, 0, W::kAlways, F::kComeOdds},
+    {F::kPlace},
+    {F::kBuy},
+    {F::kBig},
+    {F::kMidway},
+    {F::kHardway, 0, W::kPair},
+    {F::kProposition},
+    {F::kCAndE},
+    {F::kCome, Totals({11})},
+    {F::kHorn},
+    {F::kDontCome, Totals({2}), W::kBar12},
+    {F::kDontCome, Totals({3})},
+    {F::kDontCome, Totals({12}), W::kBar2},
+};
+
+// The bets on one roll that are decided by its total, in their order.
+constexpr FamilyId kOneRollFamilies[] = {F::kField, F::kMidway, F::kProposition,
+                                         F::kCAndE, F::kHorn,   F::kOverUnder};
+// Those that are decided either way as the losers are: the Field by its own table.
+constexpr bool IsDecidedAtOnce(FamilyId family) { return family == F::kField || family == F::kOverUnder; }
+
+// As the point is made.
+constexpr SettleStep kPointMadeL[] = {{kDontPass, -1}, {kDontPassOdds, -2}};
+constexpr SettleStep kPointMadeW[] = {{kPassLine, 1}, {kPassLineOdds, 2}};
+
+// --- The steps that come of it.
+
+template <std::size_t kMost>
+struct StepList {
+  std::array<SettleStep, kMost> steps{};
   std::size_t count = 0;
+
+  constexpr void Add(int bet, int code, StepWhen when = W::kAlways, int oddsBet = 0) {
+    steps[count++] = {static_cast<std::uint8_t>(bet), static_cast<std::int8_t>(code), when,
+                      static_cast<std::uint8_t>(oddsBet)};
+  }
+  constexpr SettleSteps Steps() const { return std::span<const SettleStep>(steps.data(), count); }
 };
 
-constexpr OneRollList OneRollListOf(int total) {
-  OneRollList list;
-  list.steps[list.count++] = {kField, 1};
-  for (const OneRollBet& bet : kOneRollBets)
-    if ((bet.survives >> total & 1) == 0) list.steps[list.count++] = {bet.bet, -1};
-  list.steps[list.count++] = {kOver7, static_cast<std::int8_t>(total > 7 ? 1 : -1)};
-  list.steps[list.count++] = {kUnder7, static_cast<std::int8_t>(total < 7 ? 1 : -1)};
-  return list;
+constexpr bool WinsOnTotal(int bet, int total) {
+  return (FactsOf(bet).wins & roll_items::TotalMask(total)) != 0;
 }
+
+constexpr bool StandsOn(const FamilySteps& row, int bet, int total) {
+  if (row.totals != 0) return (row.totals >> total & 1) != 0;
+  return FactsOf(bet).number == total || WinsOnTotal(bet, total);
+}
+
+using TotalList = StepList<32>;
+
+template <std::size_t kRows>
+constexpr std::array<TotalList, 13> ListsOf(const FamilySteps (&rows)[kRows], int code) {
+  std::array<TotalList, 13> lists{};
+  for (int total = 2; total <= 12; ++total)
+    for (const FamilySteps& row : rows)
+      BetsOf(row.family).ForEach([&](int bet) {
+        if (!StandsOn(row, bet, total)) return;
+        lists[total].Add(bet, code, row.when, row.odds == F::kNone ? 0 : OddsBetOf(bet));
+      });
+  return lists;
+}
+constexpr auto kLoserLists = ListsOf(kLosers, -1);
+constexpr auto kWinnerLists = ListsOf(kWinners, 1);
+
 constexpr auto kOneRollLists = [] {
-  std::array<OneRollList, 13> lists{};
-  for (int total = 2; total <= 12; ++total) lists[total] = OneRollListOf(total);
+  std::array<TotalList, 13> lists{};
+  for (int total = 2; total <= 12; ++total)
+    for (const FamilyId family : kOneRollFamilies)
+      BetsOf(family).ForEach([&](int bet) {
+        const bool wins = family == F::kField || WinsOnTotal(bet, total);
+        if (!wins || IsDecidedAtOnce(family)) lists[total].Add(bet, wins ? 1 : -1);
+      });
   return lists;
 }();
 
-// The hops in the order in which they are taken, with their faces.
-struct Hop {
-  std::uint8_t bet;
-  int low;
-  int high;
-};
-constexpr Hop kHops[] = {{67, 1, 3}, {71, 2, 2}, {68, 1, 4}, {72, 2, 3}, {69, 1, 5}, {73, 2, 4},
-                         {76, 3, 3}, {70, 1, 6}, {74, 2, 5}, {77, 3, 4}, {75, 2, 6}, {78, 3, 5},
-                         {80, 4, 4}, {79, 3, 6}, {81, 4, 5}, {82, 4, 6}, {83, 5, 5}};
-
-struct HopList {
-  std::array<SettleStep, 17> steps{};
-  std::size_t count = 0;
-};
-constexpr auto kHopLists = [] {
-  std::array<HopList, 36> lists{};
-  for (int die1 = 1; die1 <= 6; ++die1)
-    for (int die2 = 1; die2 <= 6; ++die2) {
-      HopList& list = lists[(die1 - 1) * 6 + die2 - 1];
-      const int low = die1 < die2 ? die1 : die2;
-      const int high = die1 < die2 ? die2 : die1;
-      for (const Hop& hop : kHops)
-        if (hop.low != low || hop.high != high) list.steps[list.count++] = {hop.bet, -1};
-    }
-  return lists;
+// The hops in the order in which they are taken: by the total of the first dice that win, then by their
+// smaller face.
+constexpr auto kHopOrder = [] {
+  constexpr int kHops = BetsOf(F::kHop).Size();
+  const auto rank = [](int bet) {
+    for (int total = 2; total <= 12; ++total)
+      for (int low = 1; low <= 6; ++low)
+        if (total >= 2 * low && total - low <= 6 &&
+            (FactsOf(bet).wins & CombinationBit(low, total - low)) != 0)
+          return std::array{total, low, bet};
+    return std::array{0, 0, bet};
+  };
+  std::array<int, kHops> bets{};
+  int at = 0;
+  BetsOf(F::kHop).ForEach([&](int bet) { bets[at++] = bet; });
+  std::ranges::sort(bets, {}, rank);
+  return bets;
 }();
 
-constexpr SettleSteps OneRoll(std::size_t total) {
-  return std::span<const SettleStep>(kOneRollLists[total].steps.data(), kOneRollLists[total].count);
+constexpr auto HopLists(bool winners) {
+  std::array<StepList<kHopOrder.size()>, 36> lists{};
+  for (int pair = 0; pair < 36; ++pair)
+    for (const int bet : kHopOrder)
+      if (((FactsOf(bet).wins >> pair & 1) != 0) == winners) lists[pair].Add(bet, winners ? 1 : -1);
+  return lists;
 }
-constexpr SettleSteps Hops(std::size_t pair) {
-  return std::span<const SettleStep>(kHopLists[pair].steps.data(), kHopLists[pair].count);
+constexpr auto kHopLoserLists = HopLists(false);
+constexpr auto kHopWinnerLists = HopLists(true);
+
+template <typename List, std::size_t kCount>
+constexpr std::array<SettleSteps, kCount> StepsOf(const std::array<List, kCount>& lists) {
+  std::array<SettleSteps, kCount> steps{};
+  for (std::size_t at = 0; at < kCount; ++at) steps[at] = lists[at].Steps();
+  return steps;
 }
 
 }  // namespace
 
 constexpr SettleSteps kPointMadeLosers{kPointMadeL};
 constexpr SettleSteps kPointMadeWinners{kPointMadeW};
-constexpr SettleSteps kLosersByTotal[13] = {{},    {},    {kCrapsL}, {kCrapsL}, {kL4},  {kL5},    {kL6},
-                                            {kL7}, {kL8}, {kL9},     {kL10},    {kL11}, {kCrapsL}};
-constexpr SettleSteps kWinnersByTotal[13] = {{},    {},    {kW2}, {kW3},  {kW4},  {kW5}, {kW6},
-                                             {kW7}, {kW8}, {kW9}, {kW10}, {kW11}, {kW12}};
-constexpr SettleSteps kOneRollSteps[13] = {{},          {},          OneRoll(2), OneRoll(3), OneRoll(4),
-                                           OneRoll(5),  OneRoll(6),  OneRoll(7), OneRoll(8), OneRoll(9),
-                                           OneRoll(10), OneRoll(11), OneRoll(12)};
-constexpr SettleSteps kHopLosers[36] = {
-    Hops(0),  Hops(1),  Hops(2),  Hops(3),  Hops(4),  Hops(5),  Hops(6),  Hops(7),  Hops(8),
-    Hops(9),  Hops(10), Hops(11), Hops(12), Hops(13), Hops(14), Hops(15), Hops(16), Hops(17),
-    Hops(18), Hops(19), Hops(20), Hops(21), Hops(22), Hops(23), Hops(24), Hops(25), Hops(26),
-    Hops(27), Hops(28), Hops(29), Hops(30), Hops(31), Hops(32), Hops(33), Hops(34), Hops(35)};
+constexpr std::array<SettleSteps, 13> kLosersByTotal = StepsOf(kLoserLists);
+constexpr std::array<SettleSteps, 13> kWinnersByTotal = StepsOf(kWinnerLists);
+constexpr std::array<SettleSteps, 13> kOneRollSteps = StepsOf(kOneRollLists);
+constexpr std::array<SettleSteps, 36> kHopLosers = StepsOf(kHopLoserLists);
+constexpr std::array<SettleSteps, 36> kHopWinners = StepsOf(kHopWinnerLists);
+
+namespace {
+
+template <std::size_t kCount>
+constexpr BetSet BetsIn(const std::array<SettleSteps, kCount>& lists) {
+  BetSet bets;
+  for (const SettleSteps& steps : lists) bets = bets | steps.bets;
+  return bets;
+}
+constexpr BetSet kDecidedByHand =
+    BetsWhere([](const FamilyRow& row) { return row.decidedBy == DecidedBy::kHand; });
+static_assert((kPointMadeLosers.bets | BetsIn(kLosersByTotal) | BetsIn(kOneRollSteps) | BetsIn(kHopLosers) |
+               kDecidedByHand) == kAllTableBets,
+              "a bet that no roll takes");
+static_assert((kPointMadeWinners.bets | BetsIn(kWinnersByTotal) | BetsIn(kOneRollSteps) |
+               BetsIn(kHopWinners) | kDecidedByHand) == kAllTableBets,
+              "a bet that no roll pays");
+
+}  // namespace
 
 }  // namespace tessaryn

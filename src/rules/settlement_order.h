@@ -2,6 +2,7 @@
 // pays: all losers, then all winners. Each step is one pass over the seats.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <span>
 
@@ -16,11 +17,6 @@ enum class StepWhen : std::uint8_t {
   kPointOn,
   kPair,
   kNoPair,
-  kFace1,
-  kFace2,
-  kFace3,
-  kNotFace1,
-  kNotFace3,
   kBar12,
   kBar12ComeOut,
   kBar2,
@@ -52,12 +48,14 @@ struct SettleSteps {
 extern const SettleSteps kPointMadeLosers;
 extern const SettleSteps kPointMadeWinners;
 // By total 2 to 12.
-extern const SettleSteps kLosersByTotal[13];
-extern const SettleSteps kWinnersByTotal[13];
+extern const std::array<SettleSteps, 13> kLosersByTotal;
+extern const std::array<SettleSteps, 13> kWinnersByTotal;
 // The Field, whose table tells a win from a loss, the one-roll propositions that lose on the total, and
 // Over and Under, which are decided here either way.
-extern const SettleSteps kOneRollSteps[13];
-// By pair of faces (PairIndex): every hop bet but the one rolled.
-extern const SettleSteps kHopLosers[36];
+extern const std::array<SettleSteps, 13> kOneRollSteps;
+// By pair of faces (CombinationIndex): the hop bets that it loses, and that it pays, behind the other
+// winners.
+extern const std::array<SettleSteps, 36> kHopLosers;
+extern const std::array<SettleSteps, 36> kHopWinners;
 
 }  // namespace tessaryn

@@ -9,6 +9,7 @@
 #include "base/fields.h"
 #include "base/message_value.h"
 #include "base/money.h"
+#include "state/payoff_tables.h"
 
 namespace tessaryn {
 
@@ -64,17 +65,19 @@ struct SettleAnswer {
   int adjustUnit = 0;
 };
 
-// A decided bet, for the settlement dialog. The working payoff record is record 0 of the payoff table.
+// A decided bet, for the settlement dialog.
 struct SettleQuestion {
   int seat = 0;
   int bet = 0;
   bool won = false;
-  bool offOdds = false;  // odds that weren't working: nothing was paid or taken
+  bool offOdds = false;   // odds that weren't working: nothing was paid or taken
+  bool finished = false;  // over: it comes down with every choice
+  PayoffRecord paidBy;    // unused with offOdds
   Currency gross;
   Currency net;
   Currency vig;        // held vig, Lay and Buy bets
   Currency pressUnit;  // what "Press 1 Unit" would add
-  int count = 0;       // points made, line wins, different points: bets 91 to 93
+  int count = 0;       // what the hand counted for the bet: points made, line wins, different points
 };
 
 enum class Sound { kDice, kCheck, kWin, kLose, kComeOut, kPoint, kPass, kMiss, kBarredMiss, kSevenOut };

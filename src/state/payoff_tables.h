@@ -23,8 +23,19 @@ inline constexpr int kSharpShooterRows = 11;
 inline constexpr int kRideTheLineRows = 12;
 inline constexpr int kFireRows = 6;
 
-// Row 0 of PayoffTable is the working copy of the settlement in progress; row 0 of the others is unused but
-// for the Fire bet, where it is the hand without a point.
+// The tables by their places.
+enum class PayoffTableId : int {
+  kByBet,
+  kField,
+  kSevenPointSeven,
+  kMidway,
+  kSharpShooter,
+  kRideTheLine,
+  kFire,
+};
+
+// Row 0 is unused but for the Fire bet, where it is the hand without a point. Of bets 44 and 47, the odds on
+// the line, the rows are unused too: they are paid as the odds of the point's own number (see PayoffOf).
 struct PayoffTables {
   PayoffRecord PayoffTable[101];
   PayoffRecord FieldPayoffs[kFieldRows + 1];

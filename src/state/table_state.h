@@ -72,18 +72,6 @@ struct TableState {
   std::string StopReason;
   std::uint32_t LastActivityTick = 0;
   std::int32_t TurboCalibration = 0;  // a tenth of the counting loops of 100 milliseconds
-
-  // --- The settlement in progress. Written by settlement.cpp.
-  int SettlingBet = 0;
-  Currency GrossPayoff;
-  Currency NetPayoff;
-  bool BetFinished = false;  // over, and must not stay up
-  Currency PressUnit;
-  // --- The bet change in progress. Written by bet_rules.cpp.
-  Currency BetRequest;
-  Currency BetChange;
-  bool MovingComeBet = false;
-  int QuietChanges = 0;  // above 0: changes show no texts
 };
 TESSARYN_FIELDS(TableState, seats, OccupiedSeats, Seated, ShooterSeat, HandSeat, PreviousHandSeat,
                 SelectedSeat, BetAmount, BetBeforeRoll, BetAfterRoll, BetCommitted, BetStreak,
@@ -92,8 +80,7 @@ TESSARYN_FIELDS(TableState, seats, OccupiedSeats, Seated, ShooterSeat, HandSeat,
                 BankrollAfterRoll, Point, PointBeforeRoll, PointTwoRollsAgo, LastPoint, Die1, Die2, RollTotal,
                 ManualDie1, ManualDie2, ManualRollPending, RollInProgress, NumberMarks, FourRollCount,
                 FireMarks, FireCount, SharpShooterCount, RideTheLineCount, TurboRollActive, AutoRollActive,
-                StopReason, LastActivityTick, TurboCalibration, SettlingBet, GrossPayoff, NetPayoff,
-                BetFinished, PressUnit, BetRequest, BetChange, MovingComeBet, QuietChanges)
+                StopReason, LastActivityTick, TurboCalibration)
 
 inline constexpr std::uint32_t kSmallMarks = 124;
 inline constexpr std::uint32_t kTallMarks = 7936;

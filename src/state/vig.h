@@ -1,6 +1,7 @@
 // The vig that Lay and Buy bets hold, and when it is charged.
 #pragma once
 
+#include "base/bet_catalogue.h"
 #include "state/game.h"
 
 namespace tessaryn {

@@ -591,9 +591,8 @@ void LogRoll(Game& game, RollSource source) {
     WriteRoll<Msg::kLogRollFromMatrix>(game, With<"generator">(number), With<"file">(ProbabilityTitle(dice)));
 }
 
-void LogWinOrLoss(Game& game, int seat, int bet) {
+void LogWinOrLoss(Game& game, int seat, int bet, Currency net) {
   const EventsLog& log = game.events;
-  const Currency net = game.table.NetPayoff;
   const bool won = net > kZero;
   if (!(won ? log.RecordBetsWon : log.RecordBetsLost)) return;
   WriteEither<Msg::kLogWon, Msg::kLogLost>(won, game, seat, With<"amount">(Abs(net)),

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/money.h"
 #include "state/events_log_state.h"
 
 namespace tessaryn {
@@ -52,9 +53,14 @@ void RecordAllEvents(EventsLog& log, bool on);
 // --- The lines of each event, in their groups.
 void LogSessionStart(Game& game);
 void LogChangesBeforeRoll(Game& game);
+<<<<<<< all
 enum class RollSource { kPad, kFile, kGenerator };
 void LogRoll(Game& game, RollSource source);
 void LogWinOrLoss(Game& game, int seat, int bet);
+=======
+void LogRoll(Game& game, const char* sourcePrefix);
+void LogWinOrLoss(Game& game, int seat, int bet, Currency net);
+>>>>>>> branch
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet);
 void LogBankrollChanges(Game& game);
 void LogHandEnd(Game& game);

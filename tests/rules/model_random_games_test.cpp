@@ -22,34 +22,34 @@
 #include "state/game.h"
 #include "stats/statistics.h"
 #include "support/places.h"
+#include "support/test_host.h"
 
 namespace tessaryn {
 namespace {
 
 using model::RulesModel;
 
-struct SilentHost : Host {
+// Shows boxes to nobody, and keeps none of them.
+struct SilentHost : test::TestHost {
   void ShowMessage(Game&, MessageBox& box) override {
     box.MsgResult = (box.MsgFlags & kMsgNo) != 0       ? kResultNo
                     : (box.MsgFlags & kMsgCancel) != 0 ? kResultCancel
                                                        : kResultOk;
   }
-  std::uint32_t TickMilliseconds() override { return 0; }
-  std::string DateText() override { return "1/1/2001"; }
-  std::string TimeText() override { return "12:00:00"; }
-  double SecondsSinceMidnight() override { return 43'200; }
-  double DateTimeNumber() override { return 36'892.5; }
+  SettleAnswer AskSettlement(Game&, const SettleQuestion&) override { return {}; }
+  void PlaySound(Game&, Sound) override {}
 };
 
 // What a kind of game does more often than others.
 struct Profile {
   const char* name;
-  bool randomPayoffs;
-  bool oddUnits;      // betting units other than a dollar
-  bool changesRules;  // limits and rules change while bets are up
-  bool playersComeAndGo;
-  bool shortMoney;  // bankrolls that run out
-  int rollPercent;  // of the commands
+  std::uint64_t firstSeed;
+  bool randomPayoffs = false;
+  bool oddUnits = false;      // betting units other than a dollar
+  bool changesRules = false;  // limits and rules change while bets are up
+  bool playersComeAndGo = false;
+  bool shortMoney = false;  // bankrolls that run out
+  int rollPercent = 40;     // of the commands
 };
 
 struct Pair {
@@ -116,26 +116,14 @@ void CopyPayoffs(const Game& game, RulesModel& m) {
 void CopySettings(const Game& game, RulesModel& m) {
   const Settings& s = game.settings;
   for (int i = 0; i < 6; ++i) m.CheckValue[i] = s.CheckValue[i];
-  m.MinBetMain = s.MinBetMain;
-  m.MinBetProp = s.MinBetProp;
-  m.MaxBet = s.MaxBet;
-  m.MaxPropBetPayoff = s.MaxPropBetPayoff;
-  m.MaxOddsBet = s.MaxOddsBet;
-  m.MaxFireBet = s.MaxFireBet;
-  m.OddsAllowed410 = s.OddsAllowed410.Number();
-  m.OddsAllowed59 = s.OddsAllowed59.Number();
-  m.OddsAllowed68 = s.OddsAllowed68.Number();
-  m.OddsCalcMethod = s.OddsCalcMethod;
-  m.LayVigRate = s.LayVigRate.Number();
-  m.BuyVigRate = s.BuyVigRate.Number();
-  m.LayVigRound = s.LayVigRound;
-  m.BuyVigRound = s.BuyVigRound;
-  m.LayVigUpFront = s.LayVigUpFront;
-  m.BuyVigUpFront = s.BuyVigUpFront;
-  m.AllowPutBets = s.AllowPutBets;
-  m.SmallTallEnabled = s.SmallTallEnabled;
-  m.BarNumber = s.BarNumber;
-  m.ShooterBetRule = s.ShooterBetRule;
+#define COPY(field) m.field = s.field;
+  TESSARYN_FOR_EACH(COPY, MinBetMain, MinBetProp, MaxBet, MaxPropBetPayoff, MaxOddsBet, MaxFireBet,
+                    OddsCalcMethod, LayVigRound, BuyVigRound, LayVigUpFront, BuyVigUpFront, AllowPutBets,
+                    SmallTallEnabled, BarNumber, ShooterBetRule)
+#undef COPY
+#define COPY(field) m.field = s.field.Number();
+  TESSARYN_FOR_EACH(COPY, OddsAllowed410, OddsAllowed59, OddsAllowed68, LayVigRate, BuyVigRate)
+#undef COPY
 }
 
 Currency Units(const Pair& pair, int count) {
@@ -238,74 +226,29 @@ void CompareSeat(Pair& pair, int seat) {
 void CompareTable(Pair& pair) {
   const TableState& t = pair.game->table;
   const RulesModel& m = *pair.m;
-  pair.Same("Point", 0, 0, m.Point, t.Point);
-  pair.Same("PointBeforeRoll", 0, 0, m.PointBeforeRoll, t.PointBeforeRoll);
-  pair.Same("PointTwoRollsAgo", 0, 0, m.PointTwoRollsAgo, t.PointTwoRollsAgo);
-  pair.Same("LastPoint", 0, 0, m.LastPoint, t.LastPoint);
-  pair.Same("ShooterSeat", 0, 0, m.ShooterSeat, t.ShooterSeat);
-  pair.Same("HandSeat", 0, 0, m.HandSeat, t.HandSeat);
-  pair.Same("PreviousHandSeat", 0, 0, m.PreviousHandSeat, t.PreviousHandSeat);
-  pair.Same("NumberMarks", 0, 0, m.NumberMarks, t.NumberMarks);
-  pair.Same("FourRollCount", 0, 0, m.FourRollCount, t.FourRollCount);
-  pair.Same("FireMarks", 0, 0, m.FireMarks, t.FireMarks);
-  pair.Same("FireCount", 0, 0, m.FireCount, t.FireCount);
-  pair.Same("SharpShooterCount", 0, 0, m.SharpShooterCount, t.SharpShooterCount);
-  pair.Same("RideTheLineCount", 0, 0, m.RideTheLineCount, t.RideTheLineCount);
+#define SAME(field) pair.Same(#field, 0, 0, m.field, t.field);
+  TESSARYN_FOR_EACH(SAME, Point, PointBeforeRoll, PointTwoRollsAgo, LastPoint, ShooterSeat, HandSeat,
+                    PreviousHandSeat, NumberMarks, FourRollCount, FireMarks, FireCount, SharpShooterCount,
+                    RideTheLineCount)
+#undef SAME
   for (int seat = 1; seat <= kSeats; ++seat) CompareSeat(pair, seat);
   const std::string fault = CheckConsistency(*pair.game);
   if (!fault.empty()) {
     ++pair.differenceCount;
     pair.differences << "  table contradicts itself: " << fault << "\n";
   }
-  const std::string modelFault = model::CheckModel(m);
-  if (!modelFault.empty()) {
-    ++pair.differenceCount;
-    pair.differences << "  rules contradict themselves: " << modelFault << "\n";
-  }
-}
-
-void CompareBetStatistics(Pair& pair, int scope, int seat) {
-  const Statistics& s = pair.game->stats;
-  const RulesModel& m = *pair.m;
-  const int slot = Slot(scope, seat);
-  for (int bet = 1; bet <= kBets; ++bet)
-    for (int kind = 1; kind <= 6; ++kind) {
-      const auto statKind = static_cast<StatKind>(kind);
-      pair.Same("WagerStats", slot, bet * 10 + kind, m.WagerStats[slot][bet][kind],
-                BetStat(s, kWagerStats, scope, seat, bet, statKind));
-      pair.Same("WinStats", slot, bet * 10 + kind, m.WinStats[slot][bet][kind],
-                BetStat(s, kWinStats, scope, seat, bet, statKind));
-      pair.Same("LossStats", slot, bet * 10 + kind, m.LossStats[slot][bet][kind],
-                BetStat(s, kLossStats, scope, seat, bet, statKind));
-    }
 }
 
 void CompareSlot(Pair& pair, int scope, int seat) {
   const Statistics& s = pair.game->stats;
   const RulesModel& m = *pair.m;
   const int slot = Slot(scope, seat);
-  for (int item = 0; item < kRollItems; ++item)
-    pair.Same("RollCounts", slot, item, m.RollCounts[slot][item], RollCount(s, scope, seat, item));
-  for (int number = 2; number <= 12; ++number)
-    for (int kind = 0; kind < 3; ++kind)
-      pair.Same("NumberCounts", slot, number * 10 + kind, m.NumberCounts[slot][number][kind],
-                s.NumberCounts[slot][number][kind]);
-  pair.Same("HandCount", slot, 0, m.HandCount[slot], s.HandCount[slot]);
-  if (seat == 0 || m.Occupied[seat])
-    pair.Same("PlayerRolls", slot, 0, m.PlayerRolls[slot], PlayerRolls(s, scope, seat));
-  pair.Same("MostRollsInHand", slot, 0, m.MostRollsInHand[slot], s.MostRollsInHand[slot]);
-  pair.Same("MostComeoutRollsInHand", slot, 0, m.MostComeoutRollsInHand[slot],
-            s.MostComeoutRollsInHand[slot]);
-  pair.Same("MostPassesInHand", slot, 0, m.MostPassesInHand[slot], s.MostPassesInHand[slot]);
-  pair.Same("MostMissesInHand", slot, 0, m.MostMissesInHand[slot], s.MostMissesInHand[slot]);
+#define SAME(field) pair.Same(#field, slot, 0, m.field[slot], s.field[slot]);
+  TESSARYN_FOR_EACH(SAME, MostComeoutRollsInHand, MostPassesInHand, MostMissesInHand)
   if (seat == 0) return;
-  pair.Same("BankrollBeginning", slot, 0, m.BankrollBeginning[slot], s.BankrollBeginning[slot]);
-  pair.Same("BankrollHigh", slot, 0, m.BankrollHigh[slot], s.BankrollHigh[slot]);
-  pair.Same("BankrollLow", slot, 0, m.BankrollLow[slot], s.BankrollLow[slot]);
+  TESSARYN_FOR_EACH(SAME, BankrollBeginning, BankrollHigh, BankrollLow)
+#undef SAME
   pair.Same("BankrollCurrent", slot, 0, m.BankrollCurrent[slot], BankrollOf(*pair.game, scope, seat));
-  for (int i = 0; i < 6; ++i)
-    pair.Same("ComeTravelTotals", slot, i, m.ComeTravelTotals[slot][i], s.ComeTravelTotals[slot][i]);
-  CompareBetStatistics(pair, scope, seat);
 }
 
 void CompareStatistics(Pair& pair) {
@@ -313,13 +256,6 @@ void CompareStatistics(Pair& pair) {
   const RulesModel& m = *pair.m;
   for (int scope : {kCurrentHand, kLastHand, kCurrentSession, kAllSessions})
     for (int seat = 0; seat <= kSeats; ++seat) CompareSlot(pair, scope, seat);
-  for (int item = 0; item < kRollItems; ++item) {
-    pair.Same("RollsSinceLast", 0, item, m.RollsSinceLast[item], RollsSinceLast(s, item));
-    for (int gap = 0; gap < kGapCells; ++gap)
-      pair.Same("RollGapCounts", item, gap, m.RollGapCounts[item][gap], s.RollGapCounts[item][gap]);
-  }
-  for (int seat = 1; seat <= kSeats; ++seat)
-    pair.Same("BankrollRollSum", seat, 0, m.BankrollRollSum[seat], s.BankrollRollSum[seat]);
   pair.Same("HandComeoutRolls", 0, 0, m.HandComeoutRolls, s.HandComeoutRolls);
   pair.Same("HandPasses", 0, 0, m.HandPasses, s.HandPasses);
   pair.Same("HandMisses", 0, 0, m.HandMisses, s.HandMisses);
@@ -391,20 +327,12 @@ int PickBet(Pair& pair, int seat) {
 
 Currency PickRequest(Pair& pair, int seat, int bet) {
   const Currency amount = pair.m->BetAmount[seat][bet];
-  switch (pair.Pick(0, 9)) {
-    case 0:
-      return -amount;
-    case 1:
-      return -Units(pair, pair.Pick(1, 20));
-    case 2:
-      return Units(pair, pair.Pick(0, 3000));
-    case 3:
-      return Currency::FromRaw(pair.Pick(-200'000, 400'000));  // no whole units
-    case 4:
-      return kZero;
-    default:
-      return Units(pair, pair.Pick(1, 30));
-  }
+  const int kind = pair.Pick(0, 9);
+  if (kind == 0) return -amount;
+  if (kind == 1) return -Units(pair, pair.Pick(1, 20));
+  if (kind == 2) return Units(pair, pair.Pick(0, 3000));
+  if (kind == 3) return Currency::FromRaw(pair.Pick(-200'000, 400'000));  // no whole units
+  return kind == 4 ? kZero : Units(pair, pair.Pick(1, 30));
 }
 
 void Bet(Pair& pair, int seat) {
@@ -498,6 +426,32 @@ void RollBoth(Pair& pair) {
   pair.Same("rolls made", 0, 0, rolled ? 1 : 0, SessionRolls(pair.game->stats) - before);
 }
 
+void PassTheDice(Pair& pair) {
+  pair.Note("the dice are passed");
+  PassDice(*pair.game, kPassByUser);
+  model::PassDice(*pair.m, 1);
+}
+
+struct Command {
+  int upTo;  // of a thousand
+  void (*run)(Pair& pair, int seat, const Profile& profile);
+  bool Profile::*allowed = nullptr;
+};
+const Command kCommands[] = {
+    {700, [](Pair& pair, int seat, const Profile&) { Bet(pair, seat); }},
+    {780, [](Pair& pair, int seat, const Profile&) { Call(pair, seat); }},
+    {800, [](Pair& pair, int seat, const Profile&) { Uncall(pair, seat); }},
+    {850, [](Pair& pair, int seat, const Profile&) { Buy(pair, seat); }},
+    {920, [](Pair& pair, int seat, const Profile&) { FullOdds(pair, seat); }},
+    {940, [](Pair& pair, int, const Profile&) { PassTheDice(pair); }},
+    {960, [](Pair& pair, int seat, const Profile&) { UseAtm(pair, seat); }},
+    {980, [](Pair& pair, int seat, const Profile&) { ChooseHandling(pair, seat); }},
+    {988, [](Pair& pair, int, const Profile& profile) { ComeOrGo(pair, profile); },
+     &Profile::playersComeAndGo},
+    {995, [](Pair& pair, int, const Profile&) { ChangeRules(pair); }, &Profile::changesRules},
+    {1000, [](Pair& pair, int, const Profile&) { ChangeVig(pair); }, &Profile::changesRules},
+};
+
 // One command, chosen by the profile. Returns whether the dice were rolled.
 bool Step(Pair& pair, const Profile& profile) {
   const int seat = PickSeat(pair);
@@ -510,61 +464,22 @@ bool Step(Pair& pair, const Profile& profile) {
     return true;
   }
   const int choice = pair.Pick(1, 1000);
-  if (choice <= 700) {
-    Bet(pair, seat);
-  } else if (choice <= 780) {
-    Call(pair, seat);
-  } else if (choice <= 800) {
-    Uncall(pair, seat);
-  } else if (choice <= 850) {
-    Buy(pair, seat);
-  } else if (choice <= 920) {
-    FullOdds(pair, seat);
-  } else if (choice <= 940) {
-    pair.Note("the dice are passed");
-    PassDice(*pair.game, kPassByUser);
-    model::PassDice(*pair.m, 1);
-  } else if (choice <= 960) {
-    UseAtm(pair, seat);
-  } else if (choice <= 980) {
-    ChooseHandling(pair, seat);
-  } else if (choice <= 988) {
-    if (profile.playersComeAndGo) ComeOrGo(pair, profile);
-  } else if (choice <= 995) {
-    if (profile.changesRules) ChangeRules(pair);
-  } else {
-    if (profile.changesRules) ChangeVig(pair);
+  for (const Command& command : kCommands) {
+    if (choice > command.upTo) continue;
+    if (command.allowed == nullptr || profile.*command.allowed) command.run(pair, seat, profile);
+    break;
   }
   return false;
 }
 
-// What the seat of a difference has chosen, and the rules of the table.
-std::string Circumstances(const Pair& pair) {
+// What was decided for the seat of a difference.
+std::string Decided(const Pair& pair) {
   const int seat = pair.differentSeat;
-  const RulesModel& m = *pair.m;
   std::ostringstream text;
-  text << "  seat " << seat << ": win " << m.WinHandling[seat] << ", loss " << m.LoseHandling[seat]
-       << ", proper " << m.ProperOddsMode[seat] << ", take " << m.AutoTakeOdds[seat] << ", lay "
-       << m.AutoLayOdds[seat] << ", down " << m.AutoDownPlace[seat] << ", negative "
-       << m.AllowNegativeBankroll[seat] << ", bankroll " << PlainMoney(m.BankrollCurrent[seat])
-       << ", on table " << PlainMoney(m.OnTableAmount[seat]) << ", press unit " << PlainMoney(m.PressUnit)
-       << "\n  slots";
-  for (int slot = 4; slot <= 7; ++slot)
-    text << " (" << m.AdjustKind[seat][slot] << ", " << PlainMoney(m.AdjustValue[seat][slot]) << ", "
-         << m.AdjustUnit[seat][slot] << ")";
-  text << "\n  unit " << PlainMoney(m.CheckValue[1]) << ", minimum " << PlainMoney(m.MinBetMain) << " and "
-       << PlainMoney(m.MinBetProp) << ", maximum " << PlainMoney(m.MaxBet) << ", prop payoff "
-       << PlainMoney(m.MaxPropBetPayoff) << ", odds " << PlainMoney(m.MaxOddsBet) << " by method "
-       << m.OddsCalcMethod << " (" << PlainMoney(m.OddsAllowed410) << ", " << PlainMoney(m.OddsAllowed59)
-       << ", " << PlainMoney(m.OddsAllowed68) << "), put " << m.AllowPutBets << ", bar " << m.BarNumber
-       << ", vig lay " << PlainMoney(m.LayVigRate) << "/" << m.LayVigRound << "/" << m.LayVigUpFront
-       << ", buy " << PlainMoney(m.BuyVigRate) << "/" << m.BuyVigRound << "/" << m.BuyVigUpFront << "\n";
-  for (const model::Decision& decision : m.Decisions)
+  for (const model::Decision& decision : pair.m->Decisions)
     if (decision.seat == seat)
-      text << "  decided: bet " << decision.bet << " from " << PlainMoney(m.BetBeforeRoll[seat][decision.bet])
-           << " net " << PlainMoney(decision.net) << " now " << PlainMoney(m.BetAmount[seat][decision.bet])
-           << " at " << PlainMoney(m.PayoffTable[decision.bet].PayTo) << " to "
-           << PlainMoney(m.PayoffTable[decision.bet].PayPer) << "\n";
+      text << "  decided: bet " << decision.bet << " net " << PlainMoney(decision.net) << " from "
+           << PlainMoney(pair.m->BetBeforeRoll[seat][decision.bet]) << "\n";
   return text.str();
 }
 
@@ -602,12 +517,15 @@ int PlayGame(const Profile& profile, std::uint64_t seed, Tally& tally) {
   for (const std::string& command : pair.commands) last << "  " << command << "\n";
   ADD_FAILURE() << profile.name << ", game of seed " << seed << ", step " << pair.step - 1 << ", "
                 << pair.differenceCount << " differences:\n"
-                << pair.differences.str() << Circumstances(pair) << "last commands:\n"
+                << pair.differences.str() << Decided(pair) << "last commands:\n"
                 << last.str();
   return -1;
 }
 
-void PlayGames(const Profile& profile, std::uint64_t firstSeed) {
+class ModelRandomGames : public testing::TestWithParam<Profile> {};
+
+TEST_P(ModelRandomGames, AgreeWithTheTable) {
+  const Profile& profile = GetParam();
   Tally tally;
   const char* rollsText = std::getenv("TESSARYN_MODEL_ROLLS");
   const long wanted = rollsText != nullptr ? std::atol(rollsText) : kEnoughRolls;
@@ -616,7 +534,7 @@ void PlayGames(const Profile& profile, std::uint64_t firstSeed) {
     return;
   }
   long rolls = 0;
-  for (std::uint64_t seed = firstSeed; rolls < wanted; ++seed) {
+  for (std::uint64_t seed = profile.firstSeed; rolls < wanted; ++seed) {
     const int played = PlayGame(profile, seed, tally);
     if (played < 0) return;
     rolls += played;
@@ -629,25 +547,25 @@ void PlayGames(const Profile& profile, std::uint64_t firstSeed) {
   }
 }
 
-TEST(ModelRandomGames, TableByTheBook) {
-  PlayGames({"by the book", false, false, false, false, false, 40}, 1'000'000);
-}
-
-TEST(ModelRandomGames, OddUnitsAndPayoffs) {
-  PlayGames({"odd units and payoffs", true, true, false, false, false, 40}, 2'000'000);
-}
-
-TEST(ModelRandomGames, RulesThatChangeUnderBets) {
-  PlayGames({"rules that change", true, false, true, true, false, 40}, 3'000'000);
-}
-
-TEST(ModelRandomGames, ShortMoney) {
-  PlayGames({"short money", false, true, true, true, true, 40}, 4'000'000);
-}
-
-TEST(ModelRandomGames, LongHands) {
-  PlayGames({"long runs of rolls", false, false, false, true, false, 90}, 5'000'000);
-}
+INSTANTIATE_TEST_SUITE_P(
+    Profiles, ModelRandomGames,
+    testing::Values(
+        Profile{.name = "TableByTheBook", .firstSeed = 1'000'000},
+        Profile{
+            .name = "OddUnitsAndPayoffs", .firstSeed = 2'000'000, .randomPayoffs = true, .oddUnits = true},
+        Profile{.name = "RulesThatChangeUnderBets",
+                .firstSeed = 3'000'000,
+                .randomPayoffs = true,
+                .changesRules = true,
+                .playersComeAndGo = true},
+        Profile{.name = "ShortMoney",
+                .firstSeed = 4'000'000,
+                .oddUnits = true,
+                .changesRules = true,
+                .playersComeAndGo = true,
+                .shortMoney = true},
+        Profile{.name = "LongHands", .firstSeed = 5'000'000, .playersComeAndGo = true, .rollPercent = 90}),
+    [](const auto& profile) { return std::string(profile.param.name); });
 
 }  // namespace
 }  // namespace tessaryn

@@ -89,20 +89,6 @@ TEST(Payoffs, TextsComeBackAsTheyWentOut) {
   }
 }
 
-TEST(Payoffs, TheBetUnitIsWhatPaysWhole) {
-  const struct {
-    int bet;
-    const char* unit;
-    int expected;  // in hundredths
-  } cases[] = {{kPlace4, "1", 500},   {kPlace4 + 2, "1", 600}, {kPlace4 + 2, "0.25", 150},
-               {kLay4 + 1, "1", 300}, {kPassLine, "5", 500},   {kHard6, "1", 100}};
-  for (const auto& c : cases) {
-    PayoffTables payoffs;
-    ResetPayoffs(payoffs, ParseMoney(c.unit));
-    EXPECT_EQ(payoffs.PayoffTable[c.bet].BetUnit, Currency::FromRaw(c.expected * 100)) << c.bet;
-  }
-}
-
 // --- The rules that keep the tables valid.
 
 struct Damage {

@@ -1,4 +1,8 @@
+<<<<<<< all
 #include "rules_model.h"
+=======
+#include "rules/rules_model.h"
+>>>>>>> branch
 
 #include <algorithm>
 #include <cstdlib>
@@ -54,7 +58,7 @@ bool AnySeatHas(const RulesModel& m, int bet) {
   return false;
 }
 
-bool HandHasHadARoll(const RulesModel& m) { return m.RollCounts[0][0] != 0; }
+bool HandHasHadARoll(const RulesModel& m) { return m.HandRolls != 0; }
 
 // The bet that an odds bet rides with.
 int FlatBetOf(int odds) { return odds == 44 ? 43 : odds == 47 ? 46 : odds - 6; }
@@ -63,17 +67,25 @@ void ResetBetWorking(RulesModel& m, int seat, int bet) {
   m.BetWorking[seat][bet] = m.Point == 0 ? m.BetDefaultWorking[seat][bet] : 1;
 }
 
-}  // namespace
-
 // ---------------------------------------------------------------- what a roll does to a bet, as data
 
-namespace {
+// What a working bet does on a roll: -1 and -2 lose, 1 and 2 win, 0 nothing. Bets 84 to 87 and 91 to 93,
+// which hang on counts, are 0 here.
+struct RollCase {
+  int die1, die2;
+  int pointBefore;       // 0: a come-out roll
+  int pointTwoRollsAgo;  // 0: the point was set on the roll before
+  int barNumber;
+};
+
+// The order in which the bets are visited, each group taken seat by seat.
+using VisitOrder = std::vector<std::vector<int>>;
 
 enum class When { Always, ComeOut, PointOn, FirstRollOfPoint };
 
 // Outcomes are words: a total; "h" and a total, the pair of it; "e" and a total, that total without a pair;
 // "own", the box number of the bet; "point", the point made; "unbarred", of 2 and 12 the one that isn't
-// barred.
+// barred; "else", anything that no row above says.
 struct EffectRow {
   int first, last;
   When when;
@@ -82,10 +94,8 @@ struct EffectRow {
 };
 
 const EffectRow kEffects[] = {
-    {1, 6, When::Always, "own", -1},
-    {1, 6, When::Always, "7", 1},
-    {7, 12, When::Always, "own", -1},
-    {7, 12, When::Always, "7", 1},
+    {1, 12, When::Always, "own", -1},
+    {1, 12, When::Always, "7", 1},
     {13, 18, When::Always, "own", -2},
     {13, 18, When::Always, "7", 2},
     {19, 24, When::Always, "own", 1},
@@ -124,25 +134,15 @@ const EffectRow kEffects[] = {
     {55, 55, When::Always, "h10", 1},
     {55, 55, When::Always, "7 e10", -1},
     {56, 56, When::Always, "2", 1},
-    {56, 56, When::Always, "3 4 5 6 7 8 9 10 11 12", -1},
     {57, 57, When::Always, "3", 1},
-    {57, 57, When::Always, "2 4 5 6 7 8 9 10 11 12", -1},
     {58, 58, When::Always, "7", 1},
-    {58, 58, When::Always, "2 3 4 5 6 8 9 10 11 12", -1},
     {59, 59, When::Always, "11", 1},
-    {59, 59, When::Always, "2 3 4 5 6 7 8 9 10 12", -1},
     {60, 60, When::Always, "12", 1},
-    {60, 60, When::Always, "2 3 4 5 6 7 8 9 10 11", -1},
     {61, 61, When::Always, "2 3 12", 1},
-    {61, 61, When::Always, "4 5 6 7 8 9 10 11", -1},
     {62, 63, When::Always, "2 3 11 12", 1},
-    {62, 63, When::Always, "4 5 6 7 8 9 10", -1},
     {64, 64, When::Always, "2 3 7 11 12", 1},
-    {64, 64, When::Always, "4 5 6 8 9 10", -1},
     {65, 65, When::Always, "8 9 10 11 12", 1},
-    {65, 65, When::Always, "2 3 4 5 6 7", -1},
     {66, 66, When::Always, "2 3 4 5 6", 1},
-    {66, 66, When::Always, "7 8 9 10 11 12", -1},
     {88, 88, When::FirstRollOfPoint, "7", 1},
     {88, 88, When::FirstRollOfPoint, "2 3 4 5 6 8 9 10 11 12", -1},
     {88, 88, When::ComeOut, "2 3 7 11 12", -1},
@@ -151,7 +151,8 @@ const EffectRow kEffects[] = {
     {89, 89, When::ComeOut, "7", 1},
     {89, 89, When::ComeOut, "2 3 11 12", -1},
     {90, 90, When::Always, "6 7 8", 1},
-    {90, 90, When::Always, "2 3 4 5 9 10 11 12", -1},
+    {56, 66, When::Always, "else", -1},
+    {90, 90, When::Always, "else", -1},
 };
 
 // The faces of bets 67 to 83, smaller face first.
@@ -160,6 +161,7 @@ const int kHopFaces[17] = {13, 14, 15, 16, 22, 23, 24, 25, 26, 33, 34, 35, 36, 4
 bool OutcomeMatches(const std::string& word, int bet, const RollCase& roll) {
   const int total = roll.die1 + roll.die2;
   const bool pair = roll.die1 == roll.die2;
+  if (word == "else") return true;  // no row above has it
   if (word == "own") return kNumbers[(bet - 1) % 6] == total;
   if (word == "point") return total == roll.pointBefore;
   if (word == "unbarred") return (total == 2 && roll.barNumber == 12) || (total == 12 && roll.barNumber == 2);
@@ -169,17 +171,10 @@ bool OutcomeMatches(const std::string& word, int bet, const RollCase& roll) {
 }
 
 bool Applies(When when, const RollCase& roll) {
-  switch (when) {
-    case When::Always:
-      return true;
-    case When::ComeOut:
-      return roll.pointBefore == 0;
-    case When::PointOn:
-      return roll.pointBefore != 0;
-    case When::FirstRollOfPoint:
-      return roll.pointBefore != 0 && roll.pointTwoRollsAgo == 0;
-  }
-  return false;
+  if (when == When::ComeOut) return roll.pointBefore == 0;
+  if (when == When::PointOn) return roll.pointBefore != 0;
+  if (when == When::FirstRollOfPoint) return roll.pointBefore != 0 && roll.pointTwoRollsAgo == 0;
+  return true;
 }
 
 int ReadEffect(int bet, const RollCase& roll) {
@@ -280,119 +275,19 @@ const Orders& AllOrders() {
   return orders;
 }
 
-}  // namespace
-
 int EffectOf(int bet, const RollCase& roll) {
   static const EffectTable table;
   return table.code[bet][roll.die1][roll.die2][roll.pointBefore][roll.pointTwoRollsAgo == 0 ? 1 : 0]
                    [roll.barNumber == 12 ? 1 : 0];
 }
 
-VisitOrder LosersByTotal(int total) { return AllOrders().losers[total]; }
-VisitOrder LosersAlways() {
-  VisitOrder all;
-  for (const VisitOrder& part : AllOrders().always) all.insert(all.end(), part.begin(), part.end());
-  return all;
-}
-VisitOrder WinnersByTotal(int total) { return AllOrders().winners[total]; }
-
 // ---------------------------------------------------------------- payoffs
-
-namespace {
 
 Payoff To(int to, int per) {
   return {kOne, Currency::Dollars(to), Currency::Dollars(-1), Currency::Dollars(per)};
 }
-Payoff For(int to, int per) { return {kOne, Currency::Dollars(to), kZero, Currency::Dollars(per)}; }
-
-struct PayoffRow {
-  int first, last, to, per;
-};
-
-const PayoffRow kDefaultPayoffs[] = {
-    {1, 1, 1, 2},    {2, 2, 2, 3},     {3, 4, 5, 6},    {5, 5, 2, 3},    {6, 6, 1, 2},    {13, 13, 1, 2},
-    {14, 14, 2, 3},  {15, 16, 5, 6},   {17, 17, 2, 3},  {18, 18, 1, 2},  {25, 25, 2, 1},  {26, 26, 3, 2},
-    {27, 28, 6, 5},  {29, 29, 3, 2},   {30, 30, 2, 1},  {31, 31, 9, 5},  {32, 32, 7, 5},  {33, 34, 7, 6},
-    {35, 35, 7, 5},  {36, 36, 9, 5},   {37, 37, 2, 1},  {38, 38, 3, 2},  {39, 40, 6, 5},  {41, 41, 3, 2},
-    {42, 42, 2, 1},  {52, 52, 7, 1},   {53, 54, 9, 1},  {55, 55, 7, 1},  {56, 56, 30, 1}, {57, 57, 15, 1},
-    {58, 58, 4, 1},  {59, 59, 15, 1},  {60, 60, 30, 1}, {61, 61, 7, 1},  {62, 62, 1, 2},  {63, 63, 1, 4},
-    {64, 64, 1, 5},  {67, 83, 15, 1},  {71, 71, 30, 1}, {76, 76, 30, 1}, {80, 80, 30, 1}, {83, 83, 30, 1},
-    {84, 85, 34, 1}, {86, 86, 175, 1}, {88, 88, 7, 1},
-};
-
-struct FieldRow {
-  int first, last, to, per;
-  bool isFor;
-};
-struct FieldPreset {
-  FieldRow rows[12];  // in the order in which they overwrite each other; ends with first 0
-};
-
-const FieldPreset kFieldPresets[13] = {
-    {{{1, 21, 1, 1, false}, {5, 15, -1, 1, false}, {1, 1, 2, 1, false}, {21, 21, 2, 1, false}}},
-    {{{1, 2, -1, 1, false},
-      {3, 4, -1, 3, false},
-      {5, 6, -1, 5, false},
-      {7, 9, -1, 11, false},
-      {10, 12, 1, 1, false},
-      {13, 15, -1, 11, false},
-      {16, 17, -1, 5, false},
-      {18, 19, -1, 3, false},
-      {20, 20, 1, 1, false},
-      {21, 21, -1, 1, false}}},
-    {{{1, 2, 1, 1, false},
-      {3, 4, 1, 3, false},
-      {5, 6, 1, 5, false},
-      {7, 9, 1, 11, false},
-      {10, 12, -1, 1, false},
-      {13, 15, 1, 11, false},
-      {16, 17, 1, 5, false},
-      {18, 19, 1, 3, false},
-      {20, 20, -1, 1, false},
-      {21, 21, 0, 1, false}}},
-    {{{1, 1, -5, 7, false},
-      {21, 21, -5, 7, false},
-      {2, 2, -1, 2, false},
-      {20, 20, -1, 2, false},
-      {3, 4, -1, 3, false},
-      {18, 19, -1, 3, false},
-      {5, 6, -1, 5, false},
-      {16, 17, -1, 5, false},
-      {7, 9, -1, 11, false},
-      {13, 15, -1, 11, false},
-      {10, 12, 1, 1, false}}},
-    {{{1, 21, 0, 1, false}, {7, 9, 7, 6, false}, {10, 12, -1, 1, false}}},
-    {{{1, 21, 0, 1, false}, {10, 12, 4, 5, false}, {13, 15, -5, 5, false}}},
-    {{{1, 21, 0, 1, false}, {10, 12, -1, 1, false}, {18, 19, 39, 21, false}}},
-    {{{1, 21, 0, 1, false}, {3, 4, -1, 1, false}, {10, 12, 19, 40, false}}},
-    {{{1, 21, 0, 1, false}, {10, 14, -1, 1, false}, {15, 15, 9, 1, false}}},
-    {{{1, 21, -1, 1, false},
-      {1, 1, 27, 4, true},
-      {21, 21, 27, 4, true},
-      {2, 2, 12, 4, true},
-      {20, 20, 12, 4, true}}},
-    {{{1, 21, -1, 1, false},
-      {1, 1, 26, 5, true},
-      {21, 21, 26, 5, true},
-      {2, 2, 11, 5, true},
-      {20, 20, 11, 5, true},
-      {10, 12, 0, 5, true}}},
-    {{{1, 21, -1, 1, false}, {3, 3, 15, 1, false}}},
-    {{{1, 21, -1, 1, false},
-      {7, 8, 1, 1, false},
-      {9, 9, 2, 1, false},
-      {10, 14, 1, 1, false},
-      {15, 15, 2, 1, false}}},
-};
 
 }  // namespace
-
-void SetFieldPreset(RulesModel& m, int preset) {
-  for (const FieldRow& row : kFieldPresets[preset].rows)
-    for (int i = row.first; row.first > 0 && i <= row.last; ++i)
-      m.FieldPayoffs[i] = row.isFor ? For(row.to, row.per) : To(row.to, row.per);
-  RefreshBetUnits(m);
-}
 
 void RefreshBetUnits(RulesModel& m) {
   // The smallest amount, in whole units, that is paid in whole units.
@@ -409,39 +304,8 @@ void RefreshBetUnits(RulesModel& m) {
   for (Payoff& record : m.FirePayoffs) refresh(record);
 }
 
-void ResetPayoffs(RulesModel& m) {
-  for (Payoff& record : m.PayoffTable) record = To(1, 1);
-  for (const PayoffRow& row : kDefaultPayoffs)
-    for (int bet = row.first; bet <= row.last; ++bet) m.PayoffTable[bet] = To(row.to, row.per);
-  const int sevenPointSeven[] = {1, 2, 3};
-  const int midway[] = {1, 2, 1, 1, 1, 2};
-  const int sharpShooter[] = {1, -1, -1, -1, 5, 9, 19, 29, 49, 99, 199, 299};
-  const int rideTheLine[] = {1, -1, -1, -1, 1, 2, 3, 6, 10, 20, 30, 40, 100};
-  const int fire[] = {-1, -1, -1, -1, 24, 249, 999};
-  for (int i = 0; i < 3; ++i) m.SevenPointSevenPayoffs[i] = To(sevenPointSeven[i], 1);
-  for (int i = 0; i < 6; ++i) m.MidwayPayoffs[i] = To(midway[i], 1);
-  for (int i = 0; i < 12; ++i) m.SharpShooterPayoffs[i] = To(sharpShooter[i], 1);
-  for (int i = 0; i < 13; ++i) m.RideTheLinePayoffs[i] = To(rideTheLine[i], 1);
-  for (int i = 0; i < 7; ++i) m.FirePayoffs[i] = To(fire[i], 1);
-  SetFieldPreset(m, 0);
-}
-
 void ResetModel(RulesModel& m) {
   m = RulesModel{};
-  const int checks[] = {0, 1, 5, 25, 100, 500};
-  for (int i = 0; i < 6; ++i) m.CheckValue[i] = Currency::Dollars(checks[i]);
-  m.MinBetMain = m.MinBetProp = kOne;
-  m.MaxBet = Currency::Dollars(1000);
-  m.MaxPropBetPayoff = m.MaxOddsBet = Currency::Dollars(3000);
-  m.MaxFireBet = Currency::Dollars(5);
-  m.OddsAllowed410 = Currency::Dollars(3);
-  m.OddsAllowed59 = Currency::Dollars(4);
-  m.OddsAllowed68 = Currency::Dollars(5);
-  m.LayVigRate = m.BuyVigRate = Currency::FromRaw(500);
-  m.LayVigUpFront = m.BuyVigUpFront = true;
-  m.AllowPutBets = m.SmallTallEnabled = true;
-  m.BarNumber = 12;
-  m.ShooterBetRule = 1;
   m.AtmEnabled = true;
   m.Die1 = 3;
   m.Die2 = 4;
@@ -449,10 +313,8 @@ void ResetModel(RulesModel& m) {
   for (int seat = 0; seat < kSeats; ++seat)
     for (int bet = 1; bet <= kLastBet; ++bet) {
       const bool off = In(bet, 25, 42) || bet == 44 || bet == 45 || bet == 47 || bet == 48;
-      m.BetDefaultWorking[seat][bet] = off ? 0 : 1;
-      m.BetWorking[seat][bet] = m.BetDefaultWorking[seat][bet];
+      m.BetDefaultWorking[seat][bet] = m.BetWorking[seat][bet] = off ? 0 : 1;
     }
-  ResetPayoffs(m);
 }
 
 // ---------------------------------------------------------------- players and bankrolls
@@ -464,14 +326,7 @@ void SetBankroll(RulesModel& m, int seat, Currency amount) {
 }
 
 void ClearSlot(RulesModel& m, int slot) {
-  for (int bet = 0; bet <= 100; ++bet)
-    for (int kind = 0; kind <= 6; ++kind)
-      m.WagerStats[slot][bet][kind] = m.WinStats[slot][bet][kind] = m.LossStats[slot][bet][kind] = kZero;
-  for (Currency& total : m.ComeTravelTotals[slot]) total = kZero;
-  for (int& count : m.RollCounts[slot]) count = 0;
-  for (auto& counts : m.NumberCounts[slot])
-    for (int& count : counts) count = 0;
-  m.HandCount[slot] = m.PlayerRolls[slot] = m.MostRollsInHand[slot] = m.MostComeoutRollsInHand[slot] = 0;
+  m.MostComeoutRollsInHand[slot] = 0;
   m.MostPassesInHand[slot] = m.MostMissesInHand[slot] = 0;
   m.BankrollBeginning[slot] = m.BankrollCurrent[slot] = m.BankrollHigh[slot] = m.BankrollLow[slot] = kZero;
   m.AtmTotal[slot] = kZero;
@@ -495,7 +350,6 @@ void ClearSeat(RulesModel& m, int seat) {
   m.ParlayBias[seat] = m.AutoTakeOdds[seat] = m.AutoLayOdds[seat] = false;
   m.AutoDownPlace[seat] = m.AutoPassDice[seat] = m.AllowNegativeBankroll[seat] = false;
   m.OnTableAmount[seat] = m.RailAmount[seat] = m.BankrollBeforeRoll[seat] = kZero;
-  m.BankrollRollSum[seat] = m.BankrollSessionStart[seat] = kZero;
 }
 
 int NextSeat(int seat) { return seat <= 1 ? 8 : seat - 1; }
@@ -516,7 +370,6 @@ void AddPlayer(RulesModel& m, int seat, Currency bankroll) {
   ClearSeat(m, seat);
   m.Occupied[seat] = true;
   SetBankroll(m, seat, bankroll);
-  m.BankrollSessionStart[seat] = bankroll;
   for (int scope : kScopesKept) {
     const int slot = scope * 9 + seat;
     m.BankrollBeginning[slot] = m.BankrollHigh[slot] = m.BankrollLow[slot] = bankroll;
@@ -643,49 +496,10 @@ Currency SmallestForPayoff(Currency limit, const Payoff* first, const Payoff* la
   return smallest;
 }
 
-// Of odds that are laid the multiple says how much may be won. The methods then choose among what may be
-// won so that it takes whole checks to win it; the answer is what must be laid for it.
+// Of odds that are laid the multiple says how much may be won: what is laid for it is the method's payoff.
 Currency MostLaid(const RulesModel& m, int bet, Currency flat) {
   const Payoff& own = m.PayoffTable[bet];
-  const Currency multiple = OddsMultiple(m, bet);
-  const int method = m.OddsCalcMethod == 0 ? AutoOddsMethod(multiple) : m.OddsCalcMethod;
-  const auto laidFor = [&own](Currency won) { return Ratio(won, own.PayPer, own.PayTo); };
-  // Whether it takes a whole number of the check to win so much; the sum has more decimals than money has.
-  const auto takesWhole = [&own](Currency won, Currency check) {
-    return won.raw * own.PayPer.raw % (own.PayTo.raw * check.raw) == 0;
-  };
-  const Currency least = Multiply(multiple, flat);  // what may be won in any case
-  const Currency tooMuch = least + flat;
-  Currency won = least;
-  if (method == 2) {
-    // In steps that are laid in whole units: the last below, or the first above if that isn't too much.
-    const Currency step = Multiply(own.PayTo, Unit(m));
-    won = Floor(least, step);
-    if (won < least && won + step < tooMuch) won += step;
-    if (won == kZero) won = least;
-  }
-  for (int n = 5; method == 3 && n >= 1; --n) {
-    const int flatInWhole[] = {0, 0, 0, 5, 25, 100};
-    if (flat < m.CheckValue[n]) continue;
-    if (n >= 3 && !IsMultiple(flat, Currency::Dollars(flatInWhole[n]))) continue;
-    Currency tried = least;
-    for (int step = 0; step < 20'000 && !takesWhole(tried, m.CheckValue[n]); ++step) tried += kOne;
-    if (!takesWhole(tried, m.CheckValue[n])) tried = least;
-    const bool fits = n == 1 || (tried > least && tried < tooMuch);
-    if (!fits) continue;
-    won = tried;
-    break;
-  }
-  for (int n = 1; n <= 5; ++n) {
-    const Currency check = m.CheckValue[n];
-    if (method == 4)
-      won = std::max(won, TimesCount(check, OddsChipCount(WholeChecks(least, check), own.PayTo)));
-    if (method == 5)
-      won = std::max(
-          won, Multiply(TimesCount(check, OddsChipCount(WholeChecks(flat, check), own.PayTo)), multiple));
-  }
-  won = Floor(std::min(won, Floor(m.MaxOddsBet, Unit(m))), Unit(m));
-  return laidFor(won);
+  return Ratio(MaxOddsFor(m, bet, flat, own.PayPer, own.PayTo), own.PayPer, own.PayTo);
 }
 
 // The bets by whose records the winning numbers of 62, 63 and 64 are paid, and in how many shares.
@@ -767,34 +581,29 @@ struct IncreaseRule {
   bool (*refuses)(const RulesModel& m, int seat, int bet);
 };
 
-bool NoPoint(const RulesModel& m, int, int) { return m.Point == 0; }
-bool PointIsOn(const RulesModel& m, int, int) { return m.Point != 0; }
-bool PointOnWithoutPut(const RulesModel& m, int, int) { return m.Point != 0 && !m.AllowPutBets; }
-bool NoPointOrNoFlat(const RulesModel& m, int seat, int bet) {
-  return m.Point == 0 || !IsUp(m, seat, FlatBetOf(bet));
-}
+// Not for a bet that is on its way to its number.
+bool Direct(const RulesModel& m) { return !m.MovingComeBet; }
 bool NoFlat(const RulesModel& m, int seat, int bet) { return !IsUp(m, seat, FlatBetOf(bet)); }
-bool DirectWithoutPut(const RulesModel& m, int, int) { return !m.MovingComeBet && !m.AllowPutBets; }
-bool Direct(const RulesModel& m, int, int) { return !m.MovingComeBet; }
-bool SmallMarked(const RulesModel& m, int, int) { return (m.NumberMarks & kSmall) != 0; }
-bool TallMarked(const RulesModel& m, int, int) { return (m.NumberMarks & kTall) != 0; }
-bool AnyMarked(const RulesModel& m, int, int) { return (m.NumberMarks & (kSmall | kTall)) != 0; }
-bool CountRuns(const RulesModel& m, int, int) { return m.FourRollCount > 0; }
-bool HandRuns(const RulesModel& m, int, int) { return HandHasHadARoll(m); }
 
-// The table doesn't have the bet.
-bool NotOffered(const RulesModel& m, int, int) { return !m.SmallTallEnabled; }
-
+using M = RulesModel;
 const IncreaseRule kIncreaseRules[] = {
-    {43, 43, true, PointOnWithoutPut}, {45, 45, false, NoPoint},
-    {46, 46, true, PointIsOn},         {48, 48, false, NoPoint},
-    {44, 44, false, NoPointOrNoFlat},  {47, 47, false, NoPointOrNoFlat},
-    {25, 30, false, NoFlat},           {13, 18, false, NoFlat},
-    {19, 24, true, DirectWithoutPut},  {7, 12, true, Direct},
-    {84, 84, true, SmallMarked},       {85, 85, true, TallMarked},
-    {86, 86, true, AnyMarked},         {87, 87, true, CountRuns},
-    {88, 89, true, PointIsOn},         {91, 93, true, HandRuns},
-    {84, 89, false, NotOffered},
+    {43, 43, true, [](const M& m, int, int) { return m.Point != 0 && !m.AllowPutBets; }},
+    {45, 45, false, [](const M& m, int, int) { return m.Point == 0; }},
+    {46, 46, true, [](const M& m, int, int) { return m.Point != 0; }},
+    {48, 48, false, [](const M& m, int, int) { return m.Point == 0; }},
+    {44, 44, false, [](const M& m, int seat, int) { return m.Point == 0 || !IsUp(m, seat, 43); }},
+    {47, 47, false, [](const M& m, int seat, int) { return m.Point == 0 || !IsUp(m, seat, 46); }},
+    {25, 30, false, NoFlat},
+    {13, 18, false, NoFlat},
+    {19, 24, true, [](const M& m, int, int) { return Direct(m) && !m.AllowPutBets; }},
+    {7, 12, true, [](const M& m, int, int) { return Direct(m); }},
+    {84, 84, true, [](const M& m, int, int) { return (m.NumberMarks & kSmall) != 0; }},
+    {85, 85, true, [](const M& m, int, int) { return (m.NumberMarks & kTall) != 0; }},
+    {86, 86, true, [](const M& m, int, int) { return (m.NumberMarks & (kSmall | kTall)) != 0; }},
+    {87, 87, true, [](const M& m, int, int) { return m.FourRollCount > 0; }},
+    {88, 89, true, [](const M& m, int, int) { return m.Point != 0; }},
+    {91, 93, true, [](const M& m, int, int) { return HandHasHadARoll(m); }},
+    {84, 89, false, [](const M& m, int, int) { return !m.SmallTallEnabled; }},
 };
 
 bool IncreaseRefused(const RulesModel& m, int seat, int bet, Currency newAmount) {
@@ -1047,21 +856,10 @@ void SameBetAdjusted(RulesModel& m, int seat, int bet, int slot) {
   const bool plain = m.AdjustKind[seat][slot] >= 2 && m.AdjustUnit[seat][slot] >= 2;
   const Currency value = plain ? m.AdjustValue[seat][slot] : SlotValue(m, seat, bet, slot);
   const Currency step = m.AdjustUnit[seat][slot] == 1 ? Multiply(before, value) : value;
-  Currency request;
-  switch (m.AdjustKind[seat][slot]) {
-    case 0:
-      request = step;
-      break;
-    case 1:
-      request = -step;
-      break;
-    case 2:
-      request = Multiply(before, value) - before;
-      break;
-    case 3:
-      request = value == kZero ? kZero : Divide(before, value) - before;
-      break;
-  }
+  const int kind = m.AdjustKind[seat][slot];
+  Currency request = kind == 0 ? step : -step;
+  if (kind == 2) request = Multiply(before, value) - before;
+  if (kind == 3) request = value == kZero ? kZero : Divide(before, value) - before;
   Press(m, seat, bet, request);
 }
 
@@ -1088,45 +886,25 @@ void Parlay(RulesModel& m, int seat, int bet) {
 }
 
 void HandleWin(RulesModel& m, int seat, int bet) {
-  if (m.BetFinished) return TakeDown(m, seat, bet);
-  switch (m.WinHandling[seat]) {
-    case 1:
-      return TakeDown(m, seat, bet);
-    case 3:
-      return Press(m, seat, bet, m.PressUnit);
-    case 4:
-      return Press(m, seat, bet, m.BetAmount[seat][bet]);
-    case 5:
-      return Parlay(m, seat, bet);
-    case 6:
-      return SameBetAdjusted(m, seat, bet, 4);
-    case 7:
-      return BetFixed(m, seat, bet, 6);
-    default:
-      ChangeBet(m, seat, bet, kZero);
-      return;  // 2, and 0 without a dialog
-  }
+  const int choice = m.WinHandling[seat];
+  if (m.BetFinished || choice == 1) return TakeDown(m, seat, bet);
+  if (choice == 3) return Press(m, seat, bet, m.PressUnit);
+  if (choice == 4) return Press(m, seat, bet, m.BetAmount[seat][bet]);
+  if (choice == 5) return Parlay(m, seat, bet);
+  if (choice == 6) return SameBetAdjusted(m, seat, bet, 4);
+  if (choice == 7) return BetFixed(m, seat, bet, 6);
+  ChangeBet(m, seat, bet, kZero);  // 2, and 0 without a dialog
 }
 
 void HandleLoss(RulesModel& m, int seat, int bet) {
-  if (m.BetFinished) return TakeDown(m, seat, bet);
-  switch (m.LoseHandling[seat]) {
-    case 2:
-      ChangeBet(m, seat, bet, kZero);
-      return;
-    case 3:
-      return BetRemainder(m, seat, bet);
-    case 4:
-      return Press(m, seat, bet, m.PressUnit);
-    case 5:
-      return Press(m, seat, bet, m.BetAmount[seat][bet]);
-    case 6:
-      return SameBetAdjusted(m, seat, bet, 5);
-    case 7:
-      return BetFixed(m, seat, bet, 7);
-    default:
-      return TakeDown(m, seat, bet);  // 1, and 0 without a dialog
-  }
+  const int choice = m.LoseHandling[seat];
+  if (m.BetFinished || choice <= 1) return TakeDown(m, seat, bet);  // also 0, without a dialog
+  if (choice == 3) return BetRemainder(m, seat, bet);
+  if (choice == 4) return Press(m, seat, bet, m.PressUnit);
+  if (choice == 5) return Press(m, seat, bet, m.BetAmount[seat][bet]);
+  if (choice == 6) return SameBetAdjusted(m, seat, bet, 5);
+  if (choice == 7) return BetFixed(m, seat, bet, 7);
+  ChangeBet(m, seat, bet, kZero);
 }
 
 void CloseVig(RulesModel& m, int seat, int bet, bool won) {
@@ -1159,48 +937,23 @@ int MidwayRowOf(int die1, int total) {
 // The bet whose record pays a share of 62, 63 or 64 on this total.
 int ShareRecord(int bet, int total) {
   if (bet == 62) return total == 11 ? 59 : 61;
-  switch (total) {
-    case 2:
-      return 56;
-    case 3:
-      return 57;
-    case 7:
-      return 58;
-    case 11:
-      return 59;
-    default:
-      return 60;
-  }
+  return total <= 3 ? 54 + total : total == 7 ? 58 : 48 + total;
 }
 
 Payoff WinnersRecord(const RulesModel& m, int bet, int code) {
   const int at = PositionOf(m.PointBeforeRoll);
-  switch (bet) {
-    case 43:
-      return m.PayoffTable[m.PointBeforeRoll == 0 ? 45 : 19 + at];
-    case 44:
-      return m.PayoffTable[25 + at];
-    case 46:
-      return m.PayoffTable[m.PointBeforeRoll == 0 ? 48 : 7 + at];
-    case 47:
-      return m.PayoffTable[13 + at];
-    case 62:
-    case 63:
-    case 64:
-      return m.PayoffTable[ShareRecord(bet, m.RollTotal)];
-    case 89:
-      return m.SevenPointSevenPayoffs[code];
-    case 90:
-      return m.MidwayPayoffs[MidwayRowOf(m.Die1, m.RollTotal)];
-    case 91:
-      return m.SharpShooterPayoffs[std::min(m.SharpShooterCount + 1, 11)];
-    case 92:
-      return m.RideTheLinePayoffs[std::min(m.RideTheLineCount + 1, 12)];
-    case 93:
-      return m.FirePayoffs[m.FireCount];
-    default:
-      return m.PayoffTable[bet];
-  }
+  const bool comeOut = m.PointBeforeRoll == 0;
+  if (bet == 43) return m.PayoffTable[comeOut ? 45 : 19 + at];
+  if (bet == 44) return m.PayoffTable[25 + at];
+  if (bet == 46) return m.PayoffTable[comeOut ? 48 : 7 + at];
+  if (bet == 47) return m.PayoffTable[13 + at];
+  if (In(bet, 62, 64)) return m.PayoffTable[ShareRecord(bet, m.RollTotal)];
+  if (bet == 89) return m.SevenPointSevenPayoffs[code];
+  if (bet == 90) return m.MidwayPayoffs[MidwayRowOf(m.Die1, m.RollTotal)];
+  if (bet == 91) return m.SharpShooterPayoffs[std::min(m.SharpShooterCount + 1, 11)];
+  if (bet == 92) return m.RideTheLinePayoffs[std::min(m.RideTheLineCount + 1, 12)];
+  if (bet == 93) return m.FirePayoffs[m.FireCount];
+  return m.PayoffTable[bet];
 }
 
 void ComputePayoff(RulesModel& m, int seat, int bet, int code, Currency amount) {
@@ -1228,39 +981,13 @@ bool IsOverAfter(const RulesModel& m, int seat, int bet) {
   return false;
 }
 
-void CountStat(Currency (&cells)[7], Currency value, int roll, bool replaceZeroLow) {
-  cells[StatCount] += kOne;
-  cells[StatTotal] += value;
-  cells[StatHigh] = std::max(cells[StatHigh], value);
-  const bool lower = cells[StatLow] == kZero || value < cells[StatLow];
-  if (lower && (value > kZero || replaceZeroLow)) cells[StatLow] = value;
-  cells[StatLastRoll] = Currency::Dollars(roll);
-  cells[StatLastAmount] = value;
-}
-
-void UpdateBetStats(RulesModel& m, int seat, int bet, Currency wagered, Currency net) {
-  if (net == kZero) return;
-  if (VigIsUpFront(m, bet)) wagered += HeldVig(m, seat, bet);
-  for (int scope : kScopesKept) {
-    const int slot = scope * 9 + seat;
-    const int roll = m.RollCounts[scope == 4 ? 36 : 18][0];
-    CountStat(m.WagerStats[slot][bet], wagered, roll, false);
-    CountStat(net < kZero ? m.LossStats[slot][bet] : m.WinStats[slot][bet], Abs(net), roll, true);
-    if (In(bet, 19, 24)) m.ComeTravelTotals[slot][bet - 19] += m.ComeTravelAmount[seat][bet - 19];
-  }
-}
-
 // Odds that were off as their flat bet was decided.
 void SettleOffOdds(RulesModel& m, int seat, int bet) {
   const int flat = FlatBetOf(bet);
   m.NetPayoff = kZero;
   m.BetFinished = !IsUp(m, seat, flat) || !m.AllowPutBets || bet == 44 || bet == 47;
   ComputePressOptions(m, seat, bet);
-  if (m.BetStreak[seat][flat] < 2) {
-    HandleLoss(m, seat, bet);
-  } else {
-    HandleWin(m, seat, bet);
-  }
+  (m.BetStreak[seat][flat] < 2 ? HandleLoss : HandleWin)(m, seat, bet);
 }
 
 void SettleBet(RulesModel& m, int seat, int code, int bet) {
@@ -1273,7 +1000,6 @@ void SettleBet(RulesModel& m, int seat, int code, int bet) {
   }
   ComputePayoff(m, seat, bet, code, m.BetAmount[seat][bet]);
   if (m.NetPayoff == kZero) return;
-  UpdateBetStats(m, seat, bet, m.BetAmount[seat][bet], m.NetPayoff);
   if (In(bet, 19, 24)) m.ComeTravelAmount[seat][bet - 19] = kZero;
   m.Decisions.push_back({seat, bet, m.NetPayoff});
   SetBankroll(m, seat, m.BankrollCurrent[seat] + m.NetPayoff);
@@ -1281,18 +1007,10 @@ void SettleBet(RulesModel& m, int seat, int code, int bet) {
   m.BetFinished = IsOverAfter(m, seat, bet);
   const bool won = m.NetPayoff > kZero;
   int& streak = m.BetStreak[seat][bet];
-  if (won) {
-    streak = streak >= 0 ? streak + 1 : 1;
-  } else {
-    streak = streak <= 0 ? streak - 1 : -1;
-  }
+  streak = won ? std::max(streak, 0) + 1 : std::min(streak, 0) - 1;
   CloseVig(m, seat, bet, won);
   ComputePressOptions(m, seat, bet);
-  if (won) {
-    HandleWin(m, seat, bet);
-  } else {
-    HandleLoss(m, seat, bet);
-  }
+  (won ? HandleWin : HandleLoss)(m, seat, bet);
 }
 
 void SettleForAll(RulesModel& m, int code, int bet) {
@@ -1406,107 +1124,8 @@ void WinningPass(RulesModel& m) {
 
 // ---------------------------------------------------------------- statistics of a roll
 
-void CountRollItem(RulesModel& m, int item) {
-  for (int scope : kScopesKept) {
-    ++m.RollCounts[scope * 9][item];
-    if (m.HandSeat > 0) ++m.RollCounts[scope * 9 + m.HandSeat][item];
-  }
-  const int gap = m.RollsSinceLast[item];
-  if (gap < 200) {
-    ++m.RollGapCounts[item][gap];
-  } else {
-    ++m.RollGapCounts[item][200];
-    m.RollGapCounts[item][0] += gap;
-  }
-  m.RollsSinceLast[item] = 0;
-}
-
-struct ItemOfFaces {
-  int item;
-  int faces[2];  // exact, die 1 first; the second 0 for a single pair
-};
-const ItemOfFaces kItemsOfFaces[] = {
-    {13, {22, 0}}, {14, {33, 0}},  {15, {44, 0}},  {16, {55, 0}},  {22, {12, 0}},  {23, {21, 0}},
-    {24, {13, 0}}, {25, {31, 0}},  {26, {13, 31}}, {27, {14, 0}},  {28, {41, 0}},  {29, {23, 0}},
-    {30, {32, 0}}, {31, {14, 41}}, {32, {23, 32}}, {33, {15, 0}},  {34, {51, 0}},  {35, {24, 0}},
-    {36, {42, 0}}, {37, {15, 51}}, {38, {24, 42}}, {39, {16, 0}},  {40, {61, 0}},  {41, {25, 0}},
-    {42, {52, 0}}, {43, {34, 0}},  {44, {43, 0}},  {45, {16, 61}}, {46, {25, 52}}, {47, {34, 43}},
-    {48, {26, 0}}, {49, {62, 0}},  {50, {35, 0}},  {51, {53, 0}},  {52, {26, 62}}, {53, {35, 53}},
-    {54, {36, 0}}, {55, {63, 0}},  {56, {45, 0}},  {57, {54, 0}},  {58, {36, 63}}, {59, {45, 54}},
-    {60, {46, 0}}, {61, {64, 0}},  {62, {46, 64}}, {63, {56, 0}},  {64, {65, 0}},
-};
-
-struct ItemOfTotals {
-  int item;
-  std::vector<int> totals;
-};
-const std::vector<ItemOfTotals>& ItemsOfTotals() {
-  static const std::vector<ItemOfTotals> items = {
-      {2, {2}},
-      {3, {3}},
-      {4, {4}},
-      {5, {5}},
-      {6, {6}},
-      {7, {7}},
-      {8, {8}},
-      {9, {9}},
-      {10, {10}},
-      {11, {11}},
-      {12, {12}},
-      {17, {4, 5, 6, 8, 9, 10}},
-      {18, {5, 6, 8, 9}},
-      {19, {4, 5, 9, 10}},
-      {20, {2, 3, 12}},
-      {21, {2, 3, 4, 9, 10, 11, 12}},
-      {65, {2, 3, 7, 11, 12}},
-      {66, {2, 3, 11, 12}},
-      {67, {4, 5, 6}},
-      {68, {8, 9, 10}},
-      {69, {2, 12}},
-      {70, {3, 11}},
-      {71, {4, 10}},
-      {72, {5, 9}},
-      {73, {6, 8}},
-      {74, {2, 3}},
-      {75, {3, 12}},
-      {76, {7, 11}},
-      {77, {11, 12}},
-  };
-  return items;
-}
-
-void CountRoll(RulesModel& m) {
-  const int shooter = m.HandSeat;
-  std::vector<int> credited = {0};
-  if (shooter > 0) credited.push_back(shooter);
-  const bool opensHand = !HandHasHadARoll(m);
-  for (int seat : credited) {
-    if (opensHand) {
-      m.HandCount[seat] = 1;
-      ++m.HandCount[18 + seat];
-      ++m.HandCount[36 + seat];
-    }
-    for (int scope : kScopesKept) ++m.RollCounts[scope * 9 + seat][0];
-    for (int scope : kScopesKept) {
-      if (scope == 0 && seat == 0) continue;  // the table's own is left alone during a hand
-      int& most = m.MostRollsInHand[scope * 9 + seat];
-      most = std::max(most, m.RollCounts[seat][0]);
-    }
-  }
-  for (int seat = 0; seat <= 8; ++seat)
-    for (int scope : kScopesKept) ++m.PlayerRolls[scope * 9 + seat];
-  for (int& since : m.RollsSinceLast) ++since;
-  CountRollItem(m, 77 + m.Die1);
-  CountRollItem(m, 83 + m.Die2);
-  const int faces = m.Die1 * 10 + m.Die2;
-  for (const ItemOfFaces& item : kItemsOfFaces)
-    if (item.faces[0] == faces || item.faces[1] == faces) CountRollItem(m, item.item);
-  for (const ItemOfTotals& item : ItemsOfTotals())
-    if (std::count(item.totals.begin(), item.totals.end(), m.RollTotal) > 0) CountRollItem(m, item.item);
-}
-
 // kind: 0 a come-out roll, 1 a pass, 2 a miss.
-void CountLine(RulesModel& m, int kind, int number) {
+void CountLine(RulesModel& m, int kind) {
   int* running[3] = {&m.HandComeoutRolls, &m.HandPasses, &m.HandMisses};
   int* most[3] = {m.MostComeoutRollsInHand, m.MostPassesInHand, m.MostMissesInHand};
   ++*running[kind];
@@ -1515,51 +1134,24 @@ void CountLine(RulesModel& m, int kind, int number) {
       int& highest = most[kind][scope * 9 + seat];
       highest = std::max(highest, *running[kind]);
     }
-  for (int scope : kScopesKept) {
-    ++m.NumberCounts[scope * 9][number][kind];
-    if (m.HandSeat > 0) ++m.NumberCounts[scope * 9 + m.HandSeat][number][kind];
-  }
 }
 
 void EndHandStatistics(RulesModel& m) {
   for (int seat = 0; seat <= 8; ++seat) {
     const int last = 9 + seat;
-    for (int item = 0; item < kItems; ++item) {
-      m.RollCounts[last][item] = m.RollCounts[seat][item];
-      m.RollCounts[seat][item] = 0;
-    }
     if (seat > 0 && !m.Occupied[seat]) continue;
-    for (int number = 0; number <= 12; ++number)
-      for (int kind = 0; kind < 3; ++kind) {
-        m.NumberCounts[last][number][kind] = m.NumberCounts[seat][number][kind];
-        m.NumberCounts[seat][number][kind] = 0;
-      }
-    m.PlayerRolls[last] = m.PlayerRolls[seat];
-    m.HandCount[last] = m.HandCount[seat];
-    m.PlayerRolls[seat] = m.HandCount[seat] = 0;
-    for (int* most : {m.MostRollsInHand, m.MostComeoutRollsInHand, m.MostPassesInHand, m.MostMissesInHand}) {
+    for (int* most : {m.MostComeoutRollsInHand, m.MostPassesInHand, m.MostMissesInHand}) {
       most[last] = most[seat];
       most[seat] = 0;
     }
     if (seat == 0) continue;
-    for (int bet = 1; bet <= kLastBet; ++bet)
-      for (int kind = 1; kind <= 6; ++kind) {
-        m.WagerStats[last][bet][kind] = m.WagerStats[seat][bet][kind];
-        m.WinStats[last][bet][kind] = m.WinStats[seat][bet][kind];
-        m.LossStats[last][bet][kind] = m.LossStats[seat][bet][kind];
-        m.WagerStats[seat][bet][kind] = m.WinStats[seat][bet][kind] = m.LossStats[seat][bet][kind] = kZero;
-      }
-    for (int i = 0; i < 6; ++i) {
-      m.ComeTravelTotals[last][i] = m.ComeTravelTotals[seat][i];
-      m.ComeTravelTotals[seat][i] = kZero;
-    }
     m.BankrollBeginning[last] = m.BankrollBeginning[seat];
     m.BankrollHigh[last] = m.BankrollHigh[seat];
     m.BankrollLow[last] = m.BankrollLow[seat];
     m.BankrollCurrent[last] = m.BankrollCurrent[seat];
     m.BankrollBeginning[seat] = m.BankrollHigh[seat] = m.BankrollLow[seat] = m.BankrollCurrent[seat];
   }
-  m.HandComeoutRolls = m.HandPasses = m.HandMisses = 0;
+  m.HandRolls = m.HandComeoutRolls = m.HandPasses = m.HandMisses = 0;
 }
 
 // ---------------------------------------------------------------- the roll
@@ -1571,22 +1163,18 @@ void MakeMarks(RulesModel& m) {
   if (!tallWanted) m.NumberMarks &= ~kTall;
   if (smallWanted && m.RollTotal < 7) m.NumberMarks |= 1 << m.RollTotal;
   if (tallWanted && m.RollTotal > 7) m.NumberMarks |= 1 << m.RollTotal;
-  if (AnySeatHas(m, 87) && m.RollTotal != 7) {
-    ++m.FourRollCount;
-  } else {
-    m.FourRollCount = 0;
-  }
+  m.FourRollCount = AnySeatHas(m, 87) && m.RollTotal != 7 ? m.FourRollCount + 1 : 0;
 }
 
 void MovePoint(RulesModel& m) {
   const int total = m.RollTotal;
   if (m.Point == 0) {
-    CountLine(m, 0, total);
-    if (total == 7 || total == 11) CountLine(m, 1, total);
-    if (total == 2 || total == 3 || total == 12) CountLine(m, 2, total);
+    CountLine(m, 0);
+    if (total == 7 || total == 11) CountLine(m, 1);
+    if (total == 2 || total == 3 || total == 12) CountLine(m, 2);
     if (IsBoxNumber(total)) m.Point = total;
   } else if (total == m.Point || total == 7) {
-    CountLine(m, total == 7 ? 2 : 1, m.Point);
+    CountLine(m, total == 7 ? 2 : 1);
     m.LastPoint = m.Point;
     m.Point = 0;
   }
@@ -1641,7 +1229,7 @@ bool Roll(RulesModel& m, int die1, int die2) {
   m.Die1 = die1;
   m.Die2 = die2;
   m.RollTotal = die1 + die2;
-  CountRoll(m);
+  ++m.HandRolls;
   if (m.SmallTallEnabled) MakeMarks(m);
   MovePoint(m);
   LosingPass(m);
@@ -1652,7 +1240,6 @@ bool Roll(RulesModel& m, int die1, int die2) {
       m.BankrollHigh[slot] = std::max(m.BankrollHigh[slot], m.BankrollCurrent[slot]);
       m.BankrollLow[slot] = std::min(m.BankrollLow[slot], m.BankrollCurrent[slot]);
     }
-    m.BankrollRollSum[seat] += m.BankrollCurrent[seat];
   }
   if (m.RollTotal == 7 && m.PointBeforeRoll != 0) {
     EndHandStatistics(m);
@@ -1665,30 +1252,6 @@ bool Roll(RulesModel& m, int die1, int die2) {
   }
   if (m.Point != m.PointBeforeRoll) FollowNewPoint(m);
   return true;
-}
-
-std::string CheckModel(const RulesModel& m) {
-  std::ostringstream faults;
-  for (int seat = 1; seat <= 8; ++seat) {
-    Currency sum;
-    for (int bet = 1; bet <= kLastBet; ++bet) {
-      if (m.BetAmount[seat][bet] < kZero) faults << "seat " << seat << " bet " << bet << " below 0; ";
-      if (IsUp(m, seat, bet) && !m.Occupied[seat])
-        faults << "bet " << bet << " of empty seat " << seat << "; ";
-      sum += m.BetAmount[seat][bet];
-    }
-    for (int i = 0; i < 6; ++i) {
-      if (m.LayVigUpFront) sum += m.LayVigHeld[seat][i];
-      if (m.BuyVigUpFront) sum += m.BuyVigHeld[seat][i];
-    }
-    if (sum != m.OnTableAmount[seat])
-      faults << "seat " << seat << " on table " << PlainMoney(m.OnTableAmount[seat]) << ", up "
-             << PlainMoney(sum) << "; ";
-    if (m.BankrollCurrent[seat] != m.BankrollCurrent[18 + seat] ||
-        m.BankrollCurrent[seat] != m.BankrollCurrent[36 + seat])
-      faults << "seat " << seat << " bankroll slots differ; ";
-  }
-  return faults.str();
 }
 
 }  // namespace tessaryn::model

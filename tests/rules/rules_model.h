@@ -12,7 +12,6 @@ namespace tessaryn::model {
 inline constexpr int kSeats = 9;   // 0 the table as a whole, 1 to 8 the players
 inline constexpr int kBets = 201;  // 1 to 93 the table's bets, 100 to 199 CheckStacks
 inline constexpr int kSlots = 45;  // scope * 9 + seat
-inline constexpr int kItems = 91;  // roll items
 inline constexpr int kLastBet = 93;
 
 struct Payoff {
@@ -29,9 +28,6 @@ struct Decision {
   Currency net;
   friend bool operator==(const Decision&, const Decision&) = default;
 };
-
-// Kinds of the bet statistics.
-enum StatKind { StatCount = 1, StatTotal, StatHigh, StatLow, StatLastRoll, StatLastAmount };
 
 struct RulesModel {
   // Settings of the table.
@@ -91,31 +87,17 @@ struct RulesModel {
   bool BetFinished;
   std::vector<Decision> Decisions;  // of the last roll
 
-  // Statistics.
-  Currency WagerStats[kSlots][101][7];
-  Currency WinStats[kSlots][101][7];
-  Currency LossStats[kSlots][101][7];
-  Currency ComeTravelTotals[kSlots][6];
-  int RollCounts[kSlots][kItems];
-  int RollsSinceLast[kItems];
-  int RollGapCounts[kItems][201];
-  int HandCount[kSlots], PlayerRolls[kSlots];
-  int MostRollsInHand[kSlots], MostComeoutRollsInHand[kSlots];
+  // Hands and bankrolls by scope; bets, rolls and numbers are recounted in the tests of the statistics.
+  int MostComeoutRollsInHand[kSlots];
   int MostPassesInHand[kSlots], MostMissesInHand[kSlots];
-  int NumberCounts[kSlots][13][3];  // come-out rolls, passes, misses
-  int HandComeoutRolls, HandPasses, HandMisses;
+  int HandRolls, HandComeoutRolls, HandPasses, HandMisses;
   Currency BankrollBeginning[kSlots], BankrollCurrent[kSlots], BankrollHigh[kSlots], BankrollLow[kSlots];
-  Currency BankrollRollSum[kSeats], BankrollSessionStart[kSeats];
 };
 
-// Everything as at the first start. The struct is large: keep it on the heap.
+// An empty table; settings and payoffs are the caller's to fill in. The struct is large: keep it on the heap.
 void ResetModel(RulesModel& m);
-// The payoffs' defaults.
-void ResetPayoffs(RulesModel& m);
 // BetUnit of every record from its payoff and the betting unit; after a change of either.
 void RefreshBetUnits(RulesModel& m);
-// The Field's rows, 0 to 12, in the order of the menu of presets.
-void SetFieldPreset(RulesModel& m, int preset);
 
 void AddPlayer(RulesModel& m, int seat, Currency bankroll);
 void RemovePlayer(RulesModel& m, int seat);
@@ -131,7 +113,6 @@ Currency PlaceBet(RulesModel& m, int seat, int bet, Currency request);
 void TakeFullOdds(RulesModel& m, int seat, int bet);
 // False: the bet can't be called.
 bool CallBet(RulesModel& m, int seat, int bet, bool on);
-bool CanCallBet(int bet);
 void RemoveCall(RulesModel& m, int seat, int bet);
 // The vig's rules change, and with them the vig of every bet that is up.
 struct VigRules {
@@ -147,24 +128,5 @@ Currency VigFor(const RulesModel& m, int bet, Currency amount);
 
 // One roll with everything that follows from it. False: the roll was refused and nothing happened.
 bool Roll(RulesModel& m, int die1, int die2);
-
-// What a working bet does on a roll: -1 and -2 lose, 1 and 2 win, 0 nothing. Bets 84 to 87 and 91 to 93,
-// which hang on counts, are 0 here.
-struct RollCase {
-  int die1, die2;
-  int pointBefore;       // 0: a come-out roll
-  int pointTwoRollsAgo;  // 0: the point was set on the roll before
-  int barNumber;
-};
-int EffectOf(int bet, const RollCase& roll);
-
-// The order in which the bets are visited, each group taken seat by seat.
-using VisitOrder = std::vector<std::vector<int>>;
-VisitOrder LosersByTotal(int total);
-VisitOrder LosersAlways();
-VisitOrder WinnersByTotal(int total);
-
-// Empty, or what is inconsistent in the state.
-std::string CheckModel(const RulesModel& m);
 
 }  // namespace tessaryn::model

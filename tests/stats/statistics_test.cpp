@@ -5,6 +5,7 @@
 #include <map>
 #include <random>
 
+#include "base/bet_catalogue.h"
 #include "play/players.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"

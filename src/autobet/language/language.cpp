@@ -183,15 +183,16 @@ struct GroupEntry {
 };
 
 constexpr GroupEntry kGroups[] = {
-    {4000, 1, 6, false},    {4001, 2, 5, false},    {4002, 1, 6, true},     // lay
-    {4010, 7, 12, false},   {4011, 8, 11, false},   {4012, 7, 12, true},    // don't come
-    {4020, 13, 18, false},  {4021, 14, 17, false},  {4022, 13, 18, true},   // don't come odds
-    {4030, 19, 24, false},  {4031, 20, 23, false},  {4032, 19, 24, true},   // come
-    {4040, 25, 30, false},  {4041, 26, 29, false},  {4042, 25, 30, true},   // come odds
-    {4050, 31, 36, false},  {4051, 32, 35, false},  {4052, 31, 36, true},   // place
-    {4060, 37, 42, false},  {4061, 38, 41, false},  {4062, 37, 42, true},   // buy
-    {4070, 50, 51, false},  {4071, 52, 55, false},  {4072, 67, 83, false},  // big, hardways, hop
-    {980, 100, 199, false}, {990, 800, 899, false}, {4100, 1, 93, false},   // checkstacks, names, all bets
+    {4000, 1, 6, false},     {4001, 2, 5, false},    {4002, 1, 6, true},     // lay
+    {4010, 7, 12, false},    {4011, 8, 11, false},   {4012, 7, 12, true},    // don't come
+    {4020, 13, 18, false},   {4021, 14, 17, false},  {4022, 13, 18, true},   // don't come odds
+    {4030, 19, 24, false},   {4031, 20, 23, false},  {4032, 19, 24, true},   // come
+    {4040, 25, 30, false},   {4041, 26, 29, false},  {4042, 25, 30, true},   // come odds
+    {4050, 31, 36, false},   {4051, 32, 35, false},  {4052, 31, 36, true},   // place
+    {4060, 37, 42, false},   {4061, 38, 41, false},  {4062, 37, 42, true},   // buy
+    {4070, 50, 51, false},   {4071, 52, 55, false},  {4072, 67, 83, false},  // big, hardways, hop
+    {980, 100, 199, false},  {990, 800, 899, false},                         // checkstacks, names
+    {4100, 1, kBets, false},                                                 // all bets
 };
 
 const GroupEntry* FindGroup(int code) {
@@ -209,7 +210,7 @@ struct BetFamily {
 
 constexpr BetFamily kOptionalFamilies[] = {
     {50, 51, "Big", &ScriptSurroundings::big68},
-    {kFirstSpecialProp, kLastSpecialProp, "Small-Tall-All", &ScriptSurroundings::smallTall},
+    {kAllSmall, kSevenPoint7, "Small-Tall-All", &ScriptSurroundings::smallTall},
     {90, 90, "Midway", &ScriptSurroundings::midway},
     {93, 93, "Fire", &ScriptSurroundings::fire},
 };
@@ -258,7 +259,7 @@ bool IsBetFunction(int code) { return code >= 1 && code <= 10; }
 bool IsListFunction(int code) { return code >= 126 && code <= 133; }
 bool IsAssignableFunction(int code) { return code < 100 || code == 800; }
 
-bool IsBetVariable(int code) { return code >= 1 && code <= 93; }
+bool IsBetVariable(int code) { return IsTableBet(code); }
 
 bool IsAssignableVariable(int code) {
   if (IsBetVariable(code) || (code >= 100 && code <= 199) || (code >= 800 && code <= 999)) return true;

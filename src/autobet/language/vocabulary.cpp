@@ -1,6 +1,9 @@
 #include "autobet/language/vocabulary.h"
 
+#include <algorithm>
+
 #include "autobet/language/script_text.h"
+#include "base/bet_catalogue.h"
 
 namespace tessaryn {
 namespace {
@@ -25,6 +28,11 @@ constexpr TableLine kTable[] = {
 #undef FAMILY
 };
 
+std::string BetToken(int bet) {
+  std::string digits = std::to_string(bet);
+  return Concat({digits.size() == 1 ? "V00" : "V0", digits});
+}
+
 std::vector<VocabularyRow> BuildRows() {
   std::vector<VocabularyRow> rows;
   for (const TableLine& line : kTable) {
@@ -34,12 +42,13 @@ std::vector<VocabularyRow> BuildRows() {
                       Concat({"V", std::to_string(line.familyBase + n), line.token}), line.ends});
     }
   }
+  // A bet that has no place among the phrases has its own word.
+  for (int bet = 1; bet <= kBets; ++bet) {
+    std::string token = BetToken(bet);
+    const bool has = std::ranges::any_of(rows, [&](const VocabularyRow& row) { return row.token == token; });
+    if (!has) rows.push_back({FactsOf(bet).scriptName, std::move(token), RowEnds::kWords});
+  }
   return rows;
-}
-
-std::string BetToken(int bet) {
-  std::string digits = std::to_string(bet);
-  return Concat({digits.size() == 1 ? "V00" : "V0", digits});
 }
 
 }  // namespace
@@ -50,7 +59,7 @@ const std::vector<VocabularyRow>& VocabularyRows() {
 }
 
 std::string_view BetWord(int bet) {
-  if (bet < 1 || bet > 93) return {};
+  if (!IsTableBet(bet)) return {};
   const std::string token = BetToken(bet);
   for (const VocabularyRow& row : VocabularyRows()) {
     if (row.token == token) return row.source;
@@ -63,7 +72,7 @@ int BetFromWord(std::string_view word) {
   for (const VocabularyRow& row : VocabularyRows()) {
     if (row.source != lowered || row.token.size() != 4 || row.token[0] != 'V') continue;
     const int bet = std::stoi(row.token.substr(1));
-    return bet >= 1 && bet <= 93 ? bet : 0;
+    return IsTableBet(bet) ? bet : 0;
   }
   return 0;
 }

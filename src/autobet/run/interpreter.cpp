@@ -14,6 +14,7 @@
 #include "autobet/run/script_errors.h"
 #include "autobet/run/set_variable.h"
 #include "autobet/run/take_action.h"
+#include "base/bet_catalogue.h"
 #include "rules/bet_rules.h"
 #include "state/show_message.h"
 

@@ -43,16 +43,15 @@ int SafeChoice(bool won) { return won ? int{kWinSame} : int{kLoseTakeDown}; }
 // A bet that is cut into shares of which one wins.
 struct Shared {
   int bet;
-  int shares;
   const char* wins;
   const char* loses;
 };
 constexpr Shared kShared[] = {
-    {kCAndE, 2, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Half of the bet wins:"),
+    {kCAndE, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Half of the bet wins:"),
      QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Half of the bet loses:")},
-    {kHorn, 4, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A quarter of the bet wins:"),
+    {kHorn, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A quarter of the bet wins:"),
      QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Three quarters of the bet lose:")},
-    {kWorld, 5, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A fifth of the bet wins:"),
+    {kWorld, QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "A fifth of the bet wins:"),
      QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Four fifths of the bet lose:")},
 };
 
@@ -118,13 +117,13 @@ std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& ques
   // What was paid at the ratio, before the shares that lost and the vig were taken off.
   Currency paid = question.gross;
   if (const Shared* shared = RowOf(kShared, bet); shared != nullptr && question.won) {
-    const Currency share = Divide(amount, Currency::Dollars(shared->shares));
+    const Currency share = Divide(amount, Currency::Dollars(SharesOf(bet)));
     AddShares(*shared, amount, share, lines);
     paid += amount - share;
   }
   const Currency vig = question.won || VigUpFront(game, bet) ? question.vig : kZero;
   paid += vig;
-  const PayoffRecord& record = game.payoffs.PayoffTable[0];
+  const PayoffRecord& record = question.paidBy;
   const bool plainLoss = !question.won && record.PayTo == -record.PayPer;
   lines.push_back(
       {"lblPayoff", plainLoss ? Screen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
@@ -191,9 +190,9 @@ void SettleBetScreen::AddLines(const Game& game) {
     grid->addWidget(caption, row, 0);
     grid->addWidget(value, row++, 1);
   }
-  const QString note = question_.offOdds        ? tr("The odds weren't working: nothing was won or lost.")
-                       : game.table.BetFinished ? tr("This bet is over. It comes down with every choice.")
-                                                : QString();
+  const QString note = question_.offOdds    ? tr("The odds weren't working: nothing was won or lost.")
+                       : question_.finished ? tr("This bet is over. It comes down with every choice.")
+                                            : QString();
   if (!note.isEmpty()) {
     auto* label = new QLabel(note, area);
     label->setObjectName("lblNote");

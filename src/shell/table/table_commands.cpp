@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <memory>
 
-#include "base/bet_catalogue.h"
 #include "play/auto_roll.h"
 #include "play/script_session.h"
 #include "rules/bet_limits.h"
@@ -13,7 +12,12 @@
 #include "rules/payoffs.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
+<<<<<<< all
 #include "state/show_message.h"
+=======
+#include "state/bet_families.h"
+#include "state/game.h"
+>>>>>>> branch
 
 namespace tessaryn {
 
@@ -50,32 +54,6 @@ constexpr const char* kNextClickTexts[] = {"",
                                            QT_TRANSLATE_NOOP("TableCommands", "remove a bet"),
                                            QT_TRANSLATE_NOOP("TableCommands", "take a bet to move it")};
 
-// Where a bet's payoffs stand: in its record, or in a table of its own.
-struct PayoffRows {
-  int bet;
-  const PayoffRecord* first;
-  int count;
-};
-
-PayoffRows RowsOf(const PayoffTables& payoffs, int bet) {
-  switch (bet) {
-    case kField:
-      return {bet, payoffs.FieldPayoffs + 1, kFieldRows};
-    case kSevenPoint7:
-      return {bet, payoffs.SevenPointSevenPayoffs + 1, kSevenPointSevenRows};
-    case kMidway:
-      return {bet, payoffs.MidwayPayoffs + 1, kMidwayRows};
-    case kSharpShooter:
-      return {bet, payoffs.SharpShooterPayoffs + 1, kSharpShooterRows};
-    case kRideTheLine:
-      return {bet, payoffs.RideTheLinePayoffs + 1, kRideTheLineRows};
-    case kFire:
-      return {bet, payoffs.FirePayoffs, kFireRows + 1};
-    default:
-      return {bet, payoffs.PayoffTable + bet, 1};
-  }
-}
-
 }  // namespace
 
 void SetPendingAction(TableCommands& commands, int action) {
@@ -93,8 +71,8 @@ bool GiveUp(TableCommands& commands) {
 }
 
 bool IsContractBet(const Game& game, int seat, int bet) {
-  const bool contract = bet == kPassLine ? game.table.Point != 0 : IsComeNumber(bet) || bet == kSevenPoint7;
-  return contract && bet < 100 && game.table.BetCommitted(seat, bet) > kZero;
+  const bool contract = bet == kSevenPoint7 || UnderContract(game.table, bet);
+  return contract && game.table.BetCommitted(seat, bet) > kZero;
 }
 
 void RemoveClickedBet(Game& game, int bet) {
@@ -129,9 +107,8 @@ void MoveBet(Game& game, int from, int to) {
   const Currency amount = table.BetAmount(seat, from);
   // Tried without a word first: what the other bet refuses can't always be made anew where it was.
   const auto before = std::make_unique<const TableState>(table);
-  ++table.QuietChanges;
-  const Currency taken = -ChangeBet(game, seat, from, -amount);
-  const bool placed = taken > kZero && ChangeBet(game, seat, to, taken) > kZero;
+  const Currency taken = -ChangeBet(game, seat, from, -amount, Asking::kQuietly);
+  const bool placed = taken > kZero && ChangeBet(game, seat, to, taken, Asking::kQuietly) > kZero;
   table = *before;
   if (placed) {
     RemoveBet(game, seat, from);
@@ -151,10 +128,8 @@ void MoveBet(Game& game, int from, int to) {
 void RemoveAllBets(Game& game) {
   const int seat = game.table.SelectedSeat;
   // A contract that can't come down is left without a word for each.
-  ++game.table.QuietChanges;
   game.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet)); });
-  --game.table.QuietChanges;
+      [&](int bet) { PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet), Asking::kQuietly); });
   game.host->Changed(game, Change::kLayout);
 }
 
@@ -224,15 +199,14 @@ QString BetAmountText(const Game& game, int seat, int bet) {
 QString PayoffSummary(const Game& game, int bet) {
   if (!IsTableBet(bet)) return {};
   // Odds on the line pay by the point; before one is set there is nothing to tell.
-  if ((bet == kPassLineOdds || bet == kDontPassOdds) && game.table.Point == 0) return {};
+  if (IsOdds(bet) && FactsOf(bet).number == 0 && game.table.Point == 0) return {};
   if (bet == kCAndE) return Translated("half each as Any Craps and Eleven");
   if (bet == kHorn) return Translated("a quarter each as Two, Three, Eleven and Twelve");
   if (bet == kWorld) return Translated("a fifth each as Two, Three, Seven, Eleven and Twelve");
-  const PayoffRows rows = RowsOf(game.payoffs, bet);
   QStringList texts;
-  for (int n = 0; n < rows.count; ++n) {
-    if (rows.first[n].PayTo <= kZero) continue;
-    const QString text = FromCore(PayoffText(rows.first[n]));
+  for (const PayoffRecord& record : PayoffRowsOf(game, bet)) {
+    if (record.PayTo <= kZero) continue;
+    const QString text = FromCore(PayoffText(record));
     if (!texts.contains(text)) texts.push_back(text);
   }
   if (texts.size() > 3) return texts.front() + " ... " + texts.back();
@@ -240,16 +214,17 @@ QString PayoffSummary(const Game& game, int bet) {
 }
 
 Currency RoomFor(Game& game, int seat, int bet) {
-  ++game.table.QuietChanges;
-  Currency room = AllowedChange(game, seat, bet, kBankrollLimit);
+  const auto allowed = [&](Currency request) {
+    return AllowedChange(game, seat, bet, request, Asking::kQuietly);
+  };
+  Currency room = allowed(kBankrollLimit);
   // Corrections for the payoff may give less for less, or more where they and the betting unit don't meet;
   // what is told is given, and just that as far as any amount is.
   for (Currency given; room > kZero; room = given) {
-    given = AllowedChange(game, seat, bet, room);
+    given = allowed(room);
     if (given == room) break;
-    if (given > room && AllowedChange(game, seat, bet, given) != given) break;
+    if (given > room && allowed(given) != given) break;
   }
-  --game.table.QuietChanges;
   return std::max(room, kZero);
 }
 

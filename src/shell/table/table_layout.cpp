@@ -7,6 +7,7 @@
 
 #include "rules/bet_rules.h"
 #include "rules/payoffs.h"
+#include "state/bet_families.h"
 #include "state/settings.h"
 
 namespace tessaryn {
@@ -126,6 +127,11 @@ struct ColumnRow {
   const char* label;
   double labelHeight;  // at the top
   bool square;         // places in a square rather than in a row
+};
+
+struct LetteredBet {
+  int bet;
+  const char* label;
 };
 
 constexpr double kHalf = kColumnWidth / 2;
@@ -286,22 +292,19 @@ void AddEndFields(Builder& build) {
 }
 
 // The bets on a whole hand, at both ends.
+constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL"},
+                                     {kAllTall, "ALL TALL"},
+                                     {kMakeAll, "MAKE ALL"},
+                                     {kFourRolls, "4 ROLLS NO 7"},
+                                     {kPoint7, "POINT 7"},
+                                     {kSevenPoint7, "7 POINT 7"},
+                                     {kMidway, "MIDWAY"},
+                                     {kSharpShooter, "SHARP SHOOTER"},
+                                     {kRideTheLine, "RIDE THE LINE"},
+                                     {kFire, "FIRE"}};
+
 void AddSpecials(Builder& build) {
-  struct Special {
-    int bet;
-    const char* label;
-  };
-  constexpr Special kSpecials[] = {{kAllSmall, "ALL SMALL"},
-                                   {kAllTall, "ALL TALL"},
-                                   {kMakeAll, "MAKE ALL"},
-                                   {kFourRolls, "4 ROLLS NO 7"},
-                                   {kPoint7, "POINT 7"},
-                                   {kSevenPoint7, "7 POINT 7"},
-                                   {kMidway, "MIDWAY"},
-                                   {kSharpShooter, "SHARP SHOOTER"},
-                                   {kRideTheLine, "RIDE THE LINE"},
-                                   {kFire, "FIRE"}};
-  for (int n = 0; n < 10; ++n) {
+  for (int n = 0; n < static_cast<int>(std::size(kSpecials)); ++n) {
     const double left = 128 + (n % 2) * 55.2;
     const double top = 50 + (n / 2) * 24.6;
     EndArea area{kSpecials[n].bet, Rectangle(left, top, left + 54, top + 23.4), {}, {}};
@@ -329,8 +332,7 @@ void AddProposition(Builder& build, int bet, QRectF box, const QString& name, in
   else
     area->Labels.push_back(Letters(name, head));
   // Bets that are several in one pay as these do; a ratio of their own would mislead.
-  const bool several = bet == kCAndE || bet == kHorn || bet == kWorld;
-  if (!several) area->Labels.push_back(Letters(build.Pays(bet), foot, Ink::kSoft));
+  if (SharesOf(bet) == 1) area->Labels.push_back(Letters(build.Pays(bet), foot, Ink::kSoft));
   // Each end's seats on their side, in two rows.
   constexpr int kRow[kSeats] = {0, 1, 1, 0, 0, 1, 1, 0};
   const QRectF places =
@@ -348,15 +350,38 @@ struct DiceBet {
   int die1;
   int die2;
 };
+constexpr DiceBet kHardways[] = {{kHard4, 2, 2}, {kHard10, 5, 5}, {kHard6, 3, 3}, {kHard8, 4, 4}};
+constexpr DiceBet kHorns[] = {{kThree, 1, 2}, {kEleven, 5, 6}, {kTwo, 1, 1}, {kTwelve, 6, 6}};
+constexpr DiceBet kHops[] = {{kHop13, 1, 3}, {kHop14, 1, 4}, {kHop15, 1, 5}, {kHop16, 1, 6}, {kHop22, 2, 2},
+                             {kHop23, 2, 3}, {kHop24, 2, 4}, {kHop25, 2, 5}, {kHop26, 2, 6}, {kHop33, 3, 3},
+                             {kHop34, 3, 4}, {kHop35, 3, 5}, {kHop36, 3, 6}, {kHop44, 4, 4}, {kHop45, 4, 5},
+                             {kHop46, 4, 6}, {kHop55, 5, 5}};
+
+constexpr LetteredBet kSevenRow[] = {{kSeven, "SEVEN"}};
+constexpr LetteredBet kCrapsRow[] = {{kCraps, "ANY CRAPS"}};
+constexpr LetteredBet kSharedRow[] = {{kCAndE, "C & E"}, {kHorn, "HORN"}, {kWorld, "WORLD"}};
+constexpr LetteredBet kOverUnderRow[] = {{kUnder7, "UNDER 7"}, {kOver7, "OVER 7"}};
+
+constexpr double kMiddleLeft = 568;
+constexpr double kMiddleWidth = 111;
+
+// Bets by name side by side. Returns where they end.
+template <int kCount>
+double AddLetteredRow(Builder& build, const LetteredBet (&bets)[kCount], double top, double height) {
+  constexpr double kEach = kMiddleWidth / kCount;
+  for (int n = 0; n < kCount; ++n) {
+    const double left = kMiddleLeft + n * kEach;
+    AddProposition(build, bets[n].bet, Box(left, top, left + kEach, top + height), bets[n].label);
+  }
+  return top + height;
+}
 
 // A block of dice bets, so many in a row, from a height downwards.
 template <int kCount>
 double AddDiceBlock(Builder& build, const DiceBet (&bets)[kCount], int columns, double top, double height) {
-  constexpr double kLeft = 568;
-  constexpr double kWidth = 111;
   for (int n = 0; n < kCount; ++n) {
-    const double width = kWidth / columns;
-    const double left = kLeft + (n % columns) * width;
+    const double width = kMiddleWidth / columns;
+    const double left = kMiddleLeft + (n % columns) * width;
     const double y = top + (n / columns) * height;
     AddProposition(build, bets[n].bet, Box(left, y, left + width, y + height), {}, bets[n].die1,
                    bets[n].die2);
@@ -365,26 +390,39 @@ double AddDiceBlock(Builder& build, const DiceBet (&bets)[kCount], int columns, 
 }
 
 void AddMiddle(Builder& build) {
-  constexpr DiceBet kHardways[] = {{kHard4, 2, 2}, {kHard10, 5, 5}, {kHard6, 3, 3}, {kHard8, 4, 4}};
-  constexpr DiceBet kHorns[] = {{kThree, 1, 2}, {kEleven, 5, 6}, {kTwo, 1, 1}, {kTwelve, 6, 6}};
-  constexpr DiceBet kHops[] = {{67, 1, 3}, {68, 1, 4}, {69, 1, 5}, {70, 1, 6}, {71, 2, 2}, {72, 2, 3},
-                               {73, 2, 4}, {74, 2, 5}, {75, 2, 6}, {76, 3, 3}, {77, 3, 4}, {78, 3, 5},
-                               {79, 3, 6}, {80, 4, 4}, {81, 4, 5}, {82, 4, 6}, {83, 5, 5}};
   double y = 46;
-  AddProposition(build, kSeven, Box(568, y, 679, y + 30), "SEVEN");
-  y = AddDiceBlock(build, kHardways, 2, y + 31, 35) + 1;
+  y = AddLetteredRow(build, kSevenRow, y, 30) + 1;
+  y = AddDiceBlock(build, kHardways, 2, y, 35) + 1;
   y = AddDiceBlock(build, kHorns, 2, y, 32) + 1;
-  AddProposition(build, kCraps, Box(568, y, 679, y + 29), "ANY CRAPS");
-  y += 30;
-  AddProposition(build, kCAndE, Box(568, y, 605, y + 29), "C & E");
-  AddProposition(build, kHorn, Box(605, y, 642, y + 29), "HORN");
-  AddProposition(build, kWorld, Box(642, y, 679, y + 29), "WORLD");
-  y += 30;
-  AddProposition(build, kUnder7, Box(568, y, 623.5, y + 27), "UNDER 7");
-  AddProposition(build, kOver7, Box(623.5, y, 679, y + 27), "OVER 7");
-  y += 28;
+  y = AddLetteredRow(build, kCrapsRow, y, 29) + 1;
+  y = AddLetteredRow(build, kSharedRow, y, 29) + 1;
+  y = AddLetteredRow(build, kOverUnderRow, y, 27) + 1;
   AddDiceBlock(build, kHops, 3, y, 29.5);
 }
+
+// --- Every bet has its place.
+
+template <typename Row, std::size_t kRows>
+constexpr BetSet BetsIn(const Row (&rows)[kRows]) {
+  BetSet bets;
+  for (const Row& row : rows) bets.Add(row.bet);
+  return bets;
+}
+constexpr BetSet kNumberBets = [] {
+  BetSet bets;
+  for (const ColumnRow& row : kColumnRows) bets = bets | BetRange(row.firstBet, row.firstBet + 5);
+  return bets;
+}();
+constexpr BetSet OnFelt(Felt felt) {
+  return BetsWhere([felt](const FamilyRow& row) { return row.felt == felt; });
+}
+constexpr bool kHasPlaces =
+    kNumberBets == OnFelt(Felt::kNumbers) &&
+    (BetRange(kPassLine, kDontCome) | BetRange(kField, kBig8)) == OnFelt(Felt::kLine) &&
+    (BetsIn(kSevenRow) | BetsIn(kHardways) | BetsIn(kHorns) | BetsIn(kCrapsRow) | BetsIn(kSharedRow) |
+     BetsIn(kOverUnderRow) | BetsIn(kHops)) == OnFelt(Felt::kMiddle) &&
+    BetsIn(kSpecials) == OnFelt(Felt::kSpecials);
+static_assert(kHasPlaces, "a bet without its place on the felt");
 
 // --- The rail.
 

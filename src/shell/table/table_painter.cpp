@@ -11,6 +11,7 @@
 
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "state/bet_families.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -105,7 +106,7 @@ QColor AreaFill(const TableArea& area, const TableColors& colors) {
   if (area.Id == kPassLine || area.Id == kCome || area.Id == kField) return colors.Felt.darker(112);
   if (IsPlace(area.Id)) return colors.Felt.darker(128);
   if (area.Side == 0) return QColor(120, 22, 34);
-  if (area.Id >= kAllSmall) return QColor(22, 62, 104);
+  if (FamilyRowOf(area.Id).felt == Felt::kSpecials) return QColor(22, 62, 104);
   return Qt::transparent;
 }
 
@@ -188,7 +189,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
 int MeantBet(const Game& game, int id) {
   const TableState& table = game.table;
   const BetSet& up = table.seats[table.SelectedSeat].SeatBets;
-  if (IsDontComeOdds(id) && !up.Has(id - 6) && !up.Has(id)) return id - 6;
+  if (IsDontComeOdds(id) && !up.Has(FlatBetOf(id)) && !up.Has(id)) return FlatBetOf(id);
   if (id == kDontPass && up.Has(kDontPass) && table.Point != 0) return kDontPassOdds;
   // With both up each has its own area.
   if (IsPlace(id) && up.Has(id + 6) && !up.Has(id)) return id + 6;
