@@ -369,8 +369,6 @@ constexpr FieldRange kRanges[] = {
     {"FireCount", 0, 6},
     {"SharpShooterCount", 0, kMostCount},
     {"RideTheLineCount", 0, kMostCount},
-    {"SettlingBet", 0, kBets},
-    {"QuietChanges", 0, 0},
     {"PairCounts", 0, kMostCount},
     {"RollTotals", 0, kMostCount},
     {"ThrowsBeforeSession", 0, 1'000'000'000'000'000'000},

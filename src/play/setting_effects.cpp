@@ -9,12 +9,8 @@
 #include "rules/configuration.h"
 #include "rules/consistency.h"
 #include "rules/payoffs.h"
-<<<<<<< all
-#include "state/show_message.h"
-=======
 #include "state/bet_families.h"
-#include "state/game.h"
->>>>>>> branch
+#include "state/show_message.h"
 #include "stats/events_log.h"
 
 namespace tessaryn {
@@ -40,26 +36,13 @@ bool AnySeatHas(const Game& game, const BetSet& bets) { return game.table.AnyBet
 
 struct Family {
   bool Settings::*offered;
-<<<<<<< all
-  int first;
-  int last;
   Msg question;  // whether what is up may come down
 };
 constexpr Family kFamilies[] = {
-    {&Settings::UseBig68, kBig6, kBig8, Msg::kAskRemoveBig68},
-    {&Settings::UseFire, kFire, kFire, Msg::kAskRemoveFire},
-    {&Settings::UseMidway, kMidway, kMidway, Msg::kAskRemoveMidway},
-    {&Settings::SmallTallEnabled, kFirstSpecialProp, kLastSpecialProp, Msg::kAskRemoveSpecials},
-=======
-  const char* title;
-  const char* text;  // what is up
-};
-constexpr Family kFamilies[] = {
-    {&Settings::UseBig68, "Remove Big 6 / Big 8 Bets", "one or more bets on the Big 6 and/or Big 8"},
-    {&Settings::UseFire, "Remove Fire Bets", "one or more wagers on the Fire bet"},
-    {&Settings::UseMidway, "Remove Midway Bets", "one or more Midway bets present"},
-    {&Settings::SmallTallEnabled, "Remove Special Prop Bets", ""},
->>>>>>> branch
+    {&Settings::UseBig68, Msg::kAskRemoveBig68},
+    {&Settings::UseFire, Msg::kAskRemoveFire},
+    {&Settings::UseMidway, Msg::kAskRemoveMidway},
+    {&Settings::SmallTallEnabled, Msg::kAskRemoveSpecials},
 };
 static_assert(NeedOnly({Msg::kAskRemoveBig68, Msg::kAskRemoveFire, Msg::kAskRemoveMidway,
                         Msg::kAskRemoveSpecials},
@@ -85,20 +68,9 @@ bool SevenPoint7Rides(const Game& game) {
 bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
   const BetSet bets = BetsOfferedBy(family.offered);
   if (!AnySeatHas(game, bets)) return true;
-<<<<<<< all
-  if (IsSpecialProp(family.first) && SevenPoint7Rides(game)) {
+  if (family.offered == &Settings::SmallTallEnabled && SevenPoint7Rides(game)) {
     error = MessageText<Msg::kSpecialsAreContract>();
     ShowMessage<Msg::kSpecialsAreContract>(game);
-=======
-  const bool special = family.offered == &Settings::SmallTallEnabled;
-  error = std::string(family.title) + ": bets are up, and stay.";
-  if (special && SevenPoint7Rides(game)) {
-    error =
-        "There are currently one or more wagers on the 7 Point 7 special prop bet. Because this is a "
-        "contract "
-        "bet, you can't remove it until it resolves.";
-    ShowMessage(game, family.title, error);
->>>>>>> branch
     return false;
   }
   if (ShowMessage(game, family.question, {{"bets", NamesUp(game, bets)}}) == kResultYes) return true;

@@ -29,7 +29,6 @@ inline constexpr int kDontComeOutRow = 102;
 Advantage FigureAdvantage(const Game& game, int bet);
 // With percentage dice or with fair ones, whatever is in force.
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice);
-<<<<<<< all
 // Likewise, with or without rolls that leave the bet in place counted as decisions.
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes);
 // In dollars, for a bet of the amount that is up on every roll, at SimRollRate.
@@ -37,8 +36,6 @@ double EvPerHour(const Game& game, const Advantage& advantage, Currency amount);
 // The mean time to a decision at SimRollRate, as minutes and seconds: "00:45.2".
 std::string TimePerDecisionText(const Game& game, const Advantage& advantage);
 
-=======
->>>>>>> branch
 struct AdvantageRow {
   int bet = 0;          // 1 to 93, or one of the rows above
   std::string caption;  // "Pass/Come 4", "Passline/Come (c.o.)", "Field" ...

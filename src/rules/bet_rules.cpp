@@ -5,12 +5,8 @@
 
 #include "rules/bet_limits.h"
 #include "rules/consistency.h"
-<<<<<<< all
-#include "state/show_message.h"
-=======
 #include "state/bet_families.h"
-#include "state/game.h"
->>>>>>> branch
+#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -37,18 +33,12 @@ bool NotesShown(const Game& game, Asking asking, int bit) {
          (game.settings.MessageMask & bit) != 0;
 }
 
-<<<<<<< all
 // A note to the seat's player about a bet.
 template <Msg kId, typename... Arguments>
-void ShowNote(Game& game, int seat, int bet, int bit, const Arguments&... arguments) {
-  if (NotesShown(game, bit))
+void ShowNote(Game& game, Asking asking, int seat, int bet, int bit, const Arguments&... arguments) {
+  if (NotesShown(game, asking, bit))
     ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"bet">(BetName(bet)),
                      arguments...);
-=======
-void ShowNote(Game& game, Asking asking, int seat, int bet, int bit, const std::string& sentence) {
-  if (!NotesShown(game, asking, bit)) return;
-  ShowMessage(game, BetName(bet) + " Bet", game.table.seats[seat].SeatName + ",\r\r" + sentence);
->>>>>>> branch
 }
 
 // --- The rules of the game. A rule refuses an increase (or a decrease) of its bets when its condition
@@ -143,16 +133,11 @@ Verdict ApplyRules(Game& game, int seat, int bet, Currency& change, Asking askin
   const Currency amount = game.table.BetAmount(seat, bet);
   if (!rule.refuses({game, seat, bet, amount + change, asking})) return Verdict::kAllowed;
   // Handling that only looks at a bet again asks for nothing, so nothing is refused aloud.
-<<<<<<< all
-  if (change != kZero && NotesShown(game, kNoteRefusals))
+  if (change != kZero && NotesShown(game, asking, kNoteRefusals))
     ShowMessage(game, rule.text,
                 {{"player", game.table.seats[seat].SeatName},
                  {"bet", BetName(bet)},
                  {"flat", BetName(FlatBetOf(bet))}});
-=======
-  if (change != kZero && NotesShown(game, asking, kNoteRefusals))
-    ShowNote(game, asking, seat, bet, kNoteRefusals, RuleText(rule, bet));
->>>>>>> branch
   change = decrease ? game.table.BetCommitted(seat, bet) - amount : kZero;
   if (rule.endsCall || (decrease && change == kZero)) return Verdict::kEnds;
   return decrease ? Verdict::kAllowed : Verdict::kRefused;
@@ -177,12 +162,7 @@ void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease
     return;
   }
   change = minimum - amount;
-<<<<<<< all
-  ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
-=======
-  ShowNote(game, asking, seat, bet, kNoteRefusals,
-           "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
->>>>>>> branch
+  ShowNote<Msg::kMinimumBet>(game, asking, seat, bet, kNoteRefusals, With<"limit">(minimum));
 }
 
 void ApplyMaximum(Game& game, int seat, int bet, Currency& change, Asking asking) {
@@ -191,23 +171,11 @@ void ApplyMaximum(Game& game, int seat, int bet, Currency& change, Asking asking
   if (amount + change <= maximum) return;
   const Currency committed = game.table.BetCommitted(seat, bet);
   const bool keptByContract = IsContract(bet) && committed > maximum;
-<<<<<<< all
   if (keptByContract)
-    ShowNote<Msg::kMaximumBetButContract>(game, seat, bet, kNoteRefusals, With<"limit">(maximum),
+    ShowNote<Msg::kMaximumBetButContract>(game, asking, seat, bet, kNoteRefusals, With<"limit">(maximum),
                                           With<"contract">(committed));
   else
-    ShowNote<Msg::kMaximumBet>(game, seat, bet, kNoteRefusals, With<"limit">(maximum));
-=======
-  if (NotesShown(game, asking, kNoteRefusals)) {
-    std::string text = "The maximum " + BetName(bet) + " bet is " + Dollars(maximum);
-    if (keptByContract)
-      text += "\r\rHowever, because the " + BetName(bet) + " is a contract bet and you established it at " +
-              Dollars(committed) +
-              " before you recently lowered the maximum allowed on the Configuration screen, it must remain "
-              "unchanged until it resolves.";
-    ShowNote(game, asking, seat, bet, kNoteRefusals, text);
-  }
->>>>>>> branch
+    ShowNote<Msg::kMaximumBet>(game, asking, seat, bet, kNoteRefusals, With<"limit">(maximum));
   if (keptByContract) {
     change = committed - amount;
   } else if (change < kZero) {
@@ -262,18 +230,10 @@ void ApplyBankroll(Game& game, int seat, int bet, Currency& change, Asking askin
   const Currency minimum = MinBetFor(game, bet);
   if (change > lowest && amount + change < minimum) {
     change = lowest;
-<<<<<<< all
-    ShowNote<Msg::kMinimumBet>(game, seat, bet, kNoteRefusals, With<"limit">(minimum));
+    ShowNote<Msg::kMinimumBet>(game, asking, seat, bet, kNoteRefusals, With<"limit">(minimum));
   }
-  ShowNote<Msg::kBankrollTooSmall>(game, seat, bet, kNoteBankroll,
+  ShowNote<Msg::kBankrollTooSmall>(game, asking, seat, bet, kNoteBankroll,
                                    With<"others">(HasOtherBets(game, seat, bet)));
-=======
-    ShowNote(game, asking, seat, bet, kNoteRefusals,
-             "The minimum " + BetName(bet) + " bet is " + Dollars(minimum));
-  }
-  if (NotesShown(game, asking, kNoteBankroll))
-    ShowNote(game, asking, seat, bet, kNoteBankroll, BankrollText(game, seat, bet));
->>>>>>> branch
 }
 
 Currency RoundChange(Currency change, Currency unit) {
@@ -289,18 +249,11 @@ void ApplyVig(Game& game, int seat, int bet, Asking asking) {
   if (vig == held) return;
   if (VigUpFront(game, bet)) game.table.seats[seat].OnTableAmount += vig - held;
   held = vig;
-<<<<<<< all
   if (vig == kZero) return;
   if (VigUpFront(game, bet))
-    ShowNote<Msg::kVigCharged>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
+    ShowNote<Msg::kVigCharged>(game, asking, seat, bet, kNoteAdjusted, With<"vig">(vig));
   else
-    ShowNote<Msg::kVigOnWin>(game, seat, bet, kNoteAdjusted, With<"vig">(vig));
-=======
-  if (!NotesShown(game, asking, kNoteAdjusted) || vig == kZero) return;
-  ShowNote(
-      game, asking, seat, bet, kNoteAdjusted,
-      (VigUpFront(game, bet) ? "Total vig charge " : "If you win, the vig charge will be ") + Dollars(vig));
->>>>>>> branch
+    ShowNote<Msg::kVigOnWin>(game, asking, seat, bet, kNoteAdjusted, With<"vig">(vig));
 }
 
 Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change, Asking asking) {
@@ -309,20 +262,10 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change, Asking
   Currency allowed = wanted;
   if (wanted.IsError()) allowed = change < kZero ? -kStackLimit : kStackLimit;
   allowed = std::clamp(allowed, -kStackLimit, kStackLimit);
-<<<<<<< all
   if (allowed != wanted)
-    ShowNote<Msg::kStackAtLimit>(game, seat, bet, kNoteRefusals, With<"least">(change < kZero),
+    ShowNote<Msg::kStackAtLimit>(game, asking, seat, bet, kNoteRefusals, With<"least">(change < kZero),
                                  With<"limit">(change < kZero ? -kStackLimit : kStackLimit),
                                  With<"already">(allowed == value));
-=======
-  if (allowed != wanted && NotesShown(game, asking, kNoteRefusals)) {
-    const bool least = change < kZero;
-    ShowNote(game, asking, seat, bet, kNoteRefusals,
-             std::string(least ? "The minimum" : "The maximum") + " CheckStack value is: $" +
-                 FormatMoney(least ? -kStackLimit : kStackLimit) + "\r\r" + BetName(bet) + "\r" +
-                 (allowed == value ? "which is already stacked." : "which is being stacked."));
-  }
->>>>>>> branch
   SetBetAmount(game, seat, bet, allowed);
   return allowed - value;
 }
@@ -369,11 +312,7 @@ Currency DecideChange(Game& game, int seat, int bet, Currency request, Asking as
   const bool decrease = change < kZero;
   const bool increase = change > kZero;
   if (increase && kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet)) {
-<<<<<<< all
-    ShowNote<Msg::kBetNotOffered>(game, seat, bet, kNoteRefusals);
-=======
-    ShowNote(game, asking, seat, bet, kNoteRefusals, "Table not configured for " + BetName(bet) + " bets.");
->>>>>>> branch
+    ShowNote<Msg::kBetNotOffered>(game, asking, seat, bet, kNoteRefusals);
     return kZero;
   }
   const Verdict verdict = ApplyRules(game, seat, bet, change, asking);
@@ -549,15 +488,9 @@ void Call(Game& game, int seat, int bet, bool on) {
 }  // namespace
 
 bool CallBet(Game& game, int seat, int bet, bool on) {
-<<<<<<< all
-  if (!IsTableBet(bet) || !FactsOf(bet).callable) {
-    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
-      ShowMessage<Msg::kNotCallable>(game, With<"bet">(BetName(bet)));
-=======
   if (!IsTableBet(bet) || !kCallableBets.Has(bet)) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning)
-      ShowMessage(game, "Action not allowed", "You may not call the " + BetName(bet) + " bet ON or OFF.");
->>>>>>> branch
+      ShowMessage<Msg::kNotCallable>(game, With<"bet">(BetName(bet)));
     return false;
   }
   Call(game, seat, bet, on);
@@ -579,13 +512,7 @@ void RemoveCall(Game& game, int seat, int bet) {
 bool BuyPlaceBet(Game& game, int seat, int bet) {
   const Currency amount = IsPlace(bet) ? game.table.BetAmount(seat, bet) : kZero;
   if (amount == kZero) {
-<<<<<<< all
-    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning && game.table.QuietChanges == 0)
-      ShowMessage<Msg::kOnlyPlaceBetsBuy>(game);
-=======
-    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning)
-      ShowMessage(game, "Action not allowed", "You may only buy Place bets.");
->>>>>>> branch
+    if (!game.table.TurboRollActive && !game.autobet.ScriptRunning) ShowMessage<Msg::kOnlyPlaceBetsBuy>(game);
     return IsPlace(bet);
   }
   const int call = BetWorkingOf(game, seat, bet);

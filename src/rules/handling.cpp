@@ -3,13 +3,9 @@
 #include "base/bet_catalogue.h"
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
-<<<<<<< all
-#include "state/show_message.h"
-=======
 #include "rules/payoffs.h"
 #include "state/bet_families.h"
-#include "state/game.h"
->>>>>>> branch
+#include "state/show_message.h"
 
 namespace tessaryn {
 
@@ -44,10 +40,8 @@ constexpr int kAdjustNotes = 4;
 
 Currency AmountUp(const Game& game, int seat, int bet) { return game.table.BetAmount(seat, bet); }
 
-<<<<<<< all
 bool NotesShown(const Game& game) {
-  return !game.table.TurboRollActive && game.table.QuietChanges == 0 &&
-         (game.settings.MessageMask & kAdjustNotes) != 0;
+  return !game.table.TurboRollActive && (game.settings.MessageMask & kAdjustNotes) != 0;
 }
 
 // The note of an action, at its last change. action: what it is called; only formed when somebody can read
@@ -70,21 +64,6 @@ static_assert(NeedOnly({Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRem
 
 void ShowActionNote(Game& game, int seat, int bet, Msg action) {
   ShowActionNote(game, seat, bet, [action] { return MessageText(action); });
-=======
-// The note of an action, at its last change. Only formed when somebody can read it.
-void ShowActionNote(Game& game, int seat, int bet, const std::string& title) {
-  const TableState& table = game.table;
-  if (table.TurboRollActive || (game.settings.MessageMask & kAdjustNotes) == 0) return;
-  const Currency difference = AmountUp(game, seat, bet) - table.BetBeforeRoll(seat, bet);
-  std::string text = table.seats[seat].SeatName + ",\r\r" + BetName(bet) + " bet ";
-  if (difference > kZero)
-    text += "increased by: $" + FormatMoney(difference);
-  else if (difference < kZero)
-    text += "decreased by: $" + FormatMoney(-difference);
-  else
-    text += "remains the same.";
-  ShowMessage(game, title, text);
->>>>>>> branch
 }
 
 // An increase. One that the rules refuse leaves the bet as it is, which the bankroll must cover still.
@@ -112,15 +91,9 @@ void BetRemainder(Game& game, int seat, int bet, Currency net) {
   ShowActionNote(game, seat, bet, Msg::kActionRemainder);
 }
 
-<<<<<<< all
-void PressOneUnit(Game& game, int seat, int bet) {
-  Raise(game, seat, bet, game.table.PressUnit);
-  ShowActionNote(game, seat, bet, Msg::kActionPressUnit);
-=======
 void PressOneUnit(Game& game, int seat, int bet, Currency unit) {
   Raise(game, seat, bet, unit);
-  ShowActionNote(game, seat, bet, "Press 1 Unit");
->>>>>>> branch
+  ShowActionNote(game, seat, bet, Msg::kActionPressUnit);
 }
 
 void PressDouble(Game& game, int seat, int bet) {

@@ -53,14 +53,9 @@ void RecordAllEvents(EventsLog& log, bool on);
 // --- The lines of each event, in their groups.
 void LogSessionStart(Game& game);
 void LogChangesBeforeRoll(Game& game);
-<<<<<<< all
 enum class RollSource { kPad, kFile, kGenerator };
 void LogRoll(Game& game, RollSource source);
-void LogWinOrLoss(Game& game, int seat, int bet);
-=======
-void LogRoll(Game& game, const char* sourcePrefix);
 void LogWinOrLoss(Game& game, int seat, int bet, Currency net);
->>>>>>> branch
 void LogBetMoved(Game& game, int seat, int fromBet, int toBet);
 void LogBankrollChanges(Game& game);
 void LogHandEnd(Game& game);

@@ -1,8 +1,8 @@
-#include "base/bet_catalogue.h"
 #include "rules/bet_rules.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
 #include "shell/table/table_widget.h"
+#include "state/bet_families.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -12,14 +12,14 @@ const BetSet& BetsUp(const Desk& desk) {
   return desk.game.table.seats[desk.game.table.SelectedSeat].SeatBets;
 }
 
-bool HasCallableBet(const Desk& desk) { return HasPlayer(desk) && BetsUp(desk).Meets(CallableBets()); }
+bool HasCallableBet(const Desk& desk) { return HasPlayer(desk) && BetsUp(desk).Meets(kCallableBets); }
 
-bool HasLineOrCome(const Desk& desk, int line, int come4) {
-  return HasPlayer(desk) && ((BetsUp(desk).Has(line) && desk.game.table.Point != 0) ||
-                             BetsUp(desk).Meets(BetRange(come4, come4 + 5)));
+bool HasLineOrCome(const Desk& desk, int line, FamilyId family) {
+  return HasPlayer(desk) &&
+         ((BetsUp(desk).Has(line) && desk.game.table.Point != 0) || BetsUp(desk).Meets(BetsOf(family)));
 }
-bool CanTakeOdds(const Desk& desk) { return HasLineOrCome(desk, kPassLine, kCome4); }
-bool CanLayOdds(const Desk& desk) { return HasLineOrCome(desk, kDontPass, kDontCome4); }
+bool CanTakeOdds(const Desk& desk) { return HasLineOrCome(desk, kPassLine, FamilyId::kComeNumber); }
+bool CanLayOdds(const Desk& desk) { return HasLineOrCome(desk, kDontPass, FamilyId::kDontComeNumber); }
 
 bool KeysInAmounts(const Desk& desk) { return desk.commands.BetAmountMode == kKeyInAmounts; }
 

@@ -34,12 +34,7 @@
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/turbo_panel.h"
-<<<<<<< all
 #include "state/show_message.h"
-=======
-#include "state/bet_families.h"
-#include "state/game.h"
->>>>>>> branch
 
 namespace tessaryn {
 
@@ -209,42 +204,6 @@ void MainWindow::RunCommand(const CommandRow& command) {
   RefreshCommands();
 }
 
-<<<<<<< all
-=======
-// --- When a command can act.
-
-bool MainWindow::Free() const { return !game_.table.RollInProgress || game_.table.AutoRollActive; }
-bool MainWindow::HasPlayer() const { return Free() && IsOccupied(game_.table, game_.table.SelectedSeat); }
-bool MainWindow::HasBets() const {
-  return HasPlayer() && !game_.table.seats[game_.table.SelectedSeat].SeatBets.Empty();
-}
-bool MainWindow::HasCallableBet() const {
-  return HasPlayer() && game_.table.seats[game_.table.SelectedSeat].SeatBets.Meets(kCallableBets);
-}
-bool MainWindow::HasOpenPlace() const { return Free() && game_.table.OccupiedSeats < kSeats; }
-bool MainWindow::CanMove() const { return HasPlayer() && HasOpenPlace(); }
-bool MainWindow::CanPass() const { return Free() && game_.table.OccupiedSeats > 0; }
-bool MainWindow::CanAtm() const { return HasPlayer() && game_.settings.AtmEnabled; }
-bool MainWindow::CanTakeOdds() const {
-  const BetSet& up = game_.table.seats[game_.table.SelectedSeat].SeatBets;
-  return HasPlayer() &&
-         ((up.Has(kPassLine) && game_.table.Point != 0) || up.Meets(BetsOf(FamilyId::kComeNumber)));
-}
-bool MainWindow::CanLayOdds() const {
-  const BetSet& up = game_.table.seats[game_.table.SelectedSeat].SeatBets;
-  return HasPlayer() &&
-         ((up.Has(kDontPass) && game_.table.Point != 0) || up.Meets(BetsOf(FamilyId::kDontComeNumber)));
-}
-bool MainWindow::HasScript() const {
-  return HasPlayer() && !game_.autobet.Scripts[game_.table.SelectedSeat].ScriptLines.empty();
-}
-bool MainWindow::ScriptsRun() const { return game_.autobet.ScriptRunning || game_.autobet.ScriptActive[0]; }
-bool MainWindow::AnyScript() const { return Free() && game_.autobet.ScriptActive[0]; }
-bool MainWindow::HasProbabilities() const { return Free(); }
-bool MainWindow::RollFileOpen() const { return Free() && IsRollFileOpen(game_.rollFile); }
-bool MainWindow::CanToggle() const { return game_.table.AutoRollActive || !game_.table.RollInProgress; }
-
->>>>>>> branch
 void MainWindow::RefreshSoon() {
   if (refreshPending_) return;
   refreshPending_ = true;

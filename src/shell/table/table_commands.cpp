@@ -12,12 +12,8 @@
 #include "rules/payoffs.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
-<<<<<<< all
-#include "state/show_message.h"
-=======
 #include "state/bet_families.h"
-#include "state/game.h"
->>>>>>> branch
+#include "state/show_message.h"
 
 namespace tessaryn {
 
