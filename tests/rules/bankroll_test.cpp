@@ -17,38 +17,22 @@ struct AtmCase {
   bool deposit = true;
   const char* amount;
   const char* allowed;
-<<<<<<< all
-  bool fromConfiguration;
+  bool fromConfiguration = false;
   Msg said = Msg::kNone;
 };
 
 TEST(Bankroll, TheAtmMovesWhatIsAllowedAndSaysWhyNotMore) {
   const AtmCase cases[] = {
-      {"500", "", false, true, "500", "500", false},
-      {"500", "", false, true, "501", "500", false, Msg::kDepositNegative},
-      {"500", "", false, true, "1000", "500", true, Msg::kDepositNegative},
-      {"500", "40", false, true, "461", "460", false, Msg::kDepositBelowWagers},
-      {"40", "40", false, true, "10", "0", false, Msg::kDepositBelowWagers},
-      {"500", "", true, true, "10000499", "10000499", false},
-      {"500", "", true, true, "10000500", "10000499", false, Msg::kDepositBelowLimit},
-      {"500", "", false, false, "9999499", "9999499", false},
-      {"500", "", false, false, "9999499.5", "9999499", false, Msg::kWithdrawalAboveLimit},
-      {"500", "", false, false, "0", "0", false},
-=======
-};
-
-TEST(Bankroll, TheAtmMovesWhatIsAllowedAndTellsWhereThatIsLess) {
-  const AtmCase cases[] = {
       {.amount = "500", .allowed = "500"},
-      {.amount = "501", .allowed = "500"},
-      {.bet = "40", .amount = "461", .allowed = "460"},
-      {.bankroll = "40", .bet = "40", .amount = "10", .allowed = "0"},
+      {.amount = "501", .allowed = "500", .said = Msg::kDepositNegative},
+      {.amount = "1000", .allowed = "500", .fromConfiguration = true, .said = Msg::kDepositNegative},
+      {.bet = "40", .amount = "461", .allowed = "460", .said = Msg::kDepositBelowWagers},
+      {.bankroll = "40", .bet = "40", .amount = "10", .allowed = "0", .said = Msg::kDepositBelowWagers},
       {.negativeAllowed = true, .amount = "10000499", .allowed = "10000499"},
-      {.negativeAllowed = true, .amount = "10000500", .allowed = "10000499"},
+      {.negativeAllowed = true, .amount = "10000500", .allowed = "10000499", .said = Msg::kDepositBelowLimit},
       {.deposit = false, .amount = "9999499", .allowed = "9999499"},
-      {.deposit = false, .amount = "9999499.5", .allowed = "9999499"},
+      {.deposit = false, .amount = "9999499.5", .allowed = "9999499", .said = Msg::kWithdrawalAboveLimit},
       {.deposit = false, .amount = "0", .allowed = "0"},
->>>>>>> branch
   };
   for (const AtmCase& c : cases) {
     SCOPED_TRACE(std::string(c.bankroll) + (c.deposit ? " deposit " : " withdraw ") + c.amount);
@@ -58,21 +42,18 @@ TEST(Bankroll, TheAtmMovesWhatIsAllowedAndTellsWhereThatIsLess) {
     table.State().seats[1].AllowNegativeBankroll = c.negativeAllowed;
     table.host.boxes.clear();
     const Currency before = table.State().BankrollCurrent[1];
-    EXPECT_EQ(AtmTransaction(*table.game, 1, c.deposit, Money(c.amount)), Money(c.allowed));
+    EXPECT_EQ(AtmTransaction(*table.game, 1, c.deposit, Money(c.amount), c.fromConfiguration),
+              Money(c.allowed));
     const Currency moved = table.State().BankrollCurrent[1] - before;
     EXPECT_EQ(moved, c.deposit ? -Money(c.allowed) : Money(c.allowed));
     for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})
       EXPECT_EQ(table.game->stats.AtmTotal[Slot(scope, 1)], moved);
-<<<<<<< all
     EXPECT_TRUE(table.host.Said(c.said));
     if (c.said != Msg::kNone) {
       EXPECT_TRUE(table.host.Said(c.said, {{"requested", Money(c.amount)},
                                            {"allowed", Money(c.allowed)},
                                            {"elsewhere", !c.fromConfiguration}}));
     }
-=======
-    ASSERT_EQ(table.host.boxes.size(), Money(c.allowed) == Money(c.amount) ? 0u : 1u);
->>>>>>> branch
     table.Check("the ATM");
   }
 }

@@ -36,10 +36,7 @@ TEST(CheckStacksTest, FourDifferentStacksAreVisible) {
   table.Join(3, "Ann");
   ASSERT_TRUE(SetVisibleStacks(*table.game, 3, {0, 99, 5, 6}));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {1, 2, 3, 1}));
-<<<<<<< all
   EXPECT_TRUE(table.host.Said(Msg::kStacksNotDifferent));
-=======
->>>>>>> branch
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {1, 2, 3, 100}));
   EXPECT_FALSE(SetVisibleStacks(*table.game, 3, {-1, 2, 3, 4}));
   const int kept[] = {0, 99, 5, 6};

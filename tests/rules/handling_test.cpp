@@ -86,12 +86,9 @@ void ExpectChoice(TestTable& table, const ChoiceCase& c) {
   EXPECT_EQ(table.State().BetAmount(1, c.bet), Money(c.after));
   std::vector<test::ShownBox> notes;
   for (const test::ShownBox& box : table.host.boxes)
-<<<<<<< all
-    if (box.id == Msg::kBetIncreasedBy || box.id == Msg::kBetDecreasedBy || box.id == Msg::kBetRemains)
+    if ((box.id == Msg::kBetIncreasedBy || box.id == Msg::kBetDecreasedBy || box.id == Msg::kBetRemains) &&
+        test::Says(box, box.id, {{"bet", BetName(c.bet)}}))
       notes.push_back(box);
-=======
-    if (box.text.starts_with("Ann,\r\r" + BetName(c.bet) + " bet ")) notes.push_back(box);
->>>>>>> branch
   ASSERT_EQ(notes.size(), *c.title == 0 ? 0u : 1u);
   if (*c.title == 0) return;
   const Currency change = Money(c.after) - Money(c.amount);
@@ -112,7 +109,7 @@ TEST(Handling, TheDialogsAnswerIsCarriedOutAndAStoredChoiceDoesTheSame) {
       PrepareFor(table, c);
       Handling& handling = table.State().seats[1].handling;
       if (stored) handling.WinHandling = handling.LoseHandling = c.answer.choice;
-      for (int slot = 4; slot < 8; ++slot) {
+      for (int slot = 4; stored && slot < 8; ++slot) {
         handling.AdjustKind[slot] = c.answer.adjustKind;
         handling.AdjustValue[slot] = c.answer.adjustValue;
         handling.AdjustUnit[slot] = c.answer.adjustUnit;

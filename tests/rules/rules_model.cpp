@@ -1,8 +1,4 @@
-<<<<<<< all
-#include "rules_model.h"
-=======
 #include "rules/rules_model.h"
->>>>>>> branch
 
 #include <algorithm>
 #include <cstdlib>
