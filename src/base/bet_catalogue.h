@@ -205,6 +205,12 @@ inline constexpr auto kShares = [] {
   return shares;
 }();
 
+inline constexpr auto kFamilyOf = [] {
+  std::array<FamilyId, kBets + 1> families{};
+  for (int bet = 1; bet <= kBets; ++bet) families[bet] = kRows[bet].family;
+  return families;
+}();
+
 struct Span {
   int first = 0;
   int last = -1;
@@ -223,7 +229,7 @@ constexpr Span SpanOf(FamilyId family) {
 
 // The facts of bet 1 to 93; those of any other number are empty.
 constexpr const BetFacts& FactsOf(int bet) { return bet_rows::kRows[IsTableBet(bet) ? bet : 0]; }
-constexpr FamilyId FamilyOf(int bet) { return FactsOf(bet).family; }
+constexpr FamilyId FamilyOf(int bet) { return IsTableBet(bet) ? bet_rows::kFamilyOf[bet] : FamilyId::kNone; }
 
 // The bets of a family.
 constexpr BetSet BetsOf(FamilyId family) {

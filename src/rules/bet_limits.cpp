@@ -26,8 +26,8 @@ Currency AmountThatWins(const Game& game, Currency limit, const PayoffRecord& re
 }
 
 // The same, figured anew only when the limit, the betting unit or the payoff is another.
-inline const KeptMaximum& KeptAmount(const Game& game, std::size_t place, Currency limit,
-                                     const PayoffRecord& record) {
+[[gnu::always_inline]] inline const KeptMaximum& KeptAmount(const Game& game, std::size_t place,
+                                                            Currency limit, const PayoffRecord& record) {
   KeptMaximum& kept = game.maximums.of[place];
   const Currency unit = game.settings.Unit();
   // A record that can't win asks for another limit.
@@ -232,14 +232,24 @@ Currency LayVigFor(const Game& game, int bet, Currency amount) {
 
 }  // namespace
 
-Currency MinBetFor(const Game& game, int bet) { return game.settings.*FamilyRowOf(bet).minimum; }
+// What of the families' rows is asked of every bet on every roll, by bet.
+constexpr BetSet kMainBets =
+    BetsWhere([](const FamilyRow& row) { return row.minimum == &Settings::MinBetMain; });
+constexpr BetSet kWinOfPropBets =
+    BetsWhere([](const FamilyRow& row) { return row.maximum == Maximum::kWinOfProp; });
+static_assert(kMainBets == Without(kAllTableBets, BetsWhere([](const FamilyRow& row) {
+                                     return row.minimum == &Settings::MinBetProp;
+                                   })));
+
+Currency MinBetFor(const Game& game, int bet) {
+  return kMainBets.Has(bet) ? game.settings.MinBetMain : game.settings.MinBetProp;
+}
 
 Currency MaxBetFor(const Game& game, int seat, int bet) {
   const Settings& settings = game.settings;
+  if (kWinOfPropBets.Has(bet)) return KeptProposition(game, bet).whole;
   const FamilyRow& family = FamilyRowOf(bet);
   switch (family.maximum) {
-    case Maximum::kWinOfProp:
-      return KeptProposition(game, bet).whole;
     case Maximum::kWinOfTable:
       return KeptAmount(game, static_cast<std::size_t>(bet), settings.MaxBet, game.payoffs.PayoffTable[bet])
           .whole;
@@ -253,10 +263,9 @@ Currency MaxBetFor(const Game& game, int seat, int bet) {
       return WholeUnits(game, MaxOddsOnFlat(game, seat, bet, true));
     case Maximum::kFire:
       return WholeUnits(game, settings.MaxFireBet);
-    case Maximum::kTable:
-      break;
+    default:
+      return WholeUnits(game, settings.MaxBet);
   }
-  return WholeUnits(game, settings.MaxBet);
 }
 
 Currency VigFor(const Game& game, int bet, Currency amount) {
