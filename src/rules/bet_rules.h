@@ -49,8 +49,8 @@ void RemoveCall(Game& game, int seat, int bet);
 // BetWorking as a bet that has come down has it.
 void ResetBetWorking(Game& game, int seat, int bet);
 int BetWorkingOf(const Game& game, int seat, int bet);
-// The Place bet's amount goes to the Buy bet of its number; a call goes with it. A box where there is no Place
-// bet; false for any other bet.
+// The Place bet's amount goes to the Buy bet of its number; a call goes with it. A box where there is no
+// Place bet; false for any other bet.
 bool BuyPlaceBet(Game& game, int seat, int bet);
 
 // All bets of a family down, without contract or questions: the table no longer offers them.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <random>
 
@@ -282,6 +283,24 @@ void ExpectRolls(const Game& game, const Journal& journal) {
     }
 }
 
+// The rolls of the session between one coming of an item and the next.
+void ExpectGaps(const Game& game, const Journal& journal) {
+  for (int item = 0; item < kRollItems; ++item) {
+    std::int32_t gaps[kGapCells] = {};
+    std::int32_t since = 0;
+    for (const RollRecord& r : journal.rolls) {
+      if (r.session != journal.session) continue;
+      ++since;
+      if (item != 0 && !ItemHasPair(item, r.die1, r.die2)) continue;
+      if (since >= 200) gaps[0] += since;
+      ++gaps[std::min(since, 200)];
+      since = 0;
+    }
+    ASSERT_EQ(RollsSinceLast(game.stats, item), since) << RollItemName(item);
+    ASSERT_TRUE(std::ranges::equal(game.stats.RollGapCounts[item], gaps)) << RollItemName(item);
+  }
+}
+
 class RandomGame {
  public:
   explicit RandomGame(unsigned seed) : random_(seed) {
@@ -375,11 +394,13 @@ TEST(StatisticsRandom, EveryScopeAgreesWithARecountOfTheGame) {
       random.Play(rolls);
       ExpectBets(*random.Table().game, random.Written());
       ExpectRolls(*random.Table().game, random.Written());
+      ExpectGaps(*random.Table().game, random.Written());
       if (testing::Test::HasFatalFailure()) return;
       random.NextSession();
       random.Table().Check("a new session");
       ExpectBets(*random.Table().game, random.Written());
       ExpectRolls(*random.Table().game, random.Written());
+      ExpectGaps(*random.Table().game, random.Written());
       if (testing::Test::HasFatalFailure()) return;
     }
   }
