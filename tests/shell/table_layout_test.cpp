@@ -10,6 +10,7 @@
 #include "rules/bet_rules.h"
 #include "shell/table/table_painter.h"
 #include "shell_table.h"
+#include "state/bet_families.h"
 
 namespace tessaryn {
 namespace {
