@@ -8,8 +8,8 @@
 #include <iterator>
 
 #include "base/bet_catalogue.h"
-#include "cli/report_command.h"
 #include "base/messages.h"
+#include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
 #include "dice/generators.h"
