@@ -133,31 +133,6 @@ TEST(OldScript, GainsBlockEndsAndNoLinesForSilentRecords) {
   }
 }
 
-TEST(OldScript, RewritesStatementsIntoThePresentLanguage) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"when pass line wins and when seven rolls then",
-       "If 'When PassLine wins and 'and when seven rolls then"},
-      {"while bankroll > 5 or while don't pass odds is 5", "If bankroll > 5 Or DontPassOdds is 5"},
-      {"while 1 xor while 0 xor when x", "If 1 Xor 0 Xor 'xor when x"},
-      {"show steps 'when and while don't pass line", "show steps 'when and while don't pass line"},
-      {"set come 4 odds to value of place ref #3", "ComeOdds4 to place(CheckStack3)"},
-      {"stack #5 = stack01", "CheckStack5 = CheckStack1"},
-      {"chip-stack5 is not named \"abc\"", "CheckStackName5 <> \"abc\""},
-      {"chip stack 5 is named \"abc\"", "CheckStackName 5 = \"abc\""},
-      {"highest of place bets on field", "highest(place bets) on field"},
-      {"bet lowest of place 4, lay 10 to field", "bet lowest(Place4, Lay10) to field"},
-      {"average of place bets", "average(place bets)"},
-      {"reset cs1", "'Reset cs1"},
-      {"close file", "'Close file"},
-      {"if any flag then", "if 'any flag then"},
-      {"PASS-LINE odds", "PassLineOdds"},
-      {"50 % of # rolls", "50% of #rolls"},
-      {"", ""},
-      {"'", "'"},
-  };
-  for (const auto& [old, present] : cases) EXPECT_EQ(ConvertOldStatement(old), present);
-}
-
 // Each bet family as it used to be written must be a bet of the present language.
 TEST(OldScript, JoinsTheNamesOfAllBets) {
   const std::pair<const char*, const char*> families[] = {{"lay %", "lay%"},
@@ -178,31 +153,6 @@ TEST(OldScript, JoinsTheNamesOfAllBets) {
       EXPECT_EQ(Lowered(ConvertOldStatement(filled(old, number))), filled(present, number));
     }
   }
-  const std::pair<const char*, const char*> singles[] = {{"pass line", "passline"},
-                                                         {"pass line odds", "passlineodds"},
-                                                         {"don't pass", "dontpass"},
-                                                         {"don't pass odds", "dontpassodds"},
-                                                         {"don't come", "dontcome"},
-                                                         {"big 6", "big6"},
-                                                         {"big 8", "big8"},
-                                                         {"hard 4", "hard4"},
-                                                         {"hardway 10", "hard10"},
-                                                         {"hard way 8", "hard8"},
-                                                         {"c and e", "cande"},
-                                                         {"over 7", "over7"},
-                                                         {"under 7", "under7"},
-                                                         {"hop 3-4", "hop34"},
-                                                         {"hop 1 1", "hop11"},
-                                                         {"all small", "allsmall"},
-                                                         {"all tall", "alltall"},
-                                                         {"make all", "makeall"},
-                                                         {"4 rolls no 7", "4rollsno7"},
-                                                         {"7 point 7", "7point7"},
-                                                         {"point 7", "point7"},
-                                                         {"sharp shooter", "sharpshooter"},
-                                                         {"ride the line", "ridetheline"},
-                                                         {"field", "field"}};
-  for (const auto& [old, present] : singles) EXPECT_EQ(Lowered(ConvertOldStatement(old)), present);
 }
 
 TEST(OldScript, SurvivesEveryTruncationAndRandomDamage) {

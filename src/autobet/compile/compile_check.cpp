@@ -3,6 +3,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_spans.h"
 #include "base/interrupts.h"
@@ -77,9 +78,6 @@ std::vector<Items> SplitAtCommas(const Items& items) {
 // The reduction of one span by its operators, each pass from left to right. The messages are those of the
 // first operator that can't be applied; empty when all could.
 
-constexpr const char* kMathMessage = "Unable to perform requested math.";
-constexpr const char* kStringMathMessage = "Improper use of arithmetic operator.";
-
 std::string ReducePower(Items& items) {
   Items done;
   for (std::size_t i = 0; i < items.size(); ++i) {
@@ -93,10 +91,10 @@ std::string ReducePower(Items& items) {
       ++i;
     }
     if (done.empty() || !IsValue(done.back()) || i + 1 == items.size() || !IsValue(items[i + 1])) {
-      return kMathMessage;
+      return CompileErrorText(CompileError::kMath);
     }
     ++i;
-    if (negative && !IsNumber(items[i])) return kStringMathMessage;
+    if (negative && !IsNumber(items[i])) return CompileErrorText(CompileError::kArithmetic);
     done.back() = {Shape::kNumber, 0};
   }
   items = std::move(done);
@@ -112,9 +110,9 @@ std::string ReduceSign(Items& items) {
       continue;
     }
     while (i + 1 < items.size() && IsOperator(items[i + 1], kTokenMinus)) ++i;
-    if (i + 1 == items.size() || !IsValue(items[i + 1])) return kMathMessage;
+    if (i + 1 == items.size() || !IsValue(items[i + 1])) return CompileErrorText(CompileError::kMath);
     ++i;
-    if (!IsNumber(items[i])) return kStringMathMessage;
+    if (!IsNumber(items[i])) return CompileErrorText(CompileError::kArithmetic);
     done.push_back({Shape::kNumber, 0});
   }
   items = std::move(done);
@@ -133,29 +131,30 @@ Sides SidesOf(const Items& items, std::size_t i, const Items& done) {
 }
 
 std::string MathProblem(const Sides& sides) {
-  if (sides.left == nullptr || sides.right == nullptr) return kMathMessage;
-  if (sides.left->shape == Shape::kString || sides.right->shape == Shape::kString) return kStringMathMessage;
-  return IsNumber(*sides.left) && IsNumber(*sides.right) ? "" : kMathMessage;
+  if (sides.left == nullptr || sides.right == nullptr) return CompileErrorText(CompileError::kMath);
+  if (sides.left->shape == Shape::kString || sides.right->shape == Shape::kString)
+    return CompileErrorText(CompileError::kArithmetic);
+  return IsNumber(*sides.left) && IsNumber(*sides.right) ? "" : CompileErrorText(CompileError::kMath);
 }
 
 std::string JoinProblem(const Sides& sides) {
   const bool fits =
       sides.left != nullptr && sides.right != nullptr && IsValue(*sides.left) && IsValue(*sides.right);
-  return fits ? "" : "Unable to concatenate elements.";
+  return fits ? "" : CompileErrorText(CompileError::kJoin);
 }
 
 std::string RelationProblem(const Sides& sides) {
   const bool fits = sides.left != nullptr && sides.right != nullptr && IsComparable(*sides.left) &&
                     IsComparable(*sides.right);
-  return fits ? "" : "Improper use of relational operator";
+  return fits ? "" : CompileErrorText(CompileError::kRelation);
 }
 
 std::string LogicProblem(const Sides& sides, int kind) {
   const std::string name = kind == kTokenAnd ? "AND" : kind == kTokenOr ? "OR" : "XOR";
-  if (sides.left == nullptr) return "Missing expression before logical " + name;
-  if (!IsNumber(*sides.left)) return "Missing or inappropriate expression before logical " + name;
-  if (sides.right == nullptr) return "Missing expression after logical " + name;
-  if (!IsNumber(*sides.right)) return "Missing or inappropriate expression after logical " + name;
+  if (sides.left == nullptr) return CompileErrorText(CompileError::kMissingBefore, name);
+  if (!IsNumber(*sides.left)) return CompileErrorText(CompileError::kImproperBefore, name);
+  if (sides.right == nullptr) return CompileErrorText(CompileError::kMissingAfter, name);
+  if (!IsNumber(*sides.right)) return CompileErrorText(CompileError::kImproperAfter, name);
   return {};
 }
 
@@ -192,7 +191,7 @@ std::string ReduceNot(Items& items) {
       continue;
     }
     while (i + 1 < items.size() && IsOperator(items[i + 1], kTokenNot)) ++i;
-    if (i + 1 == items.size() || !IsNumber(items[i + 1])) return "Improper argument for NOT operation.";
+    if (i + 1 == items.size() || !IsNumber(items[i + 1])) return CompileErrorText(CompileError::kNot);
     ++i;
     done.push_back({Shape::kNumber, 0});
   }
@@ -214,28 +213,8 @@ std::string Reduce(Items& items) {
   return problem;
 }
 
-constexpr const char* kListQualifierMessage =
-    "Improper qualifier in list.\r\rAcceptable qualifier format:\r"
-    "    =, <>, <, >, <=, or >= followed by an expression.\rFor example:\r    > 5\r    = cs1 + 4";
-constexpr const char* kAnyTargetMessage =
-    "Improper use of list.\r\rLists defined by the keyword \"Any\"\rcannot be used to set or modify "
-    "variables.";
-constexpr const char* kAssignmentMessage = "Improper assignment or expression.";
-constexpr const char* kUnresolvedMessage = "Unable to resolve elements.";
-
-std::string FunctionQualifierMessage(std::string_view name) {
-  return "Missing or improper qualifier in " + std::string(name) +
-         " function.\r\rAcceptable qualifier format:\r"
-         "    =, <>, <, >, <=, or >= followed by an expression.\rFor example:\r    > 5\r    = cs1 + 4";
-}
-
-std::string InstrQualifierMessage() {
-  return "Missing or improper qualifier in Instr function.\r\rExpected qualifier format:\r"
-         ">, <, or = followed by number or non-string variable";
-}
-
-std::string FunctionMessage(const char* what, const FunctionProperty& function) {
-  return std::string(what) + " in " + std::string(function.name) + " function.";
+std::string FunctionMessage(CompileError error, const FunctionProperty& function) {
+  return CompileErrorText(error, function.name);
 }
 
 bool StartsWithRelation(const Items& items) { return !items.empty() && IsRelation(items[0]); }
@@ -283,16 +262,17 @@ TargetList CheckTargetList(const std::vector<Items>& parts) {
   for (std::size_t i = 0; i < parts.size(); ++i) {
     const Items& part = parts[i];
     if (StartsWithRelation(part)) {
-      list.problem = CheckQualifier(part, kListQualifierMessage);
-      if (list.problem.empty() && i + 1 == parts.size()) list.problem = kListQualifierMessage;
+      list.problem = CheckQualifier(part, CompileErrorText(CompileError::kListQualifier));
+      if (list.problem.empty() && i + 1 == parts.size())
+        list.problem = CompileErrorText(CompileError::kListQualifier);
     } else if (part.empty()) {
-      list.problem = "Missing argument.";
+      list.problem = CompileErrorText(CompileError::kMissingArgument);
     } else if (part.size() > 1) {
-      list.problem = kUnresolvedMessage;
+      list.problem = CompileErrorText(CompileError::kUnresolved);
     } else if (part[0].shape == Shape::kAnyTargetList) {
-      list.problem = kAnyTargetMessage;
+      list.problem = CompileErrorText(CompileError::kAnyTargets);
     } else if (!IsTarget(part[0])) {
-      list.problem = "Improper argument.";
+      list.problem = CompileErrorText(CompileError::kArgument);
     } else {
       list.betsOnly =
           list.betsOnly && (part[0].shape == Shape::kBetTarget || part[0].shape == Shape::kBetTargetList);
@@ -318,7 +298,7 @@ bool FitsArgument(const Items& argument, char kind) {
 
 std::string CheckArguments(const FunctionProperty& function, std::vector<Items> arguments) {
   const bool instr = function.code == kFunctionInstr;
-  if (instr && StartsWithRelation(arguments[0])) return InstrQualifierMessage();
+  if (instr && StartsWithRelation(arguments[0])) return CompileErrorText(CompileError::kInstrQualifier);
   for (Items& argument : arguments) {
     std::string problem = Reduce(argument);
     if (!problem.empty()) return problem;
@@ -326,26 +306,26 @@ std::string CheckArguments(const FunctionProperty& function, std::vector<Items> 
   std::string_view kinds = function.arguments;
   if (instr && arguments.size() < 3) kinds.remove_prefix(1);  // the starting point may be left out
   for (std::size_t i = 0; i < kinds.size(); ++i) {
-    if (i >= arguments.size() || arguments[i].empty()) return FunctionMessage("Missing expression", function);
+    if (i >= arguments.size() || arguments[i].empty())
+      return FunctionMessage(CompileError::kMissingExpression, function);
   }
-  if (arguments.size() > kinds.size()) return FunctionMessage("Too many expressions", function);
+  if (arguments.size() > kinds.size()) return FunctionMessage(CompileError::kTooManyExpressions, function);
   for (std::size_t i = 0; i < kinds.size(); ++i) {
     if (FitsArgument(arguments[i], kinds[i])) continue;
-    if (instr && kinds.size() == 3 && i == 0) return InstrQualifierMessage();
-    return FunctionMessage("Inappropriate expression", function);
+    if (instr && kinds.size() == 3 && i == 0) return CompileErrorText(CompileError::kInstrQualifier);
+    return FunctionMessage(CompileError::kInappropriateExpression, function);
   }
   return {};
 }
 
 std::string CheckListFunction(const FunctionProperty& function, const std::vector<Items>& parts) {
-  const ListMessages messages{FunctionQualifierMessage(function.name),
-                              FunctionMessage("Improper expression", function)};
+  const ListMessages messages{FunctionMessage(CompileError::kFunctionQualifier, function),
+                              FunctionMessage(CompileError::kImproperExpression, function)};
   return CheckValueList(parts, messages, function.arguments == "*n");
 }
 
 std::string NotOfferedMessage(std::string_view family) {
-  return "Table not configured for " + std::string(family) +
-         " bets.\r\rCheck 'Bets' tab on Configuration screen.";
+  return CompileErrorText(CompileError::kNotOffered, family);
 }
 
 // Reads the records of one statement into its top frame, brackets reduced.
@@ -432,13 +412,13 @@ class StatementReader {
   std::string ReadVariable(const ScriptToken& token) {
     const int code = CodeOf(token);
     behindReference_ = true;
-    if (IsBetVariable(code)) {
+    if (IsTableBet(code)) {
       const std::string_view family = MissingBetFamily(code, job_.surroundings);
       if (!family.empty()) return NotOfferedMessage(family);
     }
-    const bool string = VariableType(code) == ScriptValueType::kString;
+    const bool string = VariableOf(code).type == ScriptValueType::kString;
     if (token.kind == kTokenVariableTarget) {
-      Push(IsBetVariable(code) ? Shape::kBetTarget : string ? Shape::kStringTarget : Shape::kTarget);
+      Push(IsTableBet(code) ? Shape::kBetTarget : string ? Shape::kStringTarget : Shape::kTarget);
     } else if (IsGroupVariable(code)) {
       Push(Shape::kUnresolved);
     } else {
@@ -470,14 +450,15 @@ class StatementReader {
       Push(Shape::kUnresolved);
       return {};
     }
-    if (frame.code == 8 && !job_.surroundings.big68) return NotOfferedMessage("Big");
-    std::string problem = IsListFunction(frame.code)
-                              ? CheckListFunction(*function, SplitAtCommas(frame.items))
-                              : CheckArguments(*function, SplitAtCommas(frame.items));
+    if (frame.code == kFunctionBig && !job_.surroundings.big68) return NotOfferedMessage("Big");
+    std::string problem = function->TakesList() ? CheckListFunction(*function, SplitAtCommas(frame.items))
+                                                : CheckArguments(*function, SplitAtCommas(frame.items));
     if (!problem.empty() || frame.owner == Owner::kPlayer) return problem;
     const bool string = function->type == ScriptValueType::kString;
     if (frame.target) {
-      Push(IsBetFunction(frame.code) ? Shape::kBetTarget : string ? Shape::kStringTarget : Shape::kTarget);
+      Push(function->kind == FunctionKind::kBet ? Shape::kBetTarget
+           : string                             ? Shape::kStringTarget
+                                                : Shape::kTarget);
     } else {
       Push(string ? Shape::kString : Shape::kNumber);
     }
@@ -487,7 +468,8 @@ class StatementReader {
   std::string CloseList(const Frame& frame) {
     const std::vector<Items> parts = SplitAtCommas(frame.items);
     if (!HasTarget(frame.items)) {
-      const ListMessages messages{kListQualifierMessage, "Inappropriate expression in list."};
+      const ListMessages messages{CompileErrorText(CompileError::kListQualifier),
+                                  CompileErrorText(CompileError::kListMember)};
       Push(Shape::kList, frame.code);
       return CheckValueList(parts, messages, false);
     }
@@ -497,9 +479,10 @@ class StatementReader {
     }
     const TargetList list = CheckTargetList(parts);
     Push(list.betsOnly ? Shape::kBetTargetList : Shape::kTargetList);
-    const bool member = list.problem == "Improper argument." || list.problem == "Missing argument." ||
-                        list.problem == kUnresolvedMessage;
-    return member ? "Inappropriate expression in list." : list.problem;
+    const bool member = list.problem == CompileErrorText(CompileError::kArgument) ||
+                        list.problem == CompileErrorText(CompileError::kMissingArgument) ||
+                        list.problem == CompileErrorText(CompileError::kUnresolved);
+    return member ? CompileErrorText(CompileError::kListMember) : list.problem;
   }
 
   // Brackets around what is set or around the arguments of an action say nothing and fall away.
@@ -534,9 +517,9 @@ class StatementReader {
 std::string CheckSingle(Items items, char kind) {
   std::string problem = Reduce(items);
   if (!problem.empty()) return problem;
-  if (items.empty()) return "Missing argument.";
-  if (items.size() > 1) return kUnresolvedMessage;
-  return FitsArgument(items, kind) ? "" : "Improper argument.";
+  if (items.empty()) return CompileErrorText(CompileError::kMissingArgument);
+  if (items.size() > 1) return CompileErrorText(CompileError::kUnresolved);
+  return FitsArgument(items, kind) ? "" : CompileErrorText(CompileError::kArgument);
 }
 
 std::string CheckRollFile(const Items& items) {
@@ -554,25 +537,23 @@ std::string CheckSwap(const Items& items) {
   for (const Items& part : parts) {
     fits = fits && part.size() == 1 && part[0].shape >= Shape::kTarget && part[0].shape <= Shape::kBetTarget;
   }
-  return fits ? ""
-              : "Missing or improper arguments.\rThe swap command only works with two variables at a time.";
+  return fits ? "" : CompileErrorText(CompileError::kSwap);
 }
 
 std::string CheckTargets(const Items& items, bool betsOnly) {
-  if (items.empty()) return "Missing argument.";
+  if (items.empty()) return CompileErrorText(CompileError::kMissingArgument);
   const TargetList list = CheckTargetList(SplitAtCommas(items));
   if (!list.problem.empty()) return list.problem;
-  return betsOnly && !list.betsOnly ? "Improper argument." : "";
+  return betsOnly && !list.betsOnly ? CompileErrorText(CompileError::kArgument) : "";
 }
 
 std::string CheckPlaceBets(const Items& items) {
-  if (items.empty()) return "Missing argument.";
+  if (items.empty()) return CompileErrorText(CompileError::kMissingArgument);
   const std::string problem = CheckTargetList(SplitAtCommas(items)).problem;
-  if (problem.empty() || problem == kAnyTargetMessage || problem == kListQualifierMessage) return problem;
-  return std::string(kAssignmentMessage) +
-         "\r\rEnter only names (and optional qualifiers)\rof Place bets to buy. For example:\r"
-         "Buy the Place bet on Place10\rBuy the Place bet on Place4, Place(cs1)\r"
-         "Buy the Place bet on > 10, Place bets";
+  if (problem.empty() || problem == CompileErrorText(CompileError::kAnyTargets) ||
+      problem == CompileErrorText(CompileError::kListQualifier))
+    return problem;
+  return CompileErrorText(CompileError::kPlaceBets);
 }
 
 std::string CheckAmountTargets(const Items& items) {
@@ -581,12 +562,12 @@ std::string CheckAmountTargets(const Items& items) {
   const auto middle = items.begin() + static_cast<std::ptrdiff_t>(split);
   std::string problem = CheckSingle(Items(items.begin(), middle), 'n');
   if (!problem.empty()) return problem;
-  if (split == items.size()) return "Missing argument.";
+  if (split == items.size()) return CompileErrorText(CompileError::kMissingArgument);
   const Items targets(middle + 1, items.end());
   problem = CheckTargets(targets, false);
   if (!problem.empty()) return problem;
   for (const Item& item : targets) {
-    if (item.shape == Shape::kStringTarget) return "Improper argument.";
+    if (item.shape == Shape::kStringTarget) return CompileErrorText(CompileError::kArgument);
   }
   return {};
 }
@@ -594,7 +575,7 @@ std::string CheckAmountTargets(const Items& items) {
 std::string CheckAction(int code, const Items& items) {
   switch (ShapeOfAction(code)) {
     case ActionShape::kNothing:
-      return items.empty() ? "" : kUnresolvedMessage;
+      return items.empty() ? "" : CompileErrorText(CompileError::kUnresolved);
     case ActionShape::kText:
       return CheckSingle(items, 'e');
     case ActionShape::kString:
@@ -622,16 +603,17 @@ std::string CheckAction(int code, const Items& items) {
 std::string CheckAssignment(const Items& items) {
   std::size_t split = 0;
   while (split < items.size() && !IsOperator(items[split], kTokenEqual)) ++split;
-  if (split == items.size()) return kAssignmentMessage;
+  if (split == items.size()) return CompileErrorText(CompileError::kAssignment);
   const auto middle = items.begin() + static_cast<std::ptrdiff_t>(split);
   for (const Items& part : SplitAtCommas(Items(items.begin(), middle))) {
-    if (part.size() == 1 && part[0].shape == Shape::kAnyTargetList) return kAnyTargetMessage;
-    if (part.size() != 1 || !IsTarget(part[0])) return kAssignmentMessage;
+    if (part.size() == 1 && part[0].shape == Shape::kAnyTargetList)
+      return CompileErrorText(CompileError::kAnyTargets);
+    if (part.size() != 1 || !IsTarget(part[0])) return CompileErrorText(CompileError::kAssignment);
   }
   Items value(middle + 1, items.end());
   std::string problem = Reduce(value);
   if (!problem.empty()) return problem;
-  return value.size() == 1 && IsValue(value[0]) ? "" : kAssignmentMessage;
+  return value.size() == 1 && IsValue(value[0]) ? "" : CompileErrorText(CompileError::kAssignment);
 }
 
 std::string CheckActionStatement(const Items& items) {
@@ -644,15 +626,14 @@ std::string CheckActionStatement(const Items& items) {
 std::string CheckCondition(Items items) {
   std::string problem = Reduce(items);
   if (!problem.empty()) return problem;
-  if (items.size() == 1 && items[0].shape == Shape::kString) return "Result not true or false.";
-  return items.size() == 1 && IsNumber(items[0]) ? "" : "Unable to resolve expression.";
+  if (items.size() == 1 && items[0].shape == Shape::kString)
+    return CompileErrorText(CompileError::kConditionText);
+  return items.size() == 1 && IsNumber(items[0]) ? "" : CompileErrorText(CompileError::kCondition);
 }
 
 std::string CheckJump(std::size_t records) {
   if (records == 2) return {};
-  return std::string(kUnresolvedMessage) +
-         "\r\rThe GoTo command must be followed by the name of a single label. \r"
-         "For example:\r      GoTo \"Make bets\"";
+  return CompileErrorText(CompileError::kJump);
 }
 
 class CheckPass {
@@ -681,7 +662,7 @@ class CheckPass {
     if (kind == kTokenThen) {
       inCondition_ = false;
       return !conditionIsEmpty_ ||
-             FailBetween(job_, condition_, begin, "Missing expression between IF and THEN.");
+             FailBetween(job_, condition_, begin, CompileErrorText(CompileError::kConditionEmpty));
     }
     if (kind == kTokenGoto || kind == kTokenGosub) return Report(begin, CheckJump(end - begin));
     if ((kind >= kTokenIf && kind <= kTokenExitDo) || kind == kTokenLabel) return true;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_spans.h"
 
@@ -38,9 +39,7 @@ class TargetMarker {
     if (token.kind == kTokenThen) inCondition_ = false;
     if (inCondition_) {
       if (token.kind != kTokenLabel) return i + 1;
-      return Fail(i,
-                  "Improper placement of label.\rLabels cannot appear within condition statements "
-                  "(between If and Then).");
+      return Fail(i, CompileErrorText(CompileError::kLabelPlace));
     }
     return StepInAction(i);
   }
@@ -80,8 +79,7 @@ class TargetMarker {
     const ActionShape shape = ShapeOfAction(code);
     if (shape == ActionShape::kAmountTargets) {
       search_ = Search::kPreposition;
-    } else if (shape != ActionShape::kSwap && shape != ActionShape::kTargets &&
-               shape != ActionShape::kBetTargets && shape != ActionShape::kPlaceBets) {
+    } else if (!TakesTargets(shape)) {
       search_ = Search::kEnded;
     }
   }
@@ -102,15 +100,15 @@ class TargetMarker {
     const int code = CodeOf(token);
     const bool function = token.kind == kTokenFunction;
     search_ = Search::kNextItem;
-    if (function && !IsAssignableFunction(code)) {
-      const FunctionProperty* property = FindFunction(code);
-      return Fail(i, std::string(property ? property->name : "Function") +
-                         " is a read-only function and cannot be assigned a value.");
+    const FunctionProperty* property = function ? FindFunction(code) : nullptr;
+    if (function && (property == nullptr || !property->assignable)) {
+      return Fail(i,
+                  CompileErrorText(CompileError::kReadOnlyFunction, property ? property->name : "Function"));
     }
-    if (!function && !IsAssignableVariable(code)) {
-      return Fail(i, VariableName(code) + " is a read-only variable and cannot be assigned a value.");
+    if (!function && !VariableOf(code).assignable) {
+      return Fail(i, CompileErrorText(CompileError::kReadOnlyVariable, VariableName(code)));
     }
-    const bool bet = function ? IsBetFunction(code) : IsBetVariable(code);
+    const bool bet = function ? property->kind == FunctionKind::kBet : IsTableBet(code);
     std::size_t after = AfterReference(i);
     if (after < tokens_.size() && tokens_[after].kind == kTokenFunction) after = AfterReference(after);
     if (bet && !CheckBetIsSettable(i, after)) return 0;
@@ -126,16 +124,15 @@ class TargetMarker {
       if (token.kind == kTokenPlayer) continue;
       if (token.kind == kTokenScope) {
         if (value == kScopeCurrentHand || value == kScopeCurrentSession) continue;
-        return FailAt(job_, i,
-                      "Unable to set the value of a bet that is not in the current hand or session.");
+        return FailAt(job_, i, CompileErrorText(CompileError::kBetScope));
       }
       if (token.kind == kTokenMetric) {
         if (value == kMetricTendered || value == kMetricWagered) continue;
-        return FailAt(job_, i, "Only able to set the value of current wagers.");
+        return FailAt(job_, i, CompileErrorText(CompileError::kBetMetric));
       }
       if (token.kind != kTokenMeasure) return true;
       if (value == kMeasureCurrentMoney) continue;
-      return FailAt(job_, i, "Only able to set the current $ value of a bet.");
+      return FailAt(job_, i, CompileErrorText(CompileError::kBetMeasure));
     }
     return true;
   }

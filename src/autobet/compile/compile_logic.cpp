@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
 
@@ -93,7 +94,7 @@ class LogicPass {
   }
 
   bool If(std::size_t i) {
-    if (inCondition_) return FailAt(job_, i, "IF out of position.");
+    if (inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kIfPlace));
     OpenCondition(i);
     ifs_.push_back(i);
     ++nesting_;
@@ -101,24 +102,23 @@ class LogicPass {
   }
 
   bool Then(std::size_t i) {
-    if (!inCondition_) return FailAt(job_, i, "THEN out of position.");
+    if (!inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kThenPlace));
     inCondition_ = false;
     thens_.push_back(i);
     return true;
   }
 
   bool Else(std::size_t i) {
-    if (thens_.empty() || inCondition_) return FailAt(job_, i, "Expected THEN before ELSE.");
+    if (thens_.empty() || inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kElsePlace));
     PatchTop(thens_, i);
     elses_.push_back(i);
     return true;
   }
 
   bool ElseIf(std::size_t i) {
-    if (thens_.empty() || inCondition_) return FailAt(job_, i, "ELSEIF out of position.");
+    if (thens_.empty() || inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kElseIfPlace));
     if (Top(thens_) < Top(ifs_)) {
-      return FailAt(
-          job_, i, "ELSEIF out of position.\rCannot be placed after ELSE within the same IF/THEN statement.");
+      return FailAt(job_, i, CompileErrorText(CompileError::kElseIfBehindElse));
     }
     PatchTop(thens_, i);
     OpenCondition(i);
@@ -128,9 +128,10 @@ class LogicPass {
 
   bool EndIf(std::size_t i) {
     const std::size_t top = Top(ifs_);
-    if (inCondition_) return FailAt(job_, i, "Missing THEN between IF and ENDIF.");
-    if (Top(dos_) > top) return FailAt(job_, i, "Missing or out of position LOOP statement.");
-    if (Top(thens_) <= top && Top(elses_) <= top) return FailAt(job_, i, "Unassociated ENDIF.");
+    if (inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kEndIfWithoutThen));
+    if (Top(dos_) > top) return FailAt(job_, i, CompileErrorText(CompileError::kEndIfInLoop));
+    if (Top(thens_) <= top && Top(elses_) <= top)
+      return FailAt(job_, i, CompileErrorText(CompileError::kEndIfAlone));
     if (Top(thens_) > top) PatchTop(thens_, i);
     while (Top(elses_) > top) PatchTop(elses_, i);
     if (!ifs_.empty()) ifs_.pop_back();
@@ -139,7 +140,7 @@ class LogicPass {
   }
 
   bool Do(std::size_t i) {
-    if (inCondition_) return FailAt(job_, i, "DO statement out of position.");
+    if (inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kDoPlace));
     dos_.push_back(i);
     ++nesting_;
     return true;
@@ -147,54 +148,54 @@ class LogicPass {
 
   bool Loop(std::size_t i) {
     if (dos_.empty() || inCondition_) {
-      return FailAt(job_, i, "Missing DO statement or LOOP statement out of position.");
+      return FailAt(job_, i, CompileErrorText(CompileError::kLoopPlace));
     }
     const std::size_t top = Top(dos_);
     tokens_[i].value = static_cast<double>(top);
     PatchTop(dos_, i);
     while (Top(exits_) > top) PatchTop(exits_, i);
     if (Top(ifs_) > top) {
-      return FailAt(job_, i, "ENDIF missing or out of position, or \rLOOP statement out of position.");
+      return FailAt(job_, i, CompileErrorText(CompileError::kLoopInBlock));
     }
     --nesting_;
     return true;
   }
 
   bool ExitDo(std::size_t i) {
-    if (dos_.empty()) return FailAt(job_, i, "EXIT DO statement outside of DO/LOOP.");
-    if (inCondition_) return FailAt(job_, i, "EXIT DO statement out of position.");
+    if (dos_.empty()) return FailAt(job_, i, CompileErrorText(CompileError::kExitDoAlone));
+    if (inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kExitDoPlace));
     exits_.push_back(i);
     return true;
   }
 
   bool Jump(std::size_t i, const std::string& name) {
-    if (inCondition_) return FailAt(job_, i, name + " out of position.");
+    if (inCondition_) return FailAt(job_, i, CompileErrorText(CompileError::kJumpPlace, name));
     if (i + 1 >= tokens_.size() || IsMarker(tokens_[i + 1])) {
-      return FailAt(job_, i, name + " missing reference.");
+      return FailAt(job_, i, CompileErrorText(CompileError::kMissingLabel, name));
     }
     ScriptToken& reference = tokens_[i + 1];
     const bool string = reference.kind == kTokenString && reference.value >= 0;
     if (!string && reference.kind != kTokenNumber) {
-      return FailAt(job_, i, "Improper reference after " + name);
+      return FailAt(job_, i, CompileErrorText(CompileError::kImproperLabel, name));
     }
     const std::int32_t before = tokens_[i - 1].kind;
     if (i > 1 && before < kStatementMarker && !(before >= kTokenIf && before < kTokenEndIf)) {
-      return FailAt(job_, i, name + " here should be preceded with a colon :");
+      return FailAt(job_, i, CompileErrorText(CompileError::kMissingColon, name));
     }
     const std::string text = string ? job_.script.strings[static_cast<std::size_t>(reference.value)].text
                                     : GeneralNumber(reference.value);
     const auto label = labels_.find(Lowered(Trimmed(text)));
-    if (label == labels_.end()) return FailAt(job_, i, "Label \"" + text + "\" not found.");
+    if (label == labels_.end()) return FailAt(job_, i, CompileErrorText(CompileError::kUnknownLabel, text));
     reference.value = static_cast<double>(label->second);
     return true;
   }
 
   bool CheckEnds() {
-    if (inCondition_) return FailAt(job_, condition_, "Missing THEN statement.");
+    if (inCondition_) return FailAt(job_, condition_, CompileErrorText(CompileError::kMissingThen));
     if (!elses_.empty() || !thens_.empty() || !ifs_.empty()) {
-      return FailAt(job_, std::max<std::size_t>(Top(ifs_), 1), "Missing ENDIF statement.");
+      return FailAt(job_, std::max<std::size_t>(Top(ifs_), 1), CompileErrorText(CompileError::kMissingEndIf));
     }
-    if (!dos_.empty()) return FailAt(job_, Top(dos_), "Missing LOOP statement.");
+    if (!dos_.empty()) return FailAt(job_, Top(dos_), CompileErrorText(CompileError::kMissingLoop));
     return true;
   }
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
@@ -19,7 +20,7 @@ bool CheckBracketBalance(CompileJob& job) {
   for (std::size_t i = 1; i < tokens.size(); ++i) {
     const bool closesNothing = tokens[i].kind == kTokenClose && depth == 0;
     if (closesNothing || (IsMarker(tokens[i]) && depth != 0)) {
-      return FailAt(job, closesNothing ? i : i - 1, "Missing or improperly placed parenthesis.");
+      return FailAt(job, closesNothing ? i : i - 1, CompileErrorText(CompileError::kBrackets));
     }
     if (tokens[i].kind == kTokenOpen) ++depth;
     if (tokens[i].kind == kTokenClose) --depth;
@@ -31,14 +32,12 @@ std::string MissingBracketMessage(const ScriptToken& token) {
   const int code = CodeOf(token);
   if (token.kind == kTokenFunction) {
     const FunctionProperty* function = FindFunction(code);
-    return "Missing or inappropriate reference to " + std::string(function ? function->name : "function") +
-           (code < 20 ? " bet." : ".");
+    const bool bet = function != nullptr && function->kind == FunctionKind::kBet;
+    return CompileErrorText(bet ? CompileError::kBetWithoutBracket : CompileError::kFunctionWithoutBracket,
+                            {function ? function->name : "function"});
   }
-  const bool any = code == kListAny;
-  return std::string("Lists defined by \"") + (any ? "Any" : "All") +
-         "\" must be enclosed in brackets.\r\rFor example:\r" +
-         (any ? "      Any(Big6, Field, Checkstacks)\r      Any[4,5,6,8,9,10]"
-              : "      All(inside place bets)\r      All[Field, PassLine, Hard4]");
+  return CompileErrorText(code == kListAny ? CompileError::kAnyWithoutBracket
+                                           : CompileError::kAllWithoutBracket);
 }
 
 // Functions and lists need their brackets.
@@ -54,7 +53,9 @@ bool CheckBracketsBehind(CompileJob& job, std::int32_t kind) {
 }
 
 bool TakesList(const ScriptToken& token) {
-  return token.kind == kTokenList || (token.kind == kTokenFunction && IsListFunction(CodeOf(token)));
+  if (token.kind != kTokenFunction) return token.kind == kTokenList;
+  const FunctionProperty* function = FindFunction(CodeOf(token));
+  return function != nullptr && function->TakesList();
 }
 
 // A run finds the end of a list by the sentinel ahead of its close bracket.
@@ -112,16 +113,16 @@ bool CheckDuplicateLabels(CompileJob& job) {
   double number = 0;
   const bool numeric = ParseScriptNumber(Trimmed(text), number);
   const int line = LineOfMarker(tokens[StatementStart(tokens, first)]);
-  return FailBetween(job, first, second,
-                     std::string(numeric ? "A duplicate line number exists " : "A duplicate label exists ") +
-                         "in line " + std::to_string(line));
+  return FailBetween(
+      job, first, second,
+      CompileErrorText(numeric ? CompileError::kSameNumber : CompileError::kSameLabel, std::to_string(line)));
 }
 
 bool IsPlayerScopeOrMetric(const ScriptToken& token) {
   return token.kind == kTokenPlayer || token.kind == kTokenScope || token.kind == kTokenMetric;
 }
 
-bool IsBet(const ScriptToken& token) { return token.kind == kTokenVariable && IsBetVariable(CodeOf(token)); }
+bool IsBet(const ScriptToken& token) { return token.kind == kTokenVariable && IsTableBet(CodeOf(token)); }
 
 // Beside a bet "# rolls since last" is that bet's measure, else a count of the table's.
 void AttachRollsSinceLast(Tokens& tokens) {

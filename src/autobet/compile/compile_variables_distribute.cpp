@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_spans.h"
 
@@ -38,7 +39,7 @@ bool CompileVariablesDistribute(CompileJob& job) {
     const std::size_t end = ModifiersEnd(tokens, match, i);
     const std::vector<int> members = GroupMembers(code, job.surroundings);
     if (result.size() + members.size() * (end - i + 1) > kMostTokens)
-      return FailAt(job, i, "Script too large.");
+      return FailAt(job, i, CompileErrorText(CompileError::kTooLarge));
     for (std::size_t m = 0; m < members.size(); ++m) {
       if (m > 0) result.push_back({kTokenComma, 0});
       result.push_back({kTokenVariable, static_cast<double>(members[m])});

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "autobet/compile/compiler_passes.h"
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/language.h"
 #include "autobet/language/script_spans.h"
 #include "base/interrupts.h"
@@ -52,12 +53,7 @@ struct Reference {
   int code = 0;
   ReferenceClass referenceClass = ReferenceClass::kPlain;
   bool wholeTable = false;
-  bool points = false;  // "# of points" and "% of points" in both forms
 };
-
-constexpr const char* kAmbiguousVariable = "Ambiguous variable references";
-
-std::string Ambiguous(const std::string& detail) { return std::string(kAmbiguousVariable) + "\r\r" + detail; }
 
 bool IsOneOf(double value, std::initializer_list<int> allowed) {
   for (const int one : allowed) {
@@ -78,10 +74,7 @@ bool IsDicePair(double value) {
 
 bool InRange(double value, int first, int last) { return value >= first && value <= last; }
 
-bool CountsDice(const Reference& reference) {
-  return reference.function ? reference.code >= 31 && reference.code <= 39
-                            : reference.code >= 2501 && reference.code <= 2509;
-}
+bool CountsDice(const Reference& reference) { return reference.referenceClass == ReferenceClass::kDice; }
 
 Reference ReferenceOf(const ScriptToken& token) {
   Reference reference;
@@ -91,13 +84,12 @@ Reference ReferenceOf(const ScriptToken& token) {
     const FunctionProperty* function = FindFunction(reference.code);
     if (function != nullptr) {
       reference.referenceClass = function->referenceClass;
-      reference.wholeTable = function->wholeTable;
+      reference.wholeTable = function->kind == FunctionKind::kCount;
     }
-    reference.points = reference.code == 46 || reference.code == 47;
   } else {
-    reference.referenceClass = VariableClass(reference.code);
-    reference.wholeTable = IsWholeTableVariable(reference.code);
-    reference.points = reference.code == 4606 || reference.code == 4607;
+    const VariableProperty variable = VariableOf(reference.code);
+    reference.referenceClass = variable.referenceClass;
+    reference.wholeTable = variable.whose == Whose::kTable;
   }
   return reference;
 }
@@ -110,10 +102,11 @@ std::string NameOf(const Reference& reference) {
 
 // Each judge gives the message of the first rule broken, or none.
 std::string JudgeScopeClass(const Reference& reference, const Group& group) {
-  if (group.metric != kNotGiven || group.measure != kNotGiven || group.hasNumber) return kAmbiguousVariable;
-  const bool perHand = reference.code >= 1501 && reference.code <= 1508;
-  if (perHand && group.scope != kNotGiven && group.scope < kScopeCurrentSession) {
-    return Ambiguous(NameOf(reference) + " only applies to\rcurrent session, last session, or all sessions.");
+  if (group.metric != kNotGiven || group.measure != kNotGiven || group.hasNumber)
+    return CompileErrorText(CompileError::kAmbiguous);
+  const bool wholeHands = reference.referenceClass == ReferenceClass::kHand;
+  if (wholeHands && group.scope != kNotGiven && group.scope < kScopeCurrentSession) {
+    return CompileErrorText(CompileError::kNoSingleHand, NameOf(reference));
   }
   return {};
 }
@@ -121,28 +114,31 @@ std::string JudgeScopeClass(const Reference& reference, const Group& group) {
 // Dice are counted by totals, pairs and faces; come-out rolls, passes and misses by totals, naturals and
 // points.
 std::string JudgeMeasureClass(const Reference& reference, const Group& group) {
-  if (group.metric != kNotGiven || (group.hasNumber && group.measure != kNotGiven)) return kAmbiguousVariable;
-  const bool sinceLast = reference.code == (reference.function ? 35 : kVariableRollsSinceLast);
+  if (group.metric != kNotGiven || (group.hasNumber && group.measure != kNotGiven))
+    return CompileErrorText(CompileError::kAmbiguous);
+  const bool sinceLast =
+      reference.code == (reference.function ? kFunctionRollsSinceLast : kVariableRollsSinceLast);
   if (sinceLast && group.scope != kNotGiven &&
       !IsOneOf(group.scope, {kScopeCurrentSession, kScopeAllSessions})) {
-    return Ambiguous(NameOf(reference) + " only applies to\rcurrent session or all sessions.");
+    return CompileErrorText(CompileError::kSinceLastScope, NameOf(reference));
   }
   if (group.measure != kNotGiven) {
     const bool known = IsOneOf(group.measure, {kMeasureTotal, kMeasureNaturals, kMeasurePoints}) ||
-                       (CountsDice(reference) && InRange(group.measure, 78, 89));
-    if (!known) return kAmbiguousVariable;
+                       (CountsDice(reference) && InRange(group.measure, kMeasureFirstFace, kMeasureLastFace));
+    if (!known) return CompileErrorText(CompileError::kAmbiguous);
   }
   const bool fits = IsDiceTotal(group.number) || (CountsDice(reference) && IsDicePair(group.number));
-  if (group.hasNumber && !fits) return Ambiguous("Reference to rolls out of limits.");
+  if (group.hasNumber && !fits) return CompileErrorText(CompileError::kRollLimits);
   return {};
 }
 
 std::string JudgePoints(const Group& group) {
   if (group.metric != kNotGiven && !InRange(group.metric, kMetricEstablished, kMetricMissed)) {
-    return kAmbiguousVariable;
+    return CompileErrorText(CompileError::kAmbiguous);
   }
-  if (group.measure != kNotGiven) return kAmbiguousVariable;
-  if (group.hasNumber && !IsOneOf(group.number, {4, 5, 6, 8, 9, 10})) return kAmbiguousVariable;
+  if (group.measure != kNotGiven) return CompileErrorText(CompileError::kAmbiguous);
+  if (group.hasNumber && !IsOneOf(group.number, {4, 5, 6, 8, 9, 10}))
+    return CompileErrorText(CompileError::kAmbiguous);
   return {};
 }
 
@@ -151,44 +147,34 @@ struct MeasureRule {
   int first;
   int last;
   std::initializer_list<int> metrics;  // empty for all
-  std::string_view metricMessage;
+  CompileError metricError;
   std::initializer_list<int> scopes;  // empty for all
-  std::string_view scopeMessage;
+  CompileError scopeError;
 };
 
 const MeasureRule kMeasureRules[] = {
-    {21, 22, {1, 2, 3, 4, 5, 10}, "'Total' only applies to resolved wagers.", {}, ""},
-    {23, 23, {1, 2, 3, 4, 5, 10}, "'High' only applies to resolved wagers.", {}, ""},
-    {24, 24, {1, 2, 3, 4, 5, 10}, "'Low' only applies to resolved wagers.", {}, ""},
-    {25, 25, {1, 2, 3, 4, 5, 10}, "'Average' only applies to resolved wagers.", {}, ""},
-    {27, 27, {1, 2, 3, 10}, "'# rolls since last'\ronly applies to wagers, wins, and losses.", {}, ""},
-    {32, 32, {4, 5}, "'Expected value'\ronly available as net or net %", {}, ""},
-    {33,
-     34,
-     {0, 1},
-     "'Current' only applies to tendered wagers.",
-     {1, 2, 3},
-     "'Current' only applies to\rcurrent hand, current session, or all sessions."},
-    {35,
-     36,
-     {0, 1},
-     "'Prior' only applies to tendered wagers.",
-     {1, 2, 3},
-     "'Prior' only applies to current hand, current session, or all sessions."},
-    {37, 37, {}, "", {1, 3}, "'Working' only applies to current hand or session."},
-    {38, 38, {}, "", {1, 3}, "'Called on' only applies to current hand or session."},
-    {39, 39, {}, "", {1, 3}, "'Called off' only applies to current hand or session."},
-    {40, 40, {}, "", {1, 3}, "'Vig' only applies to current hand or session."},
+    {21, 22, {1, 2, 3, 4, 5, 10}, CompileError::kTotalMetric, {}, CompileError::kAmbiguous},
+    {23, 23, {1, 2, 3, 4, 5, 10}, CompileError::kHighMetric, {}, CompileError::kAmbiguous},
+    {24, 24, {1, 2, 3, 4, 5, 10}, CompileError::kLowMetric, {}, CompileError::kAmbiguous},
+    {25, 25, {1, 2, 3, 4, 5, 10}, CompileError::kAverageMetric, {}, CompileError::kAmbiguous},
+    {27, 27, {1, 2, 3, 10}, CompileError::kSinceLastMetric, {}, CompileError::kAmbiguous},
+    {32, 32, {4, 5}, CompileError::kExpectedMetric, {}, CompileError::kAmbiguous},
+    {33, 34, {0, 1}, CompileError::kCurrentMetric, {1, 2, 3}, CompileError::kCurrentScope},
+    {35, 36, {0, 1}, CompileError::kPriorMetric, {1, 2, 3}, CompileError::kPriorScope},
+    {37, 37, {}, CompileError::kAmbiguous, {1, 3}, CompileError::kWorkingScope},
+    {38, 38, {}, CompileError::kAmbiguous, {1, 3}, CompileError::kCalledOnScope},
+    {39, 39, {}, CompileError::kAmbiguous, {1, 3}, CompileError::kCalledOffScope},
+    {40, 40, {}, CompileError::kAmbiguous, {1, 3}, CompileError::kVigScope},
 };
 
 std::string JudgeMeasureOfBet(const Group& group) {
   for (const MeasureRule& rule : kMeasureRules) {
     if (!InRange(group.measure, rule.first, rule.last)) continue;
     if (group.metric != kNotGiven && rule.metrics.size() > 0 && !IsOneOf(group.metric, rule.metrics)) {
-      return Ambiguous(std::string(rule.metricMessage));
+      return CompileErrorText(rule.metricError);
     }
     if (group.scope != kNotGiven && rule.scopes.size() > 0 && !IsOneOf(group.scope, rule.scopes)) {
-      return Ambiguous(std::string(rule.scopeMessage));
+      return CompileErrorText(rule.scopeError);
     }
   }
   return {};
@@ -196,17 +182,14 @@ std::string JudgeMeasureOfBet(const Group& group) {
 
 std::string JudgeBet(const Group& group) {
   if (group.playerCode == kPlayerAll) {
-    return Ambiguous(
-        "Wagers must be referenced by individual players.  If all players are desired then include the "
-        "separate players in an expression or function.  For example, \r"
-        "Expression: passline player1 + passline player2\rFunction: sum(passline player4, passline player6)");
+    return CompileErrorText(CompileError::kBetOfAll);
   }
   // What is counted of dice and points says nothing about a bet.
   const bool ofPoints = group.metric != kNotGiven && InRange(group.metric, kMetricEstablished, kMetricMissed);
   const bool ofDice =
-      group.measure != kNotGiven &&
-      (IsOneOf(group.measure, {kMeasureNaturals, kMeasurePoints}) || InRange(group.measure, 78, 89));
-  if (ofPoints || ofDice || group.hasNumber) return kAmbiguousVariable;
+      group.measure != kNotGiven && (IsOneOf(group.measure, {kMeasureNaturals, kMeasurePoints}) ||
+                                     InRange(group.measure, kMeasureFirstFace, kMeasureLastFace));
+  if (ofPoints || ofDice || group.hasNumber) return CompileErrorText(CompileError::kAmbiguous);
   return JudgeMeasureOfBet(group);
 }
 
@@ -214,27 +197,32 @@ std::string Judge(const Reference& reference, const Group& group) {
   switch (reference.referenceClass) {
     case ReferenceClass::kPlain: {
       const bool bare = !group.player.Exists() && !group.HasModifier() && !group.hasNumber;
-      return bare ? std::string() : kAmbiguousVariable;
+      return bare ? "" : CompileErrorText(CompileError::kAmbiguous);
     }
     case ReferenceClass::kPlayer:
-      return group.HasModifier() || group.hasNumber ? kAmbiguousVariable : std::string();
+      return group.HasModifier() || group.hasNumber ? CompileErrorText(CompileError::kAmbiguous)
+                                                    : std::string();
     case ReferenceClass::kScope:
+    case ReferenceClass::kHand:
       return JudgeScopeClass(reference, group);
-    case ReferenceClass::kMeasure:
+    case ReferenceClass::kDice:
+    case ReferenceClass::kLine:
       return JudgeMeasureClass(reference, group);
+    case ReferenceClass::kPoints:
+      return JudgePoints(group);
     case ReferenceClass::kBet:
-      return reference.points ? JudgePoints(group) : JudgeBet(group);
+      return JudgeBet(group);
   }
   return {};
 }
 
 int DefaultMetric(const Reference& reference, const Group& group) {
-  if (reference.points) return kMetricEstablished;
+  if (reference.referenceClass == ReferenceClass::kPoints) return kMetricEstablished;
   return group.measure == kMeasureExpectedValue ? kMetricNetPercent : kMetricWagered;
 }
 
 double DefaultMeasure(const Reference& reference, const Group& group) {
-  if (reference.referenceClass == ReferenceClass::kMeasure || reference.points) return kMeasureTotal;
+  if (reference.referenceClass != ReferenceClass::kBet) return kMeasureTotal;
   const bool standing = group.metric == kMetricTendered || group.metric == kMetricWagered;
   return standing ? kMeasureCurrentMoney : kMeasureLastRollMoney;
 }
@@ -319,20 +307,20 @@ class StatementOrganizer {
     const ScriptToken& token = nodes_[unit.first].token;
     const bool bracketPlayer = token.kind == kTokenFunction && token.value == kFunctionPlayer;
     if (token.kind == kTokenPlayer || bracketPlayer) {
-      if (group.player.Exists()) return "Ambiguous player references";
+      if (group.player.Exists()) return CompileErrorText(CompileError::kPlayers);
       group.player = unit;
       group.playerCode = bracketPlayer ? 0 : CodeOf(token);
     } else if (token.kind == kTokenVariable || token.kind == kTokenFunction) {
-      if (group.variable.Exists()) return kAmbiguousVariable;
+      if (group.variable.Exists()) return CompileErrorText(CompileError::kAmbiguous);
       group.variable = unit;
     } else if (token.kind == kTokenScope) {
-      if (group.scope != kNotGiven) return "Ambiguous hand references";
+      if (group.scope != kNotGiven) return CompileErrorText(CompileError::kScopes);
       group.scope = CodeOf(token);
     } else if (token.kind == kTokenMetric) {
-      if (group.metric != kNotGiven) return "Ambiguous variable modifiers";
+      if (group.metric != kNotGiven) return CompileErrorText(CompileError::kMetrics);
       group.metric = CodeOf(token);
     } else if (token.kind == kTokenMeasure) {
-      if (group.measure != kNotGiven) return kAmbiguousVariable;
+      if (group.measure != kNotGiven) return CompileErrorText(CompileError::kAmbiguous);
       group.measure = token.value;
     } else {
       group.hasNumber = true;
@@ -345,8 +333,8 @@ class StatementOrganizer {
   std::string Rewrite(NodeIndex before, NodeIndex last, const Group& group) {
     lastWritten_ = last;
     if (group.variable.Exists()) return RewriteReference(before, last, group);
-    if (!group.player.Exists()) return group.HasModifier() ? kAmbiguousVariable : "";
-    if (group.HasModifier() || group.hasNumber) return kAmbiguousVariable;
+    if (!group.player.Exists()) return group.HasModifier() ? CompileErrorText(CompileError::kAmbiguous) : "";
+    if (group.HasModifier() || group.hasNumber) return CompileErrorText(CompileError::kAmbiguous);
     // A player without a variable is the number of the seat.
     ScriptToken& token = nodes_[group.player.first].token;
     if (token.kind != kTokenPlayer) return {};
@@ -357,7 +345,8 @@ class StatementOrganizer {
 
   std::string RewriteReference(NodeIndex before, NodeIndex last, const Group& group) {
     const Reference reference = ReferenceOf(nodes_[group.variable.first].token);
-    std::string message = group.numbers > 1 ? kAmbiguousVariable : Judge(reference, group);
+    std::string message =
+        group.numbers > 1 ? CompileErrorText(CompileError::kAmbiguous) : Judge(reference, group);
     if (!message.empty()) return message;
 
     const NodeIndex after = nodes_[last].next;
@@ -369,6 +358,7 @@ class StatementOrganizer {
   }
 
   void WriteModifiers(const Reference& reference, Group group) {
+    // Each class takes the modifiers of those before it.
     if (reference.referenceClass == ReferenceClass::kPlain) return;
     if (group.player.Exists()) {
       nodes_[lastWritten_].next = group.player.first;
@@ -379,8 +369,8 @@ class StatementOrganizer {
     if (reference.referenceClass == ReferenceClass::kPlayer) return;
     if (group.scope == kNotGiven) group.scope = kScopeCurrentSession;
     Write({kTokenScope, static_cast<double>(group.scope)});
-    if (reference.referenceClass == ReferenceClass::kScope) return;
-    if (reference.referenceClass == ReferenceClass::kBet) {
+    if (reference.referenceClass <= ReferenceClass::kHand) return;
+    if (reference.referenceClass >= ReferenceClass::kPoints) {
       if (group.metric == kNotGiven) group.metric = DefaultMetric(reference, group);
       Write({kTokenMetric, static_cast<double>(group.metric)});
     }

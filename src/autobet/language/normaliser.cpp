@@ -5,6 +5,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "autobet/language/compile_errors.h"
 #include "autobet/language/likely_word.h"
 #include "autobet/language/script_spans.h"
 #include "autobet/language/script_text.h"
@@ -338,12 +339,11 @@ bool ReadCode(std::string_view word, ScriptToken& token) {
 
 std::string UnknownWordMessage(const std::string& word) {
   if (word == "playername") {
-    return "Unknown player\r\rPlease enter actual name of player or refer to player's position such as "
-           "player1, player2, etc.";
+    return CompileErrorText(CompileError::kUnknownPlayer);
   }
-  if (word == "session") return "Please specify:\r\rcurrent session, last session, or all sessions.";
-  if (word == "hand") return "Please specify:\r\rcurrent hand, last hand, or all hands.";
-  return Concat({"Unknown or misplaced element:\r\r", word});
+  if (word == "session") return CompileErrorText(CompileError::kUnknownSession);
+  if (word == "hand") return CompileErrorText(CompileError::kUnknownHand);
+  return CompileErrorText(CompileError::kUnknownWord, word);
 }
 
 // Writes the records of one script.
@@ -441,7 +441,8 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
     writer.OpenLine(line);
     if (Interrupted()) return FailAt(script, lines, writer.LastIndex(), SignalReason(), diagnostic);
     if (!ReadLine(lines[i], names, script, words)) {
-      return FailAt(script, lines, writer.LastIndex(), "Missing quotation mark.", diagnostic);
+      return FailAt(script, lines, writer.LastIndex(), CompileErrorText(CompileError::kQuotationMark),
+                    diagnostic);
     }
     for (std::size_t w = 0; w < words.size(); ++w) {
       if (writer.AddWord(words[w])) continue;

@@ -1,52 +1,81 @@
 #include "autobet/language/vocabulary.h"
 
-#include <algorithm>
-
 #include "autobet/language/script_text.h"
-#include "base/bet_catalogue.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 namespace {
 
-// A line of the table. A family has its word and end for source and token, and its last number's code.
+enum class Form {
+  kText,    // the token as it stands
+  kSign,    // likewise, matching anywhere
+  kCode,    // a letter and a code
+  kFamily,  // word, end and the code of its first
+};
+
 struct TableLine {
+  Form form;
   std::string_view source;
   std::string_view token;
-  RowEnds ends;
-  int familyBase;  // -1 for a single row
+  char letter = 0;
+  int code = 0;
 };
 
 constexpr TableLine kTable[] = {
-#define SIGN(source, token) {source, token, RowEnds::kSign, -1},
-#define ROW(source, token) {source, token, RowEnds::kWords, -1},
-#define STEM(source, token) {source, token, RowEnds::kStem, -1},
-#define FAMILY(word, end, base) {word, end, RowEnds::kWords, base},
-#include "autobet/language/vocabulary.inc"
-#undef SIGN
-#undef ROW
-#undef STEM
-#undef FAMILY
+#define SIGN(source, token) {Form::kSign, source, token},
+#define ROW(source, token) {Form::kText, source, token},
+#define WORD(source, token, ...) {Form::kText, source, token},
+#define FAMILY(word, end, base) {Form::kFamily, word, end, 'V', base},
+#define NUMBERED(code, word, ...) {Form::kFamily, word, "", 'V', code},
+#define VARIABLE(code, source, ...) {Form::kCode, source, "", 'V', code},
+#define SETTABLE VARIABLE
+#define BET VARIABLE
+#define GROUP VARIABLE
+#define NUMBER_FUNCTION(code, source, ...) {Form::kCode, source, "", 'F', code},
+#define TEXT_FUNCTION NUMBER_FUNCTION
+#define BET_FUNCTION NUMBER_FUNCTION
+#define STACK_FUNCTION NUMBER_FUNCTION
+#define COUNT_FUNCTION NUMBER_FUNCTION
+#define ACTION(code, source, ...) {Form::kCode, source, "", 'A', code},
+#define TARGET_ACTION ACTION
+#define AMOUNT_ACTION ACTION
+#define SWAP_ACTION ACTION
+#include "autobet/language/words.inc"
 };
 
-std::string BetToken(int bet) {
-  std::string digits = std::to_string(bet);
-  return Concat({digits.size() == 1 ? "V00" : "V0", digits});
+std::string CodeToken(char letter, int code) {
+  const std::string digits = std::to_string(code);
+  return std::string(1, letter) + std::string(digits.size() < 3 ? 3 - digits.size() : 0, '0') + digits;
+}
+
+VocabularyRow RowOf(const TableLine& line) {
+  constexpr std::string_view kGoesOn = "...";
+  constexpr std::string_view kOpenBracket = " L020";
+  VocabularyRow row{std::string(line.source), std::string(line.token), RowEnds::kWords};
+  if (line.form == Form::kSign) row.ends = RowEnds::kSign;
+  if (line.source.ends_with(kGoesOn)) {
+    row.source.resize(line.source.size() - kGoesOn.size());
+    row.ends = RowEnds::kStem;
+  }
+  if (line.form == Form::kCode) row.token = CodeToken(line.letter, line.code);
+  // A function that needs its bracket to be known gives it back.
+  if (line.letter == 'F' && line.source.ends_with(kOpenBracket)) row.token += kOpenBracket;
+  return row;
+}
+
+void AddFamily(const TableLine& line, std::vector<VocabularyRow>& rows) {
+  for (int n = kCheckStacks - 1; n >= 0; --n)
+    rows.push_back({Concat({line.source, std::to_string(n), line.token}),
+                    Concat({CodeToken(line.letter, line.code + n), line.token}), RowEnds::kWords});
 }
 
 std::vector<VocabularyRow> BuildRows() {
   std::vector<VocabularyRow> rows;
   for (const TableLine& line : kTable) {
-    if (line.familyBase < 0) rows.push_back({std::string(line.source), std::string(line.token), line.ends});
-    for (int n = 99; line.familyBase >= 0 && n >= 0; --n) {
-      rows.push_back({Concat({line.source, std::to_string(n), line.token}),
-                      Concat({"V", std::to_string(line.familyBase + n), line.token}), line.ends});
-    }
-  }
-  // A bet that has no place among the phrases has its own word.
-  for (int bet = 1; bet <= kBets; ++bet) {
-    std::string token = BetToken(bet);
-    const bool has = std::ranges::any_of(rows, [&](const VocabularyRow& row) { return row.token == token; });
-    if (!has) rows.push_back({FactsOf(bet).scriptName, std::move(token), RowEnds::kWords});
+    if (line.form == Form::kFamily)
+      AddFamily(line, rows);
+    else
+      rows.push_back(RowOf(line));
   }
   return rows;
 }
@@ -59,22 +88,10 @@ const std::vector<VocabularyRow>& VocabularyRows() {
 }
 
 std::string_view BetWord(int bet) {
-  if (!IsTableBet(bet)) return {};
-  const std::string token = BetToken(bet);
-  for (const VocabularyRow& row : VocabularyRows()) {
-    if (row.token == token) return row.source;
-  }
+  for (const TableLine& line : kTable)
+    if (IsTableBet(bet) && line.letter == 'V' && line.form == Form::kCode && line.code == bet)
+      return line.source;
   return {};
-}
-
-int BetFromWord(std::string_view word) {
-  const std::string lowered = Lowered(Trimmed(word));
-  for (const VocabularyRow& row : VocabularyRows()) {
-    if (row.source != lowered || row.token.size() != 4 || row.token[0] != 'V') continue;
-    const int bet = std::stoi(row.token.substr(1));
-    return IsTableBet(bet) ? bet : 0;
-  }
-  return 0;
 }
 
 }  // namespace tessaryn

@@ -25,7 +25,5 @@ const std::vector<VocabularyRow>& VocabularyRows();
 
 // The first word or phrase of the language that means bet 1 to 93; empty for any other number.
 std::string_view BetWord(int bet);
-// The bet that a word such as "passline" or "hop31" means, in any case; 0 when it means none.
-int BetFromWord(std::string_view word);
 
 }  // namespace tessaryn

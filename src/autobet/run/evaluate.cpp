@@ -6,7 +6,7 @@
 #include "autobet/run/give_way.h"
 #include "autobet/run/read_bet.h"
 #include "autobet/run/read_function.h"
-#include "autobet/run/read_variable.h"
+#include "autobet/run/resolve_reference.h"
 #include "autobet/run/script_errors.h"
 #include "state/game.h"
 
@@ -123,9 +123,9 @@ bool TakeTextStep(Game& game, PreparedProgram& program, const Instruction& step)
       return true;
     }
     case Op::kVariableText:
-      return ReadTextVariable(game, program, program.references[a], program.texts[to]);
+      return ReadTextReference(game, program, program.references[a], program.texts[to]);
     case Op::kFunctionText:
-      return ReadTextFunction(game, program, program.calls[a], program.texts[to]);
+      return program.calls[a].readText({game, program, program.calls[a]}, program.texts[to]);
     case Op::kDateText:
       program.texts[to] = game.host->DateText();
       return true;
@@ -236,8 +236,10 @@ bool ReadBets(Game& game, PreparedProgram& program, const Instruction& step) {
 // The steps that look at the table.
 bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, double& result) {
   const auto a = static_cast<std::size_t>(step.a);
-  if (step.op == Op::kFunction)
-    return ReadNumberFunction(game, program, program.calls[a], result) && GiveWay(game);
+  if (step.op == Op::kFunction) {
+    result = 0;
+    return program.calls[a].readNumber({game, program, program.calls[a]}, result) && GiveWay(game);
+  }
   const Reference& reference = program.references[a];
   if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
   int seat = 0;

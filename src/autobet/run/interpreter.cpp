@@ -80,18 +80,6 @@ void CompileActiveScripts(Game& game) {
 
 namespace {
 
-constexpr int kActionBet = 481;
-constexpr int kActionMultiply = 482;
-constexpr int kActionDivide = 483;
-constexpr int kActionAdd = 484;
-constexpr int kActionSubtract = 485;
-constexpr int kActionRound = 487;
-constexpr int kActionRoundDown = 488;
-constexpr int kActionBuyPlace = 450;
-constexpr int kActionCallOff = 451;
-constexpr int kActionCallOn = 452;
-constexpr int kActionRemoveButton = 453;
-
 // One run of the program.
 struct Run {
   Game& game;
@@ -164,45 +152,20 @@ bool Assign(Run& run, const PreparedStatement& statement) {
   });
 }
 
-// What an amount action makes of the value now.
-bool Combined(Game& game, int action, double now, double amount, double& result) {
-  switch (action) {
-    case kActionBet:
-      result = amount;
-      return true;
-    case kActionMultiply:
-      result = now * amount;
-      break;
-    case kActionAdd:
-      result = now + amount;
-      break;
-    case kActionSubtract:
-      result = now - amount;
-      break;
-    default:
-      if (amount == 0) return ScriptFails(game, kErrorDivision);
-      result = now / amount;
-      if (action == kActionDivide) break;
-      result = (action == kActionRound       ? std::nearbyint(result)
-                : action == kActionRoundDown ? std::floor(result)
-                                             : std::ceil(result)) *
-               amount;
-      break;
-  }
-  return std::isfinite(result) || ScriptFaults(game, kNumberOverflow);
-}
-
 bool TakeAmount(Run& run, const PreparedStatement& statement) {
   const double amount = run.program.numbers[static_cast<std::size_t>(statement.operand.place)];
+  const AmountResult result = statement.work.result;
   return ForTargets(run, statement, [&](const Reference& reference, const ResolvedTarget& target) {
     ScriptValue value;
     if (target.code == 0) return true;
-    if (statement.code != kActionBet && !ReadTarget(run.game, run.program, reference, target, value))
-      return false;
+    if (result == nullptr) {
+      value.number = amount;
+      return SetVariable(run.game, target, value);
+    }
+    if (!ReadTarget(run.game, run.program, reference, target, value)) return false;
     const double now = value.AsNumber();
     value.isText = false;
-    return Combined(run.game, statement.code, now, amount, value.number) &&
-           SetVariable(run.game, target, value);
+    return result(run.game, now, amount, value.number) && SetVariable(run.game, target, value);
   });
 }
 
@@ -212,35 +175,16 @@ bool SetOwn(Run& run, const PreparedStatement& statement) {
   const int seat = game.autobet.CurrentAutobettor;
   if (!PlayerMayAct(game, seat)) return false;
   double value = run.program.numbers[static_cast<std::size_t>(statement.operand.place)];
-  if (statement.kind == StatementKind::kAmount && statement.code != kActionBet) {
+  if (statement.work.result != nullptr) {
     const double now = game.table.BetAmount(seat, statement.own).ToDouble();
-    if (!Combined(game, statement.code, now, value, value)) return false;
+    if (!statement.work.result(game, now, value, value)) return false;
   }
   return SetAmount(game, seat, statement.own, value);
 }
 
-bool TakeOnTarget(Game& game, int action, const ResolvedTarget& target) {
-  if (action == kActionBuyPlace) {
-    if (!IsPlace(target.code)) return ScriptFails(game, kErrorPlaceReference);
-    return BuyPlaceBet(game, target.seat, target.code) || ScriptFails(game, kErrorPlaceReference);
-  }
-  const bool bet = IsTableBet(target.code);
-  if (action == kActionCallOff || action == kActionCallOn) {
-    if (bet) CallBet(game, target.seat, target.code, action == kActionCallOn);
-    return true;
-  }
-  if (action == kActionRemoveButton) {
-    if (bet) RemoveCall(game, target.seat, target.code);
-    return true;
-  }
-  ScriptValue nothing;
-  nothing.isText = target.code >= 800 && target.code <= 899;
-  return SetVariable(game, target, nothing);
-}
-
 bool OnTargets(Run& run, const PreparedStatement& statement) {
   return ForTargets(run, statement, [&](const Reference&, const ResolvedTarget& target) {
-    return TakeOnTarget(run.game, statement.code, target);
+    return statement.work.onTarget(run.game, target);
   });
 }
 
@@ -271,7 +215,7 @@ bool TakeStatement(Run& run, const PreparedStatement& statement) {
     case StatementKind::kSwap:
       return Swap(run, statement);
     default:
-      return TakeAction(run.game, run.program, statement);
+      return statement.work.effect({run.game, run.program, statement});
   }
 }
 
@@ -371,7 +315,7 @@ void BeginScript(Run& run, int player) {
 void Dispatch(Run& run, const PreparedStatement& statement) {
   switch (statement.kind) {
     case StatementKind::kHeader:
-      return BeginScript(run, statement.code);
+      return BeginScript(run, statement.player);
     case StatementKind::kIf:
       BeginCondition(run);
       return Note(run, "Beginning of condition block.");

@@ -12,6 +12,13 @@
 
 namespace tessaryn {
 
+struct Game;
+struct Question;        // run/read_variable.h
+struct CallInHand;      // run/read_function.h
+struct ActionInHand;    // run/take_action.h
+struct ResolvedTarget;  // run/set_variable.h
+struct ScriptValue;     // run/set_variable.h
+
 // A value's place: in the numbers or in the texts. Literals have places of their own that no step writes.
 struct Operand {
   std::int32_t place = 0;
@@ -31,9 +38,37 @@ enum class PlayerChoice : std::uint8_t {
   kComputed,  // player(...)
 };
 
+// What carries out the words of the language, as their rows name it: looked up once, as a script is prepared.
+using VariableReader = double (*)(const Question& question);
+using VariableWriter = bool (*)(Game& game, const ResolvedTarget& target, const ScriptValue& value);
+using NumberFunction = bool (*)(const CallInHand& call, double& value);
+using TextFunction = bool (*)(const CallInHand& call, std::string& text);
+using ActionEffect = bool (*)(const ActionInHand& action);
+using TargetEffect = bool (*)(Game& game, const ResolvedTarget& target);
+using AmountResult = bool (*)(Game& game, double now, double amount, double& result);
+
+// Variables that a function names by a number.
+struct NumberedVariables {
+  std::int32_t first;             // of their codes
+  std::int32_t (*place)(double);  // which of them a number means, from 0; -1 for none
+  std::int32_t error;             // of a number that means none
+};
+
+// How a reference's code and argument are to be read.
+enum class ReferenceForm : std::uint8_t {
+  kVariable,
+  kNumbered,      // a function: a bet, a CheckStack or its name by number
+  kDiceByNumber,  // functions: a count by number
+  kLineByNumber,
+  kPointsByNumber,
+  kNothing,  // a function that no variable belongs to, as a target
+};
+
 // A variable, or a bet, CheckStack or count by function, with what stands around it.
 struct Reference {
-  bool function = false;
+  ReferenceForm form = ReferenceForm::kVariable;
+  bool text = false;   // gives a text
+  bool ofSeat = true;  // whether a player must be there, and may be acted for, to set it
   std::int32_t code = 0;
   PlayerChoice player = PlayerChoice::kTable;
   std::int32_t seat = 0;   // with kSeat
@@ -41,8 +76,11 @@ struct Reference {
   std::int32_t scope = 2;  // 0 to 4, as the statistics have them
   std::int32_t metric = 0;
   double measure = 0;
-  std::int32_t item = 0;  // the roll item that the measure means, with counts of dice
-  Operand argument;       // of a function
+  std::int32_t item = 0;                        // the roll item that the measure means, with counts of dice
+  Operand argument;                             // of a function
+  const NumberedVariables* numbered = nullptr;  // with kNumbered
+  VariableReader read = nullptr;                // null for a bet, which its metric and measure read
+  VariableWriter write = nullptr;               // null for what can't be set, and is passed over
 };
 
 // any(...), all(...) or a plain value, which is an all(...) of one.
@@ -57,6 +95,8 @@ struct PreparedList {
 // A function that is no reference.
 struct PreparedCall {
   std::int32_t code = 0;
+  NumberFunction readNumber = nullptr;  // one of the two
+  TextFunction readText = nullptr;
   PreparedList arguments;  // the qualifier with list functions alone
 };
 
@@ -157,10 +197,17 @@ enum class StatementKind : std::uint8_t {
   kLabel,
   kCondition,
   kAssign,     // targets take the value
-  kAmount,     // bet, multiply, divide, add, subtract, round: code
-  kOnTargets,  // buy, call, remove, clear: code
+  kAmount,     // bet, multiply, divide, add, subtract, round
+  kOnTargets,  // buy, call, remove, clear
   kSwap,
-  kAction,  // code, with its arguments
+  kAction,  // with its arguments
+};
+
+// What does an action: by its statement's kind one of these.
+struct ActionWork {
+  ActionEffect effect = nullptr;    // kAction
+  TargetEffect onTarget = nullptr;  // kOnTargets
+  AmountResult result = nullptr;    // kAmount; null where the amount is set as it is
 };
 
 struct PreparedStatement {
@@ -169,17 +216,18 @@ struct PreparedStatement {
   std::int32_t keyword = 0;  // of a block keyword: its token kind
   std::int32_t line = 0;     // 1-based source line
   std::int32_t column = 0;
-  std::int32_t code = 0;   // of an action; of a header the player
-  std::int32_t jump = 0;   // a statement's index; the run goes on behind it
-  std::int32_t tests = 0;  // of a condition that is nothing but tests joined by AND: how many
-  std::int32_t own = 0;    // of kAssign and kAmount: the bet or CheckStack of whose script it is that takes
-                           // the number, and nothing else does; 0 any other targets
-  std::int32_t then = 0;   // of if and elseif: the statement that ends the condition
-  CodeRange value;         // computes the operands below
-  Operand operand;         // the value, the amount, the first argument
-  Operand second;          // a second argument
+  std::int32_t player = 0;  // of a header
+  std::int32_t jump = 0;    // a statement's index; the run goes on behind it
+  std::int32_t tests = 0;   // of a condition that is nothing but tests joined by AND: how many
+  std::int32_t own = 0;     // of kAssign and kAmount: the bet or CheckStack of whose script it is that takes
+                            // the number, and nothing else does; 0 any other targets
+  std::int32_t then = 0;    // of if and elseif: the statement that ends the condition
+  CodeRange value;          // computes the operands below
+  Operand operand;          // the value, the amount, the first argument
+  Operand second;           // a second argument
   std::int32_t arguments = 0;  // how many of the two there are
   CodeRange targets;           // stretch of the target items
+  ActionWork work;             // of kAction, kAmount and kOnTargets
 };
 
 struct PreparedProgram {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "autobet/language/language.h"
+#include "autobet/run/read_variable.h"
 #include "autobet/run/script_errors.h"
 #include "dice/percentage_dice.h"
 #include "rules/advantage.h"
@@ -13,35 +14,6 @@
 
 namespace tessaryn {
 namespace {
-
-constexpr int kMetricWins = 2;
-constexpr int kMetricLosses = 3;
-constexpr int kMetricNet = 4;
-
-// Measures by their codes.
-enum Measure : int {
-  kTotal = 0,
-  kTotalCount = 21,
-  kTotalMoney = 22,
-  kHigh = 23,
-  kLow = 24,
-  kAverage = 25,
-  kLastMoney = 26,
-  kSinceLast = 27,
-  kLastRollCount = 28,
-  kLastRollMoney = 29,
-  kCountPerHour = 30,
-  kMoneyPerHour = 31,
-  kExpectedValue = 32,
-  kCurrentCount = 33,
-  kCurrentMoney = 34,
-  kPriorCount = 35,
-  kPriorMoney = 36,
-  kWorkingFlag = 37,
-  kCalledOn = 38,
-  kCalledOff = 39,
-  kVigHeld = 40,
-};
 
 struct BetQuestion {
   Game& game;
@@ -71,43 +43,43 @@ double PerHour(const BetQuestion& question, double amount) {
 
 bool TableStatistic(const BetQuestion& question, StatTable table, int measure, double& value) {
   switch (measure) {
-    case kTotalCount:
+    case kMeasureCount:
       value = question.Stat(table, kStatCount);
       return true;
-    case kTotal:
-    case kTotalMoney:
+    case kMeasureTotal:
+    case kMeasureSum:
       value = question.Stat(table, kStatTotal);
       return true;
-    case kHigh:
+    case kMeasureHigh:
       value = question.Stat(table, kStatHigh);
       return true;
-    case kLow:
+    case kMeasureLow:
       value = question.Stat(table, kStatLow);
       return true;
-    case kAverage: {
+    case kMeasureAverage: {
       const double count = question.Stat(table, kStatCount);
       if (count == 0)
         return ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
       value = question.Stat(table, kStatTotal) / count;
       return true;
     }
-    case kLastMoney:
+    case kMeasureLastMoney:
       value = question.Stat(table, kStatLastAmount);
       return true;
-    case kSinceLast:
+    case kMeasureRollsSinceLast:
       value = question.Since(table);
       return value >= 0 ||
              ScriptFails(question.game, static_cast<int>(kErrorNoWagers) + static_cast<int>(table));
-    case kLastRollCount:
+    case kMeasureLastRollCount:
       value = question.Since(table) == 0 ? 1 : 0;
       return true;
-    case kLastRollMoney:
+    case kMeasureLastRollMoney:
       value = OfLastRoll(question, table, kStatLastAmount);
       return true;
-    case kCountPerHour:
+    case kMeasureCountPerHour:
       value = PerHour(question, question.Stat(table, kStatCount));
       return true;
-    case kMoneyPerHour:
+    case kMeasureMoneyPerHour:
       value = PerHour(question, question.Stat(table, kStatTotal));
       return true;
     default:
@@ -130,42 +102,42 @@ bool NetStatistic(const BetQuestion& question, int measure, double& value) {
     return question.Stat(kWinStats, kind) - question.Stat(kLossStats, kind);
   };
   switch (measure) {
-    case kTotalCount:
+    case kMeasureCount:
       value = difference(kStatCount);
       return true;
-    case kTotal:
-    case kTotalMoney:
+    case kMeasureTotal:
+    case kMeasureSum:
       value = difference(kStatTotal);
       return true;
-    case kHigh:
+    case kMeasureHigh:
       value = question.Stat(kWinStats, kStatHigh);
       return true;
-    case kLow:
+    case kMeasureLow:
       value = -question.Stat(kLossStats, kStatHigh);
       return true;
-    case kAverage: {
+    case kMeasureAverage: {
       const double count = question.Stat(kWagerStats, kStatCount);
       if (count == 0) return ScriptFails(question.game, kErrorNoWagers);
       value = difference(kStatTotal) / count;
       return true;
     }
-    case kLastMoney:
+    case kMeasureLastMoney:
       value = LastNet(question);
       return true;
-    case kLastRollCount:
+    case kMeasureLastRollCount:
       value = question.Since(kWagerStats) == 0 ? 1 : 0;
       return true;
-    case kLastRollMoney:
+    case kMeasureLastRollMoney:
       value = OfLastRoll(question, kWinStats, kStatLastAmount) -
               OfLastRoll(question, kLossStats, kStatLastAmount);
       return true;
-    case kCountPerHour:
+    case kMeasureCountPerHour:
       value = PerHour(question, difference(kStatCount));
       return true;
-    case kMoneyPerHour:
+    case kMeasureMoneyPerHour:
       value = PerHour(question, difference(kStatTotal));
       return true;
-    case kExpectedValue:
+    case kMeasureExpectedValue:
       value =
           question.Stat(kWagerStats, kStatTotal) * FigureAdvantage(question.game, question.bet).evPerDecision;
       return true;
@@ -177,7 +149,7 @@ bool NetStatistic(const BetQuestion& question, int measure, double& value) {
 
 // The net in percent of what was wagered.
 bool NetPercent(const BetQuestion& question, int measure, double& value) {
-  if (measure == kExpectedValue) {
+  if (measure == kMeasureExpectedValue) {
     value = 100 * FigureAdvantage(question.game, question.bet).evPerDecision;
     return true;
   }
@@ -197,25 +169,25 @@ bool Standing(const BetQuestion& question, int measure, double& value) {
   const Currency now = table.BetAmount(question.seat, question.bet);
   const Currency prior = table.BetBeforeRoll(question.seat, question.bet);
   switch (measure) {
-    case kCurrentCount:
+    case kMeasureCurrentCount:
       value = now > kZero ? 1 : 0;
       return true;
-    case kCurrentMoney:
+    case kMeasureCurrentMoney:
       value = now.ToDouble();
       return true;
-    case kPriorCount:
+    case kMeasurePriorCount:
       value = prior > kZero ? 1 : 0;
       return true;
-    case kPriorMoney:
+    case kMeasurePriorMoney:
       value = prior.ToDouble();
       return true;
-    case kWorkingFlag:
+    case kMeasureWorking:
       value = Flag(BetWorkingOf(question.game, question.seat, question.bet) > 0);
       return true;
-    case kCalledOn:
+    case kMeasureCalledOn:
       value = Flag(BetWorkingOf(question.game, question.seat, question.bet) == 2);
       return true;
-    case kCalledOff:
+    case kMeasureCalledOff:
       value = Flag(BetWorkingOf(question.game, question.seat, question.bet) == -1);
       return true;
     default:
@@ -239,15 +211,16 @@ Currency SessionLastRoll(const Game& game, int metric, int seat, int bet) {
   return kZero;
 }
 
-bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value) {
-  const BetQuestion question{game, reference.scope, seat, bet};
-  const int measure = static_cast<int>(reference.measure);
-  if (measure >= kCurrentCount) return Standing(question, measure, value);
-  switch (reference.metric) {
+bool ReadBet(const Question& asked, double& value) {
+  const BetQuestion question{asked.game, asked.scope, asked.seat, asked.code};
+  const int measure = static_cast<int>(asked.measure);
+  if (measure >= kMeasureCurrentCount) return Standing(question, measure, value);
+  switch (asked.metric) {
     case kMetricTendered:
       // Tendered is what was offered, decided or not.
-      if (measure == kLastRollCount || measure == kLastRollMoney)
-        return Standing(question, measure == kLastRollCount ? kPriorCount : kPriorMoney, value);
+      if (measure == kMeasureLastRollCount || measure == kMeasureLastRollMoney)
+        return Standing(question, measure == kMeasureLastRollCount ? kMeasurePriorCount : kMeasurePriorMoney,
+                        value);
       return TableStatistic(question, kWagerStats, measure, value);
     case kMetricWins:
       return TableStatistic(question, kWinStats, measure, value);

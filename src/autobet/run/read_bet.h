@@ -8,9 +8,9 @@ namespace tessaryn {
 
 struct Game;
 
-// False with ScriptError set: 300 to 302 where an average, or the rolls since the last, has nothing to go by,
-// 1000 for the vig of a bet without.
-bool ReadBet(Game& game, const Reference& reference, int seat, int bet, double& value);
+// The bet is the code that is asked about. False with ScriptError set: 300 to 302 where an average, or the
+// rolls since the last, has nothing to go by, 1000 for the vig of a bet without.
+bool ReadBet(const Question& question, double& value);
 
 // What the last roll won (metric 2) or lost (3) on a bet, as the session has it. 0 when it decided nothing.
 Currency SessionLastRoll(const Game& game, int metric, int seat, int bet);

@@ -4,33 +4,29 @@
 #include <cmath>
 
 #include "autobet/language/characters.h"
-#include "autobet/language/language.h"
 #include "autobet/language/script_text.h"
 #include "autobet/run/give_way.h"
 #include "autobet/run/operands.h"
-#include "autobet/run/read_variable.h"
+#include "autobet/run/resolve_reference.h"
 #include "autobet/run/script_errors.h"
 #include "state/show_message.h"
 
 namespace tessaryn {
+
+double CallInHand::Number(std::size_t i) const {
+  return i < Members().size() ? NumberOf(program, Members()[i]) : 0;
+}
+std::string CallInHand::Text(std::size_t i) const {
+  return i < Members().size() ? Text(Members()[i]) : std::string();
+}
+std::string CallInHand::Text(Operand operand) const {
+  std::string text = TextOf(program, operand);
+  game.autobet.Work += text.size();
+  return text;
+}
+bool CallInHand::Fails(int code) const { return ScriptFails(game, code); }
+
 namespace {
-
-// A call in hand, with its arguments at their places.
-struct CallInHand {
-  Game& game;
-  const PreparedProgram& program;
-  const PreparedCall& call;
-
-  const std::vector<Operand>& Members() const { return call.arguments.members; }
-  double Number(std::size_t i) const { return i < Members().size() ? NumberOf(program, Members()[i]) : 0; }
-  std::string Text(std::size_t i) const { return i < Members().size() ? Text(Members()[i]) : std::string(); }
-  std::string Text(Operand operand) const {
-    std::string text = TextOf(program, operand);
-    game.autobet.Work += text.size();
-    return text;
-  }
-  bool Fails(int code) const { return ScriptFails(game, code); }
-};
 
 // --- Lists.
 
@@ -45,9 +41,10 @@ void ForMembers(const CallInHand& hand, Visit&& visit) {
 struct ListSums {
   double count = 0;
   double sum = 0;
-  double squares = 0;
   double highest = 0;
   double lowest = 0;
+
+  double Mean() const { return count == 0 ? 0 : sum / count; }
 };
 
 ListSums SumList(const CallInHand& hand) {
@@ -59,51 +56,55 @@ ListSums SumList(const CallInHand& hand) {
     sums.sum += number;
     ++sums.count;
   });
-  constexpr int kDeviation = 129;
-  if (hand.call.code != kDeviation) return sums;
-  const double mean = sums.count == 0 ? 0 : sums.sum / sums.count;
-  ForMembers(hand, [&](Operand member) {
-    const double difference = NumberOf(hand.program, member) - mean;
-    sums.squares += difference * difference;
-  });
   return sums;
 }
 
-bool ListFunction(const CallInHand& hand, double& value) {
-  if (hand.call.code == kFunctionCount) {
-    value = 0;
-    ForMembers(hand, [&value](Operand) { ++value; });
-    return true;
-  }
-  const ListSums sums = SumList(hand);
-  const double count = sums.count == 0 ? 1 : sums.count;
-  switch (hand.call.code) {
-    case 126:
-      value = sums.highest;
-      break;
-    case 127:
-      value = sums.lowest;
-      break;
-    case 128:
-      value = sums.sum / count;
-      break;
-    case 129:
-      value = std::sqrt(sums.squares / count);
-      break;
-    case 130:
-      value = sums.sum;
-      break;
-    default:
-      break;
-  }
+bool Finite(const CallInHand& hand, double value) {
   return std::isfinite(value) || ScriptFaults(hand.game, kNumberOverflow);
 }
 
-// The text that stands highest or lowest in the order of texts.
-bool ListText(const CallInHand& hand, std::string& text) {
+bool HighestOfList(const CallInHand& hand, double& value) {
+  value = SumList(hand).highest;
+  return Finite(hand, value);
+}
+
+bool LowestOfList(const CallInHand& hand, double& value) {
+  value = SumList(hand).lowest;
+  return Finite(hand, value);
+}
+
+bool SumOfList(const CallInHand& hand, double& value) {
+  value = SumList(hand).sum;
+  return Finite(hand, value);
+}
+
+bool AverageOfList(const CallInHand& hand, double& value) {
+  value = SumList(hand).Mean();
+  return Finite(hand, value);
+}
+
+bool DeviationOfList(const CallInHand& hand, double& value) {
+  const ListSums sums = SumList(hand);
+  const double mean = sums.Mean();
+  double squares = 0;
+  ForMembers(hand, [&](Operand member) {
+    const double difference = NumberOf(hand.program, member) - mean;
+    squares += difference * difference;
+  });
+  value = sums.count == 0 ? 0 : std::sqrt(squares / sums.count);
+  return Finite(hand, value);
+}
+
+bool CountOfList(const CallInHand& hand, double& value) {
+  value = 0;
+  ForMembers(hand, [&value](Operand) { ++value; });
+  return true;
+}
+
+// The text that stands first (wanted -1) or last (1) in the order of texts.
+bool TextOfList(const CallInHand& hand, int wanted, std::string& text) {
   bool first = true;
   bool goesOn = true;
-  const int wanted = hand.call.code == 132 ? 1 : -1;
   text.clear();
   ForMembers(hand, [&](Operand member) {
     goesOn = goesOn && GiveWay(hand.game);
@@ -114,6 +115,9 @@ bool ListText(const CallInHand& hand, std::string& text) {
   });
   return goesOn;
 }
+
+bool HighestText(const CallInHand& hand, std::string& text) { return TextOfList(hand, 1, text); }
+bool LowestText(const CallInHand& hand, std::string& text) { return TextOfList(hand, -1, text); }
 
 // --- The table.
 
@@ -190,20 +194,46 @@ bool Place(const CallInHand& hand, std::size_t argument, double first, double mo
 // A count may ask for more than there is.
 constexpr double kAnyCount = 2147483647;
 
+enum class End { kLeft, kRight };
+
+// A text cut so many characters from an end, or as near to it as it is long: both parts.
+struct CutText {
+  std::string left;
+  std::string right;
+};
+
 // Parts of a text are counted in characters, and cut at bytes.
-bool EndFunction(const CallInHand& hand, std::string& text) {
+bool Cut(const CallInHand& hand, End from, CutText& parts) {
   const std::string whole = hand.Text(0);
   std::size_t count = 0;
   if (!Place(hand, 1, 0, kAnyCount, count)) return false;
-  const bool fromLeft = hand.call.code == 801 || hand.call.code == 803;
-  if (!fromLeft) {
+  if (from == End::kRight) {
     const std::size_t characters = CountCharacters(whole);
     count = characters - std::min(count, characters);
   }
   const std::size_t cut = CharacterStart(whole, count);
-  const bool front = hand.call.code == 801 || hand.call.code == 804;
-  text = front ? whole.substr(0, cut) : whole.substr(cut);
+  parts = {whole.substr(0, cut), whole.substr(cut)};
   return true;
+}
+
+bool PartOf(const CallInHand& hand, End from, std::string CutText::*part, std::string& text) {
+  CutText parts;
+  if (!Cut(hand, from, parts)) return false;
+  text = std::move(parts.*part);
+  return true;
+}
+
+bool LeftPart(const CallInHand& hand, std::string& text) {
+  return PartOf(hand, End::kLeft, &CutText::left, text);
+}
+bool RightPart(const CallInHand& hand, std::string& text) {
+  return PartOf(hand, End::kRight, &CutText::right, text);
+}
+bool WithoutLeft(const CallInHand& hand, std::string& text) {
+  return PartOf(hand, End::kLeft, &CutText::right, text);
+}
+bool WithoutRight(const CallInHand& hand, std::string& text) {
+  return PartOf(hand, End::kRight, &CutText::left, text);
 }
 
 // Argument i as a position in a text, from 1 to the one behind its end: the byte where it is.
@@ -213,20 +243,32 @@ bool PlaceInText(const CallInHand& hand, std::size_t argument, const std::string
   return true;
 }
 
-bool MiddleFunction(const CallInHand& hand, std::string& text) {
+// Takes the text, and the bytes of its middle that the other arguments mean.
+bool TakeMiddle(const CallInHand& hand, std::string& text, std::size_t& start, std::size_t& bytes) {
   text = hand.Text(0);
-  std::size_t start = 0;
   std::size_t count = 0;
   if (!PlaceInText(hand, 1, text, start) || !Place(hand, 2, 0, kAnyCount, count)) return false;
-  const std::size_t bytes = CharacterStart(std::string_view(text).substr(start), count);
-  if (hand.call.code == 805)
-    text = text.substr(start, bytes);
-  else
-    text.erase(start, bytes);
+  bytes = CharacterStart(std::string_view(text).substr(start), count);
   return true;
 }
 
-bool Insert(const CallInHand& hand, std::string& text) {
+bool MiddlePart(const CallInHand& hand, std::string& text) {
+  std::size_t start = 0;
+  std::size_t bytes = 0;
+  if (!TakeMiddle(hand, text, start, bytes)) return false;
+  text = text.substr(start, bytes);
+  return true;
+}
+
+bool WithoutMiddle(const CallInHand& hand, std::string& text) {
+  std::size_t start = 0;
+  std::size_t bytes = 0;
+  if (!TakeMiddle(hand, text, start, bytes)) return false;
+  text.erase(start, bytes);
+  return true;
+}
+
+bool InsertText(const CallInHand& hand, std::string& text) {
   text = hand.Text(0);
   const std::string inserted = hand.Text(1);
   std::size_t at = 0;
@@ -236,7 +278,7 @@ bool Insert(const CallInHand& hand, std::string& text) {
   return true;
 }
 
-bool Find(const CallInHand& hand, double& value) {
+bool PlaceOfText(const CallInHand& hand, double& value) {
   const bool hasStart = hand.Members().size() > 2;
   const std::string text = hand.Text(hasStart ? 1 : 0);
   const std::string sought = hand.Text(hasStart ? 2 : 1);
@@ -249,13 +291,6 @@ bool Find(const CallInHand& hand, double& value) {
   return true;
 }
 
-bool NameOfStack(const CallInHand& hand, std::string& text) {
-  int code = 0;
-  if (!VariableOfFunction(hand.game, 800, hand.Number(0), code)) return false;
-  text = hand.game.table.seats[hand.game.autobet.CurrentAutobettor].CheckStackName[code - 800];
-  return true;
-}
-
 bool NameOfPlayer(const CallInHand& hand, std::string& text) {
   const double seat = hand.Number(0);
   if (seat != std::floor(seat) || !(seat >= 1 && seat <= kSeats)) return hand.Fails(kErrorPlayerName);
@@ -263,7 +298,7 @@ bool NameOfPlayer(const CallInHand& hand, std::string& text) {
   return !text.empty() || hand.Fails(kErrorNoPlayer);
 }
 
-bool CharacterOf(const CallInHand& hand, std::string& text) {
+bool CharacterOfCode(const CallInHand& hand, std::string& text) {
   std::size_t code = 0;
   if (!Place(hand, 0, 0, 255, code)) return false;
   text = CharacterText(static_cast<char32_t>(code));
@@ -290,77 +325,65 @@ bool CodeOfCharacter(const CallInHand& hand, double& value) {
   return true;
 }
 
-}  // namespace
-
-bool ReadNumberFunction(Game& game, const PreparedProgram& program, const PreparedCall& call, double& value) {
-  const CallInHand hand{game, program, call};
-  value = 0;
-  switch (call.code) {
-    case 50:
-      return SeatNumber(hand, value);
-    case 100:
-      return SquareRoot(hand, value);
-    case 101:
-      value = std::floor(hand.Number(0));
-      return true;
-    case 102:
-      value = std::fabs(hand.Number(0));
-      return true;
-    case 104:
-      return CodeOfCharacter(hand, value);
-    case 110:
-      return AverageBankroll(hand, value);
-    case 117:
-      value = LeadingNumber(hand.Text(0));
-      return true;
-    case 118:
-      value = static_cast<double>(CountCharacters(hand.Text(0)));
-      return true;
-    case 125:
-      return AskNumber(hand, value);
-    case 190:
-      return DieFace(hand, value);
-    case 203:
-      return Find(hand, value);
-    default:
-      return IsListFunction(call.code) ? ListFunction(hand, value) : true;
-  }
+bool WholePart(const CallInHand& hand, double& value) {
+  value = std::floor(hand.Number(0));
+  return true;
 }
 
-bool ReadTextFunction(Game& game, const PreparedProgram& program, const PreparedCall& call,
-                      std::string& text) {
-  const CallInHand hand{game, program, call};
-  switch (call.code) {
-    case 132:
-    case 133:
-      return ListText(hand, text);
-    case 800:
-      return NameOfStack(hand, text);
-    case 801:
-    case 802:
-    case 803:
-    case 804:
-      return EndFunction(hand, text);
-    case 805:
-    case 806:
-      return MiddleFunction(hand, text);
-    case 809:
-      return Insert(hand, text);
-    case 810:
-      text = GeneralNumber(hand.Number(0));
-      return true;
-    case 811:
-      return CharacterOf(hand, text);
-    case 812:
-      return Blanks(hand, text);
-    case 825:
-      return Ask(hand, Msg::kScriptAsksString, kErrorNoString, text);
-    case 850:
-      return NameOfPlayer(hand, text);
-    default:
-      text.clear();
-      return true;
-  }
+bool WithoutSign(const CallInHand& hand, double& value) {
+  value = std::fabs(hand.Number(0));
+  return true;
+}
+
+bool NumberOfText(const CallInHand& hand, double& value) {
+  value = LeadingNumber(hand.Text(0));
+  return true;
+}
+
+bool LengthOfText(const CallInHand& hand, double& value) {
+  value = static_cast<double>(CountCharacters(hand.Text(0)));
+  return true;
+}
+
+bool TextOfNumber(const CallInHand& hand, std::string& text) {
+  text = GeneralNumber(hand.Number(0));
+  return true;
+}
+
+bool AskText(const CallInHand& hand, std::string& text) {
+  return Ask(hand, Msg::kScriptAsksString, kErrorNoString, text);
+}
+
+// --- Which row reads how.
+
+template <typename Function>
+struct FunctionRow {
+  int code;
+  Function read;
+};
+
+constexpr FunctionRow<NumberFunction> kNumberFunctions[] = {
+#define NUMBER_FUNCTION(code, phrase, name, arguments, reader, ...) {code, reader},
+#include "autobet/language/words.inc"
+};
+
+constexpr FunctionRow<TextFunction> kTextFunctions[] = {
+#define TEXT_FUNCTION(code, phrase, name, arguments, reader, ...) {code, reader},
+#include "autobet/language/words.inc"
+};
+
+}  // namespace
+
+NumberFunction NumberFunctionOf(int code) {
+  for (const auto& row : kNumberFunctions)
+    if (row.code == code) return row.read;
+  return nullptr;
+}
+
+TextFunction TextFunctionOf(int code) {
+  for (const auto& row : kTextFunctions)
+    if (row.code == code) return row.read;
+  return nullptr;
 }
 
 }  // namespace tessaryn

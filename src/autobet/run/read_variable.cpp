@@ -1,15 +1,7 @@
 #include "autobet/run/read_variable.h"
 
-#include <cmath>
-#include <iterator>
-
 #include "autobet/language/language.h"
-#include "autobet/language/roll_item_of.h"
-#include "autobet/language/script_text.h"
-#include "autobet/run/operands.h"
-#include "autobet/run/read_bet.h"
-#include "autobet/run/script_errors.h"
-#include "base/bet_catalogue.h"
+#include "base/table_types.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
@@ -22,472 +14,255 @@ namespace {
 
 double Flag(bool on) { return on ? -1 : 0; }
 
+const TableState& TableOf(const Question& question) { return question.game.table; }
+const Statistics& StatsOf(const Question& question) { return question.game.stats; }
+
 // --- The table's own state.
 
-bool ReadTableState(Game& game, int code, double& value) {
-  const TableState& table = game.table;
-  const Settings& settings = game.settings;
-  const bool wasComeOut = table.PointBeforeRoll == 0;
-  switch (code) {
-    case 3000:
-      value = Flag(game.autobet.ScriptInitializing);
-      return true;
-    case 3001:
-      value = Flag((game.autobet.BeginningNewSession >> game.autobet.CurrentAutobettor & 1) != 0);
-      return true;
-    case 3002:
-      value = Flag(HandRolls(game.stats) == 0);
-      return true;
-    case 3005:
-      value = Flag(game.autobet.RollFileEndReached);
-      return true;
-    case 3006:
-      value = IsRollFileOpen(game.rollFile) ? game.rollFile.RollFileCursor : 0;
-      return true;
-    case 3007:
-      value = RollFileLength(game.rollFile);
-      return true;
-    case 3200:
-      value = table.ShooterSeat;
-      return true;
-    case 3201:
-      value = table.PreviousHandSeat;
-      return true;
-    case 3202:
-      value = table.HandSeat;
-      return true;
-    case 3203:
-      value = table.SelectedSeat;
-      return true;
-    case 3204:
-      value = game.autobet.CurrentAutobettor;
-      return true;
-    case 3300:
-      value = game.stats.HandPasses;
-      return true;
-    case 3301:
-      value = game.stats.HandMisses;
-      return true;
-    case 3500:
-      value = table.Point;
-      return true;
-    case 3501:
-      value = table.LastPoint;
-      return true;
-    case 3502:
-      value = table.PointBeforeRoll;
-      return true;
-    case 3510:
-      value = table.RollTotal;
-      return true;
-    case 3511:
-      value = table.Die1 * 10 + table.Die2;
-      return true;
-    case 3512:
-      value = table.Die1;
-      return true;
-    case 3513:
-      value = table.Die2;
-      return true;
-    case 3603:
-      value = settings.SimRollRate.ToDouble();
-      return true;
-    case 3610:
-      value = settings.MinBetMain.ToDouble();
-      return true;
-    case 3611:
-      value = settings.MaxBet.ToDouble();
-      return true;
-    case 3655:
-      value = game.generators.RngLastSeed;
-      return true;
-    case 3672:
-      value = game.generators.GeneratorIndex + 1;
-      return true;
-    case 3691:
-      value = settings.CompRate.ToDouble() / 100;
-      return true;
-    case 3693:
-      value = game.host->DateTimeNumber();
-      return true;
-    case 3694:
-      value = std::floor(game.host->DateTimeNumber());
-      return true;
-    case 3695: {
-      const double now = game.host->DateTimeNumber();
-      value = now - std::floor(now);
-      return true;
-    }
-    case 3696:
-      value = game.host->SecondsSinceMidnight();
-      return true;
-    case 3697:
-      value = game.autobet.Answer;
-      return true;
-    case 3698:
-      value = Rnd(game.generators);
-      return true;
-    case 3700:
-    case 3704:
-      value = Flag(table.Point == 0);
-      return true;
-    case 3705:
-      value = Flag(table.Point != 0);
-      return true;
-    case 3706:
-      value = Flag(wasComeOut && SessionRolls(game.stats) > 0);
-      return true;
-    case 3707:
-      value = Flag(!wasComeOut);
-      return true;
-    case 3708:
-      value = Flag(!wasComeOut && table.RollTotal == 7);
-      return true;
-    case 3709:
-      value = Flag(!wasComeOut && table.Point == 0);
-      return true;
-    case 3710:
-      value = Flag(table.Point != 0);
-      return true;
-    case 3711:
-      value = Flag(table.Point == 0);
-      return true;
-    default:
-      value = 0;
-      return true;
-  }
+double ScriptInitializing(const Question& question) { return Flag(question.game.autobet.ScriptInitializing); }
+double SessionBeginning(const Question& question) {
+  return Flag((question.game.autobet.BeginningNewSession >> question.game.autobet.CurrentAutobettor & 1) !=
+              0);
 }
+double HandBeginning(const Question& question) { return Flag(HandRolls(StatsOf(question)) == 0); }
+double RollFileEndReached(const Question& question) { return Flag(question.game.autobet.RollFileEndReached); }
+double NextRollOfFile(const Question& question) {
+  return IsRollFileOpen(question.game.rollFile) ? question.game.rollFile.RollFileCursor : 0;
+}
+double RollsOfFile(const Question& question) { return RollFileLength(question.game.rollFile); }
+double ShooterSeat(const Question& question) { return TableOf(question).ShooterSeat; }
+double LastShooterSeat(const Question& question) { return TableOf(question).PreviousHandSeat; }
+double OriginalShooterSeat(const Question& question) { return TableOf(question).HandSeat; }
+double SelectedSeat(const Question& question) { return TableOf(question).SelectedSeat; }
+double AutobettorSeat(const Question& question) { return question.game.autobet.CurrentAutobettor; }
+double ShooterPasses(const Question& question) { return StatsOf(question).HandPasses; }
+double ShooterMisses(const Question& question) { return StatsOf(question).HandMisses; }
+double LastPoint(const Question& question) { return TableOf(question).LastPoint; }
+double PointBeforeRoll(const Question& question) { return TableOf(question).PointBeforeRoll; }
+double DiceTotal(const Question& question) { return TableOf(question).RollTotal; }
+double DiceFaces(const Question& question) { return TableOf(question).Die1 * 10 + TableOf(question).Die2; }
+double FirstDie(const Question& question) { return TableOf(question).Die1; }
+double SecondDie(const Question& question) { return TableOf(question).Die2; }
+double RollsPerHour(const Question& question) { return question.game.settings.SimRollRate.ToDouble(); }
+double MinimumBet(const Question& question) { return question.game.settings.MinBetMain.ToDouble(); }
+double MaximumBet(const Question& question) { return question.game.settings.MaxBet.ToDouble(); }
+double Seed(const Question& question) { return question.game.generators.RngLastSeed; }
+double Generator(const Question& question) { return question.game.generators.GeneratorIndex + 1; }
+double CompRate(const Question& question) { return question.game.settings.CompRate.ToDouble() / 100; }
+double DateAndTime(const Question& question) { return question.game.host->DateTimeNumber(); }
+double SecondsOfDay(const Question& question) { return question.game.host->SecondsSinceMidnight(); }
+double Answer(const Question& question) { return question.game.autobet.Answer; }
+double RandomNumber(const Question& question) { return Rnd(question.game.generators); }
+
+bool LastRollWasComeOut(const Question& question) { return TableOf(question).PointBeforeRoll == 0; }
+double WasComeOut(const Question& question) {
+  return Flag(LastRollWasComeOut(question) && SessionRolls(StatsOf(question)) > 0);
+}
+double WasPointRoll(const Question& question) { return Flag(!LastRollWasComeOut(question)); }
+double SevenOut(const Question& question) {
+  return Flag(!LastRollWasComeOut(question) && TableOf(question).RollTotal == 7);
+}
+double PointDecided(const Question& question) {
+  return Flag(!LastRollWasComeOut(question) && TableOf(question).Point == 0);
+}
+
+}  // namespace
+
+double Point(const Question& question) { return TableOf(question).Point; }
+double PointIsOff(const Question& question) { return Flag(TableOf(question).Point == 0); }
+double PointIsOn(const Question& question) { return Flag(TableOf(question).Point != 0); }
+
+namespace {
 
 // --- A seat's own.
 
-double SeatValue(Game& game, int code, int seat) {
-  const TableState& table = game.table;
-  const Handling& handling = table.seats[seat].handling;
-  switch (code) {
-    case 651:
-      return (table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount).ToDouble();
-    case 655:
-      return table.seats[seat].RailAmount.ToDouble();
-    case 670:
-      return handling.WinHandling + 1;
-    case 671:
-      return handling.LoseHandling + 1;
-    case 700:
-      return Flag(handling.AutoTakeOdds);
-    case 701:
-      return Flag(handling.AutoLayOdds);
-    case 702:
-      return Flag(handling.AutoDownPlace);
-    case 703:
-      return Flag(handling.AutoPassDice);
-    default:
-      break;
-  }
-  if (code >= 100 && code <= 199) return table.BetAmount(seat, code).ToDouble();
-  return 0;
+const Handling& HandlingOf(const Question& question) {
+  return TableOf(question).seats[question.seat].handling;
+}
+
+double AvailableBankroll(const Question& question) {
+  return (TableOf(question).BankrollCurrent[question.seat] -
+          TableOf(question).seats[question.seat].OnTableAmount)
+      .ToDouble();
+}
+double LastAvailableBankroll(const Question& question) {
+  return TableOf(question).seats[question.seat].RailAmount.ToDouble();
+}
+double WinHandlingNumber(const Question& question) { return HandlingOf(question).WinHandling + 1; }
+double LoseHandlingNumber(const Question& question) { return HandlingOf(question).LoseHandling + 1; }
+double TakesFullOdds(const Question& question) { return Flag(HandlingOf(question).AutoTakeOdds); }
+double LaysFullOdds(const Question& question) { return Flag(HandlingOf(question).AutoLayOdds); }
+double TakesPlaceDown(const Question& question) { return Flag(HandlingOf(question).AutoDownPlace); }
+double PassesDice(const Question& question) { return Flag(HandlingOf(question).AutoPassDice); }
+double CheckStackValue(const Question& question) {
+  return TableOf(question).BetAmount(question.seat, question.code).ToDouble();
 }
 
 // --- Hands, hours and bankrolls by scope.
 
-double Sum(const Statistics& stats, int scope, int seat, NumberKind kind, int first, int last) {
-  double sum = 0;
-  for (int number = first; number <= last; ++number)
-    sum += stats.NumberCounts[Slot(scope, seat)][number][kind];
-  return sum;
-}
-
 double Percent(double part, double whole) { return whole == 0 ? 0 : 100 * part / whole; }
 double Ratio(double part, double whole) { return whole == 0 ? 0 : part / whole; }
 
-double ScopeValue(const Game& game, int code, int scope, int seat) {
-  const Statistics& stats = game.stats;
-  const int slot = Slot(scope, seat);
-  const double hands = stats.HandCount[slot];
-  switch (code) {
-    case 1100:
-      return FigureComps(game, scope, seat).compAmount.ToDouble();
-    case 1200:
-      return SimulatedHours(game, scope, seat);
-    case 1300:
-      return stats.BankrollBeginning[slot].ToDouble();
-    case 1301:
-      return BankrollOf(game, scope, seat).ToDouble();
-    case 1302:
-      return stats.BankrollHigh[slot].ToDouble();
-    case 1303:
-      return stats.BankrollLow[slot].ToDouble();
-    case 1500:
-      return hands;
-    case 1501:
-      return stats.MostRollsInHand[slot];
-    case 1502:
-      return Ratio(static_cast<double>(RollCount(stats, scope, seat, 0)), hands);
-    case 1503:
-      return stats.MostComeoutRollsInHand[slot];
-    case 1504:
-      return Ratio(Sum(stats, scope, seat, kComeoutRolls, 2, 12), hands);
-    case 1505:
-      return stats.MostPassesInHand[slot];
-    case 1506:
-      return Ratio(Sum(stats, scope, seat, kPasses, 2, 12), hands);
-    case 1507:
-      return stats.MostMissesInHand[slot];
-    case 1508:
-      return Ratio(Sum(stats, scope, seat, kMisses, 2, 12), hands);
-    default:
-      return 0;
-  }
+int SlotOf(const Question& question) { return Slot(question.scope, question.seat); }
+
+double RollsOf(const Question& question, int item) {
+  return static_cast<double>(RollCount(StatsOf(question), question.scope, question.seat, item));
+}
+double AllRolls(const Question& question) { return RollsOf(question, 0); }
+
+double AllNumbers(const Question& question, NumberKind kind) {
+  double sum = 0;
+  for (int number = 2; number <= 12; ++number)
+    sum += StatsOf(question).NumberCounts[SlotOf(question)][number][kind];
+  return sum;
+}
+
+double CompAmount(const Question& question) {
+  return FigureComps(question.game, question.scope, question.seat).compAmount.ToDouble();
+}
+double HoursPlayed(const Question& question) {
+  return SimulatedHours(question.game, question.scope, question.seat);
+}
+double BeginningBankroll(const Question& question) {
+  return StatsOf(question).BankrollBeginning[SlotOf(question)].ToDouble();
+}
+double BankrollNow(const Question& question) {
+  return BankrollOf(question.game, question.scope, question.seat).ToDouble();
+}
+double HighBankroll(const Question& question) {
+  return StatsOf(question).BankrollHigh[SlotOf(question)].ToDouble();
+}
+double LowBankroll(const Question& question) {
+  return StatsOf(question).BankrollLow[SlotOf(question)].ToDouble();
+}
+double Hands(const Question& question) { return StatsOf(question).HandCount[SlotOf(question)]; }
+double MostRolls(const Question& question) { return StatsOf(question).MostRollsInHand[SlotOf(question)]; }
+double AverageRolls(const Question& question) { return Ratio(AllRolls(question), Hands(question)); }
+double MostComeoutRolls(const Question& question) {
+  return StatsOf(question).MostComeoutRollsInHand[SlotOf(question)];
+}
+double AverageComeoutRolls(const Question& question) {
+  return Ratio(AllNumbers(question, kComeoutRolls), Hands(question));
+}
+double MostPasses(const Question& question) { return StatsOf(question).MostPassesInHand[SlotOf(question)]; }
+double AveragePasses(const Question& question) {
+  return Ratio(AllNumbers(question, kPasses), Hands(question));
+}
+double MostMisses(const Question& question) { return StatsOf(question).MostMissesInHand[SlotOf(question)]; }
+double AverageMisses(const Question& question) {
+  return Ratio(AllNumbers(question, kMisses), Hands(question));
 }
 
 // --- Counts of dice.
 
-double Probability(const Game& game, int item, bool skewed) {
-  return static_cast<double>(ProbabilityOfEvent(game.percentage, item, skewed));
+double Probability(const Question& question, bool skewed) {
+  return static_cast<double>(ProbabilityOfEvent(question.game.percentage, question.item, skewed));
+}
+double LikelyRolls(const Question& question, bool skewed) {
+  return AllRolls(question) * Probability(question, skewed) / 100;
+}
+bool SkewedDice(const Question& question) { return question.game.percentage.PercentageDiceActive; }
+
+double LikelyPercent(const Question& question) { return Probability(question, SkewedDice(question)); }
+double LikelyCount(const Question& question) { return LikelyRolls(question, SkewedDice(question)); }
+double TruePercent(const Question& question) { return Probability(question, false); }
+double TrueCount(const Question& question) { return LikelyRolls(question, false); }
+double SkewedPercent(const Question& question) { return Probability(question, true); }
+double SkewedCount(const Question& question) { return LikelyRolls(question, true); }
+double RolledCount(const Question& question) { return RollsOf(question, question.item); }
+double RolledPercent(const Question& question) { return Percent(RolledCount(question), AllRolls(question)); }
+double RollsSinceRolled(const Question& question) {
+  return static_cast<double>(RollsSinceLast(StatsOf(question), question.item));
 }
 
-// What a count of dice gives of an item. kind: code - 2501, or the function's code - 31.
-double DiceCount(const Game& game, int kind, int scope, int seat, int item) {
-  const Statistics& stats = game.stats;
-  const double rolls = static_cast<double>(RollCount(stats, scope, seat, 0));
-  const bool skewed = game.percentage.PercentageDiceActive;
-  switch (kind) {
-    case 0:
-      return Probability(game, item, skewed);
-    case 1:
-      return rolls * Probability(game, item, skewed) / 100;
-    case 2:
-      return Percent(static_cast<double>(RollCount(stats, scope, seat, item)), rolls);
-    case 3:
-      return static_cast<double>(RollCount(stats, scope, seat, item));
-    case 4:
-      return static_cast<double>(RollsSinceLast(stats, item));
-    case 5:
-      return Probability(game, item, false);
-    case 6:
-      return rolls * Probability(game, item, false) / 100;
-    case 7:
-      return rolls * Probability(game, item, true) / 100;
-    default:
-      return Probability(game, item, true);
-  }
+// --- Come-out rolls, passes and misses, and points.
+
+// Whether a count by a measure takes a number in.
+bool Takes(double measure, int number) {
+  const bool box = IsBoxNumber(number);
+  return measure == kMeasureTotal || measure == number || (measure == kMeasureNaturals && !box) ||
+         (measure == kMeasurePoints && box);
 }
 
-// --- Come-out rolls, passes and misses.
-
-struct NumberSet {
-  bool numbers[13] = {};
-};
-
-NumberSet SetOfMeasure(double measure) {
-  NumberSet set;
-  for (int number = 2; number <= 12; ++number) {
-    const bool box = IsBoxNumber(number);
-    if (measure == kMeasureTotal || measure == number || (measure == kMeasureNaturals && !box) ||
-        (measure == kMeasurePoints && box))
-      set.numbers[number] = true;
-  }
-  return set;
-}
-
-double CountOf(const Statistics& stats, int scope, int seat, NumberKind kind, const NumberSet& set) {
+double CountNumbers(const Question& question, NumberKind kind, double measure) {
   double sum = 0;
   for (int number = 2; number <= 12; ++number)
-    if (set.numbers[number]) sum += stats.NumberCounts[Slot(scope, seat)][number][kind];
+    if (Takes(measure, number)) sum += StatsOf(question).NumberCounts[SlotOf(question)][number][kind];
   return sum;
 }
 
-// kind: 0 and 1 come-out rolls, 2 and 3 passes, 4 and 5 misses; the odd ones in percent.
-double LineCount(const Game& game, int kind, int scope, int seat, double measure) {
-  const Statistics& stats = game.stats;
-  const auto number = static_cast<NumberKind>(kind / 2);
-  const double count = CountOf(stats, scope, seat, number, SetOfMeasure(measure));
-  if (kind % 2 == 0) return count;
-  // A part is one of its own column; the column itself is one of all rolls, or of all decisions.
-  if (measure != kMeasureTotal) return Percent(count, Sum(stats, scope, seat, number, 2, 12));
-  if (number == kComeoutRolls) return Percent(count, static_cast<double>(RollCount(stats, scope, seat, 0)));
-  return Percent(count, Sum(stats, scope, seat, kPasses, 2, 12) + Sum(stats, scope, seat, kMisses, 2, 12));
+double LineCount(const Question& question, NumberKind kind) {
+  return CountNumbers(question, kind, question.measure);
 }
 
-double PointCount(const Game& game, bool percent, int scope, int seat, int metric, double measure) {
-  const Statistics& stats = game.stats;
-  const NumberSet set = SetOfMeasure(measure == kMeasureTotal ? kMeasurePoints : measure);
-  const NumberSet all = SetOfMeasure(kMeasurePoints);
-  const auto kind = static_cast<NumberKind>(metric - kMetricEstablished);
-  const double count = CountOf(stats, scope, seat, kind, set);
-  if (!percent) return count;
-  if (measure != kMeasureTotal) return Percent(count, CountOf(stats, scope, seat, kind, all));
-  if (kind == kComeoutRolls) return Percent(count, Sum(stats, scope, seat, kComeoutRolls, 2, 12));
-  return Percent(count,
-                 CountOf(stats, scope, seat, kPasses, all) + CountOf(stats, scope, seat, kMisses, all));
+// A part is one of its own column; the column itself is one of the whole.
+double LinePercent(const Question& question, NumberKind kind, double whole) {
+  return Percent(LineCount(question, kind),
+                 question.measure == kMeasureTotal ? whole : AllNumbers(question, kind));
 }
 
-// --- References.
-
-double ScopedVariable(const Game& game, const Reference& reference, int seat) {
-  const int code = reference.code;
-  if (code < 2000) return ScopeValue(game, code, reference.scope, seat);
-  if (code < 2600) return DiceCount(game, code - 2501, reference.scope, seat, reference.item);
-  if (code < 3000) return LineCount(game, code - 2600, reference.scope, seat, reference.measure);
-  return PointCount(game, code == 4607, reference.scope, seat, reference.metric, reference.measure);
+double Decisions(const Question& question) {
+  return AllNumbers(question, kPasses) + AllNumbers(question, kMisses);
 }
 
-// Of all players: what is a seat's own is added up, what the table counts is the table's.
-double OfAllPlayers(Game& game, const Reference& reference) {
-  const int code = reference.code;
-  if (code >= 1500) return ScopedVariable(game, reference, 0);
-  double sum = 0;
-  for (int i = 0; i < game.table.OccupiedSeats; ++i) {
-    const int seat = game.table.Seated[i];
-    sum += code < 1000 ? SeatValue(game, code, seat) : ScopedVariable(game, reference, seat);
-  }
-  return sum;
+double ComeoutCount(const Question& question) { return LineCount(question, kComeoutRolls); }
+double ComeoutPercent(const Question& question) {
+  return LinePercent(question, kComeoutRolls, AllRolls(question));
+}
+double PassCount(const Question& question) { return LineCount(question, kPasses); }
+double PassPercent(const Question& question) { return LinePercent(question, kPasses, Decisions(question)); }
+double MissCount(const Question& question) { return LineCount(question, kMisses); }
+double MissPercent(const Question& question) { return LinePercent(question, kMisses, Decisions(question)); }
+
+NumberKind PointKind(const Question& question) {
+  return static_cast<NumberKind>(question.metric - kMetricEstablished);
 }
 
-bool ReadVariable(Game& game, const Reference& reference, int seat, double& value) {
-  const int code = reference.code;
-  if (code >= 3000 && code < 4000) return ReadTableState(game, code, value);
-  if (reference.player == PlayerChoice::kAll) {
-    value = OfAllPlayers(game, reference);
-    return true;
-  }
-  if (IsBetVariable(code)) return ReadBet(game, reference, seat, code, value);
-  value = code < 1000 ? SeatValue(game, code, seat) : ScopedVariable(game, reference, seat);
-  return true;
+double PointCount(const Question& question) {
+  const bool all = question.measure == kMeasureTotal;
+  return CountNumbers(question, PointKind(question), all ? kMeasurePoints : question.measure);
 }
 
-bool ReadCountFunction(Game& game, const Reference& reference, int seat, double number, double& value) {
-  const int code = reference.code;
-  if (code >= 46) {
-    const bool box = number == std::floor(number) && number >= 4 && number <= 10 && number != 7;
-    if (!box) return ScriptFails(game, kErrorPoints);
-    value = PointCount(game, code == 47, reference.scope, seat, reference.metric, number);
-    return true;
-  }
-  const int item = RollItemOf(number);
-  if (item < 0 || (code >= 40 && number != std::floor(number))) return ScriptFails(game, kErrorRolls);
-  value = code < 40 ? DiceCount(game, code - 31, reference.scope, seat, item)
-                    : LineCount(game, code - 40, reference.scope, seat, number);
-  return true;
+double PointPercent(const Question& question) {
+  const auto points = [&question](NumberKind kind) { return CountNumbers(question, kind, kMeasurePoints); };
+  const NumberKind kind = PointKind(question);
+  const double count = PointCount(question);
+  if (question.measure != kMeasureTotal) return Percent(count, points(kind));
+  if (kind == kComeoutRolls) return Percent(count, AllNumbers(question, kComeoutRolls));
+  return Percent(count, points(kPasses) + points(kMisses));
 }
 
-struct BetFamily {
-  int firstBet;
-  int numbers[6];
-  int count;
+// --- Which row reads how.
+
+struct ReaderRow {
+  int code;
+  VariableReader read;
 };
 
-constexpr BetFamily kFamilies[] = {
-    {0, {}, 0},
-    {kLay4, {4, 5, 6, 8, 9, 10}, 6},
-    {kDontCome4, {4, 5, 6, 8, 9, 10}, 6},
-    {kDontComeOdds4, {4, 5, 6, 8, 9, 10}, 6},
-    {kCome4, {4, 5, 6, 8, 9, 10}, 6},
-    {kComeOdds4, {4, 5, 6, 8, 9, 10}, 6},
-    {kPlace4, {4, 5, 6, 8, 9, 10}, 6},
-    {kBuy4, {4, 5, 6, 8, 9, 10}, 6},
-    {kBig6, {6, 8}, 2},
-    {kHard4, {4, 6, 8, 10}, 4},
+constexpr ReaderRow kVariables[] = {
+#define VARIABLE(code, phrase, name, class, whose, reader, ...) {code, reader},
+#define SETTABLE(code, phrase, name, class, whose, reader, ...) {code, reader},
+#define UNSPOKEN(code, name, class, whose, reader) {code, reader},
+#include "autobet/language/words.inc"
 };
-constexpr int kHopFunction = 10;
+
+constexpr ReaderRow kCounts[] = {
+#define COUNT_FUNCTION(code, phrase, name, class, reader) {code, reader},
+#include "autobet/language/words.inc"
+};
+
+template <std::size_t N>
+VariableReader ReaderIn(const ReaderRow (&rows)[N], int code) {
+  for (const ReaderRow& row : rows)
+    if (row.code == code) return row.read;
+  return nullptr;
+}
 
 }  // namespace
 
-bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, int& seat) {
-  if (!operand.text) {
-    const double number = NumberOf(program, operand);
-    if (number != std::floor(number) || !(number >= 1 && number <= kSeats))
-      return ScriptFails(game, kErrorPlayer);
-    seat = static_cast<int>(number);
-    return true;
-  }
-  const std::string name = Lowered(Trimmed(program.texts[static_cast<std::size_t>(operand.place)]));
-  for (int i = 1; i <= kSeats && !name.empty(); ++i) {
-    if (Lowered(Trimmed(game.table.seats[i].SeatName)) != name) continue;
-    seat = i;
-    return true;
-  }
-  return ScriptFails(game, kErrorPlayer);
+VariableReader ReaderOfVariable(int code) {
+  return IsCheckStack(code) ? CheckStackValue : ReaderIn(kVariables, code);
 }
-
-bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat) {
-  const TableState& table = game.table;
-  switch (reference.player) {
-    case PlayerChoice::kSeat:
-      seat = reference.seat;
-      return true;
-    case PlayerChoice::kAutobettor:
-      seat = game.autobet.CurrentAutobettor;
-      return true;
-    case PlayerChoice::kShooter:
-      seat = table.ShooterSeat;
-      return true;
-    case PlayerChoice::kLastShooter:
-      seat = table.PreviousHandSeat;
-      return true;
-    case PlayerChoice::kOriginalShooter:
-      seat = table.HandSeat;
-      return true;
-    case PlayerChoice::kSelected:
-      seat = table.SelectedSeat;
-      return true;
-    case PlayerChoice::kComputed:
-      return SeatOfOperand(game, program, reference.playerOperand, seat);
-    default:
-      seat = 0;
-      return true;
-  }
-}
-
-bool BetOfFunction(Game& game, int function, double number, int& bet) {
-  if (function == kHopFunction) {
-    int die1 = 0;
-    int die2 = 0;
-    bet = FacesOf(number, die1, die2) ? HopBet(die1, die2) : 0;
-    return bet != 0 || ScriptFails(game, function);
-  }
-  const BetFamily& family = kFamilies[function];
-  for (int i = 0; i < family.count; ++i) {
-    if (family.numbers[i] != number) continue;
-    bet = family.firstBet + i;
-    return true;
-  }
-  return ScriptFails(game, function);
-}
-
-bool VariableOfFunction(Game& game, int function, double number, int& code) {
-  code = 0;
-  if (IsBetFunction(function)) return BetOfFunction(game, function, number, code);
-  if (function != 21 && function != 800) return true;
-  if (number != std::floor(number) || !(number >= 0 && number < kCheckStacks))
-    return ScriptFails(game, function == 21 ? kErrorCheckStack : kErrorCheckStackName);
-  code = (function == 21 ? kFirstCheckStack : 800) + static_cast<int>(number);
-  return true;
-}
-
-bool ReadNumberReference(Game& game, const PreparedProgram& program, const Reference& reference,
-                         double& value) {
-  int seat = 0;
-  if (!PlayerOf(game, program, reference, seat)) return false;
-  if (!reference.function) return ReadVariable(game, reference, seat, value);
-  const double number = NumberOf(program, reference.argument);
-  const int code = reference.code;
-  if (code > 30) return ReadCountFunction(game, reference, seat, number, value);
-  int variable = 0;
-  if (!VariableOfFunction(game, code, number, variable)) return false;
-  if (IsBetVariable(variable)) return ReadBet(game, reference, seat, variable, value);
-  Reference stack = reference;
-  stack.code = variable;
-  return ReadVariable(game, stack, seat, value);
-}
-
-bool ReadTextVariable(Game& game, const PreparedProgram& program, const Reference& reference,
-                      std::string& text) {
-  int seat = 0;
-  if (!PlayerOf(game, program, reference, seat)) return false;
-  const int stack = reference.code - 800;
-  const bool known = stack >= 0 && stack < kCheckStacks;
-  text = known ? game.table.seats[seat].CheckStackName[stack] : std::string();
-  return true;
-}
+VariableReader ReaderOfCount(int function) { return ReaderIn(kCounts, function); }
 
 }  // namespace tessaryn

@@ -1,30 +1,29 @@
-// What a reference of a script gives, read from the table and its statistics.
+// The variables and counts of the language, as their rows name them: what each reads from the table and its
+// statistics.
 #pragma once
-
-#include <string>
 
 #include "autobet/run/prepared_program.h"
 
 namespace tessaryn {
 
-struct Game;
+// What is asked. A reader looks at what its class of references has.
+struct Question {
+  Game& game;
+  int code = 0;
+  int seat = 0;   // 0 the table
+  int scope = 0;  // 0 to 4
+  int metric = 0;
+  double measure = 0;
+  int item = 0;  // the roll item that the measure means
+};
 
-// The seat that a reference means: 0 the table, or nobody. With kAll it is 0. False with error 50 for a
-// player(...) that names nobody.
-bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat);
-// The seat of a number or a name. False with error 50.
-bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, int& seat);
+// Null for a bet, and for what is no such word.
+VariableReader ReaderOfVariable(int code);
+VariableReader ReaderOfCount(int function);
 
-// A variable or a function that reads as one. False with ScriptError set.
-bool ReadNumberReference(Game& game, const PreparedProgram& program, const Reference& reference,
-                         double& value);
-bool ReadTextVariable(Game& game, const PreparedProgram& program, const Reference& reference,
-                      std::string& text);
-
-// The bet of a bet function and its number. False with the function's own error.
-bool BetOfFunction(Game& game, int function, double number, int& bet);
-// What a function as a target means: bet, 100 + n or 800 + n; 0 for a function that can't be set. False with
-// its error for a number beyond its limits.
-bool VariableOfFunction(Game& game, int function, double number, int& code);
+// What is common enough in scripts for a step of its own.
+double Point(const Question& question);
+double PointIsOff(const Question& question);
+double PointIsOn(const Question& question);
 
 }  // namespace tessaryn

@@ -2,21 +2,26 @@
 
 #include <algorithm>
 
-#include "autobet/language/language.h"
 #include "autobet/language/script_text.h"
 #include "state/game.h"
 
 namespace tessaryn {
 namespace {
 
+// Those of a function have its code.
 struct ErrorEntry {
   int code;
   const char* text;
 };
 
-constexpr const char* kSixNumbers = "\rAcceptable values 4,5,6,8,9,10";
-
 constexpr ErrorEntry kErrors[] = {
+    {1, "Reference to Lay bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {2, "Reference to Don't Come bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {3, "Reference to Don't Come Odds bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {4, "Reference to Come bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {5, "Reference to Come Odds bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {6, "Reference to Place bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
+    {7, "Reference to Buy bet out of limits.\rAcceptable values 4,5,6,8,9,10"},
     {8, "Reference to Big bet out of limits.\rAcceptable values 6,8"},
     {9, "Reference to Hard bet out of limits.\rAcceptable values 4,6,8,10"},
     {10, "Reference to Hop bet out of limits.\rAcceptable values 11-66 or 1.1-6.6"},
@@ -33,6 +38,16 @@ constexpr ErrorEntry kErrors[] = {
     {kErrorNoWins, "No wins recorded for selected timed period."},
     {kErrorNoLosses, "No losses recorded for selected timed period."},
     {kErrorCheckStackName, "Reference to checkstack name out of limits.\rAcceptable values 0-99"},
+    {801, "Reference to Left$ function out of limits."},
+    {802, "Reference to Right$ function out of limits."},
+    {803, "Reference to RemoveLeft$ function out of limits."},
+    {804, "Reference to RemoveRight$ function out of limits."},
+    {805, "Reference to Mid$ function out of limits."},
+    {806, "Reference to RemoveMid$ function out of limits."},
+    {809, "Reference to Insert$ function out of limits."},
+    {810, "Reference to Str$ function out of limits."},
+    {811, "Reference to Chr$ function out of limits."},
+    {812, "Reference to Space$ function out of limits."},
     {kErrorPlayerName, "Reference to player name out of limits.\rAcceptable values 1-8"},
     {kErrorNoPlayer, "No player at designated position."},
     {kErrorOtherPlayers,
@@ -56,7 +71,7 @@ constexpr ErrorEntry kErrors[] = {
     {kErrorCompRate, "Comp rate out of limits."},
     {kErrorMessagesOff, "Display of auto-bet messages turned off.\rSee Options menu."},
     {kErrorSoundsOff, "Playing of sounds turned off.\rSee Configure - Sound."},
-    {998, "Error extracting string."},
+    {kErrorExtract, "Error extracting string."},
     {kErrorVig, "Vig not referenced to Lay or Buy bet."},
     {kErrorRolls, "Reference to rolls out of limits.\rAcceptable values 1-12 or 1.1-6.6"},
     {kErrorPoints, "Reference to # of points out of limits."},
@@ -71,21 +86,10 @@ constexpr ErrorEntry kErrors[] = {
     {kErrorDivision, "Division by zero."},
 };
 
-// The bet functions 1 to 7 as their errors name them.
-constexpr const char* kBetNames[] = {"",     "Lay",       "Don't Come", "Don't Come Odds",
-                                     "Come", "Come Odds", "Place",      "Buy"};
-
 }  // namespace
 
 std::string ScriptErrorText(int code, const std::string& fault) {
   if (code == kErrorFault) return fault;
-  if (code >= 1 && code <= 7)
-    return std::string("Reference to ") + kBetNames[code] + " bet out of limits." + kSixNumbers;
-  if (code >= 801 && code <= 812) {
-    const FunctionProperty* function = FindFunction(code);
-    return function == nullptr ? std::string()
-                               : "Reference to " + std::string(function->name) + " function out of limits.";
-  }
   for (const ErrorEntry& entry : kErrors)
     if (entry.code == code) return entry.text;
   return {};

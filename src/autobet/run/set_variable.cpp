@@ -7,8 +7,7 @@
 #include "autobet/language/language.h"
 #include "autobet/language/script_text.h"
 #include "autobet/run/operands.h"
-#include "autobet/run/read_bet.h"
-#include "autobet/run/read_variable.h"
+#include "autobet/run/resolve_reference.h"
 #include "autobet/run/script_errors.h"
 #include "dice/roll_file.h"
 #include "rules/bankroll.h"
@@ -161,98 +160,120 @@ bool SetHandling(Game& game, int seat, const HandlingRule& rule, const ScriptVal
   return true;
 }
 
+bool SetWinHandling(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  return SetHandling(game, target.seat, kWinRule, value);
+}
+
+bool SetLoseHandling(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  return SetHandling(game, target.seat, kLoseRule, value);
+}
+
 // --- The seat's switches.
 
-bool SetSwitch(Game& game, int seat, int code, bool on) {
-  Handling& handling = game.table.seats[seat].handling;
-  switch (code) {
-    case 700:
-      handling.AutoTakeOdds = on;
-      if (on) TakeAllFullOdds(game, seat, false);
-      return true;
-    case 701:
-      handling.AutoLayOdds = on;
-      if (on) TakeAllFullOdds(game, seat, true);
-      return true;
-    case 702:
-      handling.AutoDownPlace = on;
-      for (int bet = kPlace4; on && bet < kPlace4 + 6; ++bet) RemoveBet(game, seat, bet);
-      return true;
-    case 703:
-      handling.AutoPassDice = on;
-      return true;
-    default:
-      return true;
-  }
+bool SetTakesFullOdds(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  const bool on = value.AsNumber() != 0;
+  game.table.seats[target.seat].handling.AutoTakeOdds = on;
+  if (on) TakeAllFullOdds(game, target.seat, false);
+  return true;
+}
+
+bool SetLaysFullOdds(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  const bool on = value.AsNumber() != 0;
+  game.table.seats[target.seat].handling.AutoLayOdds = on;
+  if (on) TakeAllFullOdds(game, target.seat, true);
+  return true;
+}
+
+bool SetTakesPlaceDown(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  const bool on = value.AsNumber() != 0;
+  game.table.seats[target.seat].handling.AutoDownPlace = on;
+  for (int bet = kPlace4; on && bet < kPlace4 + 6; ++bet) RemoveBet(game, target.seat, bet);
+  return true;
+}
+
+bool SetPassesDice(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  game.table.seats[target.seat].handling.AutoPassDice = value.AsNumber() != 0;
+  return true;
 }
 
 // --- The table.
 
-bool SetBankrollOf(Game& game, int seat, double dollars) {
+bool SetBankrollAtStart(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
   if (SessionRolls(game.stats) > 0) return ScriptFails(game, kErrorBankroll);
-  const Currency amount = Currency::FromDouble(dollars);
+  const Currency amount = Currency::FromDouble(value.AsNumber());
   if (amount.IsError()) return ScriptFaults(game, kNumberOverflow);
-  SetBankroll(game, seat, amount);
+  SetBankroll(game, target.seat, amount);
   return true;
 }
 
-bool SetNextRoll(Game& game, double number) {
+bool SetNextRollOfFile(Game& game, const ResolvedTarget&, const ScriptValue& value) {
   if (!IsRollFileOpen(game.rollFile)) return ScriptFails(game, kErrorRollFileClosed);
-  SetRollFileCursor(game.rollFile,
-                    static_cast<std::int64_t>(std::clamp(std::nearbyint(number), 1.0, 2147483647.0)));
+  const double roll = std::clamp(std::nearbyint(value.AsNumber()), 1.0, 2147483647.0);
+  SetRollFileCursor(game.rollFile, static_cast<std::int64_t>(roll));
   return true;
 }
 
-bool SetRollRate(Game& game, double number) {
-  const bool fits =
-      number >= kSimRollRateLimits.least.ToDouble() && number <= kSimRollRateLimits.most.ToDouble();
-  if (!fits) return ScriptFails(game, kErrorRollRate);
-  game.settings.SimRollRate = RollRate::Of(Currency::FromDouble(number));
+bool SetSeed(Game& game, const ResolvedTarget&, const ScriptValue& value) {
+  return SeedFromScript(game, value.AsNumber());
+}
+
+bool SetGenerator(Game& game, const ResolvedTarget&, const ScriptValue& value) {
+  const double whole = std::nearbyint(value.AsNumber());
+  const bool known = whole >= 1 && whole <= static_cast<int>(kGeneratorCount);
+  return (known && SelectGenerator(game, static_cast<int>(whole))) || ScriptFails(game, kErrorGenerator);
+}
+
+bool SetCompRate(Game& game, const ResolvedTarget&, const ScriptValue& value) {
+  const double part = value.AsNumber();
+  const Currency rate = Currency::FromDouble(part * 100);
+  if (!(part >= 0) || rate.IsError()) return ScriptFails(game, kErrorCompRate);
+  game.settings.CompRate = Percent::Of(rate);
   return true;
 }
 
-bool SetSeed(Game& game, double number) {
+bool SetAmountOf(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  return SetAmount(game, target.seat, target.code, value.AsNumber());
+}
+
+bool SetStackName(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
+  std::string& name = game.table.seats[target.seat].CheckStackName[target.code - kFirstCheckStackName];
+  if (value.isText)
+    name = value.text;  // in the room that it has
+  else
+    name = value.AsText();
+  return true;
+}
+
+// --- Which row is written how.
+
+struct WriterRow {
+  int first;
+  int last;
+  VariableWriter write;
+};
+
+constexpr WriterRow kWriters[] = {
+    {1, kBets, SetAmountOf},
+#define NUMBERED(code, phrase, name, type, writer, ...) {code, (code) + kCheckStacks - 1, writer},
+#define SETTABLE(code, phrase, name, class, whose, reader, writer, ...) {code, code, writer},
+#include "autobet/language/words.inc"
+};
+
+}  // namespace
+
+VariableWriter WriterOfVariable(int code) {
+  for (const WriterRow& row : kWriters)
+    if (code >= row.first && code <= row.last) return row.write;
+  return nullptr;
+}
+
+bool SeedFromScript(Game& game, double number) {
   bool given = true;
   const Currency candidate = Currency::FromDouble(number);
   if (candidate.IsError()) return ScriptFails(game, kErrorSeed);
   SeedRng(game, given, candidate);
   return given || ScriptFails(game, kErrorSeed);
 }
-
-bool SetGenerator(Game& game, double number) {
-  const double whole = std::nearbyint(number);
-  const bool known = whole >= 1 && whole <= static_cast<int>(kGeneratorCount);
-  return (known && SelectGenerator(game, static_cast<int>(whole))) || ScriptFails(game, kErrorGenerator);
-}
-
-bool SetCompRate(Game& game, double number) {
-  const Currency rate = Currency::FromDouble(number * 100);
-  if (!(number >= 0) || rate.IsError()) return ScriptFails(game, kErrorCompRate);
-  game.settings.CompRate = Percent::Of(rate);
-  return true;
-}
-
-bool SetTable(Game& game, int code, double number) {
-  switch (code) {
-    case 3006:
-      return SetNextRoll(game, number);
-    case 603:
-    case 3603:
-      return SetRollRate(game, number);
-    case 3655:
-      return SetSeed(game, number);
-    case 3672:
-      return SetGenerator(game, number);
-    case 3691:
-      return SetCompRate(game, number);
-    default:
-      return true;
-  }
-}
-
-bool IsSeatVariable(int code) { return code != 603 && code < 2000; }
-
-}  // namespace
 
 bool PlayerMayAct(Game& game, int seat) {
   if (!IsOccupied(game.table, seat)) return ScriptFails(game, kErrorNoPlayer);
@@ -263,14 +284,14 @@ bool PlayerMayAct(Game& game, int seat) {
 
 bool ResolveTarget(Game& game, const PreparedProgram& program, const Reference& target,
                    ResolvedTarget& resolved) {
-  resolved.code = target.code;
+  resolved.code = target.write == nullptr ? 0 : target.code;
+  resolved.write = target.write;
   if (!PlayerOf(game, program, target, resolved.seat)) return false;
-  if (target.function &&
-      !VariableOfFunction(game, target.code, NumberOf(program, target.argument), resolved.code))
+  if (resolved.code == 0) return true;
+  if (target.form == ReferenceForm::kNumbered &&
+      !VariableOfNumber(game, *target.numbered, NumberOf(program, target.argument), resolved.code))
     return false;
-  if (resolved.code == 0 || !IsSeatVariable(resolved.code)) return true;
-  if (target.function && target.code == 800) resolved.seat = game.autobet.CurrentAutobettor;
-  return PlayerMayAct(game, resolved.seat);
+  return !target.ofSeat || PlayerMayAct(game, resolved.seat);
 }
 
 bool SetAmount(Game& game, int seat, int bet, double dollars) {
@@ -278,37 +299,21 @@ bool SetAmount(Game& game, int seat, int bet, double dollars) {
 }
 
 bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
-  const int code = target.code;
-  const int seat = target.seat;
-  if (code == 0) return true;
-  if (IsTableBet(code) || IsCheckStack(code)) return SetAmount(game, seat, code, value.AsNumber());
-  if (code == 1300 || code == 1301) return SetBankrollOf(game, seat, value.AsNumber());
-  if (code == 670) return SetHandling(game, seat, kWinRule, value);
-  if (code == 671) return SetHandling(game, seat, kLoseRule, value);
-  if (code >= 700 && code <= 703) return SetSwitch(game, seat, code, value.AsNumber() != 0);
-  if (code >= 800 && code <= 899) {
-    std::string& name = game.table.seats[seat].CheckStackName[code - 800];
-    if (value.isText)
-      name = value.text;  // in the room that it has
-    else
-      name = value.AsText();
-    return true;
-  }
-  return SetTable(game, code, value.AsNumber());
+  return target.code == 0 || target.write(game, target, value);
 }
 
 bool ReadTarget(Game& game, const PreparedProgram& program, const Reference& target,
                 const ResolvedTarget& resolved, ScriptValue& value) {
-  value.isText = resolved.code >= 800 && resolved.code <= 899;
+  value.isText = IsCheckStackName(resolved.code);
   if (resolved.code == 0) {
     value.number = 0;
     return true;
   }
   if (value.isText) {
-    value.text = game.table.seats[resolved.seat].CheckStackName[resolved.code - 800];
+    value.text = game.table.seats[resolved.seat].CheckStackName[resolved.code - kFirstCheckStackName];
     return true;
   }
-  if (IsBetVariable(resolved.code) || IsCheckStack(resolved.code)) {
+  if (IsTableBet(resolved.code) || IsCheckStack(resolved.code)) {
     value.number = game.table.BetAmount(resolved.seat, resolved.code).ToDouble();
     return true;
   }

@@ -6,13 +6,16 @@
 #include <cmath>
 #include <filesystem>
 
+#include "autobet/language/language.h"
 #include "autobet/run/operands.h"
 #include "autobet/run/output_file.h"
 #include "autobet/run/script_errors.h"
 #include "autobet/run/set_variable.h"
+#include "base/bet_catalogue.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "rules/bankroll.h"
+#include "rules/bet_rules.h"
 #include "rules/seed_rng.h"
 #include "rules/session.h"
 #include "rules/shooter.h"
@@ -20,21 +23,18 @@
 #include "state/show_message.h"
 
 namespace tessaryn {
+
+int ActionInHand::Seat() const { return game.autobet.CurrentAutobettor; }
+const SeatScript& ActionInHand::Script() const { return game.autobet.Scripts[Seat()]; }
+std::string ActionInHand::Text() const {
+  return statement.arguments > 0 ? TextOf(program, statement.operand) : std::string();
+}
+double ActionInHand::Number() const {
+  return statement.arguments > 0 ? NumberOf(program, statement.operand) : 0;
+}
+bool ActionInHand::Fails(int code) const { return ScriptFails(game, code); }
+
 namespace {
-
-struct ActionInHand {
-  Game& game;
-  const PreparedProgram& program;
-  const PreparedStatement& statement;
-
-  int Seat() const { return game.autobet.CurrentAutobettor; }
-  const SeatScript& Script() const { return game.autobet.Scripts[Seat()]; }
-  std::string Text() const {
-    return statement.arguments > 0 ? TextOf(program, statement.operand) : std::string();
-  }
-  double Number() const { return statement.arguments > 0 ? NumberOf(program, statement.operand) : 0; }
-  bool Fails(int code) const { return ScriptFails(game, code); }
-};
 
 // A file that is only read: as it is named, or else in the data folder. Empty for what is no plain file: a
 // pipe or a terminal would keep the table waiting.
@@ -47,13 +47,20 @@ std::string FileToRead(const Game& game, const std::string& name) {
   return {};
 }
 
-bool StartSession(const ActionInHand& action) {
+// --- Sessions.
+
+bool BeginSession(const ActionInHand& action, bool keepsStacks, bool keepsFile) {
   if (!action.Script().AllowReset) return action.Fails(kErrorNewSession);
-  const int choice = action.statement.code - 100;  // bit 0 CheckStacks, bit 1 the dice roll file
-  const bool keepsFile = (choice & 2) != 0;
-  NewSession(action.game, true, (choice & 1) != 0, true, keepsFile ? kContinueRollFile : kCloseRollFile);
+  NewSession(action.game, true, keepsStacks, true, keepsFile ? kContinueRollFile : kCloseRollFile);
   return true;
 }
+
+bool StartSession(const ActionInHand& action) { return BeginSession(action, false, false); }
+bool StartSessionWithStacks(const ActionInHand& action) { return BeginSession(action, true, false); }
+bool StartSessionWithRollFile(const ActionInHand& action) { return BeginSession(action, false, true); }
+bool StartSessionWithBoth(const ActionInHand& action) { return BeginSession(action, true, true); }
+
+// --- Dice.
 
 bool DeactivateProbabilities(const ActionInHand& action) {
   if (!action.Script().AllowActProb) return action.Fails(kErrorProbabilityPermission);
@@ -103,23 +110,30 @@ bool PlayDiceFile(const ActionInHand& action) {
   return true;
 }
 
+// --- Boxes, sounds and files.
+
 bool MessagesOn(const Game& game) {
   constexpr int kInPlay = 8;
   constexpr int kInTurboRoll = 16;
   return (game.settings.MessageMask & (game.table.TurboRollActive ? kInTurboRoll : kInPlay)) != 0;
 }
 
-static_assert(NeedOnly({Msg::kScriptAsks, Msg::kScriptSays}, {"player", "text"}));
+template <Msg kId>
+int ShowBox(const ActionInHand& action) {
+  return ShowMessage<kId>(action.game, With<"player">(action.game.table.seats[action.Seat()].SeatName),
+                          With<"text">(action.Text()));
+}
 
-bool TellOrAsk(const ActionInHand& action) {
-  constexpr int kAsk = 211;
-  Game& game = action.game;
-  if (!MessagesOn(game)) return action.Fails(kErrorMessagesOff);
-  const bool asks = action.statement.code == kAsk;
-  const int result =
-      ShowMessage(game, asks ? Msg::kScriptAsks : Msg::kScriptSays,
-                  {{"player", game.table.seats[action.Seat()].SeatName}, {"text", action.Text()}});
-  if (asks) game.autobet.Answer = result == kResultYes ? kResultYes : kResultNo;
+bool Tell(const ActionInHand& action) {
+  if (!MessagesOn(action.game)) return action.Fails(kErrorMessagesOff);
+  ShowBox<Msg::kScriptSays>(action);
+  return true;
+}
+
+bool AskYesOrNo(const ActionInHand& action) {
+  if (!MessagesOn(action.game)) return action.Fails(kErrorMessagesOff);
+  const bool yes = ShowBox<Msg::kScriptAsks>(action) == kResultYes;
+  action.game.autobet.Answer = yes ? kResultYes : kResultNo;
   return true;
 }
 
@@ -130,27 +144,30 @@ bool PlaySample(const ActionInHand& action) {
   return true;
 }
 
-bool OpenOutput(const ActionInHand& action) {
-  const bool append = action.statement.code == 220;
+bool OpenOutput(const ActionInHand& action, bool append) {
   return OpenScriptOutput(action.game, action.Seat(), action.Text(), append) || action.Fails(kErrorBadPath);
 }
+bool OpenOutputToAppend(const ActionInHand& action) { return OpenOutput(action, true); }
+bool OpenOutputCleared(const ActionInHand& action) { return OpenOutput(action, false); }
 
-bool UseAtm(const ActionInHand& action) {
+bool WriteOutput(const ActionInHand& action) {
+  return WriteScriptOutput(action.game, action.Seat(), action.Text()) || action.Fails(kErrorOutputClosed);
+}
+
+// --- The bankroll, the generator, the run.
+
+bool UseAtm(const ActionInHand& action, bool deposits) {
   Game& game = action.game;
   if (!PlayerMayAct(game, action.Seat())) return false;
   const Currency amount =
       action.statement.arguments > 0 ? Currency::FromDouble(action.Number()) : game.settings.AtmUnit;
-  AtmTransaction(game, action.Seat(), action.statement.code == 225, amount);
+  AtmTransaction(game, action.Seat(), deposits, amount);
   return true;
 }
+bool Deposit(const ActionInHand& action) { return UseAtm(action, true); }
+bool Withdraw(const ActionInHand& action) { return UseAtm(action, false); }
 
-bool SeedWith(const ActionInHand& action) {
-  bool given = true;
-  const Currency candidate = Currency::FromDouble(action.Number());
-  if (candidate.IsError()) return action.Fails(kErrorSeed);
-  SeedRng(action.game, given, candidate);
-  return given || action.Fails(kErrorSeed);
-}
+bool SeedWith(const ActionInHand& action) { return SeedFromScript(action.game, action.Number()); }
 
 bool StopRolling(const ActionInHand& action) {
   StopRun(action.game, MessageText<Msg::kStoppedByScript>());
@@ -167,45 +184,99 @@ bool SeedAnew(const ActionInHand& action) {
   return true;
 }
 
-bool Output(const ActionInHand& action) {
-  return WriteScriptOutput(action.game, action.Seat(), action.Text()) || action.Fails(kErrorOutputClosed);
+// --- What is done to each target.
+
+bool BuyPlace(Game& game, const ResolvedTarget& target) {
+  const bool bought = IsPlace(target.code) && BuyPlaceBet(game, target.seat, target.code);
+  return bought || ScriptFails(game, kErrorPlaceReference);
 }
+
+bool CallOff(Game& game, const ResolvedTarget& target) {
+  if (IsTableBet(target.code)) CallBet(game, target.seat, target.code, false);
+  return true;
+}
+
+bool CallOn(Game& game, const ResolvedTarget& target) {
+  if (IsTableBet(target.code)) CallBet(game, target.seat, target.code, true);
+  return true;
+}
+
+bool RemoveCallButton(Game& game, const ResolvedTarget& target) {
+  if (IsTableBet(target.code)) RemoveCall(game, target.seat, target.code);
+  return true;
+}
+
+bool Clear(Game& game, const ResolvedTarget& target) {
+  return SetVariable(game, target, {.isText = IsCheckStackName(target.code), .number = 0, .text = {}});
+}
+
+// --- What a target and an amount make.
+
+constexpr AmountResult kAsGiven = nullptr;
+
+bool Finite(Game& game, double result) {
+  return std::isfinite(result) || ScriptFaults(game, kNumberOverflow);
+}
+
+bool Product(Game& game, double now, double amount, double& result) {
+  result = now * amount;
+  return Finite(game, result);
+}
+
+bool Total(Game& game, double now, double amount, double& result) {
+  result = now + amount;
+  return Finite(game, result);
+}
+
+bool Difference(Game& game, double now, double amount, double& result) {
+  result = now - amount;
+  return Finite(game, result);
+}
+
+bool Quotient(Game& game, double now, double amount, double& result) {
+  if (amount == 0) return ScriptFails(game, kErrorDivision);
+  result = now / amount;
+  return Finite(game, result);
+}
+
+bool Rounded(Game& game, double now, double amount, double (*round)(double), double& result) {
+  if (amount == 0) return ScriptFails(game, kErrorDivision);
+  result = round(now / amount) * amount;
+  return Finite(game, result);
+}
+
+bool RoundedToNearest(Game& game, double now, double amount, double& result) {
+  return Rounded(game, now, amount, std::nearbyint, result);
+}
+
+bool RoundedDown(Game& game, double now, double amount, double& result) {
+  return Rounded(game, now, amount, std::floor, result);
+}
+
+bool RoundedUp(Game& game, double now, double amount, double& result) {
+  return Rounded(game, now, amount, std::ceil, result);
+}
+
+// --- Which row does what.
 
 struct ActionRow {
   int code;
-  bool (*take)(const ActionInHand&);
+  ActionWork work;
 };
 
 constexpr ActionRow kActions[] = {
-    {100, StartSession},
-    {101, StartSession},
-    {102, StartSession},
-    {103, StartSession},
-    {114, DeactivateProbabilities},
-    {115, StopRolling},
-    {116, ShowSteps},
-    {118, PassTheDice},
-    {119, CloseDiceFile},
-    {130, SeedAnew},
-    {210, TellOrAsk},
-    {211, TellOrAsk},
-    {212, PlaySample},
-    {213, ActivateProbabilities},
-    {220, OpenOutput},
-    {221, OpenOutput},
-    {223, Output},
-    {225, UseAtm},
-    {226, UseAtm},
-    {230, SeedWith},
-    {310, PlayDiceFile},
+#define ACTION(code, phrase, shape, does, ...) {code, {.effect = does}},
+#define TARGET_ACTION(code, phrase, shape, does, ...) {code, {.onTarget = does}},
+#define AMOUNT_ACTION(code, phrase, gives, ...) {code, {.result = gives}},
+#include "autobet/language/words.inc"
 };
 
 }  // namespace
 
-bool TakeAction(Game& game, const PreparedProgram& program, const PreparedStatement& statement) {
+ActionWork WorkOfAction(int code) {
   for (const ActionRow& row : kActions)
-    if (row.code == statement.code) return row.take({game, program, statement});
-  return true;
+    if (row.code == code) return row.work;
+  return {};
 }
 
 }  // namespace tessaryn
