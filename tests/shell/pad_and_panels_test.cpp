@@ -192,7 +192,7 @@ TEST(TurboPanel, ShowsRollsAndEveryBankroll) {
   table.State().TurboRollActive = true;
   table.Bet(2, kField, "100");
   table.State().TurboRollActive = false;
-  for (auto& handling : table.State().handling) handling.WinHandling = handling.LoseHandling = 2;
+  for (SeatState& seat : table.State().seats) seat.handling.WinHandling = seat.handling.LoseHandling = 2;
   table.Roll(2, 1);
   panel.Refresh(*table.game);
   EXPECT_EQ(Find<QLabel>(panel, "lblRolls").text(), "1");

@@ -33,7 +33,7 @@ class RandomTable {
     settings.SmallTallEnabled = Chance(0.8);
     settings.CheckValue[1] = Pick({"1", "1", "0.5", "5"});
     for (const int seat : {2, 5}) table.Join(seat, seat == 2 ? "Ann" : "Bo", "3000");
-    for (auto& handling : game.table.handling) handling.WinHandling = handling.LoseHandling = 2;
+    for (SeatState& seat : game.table.seats) seat.handling.WinHandling = seat.handling.LoseHandling = 2;
     for (int n = 0; n < 6; ++n) AnyRules();
   }
 
