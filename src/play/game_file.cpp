@@ -258,7 +258,10 @@ bool ReleaseFiles(Game& game) {
 void TakeOverEvents(EventsLog& log, const EventsLog& loaded) {
   ForEachMember(std::type_identity<EventsLog>{}, [&](const char*, auto member) {
     using Field = std::remove_reference_t<decltype(log.*member)>;
-    if constexpr (std::is_copy_assignable_v<Field>) log.*member = loaded.*member;
+    if constexpr (std::is_array_v<Field>)
+      std::copy(std::begin(loaded.*member), std::end(loaded.*member), std::begin(log.*member));
+    else if constexpr (std::is_copy_assignable_v<Field>)
+      log.*member = loaded.*member;
   });
 }
 

@@ -13,7 +13,6 @@ struct GameReferences;
 struct Host;
 
 inline constexpr const char* kGameFileExtension = ".crp";
-inline constexpr const char* kGameFileMagic = "Tessaryn Pro Game File, Data Format 2.2";
 // In the folder that is the table's own (Game::ownFolder).
 inline constexpr const char* kDefaultGameFile = "default.crp";    // read at the start, written at the end
 inline constexpr const char* kBackupGameFile = "default.bak";     // the default as it was before the last end

@@ -5,7 +5,6 @@
 #include <type_traits>
 
 #include "base/bet_catalogue.h"
-#include "play/game_file.h"
 #include "play/game_file_fields.h"
 #include "rules/payoffs.h"
 #include "state/game.h"

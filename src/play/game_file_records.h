@@ -11,6 +11,8 @@ namespace tessaryn {
 
 struct Game;
 
+inline constexpr const char* kGameFileMagic = "Tessaryn Pro Game File, Data Format 2.2";
+
 // A file that a game refers to: its full path, and its date as GameFileDate gives it; empty without a file.
 struct FileReference {
   std::string path;

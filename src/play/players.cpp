@@ -15,7 +15,6 @@
 #include "state/show_message.h"
 #include "stats/bankroll_graph.h"
 #include "stats/events_log.h"
-#include "stats/log_line.h"
 #include "stats/sessions_log.h"
 #include "stats/statistics.h"
 

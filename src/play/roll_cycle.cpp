@@ -17,7 +17,7 @@
 #include "state/run_stop.h"
 #include "state/show_message.h"
 #include "stats/bankroll_graph.h"
-#include "stats/log_line.h"
+#include "stats/events_log.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {

@@ -14,7 +14,6 @@
 #include "dice/percentage_dice.h"
 #include "state/run_stop.h"
 #include "state/show_message.h"
-#include "stats/log_line.h"
 
 namespace tessaryn {
 namespace {

@@ -9,10 +9,10 @@
 
 #include "base/money.h"
 #include "state/events_log_state.h"
+#include "state/game.h"
+#include "stats/log_line.h"
 
 namespace tessaryn {
-
-struct Game;
 
 inline constexpr const char* kEventsLogName = "Events Log.txt";
 inline constexpr const char* kEventsIndexName = "Events Log.ref";
@@ -24,6 +24,14 @@ std::string EventsIndexPath(const Game& game);
 // The only writer. Does nothing while recording is off. A file that can't be written stops a run and is told
 // once; its lines wait, and are tried again after every roll that a user asks for.
 void WriteEventsLogLine(Game& game, std::string_view text);
+// A line by its message. Nothing is formed while recording is off.
+template <Msg kId, typename... Arguments>
+void WriteLogLine(Game& game, const Arguments&... arguments) {
+  if (!game.events.RecordEventsActive) return;
+  LogLine line;
+  FormLogLine<kId>(line, arguments...);
+  WriteEventsLogLine(game, line.Text());
+}
 // Writes the pending heading, if any, and then the line.
 void WriteGroupedLine(Game& game, std::string_view text);
 // Brings the files up to date and closes them: at the end of a roll that a user asked for, at every yield

@@ -10,7 +10,6 @@
 
 #include "base/messages.h"
 #include "state/game.h"
-#include "stats/events_log.h"
 
 namespace tessaryn {
 
@@ -122,15 +121,6 @@ void FormLogLine(LogLine& line, const Arguments&... arguments) {
       (log_line::AddPiece<kId, kPiece>(line, arguments...), ...);
     }
   (std::make_index_sequence<log_line::kPiecesOf<kId>.count>());
-}
-
-// Nothing is formed while recording is off.
-template <Msg kId, typename... Arguments>
-void WriteLogLine(Game& game, const Arguments&... arguments) {
-  if (!game.events.RecordEventsActive) return;
-  LogLine line;
-  FormLogLine<kId>(line, arguments...);
-  WriteEventsLogLine(game, line.Text());
 }
 
 }  // namespace tessaryn

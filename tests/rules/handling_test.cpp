@@ -215,7 +215,8 @@ TEST(Handling, ALostBetThatMayNotBePressedStaysAsFarAsThereIsMoneyForIt) {
     EXPECT_EQ(table.State().BetAmount(1, kFire), table.State().BankrollCurrent[1]) << bankroll;
     ASSERT_EQ(table.host.boxes.size(), 2u);
     EXPECT_TRUE(Says(table.host.boxes[0], Msg::kHandHasStarted));
-    EXPECT_TRUE(table.host.Said(Msg::kBetDecreasedBy)) << "the refusal, and what became of the bet";
+    EXPECT_EQ(table.host.boxes[1].title, MessageText<Msg::kActionPressDouble>())
+        << "the refusal, and what became of the bet";
   }
 }
 

@@ -225,7 +225,8 @@ TEST(EventsLogLines, WithRecordingOffNoFileIsTouched) {
   table.Bet(1, kField, "5");
   table.Roll(3, 3);
   NewSession(*table.game, true, true, true, 0);
-  EXPECT_TRUE(fs::is_empty(table.folder.Path()));
+  EXPECT_FALSE(fs::exists(EventsLogPath(*table.game)));
+  EXPECT_FALSE(fs::exists(EventsIndexPath(*table.game)));
 }
 
 // --- Full speed writes what single rolls write.

@@ -5,6 +5,7 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/game_files.h"
+#include "shell/frame/open_game.h"
 #include "shell/frame/sounds.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/new_session.h"

@@ -1,12 +1,8 @@
 #include "shell/frame/game_files.h"
 
 #include <QSettings>
-#include <memory>
 
-#include "base/record_file.h"
 #include "play/game_file.h"
-#include "play/game_file_records.h"
-#include "shell/frame/closing.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/places.h"
 #include "shell/screens/file_chooser.h"
@@ -51,18 +47,6 @@ bool SaveSessionFirst(Desk& desk, Leaving leaving) {
   const int answer = ShowMessage<Msg::kAskSaveSession>(game);
   if (answer != kResultYes) return answer == kResultNo;
   return SaveGameFile(desk);
-}
-
-void OpenGameFile(Desk& desk, const std::string& path) {
-  std::unique_ptr<Game> looked;
-  GameReferences unused;
-  // A file that can't be opened is told by the opening itself, which then leaves the table as it is.
-  const bool good = !ReadGame(desk.host, desk.game.applicationFolder, path, looked, unused).Found();
-  looked.reset();
-  if (good && !(SaveOwnFilesFirst(desk) && SaveSessionFirst(desk, Leaving::kForAnother))) return;
-  if (!OpenGame(desk.game, path)) return;
-  NoteRecentGame(desk, path);
-  desk.showGame();
 }
 
 QStringList ReadRecentGames(const std::string& dataFolder) {

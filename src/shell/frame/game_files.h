@@ -1,4 +1,4 @@
-// The game files of the user's commands: opening, saving, and those opened last.
+// The game files of the user's commands: saving, and those opened last.
 #pragma once
 
 #include <QStringList>
@@ -8,9 +8,6 @@ namespace tessaryn {
 
 struct Desk;
 
-// A file is looked at first; only if it can be opened the user is asked to give up the present game. What is
-// wrong is told.
-void OpenGameFile(Desk& desk, const std::string& path);
 // Under the name that the game has, or else one that is asked for. False when it was given up or could not be
 // written, which is told.
 bool SaveGameFile(Desk& desk);

@@ -26,6 +26,7 @@
 #include "shell/frame/closing.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/game_files.h"
+#include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
