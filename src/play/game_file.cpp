@@ -195,8 +195,7 @@ GameFileProblem Damaged(const std::string& path, const std::string& reason) {
 }
 
 GameFileProblem ReadRecords(const std::string& path, RecordFile& file) {
-  if (!Exists(path) && (errno == ENOENT || errno == ENOTDIR))
-    return {Msg::kGameNotFound, path, path};
+  if (!Exists(path) && (errno == ENOENT || errno == ENOTDIR)) return {Msg::kGameNotFound, path, path};
   std::string content;
   if (const std::string error = ReadWholeFile(path, content); !error.empty()) return Damaged(path, error);
   const std::string_view start = std::string_view(content).substr(0, kPathWidth);

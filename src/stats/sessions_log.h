@@ -43,7 +43,8 @@ std::string CloseSessionsLogs(Game& game);
 bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics);
 
 enum class NewLog { kCancelled, kRenameFirst, kStarted };
-// A seat's log begins anew. kRenameFirst: the user wants to keep the old log, and the screen goes on to Save As.
+// A seat's log begins anew. kRenameFirst: the user wants to keep the old log, and the screen goes on to Save
+// As.
 NewLog NewSessionsLog(Game& game, int seat);
 NewLog NewAllSessionsLogs(Game& game);
 std::string OpenSessionsLog(Game& game, int seat, const std::string& path);

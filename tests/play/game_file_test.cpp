@@ -450,7 +450,8 @@ TEST(GameFile, FilesOfOthersAreToldApart) {
   table.Join(1, "Ann");
   table.game->table.seats[1].SessionsLogName = "/" + std::string(200, 'x');
   EXPECT_FALSE(SaveGame(*table.game, path, error));
-  EXPECT_NE(error.find(MessageText<Msg::kPathOfSessionsLog>(With<"player">("Ann"))), std::string::npos) << error;
+  EXPECT_NE(error.find(MessageText<Msg::kPathOfSessionsLog>(With<"player">("Ann"))), std::string::npos)
+      << error;
   EXPECT_EQ(test::ReadFile(path), cases[3].first);
 }
 

@@ -112,7 +112,8 @@ TEST(SessionsLog, OneThatCantBeWrittenStopsTheRunAndLosesNothing) {
   }
   EXPECT_EQ(std::ranges::count(table.host.boxes, Msg::kSessionsLogFault, &test::ShownBox::id), 1);
   const std::string reason = MessageText<Msg::kNotASessionsLog>(With<"path">(common));
-  const std::string bobs = MessageText<Msg::kSessionNotLogged>(With<"player">("Bob"), With<"problem">(reason));
+  const std::string bobs =
+      MessageText<Msg::kSessionNotLogged>(With<"player">("Bob"), With<"problem">(reason));
   EXPECT_TRUE(table.host.Said(Msg::kSessionsLogFault, {{"problem", bobs}}));
   EXPECT_EQ(test::ReadFile(common), "something else");
   std::remove(common.c_str());
@@ -169,8 +170,8 @@ TEST(SessionsLog, TheScreensCommandsAskAndDo) {
   EXPECT_EQ(rows[0].Number, 5);
   answers = {"10"};
   EXPECT_FALSE(DeleteSessions(game, 1));
-  EXPECT_TRUE(table.host.Said(Msg::kSessionsNotDeleted,
-                              {{"problem", MessageText<Msg::kSessionsOutOfRange>()}}));
+  EXPECT_TRUE(
+      table.host.Said(Msg::kSessionsNotDeleted, {{"problem", MessageText<Msg::kSessionsOutOfRange>()}}));
   answers = {"9"};
   EXPECT_TRUE(DeleteSessions(game, 1));
   EXPECT_EQ(ReadAll(ann).size(), 8u);
