@@ -28,11 +28,13 @@ enum class MessageKind : std::uint8_t {
   kTell,            // OK, with a mark of attention
   kStop,            // OK, with a stop sign
   kHelp,            // OK, with a pair of dice
+  kNotice,          // nothing to press: it is not waited for, and goes when the work is done
   kWarnYesNo,       // Yes and No, with a mark of attention
   kAskYesNo,        // Yes and No, with a question mark, as all that follow
   kAskYesNoCancel,  //
   kAskNumber,       // OK and Cancel, and an input for a number
   kAskNumberFirm,   // OK alone, and an input for a number
+  kAskRange,        // OK and Cancel, and two inputs: a number each, or a range
   kAskText,         // OK and Cancel, and an input for any text
 };
 

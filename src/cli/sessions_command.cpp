@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/interrupts.h"
+#include "base/messages.h"
 #include "base/program_folders.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
@@ -242,7 +243,7 @@ std::string Compute(SessionsLogFile& file, const Wanted& wanted, SessionsStatist
   bool overflow = false;
   if (problem.empty())
     problem = ComputeSessions(file, wanted.query, statistics, overflow, Announcer(sessions));
-  return overflow ? SessionsErrorText(FileTitle(file.Path)) : problem;
+  return overflow ? MessageText<Msg::kSessionsNotComputed>(With<"name">(FileTitle(file.Path))) : problem;
 }
 
 int Sessions(const SessionsOptions& options) {

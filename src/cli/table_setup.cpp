@@ -330,7 +330,7 @@ bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
 
 std::string ProblemLine(const GameFileProblem& problem) {
   std::string line;
-  for (const char c : problem.text) {
+  for (const char c : problem.Text()) {
     const bool blank = c == '\r' || c == ' ';
     if (!blank) line += c;
     if (blank && !line.empty() && line.back() != ' ') line += ' ';

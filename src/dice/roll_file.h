@@ -170,7 +170,4 @@ std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned 
 std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber);
 std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target);
 
-// Of a box that has no id yet.
-inline constexpr const char* kUnableToOpenRollFileTitle = "Unable to Open Dice Roll File";
-
 }  // namespace tessaryn

@@ -12,6 +12,7 @@
 
 #include "autobet/language/script_files.h"
 #include "base/interrupts.h"
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
@@ -21,6 +22,7 @@
 #include "play/table_files.h"
 #include "rules/consistency.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 #include "stats/events_log.h"
 
 namespace tessaryn {
@@ -82,8 +84,9 @@ GameReferences ReferencesOf(const Game& game, const std::string& probabilityFile
 
 std::string NameProblem(const std::string& what, const std::string& name) {
   if (name.size() > kPathWidth)
-    return what + " is longer than " + std::to_string(kPathWidth) + " bytes: " + name;
-  if (!name.empty() && name.back() == ' ') return what + " ends with a blank: \"" + name + "\"";
+    return MessageText<Msg::kNameTooLong>(With<"what">(what), With<"limit">(kPathWidth), With<"name">(name));
+  if (!name.empty() && name.back() == ' ')
+    return MessageText<Msg::kNameEndsWithBlank>(With<"what">(what), With<"name">(name));
   return "";
 }
 
@@ -93,15 +96,15 @@ std::string ReferencesProblem(const Game& game, const GameReferences& references
   const auto look = [&problem](const std::string& what, const std::string& name) {
     if (problem.empty()) problem = NameProblem(what, name);
   };
-  look("the path of the dice roll file", references.rollFile.path);
-  look("the path of the probability file", references.probability.path);
-  look("the path of the Events Log", references.eventsLog.path);
+  look(MessageText<Msg::kPathOfRollFile>(), references.rollFile.path);
+  look(MessageText<Msg::kPathOfProbabilities>(), references.probability.path);
+  look(MessageText<Msg::kPathOfEventsLog>(), references.eventsLog.path);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = game.table.seats[seat].SeatName;
     if (name.empty()) continue;
-    look("the name of seat " + std::to_string(seat), name);
-    look("the path of " + name + "'s auto-bet file", references.script[seat].path);
-    look("the path of " + name + "'s Sessions Log", references.sessionsLog[seat].path);
+    look(MessageText<Msg::kNameOfSeat>(With<"seat">(seat)), name);
+    look(MessageText<Msg::kPathOfScript>(With<"player">(name)), references.script[seat].path);
+    look(MessageText<Msg::kPathOfSessionsLog>(With<"player">(name)), references.sessionsLog[seat].path);
   }
   return problem;
 }
@@ -127,7 +130,7 @@ std::uint64_t DigestOf(const Game& game) {
 std::string WriteGame(const Game& game, const std::string& path, const GameReferences& references,
                       GameFileKind kind) {
   if (const std::string problem = ReferencesProblem(game, references); !problem.empty())
-    return "Unable to write " + path + ": " + problem;
+    return MessageText<Msg::kGameNotWritten>(With<"path">(path), With<"problem">(problem));
   return WriteRecordFile(path, WriteGameRecords(game, references, kind));
 }
 
@@ -138,7 +141,7 @@ std::string SaveUnsavedProbabilities(Game& game, const std::string& gamePath, st
     return Exists(game.percentage.ProbFileName) ? game.percentage.ProbFileName : "";
   if (!IsDefaultGame(gamePath)) return "";
   const std::string path = game.ownFolder + kDefaultProbabilityFile;
-  error = NameProblem("the path of the probability file", FullPath(path));
+  error = NameProblem(MessageText<Msg::kPathOfProbabilities>(), FullPath(path));
   if (error.empty()) SaveProbabilityFile(game.percentage, path, error);
   return path;
 }
@@ -152,9 +155,9 @@ bool IsDefaultGame(std::string_view path) { return Lower(FileTitle(path)) == kDe
 
 bool SaveGame(Game& game, const std::string& path, std::string& error) {
   FlushTableFiles(game);
-  error = ReferencesProblem(game, ReferencesOf(game, ""));
-  if (!error.empty()) {
-    error = "Unable to write " + path + ": " + error;
+  error.clear();
+  if (const std::string problem = ReferencesProblem(game, ReferencesOf(game, "")); !problem.empty()) {
+    error = MessageText<Msg::kGameNotWritten>(With<"path">(path), With<"problem">(problem));
     return false;
   }
   const std::string probabilities = SaveUnsavedProbabilities(game, path, error);
@@ -187,34 +190,28 @@ void ForgetGameFile(Game& game) { game.file = {}; }
 
 namespace {
 
-constexpr const char* kUnableToOpenTitle = "Unable to Open Tessaryn Game File";
-
 GameFileProblem Damaged(const std::string& path, const std::string& reason) {
-  return {kUnableToOpenTitle,
-          "An error occurred while attempting to open:\r\r" + path +
-              "\r\rIt may be corrupted or not a true Tessaryn game file. Check path, filename, or device.",
-          reason};
+  return {Msg::kGameDamaged, path, reason};
 }
 
 GameFileProblem ReadRecords(const std::string& path, RecordFile& file) {
-  if (!Exists(path) && (errno == ENOENT || errno == ENOTDIR))
-    return {"Game File Not Found", "File not found.\r\rCheck path, filename, or device.", path};
+  if (!Exists(path) && (errno == ENOENT || errno == ENOTDIR)) return {Msg::kGameNotFound, path, path};
   std::string content;
   if (const std::string error = ReadWholeFile(path, content); !error.empty()) return Damaged(path, error);
   const std::string_view start = std::string_view(content).substr(0, kPathWidth);
-  if (start.find(kProgramName) == std::string_view::npos)
-    return {"Unable to Open File", path + "\r\rThis is not a Tessaryn game file.", ""};
-  if (start.find(kGameFileMagic) == std::string_view::npos)
-    return {kUnableToOpenTitle,
-            path +
-                "\r\rThis file appears to be from an incompatible version or is not a true Tessaryn game "
-                "file.",
-            ""};
-  if (!SplitRecords(content, file)) return Damaged(path, "it ends in the middle of a record");
+  if (start.find(kProgramName) == std::string_view::npos) return {Msg::kNotAGameFile, path, ""};
+  if (start.find(kGameFileMagic) == std::string_view::npos) return {Msg::kGameIncompatible, path, ""};
+  if (!SplitRecords(content, file)) return Damaged(path, MessageText<Msg::kEndsWithinRecord>());
   return {};
 }
 
 }  // namespace
+
+static_assert(NeedOnly({Msg::kGameNotFound, Msg::kNotAGameFile, Msg::kGameIncompatible, Msg::kGameDamaged},
+                       {"path"}));
+
+std::vector<MessageArgument> GameFileProblem::Arguments() const { return {{"path", path}}; }
+std::string GameFileProblem::Text() const { return MessageText(message, Arguments()); }
 
 GameFileProblem ReadGame(Host& host, const std::string& applicationFolder, const std::string& path,
                          std::unique_ptr<Game>& game, GameReferences& references) {
@@ -223,7 +220,7 @@ GameFileProblem ReadGame(Host& host, const std::string& applicationFolder, const
   if (GameFileProblem problem = ReadRecords(path, file); problem.Found()) return problem;
   std::unique_ptr<Game> read = StartGame(host, applicationFolder, "");
   if (!ReadGameRecords(file, *read, references))
-    return Damaged(path, "it ends early, or bytes of it changed");
+    return Damaged(path, MessageText<Msg::kEndsEarlyOrChanged>());
   if (const std::string reason = SettleOpenedGame(*read); !reason.empty()) return Damaged(path, reason);
   game = std::move(read);
   return {};
@@ -235,13 +232,14 @@ namespace {
 
 enum class OpenAs { kGame, kDefault, kAutosave };
 
-// Text, and the file's name below it.
-void TellFile(Game& game, const char* title, const std::string& text, const std::string& path) {
-  ShowMessage(game, title, text + "\r\r" + path, kMsgOk | kMsgAlert);
+template <Msg kId>
+void TellFile(Game& game, const FileReference& reference) {
+  ShowMessage<kId>(game, With<"path">(reference.path));
 }
 
-std::string WasInUse(const char* kind, const char* what) {
-  return "The following " + std::string(kind) + " file (that was in use when this game was saved) " + what;
+template <Msg kId>
+void TellScript(Game& game, int seat, const FileReference& reference) {
+  ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"path">(reference.path));
 }
 
 bool Changed(const FileReference& reference) { return GameFileDate(reference.path) != reference.date; }
@@ -316,15 +314,13 @@ void OpenReferredRollFile(Game& game, const RollFile& loaded, const FileReferenc
   file.RollFileOutputFormat = loaded.RollFileOutputFormat;
   file.RollFileInsertMode = loaded.RollFileInsertMode;
   if (reference.path.empty()) return;
-  if (!Exists(reference.path))
-    return TellFile(game, "Missing Dice Roll File", WasInUse("Dice Roll", "was not found:"), reference.path);
+  if (!Exists(reference.path)) return TellFile<Msg::kRollFileMissing>(game, reference);
   const bool changed = Changed(reference);
   if (const std::string error = OpenRollFile(file, reference.path); !error.empty()) {
-    ShowMessage(game, kUnableToOpenRollFileTitle, error);
+    ShowMessage<Msg::kRollFileNotOpened>(game, With<"problem">(error));
     return;
   }
-  if (changed)
-    TellFile(game, "Altered Dice Roll File", WasInUse("Dice Roll", "has been changed:"), reference.path);
+  if (changed) TellFile<Msg::kRollFileAltered>(game, reference);
   if (const std::string error = SetRecorderState(file, loaded.RecorderState); !error.empty())
     ReportError(game, error, kFileError, "Open Game");
   SetRollFileCursor(file, loaded.RollFileCursor);
@@ -346,9 +342,9 @@ void OpenReferredProbabilities(Game& game, const PercentageDice& loaded, const F
   ActivatePercentageDice(dice, loaded.PercentageDiceActive);
   game.percentage = dice;
   if (!found)
-    TellFile(game, "Missing Probability File", WasInUse("Probability", "was not found:"), reference.path);
+    TellFile<Msg::kProbabilitiesMissing>(game, reference);
   else if (!reference.path.empty() && changed)
-    TellFile(game, "Altered Probability File", WasInUse("Probability", "has been changed:"), reference.path);
+    TellFile<Msg::kProbabilitiesAltered>(game, reference);
 }
 
 void OpenReferredLog(Game& game, const FileReference& reference) {
@@ -360,9 +356,7 @@ void OpenReferredLog(Game& game, const FileReference& reference) {
     return;
   }
   log.EventsLogTopLine = 1;
-  ShowMessage(game, "Missing Events Log",
-              reference.path +
-                  "\r\rThe following Events Log (that was open when this game was saved) was not found.");
+  TellFile<Msg::kEventsLogMissing>(game, reference);
 }
 
 void DropScript(Game& game, int seat) {
@@ -378,25 +372,21 @@ void DropScript(Game& game, int seat) {
 
 void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
   SeatScript& script = game.autobet.Scripts[seat];
-  const std::string& name = game.table.seats[seat].SeatName;
   script.ScriptFileName = reference.path;
   if (reference.path.empty()) return;
   if (!Exists(reference.path)) {
     DropScript(game, seat);
-    return TellFile(game, "Auto-Bet File Not Found",
-                    name + "'s auto-bet file was not found:", reference.path);
+    return TellScript<Msg::kScriptMissing>(game, seat, reference);
   }
   if (Changed(reference)) {
     script.Unsaved = false;
-    TellFile(game, "Auto-Bet File Changed", name + "'s auto-Bet file has been changed:", reference.path);
+    TellScript<Msg::kScriptAltered>(game, seat, reference);
   }
   if (script.Unsaved) return;  // as it was edited
   std::vector<std::string> lines;
   if (!ReadScriptFile(reference.path, lines).Ok()) {
     DropScript(game, seat);
-    return TellFile(
-        game, "Unable To Open Auto-Bet File",
-        "An error occurred while attempting to load " + name + "'s auto-bet file:", reference.path);
+    return TellScript<Msg::kScriptNotOpened>(game, seat, reference);
   }
   if (lines == script.ScriptLines) return;
   script.ScriptLines = std::move(lines);
@@ -408,12 +398,9 @@ void OpenReferredSessionsLog(Game& game, int seat, const FileReference& referenc
   log = reference.path;
   if (reference.date.empty() || Exists(reference.path)) return;
   log = DefaultSessionsLog(game, seat);
-  ShowMessage(game, "Sessions Log Not Found",
-              "The following Sessions Log for " + game.table.seats[seat].SeatName + " was not found: \r\r" +
-                  reference.path + "\r\r" +
-                  (Exists(log) ? "The following existing Sessions Log will be opened instead:"
-                               : "The following new Sessions Log will be created and opened instead:") +
-                  "\r\r" + log);
+  ShowMessage<Msg::kSessionsLogMissing>(game, With<"player">(game.table.seats[seat].SeatName),
+                                        With<"path">(reference.path), With<"existing">(Exists(log)),
+                                        With<"log">(log));
 }
 
 void OpenReferredFiles(Game& game, const Game& loaded, const GameReferences& references, OpenAs as) {
@@ -435,7 +422,7 @@ bool OpenGameAs(Game& game, const std::string& path, OpenAs as) {
   GameReferences references;
   const GameFileProblem problem = ReadGame(*game.host, game.applicationFolder, path, loaded, references);
   if (problem.Found()) {
-    ShowMessage(game, problem.title, problem.text);
+    ShowMessage(game, problem.message, problem.Arguments());
     return false;
   }
   if (!ReleaseFiles(game)) return false;
@@ -468,9 +455,7 @@ std::string GameToOpen(Game& game, std::string_view argument) {
     argument = argument.substr(1, argument.size() - 2);
   if (argument.empty()) return DefaultGamePath(game);
   if (Lower(argument).ends_with(kGameFileExtension)) return std::string(argument);
-  ShowMessage(game, kUnableToOpenTitle,
-              "This is not a recognized as a Tessaryn game filename.\rThe last default game file will be "
-              "opened instead.");
+  ShowMessage<Msg::kNotAGameFileName>(game);
   return DefaultGamePath(game);
 }
 
@@ -482,10 +467,7 @@ bool OpenFirstGame(Game& game, std::string_view argument) {
   if (OpenGame(game, standard)) return true;
   const std::string backup = BackupGamePath(game);
   if (!Exists(backup)) return false;
-  const std::string date = GameFileDate(backup);
-  const std::string question = "The last default game file can't be opened.\r\rThe one before it, of " +
-                               date + ", was kept.  Would you like to open that one instead?";
-  return ShowMessage(game, kUnableToOpenTitle, question, kMsgYes | kMsgNo | kMsgQuestion) == kResultYes &&
+  return Confirms<Msg::kAskOpenBackup>(game, With<"date">(GameFileDate(backup))) &&
          OpenGameAs(game, backup, OpenAs::kDefault);
 }
 
@@ -516,7 +498,7 @@ bool SaveDefaultGame(Game& game, std::string& error) {
 }
 
 bool AutosaveGame(Game& game, std::string& error) {
-  error = game.table.RollInProgress ? "A roll is under way." : "";
+  error = game.table.RollInProgress ? MessageText<Msg::kRollUnderWay>() : "";
   if (!error.empty()) return false;
   FlushTableFiles(game);
   std::string probabilities = Exists(game.percentage.ProbFileName) ? game.percentage.ProbFileName : "";
@@ -535,12 +517,8 @@ bool HasAutosave(const Game& game) { return Exists(AutosavePath(game)); }
 bool OfferAutosave(Game& game) {
   const std::string path = AutosavePath(game);
   if (!Exists(path)) return false;
-  const std::string question =
-      "Tessaryn did not come to an orderly end the last time.\r\rThe game as it was kept during play, on " +
-      GameFileDate(path) + ", is still there.  Would you like to go on with it?";
-  const bool opened =
-      ShowMessage(game, "Restore Game", question, kMsgYes | kMsgNo | kMsgQuestion) == kResultYes &&
-      OpenGameAs(game, path, OpenAs::kAutosave);
+  const bool opened = Confirms<Msg::kAskRestoreGame>(game, With<"date">(GameFileDate(path))) &&
+                      OpenGameAs(game, path, OpenAs::kAutosave);
   RemoveAutosave(game);
   return opened;
 }

@@ -5,6 +5,9 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "base/message_value.h"
 
 namespace tessaryn {
 
@@ -76,12 +79,14 @@ void RemoveAutosave(const Game& game);
 
 // --- Looking.
 
-// What is wrong with a game file, in the words of its box; reason tells more where there is more to tell.
+// What is wrong with a game file, as its box; reason tells more where there is more to tell.
 struct GameFileProblem {
-  std::string title;
-  std::string text;
+  Msg message{};
+  std::string path;
   std::string reason;
-  bool Found() const { return !text.empty(); }
+  bool Found() const { return message != Msg{}; }
+  std::vector<MessageArgument> Arguments() const;
+  std::string Text() const;
 };
 // A table as a file has it, beside the one in play: nothing that it refers to is opened. On a problem game is
 // null. host outlives the game.

@@ -280,7 +280,7 @@ bool RenamePlayer(Game& game) {
   if (Lower(old) == Lower(name)) return true;
   if (!Confirms<Msg::kAskRenameSessionsLog>(game, With<"player">(name))) return true;
   const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
-  if (!problem.empty()) ShowMessage(game, "Rename Sessions Log", problem);
+  if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotRenamed>(game, With<"problem">(problem));
   return true;
 }
 

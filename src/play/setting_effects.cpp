@@ -197,7 +197,7 @@ void TakeEffectAtOnce(Game& game, const SettingRow& row) {
 
 bool SettingsHold(Game& game, const KeptSettings& before, std::string& error) {
   if (const ConfigurationProblem problem = CheckConfiguration(game); problem.Found()) {
-    error = problem.text;
+    error = problem.Text();
     return false;
   }
   for (const SettingPlace& place : ChangesSince(game, before)) {

@@ -7,6 +7,7 @@
 
 #include "state/bet_families.h"
 #include "state/game.h"
+#include "base/messages.h"
 
 namespace tessaryn {
 namespace {
@@ -222,14 +223,13 @@ Currency BetUnitOf(const PayoffRecord& record, Currency unit) {
 bool LosesMoreThanBet(const PayoffRecord& record) { return record.PayTo < -record.PayPer; }
 
 // The rules of a table whose rows may lose.
-ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const std::string& name,
-                                    const char* title, const char* positive) {
+ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const char* bet,
+                                    Msg losesMore = Msg::kPayoffLosesMore, Msg noWin = Msg::kNoPayoffWins) {
   for (int row = 1; row <= count; ++row)
-    if (LosesMoreThanBet(rows[row]))
-      return {title, "The loss on any " + name + " bet payoff cannot exceed the amount wagered."};
+    if (LosesMoreThanBet(rows[row])) return {losesMore, {{"bet", bet}}};
   const bool anyWin = std::any_of(rows + 1, rows + count + 1,
                                   [](const PayoffRecord& record) { return record.PayTo > kZero; });
-  if (!anyWin) return {title, "At least one of the " + name + " bet payoffs must be " + positive + "."};
+  if (!anyWin) return {noWin, {{"bet", bet}}};
   return {};
 }
 
@@ -369,28 +369,31 @@ int MidwayRow(int die1, int die2) {
   }
 }
 
+static_assert(NeedOnly({Msg::kPayoffNotPositive, Msg::kPayoffsNotPositive, Msg::kPayoffLosesMore,
+                        Msg::kNoPayoffWins, Msg::kFieldLosesMore, Msg::kNoFieldPayoffWins},
+                       {"bet"}));
+
+std::string ConfigurationProblem::Text() const { return MessageText(message, arguments); }
+
 ConfigurationProblem CheckPayoffs(const PayoffTables& payoffs, const OfferedFamilies& offered) {
-  constexpr const char* kTitle = "Payoff ratio error";
   for (const LineRow& line : kLineRows)
-    if (payoffs.PayoffTable[line.bet].PayTo <= kZero)
-      return {kTitle, std::string("The payoff on ") + line.name + " must be a positive amount."};
+    if (payoffs.PayoffTable[line.bet].PayTo <= kZero) return {Msg::kPayoffNotPositive, {{"bet", line.name}}};
   if (offered.smallTall && !AllPositive(payoffs.SevenPointSevenPayoffs, kSevenPointSevenRows))
-    return {kTitle, "The payoffs on SevenPoint7 must be positive amounts."};
+    return {Msg::kPayoffsNotPositive, {{"bet", "SevenPoint7"}}};
   if (offered.midway && !AllPositive(payoffs.MidwayPayoffs, kMidwayRows))
-    return {kTitle, "The payoffs on Midway must be positive amounts."};
+    return {Msg::kPayoffsNotPositive, {{"bet", "Midway"}}};
   ConfigurationProblem problem =
-      CheckHandTable(payoffs.SharpShooterPayoffs, kSharpShooterRows, "Sharpshooter", kTitle, "positive");
+      CheckHandTable(payoffs.SharpShooterPayoffs, kSharpShooterRows, "Sharpshooter");
   if (problem.Found()) return problem;
-  problem = CheckHandTable(payoffs.RideTheLinePayoffs, kRideTheLineRows, "Ride The Line", kTitle, "positive");
+  problem = CheckHandTable(payoffs.RideTheLinePayoffs, kRideTheLineRows, "Ride The Line");
   if (problem.Found()) return problem;
   if (offered.fire) {
-    problem = CheckHandTable(payoffs.FirePayoffs, kFireRows, "Fire", kTitle, "positive");
+    problem = CheckHandTable(payoffs.FirePayoffs, kFireRows, "Fire");
     if (problem.Found()) return problem;
-    if (LosesMoreThanBet(payoffs.FirePayoffs[0]))
-      return {kTitle, "The loss on any Fire bet payoff cannot exceed the amount wagered."};
+    if (LosesMoreThanBet(payoffs.FirePayoffs[0])) return {Msg::kPayoffLosesMore, {{"bet", "Fire"}}};
   }
-  // Misspelled since the first table; people know the text.
-  return CheckHandTable(payoffs.FieldPayoffs, kFieldRows, "Field", "Payoff error", "postiive");
+  return CheckHandTable(payoffs.FieldPayoffs, kFieldRows, "Field", Msg::kFieldLosesMore,
+                        Msg::kNoFieldPayoffWins);
 }
 
 std::string PayoffText(const PayoffRecord& record) {

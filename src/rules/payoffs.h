@@ -4,7 +4,9 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "base/message_value.h"
 #include "state/payoff_tables.h"
 
 namespace tessaryn {
@@ -64,9 +66,10 @@ struct OfferedFamilies {
   bool fire = true;
 };
 struct ConfigurationProblem {
-  std::string title;
-  std::string text;
-  bool Found() const { return !text.empty(); }
+  Msg message{};
+  std::vector<MessageArgument> arguments = {};
+  bool Found() const { return message != Msg{}; }
+  std::string Text() const;
 };
 // The rules that keep the tables valid, in their order; the first that fails.
 ConfigurationProblem CheckPayoffs(const PayoffTables& payoffs, const OfferedFamilies& offered);

@@ -20,6 +20,8 @@ std::uint32_t FlagsOf(MessageKind kind) {
       return kMsgOk | kMsgStop;
     case MessageKind::kHelp:
       return kMsgOk | kMsgDice;
+    case MessageKind::kNotice:
+      return kMsgCentred;
     case MessageKind::kWarnYesNo:
       return kMsgYes | kMsgNo | kMsgAlert;
     case MessageKind::kAskYesNo:
@@ -30,17 +32,13 @@ std::uint32_t FlagsOf(MessageKind kind) {
       return kMsgOk | kMsgCancel | kMsgInput | kMsgQuestion;
     case MessageKind::kAskNumberFirm:
       return kMsgOk | kMsgInput | kMsgQuestion;
+    case MessageKind::kAskRange:
+      return kMsgOk | kMsgCancel | kMsgTwoInputs | kMsgQuestion;
     case MessageKind::kAskText:
       return kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgQuestion;
     default:
       return kMsgOk | kMsgAlert;
   }
-}
-
-int ShowBox(Game& game) {
-  game.box.MsgResult = kResultCancel;
-  game.host->ShowMessage(game, game.box);
-  return game.box.MsgResult;
 }
 
 }  // namespace
@@ -54,19 +52,9 @@ int ShowMessage(Game& game, Msg id, std::vector<MessageArgument> arguments) {
   box.MsgText = MessageText(id, box.MsgArguments);
   box.MsgFlags = FlagsOf(row.kind);
   box.MsgWidth = MessageBox{}.MsgWidth;
-  return ShowBox(game);
-}
-
-int ShowMessage(Game& game, const std::string& title, const std::string& text, std::uint32_t flags,
-                int width) {
-  MessageBox& box = game.box;
-  box.MsgId = Msg::kNone;
-  box.MsgArguments.clear();
-  box.MsgTitle = title;
-  box.MsgText = text;
-  box.MsgFlags = flags;
-  box.MsgWidth = width;
-  return ShowBox(game);
+  box.MsgResult = kResultCancel;
+  game.host->ShowMessage(game, box);
+  return box.MsgResult;
 }
 
 }  // namespace tessaryn

@@ -53,7 +53,4 @@ TESSARYN_FIELDS(Game, table, settings, payoffs, maximums, stats, graph, generato
 // Shows a message's box and returns its MsgResult; input boxes start from the values that stand in game.box.
 // Requires that no box is being shown. Where the id is known, state/show_message.h checks the arguments.
 int ShowMessage(Game& game, Msg id, std::vector<MessageArgument> arguments);
-// The same without an id.
-int ShowMessage(Game& game, const std::string& title, const std::string& text,
-                std::uint32_t flags = kMsgOk | kMsgAlert, int width = 302);
 }  // namespace tessaryn

@@ -40,9 +40,10 @@ inline constexpr int kResultYes = 6;
 inline constexpr int kResultNo = 7;
 
 // One box: what to ask, and what was answered. Written by the asking procedure, answered by the host. A host
-// goes by MsgId and MsgArguments; the texts are for people.
+// goes by MsgId and MsgArguments; the texts are for people. Without a button it is a notice: told and not
+// waited for.
 struct MessageBox {
-  Msg MsgId{};  // Msg::kNone: only the texts are known
+  Msg MsgId{};
   std::vector<MessageArgument> MsgArguments;
   std::string MsgText;  // "\r" ends a line
   std::string MsgTitle;
@@ -55,6 +56,11 @@ struct MessageBox {
 };
 TESSARYN_FIELDS(MessageBox, MsgId, MsgArguments, MsgText, MsgTitle, MsgWidth, MsgFlags, MsgResult, MsgValue1,
                 MsgValue2, MsgEntry)
+
+// Whether there is nothing to press.
+inline bool IsNotice(const MessageBox& box) {
+  return (box.MsgFlags & (kMsgOk | kMsgYes | kMsgNo | kMsgCancel | kMsgHelp)) == 0;
+}
 
 // What a player wants done with a decided bet. choice is 1 to 7 of the handling tables; 0 leaves it to the
 // host's lack of an answer: the safe choice for a win (2) or a loss (1).
@@ -92,6 +98,8 @@ struct Host {
   virtual ~Host() = default;
   // Fills the answer. A host that can't ask gives the safe answer: No, else Cancel, else OK.
   virtual void ShowMessage(Game& game, MessageBox& box) = 0;
+  // The work that a notice told of is done: it goes away, if it is still to be seen.
+  virtual void EndNotice(Game&) {}
   // The settlement dialog of a seat that handles its bets by hand.
   virtual SettleAnswer AskSettlement(Game&, const SettleQuestion&) { return {}; }
   // Offered once a roll and once a statement. Gives way to user events when it is time to; returns whether

@@ -9,16 +9,16 @@
 #include <cstdio>
 
 #include "base/interrupts.h"
+#include "base/messages.h"
 #include "state/game.h"
 #include "state/run_stop.h"
+#include "state/show_message.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
 namespace {
 
 constexpr std::size_t kMostWaiting = 10'000;
-constexpr const char* kErrorTitle = "Sessions Log Error";
-constexpr const char* kOpenTitle = "Unable to Open Tessaryn Sessions Log";
 
 // --- Names.
 
@@ -86,7 +86,7 @@ std::string OpenOf(const Game& game, int seat, SessionsLogFile& file, SessionsAc
 }
 
 void TellProblem(Game& game, const std::string& problem) {
-  if (!problem.empty()) ShowMessage(game, kErrorTitle, problem);
+  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game, With<"problem">(problem));
 }
 
 // From here on the seat's log is another one.
@@ -97,12 +97,7 @@ void UseLog(Game& game, int seat, const std::string& path) {
 }
 
 bool AgreesToSessionInProgress(Game& game, bool all) {
-  if (SessionRolls(game.stats) == 0) return true;
-  const std::string logs = all ? "Sessions Logs" : "Sessions Log";
-  const std::string text = "There's currently a session in progress which will be added to your new " + logs +
-                           " when it's finished.\r\rWould you like to continue with this action anyway?";
-  return ShowMessage(game, "Session in progress will be added to new " + logs, text,
-                     kMsgYes | kMsgNo | kMsgQuestion) == kResultYes;
+  return SessionRolls(game.stats) == 0 || Confirms<Msg::kAskNewSessionsLog>(game, With<"all">(all));
 }
 
 // The default log of a seat begins anew. One with sessions is asked for.
@@ -120,10 +115,7 @@ NewLog StartDefaultLog(Game& game, int seat) {
     }
   }
   if (sessions > 0) {
-    const int answer = ShowMessage(
-        game, "Save Sessions Log",
-        name + "'s log needs to be re-named if you want to save it.\r\rDo you want to re-name it now?",
-        kMsgYes | kMsgNo | kMsgCancel | kMsgQuestion);
+    const int answer = ShowMessage<Msg::kAskSaveSessionsLog>(game, With<"player">(name));
     if (answer == kResultYes) return NewLog::kRenameFirst;
     if (answer != kResultNo) return NewLog::kCancelled;
     if (const std::string problem = DeleteEverySession(file); !problem.empty()) {
@@ -136,11 +128,16 @@ NewLog StartDefaultLog(Game& game, int seat) {
   return NewLog::kStarted;
 }
 
-// Announces the wait once it is known to be one.
+// Announces the wait once it is known to be one, and until it is over.
 class Patience {
  public:
   Patience(Game& game, std::int64_t sessions)
       : game_(game), sessions_(sessions), start_(game.host->TickMilliseconds()) {}
+  Patience(const Patience&) = delete;
+  Patience& operator=(const Patience&) = delete;
+  ~Patience() {
+    if (told_) game_.host->EndNotice(game_);
+  }
 
   std::string Look(std::int64_t done) {
     game_.host->YieldByClock(game_);
@@ -153,7 +150,7 @@ class Patience {
     const double ahead = static_cast<double>(sessions_ * kUsualPasses) / static_cast<double>(done);
     if (passed * ahead <= kLong) return {};
     told_ = true;
-    ShowMessage(game_, "Sessions Log", "Standby ...\rcalculating statistics", kMsgCentred);
+    ShowMessage<Msg::kCalculating>(game_);
     return {};
   }
 
@@ -228,7 +225,8 @@ void AppendSessionRecord(Game& game, int seat) {
   std::string problem = HasWaiting(files, path) ? TryWaiting(files) : "";
   if (!HasWaiting(files, path)) problem = Write(files.Seats[seat], path, session);
   if (problem.empty()) return;
-  files.Fault = game.table.seats[seat].SeatName + "'s session is not in the Sessions Log.\r\r" + problem;
+  files.Fault = MessageText<Msg::kSessionNotLogged>(With<"player">(game.table.seats[seat].SeatName),
+                                                    With<"problem">(problem));
   if (files.Waiting.size() < kMostWaiting) files.Waiting.push_back({path, session});
 }
 
@@ -242,7 +240,7 @@ void TellSessionsLogFault(Game& game) {
   const bool turbo = game.table.TurboRollActive;
   if (run) StopRun(game, fault);  // of a Turbo-Roll the reason is shown
   if (turbo || (told && !run)) return;
-  ShowMessage(game, kErrorTitle, fault + "\r\rIt is kept and tried again after every roll.");
+  ShowMessage<Msg::kSessionsLogFault>(game, With<"problem">(fault));
 }
 
 void WriteWaitingSessions(Game& game) {
@@ -270,9 +268,7 @@ std::string CloseSessionsLogs(Game& game) {
   std::string problem = files.Waiting.empty() ? "" : TryWaiting(files);
   for (SessionsLogFile& file : files.Seats) CloseSessionsFile(file);
   if (problem.empty()) return {};
-  const std::size_t waiting = files.Waiting.size();
-  const std::string lost = waiting == 1 ? "A session is" : std::to_string(waiting) + " sessions are";
-  return lost + " not in the Sessions Log: " + problem;
+  return MessageText<Msg::kSessionsLost>(With<"count">(files.Waiting.size()), With<"problem">(problem));
 }
 
 bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
@@ -287,17 +283,10 @@ bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
   const std::string problem = Compute(game, seat, statistics, overflow);
   screen.Files.Calculating = false;
   if (overflow)
-    ShowMessage(game, kErrorTitle, SessionsErrorText(name));
+    ShowMessage<Msg::kSessionsNotComputed>(game, With<"name">(name));
   else if (!problem.empty())
-    ShowMessage(game, kOpenTitle, problem);
+    ShowMessage<Msg::kSessionsLogNotOpened>(game, With<"problem">(problem));
   return problem.empty();
-}
-
-std::string SessionsErrorText(std::string_view name) {
-  return "An error has occurred in calculating the statistics for " + std::string(name) +
-         ". \r\rThis may have been due to excessive variance or corruption in your data.  You should be able "
-         "to "
-         "view the actual data by selecting the \"Data\" option button.";
 }
 
 NewLog NewSessionsLog(Game& game, int seat) {
@@ -337,9 +326,10 @@ std::string RenameSessionsLog(Game& game, int seat, const std::string& path) {
   if (old == path) return {};
   if (IsThere(old)) {
     if (renameat2(AT_FDCWD, old.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) != 0)
-      return errno == EEXIST ? path + " is already on file." : FileErrorText("rename", old, errno);
+      return errno == EEXIST ? MessageText<Msg::kPathOnFile>(With<"path">(path))
+                             : FileErrorText("rename", old, errno);
   } else if (IsThere(path)) {
-    return path + " is already on file.";
+    return MessageText<Msg::kPathOnFile>(With<"path">(path));
   }
   for (WaitingSession& one : game.sessions.Files.Waiting)
     if (one.Path == old) one.Path = path;
@@ -356,9 +346,7 @@ std::string MergeSessionsLog(Game& game, int seat, const std::string& path) {
 }
 
 bool DeleteAllSessions(Game& game, int seat) {
-  const std::string text =
-      "Are you sure you want to delete ALL of " + game.table.seats[seat].SeatName + "'s recorded sessions?";
-  if (ShowMessage(game, "Delete All Sessions", text, kMsgYes | kMsgNo | kMsgQuestion) != kResultYes)
+  if (!Confirms<Msg::kAskDeleteAllSessions>(game, With<"player">(game.table.seats[seat].SeatName)))
     return false;
   SessionsLogFile file;
   std::string problem = OpenOf(game, seat, file, SessionsAccess::kCreate);
@@ -369,14 +357,10 @@ bool DeleteAllSessions(Game& game, int seat) {
 }
 
 bool DeleteSessions(Game& game, int seat) {
-  constexpr const char* kTitle = "Delete Sessions";
   MessageBox& box = game.box;
   box.MsgValue1 = Currency::Dollars(game.sessions.SessionsTopRow);
   box.MsgValue2 = kZero;
-  if (ShowMessage(game, kTitle,
-                  "Enter the session number (or range of session numbers) that you'd like to delete:",
-                  kMsgOk | kMsgCancel | kMsgTwoInputs) != kResultOk)
-    return false;
+  if (ShowMessage<Msg::kAskDeleteSessions>(game) != kResultOk) return false;
   // A second box left at 0 asks for a single session.
   const Currency second = box.MsgValue2 == kZero ? box.MsgValue1 : box.MsgValue2;
   const bool whole = box.MsgValue1.IsWhole() && second.IsWhole();
@@ -386,7 +370,7 @@ bool DeleteSessions(Game& game, int seat) {
   SessionsLogFile file;
   std::string problem = OpenOf(game, seat, file, SessionsAccess::kCreate);
   if (problem.empty()) problem = DeleteSessionRange(file, first, last);
-  if (!problem.empty()) ShowMessage(game, kTitle, problem);
+  if (!problem.empty()) ShowMessage<Msg::kSessionsNotDeleted>(game, With<"problem">(problem));
   return problem.empty();
 }
 
@@ -395,10 +379,7 @@ bool SetBreakPoint(Game& game) {
   MessageBox& box = game.box;
   box.MsgValue1 = screen.BreakPointLow;
   box.MsgValue2 = screen.BreakPointHigh;
-  if (ShowMessage(game, "Set Break-point",
-                  "Enter the break-point or range that you'd like to use to sort this data:",
-                  kMsgOk | kMsgCancel | kMsgTwoInputs) != kResultOk)
-    return false;
+  if (ShowMessage<Msg::kAskBreakPoint>(game) != kResultOk) return false;
   screen.BreakPointLow = std::min(box.MsgValue1, box.MsgValue2);
   screen.BreakPointHigh = std::max(box.MsgValue1, box.MsgValue2);
   return true;
@@ -409,10 +390,8 @@ bool FindSession(Game& game, bool ask, int step) {
   if (!IsOccupied(game.table, screen.SessionsSeat)) return false;
   if (ask) {
     game.box.MsgValue1 = screen.FindValue;
-    const std::string text =
-        "Enter the value you'd like to find for: " + std::string(MeasureName(QueryOf(screen).Measure)) +
-        "\r\rIf found, the line will scroll to the top of the data box.";
-    if (ShowMessage(game, "Find", text, kMsgOk | kMsgCancel | kMsgInput) != kResultOk) return false;
+    const std::string measure(MeasureName(QueryOf(screen).Measure));
+    if (ShowMessage<Msg::kAskFindSession>(game, With<"measure">(measure)) != kResultOk) return false;
     screen.FindValue = game.box.MsgValue1;
   }
   SessionsLogFile file;

@@ -41,11 +41,10 @@ std::string CloseSessionsLogs(Game& game);
 // Computes what the screen shows of SessionsSeat by its choices. A log that isn't there yet is an empty one.
 // Faults are told. False, with statistics cleared, for a fault, without a seat, or while a computation is on.
 bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics);
-// What is told of a log whose values can't be summed up.
-std::string SessionsErrorText(std::string_view name);
 
 enum class NewLog { kCancelled, kRenameFirst, kStarted };
-// mnuNew. kRenameFirst: the user wants to keep the old log, and the screen goes on to Save As.
+// A seat's log begins anew. kRenameFirst: the user wants to keep the old log, and the screen goes on to Save
+// As.
 NewLog NewSessionsLog(Game& game, int seat);
 NewLog NewAllSessionsLogs(Game& game);
 std::string OpenSessionsLog(Game& game, int seat, const std::string& path);
@@ -55,8 +54,7 @@ std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path);
 std::string RenameSessionsLog(Game& game, int seat, const std::string& path);
 std::string MergeSessionsLog(Game& game, int seat, const std::string& path);
 
-// mnuDeleteAll, mnuDelete, mnuSetBreakPoint, mnuFind: they ask, and tell what went wrong. Whether something
-// has changed.
+// These ask, and tell what went wrong. Whether something has changed.
 bool DeleteAllSessions(Game& game, int seat);
 bool DeleteSessions(Game& game, int seat);
 bool SetBreakPoint(Game& game);

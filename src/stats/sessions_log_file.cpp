@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "base/interrupts.h"
+#include "base/messages.h"
 
 namespace tessaryn {
 namespace {
@@ -38,8 +39,7 @@ struct Header {
 };
 
 std::string NoLogText(const std::string& path) {
-  return path +
-         " is either from an older version, has been corrupted, or is not a true Tessaryn Sessions Log.";
+  return MessageText<Msg::kNotASessionsLog>(With<"path">(path));
 }
 
 off_t PlaceOf(std::int64_t session) { return static_cast<off_t>(session) * static_cast<off_t>(kRecordBytes); }
@@ -84,7 +84,7 @@ class Lock {
       }
       if (tries == kLockTries || Interrupted()) {
         descriptor_ = -1;
-        problem = "Unable to change " + file.Path + ": another program is at work on it.";
+        problem = MessageText<Msg::kSessionsLogInUse>(With<"path">(file.Path));
         return;
       }
       usleep(1'000);
@@ -136,8 +136,8 @@ std::string ReadHeader(const SessionsLogFile& file, Header& header) {
   header.count = GetInt32(record, kCountAt);
   const std::int64_t held = static_cast<std::int64_t>(status.st_size) / std::int64_t{kRecordBytes} - 1;
   if (header.count < 0 || header.count > held)
-    return NoLogText(file.Path) + " Its header counts " + std::to_string(header.count) +
-           " sessions, and the file holds " + std::to_string(held) + ".";
+    return MessageText<Msg::kSessionsMiscounted>(With<"path">(file.Path), With<"count">(header.count),
+                                                 With<"held">(held));
   if (GetText(record, kMoveMarkAt, kMoveMark.size()) != kMoveMark) return {};
   header.moveTo = GetInt32(record, kMoveToAt);
   header.moveGap = GetInt32(record, kMoveGapAt);
@@ -146,7 +146,7 @@ std::string ReadHeader(const SessionsLogFile& file, Header& header) {
       header.moveTo + header.moveGap + header.moveAside - 1 <= header.count &&
       header.count + header.moveAside <= held)
     return {};
-  return NoLogText(file.Path) + " Its header tells of a deletion that can't be.";
+  return MessageText<Msg::kSessionsMoveBad>(With<"path">(file.Path));
 }
 
 // Goes on with the deletion that the header tells of. What a block is copied from lies wholly above where it
@@ -213,7 +213,7 @@ std::string BeginLog(const SessionsLogFile& file) {
 std::string LockedAppend(const SessionsLogFile& file, const Record& session) {
   Header header;
   if (std::string problem = SettledHeader(file, header); !problem.empty()) return problem;
-  if (header.count == kMostSessions) return "Unable to write " + file.Path + ": it is full.";
+  if (header.count == kMostSessions) return MessageText<Msg::kSessionsLogFull>(With<"path">(file.Path));
   const int fault = WriteAt(file.Descriptor, PlaceOf(header.count + 1), session.data(), session.size());
   if (fault != 0) return FileErrorText("write", file.Path, fault);
   ++header.count;
@@ -274,7 +274,7 @@ std::string ReadSessions(const SessionsLogFile& file, std::int64_t first, std::s
   const ssize_t got = ReadAt(file.Descriptor, PlaceOf(first), records.data(), count * kRecordBytes);
   if (got < 0) return FileErrorText("read", file.Path, static_cast<int>(-got));
   if (static_cast<std::size_t>(got) != count * kRecordBytes)
-    return "Unable to read " + file.Path + ": it was cut short.";
+    return MessageText<Msg::kSessionsLogCutShort>(With<"path">(file.Path));
   return {};
 }
 
@@ -285,7 +285,7 @@ std::string AppendSession(SessionsLogFile& file, const Record& session) {
       if (!lock.problem.empty()) return lock.problem;
       if (IsInPlace(file)) return LockedAppend(file, session);
     }
-    if (tries == kLockTries) return "Unable to write " + file.Path + ": it is replaced again and again.";
+    if (tries == kLockTries) return MessageText<Msg::kSessionsLogReplaced>(With<"path">(file.Path));
     const std::string path = file.Path;
     if (std::string problem = OpenSessionsFile(file, path, SessionsAccess::kCreate); !problem.empty())
       return problem;
@@ -294,7 +294,7 @@ std::string AppendSession(SessionsLogFile& file, const Record& session) {
 
 std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
   if (file.Device == other.Device && file.Inode == other.Inode)
-    return "Unable to merge " + other.Path + ": it is the same log.";
+    return MessageText<Msg::kSessionsLogSame>(With<"path">(other.Path));
   std::int64_t further = 0;
   if (std::string problem = CountSessions(other, further); !problem.empty()) return problem;
   const Lock lock(file);
@@ -302,8 +302,7 @@ std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
   Header header;
   if (std::string problem = SettledHeader(file, header); !problem.empty()) return problem;
   if (header.count + further > kMostSessions)
-    return "Unable to merge " + other.Path + ": a log holds at most " + std::to_string(kMostSessions) +
-           " sessions.";
+    return MessageText<Msg::kSessionsLogsTooLong>(With<"path">(other.Path), With<"limit">(kMostSessions));
   std::vector<Record> records;
   for (std::int64_t done = 0; done < further;) {
     const std::int64_t block = std::min(kCopyBlock, further - done);
@@ -323,7 +322,7 @@ std::string DeleteSessionRange(SessionsLogFile& file, std::int64_t first, std::i
   if (!lock.problem.empty()) return lock.problem;
   Header header;
   if (std::string problem = SettledHeader(file, header); !problem.empty()) return problem;
-  if (first < 1 || last > header.count || first > last) return "No sessions deleted.  Entry out of range.";
+  if (first < 1 || last > header.count || first > last) return MessageText<Msg::kSessionsOutOfRange>();
   header.moveTo = first;
   header.moveGap = last - first + 1;
   if (last < header.count)

@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/messages.h"
 #include "support/cli_process.h"
 
 namespace tessaryn::test {
@@ -64,14 +65,15 @@ TEST(SessionsCommand, ReadsWhatARunOfSessionsLeft) {
 TEST(SessionsCommand, NamesWhatIsWrongAndChangesNothing) {
   Ground ground;
   WriteFile(ground.folder.File("bad.slg"), std::string(600, 'x'));
+  const std::string notALog = MessageText<Msg::kNotASessionsLog>(With<"path">("bad.slg"));
   const struct {
     std::vector<std::string> words;
     int exitCode;
     std::string says;
   } rows[] = {
       {{"none.slg"}, 1, "none.slg: No such file"},
-      {{"bad.slg"}, 1, "is not a true Tessaryn Sessions Log."},
-      {{"bad.slg", "--delete", "1"}, 1, "is not a true Tessaryn Sessions Log."},
+      {{"bad.slg"}, 1, notALog},
+      {{"bad.slg", "--delete", "1"}, 1, notALog},
       {{"bad.slg", "--stat", "12"}, 1, "--stat 12: is no measure"},
       {{"bad.slg", "--include", "won,drawn"}, 1, "\"drawn\" is neither"},
       {{"bad.slg", "--outliers", "5"}, 1, "--outliers 5: expected a range"},

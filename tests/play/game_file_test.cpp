@@ -14,6 +14,7 @@
 #include <random>
 #include <set>
 
+#include "base/messages.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
@@ -273,26 +274,20 @@ TEST(GameFile, EachFileThatItRefersToHasItsToldCheck) {
   const struct {
     const char* file;
     bool removed;  // else changed
-    const char* title;
-    const char* text;
+    Msg message;
+    std::vector<MessageArgument> arguments = {};
   } cases[] = {
-      {"dice.rol", true, "Missing Dice Roll File",
-       "The following Dice Roll file (that was in use when this game was saved) was not found:"},
-      {"dice.rol", false, "Altered Dice Roll File",
-       "The following Dice Roll file (that was in use when this game was saved) has been changed:"},
-      {"loaded.prb", true, "Missing Probability File",
-       "The following Probability file (that was in use when this game was saved) was not found:"},
-      {"loaded.prb", false, "Altered Probability File",
-       "The following Probability file (that was in use when this game was saved) has been changed:"},
-      {"log.txt", true, "Missing Events Log",
-       "The following Events Log (that was open when this game was saved) was not found."},
-      {"ann.bet", true, "Auto-Bet File Not Found", "Ann's auto-bet file was not found:"},
-      {"ann.bet", false, "Auto-Bet File Changed", "Ann's auto-Bet file has been changed:"},
-      {"sessions.slg", true, "Sessions Log Not Found",
-       "The following new Sessions Log will be created and opened instead:"},
+      {"dice.rol", true, Msg::kRollFileMissing},
+      {"dice.rol", false, Msg::kRollFileAltered},
+      {"loaded.prb", true, Msg::kProbabilitiesMissing},
+      {"loaded.prb", false, Msg::kProbabilitiesAltered},
+      {"log.txt", true, Msg::kEventsLogMissing},
+      {"ann.bet", true, Msg::kScriptMissing, {{"player", "Ann"}}},
+      {"ann.bet", false, Msg::kScriptAltered, {{"player", "Ann"}}},
+      {"sessions.slg", true, Msg::kSessionsLogMissing, {{"player", "Ann"}, {"existing", false}}},
   };
   for (const auto& wanted : cases) {
-    SCOPED_TRACE(wanted.title);
+    SCOPED_TRACE(test::NameOf(wanted.message));
     ReferringTable saved;
     const std::string file = saved.folder.File(wanted.file);
     EXPECT_EQ(CloseRollFile(saved.game->rollFile), "");
@@ -304,9 +299,8 @@ TEST(GameFile, EachFileThatItRefersToHasItsToldCheck) {
     test::TestTable opened;
     ASSERT_TRUE(OpenGame(*opened.game, saved.gamePath));
     ASSERT_EQ(opened.host.boxes.size(), 1u);
-    EXPECT_EQ(opened.host.boxes[0].title, wanted.title);
-    EXPECT_NE(opened.host.boxes[0].text.find(wanted.text), std::string::npos) << opened.host.boxes[0].text;
-    EXPECT_NE(opened.host.boxes[0].text.find(file), std::string::npos);
+    EXPECT_TRUE(opened.host.Said(wanted.message, wanted.arguments));
+    EXPECT_TRUE(opened.host.Said(wanted.message, {{"path", file}}));
     const Game& game = *opened.game;
     const bool gone = wanted.removed;
     const std::string name = wanted.file;
@@ -362,16 +356,17 @@ TEST(GameFile, TheStartOpensWhatItIsToldAndWhatIsThere) {
   ASSERT_TRUE(SaveGame(*table.game, table.folder.File("Evening.CRP"), error)) << error;
   const struct {
     std::string argument;
-    const char* title;  // empty: no box
+    Msg message;
     const char* caption;
-  } cases[] = {{"", "", "Tessaryn"},
-               {" \"" + table.folder.File("Evening.CRP") + "\" ", "", "Tessaryn (Evening.CRP)"},
-               {"evening.txt", "Unable to Open Tessaryn Game File", "Tessaryn"},
-               {"none.crp", "Game File Not Found", "Tessaryn"}};
+  } cases[] = {{"", Msg::kNone, "Tessaryn"},
+               {" \"" + table.folder.File("Evening.CRP") + "\" ", Msg::kNone, "Tessaryn (Evening.CRP)"},
+               {"evening.txt", Msg::kNotAGameFileName, "Tessaryn"},
+               {"none.crp", Msg::kGameNotFound, "Tessaryn"}};
   for (const auto& wanted : cases) {
     table.host.boxes.clear();
     EXPECT_TRUE(OpenFirstGame(*table.game, wanted.argument)) << wanted.argument;
-    EXPECT_EQ(table.host.boxes.empty() ? "" : table.host.boxes[0].title, wanted.title) << wanted.argument;
+    EXPECT_TRUE(table.host.Said(wanted.message)) << wanted.argument;
+    EXPECT_LE(table.host.boxes.size(), 1u);
     EXPECT_EQ(GameCaption(*table.game), wanted.caption) << wanted.argument;
     EXPECT_EQ(table.State().OccupiedSeats, 2);
   }
@@ -380,7 +375,9 @@ TEST(GameFile, TheStartOpensWhatItIsToldAndWhatIsThere) {
   table.host.boxes.clear();
   table.host.answers = {"yes"};
   EXPECT_TRUE(OpenFirstGame(*table.game, ""));
-  EXPECT_EQ(table.host.boxes.size(), 2u);
+  ASSERT_EQ(table.host.boxes.size(), 2u);
+  EXPECT_TRUE(Says(table.host.boxes[0], Msg::kGameDamaged, {{"path", DefaultGamePath(*table.game)}}));
+  EXPECT_TRUE(table.host.Said(Msg::kAskOpenBackup));
   EXPECT_EQ(table.State().OccupiedSeats, 1);
   ASSERT_TRUE(SaveDefaultGame(*table.game, error)) << error;
   EXPECT_EQ(fs::file_size(table.folder.File(kDamagedGameFile)), 39u);
@@ -398,7 +395,9 @@ void ExpectRefusedOrSound(test::TestTable& table, const std::string& path, const
     return;
   }
   ASSERT_FALSE(table.host.boxes.empty()) << what;
-  ASSERT_TRUE(table.host.boxes[0].title.starts_with("Unable to Open")) << what;
+  const Msg said = table.host.boxes[0].id;
+  ASSERT_TRUE(said == Msg::kGameDamaged || said == Msg::kNotAGameFile || said == Msg::kGameIncompatible)
+      << what << ": " << test::NameOf(said);
   before->box = table.game->box;
   ASSERT_EQ(FirstDifference(*before, *table.game), "") << what;
 }
@@ -444,20 +443,21 @@ TEST(GameFile, FilesOfOthersAreToldApart) {
   test::TestTable table;
   std::string error;
   const std::string path = table.folder.File("x.crp");
-  const std::pair<std::string, const char*> cases[] = {
-      {"", "This is not a Tessaryn game file."},
-      {std::string(5000, '\0'), "This is not a Tessaryn game file."},
-      {"Tessaryn Pro Game File, Data Format 2.1", "This file appears to be from an incompatible version"},
-      {"Tessaryn Pro Game File, Data Format 2.2", "An error occurred while attempting to open:"}};
-  for (const auto& [content, text] : cases) {
+  const std::pair<std::string, Msg> cases[] = {
+      {"", Msg::kNotAGameFile},
+      {std::string(5000, '\0'), Msg::kNotAGameFile},
+      {"Tessaryn Pro Game File, Data Format 2.1", Msg::kGameIncompatible},
+      {"Tessaryn Pro Game File, Data Format 2.2", Msg::kGameDamaged}};
+  for (const auto& [content, message] : cases) {
     test::WriteFile(path, content);
     EXPECT_FALSE(OpenGame(*table.game, path));
-    EXPECT_NE(table.host.LastText().find(text), std::string::npos) << table.host.LastText();
+    EXPECT_TRUE(table.host.Said(message, {{"path", path}}));
   }
   table.Join(1, "Ann");
   table.game->table.seats[1].SessionsLogName = "/" + std::string(200, 'x');
   EXPECT_FALSE(SaveGame(*table.game, path, error));
-  EXPECT_NE(error.find("Ann's Sessions Log"), std::string::npos) << error;
+  EXPECT_NE(error.find(MessageText<Msg::kPathOfSessionsLog>(With<"player">("Ann"))), std::string::npos)
+      << error;
   EXPECT_EQ(test::ReadFile(path), cases[3].first);
 }
 

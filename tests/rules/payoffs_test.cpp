@@ -4,6 +4,7 @@
 
 #include <numeric>
 
+#include "base/messages.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -95,27 +96,27 @@ struct Damage {
   int table;
   int row;  // 0: all rows
   int payTo;
-  const char* text;
-  const char* title = "Payoff ratio error";
+  Msg message;
+  const char* bet;
 };
 
-TEST(PayoffsCheck, EachRuleHasItsTextInItsOrder) {
+TEST(PayoffsCheck, EachRuleHasItsMessageInItsOrder) {
   const Damage damages[] = {
-      {0, 45, 0, "The payoff on Passline/Come (c.o.) must be a positive amount."},
-      {0, 19, 0, "The payoff on Pass/Come 4 must be a positive amount."},
-      {0, 24, -1, "The payoff on Pass/Come 10 must be a positive amount."},
-      {0, 48, 0, "The payoff on Don't Pass/Come (c.o.) must be a positive amount."},
-      {0, 7, 0, "The payoff on DP/DC 4 must be a positive amount."},
-      {2, 1, 0, "The payoffs on SevenPoint7 must be positive amounts."},
-      {3, 5, 0, "The payoffs on Midway must be positive amounts."},
-      {4, 3, -2, "The loss on any Sharpshooter bet payoff cannot exceed the amount wagered."},
-      {4, 0, -1, "At least one of the Sharpshooter bet payoffs must be positive."},
-      {5, 12, -2, "The loss on any Ride The Line bet payoff cannot exceed the amount wagered."},
-      {5, 0, -1, "At least one of the Ride The Line bet payoffs must be positive."},
-      {6, 1, -2, "The loss on any Fire bet payoff cannot exceed the amount wagered."},
-      {6, 0, -1, "At least one of the Fire bet payoffs must be positive."},
-      {1, 21, -2, "The loss on any Field bet payoff cannot exceed the amount wagered.", "Payoff error"},
-      {1, 0, -1, "At least one of the Field bet payoffs must be postiive.", "Payoff error"},
+      {0, 45, 0, Msg::kPayoffNotPositive, "Passline/Come (c.o.)"},
+      {0, 19, 0, Msg::kPayoffNotPositive, "Pass/Come 4"},
+      {0, 24, -1, Msg::kPayoffNotPositive, "Pass/Come 10"},
+      {0, 48, 0, Msg::kPayoffNotPositive, "Don't Pass/Come (c.o.)"},
+      {0, 7, 0, Msg::kPayoffNotPositive, "DP/DC 4"},
+      {2, 1, 0, Msg::kPayoffsNotPositive, "SevenPoint7"},
+      {3, 5, 0, Msg::kPayoffsNotPositive, "Midway"},
+      {4, 3, -2, Msg::kPayoffLosesMore, "Sharpshooter"},
+      {4, 0, -1, Msg::kNoPayoffWins, "Sharpshooter"},
+      {5, 12, -2, Msg::kPayoffLosesMore, "Ride The Line"},
+      {5, 0, -1, Msg::kNoPayoffWins, "Ride The Line"},
+      {6, 1, -2, Msg::kPayoffLosesMore, "Fire"},
+      {6, 0, -1, Msg::kNoPayoffWins, "Fire"},
+      {1, 21, -2, Msg::kFieldLosesMore, "Field"},
+      {1, 0, -1, Msg::kNoFieldPayoffWins, "Field"},
   };
   const auto apply = [](PayoffTables& payoffs, const Damage& damage) {
     const int last = damage.row == 0 ? PayoffTableFacts(damage.table).lastRow : damage.row;
@@ -131,11 +132,14 @@ TEST(PayoffsCheck, EachRuleHasItsTextInItsOrder) {
     PayoffTables payoffs;
     ResetPayoffs(payoffs, Currency::Dollars(1));
     apply(payoffs, *damage);
-    EXPECT_EQ(CheckPayoffs(payoffs, {}).text, damage->text);
-    EXPECT_EQ(CheckPayoffs(payoffs, {}).title, damage->title);
+    const auto same = [damage](const ConfigurationProblem& problem) {
+      return problem.message == damage->message &&
+             problem.arguments == std::vector<MessageArgument>{{"bet", damage->bet}};
+    };
+    EXPECT_TRUE(same(CheckPayoffs(payoffs, {}))) << CheckPayoffs(payoffs, {}).Text();
     // With everything damaged that comes later, the earlier rule still speaks first.
     apply(all, *damage);
-    EXPECT_EQ(CheckPayoffs(all, {}).text, damage->text);
+    EXPECT_TRUE(same(CheckPayoffs(all, {}))) << CheckPayoffs(all, {}).Text();
   }
 }
 

@@ -10,6 +10,7 @@
 #include <QUrl>
 #include <deque>
 
+#include "base/messages.h"
 #include "play/game_file.h"
 #include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
@@ -27,6 +28,8 @@ constexpr const char* kOk = "cmdButton0";
 constexpr const char* kYes = "cmdButton1";
 constexpr const char* kNo = "cmdButton2";
 constexpr const char* kCancel = "cmdButton3";
+
+QString Words(Msg id) { return FromCore(MessageText(id)); }
 
 // Presses the buttons told, in their order, on the boxes as they come, and notes the boxes' titles.
 class Answers {
@@ -113,7 +116,8 @@ void LeaveAllUnsaved(Visit& run) {
 }
 
 TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
-  const QStringList kTitles = {"Save Auto-Bets?", "Save Probabilities?", "Save Session"};
+  const QStringList kTitles = {Words(Msg::kTitleSaveAutoBets), Words(Msg::kTitleSaveProbabilities),
+                               Words(Msg::kTitleSaveSession)};
   const char* const kFiles[] = {"mine.bet", "mine.prb", "evening.crp"};
   for (int question = 0; question < 3; ++question)
     for (const char* answer : {kYes, kNo, kCancel, "given up"}) {
@@ -241,8 +245,9 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
     const char* player;  // at seat 2
     const char* caption;
   };
-  const QString unable = "Unable to Open Tessaryn Game File";
-  const QString missing = "Game File Not Found";
+  const QString unable = Words(Msg::kTitleGameNotOpened);
+  const QString missing = Words(Msg::kTitleGameNotFound);
+  const QString restore = Words(Msg::kTitleRestoreGame);
   const Case cases[] = {
       {"nothing", false, false, false, false, "", {}, {}, "", "Tessaryn"},
       {"the last game", true, true, false, false, "", {}, {}, "Last", "Tessaryn"},
@@ -253,8 +258,8 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
       {"quoted", true, false, false, false, " \"own.crp\" ", {}, {}, "Own", "Tessaryn (own.crp)"},
       {"a wrong name", true, false, false, false, "own.txt", {kOk}, {unable}, "Last", "Tessaryn"},
       {"a name of none", true, false, false, false, "gone.crp", {kOk}, {missing}, "Last", "Tessaryn"},
-      {"after a crash", true, false, false, true, "", {kYes}, {"Restore Game"}, "Auto", "Tessaryn"},
-      {"and no", true, false, false, true, "own.crp", {kNo}, {"Restore Game"}, "Own", "Tessaryn (own.crp)"}};
+      {"after a crash", true, false, false, true, "", {kYes}, {restore}, "Auto", "Tessaryn"},
+      {"and no", true, false, false, true, "own.crp", {kNo}, {restore}, "Own", "Tessaryn (own.crp)"}};
   for (const Case& one : cases) {
     SCOPED_TRACE(one.name);
     const QTemporaryDir folder;
@@ -375,12 +380,12 @@ TEST(GameMenu, SavesUnderANameOpensItAgainAndListsIt) {
   WriteFile(folder.filePath("bad.crp").toStdString(), "Tessaryn, but no more");
   QueuedFileNames() = {"bad", "evening", "evening"};
   run.Do("mnuOpen", {kOk});
-  EXPECT_EQ(run.answers.titles, QStringList("Unable to Open Tessaryn Game File"));
+  EXPECT_EQ(run.answers.titles, QStringList(Words(Msg::kTitleGameNotOpened)));
   EXPECT_EQ(run.OnField(3), Currency::Dollars(35));
   run.Do("mnuOpen", {kCancel});
   EXPECT_EQ(run.OnField(3), Currency::Dollars(35));
   run.Do("mnuOpen", {kNo});
-  EXPECT_EQ(run.answers.titles, QStringList("Save Session"));
+  EXPECT_EQ(run.answers.titles, QStringList(Words(Msg::kTitleSaveSession)));
   EXPECT_EQ(run.OnField(3), Currency::Dollars(25));
   QueuedFileNames() = {"evening", "second"};
   run.Do("mnuSaveAs", {kNo});  // not over the file that is there

@@ -3,11 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <memory>
 
+#include "shell/frame/shell_host.h"
 #include "shell/screens_support.h"
 #include "shell/table/screen_tools.h"
+#include "state/show_message.h"
 
 namespace tessaryn::test {
 namespace {
@@ -101,6 +105,28 @@ TEST(MessageScreen, Pictures) {
     return std::make_unique<MessageScreen>(Box(kMsgOk | kMsgCancel | kMsgInput | kMsgTextInput | kMsgDice),
                                            nullptr);
   });
+}
+
+TEST(MessageScreen, ANoticeIsNotWaitedForAndGoesWithItsWork) {
+  const auto shown = [] {
+    int count = 0;
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+      count += widget->objectName() == "frmMsg" && widget->isVisible();
+    return count;
+  };
+  ShellHost host;
+  const auto game = std::make_unique<Game>();
+  game->host = &host;
+  host.answers.No();
+  ShowMessage<Msg::kCalculating>(*game);
+  EXPECT_FALSE(host.answers.Empty()) << "it takes nobody's answer";
+  EXPECT_EQ(shown(), 1);
+  host.EndNotice(*game);
+  EXPECT_EQ(shown(), 0);
+  host.EndNotice(*game);
+  ShowMessage<Msg::kCalculating>(*game);
+  EXPECT_FALSE(Confirms<Msg::kAskStopAutoRoll>(*game));
+  EXPECT_EQ(shown(), 0) << "the next box takes its place";
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "base/messages.h"
 #include "play/copy_game.h"
 #include "play/players.h"
 #include "play/table_files.h"
@@ -109,8 +110,11 @@ TEST(SessionsLog, OneThatCantBeWrittenStopsTheRunAndLosesNothing) {
     NewSession(game, true, true, true, 0);
     EXPECT_FALSE(game.table.AutoRollActive);
   }
-  EXPECT_EQ(std::ranges::count(table.host.boxes, "Sessions Log Error", &test::ShownBox::title), 1);
-  EXPECT_NE(table.host.LastText().find("is not a true Tessaryn Sessions Log."), std::string::npos);
+  EXPECT_EQ(std::ranges::count(table.host.boxes, Msg::kSessionsLogFault, &test::ShownBox::id), 1);
+  const std::string reason = MessageText<Msg::kNotASessionsLog>(With<"path">(common));
+  const std::string bobs =
+      MessageText<Msg::kSessionNotLogged>(With<"player">("Bob"), With<"problem">(reason));
+  EXPECT_TRUE(table.host.Said(Msg::kSessionsLogFault, {{"problem", bobs}}));
   EXPECT_EQ(test::ReadFile(common), "something else");
   std::remove(common.c_str());
   FlushTableFiles(game);
@@ -119,7 +123,7 @@ TEST(SessionsLog, OneThatCantBeWrittenStopsTheRunAndLosesNothing) {
   table.Roll(1, 2);
   test::WriteFile(common, "something else");
   NewSession(game, true, true, true, 0);
-  EXPECT_NE(EndGame(game).find("2 sessions are not in the Sessions Log"), std::string::npos);
+  EXPECT_EQ(EndGame(game), MessageText<Msg::kSessionsLost>(With<"count">(2), With<"problem">(reason)));
 }
 
 TEST(SessionsLog, ASecondProgramKeepsItsOwn) {
@@ -166,7 +170,8 @@ TEST(SessionsLog, TheScreensCommandsAskAndDo) {
   EXPECT_EQ(rows[0].Number, 5);
   answers = {"10"};
   EXPECT_FALSE(DeleteSessions(game, 1));
-  EXPECT_EQ(table.host.LastText(), "No sessions deleted.  Entry out of range.");
+  EXPECT_TRUE(
+      table.host.Said(Msg::kSessionsNotDeleted, {{"problem", MessageText<Msg::kSessionsOutOfRange>()}}));
   answers = {"9"};
   EXPECT_TRUE(DeleteSessions(game, 1));
   EXPECT_EQ(ReadAll(ann).size(), 8u);
@@ -182,8 +187,10 @@ TEST(SessionsLog, TheScreensCommandsAskAndDo) {
   table.Roll(1, 2);
   answers = {"no"};
   EXPECT_EQ(NewSessionsLog(game, 1), NewLog::kCancelled) << "a session is in progress";
+  EXPECT_TRUE(table.host.Said(Msg::kAskNewSessionsLog, {{"all", false}}));
   answers = {"yes", "yes"};
   EXPECT_EQ(NewSessionsLog(game, 1), NewLog::kRenameFirst);
+  EXPECT_TRUE(table.host.Said(Msg::kAskSaveSessionsLog, {{"player", "Ann"}}));
   EXPECT_EQ(ReadAll(ann).size(), 8u);
   answers = {"yes", "no"};
   EXPECT_EQ(NewAllSessionsLogs(game), NewLog::kStarted);
@@ -193,6 +200,24 @@ TEST(SessionsLog, TheScreensCommandsAskAndDo) {
   answers = {"yes"};
   EXPECT_TRUE(DeleteAllSessions(game, 1));
   EXPECT_EQ(ReadAll(table.folder.File("kept.slg")).size(), 0u);
+}
+
+TEST(SessionsLog, ALongComputationIsAnnouncedUntilItIsOver) {
+  TestTable table;
+  Game& game = *table.game;
+  table.Join(1, "Ann");
+  game.sessions.SessionsSeat = 1;
+  Records many;
+  for (int n = 0; n < 30'000; ++n) many.push_back(Numbered(n % 100));
+  WriteAll(table.folder.File("ann.slg"), many);
+  SessionsStatistics s;
+  EXPECT_TRUE(UpdateSessionsLog(game, s));
+  EXPECT_TRUE(table.host.boxes.empty()) << "it took no time";
+  table.host.tickStep = 1'000;
+  EXPECT_TRUE(UpdateSessionsLog(game, s));
+  ASSERT_EQ(table.host.boxes.size(), 1u);
+  EXPECT_TRUE(table.host.Said(Msg::kCalculating));
+  EXPECT_EQ(table.host.noticesEnded, 1);
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ struct TestHost : Host {
   // "yes", "no", "ok", "cancel", or what is typed into the box before OK. Without one: the safe answer.
   std::deque<std::string> answers;
   std::vector<ShownBox> boxes;
+  int noticesEnded = 0;
   std::deque<SettleAnswer> settleAnswers;
   std::vector<SettleQuestion> settleQuestions;
   std::vector<Sound> sounds;
@@ -26,6 +27,7 @@ struct TestHost : Host {
   bool yields = false;             // what Yield tells the table
 
   void ShowMessage(Game& game, MessageBox& box) override;
+  void EndNotice(Game&) override { ++noticesEnded; }
   SettleAnswer AskSettlement(Game& game, const SettleQuestion& question) override;
   bool Yield(Game& game) override;
   void Wait(Game& game) override;

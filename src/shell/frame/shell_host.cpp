@@ -20,11 +20,23 @@ constexpr int kWaitStep = 10;
 
 ShellHost::ShellHost() { clock_.start(); }
 
-void ShellHost::ShowMessage(Game&, MessageBox& box) {
+ShellHost::~ShellHost() { delete notice_; }
+
+// A notice stands over the window while the work goes on; the next box takes its place.
+void ShellHost::ShowMessage(Game& game, MessageBox& box) {
+  EndNotice(game);
   if (beforeBox) beforeBox();
+  if (IsNotice(box)) {
+    notice_ = new MessageScreen(box, window);
+    notice_->show();
+    box.MsgResult = kResultOk;
+    return;
+  }
   if (answers.Take(box)) return;
   ShowMessageScreen(box, window);
 }
+
+void ShellHost::EndNotice(Game&) { delete notice_; }
 
 SettleAnswer ShellHost::AskSettlement(Game& game, const SettleQuestion& question) {
   if (beforeBox) beforeBox();

@@ -16,6 +16,9 @@ class Sounds;
 class ShellHost : public Host {
  public:
   ShellHost();
+  ~ShellHost() override;
+  ShellHost(const ShellHost&) = delete;
+  ShellHost& operator=(const ShellHost&) = delete;
 
   // The window that boxes stand over. Not owned.
   QPointer<QWidget> window;
@@ -39,6 +42,7 @@ class ShellHost : public Host {
   Sounds* sounds = nullptr;  // not owned; null: silent
 
   void ShowMessage(Game& game, MessageBox& box) override;
+  void EndNotice(Game& game) override;
   SettleAnswer AskSettlement(Game& game, const SettleQuestion& question) override;
   bool Yield(Game& game) override;
   bool YieldByClock(Game& game) override;
@@ -56,6 +60,7 @@ class ShellHost : public Host {
  private:
   void TellBetweenRolls(Game& game);
 
+  QPointer<MessageScreen> notice_;  // of work that is under way
   QElapsedTimer clock_;
   qint64 lastEvents_ = 0;  // when user events were last let in, in milliseconds of the clock
   qint64 lastProgress_ = 0;
