@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "dice/generators.h"
+#include "dice/percentage_dice.h"
 #include "play/auto_roll.h"
 #include "play/players.h"
 #include "play/script_session.h"
@@ -13,9 +14,8 @@
 #include "rules/advantage.h"
 #include "rules/bet_rules.h"
 #include "state/game.h"
-#include "stats/events_log.h"
-#include "dice/percentage_dice.h"
 #include "state/run_stop.h"
+#include "stats/events_log.h"
 
 namespace tessaryn {
 namespace {

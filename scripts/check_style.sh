@@ -3,7 +3,7 @@
 #   scripts/check_style.sh format        every C++ file is as clang-format 14 has it
 #   scripts/check_style.sh tidy [BASE]   clang-tidy has nothing to say of the sources of src/ that changed since
 #                                        BASE, by default since the branch left its upstream; a changed header
-#                                        counts for the source beside it. Wants a release build.
+#                                        counts for the source beside it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -35,9 +35,11 @@ changed_sources() {
 check_tidy() {
   local tool base sources
   tool=$(tool_of_version_14 clang-tidy)
-  base=${1:-$(git merge-base HEAD '@{upstream}' 2>/dev/null || git merge-base HEAD origin/main 2>/dev/null || git rev-parse HEAD~1)}
+  base=${1:-$(git merge-base HEAD '@{upstream}' 2>/dev/null || git merge-base HEAD origin/main 2>/dev/null || git rev-parse -q --verify HEAD~1 || true)}
+  [ -n "$base" ] || return 0  # a checkout without a past
   mapfile -t sources < <(changed_sources "$base")
   [ ${#sources[@]} -eq 0 ] && return
+  cmake --preset release >/dev/null
   printf '%s\0' "${sources[@]}" | xargs -0 -n 1 -P "$(nproc)" "$tool" -p build/release --quiet --warnings-as-errors='*'
 }
 

@@ -31,9 +31,6 @@ Advantage FigureAdvantage(const Game& game, int bet);
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice);
 // Likewise, with or without rolls that leave the bet in place counted as decisions.
 Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes);
-// In dollars, for a bet of the amount that is up on every roll, at SimRollRate.
-// The mean time to a decision at SimRollRate, as minutes and seconds: "00:45.2".
-std::string TimePerDecisionText(const Game& game, const Advantage& advantage);
 
 struct AdvantageRow {
   int bet = 0;          // 1 to 93, or one of the rows above

@@ -5,9 +5,9 @@
 #include <iterator>
 #include <numeric>
 
+#include "base/messages.h"
 #include "state/bet_families.h"
 #include "state/game.h"
-#include "base/messages.h"
 
 namespace tessaryn {
 namespace {

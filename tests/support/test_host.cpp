@@ -14,9 +14,9 @@
 #include "play/start_up.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
+#include "state/run_stop.h"
 #include "stats/events_log.h"
 #include "support/places.h"
-#include "state/run_stop.h"
 
 namespace tessaryn::test {
 
