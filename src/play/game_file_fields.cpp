@@ -45,6 +45,7 @@ const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
     {".events.PendingLogHeading", kOfARun},
     {".events.FaultReported", kOfARun},
     {".events.Held", kOfTheProgram},
+    {".events.Path", kOtherFile},
     {".events.Files", kOtherFile},
     {".autobet.Scripts.Kept", kMadeAgain},
     {".autobet.Scripts.Output", kOtherFile},

@@ -223,9 +223,7 @@ TEST(GameFile, AGameThatWasOpenedGoesOnAsTheOneThatWasSaved) {
     EXPECT_EQ(GameCaption(*opened.game), "Tessaryn (game.crp)");
     EXPECT_FALSE(IsSessionUnsaved(*opened.game));
     EXPECT_EQ(CheckConsistency(*opened.game), "");
-    opened.game->events.Path = played.game->events.Path;  // told by its full path, once it has lines
     EXPECT_EQ(Lost(*played.game, *opened.game), "");
-    opened.game->events.Path = EventsLogPath(*played.game);
     const std::string first = test::ReadFile(path);
     ASSERT_TRUE(SaveGame(*opened.game, path, error)) << error;
     EXPECT_TRUE(test::ReadFile(path) == first) << "saved again, the file differs";

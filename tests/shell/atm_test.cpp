@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <algorithm>
 
 #include "play/players.h"
 #include "play/setting_table.h"
@@ -34,7 +35,9 @@ class AtmTest : public testing::Test {
       Click(box, "cmdButton0");
     });
     Click(*screen, control);
-    EXPECT_EQ(text, table.game->box.MsgText);
+    std::string told = table.game->box.MsgText;
+    std::replace(told.begin(), told.end(), '\r', '\n');
+    EXPECT_EQ(text, told);
     return test::ShownBox(table.game->box);
   }
 

@@ -250,14 +250,14 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
   const QString restore = Words(Msg::kTitleRestoreGame);
   const Case cases[] = {
       {"nothing", false, false, false, false, "", {}, {}, "", "Tessaryn"},
-      {"the last game", true, true, false, false, "", {}, {}, "Last", "Tessaryn"},
+      {"the last game", true, true, false, false, "", {}, {}, "Lena", "Tessaryn"},
       {"a damaged one", true, false, true, false, "", {kOk}, {unable}, "", "Tessaryn"},
       {"and its backup", true, true, true, false, "", {kOk, kYes}, {unable, unable}, "Backup", "Tessaryn"},
       {"not wanted", true, true, true, false, "", {kOk, kNo}, {unable, unable}, "", "Tessaryn"},
       {"by name", true, false, false, false, "own.crp", {}, {}, "Own", "Tessaryn (own.crp)"},
       {"quoted", true, false, false, false, " \"own.crp\" ", {}, {}, "Own", "Tessaryn (own.crp)"},
-      {"a wrong name", true, false, false, false, "own.txt", {kOk}, {unable}, "Last", "Tessaryn"},
-      {"a name of none", true, false, false, false, "gone.crp", {kOk}, {missing}, "Last", "Tessaryn"},
+      {"a wrong name", true, false, false, false, "own.txt", {kOk}, {unable}, "Lena", "Tessaryn"},
+      {"a name of none", true, false, false, false, "gone.crp", {kOk}, {missing}, "Lena", "Tessaryn"},
       {"after a crash", true, false, false, true, "", {kYes}, {restore}, "Auto", "Tessaryn"},
       {"and no", true, false, false, true, "own.crp", {kNo}, {restore}, "Own", "Tessaryn (own.crp)"}};
   for (const Case& one : cases) {
@@ -271,7 +271,7 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
       run.window.reset();
     };
     write("own.crp", "Own");
-    if (one.lastGame) write("default.crp", "Last");
+    if (one.lastGame) write("default.crp", "Lena");
     if (one.damaged) {
       std::string bytes = Bytes(folder, "default.crp");
       WriteFile(folder.filePath("default.crp").toStdString(), bytes.substr(0, bytes.size() / 2));
@@ -358,7 +358,8 @@ TEST(Starting, APlaceOffTheScreenIsNotKept) {
   const QRect screen = next.window->screen()->availableGeometry();
   EXPECT_TRUE(screen.contains(next.window->geometry()));
   const QRect panel = next.window->findChild<QWidget*>("frmMove")->geometry();
-  EXPECT_TRUE(screen.contains(panel)) << panel.x() << "," << panel.y() << " of " << panel.width();
+  EXPECT_TRUE(screen.contains(panel))
+      << panel.x() << "," << panel.y() << " of " << panel.width() << "x" << panel.height();
   next.window->CloseUnasked();
 }
 
@@ -448,7 +449,7 @@ TEST(Autosaving, ARunIsPrecededByOneAndAnOrderlyEndTakesItAway) {
   run.game->settings.ShooterBetRule = 0;
   run.game->settings.AutoStopInterval = 5;
   run.Join(3, "Ann");
-  run.Do("mnuTurboRoll");
+  run.Do("mnuTurboRoll", {kOk});  // of the stop
   EXPECT_EQ(SessionRolls(run.game->stats), 5);
   EXPECT_TRUE(IsThere(folder, "autosave.crp"));
   EXPECT_FALSE(IsThere(folder, "default.crp"));

@@ -123,7 +123,6 @@ TEST(NewSession, EachChoiceKeepsOrClearsWhatItSays) {
     table.Roll(2, 1);
     table.game->autobet.Scripts[2].ScriptLines = {"bet 10 on field"};
     const std::string log = table.State().seats[2].SessionsLogName;
-    WriteFile(log, "kept");
     NewSessionScreen screen(*table.game, nullptr);
     const bool scripts = (choices & 1) != 0;
     const bool sessions = (choices & 2) != 0;

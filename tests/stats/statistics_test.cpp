@@ -285,13 +285,13 @@ void ExpectRolls(const Game& game, const Journal& journal) {
 
 // The rolls of the session between one coming of an item and the next.
 void ExpectGaps(const Game& game, const Journal& journal) {
-  for (int item = 0; item < kRollItems; ++item) {
+  for (int item = 2; item < kRollItems - 1; ++item) {  // the others are never counted
     std::int32_t gaps[kGapCells] = {};
     std::int32_t since = 0;
     for (const RollRecord& r : journal.rolls) {
       if (r.session != journal.session) continue;
       ++since;
-      if (item != 0 && !ItemHasPair(item, r.die1, r.die2)) continue;
+      if (!ItemHasPair(item, r.die1, r.die2)) continue;
       if (since >= 200) gaps[0] += since;
       ++gaps[std::min(since, 200)];
       since = 0;

@@ -1,5 +1,7 @@
 #include "shell/frame/game_files.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 #include "play/game_file.h"
@@ -51,12 +53,14 @@ bool SaveSessionFirst(Desk& desk, Leaving leaving) {
 
 QStringList ReadRecentGames(const std::string& dataFolder) {
   const QSettings settings(FromCore(dataFolder) + kRecentFile, QSettings::IniFormat);
-  return settings.value(kRecentKey).toStringList().mid(0, kRecentGames);
+  QStringList games = settings.value(kRecentKey).toStringList();
+  games.removeAll("");
+  return games.mid(0, kRecentGames);
 }
 
 void NoteRecentGame(Desk& desk, const std::string& path) {
-  if (IsDefaultGame(path)) return;
-  const QString name = FromCore(path);
+  if (path.empty() || IsDefaultGame(path)) return;
+  const QString name = QDir::cleanPath(QFileInfo(FromCore(path)).absoluteFilePath());
   desk.recentGames.removeAll(name);
   desk.recentGames.prepend(name);
   desk.recentGames = desk.recentGames.mid(0, kRecentGames);
