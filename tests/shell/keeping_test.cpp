@@ -355,6 +355,7 @@ TEST(Starting, APlaceOffTheScreenIsNotKept) {
     EXPECT_TRUE(run.Close());
   }
   Visit next(folder);
+  QCoreApplication::processEvents();
   const QRect screen = next.window->screen()->availableGeometry();
   EXPECT_TRUE(screen.contains(next.window->geometry()));
   const QRect panel = next.window->findChild<QWidget*>("frmMove")->geometry();

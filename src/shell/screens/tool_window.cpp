@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 
 namespace tessaryn {
@@ -30,20 +31,26 @@ void ToolWindow::SetPlace(const WindowPlace& place) {
 void ToolWindow::TakePlace() {
   if (place_.Width <= 0 || place_.Height <= 0) return;
   if (minimumSize() != maximumSize()) resize(place_.Width, place_.Height);
-  // Before it is shown a window may be smaller than it was when its place was kept.
-  const QSize kept(place_.Width, place_.Height);
-  const QSize size = minimumSize() != maximumSize() ? this->size() : this->size().expandedTo(kept);
   const QPoint corner(place_.Left, place_.Top);
   const QScreen* there = QGuiApplication::screenAt(corner);
   const QRect room = (there != nullptr ? there : screen())->availableGeometry();
-  move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - size.width())),
-       std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - size.height())));
+  move(std::max(room.left(), std::min(corner.x(), room.right() + 1 - width())),
+       std::max(room.top(), std::min(corner.y(), room.bottom() + 1 - height())));
+}
+
+// Only a window that is shown has its frame and its whole size.
+void ToolWindow::ComeInside() {
+  const QRect room = screen()->availableGeometry();
+  const QRect frame = geometry().united(frameGeometry());
+  const QPoint over(std::max(0, frame.right() - room.right()), std::max(0, frame.bottom() - room.bottom()));
+  if (!over.isNull()) move(pos() - over);
 }
 
 void ToolWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
     TakePlace();
     Refresh();
+    QTimer::singleShot(0, this, [this] { ComeInside(); });
   }
   QWidget::showEvent(event);
 }

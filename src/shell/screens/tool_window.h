@@ -32,6 +32,7 @@ class ToolWindow : public QWidget {
 
  private:
   void TakePlace();
+  void ComeInside();
 
   WindowPlace place_;
 };
