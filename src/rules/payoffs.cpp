@@ -213,7 +213,7 @@ void SetFieldRows(PayoffTables& payoffs, int preset) {
 }
 
 Currency BetUnitOf(const PayoffRecord& record, Currency unit) {
-  if (record.PayTo.raw == 0 || record.PayPer.raw <= 0) return unit;
+  if (record.PayTo.raw == 0 || record.PayTo.IsError() || record.PayPer.raw <= 0) return unit;
   const std::int64_t shared = std::gcd(record.PayTo.raw, record.PayPer.raw);
   std::int64_t size = 0;
   if (__builtin_mul_overflow(unit.raw, record.PayPer.raw / shared, &size)) return unit;
