@@ -10,7 +10,7 @@ PACKAGES=(
   qt6-base-dev qt6-multimedia-dev libgl1-mesa-dri fonts-dejavu-core
   xvfb xdotool
 )
-STYLE_PACKAGES=(clang-format clang-tidy)  # for .ci/run alone
+STYLE_PACKAGES=(clang-format)  # for .ci/run alone
 
 # Beside PACKAGES those that it is given.
 
