@@ -30,7 +30,11 @@ enum ToolWindowNumber : int {
   kHandsWindow = 13,
   kHotKeysWindow = 14,
   kMoveWindow = 15,
-  kToolWindows = 16,
+  kRecordedWindows = 16,  // those with a place of their own in the file's records
+  kConfigurationWindow = 16,
+  kPercentageDiceWindow = 17,
+  kLaboratoryWindow = 18,
+  kToolWindows = 24,
 };
 
 // In screen units, of the frame's corner and the inner size. Width and height 0: never placed, or a window
@@ -79,11 +83,31 @@ struct HotKey {
 };
 TESSARYN_FIELDS(HotKey, key, path, description)
 
+// What is selected on the reports.
+struct ReportsShown {
+  int Scope = 2;                // 0 to 4, as statistics have it
+  std::uint32_t Seats = 0x1FE;  // bit i: seat i
+  int Seat = 0;                 // of Bet Trends; 0 the selected player
+  bool AllBets = true;
+  std::vector<int> Bets;  // without AllBets, ascending
+  bool HandsPercent = false;
+  int RollGrouping = 0;  // 0 totals, 1 pairs, 2 combinations, 3 faces
+  bool HideProbabilities = false;
+  bool Skewed = false;  // the percentage dice's probabilities
+  int Item = 7;         // of Roll Frequencies, 2 to 89
+};
+TESSARYN_FIELDS(ReportsShown, Scope, Seats, Seat, AllBets, Bets, HandsPercent, RollGrouping,
+                HideProbabilities, Skewed, Item)
+
 struct ScreenState {
   // --- Windows.
   int MainWindow = kMainNormal;
   WindowPlace MainPlace;  // as it is when neither minimised nor maximised
-  WindowPlace ToolWindows[kToolWindows];
+  WindowPlace ToolWindows[kRecordedWindows];
+  WindowPlace FurtherPlaces[kToolWindows - kRecordedWindows];
+  // How docks and tabs stand, in the window's own form; empty: none has been docked.
+  std::string Arrangement;
+  ReportsShown Reports;
   int RailLeft[kSeatRows] = {};  // of the players' rails
   int RailTop[kSeatRows] = {};
   int ReportViewOption = 0;    // of the roll totals
@@ -100,9 +124,9 @@ struct ScreenState {
   std::string Folders[kChooserFolders];  // empty: the data folder
   std::vector<HotKey> HotKeys;           // as HotKeys.dta has them
 };
-TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, RailLeft, RailTop, ReportViewOption,
-                FurtherWindows, View, SavedViews, ShowBetAmounts, ShowPropositions, BetAmountMode,
-                ClickAmount, HotKeysEnabled, Folders, HotKeys)
+TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports,
+                RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews, ShowBetAmounts,
+                ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, Folders, HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

@@ -45,6 +45,11 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+WindowPlace& KeptPlace(ScreenState& screen, int number) {
+  return number < kRecordedWindows ? screen.ToolWindows[number]
+                                   : screen.FurtherPlaces[number - kRecordedWindows];
+}
+
 struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
@@ -78,7 +83,7 @@ ToolWindow& Tool(Desk& desk, int number) {
   for (const ToolRow& row : kTools)
     if (tool == nullptr && row.number == number) {
       tool = row.make(desk);
-      tool->SetPlace(desk.game.screen.ToolWindows[number]);
+      tool->SetPlace(KeptPlace(desk.game.screen, number));
       OfferRows(desk, *tool);
     }
   return *tool;
@@ -100,12 +105,12 @@ void RefreshTools(const Desk& desk) {
 
 void KeepTools(Desk& desk) {
   for (int number = 0; number < kToolWindows; ++number)
-    if (desk.tools[number] != nullptr) desk.game.screen.ToolWindows[number] = desk.tools[number]->Place();
+    if (desk.tools[number] != nullptr) KeptPlace(desk.game.screen, number) = desk.tools[number]->Place();
 }
 
 void PlaceTools(Desk& desk) {
   for (const ToolRow& row : kTools) {
-    const WindowPlace& place = desk.game.screen.ToolWindows[row.number];
+    const WindowPlace& place = KeptPlace(desk.game.screen, row.number);
     if (desk.tools[row.number] == nullptr && !place.Open) continue;
     ToolWindow& tool = Tool(desk, row.number);
     tool.SetPlace(place);

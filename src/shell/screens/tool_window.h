@@ -2,10 +2,13 @@
 #pragma once
 
 #include <QList>
+#include <QRectF>
 #include <QStringList>
 #include <QWidget>
 
 #include "state/screen_state.h"
+
+class QPainter;
 
 namespace tessaryn {
 
@@ -24,6 +27,11 @@ class ToolWindow : public QWidget {
   virtual void Refresh() {}
   // What it shows as a table, its heading first, for printing and export. Without rows neither is offered.
   virtual QList<QStringList> Rows() const { return {}; }
+  // What stands above them on paper, a line each; the window's title without any.
+  virtual QStringList PrintHeadings() const { return {}; }
+  // What it shows as a picture, for paper, PNG and SVG: painted into the area, light on any palette.
+  virtual bool HasPicture() const { return false; }
+  virtual void PaintPicture(QPainter& /*painter*/, const QRectF& /*area*/) const {}
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
