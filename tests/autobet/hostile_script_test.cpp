@@ -6,6 +6,7 @@
 
 #include "autobet/language/vocabulary.h"
 #include "compile_helpers.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -57,7 +58,7 @@ void ExpectSound(const std::vector<std::string>& lines, int player) {
 
 TEST(HostileScript, AnswersRandomBytes) {
   std::mt19937 random(4711);
-  for (int round = 0; round < 3000; ++round) {
+  for (int round = 0; round < test::Rounds(3000); ++round) {
     std::vector<std::string> lines(1 + random() % 4);
     for (std::string& line : lines) {
       const std::size_t length = random() % 60;
@@ -74,7 +75,7 @@ TEST(HostileScript, AnswersRandomSentencesOfTheLanguage) {
                          "=", "'",   "\"",    ":", "cs1", "player(1)", "-"};
   std::mt19937 random(815);
   int compiled = 0;
-  for (int round = 0; round < 20000; ++round) {
+  for (int round = 0; round < test::Rounds(20000); ++round) {
     std::vector<std::string> lines(1 + random() % 3);
     for (std::string& line : lines) {
       for (std::size_t word = 1 + random() % 8; word > 0; --word) {
@@ -104,7 +105,7 @@ TEST(HostileScript, AnswersMutatedScripts) {
   ASSERT_TRUE(Compile(source).ok) << Message(Compile(source));
   std::mt19937 random(31337);
   const std::string letters = "()[],=<>-+*/^&:'\"% \n15acps";
-  for (int round = 0; round < 6000; ++round) {
+  for (int round = 0; round < test::Rounds(6000); ++round) {
     std::string text = source;
     for (std::size_t change = 1 + random() % 4; change > 0; --change) {
       const std::size_t at = random() % text.size();

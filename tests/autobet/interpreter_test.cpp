@@ -12,6 +12,7 @@
 #include "rules/bankroll.h"
 #include "rules/consistency.h"
 #include "stats/events_log.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -173,8 +174,9 @@ TEST(Interpreter, AScriptedGameReplaysFromItsRollFile) {
     EXPECT_EQ(OpenRollFile(game.rollFile, folder.path + "game.rll"), "");
     EXPECT_EQ(SetRecorderState(game.rollFile, record ? kRecorderRecord : kRecorderPlayback), "");
     if (!record) SelectGenerator(game, 1);
-    table.Turbo(100'000);
-    EXPECT_EQ(SessionRolls(game.stats), 100'000);
+    const int rolls = test::Rounds(100'000);
+    table.Turbo(rolls);
+    EXPECT_EQ(SessionRolls(game.stats), rolls);
     EXPECT_EQ(CheckConsistency(game), "");
     End end{"", game.table.BankrollCurrent[1], game.stats.AtmTotal[Slot(kCurrentSession, 1)]};
     for (int bet = 1; bet < kBetRows; ++bet) end.bets += PlainMoney(game.table.BetAmount(1, bet)) + " ";

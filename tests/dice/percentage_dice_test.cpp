@@ -296,7 +296,7 @@ TEST(ProbabilityEdit, AHundredThousandEditsKeepEveryLockedSum) {
       if (KindOfProbabilityCell(row, column) != ProbabilityCellKind::kNone) cells.push_back({row, column});
   int done = 0;
   int refused = 0;
-  for (int edit = 0; edit < 100'000; ++edit) {
+  for (int edit = 0; edit < test::Rounds(100'000); ++edit) {
     if (random() % 12 == 0) random() % 2 == 0 ? UnlockAllProbabilities(dice) : NewProbabilityMatrix(dice);
     const auto [row, column] = cells[random() % cells.size()];
     if (random() % 8 == 0) ToggleProbabilityLock(dice, row, column);

@@ -16,6 +16,7 @@
 
 #include "base/messages.h"
 #include "base/record_file.h"
+#include "support/places.h"
 
 namespace tessaryn {
 namespace {
@@ -420,7 +421,7 @@ TEST_F(RollFiles, AHundredThousandEditsAgreeWithAPlainVector) {
   File->Durable = false;
   ASSERT_EQ(OpenRollFile(*File, Path), "");
   const auto at = [&](std::int64_t offset) { return model.begin() + static_cast<std::ptrdiff_t>(offset); };
-  for (int edit = 0; edit < 100'000; ++edit) {
+  for (int edit = 0; edit < test::Rounds(100'000); ++edit) {
     SCOPED_TRACE(testing::Message() << "seed " << kSeed << " edit " << edit);
     if (random() % 3 == 0) {
       const auto cursor = static_cast<std::int64_t>(random() % (model.size() + 4)) - 1;
