@@ -1,23 +1,23 @@
-# The core as one library, NAME; its object files are in NAME_OBJECTS. In a release they are optimised together once, into
-# one object that programs, tests and benchmarks link as it stands: the hot path crosses many files, and linking takes
-# seconds.
+# The core as a static library, which a release's programs are optimised with as a whole while they are linked: the hot
+# path crosses many files. What is for tests is in NAME_OBJECTS: in a release one object file, optimised as a whole
+# likewise, but once for all of them, so that linking takes seconds.
 function(add_core_library name)
-  add_library(${name}_files OBJECT ${CORE_SOURCES})
-  target_include_directories(${name}_files PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  set(objects $<TARGET_OBJECTS:${name}_files>)
-  if(CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND NOT TESSARYN_SANITIZERS)
-    target_compile_options(${name}_files PRIVATE -flto)
+  add_library(${name} STATIC ${CORE_SOURCES})
+  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+  target_link_libraries(${name} PUBLIC ${CMAKE_DL_LIBS})
+  set(objects $<TARGET_OBJECTS:${name}>)
+  if(TESSARYN_IPO)
+    set_target_properties(${name} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)
+  endif()
+  if(TESSARYN_IPO AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_together.o)
     add_custom_command(OUTPUT ${together}
       COMMAND ${CMAKE_CXX_COMPILER} -flto=auto -r -nostdlib -flinker-output=nolto-rel -o ${together} ${objects}
-      DEPENDS ${name}_files ${objects}
+      DEPENDS ${name} ${objects}
       COMMENT "Optimising the core as a whole" COMMAND_EXPAND_LISTS VERBATIM)
     set(objects ${together})
   endif()
-  add_library(${name} STATIC ${objects})
-  set_target_properties(${name} PROPERTIES LINKER_LANGUAGE CXX)
-  target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_link_libraries(${name} PUBLIC ${CMAKE_DL_LIBS})
+  add_custom_target(${name}_for_tests DEPENDS ${objects})
   set(${name}_OBJECTS ${objects} PARENT_SCOPE)
 endfunction()
 
