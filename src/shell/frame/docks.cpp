@@ -73,7 +73,7 @@ ToolDock::ToolDock(int number, ToolWindow& window, QWidget* parent)
       window_(window),
       flags_(window.windowFlags()) {
   setObjectName("dock" + window.objectName());
-  auto* room = new Room(this);
+  auto* room = new Room(nullptr);
   room->setWidget(&window);
   setWidget(room);
   window.show();

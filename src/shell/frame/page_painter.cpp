@@ -70,7 +70,7 @@ PrintJob JobOf(const ToolWindow& window) {
   return job;
 }
 
-PagePainter::PagePainter(const PrintJob& job, const QPrinter& printer) : job_(job), size_(kTableSize) {
+PagePainter::PagePainter(const PrintJob& job, const QPrinter& printer) : job_(job), gap_(kGap), size_(kTableSize) {
   page_ = QRectF(QPointF(), printer.pageRect(QPrinter::DevicePixel).size());
   foot_ = Metrics(Letters(kFootSize)).height() + kSpace;
   page_.setHeight(std::max(page_.height() - foot_, 1.0));
@@ -113,24 +113,31 @@ void PagePainter::MeasureColumns() {
   for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].figures = figures[c] > texts[c];
 }
 
-// A table that is too wide gets smaller letters, then cells of several lines.
+// A table that is too wide gets smaller letters, then cells of several lines, and what is wider still goes on
+// the page as small as it takes.
 void PagePainter::FitColumns() {
+  line_ = Metrics(RowFont(false)).height() + 3;
   if (columns_.empty()) return;
-  const double room = page_.width() - kGap * static_cast<double>(columns_.size() - 1);
+  const auto gaps = static_cast<double>(columns_.size() - 1);
   std::vector<double> widths;
   for (const Column& column : columns_) widths.push_back(column.width + 1);
+  const double room = page_.width() - kGap * gaps;
   if (Total(widths) > room) {
-    const double share = std::max(room / Total(widths), kLeastSize / kTableSize);
-    size_ = kTableSize * share;
-    for (double& width : widths) width = width * share + 1;
+    double share = std::max(room / Total(widths), kLeastSize / kTableSize);
+    for (double& width : widths) width *= share;
     wraps_ = Total(widths) > room;
-    if (wraps_) {
-      const double cap = std::max(Cap(widths, room), kLeastColumn);
-      for (double& width : widths) width = std::min(width, cap);
+    const double cap = std::max(Cap(widths, room), kLeastColumn);
+    for (double& width : widths) width = std::min(width, cap);
+    if (const double all = Total(widths) + kGap * gaps; all > page_.width() + 1) {
+      const double less = page_.width() / all;
+      share *= less;
+      gap_ *= less;
+      for (double& width : widths) width *= less;
     }
+    size_ = kTableSize * share;
+    line_ = Metrics(RowFont(false)).height() + 3;
   }
-  for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].width = widths[c];
-  line_ = Metrics(RowFont(false)).height() + 3;
+  for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].width = widths[c] + (wraps_ ? 0 : 1);
 }
 
 double PagePainter::RowHeight(const QStringList& row) const {
@@ -198,7 +205,7 @@ void PagePainter::PaintRow(QPainter& painter, const QStringList& row, double top
     int how = static_cast<int>(column.figures && !across ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignTop;
     how |= wraps_ || across ? Qt::TextWordWrap | Qt::TextWrapAnywhere : Qt::TextSingleLine | Qt::TextDontClip;
     painter.drawText(cell, how, row[c]);
-    left += column.width + kGap;
+    left += column.width + gap_;
   }
   if (!head) return;
   painter.setPen(QPen(QColor(90, 90, 90), 1));

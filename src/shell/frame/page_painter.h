@@ -61,6 +61,7 @@ class PagePainter {
   double headings_ = 0;  // height on the first page
   double head_ = 0;      // of the columns' heads
   double line_ = 0;
+  double gap_;   // between two columns
   double size_;  // of the table's letters, in points
   bool wraps_ = false;
   std::vector<Column> columns_;
