@@ -53,6 +53,10 @@ struct Figures : ToolWindow {
   bool HasPicture() const override { return picture; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override {
     painter.fillRect(area.adjusted(area.width() / 2, 0, 0, 0), Qt::red);
+    QLinearGradient shade(area.topLeft(), area.bottomLeft());
+    shade.setColorAt(0, QColor(0, 0, 255, 60));
+    shade.setColorAt(1, Qt::green);
+    painter.fillRect(area.adjusted(area.width() / 4, 40, -area.width() / 2, 0), shade);
     painter.setPen(Qt::black);
     painter.drawText(area, Qt::AlignLeft | Qt::AlignTop, "drawn");
     if (whilePainting) whilePainting();

@@ -11,7 +11,8 @@
 #include <QTimer>
 #include <QToolButton>
 #include <algorithm>
-#include <memory>
+#include <optional>
+#include <set>
 #include <utility>
 
 #include "shell/frame/desk.h"
@@ -58,7 +59,7 @@ DockArea::DockArea(QWidget* table, QWidget* parent) : QMainWindow(parent) {
   setWindowFlags(Qt::Widget);
   setObjectName("frmDocks");
   setContextMenuPolicy(Qt::NoContextMenu);
-  setDockOptions(AllowNestedDocks | AllowTabbedDocks | AnimatedDocks);
+  setDockOptions(AllowNestedDocks | AllowTabbedDocks);
   setTabPosition(Qt::AllDockWidgetAreas, QTabWidget::North);
   setCorner(Qt::BottomRightCorner, Qt::RightDockWidgetArea);
   setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
@@ -107,7 +108,7 @@ void ToolDock::BuildTitle() {
   menu_->setStyleSheet("QToolButton::menu-indicator { image: none; }");
   auto* floating = TitleButton(bar, "cmdFloat", tr("A window of its own"));
   floating->setIcon(style()->standardIcon(QStyle::SP_TitleBarNormalButton));
-  connect(floating, &QToolButton::clicked, this, [this] { emit floatWanted({}); });
+  connect(floating, &QToolButton::clicked, this, [this] { emit floatWanted(std::nullopt); });
   auto* away = TitleButton(bar, "cmdCloseDock", tr("Close"));
   away->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
   connect(away, &QToolButton::clicked, this, &QWidget::close);
@@ -131,7 +132,7 @@ void ToolDock::Floated() {
     return;
   }
   QTimer::singleShot(0, this, [this] {
-    if (isFloating()) emit floatWanted(QRect(pos(), window_.size()));
+    if (isFloating()) emit floatWanted(pos());
   });
 }
 
@@ -182,7 +183,7 @@ ToolDock* MakeDock(Desk& desk, int number) {
   auto* dock = new ToolDock(number, tool, desk.docks);
   dock->SetMenu(DockMenu(desk, tool, dock));
   QObject::connect(dock, &ToolDock::floatWanted, desk.window,
-                   [&desk, number](const QRect& place) { FloatTool(desk, number, place); });
+                   [&desk, number](std::optional<QPoint> corner) { FloatTool(desk, number, corner); });
   QObject::connect(dock, &ToolDock::cameInFront, desk.window, [&desk, number] { RefreshTool(desk, number); });
   const auto toTheTable = [&desk] { desk.table->setFocus(); };
   QObject::connect(dock, &ToolDock::left, desk.window, toTheTable);
@@ -208,7 +209,7 @@ void DockTool(Desk& desk, int number, Qt::DockWidgetArea side) {
   dock->raise();
 }
 
-void FloatTool(Desk& desk, int number, const QRect& place) {
+void FloatTool(Desk& desk, int number, std::optional<QPoint> corner) {
   ToolDock* dock = DockOf(desk, number);
   if (dock == nullptr) return;
   const bool open = !dock->isHidden();
@@ -217,7 +218,11 @@ void FloatTool(Desk& desk, int number, const QRect& place) {
   dock->setObjectName({});  // nobody finds it meanwhile
   dock->deleteLater();
   ShowToolMenu(*tool, true);
-  if (place.isValid()) tool->SetPlace({false, place.y(), place.x(), place.width(), place.height()});
+  if (WindowPlace place = tool->Place(); corner && place.Width > 0) {
+    place.Left = corner->x();
+    place.Top = corner->y();
+    tool->SetPlace(place);
+  }
   tool->setVisible(open);
 }
 

@@ -4,8 +4,8 @@
 
 #include <QDockWidget>
 #include <QMainWindow>
-#include <QPointer>
-#include <set>
+#include <QPoint>
+#include <optional>
 #include <string>
 
 class QLabel;
@@ -41,8 +41,8 @@ class ToolDock : public QDockWidget {
   void SetMenu(QMenu* menu);
 
  signals:
-  // The user wants it to be a window of its own, here; without a size where it was last.
-  void floatWanted(const QRect& place);
+  // The user wants it to be a window of its own, here or where it was last.
+  void floatWanted(std::optional<QPoint> corner);
   void cameInFront();
   void wentBehind();
   // The keyboard is done with it.
@@ -70,7 +70,7 @@ bool MayDock(const Desk& desk, int number);
 // docks, and for a window that doesn't dock, nothing happens.
 void DockTool(Desk& desk, int number, Qt::DockWidgetArea side);
 // Makes it a window of its own, shown if it was.
-void FloatTool(Desk& desk, int number, const QRect& place = {});
+void FloatTool(Desk& desk, int number, std::optional<QPoint> corner = {});
 
 // How docks and tabs stand, as text; empty when none is docked.
 std::string KeptArrangement(const Desk& desk);

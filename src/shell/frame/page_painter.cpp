@@ -3,9 +3,13 @@
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QLocale>
+#include <QPaintEngine>
 #include <QPainter>
 #include <QPrinter>
+#include <QTextLayout>
+#include <QTextOption>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -42,6 +46,23 @@ bool IsFigure(const QString& text) {
          });
 }
 
+constexpr QTextOption::WrapMode kWrapping = QTextOption::WrapAtWordBoundaryOrAnywhere;
+
+int Lines(const QString& text, const QFont& font, double width) {
+  QTextLayout layout(text, font);
+  QTextOption how;
+  how.setWrapMode(kWrapping);
+  layout.setTextOption(how);
+  layout.beginLayout();
+  while (true) {
+    QTextLine line = layout.createLine();
+    if (!line.isValid()) break;
+    line.setLineWidth(width);
+  }
+  layout.endLayout();
+  return layout.lineCount();
+}
+
 double Total(const std::vector<double>& widths) { return std::accumulate(widths.begin(), widths.end(), 0.0); }
 
 // The columns' largest width, so that together they take no more than there is.
@@ -70,7 +91,9 @@ PrintJob JobOf(const ToolWindow& window) {
   return job;
 }
 
-PagePainter::PagePainter(const PrintJob& job, const QPrinter& printer) : job_(job), gap_(kGap), size_(kTableSize) {
+PagePainter::PagePainter(const PrintJob& job, const QPrinter& printer)
+    : job_(job), gap_(kGap), size_(kTableSize) {
+  grey_ = printer.colorMode() == QPrinter::GrayScale;
   page_ = QRectF(QPointF(), printer.pageRect(QPrinter::DevicePixel).size());
   foot_ = Metrics(Letters(kFootSize)).height() + kSpace;
   page_.setHeight(std::max(page_.height() - foot_, 1.0));
@@ -140,20 +163,21 @@ void PagePainter::FitColumns() {
   for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].width = widths[c] + (wraps_ ? 0 : 1);
 }
 
-double PagePainter::RowHeight(const QStringList& row) const {
-  if (!wraps_ && !GoesAcross(row)) return line_;
-  const QFontMetricsF metrics = Metrics(RowFont(true));  // as wide as a head
-  double height = line_;
-  for (qsizetype c = 0; c < row.size(); ++c) {
-    const double width = GoesAcross(row) ? page_.width() : columns_[static_cast<std::size_t>(c)].width;
-    const QRectF box =
-        metrics.boundingRect(QRectF(0, 0, width, 1e6), Qt::TextWordWrap | Qt::TextWrapAnywhere, row[c]);
-    height = std::max(height, box.height() + 3);
-  }
-  return std::min(height, page_.height() / 2);
+double PagePainter::CellWidth(const QStringList& row, qsizetype column) const {
+  return GoesAcross(row) ? page_.width() : columns_[static_cast<std::size_t>(column)].width;
 }
 
-void PagePainter::MeasureHead() { head_ = job_.rows->Count() > 0 ? RowHeight(job_.rows->Row(0)) + 4 : 0; }
+double PagePainter::RowHeight(const QStringList& row, bool head) const {
+  if (!wraps_ && !GoesAcross(row)) return line_;
+  const QFont font = RowFont(head || GoesAcross(row));
+  int lines = 1;
+  for (qsizetype c = 0; c < row.size(); ++c) lines = std::max(lines, Lines(row[c], font, CellWidth(row, c)));
+  return std::min(line_ + (lines - 1) * Metrics(font).lineSpacing(), page_.height() / 2);
+}
+
+void PagePainter::MeasureHead() {
+  head_ = job_.rows->Count() > 0 ? RowHeight(job_.rows->Row(0), true) + 4 : 0;
+}
 
 QRectF PagePainter::PictureArea(double top) const {
   const QSizeF natural = job_.pictureSize;
@@ -197,14 +221,13 @@ void PagePainter::PaintHeadings(QPainter& painter) const {
 void PagePainter::PaintRow(QPainter& painter, const QStringList& row, double top, bool head) const {
   const bool across = GoesAcross(row);
   painter.setFont(RowFont(head || across));
-  const double height = RowHeight(row);
+  const double height = RowHeight(row, head);
   double left = 0;
   for (qsizetype c = 0; c < row.size(); ++c) {
     const Column& column = columns_[static_cast<std::size_t>(c)];
-    const QRectF cell(left, top, across ? page_.width() : column.width, height);
-    int how = static_cast<int>(column.figures && !across ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignTop;
-    how |= wraps_ || across ? Qt::TextWordWrap | Qt::TextWrapAnywhere : Qt::TextSingleLine | Qt::TextDontClip;
-    painter.drawText(cell, how, row[c]);
+    QTextOption how(column.figures && !across ? Qt::AlignRight : Qt::AlignLeft);
+    how.setWrapMode(wraps_ || across ? kWrapping : QTextOption::NoWrap);
+    painter.drawText(QRectF(left, top, CellWidth(row, c), height), row[c], how);
     left += column.width + gap_;
   }
   if (!head) return;
@@ -222,6 +245,28 @@ void PagePainter::PaintFoot(QPainter& painter, int page) const {
                    QCoreApplication::translate("Printing", "Page %1 of %2").arg(page + 1).arg(Pages()));
 }
 
+// Its letters are sized for a screen. What shows a printer's pages doesn't know of its greys.
+void PagePainter::PaintPicture(QPainter& painter, const QRectF& area) const {
+  const QRectF natural(QPointF(), job_.pictureSize);
+  if (grey_ && painter.paintEngine()->type() == QPaintEngine::Picture) {
+    QImage image((natural.size() * 2).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(2);
+    image.fill(Qt::white);
+    QPainter points(&image);
+    points.setRenderHint(QPainter::Antialiasing);
+    job_.picture(points, natural);
+    points.end();
+    painter.drawImage(area, image.convertToFormat(QImage::Format_Grayscale8));
+    return;
+  }
+  painter.save();
+  const double scale = area.width() / natural.width();
+  painter.translate(area.topLeft());
+  painter.scale(scale, scale);
+  job_.picture(painter, natural);
+  painter.restore();
+}
+
 void PagePainter::Paint(QPainter& painter, int page) const {
   painter.setPen(Qt::black);
   double top = 0;
@@ -229,13 +274,7 @@ void PagePainter::Paint(QPainter& painter, int page) const {
     PaintHeadings(painter);
     top = headings_;
     if (const QRectF area = PictureArea(top); area.height() > 0) {
-      painter.save();
-      // Its letters are sized for a screen.
-      const double scale = area.width() / job_.pictureSize.width();
-      painter.translate(area.topLeft());
-      painter.scale(scale, scale);
-      job_.picture(painter, QRectF(QPointF(), job_.pictureSize));
-      painter.restore();
+      PaintPicture(painter, area);
       top = area.bottom() + kSpace;
     }
   }

@@ -47,9 +47,11 @@ class PagePainter {
   void FitColumns();
   void Paginate();
   void MeasureHead();
-  double RowHeight(const QStringList& row) const;
+  double RowHeight(const QStringList& row, bool head = false) const;
+  double CellWidth(const QStringList& row, qsizetype column) const;
   QRectF PictureArea(double top) const;
   void PaintHeadings(QPainter& painter) const;
+  void PaintPicture(QPainter& painter, const QRectF& area) const;
   void PaintRow(QPainter& painter, const QStringList& row, double top, bool head) const;
   void PaintFoot(QPainter& painter, int page) const;
   QFont RowFont(bool head) const;
@@ -64,6 +66,7 @@ class PagePainter {
   double gap_;   // between two columns
   double size_;  // of the table's letters, in points
   bool wraps_ = false;
+  bool grey_ = false;
   std::vector<Column> columns_;
   std::vector<qint64>
       starts_;  // the row that each page begins with; the first one's picture is on the first page
