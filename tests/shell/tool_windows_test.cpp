@@ -11,9 +11,9 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QPushButton>
 #include <QSvgRenderer>
 #include <QTableWidget>
-#include <QToolButton>
 #include <QVBoxLayout>
 
 #include "base/messages.h"
@@ -42,6 +42,9 @@ struct Figures : ToolWindow {
     list->setAccessibleName("Figures");
     list->setMinimumWidth(260);
     column->addWidget(list);
+    auto* button = new QPushButton("&Turn", this);
+    button->setObjectName("cmdTurn");
+    column->addWidget(button);
     resize(320, 240);
   }
   void Refresh() override {
@@ -170,12 +173,15 @@ TEST(ToolWindows, DocksByTheButtonsOfTheirTitleAndByMenus) {
   ASSERT_NE(DockOf(table.desk, kBankrollWindow), nullptr);
   EXPECT_EQ(table.desk.docks->dockWidgetArea(DockOf(table.desk, kBankrollWindow)), Qt::LeftDockWidgetArea);
   ExpectNamed(*DockOf(table.desk, kBankrollWindow));
+  // Alt+T is the table's while the window is in a dock.
+  EXPECT_TRUE(Find<QPushButton>(graph, "cmdTurn").shortcut().isEmpty());
   Click(*DockOf(table.desk, kBankrollWindow), "cmdCloseDock");
   EXPECT_FALSE(ToolIsShown(table.desk, kBankrollWindow));
   ToggleTool(table.desk, kBankrollWindow);
   EXPECT_TRUE(graph.isVisible());
   Click(*DockOf(table.desk, kBankrollWindow), "cmdFloat");
   EXPECT_TRUE(graph.isWindow() && graph.isVisible());
+  EXPECT_FALSE(Find<QPushButton>(graph, "cmdTurn").shortcut().isEmpty());
   EXPECT_EQ(graph.Place().Left, before.Left);
   EXPECT_EQ(graph.Place().Width, before.Width);
   // As by a mouse that drags it off and lets go.

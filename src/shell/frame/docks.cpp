@@ -1,5 +1,7 @@
 #include "shell/frame/docks.h"
 
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QHBoxLayout>
@@ -7,6 +9,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QStyle>
 #include <QTimer>
 #include <QToolButton>
@@ -53,7 +56,26 @@ QToolButton* TitleButton(QWidget* bar, const char* name, const QString& does) {
   return button;
 }
 
+// The keys of a window act in a dock only while the keyboard is there; those that a dock can't tell apart
+// from the table's don't act.
+void KeepKeysInside(ToolWindow& window) {
+  for (QAction* action : window.findChildren<QAction*>()) {
+    if (action->shortcut().isEmpty() || action->shortcutContext() == Qt::WidgetWithChildrenShortcut) continue;
+    action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    window.addAction(action);
+  }
+  for (QShortcut* shortcut : window.findChildren<QShortcut*>())
+    if (shortcut->context() != Qt::WidgetShortcut) shortcut->setContext(Qt::WidgetWithChildrenShortcut);
+  SetAccessKeys(window, false);
+}
+
 }  // namespace
+
+void SetAccessKeys(ToolWindow& window, bool act) {
+  for (QAbstractButton* button : window.findChildren<QAbstractButton*>())
+    if (const QKeySequence key = QKeySequence::mnemonic(button->text()); !key.isEmpty())
+      button->setShortcut(act ? key : QKeySequence());
+}
 
 DockArea::DockArea(QWidget* table, QWidget* parent) : QMainWindow(parent) {
   setWindowFlags(Qt::Widget);
@@ -180,6 +202,7 @@ ToolDock* MakeDock(Desk& desk, int number) {
   // Where it stands as a window is kept by its hiding.
   tool.hide();
   ShowToolMenu(tool, false);
+  KeepKeysInside(tool);
   auto* dock = new ToolDock(number, tool, desk.docks);
   dock->SetMenu(DockMenu(desk, tool, dock));
   QObject::connect(dock, &ToolDock::floatWanted, desk.window,
@@ -218,6 +241,7 @@ void FloatTool(Desk& desk, int number, std::optional<QPoint> corner) {
   dock->setObjectName({});  // nobody finds it meanwhile
   dock->deleteLater();
   ShowToolMenu(*tool, true);
+  SetAccessKeys(*tool, true);
   if (WindowPlace place = tool->Place(); corner && place.Width > 0) {
     place.Left = corner->x();
     place.Top = corner->y();

@@ -63,6 +63,10 @@ class ToolDock : public QDockWidget {
   bool inFront_ = false;
 };
 
+// The underlined letters of a window's buttons, which are not to be mistaken for the table's in a dock; to be
+// called again when captions have changed.
+void SetAccessKeys(ToolWindow& window, bool act);
+
 // Its dock; null while it is a window of its own or hasn't been made.
 ToolDock* DockOf(const Desk& desk, int number);
 bool MayDock(const Desk& desk, int number);

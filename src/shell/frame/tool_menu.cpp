@@ -166,8 +166,9 @@ void GiveToolMenu(Desk& desk, ToolWindow& window) {
   if (own == nullptr && window.layout()->menuBar() != nullptr) return;
   auto* bar = own != nullptr ? own : new QMenuBar(&window);
   bar->setNativeMenuBar(false);
-  QMenu* output = bar->addMenu(Words(QT_TRANSLATE_NOOP("ToolMenu", "&Output")));
-  QMenu* place = bar->addMenu(Words(QT_TRANSLATE_NOOP("ToolMenu", "P&lace")));
+  const auto title = [own](QString words) { return own != nullptr ? words.remove('&') : words; };
+  QMenu* output = bar->addMenu(title(Words(QT_TRANSLATE_NOOP("ToolMenu", "&Output"))));
+  QMenu* place = bar->addMenu(title(Words(QT_TRANSLATE_NOOP("ToolMenu", "P&lace"))));
   Fill(*output, window, kOutput);
   Fill(*place, window, kPlace);
   for (QMenu* menu : {output, place})

@@ -130,6 +130,7 @@ void RefreshTool(Desk& desk, int number) {
     return;
   }
   desk.tools[number]->Refresh();
+  if (DockOf(desk, number) != nullptr) SetAccessKeys(*desk.tools[number], false);
   desk.refreshing = false;
   if (std::exchange(desk.refreshDue, false))
     QTimer::singleShot(0, desk.window, [&desk] { RefreshTools(desk); });
