@@ -64,11 +64,15 @@ constexpr ToolCommand kPlace[] = {
 
 constexpr const char* kBar = "mnbTool";
 constexpr const char* kOwnMenu = "menTool";
+constexpr const char* kOfFrame = "ofFrame";
 
 QString Words(const char* text) { return QCoreApplication::translate("ToolMenu", text); }
 
+// A window may have an action of the same name itself.
 QAction* ActionOf(ToolWindow& window, const ToolCommand& command) {
-  return window.findChild<QAction*>(command.name, Qt::FindDirectChildrenOnly);
+  for (QAction* action : window.findChildren<QAction*>(command.name, Qt::FindDirectChildrenOnly))
+    if (action->property(kOfFrame).toBool()) return action;
+  return nullptr;
 }
 
 bool CanAct(const ToolWindow& window, Needs needs) {
@@ -80,10 +84,9 @@ bool CanAct(const ToolWindow& window, Needs needs) {
 void RefreshActions(Desk& desk, ToolWindow& window) {
   for (const ToolCommand& command : kOutput)
     if (command.name != nullptr) ActionOf(window, command)->setEnabled(CanAct(window, command.needs));
-  for (const ToolCommand& command : kPlace)
-    if (command.name != nullptr) ActionOf(window, command)->setEnabled(true);
   const bool docked = DockOf(desk, NumberOf(desk, window)) != nullptr;
-  window.findChild<QAction*>("mnuFloat", Qt::FindDirectChildrenOnly)->setEnabled(docked);
+  for (const ToolCommand& command : kPlace)
+    if (command.name != nullptr && command.act == FloatIt) ActionOf(window, command)->setEnabled(docked);
 }
 
 template <typename Commands>
@@ -133,6 +136,7 @@ void MakeActions(Desk& desk, ToolWindow& window, const Commands& commands) {
       caption += '\t' + QKeySequence(command.key).toString(QKeySequence::NativeText);
     auto* action = new QAction(caption, &window);
     action->setObjectName(command.name);
+    action->setProperty(kOfFrame, true);
     QObject::connect(action, &QAction::triggered, &window, [&] { command.act(desk, window); });
   }
 }
