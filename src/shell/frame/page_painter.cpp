@@ -14,6 +14,8 @@
 #include <cmath>
 #include <numeric>
 
+#include "shell/frame/grey_paint.h"
+
 namespace tessaryn {
 namespace {
 
@@ -245,25 +247,14 @@ void PagePainter::PaintFoot(QPainter& painter, int page) const {
                    QCoreApplication::translate("Printing", "Page %1 of %2").arg(page + 1).arg(Pages()));
 }
 
-// Its letters are sized for a screen. What shows a printer's pages doesn't know of its greys.
+// Its letters are sized for a screen.
 void PagePainter::PaintPicture(QPainter& painter, const QRectF& area) const {
   const QRectF natural(QPointF(), job_.pictureSize);
-  if (grey_ && painter.paintEngine()->type() == QPaintEngine::Picture) {
-    QImage image((natural.size() * 2).toSize(), QImage::Format_RGB32);
-    image.setDevicePixelRatio(2);
-    image.fill(Qt::white);
-    QPainter points(&image);
-    points.setRenderHint(QPainter::Antialiasing);
-    job_.picture(points, natural);
-    points.end();
-    painter.drawImage(area, image.convertToFormat(QImage::Format_Grayscale8));
-    return;
-  }
   painter.save();
-  const double scale = area.width() / natural.width();
   painter.translate(area.topLeft());
-  painter.scale(scale, scale);
-  job_.picture(painter, natural);
+  painter.scale(area.width() / natural.width(), area.width() / natural.width());
+  const auto paint = [&](QPainter& on) { job_.picture(on, natural); };
+  grey_ ? PaintInGrey(painter, paint) : paint(painter);
   painter.restore();
 }
 
