@@ -385,6 +385,9 @@ TEST(ToolWindows, PagesHoldEveryRowOnceUnderTheirHeads) {
       }
     EXPECT_EQ(colour, paper.colour && paper.picture) << paper.name;
     EXPECT_FALSE(edge) << paper.name << " goes into the margin";
+    // A shade that lets white through, beside the red half.
+    const int lit = image.pixelColor(image.width() * 3 / 8, image.height() / 5).lightness();
+    EXPECT_TRUE(!paper.picture || (lit > 100 && lit < 250)) << paper.name << " " << lit;
     if (!qEnvironmentVariableIsEmpty("TESSARYN_PICTURES"))
       Output("pdftoppm", {"-r", "90", "-png", "-singlefile", path,
                           qEnvironmentVariable("TESSARYN_PICTURES") + "/pages-" + paper.name});

@@ -14,7 +14,7 @@
 #include <cmath>
 #include <numeric>
 
-#include "shell/frame/grey_paint.h"
+#include "shell/frame/paper_paint.h"
 
 namespace tessaryn {
 namespace {
@@ -253,8 +253,7 @@ void PagePainter::PaintPicture(QPainter& painter, const QRectF& area) const {
   painter.save();
   painter.translate(area.topLeft());
   painter.scale(area.width() / natural.width(), area.width() / natural.width());
-  const auto paint = [&](QPainter& on) { job_.picture(on, natural); };
-  grey_ ? PaintInGrey(painter, paint) : paint(painter);
+  PaintForPaper(painter, grey_, [&](QPainter& paper) { job_.picture(paper, natural); });
   painter.restore();
 }
 

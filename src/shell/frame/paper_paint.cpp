@@ -1,4 +1,4 @@
-#include "shell/frame/grey_paint.h"
+#include "shell/frame/paper_paint.h"
 
 #include <QBrush>
 #include <QGradient>
@@ -46,10 +46,24 @@ QBrush Grey(const QBrush& brush) {
   return grey;
 }
 
+// Readers of PDF fill a shade that should let something through.
+QBrush Tint(const QBrush& brush) {
+  if (brush.gradient() == nullptr || brush.isOpaque()) return brush;
+  const QGradientStops stops = brush.gradient()->stops();
+  float parts[4] = {};
+  for (const QGradientStop& stop : stops) {
+    const float got[4] = {stop.second.redF(), stop.second.greenF(), stop.second.blueF(),
+                          stop.second.alphaF()};
+    for (int n = 0; n < 4; ++n) parts[n] += got[n] / static_cast<float>(stops.size());
+  }
+  return QColor::fromRgbF(parts[0], parts[1], parts[2], parts[3]);
+}
+
 // Hands everything on to the painter beneath, at the place and scale that it had.
-class GreyEngine : public QPaintEngine {
+class PaperEngine : public QPaintEngine {
  public:
-  explicit GreyEngine(QPainter& to) : QPaintEngine(AllFeatures), to_(to), base_(to.transform()) {}
+  PaperEngine(QPainter& to, bool grey)
+      : QPaintEngine(AllFeatures), to_(to), base_(to.transform()), grey_(grey) {}
   bool begin(QPaintDevice*) override { return true; }
   bool end() override { return true; }
   Type type() const override { return User; }
@@ -59,12 +73,12 @@ class GreyEngine : public QPaintEngine {
     if (dirty & DirtyTransform) to_.setTransform(now.transform() * base_);
     if (dirty & DirtyPen) {
       QPen pen = now.pen();
-      pen.setBrush(Grey(pen.brush()));
+      pen.setBrush(Inked(pen.brush()));
       to_.setPen(pen);
     }
-    if (dirty & DirtyBrush) to_.setBrush(Grey(now.brush()));
+    if (dirty & DirtyBrush) to_.setBrush(Inked(now.brush()));
     if (dirty & DirtyBrushOrigin) to_.setBrushOrigin(now.brushOrigin());
-    if (dirty & DirtyBackground) to_.setBackground(Grey(now.backgroundBrush()));
+    if (dirty & DirtyBackground) to_.setBackground(Inked(now.backgroundBrush()));
     if (dirty & DirtyBackgroundMode) to_.setBackgroundMode(now.backgroundMode());
     if (dirty & DirtyFont) to_.setFont(now.font());
     if (dirty & DirtyOpacity) to_.setOpacity(now.opacity());
@@ -86,14 +100,14 @@ class GreyEngine : public QPaintEngine {
       to_.drawPolygon(points, count, mode == WindingMode ? Qt::WindingFill : Qt::OddEvenFill);
   }
   void drawPixmap(const QRectF& area, const QPixmap& pixmap, const QRectF& part) override {
-    to_.drawImage(area, Grey(pixmap.toImage()), part);
+    to_.drawImage(area, Inked(pixmap.toImage()), part);
   }
   void drawImage(const QRectF& area, const QImage& image, const QRectF& part,
                  Qt::ImageConversionFlags) override {
-    to_.drawImage(area, Grey(image), part);
+    to_.drawImage(area, Inked(image), part);
   }
   void drawTiledPixmap(const QRectF& area, const QPixmap& pixmap, const QPointF& from) override {
-    to_.drawTiledPixmap(area, QPixmap::fromImage(Grey(pixmap.toImage())), from);
+    to_.drawTiledPixmap(area, QPixmap::fromImage(Inked(pixmap.toImage())), from);
   }
   void drawTextItem(const QPointF& at, const QTextItem& item) override {
     const QFont before = to_.font();
@@ -103,14 +117,18 @@ class GreyEngine : public QPaintEngine {
   }
 
  private:
+  QBrush Inked(const QBrush& brush) const { return grey_ ? Grey(Tint(brush)) : Tint(brush); }
+  QImage Inked(const QImage& image) const { return grey_ ? Grey(image) : image; }
+
   QPainter& to_;
   const QTransform base_;
+  const bool grey_;
 };
 
 // As large, and with as fine a grain, as what is painted on in truth.
-class GreyDevice : public QPaintDevice {
+class PaperDevice : public QPaintDevice {
  public:
-  explicit GreyDevice(QPainter& to) : real_(*to.device()), engine_(to) {}
+  PaperDevice(QPainter& to, bool grey) : real_(*to.device()), engine_(to, grey) {}
   QPaintEngine* paintEngine() const override { return &engine_; }
 
  protected:
@@ -137,7 +155,7 @@ class GreyDevice : public QPaintDevice {
       case PdmPhysicalDpiY:
         return real_.physicalDpiY();
       case PdmDevicePixelRatio:
-        return real_.devicePixelRatio();
+        return static_cast<int>(real_.devicePixelRatio());
       case PdmDevicePixelRatioScaled:
         return static_cast<int>(real_.devicePixelRatioF() * devicePixelRatioFScale());
       default:
@@ -147,17 +165,17 @@ class GreyDevice : public QPaintDevice {
 
  private:
   const QPaintDevice& real_;
-  mutable GreyEngine engine_;
+  mutable PaperEngine engine_;
 };
 
 }  // namespace
 
-void PaintInGrey(QPainter& painter, const std::function<void(QPainter&)>& paint) {
+void PaintForPaper(QPainter& painter, bool grey, const std::function<void(QPainter&)>& paint) {
   painter.save();
-  GreyDevice device(painter);
-  QPainter grey(&device);
-  paint(grey);
-  grey.end();
+  PaperDevice device(painter, grey);
+  QPainter paper(&device);
+  paint(paper);
+  paper.end();
   painter.restore();
 }
 
