@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QProcess>
@@ -26,7 +27,9 @@
 #include "shell/frame/places.h"
 #include "shell/frame/printing.h"
 #include "shell/screens/file_chooser.h"
+#include "shell/screens/path_screen.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 #include "state/run_stop.h"
 
 namespace tessaryn::test {
@@ -149,6 +152,10 @@ TEST(ToolWindows, ALayoutDocksRoundTheTableAndTheKeysStayItsOwn) {
     }
     EXPECT_GE(table.window.Table().width(), size.width() * 6 / 10);
     SavePicture(table.window, QString("frame-%1").arg(size.width()));
+    const QPalette light = QApplication::palette();
+    QApplication::setPalette(DarkPalette());
+    SavePicture(table.window, QString("frame-%1-dark").arg(size.width()));
+    QApplication::setPalette(light);
     // Keys that a docked list has no use for are the table's, and Escape leads back.
     table.Join(3, "Ann");
     table.At(kEventsLogWindow).list->setFocus();
@@ -426,6 +433,20 @@ TEST(ToolWindows, PrintsWithoutAskingAndTellsWhatItDoes) {
   table.Do(kBankrollWindow, "mnuPrintPreview");
   EXPECT_TRUE(table.Written(kBankrollWindow, "mnuPdf", "saved.pdf").startsWith("%PDF"));
   table.window.CloseUnasked();
+}
+
+TEST(ToolWindows, FilesInUseAreToldByTheirPaths) {
+  ScreenTable table;
+  table.Join(3, "Ann");
+  table.game->autobet.Scripts[3].ScriptFileName = "/" + std::string(200, 'x') + "/ann.bet";
+  PathScreen screen(PathsInUse(*table.game), nullptr);
+  screen.show();
+  ExpectNamed(screen);
+  const QString text = Find<QPlainTextEdit>(screen, "picpath").toPlainText();
+  EXPECT_TRUE(text.contains("Ann:  /" + QString(200, 'x') + "/ann.bet\n"));
+  EXPECT_TRUE(text.contains("Events log file\n    " + FromCore(table.game->dataFolder)));
+  EXPECT_FALSE(text.contains("Dice roll file"));
+  SavePicture(screen, "path");
 }
 
 }  // namespace
