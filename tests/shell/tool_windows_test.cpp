@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
 #include <QPainter>
@@ -154,6 +155,7 @@ TEST(ToolWindows, ALayoutDocksRoundTheTableAndTheKeysStayItsOwn) {
     SavePicture(table.window, QString("frame-%1").arg(size.width()));
     const QPalette light = QApplication::palette();
     QApplication::setPalette(DarkPalette());
+    QTest::qWait(20);
     SavePicture(table.window, QString("frame-%1-dark").arg(size.width()));
     QApplication::setPalette(light);
     // Keys that a docked list has no use for are the table's, and Escape leads back.
@@ -432,6 +434,20 @@ TEST(ToolWindows, PrintsWithoutAskingAndTellsWhatItDoes) {
   });
   table.Do(kBankrollWindow, "mnuPrintPreview");
   EXPECT_TRUE(table.Written(kBankrollWindow, "mnuPdf", "saved.pdf").startsWith("%PDF"));
+  // A window that tells what it prints asks behind the printer's dialog; here that prints to a file.
+  figures.facts = true;
+  for (const bool agreed : {false, true}) {
+    agreed ? table.host.answers.Yes() : table.host.answers.No();
+    const QString asked = table.folder.filePath(agreed ? "yes.pdf" : "no.pdf");
+    WhenOpen("frmPrint", [&](QDialog& dialog) {
+      Find<QLineEdit>(dialog, "filename").setText(asked);
+      SavePicture(dialog, "frame-print");
+      dialog.accept();
+    });
+    table.Do(kBankrollWindow, "mnuPrint");
+    EXPECT_TRUE(table.host.answers.Empty());
+    EXPECT_EQ(QFile::exists(asked), agreed);
+  }
   table.window.CloseUnasked();
 }
 

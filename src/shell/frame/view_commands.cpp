@@ -164,7 +164,7 @@ std::span<const CommandRow> ViewCommands() {
        .caption = QT_TRANSLATE_NOOP("Commands", "&Save view"),
        .fill = ListViewsToSave},
       {},
-      {.name = "mnuArrange", .caption = QT_TRANSLATE_NOOP("Commands", "&Arrange"), .fill = ListArrangements},
+      {.name = "mnuArrange", .caption = QT_TRANSLATE_NOOP("Commands", "Arra&nge"), .fill = ListArrangements},
   };
   return kCommands;
 }
