@@ -184,6 +184,12 @@ TEST(ToolWindows, DocksByTheButtonsOfTheirTitleAndByMenus) {
   ExpectNamed(*DockOf(table.desk, kBankrollWindow));
   // Alt+T is the table's while the window is in a dock.
   EXPECT_TRUE(Find<QPushButton>(graph, "cmdTurn").shortcut().isEmpty());
+  Click(*DockOf(table.desk, kBankrollWindow), "cmdDockMenu");
+  auto& menu = Find<QMenu>(*DockOf(table.desk, kBankrollWindow), "menDock");
+  EXPECT_TRUE(menu.isVisible());
+  SavePicture(menu, "frame-menu");
+  menu.close();
+  QtWarnings().removeAll("This plugin does not support grabbing the keyboard");  // of the offscreen platform
   Click(*DockOf(table.desk, kBankrollWindow), "cmdCloseDock");
   EXPECT_FALSE(ToolIsShown(table.desk, kBankrollWindow));
   ToggleTool(table.desk, kBankrollWindow);

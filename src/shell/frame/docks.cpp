@@ -125,9 +125,7 @@ void ToolDock::BuildTitle() {
   title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   row->addWidget(title_, 1);
   menu_ = TitleButton(bar, "cmdDockMenu", tr("Print, copy, place"));
-  menu_->setArrowType(Qt::DownArrow);
-  menu_->setPopupMode(QToolButton::InstantPopup);
-  menu_->setStyleSheet("QToolButton::menu-indicator { image: none; }");
+  menu_->setText(QString(QChar(0x25be)));  // a triangle, in the colour of the words beside it
   auto* floating = TitleButton(bar, "cmdFloat", tr("A window of its own"));
   floating->setIcon(style()->standardIcon(QStyle::SP_TitleBarNormalButton));
   connect(floating, &QToolButton::clicked, this, [this] { emit floatWanted(std::nullopt); });
@@ -137,7 +135,10 @@ void ToolDock::BuildTitle() {
   setTitleBarWidget(bar);
 }
 
-void ToolDock::SetMenu(QMenu* menu) { menu_->setMenu(menu); }
+void ToolDock::SetMenu(QMenu* menu) {
+  connect(menu_, &QToolButton::clicked, menu,
+          [this, menu] { menu->popup(menu_->mapToGlobal(QPoint(0, menu_->height()))); });
+}
 
 // The way back to the table; the key is for others too.
 void ToolDock::keyPressEvent(QKeyEvent* event) {
