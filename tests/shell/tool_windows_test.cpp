@@ -121,7 +121,7 @@ struct FrameTable : ScreenTable {
     QueuedFileNames() = {folder.filePath(name).toStdString()};
     Do(number, action);
     QFile file(folder.filePath(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return QFileInfo(file).isFile() && file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
 };
 
@@ -321,12 +321,16 @@ TEST(ToolWindows, RowsAndPictureAreExportedAndCopiedAsTheyAreShown) {
   const QMimeData* copied = QGuiApplication::clipboard()->mimeData();
   EXPECT_EQ(copied->text(), "Name\t$\nAnn, \"the\" shooter\t1,000\nBo\t-20.50\n");
   EXPECT_TRUE(copied->hasImage());
-  // A file that can't be written is told of, by its path, and what is there stays.
-  QFile::setPermissions(table.folder.path(), QFile::ReadOwner | QFile::ExeOwner);
-  QueuedFileNames() = {table.folder.filePath("no/such.csv").toStdString(), ""};
-  table.host.answers.Ok();
-  table.Do(kBankrollWindow, "mnuExport");
-  QFile::setPermissions(table.folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  // What can't be written is told of.
+  for (const auto& [action, name] :
+       {std::pair("mnuExport", "full.csv"), std::pair("mnuExportPng", "full.png"),
+        std::pair("mnuExportSvg", "full.svg"), std::pair("mnuPdf", "full.pdf")}) {
+    ASSERT_TRUE(QFile::link("/dev/full", table.folder.filePath(name)));
+    table.host.answers.Yes();  // to write over it
+    table.host.answers.Ok();
+    table.Written(kBankrollWindow, action, name);
+    EXPECT_TRUE(table.host.answers.Empty()) << action;
+  }
   table.window.CloseUnasked();
 }
 
