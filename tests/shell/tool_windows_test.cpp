@@ -372,6 +372,10 @@ TEST(ToolWindows, PagesHoldEveryRowOnceUnderTheirHeads) {
       printer.setPageMargins(QMarginsF(15, 15, 15, 15), QPageLayout::Millimeter);
       printer.setColorMode(paper.colour ? QPrinter::Color : QPrinter::GrayScale);
       EXPECT_TRUE(PaintPages(JobOf(figures), printer));
+      PrintJob stopped = JobOf(figures);
+      stopped.goesOn = [] { return false; };
+      printer.setOutputFileName(path + ".stopped");
+      EXPECT_EQ(PaintPages(stopped, printer), paper.rows < 5000) << "long work can be given up";
     }
     const QString text = Output("pdftotext", {"-layout", path, "-"});
     const QStringList pages = text.split('\f', Qt::SkipEmptyParts);

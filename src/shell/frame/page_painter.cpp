@@ -26,8 +26,9 @@ constexpr double kTitleSize = 14;
 constexpr double kFootSize = 8;
 constexpr double kGap = 14;  // between two columns, in units
 constexpr double kSpace = 12;
-constexpr double kLeastColumn = 48;       // of cells that wrap
-constexpr double kLeastPicture = 160;     // height
+constexpr double kLeastColumn = 48;    // of cells that wrap
+constexpr double kLeastPicture = 160;  // height
+constexpr qint64 kRowsAtATime = 4096;
 constexpr qint64 kMeasuredWhole = 5'000;  // rows; of longer tables the longest texts are measured alone
 
 QFont Letters(double points, bool bold = false) {
@@ -109,6 +110,11 @@ PagePainter::PagePainter(const PrintJob& job, const QPrinter& printer)
 
 QFont PagePainter::RowFont(bool head) const { return Letters(size_, head); }
 
+bool PagePainter::GoesOn(qint64 row) {
+  if (row % kRowsAtATime == kRowsAtATime - 1 && job_.goesOn && !job_.goesOn()) givenUp_ = true;
+  return !givenUp_;
+}
+
 // Widths at the largest letters.
 void PagePainter::MeasureColumns() {
   const qint64 count = job_.rows->Count();
@@ -117,7 +123,7 @@ void PagePainter::MeasureColumns() {
   std::vector<qsizetype> longest;
   std::vector<int> figures;
   std::vector<int> texts;
-  for (qint64 n = 0; n < count; ++n) {
+  for (qint64 n = 0; n < count && GoesOn(n); ++n) {
     const QStringList row = job_.rows->Row(n);
     const auto cells = static_cast<std::size_t>(row.size());
     if (cells > columns_.size() && (cells > 1 || count == 1 || columns_.empty())) {
@@ -198,7 +204,7 @@ void PagePainter::Paginate() {
   const double picture = PictureArea(headings_).height();
   double top = headings_ + (picture > 0 ? picture + kSpace : 0) + head_;
   starts_ = {1};
-  for (qint64 n = 1; n < count; ++n) {
+  for (qint64 n = 1; n < count && GoesOn(n); ++n) {
     const double height = wraps_ || columns_.size() > 1 ? RowHeight(job_.rows->Row(n)) : line_;
     if (top + height > page_.height() && (n > starts_.back() || starts_.size() == 1)) {
       starts_.push_back(n);

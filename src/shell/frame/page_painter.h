@@ -25,6 +25,8 @@ struct PrintJob {
   std::unique_ptr<RowSource> rows;
   std::function<void(QPainter&, const QRectF&)> picture;  // empty: none
   QSizeF pictureSize;
+  // Asked now and then in long work; false gives it up. Empty: it goes on.
+  std::function<bool()> goesOn;
 };
 PrintJob JobOf(const ToolWindow& window);
 
@@ -33,6 +35,8 @@ PrintJob JobOf(const ToolWindow& window);
 class PagePainter {
  public:
   PagePainter(const PrintJob& job, const QPrinter& printer);
+  // The pages that there are aren't all of them.
+  bool GivenUp() const { return givenUp_; }
   int Pages() const { return static_cast<int>(starts_.size()); }
   // page from 0; in the printer's units.
   void Paint(QPainter& painter, int page) const;
@@ -43,6 +47,8 @@ class PagePainter {
     bool figures = false;  // they stand at the right
   };
 
+  // In a walk over the rows.
+  bool GoesOn(qint64 row);
   void MeasureColumns();
   void FitColumns();
   void Paginate();
@@ -67,6 +73,7 @@ class PagePainter {
   double size_;  // of the table's letters, in points
   bool wraps_ = false;
   bool grey_ = false;
+  bool givenUp_ = false;
   std::vector<Column> columns_;
   std::vector<qint64>
       starts_;  // the row that each page begins with; the first one's picture is on the first page

@@ -10,6 +10,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
+#include <QProgressDialog>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -33,6 +34,38 @@ constexpr int kPagesAtATime = 50;              // between two looks at what has 
 
 QString Words(const char* text) { return QCoreApplication::translate("Printing", text); }
 
+// Long work shows that it is at work, and can be given up; short work shows nothing.
+class Patience {
+ public:
+  Patience(QWidget* over, PrintJob& job)
+      : job_(job), dialog_(Words("The pages are being made."), Words("Cancel"), 0, 0, over) {
+    dialog_.setObjectName("frmPages");
+    dialog_.setWindowModality(Qt::WindowModal);
+    dialog_.setMinimumDuration(700);
+    job.goesOn = [this] {
+      QCoreApplication::processEvents();
+      return !GivenUp();
+    };
+  }
+  ~Patience() { job_.goesOn = nullptr; }
+  Patience(const Patience&) = delete;
+  Patience& operator=(const Patience&) = delete;
+  bool GivenUp() const { return dialog_.wasCanceled(); }
+
+ private:
+  PrintJob& job_;
+  QProgressDialog dialog_;
+};
+
+enum class Outcome { kDone, kFailed, kGivenUp };
+
+Outcome Make(QWidget* over, PrintJob& job, QPrinter& printer) {
+  const Patience patience(over, job);
+  return PaintPages(job, printer) ? Outcome::kDone
+         : patience.GivenUp()     ? Outcome::kGivenUp
+                                  : Outcome::kFailed;
+}
+
 // The country's paper, upright unless the job is wider.
 void SetUp(const Desk& desk, QPrinter& printer, const PrintJob& job) {
   const bool letter = QLocale().measurementSystem() == QLocale::ImperialUSSystem;
@@ -48,32 +81,40 @@ void TellFailure(Desk& desk, const std::string& problem) {
   ShowMessage<Msg::kPrintFailed>(desk.game, With<"problem">(problem));
 }
 
-bool IsAgreed(Desk& desk, const ToolWindow& window, const PrintJob& job, const QPrinter& printer) {
-  const QStringList facts = window.PrintFacts(PagePainter(job, printer).Pages());
-  if (facts.isEmpty()) return true;
+bool IsAgreed(Desk& desk, const ToolWindow& window, PrintJob& job, const QPrinter& printer) {
+  if (window.PrintFacts(1).isEmpty()) return true;
+  int pages = 0;
+  {
+    const Patience patience(desk.window, job);
+    const PagePainter painter(job, printer);
+    if (painter.GivenUp()) return false;
+    pages = painter.Pages();
+  }
+  const QStringList facts = window.PrintFacts(pages);
   const QString title = window.PrintTitle().isEmpty() ? Words("Print") : window.PrintTitle();
   return Confirms<Msg::kAskPrint>(desk.game, With<"title">(title.toStdString()),
                                   With<"facts">(ToCore(facts.join('\n') + "\n\n")));
 }
 
 // The notice stands there while the printer is fed.
-bool Send(Desk& desk, const PrintJob& job, QPrinter& printer) {
+bool Send(Desk& desk, PrintJob& job, QPrinter& printer) {
   ShowMessage<Msg::kSendingToPrinter>(desk.game);
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-  const bool sent = PaintPages(job, printer);
+  const Outcome outcome = Make(desk.window, job, printer);
   desk.host.EndNotice(desk.game);
-  if (!sent) TellFailure(desk, printer.printerName().toStdString());
-  return sent;
+  if (outcome == Outcome::kFailed) TellFailure(desk, printer.printerName().toStdString());
+  return outcome == Outcome::kDone;
 }
 
 // Through a file of our own, so that a failure leaves the one that is there.
-std::string WritePdf(const PrintJob& job, QPrinter& printer, const std::string& path) {
+std::string WritePdf(QWidget* over, PrintJob& job, QPrinter& printer, const std::string& path) {
   const QTemporaryDir folder;
   const QString scratch = folder.filePath("pages.pdf");
   printer.setOutputFormat(QPrinter::PdfFormat);
   printer.setOutputFileName(scratch);
   const std::string unwritten = MessageText<Msg::kNotWritable>(With<"path">(path));
-  if (!folder.isValid() || !PaintPages(job, printer)) return unwritten;
+  const Outcome outcome = folder.isValid() ? Make(over, job, printer) : Outcome::kFailed;
+  if (outcome != Outcome::kDone) return outcome == Outcome::kGivenUp ? std::string() : unwritten;
   QFile pages(scratch);
   FileReplacement file;
   if (!pages.open(QIODevice::ReadOnly)) return unwritten;
@@ -91,8 +132,8 @@ std::string WritePdf(const PrintJob& job, QPrinter& printer, const std::string& 
   return problem;
 }
 
-void SavePdf(Desk& desk, const PrintJob& job, QPrinter& printer, const std::string& path) {
-  if (const std::string problem = WritePdf(job, printer, path); !problem.empty())
+void SavePdf(Desk& desk, PrintJob& job, QPrinter& printer, const std::string& path) {
+  if (const std::string problem = WritePdf(desk.window, job, printer, path); !problem.empty())
     ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(kPdf.title), With<"problem">(problem));
 }
 
@@ -106,6 +147,7 @@ std::unique_ptr<QPrinter> DefaultPrinter(const Desk& desk) {
 
 bool PaintPages(const PrintJob& job, QPrinter& printer) {
   const PagePainter pages(job, printer);
+  if (pages.GivenUp()) return false;
   const bool previewed = printer.paintEngine()->type() == QPaintEngine::Picture;
   const int first = std::max(printer.fromPage(), 1);
   int last = printer.toPage() > 0 ? std::min(printer.toPage(), pages.Pages()) : pages.Pages();
@@ -114,7 +156,10 @@ bool PaintPages(const PrintJob& job, QPrinter& printer) {
   if (!painter.begin(&printer)) return false;
   for (int page = first; page <= last; ++page) {
     if (page > first && !printer.newPage()) return false;
-    if (page % kPagesAtATime == 0) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (page % kPagesAtATime == 0 && job.goesOn && !job.goesOn()) {
+      printer.abort();
+      return false;
+    }
     pages.Paint(painter, page - 1);
   }
   return painter.end() && printer.printerState() != QPrinter::Error;
@@ -122,20 +167,21 @@ bool PaintPages(const PrintJob& job, QPrinter& printer) {
 
 void PrintTool(Desk& desk, ToolWindow& window) {
   if (!window.ReadyToPrint()) return;
-  const PrintJob job = JobOf(window);
+  PrintJob job = JobOf(window);
   QPrinter printer(QPrinter::ScreenResolution);
   SetUp(desk, printer, job);
   QPrintDialog dialog(&printer, window.window());
   dialog.setObjectName("frmPrint");
   if (!window.PrintTitle().isEmpty()) dialog.setWindowTitle(window.PrintTitle());
-  if (RunDialog(dialog) != QDialog::Accepted || !IsAgreed(desk, window, job, printer)) return;
+  if (RunDialog(dialog) != QDialog::Accepted) return;
+  if (!IsAgreed(desk, window, job, printer)) return;
   const QString file = printer.outputFileName();
   file.isEmpty() ? void(Send(desk, job, printer)) : SavePdf(desk, job, printer, file.toStdString());
 }
 
 bool PrintNow(Desk& desk, ToolWindow& window) { return PrintNow(desk, JobOf(window)); }
 
-bool PrintNow(Desk& desk, const PrintJob& job) {
+bool PrintNow(Desk& desk, PrintJob job) {
   const std::unique_ptr<QPrinter> printer = DefaultPrinter(desk);
   if (printer == nullptr) {
     TellFailure(desk, MessageText<Msg::kNoPrinter>());
@@ -147,14 +193,14 @@ bool PrintNow(Desk& desk, const PrintJob& job) {
 
 void PreviewTool(Desk& desk, ToolWindow& window) {
   if (!window.ReadyToPrint()) return;
-  const PrintJob job = JobOf(window);
+  PrintJob job = JobOf(window);
   QPrinter printer(QPrinter::ScreenResolution);
   SetUp(desk, printer, job);
   QPrintPreviewDialog preview(&printer, window.window());
   preview.setObjectName("frmPrintPreview");
   preview.resize(QSize(900, 760).boundedTo(window.screen()->availableSize() - QSize(16, 40)));
   QObject::connect(&preview, &QPrintPreviewDialog::paintRequested, &window,
-                   [&job](QPrinter* paper) { PaintPages(job, *paper); });
+                   [&](QPrinter* paper) { Make(&preview, job, *paper); });
   RunDialog(preview);
 }
 
@@ -162,7 +208,7 @@ void SaveToolAsPdf(Desk& desk, ToolWindow& window) {
   if (!window.ReadyToPrint()) return;
   const std::string path = ChooseFile(desk.game, window.window(), kPdf, FileNameFor(window));
   if (path.empty()) return;
-  const PrintJob job = JobOf(window);
+  PrintJob job = JobOf(window);
   QPrinter printer(QPrinter::ScreenResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   SetUp(desk, printer, job);

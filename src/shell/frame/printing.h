@@ -14,7 +14,7 @@ void PrintTool(Desk& desk, ToolWindow& window);
 // On the default printer, without any question. False when it can't; that has been told.
 bool PrintNow(Desk& desk, ToolWindow& window);
 // The same for pages of one's own.
-bool PrintNow(Desk& desk, const PrintJob& job);
+bool PrintNow(Desk& desk, PrintJob job);
 void PreviewTool(Desk& desk, ToolWindow& window);
 // Asks for the file.
 void SaveToolAsPdf(Desk& desk, ToolWindow& window);
