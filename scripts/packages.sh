@@ -8,7 +8,7 @@ PACKAGES=(
   libcli11-dev nlohmann-json3-dev libreadline-dev
   libgtest-dev libbenchmark-dev
   qt6-base-dev qt6-multimedia-dev qt6-charts-dev libqt6opengl6-dev qt6-svg-dev libgl1-mesa-dri fonts-dejavu-core
-  xvfb xdotool
+  xvfb xdotool poppler-utils
 )
 STYLE_PACKAGES=(clang-format)  # for .ci/run alone
 

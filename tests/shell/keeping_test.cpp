@@ -458,23 +458,5 @@ TEST(Autosaving, ARunIsPrecededByOneAndAnOrderlyEndTakesItAway) {
   EXPECT_FALSE(IsThere(folder, "autosave.crp"));
 }
 
-// --- Windows that show a table.
-
-struct Figures : ToolWindow {
-  explicit Figures(QWidget* parent) : ToolWindow("frmFigures", parent) {}
-  QList<QStringList> Rows() const override { return {{"Name", "$"}, {"Ann, \"the\" shooter", "1,000"}}; }
-};
-
-TEST(ToolWindows, RowsAreExportedAsTheyAreShown) {
-  const QTemporaryDir folder;
-  Visit run(folder);
-  Figures figures(run.window.get());
-  Desk desk{.game = *run.game, .host = run.host, .window = run.window.get()};
-  QueuedFileNames() = {"figures"};
-  ExportRows(desk, figures);
-  EXPECT_EQ(Bytes(folder, "figures.csv"), "Name,$\n\"Ann, \"\"the\"\" shooter\",\"1,000\"\n");
-  run.window->CloseUnasked();
-}
-
 }  // namespace
 }  // namespace tessaryn::test

@@ -5,17 +5,20 @@
 #include <QStringList>
 #include <array>
 #include <functional>
+#include <memory>
 
 #include "shell/frame/shell_host.h"
 #include "shell/screens/tool_window.h"
 #include "shell/table/table_commands.h"
 #include "shell/table/table_view.h"
 
+class QPrinter;
 class QWidget;
 
 namespace tessaryn {
 
 class AmountSelector;
+class DockArea;
 class TableWidget;
 
 // The game, the table as it is shown, and what belongs to the window alone. Nothing here is owned but what is
@@ -26,9 +29,16 @@ struct Desk {
   QWidget* window = nullptr;  // what screens stand over
   TableWidget* table = nullptr;
   AmountSelector* amounts = nullptr;
+  DockArea* docks = nullptr;                                  // the table and its sides; null: nothing docks
   TableCommands commands = {};                                // what the next click on the table means
   std::array<QPointer<ToolWindow>, kToolWindows> tools = {};  // those that have been opened
-  QStringList recentGames = {};                               // the latest first
+  // Make windows in place of, or beside, those of the table; for tests.
+  std::array<ToolWindow* (*)(Desk&), kToolWindows> toolMakers = {};
+  bool refreshing = false;  // a tool window is being brought to the state
+  bool refreshDue = false;  // and it has changed meanwhile
+  // Gives what is printed on without asking; empty: the desktop's printer.
+  std::function<std::unique_ptr<QPrinter>()> printer = {};
+  QStringList recentGames = {};       // the latest first
   const char* view = "";              // the command whose view is shown; "" none of them
   SavedView beforePropositions = {};  // what was shown before them; empty while they aren't shown
   int movingSeat = 0;                 // the player who waits for a new place; 0 none

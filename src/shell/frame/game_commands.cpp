@@ -9,6 +9,7 @@
 #include "shell/frame/sounds.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/new_session.h"
+#include "shell/screens/path_screen.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
@@ -51,6 +52,11 @@ void ToggleSound(Desk& desk) {
   if (!SoundIsOn(desk) && desk.host.sounds != nullptr) desk.host.sounds->Stop();
 }
 
+void ShowPaths(Desk& desk) {
+  PathScreen screen(PathsInUse(desk.game), desk.window);
+  RunDialog(screen);
+}
+
 }  // namespace
 
 std::span<const CommandRow> GameCommands() {
@@ -67,6 +73,7 @@ std::span<const CommandRow> GameCommands() {
        .caption = QT_TRANSLATE_NOOP("Commands", "&Recent games"),
        .can = HasRecentGames,
        .fill = ListRecentGames},
+      {.name = "mnuPath", .caption = QT_TRANSLATE_NOOP("Commands", "&Files in use ..."), .act = ShowPaths},
       {},
       {.name = "mnuSound",
        .caption = QT_TRANSLATE_NOOP("Commands", "So&und"),

@@ -25,6 +25,7 @@
 #include "play/players.h"
 #include "shell/frame/closing.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
 #include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
@@ -110,7 +111,7 @@ void MainWindow::BuildBody() {
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   table_ = desk_.table = new TableWidget(game_, desk_.commands, body);
-  column->addWidget(table_, 1);
+  column->addWidget(desk_.docks = new DockArea(table_, body), 1);
   auto* bar = new QHBoxLayout;
   bar->setContentsMargins(4, 2, 4, 2);
   amounts_ = desk_.amounts = new AmountSelector(game_, body);
@@ -122,6 +123,7 @@ void MainWindow::BuildBody() {
   setCentralWidget(body);
   turbo_ = new TurboPanel(table_);
   turbo_->hide();
+  table_->installEventFilter(this);
   pointer_ = new QLabel(this);
   pointer_->setObjectName("lblPointer");
   // A long line must not widen the window.
@@ -281,7 +283,10 @@ void MainWindow::ConnectHost() {
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
   host_.showWin = [this](Game&) { table_->RainChecks(); };
   host_.betweenRolls = [this](Game&) { Autosave(); };
-  host_.showProgress = [this](Game& game) { turbo_->Refresh(game); };
+  host_.showProgress = [this](Game& game) {
+    turbo_->Refresh(game);
+    RefreshTools(desk_);
+  };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
     return AskSettleBet(this, game, question);
   };
@@ -313,6 +318,12 @@ void MainWindow::ShowState() {
   table_->Refresh();
   table_->scene.rain = std::move(rain);
   RefreshCommands();
+}
+
+// What covers the table follows its size, as when a tool window is docked in a run.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == table_ && event->type() == QEvent::Resize) turbo_->setGeometry(table_->rect());
+  return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::OnRunChanged() {

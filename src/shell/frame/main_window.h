@@ -28,6 +28,8 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   TableWidget& Table() { return *table_; }
+  // What its commands work on.
+  Desk& TheDesk() { return desk_; }
   TableCommands& Commands() { return desk_.commands; }
   // Menu entry by its name ("mnuRollDice"); null for none.
   QAction* Command(const char* name) const;
@@ -53,6 +55,7 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void changeEvent(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BuildMenu();

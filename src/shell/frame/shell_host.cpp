@@ -5,6 +5,7 @@
 #include <QEventLoop>
 #include <QLocale>
 #include <QTimer>
+#include <algorithm>
 
 #include "shell/frame/sounds.h"
 #include "shell/table/screen_tools.h"
@@ -14,7 +15,9 @@ namespace tessaryn {
 
 namespace {
 constexpr qint64 kEventsEvery = 10;     // milliseconds between two looks at the user's events in a run
-constexpr qint64 kProgressEvery = 100;  // and between two refreshes of the Turbo-Roll panel
+constexpr qint64 kProgressEvery = 100;  // and between two refreshes of what shows it
+constexpr qint64 kProgressShare = 25;   // one part in so many of a run's time goes into them
+constexpr qint64 kSlowestProgress = 2000;
 constexpr int kWaitStep = 10;
 }  // namespace
 
@@ -59,13 +62,17 @@ bool ShellHost::Yield(Game& game) {
     return false;
   const qint64 now = clock_.elapsed();
   if (now - lastEvents_ < kEventsEvery) return false;
-  if (game.table.TurboRollActive && showProgress && now - lastProgress_ >= kProgressEvery) {
+  const bool progress = game.table.TurboRollActive && showProgress && now - lastProgress_ >= progressEvery_;
+  if (progress) {
     lastProgress_ = now;
     showProgress(game);
   }
   TellBetweenRolls(game);
   QCoreApplication::processEvents(QEventLoop::AllEvents);
   lastEvents_ = clock_.elapsed();
+  // Screens that take long to draw are drawn the less often.
+  if (progress)
+    progressEvery_ = std::clamp((lastEvents_ - now) * kProgressShare, kProgressEvery, kSlowestProgress);
   return true;
 }
 

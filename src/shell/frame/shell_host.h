@@ -24,7 +24,7 @@ class ShellHost : public Host {
   QPointer<QWidget> window;
   // Answers given in advance, for tests; while there are some, boxes aren't shown.
   AnswerQueue answers;
-  // Called in a Turbo-Roll ten times a second.
+  // Called in a Turbo-Roll ten times a second, less often when that would slow it.
   std::function<void(Game&)> showProgress;
   // A run stands between two rolls, so that the table is whole. Called many times a second.
   std::function<void(Game&)> betweenRolls;
@@ -64,6 +64,7 @@ class ShellHost : public Host {
   QElapsedTimer clock_;
   qint64 lastEvents_ = 0;  // when user events were last let in, in milliseconds of the clock
   qint64 lastProgress_ = 0;
+  qint64 progressEvery_ = 0;  // milliseconds
   static constexpr std::uint32_t kYieldsPerLook = 0x400;
   std::uint32_t yields_ = 0;
 };

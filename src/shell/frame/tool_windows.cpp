@@ -1,18 +1,16 @@
 #include "shell/frame/tool_windows.h"
 
-#include <QAction>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QTextDocument>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
 
-#include "base/record_file.h"
 #include "shell/frame/desk.h"
-#include "shell/screens/file_chooser.h"
+#include "shell/frame/docks.h"
+#include "shell/frame/tool_menu.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/roll_pad.h"
-#include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
-#include "state/show_message.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {
@@ -53,101 +51,116 @@ WindowPlace& KeptPlace(ScreenState& screen, int number) {
 struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
+  bool floatsOnly = false;  // it doesn't dock, and has nothing to print
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true}, {kMoveWindow, MakeMovePanel, true}};
 
-const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
-
-// A menu of the right button, for windows that are a table.
-void OfferRows(Desk& desk, ToolWindow& window) {
-  if (window.Rows().isEmpty()) return;
-  window.setContextMenuPolicy(Qt::ActionsContextMenu);
-  auto* print = new QAction(QObject::tr("&Print ..."), &window);
-  auto* save = new QAction(QObject::tr("&Export ..."), &window);
-  print->setObjectName("mnuPrint");
-  save->setObjectName("mnuExport");
-  QObject::connect(print, &QAction::triggered, &window, [&window] { PrintRows(window); });
-  QObject::connect(save, &QAction::triggered, &window, [&desk, &window] { ExportRows(desk, window); });
-  window.addActions({print, save});
+const ToolRow* RowOf(int number) {
+  for (const ToolRow& row : kTools)
+    if (row.number == number) return &row;
+  return nullptr;
 }
 
-QString CsvField(QString text) {
-  if (!text.contains(',') && !text.contains('"') && !text.contains('\n')) return text;
-  return '"' + text.replace('"', "\"\"") + '"';
+ToolWindow* Make(Desk& desk, int number) {
+  if (desk.toolMakers[number] != nullptr) return desk.toolMakers[number](desk);
+  const ToolRow* row = RowOf(number);
+  return row != nullptr ? row->make(desk) : nullptr;
 }
 
 }  // namespace
 
+bool HasTool(const Desk& desk, int number) {
+  return desk.toolMakers[number] != nullptr || RowOf(number) != nullptr;
+}
+
+bool DocksAsWell(const Desk& desk, int number) {
+  if (!HasTool(desk, number)) return false;
+  const ToolRow* row = RowOf(number);
+  return row == nullptr || !row->floatsOnly;
+}
+
 ToolWindow& Tool(Desk& desk, int number) {
   QPointer<ToolWindow>& tool = desk.tools[number];
-  for (const ToolRow& row : kTools)
-    if (tool == nullptr && row.number == number) {
-      tool = row.make(desk);
-      tool->SetPlace(KeptPlace(desk.game.screen, number));
-      OfferRows(desk, *tool);
-    }
+  if (tool != nullptr) return *tool;
+  tool = Make(desk, number);
+  tool->SetPlace(KeptPlace(desk.game.screen, number));
+  if (DocksAsWell(desk, number)) GiveToolMenu(desk, *tool);
   return *tool;
 }
 
-void ToggleTool(Desk& desk, int number) {
+int NumberOf(const Desk& desk, const ToolWindow& window) {
+  const auto found = std::find(desk.tools.begin(), desk.tools.end(), &window);
+  return found == desk.tools.end() ? -1 : static_cast<int>(found - desk.tools.begin());
+}
+
+void ShowTool(Desk& desk, int number, bool shown) {
   ToolWindow& tool = Tool(desk, number);
-  tool.setVisible(!tool.isVisible());
+  ToolDock* dock = DockOf(desk, number);
+  if (dock == nullptr) return tool.setVisible(shown);
+  dock->setVisible(shown);
+  if (shown) dock->raise();
+}
+
+// One that stands behind a tab comes before it.
+void ToggleTool(Desk& desk, int number) {
+  const ToolDock* dock = DockOf(desk, number);
+  const bool behind = dock != nullptr && !dock->IsInFront();
+  ShowTool(desk, number, behind || !ToolIsShown(desk, number));
 }
 
 bool ToolIsShown(const Desk& desk, int number) {
+  if (const ToolDock* dock = DockOf(desk, number); dock != nullptr) return !dock->isHidden();
   return desk.tools[number] != nullptr && desk.tools[number]->isVisible();
 }
 
-void RefreshTools(const Desk& desk) {
-  for (const auto& tool : desk.tools)
-    if (tool != nullptr && tool->isVisible()) tool->Refresh();
+namespace {
+
+bool IsSeen(const Desk& desk, int number) {
+  const ToolDock* dock = DockOf(desk, number);
+  return ToolIsShown(desk, number) && (dock == nullptr || dock->IsInFront());
+}
+
+}  // namespace
+
+// What a window looks up may let events in, and with them another refresh: that comes behind.
+void RefreshTool(Desk& desk, int number) {
+  if (!IsSeen(desk, number)) return;
+  if (std::exchange(desk.refreshing, true)) {
+    desk.refreshDue = true;
+    return;
+  }
+  desk.tools[number]->Refresh();
+  if (DockOf(desk, number) != nullptr) SetAccessKeys(*desk.tools[number], false);
+  desk.refreshing = false;
+  if (std::exchange(desk.refreshDue, false))
+    QTimer::singleShot(0, desk.window, [&desk] { RefreshTools(desk); });
+}
+
+void RefreshTools(Desk& desk) {
+  for (int number = 0; number < kToolWindows; ++number) RefreshTool(desk, number);
 }
 
 void KeepTools(Desk& desk) {
-  for (int number = 0; number < kToolWindows; ++number)
-    if (desk.tools[number] != nullptr) KeptPlace(desk.game.screen, number) = desk.tools[number]->Place();
+  for (int number = 0; number < kToolWindows; ++number) {
+    if (desk.tools[number] == nullptr) continue;
+    WindowPlace& place = KeptPlace(desk.game.screen, number);
+    place = desk.tools[number]->Place();
+    place.Open = ToolIsShown(desk, number);
+  }
+  if (desk.docks != nullptr) desk.game.screen.Arrangement = KeptArrangement(desk);
 }
 
 void PlaceTools(Desk& desk) {
-  for (const ToolRow& row : kTools) {
-    const WindowPlace& place = KeptPlace(desk.game.screen, row.number);
-    if (desk.tools[row.number] == nullptr && !place.Open) continue;
-    ToolWindow& tool = Tool(desk, row.number);
-    tool.SetPlace(place);
-    tool.setVisible(place.Open);
+  RestoreArrangement(desk, desk.game.screen.Arrangement);
+  for (int number = 0; number < kToolWindows; ++number) {
+    const WindowPlace& place = KeptPlace(desk.game.screen, number);
+    if (!HasTool(desk, number) || (desk.tools[number] == nullptr && !place.Open)) continue;
+    Tool(desk, number).SetPlace(place);
+    if (ToolDock* dock = DockOf(desk, number); dock != nullptr)
+      dock->setVisible(place.Open);
+    else
+      Tool(desk, number).setVisible(place.Open);
   }
-}
-
-void PrintRows(const ToolWindow& window) {
-  QPrinter printer;
-  QPrintDialog dialog(&printer, const_cast<ToolWindow*>(&window));
-  dialog.setObjectName("frmPrint");
-  if (RunDialog(dialog) != QDialog::Accepted) return;
-  QString page = "<h3>" + window.windowTitle().toHtmlEscaped() + "</h3><table cellpadding=\"3\">";
-  const char* cell = "th";
-  for (const QStringList& row : window.Rows()) {
-    page += "<tr>";
-    for (const QString& text : row)
-      page += QString("<%1 align=\"right\">%2</%1>").arg(QLatin1String(cell), text.toHtmlEscaped());
-    page += "</tr>";
-    cell = "td";
-  }
-  QTextDocument document;
-  document.setHtml(page + "</table>");
-  document.print(&printer);
-}
-
-void ExportRows(Desk& desk, ToolWindow& window) {
-  const std::string path = ChooseFile(desk.game, &window, kExportRows);
-  if (path.empty()) return;
-  std::string text;
-  for (const QStringList& row : window.Rows()) {
-    QStringList fields;
-    for (const QString& field : row) fields.append(CsvField(field));
-    text += fields.join(',').toStdString() + "\n";
-  }
-  if (const std::string problem = ReplaceFile(path, text); !problem.empty())
-    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(kExportRows.title), With<"problem">(problem));
 }
 
 }  // namespace tessaryn

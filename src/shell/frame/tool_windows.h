@@ -7,19 +7,22 @@ namespace tessaryn {
 struct Desk;
 class ToolWindow;
 
-// The window of a number, made when it isn't there yet.
+// Whether there is one of the number, and whether it may stand at the table's sides as well.
+bool HasTool(const Desk& desk, int number);
+bool DocksAsWell(const Desk& desk, int number);
+// The window of a number, made when it isn't there yet. Requires HasTool.
 ToolWindow& Tool(Desk& desk, int number);
+// -1 for a window that is none of them.
+int NumberOf(const Desk& desk, const ToolWindow& window);
+void ShowTool(Desk& desk, int number, bool shown);
 // Shows it, or hides it when it is shown.
 void ToggleTool(Desk& desk, int number);
 bool ToolIsShown(const Desk& desk, int number);
-// Those that are shown are brought to the state.
-void RefreshTools(const Desk& desk);
-// Their places into the game, and from it: those that were open are opened.
+// Those that can be seen are brought to the state. Not while one of them is at it.
+void RefreshTool(Desk& desk, int number);
+void RefreshTools(Desk& desk);
+// Their places into the game, and from it: those that were open are opened, where they were.
 void KeepTools(Desk& desk);
 void PlaceTools(Desk& desk);
-
-// Asks where to, and does it. What is wrong is told.
-void PrintRows(const ToolWindow& window);
-void ExportRows(Desk& desk, ToolWindow& window);
 
 }  // namespace tessaryn

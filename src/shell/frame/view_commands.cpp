@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "shell/frame/arrange.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/tool_windows.h"
@@ -162,6 +163,8 @@ std::span<const CommandRow> ViewCommands() {
       {.name = "mnuSaveView",
        .caption = QT_TRANSLATE_NOOP("Commands", "&Save view"),
        .fill = ListViewsToSave},
+      {},
+      {.name = "mnuArrange", .caption = QT_TRANSLATE_NOOP("Commands", "Arra&nge"), .fill = ListArrangements},
   };
   return kCommands;
 }
