@@ -160,6 +160,7 @@ void AddBets(const Game& game, int scope, const Seats& seats, ReportTable& repor
   addSums("Wins", wins);
   addSums("Losses", losses);
   addSums("Net", net);
+  report.rows.back().cells[0].balance = true;
   add("Net %", NetPercent(net.count, wagers.count), NetPercent(net.total, wagers.total));
 }
 

@@ -18,6 +18,7 @@ struct ReportCell {
   double value = 0;  // for bars and sorting; 0 where the text is no number
   Tone tone = Tone::kPlain;
   bool marked = false;  // further from what was to be expected than chance explains
+  bool balance = false;  // what was gained or lost: its sign tells which
 };
 
 struct ReportRow {

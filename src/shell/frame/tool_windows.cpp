@@ -9,6 +9,7 @@
 #include "shell/frame/desk.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/move_panel.h"
+#include "shell/screens/report_window.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
@@ -45,6 +46,13 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+template <int number>
+ToolWindow* MakeReportWindow(Desk& desk) {
+  auto* report = new ReportWindow(desk.game, number, desk.window);
+  report->selected = [&desk] { RefreshTools(desk); };
+  return report;
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -54,7 +62,16 @@ struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {
+    {kRollPadWindow, MakeRollPad},
+    {kMoveWindow, MakeMovePanel},
+    {kSummaryWindow, MakeReportWindow<kSummaryWindow>},
+    {kHandsWindow, MakeReportWindow<kHandsWindow>},
+    {kBetResultsWindow, MakeReportWindow<kBetResultsWindow>},
+    {kBetTrendsWindow, MakeReportWindow<kBetTrendsWindow>},
+    {kRollTotalsWindow, MakeReportWindow<kRollTotalsWindow>},
+    {kRollFreqsWindow, MakeReportWindow<kRollFreqsWindow>},
+};
 
 const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
 
