@@ -247,8 +247,7 @@ ReportTable BetResultsReport(const Game& game, const ReportSelection& selection)
   const Seats seats = SelectedPlayers(game, selection);
   ReportTable report;
   report.selectedBets = NamesOfBets(selection.bets);
-  selection.eachBet ? AddEachBet(game, selection, seats, report)
-                    : AddAllBets(game, selection, seats, report);
+  selection.eachBet ? AddEachBet(game, selection, seats, report) : AddAllBets(game, selection, seats, report);
   if (!selection.separator)
     for (ReportRow& row : report.rows)
       for (ReportCell& cell : row.cells) std::erase(cell.text, ',');

@@ -20,6 +20,8 @@ constexpr int kProbableColumn = 3;
 
 constexpr double kEdge = 8;
 constexpr double kGap = 4;
+constexpr double kTitleRoom = 1.6;    // of the letters' height, for the axis' title
+constexpr double kLeastLabel = 0.65;  // of the letters' size
 constexpr double kBarShare = 0.38;    // of a place, for each of two bars
 constexpr double kSingleShare = 0.7;  // for one bar
 constexpr int kLeastGaps = 25;        // bars that the picture of the gaps has at least
@@ -52,6 +54,7 @@ struct Frame {
   bool counts = false;
   bool upright = false;  // labels read from below
   int every = 1;         // bar that has a label
+  QFont labels;          // smaller where they stand close together
 
   Frame(QPaintDevice* device, const QRectF& area, const RollChart& of, const ChartLook& in)
       : chart(of),
@@ -88,7 +91,8 @@ struct Frame {
   }
   void Place(const QRectF& area) {
     const double left = metrics.horizontalAdvance(QString::number(top, 'g', 6)) + 2 * kGap;
-    plot = area.adjusted(kEdge + left, kEdge + metrics.height() + kGap, -kEdge, -kEdge - LegendHeight());
+    plot =
+        area.adjusted(kEdge + left, kEdge + kTitleRoom * metrics.height(), -kEdge, -kEdge - LegendHeight());
     double widest = 0;
     double widestCount = 0;
     int lines = 1;
@@ -103,6 +107,12 @@ struct Frame {
       if (every > 1) every = (every + 4) / 5 * 5;
     }
     upright = !numbered && widest + 2 > Place();
+    labels = look.font;
+    if (upright && Place() < metrics.height()) {
+      const double share = std::max(kLeastLabel, Place() / metrics.height());
+      labels.pixelSize() > 0 ? labels.setPixelSize(static_cast<int>(labels.pixelSize() * share))
+                             : labels.setPointSizeF(labels.pointSizeF() * share);
+    }
     double below = upright ? widest + kGap : metrics.height() * lines;
     counts =
         !upright && widestCount > 0 && widestCount + 2 <= Place() && area.height() > 10 * metrics.height();
@@ -123,7 +133,7 @@ void PaintGrid(QPainter& painter, const Frame& frame) {
     painter.drawText(QRectF(0, y - frame.metrics.height(), left - kGap, 2 * frame.metrics.height()),
                      Qt::AlignRight | Qt::AlignVCenter, QString::number(n * frame.step, 'g', 6));
   }
-  painter.drawText(QRectF(kEdge, frame.plot.top() - frame.metrics.height() * 1.6, frame.plot.width(),
+  painter.drawText(QRectF(kEdge, frame.plot.top() - frame.metrics.height() * kTitleRoom, frame.plot.width(),
                           frame.metrics.height()),
                    Qt::AlignLeft | Qt::AlignTop, frame.chart.axis);
 }
@@ -181,6 +191,7 @@ void PaintLabels(QPainter& painter, const Frame& frame) {
       painter.save();
       painter.translate(middle, frame.plot.bottom() + kGap);
       painter.rotate(-90);
+      painter.setFont(frame.labels);
       QString label = bar.label;
       painter.drawText(QRectF(-200, -frame.metrics.height() / 2, 200, frame.metrics.height()),
                        Qt::AlignRight | Qt::AlignVCenter, label.replace('\n', ' '));

@@ -19,53 +19,83 @@ namespace {
 constexpr int kBrightFrom = 170;  // of 255
 constexpr int kCellGap = 12;      // between two columns
 constexpr int kStripGap = 24;
+constexpr int kBlockIndent = 12;
+constexpr int kMostExtra = 120;  // between a label and its figures, of the room that is left
 constexpr int kRowGap = 4;
 constexpr int kEdge = 4;
 constexpr double kSignSize = 0.6;  // of the letters' height
 
 int SignWidth(const QFontMetrics& metrics) { return static_cast<int>(metrics.ascent() * kSignSize) + kEdge; }
 
-// Gains and losses have a triangle before the figure, what is marked an asterisk behind it: no colour is
-// needed to tell them.
+void PaintTriangle(QPainter& painter, const QRectF& room, bool up) {
+  const double half = room.width() / 2;
+  const QPointF middle = room.center();
+  const double tip = up ? -half * 0.9 : half * 0.9;
+  const QPointF corners[] = {middle + QPointF(0, tip), middle + QPointF(-half * 0.9, -tip * 0.8),
+                             middle + QPointF(half * 0.9, -tip * 0.8)};
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(painter.pen().color());
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(corners, 3);
+}
+
+// Gains and losses have a triangle before the figure, what is marked an asterisk: no colour is needed to tell
+// them.
 class CellPainter : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
-    QStyledItemDelegate::paint(painter, option, index);
+    QStyleOptionViewItem cell = option;
+    if (const QVariant indent = index.data(ReportModel::kIndentRole); indent.isValid())
+      cell.rect.setLeft(cell.rect.left() + indent.toInt());
+    else
+      cell.rect.setRight(cell.rect.right() - kEdge);
+    QStyledItemDelegate::paint(painter, cell, index);
     const int sign = index.data(ReportModel::kSignRole).toInt();
     const bool mark = index.data(ReportModel::kMarkRole).toBool();
     if (sign == 0 && !mark) return;
-    QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     const bool selected = (option.state & QStyle::State_Selected) != 0;
-    const QColor ink =
-        selected ? cell.palette.color(QPalette::HighlightedText) : cell.palette.color(QPalette::Text);
     const QFontMetrics metrics(cell.font);
-    const int text = metrics.horizontalAdvance(cell.text) + kEdge + kCellGap / 3;
-    const QRectF before(cell.rect.right() - text - SignWidth(metrics), cell.rect.top(),
-                        SignWidth(metrics) - kEdge, cell.rect.height());
+    const QRect before(
+        cell.rect.right() - metrics.horizontalAdvance(cell.text) - 2 * kEdge - SignWidth(metrics),
+        cell.rect.top(), SignWidth(metrics) - kEdge, cell.rect.height());
     painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(ink);
+    painter->setPen(cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->setFont(cell.font);
+    if (mark) painter->drawText(before, Qt::AlignCenter, QStringLiteral("*"));
     if (sign != 0) PaintTriangle(*painter, before, sign > 0);
-    if (mark) {
-      painter->setPen(ink);
-      painter->setFont(cell.font);
-      painter->drawText(before, Qt::AlignCenter, QStringLiteral("*"));
-    }
     painter->restore();
   }
+};
 
- private:
-  static void PaintTriangle(QPainter& painter, const QRectF& room, bool up) {
-    const double half = room.width() / 2;
-    const QPointF middle = room.center();
-    const double tip = up ? -half * 0.9 : half * 0.9;
-    const QPointF corners[] = {middle + QPointF(0, tip), middle + QPointF(-half * 0.9, -tip * 0.8),
-                               middle + QPointF(half * 0.9, -tip * 0.8)};
-    painter.drawPolygon(corners, 3);
+// Names over a line, as on paper.
+class FlatHeader : public QHeaderView {
+ public:
+  explicit FlatHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int section) const override {
+    painter->save();
+    painter->fillRect(rect, palette().color(QPalette::Base));
+    painter->setPen(palette().color(QPalette::Mid));
+    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    QFont strong = font();
+    strong.setBold(true);
+    painter->setFont(strong);
+    painter->setPen(palette().color(QPalette::Text));
+    const QString text = model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString();
+    const QRect room = rect.adjusted(kEdge, 0, -2 * kEdge, 0);
+    painter->drawText(room, Qt::AlignRight | Qt::AlignVCenter, text);
+    if (isSortIndicatorShown() && sortIndicatorSection() == section) {
+      const QFontMetrics metrics(strong);
+      const int width = SignWidth(metrics) - kEdge;
+      const int left = std::max(rect.left(), room.right() - metrics.horizontalAdvance(text) - width - kEdge);
+      PaintTriangle(*painter, QRect(left, rect.top(), width, rect.height()),
+                    sortIndicatorOrder() == Qt::AscendingOrder);
+    }
+    painter->restore();
   }
 };
 
@@ -204,12 +234,20 @@ QString ReportModel::LongestText(int column) const {
   const std::string* longest = nullptr;
   for (const Line& line : strips_[static_cast<std::size_t>(StripOf(column))]) {
     const ReportRow& row = report_->rows[line.row];
-    const auto at = static_cast<std::size_t>(cell - row.column);
+    const auto at = static_cast<std::size_t>(cell - row.column);  // far beyond them for a column before
     if (line.heading || (cell >= 0 && at >= row.cells.size())) continue;
     const std::string& text = cell < 0 ? row.label : row.cells[at].text;
     if (longest == nullptr || text.size() > longest->size()) longest = &text;
   }
   return longest == nullptr ? QString() : cell < 0 ? ReportText(*longest) : FromCore(*longest);
+}
+
+bool ReportModel::HasSigns(int column) const {
+  const Strip& strip = strips_[static_cast<std::size_t>(StripOf(column))];
+  for (int line = 0; line < static_cast<int>(strip.size()); ++line)
+    if (const ReportCell* cell = CellAt(line, column); cell != nullptr && (cell->balance || cell->marked))
+      return true;
+  return false;
 }
 
 QVariant ReportModel::AccessibleText(const ReportCell& cell) const {
@@ -233,6 +271,10 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
     return font;
   }
   const ReportRow& row = report_->rows[line->row];
+  if (label && role == kIndentRole) {
+    const bool inBlock = part_.headings && !line->heading && !row.block.empty();
+    return (StripOf(index.column()) > 0 ? kStripGap : 0) + (inBlock ? kBlockIndent : 0);
+  }
   if (label)
     return role == Qt::DisplayRole ? QVariant(ReportText(line->heading ? row.block : row.label)) : QVariant();
   const ReportCell* cell = CellAt(index.row(), index.column());
@@ -260,9 +302,10 @@ QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int r
   const bool label = IsLabelColumn(section);
   if (role == Qt::TextAlignmentRole)
     return static_cast<int>(Qt::AlignVCenter | (label ? Qt::AlignLeft : Qt::AlignRight));
-  if (role != Qt::DisplayRole || label) return {};
-  return ReportText(
-      report_->columns[static_cast<std::size_t>(columns_[static_cast<std::size_t>(section)].cell)]);
+  const Column& column = columns_[static_cast<std::size_t>(section)];
+  // What stands beside the first strip from its first column on is not of that column.
+  if (role != Qt::DisplayRole || label || (column.strip > 0 && column.cell == 0)) return {};
+  return ReportText(report_->columns[static_cast<std::size_t>(column.cell)]);
 }
 
 // --- The view.
@@ -281,6 +324,7 @@ ReportView::ReportView(const char* name, const QString& what, QWidget* parent) :
   verticalHeader()->hide();
   verticalHeader()->setMinimumSectionSize(1);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowGap);
+  setHorizontalHeader(new FlatHeader(this));
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setHighlightSections(false);
@@ -296,7 +340,11 @@ void ReportView::SetSortable(bool on) {
   horizontalHeader()->setSortIndicatorClearable(true);
   horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   setSortingEnabled(on);
+  horizontalHeader()->setSectionsClickable(on);
   horizontalHeader()->setSortIndicatorShown(on);
+  setToolTip(
+      on ? QCoreApplication::translate("Reports", "A click on a heading, or Enter, sorts by the column")
+         : QString());
   if (!on) model_.sort(-1, Qt::AscendingOrder);
 }
 
@@ -333,7 +381,10 @@ void ReportView::Measure() {
   wanted_.resize(static_cast<std::size_t>(model_.columnCount()));
   for (int column = 0; column < model_.columnCount(); ++column) {
     const bool label = model_.IsLabelColumn(column);
-    const int gap = kEdge + (column == 0 ? 2 * kEdge : label ? kStripGap : kCellGap + SignWidth(metrics));
+    const int before = column == 0 ? kBlockIndent
+                       : label     ? kStripGap + kBlockIndent
+                                   : kCellGap + (model_.HasSigns(column) ? SignWidth(metrics) : 0);
+    const int gap = before + 2 * kEdge;
     int text = metrics.horizontalAdvance(model_.LongestText(column));
     if (horizontalHeader()->isVisibleTo(this))
       text = std::max(text, metrics.horizontalAdvance(
@@ -344,13 +395,13 @@ void ReportView::Measure() {
   if (old != wanted_) SetWidths();
 }
 
-// The room that is left goes to the labels of a single strip.
+// Of the room that is left the labels get some, unless there are so many strips that it would part them.
 void ReportView::SetWidths() {
-  const bool single = model_.columnCount() > 0 && model_.StripOf(model_.columnCount() - 1) == 0;
-  const int left = viewport()->width() - WantedWidth();
+  const int strips = std::max(1, model_.Strips());
+  const int left = strips > 2 ? 0 : std::clamp((viewport()->width() - WantedWidth()) / strips, 0, kMostExtra);
   for (int column = 0; column < static_cast<int>(wanted_.size()); ++column)
-    setColumnWidth(
-        column, wanted_[static_cast<std::size_t>(column)] + (column == 0 && single ? std::max(0, left) : 0));
+    setColumnWidth(column,
+                   wanted_[static_cast<std::size_t>(column)] + (model_.IsLabelColumn(column) ? left : 0));
 }
 
 int ReportView::WantedWidth() const {
@@ -368,8 +419,22 @@ int ReportView::WantedHeight() const {
 void ReportView::keyPressEvent(QKeyEvent* event) {
   const bool letter = !event->text().isEmpty() && event->text()[0].isPrint() &&
                       (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == 0;
-  if (letter || event->key() >= Qt::Key_F1) return event->ignore();
+  const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (enter && isSortingEnabled() && currentIndex().isValid()) return SortByCurrent();
+  const bool functionKey = event->key() >= Qt::Key_F1 && event->key() <= Qt::Key_F35;
+  if (letter || functionKey) return event->ignore();
   QTableView::keyPressEvent(event);
+}
+
+void ReportView::SortByCurrent() {
+  QHeaderView& header = *horizontalHeader();
+  const int column = currentIndex().column();
+  if (header.sortIndicatorSection() != column)
+    header.setSortIndicator(column, Qt::AscendingOrder);
+  else if (header.sortIndicatorOrder() == Qt::AscendingOrder)
+    header.setSortIndicator(column, Qt::DescendingOrder);
+  else
+    header.setSortIndicator(-1, Qt::AscendingOrder);
 }
 
 void ReportView::resizeEvent(QResizeEvent* event) {

@@ -30,7 +30,8 @@ struct ReportPart {
 class ReportModel : public QAbstractTableModel {
  public:
   using Report = std::shared_ptr<const ReportTable>;
-  enum Role { kSignRole = Qt::UserRole, kMarkRole };  // of a balance: 1 or -1; of a marked cell: true
+  // Of a balance: 1 or -1; of a marked cell: true; of a label: how far to the right it begins, in pixels.
+  enum Role { kSignRole = Qt::UserRole, kMarkRole, kIndentRole };
 
   using QAbstractTableModel::QAbstractTableModel;
 
@@ -39,6 +40,7 @@ class ReportModel : public QAbstractTableModel {
   void SetFigureFont(bool bold, bool italic);
   bool IsLabelColumn(int column) const;
   int StripOf(int column) const { return columns_[static_cast<std::size_t>(column)].strip; }
+  int Strips() const { return static_cast<int>(strips_.size()); }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -48,6 +50,8 @@ class ReportModel : public QAbstractTableModel {
   void sort(int column, Qt::SortOrder order) override;
   // Of the column's cells, by letters.
   QString LongestText(int column) const;
+  // Whether any of the column's cells can have a sign or a mark.
+  bool HasSigns(int column) const;
   // The line that is the heading of a block.
   bool IsHeading(int line, int column) const;
 
@@ -88,7 +92,7 @@ class ReportView : public QTableView {
   ReportView(const char* name, const QString& what, QWidget* parent);
 
   void Show(const ReportModel::Report& report, const ReportPart& part);
-  // By a click on a heading; a third click brings the told order back.
+  // By a click on a heading, or by Enter in the column; a third time brings the told order back.
   void SetSortable(bool on);
   void SetFigureFont(bool bold, bool italic);
   // The width that all columns want side by side.
@@ -105,6 +109,7 @@ class ReportView : public QTableView {
   void Measure();
   void SetWidths();
   void SpanHeadings();
+  void SortByCurrent();
 
   ReportModel model_;
   std::vector<int> wanted_;  // a width for each column; grows only, so that nothing jumps

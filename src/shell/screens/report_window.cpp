@@ -352,7 +352,7 @@ void ReportWindow::AddBody(QVBoxLayout& column) {
 void ReportWindow::AddGaps(QVBoxLayout& column) {
   upper_ = new QBoxLayout(QBoxLayout::LeftToRight);
   upper_->setSpacing(kSpace);
-  upper_->addWidget(table_);
+  upper_->addWidget(table_, 0, Qt::AlignTop);
   upper_->addWidget(chart_, 1);
   column.addLayout(upper_, 2);
   gaps_ = new QLabel(this);
