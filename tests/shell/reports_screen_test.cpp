@@ -13,10 +13,12 @@
 #include <random>
 
 #include "base/bet_catalogue.h"
+#include "rules/shooter.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens/report_chart.h"
 #include "shell/screens/report_window.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 #include "stats/statistics.h"
 
 namespace tessaryn::test {
@@ -183,6 +185,7 @@ TEST(ReportScreens, SelectorsWorkByMouseAndKeysAndAreCommonToAll) {
   QTest::keyClick(&list, Qt::Key_Space);
   EXPECT_FALSE(shown.AllBets);
   EXPECT_EQ(shown.Bets, std::vector<int>{kFire});
+  SavePicture(*list.parentWidget(), "report-list");
   list.parentWidget()->close();
   // Buttons that stay pressed.
   QTest::keyClick(&Find<QPushButton>(hands, "cmdUnits"), Qt::Key_Space);
@@ -207,6 +210,23 @@ TEST(ReportScreens, SelectorsWorkByMouseAndKeysAndAreCommonToAll) {
   EXPECT_EQ(again.Rows().size(), 37);
   EXPECT_TRUE(again.findChild<RollChartView*>("picGraph")->Chart().probable.isEmpty());
   for (const auto& window : table.windows) ExpectNamed(*window);
+}
+
+// The note of the hand's owner, while it concerns what is shown.
+TEST(ReportScreens, TheHandsOwnerIsToldWhereTheDiceWerePassed) {
+  ReportTableau table;
+  table.Roll(2, 2);
+  PassDice(*table.game, kPassByUser);
+  for (const int scope : {kCurrentHand, kCurrentSession}) {
+    table.game->screen.Reports.Scope = scope;
+    ReportWindow window(*table.game, kHandsWindow, nullptr);
+    window.show();
+    auto& note = Find<QLabel>(window, "lblExplain");
+    EXPECT_EQ(note.isVisible(), scope == kCurrentHand);
+    EXPECT_EQ(ToCore(note.text()), LastHandNote(*table.game, scope));
+    EXPECT_EQ(window.PrintHeadings().join(" ").contains("presently shooting"), scope == kCurrentHand);
+    if (scope == kCurrentHand) SavePicture(window, "report-note");
+  }
 }
 
 // A file may hold anything.
@@ -358,7 +378,7 @@ TEST(ReportScreens, NothingIsCutAndEveryLookHasItsPicture) {
     font.setPointSizeF(plain.pointSizeF() * look.scale);
     QApplication::setFont(font);
     ReportTableau table;
-    table.game->screen.Reports.RollGrouping = look.size.isValid() && look.dark ? 2 : 0;
+    table.game->screen.Reports.RollGrouping = look.dark ? look.size.isValid() ? 2 : 3 : 0;
     table.Play(240);
     table.Open();
     for (std::size_t i = 0; i < 6; ++i) {

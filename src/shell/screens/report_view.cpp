@@ -76,11 +76,14 @@ class FlatHeader : public QHeaderView {
   explicit FlatHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {}
 
  protected:
+  void paintEvent(QPaintEvent* event) override {
+    QHeaderView::paintEvent(event);
+    QPainter painter(viewport());
+    PaintGround(painter, viewport()->rect().adjusted(std::max(0, length() - offset()), 0, 0, 0));
+  }
   void paintSection(QPainter* painter, const QRect& rect, int section) const override {
     painter->save();
-    painter->fillRect(rect, palette().color(QPalette::Base));
-    painter->setPen(palette().color(QPalette::Mid));
-    painter->drawLine(rect.bottomLeft(), rect.bottomRight());
+    PaintGround(*painter, rect);
     QFont strong = font();
     strong.setBold(true);
     painter->setFont(strong);
@@ -96,6 +99,14 @@ class FlatHeader : public QHeaderView {
                     sortIndicatorOrder() == Qt::AscendingOrder);
     }
     painter->restore();
+  }
+
+ private:
+  void PaintGround(QPainter& painter, const QRect& rect) const {
+    if (rect.isEmpty()) return;
+    painter.fillRect(rect, palette().color(QPalette::Base));
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawLine(rect.bottomLeft(), rect.bottomRight());
   }
 };
 
@@ -342,9 +353,10 @@ void ReportView::SetSortable(bool on) {
   setSortingEnabled(on);
   horizontalHeader()->setSectionsClickable(on);
   horizontalHeader()->setSortIndicatorShown(on);
-  setToolTip(
-      on ? QCoreApplication::translate("Reports", "A click on a heading, or Enter, sorts by the column")
-         : QString());
+  const QString how =
+      QCoreApplication::translate("Reports", "A click on a heading, or Enter, sorts by the column");
+  horizontalHeader()->setToolTip(on ? how : QString());
+  setAccessibleDescription(on ? how : QString());
   if (!on) model_.sort(-1, Qt::AscendingOrder);
 }
 

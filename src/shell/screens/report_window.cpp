@@ -1,5 +1,6 @@
 #include "shell/screens/report_window.h"
 
+#include <QActionGroup>
 #include <QBoxLayout>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -287,11 +288,12 @@ void ReportWindow::AddBetOptions(QMenu& menu) {
 void ReportWindow::AddRollOptions(QMenu& menu) {
   QMenu* totals = menu.addMenu(Said(QT_TRANSLATE_NOOP("Reports", "Display &totals")));
   totals->setObjectName("mnuDisplayTotals");
+  auto* group = new QActionGroup(totals);
   for (int grouping = 0; grouping < static_cast<int>(std::size(kGroupings)); ++grouping)
-    AddOption(
+    group->addAction(AddOption(
         *totals, QString("mnuDisplayTotals%1").arg(grouping), Said(kGroupings[grouping]),
         [this, grouping] { return static_cast<int>(SelectionShown(game_).grouping) == grouping; },
-        [this, grouping](bool) { game_.screen.Reports.RollGrouping = grouping; });
+        [this, grouping](bool) { game_.screen.Reports.RollGrouping = grouping; }));
   AddOption(
       menu, "mnuHideProbBars", Said(QT_TRANSLATE_NOOP("Reports", "&Hide probability bars")),
       [this] { return game_.screen.Reports.HideProbabilities; },
@@ -305,12 +307,14 @@ void ReportWindow::AddRollOptions(QMenu& menu) {
 void ReportWindow::AddColours(QMenu& menu, GraphPart part, const QString& name, const QString& caption) {
   QMenu* colours = menu.addMenu(caption);
   colours->setObjectName(name);
+  auto* group = new QActionGroup(colours);
   for (int colour = 0; colour < kGraphColours; ++colour) {
     const GraphColour& row = kGraphColourRows[static_cast<std::size_t>(colour)];
     QAction* action = AddOption(
         *colours, name + QString::number(colour), Said(row.name),
         [this, part, colour] { return GraphColourOf(game_, part) == colour; },
         [this, part, colour](bool) { SetGraphColour(game_, part, colour); });
+    group->addAction(action);
     if (colour > 0) action->setIcon(Swatch(QColor(row.rgb), palette().color(QPalette::Mid)));
   }
 }
