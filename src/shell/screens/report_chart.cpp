@@ -20,11 +20,12 @@ constexpr int kProbableColumn = 3;
 
 constexpr double kEdge = 8;
 constexpr double kGap = 4;
-constexpr double kTitleRoom = 1.6;    // of the letters' height, for the axis' title
-constexpr double kLeastLabel = 0.65;  // of the letters' size
-constexpr double kBarShare = 0.38;    // of a place, for each of two bars
-constexpr double kSingleShare = 0.7;  // for one bar
-constexpr int kLeastGaps = 25;        // bars that the picture of the gaps has at least
+constexpr double kTitleRoom = 1.6;     // of the letters' height, for the axis' title
+constexpr double kLabelBeside = 0.85;  // of the letters' size, before labels are turned upright
+constexpr double kLeastLabel = 0.65;   // of the letters' size
+constexpr double kBarShare = 0.38;     // of a place, for each of two bars
+constexpr double kSingleShare = 0.7;   // for one bar
+constexpr int kLeastGaps = 25;         // bars that the picture of the gaps has at least
 
 QString Said(const char* text) { return QCoreApplication::translate("Reports", text); }
 
@@ -72,52 +73,59 @@ struct Frame {
   double LegendHeight() const {
     return chart.probable.isEmpty() && chart.below.isEmpty() ? 0 : metrics.height() + kGap;
   }
-  double LabelWidth(const ChartBar& bar) const {
-    double width = 0;
-    for (const QString& line : bar.label.split('\n'))
-      width = std::max(width, metrics.horizontalAdvance(line));
-    return width;
-  }
+  // The gaps stand for themselves: their labels are numbers in order, of which some will do.
+  bool Numbered() const { return chart.probable.isEmpty() && chart.actual.isEmpty(); }
 
  private:
   void Scale(const QRectF& area) {
     double most = 0;
     for (const ChartBar& bar : chart.bars) most = std::max({most, bar.actual, bar.probable});
     const int steps = std::clamp(static_cast<int>(area.height() / (metrics.height() * 3)), 1, 8);
-    const bool whole = chart.probable.isEmpty() && chart.actual.isEmpty();
     step = most > 0 ? Step(most * 1.08, steps) : 1;
-    if (whole) step = std::max(1.0, step);
+    if (Numbered()) step = std::max(1.0, step);
     top = step * std::max(1.0, std::ceil(most * 1.08 / step));
   }
   void Place(const QRectF& area) {
     const double left = metrics.horizontalAdvance(QString::number(top, 'g', 6)) + 2 * kGap;
     plot =
         area.adjusted(kEdge + left, kEdge + kTitleRoom * metrics.height(), -kEdge, -kEdge - LegendHeight());
-    double widest = 0;
-    double widestCount = 0;
-    int lines = 1;
-    for (const ChartBar& bar : chart.bars) {
-      widest = std::max(widest, LabelWidth(bar));
-      widestCount = std::max(widestCount, metrics.horizontalAdvance(bar.count));
-      lines = std::max(lines, static_cast<int>(bar.label.count('\n')) + 1);
-    }
-    const bool numbered = chart.probable.isEmpty() && chart.actual.isEmpty();
-    if (numbered) {
-      every = static_cast<int>(std::ceil((widest + 2 * kGap) / Place()));
+    const Extent labelled = Measure();
+    if (Numbered()) {
+      every = static_cast<int>(std::ceil((labelled.line + 2 * kGap) / Place()));
       if (every > 1) every = (every + 4) / 5 * 5;
     }
-    upright = !numbered && widest + 2 > Place();
+    const double room = Place() - kGap;
+    upright = !Numbered() && labelled.line * kLabelBeside > room;
+    const double share = Numbered() ? 1
+                         : upright  ? std::clamp(Place() / metrics.height(), kLeastLabel, 1.0)
+                                    : std::clamp(room / std::max(1.0, labelled.line), kLabelBeside, 1.0);
     labels = look.font;
-    if (upright && Place() < metrics.height()) {
-      const double share = std::max(kLeastLabel, Place() / metrics.height());
-      labels.pixelSize() > 0 ? labels.setPixelSize(static_cast<int>(labels.pixelSize() * share))
-                             : labels.setPointSizeF(labels.pointSizeF() * share);
-    }
-    double below = upright ? widest + kGap : metrics.height() * lines;
+    labels.pixelSize() > 0 ? labels.setPixelSize(static_cast<int>(labels.pixelSize() * share))
+                           : labels.setPointSizeF(labels.pointSizeF() * share);
+    double below = upright ? labelled.whole * share + kGap : metrics.height() * labelled.lines;
     counts =
-        !upright && widestCount > 0 && widestCount + 2 <= Place() && area.height() > 10 * metrics.height();
+        !upright && labelled.count > 0 && labelled.count <= room && area.height() > 10 * metrics.height();
     if (counts) below += metrics.height();
     plot.setBottom(plot.bottom() - below - kGap);
+  }
+
+  // The widest of the labels: of a line, of both lines as one, of a count.
+  struct Extent {
+    double line = 0;
+    double whole = 0;
+    double count = 0;
+    int lines = 1;
+  };
+  Extent Measure() const {
+    Extent extent;
+    for (const ChartBar& bar : chart.bars) {
+      const QStringList lines = bar.label.split('\n');
+      for (const QString& line : lines) extent.line = std::max(extent.line, metrics.horizontalAdvance(line));
+      extent.whole = std::max(extent.whole, metrics.horizontalAdvance(lines.join(' ')));
+      extent.count = std::max(extent.count, metrics.horizontalAdvance(bar.count));
+      extent.lines = std::max(extent.lines, static_cast<int>(lines.size()));
+    }
+    return extent;
   }
 };
 
@@ -187,11 +195,11 @@ void PaintLabels(QPainter& painter, const Frame& frame) {
   for (const ChartBar& bar : frame.chart.bars) {
     const double lines = frame.metrics.height() * static_cast<double>(bar.label.count('\n') + 1);
     painter.setPen(frame.ink);
+    painter.setFont(frame.labels);
     if (frame.upright) {
       painter.save();
       painter.translate(middle, frame.plot.bottom() + kGap);
       painter.rotate(-90);
-      painter.setFont(frame.labels);
       QString label = bar.label;
       painter.drawText(QRectF(-200, -frame.metrics.height() / 2, 200, frame.metrics.height()),
                        Qt::AlignRight | Qt::AlignVCenter, label.replace('\n', ' '));
@@ -200,6 +208,7 @@ void PaintLabels(QPainter& painter, const Frame& frame) {
       painter.drawText(QRectF(middle - 100, frame.plot.bottom() + kGap, 200, lines),
                        Qt::AlignHCenter | Qt::AlignTop, bar.label);
     }
+    painter.setFont(frame.look.font);
     if (frame.counts) {
       painter.setPen(second);
       painter.drawText(QRectF(middle - 100, frame.plot.bottom() + kGap + lines, 200, frame.metrics.height()),
