@@ -326,7 +326,7 @@ TEST(ReportPictures, BarsHaveTheReportsProportions) {
   }
   const auto rows = window.Rows();
   std::vector<double> shares;
-  for (int row = 1; row < rows.size(); ++row) shares.push_back(QString(rows[row][3]).remove(" *").toDouble());
+  for (int row = 1; row < rows.size(); ++row) shares.push_back(rows[row][3].toDouble());
   std::erase_if(shares, [&](double share) { return share < 1; });
   ASSERT_EQ(heights.size(), shares.size());
   const auto most = std::max_element(shares.begin(), shares.end()) - shares.begin();

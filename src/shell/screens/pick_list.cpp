@@ -14,6 +14,8 @@ namespace tessaryn {
 namespace {
 
 constexpr int kMostRows = 12;
+constexpr int kRowHeight = 24;
+constexpr int kMarkRoom = 32;  // of the mark before a text
 constexpr int kLeastLetters = 20;
 
 QPushButton* AddButton(QHBoxLayout& row, const QString& name, const QString& caption, QWidget* parent) {
@@ -63,6 +65,8 @@ void PickList::Fill() {
     auto* item = new QListWidgetItem(text, list_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
     item->setData(Qt::UserRole, number);
+    item->setSizeHint(
+        {fontMetrics().horizontalAdvance(text) + kMarkRoom, std::max(kRowHeight, fontMetrics().height())});
     item->setSelected(isPicked(number));
   }
   filling_ = false;

@@ -22,6 +22,7 @@ constexpr int kStripGap = 24;
 constexpr int kBlockIndent = 12;
 constexpr int kMostExtra = 120;  // between a label and its figures, of the room that is left
 constexpr int kRowGap = 4;
+constexpr int kLeastTarget = 24;  // of what is clicked
 constexpr int kEdge = 4;
 constexpr double kSignSize = 0.6;  // of the letters' height
 
@@ -339,6 +340,7 @@ ReportView::ReportView(const char* name, const QString& what, QWidget* parent) :
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setMinimumSectionSize(1);
   horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumHeight(kLeastTarget);
   verticalScrollBar()->setObjectName(QString(name) + "Vertical");
   horizontalScrollBar()->setObjectName(QString(name) + "Horizontal");
   horizontalScrollBar()->setAccessibleName(what);
@@ -424,7 +426,7 @@ int ReportView::WantedWidth() const {
 
 int ReportView::WantedHeight() const {
   return model_.rowCount() * verticalHeader()->defaultSectionSize() +
-         (horizontalHeader()->isVisibleTo(this) ? horizontalHeader()->sizeHint().height() : 0);
+         (horizontalHeader()->isVisibleTo(this) ? horizontalHeader()->height() : 0);
 }
 
 // Keys that walk the cells are the view's own; the table's plain keys go on to it.

@@ -23,8 +23,6 @@ struct ReportPart {
   // Rows from which a new strip starts, to the right of the one before. Ascending, all within first and last.
   std::vector<std::size_t> strips;
   bool headings = true;  // the names of columns and blocks
-
-  friend bool operator==(const ReportPart&, const ReportPart&) = default;
 };
 
 class ReportModel : public QAbstractTableModel {

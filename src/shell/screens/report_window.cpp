@@ -114,6 +114,10 @@ QColor ChosenColour(const Game& game, GraphPart part) {
   return colour == 0 ? QColor() : QColor(kGraphColourRows[static_cast<std::size_t>(colour)].rgb);
 }
 
+bool IsMarked(const ReportRow& row) {
+  return std::any_of(row.cells.begin(), row.cells.end(), [](const ReportCell& cell) { return cell.marked; });
+}
+
 QIcon Swatch(const QColor& colour, const QColor& edge) {
   QPixmap picture(16, 16);
   picture.fill(colour);
@@ -343,6 +347,9 @@ void ReportWindow::AddBody(QVBoxLayout& column) {
   if (screen_.window == kRollTotalsWindow || screen_.window == kBetTrendsWindow) table_->SetSortable(true);
   if (screen_.window == kBetTrendsWindow) table_->verticalScrollBar()->setObjectName("vsbBetTrends");
   if (screen_.chart) chart_ = new RollChartView(Said(QT_TRANSLATE_NOOP("Reports", "Graph")), this);
+  if (chart_ != nullptr)
+    chart_->setAccessibleDescription(
+        Said(QT_TRANSLATE_NOOP("Reports", "The table below it has its figures")));
   if (screen_.window == kRollTotalsWindow) {
     column.addWidget(chart_, 3);
     column.addWidget(table_, 2);
@@ -466,18 +473,21 @@ void ReportWindow::resizeEvent(QResizeEvent* event) {
 
 // --- On paper and in files.
 
+// Marks have a column of their own, so that figures stay figures.
 QList<QStringList> ReportWindow::Rows() const {
   if (report_ == nullptr) return {};
   QStringList headings{Said(report_->title.c_str())};
   for (const std::string& column : report_->columns) headings += ReportText(column);
+  const bool marks = screen_.window == kRollTotalsWindow;
   QList<QStringList> rows{headings};
+  if (marks) rows[0] += QStringLiteral("*");
   for (std::size_t i = 0; i < report_->rows.size(); ++i) {
     const ReportRow& row = report_->rows[i];
     QStringList texts{ReportText(RowName(*report_, i))};
     for (int column = 0; column < row.column; ++column) texts += QString();
-    for (const ReportCell& cell : row.cells)
-      texts += FromCore(cell.text).trimmed() + (cell.marked ? QStringLiteral(" *") : QString());
+    for (const ReportCell& cell : row.cells) texts += FromCore(cell.text).trimmed();
     while (texts.size() < headings.size()) texts += QString();
+    if (marks) texts += IsMarked(row) ? QStringLiteral("*") : QString();
     rows += texts;
   }
   return rows;
@@ -490,11 +500,7 @@ QStringList ReportWindow::PrintHeadings() const {
                               FromCore(report_->selectedNames), FromCore(report_->selectedBets)})
     if (!line.isEmpty()) lines += line;
   if (!report_->note.empty()) lines += FromCore(report_->note).split('\n');
-  const auto isMarked = [](const ReportRow& row) {
-    return std::any_of(row.cells.begin(), row.cells.end(),
-                       [](const ReportCell& cell) { return cell.marked; });
-  };
-  if (std::any_of(report_->rows.begin(), report_->rows.end(), isMarked))
+  if (std::any_of(report_->rows.begin(), report_->rows.end(), IsMarked))
     lines += Said(QT_TRANSLATE_NOOP("Reports", "* more than two standard errors from the probable"));
   return lines;
 }
