@@ -66,6 +66,11 @@ ReportCell NetPercentCell(double net, double wagers) {
   return wagers == 0 ? TextCell("") : NumberCell(100 * net / wagers);
 }
 
+ReportCell Balance(ReportCell cell) {
+  cell.balance = true;
+  return cell;
+}
+
 // Rows of sums, money or counts, with what they leave.
 void AddSums(ReportTable& report, const char* label, const Three& sums, Currency Figures::*field,
              bool money) {
@@ -78,7 +83,7 @@ void AddSums(ReportTable& report, const char* label, const Three& sums, Currency
   const Currency net = sums[kWinStats].*field - sums[kLossStats].*field;
   const bool fits = !wagers.IsError() && !net.IsError();
   report.Add(kResolved, label,
-             {cell(wagers), cell(sums[kWinStats].*field), cell(sums[kLossStats].*field), cell(net),
+             {cell(wagers), cell(sums[kWinStats].*field), cell(sums[kLossStats].*field), Balance(cell(net)),
               fits ? NetPercentCell(net.ToDouble(), wagers.ToDouble()) : TextCell(kNoValueText)});
 }
 
@@ -107,7 +112,7 @@ void AddRatios(ReportTable& report, const char* label, const Ratios& ratios, boo
   const bool any = !std::isnan(wins) || !std::isnan(losses);
   const double net = any ? OrNothing(wins) - OrNothing(losses) : kNoRatio;
   report.Add(kResolved, label,
-             {cell(ratios[kWagerStats]), cell(wins), cell(losses), cell(net),
+             {cell(ratios[kWagerStats]), cell(wins), cell(losses), Balance(cell(net)),
               any ? NetPercentCell(net, OrNothing(ratios[kWagerStats])) : TextCell("")});
 }
 
@@ -203,18 +208,46 @@ void BlankMoney(ReportTable& report) {
       for (ReportCell& cell : row.cells) cell = TextCell("");
 }
 
+void AddEachBet(const Game& game, const ReportSelection& selection, const Seats& seats, ReportTable& report) {
+  report.columns = {"Wagers #", "Wagers $", "Wins #", "Losses #", "Net $", "Net %"};
+  for (const int seat : seats)
+    selection.bets.ForEach([&](int bet) {
+      Three sums;
+      for (const StatTable table : {kWagerStats, kWinStats, kLossStats}) {
+        Figures& of = sums[table];
+        of.count = BetStat(game.stats, table, selection.scope, seat, bet, kStatCount);
+        of.total = BetStat(game.stats, table, selection.scope, seat, bet, kStatTotal);
+        if (sums[kWagerStats].count == kZero) return;
+      }
+      const Currency net = sums[kWinStats].total - sums[kLossStats].total;
+      const Currency wagered = sums[kWagerStats].total;
+      const bool fits = !net.IsError() && !wagered.IsError();
+      const auto count = [&sums](StatTable table) {
+        return CountCell(sums[table].count.raw / Currency::kPerDollar);
+      };
+      report.Add("", (seats.size() > 1 ? game.table.seats[seat].SeatName + ": " : "") + BetName(bet),
+                 {count(kWagerStats), MoneyCell(wagered), count(kWinStats), count(kLossStats),
+                  Balance(MoneyCell(net)),
+                  fits ? NetPercentCell(net.ToDouble(), wagered.ToDouble()) : TextCell(kNoValueText)});
+    });
+}
+
+void AddAllBets(const Game& game, const ReportSelection& selection, const Seats& seats, ReportTable& report) {
+  report.columns = {"Wagers", "Wins", "Losses", "Net", "Net %"};
+  AddResolved(game, selection.scope, FiguresOf(game, selection, seats), report);
+  AddTendered(selection, seats, game.table.BetAmount, "Current", report);
+  AddTendered(selection, seats, game.table.BetBeforeRoll, "Prior roll", report);
+  report.Add("", "Expected value $", {Balance(MoneyCell(ExpectedValue(game, selection, seats)))});
+  if (seats.empty()) BlankMoney(report);
+}
+
 }  // namespace
 
 ReportTable BetResultsReport(const Game& game, const ReportSelection& selection) {
   const Seats seats = SelectedPlayers(game, selection);
   ReportTable report;
-  report.columns = {"Wagers", "Wins", "Losses", "Net", "Net %"};
   report.selectedBets = NamesOfBets(selection.bets);
-  AddResolved(game, selection.scope, FiguresOf(game, selection, seats), report);
-  AddTendered(selection, seats, game.table.BetAmount, "Current", report);
-  AddTendered(selection, seats, game.table.BetBeforeRoll, "Prior roll", report);
-  report.Add("", "Expected value $", {MoneyCell(ExpectedValue(game, selection, seats))});
-  if (seats.empty()) BlankMoney(report);
+  selection.eachBet ? AddEachBet(game, selection, seats, report) : AddAllBets(game, selection, seats, report);
   if (!selection.separator)
     for (ReportRow& row : report.rows)
       for (ReportCell& cell : row.cells) std::erase(cell.text, ',');
@@ -231,7 +264,7 @@ ReportTable BetTrendsReport(const Game& game, const ReportSelection& selection) 
     const std::int32_t streak = anybody ? game.table.BetStreak(selection.seat, bet) : 0;
     ReportCell cell;
     if (streak != 0) {
-      cell = MoneyCell(Currency::Dollars(streak));
+      cell = Balance(MoneyCell(Currency::Dollars(streak)));
       if (streak > 0) cell.text.insert(0, 1, ' ');  // under the minus of the losses
     }
     report.Add("", BetName(bet), {cell});

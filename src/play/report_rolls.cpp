@@ -172,16 +172,16 @@ ReportTable HandsReport(const Game& game, const ReportSelection& selection) {
   ReportTable report;
   report.columns = {"c/o rolls", "passes", "misses"};
   AddNumbers(hands, selection.percent, report);
-  report.Add("", "Total rolls", {CountCell(hands.rolls)});
-  report.Add("", "Total hands", {CountCell(hands.hands)});
-  report.Add("", "Most rolls in a hand", {CountCell(hands.mostRolls)});
-  report.Add("", "Most c/o rolls in a hand", {CountCell(hands.most[kComeoutRolls])});
-  report.Add("", "Most passes in a hand", {CountCell(hands.most[kPasses])});
-  report.Add("", "Most misses in a hand", {CountCell(hands.most[kMisses])});
-  report.Add("", "Avg rolls per hand", {PerHand(hands.rolls, hands.hands)});
-  report.Add("", "Avg c/o rolls per hand", {PerHand(hands.total[kComeoutRolls], hands.hands)});
-  report.Add("", "Avg passes per hand", {PerHand(hands.total[kPasses], hands.hands)});
-  report.Add("", "Avg misses per hand", {PerHand(hands.total[kMisses], hands.hands)});
+  report.Add("Hands", "Total rolls", {CountCell(hands.rolls)});
+  report.Add("Hands", "Total hands", {CountCell(hands.hands)});
+  report.Add("Hands", "Most rolls in a hand", {CountCell(hands.mostRolls)});
+  report.Add("Hands", "Most c/o rolls in a hand", {CountCell(hands.most[kComeoutRolls])});
+  report.Add("Hands", "Most passes in a hand", {CountCell(hands.most[kPasses])});
+  report.Add("Hands", "Most misses in a hand", {CountCell(hands.most[kMisses])});
+  report.Add("Hands", "Avg rolls per hand", {PerHand(hands.rolls, hands.hands)});
+  report.Add("Hands", "Avg c/o rolls per hand", {PerHand(hands.total[kComeoutRolls], hands.hands)});
+  report.Add("Hands", "Avg passes per hand", {PerHand(hands.total[kPasses], hands.hands)});
+  report.Add("Hands", "Avg misses per hand", {PerHand(hands.total[kMisses], hands.hands)});
   return report;
 }
 
@@ -205,7 +205,7 @@ ReportTable RollFrequenciesReport(const Game& game, const ReportSelection& selec
   report.selected = RollItemText(item);
   report.columns = {"value"};
   report.Add("", "Total session rolls:", {CountCell(rolls)});
-  report.Add("", "Total rolls this selection:", {CountCell(count)});
+  report.Add("Hands", "Total rolls this selection:", {CountCell(count)});
   report.Add("", "# rolls since last rolled:", {CountCell(RollsSinceLast(stats, item))});
   report.Add("", "Actual % rolled:",
              {rolls == 0                         ? TextCell("")

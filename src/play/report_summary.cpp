@@ -36,11 +36,12 @@ void AddRolls(const Game& game, int scope, const Seats& seats, ReportTable& repo
     hands += stats.HandCount[Slot(scope, seat)];
   }
   const double rate = game.settings.SimRollRate.ToDouble();
-  report.Add("", "Total rolls", {CountCell(tableRolls), CountCell(rolls)});
-  report.Add("", "Total hands", {CountCell(stats.HandCount[Slot(scope, 0)]), CountCell(hands)});
-  report.Add("", "Sim hours", {rate > 0 ? NumberCell(static_cast<double>(tableRolls) / rate) : TextCell("")});
-  report.Add("", "Rolls / hour", {NumberCell(rate)});
-  report.Add("", "% of rolls", {TextCell(ShareText(rolls, tableRolls))}, kPlayersColumn);
+  report.Add("Rolls", "Total rolls", {CountCell(tableRolls), CountCell(rolls)});
+  report.Add("Rolls", "Total hands", {CountCell(stats.HandCount[Slot(scope, 0)]), CountCell(hands)});
+  report.Add("Rolls", "Sim hours",
+             {rate > 0 ? NumberCell(static_cast<double>(tableRolls) / rate) : TextCell("")});
+  report.Add("Rolls", "Rolls / hour", {NumberCell(rate)});
+  report.Add("Rolls", "% of rolls", {TextCell(ShareText(rolls, tableRolls))}, kPlayersColumn);
 }
 
 // Over the rolls of the session, its beginning counted as one of them.
@@ -69,7 +70,7 @@ void AddBankrolls(const Game& game, int scope, const Seats& seats, ReportTable& 
   const auto count = static_cast<std::int64_t>(std::max<std::size_t>(1, seats.size()));
   const bool over = scope == kLastHand || scope == kLastSession;
   const auto add = [&](const char* label, Currency amount) {
-    report.Add("", label, {PlayersMoney(seats, amount)}, kPlayersColumn);
+    report.Add("Bankroll", label, {PlayersMoney(seats, amount)}, kPlayersColumn);
   };
   add("High bankroll", high);
   add("Low bankroll", low);
@@ -109,7 +110,7 @@ void AddComps(const Game& game, int scope, const Seats& seats, ReportTable& repo
   const bool timeless = settings.SimRollRate.ToDouble() <= 0;
   constexpr int kByActionAndTime = 2;
   const auto add = [&](const char* label, ReportCell cell) {
-    report.Add("", label, {std::move(cell)}, kPlayersColumn);
+    report.Add("Comps", label, {std::move(cell)}, kPlayersColumn);
   };
   add("Total comp action $", PlayersMoney(seats, sum.totalAction));
   add("Total # comp bets", CountCell(sum.decisions));
@@ -160,6 +161,7 @@ void AddBets(const Game& game, int scope, const Seats& seats, ReportTable& repor
   addSums("Wins", wins);
   addSums("Losses", losses);
   addSums("Net", net);
+  report.rows.back().cells[0].balance = true;
   add("Net %", NetPercent(net.count, wagers.count), NetPercent(net.total, wagers.total));
 }
 

@@ -17,7 +17,8 @@ struct ReportCell {
   std::string text;
   double value = 0;  // for bars and sorting; 0 where the text is no number
   Tone tone = Tone::kPlain;
-  bool marked = false;  // further from what was to be expected than chance explains
+  bool marked = false;   // further from what was to be expected than chance explains
+  bool balance = false;  // what was gained or lost: its sign tells which
 };
 
 struct ReportRow {

@@ -21,6 +21,7 @@ struct ReportSelection {
   std::uint32_t seats = 0;      // bit i: seat i. Seats without a player count for nothing
   int seat = 0;                 // of Bet Trends; 0 nobody
   BetSet bets = kAllTableBets;  // of Bet Results
+  bool eachBet = false;         // Bet Results: instead, a row for each player's bet
   bool percent = false;         // Hands: shares of the column's total
   RollGrouping grouping = RollGrouping::kTotals;
   bool skewed = false;    // probabilities of the percentage dice, in force or not; else of fair dice

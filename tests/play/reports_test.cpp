@@ -397,6 +397,22 @@ Rows BetResults(const Game& game, const Ledger& ledger, int scope, const Seats& 
   return rows;
 }
 
+Rows EachBet(const Game& game, const Ledger& ledger, int scope, const Seats& seats, const BetSet& bets) {
+  Rows rows;
+  for (const int seat : seats)
+    bets.ForEach([&](int bet) {
+      Sums sums[3];
+      for (int side = 0; side < 3; ++side)
+        sums[side] = SumUp(ledger, scope, {seat}, BetRange(bet, bet), side);
+      if (sums[0].count == 0) return;
+      const double net = sums[1].total - sums[2].total;
+      rows[(seats.size() > 1 ? game.table.seats[seat].SeatName + ": " : "") + BetName(bet)] = {
+          Whole(sums[0].count), Fewest(sums[0].total), Whole(sums[1].count),
+          Whole(sums[2].count), Fewest(net),           PerCent(net, sums[0].total, "")};
+    });
+  return rows;
+}
+
 // By the words of an outcome: faces "(1.3) or (3.1)", "Die 2, face 5", or totals "Numbers 2,3,12".
 bool Fits(const std::string& outcome, const Thrown& roll) {
   const std::string faces = std::to_string(roll.die1) + "." + std::to_string(roll.die2);
@@ -508,6 +524,9 @@ void ExpectAllReports(const Game& game, const Ledger& ledger, const ReportSelect
   ExpectReport(game, s, "summary", Summary(game, ledger, s.scope, seats));
   ExpectReport(game, s, "hands", Hands(ledger, s.scope, seats, s.percent));
   ExpectReport(game, s, "bet-results", BetResults(game, ledger, s.scope, seats, s.bets));
+  ReportSelection each = s;
+  each.eachBet = true;
+  ExpectReport(game, each, "bet-results", EachBet(game, ledger, s.scope, seats, s.bets));
   ExpectReport(game, s, "bet-trends", BetTrends(ledger, s.seat));
   ExpectReport(game, s, "roll-totals", RollTotals(game, ledger, s, seats));
   ExpectReport(game, s, "roll-frequencies", RollFrequencies(game, ledger, s.item, s.skewed));

@@ -8,6 +8,7 @@
 #include "shell/frame/docks.h"
 #include "shell/frame/tool_menu.h"
 #include "shell/screens/move_panel.h"
+#include "shell/screens/report_window.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
@@ -43,6 +44,13 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+template <int number>
+ToolWindow* MakeReportWindow(Desk& desk) {
+  auto* report = new ReportWindow(desk.game, number, desk.window);
+  report->selected = [&desk] { RefreshTools(desk); };
+  return report;
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -53,7 +61,16 @@ struct ToolRow {
   ToolWindow* (*make)(Desk&);
   bool floatsOnly = false;  // it doesn't dock, and has nothing to print
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true}, {kMoveWindow, MakeMovePanel, true}};
+constexpr ToolRow kTools[] = {
+    {kRollPadWindow, MakeRollPad, true},
+    {kMoveWindow, MakeMovePanel, true},
+    {kSummaryWindow, MakeReportWindow<kSummaryWindow>},
+    {kHandsWindow, MakeReportWindow<kHandsWindow>},
+    {kBetResultsWindow, MakeReportWindow<kBetResultsWindow>},
+    {kBetTrendsWindow, MakeReportWindow<kBetTrendsWindow>},
+    {kRollTotalsWindow, MakeReportWindow<kRollTotalsWindow>},
+    {kRollFreqsWindow, MakeReportWindow<kRollFreqsWindow>},
+};
 
 const ToolRow* RowOf(int number) {
   for (const ToolRow& row : kTools)

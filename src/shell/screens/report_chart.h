@@ -1,0 +1,69 @@
+// The pictures of the two reports of rolls: actual against probable, and the gaps between two comings of an
+// outcome. One painter for screen, file and paper.
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QRectF>
+#include <QWidget>
+#include <vector>
+
+#include "play/report_table.h"
+
+class QPainter;
+
+namespace tessaryn {
+
+struct ChartBar {
+  QString label;         // two lines at most
+  QString count;         // below the label where there is room
+  double actual = 0;     // percent, or times
+  double probable = -1;  // percent; below 0 none is shown
+  bool marked = false;   // further off than two standard errors
+};
+
+struct RollChart {
+  QString axis;  // "PERCENT"
+  QString below;
+  QString actual;  // the names of the series; without a second one there is no legend
+  QString probable;
+  std::vector<ChartBar> bars;
+};
+
+// Of a report of roll totals, and of one of roll frequencies.
+RollChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed);
+RollChart GapsChart(const ReportTable& report);
+
+struct ChartLook {
+  QColor background;
+  QColor bars;
+  QFont font;
+};
+// Letters, lines and bars can be told from any background.
+void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& chart, const ChartLook& look);
+
+class RollChartView : public QWidget {
+ public:
+  RollChartView(const QString& what, QWidget* parent);
+
+  // An invalid colour is the desktop's.
+  void Show(RollChart chart, const QColor& background, const QColor& bars);
+  const RollChart& Chart() const { return chart_; }
+  // The look on paper: on white, unless a colour was chosen.
+  ChartLook LookOnPaper() const;
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  ChartLook LookOnScreen() const;
+
+  RollChart chart_;
+  QColor background_;
+  QColor bars_;
+};
+
+}  // namespace tessaryn
