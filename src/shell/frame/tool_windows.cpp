@@ -9,6 +9,8 @@
 #include "shell/frame/desk.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/move_panel.h"
+#include "shell/screens/probability_page.h"
+#include "shell/screens/roll_files_window.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
@@ -45,6 +47,14 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+ToolWindow* MakeRollFiles(Desk& desk) {
+  auto* window = new RollFilesWindow(desk.game, desk.window);
+  window->print = [window] { PrintRows(*window); };
+  return window;
+}
+
+ToolWindow* MakePercentageDice(Desk& desk) { return new PercentageDiceWindow(desk.game, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -54,7 +64,10 @@ struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad},
+                              {kMoveWindow, MakeMovePanel},
+                              {kDiceRollFilesWindow, MakeRollFiles},
+                              {kPercentageDiceWindow, MakePercentageDice}};
 
 const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
 
