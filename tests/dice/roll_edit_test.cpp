@@ -102,8 +102,8 @@ TEST_F(RollEditing, RandomEditsAreTakenBackAndDoneAgainAsAListWithItsHistory) {
         break;
       case 4:
         if (copied.empty() || model.size() > 600) break;
-        ASSERT_EQ(
-            EditRolls(File, Edits, PlaceOfCursor(File), [&] { return PasteCopiedRolls(File, Folder); }), "");
+        ASSERT_EQ(EditRolls(File, Edits, PlaceOfCursor(File), [&] { return PasteCopiedRolls(File, Folder); }),
+                  "");
         next.insert(next.begin() + at, copied.begin(), copied.end());
         edited(next);
         break;

@@ -1,4 +1,6 @@
 // The editor of percentage dice and the generator's page, by mouse and keys.
+#include "shell/screens/probability_page.h"
+
 #include <gtest/gtest.h>
 
 #include <QAction>
@@ -14,7 +16,6 @@
 #include "dice/probability_edit.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/generator_page.h"
-#include "shell/screens/probability_page.h"
 #include "shell/screens/probability_table.h"
 #include "shell/screens_support.h"
 #include "state/show_message.h"
@@ -30,18 +31,20 @@ struct DiceEditor : ScreenTable {
     window = std::make_unique<PercentageDiceWindow>(*game, nullptr);
     window->resize(960, 500);
     window->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
     Table().setFocus();
   }
   PercentageDice& Dice() { return game->percentage; }
   ProbabilityTable& Table() { return Find<ProbabilityTable>(*window, "grdProbability"); }
   std::int32_t Value(ProbabilityCell cell) { return Dice().ProbMatrix[1][cell.row][cell.column]; }
   void Type(const char* keys, int end = Qt::Key_Return) {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     Table().setFocus();
     QTest::keyClicks(&Table(), QString(keys).left(1));
     auto& box = Find<QLineEdit>(Table(), "txtProbability");
     QTest::keyClicks(&box, QString(keys).mid(1));
     QTest::keyClick(&box, static_cast<Qt::Key>(end));
+    QCoreApplication::processEvents();  // the value is taken when the key has been worked off
   }
   void Press(int key) { QTest::keyClick(&Table(), static_cast<Qt::Key>(key)); }
   void Trigger(const char* name) { Find<QAction>(*window, name).trigger(); }
@@ -62,8 +65,10 @@ TEST(ProbabilityPage, TypingEntersAsTheCoreDoesAndGoesOnBelow) {
   EXPECT_EQ(Find<QLabel>(*editor.window, "lblPercentageDice").text(), "Free Form Dice");
   // The entered cell is locked and takes no typing until L is pressed.
   editor.Table().Select(kSeven);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   editor.Press(Qt::Key_5);
   EXPECT_EQ(editor.Table().findChild<QLineEdit*>("txtProbability"), nullptr);
+  EXPECT_EQ(editor.Table().Selected(), kSeven);
   editor.Press(Qt::Key_L);
   EXPECT_FALSE(IsProbabilityLocked(editor.Dice(), kSeven.row, kSeven.column));
   editor.Type("10", Qt::Key_Escape);

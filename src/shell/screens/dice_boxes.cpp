@@ -9,13 +9,11 @@ void TellDiceProblem(Game& game, const char* title, const std::string& problem) 
 }
 
 void TellOpenFileFirst(Game& game, const char* title) {
-  TellDiceProblem(game, title, MessageText<Msg::kOpenFileFirst>());
+  ShowMessage<Msg::kFileNeeded>(game, With<"title">(title));
 }
 
-void TellSeeded(Game& game) {
-  TellDiceProblem(game, "RNG Seeded", "The random number generator has now been seeded.");
-}
+void TellSeeded(Game& game) { ShowMessage<Msg::kSeeded>(game); }
 
-int AskSaveTheseNumbers(Game& game) { return ShowMessage<Msg::kAskSaveProbabilities>(game); }
+int AskSaveTheseNumbers(Game& game) { return ShowMessage<Msg::kAskSaveTheseNumbers>(game); }
 
 }  // namespace tessaryn

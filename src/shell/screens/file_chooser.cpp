@@ -151,8 +151,10 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
 bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
   std::error_code error;
   if (!purpose.save || !fs::exists(path, error)) return true;
-  return Confirms<Msg::kAskReplaceFile>(game, With<"title">(purpose.title),
-                                        With<"file">(fs::path(path).filename().string()));
+  const auto title = With<"title">(purpose.title);
+  const auto file = With<"file">(fs::path(path).filename().string());
+  if (&purpose == &kCopyToRollFile) return Confirms<Msg::kAskCopyOver>(game, title, file);
+  return Confirms<Msg::kAskReplaceFile>(game, title, file);
 }
 
 }  // namespace

@@ -164,7 +164,10 @@ void ProbabilityPage::AddSheet(QBoxLayout& column) {
   });
   connect(table_, &ProbabilityTable::lockPressed, this, &ProbabilityPage::ToggleLock);
   picture_ = new ProbabilityPicture(game_.percentage, this);
-  row->addWidget(table_, 3);
+  auto* sheet = new QVBoxLayout;
+  sheet->addWidget(table_, 1);
+  sheet->addStretch();
+  row->addLayout(sheet, 3);
   row->addWidget(picture_, 2);
   column.addLayout(row, 1);
   note_ = new QLabel(this);

@@ -15,6 +15,7 @@ namespace {
 constexpr double kPoints = 1000;         // thousandths of a percent in a percent
 constexpr double kLeastScale = 0.5;      // percent points of difference that are shown in full colour
 constexpr double kMostShownPart = 0.75;  // of a cell's colour, so that its letters stay readable
+constexpr double kWideStep = 38;         // room for two decimals under a total
 
 QString Words(const char* text) { return QCoreApplication::translate("ProbabilityPicture", text); }
 
@@ -41,10 +42,10 @@ QFont Sized(const QPainter& painter, double pixels, bool bold = false) {
 }
 
 // Percent points with their sign.
-QString Difference(double points) {
-  if (std::fabs(points) < 0.005) return QStringLiteral("0");
+QString Difference(double points, int decimals = 2) {
+  if (std::fabs(points) < (decimals == 2 ? 0.005 : 0.05)) return QStringLiteral("0");
   return (points > 0 ? QStringLiteral("+") : QStringLiteral("\u2212")) +
-         QString::number(std::fabs(points), 'f', std::fabs(points) < 10 ? 2 : 1);
+         QString::number(std::fabs(points), 'f', std::fabs(points) < 10 ? decimals : 1);
 }
 
 // What the colours go up to: the farthest combination.
@@ -115,7 +116,8 @@ void PaintTotals(QPainter& painter, const QRectF& area, const PercentageDice& di
     painter.drawText(QRectF(left, foot + 1, step, line), Qt::AlignCenter, QString::number(column + 1));
     painter.setPen(ink.second);
     painter.setFont(Sized(painter, std::min(line * 0.8, step * 0.36)));
-    painter.drawText(QRectF(left - 4, foot + line, step + 8, line), Qt::AlignCenter, Difference(points));
+    painter.drawText(QRectF(left - 4, foot + line, step + 8, line), Qt::AlignCenter,
+                     Difference(points, step < kWideStep ? 1 : 2));
   }
   painter.setPen(ink.line);
   painter.drawLine(QPointF(area.left(), foot + 0.5), QPointF(area.right(), foot + 0.5));

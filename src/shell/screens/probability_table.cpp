@@ -1,10 +1,11 @@
 #include "shell/screens/probability_table.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPainter>
+#include <QPalette>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -46,13 +47,16 @@ QPixmap FacePicture(int face, const QColor& colour) {
 }
 
 // A small padlock, so that a locked cell is told without its colour.
-void PaintLock(QPainter& painter, const QRect& cell) {
+void PaintLock(QPainter& painter, const QStyleOptionViewItem& option) {
+  const QRect& cell = option.rect;
+  const bool selected = (option.state & QStyle::State_Selected) != 0;
+  const QColor colour = selected ? option.palette.color(QPalette::HighlightedText) : QColor(70, 60, 0);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   const QPointF at(cell.left() + 4, cell.center().y() - 4);
-  painter.setPen(QPen(QColor(70, 60, 0), 1.3));
+  painter.setPen(QPen(colour, 1.3));
   painter.drawArc(QRectF(at.x() + 1.5, at.y(), 5, 7), 0, 180 * 16);
-  painter.fillRect(QRectF(at.x(), at.y() + 3.5, 8, 5.5), QColor(70, 60, 0));
+  painter.fillRect(QRectF(at.x(), at.y() + 3.5, 8, 5.5), colour);
   painter.restore();
 }
 
@@ -60,10 +64,15 @@ class CellDelegate : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
+  // Only cells look like cells; the rest of the sheet is the page's ground.
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const bool cell = (index.flags() & Qt::ItemIsEnabled) != 0;
+    painter->fillRect(option.rect, cell ? option.palette.base() : option.palette.window());
     QStyledItemDelegate::paint(painter, option, index);
-    if (index.data(Qt::CheckStateRole).isNull() && index.data(Qt::UserRole).toBool())
-      PaintLock(*painter, option.rect);
+    if (!cell) return;
+    painter->setPen(option.palette.color(QPalette::Mid));
+    painter->drawRect(option.rect.adjusted(-1, -1, 0, 0));
+    if (index.data(Qt::UserRole).toBool()) PaintLock(*painter, option);
   }
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
     auto* box = new QLineEdit(parent);
@@ -147,6 +156,7 @@ QVariant ProbabilityModel::data(const QModelIndex& index, int role) const {
   if (!IsCell(cell)) {
     if (index.column() != kTotalLabels) return {};
     if (role == Qt::DisplayRole) return QString::number(index.row() + 2);
+    if (role == Qt::ForegroundRole) return QGuiApplication::palette().windowText();
     return role == Qt::TextAlignmentRole ? QVariant(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
   }
   const bool locked = IsProbabilityLocked(dice_, cell.row, cell.column);
@@ -205,6 +215,9 @@ ProbabilityTable::ProbabilityTable(ProbabilityModel& model, QWidget* parent) : Q
   setSelectionMode(SingleSelection);
   setEditTriggers(AnyKeyPressed | DoubleClicked | EditKeyPressed);
   setCornerButtonEnabled(false);
+  setShowGrid(false);
+  setFrameShape(QFrame::NoFrame);
+  viewport()->setBackgroundRole(QPalette::Window);
   setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollMode(ScrollPerPixel);
   for (QHeaderView* header : {horizontalHeader(), verticalHeader()}) {

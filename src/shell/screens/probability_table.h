@@ -62,6 +62,8 @@ class ProbabilityTable : public QTableView {
   bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+  // Letters walk nowhere.
+  void keyboardSearch(const QString&) override {}
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
 };
 

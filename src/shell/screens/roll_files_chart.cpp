@@ -26,6 +26,7 @@ QString CountText(std::int64_t count) { return QLocale().toString(static_cast<ql
 
 constexpr double kHeadLine = 18;
 constexpr double kLabelLine = 14;
+constexpr double kWideStep = 30;  // room for a decimal
 
 }  // namespace
 
@@ -73,8 +74,9 @@ void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& char
                        Qt::AlignCenter, far > 0 ? QStringLiteral("\u25b2") : QStringLiteral("\u25bc"));
     painter.drawText(QRectF(left, foot, step, kLabelLine), Qt::AlignCenter, QString::number(total));
     painter.setPen(second);
-    painter.drawText(QRectF(left - 4, foot + kLabelLine, step + 8, kLabelLine), Qt::AlignCenter,
-                     chart.totals.Rolls == 0 ? QString() : QString::number(share * 100, 'f', 1));
+    painter.drawText(
+        QRectF(left - 4, foot + kLabelLine, step + 8, kLabelLine), Qt::AlignCenter,
+        chart.totals.Rolls == 0 ? QString() : QString::number(share * 100, 'f', step < kWideStep ? 0 : 1));
   }
   painter.setPen(second);
   painter.drawLine(QPointF(inside.left(), foot + 0.5), QPointF(inside.right(), foot + 0.5));

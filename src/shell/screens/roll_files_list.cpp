@@ -51,7 +51,7 @@ RollList::RollList(RollFile& file, QWidget* parent) : QAbstractScrollArea(parent
 }
 
 QSize RollList::sizeHint() const { return {3 * columnWidth_ + 24, 16 * rowHeight_}; }
-QSize RollList::minimumSizeHint() const { return {columnWidth_ + 28, 4 * rowHeight_}; }
+QSize RollList::minimumSizeHint() const { return {columnWidth_ + 20, 4 * rowHeight_}; }
 
 std::int64_t RollList::Length() const { return RollFileLength(file_); }
 std::int64_t RollList::Top() const { return verticalScrollBar()->value() + std::int64_t{1}; }
@@ -205,7 +205,10 @@ void RollList::PaintEnd(QPainter& painter, const QRect& cell) const {
 // An arrow at the next roll, and the face that has been typed.
 void RollList::PaintMarker(QPainter& painter, const QRect& cell) const {
   painter.setRenderHint(QPainter::Antialiasing);
-  const QColor colour = palette().color(hasFocus() ? QPalette::Highlight : QPalette::Text);
+  const bool selected = SelectedRolls(file_).Count > 1;
+  const QColor colour = palette().color(selected     ? QPalette::HighlightedText
+                                        : hasFocus() ? QPalette::Highlight
+                                                     : QPalette::Text);
   painter.setPen(Qt::NoPen);
   painter.setBrush(colour);
   const double middle = cell.top() + cell.height() / 2.0;

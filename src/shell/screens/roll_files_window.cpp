@@ -91,7 +91,7 @@ constexpr const char* kTitles[3] = {"Dice Roll File", "Record Dice Rolls During 
                                     "Playback Dice Rolls During Game Play"};
 constexpr const char* kTitleEnter = "Record Dice Rolls";
 constexpr const char* kTitleEdit = "Dice Roll File";
-constexpr QSize kPadButton{42, 22};
+constexpr QSize kPadButton{40, 22};
 constexpr int kPadFace = 14;
 
 QString NumberText(std::int64_t number) { return QLocale().toString(static_cast<qlonglong>(number)); }
@@ -259,24 +259,25 @@ void RollFilesWindow::AddPad(QBoxLayout& column) {
 }
 
 void RollFilesWindow::AddModes(QBoxLayout& column) {
-  auto* row = new QHBoxLayout;
+  auto* grid = new QGridLayout;
+  grid->setVerticalSpacing(4);
   mode_ = new QButtonGroup(this);
   const QString captions[2] = {tr(" Type over"), tr(" Insert")};
   for (int insert = 0; insert < 2; ++insert) {
     auto* radio = new QRadioButton(captions[insert], this);
     radio->setObjectName(QString("optInsertRolls%1").arg(insert));
     mode_->addButton(radio, insert);
-    row->addWidget(radio);
+    grid->addWidget(radio, insert, 0);
   }
   connect(mode_, &QButtonGroup::idClicked, this,
           [this](int insert) { game_.rollFile.RollFileInsertMode = insert == 1; });
-  row->addStretch();
   auto* random = new QPushButton(tr("Ran&dom"), this);
   random->setObjectName("cmdRandomNum");
   random->setFocusPolicy(Qt::TabFocus);
   connect(random, &QPushButton::clicked, this, &RollFilesWindow::EnterRandom);
-  row->addWidget(random);
-  column.addLayout(row);
+  grid->addWidget(random, 0, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
+  grid->setColumnStretch(0, 1);
+  column.addLayout(grid);
 }
 
 void RollFilesWindow::AddFormat(QBoxLayout& column) {
@@ -310,7 +311,10 @@ void RollFilesWindow::AddRecorder(QBoxLayout& column) {
   const QString texts[3] = {tr("\u25a0 Off"), tr("\u25cf Record"), tr("\u25b6 Playback")};
   const QString names[3] = {tr("Recorder off"), tr("Record the game's rolls"), tr("Play the file's rolls")};
   for (int state = 0; state < 3; ++state) {
-    auto* button = new QPushButton(texts[state], box);
+    auto* button = new QToolButton(box);
+    button->setText(texts[state]);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setMinimumHeight(26);
     button->setObjectName(QString("picRecorder%1").arg(state));
     button->setAccessibleName(names[state]);
     button->setToolTip(names[state]);
@@ -603,14 +607,21 @@ void RollFilesWindow::SetFormat() {
 
 // --- Paper.
 
-void RollFilesWindow::Print() {
+bool RollFilesWindow::ReadyToPrint() {
   constexpr const char* kTitle = "Print Dice Roll File";
-  if (!IsRollFileOpen(game_.rollFile)) return TellOpenFileFirst(game_, kTitle);
-  if (RollFileLength(game_.rollFile) == 0)
-    return TellDiceProblem(game_, kTitle, MessageText<Msg::kNoRollsToPrint>());
-  if (!IsRollFormatUsable(game_.rollFile.RollFileOutputFormat))
-    return TellDiceProblem(game_, "Print Dice Rolls", MessageText<Msg::kNoDiceInFormat>());
-  if (print) print();
+  if (!IsRollFileOpen(game_.rollFile))
+    TellOpenFileFirst(game_, kTitle);
+  else if (RollFileLength(game_.rollFile) == 0)
+    TellDiceProblem(game_, kTitle, MessageText<Msg::kNoRollsToPrint>());
+  else if (!IsRollFormatUsable(game_.rollFile.RollFileOutputFormat))
+    TellDiceProblem(game_, "Print Dice Rolls", MessageText<Msg::kNoDiceInFormat>());
+  else
+    return true;
+  return false;
+}
+
+void RollFilesWindow::Print() {
+  if (ReadyToPrint() && print) print();
 }
 
 namespace {
@@ -618,6 +629,13 @@ namespace {
 RollSelection RollsToPrint(const RollFile& file) {
   const RollSelection selection = SelectedRolls(file);
   return selection.Count > 1 ? selection : RollSelection{1, RollFileLength(file)};
+}
+
+// How many rows there are, and of how many.
+QString RollsTaken(const RollFile& file) {
+  const std::int32_t count = RollsToPrint(file).Count;
+  if (count <= kMostRowsTaken) return NumberText(count);
+  return QObject::tr("%1 of %2").arg(NumberText(kMostRowsTaken), NumberText(count));
 }
 
 }  // namespace
@@ -635,11 +653,15 @@ QList<QStringList> RollFilesWindow::Rows() const {
   return rows;
 }
 
+QString RollFilesWindow::PrintTitle() const { return tr("Print Dice Rolls"); }
+
 QStringList RollFilesWindow::PrintHeadings() const {
-  const RollSelection taken = RollsToPrint(game_.rollFile);
-  QString count = NumberText(std::min(taken.Count, kMostRowsTaken));
-  if (taken.Count > kMostRowsTaken) count = tr("%1 of %2").arg(count, NumberText(taken.Count));
-  return {tr("Number of rolls to be printed: %1").arg(count),
+  return {tr("Roll file:  %1").arg(FromCore(game_.rollFile.RollFileName)),
+          tr("Rolls: %1").arg(RollsTaken(game_.rollFile))};
+}
+
+QStringList RollFilesWindow::PrintFacts(int /*pages*/) const {
+  return {tr("Number of rolls to be printed: %1").arg(RollsTaken(game_.rollFile)),
           tr("Roll file:  %1").arg(FromCore(game_.rollFile.RollFileName))};
 }
 

@@ -34,6 +34,11 @@ class RollFilesWindow : public ToolWindow {
   // The selected rolls in the output format, a row each; all of them when no more than one is selected.
   QList<QStringList> Rows() const override;
   QStringList PrintHeadings() const override;
+  // The title of the boxes about printing, what is told before it, and whether there is anything to print; if
+  // not, it has been told.
+  QString PrintTitle() const;
+  QStringList PrintFacts(int pages) const;
+  bool ReadyToPrint();
   bool HasPicture() const override { return true; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override;
 
