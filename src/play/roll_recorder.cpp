@@ -1,7 +1,7 @@
 #include "play/roll_recorder.h"
 
 #include "dice/roll_file.h"
-#include "play/auto_roll.h"
+#include "state/run_stop.h"
 #include "state/show_message.h"
 #include "stats/events_log.h"
 
@@ -27,7 +27,7 @@ void AskRewind(Game& game) {
 
 void StopRollFileAndAsk(Game& game) {
   if (game.rollFile.RecorderState == kRecorderOff) return;
-  if (game.table.AutoRollActive) ToggleAutoRoll(game);
+  if (game.table.AutoRollActive) StopRun(game, "");
   AskRewind(game);
 }
 

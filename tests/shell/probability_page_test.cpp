@@ -133,6 +133,12 @@ TEST(ProbabilityPage, RandomEditsAreTakenBackOneByOne) {
   }
   editor.Trigger("mnuRedo");
   EXPECT_EQ(values(), states[1]);
+  // Dice that came from elsewhere are not given up for older ones.
+  ASSERT_TRUE(SetProbabilityCell(editor.Dice(), 7, 6, 50'000, true));
+  const std::int32_t there = editor.Value({7, 6});
+  editor.window->Refresh();
+  editor.Trigger("mnuUndo");
+  EXPECT_EQ(editor.Value({7, 6}), there);
 }
 
 TEST(ProbabilityPage, NewAndOpenAskBeforeNumbersAreGivenUp) {

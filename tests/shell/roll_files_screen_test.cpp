@@ -13,11 +13,13 @@
 #include "dice/roll_edit.h"
 #include "play/auto_roll.h"
 #include "play/roll_recorder.h"
+#include "shell/frame/main_window.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/roll_files_chart.h"
 #include "shell/screens/roll_files_list.h"
 #include "shell/screens/roll_files_window.h"
 #include "shell/screens_support.h"
+#include "shell/table/table_widget.h"
 #include "state/show_message.h"
 
 namespace tessaryn::test {
@@ -153,6 +155,7 @@ TEST(RollFilesScreen, FilesInAndOut) {
   screen.host.answers.No();
   QueuedFileNames() = {out, ""};
   screen.Trigger("mnuCopyToRollFile");
+  EXPECT_EQ(screen.game->box.MsgId, Msg::kAskCopyOver);
   screen.host.answers.Ok();
   QueuedFileNames() = {screen.path, ""};
   screen.Trigger("mnuCopyToRollFile");
@@ -216,6 +219,49 @@ TEST(RollFilesScreen, TheRecorderRecordsAndPlaysAndItsEndAsks) {
   EXPECT_EQ(screen.File().RecorderState, kRecorderOff);
   screen.Trigger("mnuClose");
   EXPECT_FALSE(IsRollFileOpen(screen.File()));
+}
+
+TEST(RollFilesScreen, ARunIsAskedToStopBeforeAnythingIsChanged) {
+  RollScreen screen;
+  const Rolls rolls = SomeRolls(9);
+  screen.Open(rolls);
+  screen.State().AutoRollActive = true;
+  for (const char* name : {"cmdRollNumbers3", "cmdRandomNum", "picRecorder2"}) {
+    screen.host.answers.No();
+    Click(*screen.window, name);
+    EXPECT_TRUE(screen.host.answers.Empty()) << name;
+  }
+  for (const char* name : {"mnuCut", "mnuDelete", "mnuPaste", "mnuUndo", "mnuClose", "mnuNewOpen"}) {
+    screen.host.answers.No();
+    screen.Trigger(name);
+    EXPECT_TRUE(screen.host.answers.Empty()) << name;
+  }
+  screen.State().AutoRollActive = false;
+  EXPECT_EQ(screen.OnDisk(screen.path), rolls);
+  EXPECT_EQ(screen.File().RecorderState, kRecorderOff);
+}
+
+TEST(RollFilesScreen, TheTablesCommandsOpenItAndEscapeStopsTheFile) {
+  ScreenTable table;
+  RollFile& file = table.game->rollFile;
+  MainWindow window(*table.game, table.host);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  for (const char* command : {"mnuDiceRollFiles", "mnuPercentageDiceEditor"}) {
+    window.Command(command)->trigger();
+    EXPECT_TRUE(window.Command(command)->isChecked()) << command;
+    window.Command(command)->trigger();
+    EXPECT_FALSE(window.Command(command)->isChecked()) << command;
+  }
+  ASSERT_EQ(OpenRollFile(file, table.folder.filePath("b.rol").toStdString()), "");
+  ASSERT_EQ(SetRecorder(*table.game, kRecorderPlayback), "");
+  table.host.answers.Cancel();
+  table.host.answers.No();
+  for (const int state : {kRecorderPlayback, kRecorderOff}) {
+    QTest::keyClick(&window.Table(), Qt::Key_Escape);
+    EXPECT_EQ(file.RecorderState, state);
+  }
+  EXPECT_TRUE(table.host.answers.Empty() && IsRollFileOpen(file));
 }
 
 TEST(RollFilesScreen, TenMillionRollsScrollAtOnceAndAreCountedInTheBackground) {

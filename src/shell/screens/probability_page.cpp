@@ -206,8 +206,11 @@ void ProbabilityPage::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
 }
 
+// What is taken back are this page's changes, not those of a script, another page or another game.
 void ProbabilityPage::Refresh() {
-  if (!IsShownAlike(shown_, game_.percentage)) ShowDice();
+  if (IsShownAlike(shown_, game_.percentage)) return;
+  if (shown_.ProbMatrix[1] != game_.percentage.ProbMatrix[1]) edits_ = {};
+  ShowDice();
 }
 
 void ProbabilityPage::ShowDice() {
