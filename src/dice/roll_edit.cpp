@@ -134,10 +134,10 @@ std::string EditRolls(RollFile& file, RollEdits& edits, RollPlace place,
     if (MarkOf(file) != before) Forget(edits);
     return error;
   }
-  edits.Redo.clear();
   if (step.At < 0 || step.Out < 0) {
     Forget(edits);
   } else if (step.In != 0 || step.Out != 0) {
+    edits.Redo.clear();
     if (edits.Undo.size() == kMostUndoSteps) edits.Undo.erase(edits.Undo.begin());
     edits.Undo.push_back(step);
   }
