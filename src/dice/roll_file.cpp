@@ -187,12 +187,14 @@ struct Insertion {
   std::int64_t Count = 0;
   unsigned char Roll = 0;
   const Source* From = nullptr;
-  std::string Name{};  // of From
+  std::string Name{};   // of From
+  std::int64_t At = 0;  // in From
 };
 
 std::string WriteInsertion(FileReplacement& target, const Insertion& insertion) {
   if (insertion.From != nullptr)
-    return CopyPart(target, insertion.From->Descriptor, insertion.Name, 0, insertion.Count, AsBytes);
+    return CopyPart(target, insertion.From->Descriptor, insertion.Name, insertion.At, insertion.Count,
+                    AsBytes);
   Block block;
   block.fill(insertion.Roll);
   std::string error;
@@ -628,6 +630,32 @@ std::string ReplaceRolls(RollFile& file, const std::string& sourcePath) {
   if (error.empty()) error = Splice(file, 0, file.Channel.Length, {source.Length, 0, &source, sourcePath});
   if (error.empty()) SetCursor(file, 1);
   return error;
+}
+
+// A single byte, and a file's new end, are in place or not; all else needs a new file.
+std::string SpliceRolls(RollFile& file, std::int64_t offset, std::int64_t removed, int from, std::int64_t at,
+                        std::int64_t count) {
+  std::string error = PrepareToWrite(file);
+  if (!error.empty()) return error;
+  RollFileChannel& channel = file.Channel;
+  if (offset < 0 || removed < 0 || count < 0 || offset + removed > channel.Length)
+    return MessageText<Msg::kFileShortened>(With<"path">(file.RollFileName));
+  const bool atEnd = offset + removed == channel.Length;
+  if (count == 0 && atEnd) {
+    if (ftruncate(channel.Descriptor, offset) != 0) return FileError(file, "write");
+    channel.Length = static_cast<std::int32_t>(offset);
+    return {};
+  }
+  unsigned char roll = 0;
+  if (count == 1 && (removed == 1 || (atEnd && removed == 0 && offset < kRollFileMaximum))) {
+    if (ReadAt(from, at, &roll, 1) != 1 || WriteAt(channel.Descriptor, offset, &roll, 1) != 1)
+      return FileError(file, "write");
+    channel.Length = std::max(channel.Length, static_cast<std::int32_t>(offset + 1));
+    return {};
+  }
+  Source source;
+  source.Descriptor = fcntl(from, F_DUPFD_CLOEXEC, 0);
+  return Splice(file, offset, removed, {count, 0, &source, file.RollFileName, at});
 }
 
 std::string DeleteRolls(RollFile& file) {

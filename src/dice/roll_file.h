@@ -137,6 +137,9 @@ std::string PasteRolls(RollFile& file, const std::string& sourcePath, std::int32
                        std::int32_t count);
 // The rolls of another file in place of all that are there.
 std::string ReplaceRolls(RollFile& file, const std::string& sourcePath);
+// Takes removed rolls out at an offset, from 0, and puts there count bytes that a descriptor has from at on.
+std::string SpliceRolls(RollFile& file, std::int64_t offset, std::int64_t removed, int from, std::int64_t at,
+                        std::int64_t count);
 // Takes the selected rolls out; cursor and selection go to the first of them.
 std::string DeleteRolls(RollFile& file);
 // Through the work file in a folder. The cursor goes behind what is pasted.

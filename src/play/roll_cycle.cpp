@@ -7,6 +7,7 @@
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
+#include "play/roll_recorder.h"
 #include "play/table_files.h"
 #include "rules/bankroll.h"
 #include "rules/bet_limits.h"
@@ -129,14 +130,6 @@ void TakeSnapshots(TableState& table) {
 }
 
 // --- The dice.
-
-void AskRewind(Game& game) {
-  RollFile& file = game.rollFile;
-  const bool recording = file.RecorderState == kRecorderRecord;
-  const int answer = ShowMessage<Msg::kAskRewind>(game, With<"recording">(recording));
-  if (answer == kResultYes) RewindForPlayback(file);
-  if (answer == kResultNo) SetRecorderState(file, kRecorderOff);
-}
 
 // A run, or a roll, that the file had no dice for.
 void StopPlaying(Game& game, const std::string& reason) {

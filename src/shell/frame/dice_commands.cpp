@@ -1,6 +1,7 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
+#include "play/roll_recorder.h"
 #include "rules/shooter.h"
 #include "shell/frame/closing.h"
 #include "shell/frame/commands.h"
@@ -17,6 +18,10 @@ namespace {
 bool CanPass(const Desk& desk) { return IsFree(desk) && desk.game.table.OccupiedSeats > 0; }
 bool CanToggle(const Desk& desk) { return desk.game.table.AutoRollActive || !desk.game.table.RollInProgress; }
 bool RollFileOpen(const Desk& desk) { return IsFree(desk) && IsRollFileOpen(desk.game.rollFile); }
+
+bool RecorderWorks(const Desk& desk) {
+  return IsFree(desk) && desk.game.rollFile.RecorderState != kRecorderOff;
+}
 
 void Roll(Desk& desk) {
   GiveUp(desk.commands);
@@ -44,7 +49,7 @@ void UseRollFile(Desk& desk) {
   const std::string path = ChooseFile(desk.game, desk.window, kOpenRollFile);
   if (path.empty()) return;
   std::string problem = OpenRollFile(desk.game.rollFile, path);
-  if (problem.empty()) problem = SetRecorderState(desk.game.rollFile, state);
+  if (problem.empty()) problem = SetRecorder(desk.game, state);
   if (!problem.empty()) ShowMessage<Msg::kRollFileNotOpened>(desk.game, With<"problem">(problem));
 }
 
@@ -87,8 +92,23 @@ std::span<const CommandRow> DiceCommands() {
        UseRollFile<kRecorderPlayback>, IsFree},
       {"mnuRecordRollFile", QT_TRANSLATE_NOOP("Commands", "R&ecord a dice roll file ..."), nullptr, kAsks,
        UseRollFile<kRecorderRecord>, IsFree},
-      {"mnuCloseRollFile", QT_TRANSLATE_NOOP("Commands", "C&lose the dice roll file"), "Esc", kAsks,
+      {"mnuCloseRollFile", QT_TRANSLATE_NOOP("Commands", "C&lose the dice roll file"), nullptr, kAsks,
        CloseTheRollFile, RollFileOpen},
+      {},
+      {.name = "mnuDiceRollFiles",
+       .caption = QT_TRANSLATE_NOOP("Commands", "Dice roll &files"),
+       .key = "F8",
+       .act = [](Desk& desk) { ToggleTool(desk, kDiceRollFilesWindow); },
+       .ticked = [](const Desk& desk) { return ToolIsShown(desk, kDiceRollFilesWindow); }},
+      {.name = "mnuPercentageDiceEditor",
+       .caption = QT_TRANSLATE_NOOP("Commands", "Percentage dice ed&itor"),
+       .act = [](Desk& desk) { ToggleTool(desk, kPercentageDiceWindow); },
+       .ticked = [](const Desk& desk) { return ToolIsShown(desk, kPercentageDiceWindow); }},
+      {.name = "mnuStopRollFile",
+       .caption = QT_TRANSLATE_NOOP("Commands", "&Stop the dice roll file"),
+       .key = "Esc",
+       .act = [](Desk& desk) { StopRollFileAndAsk(desk.game); },
+       .can = RecorderWorks},
   };
   return kCommands;
 }

@@ -6,9 +6,12 @@
 
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
+#include "shell/frame/printing.h"
 #include "shell/frame/tool_menu.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/report_window.h"
+#include "shell/screens/probability_page.h"
+#include "shell/screens/roll_files_window.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
@@ -51,6 +54,15 @@ ToolWindow* MakeReportWindow(Desk& desk) {
   return report;
 }
 
+
+ToolWindow* MakeRollFiles(Desk& desk) {
+  auto* window = new RollFilesWindow(desk.game, desk.window);
+  window->print = [&desk, window] { PrintTool(desk, *window); };
+  return window;
+}
+
+ToolWindow* MakePercentageDice(Desk& desk) { return new PercentageDiceWindow(desk.game, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -64,6 +76,8 @@ struct ToolRow {
 constexpr ToolRow kTools[] = {
     {kRollPadWindow, MakeRollPad, true},
     {kMoveWindow, MakeMovePanel, true},
+    {kDiceRollFilesWindow, MakeRollFiles},
+    {kPercentageDiceWindow, MakePercentageDice},
     {kSummaryWindow, MakeReportWindow<kSummaryWindow>},
     {kHandsWindow, MakeReportWindow<kHandsWindow>},
     {kBetResultsWindow, MakeReportWindow<kBetResultsWindow>},

@@ -42,6 +42,31 @@ const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New F
                                 true,
                                 kRollFileFolder};
 
+const FilePurpose kCopyToRollFile{"Copy To Dice Roll File",
+                                  "Dice roll file (*.rol);;All files (*)",
+                                  ".rol",
+                                  true,
+                                  true,
+                                  kRollFileFolder,
+                                  false,
+                                  "Copy To Roll File"};
+const FilePurpose kCopyToTextFile{"Copy Dice Rolls To Text File",
+                                  "Text files (*.txt);;All files (*)",
+                                  ".txt",
+                                  true,
+                                  true,
+                                  kRollFileFolder,
+                                  false,
+                                  "Copy To Text File"};
+const FilePurpose kPasteFromRollFile{"Paste From Dice Roll File",
+                                     "Dice roll file (*.rol);;All files (*)",
+                                     ".rol",
+                                     false,
+                                     false,
+                                     kRollFileFolder};
+const FilePurpose kPasteFromTextFile{
+    "Paste From Ascii/Text File", "Text files (*.txt);;All files (*)", ".txt", false, false, kRollFileFolder};
+
 std::deque<std::string>& QueuedFileNames() {
   static std::deque<std::string> names;
   return names;
@@ -75,6 +100,8 @@ FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const st
   if (fs::is_directory(path, error)) return {Msg::kPathIsFolder, path};
   const bool there = fs::exists(path, error);
   if (!there && !purpose.mayBeNew) return {Msg::kFileNotFound, path};
+  if (there && purpose.copies != nullptr && IsSameFile(path, game.rollFile.RollFileName))
+    return {Msg::kFileFailed, MessageText<Msg::kCopyToOpenFile>(With<"command">(purpose.copies))};
   if (there && &purpose == &kOpenRollFile) {
     bool valid = false;
     const std::string problem = CheckRollFile(path, valid);
@@ -124,8 +151,10 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
 bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
   std::error_code error;
   if (!purpose.save || !fs::exists(path, error)) return true;
-  return Confirms<Msg::kAskReplaceFile>(game, With<"title">(purpose.title),
-                                        With<"file">(fs::path(path).filename().string()));
+  const auto title = With<"title">(purpose.title);
+  const auto file = With<"file">(fs::path(path).filename().string());
+  if (&purpose == &kCopyToRollFile) return Confirms<Msg::kAskCopyOver>(game, title, file);
+  return Confirms<Msg::kAskReplaceFile>(game, title, file);
 }
 
 }  // namespace

@@ -23,6 +23,8 @@ struct FilePurpose {
   bool mayBeNew;          // a file that is opened may also be made
   int folder = -1;        // ChooserFolder: the one that is remembered for it; -1 none
   bool samples = false;   // there are samples of it
+  // Dice rolls are copied there by the command of this name, which the open dice roll file is no target for.
+  const char* copies = nullptr;
 };
 
 extern const FilePurpose kOpenGame;
@@ -33,6 +35,10 @@ extern const FilePurpose kHotKeyScript;
 extern const FilePurpose kOpenProbabilities;
 extern const FilePurpose kSaveProbabilities;
 extern const FilePurpose kOpenRollFile;
+extern const FilePurpose kCopyToRollFile;
+extern const FilePurpose kCopyToTextFile;
+extern const FilePurpose kPasteFromRollFile;
+extern const FilePurpose kPasteFromTextFile;
 
 // The chosen path, or empty when given up. Names without a folder go to the data folder. Refusals are shown
 // as boxes, and the question is asked again.
