@@ -7,6 +7,8 @@
 
 #include "base/record_file.h"
 #include "shell/frame/desk.h"
+#include "shell/screens/bankroll_graph_screen.h"
+#include "shell/screens/check_stacks_screen.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/roll_pad.h"
@@ -45,6 +47,17 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+ToolWindow* MakeBankrollGraph(Desk& desk) {
+  auto* graph = new BankrollGraphScreen(desk.game, desk.window);
+  graph->commitEntry = [&desk] { return desk.table->CommitEntry(); };
+  desk.host.graphPageFull = [there = QPointer<BankrollGraphScreen>(graph)](Game&) {
+    if (there != nullptr) there->PageFilled();
+  };
+  return graph;
+}
+
+ToolWindow* MakeCheckStacks(Desk& desk) { return new CheckStacksScreen(desk.game, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -54,7 +67,9 @@ struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel},
+                              {kBankrollWindow, MakeBankrollGraph},
+                              {kCheckStacksWindow, MakeCheckStacks}};
 
 const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
 

@@ -551,7 +551,8 @@ void BankrollGraphScreen::AddRunSettings() {
 // --- Printing.
 
 QStringList BankrollGraphScreen::PrintHeadings() const {
-  QStringList lines = PrintHeading(game_, tr("Bankroll"), game_.graph.PlotSeat);
+  QStringList lines = PrintHeading(game_, tr("Bankroll"));
+  lines += {PlayerLine(game_, game_.graph.PlotSeat), GameFileLine(game_)};
   if (printing_) return lines;  // each graph of the sheet has its own
   lines += GraphFigures(view_->Page());
   lines += rolls_->text() + " " + rate_->text() + " " + hours_->text();

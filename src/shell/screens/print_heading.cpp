@@ -7,14 +7,21 @@
 #include "state/game.h"
 
 namespace tessaryn {
+namespace {
+QString Translated(const char* text) { return QCoreApplication::translate("PrintHeading", text); }
+}  // namespace
 
-QStringList PrintHeading(const Game& game, const QString& what, int seat) {
-  const auto translated = [](const char* text) { return QCoreApplication::translate("PrintHeading", text); };
-  QStringList lines{"Tessaryn " + what, FromCore(game.host->DateText())};
-  if (seat != 0) lines += translated("Player:  ") + FromCore(game.table.seats[seat].SeatName);
-  lines += translated("Game file:  ") +
-           (game.file.Path.empty() ? translated("untitled") : FromCore(FileTitle(game.file.Path)));
-  return lines;
+QStringList PrintHeading(const Game& game, const QString& what) {
+  return {"Tessaryn " + what, FromCore(game.host->DateText())};
+}
+
+QString GameFileLine(const Game& game) {
+  const std::string& path = game.file.Path;
+  return Translated("Game file:  ") + (path.empty() ? Translated("untitled") : FromCore(FileTitle(path)));
+}
+
+QString PlayerLine(const Game& game, int seat) {
+  return Translated("Player:  ") + FromCore(game.table.seats[seat].SeatName);
 }
 
 }  // namespace tessaryn

@@ -7,8 +7,11 @@ namespace tessaryn {
 
 struct Game;
 
-// "Tessaryn Bankroll", the date, "Game file:  friday.crp" or "Game file:  untitled", "Player:  Ann". The last
-// is left out for seat 0.
-QStringList PrintHeading(const Game& game, const QString& what, int seat);
+// "Tessaryn Bankroll" and the date.
+QStringList PrintHeading(const Game& game, const QString& what);
+// "Game file:  friday.crp", "Game file:  untitled"
+QString GameFileLine(const Game& game);
+// "Player:  Ann"
+QString PlayerLine(const Game& game, int seat);
 
 }  // namespace tessaryn
