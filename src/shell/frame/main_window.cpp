@@ -101,6 +101,7 @@ MainWindow::~MainWindow() {
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
   host_.askSettlement = nullptr;
+  host_.graphPageFull = nullptr;
   host_.betweenRolls = nullptr;
 }
 

@@ -559,6 +559,8 @@ QStringList BankrollGraphScreen::PrintHeadings() const {
   return lines;
 }
 
+QSizeF BankrollGraphScreen::PictureSize() const { return printing_ ? QSizeF(720, 940) : QSizeF(720, 440); }
+
 void BankrollGraphScreen::PaintPicture(QPainter& painter, const QRectF& area) const {
   const GraphColours colours = GraphColoursOf(game_.screen.Graph, false);
   if (printing_)
@@ -571,10 +573,12 @@ void BankrollGraphScreen::PrintSheet() {
   // A box of the printer lets a run go on, which may fill the next page.
   if (printing_) return;
   printing_ = true;
-  const std::size_t printed = waiting_.size();
-  if (printNow) printNow();
-  waiting_.erase(waiting_.begin(), waiting_.begin() + static_cast<std::ptrdiff_t>(printed));
+  const std::size_t sent = waiting_.size();
+  const bool printed = printNow && printNow();
   printing_ = false;
+  // A run isn't held up by each of its pages when there is no printer.
+  if (!printed) autoPrint_ = false;
+  if (printed) waiting_.erase(waiting_.begin(), waiting_.begin() + static_cast<std::ptrdiff_t>(sent));
 }
 
 void BankrollGraphScreen::FinishPrinting() {

@@ -28,13 +28,16 @@ class BankrollGraphScreen : public ToolWindow {
   BankrollGraphScreen(Game& game, QWidget* parent);
   // Takes the amount of an open bet entry before a run begins. False when that gave a message. May be empty.
   std::function<bool()> commitEntry;
-  // Prints the window's picture at once, without a question. May be empty: then nothing is printed.
-  std::function<void()> printNow;
+  // Prints the window's picture at once, without a question. False when it can't, which has been told. May be
+  // empty: then nothing is printed.
+  std::function<bool()> printNow;
 
   void Refresh() override;
   QStringList PrintHeadings() const override;
   bool HasPicture() const override { return true; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override;
+  // In units of a screen; a sheet of several graphs has the shape of a page.
+  QSizeF PictureSize() const;
 
   // A page has been filled: with automatic printing it goes to the printer, as soon as there are enough for a
   // sheet of paper.

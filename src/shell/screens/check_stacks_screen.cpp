@@ -131,7 +131,9 @@ void CheckStacksScreen::AddSetStacks(QBoxLayout& column) {
     numbers_[n] = new QSpinBox(setStacks_);
     numbers_[n]->setObjectName(QString("txtStackNum%1").arg(n));
     numbers_[n]->setRange(0, kCheckStacks - 1);
-    numbers_[n]->setAccessibleName(label->text());
+    for (QWidget* part :
+         {static_cast<QWidget*>(numbers_[n]), numbers_[n]->findChild<QWidget*>("qt_spinbox_lineedit")})
+      part->setAccessibleName(label->text());
     label->setBuddy(numbers_[n]);
     grid->addWidget(label, n, 0);
     grid->addWidget(numbers_[n], n, 1);
@@ -298,6 +300,7 @@ void CheckStacksScreen::Refresh() {
     CloseSetStacks();
     view_->setAccessibleName(tr("CheckStacks of %1").arg(FromCore(game_.table.seats[seat].SeatName)));
     if (seat != 0) view_->setCurrentIndex(list_->index(0, kStackName));
+    ShowMenu();
   }
   list_->Follow();
   ShowVisible();
@@ -349,6 +352,7 @@ void CheckStacksScreen::Edit(const std::function<void()>& work) {
   undone_.clear();
   game_.host->Changed(game_, Change::kLayout);
   Refresh();
+  ShowMenu();
 }
 
 // What a script has changed since stays as it is; so does everything of a seat that has another player now.
@@ -370,6 +374,7 @@ void CheckStacksScreen::TakeStep(std::vector<Step>& from, std::vector<Step>& to,
   if (Seat() != step.seat) game_.screen.CheckStacks.CheckStackSeat = step.seat;
   game_.host->Changed(game_, Change::kLayout);
   Refresh();
+  ShowMenu();
   view_->scrollTo(list_->index(step.changes.front().stack, kStackName));
 }
 
