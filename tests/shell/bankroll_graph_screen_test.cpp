@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QColorDialog>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QLabel>
@@ -39,8 +40,8 @@ struct OpenGraph : ScreenTable {
   void RollOn(int rolls) {
     std::uniform_int_distribution<int> die(1, 6);
     for (int n = 0; n < rolls; ++n) {
-      Bet(3, kField, "25");
-      Bet(5, kBig8, "12");
+      if (State().BetAmount(3, kField) == kZero) Bet(3, kField, "25");
+      if (State().BetAmount(5, kBig8) == kZero) Bet(5, kBig8, "12");
       const int die1 = die(random);
       const int die2 = die(random);
       Roll(die1, die1 + die2 == 7 ? die1 : die2);  // nobody is asked to take the dice
@@ -86,6 +87,7 @@ TEST(BankrollGraphScreen, TellsTheBankrollOfEachRoll) {
 // The curve is where the scale says, from the first cell to the last, and so are average and reference lines.
 TEST(BankrollGraphScreen, DrawsEachPointWhereTheScaleHasIt) {
   OpenGraph table;
+  table.Choose("mnuGraphAdjustType2");
   table.RollOn(525);
   table.game->graph.DisplayGridLines = false;
   for (const int style : {kGraphPlain, kGraphStriped, kGraphSolid}) {
@@ -185,6 +187,14 @@ TEST(BankrollGraphScreen, ButtonsAndKeysMoveTheScaleAsTheMenuSetsTheModes) {
   QTest::keyClick(&players, Qt::Key_Down);
   EXPECT_EQ(graph.PlotSeat, 5);
   EXPECT_EQ(table.Text("lblCurrentBankroll"), GraphMoney(table.closing[5].back()));
+  WhenOpen("frmSetColor", [](QDialog& dialog) {
+    static_cast<QColorDialog&>(dialog).setCurrentColor(QColor(1, 2, 3));
+    dialog.accept();
+  });
+  table.Choose("mnuSetColor4");
+  EXPECT_EQ(table.game->screen.Graph.GraphColors[kGraphBankroll], 0x010203);
+  table.Choose("mnuDefaultColors");
+  EXPECT_EQ(table.game->screen.Graph.GraphColors[kGraphBankroll], -1);
   const int mask = table.game->settings.MessageMask;
   table.Choose("mnuShowLoggedMessages");
   EXPECT_EQ(table.game->settings.MessageMask, mask ^ 16);
@@ -272,6 +282,8 @@ TEST(BankrollGraphScreenLooks, PicturesInLightAndDarkAndSmall) {
     SetReferenceRoll(*table.game, 2, 310);
     table.Choose("mnuTogether5");
     table.Choose("mnuGraphStyle1");
+    table.Choose("mnuGraphAdjustType2");
+    QTest::qWait(5);
     SavePicture(table.screen, "graph-together" + look);
     QImage sheet(794, 1123, QImage::Format_RGB32);
     sheet.fill(Qt::white);
@@ -281,6 +293,7 @@ TEST(BankrollGraphScreenLooks, PicturesInLightAndDarkAndSmall) {
     painter.end();
     QLabel paper;
     paper.setPixmap(QPixmap::fromImage(sheet));
+    paper.resize(sheet.size());
     SavePicture(paper, "graph-sheet" + look);
   }
   QApplication::setPalette(before);

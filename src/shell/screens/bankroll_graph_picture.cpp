@@ -155,7 +155,7 @@ void PaintArea(QPainter& painter, const GraphFrame& frame, const GraphPage& page
     return;
   }
   QList<QLineF> stripes;
-  for (qsizetype at = 0; at < line.size(); at += 4)
+  for (qsizetype at = 0; at < line.size(); at += 6)
     stripes.append(QLineF(line[at], QPointF(line[at].x(), frame.plot.bottom())));
   painter.setPen(QPen(colours.parts[kGraphArea].darker(115), 1.5 * frame.unit));
   painter.drawLines(stripes);
@@ -179,10 +179,10 @@ void PaintReferences(QPainter& painter, const GraphFrame& frame, const GraphPage
     const double x = Middle(frame.X(page.references[which]));
     painter.setPen(QPen(colour, 1.5 * frame.unit, which == 0 ? Qt::SolidLine : Qt::DashLine));
     painter.drawLine(QPointF(x, frame.plot.top()), QPointF(x, frame.plot.bottom()));
-    // A flag at its foot with the line's number: the first at the left, the second at the right.
+    // A flag at its foot with the line's number, the second above the first.
     const QSizeF size(metrics.horizontalAdvance('0') + 6 * frame.unit, metrics.height());
-    const double left = which == 0 ? x - size.width() : x;
-    const QRectF flag(QPointF(left, frame.plot.bottom() - size.height()), size);
+    const double left = x + size.width() > frame.plot.right() ? x - size.width() : x;
+    const QRectF flag(QPointF(left, frame.plot.bottom() - (1 + which) * size.height()), size);
     painter.fillRect(flag, colour);
     painter.setPen(colours.parts[kGraphBackground]);
     painter.drawText(flag, Qt::AlignCenter, QString::number(which + 1));

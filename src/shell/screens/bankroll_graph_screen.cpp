@@ -113,6 +113,7 @@ void BankrollGraphScreen::AddHeader(QBoxLayout& column) {
   options->setText(tr("Options"));
   options->setToolTip(tr("Modes, averages, colors, printing"));
   options->setFocusPolicy(Qt::StrongFocus);
+  options->setMinimumWidth(options->sizeHint().width() + 12);  // the arrow stands beside the word
   options->setPopupMode(QToolButton::InstantPopup);
   menu_ = new QMenu(this);
   menu_->setObjectName("mnuGraph");
@@ -177,6 +178,7 @@ void BankrollGraphScreen::AddReferences(QBoxLayout& column) {
   rollsDif_->setObjectName("lblRollsDif");
   bankrollDif_ = new QLabel(references_);
   bankrollDif_->setObjectName("lblBankrollDif");
+  bankrollDif_->setMinimumWidth(fontMetrics().horizontalAdvance(tr("Bankroll dif") + "  -9,999,999"));
   grid->addWidget(rollsDif_, 0, 3);
   grid->addWidget(bankrollDif_, 1, 3);
   column.addWidget(references_);
@@ -247,6 +249,7 @@ void BankrollGraphScreen::AddRun(QBoxLayout& column) {
   row->addWidget(new QLabel(tr("fast"), this));
   row->addWidget(throttle_, 1);
   row->addWidget(new QLabel(tr("slow"), this));
+  row->addSpacing(8);
   row->addWidget(speed_);
   row->addWidget(run_);
 }

@@ -122,7 +122,7 @@ int GraphView::ReferenceAt(double x) const {
   const double off1 = std::abs(frame.X(page_.references[0]) - x);
   const double off2 = std::abs(frame.X(page_.references[1]) - x);
   if (std::min(off1, off2) > kGrip) return 0;
-  // Where they stand together, each is taken at its flag's side.
+  // Where they stand together, each is taken at a side of its own.
   if (off1 == off2) return x < frame.X(page_.references[0]) ? 1 : 2;
   return off1 < off2 ? 1 : 2;
 }

@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
@@ -34,6 +35,20 @@ constexpr int kFontSizes[] = {0, 9, 10, 11, 12, 13, 14, 16};
 void Show(QLabel& label, const QString& text) {
   if (label.text() != text) label.setText(text);
 }
+
+// Its text is shortened where there is no room for it.
+class ShortLabel : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect(), static_cast<int>(alignment()),
+                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+  }
+};
 
 // A name is one line.
 std::string NameFrom(const QString& text) { return text.simplified().toStdString(); }
@@ -82,6 +97,7 @@ void CheckStacksScreen::AddHeader(QBoxLayout& column) {
   options->setText(tr("Options"));
   options->setToolTip(tr("Undo, clipboard, deletions, the stacks on the table"));
   options->setFocusPolicy(Qt::StrongFocus);
+  options->setMinimumWidth(options->sizeHint().width() + 12);  // the arrow stands beside the word
   options->setPopupMode(QToolButton::InstantPopup);
   menu_ = new QMenu(this);
   menu_->setObjectName("mnuStacks");
@@ -96,25 +112,26 @@ void CheckStacksScreen::AddVisible(QBoxLayout& column) {
   frame->setFrameShape(QFrame::StyledPanel);
   frame->setObjectName("picVisibleStacks");
   frame->setToolTip(tr("On the table"));
-  auto* row = new QHBoxLayout(frame);
-  row->setContentsMargins(8, 4, 8, 4);
-  row->setSpacing(8);
+  auto* grid = new QGridLayout(frame);
+  grid->setContentsMargins(8, 4, 8, 4);
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(2);
+  grid->setColumnMinimumWidth(2, 8);
+  QFont bold = font();
+  bold.setBold(true);
   for (int n = 0; n < kVisibleStacks; ++n) {
-    auto* box = new QVBoxLayout;
-    box->setSpacing(0);
-    visible_[n] = {new QLabel(frame), new QLabel(frame)};
+    visible_[n] = {new ShortLabel(frame), new QLabel(frame)};
     visible_[n].caption->setObjectName(QString("lblVisibleName%1").arg(n));
+    visible_[n].caption->setTextFormat(Qt::PlainText);
+    // A long name gives way to the figure.
+    visible_[n].caption->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     visible_[n].value->setObjectName(QString("lblVisibleValue%1").arg(n));
-    for (QLabel* label : {visible_[n].caption, visible_[n].value}) {
-      // A long name must not widen the window.
-      label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-      label->setTextFormat(Qt::PlainText);
-      box->addWidget(label);
-    }
-    QFont bold = font();
-    bold.setBold(true);
+    visible_[n].value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     visible_[n].value->setFont(bold);
-    row->addLayout(box, 1);
+    const int left = n % 2 == 0 ? 0 : 3;
+    grid->addWidget(visible_[n].caption, n / 2, left);
+    grid->addWidget(visible_[n].value, n / 2, left + 1);
+    grid->setColumnStretch(left, 1);
   }
   column.addWidget(frame);
 }
@@ -286,9 +303,12 @@ void CheckStacksScreen::ShowVisible() {
     const QString name = seat == 0 ? QString() : FromCore(CheckStackNameOf(game_, seat, stack));
     const QString caption = seat == 0 ? QString() : QString("#%1 %2").arg(stack).arg(name);
     const QString value = seat == 0 ? QString() : FromCore(CheckStackValueText(game_, seat, stack, true));
-    Show(*visible_[n].caption, caption);
+    QLabel& label = *visible_[n].caption;
     Show(*visible_[n].value, value);
-    if (visible_[n].caption->toolTip() != caption) visible_[n].caption->setToolTip(caption);
+    Show(label, caption);
+    if (label.toolTip() != caption) {
+      label.setToolTip(caption);
+    }
   }
 }
 
