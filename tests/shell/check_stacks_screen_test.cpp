@@ -227,6 +227,7 @@ TEST(CheckStacksScreenLooks, PicturesInLightAndDark) {
     }
     SetCheckStackValue(*table.game, 5, 3, ParseMoney("9999999.9999"));
     table.screen.Refresh();
+    QTest::qWait(5);
     SavePicture(table.screen, QString("stacks") + (dark ? "-dark" : "-light"));
     EXPECT_LE(table.screen.minimumSizeHint().width(), 360);
     table.Choose("mnuSetStacks");

@@ -21,6 +21,7 @@ QString Translated(const char* text) { return QCoreApplication::translate("Bankr
 
 constexpr NumberFormat kFigure{0, 2, false};  // "#,#.##;-#,#.##;0"
 constexpr int kRollsBetweenTicks = 100;
+constexpr double kSheetHeading = 2.4;  // lines above a graph on a sheet
 
 // --- Colours: of the parts, and of seats 1 to 8, which dashes and numbers tell apart too.
 
@@ -375,10 +376,11 @@ void PaintGraphs(QPainter& painter, const QRectF& area, const std::vector<GraphP
     const int place = static_cast<int>(n);
     const QRectF room(area.left() + size.width() * (place % columns),
                       area.top() + size.height() * (place / columns), size.width(), size.height());
-    const QRectF graph = room.adjusted(0, 2 * metrics.height(), 0, -metrics.height() / 2);
+    const QRectF graph = room.adjusted(0, kSheetHeading * metrics.height(), 0, -metrics.height() / 2);
     painter.setPen(colours.parts[kGraphPointer]);
     painter.drawText(
-        room.adjusted(0, 0, 0, 2 * metrics.height() - room.height()), Qt::AlignLeft | Qt::AlignTop,
+        room.adjusted(0, 0, 0, kSheetHeading * metrics.height() - room.height()),
+        Qt::AlignLeft | Qt::AlignTop,
         pages[n].curves.front().name + "   " + RollsOf(pages[n]) + "\n" + GraphFigures(pages[n]));
     PaintGraph(painter, graph, pages[n], colours);
   }

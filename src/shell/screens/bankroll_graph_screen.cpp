@@ -483,7 +483,7 @@ void BankrollGraphScreen::AddDisplay() {
       *menu_, "mnuDisplayAverage", tr("Display moving &average"),
       [&graph] { graph.DisplayAverage = !graph.DisplayAverage; }, [&graph] { return graph.DisplayAverage; });
   AddEntry(*menu_, "mnuSetAverage", tr("Set &moving average ..."), [this] { SetMovingAverage(game_); });
-  QMenu* together = menu_->addMenu(tr("Players &together"));
+  QMenu* together = menu_->addMenu(tr("&Players together"));
   together->menuAction()->setObjectName("mnuTogether");
   for (int seat = 1; seat <= kSeats; ++seat)
     AddEntry(

@@ -203,7 +203,7 @@ QAction* CheckStacksScreen::AddEntry(QMenu& menu, const char* name, const QStrin
 }
 
 void CheckStacksScreen::BuildMenu() {
-  AddEntry(*menu_, "mnuUndo", tr("&Undo\tCtrl+Z"), [this] { TakeStep(done_, undone_, true); });
+  AddEntry(*menu_, "mnuUndo", tr("Und&o\tCtrl+Z"), [this] { TakeStep(done_, undone_, true); });
   AddEntry(*menu_, "mnuRedo", tr("&Redo\tCtrl+Y"), [this] { TakeStep(undone_, done_, false); });
   menu_->addSeparator();
   AddEntry(*menu_, "mnuCut", tr("Cu&t\tCtrl+X"), [this] {
