@@ -123,6 +123,9 @@ struct Host {
   // A sound sample by file name; false when there is no such file or sounds are off.
   virtual bool PlaySoundFile(Game&, const std::string&) { return false; }
   virtual void Changed(Game&, Change) {}
+  // The bankroll graph of pages is full: it begins anew with the next point, and its points are the previous
+  // page.
+  virtual void GraphPageFull(Game&) {}
   // A statement of a script was carried out with the steps viewer open.
   virtual void ShowStep(Game&, const ScriptStep&) {}
 };

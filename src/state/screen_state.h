@@ -99,6 +99,27 @@ struct ReportsShown {
 TESSARYN_FIELDS(ReportsShown, Scope, Seats, Seat, AllBets, Bets, HandsPercent, RollGrouping,
                 HideProbabilities, Skewed, Item)
 
+// How the bankroll graph looks.
+enum GraphStyles : int { kGraphPlain = 0, kGraphStriped = 1, kGraphSolid = 2 };
+inline constexpr int kGraphColors = 10;
+inline constexpr int kMostGraphsOnPage = 8;
+
+struct GraphShown {
+  int GraphStyle = kGraphSolid;
+  // Of the parts of the graph, by GraphPart of its screen: 0xRRGGBB, or below 0 what goes with the desktop.
+  int GraphColors[kGraphColors] = {-1, -1, -1, -1, -1, -1, -1, -1, -1, -1};
+  std::uint32_t TogetherSeats = 0;  // bit i: seat i is drawn beside the seat of the graph
+  int GraphsPerPage = 4;            // of automatic printing, 1 to 8
+};
+TESSARYN_FIELDS(GraphShown, GraphStyle, GraphColors, TogetherSeats, GraphsPerPage)
+
+struct CheckStacksShown {
+  int CheckStackSeat = 0;  // 0 the selected player
+  bool DisplayZero = false;
+  int ListFontSize = 0;  // points, 9 to 16; 0 the desktop's
+};
+TESSARYN_FIELDS(CheckStacksShown, CheckStackSeat, DisplayZero, ListFontSize)
+
 struct ScreenState {
   // --- Windows.
   int MainWindow = kMainNormal;
@@ -108,6 +129,8 @@ struct ScreenState {
   // How docks and tabs stand, in the window's own form; empty: none has been docked.
   std::string Arrangement;
   ReportsShown Reports;
+  GraphShown Graph;
+  CheckStacksShown CheckStacks;
   int RailLeft[kSeatRows] = {};  // of the players' rails
   int RailTop[kSeatRows] = {};
   int ReportViewOption = 0;    // of the roll totals
@@ -124,9 +147,10 @@ struct ScreenState {
   std::string Folders[kChooserFolders];  // empty: the data folder
   std::vector<HotKey> HotKeys;           // as HotKeys.dta has them
 };
-TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports,
-                RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews, ShowBetAmounts,
-                ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, Folders, HotKeys)
+TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
+                CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
+                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, Folders,
+                HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

@@ -41,7 +41,8 @@ void MakeRoom(Game& game) {
   if (graph.PlotType != kPlotScroll) {
     graph.PlotCount = 0;
     ++graph.PagesFilled;
-    return FindShownExtremes(game, 0);
+    FindShownExtremes(game, 0);
+    return game.host->GraphPageFull(game);
   }
   graph.PlotCount = kPlotCells - 1;
   const std::int64_t leaving = graph.PlotPoints - kPlotCells + 1;

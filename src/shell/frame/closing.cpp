@@ -12,6 +12,7 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/game_files.h"
 #include "shell/frame/places.h"
+#include "shell/screens/bankroll_graph_screen.h"
 #include "shell/screens/file_chooser.h"
 #include "state/show_message.h"
 
@@ -93,6 +94,9 @@ std::string WriteGame(Desk& desk) {
 std::string KeepGameUnasked(Desk& desk) { return desk.keeps ? WriteGame(desk) : std::string(); }
 
 bool KeepGame(Desk& desk) {
+  // A sheet of graphs that was begun goes to the printer.
+  if (desk.tools[kBankrollWindow] != nullptr)
+    static_cast<BankrollGraphScreen&>(*desk.tools[kBankrollWindow]).FinishPrinting();
   const std::string problem = KeepGameUnasked(desk);
   return problem.empty() || Confirms<Msg::kAskCloseUnkept>(desk.game, With<"problem">(problem));
 }

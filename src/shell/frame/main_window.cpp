@@ -102,6 +102,7 @@ MainWindow::~MainWindow() {
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
   host_.askSettlement = nullptr;
+  host_.graphPageFull = nullptr;
   host_.betweenRolls = nullptr;
 }
 

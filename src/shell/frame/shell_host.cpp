@@ -117,6 +117,10 @@ void ShellHost::Changed(Game& game, Change change) {
   if (changed) changed(game, change);
 }
 
+void ShellHost::GraphPageFull(Game& game) {
+  if (graphPageFull) graphPageFull(game);
+}
+
 void ShellHost::ShowStep(Game& game, const ScriptStep& step) {
   if (showStep) showStep(game, step);
 }

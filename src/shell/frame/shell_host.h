@@ -39,6 +39,8 @@ class ShellHost : public Host {
   // The house's bank is broken: shows it. Not called in a Turbo-Roll.
   std::function<void(Game&)> showWin;
   std::function<void(Game&, const ScriptStep&)> showStep;
+  // A page of the bankroll graph is full, also in a Turbo-Roll.
+  std::function<void(Game&)> graphPageFull;
   Sounds* sounds = nullptr;  // not owned; null: silent
 
   void ShowMessage(Game& game, MessageBox& box) override;
@@ -55,6 +57,7 @@ class ShellHost : public Host {
   void PlaySound(Game& game, Sound sound) override;
   bool PlaySoundFile(Game& game, const std::string& name) override;
   void Changed(Game& game, Change change) override;
+  void GraphPageFull(Game& game) override;
   void ShowStep(Game& game, const ScriptStep& step) override;
 
  private:

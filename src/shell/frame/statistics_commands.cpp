@@ -24,6 +24,8 @@ std::span<const CommandRow> StatisticsCommands() {
       ToolRow<kBetTrendsWindow>("mnuBetTrends", QT_TRANSLATE_NOOP("Commands", "Bet &trends")),
       ToolRow<kRollTotalsWindow>("mnuRollTotals", QT_TRANSLATE_NOOP("Commands", "R&oll totals")),
       ToolRow<kRollFreqsWindow>("mnuRollFreqs", QT_TRANSLATE_NOOP("Commands", "Roll &frequencies")),
+      ToolRow<kBankrollWindow>("mnuBankroll", QT_TRANSLATE_NOOP("Commands", "&Bankroll graph")),
+      ToolRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
   };
   return kCommands;
 }

@@ -8,6 +8,8 @@
 #include "shell/frame/docks.h"
 #include "shell/frame/printing.h"
 #include "shell/frame/tool_menu.h"
+#include "shell/screens/bankroll_graph_screen.h"
+#include "shell/screens/check_stacks_screen.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/report_window.h"
 #include "shell/screens/probability_page.h"
@@ -63,6 +65,18 @@ ToolWindow* MakeRollFiles(Desk& desk) {
 
 ToolWindow* MakePercentageDice(Desk& desk) { return new PercentageDiceWindow(desk.game, desk.window); }
 
+ToolWindow* MakeBankrollGraph(Desk& desk) {
+  auto* graph = new BankrollGraphScreen(desk.game, desk.window);
+  graph->printNow = [&desk, graph] { return PrintNow(desk, *graph); };
+  graph->commitEntry = [&desk] { return desk.table->CommitEntry(); };
+  desk.host.graphPageFull = [there = QPointer<BankrollGraphScreen>(graph)](Game&) {
+    if (there != nullptr) there->PageFilled();
+  };
+  return graph;
+}
+
+ToolWindow* MakeCheckStacks(Desk& desk) { return new CheckStacksScreen(desk.game, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -84,6 +98,8 @@ constexpr ToolRow kTools[] = {
     {kBetTrendsWindow, MakeReportWindow<kBetTrendsWindow>},
     {kRollTotalsWindow, MakeReportWindow<kRollTotalsWindow>},
     {kRollFreqsWindow, MakeReportWindow<kRollFreqsWindow>},
+    {kBankrollWindow, MakeBankrollGraph},
+    {kCheckStacksWindow, MakeCheckStacks},
 };
 
 const ToolRow* RowOf(int number) {

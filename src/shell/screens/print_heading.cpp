@@ -1,0 +1,27 @@
+#include "shell/screens/print_heading.h"
+
+#include <QCoreApplication>
+
+#include "base/record_file.h"
+#include "shell/table/screen_tools.h"
+#include "state/game.h"
+
+namespace tessaryn {
+namespace {
+QString Translated(const char* text) { return QCoreApplication::translate("PrintHeading", text); }
+}  // namespace
+
+QStringList PrintHeading(const Game& game, const QString& what) {
+  return {"Tessaryn " + what, FromCore(game.host->DateText())};
+}
+
+QString GameFileLine(const Game& game) {
+  const std::string& path = game.file.Path;
+  return Translated("Game file:  ") + (path.empty() ? Translated("untitled") : FromCore(FileTitle(path)));
+}
+
+QString PlayerLine(const Game& game, int seat) {
+  return Translated("Player:  ") + FromCore(game.table.seats[seat].SeatName);
+}
+
+}  // namespace tessaryn
