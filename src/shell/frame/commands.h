@@ -45,6 +45,7 @@ std::span<const CommandRow> PlayerCommands();
 std::span<const CommandRow> BetCommands();
 std::span<const CommandRow> DiceCommands();
 std::span<const CommandRow> ScriptCommands();
+std::span<const CommandRow> StatisticsCommands();
 std::span<const CommandRow> ViewCommands();
 std::span<const CommandRow> HelpCommands();
 

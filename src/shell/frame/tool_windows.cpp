@@ -7,9 +7,11 @@
 
 #include "base/record_file.h"
 #include "shell/frame/desk.h"
+#include "shell/screens/events_log_screen.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/roll_pad.h"
+#include "shell/screens/sessions_log_screen.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
 #include "state/show_message.h"
@@ -45,6 +47,11 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+template <typename Screen>
+ToolWindow* MakeLog(Desk& desk) {
+  return new Screen(desk.game, desk.window);
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -54,7 +61,10 @@ struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad},
+                              {kMoveWindow, MakeMovePanel},
+                              {kSessionsWindow, MakeLog<SessionsLogScreen>},
+                              {kEventsLogWindow, MakeLog<EventsLogScreen>}};
 
 const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
 

@@ -6,25 +6,41 @@
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
+#include <utility>
 
 namespace tessaryn {
 
+namespace {
+
+struct HeldRows : RowSource {
+  explicit HeldRows(QList<QStringList> taken) : rows(std::move(taken)) {}
+  qint64 Count() const override { return rows.size(); }
+  QStringList Row(qint64 n) const override { return rows[n]; }
+
+  QList<QStringList> rows;
+};
+
+}  // namespace
+
 ToolWindow::ToolWindow(const char* name, QWidget* parent) : QWidget(parent, Qt::Tool) { setObjectName(name); }
 
+std::unique_ptr<RowSource> ToolWindow::TakeRows() const { return std::make_unique<HeldRows>(Rows()); }
+
+// From a part of a window it goes up by itself.
 void ToolWindow::keyPressEvent(QKeyEvent* event) {
-  if (parentWidget() == nullptr) return QWidget::keyPressEvent(event);
+  if (parentWidget() == nullptr || !isWindow()) return QWidget::keyPressEvent(event);
   QCoreApplication::sendEvent(parentWidget(), event);
 }
 
 WindowPlace ToolWindow::Place() const {
-  if (isHidden()) return place_;
+  if (isHidden() || !isWindow()) return place_;
   return {true, y(), x(), width(), height()};
 }
 
 void ToolWindow::SetPlace(const WindowPlace& place) {
   place_ = place;
   place_.Open = false;
-  if (!isHidden()) TakePlace();
+  if (!isHidden() && isWindow()) TakePlace();
 }
 
 // A window of a fixed size keeps that.
@@ -40,6 +56,7 @@ void ToolWindow::TakePlace() {
 
 // Only a window that is shown has its frame and its whole size.
 void ToolWindow::ComeInside() {
+  if (!isWindow()) return;
   const QRect room = screen()->availableGeometry();
   const QRect frame = geometry().united(frameGeometry());
   const QPoint over(std::max(0, frame.right() - room.right()), std::max(0, frame.bottom() - room.bottom()));
@@ -48,7 +65,7 @@ void ToolWindow::ComeInside() {
 
 void ToolWindow::showEvent(QShowEvent* event) {
   if (!event->spontaneous()) {
-    TakePlace();
+    if (isWindow()) TakePlace();
     Refresh();
     QTimer::singleShot(0, this, [this] { ComeInside(); });
   }
@@ -56,7 +73,7 @@ void ToolWindow::showEvent(QShowEvent* event) {
 }
 
 void ToolWindow::hideEvent(QHideEvent* event) {
-  if (!event->spontaneous()) place_ = {false, y(), x(), width(), height()};
+  if (!event->spontaneous() && isWindow()) place_ = {false, y(), x(), width(), height()};
   QWidget::hideEvent(event);
 }
 

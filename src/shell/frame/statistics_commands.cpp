@@ -1,0 +1,27 @@
+#include "shell/frame/commands.h"
+#include "shell/frame/desk.h"
+#include "shell/frame/tool_windows.h"
+
+namespace tessaryn {
+namespace {
+
+// Shows a tool window or hides it; ticked while it is shown.
+template <int number>
+constexpr CommandRow ToolRow(const char* name, const char* caption) {
+  return {.name = name,
+          .caption = caption,
+          .act = [](Desk& desk) { ToggleTool(desk, number); },
+          .ticked = [](const Desk& desk) { return ToolIsShown(desk, number); }};
+}
+
+}  // namespace
+
+std::span<const CommandRow> StatisticsCommands() {
+  static const CommandRow kCommands[] = {
+      ToolRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
+      ToolRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
+  };
+  return kCommands;
+}
+
+}  // namespace tessaryn
