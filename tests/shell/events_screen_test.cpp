@@ -42,6 +42,8 @@ struct OpenLogScreen : ScreenTable {
 
   OpenLogScreen() {
     game->events.RecordEventsActive = true;
+    game->settings.ShooterBetRule = 0;
+    game->settings.MessageMask = 0;
     Join(3, "Ann");
     Join(5, "Bo");
     Bet(3, kPassLine, "10");

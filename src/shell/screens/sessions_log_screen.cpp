@@ -128,6 +128,10 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   resize(760, 460);
 }
 
+SessionsLogScreen::~SessionsLogScreen() {
+  if (pass_.IsOn()) game_.sessions.Files.Calculating = false;
+}
+
 QAction* SessionsLogScreen::Add(QMenu& menu, const char* name, const QString& caption,
                                 void (SessionsLogScreen::*act)()) {
   QAction* action = menu.addAction(caption);

@@ -34,6 +34,7 @@ class SessionsLogScreen : public ToolWindow {
 
  public:
   SessionsLogScreen(Game& game, QWidget* parent);
+  ~SessionsLogScreen() override;
 
   void Refresh() override;
   // The statistics or, in the data mode, the sessions that take part.
