@@ -353,8 +353,10 @@ LogPlace MoveInLog(const LogIndex& index, const LogPlace& from, std::int64_t row
 std::vector<LogRow> ReadLogRows(const LogIndex& index, const LogPlace& from, int count) {
   std::vector<LogRow> rows;
   if (index.Text < 0 || count <= 0 || LogRows(index) == 0) return rows;
-  // With a filter only as far as the index has come: what comes behind may be far.
-  const std::int64_t to = index.Filter.IsOn() ? index.Scanned + (index.Tail ? 1 : 0) : index.Size;
+  // With a filter no farther than the last row that is known: the next may be gigabytes away.
+  const bool filtered = index.Filter.IsOn();
+  if (filtered) count = static_cast<int>(std::clamp<std::int64_t>(KnownRows(index) - from.Row + 1, 1, count));
+  const std::int64_t to = filtered ? index.Scanned + (index.Tail ? 1 : 0) : index.Size;
   WalkRows(index, from.Begin, to, [&](std::int64_t at, std::string_view text) {
     if (Passes(index, text)) rows.push_back({at, std::string(WithoutEnd(text))});
     return static_cast<int>(rows.size()) < count;

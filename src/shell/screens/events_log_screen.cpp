@@ -62,7 +62,7 @@ constexpr int kBold = 2;
 constexpr int kSizes = 4;  // times 0 normal, 1 smaller, 2 larger
 int& FontOptions(Game& game) { return game.screen.FurtherWindows[0]; }
 
-QString Count(qint64 number) { return QLocale().toString(number); }
+QString Count(qint64 number) { return MoneyText(Currency::Dollars(number)); }
 
 }  // namespace
 
@@ -202,7 +202,7 @@ QWidget* EventsLogScreen::MakeFilterRow() {
   player_->setAccessibleName(tr("Player whose lines are shown"));
   for (QComboBox* box : {kind_, player_}) {
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(9);
+    box->setMinimumContentsLength(7);
     box->setMaxVisibleItems(12);
     connect(box, &QComboBox::activated, this, &EventsLogScreen::ChangeFilter);
   }
@@ -387,9 +387,11 @@ void EventsLogScreen::ShowPlace() {
                      ? tr("Line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()))
                      : tr("About line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()));
   if (!complete && index.Size > 0) text += tr(" (%1% read)").arg(100 * index.Scanned / index.Size);
-  const QFontMetrics metrics = place_->fontMetrics();
   place_->setToolTip(text);
-  place_->setText(metrics.elidedText(text, Qt::ElideRight, std::max(place_->width(), 40)));
+  place_->setAccessibleName(text);
+  // Narrow it has room for the numbers alone.
+  const bool fits = place_->fontMetrics().horizontalAdvance(text) <= place_->width();
+  place_->setText(fits || view_->Rows() == 0 ? text : Count(view_->TopRow()));
 }
 
 namespace {

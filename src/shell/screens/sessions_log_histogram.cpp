@@ -9,6 +9,8 @@
 #include <cmath>
 #include <vector>
 
+#include "shell/table/screen_tools.h"
+
 namespace tessaryn {
 
 namespace {
@@ -184,9 +186,10 @@ QString HistogramText(const SessionsStatistics& s, int column, int barColumns) {
   std::int64_t below = 0;
   for (int at = 0; at < std::min(first + barColumns, kHistogramColumns); ++at) below += s.Histogram[at];
   const double share = 100.0 * static_cast<double>(below) / static_cast<double>(s.Included);
-  const QString sessions = bar.Sessions == 1
-                               ? SessionsHistogram::tr("1 session")
-                               : SessionsHistogram::tr("%1 sessions").arg(QLocale().toString(bar.Sessions));
+  const QString sessions =
+      bar.Sessions == 1
+          ? SessionsHistogram::tr("1 session")
+          : SessionsHistogram::tr("%1 sessions").arg(MoneyText(Currency::Dollars(bar.Sessions)));
   return SessionsHistogram::tr("%1 to %2: %3, %4% at or below")
       .arg(QString::fromStdString(SessionsNumber(bar.Low)), QString::fromStdString(SessionsNumber(bar.High)),
            sessions, QLocale().toString(share, 'f', 1));

@@ -5,6 +5,8 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "shell/table/screen_tools.h"
+
 namespace tessaryn {
 
 namespace {
@@ -40,8 +42,7 @@ QStringList SessionsRows::Headings() const {
 }
 
 QStringList SessionsRows::Texts(const SessionsRow& row, bool known) {
-  return {QLocale().toString(static_cast<qlonglong>(row.Number)),
-          QString::fromStdString(SessionsNumber(row.Rolls)),
+  return {MoneyText(Currency::Dollars(row.Number)), QString::fromStdString(SessionsNumber(row.Rolls)),
           QString::fromStdString(SessionsNumber(row.Outcome)),
           row.Included ? QStringLiteral("\u2713") : QString(),
           known ? QLocale().toString(row.Deviations, 'f', 3) : QStringLiteral("---")};

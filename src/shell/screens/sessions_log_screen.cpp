@@ -41,7 +41,7 @@ constexpr std::int64_t kUsualDeviations = 3;
 
 bool IsThere(const std::string& path) { return QFileInfo::exists(FromCore(path)); }
 
-QString Count(std::int64_t number) { return QLocale().toString(static_cast<qlonglong>(number)); }
+QString Count(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
 QString Number(Currency value) { return QString::fromStdString(SessionsNumber(value)); }
 
 bool SameQuery(const SessionsQuery& a, const SessionsQuery& b) {
@@ -85,24 +85,25 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   current_ = new QLabel(this);
   current_->setObjectName("lblCurrent");
   current_->setContentsMargins(8, 0, 8, 0);
-  auto* left = new QVBoxLayout;
-  left->setSpacing(4);
-  left->addWidget(pages_, 1);
-  left->addWidget(current_);
+  left_ = new QBoxLayout(QBoxLayout::TopToBottom);
+  left_->setSpacing(4);
+  left_->addWidget(pages_, 1);
+  left_->addWidget(current_);
   side_ = new QBoxLayout(QBoxLayout::TopToBottom);
   side_->setContentsMargins(8, 4, 8, 8);
-  side_->setSpacing(12);
+  side_->setSpacing(16);
   side_->addWidget(MakeStatistics());
-  auto* choices = new QVBoxLayout;
-  choices->setSpacing(8);
-  choices->addWidget(MakeClasses());
-  choices->addWidget(MakeOutliers());
-  side_->addLayout(choices);
-  side_->addStretch(1);
+  lower_ = new QWidget(this);
+  lowerRow_ = new QBoxLayout(QBoxLayout::LeftToRight, lower_);
+  lowerRow_->setContentsMargins(0, 0, 0, 0);
+  lowerRow_->setSpacing(12);
+  lowerRow_->addWidget(MakeClasses());
+  lowerRow_->addWidget(MakeOutliers());
   body_ = new QBoxLayout(QBoxLayout::LeftToRight);
   body_->setSpacing(0);
-  body_->addLayout(left, 1);
+  body_->addLayout(left_, 1);
   body_->addLayout(side_);
+  Arrange(true);
   column->addLayout(body_, 1);
   rows_->read = [this](qint64 first, int count) {
     std::vector<SessionsRow> rows;
@@ -191,8 +192,10 @@ void SessionsLogScreen::AddMenus(QMenuBar& bar) {
 
 QWidget* SessionsLogScreen::MakeChoices() {
   auto* row = new QWidget(this);
-  auto* line = new QHBoxLayout(row);
-  line->setContentsMargins(8, 4, 8, 4);
+  choices_ = new QBoxLayout(QBoxLayout::LeftToRight, row);
+  choices_->setContentsMargins(8, 4, 8, 4);
+  choices_->setSpacing(8);
+  auto* line = new QHBoxLayout;
   line->setSpacing(8);
   player_ = new QComboBox(row);
   player_->setObjectName("cmbPlayer");
@@ -206,10 +209,13 @@ QWidget* SessionsLogScreen::MakeChoices() {
         QString::fromUtf8(MeasureName(measure).data(), static_cast<qsizetype>(MeasureName(measure).size())));
   for (QComboBox* box : {player_, stat_}) {
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(box == stat_ ? 12 : 6);
+    box->setMinimumContentsLength(box == stat_ ? 14 : 6);
     line->addWidget(box, box == stat_ ? 2 : 1);
   }
-  line->addStretch(1);
+  auto* modes = new QHBoxLayout;
+  modes->setSpacing(16);
+  choices_->addLayout(line, 1);
+  choices_->addLayout(modes);
   connect(player_, &QComboBox::activated, this, [this] {
     game_.sessions.SessionsSeat = player_->currentData().toInt();
     game_.sessions.SessionsTopRow = 1;
@@ -226,12 +232,13 @@ QWidget* SessionsLogScreen::MakeChoices() {
   for (int mode = 0; mode < 2; ++mode) {
     display_[mode] = new QRadioButton(captions[mode], row);
     display_[mode]->setObjectName(QString("optDisplay%1").arg(mode));
-    line->addWidget(display_[mode]);
+    modes->addWidget(display_[mode]);
     connect(display_[mode], &QRadioButton::clicked, this, [this, mode] {
       game_.sessions.SessionsDisplayMode = mode;
       ShowAll();
     });
   }
+  modes->addStretch(1);
   return row;
 }
 
@@ -344,7 +351,8 @@ QWidget* SessionsLogScreen::MakeOutliers() {
                                        : tr("Highest value that takes part"));
     slider->setRange(0, kSliderSteps);
     slider->setPageStep(kSliderSteps / 20);
-    slider->setMinimumWidth(60);
+    slider->setMinimumWidth(50);
+    slider->setMaximumWidth(96);
     connect(slider, &QSlider::valueChanged, this, &SessionsLogScreen::SliderMoved);
     sliders_[end] = slider;
     grid->addWidget(slider, 1, end + 1);
@@ -353,8 +361,8 @@ QWidget* SessionsLogScreen::MakeOutliers() {
       edit->setObjectName(QString("%1%2").arg(QLatin1String(kinds[kind].name)).arg(end));
       edit->setAccessibleName(tr("%1, %2").arg(ends[end], kinds[kind].what));
       edit->setAlignment(Qt::AlignRight);
-      edit->setMinimumWidth(60);
-      edit->setMaximumWidth(110);
+      edit->setMinimumWidth(50);
+      edit->setMaximumWidth(96);
       const OutlierRule rule = kinds[kind].rule;
       connect(edit, &QLineEdit::editingFinished, this, [this, edit, rule] {
         if (edit->isModified()) TakeBounds(rule);
@@ -367,11 +375,22 @@ QWidget* SessionsLogScreen::MakeOutliers() {
   return box;
 }
 
+// Wide: the figures stand beside the picture and the choices below it. Narrow: all stands below.
+void SessionsLogScreen::Arrange(bool wide) {
+  wide_ = wide;
+  const auto across = [](bool yes) { return yes ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom; };
+  body_->setDirection(across(wide));
+  side_->setDirection(across(!wide));
+  choices_->setDirection(across(wide));
+  lowerRow_->setDirection(across(wide));
+  lowerRow_->setContentsMargins(wide ? 8 : 0, 0, wide ? 8 : 0, wide ? 8 : 0);
+  (wide ? side_ : left_)->removeWidget(lower_);
+  (wide ? left_ : side_)->addWidget(lower_);
+}
+
 void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
   ToolWindow::resizeEvent(event);
-  const bool wide = width() >= kWide;
-  body_->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-  side_->setDirection(wide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  if (wide_ != (width() >= kWide)) Arrange(!wide_);
 }
 
 // --- Computing.

@@ -77,6 +77,7 @@ class SessionsLogScreen : public ToolWindow {
   QWidget* MakeClasses();
   QWidget* MakeOutliers();
 
+  void Arrange(bool wide);
   void ChooseSeat();
   void ListPlayers();
   std::int64_t CountNow(std::string& problem) const;
@@ -155,8 +156,13 @@ class SessionsLogScreen : public ToolWindow {
   QSlider* sliders_[2] = {};
   QLineEdit* values_[2] = {};
   QLineEdit* deviations_[2] = {};
+  bool wide_ = true;
+  QBoxLayout* choices_ = nullptr;
   QBoxLayout* body_ = nullptr;
+  QBoxLayout* left_ = nullptr;
   QBoxLayout* side_ = nullptr;
+  QWidget* lower_ = nullptr;  // classes and outliers
+  QBoxLayout* lowerRow_ = nullptr;
   QList<QAction*> widths_;
   QList<QAction*> needSeat_;
   QAction* curve_ = nullptr;
