@@ -35,7 +35,7 @@ const FilePurpose kSaveLog{"Save Sessions Log As", "Sessions logs (*.slg);;All f
 constexpr int kLookEvery = 40;               // milliseconds
 constexpr std::int64_t kAnnounced = 30'000;  // sessions
 constexpr int kSliderSteps = 1'000;
-constexpr int kWide = 640;         // from here on the figures stand beside the histogram
+constexpr int kWide = 680;         // from here on the figures stand beside the histogram
 constexpr qint64 kRestFactor = 4;  // a log that grows is left alone as many times as long as a pass took
 constexpr std::int64_t kUsualDeviations = 3;
 
@@ -126,6 +126,9 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
     if (!pass_.IsOn()) Compute();
     ShowWait();
   });
+  // The arrangement follows the size, and not the size the arrangement.
+  column->setSizeConstraint(QLayout::SetNoConstraint);
+  setMinimumSize(minimumSizeHint());
   resize(760, 460);
 }
 

@@ -36,6 +36,7 @@ class SessionsLogScreen : public ToolWindow {
   SessionsLogScreen(Game& game, QWidget* parent);
   ~SessionsLogScreen() override;
 
+  QSize minimumSizeHint() const override { return {430, 300}; }
   void Refresh() override;
   // The statistics or, in the data mode, the sessions that take part.
   std::unique_ptr<RowSource> TakeRows() const override;
