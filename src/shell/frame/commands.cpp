@@ -11,7 +11,7 @@ std::span<const CommandMenu> CommandMenus() {
                                        {QT_TRANSLATE_NOOP("Commands", "&Bets"), BetCommands()},
                                        {QT_TRANSLATE_NOOP("Commands", "&Dice"), DiceCommands()},
                                        {QT_TRANSLATE_NOOP("Commands", "A&uto-Bet"), ScriptCommands()},
-                                       {QT_TRANSLATE_NOOP("Commands", "&Statistics"), StatisticsCommands()},
+                                       {QT_TRANSLATE_NOOP("Commands", "Stat&istics"), StatisticsCommands()},
                                        {QT_TRANSLATE_NOOP("Commands", "&View"), ViewCommands()},
                                        {QT_TRANSLATE_NOOP("Commands", "&Help"), HelpCommands()}};
   return kMenus;

@@ -105,7 +105,7 @@ void EventsLogScreen::AddFlag(QMenu& menu, const char* name, const QString& capt
 }
 
 void EventsLogScreen::AddLogMenu(QMenuBar& bar) {
-  QMenu& menu = *bar.addMenu(tr("&Log"));
+  QMenu& menu = *bar.addMenu(tr("Lo&g"));
   Add(menu, "mnuNew", tr("&New"), &EventsLogScreen::NewLog);
   Add(menu, "mnuOpen", tr("&Open ..."), &EventsLogScreen::OpenLog);
   Add(menu, "mnuSaveAs", tr("Save &As ..."), &EventsLogScreen::SaveAs);
@@ -135,7 +135,7 @@ void EventsLogScreen::AddFindMenu(QMenuBar& bar) {
 }
 
 void EventsLogScreen::AddOptionsMenu(QMenuBar& bar) {
-  QMenu& menu = *bar.addMenu(tr("&Options"));
+  QMenu& menu = *bar.addMenu(tr("O&ptions"));
   EventsLog& log = game_.events;
   AddFlag(menu, "mnuRecordEventsActive", tr("Record &events"), &log.RecordEventsActive);
   menu.addSeparator();
@@ -143,10 +143,10 @@ void EventsLogScreen::AddOptionsMenu(QMenuBar& bar) {
   AddFlag(menu, "mnuRecordBetChanges", tr("&Bet changes"), &log.RecordBetChanges);
   AddFlag(menu, "mnuRecordBetsWon", tr("Bets &won"), &log.RecordBetsWon);
   AddFlag(menu, "mnuRecordBetsLost", tr("Bets &lost"), &log.RecordBetsLost);
-  AddFlag(menu, "mnuRecordCheckStackChanges", tr("Check&Stack changes"), &log.RecordCheckStackChanges);
+  AddFlag(menu, "mnuRecordCheckStackChanges", tr("CheckS&tack changes"), &log.RecordCheckStackChanges);
   AddFlag(menu, "mnuRecordPassesMisses", tr("&Passes and misses"), &log.RecordPassesMisses);
   AddFlag(menu, "mnuRecordShooterChanges", tr("S&hooter changes"), &log.RecordShooterChanges);
-  AddFlag(menu, "mnuRecordBankrollChanges", tr("Bank&roll changes"), &log.RecordBankrollChanges);
+  AddFlag(menu, "mnuRecordBankrollChanges", tr("Ban&kroll changes"), &log.RecordBankrollChanges);
   Add(menu, "mnuRecordAll", tr("Record &all"), &EventsLogScreen::RecordAll);
   Add(menu, "mnuDeselectAllEvents", tr("&Deselect all"), &EventsLogScreen::RecordNothing);
   menu.addSeparator();

@@ -91,7 +91,7 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   left_->addWidget(current_);
   side_ = new QBoxLayout(QBoxLayout::TopToBottom);
   side_->setContentsMargins(8, 4, 8, 8);
-  side_->setSpacing(16);
+  side_->setSpacing(12);
   side_->addWidget(MakeStatistics());
   lower_ = new QWidget(this);
   lowerRow_ = new QBoxLayout(QBoxLayout::LeftToRight, lower_);
@@ -147,7 +147,7 @@ QAction* SessionsLogScreen::Add(QMenu& menu, const char* name, const QString& ca
 
 void SessionsLogScreen::AddMenus(QMenuBar& bar) {
   using Self = SessionsLogScreen;
-  QMenu& log = *bar.addMenu(tr("&Log"));
+  QMenu& log = *bar.addMenu(tr("Lo&g"));
   Add(log, "mnuNew", tr("&New"), &Self::NewLog);
   Add(log, "mnuNewAll", tr("N&ew (all players)"), &Self::NewAllLogs);
   Add(log, "mnuOpen", tr("&Open ..."), &Self::OpenLog);
@@ -171,7 +171,7 @@ void SessionsLogScreen::AddMenus(QMenuBar& bar) {
     action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     addAction(action);
   }
-  QMenu& options = *bar.addMenu(tr("&Options"));
+  QMenu& options = *bar.addMenu(tr("O&ptions"));
   Add(options, "mnuSetBreakPoint", tr("Set &break-point ..."), &Self::AskBreakPoint);
   QMenu& width = *options.addMenu(tr("Graph bar &width"));
   width.menuAction()->setObjectName("mnuSetGraphBarWidth");
@@ -271,7 +271,7 @@ QWidget* SessionsLogScreen::MakeStatistics() {
   auto* box = new QWidget(this);
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(12);
+  grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(1);
   for (int label = 0; label < kStatisticLabels; ++label) {
     statNames_[label] = new QLabel(box);
@@ -296,7 +296,7 @@ QWidget* SessionsLogScreen::MakeClasses() {
   auto* box = new QWidget(this);
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(0, 0, 0, 0);
-  grid->setHorizontalSpacing(12);
+  grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(2);
   const QString names[] = {tr("Won"), tr("Broke-even"), tr("Lost"), tr("Total")};
   bool* const included[] = {&game_.sessions.IncludeWon, &game_.sessions.IncludeBrokeEven,
@@ -354,7 +354,7 @@ QWidget* SessionsLogScreen::MakeOutliers() {
                                        : tr("Highest value that takes part"));
     slider->setRange(0, kSliderSteps);
     slider->setPageStep(kSliderSteps / 20);
-    slider->setMinimumWidth(50);
+    slider->setMinimumWidth(44);
     slider->setMaximumWidth(96);
     connect(slider, &QSlider::valueChanged, this, &SessionsLogScreen::SliderMoved);
     sliders_[end] = slider;
@@ -364,7 +364,7 @@ QWidget* SessionsLogScreen::MakeOutliers() {
       edit->setObjectName(QString("%1%2").arg(QLatin1String(kinds[kind].name)).arg(end));
       edit->setAccessibleName(tr("%1, %2").arg(ends[end], kinds[kind].what));
       edit->setAlignment(Qt::AlignRight);
-      edit->setMinimumWidth(50);
+      edit->setMinimumWidth(44);
       edit->setMaximumWidth(96);
       const OutlierRule rule = kinds[kind].rule;
       connect(edit, &QLineEdit::editingFinished, this, [this, edit, rule] {
@@ -393,7 +393,13 @@ void SessionsLogScreen::Arrange(bool wide) {
 
 void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
   ToolWindow::resizeEvent(event);
-  if (wide_ != (width() >= kWide)) Arrange(!wide_);
+  if (wide_ == (width() >= kWide)) return;
+  Arrange(!wide_);
+  // The parts' layouts first: theirs asks for what they need now.
+  choices_->activate();
+  lowerRow_->activate();
+  layout()->invalidate();
+  layout()->activate();
 }
 
 // --- Computing.
