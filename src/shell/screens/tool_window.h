@@ -13,8 +13,8 @@ class QPainter;
 
 namespace tessaryn {
 
-// A table as it stood when it was taken, its heading first. Tables of millions of rows have one of their own, so
-// that nobody holds them whole.
+// A table as it stood when it was taken, its heading first. Tables of millions of rows have one of their own,
+// so that nobody holds them whole.
 struct RowSource {
   virtual ~RowSource() = default;
   virtual qint64 Count() const = 0;
