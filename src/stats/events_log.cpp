@@ -24,6 +24,7 @@ constexpr std::size_t kFlushAt = 256 * 1024;  // bytes of text
 constexpr std::size_t kKeepUnwritten = 4 * 1024 * 1024;
 constexpr std::int64_t kLongestLog = 4'294'967'295;  // the index counts in 32 bits
 constexpr int kIndexBytes = 4;
+constexpr std::int64_t kIndexedAtOnce = 64 * 1024 * 1024;  // bytes of text, a tenth of a second
 
 void CloseFiles(EventsLog& log) {
   if (log.Files.textFile != nullptr) std::fclose(log.Files.textFile);
@@ -54,6 +55,8 @@ void ReportFault(Game& game, const std::string& what) {
 std::string FaultText(const std::string& path, int error) {
   return MessageText<Msg::kLogFault>(With<"path">(path), With<"reason">(std::strerror(error)));
 }
+
+std::string FullText(const Game& game) { return "The Events Log is full: " + EventsLogPath(game) + "."; }
 
 std::int64_t FileSize(const std::string& path) {
   std::error_code error;
@@ -144,6 +147,7 @@ std::string OpenFiles(Game& game) {
   for (const std::string& path : {textPath, indexPath})
     if (IsPipe(path)) return "The Events Log can't be written: " + path + ": it is not a file.";
   std::string problem;
+  if (textSize > kLongestLog) return FullText(game);
   if (textSize > 0 && !IndexBelongs(game, textSize) && !RebuildEventsLogIndex(game, problem)) return problem;
   errno = 0;
   log.Files.textFile = std::fopen(textPath.c_str(), "ab");
@@ -270,7 +274,7 @@ void WriteEventsLogLine(Game& game, std::string_view text) {
     if (log.Files.textFile == nullptr) KeepWithinBounds(log);
   }
   if (log.Files.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
-    ReportFault(game, "The Events Log is full: " + EventsLogPath(game) + ".");
+    ReportFault(game, FullText(game));
     return;
   }
   AppendIndexRecord(log.Files.indexBuffer, log.Files.textLength + 1);
@@ -316,15 +320,20 @@ bool RebuildEventsLogIndex(Game& game, std::string& error) {
   const std::string indexPath = EventsIndexPath(game);
   std::ofstream index(indexPath, std::ios::binary | std::ios::trunc);
   std::string buffer;
-  std::string line;
-  for (std::int64_t position = 1; std::getline(text, line);
-       position += static_cast<std::int64_t>(line.size()) + 1) {
-    AppendIndexRecord(buffer, position);
-    if (buffer.size() < kFlushAt) continue;
+  std::string block(kFlushAt, '\0');
+  bool atBegin = true;
+  for (std::int64_t position = 1; text; position += static_cast<std::int64_t>(text.gcount())) {
+    text.read(block.data(), static_cast<std::streamsize>(block.size()));
+    const char* const end = block.data() + text.gcount();
+    for (const char* at = block.data(); at < end;) {
+      if (atBegin) AppendIndexRecord(buffer, position + (at - block.data()));
+      const void* lineEnd = std::memchr(at, '\n', static_cast<std::size_t>(end - at));
+      atBegin = lineEnd != nullptr;
+      at = atBegin ? static_cast<const char*>(lineEnd) + 1 : end;
+    }
     index.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
     buffer.clear();
   }
-  index.write(buffer.data(), static_cast<std::streamsize>(buffer.size()));
   index.flush();
   if (!index) {
     error = MessageText<Msg::kNotWritable>(With<"path">(indexPath));
@@ -369,17 +378,26 @@ void ClearEventsLog(Game& game) {
   game.events.Files.textLength = game.events.Files.lineCount = 0;
 }
 
-void NewEventsLog(Game& game) {
+bool EventsIndexFits(const Game& game) {
+  const std::int64_t textSize = FileSize(EventsLogPath(game));
+  return textSize > 0 && IndexBelongs(game, textSize);
+}
+
+NewEvents NewEventsLog(Game& game) {
   FlushEventsLog(game);
   const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
   if (defaultName && FileSize(EventsLogPath(game)) > 0) {
     const int answer = ShowMessage<Msg::kAskSaveEventsLog>(game);
-    if (answer == kResultCancel) return;
-    if (answer == kResultYes) {
-      game.host->Changed(game, Change::kEverything);  // the screen's Save As takes it from here
-      return;
-    }
+    if (answer == kResultCancel) return NewEvents::kCancelled;
+    if (answer == kResultYes) return NewEvents::kRenameFirst;
   }
+  ClearEventsLog(game);
+  return NewEvents::kStarted;
+}
+
+void StartEventsLog(Game& game) {
+  FlushEventsLog(game);
+  game.events.Path.clear();
   ClearEventsLog(game);
 }
 
@@ -392,7 +410,11 @@ bool OpenEventsLog(Game& game, const std::string& path, std::string& error) {
   FlushEventsLog(game);
   const std::string before = game.events.Path;
   game.events.Path = path;
-  if (!RebuildEventsLogIndex(game, error)) {
+  // An index that is of another text is no index: whoever needs one makes it.
+  std::error_code ignored;
+  if (FileSize(path) > kIndexedAtOnce) {
+    fs::remove(EventsIndexPath(game), ignored);
+  } else if (!RebuildEventsLogIndex(game, error)) {
     game.events.Path = before;
     return false;
   }

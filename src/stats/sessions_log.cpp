@@ -306,6 +306,18 @@ NewLog NewAllSessionsLogs(Game& game) {
   return NewLog::kStarted;
 }
 
+std::string KeepSessionsLogAs(Game& game, int seat, const std::string& path) {
+  const std::string standard = DefaultSessionsLogName(game, game.table.seats[seat].SeatName);
+  if (IsSameFile(standard, path)) return {};
+  SessionsLogFile file;
+  std::string problem = OpenSessionsFile(file, standard, SessionsAccess::kChange);
+  if (problem.empty()) problem = CopySessionsLog(file, path);
+  if (problem.empty()) problem = DeleteEverySession(file);
+  if (!problem.empty()) return problem;
+  UseLog(game, seat, standard);
+  return {};
+}
+
 std::string OpenSessionsLog(Game& game, int seat, const std::string& path) {
   SessionsLogFile file;
   std::string problem = OpenSessionsFile(file, path, SessionsAccess::kRead);

@@ -47,6 +47,8 @@ enum class NewLog { kCancelled, kRenameFirst, kStarted };
 // As.
 NewLog NewSessionsLog(Game& game, int seat);
 NewLog NewAllSessionsLogs(Game& game);
+// After kRenameFirst: the default log goes to the path, and a new one begins.
+std::string KeepSessionsLogAs(Game& game, int seat, const std::string& path);
 std::string OpenSessionsLog(Game& game, int seat, const std::string& path);
 // The log goes on under the new name; the old file stays.
 std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path);

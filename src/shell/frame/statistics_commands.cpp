@@ -26,6 +26,8 @@ std::span<const CommandRow> StatisticsCommands() {
       ToolRow<kRollFreqsWindow>("mnuRollFreqs", QT_TRANSLATE_NOOP("Commands", "Roll &frequencies")),
       ToolRow<kBankrollWindow>("mnuBankroll", QT_TRANSLATE_NOOP("Commands", "&Bankroll graph")),
       ToolRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
+      ToolRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
+      ToolRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
   };
   return kCommands;
 }

@@ -10,11 +10,14 @@
 #include "shell/frame/tool_menu.h"
 #include "shell/screens/bankroll_graph_screen.h"
 #include "shell/screens/check_stacks_screen.h"
+#include "shell/screens/events_log_screen.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/report_window.h"
 #include "shell/screens/probability_page.h"
 #include "shell/screens/roll_files_window.h"
 #include "shell/screens/roll_pad.h"
+#include "shell/screens/sessions_log_screen.h"
+#include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
 
@@ -77,6 +80,12 @@ ToolWindow* MakeBankrollGraph(Desk& desk) {
 
 ToolWindow* MakeCheckStacks(Desk& desk) { return new CheckStacksScreen(desk.game, desk.window); }
 
+
+template <typename Screen>
+ToolWindow* MakeLog(Desk& desk) {
+  return new Screen(desk.game, desk.window);
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -100,6 +109,8 @@ constexpr ToolRow kTools[] = {
     {kRollFreqsWindow, MakeReportWindow<kRollFreqsWindow>},
     {kBankrollWindow, MakeBankrollGraph},
     {kCheckStacksWindow, MakeCheckStacks},
+    {kSessionsWindow, MakeLog<SessionsLogScreen>},
+    {kEventsLogWindow, MakeLog<EventsLogScreen>},
 };
 
 const ToolRow* RowOf(int number) {
