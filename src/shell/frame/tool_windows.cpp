@@ -7,6 +7,8 @@
 
 #include "base/record_file.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/sounds.h"
+#include "shell/screens/configuration.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/roll_pad.h"
@@ -45,6 +47,14 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+ToolWindow* MakeConfiguration(Desk& desk) {
+  SoundShelf shelf;
+  if (const Sounds* sounds = desk.host.sounds; sounds != nullptr)
+    shelf = {sounds->StickFiles(), sounds->DiceFiles(), sounds->CheckFiles(), sounds->WinFiles(),
+             [&desk](const QString& file) { desk.host.PlaySoundFile(desk.game, ToCore(file)); }};
+  return new ConfigurationScreen(desk.game, std::move(shelf), desk.window);
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -54,7 +64,8 @@ struct ToolRow {
   int number;
   ToolWindow* (*make)(Desk&);
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}};
+constexpr ToolRow kTools[] = {
+    {kRollPadWindow, MakeRollPad}, {kMoveWindow, MakeMovePanel}, {kConfigurationWindow, MakeConfiguration}};
 
 const FilePurpose kExportRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
 
