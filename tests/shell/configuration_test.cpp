@@ -86,6 +86,8 @@ TEST(Configuration, EachControlDoesWhatSetDoes) {
   ScreenTable plain;
   plain.Join(2, "Ann");
   plain.Join(5, "Bo");
+  for (const int seat : {2, 5})
+    plain.State().seats[seat].SessionsLogName = window.State().seats[seat].SessionsLogName;
   const auto work = [&](const QString& name, const char* setting, ControlKind kind) -> std::string {
     std::string now;
     std::string error;
@@ -310,7 +312,7 @@ TEST(Configuration, TheSearchFindsTabsAndControlsAndEnterGoesThere) {
   QTest::keyClicks(&search, "vig");
   QStringList found;
   for (int n = 0; n < list.count(); ++n) found += list.item(n)->text().trimmed();
-  EXPECT_TRUE(found.contains("Buy bets: Vig") && found.contains("Lay bets: Vig"))
+  ASSERT_TRUE(found.contains("Buy bets: Vig") && found.contains("Lay bets: Vig"))
       << found.join('|').toStdString();
   EXPECT_GE(found.size(), 8);
   while (list.currentItem()->text().trimmed() != "Lay bets: Vig") QTest::keyClick(&search, Qt::Key_Down);
@@ -385,6 +387,20 @@ QColor ColorAt(TableWidget& widget, QPointF table) {
       (widget.view.ToScreen(table) * widget.devicePixelRatioF()).toPoint());
 }
 
+// A place of the felt where nothing stands, near its middle.
+QPointF BareFelt(const TableLayout& layout) {
+  for (int y = 40; y < 520; y += 4)
+    for (int x = 300; x < 940; x += 4) {
+      const QRectF room(x - 5, y - 5, 10, 10);
+      const bool bare =
+          std::none_of(layout.Areas.begin(), layout.Areas.end(),
+                       [&room](const TableArea& area) { return area.Outline.intersects(room); });
+      if (bare && FeltOutline().contains(room)) return room.center();
+    }
+  ADD_FAILURE() << "no bare felt";
+  return {};
+}
+
 TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
   Configured window;
   TableCommands commands;
@@ -393,12 +409,13 @@ TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
   window.host.changed = [&](Game&, Change) { table.RebuildLayout(); };
   window.Bet(2, kPassLine, "5");
   table.scene.showDice = false;
-  constexpr QPointF kBareFelt(210, 20);
-  const QPointF check(table.Layout().CheckX(2, kPassLine) - 9.5, table.Layout().CheckY(2, kPassLine));
-  const QColor felt = ColorAt(table, kBareFelt);
+  const QPointF bareFelt = BareFelt(table.Layout());
+  // On the check's ring, between two marks of its edge.
+  const QPointF check(table.Layout().CheckX(2, kPassLine) - 9.7, table.Layout().CheckY(2, kPassLine) - 5.6);
+  const QColor felt = ColorAt(table, bareFelt);
   EXPECT_GT(felt.green(), felt.blue());
   window.Choose("cmbCloth", 1);
-  EXPECT_GT(ColorAt(table, kBareFelt).blue(), ColorAt(table, kBareFelt).green());
+  EXPECT_GT(ColorAt(table, bareFelt).blue(), ColorAt(table, bareFelt).green());
   auto& texture = Find<QSlider>(*window.screen, "hsbTexture");
   const QImage plain = table.grab().toImage();
   texture.setFocus();
@@ -419,7 +436,7 @@ TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
   EXPECT_EQ(window.game->screen.looks.Checks[2], 0x14C8DCu);
   SavePicture(table, "looks-blue");
   Click(*window.screen, "cmdFirstLooks");
-  EXPECT_EQ(ColorAt(table, kBareFelt), felt);
+  EXPECT_EQ(ColorAt(table, bareFelt), felt);
   EXPECT_EQ(FirstDifference(window.game->screen.looks, Looks()), "");
   window.host.changed = nullptr;
 }

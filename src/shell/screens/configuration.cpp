@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QDockWidget>
 #include <QGroupBox>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <QSlider>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
@@ -23,11 +25,19 @@
 
 namespace tessaryn {
 
+// What a page is made of.
+struct ConfigurationScreen::Parts {
+  Game& game;
+  SettingEditor& editor;
+  const SoundShelf& shelf;
+  QWidget* parent;
+};
+
 // A tab: a page of any kind, and how it is brought to the state.
 struct ConfigurationScreen::TabRow {
   const char* page;
   const char* caption;
-  QWidget* (*make)(ConfigurationScreen& screen, QWidget* parent);
+  QWidget* (*make)(const Parts& parts);
   void (*refresh)(QWidget* page);
 };
 
@@ -46,10 +56,14 @@ void RefreshPage(QWidget* page) {
   static_cast<Page*>(page)->Refresh();
 }
 
+// Its own name, that of the label beside it, or its text.
 QString SpokenName(QWidget* widget) {
+  QString name = widget->accessibleName();
+  if (name.isEmpty() && widget->parentWidget() != nullptr)
+    for (const auto* label : widget->parentWidget()->findChildren<QLabel*>(Qt::FindDirectChildrenOnly))
+      if (label->buddy() == widget) name = label->text();
   QAccessibleInterface* reader = QAccessible::queryAccessibleInterface(widget);
-  QString name = reader == nullptr ? QString() : reader->text(QAccessible::Name);
-  if (name.isEmpty()) name = widget->accessibleName();
+  if (name.isEmpty() && reader != nullptr) name = reader->text(QAccessible::Name);
   return name.remove('&').trimmed();
 }
 
@@ -61,44 +75,41 @@ QString GroupOf(const QWidget* widget) {
 
 }  // namespace
 
-// In the order of their list. A page that is a widget with Refresh() is one row.
+// A page that needs the game alone, and has Refresh(): one row with these two.
+template <class Page>
+QWidget* ConfigurationScreen::PageOf(const Parts& parts) {
+  return new Page(parts.game, parts.parent);
+}
+
+// In the order of their list.
 std::span<const ConfigurationScreen::TabRow> ConfigurationScreen::Tabs() {
-  using Screen = ConfigurationScreen;
+#define CAPTION(text) QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", text)
   static const TabRow kTabs[] = {
-      {"picHouse", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "House"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return new HousePage(screen.game_, *screen.editor_, parent);
-       },
+      {"picHouse", CAPTION("House"),
+       [](const Parts& parts) -> QWidget* { return new HousePage(parts.game, parts.editor, parts.parent); },
        RefreshPage<HousePage>},
-      {"picBets", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Bets"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return MakeBetsPage(screen.game_, *screen.editor_, parent);
+      {"picBets", CAPTION("Bets"),
+       [](const Parts& parts) -> QWidget* { return MakeBetsPage(parts.game, parts.editor, parts.parent); },
+       RefreshControls},
+      {"picLayout", CAPTION("Layout"),
+       [](const Parts& parts) -> QWidget* { return MakeLayoutPage(parts.game, parts.editor, parts.parent); },
+       RefreshControls},
+      {"picBankroll", CAPTION("Bankroll"),
+       [](const Parts& parts) -> QWidget* {
+         return MakeBankrollPage(parts.game, parts.editor, parts.parent);
        },
        RefreshControls},
-      {"picLayout", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Layout"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return MakeLayoutPage(screen.game_, *screen.editor_, parent);
+      {"picColors", CAPTION("Colors"), PageOf<LooksPage>, RefreshPage<LooksPage>},
+      {"picSound", CAPTION("Sound"),
+       [](const Parts& parts) -> QWidget* {
+         return MakeSoundPage(parts.game, parts.editor, parts.shelf, parts.parent);
        },
        RefreshControls},
-      {"picBankroll", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Bankroll"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return MakeBankrollPage(screen.game_, *screen.editor_, parent);
-       },
-       RefreshControls},
-      {"picColors", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Colors"),
-       [](Screen& screen, QWidget* parent) -> QWidget* { return new LooksPage(screen.game_, parent); },
-       RefreshPage<LooksPage>},
-      {"picSound", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Sound"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return MakeSoundPage(screen.game_, *screen.editor_, screen.shelf_, parent);
-       },
-       RefreshControls},
-      {"picMisc", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Misc"),
-       [](Screen& screen, QWidget* parent) -> QWidget* {
-         return MakeMiscPage(screen.game_, *screen.editor_, parent);
-       },
+      {"picMisc", CAPTION("Misc"),
+       [](const Parts& parts) -> QWidget* { return MakeMiscPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
   };
+#undef CAPTION
   return kTabs;
 }
 
@@ -116,6 +127,7 @@ ConfigurationScreen::~ConfigurationScreen() = default;
 
 void ConfigurationScreen::Build() {
   findable_.clear();
+  builtIn_ = font();
   delete body_;
   editor_ = std::make_unique<SettingEditor>(game_);
   QObject::connect(editor_.get(), &SettingEditor::Changed, this, [this] { Refresh(); });
@@ -150,7 +162,7 @@ void ConfigurationScreen::Build() {
   pages_ = new QStackedWidget(body_);
   row->addWidget(pages_, 1);
   for (const TabRow& tab : Tabs()) {
-    QWidget* page = tab.make(*this, pages_);
+    QWidget* page = tab.make({game_, *editor_, shelf_, pages_});
     page->setObjectName(tab.page);
     pages_->addWidget(page);
   }
@@ -159,12 +171,18 @@ void ConfigurationScreen::Build() {
   QObject::connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) { Search(words); });
   QObject::connect(search_, &QLineEdit::returnPressed, this, [this] { GoTo(tabs_->currentItem(), true); });
   QObject::connect(tabs_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
-    if (item != nullptr && search_->text().isEmpty()) GoTo(item, false);
+    if (item != nullptr && listsTabs_) GoTo(item, false);
   });
   QObject::connect(tabs_, &QListWidget::itemClicked, this,
-                   [this](QListWidgetItem* item) { GoTo(item, !search_->text().isEmpty()); });
+                   [this](QListWidgetItem* item) { GoTo(item, !listsTabs_); });
   QObject::connect(tabs_, &QListWidget::itemActivated, this,
                    [this](QListWidgetItem* item) { GoTo(item, true); });
+  // A wheel that scrolls the page changes nothing on its way.
+  for (QWidget* control : pages_->findChildren<QWidget*>()) {
+    if (qobject_cast<QComboBox*>(control) == nullptr && qobject_cast<QSlider*>(control) == nullptr) continue;
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
+  }
   for (const TabRow& tab : Tabs()) tab.refresh(pages_->findChild<QWidget*>(tab.page));
   editor_->Refresh();
 }
@@ -196,7 +214,19 @@ void ConfigurationScreen::ListTabs() {
   tabs_->clear();
   for (const TabRow& tab : Tabs())
     tabs_->addItem(QCoreApplication::translate("tessaryn::ConfigurationScreen", tab.caption));
+  listsTabs_ = true;
   tabs_->setCurrentRow(pages_->currentIndex());
+}
+
+// A click on the list is over before its mark goes back to the tab that stays.
+void ConfigurationScreen::MarkTab() {
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        const QSignalBlocker quiet(tabs_);
+        if (listsTabs_) tabs_->setCurrentRow(pages_->currentIndex());
+      },
+      Qt::QueuedConnection);
 }
 
 // Everything that can be worked, by what a screen reader says of it and by what `set` calls it.
@@ -222,6 +252,7 @@ void ConfigurationScreen::Search(const QString& words) {
   if (findable_.empty()) findable_ = Findable();
   const QStringList wanted = words.split(' ', Qt::SkipEmptyParts);
   const QSignalBlocker quiet(tabs_);
+  listsTabs_ = false;
   tabs_->clear();
   for (std::size_t n = 0; n < findable_.size(); ++n) {
     const Found& found = findable_[n];
@@ -262,13 +293,13 @@ bool ConfigurationScreen::ShowTab(const QString& page) {
       continue;
     const ConfigurationProblem problem = control.check(*control.waiting);
     if (!problem.Found()) continue;
-    if (search_->text().isEmpty()) ListTabs();
+    MarkTab();
     ShowMessage(game_, problem.message, problem.arguments);
     control.widget->setFocus();
     return false;
   }
   pages_->setCurrentWidget(wanted);
-  if (search_->text().isEmpty()) ListTabs();
+  MarkTab();
   Refresh();
   return true;
 }
@@ -283,6 +314,11 @@ bool ConfigurationScreen::eventFilter(QObject* object, QEvent* event) {
           if (dock_ != nullptr && dock_ == Dock() && dock_->isHidden() && !Leave()) dock_->show();
         },
         Qt::QueuedConnection);
+  if (event->type() == QEvent::Wheel && object != search_ && object != dock_ &&
+      !static_cast<QWidget*>(object)->hasFocus()) {
+    event->ignore();
+    return true;
+  }
   if (object != search_ || event->type() != QEvent::KeyPress) return ToolWindow::eventFilter(object, event);
   const int key = static_cast<QKeyEvent*>(event)->key();
   if (key == Qt::Key_Up || key == Qt::Key_Down) {
@@ -330,7 +366,7 @@ bool ConfigurationScreen::ApplyAndCheckConfiguration() {
       if (payoffs || (control != nullptr && page->isAncestorOf(control))) pages_->setCurrentIndex(tab);
     }
     search_->clear();
-    ListTabs();
+    MarkTab();
     Refresh();
     if (control != nullptr) control->setFocus();
     TellRefusal(game_, refusal);
@@ -375,17 +411,27 @@ void ConfigurationScreen::closeEvent(QCloseEvent* event) {
 }
 
 void ConfigurationScreen::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange && body_ != nullptr) {
-    const QString tab = Tab();
-    Build();
-    ShowTab(tab);
-  }
+  // Not from within the control that has changed it.
+  const bool letters = event->type() == QEvent::FontChange && font() != builtIn_;
+  if ((event->type() == QEvent::LanguageChange || letters) && body_ != nullptr)
+    QMetaObject::invokeMethod(
+        this, [this] { BuildAgain(); }, Qt::QueuedConnection);
   if (event->type() == QEvent::ParentChange && dock_ != Dock()) {
     if (dock_ != nullptr) dock_->removeEventFilter(this);
     dock_ = Dock();
     if (dock_ != nullptr) dock_->installEventFilter(this);
   }
   ToolWindow::changeEvent(event);
+}
+
+void ConfigurationScreen::BuildAgain() {
+  const QString tab = Tab();
+  const QWidget* focus = focusWidget();
+  const QString focused = focus != nullptr && body_->isAncestorOf(focus) ? focus->objectName() : QString();
+  Build();
+  ShowTab(tab);
+  if (auto* control = body_->findChild<QWidget*>(focused); control != nullptr && !focused.isEmpty())
+    control->setFocus();
 }
 
 QList<QStringList> ConfigurationScreen::Rows() const {

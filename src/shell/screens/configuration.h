@@ -43,7 +43,10 @@ class ConfigurationScreen : public ToolWindow {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
+  struct Parts;
   struct TabRow;
+  template <class Page>
+  static QWidget* PageOf(const Parts& parts);
   static std::span<const TabRow> Tabs();
   // Something that the search finds: a tab, or a control on it.
   struct Found {
@@ -55,7 +58,9 @@ class ConfigurationScreen : public ToolWindow {
 
   void Build();
   void AddFoot(QVBoxLayout& column);
+  void BuildAgain();
   void ListTabs();
+  void MarkTab();
   void Search(const QString& words);
   std::vector<Found> Findable() const;
   void GoTo(QListWidgetItem* item, bool intoControl);
@@ -73,7 +78,9 @@ class ConfigurationScreen : public ToolWindow {
   QStackedWidget* pages_ = nullptr;
   QLabel* waiting_ = nullptr;
   std::vector<Found> findable_;
-  BetSet houseBefore_;  // the house standard as the screen was opened
+  BetSet houseBefore_;     // the house standard as the screen was opened
+  bool listsTabs_ = true;  // else what the search found
+  QFont builtIn_;          // the letters that the screen was laid out for
   bool leaving_ = false;
   bool refreshing_ = false;
   QPointer<QDockWidget> dock_;  // that is watched

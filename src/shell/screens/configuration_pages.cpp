@@ -125,6 +125,9 @@ QFormLayout* ControlsPage::FormOf(QGroupBox* group) { return static_cast<QFormLa
 SettingControl& ControlsPage::Register(const ControlRow& row, QWidget* widget,
                                        std::function<void(const std::string&)> show) {
   Explain(widget, *RowOfSetting(row.setting), row.setting);
+  // The platform's reader takes a list's choice, and a text box's text, for their names.
+  if (row.kind != ControlKind::kRadio && row.kind != ControlKind::kMask)
+    widget->setAccessibleName(Translated(row.caption));
   return editor_.Add({.setting = row.setting,
                       .ofPlayer = row.ofPlayer,
                       .caption = Translated(row.caption),
@@ -421,6 +424,7 @@ ControlsPage* MakeBankrollPage(Game& game, SettingEditor& editor, QWidget* paren
   QFormLayout* form = ControlsPage::FormOf(group);
   auto* players = new QComboBox(group);
   players->setObjectName("cmbPlayer");
+  players->setAccessibleName(Translated("Player"));
   players->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   players->setMinimumContentsLength(20);
   form->insertRow(0, Translated("Player"), players);
@@ -464,6 +468,7 @@ ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf&
     line->setSpacing(8);
     auto* list = new QComboBox(field);
     list->setObjectName(choice.name);
+    list->setAccessibleName(choice.caption);
     list->setMinimumContentsLength(14);
     list->addItem(Translated("< none >"));
     for (const QString& file : choice.files)

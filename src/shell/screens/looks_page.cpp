@@ -152,6 +152,7 @@ QSlider* LooksPage::AddSlider(QFormLayout& form, const char* name, const QString
                               int Looks::*place) {
   auto* slider = new QSlider(Qt::Horizontal, form.parentWidget());
   slider->setObjectName(name);
+  slider->setAccessibleName(caption);
   slider->setRange(0, 100);
   slider->setPageStep(10);
   slider->setMinimumWidth(140);
@@ -168,6 +169,7 @@ QSlider* LooksPage::AddSlider(QFormLayout& form, const char* name, const QString
 void LooksPage::AddCloth(QFormLayout& form) {
   cloths_ = new QComboBox(form.parentWidget());
   cloths_->setObjectName("cmbCloth");
+  cloths_->setAccessibleName(tr("Cloth"));
   for (const Cloth& cloth : kCloths) cloths_->addItem(tr(cloth.caption), cloth.color);
   cloths_->addItem(tr("Another color"));
   form.addRow(tr("Cloth"), cloths_);
@@ -193,6 +195,7 @@ void LooksPage::AddFont(QFormLayout& form) {
   form.addRow(own);
   font_ = new QFontComboBox(form.parentWidget());
   font_->setObjectName("cmbFont");
+  font_->setAccessibleName(tr("Font"));
   font_->setEditable(false);
   font_->setMaximumWidth(200);
   form.addRow(tr("Font"), font_);
