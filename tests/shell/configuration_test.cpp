@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTableWidget>
 #include <filesystem>
@@ -410,8 +411,6 @@ TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
   window.Bet(2, kPassLine, "5");
   table.scene.showDice = false;
   const QPointF bareFelt = BareFelt(table.Layout());
-  // On the check's ring, between two marks of its edge.
-  const QPointF check(table.Layout().CheckX(2, kPassLine) - 9.7, table.Layout().CheckY(2, kPassLine) - 5.6);
   const QColor felt = ColorAt(table, bareFelt);
   EXPECT_GT(felt.green(), felt.blue());
   window.Choose("cmbCloth", 1);
@@ -422,7 +421,11 @@ TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
   QTest::keyClick(&texture, Qt::Key_PageUp);
   EXPECT_EQ(window.game->screen.looks.Texture, 10);
   EXPECT_NE(table.grab().toImage(), plain);
-  const QColor red = ColorAt(table, check);
+  // The small check of the bet.
+  const auto check = [&] {
+    return table.grab(QRect(table.PointOfBet(2, kPassLine) - QPoint(8, 8), QSize(16, 16))).toImage();
+  };
+  const QImage red = check();
   // The palette shows its colour on the table while it is open, and takes it back when it is given up.
   for (const bool taken : {false, true}) {
     WhenOpen("frmColorPal", [taken](QDialog& box) {
@@ -430,8 +433,7 @@ TEST(Configuration, ColorsAreSeenOnTheTableAtOnce) {
       QTest::keyClick(&box, taken ? Qt::Key_Return : Qt::Key_Escape);
     });
     window.Press("cmdColorCheck2");
-    const QColor now = ColorAt(table, check);
-    EXPECT_EQ(now == red, !taken);
+    EXPECT_EQ(check() == red, !taken);
   }
   EXPECT_EQ(window.game->screen.looks.Checks[2], 0x14C8DCu);
   SavePicture(table, "looks-blue");
@@ -522,6 +524,7 @@ TEST(Configuration, EveryTabIsNamedFitsAndIsSeen) {
         // What is wider than its page is scrolled to, not cut.
         for (auto* area : window.screen->findChildren<QScrollArea*>()) {
           if (!area->isVisible()) continue;
+          EXPECT_FALSE(area->horizontalScrollBar()->isVisible()) << window.screen->Tab().toStdString();
           EXPECT_GE(area->widget()->width(), area->widget()->minimumSizeHint().width());
         }
         if (size.width() > 700 || !dark)

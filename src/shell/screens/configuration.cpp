@@ -43,8 +43,8 @@ struct ConfigurationScreen::TabRow {
 
 namespace {
 
-constexpr QSize kFirstSize(860, 560);
-constexpr int kTabLetters = 26;
+constexpr QSize kFirstSize(900, 560);
+constexpr int kTabLetters = 22;
 constexpr int kFoundRole = Qt::UserRole;
 
 void RefreshControls(QWidget* page) {
@@ -155,6 +155,7 @@ void ConfigurationScreen::Build() {
   tabs_->setObjectName("lstTabs");
   tabs_->setAccessibleName(QCoreApplication::translate("tessaryn::ConfigurationScreen", "Tabs"));
   tabs_->setTextElideMode(Qt::ElideRight);
+  tabs_->setSpacing(2);
   left->addWidget(tabs_, 1);
   const int width = search_->fontMetrics().averageCharWidth() * kTabLetters;
   search_->setFixedWidth(width);

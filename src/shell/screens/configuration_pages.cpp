@@ -11,6 +11,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -60,7 +61,7 @@ Currency ToMoney(const std::string& value) { return ParseMoney(value); }
 MoneyEdit* NewNumber(QWidget* parent, const char* name) {
   auto* edit = new MoneyEdit(parent);
   edit->setObjectName(name);
-  edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("99999999.9999") + 16);
+  edit->setFixedWidth(edit->fontMetrics().horizontalAdvance("9999999.99") + 16);
   return edit;
 }
 
@@ -86,28 +87,35 @@ void TakeWhenLeft(SettingEditor& editor, SettingControl& control, QLineEdit* edi
 
 // --- Pages from rows.
 
-ControlsPage::ControlsPage(SettingEditor& editor, const char* tab, QWidget* parent)
-    : QScrollArea(parent), editor_(editor) {
-  setObjectName(tab);
+TwoColumns::TwoColumns(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
   setFocusPolicy(Qt::NoFocus);
   auto* body = new QWidget(this);
-  auto* row = new QHBoxLayout(body);
-  row->setContentsMargins(0, 0, 8, 0);
-  row->setSpacing(kGap);
+  both_ = new QBoxLayout(QBoxLayout::LeftToRight, body);
+  both_->setContentsMargins(0, 0, 8, 0);
+  both_->setSpacing(kGap);
   for (QVBoxLayout*& column : columns_) {
     column = new QVBoxLayout;
     column->setSpacing(kGap);
     column->addStretch();
-    row->addLayout(column, 1);
+    both_->addLayout(column, 1);
   }
   setWidget(body);
-  for (const ControlRow& control : ControlRows())
-    if (std::string_view(control.tab) == tab) AddControl(control);
 }
 
-QGroupBox* ControlsPage::Group(const QString& caption, int column) {
+void TwoColumns::resizeEvent(QResizeEvent* event) {
+  const int room = width() - verticalScrollBar()->sizeHint().width();
+  const QMargins margins = both_->contentsMargins();
+  const int needed = columns_[0]->minimumSize().width() + columns_[1]->minimumSize().width() + kGap +
+                     margins.left() + margins.right();
+  const bool beside = needed <= room;
+  both_->setDirection(beside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  both_->setStretch(0, beside ? 1 : 0);
+  QScrollArea::resizeEvent(event);
+}
+
+QGroupBox* TwoColumns::Group(const QString& caption, int column) {
   for (auto* group : widget()->findChildren<QGroupBox*>())
     if (group->title() == caption) return group;
   auto* group = new QGroupBox(caption, widget());
@@ -120,7 +128,14 @@ QGroupBox* ControlsPage::Group(const QString& caption, int column) {
   return group;
 }
 
-QFormLayout* ControlsPage::FormOf(QGroupBox* group) { return static_cast<QFormLayout*>(group->layout()); }
+QFormLayout* TwoColumns::FormOf(QGroupBox* group) { return static_cast<QFormLayout*>(group->layout()); }
+
+ControlsPage::ControlsPage(SettingEditor& editor, const char* tab, QWidget* parent)
+    : TwoColumns(parent), editor_(editor) {
+  setObjectName(tab);
+  for (const ControlRow& control : ControlRows())
+    if (std::string_view(control.tab) == tab) AddControl(control);
+}
 
 SettingControl& ControlsPage::Register(const ControlRow& row, QWidget* widget,
                                        std::function<void(const std::string&)> show) {

@@ -7,6 +7,7 @@
 
 #include "shell/screens/setting_editor.h"
 
+class QBoxLayout;
 class QComboBox;
 class QFormLayout;
 class QGroupBox;
@@ -26,14 +27,29 @@ struct SoundShelf {
   std::function<void(const QString& file)> play;
 };
 
-// Two columns of groups, made from the rows of the tab; further parts are added behind.
-class ControlsPage : public QScrollArea {
+// A page of groups in two columns; where it is too narrow for both, the second stands below the first.
+class TwoColumns : public QScrollArea {
   Q_OBJECT
  public:
-  ControlsPage(SettingEditor& editor, const char* tab, QWidget* parent);
+  explicit TwoColumns(QWidget* parent);
   // The group of a caption, made if it isn't there yet.
   QGroupBox* Group(const QString& caption, int column);
   static QFormLayout* FormOf(QGroupBox* group);
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+  QVBoxLayout* columns_[2] = {};
+
+ private:
+  QBoxLayout* both_;
+};
+
+// The controls of a tab's rows; further parts are added behind.
+class ControlsPage : public TwoColumns {
+  Q_OBJECT
+ public:
+  ControlsPage(SettingEditor& editor, const char* tab, QWidget* parent);
   // What follows the state and is no setting.
   std::function<void()> refresh;
 
@@ -49,8 +65,6 @@ class ControlsPage : public QScrollArea {
   void AddMask(const ControlRow& row, const SettingRow& setting, QGroupBox& group);
   SettingControl& Register(const ControlRow& row, QWidget* widget,
                            std::function<void(const std::string&)> show);
-
-  QVBoxLayout* columns_[2] = {};
 };
 
 ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent);

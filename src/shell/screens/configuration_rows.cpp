@@ -32,7 +32,7 @@ constexpr const char* kDice = CAPTION("Dice on the table");
 constexpr const char* kPrinter = CAPTION("Printer");
 
 constexpr const char* kDollars = CAPTION("dollars");
-constexpr const char* kTimes = CAPTION("times the flat bet");
+constexpr const char* kTimes = CAPTION("x flat bet");
 
 constexpr int kBars[] = {12, 2};
 constexpr const char* kBarCaptions[] = {CAPTION(" Bar 12"), CAPTION(" Bar 2")};
@@ -61,14 +61,14 @@ constexpr ControlRow kRows[] = {
      .group = kRules,
      .column = 0,
      .name = "optBarDont",
-     .caption = CAPTION("Don't Pass and Don't Come"),
+     .caption = CAPTION("Don't side"),
      .setting = "BarNumber",
      .kind = kRadio,
      .values = kBars,
      .captions = kBarCaptions},
     {kBets, kRules, 0, "chkAllowPutBets", CAPTION("Allow Put bets"), "AllowPutBets", kFlag},
-    {kBets, kRules, 0, "chkReturnAbandonedBets", CAPTION("Return abandoned bets at a new session"),
-     "ReturnAbandonedBets", kFlag},
+    {kBets, kRules, 0, "chkReturnAbandonedBets", CAPTION("Return abandoned bets"), "ReturnAbandonedBets",
+     kFlag},
     {kBets, kBuy, 1, "txtBuyVigPct", CAPTION("Vig"), "BuyVigRate", kPercent, "%"},
     {kBets, kBuy, 1, "cmbRoundBuyVig", CAPTION("Rounding"), "BuyVigRound", kChoice},
     {kBets, kBuy, 1, "optBuyVig", CAPTION("Buy vig"), "BuyVigUpFront", kRadio},

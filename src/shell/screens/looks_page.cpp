@@ -74,29 +74,8 @@ void ColorButton::OpenPalette() {
   emit ColorChosen(taken ? dialog.currentColor().rgb() & 0xFFFFFFu : before);
 }
 
-LooksPage::LooksPage(Game& game, QWidget* parent) : QScrollArea(parent), game_(game) {
-  setWidgetResizable(true);
-  setFrameShape(QFrame::NoFrame);
-  setFocusPolicy(Qt::NoFocus);
-  auto* body = new QWidget(this);
-  auto* row = new QHBoxLayout(body);
-  row->setContentsMargins(0, 0, 8, 0);
-  row->setSpacing(12);
-  QVBoxLayout* columns[2];
-  for (QVBoxLayout*& column : columns) {
-    column = new QVBoxLayout;
-    column->setSpacing(12);
-    row->addLayout(column, 1);
-  }
-  const auto group = [body, &columns](const QString& caption, int column) {
-    auto* box = new QGroupBox(caption, body);
-    auto* form = new QFormLayout(box);
-    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
-    form->setHorizontalSpacing(12);
-    form->setVerticalSpacing(8);
-    columns[column]->addWidget(box);
-    return form;
-  };
+LooksPage::LooksPage(Game& game, QWidget* parent) : TwoColumns(parent), game_(game) {
+  const auto group = [this](const QString& caption, int column) { return FormOf(Group(caption, column)); };
   AddCloth(*group(tr("Cloth"), 0));
   QFormLayout* round = group(tr("Table"), 0);
   AddColor(*round, "cmdColorLettering", tr("Lettering"),
@@ -124,16 +103,14 @@ LooksPage::LooksPage(Game& game, QWidget* parent) : QScrollArea(parent), game_(g
         *dice, QStringLiteral("cmdColorDie%1").arg(n + 1), n == 0 ? tr("First die") : tr("Second die"),
         [](Looks& looks, int die) -> std::uint32_t& { return looks.Dice[die]; }, n);
   AddColor(*dice, "cmdColorPips", tr("Pips"), [](Looks& looks, int) -> std::uint32_t& { return looks.Pips; });
-  auto* first = new QPushButton(tr("All as at first"), body);
+  auto* first = new QPushButton(tr("All as at first"), widget());
   first->setObjectName("cmdFirstLooks");
   first->setAutoDefault(false);
   connect(first, &QPushButton::clicked, this, [this] {
     game_.screen.looks = Looks();
     Changed();
   });
-  columns[1]->addWidget(first, 0, Qt::AlignRight);
-  for (QVBoxLayout* column : columns) column->addStretch();
-  setWidget(body);
+  columns_[1]->insertWidget(columns_[1]->count() - 1, first, 0, Qt::AlignRight);
   Refresh();
 }
 

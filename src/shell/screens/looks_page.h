@@ -2,10 +2,10 @@
 #pragma once
 
 #include <QPushButton>
-#include <QScrollArea>
 #include <functional>
 #include <vector>
 
+#include "shell/screens/configuration_pages.h"
 #include "state/looks.h"
 
 class QBoxLayout;
@@ -35,7 +35,7 @@ class ColorButton : public QPushButton {
   QRgb color_ = 0;
 };
 
-class LooksPage : public QScrollArea {
+class LooksPage : public TwoColumns {
   Q_OBJECT
  public:
   LooksPage(Game& game, QWidget* parent);
