@@ -457,6 +457,10 @@ TEST(Configuration, StacksAreChangedForTheFewestOrLieAsTheyWereBet) {
   EXPECT_EQ(pile(9), CheckPile({2, 1, 1, 1, 1})) << "a check that must be changed";
   EXPECT_EQ(pile(0), CheckPile());
   EXPECT_EQ(pile(25), CheckPile({3})) << "a new bet";
+  pile(50);
+  piles.ForgetOthers();
+  piles.ForgetOthers();  // it came down meanwhile
+  EXPECT_EQ(pile(100), CheckPile({4}));
   // Whatever comes, a pile is worth its bet.
   std::srand(5);
   for (int n = 0; n < 3000; ++n) {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QFormLayout>
+#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -334,7 +335,7 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
   QGroupBox* group = page->Group(Translated("Work on come-out roll"), 1);
   const auto list = std::make_shared<WorkingList>(game, editor, *group);
   list->List()->setMinimumHeight(list->List()->fontMetrics().lineSpacing() * 7);
-  auto* row = new QHBoxLayout;
+  auto* row = new QGridLayout;
   row->setSpacing(8);
   struct Button {
     const char* name;
@@ -350,7 +351,7 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
   for (const Button& facts : buttons) {
     QPushButton* button = NewButton(group, facts.name, facts.caption);
     QObject::connect(button, &QPushButton::clicked, page, facts.act);
-    row->addWidget(button);
+    row->addWidget(button, row->count() / 2, row->count() % 2);
   }
   ControlsPage::FormOf(group)->addRow(row);
   QObject::connect(list->List(), &QListWidget::itemDoubleClicked, page, [list] { list->Flip(); });

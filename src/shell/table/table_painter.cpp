@@ -7,6 +7,7 @@
 #include <cmath>
 #include <filesystem>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "shell/table/pictures.h"
@@ -269,6 +270,7 @@ CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int 
 const CheckPile& BetPiles::PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]) {
   constexpr int kMostKept = 40;  // more are changed for the fewest
   Kept& kept = piles_[{seat, bet}];
+  kept.up = true;
   const auto changeAll = [&] {
     kept.pile = BreakIntoChecks(amount, checkValue, kMostKept);
     std::copy(checkValue, checkValue + 6, kept.values.begin());
@@ -295,6 +297,11 @@ const CheckPile& BetPiles::PileOf(int seat, int bet, Currency amount, const Curr
   }
   kept.amount = amount;
   return kept.pile;
+}
+
+void BetPiles::ForgetOthers() {
+  for (auto each = piles_.begin(); each != piles_.end();)
+    each = std::exchange(each->second.up, false) ? std::next(each) : piles_.erase(each);
 }
 
 namespace {
@@ -619,6 +626,7 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
                    scene.game->settings.UseCentsSymbol);
   if (!scene.hideBets) {
     for (const Pile& pile : CollectPiles(scene, layout, view.Transform())) DrawPile(brush, pile);
+    if (scene.piles != nullptr) scene.piles->ForgetOthers();
   }
   for (const FallenCheck& check : scene.rain)
     painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),

@@ -111,12 +111,15 @@ class BetPiles {
   // The pile of a bet as it lies now: what was added lies on top, what was taken is taken off the top as far
   // as its checks are worth just that; else the amount is changed as a whole.
   const CheckPile& PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]);
+  // All bets have been asked for: those that were not are down.
+  void ForgetOthers();
 
  private:
   struct Kept {
     Currency amount;
     CheckPile pile;
     std::array<Currency, 6> values{};
+    bool up = false;  // asked for since the others were forgotten
   };
   std::map<std::pair<int, int>, Kept> piles_;
 };
