@@ -17,6 +17,7 @@
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
 #include "play/game_file.h"
+#include "play/house_presets.h"
 #include "play/players.h"
 #include "play/script_session.h"
 #include "play/setting_table.h"
@@ -350,6 +351,19 @@ bool Set(Call& call) {
   return SetSettings(call.game, {change}, call.error);
 }
 
+bool UseHouse(Call& call) {
+  if (call.words.size() < 2) {
+    Json& houses = call.answer["houses"] = Json::array();
+    for (const HousePreset& house : HousePresets())
+      houses.push_back({{"key", house.key}, {"name", house.name}, {"tells", house.tells}});
+    return true;
+  }
+  const std::string name = Joined(call.words, 1, call.words.size());
+  const HousePreset* house = FindHousePreset(name);
+  if (house == nullptr) return call.Bad("there is no house \"" + name + "\"; there are " + HouseKeys());
+  return SetSettings(call.game, HouseRules(*house), call.error);
+}
+
 bool Get(Call& call) {
   if (!WantWords(call, 2, 2, "get NAME, or get NAME@SEAT")) return false;
   std::string name;
@@ -548,6 +562,7 @@ constexpr Handler kHandlers[] = {
     {{"seed", "NUMBER", "seeds the generator"}, Seed},
     {{"atm", "SEAT deposit|withdraw AMOUNT", "moves money from or to a bankroll"}, Atm},
     {{"set", "NAME[@SEAT] VALUE", "changes a setting"}, Set},
+    {{"house", "[NAME]", "the rules of a ready house; without a name the houses there are"}, UseHouse},
     {{"get", "NAME[@SEAT]", "reads a setting or a value of the table"}, Get},
     {{"newsession", "[keepprev] [keepstacks] [keeplogs] [closescripts] [closefile|rewind|continue]",
       "starts a new session"},

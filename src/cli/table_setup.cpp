@@ -17,6 +17,7 @@
 #include "dice/roll_file.h"
 #include "play/game_file.h"
 #include "play/game_file_records.h"
+#include "play/house_presets.h"
 #include "play/players.h"
 #include "play/setting_table.h"
 #include "play/settings_file.h"
@@ -68,6 +69,7 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
 }
 
 void AddSettingsFileOptions(CLI::App& command, TableOptions& options) {
+  command.add_option("--house", options.house, "The rules of a ready house: " + HouseKeys());
   command.add_option("--settings", options.settingsFile, "A file of settings, NAME = VALUE a line");
   command.add_option("--save-settings", options.saveSettings, "Write the settings in force to this file");
 }
@@ -126,8 +128,15 @@ struct WantedSetting {
   std::string where;  // "--settings: house.txt, line 3: ", "--set MaxBet=5: "
 };
 
-// The file's settings and then those of the command line.
+// The rules of the house, the file's settings, and then those of the command line.
 bool CollectSettings(const TableOptions& options, std::vector<WantedSetting>& wanted) {
+  if (!options.house.empty()) {
+    const HousePreset* house = FindHousePreset(options.house);
+    if (house == nullptr)
+      return Told("--house " + options.house + ": there is no such house; there are " + HouseKeys());
+    for (const SettingChange& rule : HouseRules(*house))
+      wanted.push_back({rule, "--house " + options.house + ": "});
+  }
   if (!options.settingsFile.empty()) {
     std::vector<SettingLine> lines;
     if (const std::string error = ReadSettingsFile(options.settingsFile, lines); !error.empty())

@@ -19,6 +19,7 @@ struct TableOptions {
   bool writes = false;                // the table is played: it needs a folder that no other program has
   std::vector<std::string> players;   // NAME=BANKROLL
   std::vector<std::string> settings;  // NAME=VALUE, NAME@SEAT=VALUE
+  std::string house;                  // a ready house's key or name; its rules come first
   std::string settingsFile;           // a house's rules, read before the settings
   std::string saveSettings;           // where the rules in force are written
   std::string rollFile;
@@ -33,7 +34,7 @@ struct TableOptions {
 };
 
 void AddTableOptions(CLI::App& command, TableOptions& options);
-// --settings and --save-settings alone, for commands that seat nobody.
+// --house, --settings and --save-settings alone, for commands that seat nobody.
 void AddSettingsFileOptions(CLI::App& command, TableOptions& options);
 
 // A table as the options want it. Null, with the reason told on standard error, when one of them is bad.

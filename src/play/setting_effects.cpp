@@ -134,16 +134,6 @@ bool VigCovered(Game& game, std::string& error) {
 }
 static_assert(NeedOnly({Msg::kLayVigNotCovered, Msg::kBuyVigNotCovered}, {"alone"}));
 
-void OfferHouseStandard(Game& game) {
-  TableState& table = game.table;
-  if (table.OccupiedSeats == 0) return;
-  if (!Confirms<Msg::kAskMatchHouse>(game)) return;
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(table, seat) &&
-        Confirms<Msg::kAskMatchHouseOf>(game, With<"player">(table.seats[seat].SeatName)))
-      table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
-}
-
 // A value that is within its limits, and yet none of those that there are.
 bool OneOfThose(const SettingRow& row, Game& game, std::string& error) {
   const auto* cell = std::get_if<Cell<int>>(&row.cell);
@@ -222,14 +212,27 @@ bool CarryOutSettings(Game& game, const KeptSettings& before, std::string& error
   game.autobet.ScriptsCompiled = false;
   ReplaceMissingGenerator(game.generators);
   if (Has(changes, Effect::kThrottle)) SetThrottle(game, game.settings.RollThrottle);
-  const bool house = std::any_of(changes.begin(), changes.end(), [](const SettingPlace& place) {
-    return place.row->facts.effect == Effect::kHouseStandard && place.seat == kHouse;
-  });
-  if (house) OfferHouseStandard(game);
   if (Has(changes, Effect::kLog) && !game.events.RecordEventsActive) FlushEventsLog(game);
   game.host->Changed(game, Change::kSettings);
   RequireConsistency(game);
   return true;
+}
+
+bool HouseStandardChanged(Game& game, const KeptSettings& before) {
+  const std::vector<SettingPlace> changes = ChangesSince(game, before);
+  return std::any_of(changes.begin(), changes.end(), [](const SettingPlace& place) {
+    return place.row->facts.effect == Effect::kHouseStandard && place.seat == kHouse;
+  });
+}
+
+void OfferHouseStandard(Game& game) {
+  TableState& table = game.table;
+  if (table.OccupiedSeats == 0) return;
+  if (!Confirms<Msg::kAskMatchHouse>(game)) return;
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(table, seat) &&
+        Confirms<Msg::kAskMatchHouseOf>(game, With<"player">(table.seats[seat].SeatName)))
+      table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;
 }
 
 }  // namespace tessaryn

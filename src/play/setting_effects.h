@@ -23,7 +23,12 @@ void TakeEffectAtOnce(Game& game, const SettingRow& row);
 // Whether all values go together, and nobody loses what is in use. False with the reason.
 bool SettingsHold(Game& game, const KeptSettings& before, std::string& error);
 // Carries out what the new values bring with them; asks the questions that this takes. False with the reason:
-// the caller restores what was.
+// the caller restores what was. A new house standard is not offered here.
 bool CarryOutSettings(Game& game, const KeptSettings& before, std::string& error);
+
+// Which bets of new players work on the come-out is another than it was.
+bool HouseStandardChanged(Game& game, const KeptSettings& before);
+// Asks whether the players at the table take the house standard too, and each of them.
+void OfferHouseStandard(Game& game);
 
 }  // namespace tessaryn

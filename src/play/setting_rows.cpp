@@ -154,9 +154,9 @@ constexpr const char* kSeedings[] = {" Seed normally", " User seed"};
 constexpr const char* kProperAmounts[] = {" Manual", " Auto w/ minor correction",
                                           " Auto w/ color correction"};
 
-constexpr const char* kConfiguration = "the configuration screen";
-constexpr const char* kFelt = "the drawing of checks";
-constexpr const char* kPrinting = "printing";
+constexpr const char* kDiceActions[] = {" Thrown", " Without motion", " Thrown quickly"};
+constexpr const char* kBankrollsBegun[] = {" Carry the bankroll forward", " Begin with this amount",
+                                           " Ask for the amount"};
 constexpr const char* kBias = "0 by the change, 1 up, 2 down";
 
 constexpr SettingRow kRows[] = {
@@ -196,13 +196,15 @@ constexpr SettingRow kRows[] = {
     Number<&Settings::AtmUnit>(kAmounts, "amount of an ATM action that names none"),
     Number<&Settings::MessageMask>({0, 31}, "bits 1 refusals, 2 bankroll, 4 adjustments, 8 and 16 scripts",
                                    {.captions = kNotes}),
-    Flag<&Settings::UseCentsSymbol>("cents symbol below 1", {.waitsFor = kFelt}),
-    Flag<&Settings::AutoArrangeChecks>("stacks rearrange", {.waitsFor = kFelt}),
-    Flag<&Settings::SnapMouse>("pointer snaps to the default button", {.waitsFor = kConfiguration}),
-    Flag<&Settings::ColorPrint>("printing in colour", {.waitsFor = kPrinting}),
+    Flag<&Settings::UseCentsSymbol>("amounts below a dollar are written in cents"),
+    Flag<&Settings::AutoArrangeChecks>(
+        "checks of a bet are changed for the fewest; else they stay as they were bet"),
+    Flag<&Settings::SnapMouse>("the pointer goes to the default button of a box"),
+    Flag<&Settings::ColorPrint>("printing in colour"),
     Choice<&Settings::InfoTipLevel>(kInfoTips, "how much the pointer tells"),
-    Number<&Settings::ScreenFontSize>({9, 13}, "points", {.unit = "points", .waitsFor = kConfiguration}),
-    Number<&Settings::DiceAction>({0, 10}, "how the dice move"),
+    Number<&Settings::ScreenFontSize>({9, 13}, "points: 9 small, 11 the desktop's own size, 13 large",
+                                      {.unit = "points"}),
+    Choice<&Settings::DiceAction>(kDiceActions, "how the dice move"),
     Number<&Settings::StickPerson>(kSoundSets, "sound set, 0 none"),
     Number<&Settings::DiceSound>(kSoundSets, "sound set, 0 none"),
     Number<&Settings::CheckSound>(kSoundSets, "sound set, 0 none"),
@@ -240,7 +242,7 @@ constexpr SettingRow kRows[] = {
     Flag<&Handling::AutoDownPlace>("Place and Buy on a covered number come down"),
     Flag<&Handling::AutoPassDice>("the seat won't shoot"),
     Flag<&SeatState::AllowNegativeBankroll>("bets without money", {.effect = Effect::kNegativeAllowed}),
-    Number<&SeatState::BankrollInitType>({0, 2}, "new session: 0 carry, 1 amount, 2 ask"),
+    Choice<&SeatState::BankrollInitType>(kBankrollsBegun, "new session: 0 carry, 1 amount, 2 ask"),
     Number<&SeatState::BankrollInitAmount>(kBankrolls, "new session's bankroll"),
     // In rows.
     InRows(

@@ -52,7 +52,6 @@ struct RowFacts {
   Effect effect = Effect::kNone;
   std::span<const char* const> captions = {};  // of the choices 0, 1, ..; of a flag off, on; of a mask's bits
   const char* unit = nullptr;                  // where the type doesn't tell
-  const char* waitsFor = nullptr;              // nothing reads it until this is built
 };
 
 struct SettingRow {

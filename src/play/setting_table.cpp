@@ -179,12 +179,16 @@ void BringTogether(Game& game) {
 
 }  // namespace
 
-bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
+bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error,
+                 HouseStandard standard) {
   const KeptSettings before = KeepSettings(game);
   error.clear();
-  if (PutAll(game, changes, error) == changes.size() && CarryOutSettings(game, before, error)) return true;
-  RestoreSettings(game, before);
-  return false;
+  if (PutAll(game, changes, error) < changes.size() || !CarryOutSettings(game, before, error)) {
+    RestoreSettings(game, before);
+    return false;
+  }
+  if (standard == HouseStandard::kOffered && HouseStandardChanged(game, before)) OfferHouseStandard(game);
+  return true;
 }
 
 std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error) {
@@ -195,6 +199,35 @@ std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& cha
     problem = FirstThatBreaks(game, before, changes);
   RestoreSettings(game, before);
   return problem;
+}
+
+ConfigurationProblem FindConfigurationProblem(Game& game, const std::vector<SettingChange>& changes) {
+  const KeptSettings before = KeepSettings(game);
+  std::string ignored;
+  for (const SettingChange& change : changes) Put(game, change, ignored);
+  const ConfigurationProblem problem = CheckConfiguration(game);
+  RestoreSettings(game, before);
+  return problem;
+}
+
+std::vector<SettingDifference> PreviewSettings(Game& game, const std::vector<SettingChange>& changes) {
+  const KeptSettings before = KeepSettings(game);
+  std::string ignored;
+  PutAll(game, changes, ignored);
+  std::vector<SettingDifference> differences;
+  for (const SettingPlace& place : ChangesSince(game, before)) {
+    if (place.seat != kHouse) continue;
+    const int last = std::holds_alternative<Cell<BetSet>>(place.row->cell) ? place.row->lastRow : place.index;
+    for (int index = place.index; index <= last; ++index)
+      differences.push_back(
+          {SettingFullName(*place.row, index), "", SettingText(game, *place.row, place.seat, index)});
+  }
+  RestoreSettings(game, before);
+  std::erase_if(differences, [&game](SettingDifference& difference) {
+    std::string error;
+    return GetSetting(game, difference.name, 0, difference.now, error) && difference.now == difference.then;
+  });
+  return differences;
 }
 
 bool IsSeatSetting(std::string_view name) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/table_types.h"
+#include "rules/payoffs.h"
 
 namespace tessaryn {
 
@@ -21,11 +22,26 @@ struct SettingChange {
   int seat = 0;
   std::string value;
 };
-bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// A new house standard of bets that work on the come-out is offered to the players, unless the caller does
+// so later by OfferHouseStandard.
+enum class HouseStandard { kOffered, kOfferedLater };
+bool SetSettings(Game& game, const std::vector<SettingChange>& changes, std::string& error,
+                 HouseStandard standard = HouseStandard::kOffered);
 // The place in changes of the one that SetSettings would refuse: a value that is out of its limits, or the
 // one behind which the settings no longer hold together. changes.size() if there is none. Changes nothing and
 // asks nothing.
 std::size_t FindSettingProblem(Game& game, const std::vector<SettingChange>& changes, std::string& error);
+// What the leaving check of the configuration would say with the changes made: the first rule that the
+// settings would break among themselves. Changes that can't be made are left out. Changes nothing.
+ConfigurationProblem FindConfigurationProblem(Game& game, const std::vector<SettingChange>& changes);
+// The table's values that the changes would replace by others, in the order of AllSettings; what players keep
+// for themselves is left out. Requires that FindSettingProblem finds none. Changes nothing.
+struct SettingDifference {
+  std::string name;
+  std::string now;
+  std::string then;
+};
+std::vector<SettingDifference> PreviewSettings(Game& game, const std::vector<SettingChange>& changes);
 // Whether the setting is kept by players alone, so that without a seat it means every player at the table.
 bool IsSeatSetting(std::string_view name);
 // Brings every setting back within the limits of its row, and what the settings must keep among themselves

@@ -90,14 +90,22 @@ std::string ReadSettingsFile(const std::string& path, std::vector<SettingLine>& 
   return "";
 }
 
-std::string ApplySettingsFile(Game& game, const std::string& path) {
+std::string ReadCheckedSettings(Game& game, const std::string& path, std::vector<SettingChange>& changes) {
   std::vector<SettingLine> lines;
   if (std::string error = ReadSettingsFile(path, lines); !error.empty()) return error;
-  std::vector<SettingChange> changes;
-  for (const SettingLine& line : lines) changes.push_back(line.change);
+  std::vector<SettingChange> read;
+  for (const SettingLine& line : lines) read.push_back(line.change);
   std::string error;
-  const std::size_t problem = FindSettingProblem(game, changes, error);
+  const std::size_t problem = FindSettingProblem(game, read, error);
   if (problem < lines.size()) return SettingLinePrefix(path, lines[problem].line) + error;
+  changes = std::move(read);
+  return "";
+}
+
+std::string ApplySettingsFile(Game& game, const std::string& path) {
+  std::vector<SettingChange> changes;
+  if (std::string error = ReadCheckedSettings(game, path, changes); !error.empty()) return error;
+  std::string error;
   return SetSettings(game, changes, error) ? "" : path + ": " + error;
 }
 

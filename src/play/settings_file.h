@@ -31,6 +31,8 @@ LineKind ParseSettingLine(std::string_view text, SettingChange& change, std::str
 // "FILE, line 12: " before a reason.
 std::string SettingLinePrefix(const std::string& path, int line);
 
+// The changes of a file, found to hold together with the table's settings. On an error changes is unchanged.
+std::string ReadCheckedSettings(Game& game, const std::string& path, std::vector<SettingChange>& changes);
 // Reads and applies a file, everything or nothing.
 std::string ApplySettingsFile(Game& game, const std::string& path);
 

@@ -9,6 +9,7 @@
 
 #include "base/fields.h"
 #include "base/table_types.h"
+#include "state/looks.h"
 
 namespace tessaryn {
 
@@ -143,14 +144,15 @@ struct ScreenState {
   int BetAmountMode = 1;  // how a click gets its amount, as TableCommands has it
   Currency ClickAmount = Currency::Dollars(5);
   bool HotKeysEnabled = true;
+  Looks looks;
   // --- Files.
   std::string Folders[kChooserFolders];  // empty: the data folder
   std::vector<HotKey> HotKeys;           // as HotKeys.dta has them
 };
 TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
                 CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
-                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, Folders,
-                HotKeys)
+                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, looks,
+                Folders, HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

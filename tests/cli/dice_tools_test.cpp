@@ -287,6 +287,15 @@ TEST(CliSettings, AHousesRulesSurviveTheirFileAndDamageIsNamed) {
   EXPECT_NE(ran.out.find("\"value\":2}"), std::string::npos) << ran.out;
   EXPECT_NE(ran.out.find("\"value\":2500"), std::string::npos);
   EXPECT_NE(ran.out.find("8 to 1"), std::string::npos);
+  const Ran ready = play({"--house", "345x-10", "--set", "MaxBet=600"},
+                         "get MinBetMain\nget MaxBet\nhouse 2x-5\nget OddsAllowed410\nhouse\nquit\n");
+  EXPECT_NE(ready.out.find("\"value\":10}"), std::string::npos) << ready.out;
+  EXPECT_NE(ready.out.find("\"value\":600}"), std::string::npos) << ready.out;
+  EXPECT_NE(ready.out.find("\"value\":2}"), std::string::npos) << ready.out;
+  EXPECT_NE(ready.out.find("3-4-5x odds, $25 table"), std::string::npos) << ready.out;
+  const Ran nowhere = play({"--house", "nowhere"}, "quit\n");
+  EXPECT_EQ(nowhere.exitCode, 1);
+  EXPECT_NE(nowhere.err.find("345x-10"), std::string::npos) << nowhere.err;
   WriteFile(file, "# a house\nMaxBet = 500\nNoSuchRule = 3\n");
   const Ran unknown = play({"--settings", file}, "quit\n");
   EXPECT_EQ(unknown.exitCode, 1);

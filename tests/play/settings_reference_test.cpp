@@ -58,11 +58,8 @@ std::string ReferenceRow(const Game& game, const SettingRow& row) {
     name += " to ." + std::to_string(row.lastRow);
     value += ", ...";
   }
-  const std::string waits = row.facts.waitsFor == nullptr ? ""
-                                                          : std::string(" (nothing reads it before ") +
-                                                                row.facts.waitsFor + " is built)";
   return "| `" + name + "`" + (row.BySeat() ? " @" : "") + " | " + value + " | " + ValuesText(row) + " | " +
-         row.help + CaptionsText(row) + waits + " |\n";
+         row.help + CaptionsText(row) + " |\n";
 }
 
 // With TESSARYN_NEW_REFERENCE=1 the rows of the reference are written anew.

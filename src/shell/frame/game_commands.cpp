@@ -7,6 +7,7 @@
 #include "shell/frame/game_files.h"
 #include "shell/frame/open_game.h"
 #include "shell/frame/sounds.h"
+#include "shell/frame/tool_windows.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/new_session.h"
 #include "shell/screens/path_screen.h"
@@ -79,6 +80,14 @@ std::span<const CommandRow> GameCommands() {
        .caption = QT_TRANSLATE_NOOP("Commands", "So&und"),
        .act = ToggleSound,
        .ticked = SoundIsOn},
+      {},
+      {.name = "mnuConfigure",
+       .caption = QT_TRANSLATE_NOOP("Commands", "&Configuration"),
+       .key = "Ctrl+,",
+       .run = InRun::kAsksFirst,
+       .act = [](Desk& desk) { ToggleTool(desk, kConfigurationWindow); },
+       .can = IsFree,
+       .ticked = [](const Desk& desk) { return ToolIsShown(desk, kConfigurationWindow); }},
       {},
       {"mnuExit", QT_TRANSLATE_NOOP("Commands", "E&xit"), "Ctrl+Shift+Q"},
   };

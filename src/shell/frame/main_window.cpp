@@ -29,6 +29,7 @@
 #include "shell/frame/game_files.h"
 #include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
+#include "shell/frame/screen_manners.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
 #include "shell/table/amount_selector.h"
@@ -78,6 +79,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   Retranslate();
   RefreshCommands();
   StartAutosaves();
+  new PointerSnap(game_, this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
     if (!KeepForSessionEnd(mayAsk)) manager.cancel();
@@ -299,8 +301,9 @@ void MainWindow::OnChanged(Change change) {
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
-    amounts_->RefreshChecks();
+    TakeFontSize(game_.settings.ScreenFontSize);
     table_->RebuildLayout();
+    amounts_->RefreshChecks();
   }
   if (change == Change::kEverything) ShowFallenDice();
   table_->Refresh();
@@ -481,8 +484,9 @@ void MainWindow::ShowGame() {
   }
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
-  amounts_->RefreshChecks();
+  TakeFontSize(game_.settings.ScreenFontSize);
   table_->RebuildLayout();
+  amounts_->RefreshChecks();
   table_->PlaceDice();
   table_->Refresh();
   RefreshCommands();

@@ -11,6 +11,8 @@
 #include "shell/screens/bankroll_graph_screen.h"
 #include "shell/screens/check_stacks_screen.h"
 #include "shell/screens/events_log_screen.h"
+#include "shell/frame/sounds.h"
+#include "shell/screens/configuration.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/report_window.h"
 #include "shell/screens/probability_page.h"
@@ -86,6 +88,15 @@ ToolWindow* MakeLog(Desk& desk) {
   return new Screen(desk.game, desk.window);
 }
 
+
+ToolWindow* MakeConfiguration(Desk& desk) {
+  SoundShelf shelf;
+  if (const Sounds* sounds = desk.host.sounds; sounds != nullptr)
+    shelf = {sounds->StickFiles(), sounds->DiceFiles(), sounds->CheckFiles(), sounds->WinFiles(),
+             [&desk](const QString& file) { desk.host.PlaySoundFile(desk.game, ToCore(file)); }};
+  return new ConfigurationScreen(desk.game, std::move(shelf), desk.window);
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -111,6 +122,7 @@ constexpr ToolRow kTools[] = {
     {kCheckStacksWindow, MakeCheckStacks},
     {kSessionsWindow, MakeLog<SessionsLogScreen>},
     {kEventsLogWindow, MakeLog<EventsLogScreen>},
+    {kConfigurationWindow, MakeConfiguration},
 };
 
 const ToolRow* RowOf(int number) {

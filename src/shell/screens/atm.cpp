@@ -35,7 +35,7 @@ AtmScreen::AtmScreen(Game& game, int seat, QWidget* parent) : QDialog(parent), g
 }
 
 void AtmScreen::AddHeader() {
-  const QString text = CheckText(kPictureCheck, game_.settings.CheckValue);
+  const QString text = CheckText(kPictureCheck, game_.settings.CheckValue, game_.settings.UseCentsSymbol);
   const QPixmap picture = CheckPicture(kPictureCheck, text, kPictureSize, devicePixelRatioF());
   auto* header = new HeaderBand(kBandGreen, picture, this);
   header->AddTitle(tr("ATM"));

@@ -45,9 +45,10 @@ AmountSelector::AmountSelector(const Game& game, QWidget* parent)
 
 void AmountSelector::RefreshChecks() {
   for (int n = 1; n <= 5; ++n) {
-    const QString value = MoneyText(game_.settings.CheckValue[n]);
-    checks_[n]->setIcon(
-        CheckPicture(n, CheckText(n, game_.settings.CheckValue), kCheckSize, devicePixelRatioF()));
+    const QString value = TableAmountText(game_, game_.settings.CheckValue[n]);
+    checks_[n]->setIcon(CheckPicture(n,
+                                     CheckText(n, game_.settings.CheckValue, game_.settings.UseCentsSymbol),
+                                     kCheckSize, devicePixelRatioF()));
     checks_[n]->setAccessibleName(tr("Bet %1 a click").arg(value));
     checks_[n]->setToolTip(tr("Bet %1 a click").arg(value));
   }

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
 
 namespace tessaryn {
@@ -23,7 +24,8 @@ struct CheckLook {
   bool doubleMark;  // each mark split in two
 };
 
-const std::array<CheckLook, kCheckFaces + 1>& CheckLooks() {
+// As they are at first.
+const std::array<CheckLook, kCheckFaces + 1>& FirstCheckLooks() {
   static const std::array<CheckLook, kCheckFaces + 1> looks = {{
       {},
       {QColor(236, 236, 232), QColor(52, 92, 168), QColor(250, 250, 247), QColor(30, 48, 92), 4, 0.30, false},
@@ -35,6 +37,27 @@ const std::array<CheckLook, kCheckFaces + 1>& CheckLooks() {
       {QColor(222, 160, 40), QColor(96, 62, 8), QColor(255, 244, 208), QColor(92, 58, 4), 12, 0.34, false},
   }};
   return looks;
+}
+
+std::array<CheckLook, kCheckFaces + 1>& CheckLooks() {
+  static std::array<CheckLook, kCheckFaces + 1> looks = FirstCheckLooks();
+  return looks;
+}
+
+bool IsLight(const QColor& color) {
+  return 0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF() > 0.55;
+}
+
+// A check in a colour of the user's: the edge stands off the body, the value can be read on the middle.
+CheckLook LookOf(const CheckLook& first, const QColor& body) {
+  CheckLook look = first;
+  if (body == first.body) return look;
+  look.body = body;
+  look.edge = IsLight(body) ? body.darker(320) : QColor(255, 250, 236);
+  const QColor hue = QColor::fromHsvF(std::max(0.0f, body.hueF()), body.saturationF(), 0.4f);
+  look.centre = QColor::fromHsvF(std::max(0.0f, body.hueF()), body.saturationF() * 0.08f, 0.98f);
+  look.text = hue.darker(130);
+  return look;
 }
 
 // A piece of the ring between two radii.
@@ -133,9 +156,15 @@ void PaintCheck(QPainter& painter, int denomination, const QString& text) {
   painter.restore();
 }
 
-QString CheckText(int denomination, const Currency (&checkValue)[6]) {
+void SetCheckColors(const std::uint32_t (&colors)[kCheckColors]) {
+  for (int n = 1; n <= kCheckFaces; ++n)
+    CheckLooks()[n] = LookOf(FirstCheckLooks()[n], QColor::fromRgb(colors[n]));
+}
+
+QString CheckText(int denomination, const Currency (&checkValue)[6], bool centsSymbol) {
   if (denomination < 1 || denomination >= kCheckFaces) return "$";
   const Currency value = checkValue[denomination];
+  if (centsSymbol && IsCents(value)) return CentsText(value);
   if (value.IsWhole()) return QString::fromStdString(PlainMoney(value));
   return QString::number(value.ToDouble(), 'f', 2);
 }

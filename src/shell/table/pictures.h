@@ -6,6 +6,7 @@
 #include <QPixmap>
 
 #include "base/money.h"
+#include "state/looks.h"
 
 class QPainter;
 
@@ -18,8 +19,11 @@ inline constexpr int kCheckFaces = 6;
 void PaintDie(QPainter& painter, int face, const QColor& body, const QColor& pips);
 // A check in a circle of diameter 1 centred on the origin. denomination 1 to 6. text: its value, or "$".
 void PaintCheck(QPainter& painter, int denomination, const QString& text);
-// The text of a check: whole dollars, or with cents; "$" for denomination 6.
-QString CheckText(int denomination, const Currency (&checkValue)[6]);
+// The text of a check: whole dollars, or with cents; below a dollar as cents alone where the table uses their
+// sign; "$" for denomination 6.
+QString CheckText(int denomination, const Currency (&checkValue)[6], bool centsSymbol = false);
+// The colours of the checks from here on, in all their pictures. What was made of others must be made anew.
+void SetCheckColors(const std::uint32_t (&colors)[kCheckColors]);
 
 // Two dice, for boxes and the icon. size in device-independent pixels.
 QPixmap DicePicture(int size, double devicePixelRatio);

@@ -4,6 +4,8 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 
+#include "state/game.h"
+
 namespace tessaryn {
 
 QString FromCore(const std::string& text) {
@@ -17,6 +19,18 @@ std::string ToCore(const QString& text) {
 }
 
 QString MoneyText(Currency value) { return QString::fromStdString(FormatMoney(value)); }
+
+bool IsCents(Currency value) {
+  return value != kZero && Abs(value) < Currency::Dollars(1) && !value.IsError();
+}
+
+QString CentsText(Currency value) {
+  return MoneyText(Multiply(value, Currency::Dollars(100))) + QStringLiteral("\u00a2");
+}
+
+QString TableAmountText(const Game& game, Currency value) {
+  return game.settings.UseCentsSymbol && IsCents(value) ? CentsText(value) : MoneyText(value);
+}
 
 int RunDialog(QDialog& dialog) {
   QEventLoop loop;

@@ -18,6 +18,11 @@ struct Game;
 QString FromCore(const std::string& text);
 std::string ToCore(const QString& text);
 QString MoneyText(Currency value);  // "1,234.50"
+// Below a dollar, and not nothing; and such an amount as "25\u00a2".
+bool IsCents(Currency value);
+QString CentsText(Currency value);
+// An amount as the table writes it: MoneyText, or cents where they have a sign of their own.
+QString TableAmountText(const Game& game, Currency value);
 
 // Opens the dialog window-modally and waits for its end while the rest of the program goes on being drawn.
 // Returns the dialog's result code. The dialog must not delete itself.

@@ -186,9 +186,9 @@ void RightClick(Game& game, TableCommands& commands) {
 }
 
 QString BetAmountText(const Game& game, int seat, int bet) {
-  QString text = FromCore(BetName(bet)) + ":  " + MoneyText(game.table.BetAmount(seat, bet));
+  QString text = FromCore(BetName(bet)) + ":  " + TableAmountText(game, game.table.BetAmount(seat, bet));
   if (IsTableBet(bet) && HasVig(bet) && game.table.BetAmount(seat, bet) > kZero)
-    text += "   vig:  " + MoneyText(VigFor(game, bet, game.table.BetAmount(seat, bet)));
+    text += "   vig:  " + TableAmountText(game, VigFor(game, bet, game.table.BetAmount(seat, bet)));
   return text;
 }
 
@@ -231,7 +231,7 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   QStringList parts;
   if (action != kPendingNone) parts += Translated("Next click") + ": " + Translated(kNextClickTexts[action]);
   if (commands.CarriedAmount > kZero)
-    parts += Translated("Carrying %1").arg(MoneyText(commands.CarriedAmount));
+    parts += Translated("Carrying %1").arg(TableAmountText(game, commands.CarriedAmount));
   if (commands.Moving.Bet != 0)
     parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0) {
@@ -244,8 +244,8 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   if (!pays.isEmpty()) parts += Translated("pays") + " " + pays;
   // A click that is meant for something else bets nothing.
   if (IsTableBet(bet) && occupied && action == kPendingNone && commands.Moving.Bet == 0) {
-    parts += Translated("minimum") + " " + MoneyText(MinBetFor(game, bet));
-    parts += Translated("may still be bet") + ": " + MoneyText(RoomFor(game, seat, bet));
+    parts += Translated("minimum") + " " + TableAmountText(game, MinBetFor(game, bet));
+    parts += Translated("may still be bet") + ": " + TableAmountText(game, RoomFor(game, seat, bet));
   }
   return parts.join("   ");
 }
@@ -256,7 +256,7 @@ QString InfoTip(Game& game, const TableCommands& commands, int bet) {
   const Currency amount = game.table.BetAmount(seat, bet);
   switch (game.settings.InfoTipLevel) {
     case 1:
-      return amount == kZero ? QString() : MoneyText(amount);
+      return amount == kZero ? QString() : TableAmountText(game, amount);
     case 2:
       return FromCore(BetName(bet));
     case 3:

@@ -531,12 +531,18 @@ QString& TableFontFamily() {
   static QString family = kDefaultTableFont;
   return family;
 }
+QString& LetteringFamily() {
+  static QString family;
+  return family;
+}
 }  // namespace
 
 void SetTableFont(const QString& family) { TableFontFamily() = family; }
 
+void SetLetteringFont(const QString& family) { LetteringFamily() = family; }
+
 QFont TableFont(bool bold, double pixels) {
-  QFont font(TableFontFamily());
+  QFont font(LetteringFamily().isEmpty() ? TableFontFamily() : LetteringFamily());
   font.setStyleHint(QFont::SansSerif);
   font.setBold(bold);
   font.setPixelSize(std::max(4, static_cast<int>(pixels)));

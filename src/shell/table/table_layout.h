@@ -76,6 +76,8 @@ QPointF PuckPlace(int point, int side);
 // The family of the lettering; "Arial" until another is set, before the first layout is built.
 inline constexpr const char* kDefaultTableFont = "Arial";
 void SetTableFont(const QString& family);
+// The user's own instead of it; empty for none.
+void SetLetteringFont(const QString& family);
 QFont TableFont(bool bold, double pixels);
 
 // Lettering as an outline, as large as its box allows, turned. The painter and the checks on the layout both

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <filesystem>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "shell/table/pictures.h"
@@ -29,6 +30,30 @@ QColor InkColor(const TableColors& colors, Ink ink) {
     default:
       return colors.Letter;
   }
+}
+
+constexpr int kWeave = 16;  // pixels of the tile
+
+// A tile of cloth, woven of light and dark threads. The same each time, so that halves of a table match.
+QImage Weave(int strength) {
+  QImage tile(kWeave, kWeave, QImage::Format_ARGB32_Premultiplied);
+  for (int y = 0; y < kWeave; ++y)
+    for (int x = 0; x < kWeave; ++x) {
+      const bool over = ((x / 2 + y / 2) & 1) != 0;
+      const int fleck = (x * 73 + y * 151 + x * y * 31) % 7;
+      const int alpha = std::min(255, strength * (3 + fleck) / 8);
+      tile.setPixelColor(x, y, over ? QColor(255, 255, 255, alpha / 2) : QColor(0, 0, 0, alpha));
+    }
+  return tile;
+}
+
+void DrawWeave(QPainter& painter, const TableColors& colors) {
+  if (colors.Texture <= 0) return;
+  QBrush weave;
+  weave.setTextureImage(Weave(colors.Texture));
+  weave.setTransform(QTransform::fromScale(0.5, 0.5));
+  painter.setBrush(weave);
+  painter.drawPath(FeltOutline());
 }
 
 void DrawRail(QPainter& painter, const TableColors& colors) {
@@ -54,12 +79,13 @@ void DrawRail(QPainter& painter, const TableColors& colors) {
 
 void DrawFelt(QPainter& painter, const TableColors& colors) {
   QRadialGradient light(QPointF(kTableMiddle, 240), 660);
-  light.setColorAt(0, colors.Felt.lighter(118));
+  light.setColorAt(0, colors.Felt.lighter(100 + colors.Spotlight * 18 / 50));
   light.setColorAt(0.7, colors.Felt);
-  light.setColorAt(1, colors.Felt.darker(122));
+  light.setColorAt(1, colors.Felt.darker(100 + colors.Spotlight * 22 / 50));
   painter.setPen(Qt::NoPen);
   painter.setBrush(light);
   painter.drawPath(FeltOutline());
+  DrawWeave(painter, colors);
 }
 
 // The dealers' bank: racks of checks at the middle of their side.
@@ -144,6 +170,22 @@ void DrawTablePart(QImage& part, int column, const TableLayout& layout, const Ta
 
 }  // namespace
 
+TableColors ColorsOf(const Looks& looks) {
+  TableColors colors;
+  colors.Room = QColor::fromRgb(looks.Room);
+  colors.Felt = QColor::fromRgb(looks.Cloth);
+  colors.Rail = QColor::fromRgb(looks.Rail);
+  colors.RailPad = looks.Rail == Looks().Rail ? colors.RailPad : colors.Rail.darker(170);
+  colors.Letter = QColor::fromRgb(looks.Lettering);
+  if (looks.Lettering != Looks().Lettering) colors.Line = colors.Soft = colors.Letter;
+  colors.Dice = QColor::fromRgb(looks.Dice[0]);
+  colors.Dice2 = QColor::fromRgb(looks.Dice[1]);
+  colors.Pips = QColor::fromRgb(looks.Pips);
+  colors.Texture = std::clamp(looks.Texture, 0, 100);
+  colors.Spotlight = std::clamp(looks.Spotlight, 0, 100);
+  return colors;
+}
+
 void DrawTable(QImage& picture, const TableDrawing& drawing, const TableView& view,
                const TableColors& colors) {
   const int middle = picture.width() / 2;
@@ -225,6 +267,43 @@ CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int 
   return pile;
 }
 
+const CheckPile& BetPiles::PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]) {
+  constexpr int kMostKept = 40;  // more are changed for the fewest
+  Kept& kept = piles_[{seat, bet}];
+  kept.up = true;
+  const auto changeAll = [&] {
+    kept.pile = BreakIntoChecks(amount, checkValue, kMostKept);
+    std::copy(checkValue, checkValue + 6, kept.values.begin());
+  };
+  const Currency change = amount - kept.amount;
+  const bool sameChecks = std::equal(kept.values.begin(), kept.values.end(), checkValue);
+  if (!sameChecks || kept.amount <= kZero || amount <= kZero) {
+    changeAll();
+  } else if (change > kZero) {
+    const CheckPile added = BreakIntoChecks(change, checkValue, kMostKept);
+    kept.pile.insert(kept.pile.end(), added.begin(), added.end());
+    if (kept.pile.size() > kMostKept) changeAll();
+  } else if (change < kZero) {
+    Currency rest = -change;
+    CheckPile pile = kept.pile;
+    while (!pile.empty() && pile.back() <= 5 && checkValue[pile.back()] <= rest) {
+      rest -= checkValue[pile.back()];
+      pile.pop_back();
+    }
+    if (rest == kZero)
+      kept.pile = pile;
+    else
+      changeAll();
+  }
+  kept.amount = amount;
+  return kept.pile;
+}
+
+void BetPiles::ForgetOthers() {
+  for (auto each = piles_.begin(); each != piles_.end();)
+    each = std::exchange(each->second.up, false) ? std::next(each) : piles_.erase(each);
+}
+
 namespace {
 
 constexpr int kPileHeight = 10;
@@ -233,13 +312,19 @@ constexpr std::size_t kMostPiles = 600;  // kept at a time
 
 }  // namespace
 
-void CheckPictures::SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6]) {
-  if (diameter == diameter_ && devicePixelRatio == ratio_ &&
+void CheckPictures::SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6],
+                            bool centsSymbol) {
+  if (diameter == diameter_ && devicePixelRatio == ratio_ && centsSymbol == centsSymbol_ &&
       std::equal(values_.begin(), values_.end(), checkValue))
     return;
   diameter_ = diameter;
   ratio_ = devicePixelRatio;
+  centsSymbol_ = centsSymbol;
   std::copy(checkValue, checkValue + 6, values_.begin());
+  Forget();
+}
+
+void CheckPictures::Forget() {
   pictures_.fill({});
   piles_.clear();
 }
@@ -249,7 +334,7 @@ const QPixmap& CheckPictures::CheckPictureOf(int denomination) {
   if (picture.isNull()) {
     Currency values[6];
     std::copy(values_.begin(), values_.end(), values);
-    picture = CheckPicture(denomination, CheckText(denomination, values),
+    picture = CheckPicture(denomination, CheckText(denomination, values, centsSymbol_),
                            std::max(4, static_cast<int>(std::lround(diameter_))), ratio_);
   }
   return picture;
@@ -373,7 +458,12 @@ struct CheckBrush {
 
 void DrawPile(CheckBrush& brush, const Pile& pile) {
   const Game& game = *brush.scene.game;
-  const CheckPile checks = BreakIntoChecks(pile.amount, game.settings.CheckValue, kPileHeight);
+  CheckPile checks = BreakIntoChecks(pile.amount, game.settings.CheckValue, kPileHeight);
+  if (brush.scene.piles != nullptr && !game.settings.AutoArrangeChecks) {
+    checks = brush.scene.piles->PileOf(pile.seat, pile.bet, pile.amount, game.settings.CheckValue);
+    // Of a pile that would stand too high, the upper checks show.
+    if (checks.size() > kPileHeight) checks.erase(checks.begin(), checks.end() - kPileHeight);
+  }
   const double radius = brush.diameter / 2;
   // On whole pixels: a picture between them would be smeared, and drawn slowly.
   const QPointF corner = pile.base - brush.pictures.Origin();
@@ -387,7 +477,7 @@ void DrawPile(CheckBrush& brush, const Pile& pile) {
               marker == "OFF" ? QColor(250, 250, 246) : QColor(20, 20, 22));
   if (brush.scene.showAmounts)
     DrawPlate(brush.painter, pile.base + QPointF(0, radius + plate * 0.5), std::max(9.0, plate),
-              MoneyText(pile.amount), QColor(255, 252, 225), QColor(40, 30, 10));
+              TableAmountText(game, pile.amount), QColor(255, 252, 225), QColor(40, 30, 10));
 }
 
 void DrawPuck(QPainter& painter, const Game& game, const TableView& view) {
@@ -407,8 +497,8 @@ void DrawPuck(QPainter& painter, const Game& game, const TableView& view) {
 
 constexpr double kDieUnits = 20;
 
-void DrawDie(QPainter& painter, const TableView& view, const TableColors& colors, QPointF place, double turn,
-             double height, int face) {
+void DrawDie(QPainter& painter, const TableView& view, const QColor& body, const QColor& pips, QPointF place,
+             double turn, double height, int face) {
   const double side = kDieUnits * view.Scale() * (1 + 0.5 * height);
   const QPointF ground = view.ToScreen(place);
   painter.save();
@@ -422,7 +512,7 @@ void DrawDie(QPainter& painter, const TableView& view, const TableColors& colors
   painter.translate(ground - QPointF(0, side * height));
   painter.rotate(turn - view.TableAngle);
   painter.scale(side, side);
-  PaintDie(painter, face, colors.Dice, colors.Pips);
+  PaintDie(painter, face, body, pips);
   painter.restore();
 }
 
@@ -532,16 +622,20 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
   for (int seat = 1; seat <= kSeats; ++seat) DrawSeat(painter, scene, layout, view, seat);
   DrawPuck(painter, *scene.game, view);
   CheckBrush brush{painter, scene, pictures, kCheckUnits * view.Scale()};
-  pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue);
+  pictures.SetSize(brush.diameter, painter.device()->devicePixelRatioF(), scene.game->settings.CheckValue,
+                   scene.game->settings.UseCentsSymbol);
   if (!scene.hideBets) {
     for (const Pile& pile : CollectPiles(scene, layout, view.Transform())) DrawPile(brush, pile);
+    if (scene.piles != nullptr) scene.piles->ForgetOthers();
   }
   for (const FallenCheck& check : scene.rain)
     painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),
                        pictures.PilePicture({check.Denomination}));
   if (!scene.showDice) return;
-  DrawDie(painter, view, colors, scene.dice.Die1, scene.dice.Turn1, scene.dice.Height, scene.dice.Face1);
-  DrawDie(painter, view, colors, scene.dice.Die2, scene.dice.Turn2, scene.dice.Height, scene.dice.Face2);
+  DrawDie(painter, view, colors.Dice, colors.Pips, scene.dice.Die1, scene.dice.Turn1, scene.dice.Height,
+          scene.dice.Face1);
+  DrawDie(painter, view, colors.Dice2, colors.Pips, scene.dice.Die2, scene.dice.Turn2, scene.dice.Height,
+          scene.dice.Face2);
 }
 
 // --- Status boxes.

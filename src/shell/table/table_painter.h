@@ -28,9 +28,14 @@ struct TableColors {
   QColor Accent{255, 214, 92};
   QColor Soft{205, 222, 205};
   QColor Dice{196, 24, 32};
+  QColor Dice2{196, 24, 32};
   QColor Pips{255, 255, 255};
   QColor Puck{250, 250, 250};
+  int Texture = 0;     // of the felt, 0 to 100
+  int Spotlight = 50;  // 0 to 100
 };
+// Any values, as of a file, give a table that can be seen.
+TableColors ColorsOf(const Looks& looks);
 
 // White in the hit map: nothing there.
 inline constexpr QRgb kNothing = 0xffffffffu;
@@ -71,7 +76,9 @@ class CheckPictures {
  public:
   // The size and the checks' values from here on; another one forgets what was made. diameter in
   // device-independent pixels.
-  void SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6]);
+  void SetSize(double diameter, double devicePixelRatio, const Currency (&checkValue)[6], bool centsSymbol);
+  // The checks look different from here on.
+  void Forget();
   // A pile with its shadow. Drawn with its top left corner at the pile's base less Origin().
   const QPixmap& PilePicture(const CheckPile& pile);
   QPointF Origin() const;
@@ -81,6 +88,7 @@ class CheckPictures {
 
   double diameter_ = 0;
   double ratio_ = 0;
+  bool centsSymbol_ = false;
   std::array<Currency, 6> values_;
   std::array<QPixmap, 7> pictures_;
   std::map<CheckPile, QPixmap> piles_;
@@ -95,6 +103,25 @@ struct DicePose {
   double Height = 0;  // above the felt, 0 to 1
   int Face1 = 3;
   int Face2 = 4;
+};
+
+// How the checks of each bet came to lie, for a table on which they aren't changed for the fewest.
+class BetPiles {
+ public:
+  // The pile of a bet as it lies now: what was added lies on top, what was taken is taken off the top as far
+  // as its checks are worth just that; else the amount is changed as a whole.
+  const CheckPile& PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]);
+  // All bets have been asked for: those that were not are down.
+  void ForgetOthers();
+
+ private:
+  struct Kept {
+    Currency amount;
+    CheckPile pile;
+    std::array<Currency, 6> values{};
+    bool up = false;  // asked for since the others were forgotten
+  };
+  std::map<std::pair<int, int>, Kept> piles_;
 };
 
 // A check that fell on the layout as the bank was broken.
@@ -118,6 +145,7 @@ struct TableScene {
   QPointF heldAt;     // there, on the screen
   bool movingPlayer = false;
   std::vector<FallenCheck> rain;
+  BetPiles* piles = nullptr;  // not owned; null: checks are always changed for the fewest
 };
 
 void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLayout& layout,

@@ -87,6 +87,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMinimumSize(320, 200);
   scene.game = &game_;
+  scene.piles = &piles_;
   entry_->setObjectName("txtBetAmount");
   entry_->setAccessibleName(tr("Bet amount"));
   entry_->hide();
@@ -105,7 +106,16 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
 
 // --- The layout and its caches.
 
+void TableWidget::TakeLooks() {
+  const Looks& looks = game_.screen.looks;
+  colors = ColorsOf(looks);
+  SetCheckColors(looks.Checks);
+  SetLetteringFont(FromCore(looks.LetteringFont));
+  checks_.Forget();
+}
+
 void TableWidget::RebuildLayout() {
+  TakeLooks();
   layout_ = BuildTableLayout(game_.settings, game_.payoffs);
   drawing_ = {BuildTableLayout(game_.settings, game_.payoffs),
               BuildTableLayout(game_.settings, game_.payoffs)};
@@ -447,7 +457,7 @@ void TableWidget::ShowCursor() {
     for (int n = 1; n <= 5; ++n)
       if (game_.settings.CheckValue[n] == commands_.ClickAmount) {
         denomination = n;
-        text = CheckText(n, game_.settings.CheckValue);
+        text = CheckText(n, game_.settings.CheckValue, game_.settings.UseCentsSymbol);
       }
   }
   setCursor(QCursor(CheckPicture(denomination, text, kSize, ratio), kSize / 2, kSize / 2));
@@ -627,8 +637,9 @@ void TableWidget::ShowThrow() {
   // Thrown, but not yet counted.
   const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
   const QPointF from = layout_.Seats[std::max(1, game_.table.ShooterSeat)].Rail;
-  if (game_.settings.DiceAction == 0)
-    Animate(kThrowMilliseconds, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
+  constexpr int kMilliseconds[] = {kThrowMilliseconds, 0, kThrowMilliseconds / 2};
+  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0)
+    Animate(time, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
   scene.dice = rest;
   update();
 }

@@ -89,6 +89,7 @@ class TableWidget : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void TakeLooks();
   void PrepareTable();
   void PrepareMap();
   Hit HitAt(QPoint point);
@@ -114,6 +115,7 @@ class TableWidget : public QWidget {
   TableCommands& commands_;
   TableLayout layout_;
   CheckPictures checks_;
+  BetPiles piles_;
   TableDrawing drawing_;
   QImage table_;  // the table without what changes
   QImage map_;    // ids under the points
