@@ -19,6 +19,7 @@
 #include "rules/bet_rules.h"
 #include "rules/payoffs.h"
 #include "rules/seed_rng.h"
+#include "state/vig.h"
 #include "support/places.h"
 #include "support/test_host.h"
 
@@ -234,6 +235,10 @@ TEST_P(LuckOfHouses, IsWhatTheDiceBroughtBeyondTheirMean) {
     }
     if (roll % 200 == 199) table.ExpectEveryOutcomeToBalance();
     ASSERT_FALSE(HasFatalFailure()) << "roll " << roll;
+    if (table.Chance(5)) {  // a roll that didn't come
+      LuckBeforeRoll(table.meter, *table.game);
+      LuckAfterRoll(table.meter, *table.game);
+    }
     table.Roll();
     for (int seat = 1; seat <= kPlayers; ++seat)
       ASSERT_TRUE(table.MoneyAgrees(seat, Currency::Dollars(5000), 0))
@@ -249,6 +254,135 @@ TEST_P(LuckOfHouses, IsWhatTheDiceBroughtBeyondTheirMean) {
 
 INSTANTIATE_TEST_SUITE_P(Houses, LuckOfHouses, testing::ValuesIn(kHouses),
                          [](const auto& house) { return std::string(house.param.name); });
+
+// --- What bets are expected to bring, against the analysis.
+
+struct OneBet : LuckTable {
+  explicit OneBet(bool loaded) {
+    Open({"", loaded});
+    State().seats[1].BetDefaultWorking = kAllTableBets;
+    State().seats[1].handling.WinHandling = State().seats[1].handling.LoseHandling = 1;
+  }
+  // Straight on the felt: rules of placing are no part of this.
+  void Put(int bet, Currency amount) {
+    SetBetAmount(*game, 1, bet, amount);
+    State().seats[1].BetWorking.byDefault = kAllTableBets;
+    RecomputeVig(*game);
+    LuckBeginSession(meter, *game);
+  }
+  // What the next roll is expected to bring, in dollars; the dice fall as they like.
+  double RollAndTell(int die1, int die2) {
+    LuckBegin();
+    Roll(die1, die2);
+    return LuckOf(meter, 1).expected;
+  }
+  void LuckBegin() {
+    LuckBeginSession(meter, *game);
+    LuckBeforeRoll(meter, *game);
+  }
+};
+
+TEST(Luck, ARollIsExpectedToBringWhatTheAnalysisSays) {
+  const Currency stake = Currency::Dollars(120);
+  for (const bool loaded : {false, true})
+    for (int bet = 1; bet <= kBets; ++bet) {
+      if (FamilyRowOf(bet).decidedBy == DecidedBy::kLine || kHandBets.Has(bet)) continue;
+      SCOPED_TRACE(BetName(bet) + (loaded ? ", loaded" : ", fair"));
+      OneBet table(loaded);
+      table.Put(bet, stake);
+      const Currency vig = HasVig(bet) ? VigHeld(*table.game, 1, bet) : kZero;
+      const double laidOut = (stake + vig).ToDouble();
+      const double mean = FigureAdvantage(*table.game, bet).evPerRoll * laidOut;
+      // A contract is priced as it is made: on its number it brings what it is worth.
+      const bool contract = IsComeNumber(bet) || IsDontComeNumber(bet);
+      EXPECT_NEAR(table.RollAndTell(1, 2), contract ? 0 : mean, 3e-4);
+    }
+}
+
+// A bet that has begun is worth what it will bring, so no further roll of it has a price; until then each
+// roll bears the part of the price that belongs to its chance to begin.
+TEST(Luck, ABetOnItsWayIsWorthWhatItWillBring) {
+  const Currency stake = Currency::Dollars(60);
+  for (const bool loaded : {false, true})
+    for (int bet = kAllSmall; bet <= kFire; ++bet) {
+      if (bet == kMidway) continue;
+      SCOPED_TRACE(BetName(bet) + (loaded ? ", loaded" : ", fair"));
+      OneBet table(loaded);
+      const LuckChances chances = LuckChancesOf(table.meter.dice);
+      double begins = 1;
+      const auto beginsWith = [&](std::initializer_list<int> numbers) {
+        begins = chances.seven;
+        for (const int number : numbers) begins += table.meter.dice.Chance(number);
+      };
+      if (bet == kAllSmall) beginsWith({2, 3, 4, 5, 6});
+      if (bet == kAllTall) beginsWith({8, 9, 10, 11, 12});
+      if (bet == kSharpShooter || bet == kFire) begins = chances.anySet;
+      if (bet == kRideTheLine) begins = chances.anySet + chances.natural;
+      const double price = FigureAdvantage(*table.game, bet).evPerDecision * stake.ToDouble() * begins;
+      int onItsWay = 0;
+      for (int games = 0; games < 40; ++games) {
+        while (table.State().Point != 0) table.Roll(3, 4);
+        table.Put(bet, stake);
+        while (table.State().BetAmount(1, bet) > kZero) {
+          table.LuckBegin();
+          const bool begun = table.meter.seats[1].value != 0;
+          onItsWay += begun ? 1 : 0;
+          table.Roll(table.Pick(1, 6), table.Pick(1, 6));
+          ASSERT_NEAR(LuckOf(table.meter, 1).expected, begun ? 0 : price, 3e-4);
+        }
+      }
+      EXPECT_GT(onItsWay, 10);
+    }
+}
+
+// The line pays its whole price on the come-out, to the last part: 7/495 of a Pass Line bet, 3/220 of a Don't
+// Pass bet.
+TEST(Luck, TheLinePaysItsEdgeOnTheComeOut) {
+  const Currency stake = Currency::Dollars(7);
+  for (const auto& [bet, cost] :
+       {std::pair{int{kPassLine}, 84}, {int{kCome}, 84}, {int{kDontPass}, 81}, {int{kDontCome}, 81}}) {
+    OneBet table(false);
+    const bool onLine = bet == kPassLine || bet == kDontPass;
+    for (int roll = 0; roll < 1000; ++roll) {
+      if (!onLine || table.State().Point == 0)
+        PlaceBet(*table.game, 1, bet, stake - table.State().BetAmount(1, bet));
+      const bool waits = table.State().BetAmount(1, bet) > kZero && (!onLine || table.State().Point == 0);
+      table.LuckBegin();
+      table.Roll(table.Pick(1, 6), table.Pick(1, 6));
+      const SeatLuck& luck = table.meter.seats[1];
+      ASSERT_TRUE(luck.expected == (waits ? -cost * stake.raw : 0)) << BetName(bet) << ", roll " << roll;
+      ASSERT_TRUE(luck.shifted == 0);
+    }
+  }
+}
+
+// What luck is for: results less their luck lie many times closer together, around the same mean.
+TEST(Luck, ResultsLessLuckLieCloseTogether) {
+  constexpr int kSessions = 400;
+  constexpr int kRolls = 100;
+  OneBet table(false);
+  const Currency stake = Currency::Dollars(10);
+  double squares[2] = {};
+  double luckVariance = 0;
+  double luckSum = 0;
+  for (int session = 0; session < kSessions; ++session) {
+    while (table.State().Point != 0) table.Roll(3, 4);
+    const Currency start = table.State().BankrollCurrent[1];
+    LuckBeginSession(table.meter, *table.game);
+    for (int roll = 0; roll < kRolls; ++roll) {
+      if (table.State().BetAmount(1, kPassLine) == kZero) PlaceBet(*table.game, 1, kPassLine, stake);
+      table.LuckTable::Roll();
+    }
+    const double net = (table.State().BankrollCurrent[1] - start).ToDouble();
+    const LuckReport report = LuckOf(table.meter, 1);
+    squares[0] += net * net;
+    squares[1] += (net - report.luck) * (net - report.luck);
+    luckVariance += report.standardDeviation * report.standardDeviation;
+    luckSum += report.luck;
+  }
+  EXPECT_GT(squares[0], 100 * squares[1]);  // a mean of some four dollars lost is in both
+  EXPECT_LT(std::abs(luckSum), 4 * std::sqrt(luckVariance));
+}
 
 }  // namespace
 }  // namespace tessaryn
