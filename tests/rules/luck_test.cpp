@@ -33,7 +33,7 @@ struct House {
   bool percentageDice = false;
   std::int32_t cellsOver = 0;  // what the cells have beyond the whole
   bool oddPayoffs = false;
-  bool changesDice = false;
+  bool changesRules = false;
   std::vector<SettingChange> rules = {};
 };
 const House kHouses[] = {
@@ -51,7 +51,7 @@ const House kHouses[] = {
      .cellsOver = -40,
      .rules = {{"BuyVigUpFront", 0, "off"}, {"BarNumber", 0, "2"}}},
     {.name = "LoadedDiceOverOddPayoffs", .percentageDice = true, .cellsOver = 40, .oddPayoffs = true},
-    {.name = "DiceThatChange", .changesDice = true, .rules = {{"AllowPutBets", 0, "off"}}},
+    {.name = "RulesAndDiceThatChange", .changesRules = true, .rules = {{"AllowPutBets", 0, "off"}}},
 };
 void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 
@@ -157,6 +157,21 @@ struct LuckTable {
     if (Chance(1)) ChooseHandling(kPlayers, true);
   }
 
+  // With bets up.
+  void ChangeRules() {
+    const char* const rates[] = {"0.05", "0.0333", "0.1"};
+    const char* const pays[] = {"1 to 1", "6 to 5", "2 to 3", "3 to 2"};
+    Set({{"BarNumber", 0, Chance(50) ? "12" : "2"},
+         {"BuyVigRate", 0, rates[Pick(0, 2)]},
+         {"LayVigRate", 0, rates[Pick(0, 2)]},
+         {"LayVigUpFront", 0, Chance(50) ? "on" : "off"},
+         {"PayoffTable." + std::to_string(Pick(1, kFire - 1)), 0, pays[Pick(0, 3)]},
+         {"FieldPayoffs." + std::to_string(Pick(1, 21)), 0, pays[Pick(0, 3)]},
+         {"SharpShooterPayoffs." + std::to_string(Pick(1, 11)), 0, pays[Pick(0, 3)]}});
+    if (Chance(30)) Load(Pick(-40, 40));
+    if (Chance(30)) ActivatePercentageDice(game->percentage, false);
+  }
+
   void Roll() {
     LuckBeforeRoll(meter, *game);
     RollDice(*game);
@@ -227,12 +242,7 @@ TEST_P(LuckOfHouses, IsWhatTheDiceBroughtBeyondTheirMean) {
   for (std::int64_t roll = 0; roll < rolls; ++roll) {
     const int changes = table.Pick(0, 4);
     for (int i = 0; i < changes; ++i) table.PlaySome();
-    if (house.changesDice && roll % 1000 == 500) {
-      if (roll % 2000 == 500)
-        table.Load(0);
-      else
-        ActivatePercentageDice(table.game->percentage, false);
-    }
+    if (house.changesRules && roll % 300 == 150) table.ChangeRules();
     if (roll % 200 == 199) table.ExpectEveryOutcomeToBalance();
     ASSERT_FALSE(HasFatalFailure()) << "roll " << roll;
     if (table.Chance(5)) {  // a roll that didn't come
@@ -254,6 +264,22 @@ TEST_P(LuckOfHouses, IsWhatTheDiceBroughtBeyondTheirMean) {
 
 INSTANTIATE_TEST_SUITE_P(Houses, LuckOfHouses, testing::ValuesIn(kHouses),
                          [](const auto& house) { return std::string(house.param.name); });
+
+// Every draw there is: none may come more or less often than it is reckoned with.
+TEST(Luck, PercentageDiceAreReckonedAsTheyAreDrawn) {
+  for (const int over : {-40, 0, 40}) {
+    LuckTable table;
+    table.Load(over);
+    std::array<std::int32_t, 36> drawn{};
+    for (int draw = 1; draw <= kProbabilityWhole; ++draw) {
+      int die1 = 0;
+      int die2 = 0;
+      DrawFromMatrix(table.game->percentage, table.game->generators, draw, die1, die2);
+      ++drawn[CombinationIndex(die1, die2)];
+    }
+    EXPECT_EQ(drawn, DrawChances(table.game->percentage)) << over;
+  }
+}
 
 // --- What bets are expected to bring, against the analysis.
 
