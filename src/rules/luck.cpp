@@ -36,17 +36,20 @@ void ChangeUnit(LuckMeter& meter, std::int64_t other) {
   meter.unit = unit;
 }
 
+void FollowDice(LuckMeter& meter, const Game& game) {
+  meter.dice = LuckDiceOf(game.percentage);
+  meter.chancesKnown = false;
+  ForgetPlans(meter);
+  if (meter.unit != 0 && meter.unit % UnitOf(meter.dice) != 0) ChangeUnit(meter, UnitOf(meter.dice));
+}
+
 void FollowRules(LuckMeter& meter, const Game& game) {
   if (meter.plans.empty()) {
     meter.plans.resize(kPlans + kSeatRows);
     meter.payoffs = game.payoffs;
-    meter.dice = LuckDiceOf(game.percentage);
+    FollowDice(meter, game);
   }
-  if (!StillTheDice(meter.dice, game.percentage)) {
-    meter.dice = LuckDiceOf(game.percentage);
-    meter.chancesKnown = false;
-    ForgetPlans(meter);
-  }
+  if (!StillTheDice(meter.dice, game.percentage)) FollowDice(meter, game);
   if (const LuckRules rules = RulesOf(game.settings); !(rules == meter.rules)) {
     meter.rules = rules;
     ForgetPlans(meter);
@@ -99,15 +102,34 @@ constexpr auto kOtherRecords = [] {
   return records;
 }();
 
-// On the line the waiting bet's row counts, not the bet's own.
-constexpr int OwnRow(int bet) { return bet == kPassLine ? kCome : bet == kDontPass ? kDontCome : bet; }
+// The first bet on a number whose row a bet on the line is paid by while a point is on.
+constexpr int LineRowsOf(int bet) {
+  switch (bet) {
+    case kPassLine:
+      return kCome4;
+    case kPassLineOdds:
+      return kComeOdds4;
+    case kDontPass:
+      return kDontCome4;
+    case kDontPassOdds:
+      return kDontComeOdds4;
+    default:
+      return 0;
+  }
+}
 
-bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, int bet) {
+bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, int bet, int point) {
+  const int line = LineRowsOf(bet);
+  if (line != 0 && point != 0) {
+    const int row = BetOn(line, point);
+    return kept.PayoffTable[row] == now.PayoffTable[row];
+  }
+  // On the line the waiting bet's row counts, not the bet's own.
+  const int row = bet == kPassLine ? kCome : bet == kDontPass ? kDontCome : bet;
   const Records other = kOtherRecords[bet];
-  const int row = OwnRow(bet);
   return kept.PayoffTable[row] == now.PayoffTable[row] &&
-         std::memcmp(reinterpret_cast<const char*>(&kept) + other.at,
-                     reinterpret_cast<const char*>(&now) + other.at, other.bytes) == 0;
+         (other.bytes == 0 || std::memcmp(reinterpret_cast<const char*>(&kept) + other.at,
+                                          reinterpret_cast<const char*>(&now) + other.at, other.bytes) == 0);
 }
 
 // --- The plan for what a seat rides with.
@@ -117,65 +139,94 @@ std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
   return hash ^ hash >> 29;
 }
 
-// Notes what the seat rides with; returns its hash. Payoffs that changed are taken over on the way.
-std::uint64_t NoteRide(LuckMeter& meter, const Game& game, int seat) {
+BetSet WorkingBets(const SeatState& state) { return state.BetWorking.Working() & state.SeatBets; }
+
+// Calls visit(figure) for amounts and vigs in the order of a ride.
+template <typename Visit>
+void ForEachFigure(const Game& game, int seat, Visit visit) {
+  const BetSet& bets = game.table.seats[seat].SeatBets;
+  bets.ForEach([&](int bet) { visit(game.table.BetAmount(seat, bet).raw); });
+  if (bets.Meets(kVigBets)) (bets & kVigBets).ForEach([&](int bet) { visit(VigHeld(game, seat, bet).raw); });
+}
+
+std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
-  LuckRide& ride = meter.ride;
-  ride.layout = LuckLayoutOf(game, state.SeatBets);
-  ride.bets = state.SeatBets;
-  ride.working = state.BetWorking.Working() & state.SeatBets;
-  ride.figures = 0;
-  const LuckLayout& layout = ride.layout;
-  std::uint64_t hash =
-      Mixed(ride.bets.words[0], ride.bets.words[1] ^ static_cast<std::uint64_t>(layout.point) << 56);
-  hash = Mixed(hash, ride.working.words[0] ^ ride.working.words[1] << 7);
-  hash = Mixed(hash, layout.marks ^ static_cast<std::uint64_t>(layout.fireMarks) << 16 ^
-                         static_cast<std::uint64_t>(layout.fourRolls + 8 * layout.pointBefore) << 24 ^
-                         static_cast<std::uint64_t>(layout.sharpShooter) << 36 ^
-                         static_cast<std::uint64_t>(layout.rideTheLine) << 48);
-  const auto add = [&](Currency figure) {
-    if (ride.figures < LuckRide::kFigures) ride.figure[ride.figures] = figure.raw;
-    ++ride.figures;
-    hash = Mixed(hash, static_cast<std::uint64_t>(figure.raw));
-  };
-  bool payoffsStand = true;
-  ride.bets.ForEach([&](int bet) {
-    add(game.table.BetAmount(seat, bet));
-    if (HasVig(bet)) add(VigHeld(game, seat, bet));
-    payoffsStand = payoffsStand && PaysAsBefore(meter.payoffs, game.payoffs, bet);
-  });
-  if (!payoffsStand) {
-    meter.payoffs = game.payoffs;
-    ForgetPlans(meter);
-  }
+  const BetSet working = WorkingBets(state);
+  std::uint64_t hash = Mixed(state.SeatBets.words[0] ^ static_cast<std::uint64_t>(game.table.Point) << 60,
+                             state.SeatBets.words[1] ^ working.words[0] << 13 ^ working.words[1] << 32);
+  if (layout != nullptr)
+    hash = Mixed(hash, layout->marks ^ static_cast<std::uint64_t>(layout->fireMarks) << 16 ^
+                           static_cast<std::uint64_t>(layout->fourRolls) << 24 ^
+                           static_cast<std::uint64_t>(layout->pointBefore) << 32 ^
+                           static_cast<std::uint64_t>(layout->sharpShooter) << 40 ^
+                           static_cast<std::uint64_t>(layout->rideTheLine) << 50);
+  ForEachFigure(game, seat,
+                [&](std::int64_t figure) { hash = Mixed(hash, static_cast<std::uint64_t>(figure)); });
   return hash;
 }
 
-bool SameRide(const LuckRide& a, const LuckRide& b) {
-  return a.bets == b.bets && a.working == b.working && a.layout == b.layout && a.figures == b.figures &&
-         std::equal(a.figure.begin(), a.figure.begin() + a.figures, b.figure.begin());
+// Whether the plan was made for what the seat rides with. layout: none where only the point counts.
+bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+  const SeatState& state = game.table.seats[seat];
+  const LuckRide& ride = plan.ride;
+  if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
+      !(ride.working == WorkingBets(state)) || (layout != nullptr && !(ride.layout == *layout)))
+    return false;
+  bool same = true;
+  std::size_t at = 0;
+  ForEachFigure(game, seat, [&](std::int64_t figure) { same = same && ride.figure[at++] == figure; });
+  return same;
+}
+
+LuckRide RideOf(const Game& game, int seat) {
+  const SeatState& state = game.table.seats[seat];
+  LuckRide ride;
+  ride.layout = LuckLayoutOf(game, state.SeatBets);
+  ride.bets = state.SeatBets;
+  ride.working = WorkingBets(state);
+  ForEachFigure(game, seat, [&](std::int64_t figure) {
+    if (ride.figures < LuckRide::kFigures) ride.figure[ride.figures] = figure;
+    ++ride.figures;
+  });
+  return ride;
+}
+
+// Payoffs that have changed are taken over.
+void FollowPayoffs(LuckMeter& meter, const Game& game, int seat) {
+  bool stand = true;
+  game.table.seats[seat].SeatBets.ForEach(
+      [&](int bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
+  if (stand) return;
+  meter.payoffs = game.payoffs;
+  ForgetPlans(meter);
+}
+
+// Makes the plan at its place, or at the seat's own where that one is ridden with on this roll already.
+std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_t place) {
+  const LuckRide ride = RideOf(game, seat);
+  if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
+  if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
+    meter.chances = LuckChancesOf(meter.dice);
+    meter.chancesKnown = true;
+  }
+  LuckPlan& plan = meter.plans[place];
+  plan.ride = ride;
+  plan.made = ride.Fits();
+  MakeLuckPlan(plan, game, seat, ride.layout, meter.dice, meter.chances);
+  return place;
 }
 
 // Its place in plans.
 std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
-  const std::uint64_t hash = NoteRide(meter, game, seat);
-  const bool fits = meter.ride.Fits();
-  std::size_t place = hash & (kPlans - 1);
-  if (LuckPlan& plan = meter.plans[place]; fits && plan.made && SameRide(plan.ride, meter.ride)) {
-    plan.rides = meter.roll;
-    return place;
-  }
-  // A place that another seat rides with on this roll is taken.
-  if (!fits || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
-  LuckPlan& plan = meter.plans[place];
-  if (!meter.chancesKnown && meter.ride.bets.Meets(kHandBets)) {
-    meter.chances = LuckChancesOf(meter.dice);
-    meter.chancesKnown = true;
-  }
-  MakeLuckPlan(plan, game, seat, meter.ride.layout, meter.dice, meter.chances);
-  plan.made = fits;
-  plan.rides = meter.roll;
-  plan.ride = meter.ride;
+  FollowPayoffs(meter, game, seat);
+  LuckLayout layout;
+  const BetSet& bets = game.table.seats[seat].SeatBets;
+  const bool byPoint = !bets.Meets(kHandBets);
+  if (!byPoint) layout = LuckLayoutOf(game, bets);
+  const LuckLayout* const key = byPoint ? nullptr : &layout;
+  std::size_t place = HashOf(game, seat, key) & (kPlans - 1);
+  if (!IsFor(meter.plans[place], game, seat, key)) place = MakePlanFor(meter, game, seat, place);
+  meter.plans[place].rides = meter.roll;
   return place;
 }
 
@@ -206,7 +257,6 @@ void LuckBeginSession(LuckMeter& meter, const Game& game) {
 void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
   if (meter.unit == 0) LuckBeginSession(meter, game);
   FollowRules(meter, game);
-  if (meter.unit % UnitOf(meter.dice) != 0) ChangeUnit(meter, UnitOf(meter.dice));
   ++meter.roll;
   meter.ridingSeats = 0;
   meter.throwsBefore = Throws(game.stats);
@@ -232,10 +282,10 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
     const int seat = std::countr_zero(seats);
     const LuckPlan& plan = meter.plans[meter.riding[seat]];
     SeatLuck& luck = meter.seats[seat];
-    const std::int64_t factor =
-        meter.unit == plan.whole * kValueUnit ? 1 : meter.unit / (plan.whole * kValueUnit);
-    luck.luck += plan.luck[outcome] * factor;
-    luck.expected += plan.expected * factor;
+    const std::int64_t planUnit = plan.whole * kValueUnit;
+    const bool scales = meter.unit != planUnit;
+    luck.luck += scales ? plan.luck[outcome] * (meter.unit / planUnit) : plan.luck[outcome];
+    luck.expected += scales ? plan.expected * (meter.unit / planUnit) : plan.expected;
     luck.variance += plan.variance;
     luck.value = plan.after[outcome];
     ++luck.rolls;

@@ -61,7 +61,6 @@ struct LuckMeter {
   LuckRules rules;
   PayoffTables payoffs;                // what the plans were made with
   std::vector<LuckPlan> plans;         // by a hash of what rides; behind them one for each seat
-  LuckRide ride;                       // being looked up
   std::size_t riding[kSeatRows] = {};  // places in plans
   std::uint32_t ridingSeats = 0;       // bit n: seat n has a plan for the roll to come
   std::int64_t roll = 0;
