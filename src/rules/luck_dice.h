@@ -9,6 +9,12 @@
 
 namespace tessaryn {
 
+__extension__ typedef __int128 WideInt;
+
+// Values of bets between two rolls are whole in this part of $0.0001: with fair dice and usual payoffs a
+// contract on a number is worth thirds, fifths and elevenths of its amount.
+inline constexpr std::int64_t kValueUnit = 165;
+
 // The 21 pairs of faces whose order doesn't matter, as no bet asks for it.
 inline constexpr int kOutcomes = 21;
 struct DicePair {

@@ -69,24 +69,6 @@ void CompareWithMean(LuckPlan& plan, const Changes& changes, const LuckDice& dic
 
 }  // namespace
 
-LuckLayout LuckLayoutOf(const Game& game, const BetSet& bets) {
-  const TableState& table = game.table;
-  LuckLayout layout;
-  layout.point = table.Point;
-  if (!bets.Meets(kHandBets)) return layout;
-  layout.pointBefore = table.PointBeforeRoll;
-  layout.marks = table.NumberMarks;
-  layout.fourRolls = table.FourRollCount;
-  layout.fireMarks = table.FireMarks;
-  layout.fireCount = table.FireCount;
-  layout.sharpShooter = table.SharpShooterCount;
-  layout.rideTheLine = table.RideTheLineCount;
-  layout.specials = game.settings.SmallTallEnabled;
-  for (int bet = kAllSmall; bet <= kFourRolls; ++bet)
-    if (table.AnyBets.Has(bet)) layout.marked |= static_cast<std::uint8_t>(1u << (bet - kAllSmall));
-  return layout;
-}
-
 void MakeLuckPlan(LuckPlan& plan, const Game& game, int seat, const LuckLayout& layout, const LuckDice& dice,
                   const LuckChances& chances) {
   const BetSet working = game.table.seats[seat].BetWorking.Working();

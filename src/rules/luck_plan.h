@@ -7,38 +7,11 @@
 #include <cstdint>
 
 #include "rules/luck_dice.h"
-#include "state/bet_families.h"
+#include "rules/luck_layout.h"
 
 namespace tessaryn {
 
 struct Game;
-
-__extension__ typedef __int128 WideInt;
-
-// Values of bets between two rolls are whole in this part of $0.0001: with fair dice and usual payoffs a
-// contract on a number is worth thirds, fifths and elevenths of its amount.
-inline constexpr std::int64_t kValueUnit = 165;
-
-// What the dice go on from, beside the bets: the point, the marks and the counts.
-struct LuckLayout {
-  int point = 0;
-  int pointBefore = 0;  // of the last roll
-  std::uint32_t marks = 0;
-  int fourRolls = 0;
-  std::uint32_t fireMarks = 0;
-  int fireCount = 0;
-  int sharpShooter = 0;
-  int rideTheLine = 0;
-  bool specials = false;    // SmallTallEnabled
-  std::uint8_t marked = 0;  // which of bets 84 to 87 are up at the table, so that their marks are kept
-
-  friend bool operator==(const LuckLayout&, const LuckLayout&) = default;
-};
-// The bets that go by more of it than the point.
-inline constexpr BetSet kHandBets =
-    BetsWhere([](const FamilyRow& row) { return row.decidedBy == DecidedBy::kHand; });
-// With what only the bets on marks, counts and hands ask about left out where none is up.
-LuckLayout LuckLayoutOf(const Game& game, const BetSet& bets);
 
 // What a seat rides with. Two seats that ride alike share a plan.
 struct LuckRide {

@@ -11,70 +11,6 @@
 namespace tessaryn {
 namespace {
 
-// --- How the layout goes on.
-
-constexpr std::uint8_t UpBit(int bet) { return static_cast<std::uint8_t>(1u << (bet - kAllSmall)); }
-
-bool IsUp(const LuckLayout& layout, int bet) { return (layout.marked & UpBit(bet)) != 0; }
-
-void MarkSide(LuckLayout& layout, std::uint32_t side, int bet, int total) {
-  if (!IsUp(layout, bet) && !IsUp(layout, kMakeAll))
-    layout.marks &= ~side;
-  else
-    layout.marks |= (1u << total) & side;
-}
-
-int PointAfter(int point, int total) {
-  if (point == 0) return IsBoxNumber(total) ? total : 0;
-  return total == point || total == 7 ? 0 : point;
-}
-
-void CountHand(LuckLayout& layout, int total) {
-  const int point = layout.point;
-  if (point != 0 && total == point) {
-    const std::uint32_t mark = 1u << BoxPosition(point);
-    if ((layout.fireMarks & mark) == 0) ++layout.fireCount;
-    layout.fireMarks |= mark;
-    ++layout.sharpShooter;
-    ++layout.rideTheLine;
-  }
-  if (point == 0 && (total == 7 || total == 11)) ++layout.rideTheLine;
-  if (point == 0 || total != 7) return;
-  layout.fireMarks = 0;
-  layout.fireCount = layout.sharpShooter = layout.rideTheLine = 0;
-}
-
-bool Full(std::uint32_t marks, std::uint32_t side) { return (marks & side) == side; }
-
-// What the winners leave of the marks.
-std::uint32_t MarksLeft(const LuckLayout& layout, std::uint32_t marks) {
-  if (Full(marks, kAllMarks)) return 0;
-  if (IsUp(layout, kMakeAll)) return marks;
-  for (const std::uint32_t side : {kSmallMarks, kTallMarks})
-    if (Full(marks, side)) marks &= ~side;
-  return marks;
-}
-
-RolledLayout LayoutAfter(const LuckLayout& layout, int total) {
-  LuckLayout next = layout;
-  if (next.specials) {
-    MarkSide(next, kSmallMarks, kAllSmall, total);
-    MarkSide(next, kTallMarks, kAllTall, total);
-    next.fourRolls = IsUp(next, kFourRolls) && total != 7 ? next.fourRolls + 1 : 0;
-    if (total == 7) next.marks = 0;
-  }
-  RolledLayout rolled{{}, next.marks, next.fourRolls};
-  if (next.specials) {
-    next.marks = MarksLeft(next, next.marks);
-    if (next.fourRolls == 4) next.fourRolls = 0;
-  }
-  CountHand(next, total);
-  next.pointBefore = layout.point;
-  next.point = PointAfter(layout.point, total);
-  rolled.after = next;
-  return rolled;
-}
-
 // --- Which bets a roll decides.
 
 // The codes of the bets that the fixed order of settlement decides, by what they go by.
@@ -113,9 +49,9 @@ CodeTable MakeCodeTable() {
 }
 
 int MarksCode(const RolledLayout& rolled, int bet) {
-  if (Full(rolled.marks, kAllMarks)) return kFlatWins;
-  const bool wins = (bet == kAllSmall && Full(rolled.marks, kSmallMarks)) ||
-                    (bet == kAllTall && Full(rolled.marks, kTallMarks));
+  if (AllMarked(rolled.marks, kAllMarks)) return kFlatWins;
+  const bool wins = (bet == kAllSmall && AllMarked(rolled.marks, kSmallMarks)) ||
+                    (bet == kAllTall && AllMarked(rolled.marks, kTallMarks));
   return wins ? kFlatWins : 0;
 }
 
@@ -332,15 +268,6 @@ StandingValues HandValues(const RidingBet& riding, const RolledLayouts& rolled) 
 }
 
 }  // namespace
-
-RolledLayouts LayoutsAfter(const LuckLayout& layout) {
-  std::array<RolledLayout, 13> byTotal;
-  for (int total = 2; total <= 12; ++total) byTotal[total] = LayoutAfter(layout, total);
-  RolledLayouts rolled;
-  for (std::size_t outcome = 0; outcome < kOutcomes; ++outcome)
-    rolled[outcome] = byTotal[kOutcomeDice[outcome].Total()];
-  return rolled;
-}
 
 int DecidingCode(const RidingBet& riding, const RolledLayout& rolled, int outcome) {
   static const CodeTable kCodes = MakeCodeTable();

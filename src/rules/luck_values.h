@@ -1,23 +1,14 @@
-// The steps of a luck plan: how the layout goes on, which bets a roll decides, and what those are worth that
-// stay up.
+// The steps of a luck plan: which bets a roll decides, and what those are worth that stay up.
 #pragma once
 
 #include <array>
 #include <cstdint>
 
-#include "rules/luck_plan.h"
+#include "rules/luck_dice.h"
+#include "rules/luck_layout.h"
 #include "rules/roll_payoff.h"
 
 namespace tessaryn {
-
-// The layout as a roll leaves it, and the marks and rolls that were counted before winners cleared them.
-struct RolledLayout {
-  LuckLayout after;
-  std::uint32_t marks = 0;
-  int fourRolls = 0;
-};
-using RolledLayouts = std::array<RolledLayout, kOutcomes>;
-RolledLayouts LayoutsAfter(const LuckLayout& layout);
 
 // A bet that rides.
 struct RidingBet {
