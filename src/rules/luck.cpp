@@ -1,0 +1,308 @@
+#include "rules/luck.h"
+
+#include <algorithm>
+#include <bit>
+#include <cmath>
+#include <cstring>
+#include <numeric>
+
+#include "state/game.h"
+#include "state/vig.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr std::size_t kPlans = 256;  // a power of two
+
+// --- What plans are made from.
+
+LuckRules RulesOf(const Settings& settings) {
+  return {settings.Unit(), settings.BarNumber, settings.SmallTallEnabled, settings.LayVigUpFront,
+          settings.BuyVigUpFront};
+}
+
+void ForgetPlans(LuckMeter& meter) {
+  for (LuckPlan& plan : meter.plans) plan.made = false;
+}
+
+std::int64_t UnitOf(const LuckDice& dice) { return dice.whole * kValueUnit; }
+
+// Sums go on in a unit that both the old and the new dice go into.
+void ChangeUnit(LuckMeter& meter, std::int64_t other) {
+  const std::int64_t unit = std::lcm(meter.unit, other);
+  const std::int64_t factor = unit / meter.unit;
+  for (SeatLuck& seat : meter.seats)
+    for (WideInt* sum : {&seat.luck, &seat.expected, &seat.shifted}) *sum *= factor;
+  meter.unit = unit;
+}
+
+void FollowDice(LuckMeter& meter, const Game& game) {
+  meter.dice = LuckDiceOf(game.percentage);
+  meter.chancesKnown = false;
+  ForgetPlans(meter);
+  if (meter.unit != 0 && meter.unit % UnitOf(meter.dice) != 0) ChangeUnit(meter, UnitOf(meter.dice));
+}
+
+void FollowRules(LuckMeter& meter, const Game& game) {
+  if (meter.plans.empty()) {
+    meter.plans.resize(kPlans + kSeatRows);
+    meter.payoffs = game.payoffs;
+    FollowDice(meter, game);
+  }
+  if (!StillTheDice(meter.dice, game.percentage)) FollowDice(meter, game);
+  if (const LuckRules rules = RulesOf(game.settings); !(rules == meter.rules)) {
+    meter.rules = rules;
+    ForgetPlans(meter);
+  }
+}
+
+// The rows of the tables by which a bet may be paid, as bytes of them: its own, and those that stand for
+// others.
+struct Records {
+  std::size_t at = 0;
+  std::size_t bytes = 0;
+};
+constexpr std::size_t kRow = sizeof(PayoffRecord);
+constexpr Records Rows(int first, int last) { return {first * kRow, (last - first + 1) * kRow}; }
+
+constexpr Records OtherRecordsOf(int bet) {
+  switch (FamilyOf(bet)) {
+    case FamilyId::kPassLine:
+    case FamilyId::kCome:
+      return Rows(kCome4, kCome4 + 5);
+    case FamilyId::kDontPass:
+    case FamilyId::kDontCome:
+      return Rows(kDontCome4, kDontCome4 + 5);
+    case FamilyId::kPassLineOdds:
+      return Rows(kComeOdds4, kComeOdds4 + 5);
+    case FamilyId::kDontPassOdds:
+      return Rows(kDontComeOdds4, kDontComeOdds4 + 5);
+    case FamilyId::kCAndE:
+    case FamilyId::kHorn:
+      return Rows(kTwo, kCraps);
+    case FamilyId::kField:
+      return {offsetof(PayoffTables, FieldPayoffs), sizeof(PayoffTables::FieldPayoffs)};
+    case FamilyId::kSevenPoint7:
+      return {offsetof(PayoffTables, SevenPointSevenPayoffs), sizeof(PayoffTables::SevenPointSevenPayoffs)};
+    case FamilyId::kMidway:
+      return {offsetof(PayoffTables, MidwayPayoffs), sizeof(PayoffTables::MidwayPayoffs)};
+    case FamilyId::kSharpShooter:
+      return {offsetof(PayoffTables, SharpShooterPayoffs), sizeof(PayoffTables::SharpShooterPayoffs)};
+    case FamilyId::kRideTheLine:
+      return {offsetof(PayoffTables, RideTheLinePayoffs), sizeof(PayoffTables::RideTheLinePayoffs)};
+    case FamilyId::kFire:
+      return {offsetof(PayoffTables, FirePayoffs), sizeof(PayoffTables::FirePayoffs)};
+    default:
+      return {};
+  }
+}
+constexpr auto kOtherRecords = [] {
+  std::array<Records, kBets + 1> records{};
+  for (int bet = 1; bet <= kBets; ++bet) records[bet] = OtherRecordsOf(bet);
+  return records;
+}();
+
+// The first bet on a number whose row a bet on the line is paid by while a point is on.
+constexpr int LineRowsOf(int bet) {
+  switch (bet) {
+    case kPassLine:
+      return kCome4;
+    case kPassLineOdds:
+      return kComeOdds4;
+    case kDontPass:
+      return kDontCome4;
+    case kDontPassOdds:
+      return kDontComeOdds4;
+    default:
+      return 0;
+  }
+}
+
+bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, int bet, int point) {
+  const int line = LineRowsOf(bet);
+  if (line != 0 && point != 0) {
+    const int row = BetOn(line, point);
+    return kept.PayoffTable[row] == now.PayoffTable[row];
+  }
+  // On the line the waiting bet's row counts, not the bet's own.
+  const int row = bet == kPassLine ? kCome : bet == kDontPass ? kDontCome : bet;
+  const Records other = kOtherRecords[bet];
+  return kept.PayoffTable[row] == now.PayoffTable[row] &&
+         (other.bytes == 0 || std::memcmp(reinterpret_cast<const char*>(&kept) + other.at,
+                                          reinterpret_cast<const char*>(&now) + other.at, other.bytes) == 0);
+}
+
+// --- The plan for what a seat rides with.
+
+std::uint64_t Mixed(std::uint64_t hash, std::uint64_t value) {
+  hash = (hash ^ value) * 0x9E3779B97F4A7C15u;
+  return hash ^ hash >> 29;
+}
+
+BetSet WorkingBets(const SeatState& state) { return state.BetWorking.Working() & state.SeatBets; }
+
+// Calls visit(figure) for amounts and vigs in the order of a ride.
+template <typename Visit>
+void ForEachFigure(const Game& game, int seat, Visit visit) {
+  const BetSet& bets = game.table.seats[seat].SeatBets;
+  bets.ForEach([&](int bet) { visit(game.table.BetAmount(seat, bet).raw); });
+  if (bets.Meets(kVigBets)) (bets & kVigBets).ForEach([&](int bet) { visit(VigHeld(game, seat, bet).raw); });
+}
+
+std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
+  const SeatState& state = game.table.seats[seat];
+  const BetSet working = WorkingBets(state);
+  std::uint64_t hash = Mixed(state.SeatBets.words[0] ^ static_cast<std::uint64_t>(game.table.Point) << 60,
+                             state.SeatBets.words[1] ^ working.words[0] << 13 ^ working.words[1] << 32);
+  if (layout != nullptr)
+    hash = Mixed(hash, layout->marks ^ static_cast<std::uint64_t>(layout->fireMarks) << 16 ^
+                           static_cast<std::uint64_t>(layout->fourRolls) << 24 ^
+                           static_cast<std::uint64_t>(layout->pointBefore) << 32 ^
+                           static_cast<std::uint64_t>(layout->sharpShooter) << 40 ^
+                           static_cast<std::uint64_t>(layout->rideTheLine) << 50);
+  ForEachFigure(game, seat,
+                [&](std::int64_t figure) { hash = Mixed(hash, static_cast<std::uint64_t>(figure)); });
+  return hash;
+}
+
+// Whether the plan was made for what the seat rides with. layout: none where only the point counts.
+bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+  const SeatState& state = game.table.seats[seat];
+  const LuckRide& ride = plan.ride;
+  if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
+      !(ride.working == WorkingBets(state)) || (layout != nullptr && !(ride.layout == *layout)))
+    return false;
+  bool same = true;
+  std::size_t at = 0;
+  ForEachFigure(game, seat, [&](std::int64_t figure) { same = same && ride.figure[at++] == figure; });
+  return same;
+}
+
+LuckRide RideOf(const Game& game, int seat) {
+  const SeatState& state = game.table.seats[seat];
+  LuckRide ride;
+  ride.layout = LuckLayoutOf(game, state.SeatBets);
+  ride.bets = state.SeatBets;
+  ride.working = WorkingBets(state);
+  ForEachFigure(game, seat, [&](std::int64_t figure) {
+    if (ride.figures < LuckRide::kFigures) ride.figure[ride.figures] = figure;
+    ++ride.figures;
+  });
+  return ride;
+}
+
+// Payoffs that have changed are taken over.
+void FollowPayoffs(LuckMeter& meter, const Game& game, int seat) {
+  bool stand = true;
+  game.table.seats[seat].SeatBets.ForEach(
+      [&](int bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
+  if (stand) return;
+  meter.payoffs = game.payoffs;
+  ForgetPlans(meter);
+}
+
+// Makes the plan at its place, or at the seat's own where that one is ridden with on this roll already.
+std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_t place) {
+  const LuckRide ride = RideOf(game, seat);
+  if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
+  if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
+    meter.chances = LuckChancesOf(meter.dice);
+    meter.chancesKnown = true;
+  }
+  LuckPlan& plan = meter.plans[place];
+  plan.ride = ride;
+  plan.made = ride.Fits();
+  MakeLuckPlan(plan, game, seat, ride.layout, meter.dice, meter.chances);
+  return place;
+}
+
+// Its place in plans.
+std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
+  FollowPayoffs(meter, game, seat);
+  LuckLayout layout;
+  const BetSet& bets = game.table.seats[seat].SeatBets;
+  const bool byPoint = !bets.Meets(kHandBets);
+  if (!byPoint) layout = LuckLayoutOf(game, bets);
+  const LuckLayout* const key = byPoint ? nullptr : &layout;
+  std::size_t place = HashOf(game, seat, key) & (kPlans - 1);
+  if (!IsFor(meter.plans[place], game, seat, key)) place = MakePlanFor(meter, game, seat, place);
+  meter.plans[place].rides = meter.roll;
+  return place;
+}
+
+// What the values have become between rolls.
+void Shift(LuckMeter& meter, int seat, std::int64_t value) {
+  SeatLuck& luck = meter.seats[seat];
+  luck.shifted += WideInt{value - luck.value} * (meter.unit / kValueUnit);
+  luck.value = value;
+}
+
+}  // namespace
+
+std::int64_t LuckUnit(const Game& game) { return UnitOf(LuckDiceOf(game.percentage)); }
+
+void LuckBeginSession(LuckMeter& meter, const Game& game) {
+  FollowRules(meter, game);
+  meter.unit = UnitOf(meter.dice);
+  for (int seat = 0; seat < kSeatRows; ++seat) {
+    meter.seats[seat] = {};
+    if (seat == kHouse.value || game.table.seats[seat].SeatBets.Empty()) continue;
+    ++meter.roll;
+    meter.seats[seat].value = meter.plans[PlanFor(meter, game, seat)].before;
+  }
+  meter.ridingSeats = 0;
+  meter.throwsBefore = -1;
+}
+
+void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
+  if (meter.unit == 0) LuckBeginSession(meter, game);
+  FollowRules(meter, game);
+  ++meter.roll;
+  meter.ridingSeats = 0;
+  meter.throwsBefore = Throws(game.stats);
+  const TableState& table = game.table;
+  for (int i = 0; i < table.OccupiedSeats; ++i) {
+    const int seat = table.Seated[i];
+    const bool any = !table.seats[seat].SeatBets.Empty();
+    if (any) {
+      meter.riding[seat] = PlanFor(meter, game, seat);
+      meter.ridingSeats |= 1u << seat;
+    }
+    const std::int64_t value = any ? meter.plans[meter.riding[seat]].before : 0;
+    if (value != meter.seats[seat].value) Shift(meter, seat, value);
+  }
+}
+
+void LuckAfterRoll(LuckMeter& meter, const Game& game) {
+  const bool thrown = meter.throwsBefore >= 0 && Throws(game.stats) != meter.throwsBefore;
+  meter.throwsBefore = -1;
+  if (!thrown) return;
+  const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
+  for (std::uint32_t seats = meter.ridingSeats; seats != 0; seats &= seats - 1) {
+    const int seat = std::countr_zero(seats);
+    const LuckPlan& plan = meter.plans[meter.riding[seat]];
+    SeatLuck& luck = meter.seats[seat];
+    const std::int64_t planUnit = plan.whole * kValueUnit;
+    const bool scales = meter.unit != planUnit;
+    luck.luck += scales ? plan.luck[outcome] * (meter.unit / planUnit) : plan.luck[outcome];
+    luck.expected += scales ? plan.expected * (meter.unit / planUnit) : plan.expected;
+    luck.variance += plan.variance;
+    luck.value = plan.after[outcome];
+    ++luck.rolls;
+  }
+}
+
+LuckReport LuckOf(const LuckMeter& meter, int seat) {
+  const SeatLuck& luck = meter.seats[seat];
+  const double perDollar = static_cast<double>(meter.unit) * Currency::kPerDollar;
+  const auto dollars = [&](WideInt sum) { return perDollar > 0 ? static_cast<double>(sum) / perDollar : 0; };
+  LuckReport report;
+  report.expected = dollars(luck.expected + luck.shifted);
+  report.actual = dollars(luck.expected + luck.shifted + luck.luck);
+  report.luck = dollars(luck.luck);
+  report.standardDeviation = std::sqrt(luck.variance);
+  if (report.standardDeviation > 0) report.deviations = report.luck / report.standardDeviation;
+  return report;
+}
+
+}  // namespace tessaryn
