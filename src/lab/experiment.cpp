@@ -27,7 +27,7 @@ std::vector<SettingChange> ChangesOf(const std::vector<LabSetting>& settings, bo
 std::string Applied(Game& game, const std::vector<SettingChange>& changes) {
   std::string error;
   const std::size_t bad = FindSettingProblem(game, changes, error);
-  if (bad < changes.size()) return changes[bad].name + "=" + changes[bad].value + ": " + error;
+  if (bad < changes.size()) return "setting " + changes[bad].name + "=" + changes[bad].value + ": " + error;
   return SetSettings(game, changes, error) ? "" : error;
 }
 

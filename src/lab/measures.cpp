@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace tessaryn {
 namespace {
@@ -143,16 +144,27 @@ std::int64_t Quantile(const ValueCounts& counts, int percent) {
   return 0;
 }
 
+namespace {
+
+// The largest amount of which every value is a whole multiple: narrower bins would be empty.
+std::int64_t CommonStep(const ValueCounts& counts) {
+  std::int64_t step = 0;
+  for (const CountedValue& row : counts.rows) step = std::gcd(step, row.amount);
+  return step;
+}
+
+}  // namespace
+
 std::vector<Bin> Histogram(const ValueCounts& counts) {
   std::vector<Bin> bins;
   if (counts.rows.empty()) return bins;
-  constexpr std::int64_t kMostBins = 100;
+  constexpr std::int64_t kMostBins = 60;
   const std::int64_t low = counts.rows.front().amount;
   const std::int64_t high = counts.rows.back().amount;
-  std::int64_t width = 1;
+  std::int64_t width = std::max<std::int64_t>(CommonStep(counts), 1);
   const auto first = [&] { return (low - ((low % width) + width) % width) / width; };
   for (int step = 0; (high - first() * width) / width >= kMostBins; ++step)
-    width = step % 3 == 1 ? width / 2 * 5 : width * 2;  // 1, 2, 5, 10, 20, 50 ...
+    width = step % 3 == 1 ? width / 2 * 5 : width * 2;  // 1, 2, 5, 10, 20, 50 ... steps
   for (std::int64_t at = first() * width; at <= high; at += width) bins.push_back({at, at + width, 0});
   std::size_t bin = 0;
   for (const CountedValue& row : counts.rows) {

@@ -102,7 +102,7 @@ struct Bin {
   std::int64_t high = 0;
   std::int64_t count = 0;
 };
-// About forty to a hundred bins of one width over all values.
+// At most sixty bins of one width over all values.
 std::vector<Bin> Histogram(const ValueCounts& counts);
 
 }  // namespace tessaryn
