@@ -470,6 +470,19 @@ void DrawFromMatrix(PercentageDice& dice, Generators& generators, std::int32_t d
   die2 = kGeometry.Die2[at];
 }
 
+std::array<std::int32_t, 36> DrawChances(const PercentageDice& dice) {
+  std::array<std::int32_t, 36> chances{};
+  std::int32_t left = kProbabilityWhole;
+  for (std::size_t at = 0; at < 36; ++at) {
+    const Cell cell = kGeometry.Walk[at];
+    const std::int32_t draws = std::clamp(dice.ProbMatrix[1][cell.row][cell.column], 0, left);
+    chances[CombinationIndex(kGeometry.Die1[at], kGeometry.Die2[at])] = draws;
+    left -= draws;
+  }
+  if (left < kProbabilityWhole) chances[0] += left;
+  return chances;
+}
+
 bool SetProbabilityCell(PercentageDice& dice, int row, int column, double value, bool raw) {
   if (KindOfProbabilityCell(row, column) == ProbabilityCellKind::kNone) return false;
   const double trueValue = 100000.0 * WaysOfCell(row, column) / 36;

@@ -40,6 +40,11 @@ bool ActivatePercentageDice(PercentageDice& dice, bool active);
 // runtime generator and walks on with the sum it has, so that (1,1) takes nearly all of these: a bias that
 // belongs to the dice. A matrix of nothing but zeros rolls fair dice.
 void DrawFromMatrix(PercentageDice& dice, Generators& generators, std::int32_t draw, int& die1, int& die2);
+// How many of the kProbabilityWhole draws bring each combination (CombinationIndex): those beyond the whole are
+// cut off the last ones of the walk, and what is missing to it goes to (1,1). That is exact unless more is
+// missing than (1,1) has itself; then of the missing part as much as it is of the whole may belong elsewhere.
+// All 0 for a matrix of nothing but zeros.
+std::array<std::int32_t, 36> DrawChances(const PercentageDice& dice);
 
 // Gives a cell a value, locks it, and shares out what that leaves: cells that are locked, or whose total or
 // face is locked, keep their values; the others of the cell's group, and those outside it, get equal parts.

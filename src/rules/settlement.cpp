@@ -9,6 +9,7 @@
 #include "rules/bet_rules.h"
 #include "rules/handling.h"
 #include "rules/payoffs.h"
+#include "rules/roll_payoff.h"
 #include "rules/settlement_order.h"
 #include "state/bet_families.h"
 #include "state/game.h"
@@ -19,90 +20,17 @@
 namespace tessaryn {
 namespace {
 
-// Codes of a settlement. 1 does not promise a win: some payoff tables hold losses.
-constexpr int kFlatLoses = -1;
-constexpr int kOddsLose = -2;
-constexpr int kFlatWins = 1;
-constexpr int kOddsWin = 2;
-
-// By total: as what a share of a bet in shares wins, 0 where all of them lose.
-constexpr auto kPartOn = [] {
-  std::array<std::array<std::uint8_t, 13>, kBets + 1> parts{};
-  for (int bet = 1; bet <= kBets; ++bet)
-    for (int die1 = 1; die1 <= 6; ++die1)
-      for (int die2 = 1; die2 <= 6; ++die2)
-        parts[bet][die1 + die2] = static_cast<std::uint8_t>(WinningPart(bet, die1, die2));
-  return parts;
-}();
-
-// The record of a bet on the line: that of a bet that travels, or on a come-out of one that waits.
-const PayoffRecord& LineRecord(const Game& game, int waiting, int firstOnNumber) {
-  const int point = game.table.PointBeforeRoll;
-  return game.payoffs.PayoffTable[point == 0 ? waiting : BetOn(firstOnNumber, point)];
-}
-
-// The record that a winner is paid by.
-const PayoffRecord& WinnersRecord(const Game& game, int bet, int code) {
-  const PayoffTables& payoffs = game.payoffs;
-  const TableState& table = game.table;
-  switch (FamilyOf(bet)) {
-    case FamilyId::kPassLine:
-      return LineRecord(game, kCome, kCome4);
-    case FamilyId::kPassLineOdds:
-      return LineRecord(game, kComeOdds4, kComeOdds4);
-    case FamilyId::kDontPass:
-      return LineRecord(game, kDontCome, kDontCome4);
-    case FamilyId::kDontPassOdds:
-      return LineRecord(game, kDontComeOdds4, kDontComeOdds4);
-    case FamilyId::kCAndE:
-    case FamilyId::kHorn:
-      return payoffs.PayoffTable[kPartOn[bet][table.RollTotal]];
-    case FamilyId::kMidway:
-      return payoffs.MidwayPayoffs[MidwayRow(table.Die1, table.Die2)];
-    case FamilyId::kSevenPoint7:
-      return payoffs.SevenPointSevenPayoffs[code];
-    case FamilyId::kSharpShooter:
-      return payoffs.SharpShooterPayoffs[std::min(table.SharpShooterCount + 1, kSharpShooterRows)];
-    case FamilyId::kRideTheLine:
-      return payoffs.RideTheLinePayoffs[std::min(table.RideTheLineCount + 1, kRideTheLineRows)];
-    case FamilyId::kFire:
-      return payoffs.FirePayoffs[table.FireCount];
-    default:
-      return payoffs.PayoffTable[bet];
-  }
-}
-
-// What takes a loser whole, as "to" and as "for".
-constexpr PayoffRecord kLostTo{kZero, -Currency::Dollars(1), -Currency::Dollars(1), Currency::Dollars(1)};
-constexpr PayoffRecord kLostFor{kZero, -Currency::Dollars(1), kZero, Currency::Dollars(1)};
-
-const PayoffRecord& RecordOf(const Game& game, int bet, int code) {
-  if (bet == kField) return game.payoffs.FieldPayoffs[FieldRow(game.table.Die1, game.table.Die2)];
-  if (code > 0) return WinnersRecord(game, bet, code);
-  return game.payoffs.PayoffTable[bet].ForFlag == kZero ? kLostFor : kLostTo;
-}
-
-Currency Paid(Currency amount, const PayoffRecord& record) {
-  // Even money, to or against, is most of what a table pays.
-  if (record.PayPer.raw == Currency::kPerDollar) {
-    if (record.PayTo.raw == Currency::kPerDollar) return amount;
-    if (record.PayTo.raw == -Currency::kPerDollar) return -amount;
-  }
-  return Divide(Multiply(amount, record.PayTo), record.PayPer);
-}
-
-// One share wins, the others lose.
-Currency PaidOnShare(Currency amount, int shares, const PayoffRecord& record) {
-  const Currency share = Divide(amount, Currency::Dollars(shares));
-  return Paid(share, record) - (amount - share);
+// What the records of a decision go by, as the table has it now.
+DecidedRoll RollOnTable(const TableState& table) {
+  return {table.Die1,     table.Die2, table.PointBeforeRoll, table.SharpShooterCount, table.RideTheLineCount,
+          table.FireCount};
 }
 
 // What the bet brings. Either sum is the error value on an overflow.
 Decision ComputePayoff(const Game& game, int seat, int bet, int code, Currency amount) {
-  const PayoffRecord& record = RecordOf(game, bet, code);
-  const int shares = code > 0 ? SharesOf(bet) : 1;
-  Currency gross = shares == 1 ? Paid(amount, record) : PaidOnShare(amount, shares, record);
-  if (HasVig(bet) && (gross > kZero || VigUpFront(game, bet))) gross -= VigHeld(game, seat, bet);
+  const PayoffRecord& record = RecordOf(game.payoffs, RollOnTable(game.table), bet, code);
+  const Currency gross =
+      GrossPayoff(game, bet, code, amount, record, HasVig(bet) ? VigHeld(game, seat, bet) : kZero);
   return {&record, gross, RoundDownToUnit(gross, game.settings.Unit())};
 }
 
@@ -196,36 +124,6 @@ void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
     }
   }
   if (game.events.RecordEventsActive) LogBetMoved(game, seat, fromBet, toBet);
-}
-
-struct RollFacts {
-  bool comeOut;
-  bool pair;
-  int barNumber;
-};
-
-bool Holds(StepWhen when, const RollFacts& roll) {
-  switch (when) {
-    case StepWhen::kAlways:
-      return true;
-    case StepWhen::kComeOut:
-      return roll.comeOut;
-    case StepWhen::kPointOn:
-      return !roll.comeOut;
-    case StepWhen::kPair:
-      return roll.pair;
-    case StepWhen::kNoPair:
-      return !roll.pair;
-    case StepWhen::kBar12:
-      return roll.barNumber == 12;
-    case StepWhen::kBar12ComeOut:
-      return roll.barNumber == 12 && roll.comeOut;
-    case StepWhen::kBar2:
-      return roll.barNumber == 2;
-    case StepWhen::kBar2ComeOut:
-      return roll.barNumber == 2 && roll.comeOut;
-  }
-  return false;
 }
 
 // One pass over the seats, in pay order, that have the bet or its odds up.

@@ -23,6 +23,38 @@ enum class StepWhen : std::uint8_t {
   kBar2ComeOut,
 };
 
+// What steps ask of a roll.
+struct RollFacts {
+  bool comeOut;
+  bool pair;
+  int barNumber;  // 12 or 2
+};
+
+// Whether a step that stands on such rolls stands on this one.
+constexpr bool Holds(StepWhen when, const RollFacts& roll) {
+  switch (when) {
+    case StepWhen::kAlways:
+      return true;
+    case StepWhen::kComeOut:
+      return roll.comeOut;
+    case StepWhen::kPointOn:
+      return !roll.comeOut;
+    case StepWhen::kPair:
+      return roll.pair;
+    case StepWhen::kNoPair:
+      return !roll.pair;
+    case StepWhen::kBar12:
+      return roll.barNumber == 12;
+    case StepWhen::kBar12ComeOut:
+      return roll.barNumber == 12 && roll.comeOut;
+    case StepWhen::kBar2:
+      return roll.barNumber == 2;
+    case StepWhen::kBar2ComeOut:
+      return roll.barNumber == 2 && roll.comeOut;
+  }
+  return false;
+}
+
 struct SettleStep {
   std::uint8_t bet;
   std::int8_t code;  // of the bet; its odds take -2 or 2
