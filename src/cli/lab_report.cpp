@@ -1,5 +1,6 @@
 #include "cli/lab_report.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "cli/script_report.h"
@@ -49,7 +50,11 @@ Json ParametersJson(const LabSystem& system) {
 }
 
 double MeanOf(Int128 sum, std::int64_t count, double unit) {
-  return count == 0 ? 0.0 : FigureMean({sum, 0}, count, unit).mean;
+  return count == 0 ? 0.0 : FigureMean({sum, 0, 0}, count, unit).mean;
+}
+
+MeanFigure AdjustedOf(const SystemSums& sums) {
+  return FigureMean(sums.adjusted, sums.sessions, kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
 }
 
 Json HistogramJson(const ValueCounts& counts) {
@@ -78,6 +83,8 @@ Json SystemJson(const LabSystem& system, const SystemSums& sums) {
                  {"stdDev", net.stdDev},
                  {"ci95", BoundsJson(net.ci95)},
                  {"quantiles", QuantilesJson(sums.nets, DollarsJson)}};
+  const MeanFigure adjusted = AdjustedOf(sums);
+  json["adjusted"] = {{"mean", adjusted.mean}, {"ci95", BoundsJson(adjusted.ci95)}};
   json["handle"] = handle;
   json["advantagePercent"] = handle > 0 ? 100 * net.mean / handle : 0.0;
   const std::pair<const char*, std::int64_t> shares[] = {
@@ -131,6 +138,9 @@ void PrintSystem(const LabSystem& system, const SystemSums& sums) {
   std::printf("\n%s\n", Shown(LabelOf(system)).c_str());
   std::printf("  mean result %.4f, 95%% within %.4f to %.4f; deviation %.2f\n", net.mean, net.ci95.low,
               net.ci95.high, net.stdDev);
+  const MeanFigure adjusted = AdjustedOf(sums);
+  std::printf("  less luck   %.4f, 95%% within %.4f to %.4f\n", adjusted.mean, adjusted.ci95.low,
+              adjusted.ci95.high);
   std::printf("  handle %.2f, result %.3f%% of it\n", handle, handle > 0 ? 100 * net.mean / handle : 0.0);
   std::printf("  won %s, even %s, lost %s; ruined %s, goal %s, loss limit %s, stopped %s\n",
               Percent(sums.won, of).c_str(), Percent(sums.brokeEven, of).c_str(), Percent(sums.lost, of).c_str(),

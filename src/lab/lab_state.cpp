@@ -40,7 +40,7 @@ void PutList(Writer& out, const List& list) {
 
 template <typename T>
 void Put(Writer& out, const T& value) {
-  if constexpr (std::is_same_v<T, Int128>) {
+  if constexpr (std::is_same_v<T, Int128> || std::is_same_v<T, Word128>) {
     out.Word(static_cast<std::uint64_t>(value));
     out.Word(static_cast<std::uint64_t>(value >> 64));
   } else if constexpr (std::is_integral_v<T>) {
@@ -93,9 +93,9 @@ void GetList(Reader& in, List& list) {
 
 template <typename T>
 void Get(Reader& in, T& value) {
-  if constexpr (std::is_same_v<T, Int128>) {
+  if constexpr (std::is_same_v<T, Int128> || std::is_same_v<T, Word128>) {
     const std::uint64_t low = in.Word();
-    value = static_cast<Int128>(static_cast<__uint128_t>(in.Word()) << 64 | low);
+    value = static_cast<T>(static_cast<Word128>(in.Word()) << 64 | low);
   } else if constexpr (std::is_same_v<T, bool>) {
     value = in.Word() != 0;
   } else if constexpr (std::is_integral_v<T>) {
@@ -253,10 +253,7 @@ std::string MergeLabs(std::vector<std::string>& paths, std::vector<LabState>& sh
   whole = BeginLab(experiment, true, true);
   for (LabState& shard : shards) {
     for (std::size_t i = 0; i < whole.systems.size(); ++i) AddSums(whole.systems[i], shard.systems[i]);
-    for (std::size_t i = 0; i < whole.pairs.size(); ++i) {
-      whole.pairs[i].sum += shard.pairs[i].sum;
-      whole.pairs[i].squares += shard.pairs[i].squares;
-    }
+    for (std::size_t i = 0; i < whole.pairs.size(); ++i) AddExact(whole.pairs[i], shard.pairs[i]);
     whole.rows.lines = whole.rows.lines && shard.rows.lines;
     whole.rows.records = whole.rows.records && shard.rows.records;
   }

@@ -51,8 +51,14 @@ void AddCounts(ValueCounts& counts, const ValueCounts& other) {
 }
 
 void AddSquared(ExactSum& sum, Int128 amount) {
-  sum.sum += amount;
-  sum.squares += amount * amount;
+  const auto size = static_cast<Word128>(amount < 0 ? -amount : amount);
+  AddExact(sum, {amount, size * size, 0});
+}
+
+void AddExact(ExactSum& sum, const ExactSum& other) {
+  sum.sum += other.sum;
+  sum.squares += other.squares;
+  sum.carried += other.carried + (sum.squares < other.squares ? 1 : 0);
 }
 
 void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<ScriptErrorKind>& more) {
@@ -80,6 +86,8 @@ void AddSession(SystemSums& sums, const SessionResult& result) {
   if ((result.marks & kMarkStopped) != 0) ++sums.stopped;
   if (result.rolls == 0) ++sums.unrolled;
   AddSquared(sums.net, result.net.raw);
+  sums.luckUnit = result.luckUnit;
+  AddSquared(sums.adjusted, Int128{result.net.raw} * result.luckUnit - result.luck);
   sums.handle += result.handle.raw;
   sums.drawdown += result.maxDrawdown.raw;
   CountValue(sums.nets, result.net.raw);
@@ -93,8 +101,9 @@ void AddSums(SystemSums& sums, const SystemSums& later) {
         &SystemSums::ruined, &SystemSums::goal, &SystemSums::limit, &SystemSums::stopped,
         &SystemSums::unrolled})
     sums.*count += later.*count;
-  sums.net.sum += later.net.sum;
-  sums.net.squares += later.net.squares;
+  AddExact(sums.net, later.net);
+  if (sums.luckUnit == 0) sums.luckUnit = later.luckUnit;
+  AddExact(sums.adjusted, later.adjusted);
   sums.handle += later.handle;
   sums.drawdown += later.drawdown;
   for (ValueCounts SystemSums::*counts :
@@ -113,7 +122,8 @@ MeanFigure FigureMean(const ExactSum& sum, std::int64_t count, double unit) {
   const auto total = static_cast<long double>(sum.sum);
   figure.mean = static_cast<double>(total / n / static_cast<long double>(unit));
   if (count > 1) {
-    const long double spread = static_cast<long double>(sum.squares) - total / n * total;
+    const long double spread = std::ldexp(static_cast<long double>(sum.carried), 128) +
+                               static_cast<long double>(sum.squares) - total / n * total;
     figure.stdDev =
         static_cast<double>(std::sqrt(std::max(spread, 0.0L) / (n - 1)) / static_cast<long double>(unit));
   }

@@ -8,11 +8,12 @@
 
 #include "lab/experiment.h"
 #include "lab/session.h"
+#include "rules/luck.h"
 #include "state/auto_bet_state.h"
 
 namespace tessaryn {
 
-__extension__ typedef __int128 Int128;
+using Int128 = WideInt;
 
 // --- Sums.
 
@@ -33,11 +34,14 @@ void CountValue(ValueCounts& counts, std::int64_t amount);
 void SettleCounts(ValueCounts& counts);
 void AddCounts(ValueCounts& counts, const ValueCounts& other);
 
+// Squares of what is told in small parts of a cent, over many sessions, pass 128 bits.
+__extension__ typedef unsigned __int128 Word128;
 struct ExactSum {
   Int128 sum = 0;
-  Int128 squares = 0;
+  Word128 squares = 0;
+  std::int64_t carried = 0;  // how often squares came round
 };
-TESSARYN_FIELDS(ExactSum, sum, squares)
+TESSARYN_FIELDS(ExactSum, sum, squares, carried)
 
 // One system's sessions. Money in ten-thousandths.
 struct SystemSums {
@@ -52,6 +56,8 @@ struct SystemSums {
   std::int64_t stopped = 0;
   std::int64_t unrolled = 0;  // ended without a roll
   ExactSum net;
+  std::int64_t luckUnit = 0;  // parts of $0.0001 in which luck is told; 0 before the first session
+  ExactSum adjusted;          // net less luck, in 1 / luckUnit of $0.0001
   Int128 handle = 0;
   Int128 drawdown = 0;
   ValueCounts nets;
@@ -64,14 +70,15 @@ struct SystemSums {
   std::string stopReason;              // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled, net,
-                handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors, acted, stopReason)
+                luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors, acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.
 void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<ScriptErrorKind>& more);
 void AddSession(SystemSums& sums, const SessionResult& result);
 // Those of later sessions.
 void AddSums(SystemSums& sums, const SystemSums& later);
-void AddSquared(ExactSum& sum, Int128 amount);
+void AddSquared(ExactSum& sum, Int128 amount);  // below 2^63 either way
+void AddExact(ExactSum& sum, const ExactSum& other);
 
 // --- What is read from them.
 

@@ -231,6 +231,7 @@ std::uint8_t MarkOfRefusal(const Game& game) {
 // The result as a roll ends. Whether the session is to end here.
 bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
   const Game& game = *table.game;
+  LuckAfterRoll(table.luck, game);
   ++result.rolls;
   if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
   const Currency net = course.net = NetOf(game, course);
@@ -278,6 +279,7 @@ void PlayOut(LabTable& table, const Experiment& experiment, Course& course, Sess
   do {
     FinishRoll(game);
     NoteTouched(table);
+    LuckBeforeRoll(table.luck, game);
     if (!RollAndSettle(game)) return;
     LookAtRoll(table, experiment, course, result);
   } while (ContractIsUp(game));
@@ -292,6 +294,7 @@ bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, Se
   Game& game = *table.game;
   for (;;) {
     NoteTouched(table);
+    LuckBeforeRoll(table.luck, game);
     if (!RollAndSettle(game)) {
       result.marks |= MarkOfRefusal(game);
       table.stopReason = game.table.StopReason;
@@ -330,6 +333,7 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   Course course;
   const bool begun = BeginSession(table, experiment, session);
   if (GivenUp(table)) return false;
+  LuckBeginSession(table.luck, game);
   course.start = game.stats.BankrollSessionStart[kSeat];
   course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
   if (!begun) result.marks |= kMarkStopped;
@@ -338,6 +342,8 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   NoteTouched(table);
   result.net = NetOf(game, course);
   result.highest = course.highest;
+  result.luck = table.luck.seats[kSeat].luck;
+  result.luckUnit = table.luck.unit;
   result.handle = HandleOf(game.stats, table.touched);
   if (experiment.rolls > 0)
     while (course.marks < kFanMarks) table.fan[course.marks++] = result.net;

@@ -9,6 +9,7 @@
 
 #include "base/record_file.h"
 #include "lab/experiment.h"
+#include "rules/luck.h"
 
 namespace tessaryn {
 
@@ -29,9 +30,11 @@ struct SessionResult {
   Currency highest;      // net at the highest point, 0 at least
   std::int64_t rolls = 0;
   std::int64_t hands = 0;  // seven-outs
-  std::uint8_t marks = 0;  // what it met at some roll's end: SessionMark
+  WideInt luck = 0;           // what the dice brought beyond their mean, in 1 / luckUnit of $0.0001
+  std::int64_t luckUnit = 1;  // the same for all sessions of a system
+  std::uint8_t marks = 0;     // what it met at some roll's end: SessionMark
 };
-TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, rolls, hands, marks)
+TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, rolls, hands, luck, luckUnit, marks)
 
 // What the laboratory's tables ask of the outside: nobody is there, and no clock goes.
 struct LabHost : Host {
@@ -63,6 +66,7 @@ struct LabTable {
   std::unique_ptr<Game> game;
   const Game* fresh = nullptr;  // the table before its first session; outlives this one
   TouchedBets touched;
+  LuckMeter luck;
   // Of the last session.
   Currency fan[kFanMarks];  // net at the marks; what came of it, behind its end
   std::string stopReason;

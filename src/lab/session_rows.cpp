@@ -9,7 +9,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr std::size_t kLineBytes = 7 * 8;
+constexpr std::size_t kLineBytes = 10 * 8;
 constexpr std::size_t kBufferBytes = 1u << 20;
 constexpr std::uint64_t kHashStart = 0xcbf29ce484222325u;
 
@@ -90,7 +90,8 @@ void AddRow(SessionRows& rows, const SessionResult& result, const Record& record
   if (rows.kept.lines)
     for (const std::int64_t number :
          {result.net.raw, result.handle.raw, result.maxDrawdown.raw, result.highest.raw, result.rolls,
-          result.hands, std::int64_t{result.marks}})
+          result.hands, std::int64_t{result.marks}, static_cast<std::int64_t>(result.luck),
+          static_cast<std::int64_t>(result.luck >> 64), result.luckUnit})
       word(number);
   if (rows.kept.records) rows.buffer.append(reinterpret_cast<const char*>(record.data()), record.size());
   Hash(rows.kept.hash, rows.buffer.data() + start, rows.buffer.size() - start);
@@ -132,6 +133,15 @@ std::string CsvText(const std::string& text) {
   return quoted + "\"";
 }
 
+// In dollars: exact to what a double holds.
+std::string LuckText(std::int64_t low, std::int64_t high, std::int64_t unit) {
+  const auto luck = static_cast<WideInt>(high) * (static_cast<WideInt>(1) << 64) + static_cast<std::uint64_t>(low);
+  char text[48];
+  std::snprintf(text, sizeof text, "%.9g",
+                static_cast<double>(luck) / static_cast<double>(unit) / Currency::kPerDollar);
+  return text;
+}
+
 std::string CsvLine(const std::string& row, std::int64_t session, const std::string& system) {
   std::int64_t words[kLineBytes / 8];
   for (std::size_t i = 0; i < std::size(words); ++i) {
@@ -142,6 +152,7 @@ std::string CsvLine(const std::string& row, std::int64_t session, const std::str
   }
   std::string line = std::to_string(session) + "," + system;
   for (int i = 0; i < 4; ++i) line += "," + PlainMoney(Currency::FromRaw(words[i]));
+  line += "," + LuckText(words[7], words[8], words[9]);
   line += "," + std::to_string(words[4]) + "," + std::to_string(words[5]);
   for (const int mark : {kMarkRuined, kMarkGoal, kMarkLimit, kMarkStopped})
     line += (words[6] & mark) != 0 ? ",1" : ",0";
@@ -149,7 +160,7 @@ std::string CsvLine(const std::string& row, std::int64_t session, const std::str
 }
 
 constexpr const char* kCsvHeader =
-    "session,system,net,handle,maxDrawdown,highest,rolls,hands,ruined,goal,limit,stopped\n";
+    "session,system,net,handle,maxDrawdown,highest,luck,rolls,hands,ruined,goal,limit,stopped\n";
 
 }  // namespace
 
