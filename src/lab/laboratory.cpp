@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int64_t kPrecisionStep = 1'000;  // sessions between two looks at the bounds
 constexpr std::size_t kMostTables = 96;         // of all threads: a table takes a megabyte
-constexpr std::int64_t kRollsOfABlock = 100'000;
+constexpr std::int64_t kRollsOfABlock = 10'000;
 constexpr auto kCheckpointEvery = std::chrono::milliseconds(1'500);
 constexpr auto kLookEvery = std::chrono::milliseconds(100);
 

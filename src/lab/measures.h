@@ -77,7 +77,7 @@ void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<Scr
 void AddSession(SystemSums& sums, const SessionResult& result);
 // Those of later sessions.
 void AddSums(SystemSums& sums, const SystemSums& later);
-void AddSquared(ExactSum& sum, Int128 amount);  // below 2^63 either way
+void AddSquared(ExactSum& sum, Int128 amount);  // below 2^64 either way
 void AddExact(ExactSum& sum, const ExactSum& other);
 
 // --- What is read from them.

@@ -151,6 +151,7 @@ void ResetScripts(AutoBet& autobet, const AutoBet& fresh) {
   script.Acted = false;
   if (script.Output.File != nullptr) script.Output = ScriptOutput();
   if (!autobet.OutputOwners.empty()) autobet.OutputOwners.clear();
+  std::copy(std::begin(fresh.ScriptActive), std::end(fresh.ScriptActive), autobet.ScriptActive);
   autobet.ScriptRunning = autobet.ScriptInitializing = false;
   autobet.CurrentAutobettor = fresh.CurrentAutobettor;
   autobet.Work = fresh.Work;
