@@ -16,6 +16,7 @@
 #include "cli/lab_report.h"
 #include "cli/script_report.h"
 #include "cli/table_setup.h"
+#include "lab/html_report.h"
 #include "lab/laboratory.h"
 
 namespace tessaryn::cli {
@@ -72,6 +73,9 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
   if (!options.slg.empty())
     if (const std::string error = WriteRowsAsLogs(rows, options.slg); !error.empty())
       return Fail("--slg: " + error);
+  if (!options.report.empty())
+    if (const std::string error = ReplaceFile(options.report, HtmlReport(state)); !error.empty())
+      return Fail("--report: " + error);
   return kDone;
 }
 
