@@ -44,7 +44,7 @@ const std::vector<std::string> kBusyScript = {
     "bet 12 on place6 : bet 20 on buy4 : bet 41 on lay10 : bet 5 on field : bet 2 on hard8",
     "bet 3 on fire : bet 1 on allsmall : bet 5 on 7point7 : bet 4 on horn",
     "cs1 = cs1 + 1 : cs(20 + cs1 - 10 * int(cs1 / 10)) = bankroll : csn2 = \"n\" & cs1",
-    "if random# < .1 then atm withdraw 5 endif",
+    "if rnd < .1 then atm withdraw 5 endif",
     "if cs1 > 30 then cs3 = 1 / (cs1 - cs1) endif",
     "if bankroll < 300 then sim roll rate = 100 endif"};
 
@@ -276,7 +276,7 @@ TEST(LabSession, ThatCantGoOnTellsWhy) {
     std::vector<std::string> script;
     std::int64_t SystemSums::*share;
   } cases[] = {{{"cs1 = 1"}, &SystemSums::unrolled},
-               {{"if passline = 0 then bet 10 on passline endif", "if dice total = 7 then stop turboroll endif"},
+               {{"if passline = 0 then bet 10 on passline endif", "if dice total = 7 then stop autoroll/turboroll endif"},
                 &SystemSums::stopped}};
   for (const auto& one : cases) {
     const LabState state = Played(Asked(one.script, 50, 300));
