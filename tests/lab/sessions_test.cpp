@@ -46,7 +46,7 @@ const std::vector<std::string> kBusyScript = {
     "cs1 = cs1 + 1 : cs(20 + cs1 - 10 * int(cs1 / 10)) = bankroll : csn2 = \"n\" & cs1",
     "if rnd < .1 then atm withdraw 5 endif",
     "if cs1 > 30 then cs3 = 1 / (cs1 - cs1) endif",
-    "if bankroll < 300 then sim roll rate = 100 endif"};
+    "if bankroll < 300 then csn5 = \"low\" : remove field endif"};
 
 TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
   Experiment experiment = Asked(kBusyScript, 100, 70);
@@ -58,7 +58,6 @@ TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
   ASSERT_FALSE(problem.Found()) << problem.text;
   const auto used = OpenLabTable(*fresh, nullptr);
   const auto untouched = OpenLabTable(*fresh, nullptr);
-  untouched->game->autobet.ScriptsCompiled = used->game->autobet.ScriptsCompiled = true;
   std::mt19937 random(1);
   for (int i = 0; i < 12; ++i) {
     const std::int64_t session = static_cast<std::int64_t>(random() % 1'000);
@@ -71,7 +70,7 @@ TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
     EXPECT_EQ(FirstDifference(*once->game, *used->game), "") << "session " << session;
     EXPECT_EQ(FirstDifference(first, second), "");
     EXPECT_EQ(records[0], records[1]);
-    EXPECT_GE(first.rolls, 70);
+    EXPECT_GT(first.rolls, 10);
     ResetLabTable(*used);
     used->game->autobet.Program = {};
     untouched->game->autobet.Program = {};
