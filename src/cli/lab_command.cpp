@@ -38,7 +38,8 @@ struct Target {
 };
 
 std::vector<Target> TargetsOf(const LabOptions& options, std::size_t systems) {
-  std::vector<Target> targets = {{"--out ", options.out}, {"--csv ", options.csv}, {"--report ", options.report}};
+  std::vector<Target> targets = {
+      {"--out ", options.out}, {"--csv ", options.csv}, {"--report ", options.report}};
   if (options.resume.empty() && !options.out.empty()) targets.push_back({"--out ", RowsPathOf(options.out)});
   if (!options.slg.empty())
     for (std::size_t i = 0; i < systems; ++i)
@@ -100,7 +101,9 @@ std::string Duration(double seconds) {
 class ProgressLine {
  public:
   explicit ProgressLine(const LabState& state)
-      : shown_(isatty(STDERR_FILENO) != 0), before_(SessionsDone(state)), precision_(state.experiment.precision) {}
+      : shown_(isatty(STDERR_FILENO) != 0),
+        before_(SessionsDone(state)),
+        precision_(state.experiment.precision) {}
   ~ProgressLine() {
     if (drawn_) std::fprintf(stderr, "\r\033[K");
   }
@@ -162,10 +165,11 @@ int Play(LabState& state, const LabOptions& options) {
   if (!error.empty()) return Fail(error);
   const double seconds = SecondsSince(start);
   const std::int64_t rolls = RollsOf(state) - before;
-  std::fprintf(stderr, "%s rolls in %.2f seconds (%s rolls a second)\n",
-               FormatMoney(Currency::Dollars(rolls)).c_str(), seconds,
-               FormatMoney(Currency::FromDouble(std::floor(static_cast<double>(rolls) / std::max(seconds, 1e-6))))
-                   .c_str());
+  std::fprintf(
+      stderr, "%s rolls in %.2f seconds (%s rolls a second)\n", FormatMoney(Currency::Dollars(rolls)).c_str(),
+      seconds,
+      FormatMoney(Currency::FromDouble(std::floor(static_cast<double>(rolls) / std::max(seconds, 1e-6))))
+          .c_str());
   if (SessionsDone(state) == 0 && Interrupted()) return kBad;
   if (const int code = WriteOutputs(state, rows, options)) return code;
   Print(state, options);
@@ -229,7 +233,8 @@ int Merge(const std::vector<std::string>& files, const LabOptions& options) {
   std::vector<std::string> paths = files;
   std::vector<LabState> shards;
   LabState whole;
-  if (const std::string error = MergeLabs(paths, shards, whole); !error.empty()) return Fail("merge: " + error);
+  if (const std::string error = MergeLabs(paths, shards, whole); !error.empty())
+    return Fail("merge: " + error);
   if (!options.csv.empty() && !whole.rows.lines)
     return Fail("--csv: it needs shards that were made with --csv");
   if (!options.slg.empty() && !whole.rows.records)
@@ -260,10 +265,10 @@ void AddLabCommand(CLI::App& program, int& exitCode) {
   AddLabOutputs(*merge, *options);
   merge->footer("Example:\n  tessaryn-cli lab merge 1.lab 2.lab 3.lab --json");
   command->footer(
-      "Example:\n  tessaryn-cli lab --bets passline=10 --bets field=10 --bankroll 200 --sessions 100000 --seed 7");
-  command->callback([=, &exitCode] {
-    exitCode = merge->parsed() ? Merge(*files, *options) : Lab(*command, *options);
-  });
+      "Example:\n  tessaryn-cli lab --bets passline=10 --bets field=10 --bankroll 200 --sessions 100000 "
+      "--seed 7");
+  command->callback(
+      [=, &exitCode] { exitCode = merge->parsed() ? Merge(*files, *options) : Lab(*command, *options); });
 }
 
 }  // namespace tessaryn::cli

@@ -253,10 +253,10 @@ int ReadEnds(const CLI::App& command, const LabOptions& options, Experiment& exp
 int ReadShard(const LabOptions& options, Experiment& experiment) {
   if (options.shard.empty()) return kDone;
   int read = 0;
-  const bool good = std::sscanf(options.shard.c_str(), "%9d/%9d%n", &experiment.shard, &experiment.shards,
-                                &read) == 2 &&
-                    static_cast<std::size_t>(read) == options.shard.size() && experiment.shard >= 1 &&
-                    experiment.shard <= experiment.shards && experiment.shards <= kMostShards;
+  const bool good =
+      std::sscanf(options.shard.c_str(), "%9d/%9d%n", &experiment.shard, &experiment.shards, &read) == 2 &&
+      static_cast<std::size_t>(read) == options.shard.size() && experiment.shard >= 1 &&
+      experiment.shard <= experiment.shards && experiment.shards <= kMostShards;
   if (!good) return Wrong("--shard " + options.shard + ": expected K/N with K from 1 to N");
   if (!options.precision.empty())
     return Wrong("--shard and --precision can't be used together: a shard doesn't know the others' sessions");

@@ -54,7 +54,8 @@ double MeanOf(Int128 sum, std::int64_t count, double unit) {
 }
 
 MeanFigure AdjustedOf(const SystemSums& sums) {
-  return FigureMean(sums.adjusted, sums.sessions, kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
+  return FigureMean(sums.adjusted, sums.sessions,
+                    kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
 }
 
 Json HistogramJson(const ValueCounts& counts) {
@@ -143,8 +144,9 @@ void PrintSystem(const LabSystem& system, const SystemSums& sums) {
               adjusted.ci95.high);
   std::printf("  handle %.2f, result %.3f%% of it\n", handle, handle > 0 ? 100 * net.mean / handle : 0.0);
   std::printf("  won %s, even %s, lost %s; ruined %s, goal %s, loss limit %s, stopped %s\n",
-              Percent(sums.won, of).c_str(), Percent(sums.brokeEven, of).c_str(), Percent(sums.lost, of).c_str(),
-              Percent(sums.ruined, of).c_str(), Percent(sums.goal, of).c_str(), Percent(sums.limit, of).c_str(),
+              Percent(sums.won, of).c_str(), Percent(sums.brokeEven, of).c_str(),
+              Percent(sums.lost, of).c_str(), Percent(sums.ruined, of).c_str(),
+              Percent(sums.goal, of).c_str(), Percent(sums.limit, of).c_str(),
               Percent(sums.stopped, of).c_str());
   std::printf("  %8s", "");
   for (const int percent : kQuantilePercents) std::printf(" %10d%%", percent);

@@ -10,8 +10,8 @@ namespace tessaryn::cli {
 
 Json LabJson(LabState& state);
 void PrintLab(LabState& state);
-// What a reader should know beside the figures, on standard error: systems that never played, scripts that could
-// not act.
+// What a reader should know beside the figures, on standard error: systems that never played, scripts that
+// could not act.
 void TellOddities(const LabState& state);
 
 }  // namespace tessaryn::cli

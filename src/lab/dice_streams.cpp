@@ -29,8 +29,8 @@ std::string StreamProblem(const Generators& generators) {
          " can't give every session dice of its own; RNG #1, #2 and #8 can";
 }
 
-// For one seed the key differs from session to session, and so does each pair of words: a pair is one to one in
-// the key. The second key keeps one session's words from being another's shifted along.
+// For one seed the key differs from session to session, and so does each pair of words: a pair is one to one
+// in the key. The second key keeps one session's words from being another's shifted along.
 void SetDiceStream(Generators& generators, std::uint64_t seed, std::uint64_t session) {
   const std::uint64_t ofSeed = Mixed(seed + kOddStep);
   const std::uint64_t key = Mixed(ofSeed ^ Mixed(session + kOddStep));

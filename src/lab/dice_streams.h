@@ -8,8 +8,8 @@
 
 namespace tessaryn {
 
-// Why the selected generator has no streams that are sure to differ; empty for one that has. #1, #2 and #8 draw
-// from the twister, whose 19,937 bits of state hold any key; the others remember too little.
+// Why the selected generator has no streams that are sure to differ; empty for one that has. #1, #2 and #8
+// draw from the twister, whose 19,937 bits of state hold any key; the others remember too little.
 std::string StreamProblem(const Generators& generators);
 
 // The selected generator, and the runtime generator beside it, go on with the stream of (seed, session). Two

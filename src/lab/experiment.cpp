@@ -31,8 +31,8 @@ std::string Applied(Game& game, const std::vector<SettingChange>& changes) {
   return SetSettings(game, changes, error) ? "" : error;
 }
 
-// The table's settings stand before the player buys in, the player's behind it; those of the system come last of
-// either kind.
+// The table's settings stand before the player buys in, the player's behind it; those of the system come last
+// of either kind.
 std::string ApplySettings(Game& game, const Experiment& experiment, const LabSystem& system, bool ofPlayers) {
   std::vector<SettingChange> changes = ChangesOf(experiment.settings, ofPlayers);
   const std::vector<SettingChange> own = ChangesOf(system.settings, ofPlayers);

@@ -1,5 +1,5 @@
-// An experiment: systems, tables, ends and dice. It holds all that its results hang on, scripts' text included,
-// so that a file of it can be gone on with anywhere.
+// An experiment: systems, tables, ends and dice. It holds all that its results hang on, scripts' text
+// included, so that a file of it can be gone on with anywhere.
 #pragma once
 
 #include <cstdint>
@@ -62,8 +62,8 @@ struct Experiment {
   int shard = 1;
   int shards = 1;
 };
-TESSARYN_FIELDS(Experiment, seed, sessions, bankroll, rolls, hands, winGoal, lossLimit, endWithHand, precision,
-                generator, settings, percentageDice, probabilities, systems, shard, shards)
+TESSARYN_FIELDS(Experiment, seed, sessions, bankroll, rolls, hands, winGoal, lossLimit, endWithHand,
+                precision, generator, settings, percentageDice, probabilities, systems, shard, shards)
 
 // The sessions of a shard: first < k <= last.
 struct SessionRange {
@@ -89,8 +89,9 @@ struct LabProblem {
   bool Found() const { return !text.empty(); }
 };
 
-// The table on which a system's sessions are played, before the first: its player seated, its script active and
-// nothing rolled. Writes no file. host outlives it. Null with the problem when the experiment can't be played.
+// The table on which a system's sessions are played, before the first: its player seated, its script active
+// and nothing rolled. Writes no file. host outlives it. Null with the problem when the experiment can't be
+// played.
 std::unique_ptr<Game> BuildTable(const Experiment& experiment, const LabSystem& system, Host& host,
                                  const std::string& applicationFolder, LabProblem& problem);
 

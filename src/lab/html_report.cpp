@@ -16,11 +16,16 @@ constexpr double kDollar = Currency::kPerDollar;
 std::string Escaped(const std::string& text) {
   std::string escaped;
   for (const char c : text) {
-    if (c == '<') escaped += "&lt;";
-    else if (c == '>') escaped += "&gt;";
-    else if (c == '&') escaped += "&amp;";
-    else if (c == '"') escaped += "&quot;";
-    else if (static_cast<unsigned char>(c) >= ' ' || c == '\n' || c == '\t') escaped += c;
+    if (c == '<')
+      escaped += "&lt;";
+    else if (c == '>')
+      escaped += "&gt;";
+    else if (c == '&')
+      escaped += "&amp;";
+    else if (c == '"')
+      escaped += "&quot;";
+    else if (static_cast<unsigned char>(c) >= ' ' || c == '\n' || c == '\t')
+      escaped += c;
   }
   return escaped;
 }
@@ -33,7 +38,9 @@ std::string Fixed(double number, int decimals) {
 
 std::string Dollars(std::int64_t raw) { return FormatMoney(Currency::FromRaw(raw)); }
 std::string Whole(std::int64_t number) { return FormatMoney(Currency::Dollars(number)); }
-std::string Money(double dollars) { return FormatMoney(Currency::FromDouble(std::round(dollars * 100) / 100)); }
+std::string Money(double dollars) {
+  return FormatMoney(Currency::FromDouble(std::round(dollars * 100) / 100));
+}
 std::string Share(std::int64_t count, std::int64_t of) {
   const ShareFigure share = FigureShare(count, of);
   return Fixed(100 * share.p, 2) + "% <small>" + Fixed(100 * share.ci95.low, 2) + " to " +
@@ -45,7 +52,8 @@ std::string Tag(const char* name, const std::string& content) {
 }
 
 constexpr const char* kStyle =
-    ":root{--ink:#1f2328;--soft:#59636e;--line:#d1d9e0;--page:#fff;--fill:#2f6f9f;--band:#2f6f9f;--warm:#b4552d}"
+    ":root{--ink:#1f2328;--soft:#59636e;--line:#d1d9e0;--page:#fff;--fill:#2f6f9f;--band:#2f6f9f;--warm:#"
+    "b4552d}"
     "@media(prefers-color-scheme:dark){:root{--ink:#e6edf3;--soft:#9198a1;--line:#3d444d;--page:#14181d;"
     "--fill:#6cb1e0;--band:#6cb1e0;--warm:#e08a5f}}"
     "@media print{:root{--ink:#000;--soft:#444;--line:#bbb;--page:#fff;--fill:#2f6f9f;--band:#2f6f9f;"
@@ -53,7 +61,8 @@ constexpr const char* kStyle =
     "body{font:16px/1.5 system-ui,sans-serif;color:var(--ink);background:var(--page);max-width:60rem;"
     "margin:2rem auto;padding:0 1rem}h1{font-size:1.6rem}h2{font-size:1.2rem;margin-top:2.5rem;"
     "border-top:1px solid var(--line);padding-top:1rem}h3{font-size:1rem}small,figcaption{color:var(--soft);"
-    "font-size:.8rem}div.wide{overflow-x:auto}table{border-collapse:collapse;font-variant-numeric:tabular-nums}"
+    "font-size:.8rem}div.wide{overflow-x:auto}table{border-collapse:collapse;font-variant-numeric:tabular-"
+    "nums}"
     "th,td{padding:.25rem .75rem .25rem 0;text-align:right;border-bottom:1px solid var(--line)}"
     "th:first-child,td:first-child{text-align:left}th{font-weight:600}figure{margin:1rem 0}svg{width:100%;"
     "height:auto}svg text{fill:var(--soft);font:11px system-ui,sans-serif}pre{overflow-x:auto;padding:1rem;"
@@ -116,9 +125,9 @@ std::string HistogramFigure(const SystemSums& sums) {
     const double x = across.At(static_cast<double>(bin.low) / kDollar);
     const double y = up.At(static_cast<double>(bin.count) / of);
     const double width = across.At(static_cast<double>(bin.high) / kDollar) - x;
-    svg += "<rect fill=\"var(--" + std::string(bin.high <= 0 ? "warm" : "fill") + ")\" x=\"" + Fixed(x + .5, 1) +
-           "\" y=\"" + Fixed(y, 1) + "\" width=\"" + Fixed(std::max(width - 1, .5), 1) + "\" height=\"" +
-           Fixed(kBottom - y, 1) + "\"/>";
+    svg += "<rect fill=\"var(--" + std::string(bin.high <= 0 ? "warm" : "fill") + ")\" x=\"" +
+           Fixed(x + .5, 1) + "\" y=\"" + Fixed(y, 1) + "\" width=\"" + Fixed(std::max(width - 1, .5), 1) +
+           "\" height=\"" + Fixed(kBottom - y, 1) + "\"/>";
   }
   return Figure(svg, "How the sessions ended; losses in the warm colour.");
 }
@@ -145,7 +154,8 @@ std::string FanFigure(const Experiment& experiment, const SystemSums& sums) {
   for (const int percent : {5, 10, 25})
     svg += "<polygon fill=\"var(--band)\" fill-opacity=\".2\" points=\"" + points(percent, false) +
            points(100 - percent, true) + "\"/>";
-  svg += "<polyline fill=\"none\" stroke=\"var(--fill)\" stroke-width=\"2\" points=\"" + points(50, false) + "\"/>";
+  svg += "<polyline fill=\"none\" stroke=\"var(--fill)\" stroke-width=\"2\" points=\"" + points(50, false) +
+         "\"/>";
   return Figure(svg, "The way there: the median, and the middle 50, 80 and 90 percent of the sessions.");
 }
 
@@ -164,7 +174,8 @@ std::string RuinFigure(const SystemSums& sums) {
               Fixed(up.At(static_cast<double>(ruined) / of), 1);
   }
   return Figure(Axes(across, up, "rolls", "ruined so far", true) +
-                    "<polyline fill=\"none\" stroke=\"var(--warm)\" stroke-width=\"2\" points=\"" + points + "\"/>",
+                    "<polyline fill=\"none\" stroke=\"var(--warm)\" stroke-width=\"2\" points=\"" + points +
+                    "\"/>",
                 "Ruin over time.");
 }
 
@@ -178,7 +189,9 @@ MeanFigure AdjustedOf(const SystemSums& sums) {
 
 std::string InWords(const LabSystem& system, const SystemSums& sums) {
   const MeanFigure net = NetOf(sums);
-  const auto oneIn = [&](std::int64_t count) { return Fixed(100 * FigureShare(count, sums.sessions).p, 1) + "%"; };
+  const auto oneIn = [&](std::int64_t count) {
+    return Fixed(100 * FigureShare(count, sums.sessions).p, 1) + "%";
+  };
   return Tag("p", Tag("b", Escaped(LabelOf(system))) + (net.mean < 0 ? " loses " : " wins ") +
                       Money(std::fabs(net.mean)) + " dollars a session on average (95% sure: " +
                       Money(net.ci95.low) + " to " + Money(net.ci95.high) + "). " + oneIn(sums.won) +
@@ -216,19 +229,21 @@ std::string SystemSection(const Experiment& experiment, const LabSystem& system,
   const double handle = FigureMean({sums.handle, 0, 0}, of, kDollar).mean;
   std::string text = "<section><h2>" + Escaped(LabelOf(system)) + "</h2>\n<table>\n";
   const auto bounds = [](const MeanFigure& figure) {
-    return Fixed(figure.mean, 4) + " <small>" + Fixed(figure.ci95.low, 4) + " to " + Fixed(figure.ci95.high, 4) +
-           "</small>";
+    return Fixed(figure.mean, 4) + " <small>" + Fixed(figure.ci95.low, 4) + " to " +
+           Fixed(figure.ci95.high, 4) + "</small>";
   };
   text += Row("mean result", {bounds(net)}) + Row("the same less luck", {bounds(adjusted)}) +
           Row("standard deviation", {Fixed(net.stdDev, 2)}) + Row("decided in a session", {Money(handle)}) +
           Row("result of what was decided", {handle > 0 ? Fixed(100 * net.mean / handle, 3) + "%" : "none"}) +
           Row("won", {Share(sums.won, of)}) + Row("broke even", {Share(sums.brokeEven, of)}) +
           Row("lost", {Share(sums.lost, of)}) + Row("ruined", {Share(sums.ruined, of)}) +
-          Row("reached the goal", {Share(sums.goal, of)}) + Row("reached the loss limit", {Share(sums.limit, of)}) +
-          Row("stopped", {Share(sums.stopped, of)}) + "</table>\n";
+          Row("reached the goal", {Share(sums.goal, of)}) +
+          Row("reached the loss limit", {Share(sums.limit, of)}) + Row("stopped", {Share(sums.stopped, of)}) +
+          "</table>\n";
   for (const ScriptErrorKind& kind : sums.errors)
-    text += Tag("p", "Run-time error, " + Whole(kind.count) + " times: line " + std::to_string(kind.line) + ", " +
-                         Escaped(kind.text)) + "\n";
+    text += Tag("p", "Run-time error, " + Whole(kind.count) + " times: line " + std::to_string(kind.line) +
+                         ", " + Escaped(kind.text)) +
+            "\n";
   return text + HistogramFigure(sums) + FanFigure(experiment, sums) + RuinFigure(sums) + QuantileTable(sums) +
          "</section>\n";
 }
@@ -237,13 +252,15 @@ constexpr std::size_t kMostCompared = 24;  // systems
 
 std::string Comparisons(const LabState& state) {
   if (state.systems.size() < 2 || state.systems.size() > kMostCompared) return {};
-  std::string text = "<section><h2>Differences on the same dice</h2>\n<div class=\"wide\"><table>"
-                     "<tr><th>systems</th><th>mean difference</th><th>95% bounds</th></tr>\n";
+  std::string text =
+      "<section><h2>Differences on the same dice</h2>\n<div class=\"wide\"><table>"
+      "<tr><th>systems</th><th>mean difference</th><th>95% bounds</th></tr>\n";
   ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
     const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
-    text += Row(Escaped(LabelOf(state.experiment.systems[a])) + " less " +
-                    Escaped(LabelOf(state.experiment.systems[b])),
-                {Fixed(difference.mean, 4), Fixed(difference.ci95.low, 4) + " to " + Fixed(difference.ci95.high, 4)});
+    text += Row(
+        Escaped(LabelOf(state.experiment.systems[a])) + " less " +
+            Escaped(LabelOf(state.experiment.systems[b])),
+        {Fixed(difference.mean, 4), Fixed(difference.ci95.low, 4) + " to " + Fixed(difference.ci95.high, 4)});
   });
   return text + "</table></div></section>\n";
 }
@@ -256,14 +273,16 @@ std::string Ranking(const LabState& state) {
   std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
     return state.systems[a].net.sum > state.systems[b].net.sum;
   });
-  std::string text = "<section><h2>Ranking by mean result</h2>\n<div class=\"wide\"><table><tr><th>system</th>"
-                     "<th>mean</th><th>less luck</th><th>median</th><th>ruined</th><th>goal</th></tr>\n";
+  std::string text =
+      "<section><h2>Ranking by mean result</h2>\n<div class=\"wide\"><table><tr><th>system</th>"
+      "<th>mean</th><th>less luck</th><th>median</th><th>ruined</th><th>goal</th></tr>\n";
   for (const std::size_t i : order) {
     const SystemSums& sums = state.systems[i];
-    text += Row(Escaped(LabelOf(state.experiment.systems[i])),
-                {Fixed(NetOf(sums).mean, 4), Fixed(AdjustedOf(sums).mean, 4), Dollars(Quantile(sums.nets, 50)),
-                 Fixed(100 * FigureShare(sums.ruined, sums.sessions).p, 2) + "%",
-                 Fixed(100 * FigureShare(sums.goal, sums.sessions).p, 2) + "%"});
+    text +=
+        Row(Escaped(LabelOf(state.experiment.systems[i])),
+            {Fixed(NetOf(sums).mean, 4), Fixed(AdjustedOf(sums).mean, 4), Dollars(Quantile(sums.nets, 50)),
+             Fixed(100 * FigureShare(sums.ruined, sums.sessions).p, 2) + "%",
+             Fixed(100 * FigureShare(sums.goal, sums.sessions).p, 2) + "%"});
   }
   return text + "</table></div></section>\n";
 }
@@ -308,8 +327,8 @@ std::string Inputs(const LabState& state) {
     before = &system.lines;
     std::string script;
     for (const std::string& line : system.lines) script += Escaped(line) + "\n";
-    text += "<h3>" + Escaped(system.name) + " <small>" + HashText(system.lines) + "</small></h3>\n<pre>" + script +
-            "</pre>\n";
+    text += "<h3>" + Escaped(system.name) + " <small>" + HashText(system.lines) + "</small></h3>\n<pre>" +
+            script + "</pre>\n";
   }
   return text + "</section>\n";
 }
@@ -350,8 +369,8 @@ std::string HeatMap(const LabState& state) {
     high = std::max(high, NetOf(state.systems[i]).mean);
   }
   if (down.size() * across.size() != systems.size()) return {};
-  std::string text = "<section><h2>Mean result by " + Escaped(first[0].name) + " and " + Escaped(first[1].name) +
-                     "</h2>\n<div class=\"wide\"><table><tr><th></th>";
+  std::string text = "<section><h2>Mean result by " + Escaped(first[0].name) + " and " +
+                     Escaped(first[1].name) + "</h2>\n<div class=\"wide\"><table><tr><th></th>";
   for (const std::string& value : across) text += Tag("th", Escaped(value));
   text += "</tr>\n";
   for (std::size_t row = 0; row < down.size(); ++row) {
@@ -374,24 +393,28 @@ constexpr std::size_t kMostSections = 40;  // of systems
 std::string HtmlReport(LabState& state) {
   SettleState(state);
   const Experiment& experiment = state.experiment;
-  std::string page = "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
-                     "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">"
-                     "<meta name=\"color-scheme\" content=\"light dark\"><title>Laboratory report</title><style>" +
-                     std::string(kStyle) + "</style></head><body>\n<h1>" + Whole(SessionsDone(state)) +
-                     " sessions of " + (state.systems.size() == 1 ? Escaped(LabelOf(experiment.systems.front()))
-                                                                  : Whole(std::ssize(state.systems)) + " systems") +
-                     "</h1>\n";
+  std::string page =
+      "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
+      "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">"
+      "<meta name=\"color-scheme\" content=\"light dark\"><title>Laboratory report</title><style>" +
+      std::string(kStyle) + "</style></head><body>\n<h1>" + Whole(SessionsDone(state)) + " sessions of " +
+      (state.systems.size() == 1 ? Escaped(LabelOf(experiment.systems.front()))
+                                 : Whole(std::ssize(state.systems)) + " systems") +
+      "</h1>\n";
   const std::size_t shown = std::min(state.systems.size(), kMostSections);
   for (std::size_t i = 0; i < std::min<std::size_t>(shown, 6); ++i)
     page += InWords(experiment.systems[i], state.systems[i]);
   if (experiment.precision > kZero)
-    page += "<p><small>The bounds were looked at again and again until they were narrow enough, which makes them a "
-            "little too narrow.</small></p>\n";
+    page +=
+        "<p><small>The bounds were looked at again and again until they were narrow enough, which makes them "
+        "a "
+        "little too narrow.</small></p>\n";
   page += Ranking(state) + HeatMap(state) + Comparisons(state);
   for (std::size_t i = 0; i < shown; ++i)
     page += SystemSection(experiment, experiment.systems[i], state.systems[i]);
   if (shown < state.systems.size())
-    page += Tag("p", "Pictures are of the first " + Whole(static_cast<std::int64_t>(shown)) + " systems.") + "\n";
+    page +=
+        Tag("p", "Pictures are of the first " + Whole(static_cast<std::int64_t>(shown)) + " systems.") + "\n";
   return page + Inputs(state) + "</body></html>\n";
 }
 

@@ -1,4 +1,5 @@
-// The report of an experiment: one page that needs nothing but itself, with all that another needs to repeat it.
+// The report of an experiment: one page that needs nothing but itself, with all that another needs to repeat
+// it.
 #pragma once
 
 #include <string>

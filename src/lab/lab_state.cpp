@@ -128,7 +128,8 @@ std::size_t PairsOf(std::size_t systems) { return systems * (systems - (systems 
 bool HoldsTogether(const LabState& state) {
   const Experiment& experiment = state.experiment;
   if (experiment.systems.empty() || experiment.systems.size() > kMostSystems) return false;
-  if (state.systems.size() != experiment.systems.size() || state.pairs.size() != PairsOf(state.systems.size()))
+  if (state.systems.size() != experiment.systems.size() ||
+      state.pairs.size() != PairsOf(state.systems.size()))
     return false;
   if (experiment.sessions < 1 || experiment.sessions > kMostLabSessions || experiment.shards < 1 ||
       experiment.shards > kMostShards || experiment.shard < 1 || experiment.shard > experiment.shards ||
@@ -148,7 +149,8 @@ std::string Damaged(const std::string& path) { return path + ": the file is dama
 
 void SettleState(LabState& state) {
   for (SystemSums& sums : state.systems) {
-    for (ValueCounts* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.ruins}) SettleCounts(*counts);
+    for (ValueCounts* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.ruins})
+      SettleCounts(*counts);
     for (ValueCounts& counts : sums.fan) SettleCounts(counts);
   }
 }
@@ -239,7 +241,8 @@ std::string FindGap(const std::vector<LabState>& shards, const std::vector<std::
     if (shard > expected) break;
   }
   if (expected > count) return {};
-  return names.back() + ": shard " + std::to_string(expected) + " of " + std::to_string(count) + " is missing";
+  return names.back() + ": shard " + std::to_string(expected) + " of " + std::to_string(count) +
+         " is missing";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// How far an experiment has come, and its file. The bytes of a file are the same for the same sessions, however
-// they were played.
+// How far an experiment has come, and its file. The bytes of a file are the same for the same sessions,
+// however they were played.
 #pragma once
 
 #include <string>
@@ -52,8 +52,8 @@ void SettleState(LabState& state);
 std::string LabBytes(LabState& state);
 std::string ReadLab(const std::string& path, LabState& state);
 std::string WriteLab(const std::string& path, std::string_view bytes);
-// The shards, in any order, as if they had been played in one; paths and shards come back in the order of their
-// sessions. The error names the file that doesn't belong.
+// The shards, in any order, as if they had been played in one; paths and shards come back in the order of
+// their sessions. The error names the file that doesn't belong.
 std::string MergeLabs(std::vector<std::string>& paths, std::vector<LabState>& shards, LabState& whole);
 // Whether it is the same experiment, whatever the shard.
 bool IsSameExperiment(const Experiment& a, const Experiment& b);

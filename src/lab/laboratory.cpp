@@ -69,7 +69,8 @@ std::int64_t SizeBlocks(const Experiment& experiment) {
 // --- A worker.
 
 std::string EndlessText(const LabSystem& system, const LabHost& host) {
-  return system.name + ", line " + std::to_string(host.endlessLine) + ": the script never ends a roll; it was stopped after ten million statements";
+  return system.name + ", line " + std::to_string(host.endlessLine) +
+         ": the script never ends a roll; it was stopped after ten million statements";
 }
 
 // The tables of a worker. Few enough are kept for the next block.
@@ -258,7 +259,8 @@ void LookAfter(Lab& lab) {
 
 std::string BuildTables(Lab& lab, LabProblem& problem) {
   for (const LabSystem& system : lab.state.experiment.systems) {
-    lab.fresh.push_back(BuildTable(lab.state.experiment, system, lab.host, lab.run.applicationFolder, problem));
+    lab.fresh.push_back(
+        BuildTable(lab.state.experiment, system, lab.host, lab.run.applicationFolder, problem));
     if (problem.Found()) return problem.text;
   }
   return {};

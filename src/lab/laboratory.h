@@ -1,5 +1,5 @@
-// Playing an experiment: blocks of sessions on as many threads as one likes, taken in in the order of sessions,
-// so that nothing of a result hangs on who played what when.
+// Playing an experiment: blocks of sessions on as many threads as one likes, taken in in the order of
+// sessions, so that nothing of a result hangs on who played what when.
 #pragma once
 
 #include <functional>
@@ -20,7 +20,7 @@ struct LabProgress {
 struct LabRun {
   int threads = 1;
   std::string applicationFolder;
-  std::string checkpoint;  // the experiment's file; empty: none
+  std::string checkpoint;       // the experiment's file; empty: none
   SessionRows* rows = nullptr;  // null: nothing is kept of single sessions
   // Called several times a second by who called RunLab. False ends the run with what is known.
   std::function<bool(const LabProgress&)> progress;

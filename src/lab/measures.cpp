@@ -97,8 +97,8 @@ void AddSession(SystemSums& sums, const SessionResult& result) {
 
 void AddSums(SystemSums& sums, const SystemSums& later) {
   for (std::int64_t SystemSums::*count :
-       {&SystemSums::sessions, &SystemSums::rolls, &SystemSums::won, &SystemSums::brokeEven, &SystemSums::lost,
-        &SystemSums::ruined, &SystemSums::goal, &SystemSums::limit, &SystemSums::stopped,
+       {&SystemSums::sessions, &SystemSums::rolls, &SystemSums::won, &SystemSums::brokeEven,
+        &SystemSums::lost, &SystemSums::ruined, &SystemSums::goal, &SystemSums::limit, &SystemSums::stopped,
         &SystemSums::unrolled})
     sums.*count += later.*count;
   AddExact(sums.net, later.net);

@@ -1,5 +1,5 @@
-// What is added up over sessions, exactly: whole numbers, so that sums are the same in any order, and counts of
-// every value that occurred, so that quantiles are exact. And what is read from the sums.
+// What is added up over sessions, exactly: whole numbers, so that sums are the same in any order, and counts
+// of every value that occurred, so that quantiles are exact. And what is read from the sums.
 #pragma once
 
 #include <cstdint>
@@ -62,15 +62,16 @@ struct SystemSums {
   Int128 drawdown = 0;
   ValueCounts nets;
   ValueCounts drawdowns;
-  ValueCounts lengths;                 // rolls
-  ValueCounts ruins;                   // the rolls that the ruined lasted
-  ValueCounts fan[kFanMarks];          // nets on the way
+  ValueCounts lengths;                  // rolls
+  ValueCounts ruins;                    // the rolls that the ruined lasted
+  ValueCounts fan[kFanMarks];           // nets on the way
   std::vector<ScriptErrorKind> errors;  // of the script, as they first came up
-  bool acted = false;                  // the script did something, once at least
-  std::string stopReason;              // of the first that was stopped
+  bool acted = false;                   // the script did something, once at least
+  std::string stopReason;               // of the first that was stopped
 };
-TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled, net,
-                luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors, acted, stopReason)
+TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
+                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors,
+                acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.
 void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<ScriptErrorKind>& more);
@@ -105,7 +106,7 @@ inline constexpr int kQuantilePercents[] = {1, 5, 10, 25, 50, 75, 90, 95, 99};
 std::int64_t Quantile(const ValueCounts& counts, int percent);
 
 struct Bin {
-  std::int64_t low = 0;   // low <= value < high
+  std::int64_t low = 0;  // low <= value < high
   std::int64_t high = 0;
   std::int64_t count = 0;
 };

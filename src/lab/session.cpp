@@ -65,12 +65,12 @@ struct IsSeatBetTable<SeatBetTable<T, kRows>> : std::true_type {};
 
 // The bets' tables are large, and a session touches a few rows of them.
 template <typename T, int kRows>
-void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fresh, const TouchedBets& touched) {
+void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fresh,
+               const TouchedBets& touched) {
   touched.bets.ForEach([&](int bet) { cells(kSeat, bet) = fresh(kSeat, bet); });
   if constexpr (kRows == kBetRows)
-    touched.stacks.ForEach([&](int stack) {
-      cells(kSeat, kFirstCheckStack + stack) = fresh(kSeat, kFirstCheckStack + stack);
-    });
+    touched.stacks.ForEach(
+        [&](int stack) { cells(kSeat, kFirstCheckStack + stack) = fresh(kSeat, kFirstCheckStack + stack); });
 }
 
 // Texts and lists mostly are what they were.
@@ -287,7 +287,8 @@ void PlayOut(LabTable& table, const Experiment& experiment, Course& course, Sess
 }
 
 bool GivenUp(const LabTable& table) {
-  return table.host.endless || (table.host.stop != nullptr && table.host.stop->load(std::memory_order_relaxed));
+  return table.host.endless ||
+         (table.host.stop != nullptr && table.host.stop->load(std::memory_order_relaxed));
 }
 
 // Rolls until an end is met. False when the session was given up.

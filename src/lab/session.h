@@ -29,7 +29,7 @@ struct SessionResult {
   Currency maxDrawdown;  // the greatest fall from an earlier high, the start included
   Currency highest;      // net at the highest point, 0 at least
   std::int64_t rolls = 0;
-  std::int64_t hands = 0;  // seven-outs
+  std::int64_t hands = 0;     // seven-outs
   WideInt luck = 0;           // what the dice brought beyond their mean, in 1 / luckUnit of $0.0001
   std::int64_t luckUnit = 1;  // the same for all sessions of a system
   std::uint8_t marks = 0;     // what it met at some roll's end: SessionMark

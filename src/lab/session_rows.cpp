@@ -38,8 +38,9 @@ std::string ForEachRow(SessionRows& rows, Visit&& visit) {
   const std::int64_t count = rows.kept.sessions * static_cast<std::int64_t>(rows.systems);
   for (std::int64_t i = 0; i < count; ++i) {
     if (std::fread(row.data(), 1, size, rows.file) != size)
-      return std::ferror(rows.file) != 0 ? Fault(rows, "read")
-                                         : NameOf(rows) + ": the file holds less than the experiment knows of";
+      return std::ferror(rows.file) != 0
+                 ? Fault(rows, "read")
+                 : NameOf(rows) + ": the file holds less than the experiment knows of";
     if (std::string error = visit(row); !error.empty()) return error;
   }
   return {};
@@ -55,8 +56,7 @@ std::string CheckRows(SessionRows& rows, const RowsKept& kept) {
   });
   if (!error.empty()) return error;
   if (hash != kept.hash) return NameOf(rows) + ": these are not the rows of the experiment";
-  const auto end = static_cast<off_t>(kept.sessions) *
-                   static_cast<off_t>(rows.systems * RowBytes(kept));
+  const auto end = static_cast<off_t>(kept.sessions) * static_cast<off_t>(rows.systems * RowBytes(kept));
   if (ftruncate(fileno(rows.file), end) != 0) return Fault(rows, "write");
   return std::fseek(rows.file, 0, SEEK_END) == 0 ? "" : Fault(rows, "read");
 }
@@ -135,7 +135,8 @@ std::string CsvText(const std::string& text) {
 
 // In dollars: exact to what a double holds.
 std::string LuckText(std::int64_t low, std::int64_t high, std::int64_t unit) {
-  const auto luck = static_cast<WideInt>(high) * (static_cast<WideInt>(1) << 64) + static_cast<std::uint64_t>(low);
+  const auto luck =
+      static_cast<WideInt>(high) * (static_cast<WideInt>(1) << 64) + static_cast<std::uint64_t>(low);
   char text[48];
   std::snprintf(text, sizeof text, "%.9g",
                 static_cast<double>(luck) / static_cast<double>(unit) / Currency::kPerDollar);
@@ -177,9 +178,9 @@ std::string WriteRowsAsCsv(SessionRows& rows, const Experiment& experiment, cons
     text += CsvLine(bytes, first + row / systems + 1, names[static_cast<std::size_t>(row % systems)]);
     ++row;
     if (text.size() < kBufferBytes) return std::string();
-    const std::string full = std::move(text);
+    std::string fault = WriteReplacement(csv, text);
     text.clear();
-    return WriteReplacement(csv, full);
+    return fault;
   });
   if (error.empty()) error = WriteReplacement(csv, text);
   return error.empty() ? CommitReplacement(csv) : error;
@@ -202,13 +203,14 @@ std::string WriteRowsAsLogs(SessionRows& rows, const std::string& path) {
     const Record header = SessionsLogHeader(rows.kept.sessions);
     std::string bytes(reinterpret_cast<const char*>(header.data()), header.size());
     std::size_t row = 0;
-    if (error.empty()) error = ForEachRow(rows, [&](const std::string& kept) {
-      if (row++ % rows.systems == system) bytes.append(kept, recordAt, kRecordBytes);
-      if (bytes.size() < kBufferBytes) return std::string();
-      const std::string full = std::move(bytes);
-      bytes.clear();
-      return WriteReplacement(log, full);
-    });
+    if (error.empty())
+      error = ForEachRow(rows, [&](const std::string& kept) {
+        if (row++ % rows.systems == system) bytes.append(kept, recordAt, kRecordBytes);
+        if (bytes.size() < kBufferBytes) return std::string();
+        std::string fault = WriteReplacement(log, bytes);
+        bytes.clear();
+        return fault;
+      });
     if (error.empty()) error = WriteReplacement(log, bytes);
     if (error.empty()) error = CommitReplacement(log);
     if (!error.empty()) return error;

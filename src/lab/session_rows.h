@@ -16,9 +16,9 @@ namespace tessaryn {
 struct SessionRows {
   std::string path;  // empty: a file of nobody's, gone with the program
   std::FILE* file = nullptr;
-  RowsKept kept;         // what is in the file and the buffer
-  std::string buffer;    // not written yet
-  std::string fault;     // what went wrong in writing; nothing more is written then
+  RowsKept kept;       // what is in the file and the buffer
+  std::string buffer;  // not written yet
+  std::string fault;   // what went wrong in writing; nothing more is written then
   std::size_t systems = 0;
 
   SessionRows() = default;

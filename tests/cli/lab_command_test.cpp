@@ -35,9 +35,9 @@ void ExpectMoneyDistribution(const Json& figure) {
 TEST(LabCommand, PrintsEverySystemByTheContract) {
   Ground ground;
   WriteFile(ground.folder.File("line.bet"), "if passline = 0 then bet cs1 on passline endif\n");
-  const Json lab = ground.Says({"--script", ground.folder.File("line.bet"), "--bets", "dontpass=10", "--stack",
-                                "1=5..10:5", "--sessions", "200", "--rolls", "30", "--bankroll", "100", "--win-goal",
-                                "40", "--loss-limit", "40", "--seed", "5"});
+  const Json lab = ground.Says({"--script", ground.folder.File("line.bet"), "--bets", "dontpass=10",
+                                "--stack", "1=5..10:5", "--sessions", "200", "--rolls", "30", "--bankroll",
+                                "100", "--win-goal", "40", "--loss-limit", "40", "--seed", "5"});
   EXPECT_EQ(lab["sessions"], 200);
   EXPECT_EQ(lab["seed"], 5);
   ASSERT_EQ(lab["systems"].size(), 4u);
@@ -63,14 +63,15 @@ TEST(LabCommand, PrintsEverySystemByTheContract) {
   }
   ASSERT_EQ(lab["comparisons"].size(), 6u);
   EXPECT_NEAR(lab["comparisons"][0]["mean"].get<double>(),
-              lab["systems"][0]["net"]["mean"].get<double>() - lab["systems"][1]["net"]["mean"].get<double>(), 1e-9);
+              lab["systems"][0]["net"]["mean"].get<double>() - lab["systems"][1]["net"]["mean"].get<double>(),
+              1e-9);
 }
 
 TEST(LabCommand, StandingBetsPlayAsTheirScript) {
   Ground ground;
   WriteFile(ground.folder.File("f.bet"), "if field = 0 then bet 5 on field endif\n");
-  const Json lab = ground.Says({"--bets", "49=5", "--script", ground.folder.File("f.bet"), "--sessions", "100",
-                                "--rolls", "40", "--bankroll", "33", "--set", "ShooterBetRule=0"});
+  const Json lab = ground.Says({"--bets", "49=5", "--script", ground.folder.File("f.bet"), "--sessions",
+                                "100", "--rolls", "40", "--bankroll", "33", "--set", "ShooterBetRule=0"});
   EXPECT_EQ(lab["systems"][0]["net"], lab["systems"][1]["net"]);
   EXPECT_GT(lab["systems"][0]["ruined"]["p"], 0);
   EXPECT_EQ(lab["comparisons"][0]["ci95"], Json({0.0, 0.0}));
@@ -85,29 +86,30 @@ TEST(LabCommand, RefusesWhatItCantPlay) {
     std::vector<std::string> words;
     int exitCode;
     const char* told;
-  } cases[] = {
-      {{}, 2, "nothing to play"},
-      {{"--bets", "foo=1"}, 2, "\"foo\" is no bet"},
-      {{"--bets", "43=0"}, 2, "no amount above 0"},
-      {{"--bets", "43=1,passline=2"}, 2, "comes twice"},
-      {{"--bets", "43=5", "--stack", "100=2"}, 2, "CheckStack N from 0 to 99"},
-      {{"--bets", "43=5", "--stack", "1=5..1"}, 2, "no range"},
-      {{"--bets", "43=5", "--shard", "3/2"}, 2, "--shard 3/2"},
-      {{"--bets", "43=5", "--shard", "1/2", "--precision", "1"}, 2, "can't be used together"},
-      {{"--bets", "43=5", "--bankroll", "x"}, 2, "--bankroll x"},
-      {{"--bets", "43=5", "--end", "soon"}, 2, "--end"},
-      {{"--bets", "43=5", "--rng", "4"}, 1, "RNG #4"},
-      {{"--bets", "43=5", "--set", "Nope=1"}, 1, "Nope"},
-      {{"--bets", "43=5", "--vary", "MaxBet=1,x"}, 1, "MaxBet"},
-      {{"--script", ground.folder.File("none.bet")}, 1, "none.bet"},
-      {{"--script", ground.folder.File("bad.bet")}, 1, "bad.bet:1"},
-      {{"--script", ground.folder.File("endless.bet")}, 1, "endless.bet, line "},
-      {{"--bets", "43=5", "--csv", "/nowhere/x.csv"}, 1, "/nowhere/x.csv"},
-      {{"--bets", "43=5", "--script", ground.folder.File("junk.lab"), "--out", ground.folder.File("junk.lab")}, 1,
-       "junk.lab"},
-      {{"--resume", ground.folder.File("junk.lab")}, 1, "no laboratory's file"},
-      {{"merge", ground.folder.File("junk.lab")}, 1, "junk.lab"},
-      {{"merge"}, 2, "files"}};
+  } cases[] = {{{}, 2, "nothing to play"},
+               {{"--bets", "foo=1"}, 2, "\"foo\" is no bet"},
+               {{"--bets", "43=0"}, 2, "no amount above 0"},
+               {{"--bets", "43=1,passline=2"}, 2, "comes twice"},
+               {{"--bets", "43=5", "--stack", "100=2"}, 2, "CheckStack N from 0 to 99"},
+               {{"--bets", "43=5", "--stack", "1=5..1"}, 2, "no range"},
+               {{"--bets", "43=5", "--shard", "3/2"}, 2, "--shard 3/2"},
+               {{"--bets", "43=5", "--shard", "1/2", "--precision", "1"}, 2, "can't be used together"},
+               {{"--bets", "43=5", "--bankroll", "x"}, 2, "--bankroll x"},
+               {{"--bets", "43=5", "--end", "soon"}, 2, "--end"},
+               {{"--bets", "43=5", "--rng", "4"}, 1, "RNG #4"},
+               {{"--bets", "43=5", "--set", "Nope=1"}, 1, "Nope"},
+               {{"--bets", "43=5", "--vary", "MaxBet=1,x"}, 1, "MaxBet"},
+               {{"--script", ground.folder.File("none.bet")}, 1, "none.bet"},
+               {{"--script", ground.folder.File("bad.bet")}, 1, "bad.bet:1"},
+               {{"--script", ground.folder.File("endless.bet")}, 1, "endless.bet, line "},
+               {{"--bets", "43=5", "--csv", "/nowhere/x.csv"}, 1, "/nowhere/x.csv"},
+               {{"--bets", "43=5", "--script", ground.folder.File("junk.lab"), "--out",
+                 ground.folder.File("junk.lab")},
+                1,
+                "junk.lab"},
+               {{"--resume", ground.folder.File("junk.lab")}, 1, "no laboratory's file"},
+               {{"merge", ground.folder.File("junk.lab")}, 1, "junk.lab"},
+               {{"merge"}, 2, "files"}};
   for (const auto& one : cases) {
     const Ran ran = ground.Run(one.words);
     EXPECT_EQ(ran.exitCode, one.exitCode) << one.told << "\n" << ran.err;
@@ -134,7 +136,8 @@ TEST(LabCommand, GoesOnWhereItWasKilled) {
   const Ran other = ground.Run({"--resume", lab, "--rolls", "21"});
   EXPECT_EQ(other.exitCode, 2);
   EXPECT_NE(other.err.find("--rolls"), std::string::npos);
-  EXPECT_NE(ground.Run({"--resume", lab, "--csv", ground.folder.File("e.csv")}).err.find("--csv"), std::string::npos);
+  EXPECT_NE(ground.Run({"--resume", lab, "--csv", ground.folder.File("e.csv")}).err.find("--csv"),
+            std::string::npos);
 }
 
 TEST(LabCommand, EndsWithWhatIsKnown) {
@@ -143,10 +146,10 @@ TEST(LabCommand, EndsWithWhatIsKnown) {
   Surroundings around;
   around.signal = SIGINT;
   around.when = [&, looks = 0]() mutable { return !ReadFile(lab).empty() && ++looks > 200; };
-  const Ran ran = RunCli(ground.folder,
-                         {"lab", "--bets", "passline=10", "--sessions", "900000000", "--rolls", "20", "--json",
-                          "--out", lab},
-                         "", around);
+  const Ran ran = RunCli(
+      ground.folder,
+      {"lab", "--bets", "passline=10", "--sessions", "900000000", "--rolls", "20", "--json", "--out", lab},
+      "", around);
   EXPECT_EQ(ran.exitCode, 128 + SIGINT);
   if (ran.out.empty()) return;  // stopped before the first block
   const Json known = Json::parse(ran.out, nullptr, false);

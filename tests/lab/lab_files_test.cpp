@@ -1,5 +1,5 @@
-// An experiment's results hang on nothing but the experiment: threads, interruptions and shards leave the same
-// bytes. And a file that is not what it was is known.
+// An experiment's results hang on nothing but the experiment: threads, interruptions and shards leave the
+// same bytes. And a file that is not what it was is known.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -20,8 +20,9 @@ Experiment TwoSystems() {
   experiment.rolls = 40;
   experiment.seed = 99;
   experiment.bankroll = Currency::Dollars(60);
-  experiment.systems = {StandingBetSystem("line", {{kPassLine, Currency::Dollars(10)}, {kField, Currency::Dollars(5)}}),
-                        StandingBetSystem("dark", {{kDontPass, Currency::Dollars(10)}})};
+  experiment.systems = {
+      StandingBetSystem("line", {{kPassLine, Currency::Dollars(10)}, {kField, Currency::Dollars(5)}}),
+      StandingBetSystem("dark", {{kDontPass, Currency::Dollars(10)}})};
   return experiment;
 }
 

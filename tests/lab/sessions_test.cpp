@@ -1,4 +1,5 @@
-// Sessions of the laboratory: as good as played on a new table, and distributed as a plain dynamic program says.
+// Sessions of the laboratory: as good as played on a new table, and distributed as a plain dynamic program
+// says.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -146,9 +147,12 @@ Distribution Figured(const Rules& rules, Line start, const std::function<Line(Li
 
 Line PassLine(Line at, int total) {
   if (at.point == 0) {
-    if (total == 7 || total == 11) at.net += at.stake;
-    else if (total == 2 || total == 3 || total == 12) at.net -= at.stake;
-    else at.point = total;
+    if (total == 7 || total == 11)
+      at.net += at.stake;
+    else if (total == 2 || total == 3 || total == 12)
+      at.net -= at.stake;
+    else
+      at.point = total;
   } else if (total == at.point || total == 7) {
     at.net += total == 7 ? -at.stake : at.stake;
     at.point = 0;
@@ -157,9 +161,7 @@ Line PassLine(Line at, int total) {
 }
 
 Line Field(Line at, int total) {
-  at.net += total == 2 || total == 12             ? 2 * at.stake
-            : total >= 5 && total <= 8            ? -at.stake
-                                                  : at.stake;
+  at.net += total == 2 || total == 12 ? 2 * at.stake : total >= 5 && total <= 8 ? -at.stake : at.stake;
   return at;
 }
 
@@ -229,7 +231,12 @@ TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
     return at;
   };
   const Case cases[] = {
-      {"Pass Line", {"if passline = 0 then bet 10 on passline endif"}, {500, 40, 0, 0}, {0, 0, 10}, PassLine, true},
+      {"Pass Line",
+       {"if passline = 0 then bet 10 on passline endif"},
+       {500, 40, 0, 0},
+       {0, 0, 10},
+       PassLine,
+       true},
       {"Pass Line with ends",
        {"if passline = 0 then bet 10 on passline endif"},
        {100, 60, 30, 40},
@@ -264,7 +271,8 @@ TEST(LabSession, EndsWithTheHandAtTheEdge) {
   const SystemSums& sums = state.systems[0];
   const double unit = static_cast<double>(sums.luckUnit) * Currency::kPerDollar;
   const MeanFigure adjusted = FigureMean(sums.adjusted, sums.sessions, unit);
-  const double handle = static_cast<double>(sums.handle) / Currency::kPerDollar / static_cast<double>(sums.sessions);
+  const double handle =
+      static_cast<double>(sums.handle) / Currency::kPerDollar / static_cast<double>(sums.sessions);
   EXPECT_NEAR(adjusted.mean, -handle * 7 / 495, 0.02);
   EXPECT_GT(Quantile(sums.lengths, 99), 30);
   EXPECT_EQ(Quantile(sums.lengths, 1), 30);
@@ -275,14 +283,15 @@ TEST(LabSession, ThatCantGoOnTellsWhy) {
     std::vector<std::string> script;
     std::int64_t SystemSums::*share;
   } cases[] = {{{"cs1 = 1"}, &SystemSums::unrolled},
-               {{"if passline = 0 then bet 10 on passline endif", "if dice total = 7 then stop autoroll/turboroll endif"},
+               {{"if passline = 0 then bet 10 on passline endif",
+                 "if dice total = 7 then stop autoroll/turboroll endif"},
                 &SystemSums::stopped}};
   for (const auto& one : cases) {
     const LabState state = Played(Asked(one.script, 50, 300));
     EXPECT_GE(state.systems[0].*one.share, 48) << one.script[0];
-
   }
-  LabState state = BeginLab(Asked({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
+  LabState state =
+      BeginLab(Asked({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
   LabRun run;
   run.applicationFolder = kFolder;
   const std::string error = RunLab(state, run);
