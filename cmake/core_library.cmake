@@ -4,7 +4,7 @@
 function(add_core_library name)
   add_library(${name} STATIC ${CORE_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-  target_link_libraries(${name} PUBLIC ${CMAKE_DL_LIBS})
+  target_link_libraries(${name} PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
   set(objects $<TARGET_OBJECTS:${name}>)
   if(TESSARYN_IPO)
     set_target_properties(${name} PROPERTIES INTERPROCEDURAL_OPTIMIZATION ON)

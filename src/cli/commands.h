@@ -20,6 +20,7 @@ void AddProbabilitiesCommand(CLI::App& program, int& exitCode);
 void AddRollsCommand(CLI::App& program, int& exitCode);
 void AddSessionsCommand(CLI::App& program, int& exitCode);
 void AddGameCommand(CLI::App& program, int& exitCode);
+void AddLabCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);

@@ -58,6 +58,7 @@ int main(int argc, char** argv) {
   AddRollsCommand(program, exitCode);
   AddSessionsCommand(program, exitCode);
   AddGameCommand(program, exitCode);
+  AddLabCommand(program, exitCode);
   HoldStandardStreams();
   tessaryn::NoteSignals();
   for (int i = 1; i < argc; ++i)

@@ -91,6 +91,18 @@ bool ParseAssignment(const std::string& text, std::string& name, int& seat, std:
   return ParseSettingName(text.substr(0, equals), name, seat);
 }
 
+std::string TargetProblem(const std::string& path) {
+  struct stat status {};
+  if (stat(path.c_str(), &status) == 0) {
+    if (S_ISDIR(status.st_mode)) return FileErrorText("write", path, EISDIR);
+    return access(path.c_str(), W_OK) == 0 ? "" : FileErrorText("write", path, errno);
+  }
+  const auto slash = path.rfind('/');
+  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+  const bool possible = errno == ENOENT && access(folder.c_str(), W_OK | X_OK) == 0;
+  return possible ? "" : FileErrorText("write", path, errno);
+}
+
 namespace {
 
 bool Told(const std::string& what) {
@@ -215,19 +227,6 @@ struct Target {
   const char* option;
   const std::string& path;
 };
-
-// Whether a file could be written; the problem is a text.
-std::string TargetProblem(const std::string& path) {
-  struct stat status {};
-  if (stat(path.c_str(), &status) == 0) {
-    if (S_ISDIR(status.st_mode)) return FileErrorText("write", path, EISDIR);
-    return access(path.c_str(), W_OK) == 0 ? "" : FileErrorText("write", path, errno);
-  }
-  const auto slash = path.rfind('/');
-  const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-  const bool possible = errno == ENOENT && access(folder.c_str(), W_OK | X_OK) == 0;
-  return possible ? "" : FileErrorText("write", path, errno);
-}
 
 bool IsOneFile(const std::string& path, const std::string& other) {
   return !path.empty() && (path == other || IsSameFile(path, other));

@@ -46,6 +46,9 @@ std::string ProblemLine(const GameFileProblem& problem);
 // reason told on standard error, when something is not on the disk.
 bool EndTable(Game& game, const TableOptions& options);
 
+// Why a file could not be written; empty when it could. Nothing is touched.
+std::string TargetProblem(const std::string& path);
+
 // NAME=VALUE or NAME@SEAT=VALUE. False without a "=", or with a seat that is no number.
 bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value);
 // NAME or NAME@SEAT; seat 0 without one.

@@ -360,8 +360,8 @@ bool BeginRoll(Game& game) {
   return true;
 }
 
-// From the fallen dice to the next bets on the table.
-void AfterDice(Game& game) {
+// From the fallen dice to the last of what they decided.
+void SettleDice(Game& game) {
   TableState& table = game.table;
   const bool logged = game.events.RecordEventsActive;
   CountRoll(game);
@@ -380,11 +380,6 @@ void AfterDice(Game& game) {
   }
   PlotRoll(game);
   CloseRoll(table);
-  RunScripts(game);
-  CopyAfterRoll(table);
-  // Unless a script has just begun the next session.
-  if (game.autobet.SessionAhead != 0 && SessionRolls(game.stats) > 0) game.autobet.SessionAhead = 0;
-  RequireConsistency(game);
 }
 
 }  // namespace
@@ -394,9 +389,23 @@ bool ReadyToRoll(Game& game) {
   return BankrollsWithinLimit(game) && ScriptsReady(game);
 }
 
-bool MakeRoll(Game& game) {
+bool RollAndSettle(Game& game) {
   if (!BeginRoll(game)) return false;
-  AfterDice(game);
+  SettleDice(game);
+  return true;
+}
+
+void FinishRoll(Game& game) {
+  RunScripts(game);
+  CopyAfterRoll(game.table);
+  // Unless a script has just begun the next session.
+  if (game.autobet.SessionAhead != 0 && SessionRolls(game.stats) > 0) game.autobet.SessionAhead = 0;
+  RequireConsistency(game);
+}
+
+bool MakeRoll(Game& game) {
+  if (!RollAndSettle(game)) return false;
+  FinishRoll(game);
   return BankrollsWithinLimit(game);
 }
 

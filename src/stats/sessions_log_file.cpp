@@ -111,9 +111,7 @@ std::string WriteRecords(const SessionsLogFile& file, std::int64_t first, const 
 
 // The whole record, so that it is written at once.
 std::string WriteHeader(const SessionsLogFile& file, const Header& header) {
-  Record record{};
-  PutText(record, 0, kTitleBytes, kTitle);
-  PutInt32(record, kCountAt, static_cast<std::int32_t>(header.count));
+  Record record = SessionsLogHeader(header.count);
   if (header.moveGap > 0) {
     PutText(record, kMoveMarkAt, kMoveMark.size(), kMoveMark);
     PutInt32(record, kMoveToAt, static_cast<std::int32_t>(header.moveTo));
@@ -221,6 +219,13 @@ std::string LockedAppend(const SessionsLogFile& file, const Record& session) {
 }
 
 }  // namespace
+
+Record SessionsLogHeader(std::int64_t count) {
+  Record record{};
+  PutText(record, 0, kTitleBytes, kTitle);
+  PutInt32(record, kCountAt, static_cast<std::int32_t>(count));
+  return record;
+}
 
 SessionsLogFile::~SessionsLogFile() { CloseSessionsFile(*this); }
 

@@ -53,6 +53,9 @@ enum class SessionsAccess { kRead, kChange, kCreate };
 std::string OpenSessionsFile(SessionsLogFile& file, const std::string& path, SessionsAccess access);
 void CloseSessionsFile(SessionsLogFile& file);
 
+// The record that a log of so many sessions begins with, for who writes a whole one. Requires count up to
+// kMostSessions.
+Record SessionsLogHeader(std::int64_t count);
 // How many sessions the log holds now.
 std::string CountSessions(SessionsLogFile& file, std::int64_t& count);
 // Sessions first (from 1) to first + count - 1 into records. Requires that the log holds them.

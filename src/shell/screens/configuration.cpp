@@ -18,8 +18,10 @@
 
 #include "play/setting_effects.h"
 #include "rules/configuration.h"
+#include "shell/screens/generator_page.h"
 #include "shell/screens/house_page.h"
 #include "shell/screens/looks_page.h"
+#include "shell/screens/probability_page.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -100,6 +102,8 @@ std::span<const ConfigurationScreen::TabRow> ConfigurationScreen::Tabs() {
        },
        RefreshControls},
       {"picColors", CAPTION("Colors"), PageOf<LooksPage>, RefreshPage<LooksPage>},
+      {"picProbability", CAPTION("Probability"), PageOf<ProbabilityPage>, RefreshPage<ProbabilityPage>},
+      {"picRNG", CAPTION("Generator"), PageOf<GeneratorPage>, RefreshPage<GeneratorPage>},
       {"picSound", CAPTION("Sound"),
        [](const Parts& parts) -> QWidget* {
          return MakeSoundPage(parts.game, parts.editor, parts.shelf, parts.parent);

@@ -1,0 +1,274 @@
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <memory>
+#include <thread>
+
+#include "base/interrupts.h"
+#include "base/program_folders.h"
+#include "base/record_file.h"
+#include "cli/commands.h"
+#include "cli/lab_options.h"
+#include "cli/lab_report.h"
+#include "cli/script_report.h"
+#include "cli/table_setup.h"
+#include "lab/html_report.h"
+#include "lab/laboratory.h"
+
+namespace tessaryn::cli {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double SecondsSince(Clock::time_point start) {
+  return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+int Answer(const std::string& error) { return error.empty() ? kDone : Fail(error); }
+
+// --- What is written.
+
+struct Target {
+  const char* option;
+  std::string path;
+};
+
+std::vector<Target> TargetsOf(const LabOptions& options, std::size_t systems) {
+  std::vector<Target> targets = {
+      {"--out ", options.out}, {"--csv ", options.csv}, {"--report ", options.report}};
+  if (options.resume.empty() && !options.out.empty()) targets.push_back({"--out ", RowsPathOf(options.out)});
+  if (!options.slg.empty())
+    for (std::size_t i = 0; i < systems; ++i)
+      targets.push_back({"--slg ", SessionsLogOf(options.slg, i, systems)});
+  std::erase_if(targets, [](const Target& target) { return target.path.empty(); });
+  return targets;
+}
+
+// Before anything is played: none is written over another, or over what the experiment reads.
+int CheckTargets(const LabOptions& options, std::size_t systems) {
+  const std::vector<Target> targets = TargetsOf(options, systems);
+  std::vector<Target> known;
+  for (const std::string& script : options.scripts) known.push_back({"--script ", script});
+  known.push_back({"--resume ", options.out.empty() ? options.resume : ""});
+  known.push_back({"--settings ", options.settingsFile});
+  known.push_back({"--probabilities ", options.probabilities});
+  for (const Target& target : targets) {
+    for (const Target& other : known)
+      if (!other.path.empty() && (other.path == target.path || IsSameFile(other.path, target.path)))
+        return Fail(target.option + target.path + ": is the file of " + other.option + "too");
+    if (const std::string problem = TargetProblem(target.path); !problem.empty())
+      return Fail(target.option + target.path + ": " + problem);
+    known.push_back(target);
+  }
+  return kDone;
+}
+
+int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) {
+  if (!options.csv.empty())
+    if (const std::string error = WriteRowsAsCsv(rows, state.experiment, options.csv); !error.empty())
+      return Fail("--csv: " + error);
+  if (!options.slg.empty())
+    if (const std::string error = WriteRowsAsLogs(rows, options.slg); !error.empty())
+      return Fail("--slg: " + error);
+  if (!options.report.empty())
+    if (const std::string error = ReplaceFile(options.report, HtmlReport(state)); !error.empty())
+      return Fail("--report: " + error);
+  return kDone;
+}
+
+void Print(LabState& state, const LabOptions& options) {
+  TellOddities(state);
+  if (options.json)
+    std::printf("%s\n", LabJson(state).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
+  else
+    PrintLab(state);
+}
+
+// --- Playing.
+
+std::string Duration(double seconds) {
+  char text[32];
+  const auto whole = static_cast<long>(std::min(std::lround(seconds), 359'999L));
+  std::snprintf(text, sizeof text, "%ld:%02ld:%02ld", whole / 3600, whole / 60 % 60, whole % 60);
+  return text;
+}
+
+// A line on a terminal, redrawn several times a second.
+class ProgressLine {
+ public:
+  explicit ProgressLine(const LabState& state)
+      : shown_(isatty(STDERR_FILENO) != 0),
+        before_(SessionsDone(state)),
+        precision_(state.experiment.precision) {}
+  ~ProgressLine() {
+    if (drawn_) std::fprintf(stderr, "\r\033[K");
+  }
+  void Update(const LabProgress& progress) {
+    if (!shown_) return;
+    drawn_ = true;
+    const auto played = static_cast<double>(progress.sessions - before_);
+    auto left = static_cast<double>(progress.target - progress.sessions);
+    // Bounds narrow by the root of the sessions.
+    if (precision_ > kZero && progress.widest > 0) {
+      const double wider = progress.widest / precision_.ToDouble();
+      left = std::min(left, static_cast<double>(progress.sessions) * std::max(wider * wider - 1, 0.0));
+    }
+    const std::string rest =
+        played > 0 ? ", " + Duration(left * SecondsSince(start_) / played) + " left" : std::string();
+    std::fprintf(stderr, "\r\033[K%s of %s sessions, means within %.4f%s",
+                 FormatMoney(Currency::Dollars(progress.sessions)).c_str(),
+                 FormatMoney(Currency::Dollars(progress.target)).c_str(), progress.widest, rest.c_str());
+  }
+
+ private:
+  bool shown_;
+  bool drawn_ = false;
+  std::int64_t before_;
+  Currency precision_;
+  Clock::time_point start_ = Clock::now();
+};
+
+std::int64_t RollsOf(const LabState& state) {
+  std::int64_t rolls = 0;
+  for (const SystemSums& sums : state.systems) rolls += sums.rolls;
+  return rolls;
+}
+
+int Play(LabState& state, const LabOptions& options) {
+  SessionRows rows;
+  LabRun run;
+  run.threads = options.threads > 0 ? options.threads
+                                    : static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+  run.applicationFolder = ApplicationFolder();
+  run.checkpoint = options.out.empty() ? options.resume : options.out;
+  if (state.rows.Any()) {
+    if (const std::string error = OpenRows(rows, RowsPathOf(run.checkpoint), state); !error.empty())
+      return Fail(error);
+    run.rows = &rows;
+    state.rows = rows.kept;
+  }
+  const auto start = Clock::now();
+  const std::int64_t before = RollsOf(state);
+  std::string error;
+  {
+    ProgressLine line(state);
+    run.progress = [&](const LabProgress& progress) {
+      line.Update(progress);
+      return !Interrupted();
+    };
+    error = RunLab(state, run);
+  }
+  if (!error.empty()) return Fail(error);
+  const double seconds = SecondsSince(start);
+  const std::int64_t rolls = RollsOf(state) - before;
+  std::fprintf(
+      stderr, "%s rolls in %.2f seconds (%s rolls a second)\n", FormatMoney(Currency::Dollars(rolls)).c_str(),
+      seconds,
+      FormatMoney(Currency::FromDouble(std::floor(static_cast<double>(rolls) / std::max(seconds, 1e-6))))
+          .c_str());
+  if (SessionsDone(state) == 0 && Interrupted()) return kBad;
+  if (const int code = WriteOutputs(state, rows, options)) return code;
+  Print(state, options);
+  return kDone;
+}
+
+int CheckScripts(const Experiment& experiment) {
+  LabProblem problem;
+  const std::string error = CheckSystems(experiment, ApplicationFolder(), problem);
+  if (error.empty()) return kDone;
+  if (!problem.script.diagnostic.Failed()) return Fail(error);
+  for (const LabSystem& system : experiment.systems)
+    if (error.starts_with(system.name + ": ")) {
+      std::fputs(CheckReport(system.name, system.lines, problem.script).c_str(), stderr);
+      return kBad;
+    }
+  return Fail(error);
+}
+
+int Resume(const CLI::App& command, const LabOptions& options) {
+  LabState state;
+  if (const std::string error = ReadLab(options.resume, state); !error.empty())
+    return Fail("--resume " + error);
+  if (const int code = CheckAgainstResumed(command, options, state.experiment)) return code;
+  if (!options.csv.empty() && !state.rows.lines)
+    return Fail("--csv: the experiment of " + options.resume + " was made without --csv");
+  if (!options.slg.empty() && !state.rows.records)
+    return Fail("--slg: the experiment of " + options.resume + " was made without --slg");
+  if (const int code = CheckScripts(state.experiment)) return code;
+  if (const int code = CheckTargets(options, state.systems.size())) return code;
+  return Play(state, options);
+}
+
+int Lab(const CLI::App& command, const LabOptions& options) {
+  if (!options.resume.empty()) return Resume(command, options);
+  Experiment experiment;
+  if (const int code = ReadExperiment(command, options, experiment)) return code;
+  if (const int code = CheckScripts(experiment)) return code;
+  if (const int code = CheckTargets(options, experiment.systems.size())) return code;
+  LabState state = BeginLab(experiment, !options.csv.empty(), !options.slg.empty());
+  return Play(state, options);
+}
+
+// --- Merging.
+
+// The shards' rows behind each other.
+int MergeRows(const std::vector<std::string>& files, const std::vector<LabState>& shards, LabState& whole,
+              SessionRows& rows, const std::string& out) {
+  if (const std::string error = OpenRows(rows, RowsPathOf(out), whole); !error.empty()) return Fail(error);
+  for (std::size_t i = 0; i < shards.size(); ++i) {
+    SessionRows part;
+    std::string error = OpenRows(part, RowsPathOf(files[i]), shards[i]);
+    if (error.empty()) error = AppendRows(rows, part);
+    if (!error.empty()) return Fail(error);
+  }
+  whole.rows = rows.kept;
+  return Answer(FlushRows(rows));
+}
+
+int Merge(const std::vector<std::string>& files, const LabOptions& options) {
+  std::vector<std::string> paths = files;
+  std::vector<LabState> shards;
+  LabState whole;
+  if (const std::string error = MergeLabs(paths, shards, whole); !error.empty())
+    return Fail("merge: " + error);
+  if (!options.csv.empty() && !whole.rows.lines)
+    return Fail("--csv: it needs shards that were made with --csv");
+  if (!options.slg.empty() && !whole.rows.records)
+    return Fail("--slg: it needs shards that were made with --slg");
+  if (const int code = CheckTargets(options, whole.systems.size())) return code;
+  SessionRows rows;
+  if (whole.rows.Any())
+    if (const int code = MergeRows(paths, shards, whole, rows, options.out)) return code;
+  if (!options.out.empty())
+    if (const std::string error = WriteLab(options.out, LabBytes(whole)); !error.empty())
+      return Fail("--out: " + error);
+  if (const int code = WriteOutputs(whole, rows, options)) return code;
+  Print(whole, options);
+  return kDone;
+}
+
+}  // namespace
+
+void AddLabCommand(CLI::App& program, int& exitCode) {
+  auto options = std::make_shared<LabOptions>();
+  auto files = std::make_shared<std::vector<std::string>>();
+  CLI::App* command =
+      program.add_subcommand("lab", "An experiment: systems over many sessions, each a fresh table");
+  AddLabOptions(*command, *options);
+  CLI::App* merge = command->add_subcommand("merge", "Join the shards of an experiment, in any order");
+  merge->add_option("files", *files, "The files that --out of each shard wrote")->required();
+  merge->add_option("--out", options->out, "Keep the whole experiment in this file");
+  AddLabOutputs(*merge, *options);
+  merge->footer("Example:\n  tessaryn-cli lab merge 1.lab 2.lab 3.lab --json");
+  command->footer(
+      "Example:\n  tessaryn-cli lab --bets passline=10 --bets field=10 --bankroll 200 --sessions 100000 "
+      "--seed 7");
+  command->callback(
+      [=, &exitCode] { exitCode = merge->parsed() ? Merge(*files, *options) : Lab(*command, *options); });
+}
+
+}  // namespace tessaryn::cli

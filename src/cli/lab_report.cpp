@@ -1,0 +1,202 @@
+#include "cli/lab_report.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "cli/script_report.h"
+
+namespace tessaryn::cli {
+namespace {
+
+constexpr double kDollar = Currency::kPerDollar;
+
+Json BoundsJson(const Bounds& bounds) { return {bounds.low, bounds.high}; }
+
+// Keys "0.01" to "0.99".
+template <typename Show>
+Json QuantilesJson(const ValueCounts& counts, Show&& show) {
+  Json quantiles = Json::object();
+  for (const int percent : kQuantilePercents) {
+    std::string key = std::to_string(percent);
+    key = key.size() == 1 ? "0.0" + key : "0." + key;
+    if (key.back() == '0') key.pop_back();
+    quantiles[key] = show(Quantile(counts, percent));
+  }
+  return quantiles;
+}
+
+Json DollarsJson(std::int64_t raw) { return MoneyJson(Currency::FromRaw(raw)); }
+Json NumberJson(std::int64_t number) { return number; }
+
+Json ShareJson(std::int64_t count, std::int64_t of) {
+  const ShareFigure share = FigureShare(count, of);
+  return {{"p", share.p}, {"ci95", BoundsJson(share.ci95)}};
+}
+
+// A number as one, else the text.
+Json SettingJson(const std::string& text) {
+  const Json number = Json::parse(text, nullptr, false);
+  return number.is_number() ? number : Json(text);
+}
+
+Json ParametersJson(const LabSystem& system) {
+  Json parameters = Json::object();
+  for (const StackStart& start : system.stacks)
+    parameters["CheckStack " + std::to_string(start.stack)] = MoneyJson(start.amount);
+  for (const LabSetting& setting : system.settings)
+    parameters[setting.seat == 0 ? setting.name : setting.name + "@" + std::to_string(setting.seat)] =
+        SettingJson(setting.text);
+  return parameters;
+}
+
+double MeanOf(Int128 sum, std::int64_t count, double unit) {
+  return count == 0 ? 0.0 : FigureMean({sum, 0, 0}, count, unit).mean;
+}
+
+MeanFigure AdjustedOf(const SystemSums& sums) {
+  return FigureMean(sums.adjusted, sums.sessions,
+                    kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
+}
+
+Json HistogramJson(const ValueCounts& counts) {
+  Json bins = Json::array();
+  for (const Bin& bin : Histogram(counts))
+    bins.push_back({{"low", DollarsJson(bin.low)}, {"high", DollarsJson(bin.high)}, {"count", bin.count}});
+  return bins;
+}
+
+Json ErrorsJson(const SystemSums& sums) {
+  Json errors = Json::array();
+  for (const ScriptErrorKind& kind : sums.errors)
+    errors.push_back({{"code", kind.code},
+                      {"text", kind.text},
+                      {"count", kind.count},
+                      {"line", kind.line},
+                      {"statement", kind.statement}});
+  return errors;
+}
+
+Json SystemJson(const LabSystem& system, const SystemSums& sums) {
+  const MeanFigure net = FigureMean(sums.net, sums.sessions, kDollar);
+  const double handle = MeanOf(sums.handle, sums.sessions, kDollar);
+  Json json = {{"name", system.name}, {"parameters", ParametersJson(system)}, {"rolls", sums.rolls}};
+  json["net"] = {{"mean", net.mean},
+                 {"stdDev", net.stdDev},
+                 {"ci95", BoundsJson(net.ci95)},
+                 {"quantiles", QuantilesJson(sums.nets, DollarsJson)}};
+  const MeanFigure adjusted = AdjustedOf(sums);
+  json["adjusted"] = {{"mean", adjusted.mean}, {"ci95", BoundsJson(adjusted.ci95)}};
+  json["handle"] = handle;
+  json["advantagePercent"] = handle > 0 ? 100 * net.mean / handle : 0.0;
+  const std::pair<const char*, std::int64_t> shares[] = {
+      {"won", sums.won},   {"brokeEven", sums.brokeEven}, {"lost", sums.lost},      {"ruined", sums.ruined},
+      {"goal", sums.goal}, {"limit", sums.limit},         {"stopped", sums.stopped}};
+  for (const auto& [name, count] : shares) json[name] = ShareJson(count, sums.sessions);
+  json["maxDrawdown"] = {{"mean", MeanOf(sums.drawdown, sums.sessions, kDollar)},
+                         {"quantiles", QuantilesJson(sums.drawdowns, DollarsJson)}};
+  json["sessionRolls"] = {{"mean", MeanOf(sums.rolls, sums.sessions, 1)},
+                          {"quantiles", QuantilesJson(sums.lengths, NumberJson)}};
+  json["histogram"] = HistogramJson(sums.nets);
+  if (!sums.errors.empty()) json["scriptErrors"] = ErrorsJson(sums);
+  return json;
+}
+
+}  // namespace
+
+Json LabJson(LabState& state) {
+  SettleState(state);
+  const Experiment& experiment = state.experiment;
+  Json json = {{"sessions", SessionsDone(state)}, {"seed", experiment.seed}};
+  Json& systems = json["systems"] = Json::array();
+  for (std::size_t i = 0; i < state.systems.size(); ++i)
+    systems.push_back(SystemJson(experiment.systems[i], state.systems[i]));
+  Json& comparisons = json["comparisons"] = Json::array();
+  ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
+    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
+    comparisons.push_back({{"a", LabelOf(experiment.systems[a])},
+                           {"b", LabelOf(experiment.systems[b])},
+                           {"mean", difference.mean},
+                           {"ci95", BoundsJson(difference.ci95)}});
+  });
+  return json;
+}
+
+namespace {
+
+std::string Whole(std::int64_t number) { return FormatMoney(Currency::Dollars(number)); }
+std::string Dollars(std::int64_t raw) { return FormatMoney(Currency::FromRaw(raw)); }
+
+std::string Percent(std::int64_t count, std::int64_t of) {
+  char text[32];
+  std::snprintf(text, sizeof text, "%.2f%%", 100 * FigureShare(count, of).p);
+  return text;
+}
+
+void PrintSystem(const LabSystem& system, const SystemSums& sums) {
+  const MeanFigure net = FigureMean(sums.net, sums.sessions, kDollar);
+  const double handle = MeanOf(sums.handle, sums.sessions, kDollar);
+  const std::int64_t of = sums.sessions;
+  std::printf("\n%s\n", Shown(LabelOf(system)).c_str());
+  std::printf("  mean result %.4f, 95%% within %.4f to %.4f; deviation %.2f\n", net.mean, net.ci95.low,
+              net.ci95.high, net.stdDev);
+  const MeanFigure adjusted = AdjustedOf(sums);
+  std::printf("  less luck   %.4f, 95%% within %.4f to %.4f\n", adjusted.mean, adjusted.ci95.low,
+              adjusted.ci95.high);
+  std::printf("  handle %.2f, result %.3f%% of it\n", handle, handle > 0 ? 100 * net.mean / handle : 0.0);
+  std::printf("  won %s, even %s, lost %s; ruined %s, goal %s, loss limit %s, stopped %s\n",
+              Percent(sums.won, of).c_str(), Percent(sums.brokeEven, of).c_str(),
+              Percent(sums.lost, of).c_str(), Percent(sums.ruined, of).c_str(),
+              Percent(sums.goal, of).c_str(), Percent(sums.limit, of).c_str(),
+              Percent(sums.stopped, of).c_str());
+  std::printf("  %8s", "");
+  for (const int percent : kQuantilePercents) std::printf(" %10d%%", percent);
+  const auto row = [](const char* name, const ValueCounts& counts, std::string (*show)(std::int64_t)) {
+    std::printf("\n  %-8s", name);
+    for (const int percent : kQuantilePercents) std::printf(" %11s", show(Quantile(counts, percent)).c_str());
+  };
+  row("result", sums.nets, Dollars);
+  row("drawdown", sums.drawdowns, Dollars);
+  row("rolls", sums.lengths, Whole);
+  std::printf("\n");
+}
+
+void PrintComparisons(const LabState& state) {
+  constexpr std::size_t kMostShown = 20;  // systems; --json has all pairs
+  if (state.systems.size() < 2 || state.systems.size() > kMostShown) return;
+  std::printf("\nDifferences on the same dice\n");
+  ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
+    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
+    std::printf("  %s less %s: %.4f, 95%% within %.4f to %.4f\n",
+                Shown(LabelOf(state.experiment.systems[a])).c_str(),
+                Shown(LabelOf(state.experiment.systems[b])).c_str(), difference.mean, difference.ci95.low,
+                difference.ci95.high);
+  });
+}
+
+}  // namespace
+
+void PrintLab(LabState& state) {
+  SettleState(state);
+  std::printf("%s sessions, seed %llu\n", Whole(SessionsDone(state)).c_str(),
+              static_cast<unsigned long long>(state.experiment.seed));
+  for (std::size_t i = 0; i < state.systems.size(); ++i)
+    PrintSystem(state.experiment.systems[i], state.systems[i]);
+  PrintComparisons(state);
+  if (state.experiment.precision > kZero && state.finished)
+    std::printf("\nLooking at the bounds again and again makes them a little too narrow.\n");
+}
+
+void TellOddities(const LabState& state) {
+  for (std::size_t i = 0; i < state.systems.size(); ++i) {
+    const SystemSums& sums = state.systems[i];
+    const std::string name = Shown(LabelOf(state.experiment.systems[i]));
+    if (sums.sessions > 0 && sums.unrolled == sums.sessions)
+      std::fprintf(stderr, "tessaryn-cli: %s: stopped at 0 rolls in every session%s\n", name.c_str(),
+                   sums.stopReason.empty() ? "" : (": " + AsLines(sums.stopReason)).c_str());
+    if (sums.acted || sums.errors.empty()) continue;
+    std::fprintf(stderr, "tessaryn-cli: %s: the script could never act: %s\n", name.c_str(),
+                 ErrorReport(sums.errors.front()).c_str());
+  }
+}
+
+}  // namespace tessaryn::cli

@@ -1,0 +1,356 @@
+#include "lab/session.h"
+
+#include <algorithm>
+#include <cstring>
+#include <type_traits>
+
+#include "lab/dice_streams.h"
+#include "play/copy_game.h"
+#include "play/roll_cycle.h"
+#include "rules/bankroll.h"
+#include "rules/handling.h"
+#include "state/bet_families.h"
+#include "state/run_stop.h"
+#include "stats/sessions_log.h"
+#include "stats/statistics.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kSeat = 1;
+constexpr int kStatementsOfALook = 64;  // at full speed the interpreter gives way so often
+
+}  // namespace
+
+// --- The outside.
+
+void LabHost::ShowMessage(Game&, MessageBox& box) {
+  box.MsgResult = (box.MsgFlags & kMsgNo) != 0       ? kResultNo
+                  : (box.MsgFlags & kMsgCancel) != 0 ? kResultCancel
+                                                     : kResultOk;
+}
+
+bool LabHost::YieldByClock(Game& game) {
+  if (stop != nullptr && stop->load(std::memory_order_relaxed)) game.autobet.ScriptRunning = false;
+  return false;
+}
+
+// A script that goes too far is watched for one step more, which tells the line.
+bool LabHost::Yield(Game& game) {
+  statements += game.table.TurboRollActive ? kStatementsOfALook : 1;
+  if (statements > kMostStatements && !endless) {
+    endless = true;
+    game.autobet.StepsShown = true;
+    game.autobet.StepsHold = game.autobet.StepMode = false;
+    game.table.TurboRollActive = false;
+  }
+  // A script of nothing but conditions takes no step.
+  if (statements > kMostStatements + 10 * kStatementsOfALook) game.autobet.ScriptRunning = false;
+  return (statements & 0xffff) < kStatementsOfALook && YieldByClock(game);
+}
+
+void LabHost::ShowStep(Game& game, const ScriptStep& shown) {
+  endlessLine = shown.line;
+  game.autobet.ScriptRunning = false;
+}
+
+// --- A table as before its first session.
+
+namespace {
+
+template <typename T>
+struct IsSeatBetTable : std::false_type {};
+template <typename T, int kRows>
+struct IsSeatBetTable<SeatBetTable<T, kRows>> : std::true_type {};
+
+// The bets' tables are large, and a session touches a few rows of them.
+template <typename T, int kRows>
+void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fresh,
+               const TouchedBets& touched) {
+  touched.bets.ForEach([&](int bet) { cells(kSeat, bet) = fresh(kSeat, bet); });
+  if constexpr (kRows == kBetRows)
+    touched.stacks.ForEach(
+        [&](int stack) { cells(kSeat, kFirstCheckStack + stack) = fresh(kSeat, kFirstCheckStack + stack); });
+}
+
+// Texts and lists mostly are what they were.
+template <typename T>
+void ResetPart(T& value, const T& fresh) {
+  if constexpr (std::is_trivially_copyable_v<T>) {
+    std::memcpy(&value, &fresh, sizeof value);
+  } else if constexpr (std::is_array_v<T>) {
+    for (std::size_t i = 0; i < std::size(value); ++i) ResetPart(value[i], fresh[i]);
+  } else if constexpr (HasFields<T>) {
+    ForEachMember(std::type_identity<T>{}, [&](const char*, auto member) {
+      using Member = std::remove_reference_t<decltype(value.*member)>;
+      if constexpr (std::is_copy_assignable_v<Member> || std::is_array_v<Member>)
+        ResetPart(value.*member, fresh.*member);
+    });
+  } else {
+    if (!(value == fresh)) value = fresh;
+  }
+}
+
+void ResetState(TableState& table, const TableState& fresh, const TouchedBets& touched) {
+  ForEachMember(std::type_identity<TableState>{}, [&](const char*, auto member) {
+    using Member = std::remove_reference_t<decltype(table.*member)>;
+    if constexpr (IsSeatBetTable<Member>::value)
+      ResetRows(table.*member, fresh.*member, touched);
+    else if constexpr (std::is_same_v<Member, SeatState[kSeatRows]>)
+      for (int seat = 0; seat <= kSeat; ++seat) ResetPart(table.seats[seat], fresh.seats[seat]);
+    else
+      ResetPart(table.*member, fresh.*member);
+  });
+}
+
+void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
+  const auto resetBet = [&](int bet) {
+    std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
+  };
+  resetBet(0);
+  touched.bets.ForEach(resetBet);
+  for (int item = 0; item < kRollItems; ++item)
+    if (stats.ItemLastRoll[item] != fresh.ItemLastRoll[item])
+      std::memcpy(stats.RollGapCounts[item], fresh.RollGapCounts[item], sizeof stats.RollGapCounts[item]);
+  ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
+    constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
+                           std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
+    if constexpr (!kDone) ResetPart(stats.*member, fresh.*member);
+  });
+}
+
+void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
+  const auto rows = std::min<std::int64_t>(graph.PlotPoints, kPlotRows);
+  std::copy(fresh.Rows, fresh.Rows + rows, graph.Rows);
+  ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
+    if constexpr (!std::is_same_v<decltype(member), decltype(&BankrollGraph::Rows)>)
+      ResetPart(graph.*member, fresh.*member);
+  });
+}
+
+// The numbers of the twisters are drawn anew where they were drawn from.
+void ResetStream(TwisterStream& stream, const TwisterStream& fresh) {
+  if (stream.Next != fresh.Next || stream.State[0] != fresh.State[0]) stream = fresh;
+}
+
+void ResetGenerators(Generators& generators, const Generators& fresh, bool twister) {
+  if (twister) {
+    ResetStream(generators.Mersenne, fresh.Mersenne);
+    ResetStream(generators.Cokus, fresh.Cokus);
+  }
+  ForEachMember(std::type_identity<Generators>{}, [&](const char*, auto member) {
+    using Member = std::remove_reference_t<decltype(generators.*member)>;
+    if constexpr (!std::is_same_v<Member, TwisterStream>) ResetPart(generators.*member, fresh.*member);
+  });
+}
+
+// The compiled script stays; what came of running it goes.
+void ResetScripts(AutoBet& autobet, const AutoBet& fresh) {
+  SeatScript& script = autobet.Scripts[kSeat];
+  script.Errors.clear();
+  script.Acted = false;
+  if (script.Output.File != nullptr) script.Output = ScriptOutput();
+  if (!autobet.OutputOwners.empty()) autobet.OutputOwners.clear();
+  std::copy(std::begin(fresh.ScriptActive), std::end(fresh.ScriptActive), autobet.ScriptActive);
+  autobet.ScriptRunning = autobet.ScriptInitializing = false;
+  autobet.CurrentAutobettor = fresh.CurrentAutobettor;
+  autobet.Work = fresh.Work;
+  autobet.ScriptError = fresh.ScriptError;
+  if (!autobet.ScriptFault.empty()) autobet.ScriptFault.clear();
+  autobet.StepMode = fresh.StepMode;
+  autobet.StepsShown = fresh.StepsShown;
+  autobet.StepsHold = fresh.StepsHold;
+  autobet.Answer = fresh.Answer;
+  autobet.SessionAhead = fresh.SessionAhead;
+  autobet.BeginningNewSession = fresh.BeginningNewSession;
+  autobet.RollFileEndReached = fresh.RollFileEndReached;
+}
+
+}  // namespace
+
+std::unique_ptr<LabTable> OpenLabTable(const Game& fresh, const std::atomic<bool>* stop) {
+  auto table = std::make_unique<LabTable>();
+  table->host.stop = stop;
+  table->fresh = &fresh;
+  table->game = CopyGame(fresh, table->host);
+  return table;
+}
+
+void ResetLabTable(LabTable& table) {
+  Game& game = *table.game;
+  const Game& fresh = *table.fresh;
+  const SeatState& seat = game.table.seats[kSeat];
+  table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
+  table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
+  ResetStatistics(game.stats, fresh.stats, table.touched);
+  ResetGraph(game.graph, fresh.graph);
+  ResetState(game.table, fresh.table, table.touched);
+  ResetGenerators(game.generators, fresh.generators, true);
+  ResetScripts(game.autobet, fresh.autobet);
+  ResetPart(game.settings, fresh.settings);
+  ResetPart(game.payoffs, fresh.payoffs);
+  ResetPart(game.box, fresh.box);
+  table.touched = {};
+  table.host.statements = 0;
+  table.host.endless = false;
+  table.host.endlessLine = 0;
+}
+
+// --- A session.
+
+namespace {
+
+// What is looked at as each roll ends.
+struct Course {
+  Currency start;  // what net counts from
+  Currency highest;
+  Currency net;
+  std::int64_t marks = 0;  // of the fan
+};
+
+Currency NetOf(const Game& game, const Course& course) {
+  return game.table.BankrollCurrent[kSeat] - course.start - game.stats.AtmTotal[Slot(kCurrentSession, kSeat)];
+}
+
+bool BeginSession(LabTable& table, const Experiment& experiment, std::int64_t session) {
+  Game& game = *table.game;
+  SetDiceStream(game.generators, experiment.seed, static_cast<std::uint64_t>(session));
+  table.stopReason.clear();
+  const bool ready = InitialiseScripts(game);
+  game.table.AutoRollActive = game.table.TurboRollActive = true;
+  return ready && ReadyToRoll(game);
+}
+
+bool IsRuined(const Game& game) { return game.table.BankrollCurrent[kSeat] < game.settings.MinBetMain; }
+
+// Nothing was rolled: for lack of money, or the system wants no more.
+std::uint8_t MarkOfRefusal(const Game& game) {
+  const Currency rail = game.table.BankrollCurrent[kSeat] - game.table.seats[kSeat].OnTableAmount;
+  return rail < game.settings.MinBetMain ? kMarkRuined : kMarkStopped;
+}
+
+// The result as a roll ends. Whether the session is to end here.
+bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+  const Game& game = *table.game;
+  LuckAfterRoll(table.luck, game);
+  ++result.rolls;
+  if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
+  const Currency net = course.net = NetOf(game, course);
+  if (net > course.highest) course.highest = net;
+  if (course.highest - net > result.maxDrawdown) result.maxDrawdown = course.highest - net;
+  if (IsRuined(game)) result.marks |= kMarkRuined;
+  if (experiment.winGoal > kZero && net >= experiment.winGoal) result.marks |= kMarkGoal;
+  if (experiment.lossLimit > kZero && net <= -experiment.lossLimit) result.marks |= kMarkLimit;
+  while (course.marks < kFanMarks && result.rolls * kFanMarks >= experiment.rolls * (course.marks + 1))
+    table.fan[course.marks++] = net;
+  return result.marks != 0 || (experiment.rolls > 0 && result.rolls >= experiment.rolls) ||
+         (experiment.hands > 0 && result.hands >= experiment.hands);
+}
+
+bool ContractIsUp(const Game& game) {
+  bool up = false;
+  game.table.seats[kSeat].SeatBets.ForEach([&](int bet) {
+    up = up || (UnderContract(game.table, bet) && game.table.BetCommitted(kSeat, bet) > kZero);
+  });
+  return up;
+}
+
+// From here on what is decided comes down, and nothing new goes up.
+void TakeNoNewBets(Game& game) {
+  game.settings.ShooterBetRule = 0;
+  game.autobet.ScriptActive[0] = false;
+  Handling& handling = game.table.seats[kSeat].handling;
+  handling.WinHandling = kWinTakeDown;
+  handling.LoseHandling = kLoseTakeDown;
+  handling.AutoTakeOdds = handling.AutoLayOdds = handling.AutoDownPlace = false;
+}
+
+void NoteTouched(LabTable& table) {
+  const SeatState& seat = table.game->table.seats[kSeat];
+  table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
+  table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
+}
+
+// What rides is played out.
+void PlayOut(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+  Game& game = *table.game;
+  if (!ContractIsUp(game)) return;
+  TakeNoNewBets(game);
+  game.table.AutoRollActive = game.table.TurboRollActive = true;
+  do {
+    FinishRoll(game);
+    NoteTouched(table);
+    LuckBeforeRoll(table.luck, game);
+    if (!RollAndSettle(game)) return;
+    LookAtRoll(table, experiment, course, result);
+  } while (ContractIsUp(game));
+}
+
+bool GivenUp(const LabTable& table) {
+  return table.host.endless ||
+         (table.host.stop != nullptr && table.host.stop->load(std::memory_order_relaxed));
+}
+
+// Rolls until an end is met. False when the session was given up.
+bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+  Game& game = *table.game;
+  for (;;) {
+    NoteTouched(table);
+    LuckBeforeRoll(table.luck, game);
+    if (!RollAndSettle(game)) {
+      result.marks |= MarkOfRefusal(game);
+      table.stopReason = game.table.StopReason;
+      return true;
+    }
+    if (LookAtRoll(table, experiment, course, result)) return true;
+    table.host.statements = 0;
+    FinishRoll(game);
+    if (GivenUp(table)) return false;
+    if (Abs(game.table.BankrollCurrent[kSeat]) > kBankrollLimit) BankrollLimitReached(game, kSeat);
+    if (game.table.AutoRollActive) continue;
+    result.marks |= kMarkStopped;
+    table.stopReason = game.table.StopReason;
+    return true;
+  }
+}
+
+// The amounts that were decided, in the hand and before it.
+Currency HandleOf(const Statistics& stats, const TouchedBets& touched) {
+  Currency handle;
+  touched.bets.ForEach([&](int bet) {
+    const auto& scopes = stats.Bets[bet][kSeat];
+    handle += scopes[kCurrentSession].kinds[kWagerStats][kStatTotal - 1] +
+              scopes[kCurrentHand].kinds[kWagerStats][kStatTotal - 1];
+  });
+  return handle;
+}
+
+}  // namespace
+
+bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t session, SessionResult& result,
+                 Record* record) {
+  ResetLabTable(table);
+  result = {};
+  Game& game = *table.game;
+  Course course;
+  const bool begun = BeginSession(table, experiment, session);
+  if (GivenUp(table)) return false;
+  LuckBeginSession(table.luck, game);
+  course.start = game.stats.BankrollSessionStart[kSeat];
+  course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
+  if (!begun) result.marks |= kMarkStopped;
+  if (begun && !PlayRolls(table, experiment, course, result)) return false;
+  if (experiment.endWithHand) PlayOut(table, experiment, course, result);
+  NoteTouched(table);
+  result.net = NetOf(game, course);
+  result.highest = course.highest;
+  result.luck = table.luck.seats[kSeat].luck;
+  result.luckUnit = table.luck.unit;
+  result.handle = HandleOf(game.stats, table.touched);
+  if (experiment.rolls > 0)
+    while (course.marks < kFanMarks) table.fan[course.marks++] = result.net;
+  if (record != nullptr) *record = SessionOf(game, kSeat);
+  return true;
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,161 @@
+// The laboratory's command as a process: what it prints and refuses, and that killing it loses nothing.
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <nlohmann/json.hpp>
+
+#include "support/cli_process.h"
+
+namespace tessaryn::test {
+namespace {
+
+using Json = nlohmann::json;
+
+struct Ground {
+  TempFolder folder;
+  Ran Run(std::vector<std::string> words) {
+    words.insert(words.begin(), "lab");
+    return RunCli(folder, words);
+  }
+  Json Says(std::vector<std::string> words) {
+    words.push_back("--json");
+    const Ran ran = Run(words);
+    EXPECT_EQ(ran.exitCode, 0) << ran.err;
+    return Json::parse(ran.out, nullptr, false);
+  }
+};
+
+void ExpectMoneyDistribution(const Json& figure) {
+  EXPECT_EQ(figure["quantiles"].size(), 9u);
+  for (const char* key : {"0.01", "0.05", "0.1", "0.25", "0.5", "0.75", "0.9", "0.95", "0.99"})
+    EXPECT_TRUE(figure["quantiles"][key].is_number()) << key;
+  EXPECT_TRUE(figure["mean"].is_number());
+}
+
+TEST(LabCommand, PrintsEverySystemByTheContract) {
+  Ground ground;
+  WriteFile(ground.folder.File("line.bet"), "if passline = 0 then bet cs1 on passline endif\n");
+  const Json lab = ground.Says({"--script", ground.folder.File("line.bet"), "--bets", "dontpass=10",
+                                "--stack", "1=5..10:5", "--sessions", "200", "--rolls", "30", "--bankroll",
+                                "100", "--win-goal", "40", "--loss-limit", "40", "--seed", "5"});
+  EXPECT_EQ(lab["sessions"], 200);
+  EXPECT_EQ(lab["seed"], 5);
+  ASSERT_EQ(lab["systems"].size(), 4u);
+  EXPECT_EQ(lab["systems"][1]["name"], "line.bet");
+  EXPECT_EQ(lab["systems"][1]["parameters"], Json({{"CheckStack 1", 10}}));
+  EXPECT_EQ(lab["systems"][2]["name"], "dontpass=10");
+  for (const Json& system : lab["systems"]) {
+    ExpectMoneyDistribution(system["net"]);
+    ExpectMoneyDistribution(system["maxDrawdown"]);
+    ExpectMoneyDistribution(system["sessionRolls"]);
+    double all = 0;
+    for (const char* share : {"won", "brokeEven", "lost"}) all += system[share]["p"].get<double>();
+    EXPECT_NEAR(all, 1, 1e-9);
+    for (const char* share : {"ruined", "goal", "limit", "stopped"})
+      EXPECT_LE(system[share]["ci95"][0], system[share]["p"]) << share;
+    std::int64_t counted = 0;
+    for (const Json& bin : system["histogram"]) counted += bin["count"].get<std::int64_t>();
+    EXPECT_EQ(counted, 200);
+    EXPECT_NEAR(system["advantagePercent"].get<double>(),
+                100 * system["net"]["mean"].get<double>() / system["handle"].get<double>(), 1e-9);
+    EXPECT_LT(system["adjusted"]["ci95"][1].get<double>() - system["adjusted"]["ci95"][0].get<double>(),
+              system["net"]["ci95"][1].get<double>() - system["net"]["ci95"][0].get<double>());
+  }
+  ASSERT_EQ(lab["comparisons"].size(), 6u);
+  EXPECT_NEAR(lab["comparisons"][0]["mean"].get<double>(),
+              lab["systems"][0]["net"]["mean"].get<double>() - lab["systems"][1]["net"]["mean"].get<double>(),
+              1e-9);
+}
+
+TEST(LabCommand, StandingBetsPlayAsTheirScript) {
+  Ground ground;
+  WriteFile(ground.folder.File("f.bet"), "if field = 0 then bet 5 on field endif\n");
+  const Json lab = ground.Says({"--bets", "49=5", "--script", ground.folder.File("f.bet"), "--sessions",
+                                "100", "--rolls", "40", "--bankroll", "33", "--set", "ShooterBetRule=0"});
+  EXPECT_EQ(lab["systems"][0]["net"], lab["systems"][1]["net"]);
+  EXPECT_GT(lab["systems"][0]["ruined"]["p"], 0);
+  EXPECT_EQ(lab["comparisons"][0]["ci95"], Json({0.0, 0.0}));
+}
+
+TEST(LabCommand, RefusesWhatItCantPlay) {
+  Ground ground;
+  WriteFile(ground.folder.File("bad.bet"), "bet on on\n");
+  WriteFile(ground.folder.File("endless.bet"), "do\ncs1 = cs1 + 1\nloop\n");
+  WriteFile(ground.folder.File("junk.lab"), "junk");
+  const struct {
+    std::vector<std::string> words;
+    int exitCode;
+    const char* told;
+  } cases[] = {{{}, 2, "nothing to play"},
+               {{"--bets", "foo=1"}, 2, "\"foo\" is no bet"},
+               {{"--bets", "43=0"}, 2, "no amount above 0"},
+               {{"--bets", "43=1,passline=2"}, 2, "comes twice"},
+               {{"--bets", "43=5", "--stack", "100=2"}, 2, "CheckStack N from 0 to 99"},
+               {{"--bets", "43=5", "--stack", "1=5..1"}, 2, "no range"},
+               {{"--bets", "43=5", "--shard", "3/2"}, 2, "--shard 3/2"},
+               {{"--bets", "43=5", "--shard", "1/2", "--precision", "1"}, 2, "can't be used together"},
+               {{"--bets", "43=5", "--bankroll", "x"}, 2, "--bankroll x"},
+               {{"--bets", "43=5", "--end", "soon"}, 2, "--end"},
+               {{"--bets", "43=5", "--rng", "4"}, 1, "RNG #4"},
+               {{"--bets", "43=5", "--set", "Nope=1"}, 1, "Nope"},
+               {{"--bets", "43=5", "--vary", "MaxBet=1,x"}, 1, "MaxBet"},
+               {{"--script", ground.folder.File("none.bet")}, 1, "none.bet"},
+               {{"--script", ground.folder.File("bad.bet")}, 1, "bad.bet:1"},
+               {{"--script", ground.folder.File("endless.bet")}, 1, "endless.bet, line "},
+               {{"--bets", "43=5", "--csv", "/nowhere/x.csv"}, 1, "/nowhere/x.csv"},
+               {{"--bets", "43=5", "--script", ground.folder.File("junk.lab"), "--out",
+                 ground.folder.File("junk.lab")},
+                1,
+                "junk.lab"},
+               {{"--resume", ground.folder.File("junk.lab")}, 1, "no laboratory's file"},
+               {{"merge", ground.folder.File("junk.lab")}, 1, "junk.lab"},
+               {{"merge"}, 2, "files"}};
+  for (const auto& one : cases) {
+    const Ran ran = ground.Run(one.words);
+    EXPECT_EQ(ran.exitCode, one.exitCode) << one.told << "\n" << ran.err;
+    EXPECT_NE(ran.err.find(one.told), std::string::npos) << ran.err;
+    EXPECT_EQ(ran.out, "") << one.told;
+  }
+  EXPECT_EQ(ReadFile(ground.folder.File("junk.lab")), "junk");
+}
+
+TEST(LabCommand, GoesOnWhereItWasKilled) {
+  Ground ground;
+  const std::string lab = ground.folder.File("e.lab");
+  const std::vector<std::string> asked = {"--bets", "passline=10", "--sessions", "3000", "--rolls", "20"};
+  const Json whole = ground.Says(asked);
+  std::vector<std::string> killed = asked;
+  killed.insert(killed.end(), {"--out", lab, "--threads", "2"});
+  killed.insert(killed.begin(), "lab");
+  Surroundings around;
+  around.signal = SIGKILL;
+  around.when = [&] { return !ReadFile(lab).empty(); };
+  RunCli(ground.folder, killed, "", around);
+  EXPECT_EQ(ground.Says({"--resume", lab}), whole);
+  EXPECT_EQ(ground.Says({"--resume", lab, "--bets", "passline=10", "--rolls", "20"}), whole);
+  const Ran other = ground.Run({"--resume", lab, "--rolls", "21"});
+  EXPECT_EQ(other.exitCode, 2);
+  EXPECT_NE(other.err.find("--rolls"), std::string::npos);
+  EXPECT_NE(ground.Run({"--resume", lab, "--csv", ground.folder.File("e.csv")}).err.find("--csv"),
+            std::string::npos);
+}
+
+TEST(LabCommand, EndsWithWhatIsKnown) {
+  Ground ground;
+  const std::string lab = ground.folder.File("e.lab");
+  Surroundings around;
+  around.signal = SIGINT;
+  around.when = [&, looks = 0]() mutable { return !ReadFile(lab).empty() && ++looks > 200; };
+  const Ran ran = RunCli(
+      ground.folder,
+      {"lab", "--bets", "passline=10", "--sessions", "900000000", "--rolls", "20", "--json", "--out", lab},
+      "", around);
+  EXPECT_EQ(ran.exitCode, 128 + SIGINT);
+  if (ran.out.empty()) return;  // stopped before the first block
+  const Json known = Json::parse(ran.out, nullptr, false);
+  EXPECT_GT(known["sessions"], 0);
+  EXPECT_LT(known["sessions"], 900'000'000);
+}
+
+}  // namespace
+}  // namespace tessaryn::test
