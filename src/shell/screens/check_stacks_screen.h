@@ -33,7 +33,7 @@ class CheckStacksScreen : public ToolWindow {
   QList<QStringList> Rows() const override;
   QStringList PrintHeadings() const override;
   // Asks which ones to print. False when that is given up.
-  bool ReadyToPrint();
+  bool ReadyToPrint() override;
   CheckStackView& View() { return *view_; }
 
  private:

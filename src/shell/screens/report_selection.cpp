@@ -9,7 +9,7 @@ namespace {
 
 constexpr int kColourBits = 4;
 constexpr int kColourMask = (1 << kColourBits) - 1;
-constexpr int ColourShift(GraphPart part) { return part == GraphPart::kBars ? 8 : 8 + kColourBits; }
+constexpr int ColourShift(TotalsPart part) { return part == TotalsPart::kBars ? 8 : 8 + kColourBits; }
 
 constexpr int kLeastItem = 2;
 constexpr int kMostItem = 89;
@@ -44,12 +44,12 @@ void SetOption(Game& game, ReportOption option, bool on) {
   options = on ? options | option : options & ~option;
 }
 
-int GraphColourOf(const Game& game, GraphPart part) {
+int GraphColourOf(const Game& game, TotalsPart part) {
   const int colour = game.screen.ReportViewOption >> ColourShift(part) & kColourMask;
   return colour < kGraphColours ? colour : 0;
 }
 
-void SetGraphColour(Game& game, GraphPart part, int colour) {
+void SetGraphColour(Game& game, TotalsPart part, int colour) {
   int& options = game.screen.ReportViewOption;
   options = (options & ~(kColourMask << ColourShift(part))) | colour << ColourShift(part);
 }

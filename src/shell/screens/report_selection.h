@@ -22,15 +22,15 @@ bool HasOption(const Game& game, ReportOption option);
 void SetOption(Game& game, ReportOption option, bool on);
 
 // The colours that the graph of the rolls may have; 0 is that of the desktop.
-enum class GraphPart { kBars, kBackground };
+enum class TotalsPart { kBars, kBackground };
 inline constexpr int kGraphColours = 11;
 struct GraphColour {
   const char* name;
   unsigned rgb;
 };
 extern const std::array<GraphColour, kGraphColours> kGraphColourRows;
-int GraphColourOf(const Game& game, GraphPart part);
-void SetGraphColour(Game& game, GraphPart part, int colour);
+int GraphColourOf(const Game& game, TotalsPart part);
+void SetGraphColour(Game& game, TotalsPart part, int colour);
 
 // In range, whatever the file held that it comes from.
 ReportSelection SelectionShown(const Game& game);

@@ -109,7 +109,7 @@ void SetText(QLabel& label, const QString& text) {
   label.setVisible(!text.isEmpty());
 }
 
-QColor ChosenColour(const Game& game, GraphPart part) {
+QColor ChosenColour(const Game& game, TotalsPart part) {
   const int colour = GraphColourOf(game, part);
   return colour == 0 ? QColor() : QColor(kGraphColourRows[static_cast<std::size_t>(colour)].rgb);
 }
@@ -302,13 +302,13 @@ void ReportWindow::AddRollOptions(QMenu& menu) {
       menu, "mnuHideProbBars", Said(QT_TRANSLATE_NOOP("Reports", "&Hide probability bars")),
       [this] { return game_.screen.Reports.HideProbabilities; },
       [this](bool on) { game_.screen.Reports.HideProbabilities = on; });
-  AddColours(menu, GraphPart::kBackground, "mnuGraphBackgroundColor",
+  AddColours(menu, TotalsPart::kBackground, "mnuGraphBackgroundColor",
              Said(QT_TRANSLATE_NOOP("Reports", "Graph &background color ...")));
-  AddColours(menu, GraphPart::kBars, "mnuGraphBarsColor",
+  AddColours(menu, TotalsPart::kBars, "mnuGraphBarsColor",
              Said(QT_TRANSLATE_NOOP("Reports", "&Graph bars color ...")));
 }
 
-void ReportWindow::AddColours(QMenu& menu, GraphPart part, const QString& name, const QString& caption) {
+void ReportWindow::AddColours(QMenu& menu, TotalsPart part, const QString& name, const QString& caption) {
   QMenu* colours = menu.addMenu(caption);
   colours->setObjectName(name);
   auto* group = new QActionGroup(colours);
@@ -458,7 +458,7 @@ void ReportWindow::ShowChart(const ReportSelection& selection) {
   chart_->Show(grid_ != nullptr
                    ? GapsChart(*report_)
                    : TotalsChart(*report_, game_.screen.Reports.HideProbabilities, selection.skewed),
-               ChosenColour(game_, GraphPart::kBackground), ChosenColour(game_, GraphPart::kBars));
+               ChosenColour(game_, TotalsPart::kBackground), ChosenColour(game_, TotalsPart::kBars));
 }
 
 QSize ReportWindow::sizeHint() const { return screen_.size; }

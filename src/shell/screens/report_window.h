@@ -56,7 +56,7 @@ class ReportWindow : public ToolWindow {
                      std::function<void(bool)> set);
   void AddBetOptions(QMenu& menu);
   void AddRollOptions(QMenu& menu);
-  void AddColours(QMenu& menu, GraphPart part, const QString& name, const QString& caption);
+  void AddColours(QMenu& menu, TotalsPart part, const QString& name, const QString& caption);
   void AddLabels(QVBoxLayout& column);
   void AddBody(QVBoxLayout& column);
   void AddGaps(QVBoxLayout& column);

@@ -36,9 +36,9 @@ class RollFilesWindow : public ToolWindow {
   QStringList PrintHeadings() const override;
   // The title of the boxes about printing, what is told before it, and whether there is anything to print; if
   // not, it has been told.
-  QString PrintTitle() const;
-  QStringList PrintFacts(int pages) const;
-  bool ReadyToPrint();
+  QString PrintTitle() const override;
+  QStringList PrintFacts(int pages) const override;
+  bool ReadyToPrint() override;
   bool HasPicture() const override { return true; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override;
 
