@@ -208,7 +208,7 @@ TEST(ReportScreens, SelectorsWorkByMouseAndKeysAndAreCommonToAll) {
   EXPECT_TRUE(HasOption(*table.game, kNoSeparators));
   const ReportWindow again(*table.game, kRollTotalsWindow, nullptr);
   EXPECT_EQ(again.Rows().size(), 37);
-  EXPECT_TRUE(again.findChild<RollChartView*>("picGraph")->Chart().probable.isEmpty());
+  EXPECT_TRUE(again.findChild<ReportChartView*>("picGraph")->Chart().probable.isEmpty());
   for (const auto& window : table.windows) ExpectNamed(*window);
 }
 

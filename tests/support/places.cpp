@@ -5,14 +5,12 @@
 #include <string>
 
 namespace tessaryn::test {
-namespace {
-
 // The tests stand beside the programs that they try.
-const std::string kOwnFolder = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+const char* BinFolder() {
+  static const std::string folder = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+  return folder.c_str();
+}
 
-}  // namespace
-
-const char* const kBinFolder = kOwnFolder.c_str();
 const char* const kSourceFolder = TESSARYN_SOURCE_DIR;
 
 int Rounds(int rounds) {

@@ -3,7 +3,9 @@
 
 namespace tessaryn::test {
 
-extern const char* const kBinFolder;     // programs and their support files; no separator at the end
+const char* BinFolder();
+inline const char* const kBinFolder =
+    BinFolder();                         // programs and their support files; no separator at the end
 extern const char* const kSourceFolder;  // the project
 
 // How often a long random test goes round: fewer times where the sanitizers look on.

@@ -300,40 +300,40 @@ void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& char
   painter.restore();
 }
 
-RollChartView::RollChartView(const QString& what, QWidget* parent) : QWidget(parent) {
+ReportChartView::ReportChartView(const QString& what, QWidget* parent) : QWidget(parent) {
   setObjectName("picGraph");
   setAccessibleName(what);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void RollChartView::Show(RollChart chart, const QColor& background, const QColor& bars) {
+void ReportChartView::Show(RollChart chart, const QColor& background, const QColor& bars) {
   chart_ = std::move(chart);
   background_ = background;
   bars_ = bars;
   update();
 }
 
-ChartLook RollChartView::LookOnScreen() const {
+ChartLook ReportChartView::LookOnScreen() const {
   const QColor background = background_.isValid() ? background_ : palette().color(QPalette::Base);
   const QColor bars = bars_.isValid() ? bars_ : IsBright(background) ? QColor(0x0B6B45) : QColor(0x3CC98A);
   return {background, bars, font()};
 }
 
-ChartLook RollChartView::LookOnPaper() const {
+ChartLook ReportChartView::LookOnPaper() const {
   return {background_.isValid() ? background_ : QColor(Qt::white), bars_.isValid() ? bars_ : QColor(0x0B6B45),
           font()};
 }
 
-QSize RollChartView::sizeHint() const { return {420, 240}; }
-QSize RollChartView::minimumSizeHint() const { return {160, 110}; }
+QSize ReportChartView::sizeHint() const { return {420, 240}; }
+QSize ReportChartView::minimumSizeHint() const { return {160, 110}; }
 
-void RollChartView::paintEvent(QPaintEvent*) {
+void ReportChartView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   PaintRollChart(painter, rect(), chart_, LookOnScreen());
 }
 
 // The figures of the bar under the pointer.
-bool RollChartView::event(QEvent* event) {
+bool ReportChartView::event(QEvent* event) {
   if (event->type() != QEvent::ToolTip) return QWidget::event(event);
   const auto* help = static_cast<QHelpEvent*>(event);
   const ChartLook look = LookOnScreen();

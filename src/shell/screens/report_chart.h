@@ -42,9 +42,9 @@ struct ChartLook {
 // Letters, lines and bars can be told from any background.
 void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& chart, const ChartLook& look);
 
-class RollChartView : public QWidget {
+class ReportChartView : public QWidget {
  public:
-  RollChartView(const QString& what, QWidget* parent);
+  ReportChartView(const QString& what, QWidget* parent);
 
   // An invalid colour is the desktop's.
   void Show(RollChart chart, const QColor& background, const QColor& bars);

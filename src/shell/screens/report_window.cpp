@@ -346,7 +346,7 @@ void ReportWindow::AddBody(QVBoxLayout& column) {
   table_ = new ReportView("tblReport", windowTitle(), this);
   if (screen_.window == kRollTotalsWindow || screen_.window == kBetTrendsWindow) table_->SetSortable(true);
   if (screen_.window == kBetTrendsWindow) table_->verticalScrollBar()->setObjectName("vsbBetTrends");
-  if (screen_.chart) chart_ = new RollChartView(Said(QT_TRANSLATE_NOOP("Reports", "Graph")), this);
+  if (screen_.chart) chart_ = new ReportChartView(Said(QT_TRANSLATE_NOOP("Reports", "Graph")), this);
   if (chart_ != nullptr)
     chart_->setAccessibleDescription(
         Said(QT_TRANSLATE_NOOP("Reports", "The table below it has its figures")));

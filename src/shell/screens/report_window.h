@@ -21,7 +21,7 @@ class QVBoxLayout;
 
 namespace tessaryn {
 
-class RollChartView;
+class ReportChartView;
 struct Game;
 
 // What one of them has; a row each in report_window.cpp.
@@ -88,7 +88,7 @@ class ReportWindow : public ToolWindow {
   QLabel* names_ = nullptr;
   QLabel* explain_ = nullptr;
   QBoxLayout* upper_ = nullptr;  // figures and picture of the frequencies
-  RollChartView* chart_ = nullptr;
+  ReportChartView* chart_ = nullptr;
   ReportView* table_ = nullptr;
   QLabel* gaps_ = nullptr;
   ReportView* grid_ = nullptr;
