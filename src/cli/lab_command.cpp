@@ -183,6 +183,8 @@ int CheckScripts(const Experiment& experiment) {
   if (!problem.script.diagnostic.Failed()) return Fail(error);
   for (const LabSystem& system : experiment.systems)
     if (error.starts_with(system.name + ": ")) {
+      // Nobody has written lines of it: what is wrong is a bet that the table doesn't offer.
+      if (system.standingBets) return Fail("--bets " + system.name + ": " + problem.script.diagnostic.message);
       std::fputs(CheckReport(system.name, system.lines, problem.script).c_str(), stderr);
       return kBad;
     }

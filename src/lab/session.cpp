@@ -103,6 +103,15 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
   });
 }
 
+// How far a row of gaps was counted into: few are long. On a table that nothing was rolled on all are 0.
+std::size_t CellsCounted(const std::int32_t (&row)[kGapCells]) {
+  static constexpr std::int32_t kNone[32] = {};
+  std::size_t cells = kGapCells;
+  while (cells >= std::size(kNone) && std::memcmp(row + cells - std::size(kNone), kNone, sizeof kNone) == 0)
+    cells -= std::size(kNone);
+  return cells;
+}
+
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
   const auto resetBet = [&](int bet) {
     std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
@@ -111,7 +120,7 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   touched.bets.ForEach(resetBet);
   for (int item = 0; item < kRollItems; ++item)
     if (stats.ItemLastRoll[item] != fresh.ItemLastRoll[item])
-      std::memcpy(stats.RollGapCounts[item], fresh.RollGapCounts[item], sizeof stats.RollGapCounts[item]);
+      std::memset(stats.RollGapCounts[item], 0, CellsCounted(stats.RollGapCounts[item]) * sizeof(std::int32_t));
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
@@ -120,24 +129,23 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
 }
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
-  const auto rows = std::min<std::int64_t>(graph.PlotPoints, kPlotRows);
-  std::copy(fresh.Rows, fresh.Rows + rows, graph.Rows);
+  const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
+  std::memcpy(graph.Rows, fresh.Rows, rows * sizeof graph.Rows[0]);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
     if constexpr (!std::is_same_v<decltype(member), decltype(&BankrollGraph::Rows)>)
       ResetPart(graph.*member, fresh.*member);
   });
 }
 
-// The numbers of the twisters are drawn anew where they were drawn from.
+// Long, and seldom drawn from but where a session draws its dice from.
 void ResetStream(TwisterStream& stream, const TwisterStream& fresh) {
   if (stream.Next != fresh.Next || stream.State[0] != fresh.State[0]) stream = fresh;
 }
 
-void ResetGenerators(Generators& generators, const Generators& fresh, bool twister) {
-  if (twister) {
-    ResetStream(generators.Mersenne, fresh.Mersenne);
-    ResetStream(generators.Cokus, fresh.Cokus);
-  }
+void ResetGenerators(Generators& generators, const Generators& fresh, bool alsoDrawn) {
+  const bool cokus = fresh.GeneratorIndex == kGeneratorCokus;
+  if (alsoDrawn || cokus) ResetStream(generators.Mersenne, fresh.Mersenne);
+  if (alsoDrawn || !cokus) ResetStream(generators.Cokus, fresh.Cokus);
   ForEachMember(std::type_identity<Generators>{}, [&](const char*, auto member) {
     using Member = std::remove_reference_t<decltype(generators.*member)>;
     if constexpr (!std::is_same_v<Member, TwisterStream>) ResetPart(generators.*member, fresh.*member);
@@ -176,7 +184,10 @@ std::unique_ptr<LabTable> OpenLabTable(const Game& fresh, const std::atomic<bool
   return table;
 }
 
-void ResetLabTable(LabTable& table) {
+namespace {
+
+// alsoDrawn: the stream that a session's dice are drawn from too, which gets new numbers as one begins.
+void Reset(LabTable& table, bool alsoDrawn) {
   Game& game = *table.game;
   const Game& fresh = *table.fresh;
   const SeatState& seat = game.table.seats[kSeat];
@@ -185,7 +196,7 @@ void ResetLabTable(LabTable& table) {
   ResetStatistics(game.stats, fresh.stats, table.touched);
   ResetGraph(game.graph, fresh.graph);
   ResetState(game.table, fresh.table, table.touched);
-  ResetGenerators(game.generators, fresh.generators, true);
+  ResetGenerators(game.generators, fresh.generators, alsoDrawn);
   ResetScripts(game.autobet, fresh.autobet);
   ResetPart(game.settings, fresh.settings);
   ResetPart(game.payoffs, fresh.payoffs);
@@ -195,6 +206,10 @@ void ResetLabTable(LabTable& table) {
   table.host.endless = false;
   table.host.endlessLine = 0;
 }
+
+}  // namespace
+
+void ResetLabTable(LabTable& table) { Reset(table, true); }
 
 // --- A session.
 
@@ -329,13 +344,13 @@ Currency HandleOf(const Statistics& stats, const TouchedBets& touched) {
 
 bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t session, SessionResult& result,
                  Record* record) {
-  ResetLabTable(table);
+  Reset(table, false);
   result = {};
   Game& game = *table.game;
   Course course;
   const bool begun = BeginSession(table, experiment, session);
   if (GivenUp(table)) return false;
-  LuckBeginSession(table.luck, game);
+  LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
   course.start = game.stats.BankrollSessionStart[kSeat];
   course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
   if (!begun) result.marks |= kMarkStopped;

@@ -50,6 +50,7 @@ void FollowRules(LuckMeter& meter, const Game& game) {
     FollowDice(meter, game);
   }
   if (!StillTheDice(meter.dice, game.percentage)) FollowDice(meter, game);
+  if (meter.rulesStand) return;
   if (const LuckRules rules = RulesOf(game.settings); !(rules == meter.rules)) {
     meter.rules = rules;
     ForgetPlans(meter);
@@ -218,16 +219,20 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
 
 // Its place in plans.
 std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
-  FollowPayoffs(meter, game, seat);
+  if (!meter.rulesStand) FollowPayoffs(meter, game, seat);
   LuckLayout layout;
   const BetSet& bets = game.table.seats[seat].SeatBets;
   const bool byPoint = !bets.Meets(kHandBets);
   if (!byPoint) layout = LuckLayoutOf(game, bets);
   const LuckLayout* const key = byPoint ? nullptr : &layout;
-  std::size_t place = HashOf(game, seat, key) & (kPlans - 1);
-  if (!IsFor(meter.plans[place], game, seat, key)) place = MakePlanFor(meter, game, seat, place);
-  meter.plans[place].rides = meter.roll;
-  return place;
+  // Mostly a seat rides with what it rode with when this point was last on.
+  std::size_t& last = meter.lastRide[seat][game.table.Point];
+  if (!IsFor(meter.plans[last], game, seat, key)) {
+    last = HashOf(game, seat, key) & (kPlans - 1);
+    if (!IsFor(meter.plans[last], game, seat, key)) last = MakePlanFor(meter, game, seat, last);
+  }
+  meter.plans[last].rides = meter.roll;
+  return last;
 }
 
 // What the values have become between rolls.
@@ -241,8 +246,14 @@ void Shift(LuckMeter& meter, int seat, std::int64_t value) {
 
 std::int64_t LuckUnit(const Game& game) { return UnitOf(LuckDiceOf(game.percentage)); }
 
-void LuckBeginSession(LuckMeter& meter, const Game& game) {
+void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
+  meter.rulesStand = false;
   FollowRules(meter, game);
+  if (may == LuckRulesMay::kStand && std::memcmp(&meter.payoffs, &game.payoffs, sizeof meter.payoffs) != 0) {
+    meter.payoffs = game.payoffs;
+    ForgetPlans(meter);
+  }
+  meter.rulesStand = may == LuckRulesMay::kStand;
   meter.unit = UnitOf(meter.dice);
   for (int seat = 0; seat < kSeatRows; ++seat) {
     meter.seats[seat] = {};
