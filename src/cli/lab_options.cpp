@@ -27,6 +27,8 @@ void AddLabOutputs(CLI::App& command, LabOptions& options) {
   command.add_option("--csv", options.csv, "Write a line for each session and system to this file");
   command.add_option("--slg", options.slg,
                      "Write the sessions as a Sessions Log; of several systems each gets a file");
+  command.add_option("--rank", options.rank, "Rank the systems by mean, median, ruin (least first) or goal")
+      ->check(CLI::IsMember({"mean", "median", "ruin", "goal"}));
   command.add_flag("--json", options.json, "Print one JSON object");
 }
 
@@ -47,6 +49,7 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
   command.add_option("--hands", options.hands, "A session ends after so many seven-outs")
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
+  command.add_option("--hours", options.hours, "A session ends after so many hours by the setting SimRollRate");
   command.add_option("--win-goal", options.winGoal, "A session ends when it has won so much");
   command.add_option("--loss-limit", options.lossLimit, "A session ends when it has lost so much");
   command.add_option("--end", options.end, "now, or hand: when no contract bet is up (default now)")
@@ -244,7 +247,9 @@ int ReadProbabilities(const LabOptions& options, Experiment& experiment) {
 int ReadEnds(const CLI::App& command, const LabOptions& options, Experiment& experiment) {
   constexpr Currency kLeast = Currency::FromRaw(1);
   experiment.hands = options.hands;
-  if (command.count("--rolls") > 0 || options.hands > 0) experiment.rolls = options.rolls;
+  if (const int code = ReadMoney("--hours", options.hours, kLeast, experiment.hours)) return code;
+  if (command.count("--rolls") > 0 || options.hands > 0 || experiment.hours > kZero)
+    experiment.rolls = options.rolls;
   experiment.endWithHand = options.end == "hand";
   if (const int code = ReadMoney("--win-goal", options.winGoal, kLeast, experiment.winGoal)) return code;
   return ReadMoney("--loss-limit", options.lossLimit, kLeast, experiment.lossLimit);
@@ -307,6 +312,7 @@ const Fixed kFixed[] = {
     {{"--sessions"}, [](const Experiment& a, const Experiment& b) { return a.sessions == b.sessions; }},
     {{"--rolls"}, [](const Experiment& a, const Experiment& b) { return a.rolls == b.rolls; }},
     {{"--hands"}, [](const Experiment& a, const Experiment& b) { return a.hands == b.hands; }},
+    {{"--hours"}, [](const Experiment& a, const Experiment& b) { return a.hours == b.hours; }},
     {{"--win-goal"}, [](const Experiment& a, const Experiment& b) { return a.winGoal == b.winGoal; }},
     {{"--loss-limit"}, [](const Experiment& a, const Experiment& b) { return a.lossLimit == b.lossLimit; }},
     {{"--end"}, [](const Experiment& a, const Experiment& b) { return a.endWithHand == b.endWithHand; }},

@@ -19,6 +19,10 @@ struct LabOptions {
   std::int64_t sessions = 0;
   std::int64_t rolls = 0;
   std::int64_t hands = 0;
+  std::string hours;
+  std::string rank;
+  std::string find;
+  std::string ruin;
   std::string winGoal;
   std::string lossLimit;
   std::string end;

@@ -96,6 +96,8 @@ Json SystemJson(const LabSystem& system, const SystemSums& sums) {
                          {"quantiles", QuantilesJson(sums.drawdowns, DollarsJson)}};
   json["sessionRolls"] = {{"mean", MeanOf(sums.rolls, sums.sessions, 1)},
                           {"quantiles", QuantilesJson(sums.lengths, NumberJson)}};
+  json["losingStreak"] = {{"mean", MeanOf(sums.streak, sums.sessions, 1)},
+                          {"quantiles", QuantilesJson(sums.streaks, NumberJson)}};
   json["histogram"] = HistogramJson(sums.nets);
   if (!sums.errors.empty()) json["scriptErrors"] = ErrorsJson(sums);
   return json;
@@ -157,6 +159,7 @@ void PrintSystem(const LabSystem& system, const SystemSums& sums) {
   row("result", sums.nets, Dollars);
   row("drawdown", sums.drawdowns, Dollars);
   row("rolls", sums.lengths, Whole);
+  row("losing", sums.streaks, Whole);
   std::printf("\n");
 }
 

@@ -133,7 +133,7 @@ bool HoldsTogether(const LabState& state) {
     return false;
   if (experiment.sessions < 1 || experiment.sessions > kMostLabSessions || experiment.shards < 1 ||
       experiment.shards > kMostShards || experiment.shard < 1 || experiment.shard > experiment.shards ||
-      experiment.rolls < 0 || experiment.hands < 0 || experiment.generator < 0 || experiment.generator > 8)
+      experiment.rolls < 0 || experiment.hands < 0 || experiment.hours < kZero || experiment.generator < 0 || experiment.generator > 8)
     return false;
   for (const LabSystem& system : experiment.systems)
     for (const StackStart& start : system.stacks)
@@ -149,7 +149,7 @@ std::string Damaged(const std::string& path) { return path + ": the file is dama
 
 void SettleState(LabState& state) {
   for (SystemSums& sums : state.systems) {
-    for (ValueCounts* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.ruins})
+    for (ValueCounts* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.streaks, &sums.ruins})
       SettleCounts(*counts);
     for (ValueCounts& counts : sums.fan) SettleCounts(counts);
   }

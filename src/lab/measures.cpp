@@ -93,13 +93,15 @@ void AddSession(SystemSums& sums, const SessionResult& result) {
   CountValue(sums.nets, result.net.raw);
   CountValue(sums.drawdowns, result.maxDrawdown.raw);
   CountValue(sums.lengths, result.rolls);
+  sums.streak += result.losingStreak;
+  CountValue(sums.streaks, result.losingStreak);
 }
 
 void AddSums(SystemSums& sums, const SystemSums& later) {
   for (std::int64_t SystemSums::*count :
        {&SystemSums::sessions, &SystemSums::rolls, &SystemSums::won, &SystemSums::brokeEven,
         &SystemSums::lost, &SystemSums::ruined, &SystemSums::goal, &SystemSums::limit, &SystemSums::stopped,
-        &SystemSums::unrolled})
+        &SystemSums::unrolled, &SystemSums::streak})
     sums.*count += later.*count;
   AddExact(sums.net, later.net);
   if (sums.luckUnit == 0) sums.luckUnit = later.luckUnit;
@@ -107,7 +109,8 @@ void AddSums(SystemSums& sums, const SystemSums& later) {
   sums.handle += later.handle;
   sums.drawdown += later.drawdown;
   for (ValueCounts SystemSums::*counts :
-       {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths, &SystemSums::ruins})
+       {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths, &SystemSums::streaks,
+        &SystemSums::ruins})
     AddCounts(sums.*counts, later.*counts);
   for (int mark = 0; mark < kFanMarks; ++mark) AddCounts(sums.fan[mark], later.fan[mark]);
   AddScriptErrors(sums.errors, later.errors);

@@ -63,6 +63,8 @@ struct SystemSums {
   ValueCounts nets;
   ValueCounts drawdowns;
   ValueCounts lengths;                  // rolls
+  std::int64_t streak = 0;              // of the longest losing streaks
+  ValueCounts streaks;                  // the longest of each session, in rolls
   ValueCounts ruins;                    // the rolls that the ruined lasted
   ValueCounts fan[kFanMarks];           // nets on the way
   std::vector<ScriptErrorKind> errors;  // of the script, as they first came up
@@ -70,7 +72,7 @@ struct SystemSums {
   std::string stopReason;               // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
-                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors,
+                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, streak, streaks, ruins, fan, errors,
                 acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.

@@ -105,10 +105,13 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
 
 // How far a row of gaps was counted into: few are long. On a table that nothing was rolled on all are 0.
 std::size_t CellsCounted(const std::int32_t (&row)[kGapCells]) {
-  static constexpr std::int32_t kNone[32] = {};
+  constexpr std::size_t kStep = 40;
   std::size_t cells = kGapCells;
-  while (cells >= std::size(kNone) && std::memcmp(row + cells - std::size(kNone), kNone, sizeof kNone) == 0)
-    cells -= std::size(kNone);
+  for (; cells > kStep; cells -= kStep) {
+    std::int32_t any = 0;
+    for (std::size_t cell = cells - kStep; cell < cells; ++cell) any |= row[cell];
+    if (any != 0) break;
+  }
   return cells;
 }
 
@@ -130,7 +133,10 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
   const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
-  std::memcpy(graph.Rows, fresh.Rows, rows * sizeof graph.Rows[0]);
+  if (fresh.PlotPoints == 0)
+    std::fill_n(graph.Rows, rows, PlotRow());
+  else
+    std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
     if constexpr (!std::is_same_v<decltype(member), decltype(&BankrollGraph::Rows)>)
       ResetPart(graph.*member, fresh.*member);
@@ -220,8 +226,32 @@ struct Course {
   Currency start;  // what net counts from
   Currency highest;
   Currency net;
-  std::int64_t marks = 0;  // of the fan
+  std::int64_t streak = 0;    // losing rolls by now
+  std::int64_t rolls = 0;     // the most; 0 any
+  std::int64_t marks = 0;     // of the fan
+  std::int64_t nextMark = 0;  // the roll that the next is set at
 };
+
+// The first roll behind a part of the experiment's.
+std::int64_t RollOfMark(const Experiment& experiment, std::int64_t mark) {
+  return (experiment.rolls * (mark + 1) + kFanMarks - 1) / kFanMarks;
+}
+
+// Until the roll that fills the hours by the roll rate, if not to an end before.
+std::int64_t MostRolls(const Experiment& experiment, const Game& game) {
+  if (experiment.hours <= kZero) return experiment.rolls;
+  constexpr auto kParts = static_cast<WideInt>(Currency::kPerDollar) * Currency::kPerDollar;
+  const WideInt parts = WideInt{experiment.hours.raw} * game.settings.SimRollRate.raw;
+  const auto rolls = static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls));
+  return experiment.rolls > 0 ? std::min(rolls, experiment.rolls) : rolls;
+}
+
+// Behind a roll, or what was played out.
+void FollowStreak(Course& course, Currency net, SessionResult& result) {
+  if (net > course.net) course.streak = 0;
+  if (net < course.net && ++course.streak > result.losingStreak) result.losingStreak = course.streak;
+  course.net = net;
+}
 
 Currency NetOf(const Game& game, const Course& course) {
   return game.table.BankrollCurrent[kSeat] - course.start - game.stats.AtmTotal[Slot(kCurrentSession, kSeat)];
@@ -250,15 +280,17 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
   LuckAfterRoll(table.luck, game);
   ++result.rolls;
   if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
-  const Currency net = course.net = NetOf(game, course);
+  const Currency net = NetOf(game, course);
+  FollowStreak(course, net, result);
   if (net > course.highest) course.highest = net;
   if (course.highest - net > result.maxDrawdown) result.maxDrawdown = course.highest - net;
   if (IsRuined(game)) result.marks |= kMarkRuined;
   if (experiment.winGoal > kZero && net >= experiment.winGoal) result.marks |= kMarkGoal;
   if (experiment.lossLimit > kZero && net <= -experiment.lossLimit) result.marks |= kMarkLimit;
-  while (course.marks < kFanMarks && result.rolls * kFanMarks >= experiment.rolls * (course.marks + 1))
+  for (; course.marks < kFanMarks && result.rolls >= course.nextMark;
+       course.nextMark = RollOfMark(experiment, course.marks))
     table.fan[course.marks++] = net;
-  return result.marks != 0 || (experiment.rolls > 0 && result.rolls >= experiment.rolls) ||
+  return result.marks != 0 || (course.rolls > 0 && result.rolls >= course.rolls) ||
          (experiment.hands > 0 && result.hands >= experiment.hands);
 }
 
@@ -353,6 +385,8 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
   course.start = game.stats.BankrollSessionStart[kSeat];
   course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
+  course.nextMark = RollOfMark(experiment, 0);
+  course.rolls = MostRolls(experiment, game);
   if (!begun) result.marks |= kMarkStopped;
   if (begun && !PlayRolls(table, experiment, course, result)) return false;
   if (experiment.endWithHand) PlayOut(table, experiment, course, result);

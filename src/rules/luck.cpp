@@ -167,16 +167,16 @@ std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
 }
 
 // Whether the plan was made for what the seat rides with. layout: none where only the point counts.
-bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const LuckRide& ride = plan.ride;
   if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
       !(ride.working == WorkingBets(state)) || (layout != nullptr && !(ride.layout == *layout)))
     return false;
-  bool same = true;
+  std::int64_t other = 0;
   std::size_t at = 0;
-  ForEachFigure(game, seat, [&](std::int64_t figure) { same = same && ride.figure[at++] == figure; });
-  return same;
+  ForEachFigure(game, seat, [&](std::int64_t figure) { other |= ride.figure[at++] ^ figure; });
+  return other == 0;
 }
 
 LuckRide RideOf(const Game& game, int seat) {
@@ -293,10 +293,13 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
     const int seat = std::countr_zero(seats);
     const LuckPlan& plan = meter.plans[meter.riding[seat]];
     SeatLuck& luck = meter.seats[seat];
-    const std::int64_t planUnit = plan.whole * kValueUnit;
-    const bool scales = meter.unit != planUnit;
-    luck.luck += scales ? plan.luck[outcome] * (meter.unit / planUnit) : plan.luck[outcome];
-    luck.expected += scales ? plan.expected * (meter.unit / planUnit) : plan.expected;
+    if (const std::int64_t planUnit = plan.whole * kValueUnit; meter.unit == planUnit) [[likely]] {
+      luck.luck += plan.luck[outcome];
+      luck.expected += plan.expected;
+    } else {
+      luck.luck += plan.luck[outcome] * (meter.unit / planUnit);
+      luck.expected += plan.expected * (meter.unit / planUnit);
+    }
     luck.variance += plan.variance;
     luck.value = plan.after[outcome];
     ++luck.rolls;
