@@ -65,6 +65,10 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
   command.add_option("--shard", options.shard, "K/N: play the K-th of N parts, to be merged");
   command.add_option("--precision", options.precision,
                      "Stop as soon as each mean result is known to this, 95% sure");
+  command.add_option("--find", options.find,
+                     "bankroll, or stack:N: the least bankroll, or the largest start of CheckStack N, in whole "
+                     "dollars, that keeps the ruined within --ruin");
+  command.add_option("--ruin", options.ruin, "The share of sessions that may be ruined, 0.05 say");
   command.add_option("--out", options.out, "Keep the experiment in this file, to be resumed or merged");
   command.add_option("--resume", options.resume, "Go on with the experiment of this file");
   AddLabOutputs(command, options);
@@ -291,6 +295,23 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
   experiment.seed = options.seed;
   experiment.generator = options.rng;
   return ReadProbabilities(options, experiment);
+}
+
+int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion& question) {
+  for (const char* other : {"--resume", "--out", "--shard", "--precision", "--csv", "--slg", "--report", "--rank"})
+    if (command.count(other) > 0) return Wrong(std::string("--find and ") + other + " can't be used together");
+  if (options.find != "bankroll") {
+    const bool ofStack = options.find.starts_with("stack:") && options.find.size() > 6;
+    const int bet = ofStack ? BetByName("cs" + options.find.substr(6)) : 0;
+    if (!IsCheckStack(bet))
+      return Wrong("--find " + options.find + ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");
+    question.stack = bet - kFirstCheckStack;
+  }
+  int read = 0;
+  const bool number = std::sscanf(options.ruin.c_str(), "%lf%n", &question.ruin, &read) == 1 &&
+                      static_cast<std::size_t>(read) == options.ruin.size();
+  if (number && question.ruin > 0 && question.ruin < 1) return kDone;
+  return Wrong("--ruin " + options.ruin + ": expected a share above 0 and below 1");
 }
 
 namespace {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lab/lab_state.h"
+#include "lab/search.h"
 
 namespace tessaryn::cli {
 
@@ -49,6 +50,8 @@ void AddLabOutputs(CLI::App& command, LabOptions& options);
 // The experiment of the options. Returns the exit code, with the reason told: kUsage for the wrong text of an
 // option, kBad for what it leads to.
 int ReadExperiment(const CLI::App& command, const LabOptions& options, Experiment& experiment);
+// Of --find and --ruin; likewise.
+int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion& question);
 // What is given beside --resume must be what the experiment has.
 int CheckAgainstResumed(const CLI::App& command, const LabOptions& options, const Experiment& resumed);
 

@@ -25,10 +25,11 @@ TESSARYN_FIELDS(CountedValue, amount, count)
 
 // How often each value occurred. What comes in waits a little, since putting it in its place costs a walk.
 struct ValueCounts {
-  std::vector<CountedValue> rows;  // ascending, each value once
-  std::vector<std::int64_t> waiting;
+  std::vector<CountedValue> rows;     // ascending, each value once
+  std::vector<CountedValue> waiting;  // each at a place by its hash, or the next free one; a count of 0 is free
+  std::int64_t places = 0;            // taken in waiting
 };
-TESSARYN_FIELDS(ValueCounts, rows, waiting)
+TESSARYN_FIELDS(ValueCounts, rows, waiting, places)
 void CountValue(ValueCounts& counts, std::int64_t amount);
 // Nothing waits any more.
 void SettleCounts(ValueCounts& counts);

@@ -22,7 +22,7 @@ LuckRules RulesOf(const Settings& settings) {
 }
 
 void ForgetPlans(LuckMeter& meter) {
-  for (LuckPlan& plan : meter.plans) plan.made = false;
+  for (LuckPlan& plan : meter.plans) plan.made = plan.byPoint = false;
 }
 
 std::int64_t UnitOf(const LuckDice& dice) { return dice.whole * kValueUnit; }
@@ -44,7 +44,7 @@ void FollowDice(LuckMeter& meter, const Game& game) {
 }
 
 void FollowRules(LuckMeter& meter, const Game& game) {
-  if (meter.plans.empty()) {
+  if (meter.plans.empty()) [[unlikely]] {
     meter.plans.resize(kPlans + kSeatRows);
     meter.payoffs = game.payoffs;
     FollowDice(meter, game);
@@ -213,8 +213,24 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
   LuckPlan& plan = meter.plans[place];
   plan.ride = ride;
   plan.made = ride.Fits();
+  plan.byPoint = plan.made && !ride.bets.Meets(kHandBets | kVigBets);
   MakeLuckPlan(plan, game, seat, ride.layout, meter.dice, meter.chances);
   return place;
+}
+
+// Whether the plan of the last roll with this point is right, where rules stand: the common case, at a glance.
+bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
+  const SeatState& state = table.seats[seat];
+  const LuckRide& ride = plan.ride;
+  if (!plan.byPoint || ride.layout.point != table.Point || !(ride.bets == state.SeatBets) ||
+      !(ride.working == WorkingBets(state)))
+    return false;
+  std::size_t at = 0;
+  for (std::size_t word = 0; word < 2; ++word)
+    for (std::uint64_t rest = ride.bets.words[word]; rest != 0; rest &= rest - 1)
+      if (table.BetAmount(seat, static_cast<int>(word) * 64 + std::countr_zero(rest)).raw != ride.figure[at++])
+        return false;
+  return true;
 }
 
 // Its place in plans.
@@ -276,7 +292,13 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
     const int seat = table.Seated[i];
     const bool any = !table.seats[seat].SeatBets.Empty();
     if (any) {
-      meter.riding[seat] = PlanFor(meter, game, seat);
+      const std::size_t last = meter.lastRide[seat][table.Point];
+      if (meter.rulesStand && StillRides(meter.plans[last], table, seat)) {
+        meter.plans[last].rides = meter.roll;
+        meter.riding[seat] = last;
+      } else {
+        meter.riding[seat] = PlanFor(meter, game, seat);
+      }
       meter.ridingSeats |= 1u << seat;
     }
     const std::int64_t value = any ? meter.plans[meter.riding[seat]].before : 0;
