@@ -82,10 +82,14 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
 
 void Print(LabState& state, const LabOptions& options) {
   TellOddities(state);
-  if (options.json)
-    std::printf("%s\n", LabJson(state).dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
-  else
+  if (!options.json) {
     PrintLab(state);
+    if (!options.rank.empty()) PrintRanking(state, options.rank);
+    return;
+  }
+  Json json = LabJson(state);
+  if (!options.rank.empty()) json["ranking"] = RankingJson(state, RankByName(options.rank));
+  std::printf("%s\n", json.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
 }
 
 // --- Playing.
@@ -138,11 +142,15 @@ std::int64_t RollsOf(const LabState& state) {
   return rolls;
 }
 
+int ThreadsOf(const LabOptions& options) {
+  if (options.threads > 0) return options.threads;
+  return static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+}
+
 int Play(LabState& state, const LabOptions& options) {
   SessionRows rows;
   LabRun run;
-  run.threads = options.threads > 0 ? options.threads
-                                    : static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
+  run.threads = ThreadsOf(options);
   run.applicationFolder = ApplicationFolder();
   run.checkpoint = options.out.empty() ? options.resume : options.out;
   if (state.rows.Any()) {
@@ -183,6 +191,8 @@ int CheckScripts(const Experiment& experiment) {
   if (!problem.script.diagnostic.Failed()) return Fail(error);
   for (const LabSystem& system : experiment.systems)
     if (error.starts_with(system.name + ": ")) {
+      // Nobody has written lines of it: what is wrong is a bet that the table doesn't offer.
+      if (system.standingBets) return Fail("--bets " + system.name + ": " + problem.script.diagnostic.message);
       std::fputs(CheckReport(system.name, system.lines, problem.script).c_str(), stderr);
       return kBad;
     }
@@ -203,7 +213,29 @@ int Resume(const CLI::App& command, const LabOptions& options) {
   return Play(state, options);
 }
 
+int Find(const CLI::App& command, const LabOptions& options) {
+  Experiment experiment;
+  LabQuestion question;
+  if (const int code = ReadQuestion(command, options, question)) return code;
+  if (const int code = ReadExperiment(command, options, experiment)) return code;
+  if (const int code = CheckScripts(experiment)) return code;
+  const LabSearch search{ThreadsOf(options), ApplicationFolder(), [] { return !Interrupted(); }};
+  std::vector<LabAnswer> answers(experiment.systems.size());
+  for (std::size_t i = 0; i < answers.size(); ++i)
+    if (const std::string error = FindForRuin(experiment, i, question, search, answers[i]); !error.empty())
+      return Fail("--find: " + error);
+  if (options.json)
+    std::printf("%s\n", AnswersJson(experiment, question, answers)
+                            .dump(-1, ' ', false, Json::error_handler_t::replace)
+                            .c_str());
+  else
+    PrintAnswers(experiment, question, answers);
+  return kDone;
+}
+
 int Lab(const CLI::App& command, const LabOptions& options) {
+  if (!options.find.empty()) return Find(command, options);
+  if (!options.ruin.empty()) return Fail("--ruin: it needs --find"), kUsage;
   if (!options.resume.empty()) return Resume(command, options);
   Experiment experiment;
   if (const int code = ReadExperiment(command, options, experiment)) return code;

@@ -27,6 +27,8 @@ void AddLabOutputs(CLI::App& command, LabOptions& options) {
   command.add_option("--csv", options.csv, "Write a line for each session and system to this file");
   command.add_option("--slg", options.slg,
                      "Write the sessions as a Sessions Log; of several systems each gets a file");
+  command.add_option("--rank", options.rank, "Rank the systems by mean, median, ruin (least first) or goal")
+      ->check(CLI::IsMember({"mean", "median", "ruin", "goal"}));
   command.add_flag("--json", options.json, "Print one JSON object");
 }
 
@@ -47,6 +49,7 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
   command.add_option("--hands", options.hands, "A session ends after so many seven-outs")
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
+  command.add_option("--hours", options.hours, "A session ends after so many hours by the setting SimRollRate");
   command.add_option("--win-goal", options.winGoal, "A session ends when it has won so much");
   command.add_option("--loss-limit", options.lossLimit, "A session ends when it has lost so much");
   command.add_option("--end", options.end, "now, or hand: when no contract bet is up (default now)")
@@ -62,6 +65,10 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
   command.add_option("--shard", options.shard, "K/N: play the K-th of N parts, to be merged");
   command.add_option("--precision", options.precision,
                      "Stop as soon as each mean result is known to this, 95% sure");
+  command.add_option("--find", options.find,
+                     "bankroll, or stack:N: the least bankroll, or the largest start of CheckStack N, in whole "
+                     "dollars, that keeps the ruined within --ruin");
+  command.add_option("--ruin", options.ruin, "The share of sessions that may be ruined, 0.05 say");
   command.add_option("--out", options.out, "Keep the experiment in this file, to be resumed or merged");
   command.add_option("--resume", options.resume, "Go on with the experiment of this file");
   AddLabOutputs(command, options);
@@ -244,7 +251,9 @@ int ReadProbabilities(const LabOptions& options, Experiment& experiment) {
 int ReadEnds(const CLI::App& command, const LabOptions& options, Experiment& experiment) {
   constexpr Currency kLeast = Currency::FromRaw(1);
   experiment.hands = options.hands;
-  if (command.count("--rolls") > 0 || options.hands > 0) experiment.rolls = options.rolls;
+  if (const int code = ReadMoney("--hours", options.hours, kLeast, experiment.hours)) return code;
+  if (command.count("--rolls") > 0 || options.hands > 0 || experiment.hours > kZero)
+    experiment.rolls = options.rolls;
   experiment.endWithHand = options.end == "hand";
   if (const int code = ReadMoney("--win-goal", options.winGoal, kLeast, experiment.winGoal)) return code;
   return ReadMoney("--loss-limit", options.lossLimit, kLeast, experiment.lossLimit);
@@ -288,6 +297,23 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
   return ReadProbabilities(options, experiment);
 }
 
+int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion& question) {
+  for (const char* other : {"--resume", "--out", "--shard", "--precision", "--csv", "--slg", "--report", "--rank"})
+    if (command.count(other) > 0) return Wrong(std::string("--find and ") + other + " can't be used together");
+  if (options.find != "bankroll") {
+    const bool ofStack = options.find.starts_with("stack:") && options.find.size() > 6;
+    const int bet = ofStack ? BetByName("cs" + options.find.substr(6)) : 0;
+    if (!IsCheckStack(bet))
+      return Wrong("--find " + options.find + ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");
+    question.stack = bet - kFirstCheckStack;
+  }
+  int read = 0;
+  const bool number = std::sscanf(options.ruin.c_str(), "%lf%n", &question.ruin, &read) == 1 &&
+                      static_cast<std::size_t>(read) == options.ruin.size();
+  if (number && question.ruin > 0 && question.ruin < 1) return kDone;
+  return Wrong("--ruin " + options.ruin + ": expected a share above 0 and below 1");
+}
+
 namespace {
 
 template <typename T>
@@ -307,6 +333,7 @@ const Fixed kFixed[] = {
     {{"--sessions"}, [](const Experiment& a, const Experiment& b) { return a.sessions == b.sessions; }},
     {{"--rolls"}, [](const Experiment& a, const Experiment& b) { return a.rolls == b.rolls; }},
     {{"--hands"}, [](const Experiment& a, const Experiment& b) { return a.hands == b.hands; }},
+    {{"--hours"}, [](const Experiment& a, const Experiment& b) { return a.hours == b.hours; }},
     {{"--win-goal"}, [](const Experiment& a, const Experiment& b) { return a.winGoal == b.winGoal; }},
     {{"--loss-limit"}, [](const Experiment& a, const Experiment& b) { return a.lossLimit == b.lossLimit; }},
     {{"--end"}, [](const Experiment& a, const Experiment& b) { return a.endWithHand == b.endWithHand; }},

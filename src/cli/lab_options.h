@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "lab/lab_state.h"
+#include "lab/search.h"
 
 namespace tessaryn::cli {
 
@@ -19,6 +20,10 @@ struct LabOptions {
   std::int64_t sessions = 0;
   std::int64_t rolls = 0;
   std::int64_t hands = 0;
+  std::string hours;
+  std::string rank;
+  std::string find;
+  std::string ruin;
   std::string winGoal;
   std::string lossLimit;
   std::string end;
@@ -45,6 +50,8 @@ void AddLabOutputs(CLI::App& command, LabOptions& options);
 // The experiment of the options. Returns the exit code, with the reason told: kUsage for the wrong text of an
 // option, kBad for what it leads to.
 int ReadExperiment(const CLI::App& command, const LabOptions& options, Experiment& experiment);
+// Of --find and --ruin; likewise.
+int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion& question);
 // What is given beside --resume must be what the experiment has.
 int CheckAgainstResumed(const CLI::App& command, const LabOptions& options, const Experiment& resumed);
 

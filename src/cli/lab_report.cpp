@@ -96,6 +96,8 @@ Json SystemJson(const LabSystem& system, const SystemSums& sums) {
                          {"quantiles", QuantilesJson(sums.drawdowns, DollarsJson)}};
   json["sessionRolls"] = {{"mean", MeanOf(sums.rolls, sums.sessions, 1)},
                           {"quantiles", QuantilesJson(sums.lengths, NumberJson)}};
+  json["losingStreak"] = {{"mean", MeanOf(sums.streak, sums.sessions, 1)},
+                          {"quantiles", QuantilesJson(sums.streaks, NumberJson)}};
   json["histogram"] = HistogramJson(sums.nets);
   if (!sums.errors.empty()) json["scriptErrors"] = ErrorsJson(sums);
   return json;
@@ -157,6 +159,7 @@ void PrintSystem(const LabSystem& system, const SystemSums& sums) {
   row("result", sums.nets, Dollars);
   row("drawdown", sums.drawdowns, Dollars);
   row("rolls", sums.lengths, Whole);
+  row("losing", sums.streaks, Whole);
   std::printf("\n");
 }
 
@@ -184,6 +187,68 @@ void PrintLab(LabState& state) {
   PrintComparisons(state);
   if (state.experiment.precision > kZero && state.finished)
     std::printf("\nLooking at the bounds again and again makes them a little too narrow.\n");
+}
+
+RankBy RankByName(const std::string& name) {
+  return name == "median" ? RankBy::kMedian
+         : name == "ruin" ? RankBy::kRuin
+         : name == "goal" ? RankBy::kGoal
+                          : RankBy::kMean;
+}
+
+Json RankingJson(const LabState& state, RankBy by) {
+  Json ranking = Json::array();
+  for (const Ranked& place : RankSystems(state, by))
+    ranking.push_back({{"system", LabelOf(state.experiment.systems[place.system])}, {"value", place.value}});
+  return ranking;
+}
+
+void PrintRanking(const LabState& state, const std::string& byName) {
+  const RankBy by = RankByName(byName);
+  const bool share = by == RankBy::kRuin || by == RankBy::kGoal;
+  std::printf("\nBy %s\n", byName.c_str());
+  int place = 0;
+  for (const Ranked& ranked : RankSystems(state, by))
+    std::printf("  %4d. %s: %.4f%s\n", ++place, Shown(LabelOf(state.experiment.systems[ranked.system])).c_str(),
+                share ? 100 * ranked.value : ranked.value, share ? "%" : "");
+}
+
+Json AnswersJson(const Experiment& experiment, const LabQuestion& question,
+                 const std::vector<LabAnswer>& answers) {
+  Json json = {{"sessions", experiment.sessions}, {"seed", experiment.seed}};
+  json["find"] = question.stack < 0 ? "bankroll" : "stack:" + std::to_string(question.stack);
+  json["ruin"] = question.ruin;
+  Json& systems = json["systems"] = Json::array();
+  for (std::size_t i = 0; i < answers.size(); ++i) {
+    const LabAnswer& answer = answers[i];
+    const LabSystem& system = experiment.systems[i];
+    systems.push_back({{"name", system.name}, {"parameters", ParametersJson(system)}, {"found", answer.found}});
+    if (!answer.found) continue;
+    Json& row = systems.back();
+    row["value"] = MoneyJson(answer.value);
+    row["ci95"] = {MoneyJson(answer.low), MoneyJson(answer.high)};
+    row["ruined"] = {{"p", answer.ruined.p}, {"ci95", BoundsJson(answer.ruined.ci95)}};
+  }
+  return json;
+}
+
+void PrintAnswers(const Experiment& experiment, const LabQuestion& question,
+                  const std::vector<LabAnswer>& answers) {
+  const std::string what = question.stack < 0 ? "the least bankroll"
+                                              : "the largest start of CheckStack " + std::to_string(question.stack);
+  std::printf("%s sessions, seed %llu: %s with at most %g ruined\n", Whole(experiment.sessions).c_str(),
+              static_cast<unsigned long long>(experiment.seed), what.c_str(), question.ruin);
+  for (std::size_t i = 0; i < answers.size(); ++i) {
+    const LabAnswer& answer = answers[i];
+    std::printf("\n%s\n  ", Shown(LabelOf(experiment.systems[i])).c_str());
+    if (!answer.found)
+      std::printf("none keeps to it\n");
+    else
+      std::printf("%s%s, 95%% within %s to %s; ruined %.4f, 95%% within %.4f to %.4f\n",
+                  FormatMoney(answer.value).c_str(), answer.any ? " or more" : "",
+                  FormatMoney(answer.low).c_str(), FormatMoney(answer.high).c_str(), answer.ruined.p,
+                  answer.ruined.ci95.low, answer.ruined.ci95.high);
+  }
 }
 
 void TellOddities(const LabState& state) {

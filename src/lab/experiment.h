@@ -49,6 +49,7 @@ struct Experiment {
   // The ends; 0 for none. Every one that is given counts.
   std::int64_t rolls = 500;
   std::int64_t hands = 0;  // seven-outs
+  Currency hours;          // of play, by the roll rate
   Currency winGoal;
   Currency lossLimit;
   bool endWithHand = false;  // ends fall when no contract bet is up
@@ -62,7 +63,7 @@ struct Experiment {
   int shard = 1;
   int shards = 1;
 };
-TESSARYN_FIELDS(Experiment, seed, sessions, bankroll, rolls, hands, winGoal, lossLimit, endWithHand,
+TESSARYN_FIELDS(Experiment, seed, sessions, bankroll, rolls, hands, hours, winGoal, lossLimit, endWithHand,
                 precision, generator, settings, percentageDice, probabilities, systems, shard, shards)
 
 // The sessions of a shard: first < k <= last.

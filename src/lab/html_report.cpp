@@ -302,6 +302,7 @@ std::string Ends(const Experiment& experiment) {
   std::string ends;
   const auto add = [&](const std::string& end) { ends += (ends.empty() ? "" : ", ") + end; };
   if (experiment.rolls > 0) add(Whole(experiment.rolls) + " rolls");
+  if (experiment.hours > kZero) add(PlainMoney(experiment.hours) + " hours of play");
   if (experiment.hands > 0) add(Whole(experiment.hands) + " seven-outs");
   if (experiment.winGoal > kZero) add("a win of " + FormatMoney(experiment.winGoal));
   if (experiment.lossLimit > kZero) add("a loss of " + FormatMoney(experiment.lossLimit));

@@ -124,6 +124,12 @@ std::string BytesOf(const T& value) {
 
 std::size_t PairsOf(std::size_t systems) { return systems * (systems - (systems > 0 ? 1 : 0)) / 2; }
 
+template <typename Sums, typename Visit>
+void ForEachCounts(Sums& sums, Visit&& visit) {
+  for (auto* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.streaks, &sums.ruins}) visit(*counts);
+  for (auto& counts : sums.fan) visit(counts);
+}
+
 // Whether a file whose hash is right holds together, as one that a stranger wrote may not.
 bool HoldsTogether(const LabState& state) {
   const Experiment& experiment = state.experiment;
@@ -133,11 +139,17 @@ bool HoldsTogether(const LabState& state) {
     return false;
   if (experiment.sessions < 1 || experiment.sessions > kMostLabSessions || experiment.shards < 1 ||
       experiment.shards > kMostShards || experiment.shard < 1 || experiment.shard > experiment.shards ||
-      experiment.rolls < 0 || experiment.hands < 0 || experiment.generator < 0 || experiment.generator > 8)
+      experiment.rolls < 0 || experiment.hands < 0 || experiment.hours < kZero || experiment.generator < 0 || experiment.generator > 8)
     return false;
   for (const LabSystem& system : experiment.systems)
     for (const StackStart& start : system.stacks)
       if (start.stack < 0 || start.stack >= kCheckStacks || Abs(start.amount) > kStackLimit) return false;
+  bool settled = true;
+  for (const SystemSums& sums : state.systems)
+    ForEachCounts(sums, [&](const ValueCounts& counts) {
+      settled = settled && counts.waiting.empty() && counts.places == 0;
+    });
+  if (!settled) return false;
   const SessionRange range = SessionsOf(experiment);
   const bool whole = state.next == range.last || experiment.precision > kZero;
   return state.next >= range.first && state.next <= range.last && (!state.finished || whole);
@@ -148,11 +160,7 @@ std::string Damaged(const std::string& path) { return path + ": the file is dama
 }  // namespace
 
 void SettleState(LabState& state) {
-  for (SystemSums& sums : state.systems) {
-    for (ValueCounts* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.ruins})
-      SettleCounts(*counts);
-    for (ValueCounts& counts : sums.fan) SettleCounts(counts);
-  }
+  for (SystemSums& sums : state.systems) ForEachCounts(sums, SettleCounts);
 }
 
 LabState BeginLab(const Experiment& experiment, bool keepLines, bool keepRecords) {

@@ -59,7 +59,9 @@ struct Lab {
 // A part of a thousand, so that the bounds are looked at between blocks; some tenths of a second at most.
 std::int64_t SizeBlocks(const Experiment& experiment) {
   const std::int64_t hands = experiment.hands > 0 ? experiment.hands * 9 : kMaxRolls;
-  const std::int64_t rolls = std::min(experiment.rolls > 0 ? experiment.rolls : kMaxRolls, hands);
+  const std::int64_t hours =
+      experiment.hours > kZero ? experiment.hours.raw / (Currency::kPerDollar / 120) : kMaxRolls;  // about
+  const std::int64_t rolls = std::min({experiment.rolls > 0 ? experiment.rolls : kMaxRolls, hands, hours});
   const std::int64_t cost = std::max<std::int64_t>(rolls, 50) * std::ssize(experiment.systems);
   for (const std::int64_t size : {200, 100, 50, 20, 10, 5, 2})
     if (size * cost <= kRollsOfABlock) return size;

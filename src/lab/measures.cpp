@@ -7,7 +7,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr std::size_t kMostWaiting = 8'192;
+constexpr std::size_t kWaitingPlaces = 1'024;  // a power of two
 constexpr double kZ = 1.96;
 
 std::vector<CountedValue> Merged(const std::vector<CountedValue>& a, const std::vector<CountedValue>& b) {
@@ -27,20 +27,25 @@ std::vector<CountedValue> Merged(const std::vector<CountedValue>& a, const std::
 }  // namespace
 
 void CountValue(ValueCounts& counts, std::int64_t amount) {
-  counts.waiting.push_back(amount);
-  if (counts.waiting.size() >= kMostWaiting) SettleCounts(counts);
+  if (counts.waiting.empty()) counts.waiting.resize(kWaitingPlaces);
+  std::size_t place = (static_cast<std::uint64_t>(amount) * 0x9E3779B97F4A7C15u) >> 54;
+  while (counts.waiting[place].count != 0 && counts.waiting[place].amount != amount)
+    place = (place + 1) % kWaitingPlaces;
+  CountedValue& at = counts.waiting[place];
+  at.amount = amount;
+  if (++at.count == 1 && ++counts.places > static_cast<std::int64_t>(kWaitingPlaces / 2)) SettleCounts(counts);
 }
 
 void SettleCounts(ValueCounts& counts) {
   if (counts.waiting.empty()) return;
-  std::sort(counts.waiting.begin(), counts.waiting.end());
   std::vector<CountedValue> rows;
-  for (const std::int64_t amount : counts.waiting) {
-    if (rows.empty() || rows.back().amount != amount) rows.push_back({amount, 0});
-    ++rows.back().count;
-  }
+  for (const CountedValue& value : counts.waiting)
+    if (value.count != 0) rows.push_back(value);
+  std::sort(rows.begin(), rows.end(),
+            [](const CountedValue& a, const CountedValue& b) { return a.amount < b.amount; });
   counts.rows = counts.rows.empty() ? std::move(rows) : Merged(counts.rows, rows);
   counts.waiting.clear();
+  counts.places = 0;
 }
 
 void AddCounts(ValueCounts& counts, const ValueCounts& other) {
@@ -93,13 +98,15 @@ void AddSession(SystemSums& sums, const SessionResult& result) {
   CountValue(sums.nets, result.net.raw);
   CountValue(sums.drawdowns, result.maxDrawdown.raw);
   CountValue(sums.lengths, result.rolls);
+  sums.streak += result.losingStreak;
+  CountValue(sums.streaks, result.losingStreak);
 }
 
 void AddSums(SystemSums& sums, const SystemSums& later) {
   for (std::int64_t SystemSums::*count :
        {&SystemSums::sessions, &SystemSums::rolls, &SystemSums::won, &SystemSums::brokeEven,
         &SystemSums::lost, &SystemSums::ruined, &SystemSums::goal, &SystemSums::limit, &SystemSums::stopped,
-        &SystemSums::unrolled})
+        &SystemSums::unrolled, &SystemSums::streak})
     sums.*count += later.*count;
   AddExact(sums.net, later.net);
   if (sums.luckUnit == 0) sums.luckUnit = later.luckUnit;
@@ -107,7 +114,8 @@ void AddSums(SystemSums& sums, const SystemSums& later) {
   sums.handle += later.handle;
   sums.drawdown += later.drawdown;
   for (ValueCounts SystemSums::*counts :
-       {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths, &SystemSums::ruins})
+       {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths, &SystemSums::streaks,
+        &SystemSums::ruins})
     AddCounts(sums.*counts, later.*counts);
   for (int mark = 0; mark < kFanMarks; ++mark) AddCounts(sums.fan[mark], later.fan[mark]);
   AddScriptErrors(sums.errors, later.errors);

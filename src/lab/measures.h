@@ -25,10 +25,11 @@ TESSARYN_FIELDS(CountedValue, amount, count)
 
 // How often each value occurred. What comes in waits a little, since putting it in its place costs a walk.
 struct ValueCounts {
-  std::vector<CountedValue> rows;  // ascending, each value once
-  std::vector<std::int64_t> waiting;
+  std::vector<CountedValue> rows;     // ascending, each value once
+  std::vector<CountedValue> waiting;  // each at a place by its hash, or the next free one; a count of 0 is free
+  std::int64_t places = 0;            // taken in waiting
 };
-TESSARYN_FIELDS(ValueCounts, rows, waiting)
+TESSARYN_FIELDS(ValueCounts, rows, waiting, places)
 void CountValue(ValueCounts& counts, std::int64_t amount);
 // Nothing waits any more.
 void SettleCounts(ValueCounts& counts);
@@ -63,6 +64,8 @@ struct SystemSums {
   ValueCounts nets;
   ValueCounts drawdowns;
   ValueCounts lengths;                  // rolls
+  std::int64_t streak = 0;              // of the longest losing streaks
+  ValueCounts streaks;                  // the longest of each session, in rolls
   ValueCounts ruins;                    // the rolls that the ruined lasted
   ValueCounts fan[kFanMarks];           // nets on the way
   std::vector<ScriptErrorKind> errors;  // of the script, as they first came up
@@ -70,7 +73,7 @@ struct SystemSums {
   std::string stopReason;               // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
-                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, ruins, fan, errors,
+                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, streak, streaks, ruins, fan, errors,
                 acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.

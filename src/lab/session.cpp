@@ -103,6 +103,18 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
   });
 }
 
+// How far a row of gaps was counted into: few are long. On a table that nothing was rolled on all are 0.
+std::size_t CellsCounted(const std::int32_t (&row)[kGapCells]) {
+  constexpr std::size_t kStep = 40;
+  std::size_t cells = kGapCells;
+  for (; cells > kStep; cells -= kStep) {
+    std::int32_t any = 0;
+    for (std::size_t cell = cells - kStep; cell < cells; ++cell) any |= row[cell];
+    if (any != 0) break;
+  }
+  return cells;
+}
+
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
   const auto resetBet = [&](int bet) {
     std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
@@ -111,7 +123,7 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   touched.bets.ForEach(resetBet);
   for (int item = 0; item < kRollItems; ++item)
     if (stats.ItemLastRoll[item] != fresh.ItemLastRoll[item])
-      std::memcpy(stats.RollGapCounts[item], fresh.RollGapCounts[item], sizeof stats.RollGapCounts[item]);
+      std::memset(stats.RollGapCounts[item], 0, CellsCounted(stats.RollGapCounts[item]) * sizeof(std::int32_t));
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
@@ -120,24 +132,26 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
 }
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
-  const auto rows = std::min<std::int64_t>(graph.PlotPoints, kPlotRows);
-  std::copy(fresh.Rows, fresh.Rows + rows, graph.Rows);
+  const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
+  if (fresh.PlotPoints == 0)
+    std::fill_n(graph.Rows, rows, PlotRow());
+  else
+    std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
     if constexpr (!std::is_same_v<decltype(member), decltype(&BankrollGraph::Rows)>)
       ResetPart(graph.*member, fresh.*member);
   });
 }
 
-// The numbers of the twisters are drawn anew where they were drawn from.
+// Long, and seldom drawn from but where a session draws its dice from.
 void ResetStream(TwisterStream& stream, const TwisterStream& fresh) {
   if (stream.Next != fresh.Next || stream.State[0] != fresh.State[0]) stream = fresh;
 }
 
-void ResetGenerators(Generators& generators, const Generators& fresh, bool twister) {
-  if (twister) {
-    ResetStream(generators.Mersenne, fresh.Mersenne);
-    ResetStream(generators.Cokus, fresh.Cokus);
-  }
+void ResetGenerators(Generators& generators, const Generators& fresh, bool alsoDrawn) {
+  const bool cokus = fresh.GeneratorIndex == kGeneratorCokus;
+  if (alsoDrawn || cokus) ResetStream(generators.Mersenne, fresh.Mersenne);
+  if (alsoDrawn || !cokus) ResetStream(generators.Cokus, fresh.Cokus);
   ForEachMember(std::type_identity<Generators>{}, [&](const char*, auto member) {
     using Member = std::remove_reference_t<decltype(generators.*member)>;
     if constexpr (!std::is_same_v<Member, TwisterStream>) ResetPart(generators.*member, fresh.*member);
@@ -176,7 +190,10 @@ std::unique_ptr<LabTable> OpenLabTable(const Game& fresh, const std::atomic<bool
   return table;
 }
 
-void ResetLabTable(LabTable& table) {
+namespace {
+
+// alsoDrawn: the stream that a session's dice are drawn from too, which gets new numbers as one begins.
+void Reset(LabTable& table, bool alsoDrawn) {
   Game& game = *table.game;
   const Game& fresh = *table.fresh;
   const SeatState& seat = game.table.seats[kSeat];
@@ -185,7 +202,7 @@ void ResetLabTable(LabTable& table) {
   ResetStatistics(game.stats, fresh.stats, table.touched);
   ResetGraph(game.graph, fresh.graph);
   ResetState(game.table, fresh.table, table.touched);
-  ResetGenerators(game.generators, fresh.generators, true);
+  ResetGenerators(game.generators, fresh.generators, alsoDrawn);
   ResetScripts(game.autobet, fresh.autobet);
   ResetPart(game.settings, fresh.settings);
   ResetPart(game.payoffs, fresh.payoffs);
@@ -196,6 +213,10 @@ void ResetLabTable(LabTable& table) {
   table.host.endlessLine = 0;
 }
 
+}  // namespace
+
+void ResetLabTable(LabTable& table) { Reset(table, true); }
+
 // --- A session.
 
 namespace {
@@ -205,8 +226,32 @@ struct Course {
   Currency start;  // what net counts from
   Currency highest;
   Currency net;
-  std::int64_t marks = 0;  // of the fan
+  std::int64_t streak = 0;    // losing rolls by now
+  std::int64_t rolls = 0;     // the most; 0 any
+  std::int64_t marks = 0;     // of the fan
+  std::int64_t nextMark = 0;  // the roll that the next is set at
 };
+
+// The first roll behind a part of the experiment's.
+std::int64_t RollOfMark(const Experiment& experiment, std::int64_t mark) {
+  return (experiment.rolls * (mark + 1) + kFanMarks - 1) / kFanMarks;
+}
+
+// Until the roll that fills the hours by the roll rate, if not to an end before.
+std::int64_t MostRolls(const Experiment& experiment, const Game& game) {
+  if (experiment.hours <= kZero) return experiment.rolls;
+  constexpr auto kParts = static_cast<WideInt>(Currency::kPerDollar) * Currency::kPerDollar;
+  const WideInt parts = WideInt{experiment.hours.raw} * game.settings.SimRollRate.raw;
+  const auto rolls = static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls));
+  return experiment.rolls > 0 ? std::min(rolls, experiment.rolls) : rolls;
+}
+
+// Behind a roll, or what was played out.
+void FollowStreak(Course& course, Currency net, SessionResult& result) {
+  if (net > course.net) course.streak = 0;
+  if (net < course.net && ++course.streak > result.losingStreak) result.losingStreak = course.streak;
+  course.net = net;
+}
 
 Currency NetOf(const Game& game, const Course& course) {
   return game.table.BankrollCurrent[kSeat] - course.start - game.stats.AtmTotal[Slot(kCurrentSession, kSeat)];
@@ -235,15 +280,17 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
   LuckAfterRoll(table.luck, game);
   ++result.rolls;
   if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
-  const Currency net = course.net = NetOf(game, course);
+  const Currency net = NetOf(game, course);
+  FollowStreak(course, net, result);
   if (net > course.highest) course.highest = net;
   if (course.highest - net > result.maxDrawdown) result.maxDrawdown = course.highest - net;
   if (IsRuined(game)) result.marks |= kMarkRuined;
   if (experiment.winGoal > kZero && net >= experiment.winGoal) result.marks |= kMarkGoal;
   if (experiment.lossLimit > kZero && net <= -experiment.lossLimit) result.marks |= kMarkLimit;
-  while (course.marks < kFanMarks && result.rolls * kFanMarks >= experiment.rolls * (course.marks + 1))
+  for (; course.marks < kFanMarks && result.rolls >= course.nextMark;
+       course.nextMark = RollOfMark(experiment, course.marks))
     table.fan[course.marks++] = net;
-  return result.marks != 0 || (experiment.rolls > 0 && result.rolls >= experiment.rolls) ||
+  return result.marks != 0 || (course.rolls > 0 && result.rolls >= course.rolls) ||
          (experiment.hands > 0 && result.hands >= experiment.hands);
 }
 
@@ -329,15 +376,17 @@ Currency HandleOf(const Statistics& stats, const TouchedBets& touched) {
 
 bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t session, SessionResult& result,
                  Record* record) {
-  ResetLabTable(table);
+  Reset(table, false);
   result = {};
   Game& game = *table.game;
   Course course;
   const bool begun = BeginSession(table, experiment, session);
   if (GivenUp(table)) return false;
-  LuckBeginSession(table.luck, game);
+  LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
   course.start = game.stats.BankrollSessionStart[kSeat];
   course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
+  course.nextMark = RollOfMark(experiment, 0);
+  course.rolls = MostRolls(experiment, game);
   if (!begun) result.marks |= kMarkStopped;
   if (begun && !PlayRolls(table, experiment, course, result)) return false;
   if (experiment.endWithHand) PlayOut(table, experiment, course, result);

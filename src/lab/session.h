@@ -28,13 +28,15 @@ struct SessionResult {
   Currency handle;       // decided, pushes not counted
   Currency maxDrawdown;  // the greatest fall from an earlier high, the start included
   Currency highest;      // net at the highest point, 0 at least
+  // Rolls in a row that lost; rolls that decided nothing, or came out even, don't end it.
+  std::int64_t losingStreak = 0;
   std::int64_t rolls = 0;
   std::int64_t hands = 0;     // seven-outs
   WideInt luck = 0;           // what the dice brought beyond their mean, in 1 / luckUnit of $0.0001
   std::int64_t luckUnit = 1;  // the same for all sessions of a system
   std::uint8_t marks = 0;     // what it met at some roll's end: SessionMark
 };
-TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, rolls, hands, luck, luckUnit, marks)
+TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, losingStreak, rolls, hands, luck, luckUnit, marks)
 
 // What the laboratory's tables ask of the outside: nobody is there, and no clock goes.
 struct LabHost : Host {

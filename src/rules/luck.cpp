@@ -22,7 +22,7 @@ LuckRules RulesOf(const Settings& settings) {
 }
 
 void ForgetPlans(LuckMeter& meter) {
-  for (LuckPlan& plan : meter.plans) plan.made = false;
+  for (LuckPlan& plan : meter.plans) plan.made = plan.byPoint = false;
 }
 
 std::int64_t UnitOf(const LuckDice& dice) { return dice.whole * kValueUnit; }
@@ -44,12 +44,13 @@ void FollowDice(LuckMeter& meter, const Game& game) {
 }
 
 void FollowRules(LuckMeter& meter, const Game& game) {
-  if (meter.plans.empty()) {
+  if (meter.plans.empty()) [[unlikely]] {
     meter.plans.resize(kPlans + kSeatRows);
     meter.payoffs = game.payoffs;
     FollowDice(meter, game);
   }
   if (!StillTheDice(meter.dice, game.percentage)) FollowDice(meter, game);
+  if (meter.rulesStand) return;
   if (const LuckRules rules = RulesOf(game.settings); !(rules == meter.rules)) {
     meter.rules = rules;
     ForgetPlans(meter);
@@ -166,16 +167,16 @@ std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
 }
 
 // Whether the plan was made for what the seat rides with. layout: none where only the point counts.
-bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const LuckRide& ride = plan.ride;
   if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
       !(ride.working == WorkingBets(state)) || (layout != nullptr && !(ride.layout == *layout)))
     return false;
-  bool same = true;
+  std::int64_t other = 0;
   std::size_t at = 0;
-  ForEachFigure(game, seat, [&](std::int64_t figure) { same = same && ride.figure[at++] == figure; });
-  return same;
+  ForEachFigure(game, seat, [&](std::int64_t figure) { other |= ride.figure[at++] ^ figure; });
+  return other == 0;
 }
 
 LuckRide RideOf(const Game& game, int seat) {
@@ -212,22 +213,42 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
   LuckPlan& plan = meter.plans[place];
   plan.ride = ride;
   plan.made = ride.Fits();
+  plan.byPoint = plan.made && !ride.bets.Meets(kHandBets | kVigBets);
   MakeLuckPlan(plan, game, seat, ride.layout, meter.dice, meter.chances);
   return place;
 }
 
+// Whether the plan of the last roll with this point is right, where rules stand: the common case, at a glance.
+bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
+  const SeatState& state = table.seats[seat];
+  const LuckRide& ride = plan.ride;
+  if (!plan.byPoint || ride.layout.point != table.Point || !(ride.bets == state.SeatBets) ||
+      !(ride.working == WorkingBets(state)))
+    return false;
+  std::size_t at = 0;
+  for (std::size_t word = 0; word < 2; ++word)
+    for (std::uint64_t rest = ride.bets.words[word]; rest != 0; rest &= rest - 1)
+      if (table.BetAmount(seat, static_cast<int>(word) * 64 + std::countr_zero(rest)).raw != ride.figure[at++])
+        return false;
+  return true;
+}
+
 // Its place in plans.
 std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
-  FollowPayoffs(meter, game, seat);
+  if (!meter.rulesStand) FollowPayoffs(meter, game, seat);
   LuckLayout layout;
   const BetSet& bets = game.table.seats[seat].SeatBets;
   const bool byPoint = !bets.Meets(kHandBets);
   if (!byPoint) layout = LuckLayoutOf(game, bets);
   const LuckLayout* const key = byPoint ? nullptr : &layout;
-  std::size_t place = HashOf(game, seat, key) & (kPlans - 1);
-  if (!IsFor(meter.plans[place], game, seat, key)) place = MakePlanFor(meter, game, seat, place);
-  meter.plans[place].rides = meter.roll;
-  return place;
+  // Mostly a seat rides with what it rode with when this point was last on.
+  std::size_t& last = meter.lastRide[seat][game.table.Point];
+  if (!IsFor(meter.plans[last], game, seat, key)) {
+    last = HashOf(game, seat, key) & (kPlans - 1);
+    if (!IsFor(meter.plans[last], game, seat, key)) last = MakePlanFor(meter, game, seat, last);
+  }
+  meter.plans[last].rides = meter.roll;
+  return last;
 }
 
 // What the values have become between rolls.
@@ -241,8 +262,14 @@ void Shift(LuckMeter& meter, int seat, std::int64_t value) {
 
 std::int64_t LuckUnit(const Game& game) { return UnitOf(LuckDiceOf(game.percentage)); }
 
-void LuckBeginSession(LuckMeter& meter, const Game& game) {
+void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
+  meter.rulesStand = false;
   FollowRules(meter, game);
+  if (may == LuckRulesMay::kStand && std::memcmp(&meter.payoffs, &game.payoffs, sizeof meter.payoffs) != 0) {
+    meter.payoffs = game.payoffs;
+    ForgetPlans(meter);
+  }
+  meter.rulesStand = may == LuckRulesMay::kStand;
   meter.unit = UnitOf(meter.dice);
   for (int seat = 0; seat < kSeatRows; ++seat) {
     meter.seats[seat] = {};
@@ -265,7 +292,13 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
     const int seat = table.Seated[i];
     const bool any = !table.seats[seat].SeatBets.Empty();
     if (any) {
-      meter.riding[seat] = PlanFor(meter, game, seat);
+      const std::size_t last = meter.lastRide[seat][table.Point];
+      if (meter.rulesStand && StillRides(meter.plans[last], table, seat)) {
+        meter.plans[last].rides = meter.roll;
+        meter.riding[seat] = last;
+      } else {
+        meter.riding[seat] = PlanFor(meter, game, seat);
+      }
       meter.ridingSeats |= 1u << seat;
     }
     const std::int64_t value = any ? meter.plans[meter.riding[seat]].before : 0;
@@ -282,10 +315,13 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
     const int seat = std::countr_zero(seats);
     const LuckPlan& plan = meter.plans[meter.riding[seat]];
     SeatLuck& luck = meter.seats[seat];
-    const std::int64_t planUnit = plan.whole * kValueUnit;
-    const bool scales = meter.unit != planUnit;
-    luck.luck += scales ? plan.luck[outcome] * (meter.unit / planUnit) : plan.luck[outcome];
-    luck.expected += scales ? plan.expected * (meter.unit / planUnit) : plan.expected;
+    if (const std::int64_t planUnit = plan.whole * kValueUnit; meter.unit == planUnit) [[likely]] {
+      luck.luck += plan.luck[outcome];
+      luck.expected += plan.expected;
+    } else {
+      luck.luck += plan.luck[outcome] * (meter.unit / planUnit);
+      luck.expected += plan.expected * (meter.unit / planUnit);
+    }
     luck.variance += plan.variance;
     luck.value = plan.after[outcome];
     ++luck.rolls;

@@ -48,6 +48,12 @@ struct LuckRules {
   friend bool operator==(const LuckRules&, const LuckRules&) = default;
 };
 
+// Whether payoffs and settings may change on the way. The dice may in any case.
+enum class LuckRulesMay : std::uint8_t {
+  kChange,
+  kStand,  // the caller's word, until the next session begins; nothing is looked at then
+};
+
 // One to a game; seats are told apart, players are not. Written by the procedures below alone. Plans are kept
 // from session to session as long as rules, payoffs and dice stay.
 struct LuckMeter {
@@ -61,7 +67,9 @@ struct LuckMeter {
   LuckRules rules;
   PayoffTables payoffs;                // what the plans were made with
   std::vector<LuckPlan> plans;         // by a hash of what rides; behind them one for each seat
-  std::size_t riding[kSeatRows] = {};  // places in plans
+  bool rulesStand = false;
+  std::size_t riding[kSeatRows] = {};        // places in plans
+  std::size_t lastRide[kSeatRows][11] = {};  // by the point: of the last roll that it was on
   std::uint32_t ridingSeats = 0;       // bit n: seat n has a plan for the roll to come
   std::int64_t roll = 0;
   std::int64_t throwsBefore = -1;
@@ -73,7 +81,7 @@ std::int64_t LuckUnit(const Game& game);
 
 // Sums at 0, in the unit of the dice in force. Bets may be up; what they are worth above their face is no
 // luck.
-void LuckBeginSession(LuckMeter& meter, const Game& game);
+void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may = LuckRulesMay::kChange);
 // Right before MakeRoll, with all bets as they will ride. May be called again if the roll didn't come.
 void LuckBeforeRoll(LuckMeter& meter, const Game& game);
 // After it, with the dice still as they fell; what scripts and handling have done since doesn't matter.

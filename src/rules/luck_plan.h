@@ -29,6 +29,7 @@ struct LuckRide {
 
 struct LuckPlan {
   bool made = false;
+  bool byPoint = false;    // made, and nothing but point, amounts and calls counts
   std::int64_t rides = 0;  // the roll that it was last used for
   LuckRide ride;
   std::int64_t whole = 36;                      // of the dice

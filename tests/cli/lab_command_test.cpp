@@ -92,6 +92,12 @@ TEST(LabCommand, RefusesWhatItCantPlay) {
                {{"--bets", "43=1,passline=2"}, 2, "comes twice"},
                {{"--bets", "43=5", "--stack", "100=2"}, 2, "CheckStack N from 0 to 99"},
                {{"--bets", "43=5", "--stack", "1=5..1"}, 2, "no range"},
+               {{"--bets", "43=5,84=5", "--set", "SmallTallEnabled=off"}, 1, "--bets 43=5,84=5: Table not"},
+               {{"--bets", "43=5", "--rank", "luck"}, 2, "--rank"},
+               {{"--bets", "43=5", "--find", "stack:x", "--ruin", ".1"}, 2, "--find stack:x"},
+               {{"--bets", "43=5", "--find", "bankroll", "--ruin", "2"}, 2, "--ruin 2"},
+               {{"--bets", "43=5", "--find", "bankroll", "--ruin", ".1", "--csv", "x"}, 2, "--csv"},
+               {{"--bets", "43=5", "--hours", "0"}, 2, "--hours 0"},
                {{"--bets", "43=5", "--shard", "3/2"}, 2, "--shard 3/2"},
                {{"--bets", "43=5", "--shard", "1/2", "--precision", "1"}, 2, "can't be used together"},
                {{"--bets", "43=5", "--bankroll", "x"}, 2, "--bankroll x"},
@@ -117,6 +123,82 @@ TEST(LabCommand, RefusesWhatItCantPlay) {
     EXPECT_EQ(ran.out, "") << one.told;
   }
   EXPECT_EQ(ReadFile(ground.folder.File("junk.lab")), "junk");
+}
+
+// Killed ten times on the way, at any moment, and gone on with on more threads or fewer.
+TEST(LabCommand, IsTheSameAfterTenKills) {
+  Ground ground;
+  const std::string lab = ground.folder.File("k.lab");
+  const std::vector<std::string> asked = {"--bets", "passline=10", "--bets", "field=5,43=10", "--sessions",
+                                          "4000",   "--rolls",     "20",     "--csv"};
+  std::vector<std::string> whole = asked;
+  whole.insert(whole.end(), {ground.folder.File("whole.csv"), "--out", ground.folder.File("whole.lab")});
+  const Json expected = ground.Says(whole);
+  std::vector<std::string> words = asked;
+  words.insert(words.begin(), "lab");
+  words.insert(words.end(), {ground.folder.File("k.csv"), "--out", lab, "--threads", "2"});
+  std::string before;
+  for (int kill = 0; kill < 10; ++kill) {
+    Surroundings around;
+    around.signal = SIGKILL;
+    // Behind the first checkpoint, and at another moment each time.
+    around.when = [&, looks = 0]() mutable { return !ReadFile(lab).empty() && ++looks > 3 * kill; };
+    RunCli(ground.folder, words, "", around);
+    words = {"lab", "--resume", lab, "--csv", ground.folder.File("k.csv"), "--threads", kill % 2 ? "1" : "3"};
+  }
+  EXPECT_EQ(ground.Says({"--resume", lab, "--csv", ground.folder.File("k.csv")}), expected);
+  for (const char* ending : {".lab", ".csv", ".lab.rows"})
+    EXPECT_TRUE(ReadFile(ground.folder.File("k") + ending) == ReadFile(ground.folder.File("whole") + ending))
+        << ending;
+}
+
+TEST(LabCommand, EndsByHoursRanksAndTellsStreaks) {
+  Ground ground;
+  const Json lab = ground.Says({"--bets", "49=5", "--bets", "49=50", "--sessions", "300", "--hours", "0.26",
+                                "--set", "SimRollRate=100", "--set", "ShooterBetRule=0", "--bankroll", "150",
+                                "--rank", "ruin"});
+  EXPECT_EQ(lab["systems"][0]["sessionRolls"]["quantiles"]["0.5"], 26);
+  EXPECT_EQ(lab["ranking"][0]["system"], "49=5");
+  EXPECT_GT(lab["ranking"][1]["value"], 0.1);
+  // Of 26 rolls each lost with 20 of 36: about 3 in a row at the longest at least, and never more than all.
+  EXPECT_GT(lab["systems"][0]["losingStreak"]["mean"], 3);
+  EXPECT_LT(lab["systems"][0]["losingStreak"]["quantiles"]["0.99"], 27);
+  const Json line = ground.Says({"--bets", "43=5", "--sessions", "5", "--rolls", "1", "--end", "hand"});
+  EXPECT_LE(line["systems"][0]["losingStreak"]["quantiles"]["0.99"], 1);
+}
+
+// The risk of ruin of one unit a roll: the value found keeps to it, and its neighbour doesn't.
+TEST(LabCommand, FindsWhatKeepsRuinWithinBounds) {
+  Ground ground;
+  WriteFile(ground.folder.File("f.bet"), "if field = 0 then bet cs3 on field endif\n");
+  const std::vector<std::string> same = {"--script",         ground.folder.File("f.bet"), "--sessions", "300", "--rolls", "30",
+                                         "--set", "ShooterBetRule=0", "--stack", "3=5"};
+  const auto asked = [&](std::vector<std::string> more) {
+    more.insert(more.begin(), same.begin(), same.end());
+    return ground.Says(more)["systems"][0];
+  };
+  const Json bankroll = asked({"--find", "bankroll", "--ruin", "0.1", "--bankroll", "40"});
+  const int value = bankroll["value"];
+  EXPECT_LE(bankroll["ci95"][0], value);
+  EXPECT_GE(bankroll["ci95"][1], value);
+  EXPECT_EQ(asked({"--bankroll", std::to_string(value)})["ruined"], bankroll["ruined"]);
+  EXPECT_LE(bankroll["ruined"]["p"], 0.1);
+  EXPECT_GT(asked({"--bankroll", std::to_string(value - 1)})["ruined"]["p"], 0.1);
+  const Json stake = asked({"--find", "stack:3", "--ruin", "0.1", "--bankroll", "100"});
+  EXPECT_LE(stake["ruined"]["p"], 0.1);
+  EXPECT_GE(stake["value"], 1);
+  EXPECT_FALSE(asked({"--find", "bankroll", "--ruin", "0.0001", "--set", "MinBetMain=9999999"})["found"]);
+}
+
+// Without the permission, which nobody gives here, a script doesn't change the dice that luck goes by.
+TEST(LabCommand, KeepsTheDiceOfAScriptThatWouldChangeThem) {
+  Ground ground;
+  WriteFile(ground.folder.File("d.bet"),
+            "if passline = 0 then bet 10 on passline endif\nactivate probability file \"x.prb\"\n");
+  const Json lab = ground.Says({"--script", ground.folder.File("d.bet"), "--bets", "43=10", "--sessions", "20",
+                                "--rolls", "30"});
+  EXPECT_EQ(lab["systems"][0]["adjusted"], lab["systems"][1]["adjusted"]);
+  EXPECT_EQ(lab["systems"][0]["scriptErrors"][0]["code"], 854);
 }
 
 TEST(LabCommand, GoesOnWhereItWasKilled) {

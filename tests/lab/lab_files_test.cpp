@@ -12,7 +12,8 @@
 namespace tessaryn::test {
 namespace {
 
-const std::string kFolder = std::string(kBinFolder) + "/";
+// Not a constant: the folders are known only once the program has begun.
+std::string Folder() { return std::string(kBinFolder) + "/"; }
 
 // So many that a run can be stopped on the way.
 #ifdef NDEBUG
@@ -41,7 +42,7 @@ std::string PlayOn(LabState& state, const TempFolder& folder, const std::string&
   state.rows = rows.kept;
   LabRun run;
   run.threads = threads;
-  run.applicationFolder = kFolder;
+  run.applicationFolder = Folder();
   run.checkpoint = folder.File(name);
   run.rows = &rows;
   run.progress = [&, start = SessionsDone(state)](const LabProgress& progress) {
@@ -163,7 +164,7 @@ TEST(LabFiles, EndWhenTheMeanIsKnownAtTheSameSession) {
     LabState state = BeginLab(experiment, false, false);
     LabRun run;
     run.threads = threads;
-    run.applicationFolder = kFolder;
+    run.applicationFolder = Folder();
     ASSERT_EQ(RunLab(state, run), "");
     EXPECT_TRUE(state.finished);
     EXPECT_EQ(SessionsDone(state) % 1'000, 0);

@@ -16,7 +16,8 @@
 namespace tessaryn::test {
 namespace {
 
-const std::string kFolder = std::string(kBinFolder) + "/";
+// Not a constant: the folders are known only once the program has begun.
+std::string Folder() { return std::string(kBinFolder) + "/"; }
 
 Experiment Asked(const std::vector<std::string>& script, std::int64_t sessions, std::int64_t rolls) {
   Experiment experiment;
@@ -32,7 +33,7 @@ LabState Played(const Experiment& experiment, int threads = 2) {
   LabState state = BeginLab(experiment, false, false);
   LabRun run;
   run.threads = threads;
-  run.applicationFolder = kFolder;
+  run.applicationFolder = Folder();
   EXPECT_EQ(RunLab(state, run), "");
   SettleState(state);
   return state;
@@ -55,7 +56,7 @@ TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
   experiment.settings = {{"AutoTakeOdds", 0, "1"}};
   LabHost host;
   LabProblem problem;
-  const auto fresh = BuildTable(experiment, experiment.systems[0], host, kFolder, problem);
+  const auto fresh = BuildTable(experiment, experiment.systems[0], host, Folder(), problem);
   ASSERT_FALSE(problem.Found()) << problem.text;
   const auto used = OpenLabTable(*fresh, nullptr);
   const auto untouched = OpenLabTable(*fresh, nullptr);
@@ -293,7 +294,7 @@ TEST(LabSession, ThatCantGoOnTellsWhy) {
   LabState state =
       BeginLab(Asked({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
   LabRun run;
-  run.applicationFolder = kFolder;
+  run.applicationFolder = Folder();
   const std::string error = RunLab(state, run);
   EXPECT_NE(error.find("test.bet, line "), std::string::npos) << error;
   EXPECT_EQ(SessionsDone(state), 0);
