@@ -24,9 +24,12 @@ void LaboratoryRun::Join() {
   if (thread_.joinable()) thread_.join();
 }
 
-void LaboratoryRun::Start(LabState&& state, const std::string& applicationFolder) {
-  Join();
+void LaboratoryRun::Start(LabState state, const std::string& applicationFolder) {
   state_ = std::move(state);
+  GoOn(applicationFolder);
+}
+
+void LaboratoryRun::GoOn(const std::string& applicationFolder) {
   error_.clear();
   stop_ = false;
   on_ = true;

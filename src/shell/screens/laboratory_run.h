@@ -19,8 +19,9 @@ class LaboratoryRun : public QObject {
   // What is under way is given up.
   ~LaboratoryRun() override;
 
-  // Goes on from where the state stands. Requires that none is on.
-  void Start(LabState&& state, const std::string& applicationFolder);
+  // Both require that none is on. GoOn: from where the state stands.
+  void Start(LabState state, const std::string& applicationFolder);
+  void GoOn(const std::string& applicationFolder);
   // Ends it soon with what is known; Ended comes.
   void Stop() { stop_ = true; }
   bool IsOn() const { return on_; }

@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -237,6 +238,7 @@ QWidget* LaboratoryScreen::MakeFoot() {
   session_->setObjectName("txtSession");
   session_->setAccessibleName(tr("Number of the session"));
   session_->setRange(1, 1);
+  session_->findChild<QLineEdit*>()->setAccessibleName(session_->accessibleName());
   session_->setMinimumWidth(110);
   sent_ = Chooser("cmbSystem", tr("System of the session"), foot);
   send_ = Button("cmdToTable", tr("Play it at the &table"), foot);
@@ -267,7 +269,7 @@ void LaboratoryScreen::RunOrPause() {
     return;
   }
   if (stage_ == Stage::kSetUp) return Begin();
-  run_.Start(std::move(run_.State()), game_.applicationFolder);
+  run_.GoOn(game_.applicationFolder);
   stage_ = Stage::kRunning;
   ShowStage();
 }

@@ -47,13 +47,12 @@ LaboratorySetup::LaboratorySetup(Game& game, QWidget* parent) : QWidget(parent),
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(12, 12, 12, 12);
   row->setSpacing(16);
-  row->addWidget(MakeSystems(), 1);
   auto* column = new QVBoxLayout;
   column->setSpacing(12);
-  column->addWidget(MakeEnds());
+  column->addWidget(MakeSystems(), 1);
   column->addWidget(MakeDice());
-  column->addStretch(1);
-  row->addLayout(column);
+  row->addLayout(column, 1);
+  row->addWidget(MakeEnds(), 0, Qt::AlignTop);
 }
 
 QWidget* LaboratorySetup::MakeSystems() {
@@ -108,6 +107,8 @@ void AddRow(QGridLayout& grid, const QString& caption, QWidget& field) {
   auto* label = new QLabel(caption, field.parentWidget());
   label->setBuddy(&field);
   field.setAccessibleName(QString(caption).remove('&'));
+  // Screen readers come to the box within.
+  if (auto* typed = field.findChild<QLineEdit*>()) typed->setAccessibleName(field.accessibleName());
   field.setFixedWidth(kNumberWidth);
   const int row = grid.rowCount();
   grid.addWidget(label, row, 0);
@@ -172,10 +173,11 @@ QWidget* LaboratorySetup::MakeDice() {
   seed_->setObjectName("txtSeed");
   seed_->setValidator(new QRegularExpressionValidator(QRegularExpression("\\d{1,15}"), seed_));
   AddRow(*grid, tr("See&d"), *seed_);
+  grid->setColumnStretch(2, 1);
   asTable_ = new QCheckBox(tr("R&ules and dice of this table"), box);
   asTable_->setObjectName("chkAsTable");
   asTable_->setChecked(true);
-  grid->addWidget(asTable_, grid->rowCount(), 0, 1, 2);
+  grid->addWidget(asTable_, grid->rowCount() - 1, 2, Qt::AlignRight);
   return box;
 }
 
