@@ -1,5 +1,5 @@
-// A session of an experiment on a table that somebody looks at, roll by roll: the same table, the same script,
-// the same dice.
+// A session of an experiment on a table that somebody looks at, roll by roll: the same table, the same
+// script, the same dice.
 //
 // Errors are texts; an empty text is success.
 #pragma once

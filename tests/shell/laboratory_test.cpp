@@ -1,5 +1,7 @@
-// The laboratory's screen: what it tells is what the core figures, whether it was paused or not, and a session
-// that is sent to the table goes there as it went in the laboratory.
+// The laboratory's screen: what it tells is what the core figures, whether it was paused or not, and a
+// session that is sent to the table goes there as it went in the laboratory.
+#include "lab/laboratory.h"
+
 #include <QComboBox>
 #include <QLabel>
 #include <QPainter>
@@ -7,7 +9,6 @@
 #include <QTabWidget>
 #include <QTableWidget>
 
-#include "lab/laboratory.h"
 #include "lab/replay.h"
 #include "lab/systems.h"
 #include "shell/frame/main_window.h"
@@ -38,7 +39,7 @@ struct Laboratory : ScreenTable {
   // Pass Line and Field, sessions of 30 rolls with a goal and a limit.
   Experiment SetUp(const char* sessions) {
     Add("passline=10, passlineodds=20");
-    Add("field=10");
+    Add("passline=10, field=10");
     TypeInto(lab, "txtSessions", sessions);
     TypeInto(lab, "txtRolls", "30");
     TypeInto(lab, "txtWinGoal", "60");
@@ -47,7 +48,7 @@ struct Laboratory : ScreenTable {
     Experiment experiment;
     experiment.systems.resize(2);
     EXPECT_EQ(ReadStandingBets("passline=10,passlineodds=20", experiment.systems[0]), "");
-    EXPECT_EQ(ReadStandingBets("field=10", experiment.systems[1]), "");
+    EXPECT_EQ(ReadStandingBets("passline=10,field=10", experiment.systems[1]), "");
     experiment.sessions = QString(sessions).toInt();
     experiment.rolls = 30;
     experiment.winGoal = ParseMoney("60");
@@ -58,8 +59,8 @@ struct Laboratory : ScreenTable {
   }
   QString RunText() { return Find<QPushButton>(lab, "cmdRun").text().remove('&'); }
   bool Waits(const char* text) {
-    return QTest::qWaitFor([&] { return RunText().startsWith(text) && Find<QPushButton>(lab, "cmdRun").isEnabled(); },
-                           60'000);
+    return QTest::qWaitFor(
+        [&] { return RunText().startsWith(text) && Find<QPushButton>(lab, "cmdRun").isEnabled(); }, 60'000);
   }
   void Show(int page) { Find<QTabWidget>(lab, "tabLaboratory").setCurrentIndex(page); }
   QStringList Texts(const char* name) {

@@ -52,7 +52,8 @@ QString NoteOn(const LabSystem& system, const SystemSums& sums) {
   if (sums.sessions > 0 && sums.unrolled == sums.sessions)
     return Words("%1: no session rolled the dice: %2").arg(FromCore(system.name), FromCore(sums.stopReason));
   if (sums.errors.empty()) return {};
-  return Words("%1: its script has errors: %2").arg(FromCore(system.name), FromCore(sums.errors.front().text));
+  return Words("%1: its script has errors: %2")
+      .arg(FromCore(system.name), FromCore(sums.errors.front().text));
 }
 
 SystemFigures FigureSystem(const LabSystem& system, SystemSums& sums, bool withFan) {
@@ -207,11 +208,13 @@ struct Measure {
   QString (*text)(const SystemFigures&);
 };
 const Measure kMeasures[] = {
-    {QT_TRANSLATE_NOOP("Laboratory", "Sessions"), [](const SystemFigures& s) { return LabCount(s.sessions); }},
+    {QT_TRANSLATE_NOOP("Laboratory", "Sessions"),
+     [](const SystemFigures& s) { return LabCount(s.sessions); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Mean"), [](const SystemFigures& s) { return WithBounds(s.net); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Mean without luck"),
      [](const SystemFigures& s) { return WithBounds(s.adjusted); }},
-    {QT_TRANSLATE_NOOP("Laboratory", "Std Dev"), [](const SystemFigures& s) { return LabMoney(s.net.stdDev); }},
+    {QT_TRANSLATE_NOOP("Laboratory", "Std Dev"),
+     [](const SystemFigures& s) { return LabMoney(s.net.stdDev); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Median"),
      [](const SystemFigures& s) { return SignedMoney(s.quantiles[4]); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Low"), [](const SystemFigures& s) { return SignedMoney(s.lowest); }},
@@ -230,9 +233,9 @@ const Measure kMeasures[] = {
      [](const SystemFigures& s) { return LabShare(s.ruined, s.sessions); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Mean rolls"),
      [](const SystemFigures& s) {
-       return s.sessions == 0 ? QString("0.0")
-                              : QString::number(static_cast<double>(s.rolls) / static_cast<double>(s.sessions),
-                                                'f', 1);
+       return s.sessions == 0
+                  ? QString("0.0")
+                  : QString::number(static_cast<double>(s.rolls) / static_cast<double>(s.sessions), 'f', 1);
      }},
 };
 

@@ -77,7 +77,7 @@ LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b);
 // How sessions end, as the experiment has such ends.
 struct LabEnd {
   QString caption;
-  std::int64_t SystemFigures::* count;
+  std::int64_t SystemFigures::*count;
 };
 QList<LabEnd> EndsOf(const LabFigures& figures);
 

@@ -100,8 +100,8 @@ struct ResultsPlan {
 ResultsPlan PlanResults(const QRectF& area, const LabFigures& figures, const LabLook& look) {
   ResultsPlan plan;
   const bool two = look.a != look.b;
-  plan.plot = area.adjusted(kAxisRoom, 2 * kLine + 14, -kMargin,
-                            -(kMargin + 2 * kLine + (two ? 2 : 1) * kBoxLine));
+  plan.plot =
+      area.adjusted(kAxisRoom, 2 * kLine + 22, -kMargin, -(kMargin + 2 * kLine + (two ? 2 : 1) * kBoxLine));
   const std::vector<std::int64_t>& bars = figures.systems[look.a].bars;
   plan.across = {figures.firstBar, figures.firstBar + static_cast<double>(bars.size()) * figures.barWidth,
                  plan.plot.left(), plan.plot.right()};
@@ -185,8 +185,7 @@ void PaintBox(Canvas& canvas, const ResultsPlan& plan, const SystemFigures& syst
   const double mean = plan.across.At(system.net.mean);
   painter.setPen(Qt::NoPen);
   painter.setBrush(canvas.colours.text);
-  painter.drawPolygon(QPolygonF(
-      {{mean - 5, y}, {mean, y - 5}, {mean + 5, y}, {mean, y + 5}}));
+  painter.drawPolygon(QPolygonF({{mean - 5, y}, {mean, y - 5}, {mean + 5, y}, {mean, y + 5}}));
   painter.setBrush(Qt::NoBrush);
 }
 
@@ -194,7 +193,7 @@ void PaintResults(Canvas& canvas) {
   const ResultsPlan plan = PlanResults(canvas.area, canvas.figures, canvas.look);
   const QRectF& plot = plan.plot;
   const Scale up{0, static_cast<double>(plan.most), plot.bottom(), plot.top()};
-  Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 4, kAxisRoom + 30, kLine),
+  Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 9, kAxisRoom + 30, kLine),
        Qt::AlignLeft, Words("# sessions"), canvas.colours.second);
   PaintAxes(canvas, plot, plan.across, up, StepFor(up.high, plot.height() / 40), false);
   PaintBars(canvas, plan, up);
@@ -243,7 +242,7 @@ void PaintFan(Canvas& canvas, const SystemFigures& system, const QRectF& plot, c
 }
 
 void PaintWay(Canvas& canvas) {
-  const QRectF plot = canvas.area.adjusted(kAxisRoom, 2 * kLine + 14, -kMargin, -(kMargin + 2 * kLine));
+  const QRectF plot = canvas.area.adjusted(kAxisRoom, 2 * kLine + 22, -kMargin, -(kMargin + 2 * kLine));
   if (canvas.figures.mostRolls == 0)
     return Text(canvas, canvas.area, Qt::AlignHCenter,
                 Words("Only sessions with a most number of rolls are looked at on the way."),
@@ -255,7 +254,7 @@ void PaintWay(Canvas& canvas) {
       up.low = std::min(up.low, mark[0]);
       up.high = std::max(up.high, mark[kFanLines - 1]);
     }
-  Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 4, 200, kLine), Qt::AlignLeft,
+  Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 9, 200, kLine), Qt::AlignLeft,
        Words("Won or lost, $"), canvas.colours.second);
   PaintAxes(canvas, plot, across, up, StepFor(up.high - up.low, plot.height() / 36), true);
   PaintFan(canvas, canvas.A(), plot, across, up, false);
@@ -286,8 +285,8 @@ void PaintShare(Canvas& canvas, const QRectF& row, const SystemFigures& system, 
   for (const double end : {low, high})
     canvas.painter.drawLine(QPointF(end, row.center().y() - 4), QPointF(end, row.center().y() + 4));
   const double numbers = row.right() - kNumbersRoom + 8;
-  Text(canvas, QRectF(numbers, row.top(), 52, row.height()), Qt::AlignRight,
-       LabShare(count, system.sessions), canvas.colours.text);
+  Text(canvas, QRectF(numbers, row.top(), 52, row.height()), Qt::AlignRight, LabShare(count, system.sessions),
+       canvas.colours.text);
   Text(canvas, QRectF(numbers + 60, row.top(), kNumbersRoom - 68, row.height()), Qt::AlignLeft,
        LabBounds(count, system.sessions), canvas.colours.second);
 }
@@ -359,11 +358,13 @@ QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& fi
   const ResultsPlan plan = PlanResults(area, figures, look);
   if (!plan.plot.contains(place)) return {};
   const double at = (plan.across.Back(place.x()) - figures.firstBar) / figures.barWidth;
-  const auto bar = std::min(static_cast<std::size_t>(std::max(at, 0.0)), figures.systems[look.a].bars.size() - 1);
+  const auto bar =
+      std::min(static_cast<std::size_t>(std::max(at, 0.0)), figures.systems[look.a].bars.size() - 1);
   const double low = figures.firstBar + static_cast<double>(bar) * figures.barWidth;
   const auto count = [&](std::size_t system) {
     const SystemFigures& shown = figures.systems[system];
-    return Words("%1 sessions (%2)").arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
+    return Words("%1 sessions (%2)")
+        .arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
   };
   QString text = Words("%1 to %2: A %3").arg(LabMoney(low), LabMoney(low + figures.barWidth), count(look.a));
   if (look.a != look.b) text += Words(", B %1").arg(count(look.b));

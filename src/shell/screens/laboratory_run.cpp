@@ -46,7 +46,8 @@ void LaboratoryRun::Play(const std::string& applicationFolder) {
     if (std::chrono::steady_clock::now() - looked < kLookEvery) return;
     TakeFigures(state);
     looked = std::chrono::steady_clock::now();
-    QMetaObject::invokeMethod(this, [this] { emit Progressed(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this] { emit Progressed(); }, Qt::QueuedConnection);
   };
   error_ = RunLab(state_, run);
   TakeFigures(state_);

@@ -27,8 +27,8 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kSaveReport{
-    "Save Laboratory Report As", "Web pages (*.html);;All files (*)", ".html", true, true};
+const FilePurpose kSaveReport{"Save Laboratory Report As", "Web pages (*.html);;All files (*)", ".html", true,
+                              true};
 
 constexpr int kResultsPage = 1;
 constexpr int kSystemsPage = 4;
@@ -349,9 +349,10 @@ void LaboratoryScreen::ShowVerdict() {
                     : running ? tr("The first sessions are being played ...")
                               : tr("What does a system bring over a whole session?"));
   below_->setText(begun ? verdict.below
-                  : running ? QString()
-                            : tr("Add systems, say how sessions end, and run: each session has dice of its own, "
-                                 "the same for every system."));
+                  : running
+                      ? QString()
+                      : tr("Add systems, say how sessions end, and run: each session has dice of its own, "
+                           "the same for every system."));
 }
 
 // Only what is seen.
@@ -363,9 +364,9 @@ void LaboratoryScreen::ShowTables() {
 void LaboratoryScreen::ShowStage() {
   const bool running = stage_ == Stage::kRunning;
   start_->setEnabled(true);
-  start_->setText(running                      ? tr("Pa&use")
+  start_->setText(running                    ? tr("Pa&use")
                   : stage_ == Stage::kPaused ? tr("C&ontinue")
-                                               : tr("&Run %1").arg(LabCount(setup_->Sessions())));
+                                             : tr("&Run %1").arg(LabCount(setup_->Sessions())));
   end_->setEnabled(stage_ != Stage::kSetUp);
   setup_->setEnabled(stage_ == Stage::kSetUp);
   report_->setEnabled(!running && figures_.sessions > 0);
