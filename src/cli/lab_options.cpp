@@ -9,6 +9,7 @@
 #include "cli/commands.h"
 #include "cli/table_setup.h"
 #include "dice/percentage_dice.h"
+#include "lab/systems.h"
 #include "play/settings_file.h"
 
 namespace tessaryn::cli {
@@ -81,16 +82,6 @@ int Wrong(const std::string& what) {
   return kUsage;
 }
 
-std::vector<std::string> Parts(const std::string& text, char separator) {
-  std::vector<std::string> parts;
-  std::size_t at = 0;
-  for (std::size_t next = 0; next != std::string::npos; at = next + 1) {
-    next = text.find(separator, at);
-    parts.push_back(text.substr(at, next == std::string::npos ? next : next - at));
-  }
-  return parts;
-}
-
 // Ready for the next option when it is not given.
 int ReadMoney(const char* option, const std::string& text, Currency least, Currency& amount) {
   if (text.empty()) return kDone;
@@ -111,25 +102,6 @@ int ReadScript(const std::string& path, LabSystem& system) {
                                  : result.message));
 }
 
-int ReadBets(const std::string& text, LabSystem& system) {
-  const std::string where = "--bets " + text + ": ";
-  std::vector<StandingBet> bets;
-  for (const std::string& part : Parts(text, ',')) {
-    const auto equals = part.find('=');
-    if (equals == std::string::npos) return Wrong(where + "\"" + part + "\": expected BET=AMOUNT");
-    StandingBet standing{BetByName(part.substr(0, equals)), {}};
-    if (!IsTableBet(standing.bet)) return Wrong(where + "\"" + part.substr(0, equals) + "\" is no bet");
-    const bool read = TryParseMoney(part.substr(equals + 1), standing.amount);
-    if (!read || standing.amount <= kZero)
-      return Wrong(where + "\"" + part.substr(equals + 1) + "\" is no amount above 0");
-    for (const StandingBet& other : bets)
-      if (other.bet == standing.bet) return Wrong(where + BetName(standing.bet) + " comes twice");
-    bets.push_back(standing);
-  }
-  system = StandingBetSystem(text, bets);
-  return kDone;
-}
-
 // In the order of the command line.
 int ReadSystems(const CLI::App& command, const LabOptions& options, std::vector<LabSystem>& systems) {
   const CLI::Option* script = command.get_option("--script");
@@ -138,13 +110,14 @@ int ReadSystems(const CLI::App& command, const LabOptions& options, std::vector<
   std::size_t betsRead = 0;
   for (const CLI::Option* option : command.parse_order()) {
     LabSystem system;
-    int code = kDone;
     if (option != script && option != bets) continue;
-    if (option == script)
-      code = ReadScript(options.scripts[scriptsRead++], system);
-    else
-      code = ReadBets(options.bets[betsRead++], system);
-    if (code != kDone) return code;
+    if (option == script) {
+      if (const int code = ReadScript(options.scripts[scriptsRead++], system)) return code;
+    } else {
+      const std::string& text = options.bets[betsRead++];
+      if (const std::string error = ReadStandingBets(text, system); !error.empty())
+        return Wrong("--bets " + text + ": " + error);
+    }
     systems.push_back(system);
   }
   if (systems.empty()) return Wrong("lab: nothing to play: give --script FILE or --bets BET=AMOUNT,...");
@@ -153,69 +126,18 @@ int ReadSystems(const CLI::App& command, const LabOptions& options, std::vector<
 
 // --- Sweeps.
 
-// "5", or "5..50:5".
-bool ReadValues(const std::string& text, std::vector<Currency>& values) {
-  const auto dots = text.find("..");
-  Currency low;
-  if (!TryParseMoney(text.substr(0, dots), low) || Abs(low) > kStackLimit) return false;
-  values.push_back(low);
-  if (dots == std::string::npos) return true;
-  const auto colon = text.find(':', dots);
-  Currency high;
-  Currency step = Currency::Dollars(1);
-  const std::size_t length = colon == std::string::npos ? colon : colon - dots - 2;
-  if (!TryParseMoney(text.substr(dots + 2, length), high) || high < low || high > kStackLimit) return false;
-  if (colon != std::string::npos && !TryParseMoney(text.substr(colon + 1), step)) return false;
-  if (step <= kZero) return false;
-  for (Currency next = low + step; next <= high && values.size() <= kMostSystems; next += step)
-    values.push_back(next);
-  return true;
-}
-
-// Every system once with each of count changes; the first sweep is the slowest to turn.
-template <typename Change>
-int Multiply(std::vector<LabSystem>& systems, std::size_t count, const std::string& where, Change&& change) {
-  std::vector<LabSystem> all;
-  if (systems.size() * count > kMostSystems)
-    return Wrong(where + "more than " + std::to_string(kMostSystems) + " systems");
-  for (const LabSystem& system : systems)
-    for (std::size_t i = 0; i < count; ++i) {
-      all.push_back(system);
-      change(all.back(), i);
-    }
-  systems = std::move(all);
-  return kDone;
-}
-
-int SweepStack(const std::string& text, std::vector<LabSystem>& systems) {
-  const std::string where = "--stack " + text + ": ";
-  const auto equals = text.find('=');
-  const int bet = BetByName("cs" + text.substr(0, equals));
-  if (equals == std::string::npos || equals == 0 || !IsCheckStack(bet))
-    return Wrong(where + "expected N=VALUE,... with a CheckStack N from 0 to 99");
-  const int stack = bet - kFirstCheckStack;
-  for (const StackStart& start : systems.front().stacks)
-    if (start.stack == stack) return Wrong(where + "CheckStack " + std::to_string(stack) + " comes twice");
-  std::vector<Currency> values;
-  for (const std::string& part : Parts(text.substr(equals + 1), ','))
-    if (!ReadValues(part, values))
-      return Wrong(where + "\"" + part + "\" is no value and no range LOW..HIGH:STEP");
-  return Multiply(systems, values.size(), where, [&](LabSystem& system, std::size_t i) {
-    system.stacks.push_back({stack, values[i]});
-  });
-}
-
 int VarySetting(const std::string& text, std::vector<LabSystem>& systems) {
   const std::string where = "--vary " + text + ": ";
   LabSetting setting;
   std::string values;
   if (!ParseAssignment(text, setting.name, setting.seat, values) || setting.name.empty())
     return Wrong(where + "expected NAME=VALUE,...");
-  const std::vector<std::string> parts = Parts(values, ',');
-  return Multiply(systems, parts.size(), where, [&](LabSystem& system, std::size_t i) {
+  const std::vector<std::string> parts = SplitText(values, ',');
+  const std::string error = MultiplySystems(systems, parts.size(), [&](LabSystem& system, std::size_t i) {
     setting.text = parts[i];
     system.settings.push_back(setting);
   });
+  return error.empty() ? kDone : Wrong(where + error);
 }
 
 // --- The table.
@@ -280,7 +202,8 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
   constexpr Currency kLeast = Currency::FromRaw(1);
   if (const int code = ReadSystems(command, options, experiment.systems)) return code;
   for (const std::string& text : options.stacks)
-    if (const int code = SweepStack(text, experiment.systems)) return code;
+    if (const std::string error = SweepStack(text, experiment.systems); !error.empty())
+      return Wrong("--stack " + text + ": " + error);
   for (const std::string& text : options.varied)
     if (const int code = VarySetting(text, experiment.systems)) return code;
   if (const int code = ReadMoney("--bankroll", options.bankroll, kLeast, experiment.bankroll)) return code;

@@ -246,6 +246,7 @@ void LookAfter(Lab& lab) {
   while (lab.working > 0) {
     lab.changed.wait_for(guard, kLookEvery, [&] { return lab.working == 0; });
     const LabProgress progress = ProgressOf(lab.state);
+    if (lab.run.look) lab.run.look(lab.state);
     guard.unlock();
     const bool goesOn = !lab.run.progress || lab.run.progress(progress);
     guard.lock();

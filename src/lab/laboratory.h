@@ -24,6 +24,8 @@ struct LabRun {
   SessionRows* rows = nullptr;  // null: nothing is kept of single sessions
   // Called several times a second by who called RunLab. False ends the run with what is known.
   std::function<bool(const LabProgress&)> progress;
+  // Called as often, while nothing is taken in; it reads what is known, and may settle counts.
+  std::function<void(LabState&)> look;
 };
 
 // Builds every system's table once, so that what is wrong is known before anything is written.

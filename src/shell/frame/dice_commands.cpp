@@ -105,7 +105,7 @@ std::span<const CommandRow> DiceCommands() {
        .act = [](Desk& desk) { ToggleTool(desk, kPercentageDiceWindow); },
        .ticked = [](const Desk& desk) { return ToolIsShown(desk, kPercentageDiceWindow); }},
       {.name = "mnuStopRollFile",
-       .caption = QT_TRANSLATE_NOOP("Commands", "&Stop the dice roll file"),
+       .caption = QT_TRANSLATE_NOOP("Commands", "Stop t&he dice roll file"),
        .key = "Esc",
        .act = [](Desk& desk) { StopRollFileAndAsk(desk.game); },
        .can = RecorderWorks},

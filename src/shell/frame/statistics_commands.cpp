@@ -28,6 +28,8 @@ std::span<const CommandRow> StatisticsCommands() {
       ToolRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
       ToolRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
       ToolRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
+      {},
+      ToolRow<kLaboratoryWindow>("mnuLaboratory", QT_TRANSLATE_NOOP("Commands", "L&aboratory")),
   };
   return kCommands;
 }

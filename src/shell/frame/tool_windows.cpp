@@ -6,6 +6,7 @@
 
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
+#include "shell/frame/lab_table.h"
 #include "shell/frame/printing.h"
 #include "shell/frame/sounds.h"
 #include "shell/frame/tool_menu.h"
@@ -13,6 +14,7 @@
 #include "shell/screens/check_stacks_screen.h"
 #include "shell/screens/configuration.h"
 #include "shell/screens/events_log_screen.h"
+#include "shell/screens/laboratory_screen.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/probability_page.h"
 #include "shell/screens/report_window.h"
@@ -94,6 +96,14 @@ ToolWindow* MakeConfiguration(Desk& desk) {
   return new ConfigurationScreen(desk.game, std::move(shelf), desk.window);
 }
 
+ToolWindow* MakeLaboratory(Desk& desk) {
+  auto* laboratory = new LaboratoryScreen(desk.game, desk.window);
+  laboratory->toTable = [&desk](const Experiment& experiment, std::size_t system, std::int64_t session) {
+    return PlayLabSession(desk, experiment, system, session);
+  };
+  return laboratory;
+}
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -120,6 +130,7 @@ constexpr ToolRow kTools[] = {
     {kSessionsWindow, MakeLog<SessionsLogScreen>},
     {kEventsLogWindow, MakeLog<EventsLogScreen>},
     {kConfigurationWindow, MakeConfiguration},
+    {kLaboratoryWindow, MakeLaboratory},
 };
 
 const ToolRow* RowOf(int number) {

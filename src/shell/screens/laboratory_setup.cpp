@@ -1,0 +1,278 @@
+#include "shell/screens/laboratory_setup.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QSpinBox>
+#include <QVBoxLayout>
+
+#include "autobet/language/script_files.h"
+#include "base/messages.h"
+#include "base/record_file.h"
+#include "lab/session.h"
+#include "lab/systems.h"
+#include "play/start_up.h"
+#include "shell/screens/file_chooser.h"
+#include "shell/table/screen_tools.h"
+#include "state/show_message.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kUsualSessions = 10'000;
+constexpr int kUsualRolls = 500;
+constexpr int kNumberWidth = 130;
+
+void Tell(Game& game, const std::string& problem) {
+  ShowMessage<Msg::kFileProblem>(game, With<"title">("Laboratory"), With<"problem">(problem));
+}
+
+QPushButton* Button(const char* name, const QString& caption, QWidget* parent) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  return button;
+}
+
+}  // namespace
+
+LaboratorySetup::LaboratorySetup(Game& game, QWidget* parent) : QWidget(parent), game_(game) {
+  setObjectName("fraExperiment");
+  auto* row = new QHBoxLayout(this);
+  row->setContentsMargins(12, 12, 12, 12);
+  row->setSpacing(16);
+  auto* column = new QVBoxLayout;
+  column->setSpacing(12);
+  column->addWidget(MakeSystems(), 1);
+  column->addWidget(MakeDice());
+  row->addLayout(column, 1);
+  row->addWidget(MakeEnds(), 0, Qt::AlignTop);
+}
+
+QWidget* LaboratorySetup::MakeSystems() {
+  auto* box = new QGroupBox(tr("Systems, all on the same dice"), this);
+  auto* column = new QVBoxLayout(box);
+  column->setSpacing(8);
+  list_ = new QListWidget(box);
+  list_->setObjectName("lstSystems");
+  list_->setAccessibleName(tr("Systems"));
+  list_->setMinimumSize(220, 60);
+  column->addWidget(list_, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(8);
+  auto* script = Button("cmdAddScript", tr("Add s&cript ..."), box);
+  auto* player = Button("cmdAddPlayersScript", tr("Add &player's script"), box);
+  remove_ = Button("cmdRemove", tr("Re&move"), box);
+  remove_->setEnabled(false);
+  for (QPushButton* button : {script, player, remove_}) buttons->addWidget(button);
+  buttons->addStretch(1);
+  column->addLayout(buttons);
+  auto* betsRow = new QHBoxLayout;
+  betsRow->setSpacing(8);
+  bets_ = new QLineEdit(box);
+  bets_->setObjectName("txtBets");
+  bets_->setAccessibleName(tr("Standing bets"));
+  bets_->setPlaceholderText(tr("Standing bets: passline=10, place6=12"));
+  auto* addBets = Button("cmdAddBets", tr("Add &bets"), box);
+  betsRow->addWidget(bets_, 1);
+  betsRow->addWidget(addBets);
+  column->addLayout(betsRow);
+  auto* stakesLabel = new QLabel(tr("S&takes that CheckStacks start at, each a system of its own:"), box);
+  stakesLabel->setWordWrap(true);
+  stakes_ = new QLineEdit(box);
+  stakes_->setObjectName("txtStakes");
+  stakes_->setAccessibleName(tr("Stakes that CheckStacks start at"));
+  stakes_->setPlaceholderText(tr("as the scripts have them; or 1=5,10,25 or 1=5..50:5"));
+  stakesLabel->setBuddy(stakes_);
+  column->addWidget(stakesLabel);
+  column->addWidget(stakes_);
+  connect(script, &QPushButton::clicked, this, &LaboratorySetup::AddScript);
+  connect(player, &QPushButton::clicked, this, &LaboratorySetup::AddPlayersScript);
+  connect(addBets, &QPushButton::clicked, this, &LaboratorySetup::AddBets);
+  connect(bets_, &QLineEdit::returnPressed, this, &LaboratorySetup::AddBets);
+  connect(remove_, &QPushButton::clicked, this, &LaboratorySetup::Remove);
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int at) { remove_->setEnabled(at >= 0); });
+  return box;
+}
+
+namespace {
+
+void AddRow(QGridLayout& grid, const QString& caption, QWidget& field) {
+  auto* label = new QLabel(caption, field.parentWidget());
+  label->setBuddy(&field);
+  field.setAccessibleName(QString(caption).remove('&'));
+  // Screen readers come to the box within.
+  if (auto* typed = field.findChild<QLineEdit*>()) typed->setAccessibleName(field.accessibleName());
+  field.setFixedWidth(kNumberWidth);
+  const int row = grid.rowCount();
+  grid.addWidget(label, row, 0);
+  grid.addWidget(&field, row, 1);
+}
+
+}  // namespace
+
+QSpinBox* LaboratorySetup::AddNumber(QGridLayout& grid, const char* name, const QString& caption, int least,
+                                     int value, const QString& none) {
+  auto* box = new QSpinBox(grid.parentWidget());
+  box->setObjectName(name);
+  box->setRange(least, static_cast<int>(kMostLabSessions));
+  box->setGroupSeparatorShown(true);
+  box->setLocale(QLocale(QLocale::English));
+  box->setSpecialValueText(none);
+  box->setValue(value);
+  AddRow(grid, caption, *box);
+  return box;
+}
+
+MoneyEdit* LaboratorySetup::AddMoney(QGridLayout& grid, const char* name, const QString& caption,
+                                     Currency value) {
+  auto* box = new MoneyEdit(grid.parentWidget());
+  box->setObjectName(name);
+  if (value > kZero)
+    box->SetValue(value);
+  else
+    box->setPlaceholderText(tr("none"));
+  AddRow(grid, caption, *box);
+  return box;
+}
+
+QWidget* LaboratorySetup::MakeEnds() {
+  auto* box = new QGroupBox(tr("Sessions and their ends"), this);
+  auto* grid = new QGridLayout(box);
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(12);
+  sessions_ = AddNumber(*grid, "txtSessions", tr("Sess&ions"), 1, kUsualSessions, {});
+  bankroll_ = AddMoney(*grid, "txtBankroll", tr("&Start with $"), Experiment().bankroll);
+  rolls_ = AddNumber(*grid, "txtRolls", tr("Most r&olls"), 0, kUsualRolls, tr("any"));
+  hands_ = AddNumber(*grid, "txtHands", tr("Most &hands"), 0, 0, tr("any"));
+  winGoal_ = AddMoney(*grid, "txtWinGoal", tr("&Win goal $"), kZero);
+  lossLimit_ = AddMoney(*grid, "txtLossLimit", tr("&Loss limit $"), kZero);
+  end_ = new QComboBox(box);
+  end_->setObjectName("cmbEnd");
+  end_->addItems({tr("at once"), tr("after the hand")});
+  end_->setItemData(1, tr("when no contract bet is up any more"), Qt::ToolTipRole);
+  AddRow(*grid, tr("&Ends fall"), *end_);
+  precision_ = AddMoney(*grid, "txtPrecision", tr("&Known to \u00b1$"), kZero);
+  precision_->setToolTip(tr("Stops as soon as each mean is known so well, 95% sure"));
+  connect(sessions_, &QSpinBox::valueChanged, this, &LaboratorySetup::Changed);
+  return box;
+}
+
+QWidget* LaboratorySetup::MakeDice() {
+  auto* box = new QGroupBox(tr("Table and dice"), this);
+  auto* grid = new QGridLayout(box);
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(12);
+  seed_ = new QLineEdit("1", box);
+  seed_->setObjectName("txtSeed");
+  seed_->setValidator(new QRegularExpressionValidator(QRegularExpression("\\d{1,15}"), seed_));
+  AddRow(*grid, tr("See&d"), *seed_);
+  grid->setColumnStretch(2, 1);
+  asTable_ = new QCheckBox(tr("R&ules and dice of this table"), box);
+  asTable_->setObjectName("chkAsTable");
+  asTable_->setChecked(true);
+  grid->addWidget(asTable_, grid->rowCount() - 1, 2, Qt::AlignRight);
+  return box;
+}
+
+// --- Systems.
+
+void LaboratorySetup::Add(LabSystem system) {
+  systems_.push_back(std::move(system));
+  list_->addItem(FromCore(systems_.back().name));
+  list_->setCurrentRow(list_->count() - 1);
+  emit Changed();
+}
+
+void LaboratorySetup::AddScript() {
+  const std::string path = ChooseFile(game_, this, kOpenAutoBet);
+  if (path.empty()) return;
+  LabSystem system;
+  const ScriptFileResult result = ReadScriptFile(path, system.lines);
+  system.name = FileTitle(path);
+  if (result.Ok()) return Add(std::move(system));
+  Tell(game_, result.problem == ScriptFileProblem::kNotFound
+                  ? MessageText<Msg::kNamedFileNotFound>(With<"path">(path))
+                  : result.message);
+}
+
+void LaboratorySetup::AddPlayersScript() {
+  const int seat = game_.table.SelectedSeat;
+  const SeatScript& script = game_.autobet.Scripts[seat];
+  if (seat == 0 || script.ScriptLines.empty()) return Tell(game_, "The selected player has no script.");
+  LabSystem system;
+  system.lines = script.ScriptLines;
+  system.name =
+      script.ScriptFileName.empty() ? game_.table.seats[seat].SeatName : FileTitle(script.ScriptFileName);
+  Add(std::move(system));
+}
+
+void LaboratorySetup::AddBets() {
+  LabSystem system;
+  const QString text = bets_->text().remove(' ');
+  if (const std::string error = ReadStandingBets(ToCore(text), system); !error.empty())
+    return Tell(game_, error);
+  Add(std::move(system));
+  bets_->clear();
+}
+
+void LaboratorySetup::Remove() {
+  const int at = list_->currentRow();
+  if (at < 0) return;
+  systems_.erase(systems_.begin() + at);
+  delete list_->takeItem(at);
+  emit Changed();
+}
+
+// --- The experiment.
+
+std::int64_t LaboratorySetup::Sessions() const { return sessions_->value(); }
+
+// The rules in which the table differs from a new one, its dice, and their generator.
+void LaboratorySetup::TakeTable(Experiment& experiment) const {
+  LabHost host;
+  const std::unique_ptr<Game> fresh = StartGame(host, game_.applicationFolder, "/dev/null/");
+  std::vector<SettingChange> changes;
+  for (const SettingName& setting : AllSettings()) {
+    SettingChange change{setting.name, 0, {}};
+    std::string error;
+    if (!setting.bySeat && GetSetting(game_, setting.name, 0, change.value, error)) changes.push_back(change);
+  }
+  for (const SettingDifference& difference : PreviewSettings(*fresh, changes))
+    experiment.settings.push_back({difference.name, 0, difference.then});
+  experiment.generator = game_.generators.GeneratorIndex + 1;
+  experiment.percentageDice = game_.percentage.PercentageDiceActive;
+  if (experiment.percentageDice) experiment.probabilities = game_.percentage.ProbMatrix;
+}
+
+std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
+  if (systems_.empty()) return "There is nothing to play: add a script, or standing bets.";
+  experiment = Experiment();
+  experiment.systems = systems_;
+  const std::string stakes = ToCore(stakes_->text().remove(' '));
+  if (!stakes.empty())
+    for (const std::string& part : SplitText(stakes, ';'))
+      if (const std::string error = SweepStack(part, experiment.systems); !error.empty())
+        return "Stakes " + part + ": " + error;
+  experiment.sessions = sessions_->value();
+  experiment.bankroll = bankroll_->Value();
+  if (experiment.bankroll <= kZero || experiment.bankroll > kBankrollLimit)
+    return "Start with: must be from 0.01 to " + FormatMoney(kBankrollLimit);
+  experiment.rolls = rolls_->value();
+  experiment.hands = hands_->value();
+  experiment.winGoal = winGoal_->Value();
+  experiment.lossLimit = lossLimit_->Value();
+  experiment.endWithHand = end_->currentIndex() == 1;
+  experiment.precision = precision_->Value();
+  experiment.seed = seed_->text().toULongLong();
+  if (asTable_->isChecked()) TakeTable(experiment);
+  return {};
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,67 @@
+// The page on which an experiment is made: systems and their stakes, ends, sessions, dice.
+#pragma once
+
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "lab/experiment.h"
+
+class QCheckBox;
+class QComboBox;
+class QGridLayout;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
+class QSpinBox;
+
+namespace tessaryn {
+
+class MoneyEdit;
+
+class LaboratorySetup : public QWidget {
+  Q_OBJECT
+
+ public:
+  LaboratorySetup(Game& game, QWidget* parent);
+  // What is asked for. Returns the error, empty for none.
+  std::string ReadExperiment(Experiment& experiment) const;
+  std::int64_t Sessions() const;
+
+ signals:
+  void Changed();
+
+ private:
+  QWidget* MakeSystems();
+  QWidget* MakeEnds();
+  QWidget* MakeDice();
+  QSpinBox* AddNumber(QGridLayout& grid, const char* name, const QString& caption, int least, int value,
+                      const QString& none);
+  MoneyEdit* AddMoney(QGridLayout& grid, const char* name, const QString& caption, Currency value);
+  void AddScript();
+  void AddPlayersScript();
+  void AddBets();
+  void Remove();
+  void Add(LabSystem system);
+  void TakeTable(Experiment& experiment) const;
+
+  Game& game_;
+  std::vector<LabSystem> systems_;
+  QListWidget* list_ = nullptr;
+  QPushButton* remove_ = nullptr;
+  QLineEdit* bets_ = nullptr;
+  QLineEdit* stakes_ = nullptr;
+  MoneyEdit* bankroll_ = nullptr;
+  QSpinBox* sessions_ = nullptr;
+  QSpinBox* rolls_ = nullptr;
+  QSpinBox* hands_ = nullptr;
+  MoneyEdit* winGoal_ = nullptr;
+  MoneyEdit* lossLimit_ = nullptr;
+  QComboBox* end_ = nullptr;
+  MoneyEdit* precision_ = nullptr;
+  QLineEdit* seed_ = nullptr;
+  QCheckBox* asTable_ = nullptr;
+};
+
+}  // namespace tessaryn

@@ -1,0 +1,217 @@
+// The laboratory's screen: what it tells is what the core figures, whether it was paused or not, and a
+// session that is sent to the table goes there as it went in the laboratory.
+#include "lab/laboratory.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableWidget>
+
+#include "lab/replay.h"
+#include "lab/systems.h"
+#include "shell/frame/main_window.h"
+#include "shell/frame/tool_windows.h"
+#include "shell/screens/file_chooser.h"
+#include "shell/screens/laboratory_screen.h"
+#include "shell/screens_support.h"
+
+namespace tessaryn::test {
+namespace {
+
+struct Laboratory : ScreenTable {
+  MainWindow window{*game, host};
+  Desk& desk = window.TheDesk();
+  LaboratoryScreen& lab = static_cast<LaboratoryScreen&>(Tool(desk, kLaboratoryWindow));
+
+  Laboratory() {
+    window.Table().animate = false;
+    window.show();
+    ToggleTool(desk, kLaboratoryWindow);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&lab));
+  }
+  ~Laboratory() { window.CloseUnasked(); }
+  void Add(const char* bets) {
+    TypeInto(lab, "txtBets", bets);
+    QTest::keyClick(&Find<QWidget>(lab, "txtBets"), Qt::Key_Return);
+  }
+  // Pass Line and Field, sessions of 30 rolls with a goal and a limit.
+  Experiment SetUp(const char* sessions) {
+    Add("passline=10, passlineodds=20");
+    Add("passline=10, field=10");
+    TypeInto(lab, "txtSessions", sessions);
+    TypeInto(lab, "txtRolls", "30");
+    TypeInto(lab, "txtWinGoal", "60");
+    TypeInto(lab, "txtLossLimit", "100");
+    TypeInto(lab, "txtSeed", "7");
+    Experiment experiment;
+    experiment.systems.resize(2);
+    EXPECT_EQ(ReadStandingBets("passline=10,passlineodds=20", experiment.systems[0]), "");
+    EXPECT_EQ(ReadStandingBets("passline=10,field=10", experiment.systems[1]), "");
+    experiment.sessions = QString(sessions).toInt();
+    experiment.rolls = 30;
+    experiment.winGoal = ParseMoney("60");
+    experiment.lossLimit = ParseMoney("100");
+    experiment.seed = 7;
+    experiment.generator = game->generators.GeneratorIndex + 1;
+    return experiment;
+  }
+  QString RunText() { return Find<QPushButton>(lab, "cmdRun").text().remove('&'); }
+  bool Waits(const char* text) {
+    return QTest::qWaitFor(
+        [&] { return RunText().startsWith(text) && Find<QPushButton>(lab, "cmdRun").isEnabled(); }, 60'000);
+  }
+  void Show(int page) { Find<QTabWidget>(lab, "tabLaboratory").setCurrentIndex(page); }
+  QStringList Texts(const char* name) {
+    auto& table = Find<QTableWidget>(lab, name);
+    QStringList texts;
+    for (int row = 0; row < table.rowCount(); ++row)
+      for (int column = 0; column < table.columnCount(); ++column) texts << table.item(row, column)->text();
+    return texts;
+  }
+};
+
+LabFigures Plainly(const Experiment& experiment) {
+  LabState state = BeginLab(experiment, false, false);
+  LabRun run;
+  run.applicationFolder = std::string(kBinFolder) + "/";
+  EXPECT_EQ(RunLab(state, run), "");
+  return FigureLab(state);
+}
+
+QStringList Flat(const QList<QStringList>& rows) {
+  QStringList texts;
+  for (const QStringList& row : rows.mid(1)) texts += row;
+  return texts;
+}
+
+TEST(LaboratoryScreen, PausedAndContinuedItTellsWhatTheCoreFigures) {
+  Laboratory table;
+  const Experiment experiment = table.SetUp("700");
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Pause"));
+  QTest::qWait(300);
+  // The table stays usable, and the experiment can't be changed.
+  table.Join(3, "Ann");
+  table.Bet(3, kPassLine, "10");
+  table.Roll(3, 3);
+  EXPECT_EQ(table.State().PointBeforeRoll, 0);
+  EXPECT_FALSE(Find<QWidget>(table.lab, "txtBets").isEnabled());
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Continue"));
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  const LabFigures plain = Plainly(experiment);
+  EXPECT_EQ(table.Texts("lstMeasures"), Flat(MeasureRows(plain, 0, 1)));
+  EXPECT_EQ(Find<QLabel>(table.lab, "lblVerdict").text(), JudgeLab(plain, 0, 1).sentence);
+  EXPECT_EQ(table.lab.Rows(), SystemRows(plain));
+  // The other way round, and one alone.
+  const MeanFigure ab = DifferenceOf(plain, 0, 1);
+  const MeanFigure ba = DifferenceOf(plain, 1, 0);
+  EXPECT_EQ(ab.mean, -ba.mean);
+  EXPECT_EQ(ab.ci95.low, -ba.ci95.high);
+  EXPECT_NEAR(ab.mean, plain.systems[0].net.mean - plain.systems[1].net.mean, 1e-9);
+  for (const SystemFigures& system : plain.systems) {
+    std::int64_t sessions = 0;
+    for (const std::int64_t bar : system.bars) sessions += bar;
+    EXPECT_EQ(sessions, 700);
+    EXPECT_EQ(system.fan[kFanMarks - 1][2], system.quantiles[4]);
+  }
+  // The report is a page of its own.
+  QString opened;
+  table.lab.openFile = [&](const QString& path) { opened = path; };
+  QueuedFileNames() = {table.folder.filePath("lab.html").toStdString()};
+  Click(table.lab, "cmdReport");
+  QFile file(opened);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << opened.toStdString();
+  EXPECT_TRUE(file.readAll().contains("</html>"));
+}
+
+TEST(LaboratoryScreen, ASessionGoesAtTheTableAsItWent) {
+  Laboratory table;
+  Experiment experiment = table.SetUp("40");
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  for (const int session : {1, 8, 40})
+    for (const int system : {0, 1}) {
+      TypeInto(table.lab, "txtSession", qPrintable(QString::number(session)));
+      Find<QComboBox>(table.lab, "cmbSystem").setCurrentIndex(system);
+      if (table.State().OccupiedSeats > 0)
+        WhenOpen("frmMsg", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_N); });
+      Click(table.lab, "cmdToTable");
+      SessionResult result;
+      const LabSystem& played = experiment.systems[static_cast<std::size_t>(system)];
+      ASSERT_EQ(FigureSession(experiment, played, session - 1, table.game->applicationFolder, result), "");
+      ASSERT_EQ(table.State().OccupiedSeats, 1);
+      EXPECT_EQ(table.game->settings.AutoStopInterval, result.rolls);
+      EXPECT_TRUE(table.game->file.Path.empty());
+      for (std::int64_t roll = 0; roll < result.rolls; ++roll) RollDice(*table.game);
+      EXPECT_EQ(FormatMoney(table.State().BankrollCurrent[1] - experiment.bankroll), FormatMoney(result.net))
+          << session << " of " << system;
+    }
+}
+
+TEST(LaboratoryScreen, TellsWhatIsWrongAndEnds) {
+  Laboratory table;
+  const auto told = [&](const char* button) {
+    QString text;
+    WhenOpen("frmMsg", [&](QDialog& box) {
+      for (QLabel* label : box.findChildren<QLabel*>()) text += label->text();
+      QTest::keyClick(&box, Qt::Key_Return);
+    });
+    Click(table.lab, button);
+    return text;
+  };
+  EXPECT_TRUE(told("cmdRun").contains("nothing to play"));
+  TypeInto(table.lab, "txtBets", "pasline=10");
+  EXPECT_TRUE(told("cmdAddBets").contains("pasline"));
+  table.Add("place6=12");
+  TypeInto(table.lab, "txtStakes", "1=5..x");
+  EXPECT_TRUE(told("cmdRun").contains("5..x"));
+  // Sweeps are systems of their own; a long run ends at once with what is known.
+  TypeInto(table.lab, "txtStakes", "1=5,10,15");
+  TypeInto(table.lab, "txtSessions", "100000");
+  Click(table.lab, "cmdRun");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.lab.HasPicture(); }, 30'000));
+  Click(table.lab, "cmdEnd");
+  ASSERT_TRUE(table.Waits("Run"));
+  EXPECT_EQ(table.lab.Rows().size(), 4);
+  EXPECT_TRUE(Find<QWidget>(table.lab, "txtBets").isEnabled());
+}
+
+TEST(LaboratoryScreen, EveryPageFitsSmallScreens) {
+  Laboratory table;
+  table.SetUp("300");
+  ExpectNamed(table.lab);
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  EXPECT_LE(table.lab.minimumSizeHint().width(), 1000);
+  EXPECT_LE(table.lab.minimumSizeHint().height(), 540);
+  const QPalette light = QApplication::palette();
+  for (const QSize size : {QSize(1000, 540), QSize(1280, 760)})
+    for (int page = 0; page < 5; ++page) {
+      table.lab.resize(size);
+      table.Show(page);
+      QTest::qWait(20);
+      EXPECT_EQ(table.lab.size(), size);
+      SavePicture(table.lab, QString("laboratory-%1-%2").arg(size.width()).arg(page));
+    }
+  QApplication::setPalette(DarkPalette());
+  for (int page = 0; page < 5; ++page) {
+    table.Show(page);
+    QTest::qWait(20);
+    SavePicture(table.lab, QString("laboratory-dark-%1").arg(page));
+  }
+  QApplication::setPalette(light);
+  // On paper and in files it is painted light, something of both systems in it.
+  QImage image(720, 440, QImage::Format_RGB32);
+  image.fill(Qt::black);
+  QPainter painter(&image);
+  table.lab.PaintPicture(painter, image.rect());
+  painter.end();
+  EXPECT_EQ(image.pixelColor(2, 2), QColor(Qt::white));
+}
+
+}  // namespace
+}  // namespace tessaryn::test
