@@ -34,7 +34,7 @@ struct Pages : ScreenTable {
   std::unique_ptr<ConfigurationScreen> screen;
 
   explicit Pages(const char* tab) {
-    Join(2, "Ann");
+    Join(2, "Ann", "10000");
     Join(5, "Bo");
     screen = std::make_unique<ConfigurationScreen>(*game, SoundShelf{}, nullptr);
     screen->ShowTab(tab);
@@ -81,6 +81,9 @@ struct Pages : ScreenTable {
     return game->box.MsgId;
   }
   void PlayRandomly(int rolls) {
+    game->settings.MessageMask = 0;
+    game->settings.ShooterBetRule = 0;
+    for (SeatState& seat : State().seats) seat.handling.WinHandling = seat.handling.LoseHandling = 2;
     std::mt19937 random(7);
     for (int n = 0; n < rolls; ++n) {
       for (const int bet : {static_cast<int>(kPassLine), kField + 0, kPlace4 + 2, kHard8 + 0})
@@ -209,7 +212,7 @@ TEST(PayoffPage, WhatCanNotBeWaitsIsToldAndKeepsTheScreenOpen) {
 
 TEST(AdvantagePage, ShowsTheFiguresOfTheRulesInForceAndSortsThem) {
   Pages window("picAdvantage");
-  window.PlayRandomly(300);
+  window.PlayRandomly(120);
   for (const int bet : {static_cast<int>(kCome), kBuy4 + 0}) window.Bet(2, bet, "20");
   Game& game = *window.game;
   const auto check = [&](double amount) {
@@ -259,7 +262,7 @@ TEST(AdvantagePage, ShowsTheFiguresOfTheRulesInForceAndSortsThem) {
   EXPECT_TRUE(told.contains(DollarFigure(together.stdevPerHour))) << told.toStdString();
   const QString session = Find<QLabel>(*window.screen, "lblSession").text();
   EXPECT_TRUE(session.contains(DollarFigure(expected) + " was")) << session.toStdString();
-  const Currency came = BankrollOf(game, kCurrentSession, 2) - Currency::Dollars(1000);
+  const Currency came = BankrollOf(game, kCurrentSession, 2) - Currency::Dollars(10000);
   EXPECT_TRUE(session.contains(DollarFigure(came.ToDouble()) + " it came to")) << session.toStdString();
   // Sorted by key, turned round, by the heading, and back in its own order.
   auto& table = window.Table("picAdvantageTable");
@@ -288,7 +291,7 @@ TEST(AdvantagePage, ShowsTheFiguresOfTheRulesInForceAndSortsThem) {
 
 TEST(CompsPage, BetsAreFlippedAndTheCompsAreThoseOfTheRules) {
   Pages window("picComps");
-  window.PlayRandomly(300);
+  window.PlayRandomly(120);
   window.screen->Refresh();
   auto& bets = window.Table("lstCompBets");
   bets.setFocus();

@@ -101,11 +101,11 @@ AdvantagePage::AdvantagePage(Game& game, SettingEditor& editor, QWidget* parent)
       tr("EV and deviation in dollars on the bet amount. Up: what the player has on the table, "
          "and what it is expected to bring in an hour. Session: what was to be expected of the "
          "bets that this session decided."));
-  AddChoices(*column);
-  column->addWidget(table_, 1);
   up_ = NewLines(this, "lblUp");
   session_ = NewLines(this, "lblSession");
   miscLines_ = NewLines(this, "lblMiscData");
+  AddChoices(*column);
+  column->addWidget(table_, 1);
   for (QLabel* label : {up_, session_, miscLines_}) column->addWidget(label);
 }
 
@@ -151,7 +151,8 @@ void AdvantagePage::AddChoices(QBoxLayout& column) {
   connect(amount_, &QLineEdit::textEdited, this, &AdvantagePage::Refresh);
   connect(players_, &QComboBox::activated, this, &AdvantagePage::Refresh);
   connect(onlyUp_, &QCheckBox::toggled, this, [this](bool only) { table_->ShowMarkedOnly(only); });
-  connect(misc_, &QCheckBox::toggled, this, &AdvantagePage::Refresh);
+  connect(misc_, &QCheckBox::toggled, this, &AdvantagePage::ShowMisc);
+  ShowMisc(false);
 }
 
 // --- What every bet is worth.
@@ -219,12 +220,15 @@ void AdvantagePage::Refresh() {
   rows.reserve(rows_.size());
   for (const AdvantageRow& row : rows_) rows.push_back(RowOf(row, seat));
   table_->SetRows(std::move(rows));
-  for (const int column : {kRollsDecision, kTimeDecision, kPays})
-    table_->setColumnHidden(column, !misc_->isChecked());
   SetIfOther(*up_, UpText(seat));
   SetIfOther(*session_, SessionText(seat));
   SetIfOther(*miscLines_, MiscText());
-  miscLines_->setVisible(misc_->isChecked());
+}
+
+void AdvantagePage::ShowMisc(bool shown) {
+  for (const int column : {kRollsDecision, kTimeDecision, kPays}) table_->setColumnHidden(column, !shown);
+  if (shown) Refresh();
+  miscLines_->setVisible(shown);
 }
 
 // --- What stands below the table.

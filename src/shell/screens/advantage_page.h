@@ -42,6 +42,7 @@ class AdvantagePage : public QWidget, public PageRows {
   void AddChoices(QBoxLayout& column);
   void FigureAgain();
   FigureRow RowOf(const AdvantageRow& row, int seat) const;
+  void ShowMisc(bool shown);
   QString UpText(int seat);
   QString SessionText(int seat) const;
   QString MiscText() const;

@@ -26,7 +26,7 @@ constexpr const char* kResultCaptions[] = {
     QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Comp bets decided"),
     QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Rolls"),
     QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Expected result"),
-    QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Average action and time"),
+    QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Avg action x time"),
     QT_TRANSLATE_NOOP("tessaryn::CompsPage", "Comp value"),
 };
 
@@ -66,10 +66,11 @@ void CompsPage::AddBets() {
   QGroupBox* group = Group(tr("Bets figured in comps"), 1);
   QFormLayout* form = FormOf(group);
   bets_ = new FiguresTable("lstCompBets", tr("Bets figured in comps"),
-                           {tr("Bet"), tr("Comps"), tr("Up"), tr("Wagered"), tr("Expected")}, group);
+                           {tr("Bet"), tr("Comps"), tr("Wagered"), tr("Expected")}, group);
   bets_->setProperty("tells", "CompBetFlags");
   bets_->setToolTip(tr("A double click or the space bar changes a bet."));
   bets_->setMinimumHeight(bets_->fontMetrics().lineSpacing() * 12);
+  bets_->setMinimumWidth(bets_->fontMetrics().averageCharWidth() * 46);
   form->addRow(bets_);
   auto* line = new QHBoxLayout;
   line->setSpacing(8);
@@ -113,7 +114,6 @@ void CompsPage::Flip() {
 FigureRow CompsPage::RowOf(int bet, int scope, int seat) const {
   const Settings& settings = game_.settings;
   const bool counts = settings.CompBetFlags.Has(bet);
-  const Currency up = seat == 0 ? kZero : game_.table.BetAmount(seat, bet);
   const Currency wagered =
       seat == 0 ? kZero : BetStat(game_.stats, kWagerStats, scope, seat, bet, kStatTotal);
   // Figured for bets that were played alone: all would take longer than a roll.
@@ -127,7 +127,6 @@ FigureRow CompsPage::RowOf(int bet, int scope, int seat) const {
           counts,
           {{FromCore(BetName(bet)), 0},
            {counts ? tr("Yes") : tr("No"), counts ? 0.0 : 1.0},
-           {up == kZero ? QString() : DollarText(up), up.ToDouble()},
            {wagered == kZero ? QString() : DollarText(wagered), wagered.ToDouble()},
            {wagered == kZero ? QString() : FigureText(expected), expected}}};
 }
@@ -155,8 +154,7 @@ void CompsPage::Refresh() {
 
 QList<QStringList> CompsPage::Rows() const {
   QList<QStringList> rows = bets_->Rows();
-  for (int n = 0; n < kResults; ++n)
-    rows += QStringList{tr(kResultCaptions[n]), results_[n]->text(), "", "", ""};
+  for (int n = 0; n < kResults; ++n) rows += QStringList{tr(kResultCaptions[n]), results_[n]->text(), "", ""};
   return rows;
 }
 

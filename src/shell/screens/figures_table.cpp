@@ -17,6 +17,9 @@ namespace {
 constexpr int kValueRole = Qt::UserRole;
 constexpr int kMarkedRole = Qt::UserRole + 1;
 constexpr int kIdRole = Qt::UserRole + 2;
+constexpr int kLeastColumn = 40;
+constexpr int kColumnMargins = 12;
+constexpr int kSortArrow = 16;
 
 }  // namespace
 
@@ -56,11 +59,13 @@ class FiguresModel : public QAbstractTableModel {
     }
   }
 
-  void SetRows(std::vector<FigureRow> rows) {
+  // Whether anything differs.
+  bool SetRows(std::vector<FigureRow> rows) {
     if (rows.size() != rows_.size()) {
       beginResetModel();
       rows_ = std::move(rows);
-      return endResetModel();
+      endResetModel();
+      return true;
     }
     int first = -1;
     int last = -1;
@@ -69,9 +74,10 @@ class FiguresModel : public QAbstractTableModel {
       if (first < 0) first = static_cast<int>(n);
       last = static_cast<int>(n);
     }
-    if (first < 0) return;
+    if (first < 0) return false;
     rows_ = std::move(rows);
     emit dataChanged(index(first, 0), index(last, columnCount() - 1));
+    return true;
   }
 
  private:
@@ -124,16 +130,32 @@ FiguresTable::FiguresTable(const char* name, const QString& tells, const QString
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   QHeaderView* header = horizontalHeader();
   header->setHighlightSections(false);
-  header->setMinimumSectionSize(fontMetrics().horizontalAdvance("-000.00") + 12);
-  header->setSectionResizeMode(QHeaderView::ResizeToContents);
-  header->setSectionResizeMode(0, QHeaderView::Stretch);
+  header->setMinimumSectionSize(kLeastColumn);
   header->setSortIndicatorClearable(true);
   header->setSortIndicator(-1, Qt::AscendingOrder);
   setSortingEnabled(true);
   setMinimumHeight(fontMetrics().lineSpacing() * 6);
+  connect(header, &QHeaderView::sortIndicatorChanged, this, [this] { FitColumns(true); });
 }
 
-void FiguresTable::SetRows(std::vector<FigureRow> rows) { model_->SetRows(std::move(rows)); }
+void FiguresTable::SetRows(std::vector<FigureRow> rows) {
+  const bool first = model_->rowCount() == 0;
+  if (model_->SetRows(std::move(rows))) FitColumns(first);
+}
+
+void FiguresTable::FitColumns(bool mayShrink) {
+  QHeaderView* header = horizontalHeader();
+  for (int column = 0; column < model_->columnCount(); ++column) {
+    const int arrow = header->sortIndicatorSection() == column ? kSortArrow : 0;
+    const QString heading = model_->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+    int width = header->fontMetrics().horizontalAdvance(heading) + arrow;
+    for (int row = 0; row < model_->rowCount(); ++row)
+      width = std::max(width, fontMetrics().horizontalAdvance(model_->index(row, column).data().toString()));
+    width = std::max(width + kColumnMargins, kLeastColumn);
+    if (header->isSectionHidden(column)) continue;
+    if (mayShrink || width > header->sectionSize(column)) header->resizeSection(column, width);
+  }
+}
 
 void FiguresTable::ShowMarkedOnly(bool only) { sorted_->ShowMarkedOnly(only); }
 
@@ -176,7 +198,7 @@ PlayerChoice::PlayerChoice(const char* name, QWidget* parent) : QComboBox(parent
   setObjectName(name);
   setAccessibleName(tr("Player"));
   setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-  setMinimumContentsLength(14);
+  setMinimumContentsLength(10);
 }
 
 void PlayerChoice::Refresh(const TableState& table) {

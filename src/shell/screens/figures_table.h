@@ -50,6 +50,9 @@ class FiguresTable : public QTableView {
 
  private:
   class Sorted;
+  // Columns as wide as what stands in them; while rolls come in they only grow.
+  void FitColumns(bool mayShrink);
+
   FiguresModel* model_;
   Sorted* sorted_;
 };

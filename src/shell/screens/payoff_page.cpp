@@ -314,7 +314,7 @@ PayoffTable::PayoffTable(QWidget* parent) : QTableView(parent) {
 }
 
 void PayoffTable::LeaveCell() {
-  if (auto* edit = viewport()->findChild<QWidget*>("txtPayoff"); edit != nullptr) {
+  if (QWidget* edit = indexWidget(currentIndex()); edit != nullptr) {
     commitData(edit);
     closeEditor(edit, QAbstractItemDelegate::NoHint);
   }
