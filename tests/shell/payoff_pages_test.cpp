@@ -21,6 +21,7 @@
 #include "rules/payoffs.h"
 #include "shell/screens/configuration.h"
 #include "shell/screens/figures_table.h"
+#include "shell/screens/screen_parts.h"
 #include "shell/screens_support.h"
 #include "shell/table/screen_tools.h"
 #include "stats/statistics.h"
@@ -232,7 +233,7 @@ TEST(AdvantagePage, ShowsTheFiguresOfTheRulesInForceAndSortsThem) {
   };
   check(100);
   EXPECT_EQ(window.Cell("picAdvantageTable", "Passline/Come", 3), "-1.41");
-  EXPECT_EQ(window.Cell("picAdvantageTable", "Passline/Come", 10), "01:41.5") << "3.38 rolls";
+  EXPECT_EQ(window.Cell("picAdvantageTable", "Passline/Come", 10), "01:41.4") << "3.38 rolls";
   // Rules, dice and what the screen itself asks for are seen at once.
   std::string error;
   ASSERT_TRUE(SetSettings(game, {{"PayoffTable.33", 0, "7 to 5"}, {"BuyVigUpFront", 0, "off"}}, error));
@@ -303,7 +304,7 @@ TEST(CompsPage, BetsAreFlippedAndTheCompsAreThoseOfTheRules) {
   QTest::mouseDClick(bets.viewport(), Qt::LeftButton, {}, at);
   EXPECT_TRUE(window.game->settings.CompBetFlags.Has(kField));
   // Sorted, a bet is still the one that is shown.
-  window.Choose("cmbCompSort", 4);
+  window.Choose("cmbCompSort", 3);
   window.Choose("cmbCompPlayer", 0);
   bets.setFocus();
   QTest::keyClick(&bets, Qt::Key_End, Qt::ControlModifier);
@@ -318,8 +319,7 @@ TEST(CompsPage, BetsAreFlippedAndTheCompsAreThoseOfTheRules) {
     Click(*window.screen, QString("optBaseComps%1").arg(base));
     const Comps comps = FigureComps(*window.game, kCurrentSession, 2);
     EXPECT_EQ(Find<QLabel>(*window.screen, "lblComps0").text(), DollarFigure(comps.totalAction.ToDouble()));
-    EXPECT_EQ(Find<QLabel>(*window.screen, "lblComps5").text().remove('$').remove(',').left(5),
-              QString::fromStdString(PlainMoney(comps.compAmount)).left(5));
+    EXPECT_EQ(Find<QLabel>(*window.screen, "lblComps5").text(), DollarText(comps.compAmount));
   }
   Click(*window.screen, "cmdCompsSelectAll");
   Click(*window.screen, "cmdCompsNo");
