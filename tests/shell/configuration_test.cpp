@@ -136,7 +136,8 @@ TEST(Configuration, EachControlDoesWhatSetDoes) {
   constexpr Radio kRadios[] = {
       {"optBarDont1", "BarNumber", "2"},        {"optBuyVig0", "BuyVigUpFront", "off"},
       {"optLayVig0", "LayVigUpFront", "off"},   {"optBankrollInitType2", "BankrollInitType", "2"},
-      {"optFontSize2", "ScreenFontSize", "13"}, {"optDiceAction1", "DiceAction", "1"}};
+      {"optFontSize2", "ScreenFontSize", "13"}, {"optDiceAction1", "DiceAction", "1"},
+      {"optBaseComps1", "CompBase", "1"}};
   int radios = 0;
   for (const ControlRow& row : ControlRows()) {
     std::string value = work(row.name, row.setting, row.kind);

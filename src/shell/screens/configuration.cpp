@@ -18,9 +18,12 @@
 
 #include "play/setting_effects.h"
 #include "rules/configuration.h"
+#include "shell/screens/advantage_page.h"
+#include "shell/screens/comps_page.h"
 #include "shell/screens/generator_page.h"
 #include "shell/screens/house_page.h"
 #include "shell/screens/looks_page.h"
+#include "shell/screens/payoff_page.h"
 #include "shell/screens/probability_page.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -83,16 +86,23 @@ QWidget* ConfigurationScreen::PageOf(const Parts& parts) {
   return new Page(parts.game, parts.parent);
 }
 
+// One that changes settings too.
+template <class Page>
+QWidget* ConfigurationScreen::EditorOf(const Parts& parts) {
+  return new Page(parts.game, parts.editor, parts.parent);
+}
+
 // In the order of their list.
 std::span<const ConfigurationScreen::TabRow> ConfigurationScreen::Tabs() {
 #define CAPTION(text) QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", text)
   static const TabRow kTabs[] = {
-      {"picHouse", CAPTION("House"),
-       [](const Parts& parts) -> QWidget* { return new HousePage(parts.game, parts.editor, parts.parent); },
-       RefreshPage<HousePage>},
+      {"picHouse", CAPTION("House"), EditorOf<HousePage>, RefreshPage<HousePage>},
       {"picBets", CAPTION("Bets"),
        [](const Parts& parts) -> QWidget* { return MakeBetsPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
+      {"picPayoffs", CAPTION("Payoffs"), EditorOf<PayoffPage>, RefreshPage<PayoffPage>},
+      {"picAdvantage", CAPTION("Advantage"), EditorOf<AdvantagePage>, RefreshPage<AdvantagePage>},
+      {"picComps", CAPTION("Comps"), EditorOf<CompsPage>, RefreshPage<CompsPage>},
       {"picLayout", CAPTION("Layout"),
        [](const Parts& parts) -> QWidget* { return MakeLayoutPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
@@ -440,6 +450,7 @@ void ConfigurationScreen::BuildAgain() {
 }
 
 QList<QStringList> ConfigurationScreen::Rows() const {
+  if (const auto* page = dynamic_cast<const PageRows*>(pages_->currentWidget())) return page->Rows();
   QList<QStringList> rows{{QCoreApplication::translate("tessaryn::ConfigurationScreen", "Tab"),
                            QCoreApplication::translate("tessaryn::ConfigurationScreen", "Setting"),
                            QCoreApplication::translate("tessaryn::ConfigurationScreen", "Name"),

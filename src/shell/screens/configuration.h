@@ -32,7 +32,7 @@ class ConfigurationScreen : public ToolWindow {
   SettingEditor& Editor() { return *editor_; }
 
   void Refresh() override;
-  // Tab, setting and value of every control.
+  // The table of the tab that is shown; without one tab, setting and value of every control.
   QList<QStringList> Rows() const override;
   // Hiding it is leaving it.
   void setVisible(bool visible) override;
@@ -47,6 +47,8 @@ class ConfigurationScreen : public ToolWindow {
   struct TabRow;
   template <class Page>
   static QWidget* PageOf(const Parts& parts);
+  template <class Page>
+  static QWidget* EditorOf(const Parts& parts);
   static std::span<const TabRow> Tabs();
   // Something that the search finds: a tab, or a control on it.
   struct Found {

@@ -12,6 +12,7 @@ constexpr const char* kLayout = "picLayout";
 constexpr const char* kBankroll = "picBankroll";
 constexpr const char* kSound = "picSound";
 constexpr const char* kMisc = "picMisc";
+constexpr const char* kComps = "picComps";
 
 constexpr const char* kLimits = CAPTION("Limits");
 constexpr const char* kOdds = CAPTION("Odds");
@@ -30,6 +31,8 @@ constexpr const char* kPointer = CAPTION("Pointer");
 constexpr const char* kFonts = CAPTION("Font size of the screens");
 constexpr const char* kDice = CAPTION("Dice on the table");
 constexpr const char* kPrinter = CAPTION("Printer");
+constexpr const char* kCompBase = CAPTION("Figure comps based on:");
+constexpr const char* kCompSession = CAPTION("For every new session:");
 
 constexpr const char* kDollars = CAPTION("dollars");
 constexpr const char* kTimes = CAPTION("x flat bet");
@@ -136,6 +139,11 @@ constexpr ControlRow kRows[] = {
      .captions = kFontCaptions},
     {kMisc, kDice, 1, "optDiceAction", CAPTION("Dice on the table"), "DiceAction", kRadio},
     {kMisc, kPrinter, 1, "chkColorPrint", CAPTION("Print in colors"), "ColorPrint", kFlag},
+
+    {kComps, kCompBase, 0, "optBaseComps", CAPTION("Figure comps based on:"), "CompBase", kRadio},
+    {kComps, kCompBase, 0, "chkCompsUseTrueProbs", CAPTION("Use true probabilities"), "CompUseTrueProbs",
+     kFlag},
+    {kComps, kCompSession, 0, "txtCompRate", CAPTION("Comp rate"), "CompRate", kNumber, "%"},
 };
 
 #undef CAPTION

@@ -160,8 +160,9 @@ void SettingEditor::GiveUp() {
 }
 
 void SettingEditor::Commit() {
-  for (SettingControl& control : controls_)
-    if (control.commit) control.commit();
+  // What is taken may add controls.
+  for (std::size_t n = 0; n < controls_.size(); ++n)
+    if (controls_[n].commit) controls_[n].commit();
 }
 
 SettingEditor::Refusal SettingEditor::FindRefusal() {
