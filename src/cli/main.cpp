@@ -52,6 +52,7 @@ int main(int argc, char** argv) {
   AddPlayCommand(program, exitCode);
   AddDiceCommand(program, exitCode);
   AddCheckCommand(program, exitCode);
+  AddFormatCommand(program, exitCode);
   AddConvertCommand(program, exitCode);
   AddAdvantageCommand(program, exitCode);
   AddProbabilitiesCommand(program, exitCode);
