@@ -53,6 +53,7 @@ int main(int argc, char** argv) {
   AddDiceCommand(program, exitCode);
   AddCheckCommand(program, exitCode);
   AddFormatCommand(program, exitCode);
+  AddLspCommand(program, exitCode);
   AddConvertCommand(program, exitCode);
   AddAdvantageCommand(program, exitCode);
   AddProbabilitiesCommand(program, exitCode);
