@@ -1,21 +1,14 @@
 // The classic systems among the samples: what each bets on known dice.
 #include <gtest/gtest.h>
 
-#include "autobet/language/vocabulary.h"
+#include "autobet/known_dice.h"
 #include "autobet/run_helpers.h"
 
 namespace tessaryn {
 namespace {
 
+using script_test::BetsUp;
 using script_test::ScriptTable;
-
-std::string BetsUp(const Game& game) {
-  std::string bets;
-  for (int bet = 1; bet <= kBets; ++bet)
-    if (const Currency amount = game.table.BetAmount(1, bet); amount > kZero)
-      bets += (bets.empty() ? "" : ", ") + std::string(BetWord(bet)) + " " + PlainMoney(amount);
-  return bets;
-}
 
 struct Step {
   int die1;
