@@ -18,13 +18,6 @@ struct CheckOptions {
   bool tokens = false;
 };
 
-ScriptSurroundings Surroundings(const CheckOptions& options) {
-  ScriptSurroundings surroundings;
-  for (std::size_t i = 0; i < options.players.size() && i < 8; ++i)
-    surroundings.seatNames[i + 1] = options.players[i].substr(0, options.players[i].rfind('='));
-  return surroundings;
-}
-
 void PrintTokens(const ScriptSurroundings& surroundings, const std::vector<std::string>& lines) {
   CompiledScript script;
   ScriptDiagnostic diagnostic;
@@ -40,7 +33,7 @@ bool CheckFile(const CheckOptions& options, const std::string& file) {
     Fail(read.problem == ScriptFileProblem::kNotFound ? file + ": File not found" : read.message);
     return false;
   }
-  const ScriptSurroundings surroundings = Surroundings(options);
+  const ScriptSurroundings surroundings = SurroundingsOfPlayers(options.players);
   const ScriptCheck check = CheckLines(surroundings, 1, lines);
   if (check.ok && options.tokens) {
     PrintTokens(surroundings, lines);

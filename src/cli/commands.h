@@ -14,6 +14,8 @@ void AddRunCommand(CLI::App& program, int& exitCode);
 void AddPlayCommand(CLI::App& program, int& exitCode);
 void AddDiceCommand(CLI::App& program, int& exitCode);
 void AddCheckCommand(CLI::App& program, int& exitCode);
+void AddFormatCommand(CLI::App& program, int& exitCode);
+void AddLspCommand(CLI::App& program, int& exitCode);
 void AddConvertCommand(CLI::App& program, int& exitCode);
 void AddAdvantageCommand(CLI::App& program, int& exitCode);
 void AddProbabilitiesCommand(CLI::App& program, int& exitCode);

@@ -52,6 +52,8 @@ int main(int argc, char** argv) {
   AddPlayCommand(program, exitCode);
   AddDiceCommand(program, exitCode);
   AddCheckCommand(program, exitCode);
+  AddFormatCommand(program, exitCode);
+  AddLspCommand(program, exitCode);
   AddConvertCommand(program, exitCode);
   AddAdvantageCommand(program, exitCode);
   AddProbabilitiesCommand(program, exitCode);

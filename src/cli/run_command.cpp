@@ -12,6 +12,7 @@
 #include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
+#include "cli/script_trace.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "play/auto_roll.h"
@@ -24,11 +25,15 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+constexpr std::size_t kLongestTrace = 1'000'000;
+
 struct RunOptions {
   TableOptions table;
   std::int64_t rolls = 1'000'000;
   std::vector<std::string> reports;
   bool json = false;
+  std::size_t trace = 0;  // of the scripts' statements the last so many are told
+  bool profile = false;   // the scripts' lines that ran most are
 };
 
 double SecondsSince(Clock::time_point start) {
@@ -166,10 +171,19 @@ std::map<std::string, ReportTable> ReportsOfRun(const Game& game, const std::vec
   return reports;
 }
 
+void PrintWatched(const Game& game, const ScriptWatch& watch) {
+  if (watch.traceLength > 0) PrintTrace(game, watch);
+  if (watch.profile) PrintProfile(game, watch);
+}
+
 int Run(const RunOptions& options) {
   CliHost host;
+  ScriptWatch watch;
+  watch.traceLength = options.trace;
+  watch.profile = options.profile;
   const std::unique_ptr<Game> game = SetUpTable(host, options.table);
   if (!game) return kBad;
+  if (options.trace > 0 || options.profile) WatchScripts(*game, &watch);
   RunFigures figures;
   for (int seat = 1; seat <= kSeats; ++seat) figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
   // Nobody is there to be asked: scripts are initialised, so that they can bet before the first roll.
@@ -189,18 +203,25 @@ int Run(const RunOptions& options) {
   figures.rolls = Throws(game->stats) - before;
   figures.stopReason = game->table.StopReason;
   const bool written = EndTable(*game, options.table);
-  if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) return Refused(figures.stopReason);
+  if (options.rolls > 0 && figures.rolls == 0 && !Interrupted()) {
+    // What the scripts did ahead of the first roll may tell why.
+    if (!options.json) PrintWatched(*game, watch);
+    return Refused(figures.stopReason);
+  }
   Json run = RunJson(*game, figures);
   if (Json sessions = SessionsJson(*game); !sessions.empty()) run["sessions"] = std::move(sessions);
   const auto reports = ReportsOfRun(*game, options.reports);
   if (const Json errors = ErrorsJson(*game); !errors.empty()) run["scriptErrors"] = errors;
   for (const auto& [name, report] : reports) run["reports"][name] = ReportJson(report);
+  if (options.trace > 0) run["trace"] = TraceJson(*game, watch);
+  if (options.profile) run["profile"] = ProfileJson(*game, watch);
   if (options.json)
     std::printf("%s\n", run.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
     PrintReport(*game, run);
   for (const auto& [name, report] : reports)
     if (!options.json) std::printf("\n%s", ReportAsText(report, "").c_str());
+  if (!options.json) PrintWatched(*game, watch);
   return written && EveryScriptCouldAct(*game) ? kDone : kBad;
 }
 
@@ -216,6 +237,13 @@ void AddRunCommand(CLI::App& program, int& exitCode) {
   for (const ReportKind& kind : ReportKinds()) names.emplace_back(kind.name);
   command->add_option("--report", options->reports, "A report over all sessions as well (repeatable)")
       ->check(CLI::IsMember(names));
+  command
+      ->add_option("--trace", options->trace,
+                   "Tell the last N statements of the scripts and what came of them")
+      ->type_name("N")
+      ->check(CLI::Range(std::size_t{1}, kLongestTrace));
+  command->add_flag("--profile", options->profile,
+                    "Tell which lines of the scripts ran most and took longest");
   command->add_flag("--json", options->json, "Print one JSON object");
   command->footer(
       "Example:\n  tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --seed 7");

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "autobet/language/characters.h"
+#include "autobet/language/script_text.h"
 #include "cli/commands.h"
 namespace tessaryn::cli {
 namespace {
@@ -60,11 +61,14 @@ std::string Shown(std::string text) {
 
 std::string CheckReport(const std::string& file, const std::vector<std::string>& lines,
                         const ScriptCheck& check) {
-  if (!check.diagnostic.Failed()) return file + ": " + AsLines(check.text) + "\n";
+  if (!check.diagnostic.Failed())
+    return file + ": " + (check.ok ? "" : "error: ") + AsLines(check.text) + "\n";
   const ScriptDiagnostic& span = check.diagnostic;
   const std::string place = file + ":" + std::to_string(span.firstLine) + ":" +
-                            std::to_string(ColumnOf(lines, span.firstLine, span.firstColumn) + 1);
-  return Shown(place + ": " + check.title + "\n" + AsLines(check.text) + "\n" + MarkedSpan(lines, span));
+                            std::to_string(ColumnOf(lines, span.firstLine, span.firstColumn) + 1) + ": ";
+  std::string text = place + "error: " + OnOneLine(span.message) + "\n" + MarkedSpan(lines, span);
+  if (!span.offer.empty()) text += place + "note: Did you mean \"" + span.offer + "\"?\n";
+  return Shown(std::move(text));
 }
 
 Json CheckJson(const std::string& file, const std::vector<std::string>& lines, const ScriptCheck& check) {
@@ -75,7 +79,9 @@ Json CheckJson(const std::string& file, const std::vector<std::string>& lines, c
           {"firstLine", span.firstLine},
           {"firstColumn", ColumnOf(lines, span.firstLine, span.firstColumn)},
           {"lastLine", span.lastLine},
-          {"lastColumn", ColumnOf(lines, span.lastLine, span.lastColumn)}};
+          {"lastColumn", ColumnOf(lines, span.lastLine, span.lastColumn)},
+          {"line", span.firstLine},
+          {"column", span.Failed() ? ColumnOf(lines, span.firstLine, span.firstColumn) + 1 : 0}};
 }
 
 std::string ErrorReport(const ScriptErrorKind& kind) {
@@ -122,6 +128,13 @@ bool EveryScriptCouldAct(const Game& game) {
   return could;
 }
 
+ScriptSurroundings SurroundingsOfPlayers(const std::vector<std::string>& players) {
+  ScriptSurroundings surroundings;
+  for (std::size_t i = 0; i < players.size() && i < kSeats; ++i)
+    surroundings.seatNames[i + 1] = players[i].substr(0, players[i].rfind('='));
+  return surroundings;
+}
+
 std::string TokenList(const CompiledScript& script) {
   std::string text;
   for (std::size_t i = 1; i < script.tokens.size(); ++i) {
@@ -130,6 +143,14 @@ std::string TokenList(const CompiledScript& script) {
     text += std::to_string(script.tokens[i].kind) + " " + std::string(value, end) + "\n";
   }
   return text;
+}
+
+std::string OnOneLine(const std::string& text) {
+  std::string line;
+  for (const char c : text)
+    if (!IsBlank(c) || (!line.empty() && line.back() != ' ')) line += IsBlank(c) ? ' ' : c;
+  while (line.ends_with(' ')) line.pop_back();
+  return line;
 }
 
 std::string AsLines(const std::string& text) {

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
@@ -40,13 +41,14 @@ TEST(CliCheck, AnUnknownWordIsMarkedInItsColumnAndTheNearestOffered) {
   WriteFile(folder.File("a.bet"), "csn1 = \"Grüße €5\"\ncsn2 = \"ü€\" : bet 5 on\tpasline\n");
   Ran ran = RunCli(folder, {"check", folder.File("a.bet")});
   EXPECT_EQ(ran.exitCode, 1);
-  EXPECT_EQ(ran.out,
-            folder.File("a.bet") +
-                ":2:24: Auto-bet script error in line 2\nUnknown or misplaced element:\n\npasline\n\n"
-                "Did you mean \"passline\"?\n     2 | csn2 = \"ü€\" : bet 5 on\tpasline\n"
-                "       |                       \t^~~~~~~\n");
+  EXPECT_EQ(ran.out, folder.File("a.bet") +
+                         ":2:24: error: Unknown or misplaced element: pasline\n"
+                         "     2 | csn2 = \"ü€\" : bet 5 on\tpasline\n"
+                         "       |                       \t^~~~~~~\n" +
+                         folder.File("a.bet") + ":2:24: note: Did you mean \"passline\"?\n");
   ran = RunCli(folder, {"check", "--json", folder.File("a.bet")});
   EXPECT_EQ(nlohmann::json::parse(ran.out)["firstColumn"], 23);
+  EXPECT_EQ(nlohmann::json::parse(ran.out)["column"], 24);
 }
 
 TEST(CliCheck, BytesThatATerminalObeysAreNotPrinted) {
@@ -65,6 +67,64 @@ TEST(CliCheck, TokensAreOneKindAndValueALine) {
   EXPECT_EQ(ran.exitCode, 0);
   // Header, first line, the stack of the script's own player, what it becomes, the end.
   EXPECT_EQ(ran.out, "-3 1\n101 0\n-12 101\n-13 1\n50 0\n-31 2.5\n102 0\n");
+}
+
+TEST(CliFormat, IndentsInPlaceOrTellsWhatItWould) {
+  TempFolder folder;
+  const std::string rough = folder.File("rough.bet");
+  const std::string text = "if comeout roll then\r\n  ' ten\r\nbet 10 on passline   \r\nendif";
+  const std::string tidy = "if comeout roll then\n   ' ten\n   bet 10 on passline\nendif\n";
+  WriteFile(rough, text);
+  Ran ran = RunCli(folder, {"format", "--stdout", rough});
+  EXPECT_EQ(ran.out, tidy) << ran.err;
+  ran = RunCli(folder, {"format", "--check", rough});
+  EXPECT_EQ(std::to_string(ran.exitCode) + ran.out, "1" + rough + "\n");
+  EXPECT_EQ(ReadFile(rough), text);
+  EXPECT_EQ(RunCli(folder, {"format", rough}).exitCode, 0);
+  EXPECT_EQ(ReadFile(rough), tidy);
+  ran = RunCli(folder, {"format", "--check", rough});
+  EXPECT_EQ(std::to_string(ran.exitCode) + ran.out, "0");
+  WriteFile(rough, "if 1 then\n");
+  ran = RunCli(folder, {"format", rough});
+  EXPECT_EQ(ran.exitCode, 1);
+  EXPECT_TRUE(ran.err.starts_with(rough + ":1:1: error: Missing ENDIF statement.")) << ran.err;
+  EXPECT_EQ(ReadFile(rough), "if 1 then\n");
+  EXPECT_EQ(RunCli(folder, {"format", folder.File("none.bet")}).exitCode, 1);
+  EXPECT_EQ(RunCli(folder, {"format", "--check", "--stdout", rough}).exitCode, 2);
+}
+
+TEST(CliRun, ATraceAndAProfileTellWhatRanAndChangeNothing) {
+  TempFolder folder;
+  WriteFile(folder.File("a.bet"),
+            "if comeout roll and passline = 0 then\nbet 10 on passline : cs1 = 1 / cs2\nendif\n");
+  const auto run = [&](std::vector<std::string> more) {
+    std::vector<std::string> words = {
+        "run",     "--data-folder", folder.Path(), "--player", "Ann=5000", "--script", folder.File("a.bet"),
+        "--rolls", "500",           "--seed",      "3",        "--json"};
+    words.insert(words.end(), more.begin(), more.end());
+    nlohmann::json object = nlohmann::json::parse(RunCli(folder, words).out);
+    for (const char* time : {"seconds", "rollsPerSecond"}) object.erase(time);
+    return object;
+  };
+  nlohmann::json watched = run({"--trace", "4", "--profile"});
+  const nlohmann::json trace = watched["trace"];
+  const nlohmann::json profile = watched["profile"];
+  ASSERT_EQ(trace.size(), 4u);
+  EXPECT_EQ(trace[3]["roll"], 500);
+  EXPECT_EQ(trace[2]["statement"], "comeout roll and passline = 0") << trace;
+  EXPECT_EQ(trace[2]["outcome"], "false");
+  double share = 0;
+  std::map<int, int> counts;
+  for (const nlohmann::json& line : profile) {
+    share += line["share"].get<double>();
+    counts[line["line"].get<int>()] = line["count"].get<int>();
+  }
+  EXPECT_NEAR(share, 100, 0.01);
+  EXPECT_EQ(counts[1], 3 * 501) << "if, condition and then, once initialising and behind each roll";
+  EXPECT_EQ(counts[2], 2 * watched["scriptErrors"][0]["count"].get<int>());
+  watched.erase("trace");
+  watched.erase("profile");
+  EXPECT_EQ(watched, run({}));
 }
 
 TEST(CliConvert, AnOldFileBecomesAScriptThatCompiles) {

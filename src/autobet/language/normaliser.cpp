@@ -455,6 +455,29 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
   return true;
 }
 
+std::vector<std::vector<ReadWord>> ReadScriptWords(const std::vector<std::string>& lines,
+                                                   const ScriptSurroundings& surroundings) {
+  const std::vector<Phrase> names = NamePhrases(surroundings);
+  std::vector<std::vector<ReadWord>> read(lines.size());
+  std::vector<WorkWord> words;
+  CompiledScript script;
+  for (std::size_t i = 0; i < lines.size(); ++i) {
+    script.strings.assign(1, {});
+    if (IsEmptyLine(lines[i]) || !ReadLine(lines[i], names, script, words)) continue;
+    for (WorkWord& word : words) {
+      ScriptToken token;
+      const bool string = ReadCode(word.text, token) && token.kind == kTokenString && token.value >= 0;
+      read[i].push_back({string ? "S" : std::move(word.text), word.begin, word.end});
+    }
+  }
+  return read;
+}
+
+bool IsKnownWord(const ReadWord& word) {
+  ScriptToken token;
+  return word.code == "S" || ParseScriptNumber(word.code, token.value) || ReadCode(word.code, token);
+}
+
 ScriptNameProblem CheckPlayerName(std::string_view name) {
   const std::string lowered = Lowered(Trimmed(name));
   double value = 0;

@@ -17,6 +17,20 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
                      const ScriptSurroundings& surroundings, CompiledScript& script,
                      ScriptDiagnostic& diagnostic);
 
+// A word or phrase of a line as the compiler reads it.
+struct ReadWord {
+  std::string code;  // a letter of the vocabulary and a number, or a number as typed; what means nothing as
+                     // it was read. A string is "S"
+  int begin = 0;  // column, in bytes
+  int end = 0;
+};
+// The words of each line from left to right, comments and articles excepted. A phrase that stands for several
+// codes comes as so many words of one span.
+std::vector<std::vector<ReadWord>> ReadScriptWords(const std::vector<std::string>& lines,
+                                                   const ScriptSurroundings& surroundings);
+// Whether a word that was read means something.
+bool IsKnownWord(const ReadWord& word);
+
 enum class ScriptNameProblem {
   kNone,
   kNumeric,       // could not be told from a number in a script

@@ -1,6 +1,7 @@
 #include "autobet/run/interpreter.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <utility>
 
@@ -12,6 +13,7 @@
 #include "autobet/run/output_file.h"
 #include "autobet/run/prepared_program.h"
 #include "autobet/run/script_errors.h"
+#include "autobet/run/script_watch.h"
 #include "autobet/run/set_variable.h"
 #include "autobet/run/take_action.h"
 #include "base/bet_catalogue.h"
@@ -35,11 +37,20 @@ ScriptSurroundings SurroundingsOf(const Game& game) {
 namespace {
 
 void Prepare(AutoBet& autobet) {
+  ScriptWatch* const watch = autobet.Prepared ? autobet.Prepared->watch : nullptr;
   autobet.Prepared.reset(new PreparedProgram);
   PrepareProgram(autobet.Program, *autobet.Prepared);
+  autobet.Prepared->watch = watch;
 }
 
 }  // namespace
+
+void WatchScripts(Game& game, ScriptWatch* watch) {
+  AutoBet& autobet = game.autobet;
+  if (!autobet.Prepared && autobet.ScriptsCompiled) Prepare(autobet);
+  if (!autobet.Prepared) autobet.Prepared.reset(new PreparedProgram);
+  autobet.Prepared->watch = watch;
+}
 
 const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroundings& surroundings,
                                        ScriptDiagnostic& diagnostic) {
@@ -223,13 +234,17 @@ std::string ErrorStep(const AutoBet& autobet, const char* first) {
   return std::string(first) + "\r" + ScriptErrorText(autobet.ScriptError, autobet.ScriptFault);
 }
 
+StatementSpan SpanOf(const PreparedProgram& program, const PreparedStatement& statement) {
+  const std::vector<PreparedStatement>& statements = program.statements;
+  const auto next = static_cast<std::size_t>(&statement - statements.data()) + 1;
+  const bool goesOn = next < statements.size() && statements[next].line == statement.line;
+  return {statement.line, statement.column, goesOn ? statements[next].column : -1};
+}
+
 // Keeps the error of a statement for who asks what came of the script.
 void NoteError(Run& run, const PreparedStatement& statement) {
   if (run.autobet().ScriptError == kErrorNone) return;
-  const std::vector<PreparedStatement>& statements = run.program.statements;
-  const auto next = static_cast<std::size_t>(&statement - statements.data()) + 1;
-  const bool goesOn = next < statements.size() && statements[next].line == statement.line;
-  NoteScriptError(run.game, {statement.line, statement.column, goesOn ? statements[next].column : -1});
+  NoteScriptError(run.game, SpanOf(run.program, statement));
 }
 
 void TakeActionStatement(Run& run, const PreparedStatement& statement) {
@@ -416,6 +431,30 @@ void PassConditions(Run& run) {
   }
 }
 
+// --- Who follows the runs.
+
+using WatchClock = std::chrono::steady_clock;
+
+StatementOutcome OutcomeOf(const Run& run, const PreparedStatement& statement) {
+  if (run.game.autobet.ScriptError != kErrorNone) return StatementOutcome::kError;
+  if (statement.kind != StatementKind::kCondition) return StatementOutcome::kDone;
+  return Holds(run.program, statement) ? StatementOutcome::kTrue : StatementOutcome::kFalse;
+}
+
+void NoteWatched(Run& run, const PreparedStatement& statement, std::int64_t rolls,
+                 WatchClock::time_point start) {
+  if (statement.kind == StatementKind::kHeader) return;
+  const AutoBet& autobet = run.autobet();
+  const StatementSpan span = SpanOf(run.program, statement);
+  const auto taken = std::chrono::duration_cast<std::chrono::nanoseconds>(WatchClock::now() - start).count();
+  NoteTraced(*run.program.watch,
+             {rolls, autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor, span.line, span.column, span.end,
+              autobet.ScriptError, OutcomeOf(run, statement)},
+             taken);
+}
+
+// Watched or not, a run does the same; a run that is not watched has no trace of it in its loop.
+template <bool kWatched>
 void RunStatements(Run& run) {
   Game& game = run.game;
   AutoBet& autobet = game.autobet;
@@ -423,13 +462,20 @@ void RunStatements(Run& run) {
   for (run.counter = 0; run.counter < count && autobet.ScriptRunning; ++run.counter) {
     const PreparedStatement& statement = run.program.statements[static_cast<std::size_t>(run.counter)];
     run.showsSteps = autobet.StepsShown && !game.table.TurboRollActive;
-    if (statement.kind == StatementKind::kIf && !run.showsSteps) {
+    if (!kWatched && statement.kind == StatementKind::kIf && !run.showsSteps) {
       PassConditions(run);
       continue;
     }
     if (run.showsSteps) run.text.clear();
     autobet.ScriptError = kErrorNone;
-    Dispatch(run, statement);
+    if constexpr (kWatched) {
+      const std::int64_t rolls = Throws(game.stats);
+      const WatchClock::time_point begin = WatchClock::now();
+      Dispatch(run, statement);
+      NoteWatched(run, statement, rolls, begin);
+    } else {
+      Dispatch(run, statement);
+    }
     if (run.showsSteps) ShowStep(run, statement);
     LetEventsPass(run, 1 + (statement.value.end - statement.value.begin) / kStatementsPerLook);
   }
@@ -463,13 +509,19 @@ void RunAutoBet(Game& game) {
   if (autobet.SessionAhead != 0 && !autobet.HotKeyRun) TakeSessionAhead(autobet);
   program->returns.clear();
   Run run{game, *program, 0, false, false, false, 0, {}};
-  RunStatements(run);
+  if (program->watch != nullptr)
+    RunStatements<true>(run);
+  else
+    RunStatements<false>(run);
   autobet.ScriptRunning = false;
   autobet.BeginningNewSession = 0;
   if (!autobet.StatusCaption.empty()) autobet.StatusCaption.clear();
   if (!game.table.TurboRollActive) FlushScriptOutputs(game);
   if (watched && autobet.StepsShown && autobet.StepsHold) EndWatchedRun(game, start);
-  if (!autobet.Prepared) autobet.Prepared = std::move(program);
+  if (!autobet.Prepared)
+    autobet.Prepared = std::move(program);
+  else
+    autobet.Prepared->watch = program->watch;
 }
 
 void RunHotKeyScript(Game& game, CompiledScript script) {
@@ -482,8 +534,10 @@ void RunHotKeyScript(Game& game, CompiledScript script) {
   autobet.ScriptInitializing = autobet.HotKeyRun = true;
   RunAutoBet(game);
   autobet.ScriptInitializing = autobet.HotKeyRun = false;
+  ScriptWatch* const watch = autobet.Prepared ? autobet.Prepared->watch : nullptr;
   autobet.Prepared.reset();
   autobet.ScriptsCompiled = false;
+  if (watch != nullptr) WatchScripts(game, watch);
 }
 
 }  // namespace tessaryn

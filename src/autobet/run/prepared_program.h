@@ -18,6 +18,7 @@ struct CallInHand;      // run/read_function.h
 struct ActionInHand;    // run/take_action.h
 struct ResolvedTarget;  // run/set_variable.h
 struct ScriptValue;     // run/set_variable.h
+struct ScriptWatch;     // run/script_watch.h
 
 // A value's place: in the numbers or in the texts. Literals have places of their own that no step writes.
 struct Operand {
@@ -243,6 +244,7 @@ struct PreparedProgram {
   std::vector<std::string> texts;     // registers
   std::size_t textRoom = 0;           // bytes that the texts have grown by
   std::vector<std::int32_t> returns;  // the run's return stack
+  ScriptWatch* watch = nullptr;       // who follows the runs; null nobody. Not owned
 };
 
 // Requires a program that CompileAutobets made.

@@ -105,9 +105,6 @@ bool ScriptFaults(Game& game, const char* text) {
   return ScriptFails(game, kErrorFault);
 }
 
-namespace {
-
-// The statement as typed, without the colon ahead of it and the comment behind it.
 std::string StatementText(const std::vector<std::string>& lines, const StatementSpan& span) {
   if (span.line < 1 || static_cast<std::size_t>(span.line) > lines.size()) return {};
   std::string_view text = lines[static_cast<std::size_t>(span.line) - 1];
@@ -122,8 +119,6 @@ std::string StatementText(const std::vector<std::string>& lines, const Statement
   if (text.starts_with(':')) text = Trimmed(text.substr(1));
   return std::string(text);
 }
-
-}  // namespace
 
 void NoteScriptError(Game& game, const StatementSpan& span) {
   const AutoBet& autobet = game.autobet;

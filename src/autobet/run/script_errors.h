@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace tessaryn {
 
@@ -66,6 +67,9 @@ struct StatementSpan {
   int column = 0;  // from 0
   int end = -1;    // the column behind it; -1 the end of the line
 };
+
+// The statement as typed, without the colon ahead of it and the comment behind it.
+std::string StatementText(const std::vector<std::string>& lines, const StatementSpan& span);
 
 // Counts the error of the statement in hand with its script's, whose it is or the hot-key's.
 void NoteScriptError(Game& game, const StatementSpan& span);
