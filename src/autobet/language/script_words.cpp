@@ -351,7 +351,8 @@ BlockStep BlockStepOf(std::string_view line) {
     const std::string word = Lowered(line.substr(span.begin, span.end - span.begin));
     const bool behindEnd = word == "if" && before == "end";
     const bool close = word == "endif" || word == "loop" || behindEnd;
-    const bool turn = word == "else" || word == "elseif";
+    // "then" turns where it stands alone, behind lines of conditions.
+    const bool turn = word == "else" || word == "elseif" || (word == "then" && before.empty());
     const bool opens = (word == "if" && before != "end" && before != "else") || word == "do";
     before = word;
     if (close) --level;
