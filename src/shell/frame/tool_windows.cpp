@@ -7,8 +7,10 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/tool_menu.h"
+#include "shell/screens/hot_keys_screen.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/roll_pad.h"
+#include "shell/screens/workshop_window.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
 
@@ -43,6 +45,17 @@ ToolWindow* MakeMovePanel(Desk& desk) {
   return panel;
 }
 
+ToolWindow* MakeWorkshop(Desk& desk) {
+  auto* workshop = new WorkshopWindow(desk.game, desk.window);
+  workshop->changed = [&desk] {
+    desk.table->Refresh();
+    desk.refresh();
+  };
+  return workshop;
+}
+
+ToolWindow* MakeHotKeys(Desk& desk) { return new HotKeysScreen(desk.game, desk.keeps, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -53,7 +66,8 @@ struct ToolRow {
   ToolWindow* (*make)(Desk&);
   bool floatsOnly = false;  // it doesn't dock, and has nothing to print
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true}, {kMoveWindow, MakeMovePanel, true}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true}, {kMoveWindow, MakeMovePanel, true},
+                              {kAutoBetWindow, MakeWorkshop},         {kHotKeysWindow, MakeHotKeys}};
 
 const ToolRow* RowOf(int number) {
   for (const ToolRow& row : kTools)
