@@ -101,6 +101,7 @@ ScriptTrial::ScriptTrial(const Game& game, int seat, const std::vector<std::stri
   parts_->game = CopyApart(game, parts_->host, parts_->folder.path);
   Game& copy = *parts_->game;
   copy.settings.RollThrottle = 0;
+  copy.settings.ShooterBetRule = 0;
   SetScript(copy, seat, lines, copy.autobet.Scripts[seat].ScriptFileName);
   SetScriptActive(copy, seat, true);
   bool given = seed != 0;

@@ -47,7 +47,8 @@ struct TrialResult {
 class ScriptTrial {
  public:
   // Of the lines as the script of an occupied seat, active; other scripts are as they are at the table. seed 0:
-  // the copy's dice go on as the table's would; else they begin at it.
+  // the copy's dice go on as the table's would; else they begin at it. Whoever shoots needs no bet for it, so that
+  // players who only stand there don't end the trial.
   ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines, std::uint32_t seed);
   ~ScriptTrial();
   ScriptTrial(const ScriptTrial&) = delete;

@@ -64,6 +64,8 @@ WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(
   markerDefine(Background, kFaultLine);
   indicatorDefine(SquiggleIndicator, kFaultIndicator);
   indicatorDefine(StraightBoxIndicator, kMatchIndicator);
+  SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
+  SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
   SendScintilla(SCI_SETMOUSEDWELLTIME, 500UL);
   SendScintilla(SCI_AUTOCSETMAXHEIGHT, 8UL);
   SendScintilla(SCI_AUTOCSETORDER, static_cast<unsigned long>(SC_ORDER_CUSTOM));

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
@@ -91,6 +92,7 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   rolls_ = new QSpinBox(this);
   rolls_->setObjectName("spnTrialRolls");
   rolls_->setAccessibleName(tr("Rolls"));
+  rolls_->findChild<QLineEdit*>()->setAccessibleName(tr("Rolls"));
   rolls_->setRange(1, kMostRolls);
   rolls_->setValue(10'000);
   rolls_->setGroupSeparatorShown(true);
@@ -133,11 +135,15 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   bets_->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
   bets_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
   bets_->verticalHeader()->hide();
+  bets_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   bets_->setShowGrid(false);
   bets_->setTabKeyNavigation(false);
   bets_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   bets_->setSelectionBehavior(QAbstractItemView::SelectRows);
   column->addWidget(bets_, 2);
+  column->addStretch();
+  curve_->hide();
+  bets_->hide();
   timer_ = new QTimer(this);
   timer_->setInterval(kLookEvery);
   connect(timer_, &QTimer::timeout, this, [this] {
@@ -215,6 +221,8 @@ void WorkshopTrial::Tell() {
   compared_->setVisible(compares);
   if (compares)
     compared_->setText(tr("Run before: %1, %2 rolls").arg(MoneyText(before_.net), locale.toString(static_cast<qlonglong>(before_.rolls))));
+  curve_->setVisible(now_.bankrolls.size() > 1);
+  bets_->setVisible(!now_.bets.empty());
   curve_->Show(now_.bankrolls, before_.bankrolls);
   bets_->setRowCount(static_cast<int>(now_.bets.size()));
   for (int row = 0; row < bets_->rowCount(); ++row) {

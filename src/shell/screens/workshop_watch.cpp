@@ -42,6 +42,7 @@ WorkshopWatch::WorkshopWatch(Game& game, QWidget* parent) : QWidget(parent), gam
   list_->horizontalHeader()->setSectionResizeMode(kValue, QHeaderView::ResizeToContents);
   list_->horizontalHeader()->setSectionResizeMode(kBefore, QHeaderView::ResizeToContents);
   list_->verticalHeader()->hide();
+  list_->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
   list_->setShowGrid(false);
   list_->setSelectionBehavior(QAbstractItemView::SelectRows);
   list_->setTabKeyNavigation(false);
@@ -86,7 +87,11 @@ void WorkshopWatch::Add(const QString& expression) {
 
 void WorkshopWatch::Refresh() {
   // In a run at full speed nobody can read them.
-  if (game_.table.TurboRollActive || Throws(game_.stats) == rolls_) return;
+  if (game_.table.TurboRollActive) return;
+  if (Throws(game_.stats) == rolls_) {
+    if (game_.table.seats[seat_].OnTableAmount.raw != money_) LookUp();
+    return;
+  }
   filling_ = true;
   for (int row = 0; row < list_->rowCount(); ++row)
     list_->item(row, kBefore)->setText(list_->item(row, kValue)->text());
@@ -94,8 +99,14 @@ void WorkshopWatch::Refresh() {
   LookUp();
 }
 
+void WorkshopWatch::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  LookUp();
+}
+
 void WorkshopWatch::LookUp() {
   rolls_ = Throws(game_.stats);
+  money_ = game_.table.seats[seat_].OnTableAmount.raw;
   if (!isVisible() || seat_ == 0) return;
   std::vector<std::string> names;
   for (int row = 0; row < list_->rowCount(); ++row)

@@ -22,6 +22,9 @@ class WorkshopWatch : public QWidget {
   void Refresh();
   void LookUp();
 
+ protected:
+  void showEvent(QShowEvent* event) override;
+
  private:
   void Changed(int row, int column);
 
@@ -30,6 +33,7 @@ class WorkshopWatch : public QWidget {
   QLineEdit* entry_;
   int seat_ = 0;
   qint64 rolls_ = -1;
+  qint64 money_ = 0;  // what the player had when the values were looked up
   bool filling_ = false;
 };
 

@@ -141,6 +141,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   for (QSplitter* splitter : {left, right, both}) splitter->setChildrenCollapsible(false);
   column->addWidget(both, 1);
   auto* foot = new QHBoxLayout;
+  foot->setSpacing(16);
   for (QLabel** label : {&place_, &fileLabel_, &permissions_}) {
     *label = new QLabel(this);
     (*label)->setTextFormat(Qt::PlainText);
@@ -502,8 +503,8 @@ void WorkshopWindow::ShowStatus() {
   int line = 0;
   int column = 0;
   editor_->getCursorPosition(&line, &column);
-  place_->setText(tr("Line %1, column %2").arg(line + 1).arg(column + 1) + "    " +
-                  (fault_.Failed() ? tr("1 error") : QString()));
+  place_->setText(tr("Line %1, column %2").arg(line + 1).arg(column + 1) +
+                  (fault_.Failed() ? "    " + tr("1 error") : QString()));
   if (seat_ == 0) {
     setWindowTitle(tr("Auto-Bet"));
     fileLabel_->setText(tr("Nobody is at the table"));
