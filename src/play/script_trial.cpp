@@ -95,7 +95,8 @@ struct ScriptTrial::Parts {
   int seat = 0;
 };
 
-ScriptTrial::ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines, std::uint32_t seed)
+ScriptTrial::ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines,
+                         std::uint32_t seed)
     : parts_(std::make_unique<Parts>()) {
   parts_->seat = parts_->host.seat = seat;
   parts_->game = CopyApart(game, parts_->host, parts_->folder.path);

@@ -1,4 +1,5 @@
-// A script tried beside the table: on a copy of it, for so many rolls, and what single words of it are worth now.
+// A script tried beside the table: on a copy of it, for so many rolls, and what single words of it are worth
+// now.
 #pragma once
 
 #include <atomic>
@@ -38,17 +39,17 @@ struct TrialResult {
   bool stopped = false;
   Currency net;  // won less lost
   Currency wagered;
-  std::vector<TrialBet> bets;         // those that were decided
-  std::vector<Currency> bankrolls;    // what the player has, bets included, at even distances; the start first
+  std::vector<TrialBet> bets;       // those that were decided
+  std::vector<Currency> bankrolls;  // what the player has, bets included, at even distances; the start first
   std::vector<ScriptErrorKind> errors;
 };
 
 // A trial that has been made ready. The table that it was made from is not touched by it.
 class ScriptTrial {
  public:
-  // Of the lines as the script of an occupied seat, active; other scripts are as they are at the table. seed 0:
-  // the copy's dice go on as the table's would; else they begin at it. Whoever shoots needs no bet for it, so that
-  // players who only stand there don't end the trial.
+  // Of the lines as the script of an occupied seat, active; other scripts are as they are at the table. seed
+  // 0: the copy's dice go on as the table's would; else they begin at it. Whoever shoots needs no bet for it,
+  // so that players who only stand there don't end the trial.
   ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines, std::uint32_t seed);
   ~ScriptTrial();
   ScriptTrial(const ScriptTrial&) = delete;
@@ -62,8 +63,8 @@ class ScriptTrial {
   std::unique_ptr<Parts> parts_;
 };
 
-// What expressions of the language are worth to a seat as the table stands, as texts; empty for one that can't
-// be told. The table is not touched.
+// What expressions of the language are worth to a seat as the table stands, as texts; empty for one that
+// can't be told. The table is not touched.
 std::vector<std::string> PresentValues(const Game& game, int seat,
                                        const std::vector<std::string>& expressions);
 

@@ -1,6 +1,4 @@
 // A person's path through the script workshop, with the keys and buttons of the real program.
-#include "shell/screens/workshop_window.h"
-
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -26,6 +24,7 @@
 #include "shell/screens/permissions_screen.h"
 #include "shell/screens/workshop_editor.h"
 #include "shell/screens/workshop_trial.h"
+#include "shell/screens/workshop_window.h"
 #include "shell/screens_support.h"
 
 namespace tessaryn::test {
@@ -53,7 +52,9 @@ struct WorkshopTable : ScreenTable {
     Editor().setFocus();
   }
   WorkshopEditor& Editor() { return workshop->Editor(); }
-  void Key(int key, Qt::KeyboardModifiers keys = Qt::NoModifier) { QTest::keyClick(&Editor(), Qt::Key(key), keys); }
+  void Key(int key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    QTest::keyClick(&Editor(), Qt::Key(key), keys);
+  }
   void Do(const char* name) { Find<QAction>(*workshop, name).trigger(); }
   QString Problems() {
     auto& list = Find<QListWidget>(*workshop, "lstProblems");
@@ -63,7 +64,8 @@ struct WorkshopTable : ScreenTable {
   // Presses a button of the steps viewer each time the run waits.
   void WhenWaiting(std::function<void(int)> work, int nth = 0) {
     QTimer::singleShot(5, &window, [this, work, nth] {
-      if (!game->autobet.StepWaiting) return game->autobet.ScriptRunning || nth == 0 ? WhenWaiting(work, nth) : void();
+      if (!game->autobet.StepWaiting)
+        return game->autobet.ScriptRunning || nth == 0 ? WhenWaiting(work, nth) : void();
       work(nth);
       if (game->autobet.ScriptRunning) WhenWaiting(work, nth + 1);
     });
@@ -106,7 +108,8 @@ TEST(Workshop, TheToldBoxesOfACheck) {
   table.host.answers.Ok();
   Click(*table.workshop, "cmdCheckScript");
   EXPECT_EQ(table.game->box.MsgText,
-            "This feature checks to see that your auto-bet script is properly structured, but presently your script is "
+            "This feature checks to see that your auto-bet script is properly structured, but presently your "
+            "script is "
             "empty.");
   table.Editor().ChangeLines({"bet 10 on field", "bet 10 on nowhere"});
   table.host.answers.Ok();
@@ -132,6 +135,25 @@ TEST(Workshop, EachPlayerHasATextOfHisOwn) {
   EXPECT_EQ(table.Editor().Lines(), Lines{"cs1 = 4"});
 }
 
+TEST(Workshop, BreakPointsStayOnTheirLinesAndTheTextInTheGame) {
+  WorkshopTable table;
+  table.Open();
+  table.Editor().ChangeLines({"cs1 = 1", "if cs1 = 1 then", "cs2 = 2", "endif"});
+  table.Editor().ToggleBreak(3);
+  table.workshop->ShowSeat(2);
+  EXPECT_FALSE(table.Editor().HasBreaks());
+  table.workshop->ShowSeat(1);
+  table.host.answers.Ok();
+  Click(*table.workshop, "cmdCheckScript");
+  EXPECT_EQ(table.Editor().Lines()[2], "   cs2 = 2");
+  EXPECT_EQ(table.Editor().Breaks(), std::set<int>{3}) << "indented anew";
+  // Behind a pause in typing the player has the text, and a saved game with him.
+  table.Editor().setCursorPosition(0, 0);
+  QTest::keyClicks(&table.Editor(), "' ");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.Script(1).ScriptLines[0] == "' cs1 = 1"; }, 5000));
+  EXPECT_TRUE(table.Script(1).Unsaved);
+}
+
 TEST(Workshop, ActivatingAsksAndStepsWaitAtABreakPoint) {
   WorkshopTable table;
   table.Open();
@@ -150,7 +172,8 @@ TEST(Workshop, ActivatingAsksAndStepsWaitAtABreakPoint) {
   EXPECT_EQ(table.game->box.MsgTitle, "Auto-Bet");
   EXPECT_GE(waited, 2);
   EXPECT_TRUE(table.game->autobet.ScriptActive[0] && table.game->autobet.ScriptActive[1]);
-  EXPECT_TRUE(QString::fromStdString(table.game->box.MsgText).contains("Ann's auto-bet script has been activated."));
+  EXPECT_TRUE(
+      QString::fromStdString(table.game->box.MsgText).contains("Ann's auto-bet script has been activated."));
   EXPECT_EQ(Find<QListWidget>(*table.workshop, "lstSteps").count(), 3);
   Click(*table.workshop, "chkAutoBetsActive");
   EXPECT_FALSE(table.game->autobet.ScriptActive[0]);
@@ -176,7 +199,8 @@ TEST(Workshop, ATrialLeavesTheTableAsItIs) {
     EXPECT_EQ(trial.Result().rolls, 500);
     ASSERT_EQ(trial.Result().bets.size(), 1u);
     EXPECT_EQ(trial.Result().bets[0].bet, kPassLine);
-    EXPECT_EQ(trial.Result().wagered, Currency::Dollars(10 * (trial.Result().bets[0].won + trial.Result().bets[0].lost)));
+    EXPECT_EQ(trial.Result().wagered,
+              Currency::Dollars(10 * (trial.Result().bets[0].won + trial.Result().bets[0].lost)));
     if (again) {
       EXPECT_EQ(trial.Result().net, first) << "the same dice";
     }
@@ -190,18 +214,22 @@ TEST(Workshop, ATrialLeavesTheTableAsItIs) {
 TEST(Workshop, WordsAreWorthWhatTheTableSays) {
   WorkshopTable table;
   table.Bet(1, kField, "15");
-  EXPECT_EQ(PresentValues(*table.game, 1, {"bankroll", "field", "cs99 + 1", "name", "no such word", "2 : cs1 = 3"}),
-            (Lines{PlainMoney(table.game->table.BankrollCurrent[1]), "15", "1", "", "", ""}));
+  EXPECT_EQ(
+      PresentValues(*table.game, 1, {"bankroll", "field", "cs99 + 1", "name", "no such word", "2 : cs1 = 3"}),
+      (Lines{PlainMoney(table.game->table.BankrollCurrent[1]), "15", "1", "", "", ""}));
 }
 
 TEST(Workshop, SpansCoverEveryWordOfTheSamples) {
   ScriptSurroundings nobody;
-  for (const char* line : {"if point is established then : bet 2 * passline on passlineodds", "start new session",
-                           "cs1 = highest(place4, place5) ' note", "show message \"if then\""})
+  for (const char* line :
+       {"if point is established then : bet 2 * passline on passlineodds", "start new session",
+        "cs1 = highest(place4, place5) ' note", "show message \"if then\""})
     for (const ScriptSpan& span : SpansOf(line, nobody))
-      EXPECT_NE(span.kind, SpanKind::kUnknown) << line << ": " << std::string(line).substr(span.begin, span.end - span.begin);
+      EXPECT_NE(span.kind, SpanKind::kUnknown)
+          << line << ": " << std::string(line).substr(span.begin, span.end - span.begin);
   const auto spans = SpansOf("bet 6 moer on place6", nobody);
-  EXPECT_TRUE(std::any_of(spans.begin(), spans.end(), [](const ScriptSpan& span) { return span.kind == SpanKind::kUnknown; }));
+  EXPECT_TRUE(std::any_of(spans.begin(), spans.end(),
+                          [](const ScriptSpan& span) { return span.kind == SpanKind::kUnknown; }));
   // Nothing hangs or leaves its line, whatever is typed.
   std::srand(7);
   for (int n = 0; n < 2000; ++n) {
@@ -280,9 +308,10 @@ TEST(Workshop, NothingIsCutAndEverythingIsNamed) {
     {
       WorkshopTable table;
       table.Open();
-      table.Editor().ChangeLines({"' Pass Line with odds.", "if comeout roll and passline = 0 then", "   bet 10 on passline",
-                                  "endif", "if point is established then", "   bet 2 * passline on passlineodds", "endif",
-                                  "bet 6 moer on place6", "show message \"hello\""});
+      table.Editor().ChangeLines({"' Pass Line with odds.", "if comeout roll and passline = 0 then",
+                                  "   bet 10 on passline", "endif", "if point is established then",
+                                  "   bet 2 * passline on passlineodds", "endif", "bet 6 moer on place6",
+                                  "show message \"hello\""});
       EXPECT_TRUE(QTest::qWaitFor([&] { return !table.Problems().isEmpty(); }, 5000));
       if (!dark) ExpectNamed(*table.workshop);
       EXPECT_LE(table.workshop->minimumSizeHint().width(), 1024);
@@ -292,7 +321,8 @@ TEST(Workshop, NothingIsCutAndEverythingIsNamed) {
       SavePicture(*table.workshop, dark ? "workshop-dark-1024" : "workshop-light-1024");
       table.Editor().ChangeLines(kGood);
       Find<QPushButton>(*table.workshop, "cmdTryIt").click();
-      EXPECT_TRUE(QTest::qWaitFor([&] { return !table.workshop->findChild<WorkshopTrial*>()->IsOn(); }, 60000));
+      EXPECT_TRUE(
+          QTest::qWaitFor([&] { return !table.workshop->findChild<WorkshopTrial*>()->IsOn(); }, 60000));
       EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().isEmpty(); }, 5000));
       Find<QTabWidget>(*table.workshop, "tabWorkshop").setCurrentIndex(2);
       table.workshop->resize(1280, 760);

@@ -56,8 +56,6 @@ constexpr Told kStructure[] = {
     {"or", "one of both holds; of whole numbers bit by bit", WordKind::kLogic},
     {"xor", "one of both holds, but not both", WordKind::kLogic},
     {"not", "holds when what follows does not", WordKind::kLogic},
-    {"any", "some member of a list", WordKind::kLogic, false, true},
-    {"all", "every member of a list", WordKind::kLogic, false, true},
     {"mod", "the rest of a division of whole numbers", WordKind::kLogic},
     {"on", "ahead of what an action is done to", WordKind::kLogic},
     {"to", "ahead of what an action is done to", WordKind::kLogic},
@@ -176,7 +174,8 @@ KnownPhrases BuildPhrases() {
     if (row.ends == RowEnds::kStem) known.stems.emplace_back(typed, KindOfToken(row.token));
   }
   // What is left out or read as another word.
-  for (const char* word : {"the", "a", "an", "of", "#", "$", "is", "end", "exit"}) add(word, WordKind::kLogic);
+  for (const char* word : {"the", "a", "an", "of", "#", "$", "is", "end", "exit"})
+    add(word, WordKind::kLogic);
   return known;
 }
 
@@ -243,7 +242,8 @@ std::size_t AddWords(std::string_view line, std::size_t at, const ScriptSurround
     next = end;
   }
   std::vector<std::string> words;
-  for (const Piece& piece : pieces) words.push_back(Lowered(line.substr(piece.begin, piece.end - piece.begin)));
+  for (const Piece& piece : pieces)
+    words.push_back(Lowered(line.substr(piece.begin, piece.end - piece.begin)));
   for (std::size_t count = pieces.size(); count > 0; --count) {
     SpanKind kind{};
     if (!FindKind(Joined(words, 0, count), kind)) continue;
@@ -334,8 +334,9 @@ std::vector<WordOffer> OffersAt(std::string_view line, std::size_t at) {
     if (typed.find_first_of("'\"") != std::string::npos) continue;
     for (const ScriptWord& word : ScriptWords()) {
       if (word.text.size() <= typed.size() || !word.text.starts_with(typed)) continue;
-      const bool known = std::any_of(offers.begin(), offers.end(),
-                                     [&word](const WordOffer& offer) { return offer.word->text == word.text; });
+      const bool known = std::any_of(offers.begin(), offers.end(), [&word](const WordOffer& offer) {
+        return offer.word->text == word.text;
+      });
       if (!known) offers.push_back({&word, line.size() - *start});
     }
   }

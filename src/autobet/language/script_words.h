@@ -15,15 +15,27 @@ enum class WordKind { kLogic, kVariable, kFunction, kModifier, kAction };
 inline constexpr int kWordKinds = 5;
 
 struct ScriptWord {
-  std::string text;       // as it is typed: "stop autoroll/turboroll", "cs1", "max("
-  std::string_view doc;   // what it reads or does; empty for another way to write a word
+  std::string text;      // as it is typed: "stop autoroll/turboroll", "cs1", "max("
+  std::string_view doc;  // what it reads or does; empty for another way to write a word
   WordKind kind = WordKind::kLogic;
 };
 
 // Those that have a meaning of their own, by kind and then by the alphabet. Built once, never changed.
 const std::vector<ScriptWord>& ScriptWords();
 
-enum class SpanKind { kLogic, kVariable, kFunction, kModifier, kAction, kNumber, kSign, kText, kComment, kPlayer, kUnknown };
+enum class SpanKind {
+  kLogic,
+  kVariable,
+  kFunction,
+  kModifier,
+  kAction,
+  kNumber,
+  kSign,
+  kText,
+  kComment,
+  kPlayer,
+  kUnknown
+};
 inline constexpr int kSpanKinds = 11;
 
 // Bytes from begin to end.
@@ -36,8 +48,8 @@ struct ScriptSpan {
 // The words of a line in their order, the longest phrase that is known as one span; blanks belong to none.
 std::vector<ScriptSpan> SpansOf(std::string_view line, const ScriptSurroundings& surroundings);
 
-// The words that begin with what has been typed ahead of a byte of a line, the longest beginning first. length:
-// the bytes that each of them takes the place of.
+// The words that begin with what has been typed ahead of a byte of a line, the longest beginning first.
+// length: the bytes that each of them takes the place of.
 struct WordOffer {
   const ScriptWord* word = nullptr;
   std::size_t length = 0;

@@ -66,8 +66,10 @@ struct ToolRow {
   ToolWindow* (*make)(Desk&);
   bool floatsOnly = false;  // it doesn't dock, and has nothing to print
 };
-constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true}, {kMoveWindow, MakeMovePanel, true},
-                              {kAutoBetWindow, MakeWorkshop},         {kHotKeysWindow, MakeHotKeys}};
+constexpr ToolRow kTools[] = {{kRollPadWindow, MakeRollPad, true},
+                              {kMoveWindow, MakeMovePanel, true},
+                              {kAutoBetWindow, MakeWorkshop},
+                              {kHotKeysWindow, MakeHotKeys}};
 
 const ToolRow* RowOf(int number) {
   for (const ToolRow& row : kTools)

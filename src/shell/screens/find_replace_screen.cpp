@@ -9,7 +9,8 @@
 
 namespace tessaryn {
 
-FindReplaceScreen::FindReplaceScreen(WorkshopEditor& editor, QWidget* parent) : QWidget(parent), editor_(editor) {
+FindReplaceScreen::FindReplaceScreen(WorkshopEditor& editor, QWidget* parent)
+    : QWidget(parent), editor_(editor) {
   setObjectName("frmFindReplace");
   auto* grid = new QGridLayout(this);
   grid->setContentsMargins(8, 8, 8, 8);

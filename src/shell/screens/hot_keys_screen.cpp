@@ -90,14 +90,16 @@ void HotKeysScreen::Refresh() {
   list_->setRowCount(static_cast<int>(keys.size()));
   for (int row = 0; row < list_->rowCount(); ++row) {
     const HotKey& key = keys[static_cast<std::size_t>(row)];
-    const QString texts[] = {"Ctrl+" + FromCore(HotKeyText(key.key)), FromCore(key.path), FromCore(key.description)};
+    const QString texts[] = {"Ctrl+" + FromCore(HotKeyText(key.key)), FromCore(key.path),
+                             FromCore(key.description)};
     for (int column = 0; column < 3; ++column) {
       QTableWidgetItem* item = list_->item(row, column);
       if (item == nullptr) list_->setItem(row, column, item = new QTableWidgetItem);
       if (item->text() != texts[column]) item->setText(texts[column]);
     }
   }
-  if (shown >= 0 && shown < list_->rowCount() && list_->currentRow() != shown) list_->setCurrentCell(shown, 0);
+  if (shown >= 0 && shown < list_->rowCount() && list_->currentRow() != shown)
+    list_->setCurrentCell(shown, 0);
   remove_->setEnabled(list_->currentRow() >= 0);
 }
 
@@ -138,7 +140,8 @@ void HotKeysScreen::Add() {
   std::string error;
   const HotKey key{Key(), ToCore(file_->text().trimmed()), ToCore(description_->text().trimmed())};
   if (!AddHotKey(game_.screen.HotKeys, key, error))
-    ShowMessage<Msg::kScriptChecked>(game_, With<"title">(MessageText<Msg::kTitleHotKey>()), With<"result">(error));
+    ShowMessage<Msg::kScriptChecked>(game_, With<"title">(MessageText<Msg::kTitleHotKey>()),
+                                     With<"result">(error));
   else if (!Write())
     game_.screen.HotKeys = before;
   Refresh();

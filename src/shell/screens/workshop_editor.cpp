@@ -74,15 +74,15 @@ WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(
   TakeColours();
   connect(this, &QsciScintillaBase::SCN_CHARADDED, this, &WorkshopEditor::CharAdded);
   connect(this, &QsciScintilla::cursorPositionChanged, this, [this] { MatchBlocks(); });
-  connect(this, &QsciScintilla::marginClicked, this,
-          [this](int margin, int line, Qt::KeyboardModifiers) {
-            if (margin != kFoldMargin) ToggleBreak(line + 1);
-          });
+  connect(this, &QsciScintilla::marginClicked, this, [this](int margin, int line, Qt::KeyboardModifiers) {
+    if (margin != kFoldMargin) ToggleBreak(line + 1);
+  });
   connect(this, &QsciScintilla::userListActivated, this, [this](int list, const QString& text) {
     if (list != kWordList) return;
     InsertWord(text.section(QString::fromUtf8("   \u2013 "), 0, 0).toStdString());
   });
-  connect(this, &QsciScintillaBase::SCN_DWELLSTART, this, [this](int position, int, int) { ShowTipAt(position); });
+  connect(this, &QsciScintillaBase::SCN_DWELLSTART, this,
+          [this](int position, int, int) { ShowTipAt(position); });
   connect(this, &QsciScintillaBase::SCN_DWELLEND, this, [](int, int, int) { QToolTip::hideText(); });
 }
 
@@ -114,7 +114,8 @@ void WorkshopEditor::TakeColours() {
 }
 
 void WorkshopEditor::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange) TakeColours();
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
+    TakeColours();
   QsciScintilla::changeEvent(event);
 }
 
@@ -149,6 +150,7 @@ QString Joined(const std::vector<std::string>& lines) {
 
 void WorkshopEditor::SetLines(const std::vector<std::string>& lines) {
   ++changing_;
+  SetBreaks({});  // marks of lines that go would gather on the first one
   setText(Joined(lines));
   SendScintilla(SCI_EMPTYUNDOBUFFER);
   setModified(false);
@@ -164,12 +166,13 @@ void WorkshopEditor::ChangeLines(const std::vector<std::string>& lines) {
   int column = 0;
   getCursorPosition(&line, &column);
   const int top = firstVisibleLine();
+  const std::set<int> breaks = Breaks();
   beginUndoAction();
-  const auto breaks = SendScintilla(SCI_GETLENGTH);
-  SendScintilla(SCI_SETTARGETRANGE, 0UL, static_cast<long>(breaks));
+  SendScintilla(SCI_SETTARGETRANGE, 0UL, static_cast<long>(SendScintilla(SCI_GETLENGTH)));
   const QByteArray bytes = Joined(lines).toUtf8();
   SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
   endUndoAction();
+  SetBreaks(breaks);
   setCursorPosition(line, std::min(column, lineLength(line)));
   setFirstVisibleLine(top);
   --changing_;
@@ -245,12 +248,26 @@ void WorkshopEditor::ClearBreaks() {
   emit breaksChanged();
 }
 
-bool WorkshopEditor::HasBreak(int line) const {
-  return (markersAtLine(line - 1) & 1u << kBreakMark) != 0;
-}
+bool WorkshopEditor::HasBreak(int line) const { return (markersAtLine(line - 1) & 1u << kBreakMark) != 0; }
 
 bool WorkshopEditor::HasBreaks() const {
   return const_cast<WorkshopEditor*>(this)->markerFindNext(0, 1u << kBreakMark) >= 0;
+}
+
+std::set<int> WorkshopEditor::Breaks() const {
+  std::set<int> breaks;
+  auto& text = const_cast<WorkshopEditor&>(*this);
+  for (int line = text.markerFindNext(0, 1u << kBreakMark); line >= 0;
+       line = text.markerFindNext(static_cast<unsigned>(line) + 1, 1u << kBreakMark))
+    breaks.insert(line + 1);
+  return breaks;
+}
+
+void WorkshopEditor::SetBreaks(const std::set<int>& breaks) {
+  markerDeleteAll(kBreakMark);
+  for (const int line : breaks)
+    if (line <= lines()) markerAdd(line - 1, kBreakMark);
+  emit breaksChanged();
 }
 
 void WorkshopEditor::ShowLineNumbers(bool shown) {
@@ -372,7 +389,8 @@ QString WorkshopEditor::PhraseAt(int line, int at) const {
   const std::string content = LineText(line - 1);
   const ScriptSurroundings nobody;
   for (const ScriptSpan& span : SpansOf(content, nobody))
-    if (at >= static_cast<int>(span.begin) && at <= static_cast<int>(span.end) && span.kind != SpanKind::kComment)
+    if (at >= static_cast<int>(span.begin) && at <= static_cast<int>(span.end) &&
+        span.kind != SpanKind::kComment)
       return QString::fromStdString(content.substr(span.begin, span.end - span.begin));
   return {};
 }

@@ -5,6 +5,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -35,6 +36,8 @@ class WorkshopEditor : public QsciScintilla {
   void ClearBreaks();
   bool HasBreak(int line) const;
   bool HasBreaks() const;
+  std::set<int> Breaks() const;
+  void SetBreaks(const std::set<int>& breaks);
   void ShowLineNumbers(bool shown);
   // In place of what has been typed of it, if anything.
   void InsertWord(const std::string& word);

@@ -82,8 +82,8 @@ void WorkshopSteps::ShowStep(const ScriptStep& step, const std::string& source) 
   const QString line = tr("Line %1: %2").arg(step.line).arg(QString::fromStdString(source).trimmed());
   line_->setText(line);
   status_->setText(FromCore(step.text));
-  auto* item = new QListWidgetItem(line + QString::fromUtf8("  \u2013  ") +
-                                   FromCore(step.text).replace('\n', ' '));
+  auto* item =
+      new QListWidgetItem(line + QString::fromUtf8("  \u2013  ") + FromCore(step.text).replace('\n', ' '));
   item->setData(kSeatRole, step.seat);
   item->setData(kLineRole, step.line);
   list_->addItem(item);

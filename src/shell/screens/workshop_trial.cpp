@@ -66,7 +66,8 @@ void TrialCurve::paintEvent(QPaintEvent*) {
   const auto path = [&](const std::vector<Currency>& curve) {
     QPainterPath line;
     for (std::size_t n = 0; n < curve.size(); ++n) {
-      const double x = area.left() + area.width() * static_cast<double>(n) / static_cast<double>(curve.size() - 1);
+      const double x =
+          area.left() + area.width() * static_cast<double>(n) / static_cast<double>(curve.size() - 1);
       n == 0 ? line.moveTo(x, y(curve[n])) : line.lineTo(x, y(curve[n]));
     }
     return line;
@@ -167,8 +168,7 @@ void WorkshopTrial::Toggle() {
   int seat = 0;
   std::vector<std::string> lines;
   if (!take || !take(seat, lines)) return;
-  if (seed_ == 0 || !same_->isChecked())
-    seed_ = 1 + QRandomGenerator::global()->bounded(kMostSeed);
+  if (seed_ == 0 || !same_->isChecked()) seed_ = 1 + QRandomGenerator::global()->bounded(kMostSeed);
   trial_ = std::make_unique<ScriptTrial>(game_, seat, lines, seed_);
   state_ = std::make_unique<TrialProgress>();
   done_ = false;
@@ -205,7 +205,8 @@ void WorkshopTrial::Tell() {
     if (now_.wagered != kZero)
       facts << tr("%1 of %2 bet").arg(PercentText(now_.net, now_.wagered), MoneyText(now_.wagered));
     facts << tr("%1 rolls in %2 s")
-                 .arg(locale.toString(static_cast<qlonglong>(now_.rolls)), locale.toString(now_.seconds, 'f', 2));
+                 .arg(locale.toString(static_cast<qlonglong>(now_.rolls)),
+                      locale.toString(now_.seconds, 'f', 2));
     if (now_.stopped) facts << tr("stopped");
     if (!now_.stopReason.empty()) facts << FromCore(now_.stopReason);
     for (const ScriptErrorKind& error : now_.errors)
@@ -220,7 +221,9 @@ void WorkshopTrial::Tell() {
   const bool compares = before_.rolls > 0 && now_.problem.empty();
   compared_->setVisible(compares);
   if (compares)
-    compared_->setText(tr("Run before: %1, %2 rolls").arg(MoneyText(before_.net), locale.toString(static_cast<qlonglong>(before_.rolls))));
+    compared_->setText(
+        tr("Run before: %1, %2 rolls")
+            .arg(MoneyText(before_.net), locale.toString(static_cast<qlonglong>(before_.rolls))));
   curve_->setVisible(now_.bankrolls.size() > 1);
   bets_->setVisible(!now_.bets.empty());
   curve_->Show(now_.bankrolls, before_.bankrolls);

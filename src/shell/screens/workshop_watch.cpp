@@ -1,9 +1,9 @@
 #include "shell/screens/workshop_watch.h"
 
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QKeyEvent>
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>

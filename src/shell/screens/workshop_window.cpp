@@ -73,18 +73,22 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
     {"menFile", QT_TRANSLATE_NOOP("WorkshopWindow", "&File"), nullptr, nullptr},
     {"mnuNew", QT_TRANSLATE_NOOP("WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
     {"mnuOpen", QT_TRANSLATE_NOOP("WorkshopWindow", "&Open ..."), "Ctrl+O", &WorkshopWindow::OpenFile},
-    {"mnuSamples", QT_TRANSLATE_NOOP("WorkshopWindow", "Sa&mples"), nullptr, nullptr, &WorkshopWindow::FillSamples},
+    {"mnuSamples", QT_TRANSLATE_NOOP("WorkshopWindow", "Sa&mples"), nullptr, nullptr,
+     &WorkshopWindow::FillSamples},
     {"mnuSave", QT_TRANSLATE_NOOP("WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
     {"mnuSaveAs", QT_TRANSLATE_NOOP("WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
     {"mnuPrintScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Print in colours ..."), nullptr,
      &WorkshopWindow::PrintScript},
     {"menEdit", QT_TRANSLATE_NOOP("WorkshopWindow", "&Edit"), nullptr, nullptr},
     {"mnuFind", QT_TRANSLATE_NOOP("WorkshopWindow", "&Find ..."), "Ctrl+F", &WorkshopWindow::FindText},
-    {"mnuReplace", QT_TRANSLATE_NOOP("WorkshopWindow", "&Replace ..."), "Ctrl+H", &WorkshopWindow::ReplaceText},
-    {"mnuCopyTo", QT_TRANSLATE_NOOP("WorkshopWindow", "&Copy to"), nullptr, nullptr, &WorkshopWindow::FillCopyTo},
+    {"mnuReplace", QT_TRANSLATE_NOOP("WorkshopWindow", "&Replace ..."), "Ctrl+H",
+     &WorkshopWindow::ReplaceText},
+    {"mnuCopyTo", QT_TRANSLATE_NOOP("WorkshopWindow", "&Copy to"), nullptr, nullptr,
+     &WorkshopWindow::FillCopyTo},
     {"mnuPasteFrom", QT_TRANSLATE_NOOP("WorkshopWindow", "&Paste from"), nullptr, nullptr,
      &WorkshopWindow::FillPasteFrom},
-    {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space", &WorkshopWindow::OfferWords},
+    {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space",
+     &WorkshopWindow::OfferWords},
     {"mnuFix", QT_TRANSLATE_NOOP("WorkshopWindow", "P&ut in the proposal"), "Ctrl+.", &WorkshopWindow::Fix},
     {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "F1", &WorkshopWindow::ShowTip},
     {"menRun", QT_TRANSLATE_NOOP("WorkshopWindow", "&Run"), nullptr, nullptr},
@@ -98,16 +102,17 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
     {"mnuBreak", QT_TRANSLATE_NOOP("WorkshopWindow", "&Break-point"), "F9", &WorkshopWindow::ToggleBreak},
     {"mnuStop", QT_TRANSLATE_NOOP("WorkshopWindow", "S&top"), "Shift+F5", &WorkshopWindow::StopScripts},
     {"mnuTryIt", QT_TRANSLATE_NOOP("WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
-    {"mnuPermissions", QT_TRANSLATE_NOOP("WorkshopWindow", "&Permissions ..."), nullptr, &WorkshopWindow::Permissions},
+    {"mnuPermissions", QT_TRANSLATE_NOOP("WorkshopWindow", "&Permissions ..."), nullptr,
+     &WorkshopWindow::Permissions},
     {"menView", QT_TRANSLATE_NOOP("WorkshopWindow", "&View"), nullptr, nullptr},
-    {"mnuShowSteps", QT_TRANSLATE_NOOP("WorkshopWindow", "Show &steps"), nullptr, &WorkshopWindow::WantSteps, nullptr,
-     true},
-    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("WorkshopWindow", "&Line numbers"), nullptr, &WorkshopWindow::Numbers,
+    {"mnuShowSteps", QT_TRANSLATE_NOOP("WorkshopWindow", "Show &steps"), nullptr, &WorkshopWindow::WantSteps,
      nullptr, true},
-    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("WorkshopWindow", "Lists of &words"), nullptr, &WorkshopWindow::Lists,
+    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("WorkshopWindow", "&Line numbers"), nullptr,
+     &WorkshopWindow::Numbers, nullptr, true},
+    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("WorkshopWindow", "Lists of &words"), nullptr,
+     &WorkshopWindow::Lists, nullptr, true},
+    {"mnuAutoIndent", QT_TRANSLATE_NOOP("WorkshopWindow", "&Auto-indent"), nullptr, &WorkshopWindow::Indent,
      nullptr, true},
-    {"mnuAutoIndent", QT_TRANSLATE_NOOP("WorkshopWindow", "&Auto-indent"), nullptr, &WorkshopWindow::Indent, nullptr,
-     true},
 };
 
 WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAutoBet", parent), game_(game) {
@@ -177,7 +182,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   editor_->tipOf = [this](const QString& word) {
     const ScriptWord* known = FindScriptWord(word.toStdString());
     QString tip;
-    if (known != nullptr) tip = word + (known->doc.empty() ? QString() : ": " + QString::fromUtf8(known->doc.data(), static_cast<int>(known->doc.size())));
+    if (known != nullptr)
+      tip = word + (known->doc.empty()
+                        ? QString()
+                        : ": " + QString::fromUtf8(known->doc.data(), static_cast<int>(known->doc.size())));
     if (known != nullptr && known->kind == WordKind::kVariable) {
       const std::string value = PresentValues(game_, seat_, {word.toStdString()}).front();
       if (!value.empty()) tip += "\n" + tr("Now: %1").arg(FromCore(value));
@@ -223,7 +231,8 @@ void WorkshopWindow::BuildMenu() {
     action->setObjectName(command.name);
     action->setCheckable(command.ticked);
   }
-  for (const char* on : {"mnuShowLineNumbers", "mnuShowSyntaxLists", "mnuAutoIndent"}) Find(on)->setChecked(true);
+  for (const char* on : {"mnuShowLineNumbers", "mnuShowSyntaxLists", "mnuAutoIndent"})
+    Find(on)->setChecked(true);
   layout()->setMenuBar(bar_);
 }
 
@@ -266,7 +275,8 @@ void WorkshopWindow::BuildBar(QBoxLayout& column) {
   button("cmdStop", tr("Stop"), &WorkshopWindow::StopScripts);
   row->addStretch();
   column.addLayout(row);
-  connect(player_, &QComboBox::activated, this, [this](int index) { ShowSeat(player_->itemData(index).toInt()); });
+  connect(player_, &QComboBox::activated, this,
+          [this](int index) { ShowSeat(player_->itemData(index).toInt()); });
   connect(active_, &QCheckBox::clicked, this, &WorkshopWindow::Activate);
 }
 
@@ -327,8 +337,9 @@ void WorkshopWindow::ListWords(int kind) {
   QList<QTreeWidgetItem*> items;
   for (const ScriptWord& word : ScriptWords())
     if (static_cast<int>(word.kind) == kind)
-      items.append(new QTreeWidgetItem({QString::fromStdString(word.text),
-                                        QString::fromUtf8(word.doc.data(), static_cast<int>(word.doc.size()))}));
+      items.append(
+          new QTreeWidgetItem({QString::fromStdString(word.text),
+                               QString::fromUtf8(word.doc.data(), static_cast<int>(word.doc.size()))}));
   words_->addTopLevelItems(items);
 }
 
@@ -425,7 +436,8 @@ void WorkshopWindow::ListPlayers() {
     player_->clear();
     for (int n = 0; n < wanted.size(); ++n) player_->addItem(wanted[n], seats[n]);
   }
-  if (!IsOccupied(game_.table, seat_)) seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : seats.value(0);
+  if (!IsOccupied(game_.table, seat_))
+    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : seats.value(0);
   player_->setCurrentIndex(static_cast<int>(seats.indexOf(seat_)));
 }
 
@@ -435,14 +447,12 @@ void WorkshopWindow::ShowSeat(int seat) {
   Place& left = places_[seat_];
   editor_->getCursorPosition(&left.line, &left.column);
   left.top = editor_->firstVisibleLine();
-  left.breaks.clear();
-  for (int line = 1; line <= editor_->lines(); ++line)
-    if (editor_->HasBreak(line)) left.breaks.insert(line);
+  left.breaks = editor_->Breaks();
   seat_ = seat;
   player_->setCurrentIndex(player_->findData(seat));
   Load();
   const Place& kept = places_[seat];
-  for (const int line : kept.breaks) editor_->ToggleBreak(line);
+  editor_->SetBreaks(kept.breaks);
   editor_->setCursorPosition(kept.line, kept.column);
   editor_->setFirstVisibleLine(kept.top);
 }
@@ -484,7 +494,8 @@ void WorkshopWindow::Refresh() {
   active_->setEnabled(seat_ != 0);
   active_->setChecked(seat_ != 0 && autobet.ScriptActive[seat_]);
   logging_->setChecked(autobet.BetLogging);
-  while (logged_->count() > static_cast<int>(autobet.LoggedBets.size())) delete logged_->takeItem(logged_->count() - 1);
+  while (logged_->count() > static_cast<int>(autobet.LoggedBets.size()))
+    delete logged_->takeItem(logged_->count() - 1);
   while (logged_->count() < static_cast<int>(autobet.LoggedBets.size()))
     logged_->addItem(FromCore(autobet.LoggedBets[static_cast<std::size_t>(logged_->count())]));
   if (autobet.StepsShown && !wantsSteps_ && !editor_->HasBreaks() && runTo_ == 0 && !autobet.StepMode) {
@@ -516,7 +527,8 @@ void WorkshopWindow::ShowStatus() {
                            ? tr("untitled")
                            : FromCore(script.ScriptFileName).section(QRegularExpression("[/\\\\]"), -1);
   const bool unsaved = script.Unsaved || editor_->isModified();
-  setWindowTitle(tr("Auto-Bet - %1 - %2").arg(FromCore(game_.table.seats[seat_].SeatName), file) + (unsaved ? "*" : ""));
+  setWindowTitle(tr("Auto-Bet - %1 - %2").arg(FromCore(game_.table.seats[seat_].SeatName), file) +
+                 (unsaved ? "*" : ""));
   fileLabel_->setText(unsaved ? tr("%1, not saved").arg(file) : file);
   QStringList may;
   if (script.AllowAct4Others) may << tr("may act for other players");
@@ -540,8 +552,10 @@ bool WorkshopWindow::MayLeaveScript() {
   Store();
   if (seat_ == 0) return false;
   if (!AskBeforeCommand(game_)) return false;
+  if (OfferToSaveLoggedBets(game_)) SaveLogged();
   if (!game_.autobet.Scripts[seat_].Unsaved || stored_.empty()) return true;
-  const int answer = ShowMessage<Msg::kAskSaveScript>(game_, With<"player">(game_.table.seats[seat_].SeatName));
+  const int answer =
+      ShowMessage<Msg::kAskSaveScript>(game_, With<"player">(game_.table.seats[seat_].SeatName));
   return answer == kResultNo || (answer == kResultYes && Save());
 }
 
@@ -572,7 +586,8 @@ bool WorkshopWindow::Save() {
   if (path.empty()) return SaveAs();
   std::string error;
   const bool saved = SaveScript(game_, seat_, path, error);
-  if (!saved) ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+  if (!saved)
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
   if (saved) editor_->setModified(false);
   ShowStatus();
   return saved;
@@ -677,15 +692,16 @@ void WorkshopWindow::CheckSoon() {
 void WorkshopWindow::CheckInBackground() {
   if (seat_ == 0) return TakeCheck({});
   checks_.clear();
-  checks_.start([this, edition = edition_, seat = seat_, lines = editor_->Lines(), around = SurroundingsOf(game_)] {
-    const ScriptCheck check = CheckLines(around, seat, lines);
-    QMetaObject::invokeMethod(
-        this,
-        [this, edition, check] {
-          if (edition == edition_) TakeCheck(check);
-        },
-        Qt::QueuedConnection);
-  });
+  checks_.start(
+      [this, edition = edition_, seat = seat_, lines = editor_->Lines(), around = SurroundingsOf(game_)] {
+        const ScriptCheck check = CheckLines(around, seat, lines);
+        QMetaObject::invokeMethod(
+            this,
+            [this, edition, check] {
+              if (edition == edition_) TakeCheck(check);
+            },
+            Qt::QueuedConnection);
+      });
 }
 
 void WorkshopWindow::TakeCheck(const ScriptCheck& check) {
@@ -694,8 +710,7 @@ void WorkshopWindow::TakeCheck(const ScriptCheck& check) {
   problems_->clear();
   if (fault_.Failed()) {
     problems_->addItem(FromCore(check.title) + "\n" + FromCore(check.text).replace("\n\n", "\n"));
-    if (!fault_.offer.empty())
-      problems_->addItem(tr("Ctrl+. puts in \"%1\"").arg(FromCore(fault_.offer)));
+    if (!fault_.offer.empty()) problems_->addItem(tr("Ctrl+. puts in \"%1\"").arg(FromCore(fault_.offer)));
   }
   tabs_->setTabText(0, fault_.Failed() ? tr("Problems (1)") : tr("Problems"));
   ShowStatus();
@@ -732,7 +747,9 @@ void WorkshopWindow::Check() {
 void WorkshopWindow::Fix() {
   if (!fault_.Failed() || fault_.offer.empty()) return;
   const std::string& told = fault_.message;
-  const QString word = FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1)).trimmed();
+  const QString word =
+      FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1))
+          .trimmed();
   if (word.isEmpty()) return;
   for (int line = fault_.firstLine - 1; line < fault_.lastLine; ++line) {
     const int from = line == fault_.firstLine - 1 ? fault_.firstColumn : 0;
@@ -814,7 +831,8 @@ void WorkshopWindow::WantSteps() {
 void WorkshopWindow::StepsChanged() {
   AutoBet& autobet = game_.autobet;
   bool breaks = editor_->HasBreaks();
-  for (int seat = 1; seat <= kSeats; ++seat) breaks = breaks || (seat != seat_ && !places_[seat].breaks.empty());
+  for (int seat = 1; seat <= kSeats; ++seat)
+    breaks = breaks || (seat != seat_ && !places_[seat].breaks.empty());
   autobet.StepsShown = wantsSteps_ || breaks || runTo_ > 0 || autobet.StepMode;
   autobet.StepsHold = wantsSteps_;
   steps_->Refresh();
@@ -826,7 +844,8 @@ void WorkshopWindow::ShowStep(const ScriptStep& step) {
   const std::string source = step.line >= 1 && step.line <= static_cast<int>(lines.size())
                                  ? lines[static_cast<std::size_t>(step.line) - 1]
                                  : std::string();
-  const bool breaks = step.seat == seat_ ? editor_->HasBreak(step.line) : places_[step.seat].breaks.count(step.line) != 0;
+  const bool breaks =
+      step.seat == seat_ ? editor_->HasBreak(step.line) : places_[step.seat].breaks.count(step.line) != 0;
   if (breaks || (runTo_ == step.line && step.seat == seat_)) {
     runTo_ = 0;
     autobet.StepMode = true;
@@ -865,7 +884,9 @@ void WorkshopWindow::ReplaceText() {
 void WorkshopWindow::OfferWords() { editor_->OfferWords(true); }
 void WorkshopWindow::ShowTip() { editor_->ShowTip(); }
 void WorkshopWindow::Numbers() { editor_->ShowLineNumbers(Find("mnuShowLineNumbers")->isChecked()); }
-void WorkshopWindow::Lists() { tabs_->setTabVisible(tabs_->indexOf(wordsTab_), Find("mnuShowSyntaxLists")->isChecked()); }
+void WorkshopWindow::Lists() {
+  tabs_->setTabVisible(tabs_->indexOf(wordsTab_), Find("mnuShowSyntaxLists")->isChecked());
+}
 void WorkshopWindow::Indent() { editor_->autoIndent = Find("mnuAutoIndent")->isChecked(); }
 
 // --- Logged bets.
@@ -876,7 +897,8 @@ void WorkshopWindow::InsertLogged() {
   std::vector<std::string> lines;
   const char* condition = kConditions[condition_->currentIndex()];
   if (condition != nullptr) lines.emplace_back(condition);
-  for (const std::string& bet : autobet.LoggedBets) lines.push_back((condition != nullptr ? "   " : "") + bet);
+  for (const std::string& bet : autobet.LoggedBets)
+    lines.push_back((condition != nullptr ? "   " : "") + bet);
   if (condition != nullptr) lines.emplace_back("endif");
   autobet.LoggedBets.clear();
   autobet.LoggedBetsUnsaved = false;

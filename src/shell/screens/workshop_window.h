@@ -150,7 +150,7 @@ class WorkshopWindow : public ToolWindow {
   QLabel* permissions_;
   QTimer* pause_;
   QThreadPool checks_;
-  int seat_ = 0;  // 0: nobody is at the table
+  int seat_ = 0;                     // 0: nobody is at the table
   std::vector<std::string> stored_;  // the lines as the player has them
   std::string storedFile_;
   quint64 edition_ = 0;  // of the text; a check of an older one says nothing
