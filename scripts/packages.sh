@@ -7,6 +7,7 @@ PACKAGES=(
   g++ cmake ninja-build pkg-config ccache
   libcli11-dev nlohmann-json3-dev libreadline-dev
   libgtest-dev libbenchmark-dev
+  libqscintilla2-qt6-dev
   qt6-base-dev qt6-multimedia-dev qt6-charts-dev libqt6opengl6-dev qt6-svg-dev libgl1-mesa-dri fonts-dejavu-core
   xvfb xdotool poppler-utils
 )

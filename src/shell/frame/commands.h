@@ -10,6 +10,7 @@ class QMenu;
 namespace tessaryn {
 
 struct Desk;
+struct ScriptStep;
 
 // What a command does about a run or a script that is on.
 enum class InRun {
@@ -48,6 +49,9 @@ std::span<const CommandRow> ScriptCommands();
 std::span<const CommandRow> StatisticsCommands();
 std::span<const CommandRow> ViewCommands();
 std::span<const CommandRow> HelpCommands();
+
+// A statement of a script was carried out, and somebody wants to see it: in the workshop, which is opened.
+void ShowScriptStep(Desk& desk, const ScriptStep& step);
 
 // Keys without a modifier stay free for entry boxes; 0 for a shortcut with one.
 int PlainKeyCode(const char* key);

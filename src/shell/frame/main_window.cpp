@@ -106,6 +106,7 @@ MainWindow::~MainWindow() {
   host_.askSettlement = nullptr;
   host_.graphPageFull = nullptr;
   host_.betweenRolls = nullptr;
+  host_.showStep = nullptr;
 }
 
 void MainWindow::BuildBody() {
@@ -285,6 +286,7 @@ void MainWindow::ConnectHost() {
   host_.beforeBox = [this] { ShowState(); };
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
   host_.showWin = [this](Game&) { table_->RainChecks(); };
+  host_.showStep = [this](Game&, const ScriptStep& step) { ShowScriptStep(desk_, step); };
   host_.betweenRolls = [this](Game&) { Autosave(); };
   host_.showProgress = [this](Game& game) {
     turbo_->Refresh(game);

@@ -5,7 +5,9 @@
 #include "play/script_session.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/tool_windows.h"
 #include "shell/screens/file_chooser.h"
+#include "shell/screens/workshop_window.h"
 #include "shell/table/table_widget.h"
 #include "state/show_message.h"
 
@@ -99,8 +101,25 @@ std::span<const CommandRow> ScriptCommands() {
       {},
       {"mnuHotKey", QT_TRANSLATE_NOOP("Commands", "Assign a &hot-key ..."), nullptr, kAsks, ChooseHotKey,
        IsFree},
+      {},
+      {.name = "mnuAutoBet",
+       .caption = QT_TRANSLATE_NOOP("Commands", "Auto-Bet &workshop"),
+       .key = "F4",
+       .act = [](Desk& desk) { ToggleTool(desk, kAutoBetWindow); },
+       .ticked = [](const Desk& desk) { return ToolIsShown(desk, kAutoBetWindow); }},
+      {.name = "mnuHotKeys",
+       .caption = QT_TRANSLATE_NOOP("Commands", "Hot-&keys"),
+       .act = [](Desk& desk) { ToggleTool(desk, kHotKeysWindow); },
+       .ticked = [](const Desk& desk) { return ToolIsShown(desk, kHotKeysWindow); }},
   };
   return kCommands;
+}
+
+void ShowScriptStep(Desk& desk, const ScriptStep& step) {
+  auto* workshop = dynamic_cast<WorkshopWindow*>(&Tool(desk, kAutoBetWindow));
+  if (workshop == nullptr) return;
+  if (!ToolIsShown(desk, kAutoBetWindow)) ShowTool(desk, kAutoBetWindow, true);
+  workshop->ShowStep(step);
 }
 
 }  // namespace tessaryn

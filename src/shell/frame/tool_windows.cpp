@@ -15,6 +15,7 @@
 #include "shell/screens/configuration.h"
 #include "shell/screens/events_log_screen.h"
 #include "shell/screens/laboratory_screen.h"
+#include "shell/screens/hot_keys_screen.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/probability_page.h"
 #include "shell/screens/report_window.h"
@@ -22,6 +23,7 @@
 #include "shell/screens/roll_pad.h"
 #include "shell/screens/sessions_log_screen.h"
 #include "shell/table/screen_tools.h"
+#include "shell/screens/workshop_window.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
 
@@ -104,6 +106,17 @@ ToolWindow* MakeLaboratory(Desk& desk) {
   return laboratory;
 }
 
+ToolWindow* MakeWorkshop(Desk& desk) {
+  auto* workshop = new WorkshopWindow(desk.game, desk.window);
+  workshop->changed = [&desk] {
+    desk.table->Refresh();
+    desk.refresh();
+  };
+  return workshop;
+}
+
+ToolWindow* MakeHotKeys(Desk& desk) { return new HotKeysScreen(desk.game, desk.keeps, desk.window); }
+
 WindowPlace& KeptPlace(ScreenState& screen, int number) {
   return number < kRecordedWindows ? screen.ToolWindows[number]
                                    : screen.FurtherPlaces[number - kRecordedWindows];
@@ -131,6 +144,8 @@ constexpr ToolRow kTools[] = {
     {kEventsLogWindow, MakeLog<EventsLogScreen>},
     {kConfigurationWindow, MakeConfiguration},
     {kLaboratoryWindow, MakeLaboratory},
+    {kAutoBetWindow, MakeWorkshop},
+    {kHotKeysWindow, MakeHotKeys},
 };
 
 const ToolRow* RowOf(int number) {

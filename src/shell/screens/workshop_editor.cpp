@@ -1,0 +1,412 @@
+#include "shell/screens/workshop_editor.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QToolTip>
+#include <algorithm>
+
+#include "autobet/language/script_text.h"
+#include "autobet/language/script_words.h"
+#include "shell/screens/script_lexer.h"
+#include "shell/table/screen_tools.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kNumberMargin = 0;
+constexpr int kMarkMargin = 1;
+constexpr int kFoldMargin = 2;
+constexpr int kFaultMark = 1;
+constexpr int kBreakMark = 2;
+constexpr int kStepMark = 3;
+constexpr int kStepLine = 4;
+constexpr int kFaultLine = 5;
+constexpr int kFaultIndicator = 8;
+constexpr int kMatchIndicator = 9;
+constexpr int kWordList = 1;
+constexpr int kIndent = 3;
+constexpr std::size_t kMostOffers = 60;
+constexpr int kFarthestMatch = 3000;  // lines
+
+QString OfferText(const ScriptWord& word) {
+  QString text = QString::fromStdString(word.text);
+  if (!word.doc.empty())
+    text += QString::fromUtf8("   \u2013 ") +
+            QString::fromUtf8(word.doc.data(), static_cast<int>(std::min<std::size_t>(word.doc.size(), 60)));
+  return text;
+}
+
+}  // namespace
+
+WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(new ScriptLexer(this)) {
+  setObjectName("txtScript");
+  setAccessibleName(tr("Script"));
+  setUtf8(true);
+  setEolMode(EolUnix);
+  setLexer(lexer_);
+  setIndentationWidth(kIndent);
+  setIndentationsUseTabs(false);
+  setTabWidth(kIndent);
+  setBackspaceUnindents(true);
+  setBraceMatching(SloppyBraceMatch);
+  setCaretLineVisible(false);
+  setMarginType(kMarkMargin, SymbolMargin);
+  setMarginWidth(kMarkMargin, 18);
+  setMarginSensitivity(kMarkMargin, true);
+  setMarginMarkerMask(kMarkMargin, 1 << kFaultMark | 1 << kBreakMark | 1 << kStepMark);
+  setMarginMarkerMask(kNumberMargin, 0);
+  setMarginSensitivity(kNumberMargin, true);
+  setFolding(PlainFoldStyle, kFoldMargin);
+  markerDefine(RightTriangle, kStepMark);
+  markerDefine(Circle, kBreakMark);
+  markerDefine(Bookmark, kFaultMark);
+  markerDefine(Background, kStepLine);
+  markerDefine(Background, kFaultLine);
+  indicatorDefine(SquiggleIndicator, kFaultIndicator);
+  indicatorDefine(StraightBoxIndicator, kMatchIndicator);
+  SendScintilla(SCI_SETSCROLLWIDTH, 1UL);
+  SendScintilla(SCI_SETSCROLLWIDTHTRACKING, 1UL);
+  SendScintilla(SCI_SETMOUSEDWELLTIME, 500UL);
+  SendScintilla(SCI_AUTOCSETMAXHEIGHT, 8UL);
+  SendScintilla(SCI_AUTOCSETORDER, static_cast<unsigned long>(SC_ORDER_CUSTOM));
+  SendScintilla(SCI_AUTOCSETAUTOHIDE, 1UL);
+  ShowLineNumbers(true);
+  TakeColours();
+  connect(this, &QsciScintillaBase::SCN_CHARADDED, this, &WorkshopEditor::CharAdded);
+  connect(this, &QsciScintilla::cursorPositionChanged, this, [this] { MatchBlocks(); });
+  connect(this, &QsciScintilla::marginClicked, this, [this](int margin, int line, Qt::KeyboardModifiers) {
+    if (margin != kFoldMargin) ToggleBreak(line + 1);
+  });
+  connect(this, &QsciScintilla::userListActivated, this, [this](int list, const QString& text) {
+    if (list != kWordList) return;
+    InsertWord(text.section(QString::fromUtf8("   \u2013 "), 0, 0).toStdString());
+  });
+  connect(this, &QsciScintillaBase::SCN_DWELLSTART, this,
+          [this](int position, int, int) { ShowTipAt(position); });
+  connect(this, &QsciScintillaBase::SCN_DWELLEND, this, [](int, int, int) { QToolTip::hideText(); });
+}
+
+void WorkshopEditor::TakeColours() {
+  const QPalette palette = QApplication::palette();
+  const bool dark = palette.color(QPalette::Base).lightness() < 128;
+  lexer_->TakeColours(palette);
+  setPaper(palette.color(QPalette::Base));
+  setColor(palette.color(QPalette::Text));
+  setCaretForegroundColor(palette.color(QPalette::Text));
+  setSelectionBackgroundColor(palette.color(QPalette::Highlight));
+  setSelectionForegroundColor(palette.color(QPalette::HighlightedText));
+  setMarginsFont(lexer_->defaultFont());
+  setMarginsBackgroundColor(palette.color(QPalette::Window));
+  setMarginsForegroundColor(palette.color(QPalette::WindowText));
+  setFoldMarginColors(palette.color(QPalette::Window), palette.color(QPalette::Window));
+  const QColor red = dark ? QColor(255, 110, 100) : QColor(179, 38, 30);
+  const QColor green = dark ? QColor(80, 190, 140) : QColor(11, 107, 74);
+  setMarkerBackgroundColor(red, kFaultMark);
+  setMarkerForegroundColor(red, kFaultMark);
+  setMarkerBackgroundColor(dark ? QColor(210, 120, 60) : QColor(200, 90, 20), kBreakMark);
+  setMarkerForegroundColor(palette.color(QPalette::WindowText), kBreakMark);
+  setMarkerBackgroundColor(green, kStepMark);
+  setMarkerForegroundColor(green, kStepMark);
+  setMarkerBackgroundColor(dark ? QColor(28, 66, 52) : QColor(215, 235, 226), kStepLine);
+  setMarkerBackgroundColor(dark ? QColor(74, 36, 36) : QColor(255, 233, 231), kFaultLine);
+  setIndicatorForegroundColor(red, kFaultIndicator);
+  setIndicatorForegroundColor(green, kMatchIndicator);
+}
+
+void WorkshopEditor::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
+    TakeColours();
+  QsciScintilla::changeEvent(event);
+}
+
+// --- The text.
+
+std::vector<std::string> WorkshopEditor::Lines() const {
+  const QByteArray bytes = text().toUtf8();
+  std::vector<std::string> lines;
+  std::string line;
+  for (const char c : bytes) {
+    if (c == '\r') continue;
+    if (c != '\n') {
+      line += c;
+      continue;
+    }
+    lines.push_back(std::move(line));
+    line.clear();
+  }
+  if (!line.empty()) lines.push_back(std::move(line));
+  return lines;
+}
+
+namespace {
+
+QString Joined(const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + "\n";
+  return QString::fromStdString(text);
+}
+
+}  // namespace
+
+void WorkshopEditor::SetLines(const std::vector<std::string>& lines) {
+  ++changing_;
+  SetBreaks({});  // marks of lines that go would gather on the first one
+  setText(Joined(lines));
+  SendScintilla(SCI_EMPTYUNDOBUFFER);
+  setModified(false);
+  MarkFault({});
+  MarkStep(0);
+  --changing_;
+}
+
+void WorkshopEditor::ChangeLines(const std::vector<std::string>& lines) {
+  if (lines == Lines()) return;
+  ++changing_;
+  int line = 0;
+  int column = 0;
+  getCursorPosition(&line, &column);
+  const int top = firstVisibleLine();
+  const std::set<int> breaks = Breaks();
+  beginUndoAction();
+  SendScintilla(SCI_SETTARGETRANGE, 0UL, static_cast<long>(SendScintilla(SCI_GETLENGTH)));
+  const QByteArray bytes = Joined(lines).toUtf8();
+  SendScintilla(SCI_REPLACETARGET, static_cast<unsigned long>(bytes.size()), bytes.constData());
+  endUndoAction();
+  SetBreaks(breaks);
+  setCursorPosition(line, std::min(column, lineLength(line)));
+  setFirstVisibleLine(top);
+  --changing_;
+}
+
+std::string WorkshopEditor::LineText(int line) const {
+  std::string content = text(line).toStdString();
+  while (!content.empty() && (content.back() == '\n' || content.back() == '\r')) content.pop_back();
+  return content;
+}
+
+int WorkshopEditor::CursorLine() const {
+  int line = 0;
+  int column = 0;
+  getCursorPosition(&line, &column);
+  return line + 1;
+}
+
+void WorkshopEditor::SetSurroundings(const ScriptSurroundings& surroundings) {
+  lexer_->SetSurroundings(surroundings);
+}
+
+// --- Marks.
+
+void WorkshopEditor::MarkFault(const ScriptDiagnostic& fault) {
+  clearIndicatorRange(0, 0, std::max(lines() - 1, 0), lineLength(std::max(lines() - 1, 0)), kFaultIndicator);
+  markerDeleteAll(kFaultMark);
+  markerDeleteAll(kFaultLine);
+  if (!fault.Failed()) return;
+  const int first = std::clamp(fault.firstLine - 1, 0, std::max(lines() - 1, 0));
+  const int last = std::clamp(fault.lastLine - 1, first, std::max(lines() - 1, 0));
+  int end = std::min(fault.lastColumn, static_cast<int>(text(last).size()));
+  if (first == last && end <= fault.firstColumn) end = static_cast<int>(text(last).size());
+  fillIndicatorRange(first, fault.firstColumn, last, end, kFaultIndicator);
+  markerAdd(first, kFaultMark);
+  for (int line = first; line <= last; ++line) markerAdd(line, kFaultLine);
+}
+
+void WorkshopEditor::SelectSpan(const ScriptDiagnostic& span) {
+  if (!span.Failed()) return;
+  const int first = std::clamp(span.firstLine - 1, 0, std::max(lines() - 1, 0));
+  const int last = std::clamp(span.lastLine - 1, first, std::max(lines() - 1, 0));
+  ensureLineVisible(last);
+  setSelection(first, std::min(span.firstColumn, lineLength(first)), last,
+               std::min(span.lastColumn, lineLength(last)));
+  ensureCursorVisible();
+}
+
+void WorkshopEditor::MarkStep(int line) {
+  if (line == stepMark_) return;
+  stepMark_ = line;
+  markerDeleteAll(kStepMark);
+  markerDeleteAll(kStepLine);
+  if (line <= 0) return;
+  markerAdd(line - 1, kStepMark);
+  markerAdd(line - 1, kStepLine);
+  ensureLineVisible(line - 1);
+  QString content = text(line - 1);
+  while (content.endsWith('\n') || content.endsWith('\r')) content.chop(1);
+  setSelection(line - 1, 0, line - 1, static_cast<int>(content.size()));
+}
+
+void WorkshopEditor::ToggleBreak(int line) {
+  if (HasBreak(line))
+    markerDelete(line - 1, kBreakMark);
+  else
+    markerAdd(line - 1, kBreakMark);
+  emit breaksChanged();
+}
+
+void WorkshopEditor::ClearBreaks() {
+  markerDeleteAll(kBreakMark);
+  emit breaksChanged();
+}
+
+bool WorkshopEditor::HasBreak(int line) const { return (markersAtLine(line - 1) & 1u << kBreakMark) != 0; }
+
+bool WorkshopEditor::HasBreaks() const {
+  return const_cast<WorkshopEditor*>(this)->markerFindNext(0, 1u << kBreakMark) >= 0;
+}
+
+std::set<int> WorkshopEditor::Breaks() const {
+  std::set<int> breaks;
+  auto& text = const_cast<WorkshopEditor&>(*this);
+  for (int line = text.markerFindNext(0, 1u << kBreakMark); line >= 0;
+       line = text.markerFindNext(static_cast<unsigned>(line) + 1, 1u << kBreakMark))
+    breaks.insert(line + 1);
+  return breaks;
+}
+
+void WorkshopEditor::SetBreaks(const std::set<int>& breaks) {
+  markerDeleteAll(kBreakMark);
+  for (const int line : breaks)
+    if (line <= lines()) markerAdd(line - 1, kBreakMark);
+  emit breaksChanged();
+}
+
+void WorkshopEditor::ShowLineNumbers(bool shown) {
+  setMarginLineNumbers(kNumberMargin, shown);
+  if (shown)
+    setMarginWidth(kNumberMargin, "00000");
+  else
+    setMarginWidth(kNumberMargin, 0);
+}
+
+// --- Words.
+
+void WorkshopEditor::InsertWord(const std::string& word) {
+  int line = 0;
+  int column = 0;
+  getCursorPosition(&line, &column);
+  const std::string content = LineText(line);
+  const std::size_t at = QString::fromStdString(content).left(column).toUtf8().size();
+  std::size_t length = 0;
+  for (const WordOffer& offer : OffersAt(content, at))
+    if (offer.word->text == word) length = std::max(length, offer.length);
+  beginUndoAction();
+  if (length > 0) {
+    const auto position = SendScintilla(SCI_GETCURRENTPOS);
+    SendScintilla(SCI_SETSEL, static_cast<unsigned long>(position - static_cast<long>(length)),
+                  static_cast<long>(position));
+  }
+  replaceSelectedText(QString::fromStdString(word));
+  endUndoAction();
+  setFocus();
+}
+
+void WorkshopEditor::OfferWords(bool asked) {
+  int line = 0;
+  int column = 0;
+  getCursorPosition(&line, &column);
+  const std::string content = LineText(line);
+  const std::size_t at = QString::fromStdString(content).left(column).toUtf8().size();
+  const std::string ahead = content.substr(0, at);
+  const bool word = !ahead.empty() && !IsBlank(ahead.back());
+  if (!asked && !word) return;
+  QStringList offers;
+  std::size_t begun = 0;
+  for (const WordOffer& offer : OffersAt(content, at)) {
+    begun = std::max(begun, offer.length);
+    if (offers.size() < static_cast<qsizetype>(kMostOffers)) offers.append(OfferText(*offer.word));
+  }
+  // Enter must end a line whose last word is whole.
+  const std::size_t start = ahead.find_last_of(" \t:(");
+  const std::string last = ahead.substr(start == std::string::npos ? 0 : start + 1);
+  if (!asked && (last.size() < 2 || FindScriptWord(last) != nullptr)) offers.clear();
+  if (offers.isEmpty() && asked && begun == 0)
+    for (const ScriptWord& every : ScriptWords()) offers.append(OfferText(every));
+  if (offers.isEmpty())
+    cancelList();
+  else
+    showUserList(kWordList, offers);
+}
+
+void WorkshopEditor::CharAdded(int character) {
+  if (changing_ > 0) return;
+  if (character == '\n') {
+    cancelList();
+    if (autoIndent) IndentLine(CursorLine() - 1);
+    return;
+  }
+  OfferWords(false);
+}
+
+// A new line stands under the block that it belongs to; the one above it is moved out if it ends one.
+void WorkshopEditor::IndentLine(int line) {
+  if (line < 1) return;
+  ++changing_;
+  const BlockStep step = BlockStepOf(LineText(line - 1));
+  int above = indentation(line - 1);
+  if (step.before < 0 && line >= 2) {
+    int back = line - 2;
+    while (back > 0 && LineText(back).empty()) --back;
+    const BlockStep previous = BlockStepOf(LineText(back));
+    above = std::max(0, indentation(back) + kIndent * (previous.behind - previous.before + step.before));
+    setIndentation(line - 1, above);
+  }
+  const int own = std::max(0, above + kIndent * (step.behind - step.before));
+  setIndentation(line, own);
+  setCursorPosition(line, own);
+  --changing_;
+}
+
+// --- The other end of a block.
+
+void WorkshopEditor::MatchBlocks() {
+  const int end = std::max(lines() - 1, 0);
+  clearIndicatorRange(0, 0, end, lineLength(end), kMatchIndicator);
+  const int line = CursorLine() - 1;
+  const BlockStep step = BlockStepOf(LineText(line));
+  if (step.behind == 0) return;
+  const int way = step.behind > 0 ? 1 : -1;
+  int level = step.behind;
+  int other = line;
+  for (int looked = 0; level != 0 && looked < kFarthestMatch; ++looked) {
+    other += way;
+    if (other < 0 || other > end) return;
+    level += BlockStepOf(LineText(other)).behind;
+    if (way * level < 0) return;
+  }
+  if (level != 0) return;
+  for (const int at : {line, other}) {
+    const std::string content = LineText(at);
+    const std::size_t first = content.find_first_not_of(" \t");
+    if (first == std::string::npos) continue;
+    const std::size_t last = std::min(content.find_first_of(" \t'", first), content.size());
+    fillIndicatorRange(at, static_cast<int>(first), at, static_cast<int>(last), kMatchIndicator);
+  }
+}
+
+// --- Tips.
+
+QString WorkshopEditor::PhraseAt(int line, int at) const {
+  const std::string content = LineText(line - 1);
+  const ScriptSurroundings nobody;
+  for (const ScriptSpan& span : SpansOf(content, nobody))
+    if (at >= static_cast<int>(span.begin) && at <= static_cast<int>(span.end) &&
+        span.kind != SpanKind::kComment)
+      return QString::fromStdString(content.substr(span.begin, span.end - span.begin));
+  return {};
+}
+
+void WorkshopEditor::ShowTipAt(int position) {
+  if (position < 0 || !tipOf) return;
+  const auto line = SendScintilla(SCI_LINEFROMPOSITION, position);
+  const auto begin = SendScintilla(SCI_POSITIONFROMLINE, line);
+  const QString phrase = PhraseAt(static_cast<int>(line) + 1, position - static_cast<int>(begin));
+  const QString tip = phrase.isEmpty() ? QString() : tipOf(phrase);
+  if (tip.isEmpty()) return;
+  const QPoint at(static_cast<int>(SendScintilla(SCI_POINTXFROMPOSITION, 0UL, static_cast<long>(position))),
+                  static_cast<int>(SendScintilla(SCI_POINTYFROMPOSITION, 0UL, static_cast<long>(position))));
+  QToolTip::showText(viewport()->mapToGlobal(at + QPoint(0, fontMetrics().height() + 4)), tip, this);
+}
+
+void WorkshopEditor::ShowTip() { ShowTipAt(static_cast<int>(SendScintilla(SCI_GETCURRENTPOS))); }
+
+}  // namespace tessaryn

@@ -1,0 +1,931 @@
+#include "shell/screens/workshop_window.h"
+
+#include <Qsci/qsciprinter.h>
+
+#include <QAction>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "autobet/compile/compile_autobets.h"
+#include "autobet/language/script_files.h"
+#include "autobet/language/script_words.h"
+#include "autobet/run/interpreter.h"
+#include "play/auto_roll.h"
+#include "play/script_session.h"
+#include "play/script_trial.h"
+#include "shell/screens/file_chooser.h"
+#include "shell/screens/find_replace_screen.h"
+#include "shell/screens/permissions_screen.h"
+#include "shell/screens/workshop_editor.h"
+#include "shell/screens/workshop_steps.h"
+#include "shell/screens/workshop_trial.h"
+#include "shell/screens/workshop_watch.h"
+#include "shell/table/screen_tools.h"
+#include "state/show_message.h"
+
+namespace tessaryn {
+namespace {
+
+constexpr int kPause = 250;  // milliseconds without a key before the text is compiled
+
+const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
+                                              "cmdAction"};
+const char* const kWordCaptions[kWordKinds] = {
+    QT_TRANSLATE_NOOP("WorkshopWindow", "Logic"), QT_TRANSLATE_NOOP("WorkshopWindow", "Variables"),
+    QT_TRANSLATE_NOOP("WorkshopWindow", "Functions"), QT_TRANSLATE_NOOP("WorkshopWindow", "Modifiers"),
+    QT_TRANSLATE_NOOP("WorkshopWindow", "Actions")};
+
+// Under what a logged bet is made.
+constexpr const char* kConditions[] = {nullptr, "if comeout roll then", "if point is established then"};
+
+}  // namespace
+
+// --- What can be done, with its key.
+
+struct WorkshopWindow::Command {
+  const char* name;
+  const char* caption;
+  const char* key;
+  void (WorkshopWindow::*act)();
+  void (WorkshopWindow::*fill)(QMenu&) = nullptr;  // a menu of its own
+  bool ticked = false;                             // can be ticked
+};
+
+// A row without a command begins a menu; one without a caption is a line.
+const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
+    {"menFile", QT_TRANSLATE_NOOP("WorkshopWindow", "&File"), nullptr, nullptr},
+    {"mnuNew", QT_TRANSLATE_NOOP("WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
+    {"mnuOpen", QT_TRANSLATE_NOOP("WorkshopWindow", "&Open ..."), "Ctrl+O", &WorkshopWindow::OpenFile},
+    {"mnuSamples", QT_TRANSLATE_NOOP("WorkshopWindow", "Sa&mples"), nullptr, nullptr,
+     &WorkshopWindow::FillSamples},
+    {"mnuSave", QT_TRANSLATE_NOOP("WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
+    {"mnuSaveAs", QT_TRANSLATE_NOOP("WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
+    {"mnuPrintScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Print in colours ..."), nullptr,
+     &WorkshopWindow::PrintScript},
+    {"menEdit", QT_TRANSLATE_NOOP("WorkshopWindow", "&Edit"), nullptr, nullptr},
+    {"mnuFind", QT_TRANSLATE_NOOP("WorkshopWindow", "&Find ..."), "Ctrl+F", &WorkshopWindow::FindText},
+    {"mnuReplace", QT_TRANSLATE_NOOP("WorkshopWindow", "&Replace ..."), "Ctrl+H",
+     &WorkshopWindow::ReplaceText},
+    {"mnuCopyTo", QT_TRANSLATE_NOOP("WorkshopWindow", "&Copy to"), nullptr, nullptr,
+     &WorkshopWindow::FillCopyTo},
+    {"mnuPasteFrom", QT_TRANSLATE_NOOP("WorkshopWindow", "&Paste from"), nullptr, nullptr,
+     &WorkshopWindow::FillPasteFrom},
+    {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space",
+     &WorkshopWindow::OfferWords},
+    {"mnuFix", QT_TRANSLATE_NOOP("WorkshopWindow", "P&ut in the proposal"), "Ctrl+.", &WorkshopWindow::Fix},
+    {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "F1", &WorkshopWindow::ShowTip},
+    {"menRun", QT_TRANSLATE_NOOP("WorkshopWindow", "&Run"), nullptr, nullptr},
+    {"mnuCheckScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Check script"), "F7", &WorkshopWindow::Check},
+    {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("WorkshopWindow", "&Activate all scripts"), nullptr,
+     &WorkshopWindow::ActivateAll},
+    {"mnuRunOnce", QT_TRANSLATE_NOOP("WorkshopWindow", "Run &one cycle"), "F5", &WorkshopWindow::RunOnce},
+    {"mnuStep", QT_TRANSLATE_NOOP("WorkshopWindow", "&Step"), "F10", &WorkshopWindow::Step},
+    {"mnuRunToCursor", QT_TRANSLATE_NOOP("WorkshopWindow", "Run to the c&ursor"), "Ctrl+F10",
+     &WorkshopWindow::RunToCursor},
+    {"mnuBreak", QT_TRANSLATE_NOOP("WorkshopWindow", "&Break-point"), "F9", &WorkshopWindow::ToggleBreak},
+    {"mnuStop", QT_TRANSLATE_NOOP("WorkshopWindow", "S&top"), "Shift+F5", &WorkshopWindow::StopScripts},
+    {"mnuTryIt", QT_TRANSLATE_NOOP("WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
+    {"mnuPermissions", QT_TRANSLATE_NOOP("WorkshopWindow", "&Permissions ..."), nullptr,
+     &WorkshopWindow::Permissions},
+    {"menView", QT_TRANSLATE_NOOP("WorkshopWindow", "&View"), nullptr, nullptr},
+    {"mnuShowSteps", QT_TRANSLATE_NOOP("WorkshopWindow", "Show &steps"), nullptr, &WorkshopWindow::WantSteps,
+     nullptr, true},
+    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("WorkshopWindow", "&Line numbers"), nullptr,
+     &WorkshopWindow::Numbers, nullptr, true},
+    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("WorkshopWindow", "Lists of &words"), nullptr,
+     &WorkshopWindow::Lists, nullptr, true},
+    {"mnuAutoIndent", QT_TRANSLATE_NOOP("WorkshopWindow", "&Auto-indent"), nullptr, &WorkshopWindow::Indent,
+     nullptr, true},
+};
+
+WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAutoBet", parent), game_(game) {
+  checks_.setMaxThreadCount(1);
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(8, 4, 8, 4);
+  column->setSpacing(4);
+  editor_ = new WorkshopEditor(this);
+  editor_->installEventFilter(this);
+  steps_ = new WorkshopSteps(game, this);
+  watch_ = new WorkshopWatch(game, this);
+  trial_ = new WorkshopTrial(game, this);
+  find_ = new FindReplaceScreen(*editor_, this);
+  BuildBar(*column);
+  BuildTabs();
+  auto* left = new QSplitter(Qt::Vertical, this);
+  left->addWidget(editor_);
+  left->addWidget(tabs_);
+  left->setStretchFactor(0, 3);
+  left->setStretchFactor(1, 1);
+  left->setSizes({460, 190});
+  auto* right = new QSplitter(Qt::Vertical, this);
+  right->addWidget(watch_);
+  right->addWidget(trial_);
+  right->setSizes({220, 380});
+  auto* both = new QSplitter(Qt::Horizontal, this);
+  both->addWidget(left);
+  both->addWidget(right);
+  both->setStretchFactor(0, 1);
+  both->setSizes({700, 330});
+  for (QSplitter* splitter : {left, right, both}) splitter->setChildrenCollapsible(false);
+  column->addWidget(both, 1);
+  auto* foot = new QHBoxLayout;
+  foot->setSpacing(16);
+  for (QLabel** label : {&place_, &fileLabel_, &permissions_}) {
+    *label = new QLabel(this);
+    (*label)->setTextFormat(Qt::PlainText);
+    foot->addWidget(*label, label == &fileLabel_ ? 1 : 0);
+  }
+  fileLabel_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  place_->setObjectName("lblPlace");
+  fileLabel_->setObjectName("lblFile");
+  permissions_->setObjectName("lblPermissions");
+  column->addLayout(foot);
+  BuildMenu();
+  pause_ = new QTimer(this);
+  pause_->setSingleShot(true);
+  pause_->setInterval(kPause);
+  connect(pause_, &QTimer::timeout, this, &WorkshopWindow::CheckSoon);
+  connect(editor_, &QsciScintilla::textChanged, this, &WorkshopWindow::TextChanged);
+  connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { ShowStatus(); });
+  connect(editor_, &WorkshopEditor::breaksChanged, this, &WorkshopWindow::StepsChanged);
+  connect(steps_, &WorkshopSteps::changed, this, &WorkshopWindow::StepsChanged);
+  connect(steps_, &WorkshopSteps::lineChosen, this, [this](int seat, int line) {
+    if (seat == seat_) editor_->MarkStep(line);
+  });
+  connect(find_, &FindReplaceScreen::replaced, this, [this] {
+    game_.autobet.ScriptRunning = false;
+    game_.autobet.ScriptsCompiled = false;
+    Store();
+  });
+  trial_->take = [this](int& seat, std::vector<std::string>& lines) {
+    seat = seat_;
+    lines = editor_->Lines();
+    return seat_ != 0;
+  };
+  editor_->tipOf = [this](const QString& word) {
+    const ScriptWord* known = FindScriptWord(word.toStdString());
+    QString tip;
+    if (known != nullptr)
+      tip = word + (known->doc.empty()
+                        ? QString()
+                        : ": " + QString::fromUtf8(known->doc.data(), static_cast<int>(known->doc.size())));
+    if (known != nullptr && known->kind == WordKind::kVariable) {
+      const std::string value = PresentValues(game_, seat_, {word.toStdString()}).front();
+      if (!value.empty()) tip += "\n" + tr("Now: %1").arg(FromCore(value));
+    }
+    return tip;
+  };
+  resize(1080, 700);
+  seat_ = game_.table.SelectedSeat;
+  ListPlayers();
+  Load();
+}
+
+WorkshopWindow::~WorkshopWindow() {
+  checks_.waitForDone();
+  if (!wantsSteps_) return;
+  game_.autobet.StepMode = false;
+}
+
+void WorkshopWindow::BuildMenu() {
+  bar_ = new QMenuBar(this);
+  bar_->setNativeMenuBar(false);
+  bar_->setObjectName("mnbAutoBet");
+  QMenu* menu = nullptr;
+  for (const Command& command : kCommands) {
+    const QString caption = tr(command.caption);
+    if (QByteArrayView(command.name).startsWith("men")) {
+      menu = bar_->addMenu(caption);
+      menu->setObjectName(command.name);
+      continue;
+    }
+    QAction* action = nullptr;
+    if (command.fill != nullptr) {
+      QMenu* list = menu->addMenu(caption);
+      connect(list, &QMenu::aboutToShow, this, [this, list, &command] {
+        list->clear();
+        (this->*command.fill)(*list);
+      });
+      action = list->menuAction();
+    } else {
+      action = menu->addAction(command.key == nullptr ? caption : caption + "\t" + command.key);
+      connect(action, &QAction::triggered, this, [this, &command] { Do(command); });
+    }
+    action->setObjectName(command.name);
+    action->setCheckable(command.ticked);
+  }
+  for (const char* on : {"mnuShowLineNumbers", "mnuShowSyntaxLists", "mnuAutoIndent"})
+    Find(on)->setChecked(true);
+  layout()->setMenuBar(bar_);
+}
+
+QAction* WorkshopWindow::Find(const char* name) const { return bar_->findChild<QAction*>(name); }
+
+void WorkshopWindow::Do(const Command& command) {
+  const QByteArrayView name(command.name);
+  if (name == "mnuSave")
+    Save();
+  else if (name == "mnuSaveAs")
+    SaveAs();
+  else if (command.act != nullptr)
+    (this->*command.act)();
+  ShowStatus();
+}
+
+void WorkshopWindow::BuildBar(QBoxLayout& column) {
+  auto* row = new QHBoxLayout;
+  auto* label = new QLabel(tr("P&layer:"), this);
+  player_ = new QComboBox(this);
+  player_->setObjectName("cmbPlayer");
+  player_->setAccessibleName(tr("Player"));
+  player_->setMinimumWidth(110);
+  label->setBuddy(player_);
+  active_ = new QCheckBox(tr("A&ctive"), this);
+  active_->setObjectName("chkAutoBetsActive");
+  row->addWidget(label);
+  row->addWidget(player_);
+  row->addWidget(active_);
+  row->addSpacing(8);
+  const auto button = [&](const char* name, const QString& caption, void (WorkshopWindow::*act)()) {
+    auto* made = new QPushButton(caption, this);
+    made->setObjectName(name);
+    row->addWidget(made);
+    connect(made, &QPushButton::clicked, this, act);
+  };
+  button("cmdCheckScript", tr("Check Script"), &WorkshopWindow::Check);
+  button("cmdRunOnce", tr("Run one cycle"), &WorkshopWindow::RunOnce);
+  button("cmdStep", tr("Step"), &WorkshopWindow::Step);
+  button("cmdStop", tr("Stop"), &WorkshopWindow::StopScripts);
+  row->addStretch();
+  column.addLayout(row);
+  connect(player_, &QComboBox::activated, this,
+          [this](int index) { ShowSeat(player_->itemData(index).toInt()); });
+  connect(active_, &QCheckBox::clicked, this, &WorkshopWindow::Activate);
+}
+
+void WorkshopWindow::BuildTabs() {
+  tabs_ = new QTabWidget(this);
+  tabs_->setObjectName("tabWorkshop");
+  tabs_->setAccessibleName(tr("Below the script"));
+  tabs_->setDocumentMode(true);
+  tabs_->tabBar()->setObjectName("tabWorkshopBar");
+  tabs_->tabBar()->setAccessibleName(tr("Below the script"));
+  tabs_->addTab(ProblemsTab(), tr("Problems"));
+  tabs_->addTab(steps_, steps_->Title());
+  tabs_->addTab(wordsTab_ = WordsTab(), tr("Words"));
+  tabs_->addTab(LoggedTab(), tr("Logged bets"));
+  tabs_->addTab(find_, tr("Find"));
+}
+
+QWidget* WorkshopWindow::ProblemsTab() {
+  problems_ = new QListWidget(this);
+  problems_->setObjectName("lstProblems");
+  problems_->setAccessibleName(tr("Problems"));
+  problems_->setWordWrap(true);
+  problems_->setFrameShape(QFrame::NoFrame);
+  connect(problems_, &QListWidget::itemActivated, this, &WorkshopWindow::GoToProblem);
+  connect(problems_, &QListWidget::itemClicked, this, &WorkshopWindow::GoToProblem);
+  return problems_;
+}
+
+QWidget* WorkshopWindow::WordsTab() {
+  auto* tab = new QWidget(this);
+  auto* column = new QVBoxLayout(tab);
+  column->setContentsMargins(8, 8, 8, 8);
+  auto* row = new QHBoxLayout;
+  for (int kind = 0; kind < kWordKinds; ++kind) {
+    auto* button = new QPushButton(tr(kWordCaptions[kind]), tab);
+    button->setObjectName(kWordButtons[kind]);
+    row->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, kind] { ListWords(kind); });
+  }
+  row->addStretch();
+  column->addLayout(row);
+  words_ = new QTreeWidget(tab);
+  words_->setObjectName("lstWords");
+  words_->setAccessibleName(tr("Words of the language"));
+  words_->setHeaderLabels({tr("Word"), tr("Meaning")});
+  words_->setRootIsDecorated(false);
+  words_->setUniformRowHeights(true);
+  words_->setColumnWidth(0, 230);
+  column->addWidget(words_, 1);
+  connect(words_, &QTreeWidget::itemActivated, this,
+          [this](QTreeWidgetItem* item) { editor_->InsertWord(item->text(0).toStdString()); });
+  ListWords(0);
+  return tab;
+}
+
+void WorkshopWindow::ListWords(int kind) {
+  words_->clear();
+  QList<QTreeWidgetItem*> items;
+  for (const ScriptWord& word : ScriptWords())
+    if (static_cast<int>(word.kind) == kind)
+      items.append(
+          new QTreeWidgetItem({QString::fromStdString(word.text),
+                               QString::fromUtf8(word.doc.data(), static_cast<int>(word.doc.size()))}));
+  words_->addTopLevelItems(items);
+}
+
+QWidget* WorkshopWindow::LoggedTab() {
+  auto* tab = new QWidget(this);
+  tab->setObjectName("picLoggedBets");
+  auto* column = new QVBoxLayout(tab);
+  column->setContentsMargins(8, 8, 8, 8);
+  auto* row = new QHBoxLayout;
+  logging_ = new QCheckBox(tr("Log &my bets"), tab);
+  logging_->setObjectName("chkLogBets");
+  condition_ = new QComboBox(tab);
+  condition_->setObjectName("cmbLogCondition");
+  condition_->setAccessibleName(tr("When they are made"));
+  condition_->addItems({tr("As they stand"), tr("On the come-out"), tr("After a point")});
+  row->addWidget(logging_);
+  row->addStretch();
+  row->addWidget(condition_);
+  const auto button = [&](const char* name, const QString& caption, void (WorkshopWindow::*act)()) {
+    auto* made = new QPushButton(caption, tab);
+    made->setObjectName(name);
+    row->addWidget(made);
+    connect(made, &QPushButton::clicked, this, act);
+  };
+  button("cmdInsertLogged", tr("&Insert"), &WorkshopWindow::InsertLogged);
+  button("cmdSaveLogged", tr("Save ..."), &WorkshopWindow::SaveLogged);
+  button("cmdClearLogged", tr("Clear"), &WorkshopWindow::ClearLogged);
+  column->addLayout(row);
+  logged_ = new QListWidget(tab);
+  logged_->setObjectName("lstLoggedBets");
+  logged_->setAccessibleName(tr("Logged bets"));
+  column->addWidget(logged_, 1);
+  connect(logging_, &QCheckBox::clicked, this, [this](bool on) { game_.autobet.BetLogging = on; });
+  return tab;
+}
+
+// --- Keys. The table has the same ones for itself.
+
+const WorkshopWindow::Command* WorkshopWindow::CommandOf(const QKeyEvent& event) const {
+  const QKeySequence pressed(event.keyCombination());
+  for (const Command& command : kCommands)
+    if (command.key != nullptr && pressed == QKeySequence(command.key)) return &command;
+  return nullptr;
+}
+
+bool WorkshopWindow::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && CommandOf(*static_cast<QKeyEvent*>(event)) != nullptr) {
+    event->accept();
+    return true;
+  }
+  if (event->type() == QEvent::KeyPress) {
+    if (const Command* command = CommandOf(*static_cast<QKeyEvent*>(event)); command != nullptr) {
+      Do(*command);
+      return true;
+    }
+  }
+  return ToolWindow::event(event);
+}
+
+bool WorkshopWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+  if (watched == editor_ && key && CommandOf(*static_cast<QKeyEvent*>(event)) != nullptr)
+    return WorkshopWindow::event(event);
+  if (watched == editor_ && event->type() == QEvent::FocusOut) Store();
+  return ToolWindow::eventFilter(watched, event);
+}
+
+// What nobody sees costs nothing.
+void WorkshopWindow::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) {
+    Store();
+    wantsSteps_ = false;
+    runTo_ = 0;
+    game_.autobet.StepMode = game_.autobet.StepsShown = false;
+    Find("mnuShowSteps")->setChecked(false);
+  }
+  ToolWindow::hideEvent(event);
+}
+
+// --- Whose script.
+
+void WorkshopWindow::ListPlayers() {
+  QStringList wanted;
+  QList<int> seats;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    if (!IsOccupied(game_.table, seat)) continue;
+    wanted << FromCore(game_.table.seats[seat].SeatName);
+    seats << seat;
+  }
+  bool same = player_->count() == wanted.size();
+  for (int n = 0; same && n < wanted.size(); ++n)
+    same = player_->itemText(n) == wanted[n] && player_->itemData(n).toInt() == seats[n];
+  if (!same) {
+    player_->clear();
+    for (int n = 0; n < wanted.size(); ++n) player_->addItem(wanted[n], seats[n]);
+  }
+  if (!IsOccupied(game_.table, seat_))
+    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : seats.value(0);
+  player_->setCurrentIndex(static_cast<int>(seats.indexOf(seat_)));
+}
+
+void WorkshopWindow::ShowSeat(int seat) {
+  if (seat == seat_ || !IsOccupied(game_.table, seat)) return;
+  Store();
+  Place& left = places_[seat_];
+  editor_->getCursorPosition(&left.line, &left.column);
+  left.top = editor_->firstVisibleLine();
+  left.breaks = editor_->Breaks();
+  seat_ = seat;
+  player_->setCurrentIndex(player_->findData(seat));
+  Load();
+  const Place& kept = places_[seat];
+  editor_->SetBreaks(kept.breaks);
+  editor_->setCursorPosition(kept.line, kept.column);
+  editor_->setFirstVisibleLine(kept.top);
+}
+
+void WorkshopWindow::Load() {
+  loading_ = true;
+  stored_ = seat_ == 0 ? std::vector<std::string>() : game_.autobet.Scripts[seat_].ScriptLines;
+  editor_->SetSurroundings(SurroundingsOf(game_));
+  editor_->SetLines(stored_);
+  editor_->setReadOnly(seat_ == 0);
+  loading_ = false;
+  ++edition_;
+  fault_ = {};
+  watch_->SetSeat(seat_);
+  CheckInBackground();
+  Refresh();
+}
+
+void WorkshopWindow::Store() {
+  if (seat_ == 0 || loading_) return;
+  std::vector<std::string> lines = editor_->Lines();
+  if (lines == stored_) return;
+  stored_ = lines;
+  SetScript(game_, seat_, std::move(lines), game_.autobet.Scripts[seat_].ScriptFileName);
+  game_.autobet.Scripts[seat_].Unsaved = true;
+}
+
+bool WorkshopWindow::IsFree() const {
+  return !game_.autobet.ScriptRunning && !game_.table.RollInProgress && !game_.table.AutoRollActive;
+}
+
+// What the table has done meanwhile. The text is loaded anew when another command has changed the script.
+void WorkshopWindow::Refresh() {
+  const int before = seat_;
+  ListPlayers();
+  const AutoBet& autobet = game_.autobet;
+  if (seat_ != before) return Load();
+  if (seat_ != 0 && autobet.Scripts[seat_].ScriptLines != stored_) return Load();
+  active_->setEnabled(seat_ != 0);
+  active_->setChecked(seat_ != 0 && autobet.ScriptActive[seat_]);
+  logging_->setChecked(autobet.BetLogging);
+  while (logged_->count() > static_cast<int>(autobet.LoggedBets.size()))
+    delete logged_->takeItem(logged_->count() - 1);
+  while (logged_->count() < static_cast<int>(autobet.LoggedBets.size()))
+    logged_->addItem(FromCore(autobet.LoggedBets[static_cast<std::size_t>(logged_->count())]));
+  if (autobet.StepsShown && !wantsSteps_ && !editor_->HasBreaks() && runTo_ == 0 && !autobet.StepMode) {
+    // A script's own wish.
+    wantsSteps_ = true;
+    Find("mnuShowSteps")->setChecked(true);
+    tabs_->setCurrentWidget(steps_);
+  }
+  steps_->Refresh();
+  if (!autobet.ScriptRunning) editor_->MarkStep(0);
+  watch_->Refresh();
+  ShowStatus();
+}
+
+void WorkshopWindow::ShowStatus() {
+  int line = 0;
+  int column = 0;
+  editor_->getCursorPosition(&line, &column);
+  place_->setText(tr("Line %1, column %2").arg(line + 1).arg(column + 1) +
+                  (fault_.Failed() ? "    " + tr("1 error") : QString()));
+  if (seat_ == 0) {
+    setWindowTitle(tr("Auto-Bet"));
+    fileLabel_->setText(tr("Nobody is at the table"));
+    permissions_->clear();
+    return;
+  }
+  const SeatScript& script = game_.autobet.Scripts[seat_];
+  const QString file = script.ScriptFileName.empty()
+                           ? tr("untitled")
+                           : FromCore(script.ScriptFileName).section(QRegularExpression("[/\\\\]"), -1);
+  const bool unsaved = script.Unsaved || editor_->isModified();
+  setWindowTitle(tr("Auto-Bet - %1 - %2").arg(FromCore(game_.table.seats[seat_].SeatName), file) +
+                 (unsaved ? "*" : ""));
+  fileLabel_->setText(unsaved ? tr("%1, not saved").arg(file) : file);
+  QStringList may;
+  if (script.AllowAct4Others) may << tr("may act for other players");
+  if (script.AllowReset) may << tr("may start sessions");
+  if (script.AllowActProb) may << tr("may use files of dice");
+  permissions_->setText(may.join(QString::fromUtf8(" \u00b7 ")));
+}
+
+QList<QStringList> WorkshopWindow::Rows() const {
+  QList<QStringList> rows{{tr("Line"), tr("Statement")}};
+  int number = 0;
+  for (const std::string& line : editor_->Lines()) rows.append({QString::number(++number), FromCore(line)});
+  return rows;
+}
+
+QStringList WorkshopWindow::PrintHeadings() const { return {windowTitle()}; }
+
+// --- Files.
+
+bool WorkshopWindow::MayLeaveScript() {
+  Store();
+  if (seat_ == 0) return false;
+  if (!AskBeforeCommand(game_)) return false;
+  if (OfferToSaveLoggedBets(game_)) SaveLogged();
+  if (!game_.autobet.Scripts[seat_].Unsaved || stored_.empty()) return true;
+  const int answer =
+      ShowMessage<Msg::kAskSaveScript>(game_, With<"player">(game_.table.seats[seat_].SeatName));
+  return answer == kResultNo || (answer == kResultYes && Save());
+}
+
+void WorkshopWindow::NewScript() {
+  if (!MayLeaveScript()) return;
+  SetScriptActive(game_, seat_, false);
+  SetScript(game_, seat_, {}, "");
+  Load();
+}
+
+void WorkshopWindow::OpenPath(const std::string& path) {
+  std::string error;
+  if (!OpenScript(game_, seat_, path, error))
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(error));
+  Load();
+}
+
+void WorkshopWindow::OpenFile() {
+  if (!MayLeaveScript()) return;
+  const std::string path = ChooseFile(game_, this, kOpenAutoBet);
+  if (!path.empty()) OpenPath(path);
+}
+
+bool WorkshopWindow::Save() {
+  Store();
+  if (seat_ == 0) return false;
+  const std::string path = game_.autobet.Scripts[seat_].ScriptFileName;
+  if (path.empty()) return SaveAs();
+  std::string error;
+  const bool saved = SaveScript(game_, seat_, path, error);
+  if (!saved)
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+  if (saved) editor_->setModified(false);
+  ShowStatus();
+  return saved;
+}
+
+bool WorkshopWindow::SaveAs() {
+  Store();
+  if (seat_ == 0) return false;
+  const std::string path = ChooseFile(game_, this, kSaveAutoBet, game_.autobet.Scripts[seat_].ScriptFileName);
+  std::string error;
+  if (path.empty()) return false;
+  if (!SaveScript(game_, seat_, path, error)) {
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+    return false;
+  }
+  editor_->setModified(false);
+  ShowStatus();
+  return true;
+}
+
+void WorkshopWindow::FillSamples(QMenu& menu) {
+  const QDir folder(FromCore(game_.applicationFolder) + "samples");
+  for (const QString& name : folder.entryList({"*.bet"}, QDir::Files, QDir::Name))
+    connect(menu.addAction(name), &QAction::triggered, this, [this, path = folder.filePath(name)] {
+      if (MayLeaveScript()) OpenPath(ToCore(path));
+    });
+}
+
+void WorkshopWindow::CopyToFile() {
+  const std::string path = ChooseFile(game_, this, kSaveAutoBet);
+  if (path.empty()) return;
+  const ScriptFileResult result = WriteScriptFile(path, editor_->Lines());
+  if (!result.Ok())
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+}
+
+void WorkshopWindow::CopyToSeat(int seat) {
+  if (!AskBeforeCommand(game_)) return;
+  Store();
+  SetScript(game_, seat, editor_->Lines(), "");
+  game_.autobet.Scripts[seat].Unsaved = true;
+}
+
+void WorkshopWindow::FillCopyTo(QMenu& menu) {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (seat != seat_ && IsOccupied(game_.table, seat))
+      connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
+              [this, seat] { CopyToSeat(seat); });
+  menu.addSeparator();
+  connect(menu.addAction(tr("&File ...")), &QAction::triggered, this, &WorkshopWindow::CopyToFile);
+}
+
+// At the cursor's line.
+void WorkshopWindow::PasteLines(const std::vector<std::string>& lines) {
+  if (seat_ == 0) return;
+  game_.autobet.ScriptRunning = false;
+  QString text;
+  for (const std::string& line : lines) text += FromCore(line) + "\n";
+  editor_->insertAt(text, editor_->CursorLine() - 1, 0);
+  Store();
+}
+
+void WorkshopWindow::PasteFromFile() {
+  const std::string path = ChooseFile(game_, this, kOpenAutoBet);
+  std::vector<std::string> lines;
+  if (path.empty()) return;
+  const ScriptFileResult result = ReadScriptFile(path, lines);
+  if (result.Ok()) return PasteLines(lines);
+  ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(result.message));
+}
+
+void WorkshopWindow::FillPasteFrom(QMenu& menu) {
+  for (int seat = 1; seat <= kSeats; ++seat)
+    if (seat != seat_ && IsOccupied(game_.table, seat))
+      connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
+              [this, seat] { PasteLines(game_.autobet.Scripts[seat].ScriptLines); });
+  menu.addSeparator();
+  connect(menu.addAction(tr("&File ...")), &QAction::triggered, this, &WorkshopWindow::PasteFromFile);
+}
+
+void WorkshopWindow::PrintScript() {
+  QsciPrinter printer;
+  printer.setDocName(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  if (RunDialog(dialog) == QDialog::Accepted) printer.printRange(editor_);
+}
+
+// --- Checks.
+
+void WorkshopWindow::TextChanged() {
+  if (loading_) return;
+  ++edition_;
+  pause_->start();
+  ShowStatus();
+}
+
+void WorkshopWindow::CheckSoon() {
+  if (IsFree()) Store();
+  CheckInBackground();
+}
+
+void WorkshopWindow::CheckInBackground() {
+  if (seat_ == 0) return TakeCheck({});
+  checks_.clear();
+  checks_.start(
+      [this, edition = edition_, seat = seat_, lines = editor_->Lines(), around = SurroundingsOf(game_)] {
+        const ScriptCheck check = CheckLines(around, seat, lines);
+        QMetaObject::invokeMethod(
+            this,
+            [this, edition, check] {
+              if (edition == edition_) TakeCheck(check);
+            },
+            Qt::QueuedConnection);
+      });
+}
+
+void WorkshopWindow::TakeCheck(const ScriptCheck& check) {
+  fault_ = check.ok ? ScriptDiagnostic() : check.diagnostic;
+  editor_->MarkFault(fault_);
+  problems_->clear();
+  if (fault_.Failed()) {
+    problems_->addItem(FromCore(check.title) + "\n" + FromCore(check.text).replace("\n\n", "\n"));
+    if (!fault_.offer.empty()) problems_->addItem(tr("Ctrl+. puts in \"%1\"").arg(FromCore(fault_.offer)));
+  }
+  tabs_->setTabText(0, fault_.Failed() ? tr("Problems (1)") : tr("Problems"));
+  ShowStatus();
+}
+
+void WorkshopWindow::GoToProblem() {
+  if (!fault_.Failed()) return;
+  editor_->SelectSpan(fault_);
+  editor_->setFocus();
+}
+
+void WorkshopWindow::Check() {
+  Store();
+  if (seat_ == 0) return;
+  const ScriptCheck check = CheckScript(game_, seat_);
+  TakeCheck(check);
+  if (check.ok && Find("mnuAutoIndent")->isChecked()) {
+    const auto& nesting = game_.autobet.Scripts[seat_].ScriptNesting;
+    std::vector<int> levels = nesting;
+    if (levels.empty()) CheckLines(SurroundingsOf(game_), seat_, stored_, &levels);
+    const bool unsaved = game_.autobet.Scripts[seat_].Unsaved;
+    const auto indented = ReindentScript(stored_, levels);
+    const bool same = indented == stored_;
+    editor_->ChangeLines(indented);
+    Store();
+    game_.autobet.Scripts[seat_].Unsaved = unsaved || !same;
+  }
+  if (!check.ok) editor_->SelectSpan(check.diagnostic);
+  ShowMessage<Msg::kScriptChecked>(game_, With<"title">(check.title), With<"result">(check.text));
+  editor_->setFocus();
+}
+
+// The word that the compiler doesn't know gives way to the one that it offers.
+void WorkshopWindow::Fix() {
+  if (!fault_.Failed() || fault_.offer.empty()) return;
+  const std::string& told = fault_.message;
+  const QString word =
+      FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1))
+          .trimmed();
+  if (word.isEmpty()) return;
+  for (int line = fault_.firstLine - 1; line < fault_.lastLine; ++line) {
+    const int from = line == fault_.firstLine - 1 ? fault_.firstColumn : 0;
+    const qsizetype at = editor_->text(line).indexOf(word, from, Qt::CaseInsensitive);
+    if (at < 0) continue;
+    editor_->setSelection(line, static_cast<int>(at), line, static_cast<int>(at + word.size()));
+    editor_->replaceSelectedText(FromCore(fault_.offer));
+    return;
+  }
+}
+
+// --- Running.
+
+void WorkshopWindow::Activate(bool on) {
+  Store();
+  if (on && AskBeforeCommand(game_))
+    ActivateScript(game_, seat_);
+  else if (!on)
+    SetScriptActive(game_, seat_, false);
+  if (changed) changed();
+  Refresh();
+}
+
+void WorkshopWindow::ActivateAll() {
+  Store();
+  if (!AskBeforeCommand(game_)) return;
+  ActivateScript(game_, 0);
+  if (changed) changed();
+  Refresh();
+}
+
+void WorkshopWindow::RunOnce() {
+  Store();
+  if (seat_ == 0 || !IsFree()) return;
+  if (!game_.autobet.ScriptActive[seat_]) SetScriptActive(game_, seat_, true);
+  InitialiseScripts(game_);
+  runTo_ = 0;
+  StepsChanged();
+  watch_->LookUp();
+  if (changed) changed();
+  Refresh();
+}
+
+void WorkshopWindow::Step() {
+  if (game_.autobet.ScriptRunning) {
+    game_.autobet.StepMode = true;
+    return steps_->Next();
+  }
+  game_.autobet.StepsShown = game_.autobet.StepMode = true;
+  tabs_->setCurrentWidget(steps_);
+  RunOnce();
+}
+
+void WorkshopWindow::StopScripts() {
+  game_.autobet.StepMode = false;
+  steps_->Stop();
+  Refresh();
+}
+
+void WorkshopWindow::ToggleBreak() { editor_->ToggleBreak(editor_->CursorLine()); }
+
+// On to the line: in the run that is on, or in the next one.
+void WorkshopWindow::RunToCursor() {
+  runTo_ = editor_->CursorLine();
+  if (!game_.autobet.ScriptRunning) {
+    StepsChanged();
+    return RunOnce();
+  }
+  steps_->GoOn();
+}
+
+void WorkshopWindow::WantSteps() {
+  wantsSteps_ = Find("mnuShowSteps")->isChecked();
+  if (wantsSteps_) tabs_->setCurrentWidget(steps_);
+  StepsChanged();
+}
+
+// Statements are told of only while somebody waits for one.
+void WorkshopWindow::StepsChanged() {
+  AutoBet& autobet = game_.autobet;
+  bool breaks = editor_->HasBreaks();
+  for (int seat = 1; seat <= kSeats; ++seat)
+    breaks = breaks || (seat != seat_ && !places_[seat].breaks.empty());
+  autobet.StepsShown = wantsSteps_ || breaks || runTo_ > 0 || autobet.StepMode;
+  autobet.StepsHold = wantsSteps_;
+  steps_->Refresh();
+}
+
+void WorkshopWindow::ShowStep(const ScriptStep& step) {
+  AutoBet& autobet = game_.autobet;
+  const auto& lines = autobet.Scripts[step.seat].ScriptLines;
+  const std::string source = step.line >= 1 && step.line <= static_cast<int>(lines.size())
+                                 ? lines[static_cast<std::size_t>(step.line) - 1]
+                                 : std::string();
+  const bool breaks =
+      step.seat == seat_ ? editor_->HasBreak(step.line) : places_[step.seat].breaks.count(step.line) != 0;
+  if (breaks || (runTo_ == step.line && step.seat == seat_)) {
+    runTo_ = 0;
+    autobet.StepMode = true;
+  }
+  steps_->ShowStep(step, source);
+  tabs_->setTabText(1, steps_->Title());
+  if (!autobet.StepMode && !wantsSteps_) return;
+  if (step.seat != seat_ && step.seat != 0 && stored_ == editor_->Lines()) ShowSeat(step.seat);
+  if (step.seat == seat_) editor_->MarkStep(step.line);
+  if (autobet.StepMode) {
+    tabs_->setCurrentWidget(steps_);
+    watch_->LookUp();
+  }
+}
+
+void WorkshopWindow::TryIt() { trial_->Toggle(); }
+
+void WorkshopWindow::Permissions() {
+  if (seat_ == 0) return;
+  PermissionsScreen screen(game_, seat_, this);
+  RunDialog(screen);
+}
+
+// --- Help in writing.
+
+void WorkshopWindow::FindText() {
+  tabs_->setCurrentWidget(find_);
+  find_->Begin(false);
+}
+
+void WorkshopWindow::ReplaceText() {
+  tabs_->setCurrentWidget(find_);
+  find_->Begin(true);
+}
+
+void WorkshopWindow::OfferWords() { editor_->OfferWords(true); }
+void WorkshopWindow::ShowTip() { editor_->ShowTip(); }
+void WorkshopWindow::Numbers() { editor_->ShowLineNumbers(Find("mnuShowLineNumbers")->isChecked()); }
+void WorkshopWindow::Lists() {
+  tabs_->setTabVisible(tabs_->indexOf(wordsTab_), Find("mnuShowSyntaxLists")->isChecked());
+}
+void WorkshopWindow::Indent() { editor_->autoIndent = Find("mnuAutoIndent")->isChecked(); }
+
+// --- Logged bets.
+
+void WorkshopWindow::InsertLogged() {
+  AutoBet& autobet = game_.autobet;
+  if (autobet.LoggedBets.empty() || seat_ == 0) return;
+  std::vector<std::string> lines;
+  const char* condition = kConditions[condition_->currentIndex()];
+  if (condition != nullptr) lines.emplace_back(condition);
+  for (const std::string& bet : autobet.LoggedBets)
+    lines.push_back((condition != nullptr ? "   " : "") + bet);
+  if (condition != nullptr) lines.emplace_back("endif");
+  autobet.LoggedBets.clear();
+  autobet.LoggedBetsUnsaved = false;
+  PasteLines(lines);
+  Refresh();
+}
+
+void WorkshopWindow::SaveLogged() {
+  AutoBet& autobet = game_.autobet;
+  const std::string path = autobet.LoggedBets.empty() ? std::string() : ChooseFile(game_, this, kSaveAutoBet);
+  if (path.empty()) return;
+  const ScriptFileResult result = WriteScriptFile(path, autobet.LoggedBets);
+  if (result.Ok())
+    autobet.LoggedBetsUnsaved = false;
+  else
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+}
+
+void WorkshopWindow::ClearLogged() {
+  AutoBet& autobet = game_.autobet;
+  if (OfferToSaveLoggedBets(game_)) {
+    SaveLogged();
+    if (autobet.LoggedBetsUnsaved) return;
+  }
+  autobet.LoggedBets.clear();
+  autobet.LoggedBetsUnsaved = false;
+  Refresh();
+}
+
+}  // namespace tessaryn
