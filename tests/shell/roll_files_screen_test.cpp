@@ -111,6 +111,7 @@ TEST(RollFilesScreen, ButtonsAndKeysTypeOverAndInsert) {
 }
 
 TEST(RollFilesScreen, SelectionsAreCutCopiedPastedDeletedAndTakenBack) {
+  QGuiApplication::clipboard()->clear();
   RollScreen screen;
   const Rolls rolls = SomeRolls(40);
   screen.Open(rolls);

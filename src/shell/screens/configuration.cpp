@@ -112,8 +112,9 @@ std::span<const ConfigurationScreen::TabRow> ConfigurationScreen::Tabs() {
        },
        RefreshControls},
       {"picColors", CAPTION("Colors"), PageOf<LooksPage>, RefreshPage<LooksPage>},
-      {"picProbability", CAPTION("Probability"), PageOf<ProbabilityPage>, RefreshPage<ProbabilityPage>},
-      {"picRNG", CAPTION("Generator"), PageOf<GeneratorPage>, RefreshPage<GeneratorPage>},
+      {"picProbability", CAPTION("Probability"), PageOf<Scrolled<ProbabilityPage>>,
+       RefreshPage<Scrolled<ProbabilityPage>>},
+      {"picRNG", CAPTION("Generator"), PageOf<Scrolled<GeneratorPage>>, RefreshPage<Scrolled<GeneratorPage>>},
       {"picSound", CAPTION("Sound"),
        [](const Parts& parts) -> QWidget* {
          return MakeSoundPage(parts.game, parts.editor, parts.shelf, parts.parent);

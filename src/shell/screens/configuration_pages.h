@@ -27,6 +27,22 @@ struct SoundShelf {
   std::function<void(const QString& file)> play;
 };
 
+// A page of a size of its own, where there may be less room.
+template <class Page>
+class Scrolled : public QScrollArea {
+ public:
+  Scrolled(Game& game, QWidget* parent) : QScrollArea(parent), page_(new Page(game, this)) {
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setWidgetResizable(true);
+    setWidget(page_);
+  }
+  void Refresh() { page_->Refresh(); }
+
+ private:
+  Page* page_;
+};
+
 // A page of groups in two columns; where it is too narrow for both, the second stands below the first.
 class TwoColumns : public QScrollArea {
   Q_OBJECT

@@ -45,7 +45,7 @@ QColor Mixed(const QColor& a, const QColor& b, double share) {
 
 // What stands where in a chart of a size.
 struct Frame {
-  const RollChart& chart;
+  const ReportChart& chart;
   const ChartLook& look;
   QFontMetricsF metrics;
   QColor ink;
@@ -57,7 +57,7 @@ struct Frame {
   int every = 1;         // bar that has a label
   QFont labels;          // smaller where they stand close together
 
-  Frame(QPaintDevice* device, const QRectF& area, const RollChart& of, const ChartLook& in)
+  Frame(QPaintDevice* device, const QRectF& area, const ReportChart& of, const ChartLook& in)
       : chart(of),
         look(in),
         metrics(in.font, device),
@@ -250,8 +250,8 @@ void PaintLegend(QPainter& painter, const Frame& frame, const QRectF& area) {
 
 }  // namespace
 
-RollChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed) {
-  RollChart chart;
+ReportChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed) {
+  ReportChart chart;
   chart.axis = Said(QT_TRANSLATE_NOOP("Reports", "PERCENT"));
   chart.actual = Said(QT_TRANSLATE_NOOP("Reports", "Actual"));
   if (!hideProbable)
@@ -266,8 +266,8 @@ RollChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed)
 }
 
 // As far as there are gaps, and the last cell where it has any.
-RollChart GapsChart(const ReportTable& report) {
-  RollChart chart;
+ReportChart GapsChart(const ReportTable& report) {
+  ReportChart chart;
   chart.axis = Said(QT_TRANSLATE_NOOP("Reports", "TIMES"));
   chart.below = Said(QT_TRANSLATE_NOOP("Reports", "rolls to come again"));
   const std::size_t cells = report.rows.size() - report.gridFirst;
@@ -283,7 +283,8 @@ RollChart GapsChart(const ReportTable& report) {
   return chart;
 }
 
-void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& chart, const ChartLook& look) {
+void PaintReportChart(QPainter& painter, const QRectF& area, const ReportChart& chart,
+                      const ChartLook& look) {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(area, look.background);
@@ -306,7 +307,7 @@ ReportChartView::ReportChartView(const QString& what, QWidget* parent) : QWidget
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void ReportChartView::Show(RollChart chart, const QColor& background, const QColor& bars) {
+void ReportChartView::Show(ReportChart chart, const QColor& background, const QColor& bars) {
   chart_ = std::move(chart);
   background_ = background;
   bars_ = bars;
@@ -329,7 +330,7 @@ QSize ReportChartView::minimumSizeHint() const { return {160, 110}; }
 
 void ReportChartView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintRollChart(painter, rect(), chart_, LookOnScreen());
+  PaintReportChart(painter, rect(), chart_, LookOnScreen());
 }
 
 // The figures of the bar under the pointer.

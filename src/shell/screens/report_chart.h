@@ -22,7 +22,7 @@ struct ChartBar {
   bool marked = false;   // further off than two standard errors
 };
 
-struct RollChart {
+struct ReportChart {
   QString axis;  // "PERCENT"
   QString below;
   QString actual;  // the names of the series; without a second one there is no legend
@@ -31,8 +31,8 @@ struct RollChart {
 };
 
 // Of a report of roll totals, and of one of roll frequencies.
-RollChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed);
-RollChart GapsChart(const ReportTable& report);
+ReportChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewed);
+ReportChart GapsChart(const ReportTable& report);
 
 struct ChartLook {
   QColor background;
@@ -40,15 +40,15 @@ struct ChartLook {
   QFont font;
 };
 // Letters, lines and bars can be told from any background.
-void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& chart, const ChartLook& look);
+void PaintReportChart(QPainter& painter, const QRectF& area, const ReportChart& chart, const ChartLook& look);
 
 class ReportChartView : public QWidget {
  public:
   ReportChartView(const QString& what, QWidget* parent);
 
   // An invalid colour is the desktop's.
-  void Show(RollChart chart, const QColor& background, const QColor& bars);
-  const RollChart& Chart() const { return chart_; }
+  void Show(ReportChart chart, const QColor& background, const QColor& bars);
+  const ReportChart& Chart() const { return chart_; }
   // The look on paper: on white, unless a colour was chosen.
   ChartLook LookOnPaper() const;
   QSize sizeHint() const override;
@@ -61,7 +61,7 @@ class ReportChartView : public QWidget {
  private:
   ChartLook LookOnScreen() const;
 
-  RollChart chart_;
+  ReportChart chart_;
   QColor background_;
   QColor bars_;
 };

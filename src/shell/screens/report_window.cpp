@@ -506,7 +506,7 @@ QStringList ReportWindow::PrintHeadings() const {
 }
 
 void ReportWindow::PaintPicture(QPainter& painter, const QRectF& area) const {
-  if (chart_ != nullptr) PaintRollChart(painter, area, chart_->Chart(), chart_->LookOnPaper());
+  if (chart_ != nullptr) PaintReportChart(painter, area, chart_->Chart(), chart_->LookOnPaper());
 }
 
 }  // namespace tessaryn
