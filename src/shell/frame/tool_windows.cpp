@@ -7,15 +7,15 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/printing.h"
-#include "shell/frame/sounds.h"
 #include "shell/frame/tool_menu.h"
 #include "shell/screens/bankroll_graph_screen.h"
 #include "shell/screens/check_stacks_screen.h"
-#include "shell/screens/configuration.h"
 #include "shell/screens/events_log_screen.h"
+#include "shell/frame/sounds.h"
+#include "shell/screens/configuration.h"
 #include "shell/screens/move_panel.h"
-#include "shell/screens/probability_page.h"
 #include "shell/screens/report_window.h"
+#include "shell/screens/probability_page.h"
 #include "shell/screens/roll_files_window.h"
 #include "shell/screens/roll_pad.h"
 #include "shell/screens/sessions_log_screen.h"
@@ -61,6 +61,7 @@ ToolWindow* MakeReportWindow(Desk& desk) {
   return report;
 }
 
+
 ToolWindow* MakeRollFiles(Desk& desk) {
   auto* window = new RollFilesWindow(desk.game, desk.window);
   window->print = [&desk, window] { PrintTool(desk, *window); };
@@ -81,10 +82,12 @@ ToolWindow* MakeBankrollGraph(Desk& desk) {
 
 ToolWindow* MakeCheckStacks(Desk& desk) { return new CheckStacksScreen(desk.game, desk.window); }
 
+
 template <typename Screen>
 ToolWindow* MakeLog(Desk& desk) {
   return new Screen(desk.game, desk.window);
 }
+
 
 ToolWindow* MakeConfiguration(Desk& desk) {
   SoundShelf shelf;
