@@ -50,7 +50,8 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
   command.add_option("--hands", options.hands, "A session ends after so many seven-outs")
       ->check(CLI::Range(std::int64_t{1}, kMaxRolls));
-  command.add_option("--hours", options.hours, "A session ends after so many hours by the setting SimRollRate");
+  command.add_option("--hours", options.hours,
+                     "A session ends after so many hours by the setting SimRollRate");
   command.add_option("--win-goal", options.winGoal, "A session ends when it has won so much");
   command.add_option("--loss-limit", options.lossLimit, "A session ends when it has lost so much");
   command.add_option("--end", options.end, "now, or hand: when no contract bet is up (default now)")
@@ -66,9 +67,10 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
   command.add_option("--shard", options.shard, "K/N: play the K-th of N parts, to be merged");
   command.add_option("--precision", options.precision,
                      "Stop as soon as each mean result is known to this, 95% sure");
-  command.add_option("--find", options.find,
-                     "bankroll, or stack:N: the least bankroll, or the largest start of CheckStack N, in whole "
-                     "dollars, that keeps the ruined within --ruin");
+  command.add_option(
+      "--find", options.find,
+      "bankroll, or stack:N: the least bankroll, or the largest start of CheckStack N, in whole "
+      "dollars, that keeps the ruined within --ruin");
   command.add_option("--ruin", options.ruin, "The share of sessions that may be ruined, 0.05 say");
   command.add_option("--out", options.out, "Keep the experiment in this file, to be resumed or merged");
   command.add_option("--resume", options.resume, "Go on with the experiment of this file");
@@ -221,13 +223,16 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
 }
 
 int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion& question) {
-  for (const char* other : {"--resume", "--out", "--shard", "--precision", "--csv", "--slg", "--report", "--rank"})
-    if (command.count(other) > 0) return Wrong(std::string("--find and ") + other + " can't be used together");
+  for (const char* other :
+       {"--resume", "--out", "--shard", "--precision", "--csv", "--slg", "--report", "--rank"})
+    if (command.count(other) > 0)
+      return Wrong(std::string("--find and ") + other + " can't be used together");
   if (options.find != "bankroll") {
     const bool ofStack = options.find.starts_with("stack:") && options.find.size() > 6;
     const int bet = ofStack ? BetByName("cs" + options.find.substr(6)) : 0;
     if (!IsCheckStack(bet))
-      return Wrong("--find " + options.find + ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");
+      return Wrong("--find " + options.find +
+                   ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");
     question.stack = bet - kFirstCheckStack;
   }
   int read = 0;
