@@ -192,7 +192,8 @@ int CheckScripts(const Experiment& experiment) {
   for (const LabSystem& system : experiment.systems)
     if (error.starts_with(system.name + ": ")) {
       // Nobody has written lines of it: what is wrong is a bet that the table doesn't offer.
-      if (system.standingBets) return Fail("--bets " + system.name + ": " + problem.script.diagnostic.message);
+      if (system.standingBets)
+        return Fail("--bets " + system.name + ": " + problem.script.diagnostic.message);
       std::fputs(CheckReport(system.name, system.lines, problem.script).c_str(), stderr);
       return kBad;
     }

@@ -209,7 +209,8 @@ void PrintRanking(const LabState& state, const std::string& byName) {
   std::printf("\nBy %s\n", byName.c_str());
   int place = 0;
   for (const Ranked& ranked : RankSystems(state, by))
-    std::printf("  %4d. %s: %.4f%s\n", ++place, Shown(LabelOf(state.experiment.systems[ranked.system])).c_str(),
+    std::printf("  %4d. %s: %.4f%s\n", ++place,
+                Shown(LabelOf(state.experiment.systems[ranked.system])).c_str(),
                 share ? 100 * ranked.value : ranked.value, share ? "%" : "");
 }
 
@@ -222,7 +223,8 @@ Json AnswersJson(const Experiment& experiment, const LabQuestion& question,
   for (std::size_t i = 0; i < answers.size(); ++i) {
     const LabAnswer& answer = answers[i];
     const LabSystem& system = experiment.systems[i];
-    systems.push_back({{"name", system.name}, {"parameters", ParametersJson(system)}, {"found", answer.found}});
+    systems.push_back(
+        {{"name", system.name}, {"parameters", ParametersJson(system)}, {"found", answer.found}});
     if (!answer.found) continue;
     Json& row = systems.back();
     row["value"] = MoneyJson(answer.value);
@@ -234,8 +236,9 @@ Json AnswersJson(const Experiment& experiment, const LabQuestion& question,
 
 void PrintAnswers(const Experiment& experiment, const LabQuestion& question,
                   const std::vector<LabAnswer>& answers) {
-  const std::string what = question.stack < 0 ? "the least bankroll"
-                                              : "the largest start of CheckStack " + std::to_string(question.stack);
+  const std::string what = question.stack < 0
+                               ? "the least bankroll"
+                               : "the largest start of CheckStack " + std::to_string(question.stack);
   std::printf("%s sessions, seed %llu: %s with at most %g ruined\n", Whole(experiment.sessions).c_str(),
               static_cast<unsigned long long>(experiment.seed), what.c_str(), question.ruin);
   for (std::size_t i = 0; i < answers.size(); ++i) {

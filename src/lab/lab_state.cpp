@@ -126,7 +126,8 @@ std::size_t PairsOf(std::size_t systems) { return systems * (systems - (systems 
 
 template <typename Sums, typename Visit>
 void ForEachCounts(Sums& sums, Visit&& visit) {
-  for (auto* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.streaks, &sums.ruins}) visit(*counts);
+  for (auto* counts : {&sums.nets, &sums.drawdowns, &sums.lengths, &sums.streaks, &sums.ruins})
+    visit(*counts);
   for (auto& counts : sums.fan) visit(counts);
 }
 
@@ -139,7 +140,8 @@ bool HoldsTogether(const LabState& state) {
     return false;
   if (experiment.sessions < 1 || experiment.sessions > kMostLabSessions || experiment.shards < 1 ||
       experiment.shards > kMostShards || experiment.shard < 1 || experiment.shard > experiment.shards ||
-      experiment.rolls < 0 || experiment.hands < 0 || experiment.hours < kZero || experiment.generator < 0 || experiment.generator > 8)
+      experiment.rolls < 0 || experiment.hands < 0 || experiment.hours < kZero || experiment.generator < 0 ||
+      experiment.generator > 8)
     return false;
   for (const LabSystem& system : experiment.systems)
     for (const StackStart& start : system.stacks)

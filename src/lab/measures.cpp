@@ -33,7 +33,8 @@ void CountValue(ValueCounts& counts, std::int64_t amount) {
     place = (place + 1) % kWaitingPlaces;
   CountedValue& at = counts.waiting[place];
   at.amount = amount;
-  if (++at.count == 1 && ++counts.places > static_cast<std::int64_t>(kWaitingPlaces / 2)) SettleCounts(counts);
+  if (++at.count == 1 && ++counts.places > static_cast<std::int64_t>(kWaitingPlaces / 2))
+    SettleCounts(counts);
 }
 
 void SettleCounts(ValueCounts& counts) {
@@ -113,9 +114,8 @@ void AddSums(SystemSums& sums, const SystemSums& later) {
   AddExact(sums.adjusted, later.adjusted);
   sums.handle += later.handle;
   sums.drawdown += later.drawdown;
-  for (ValueCounts SystemSums::*counts :
-       {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths, &SystemSums::streaks,
-        &SystemSums::ruins})
+  for (ValueCounts SystemSums::*counts : {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths,
+                                          &SystemSums::streaks, &SystemSums::ruins})
     AddCounts(sums.*counts, later.*counts);
   for (int mark = 0; mark < kFanMarks; ++mark) AddCounts(sums.fan[mark], later.fan[mark]);
   AddScriptErrors(sums.errors, later.errors);

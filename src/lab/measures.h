@@ -25,9 +25,10 @@ TESSARYN_FIELDS(CountedValue, amount, count)
 
 // How often each value occurred. What comes in waits a little, since putting it in its place costs a walk.
 struct ValueCounts {
-  std::vector<CountedValue> rows;     // ascending, each value once
-  std::vector<CountedValue> waiting;  // each at a place by its hash, or the next free one; a count of 0 is free
-  std::int64_t places = 0;            // taken in waiting
+  std::vector<CountedValue> rows;  // ascending, each value once
+  std::vector<CountedValue>
+      waiting;              // each at a place by its hash, or the next free one; a count of 0 is free
+  std::int64_t places = 0;  // taken in waiting
 };
 TESSARYN_FIELDS(ValueCounts, rows, waiting, places)
 void CountValue(ValueCounts& counts, std::int64_t amount);
@@ -73,8 +74,8 @@ struct SystemSums {
   std::string stopReason;               // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
-                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, streak, streaks, ruins, fan, errors,
-                acted, stopReason)
+                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, streak, streaks, ruins,
+                fan, errors, acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.
 void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<ScriptErrorKind>& more);

@@ -77,11 +77,12 @@ std::string FindForRuin(const Experiment& experiment, std::size_t system, const 
   const bool bankroll = question.stack < 0;
   const std::int64_t most = bankroll ? kMostBankroll : kMostStart;
   const std::int64_t start = bankroll ? experiment.bankroll.raw / Currency::kPerDollar : 1;
-  const std::int64_t value = Border(search, [](const ShareFigure& share) { return share.p; }, start, most);
-  const std::int64_t sure =
-      Border(search, [](const ShareFigure& share) { return share.ci95.high; }, start, most);
-  const std::int64_t perhaps =
-      Border(search, [](const ShareFigure& share) { return share.ci95.low; }, start, most);
+  const std::int64_t value = Border(
+      search, [](const ShareFigure& share) { return share.p; }, start, most);
+  const std::int64_t sure = Border(
+      search, [](const ShareFigure& share) { return share.ci95.high; }, start, most);
+  const std::int64_t perhaps = Border(
+      search, [](const ShareFigure& share) { return share.ci95.low; }, start, most);
   if (!search.error.empty()) return search.error;
   answer.found = value > 0;
   answer.any = !bankroll && value == most;

@@ -123,7 +123,8 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   touched.bets.ForEach(resetBet);
   for (int item = 0; item < kRollItems; ++item)
     if (stats.ItemLastRoll[item] != fresh.ItemLastRoll[item])
-      std::memset(stats.RollGapCounts[item], 0, CellsCounted(stats.RollGapCounts[item]) * sizeof(std::int32_t));
+      std::memset(stats.RollGapCounts[item], 0,
+                  CellsCounted(stats.RollGapCounts[item]) * sizeof(std::int32_t));
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;

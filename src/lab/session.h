@@ -36,7 +36,8 @@ struct SessionResult {
   std::int64_t luckUnit = 1;  // the same for all sessions of a system
   std::uint8_t marks = 0;     // what it met at some roll's end: SessionMark
 };
-TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, losingStreak, rolls, hands, luck, luckUnit, marks)
+TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, losingStreak, rolls, hands, luck, luckUnit,
+                marks)
 
 // What the laboratory's tables ask of the outside: nobody is there, and no clock goes.
 struct LabHost : Host {

@@ -218,7 +218,8 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
   return place;
 }
 
-// Whether the plan of the last roll with this point is right, where rules stand: the common case, at a glance.
+// Whether the plan of the last roll with this point is right, where rules stand: the common case, at a
+// glance.
 bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
@@ -228,7 +229,8 @@ bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
   std::size_t at = 0;
   for (std::size_t word = 0; word < 2; ++word)
     for (std::uint64_t rest = ride.bets.words[word]; rest != 0; rest &= rest - 1)
-      if (table.BetAmount(seat, static_cast<int>(word) * 64 + std::countr_zero(rest)).raw != ride.figure[at++])
+      if (table.BetAmount(seat, static_cast<int>(word) * 64 + std::countr_zero(rest)).raw !=
+          ride.figure[at++])
         return false;
   return true;
 }

@@ -65,12 +65,12 @@ struct LuckMeter {
   LuckChances chances;
   bool chancesKnown = false;
   LuckRules rules;
-  PayoffTables payoffs;                // what the plans were made with
-  std::vector<LuckPlan> plans;         // by a hash of what rides; behind them one for each seat
+  PayoffTables payoffs;         // what the plans were made with
+  std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
   bool rulesStand = false;
   std::size_t riding[kSeatRows] = {};        // places in plans
   std::size_t lastRide[kSeatRows][11] = {};  // by the point: of the last roll that it was on
-  std::uint32_t ridingSeats = 0;       // bit n: seat n has a plan for the roll to come
+  std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
   std::int64_t roll = 0;
   std::int64_t throwsBefore = -1;
 };
