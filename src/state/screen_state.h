@@ -151,8 +151,8 @@ struct ScreenState {
 };
 TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
                 CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
-                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, looks,
-                Folders, HotKeys)
+                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, looks, Folders,
+                HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {
