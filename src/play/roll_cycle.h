@@ -11,8 +11,8 @@ bool ReadyToRoll(Game& game);
 // Makes one roll and settles everything that hangs on it. False when nothing was rolled, or when nothing more
 // may be. Requires ReadyToRoll.
 bool MakeRoll(Game& game);
-// The two parts of MakeRoll, for who has something to do in between: the dice and all that they decide (false:
-// nothing was rolled), then the next bets on the table.
+// The two parts of MakeRoll, for who has something to do in between: the dice and all that they decide
+// (false: nothing was rolled), then the next bets on the table.
 bool RollAndSettle(Game& game);
 void FinishRoll(Game& game);
 // After the last roll: files are brought up to date, and what is shown.

@@ -53,8 +53,8 @@ TEST(Terminal, ShowsCompileErrorsStacksStepsAndRunTimeErrors) {
   const std::string marked = "     1 | bet 5 on filed\n       |          ^~~~~\n";
   const char* const parts[] = {
       "table> script 1 ",
-      "Did you mean \"field\"?\n",
       marked.c_str(),
+      "Did you mean \"field\"?\n",
       "table> initialise 1",
       marked.c_str(),
       "table> hotkey ",

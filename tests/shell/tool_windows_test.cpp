@@ -21,6 +21,7 @@
 #include "base/messages.h"
 #include "play/game_file.h"
 #include "shell/frame/arrange.h"
+#include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/exporting.h"
 #include "shell/frame/main_window.h"

@@ -21,7 +21,7 @@ bool NormaliseScript(int player, const std::vector<std::string>& lines,
 struct ReadWord {
   std::string code;  // a letter of the vocabulary and a number, or a number as typed; what means nothing as
                      // it was read. A string is "S"
-  int begin = 0;  // column, in bytes
+  int begin = 0;     // column, in bytes
   int end = 0;
 };
 // The words of each line from left to right, comments and articles excepted. A phrase that stands for several

@@ -100,8 +100,8 @@ std::string Typed(std::string_view phrase) {
   return text;
 }
 
-std::vector<ScriptWord> BuildWords() {
-  std::vector<ScriptWord> words;
+std::vector<WordEntry> BuildWords() {
+  std::vector<WordEntry> words;
   const auto add = [&words](const Told& told) {
     std::string text = Typed(told.phrase);
     if (text.empty()) return;
@@ -111,10 +111,10 @@ std::vector<ScriptWord> BuildWords() {
   };
   for (const Told& told : kStructure) add(told);
   for (const Told& told : kTold) add(told);
-  std::stable_sort(words.begin(), words.end(), [](const ScriptWord& a, const ScriptWord& b) {
+  std::stable_sort(words.begin(), words.end(), [](const WordEntry& a, const WordEntry& b) {
     return a.kind != b.kind ? a.kind < b.kind : a.text < b.text;
   });
-  const auto same = [](const ScriptWord& a, const ScriptWord& b) {
+  const auto same = [](const WordEntry& a, const WordEntry& b) {
     return a.kind == b.kind && a.text == b.text;
   };
   words.erase(std::unique(words.begin(), words.end(), same), words.end());
@@ -256,15 +256,15 @@ std::size_t AddWords(std::string_view line, std::size_t at, const ScriptSurround
 
 }  // namespace
 
-const std::vector<ScriptWord>& ScriptWords() {
-  static const std::vector<ScriptWord> words = BuildWords();
+const std::vector<WordEntry>& WordEntries() {
+  static const std::vector<WordEntry> words = BuildWords();
   return words;
 }
 
-const ScriptWord* FindScriptWord(std::string_view phrase) {
+const WordEntry* FindWordEntry(std::string_view phrase) {
   static const auto byText = [] {
-    std::map<std::string, const ScriptWord*> found;
-    for (const ScriptWord& word : ScriptWords()) {
+    std::map<std::string, const WordEntry*> found;
+    for (const WordEntry& word : WordEntries()) {
       std::string text = word.text;
       if (text.ends_with('(')) text.pop_back();
       const std::vector<std::string> words = WordsOf(text);
@@ -332,7 +332,7 @@ std::vector<WordOffer> OffersAt(std::string_view line, std::size_t at) {
   for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
     const std::string typed = Lowered(line.substr(*start));
     if (typed.find_first_of("'\"") != std::string::npos) continue;
-    for (const ScriptWord& word : ScriptWords()) {
+    for (const WordEntry& word : WordEntries()) {
       if (word.text.size() <= typed.size() || !word.text.starts_with(typed)) continue;
       const bool known = std::any_of(offers.begin(), offers.end(), [&word](const WordOffer& offer) {
         return offer.word->text == word.text;

@@ -14,14 +14,14 @@ namespace tessaryn {
 enum class WordKind { kLogic, kVariable, kFunction, kModifier, kAction };
 inline constexpr int kWordKinds = 5;
 
-struct ScriptWord {
+struct WordEntry {
   std::string text;      // as it is typed: "stop autoroll/turboroll", "cs1", "max("
   std::string_view doc;  // what it reads or does; empty for another way to write a word
   WordKind kind = WordKind::kLogic;
 };
 
 // Those that have a meaning of their own, by kind and then by the alphabet. Built once, never changed.
-const std::vector<ScriptWord>& ScriptWords();
+const std::vector<WordEntry>& WordEntries();
 
 enum class SpanKind {
   kLogic,
@@ -51,13 +51,13 @@ std::vector<ScriptSpan> SpansOf(std::string_view line, const ScriptSurroundings&
 // The words that begin with what has been typed ahead of a byte of a line, the longest beginning first.
 // length: the bytes that each of them takes the place of.
 struct WordOffer {
-  const ScriptWord* word = nullptr;
+  const WordEntry* word = nullptr;
   std::size_t length = 0;
 };
 std::vector<WordOffer> OffersAt(std::string_view line, std::size_t at);
 
-// What a phrase of a span means; null when it is none of ScriptWords.
-const ScriptWord* FindScriptWord(std::string_view phrase);
+// What a phrase of a span means; null when it is none of WordEntries.
+const WordEntry* FindWordEntry(std::string_view phrase);
 
 // How a line changes the level of the block: of itself and of the lines behind it. "if" opens, "else" stands
 // one level out, "endif" closes.

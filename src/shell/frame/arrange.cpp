@@ -6,6 +6,7 @@
 #include <span>
 
 #include "shell/frame/desk.h"
+#include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/table/table_widget.h"

@@ -6,6 +6,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <span>
 
 #include "shell/frame/shell_host.h"
 #include "shell/screens/tool_window.h"
@@ -21,6 +22,14 @@ class AmountSelector;
 class DockArea;
 class TableWidget;
 
+// A tool window that there may be.
+struct Desk;
+struct ToolRow {
+  int number;
+  ToolWindow* (*make)(Desk&);
+  bool floatsOnly = false;  // it doesn't dock, and has nothing to print
+};
+
 // The game, the table as it is shown, and what belongs to the window alone. Nothing here is owned but what is
 // a value.
 struct Desk {
@@ -32,6 +41,8 @@ struct Desk {
   DockArea* docks = nullptr;                                  // the table and its sides; null: nothing docks
   TableCommands commands = {};                                // what the next click on the table means
   std::array<QPointer<ToolWindow>, kToolWindows> tools = {};  // those that have been opened
+  std::span<const ToolRow> toolRows = {};
+  std::function<void(ToolWindow&)> toolMade = {};  // one that docks has been made
   // Make windows in place of, or beside, those of the table; for tests.
   std::array<ToolWindow* (*)(Desk&), kToolWindows> toolMakers = {};
   bool refreshing = false;  // a tool window is being brought to the state

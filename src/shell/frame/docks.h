@@ -69,17 +69,5 @@ void SetAccessKeys(ToolWindow& window, bool act);
 
 // Its dock; null while it is a window of its own or hasn't been made.
 ToolDock* DockOf(const Desk& desk, int number);
-bool MayDock(const Desk& desk, int number);
-// Moves the window to the side and shows it; behind a tab where the side has no room for one more. Without
-// docks, and for a window that doesn't dock, nothing happens.
-void DockTool(Desk& desk, int number, Qt::DockWidgetArea side);
-// Makes it a window of its own, shown if it was.
-void FloatTool(Desk& desk, int number, std::optional<QPoint> corner = {});
-
-// How docks and tabs stand, as text; empty when none is docked.
-std::string KeptArrangement(const Desk& desk);
-// The windows that the text docks are docked as it says, all others are windows of their own. A text that
-// isn't whole docks none.
-void RestoreArrangement(Desk& desk, const std::string& text);
 
 }  // namespace tessaryn

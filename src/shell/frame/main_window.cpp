@@ -25,11 +25,13 @@
 #include "play/players.h"
 #include "shell/frame/closing.h"
 #include "shell/frame/commands.h"
+#include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
 #include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
 #include "shell/frame/screen_manners.h"
+#include "shell/frame/tool_rows.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
 #include "shell/table/amount_selector.h"
@@ -67,6 +69,8 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
     : game_(game), host_(host), desk_{.game = game, .host = host, .window = this} {
   setObjectName("frmCrapTable");
   setAcceptDrops(true);
+  desk_.toolRows = ToolRows();
+  desk_.toolMade = [this](ToolWindow& tool) { GiveToolMenu(desk_, tool); };
   desk_.refresh = [this] { RefreshCommands(); };
   desk_.showGame = [this] { ShowGame(); };
   desk_.keeps = CanWriteIn(game_.dataFolder);

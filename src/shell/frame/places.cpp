@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "shell/frame/desk.h"
-#include "shell/frame/tool_windows.h"
+#include "shell/frame/docking.h"
 #include "shell/table/amount_selector.h"
 #include "shell/table/table_painter.h"
 #include "shell/table/table_widget.h"

@@ -6,169 +6,32 @@
 
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
-#include "shell/frame/lab_table.h"
-#include "shell/frame/printing.h"
-#include "shell/frame/sounds.h"
-#include "shell/frame/tool_menu.h"
-#include "shell/screens/bankroll_graph_screen.h"
-#include "shell/screens/check_stacks_screen.h"
-#include "shell/screens/configuration.h"
-#include "shell/screens/events_log_screen.h"
-#include "shell/screens/laboratory_screen.h"
-#include "shell/screens/hot_keys_screen.h"
-#include "shell/screens/move_panel.h"
-#include "shell/screens/probability_page.h"
-#include "shell/screens/report_window.h"
-#include "shell/screens/roll_files_window.h"
-#include "shell/screens/roll_pad.h"
-#include "shell/screens/sessions_log_screen.h"
-#include "shell/table/screen_tools.h"
-#include "shell/screens/workshop_window.h"
-#include "shell/table/table_widget.h"
 #include "state/game.h"
 
 namespace tessaryn {
 namespace {
 
-ToolWindow* MakeRollPad(Desk& desk) {
-  auto* pad = new RollPad(desk.game, desk.window);
-  pad->commitEntry = [&desk] { return desk.table->CommitEntry(); };
-  return pad;
-}
-
-ToolWindow* MakeMovePanel(Desk& desk) {
-  auto* panel = new MovePanel(desk.window);
-  QObject::connect(panel, &MovePanel::zoom, desk.window, [&desk](bool in, int mode) {
-    in ? ZoomIn(desk.table->view, mode) : ZoomOut(desk.table->view, mode);
-    ShowView(desk, "");
-  });
-  QObject::connect(panel, &MovePanel::move, desk.window, [&desk](int dx, int dy, int mode) {
-    MoveTable(desk.table->view, dx, dy, mode);
-    ShowView(desk, "");
-  });
-  QObject::connect(panel, &MovePanel::center, desk.window, [&desk] {
-    CenterTable(desk.table->view);
-    ShowView(desk, "");
-  });
-  QObject::connect(panel, &MovePanel::rotate, desk.window, [&desk](bool clockwise, int mode) {
-    constexpr int kDegrees[4] = {30, 90, 45, 180};
-    SetTableRotation(desk.table->view, clockwise ? -kDegrees[mode] : kDegrees[mode]);
-    ShowView(desk, "");
-  });
-  return panel;
-}
-
-template <int number>
-ToolWindow* MakeReportWindow(Desk& desk) {
-  auto* report = new ReportWindow(desk.game, number, desk.window);
-  report->selected = [&desk] { RefreshTools(desk); };
-  return report;
-}
-
-ToolWindow* MakeRollFiles(Desk& desk) {
-  auto* window = new RollFilesWindow(desk.game, desk.window);
-  window->print = [&desk, window] { PrintTool(desk, *window); };
-  return window;
-}
-
-ToolWindow* MakePercentageDice(Desk& desk) { return new PercentageDiceWindow(desk.game, desk.window); }
-
-ToolWindow* MakeBankrollGraph(Desk& desk) {
-  auto* graph = new BankrollGraphScreen(desk.game, desk.window);
-  graph->printNow = [&desk, graph] { return PrintNow(desk, *graph); };
-  graph->commitEntry = [&desk] { return desk.table->CommitEntry(); };
-  desk.host.graphPageFull = [there = QPointer<BankrollGraphScreen>(graph)](Game&) {
-    if (there != nullptr) there->PageFilled();
-  };
-  return graph;
-}
-
-ToolWindow* MakeCheckStacks(Desk& desk) { return new CheckStacksScreen(desk.game, desk.window); }
-
-template <typename Screen>
-ToolWindow* MakeLog(Desk& desk) {
-  return new Screen(desk.game, desk.window);
-}
-
-ToolWindow* MakeConfiguration(Desk& desk) {
-  SoundShelf shelf;
-  if (const Sounds* sounds = desk.host.sounds; sounds != nullptr)
-    shelf = {sounds->StickFiles(), sounds->DiceFiles(), sounds->CheckFiles(), sounds->WinFiles(),
-             [&desk](const QString& file) { desk.host.PlaySoundFile(desk.game, ToCore(file)); }};
-  return new ConfigurationScreen(desk.game, std::move(shelf), desk.window);
-}
-
-ToolWindow* MakeLaboratory(Desk& desk) {
-  auto* laboratory = new LaboratoryScreen(desk.game, desk.window);
-  laboratory->toTable = [&desk](const Experiment& experiment, std::size_t system, std::int64_t session) {
-    return PlayLabSession(desk, experiment, system, session);
-  };
-  return laboratory;
-}
-
-ToolWindow* MakeWorkshop(Desk& desk) {
-  auto* workshop = new WorkshopWindow(desk.game, desk.window);
-  workshop->changed = [&desk] {
-    desk.table->Refresh();
-    desk.refresh();
-  };
-  return workshop;
-}
-
-ToolWindow* MakeHotKeys(Desk& desk) { return new HotKeysScreen(desk.game, desk.keeps, desk.window); }
-
-WindowPlace& KeptPlace(ScreenState& screen, int number) {
-  return number < kRecordedWindows ? screen.ToolWindows[number]
-                                   : screen.FurtherPlaces[number - kRecordedWindows];
-}
-
-struct ToolRow {
-  int number;
-  ToolWindow* (*make)(Desk&);
-  bool floatsOnly = false;  // it doesn't dock, and has nothing to print
-};
-constexpr ToolRow kTools[] = {
-    {kRollPadWindow, MakeRollPad, true},
-    {kMoveWindow, MakeMovePanel, true},
-    {kDiceRollFilesWindow, MakeRollFiles},
-    {kPercentageDiceWindow, MakePercentageDice},
-    {kSummaryWindow, MakeReportWindow<kSummaryWindow>},
-    {kHandsWindow, MakeReportWindow<kHandsWindow>},
-    {kBetResultsWindow, MakeReportWindow<kBetResultsWindow>},
-    {kBetTrendsWindow, MakeReportWindow<kBetTrendsWindow>},
-    {kRollTotalsWindow, MakeReportWindow<kRollTotalsWindow>},
-    {kRollFreqsWindow, MakeReportWindow<kRollFreqsWindow>},
-    {kBankrollWindow, MakeBankrollGraph},
-    {kCheckStacksWindow, MakeCheckStacks},
-    {kSessionsWindow, MakeLog<SessionsLogScreen>},
-    {kEventsLogWindow, MakeLog<EventsLogScreen>},
-    {kConfigurationWindow, MakeConfiguration},
-    {kLaboratoryWindow, MakeLaboratory},
-    {kAutoBetWindow, MakeWorkshop},
-    {kHotKeysWindow, MakeHotKeys},
-};
-
-const ToolRow* RowOf(int number) {
-  for (const ToolRow& row : kTools)
+const ToolRow* RowOf(const Desk& desk, int number) {
+  for (const ToolRow& row : desk.toolRows)
     if (row.number == number) return &row;
   return nullptr;
 }
 
 ToolWindow* Make(Desk& desk, int number) {
   if (desk.toolMakers[number] != nullptr) return desk.toolMakers[number](desk);
-  const ToolRow* row = RowOf(number);
+  const ToolRow* row = RowOf(desk, number);
   return row != nullptr ? row->make(desk) : nullptr;
 }
 
 }  // namespace
 
 bool HasTool(const Desk& desk, int number) {
-  return desk.toolMakers[number] != nullptr || RowOf(number) != nullptr;
+  return desk.toolMakers[number] != nullptr || RowOf(desk, number) != nullptr;
 }
 
 bool DocksAsWell(const Desk& desk, int number) {
   if (!HasTool(desk, number)) return false;
-  const ToolRow* row = RowOf(number);
+  const ToolRow* row = RowOf(desk, number);
   return row == nullptr || !row->floatsOnly;
 }
 
@@ -177,7 +40,7 @@ ToolWindow& Tool(Desk& desk, int number) {
   if (tool != nullptr) return *tool;
   tool = Make(desk, number);
   tool->SetPlace(KeptPlace(desk.game.screen, number));
-  if (DocksAsWell(desk, number)) GiveToolMenu(desk, *tool);
+  if (DocksAsWell(desk, number) && desk.toolMade) desk.toolMade(*tool);
   return *tool;
 }
 
@@ -233,27 +96,9 @@ void RefreshTools(Desk& desk) {
   for (int number = 0; number < kToolWindows; ++number) RefreshTool(desk, number);
 }
 
-void KeepTools(Desk& desk) {
-  for (int number = 0; number < kToolWindows; ++number) {
-    if (desk.tools[number] == nullptr) continue;
-    WindowPlace& place = KeptPlace(desk.game.screen, number);
-    place = desk.tools[number]->Place();
-    place.Open = ToolIsShown(desk, number);
-  }
-  if (desk.docks != nullptr) desk.game.screen.Arrangement = KeptArrangement(desk);
-}
-
-void PlaceTools(Desk& desk) {
-  RestoreArrangement(desk, desk.game.screen.Arrangement);
-  for (int number = 0; number < kToolWindows; ++number) {
-    const WindowPlace& place = KeptPlace(desk.game.screen, number);
-    if (!HasTool(desk, number) || (desk.tools[number] == nullptr && !place.Open)) continue;
-    Tool(desk, number).SetPlace(place);
-    if (ToolDock* dock = DockOf(desk, number); dock != nullptr)
-      dock->setVisible(place.Open);
-    else
-      Tool(desk, number).setVisible(place.Open);
-  }
+WindowPlace& KeptPlace(ScreenState& screen, int number) {
+  return number < kRecordedWindows ? screen.ToolWindows[number]
+                                   : screen.FurtherPlaces[number - kRecordedWindows];
 }
 
 }  // namespace tessaryn

@@ -28,7 +28,7 @@ constexpr int kIndent = 3;
 constexpr std::size_t kMostOffers = 60;
 constexpr int kFarthestMatch = 3000;  // lines
 
-QString OfferText(const ScriptWord& word) {
+QString OfferText(const WordEntry& word) {
   QString text = QString::fromStdString(word.text);
   if (!word.doc.empty())
     text += QString::fromUtf8("   \u2013 ") +
@@ -318,9 +318,9 @@ void WorkshopEditor::OfferWords(bool asked) {
   // Enter must end a line whose last word is whole.
   const std::size_t start = ahead.find_last_of(" \t:(");
   const std::string last = ahead.substr(start == std::string::npos ? 0 : start + 1);
-  if (!asked && (last.size() < 2 || FindScriptWord(last) != nullptr)) offers.clear();
+  if (!asked && (last.size() < 2 || FindWordEntry(last) != nullptr)) offers.clear();
   if (offers.isEmpty() && asked && begun == 0)
-    for (const ScriptWord& every : ScriptWords()) offers.append(OfferText(every));
+    for (const WordEntry& every : WordEntries()) offers.append(OfferText(every));
   if (offers.isEmpty())
     cancelList();
   else

@@ -180,7 +180,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     return seat_ != 0;
   };
   editor_->tipOf = [this](const QString& word) {
-    const ScriptWord* known = FindScriptWord(word.toStdString());
+    const WordEntry* known = FindWordEntry(word.toStdString());
     QString tip;
     if (known != nullptr)
       tip = word + (known->doc.empty()
@@ -335,7 +335,7 @@ QWidget* WorkshopWindow::WordsTab() {
 void WorkshopWindow::ListWords(int kind) {
   words_->clear();
   QList<QTreeWidgetItem*> items;
-  for (const ScriptWord& word : ScriptWords())
+  for (const WordEntry& word : WordEntries())
     if (static_cast<int>(word.kind) == kind)
       items.append(
           new QTreeWidgetItem({QString::fromStdString(word.text),

@@ -1,22 +1,29 @@
-#include "shell/frame/tool_menu.h"
+#include "shell/frame/docking.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMenu>
 #include <QMenuBar>
 #include <algorithm>
+#include <set>
+#include <utility>
 
 #include "shell/frame/desk.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/exporting.h"
 #include "shell/frame/printing.h"
 #include "shell/frame/tool_windows.h"
+#include "shell/table/table_widget.h"
 #include "state/game.h"
 
 namespace tessaryn {
 namespace {
+
+constexpr int kVersion = 1;     // of the arrangement
+constexpr qsizetype kLongestArrangement = 1 << 16;
 
 enum class Needs { kNothing, kAnything, kRows, kPicture };
 
@@ -184,6 +191,159 @@ void GiveToolMenu(Desk& desk, ToolWindow& window) {
 
 void ShowToolMenu(ToolWindow& window, bool shown) {
   if (auto* bar = window.findChild<QMenuBar*>(kBar, Qt::FindDirectChildrenOnly)) bar->setVisible(shown);
+}
+
+// --- At the table's sides.
+
+bool MayDock(const Desk& desk, int number) { return desk.docks != nullptr && DocksAsWell(desk, number); }
+
+namespace {
+
+// In front at the side; one of each group of tabs is.
+QList<ToolDock*> InFrontAt(const Desk& desk, Qt::DockWidgetArea side) {
+  QList<ToolDock*> docks;
+  for (int number = 0; number < kToolWindows; ++number)
+    if (ToolDock* dock = DockOf(desk, number);
+        dock != nullptr && !dock->isHidden() && dock->IsInFront() && desk.docks->dockWidgetArea(dock) == side)
+      docks.append(dock);
+  return docks;
+}
+
+bool HasRoomFor(const Desk& desk, Qt::DockWidgetArea side, int docks) {
+  const bool column = side == Qt::LeftDockWidgetArea || side == Qt::RightDockWidgetArea;
+  constexpr int kTitle = 28;
+  return column ? docks * (kLeastDock.height() + kTitle) <= desk.docks->height()
+                : docks * kLeastDock.width() <= desk.docks->width();
+}
+
+ToolDock* MakeDock(Desk& desk, int number) {
+  ToolWindow& tool = Tool(desk, number);
+  // Where it stands as a window is kept by its hiding.
+  tool.hide();
+  ShowToolMenu(tool, false);
+  auto* dock = new ToolDock(number, tool, desk.docks);
+  dock->SetMenu(DockMenu(desk, tool, dock));
+  QObject::connect(dock, &ToolDock::floatWanted, desk.window,
+                   [&desk, number](std::optional<QPoint> corner) { FloatTool(desk, number, corner); });
+  QObject::connect(dock, &ToolDock::cameInFront, desk.window, [&desk, number] { RefreshTool(desk, number); });
+  const auto toTheTable = [&desk] { desk.table->setFocus(); };
+  QObject::connect(dock, &ToolDock::left, desk.window, toTheTable);
+  QObject::connect(dock, &ToolDock::wentBehind, desk.window, [dock, toTheTable] {
+    const QWidget* focus = QApplication::focusWidget();
+    if (focus == nullptr || dock->isAncestorOf(focus)) toTheTable();
+  });
+  return dock;
+}
+
+}  // namespace
+
+void DockTool(Desk& desk, int number, Qt::DockWidgetArea side) {
+  if (!MayDock(desk, number)) return;
+  ToolDock* dock = DockOf(desk, number);
+  if (dock != nullptr) desk.docks->removeDockWidget(dock);
+  const QList<ToolDock*> there = InFrontAt(desk, side);
+  if (dock == nullptr) dock = MakeDock(desk, number);
+  desk.docks->addDockWidget(side, dock);
+  if (!HasRoomFor(desk, side, static_cast<int>(there.size()) + 1) && !there.isEmpty())
+    desk.docks->tabifyDockWidget(there.back(), dock);
+  dock->show();
+  dock->raise();
+}
+
+void FloatTool(Desk& desk, int number, std::optional<QPoint> corner) {
+  ToolDock* dock = DockOf(desk, number);
+  if (dock == nullptr) return;
+  const bool open = !dock->isHidden();
+  ToolWindow* tool = dock->Release(desk.window);
+  desk.docks->removeDockWidget(dock);
+  dock->setObjectName({});  // nobody finds it meanwhile
+  dock->deleteLater();
+  ShowToolMenu(*tool, true);
+  SetAccessKeys(*tool, true);
+  if (WindowPlace place = tool->Place(); corner && place.Width > 0) {
+    place.Left = corner->x();
+    place.Top = corner->y();
+    tool->SetPlace(place);
+  }
+  tool->setVisible(open);
+}
+
+// --- All of them.
+
+namespace {
+
+QByteArray DigestOf(const QByteArray& bytes) {
+  return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex().left(16);
+}
+
+struct Arrangement {
+  std::set<int> docked;
+  QByteArray state;  // of the docks
+};
+
+// "6,8 DIGEST STATE", the state in base 64; the digest is of the numbers and the state.
+bool ReadArrangement(const Desk& desk, const std::string& text, Arrangement& read) {
+  const QList<QByteArray> parts = QByteArray::fromStdString(text).split(' ');
+  if (parts.size() != 3 || parts[2].size() > kLongestArrangement) return false;
+  for (const QByteArray& part : parts[0].split(',')) {
+    bool isNumber = false;
+    const int number = part.toInt(&isNumber);
+    if (!isNumber || number < 0 || number >= kToolWindows) return false;
+    // One of another version of the program is no longer there, or not yet.
+    if (MayDock(desk, number)) read.docked.insert(number);
+  }
+  const auto state = QByteArray::fromBase64Encoding(parts[2], QByteArray::AbortOnBase64DecodingErrors);
+  if (!state || DigestOf(parts[0] + *state) != parts[1]) return false;
+  read.state = *state;
+  return true;
+}
+
+}  // namespace
+
+std::string KeptArrangement(const Desk& desk) {
+  QByteArrayList docked;
+  for (int number = 0; number < kToolWindows; ++number)
+    if (DockOf(desk, number) != nullptr) docked.append(QByteArray::number(number));
+  if (docked.isEmpty()) return {};
+  const QByteArray numbers = docked.join(',');
+  const QByteArray state = desk.docks->saveState(kVersion);
+  return (numbers + ' ' + DigestOf(numbers + state) + ' ' + state.toBase64()).toStdString();
+}
+
+void RestoreArrangement(Desk& desk, const std::string& text) {
+  if (desk.docks == nullptr) return;
+  Arrangement wanted;
+  if (!text.empty() && !ReadArrangement(desk, text, wanted)) wanted = {};
+  for (int number = 0; number < kToolWindows; ++number)
+    if (!wanted.docked.contains(number)) FloatTool(desk, number);
+  for (const int number : wanted.docked)
+    if (DockOf(desk, number) == nullptr)
+      desk.docks->addDockWidget(Qt::RightDockWidgetArea, MakeDock(desk, number));
+  if (wanted.docked.empty() || desk.docks->restoreState(wanted.state, kVersion)) return;
+  for (const int number : wanted.docked) FloatTool(desk, number);
+}
+
+void KeepTools(Desk& desk) {
+  for (int number = 0; number < kToolWindows; ++number) {
+    if (desk.tools[number] == nullptr) continue;
+    WindowPlace& place = KeptPlace(desk.game.screen, number);
+    place = desk.tools[number]->Place();
+    place.Open = ToolIsShown(desk, number);
+  }
+  if (desk.docks != nullptr) desk.game.screen.Arrangement = KeptArrangement(desk);
+}
+
+void PlaceTools(Desk& desk) {
+  RestoreArrangement(desk, desk.game.screen.Arrangement);
+  for (int number = 0; number < kToolWindows; ++number) {
+    const WindowPlace& place = KeptPlace(desk.game.screen, number);
+    if (!HasTool(desk, number) || (desk.tools[number] == nullptr && !place.Open)) continue;
+    Tool(desk, number).SetPlace(place);
+    if (ToolDock* dock = DockOf(desk, number); dock != nullptr)
+      dock->setVisible(place.Open);
+    else
+      Tool(desk, number).setVisible(place.Open);
+  }
 }
 
 }  // namespace tessaryn
