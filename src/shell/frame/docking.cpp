@@ -22,7 +22,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr int kVersion = 1;     // of the arrangement
+constexpr int kVersion = 1;  // of the arrangement
 constexpr qsizetype kLongestArrangement = 1 << 16;
 
 enum class Needs { kNothing, kAnything, kRows, kPicture };

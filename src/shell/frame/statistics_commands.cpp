@@ -7,7 +7,7 @@ namespace {
 
 // Shows a tool window or hides it; ticked while it is shown.
 template <int number>
-constexpr CommandRow ToolRow(const char* name, const char* caption) {
+constexpr CommandRow ToggleRow(const char* name, const char* caption) {
   return {.name = name,
           .caption = caption,
           .act = [](Desk& desk) { ToggleTool(desk, number); },
@@ -18,18 +18,18 @@ constexpr CommandRow ToolRow(const char* name, const char* caption) {
 
 std::span<const CommandRow> StatisticsCommands() {
   static const CommandRow kCommands[] = {
-      ToolRow<kSummaryWindow>("mnuSummary", QT_TRANSLATE_NOOP("Commands", "&Summary")),
-      ToolRow<kHandsWindow>("mnuHands", QT_TRANSLATE_NOOP("Commands", "&Hands")),
-      ToolRow<kBetResultsWindow>("mnuBetResults", QT_TRANSLATE_NOOP("Commands", "Bet &results")),
-      ToolRow<kBetTrendsWindow>("mnuBetTrends", QT_TRANSLATE_NOOP("Commands", "Bet &trends")),
-      ToolRow<kRollTotalsWindow>("mnuRollTotals", QT_TRANSLATE_NOOP("Commands", "R&oll totals")),
-      ToolRow<kRollFreqsWindow>("mnuRollFreqs", QT_TRANSLATE_NOOP("Commands", "Roll &frequencies")),
-      ToolRow<kBankrollWindow>("mnuBankroll", QT_TRANSLATE_NOOP("Commands", "&Bankroll graph")),
-      ToolRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
-      ToolRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
-      ToolRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
+      ToggleRow<kSummaryWindow>("mnuSummary", QT_TRANSLATE_NOOP("Commands", "&Summary")),
+      ToggleRow<kHandsWindow>("mnuHands", QT_TRANSLATE_NOOP("Commands", "&Hands")),
+      ToggleRow<kBetResultsWindow>("mnuBetResults", QT_TRANSLATE_NOOP("Commands", "Bet &results")),
+      ToggleRow<kBetTrendsWindow>("mnuBetTrends", QT_TRANSLATE_NOOP("Commands", "Bet &trends")),
+      ToggleRow<kRollTotalsWindow>("mnuRollTotals", QT_TRANSLATE_NOOP("Commands", "R&oll totals")),
+      ToggleRow<kRollFreqsWindow>("mnuRollFreqs", QT_TRANSLATE_NOOP("Commands", "Roll &frequencies")),
+      ToggleRow<kBankrollWindow>("mnuBankroll", QT_TRANSLATE_NOOP("Commands", "&Bankroll graph")),
+      ToggleRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
+      ToggleRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
+      ToggleRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
       {},
-      ToolRow<kLaboratoryWindow>("mnuLaboratory", QT_TRANSLATE_NOOP("Commands", "L&aboratory")),
+      ToggleRow<kLaboratoryWindow>("mnuLaboratory", QT_TRANSLATE_NOOP("Commands", "L&aboratory")),
   };
   return kCommands;
 }

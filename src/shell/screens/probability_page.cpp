@@ -131,7 +131,6 @@ void ProbabilityPage::AddCommands(QBoxLayout& column) {
   active_->setCheckable(true);
   active_->setMinimumWidth(active_->fontMetrics().horizontalAdvance("Inactive") + 40);
   connect(active_, &QPushButton::clicked, this, &ProbabilityPage::ToggleActive);
-  row->addWidget(active_);
 }
 
 void ProbabilityPage::AddFileLine(QBoxLayout& column) {
@@ -148,11 +147,13 @@ void ProbabilityPage::AddFileLine(QBoxLayout& column) {
   row->addWidget(kind_);
   row->addSpacing(8);
   row->addWidget(file_, 1);
+  row->addWidget(active_);
   column.addLayout(row);
 }
 
 void ProbabilityPage::AddSheet(QBoxLayout& column) {
   auto* row = new QHBoxLayout;
+  sheetRow_ = row;
   row->setSpacing(12);
   model_ = new ProbabilityModel(game_.percentage, this);
   model_->enter = [this](ProbabilityCell cell, const QString& text) { Enter(cell, text); };
@@ -176,6 +177,13 @@ void ProbabilityPage::AddSheet(QBoxLayout& column) {
   column.addWidget(note_);
 }
 
+// The picture stands under the sheet where both have no room side by side.
+void ProbabilityPage::resizeEvent(QResizeEvent* event) {
+  constexpr int kSideBySide = 900;
+  sheetRow_->setDirection(width() < kSideBySide ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
+  QWidget::resizeEvent(event);
+}
+
 void ProbabilityPage::AddDisplay(QBoxLayout& column) {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(16);
@@ -194,8 +202,8 @@ void ProbabilityPage::AddDisplay(QBoxLayout& column) {
   outOf_->setAlignment(Qt::AlignRight);
   outOf_->setMaximumWidth(outOf_->fontMetrics().horizontalAdvance("1,000,000,000") + 16);
   connect(outOf_, &QLineEdit::editingFinished, this, &ProbabilityPage::SetRollsOutOf);
-  grid->addWidget(outOf_, 0, 2, 2, 1, Qt::AlignVCenter | Qt::AlignLeft);
-  grid->setColumnStretch(3, 1);
+  grid->addWidget(outOf_, 2, 0, 1, 2, Qt::AlignLeft);
+  grid->setColumnStretch(2, 1);
   column.addLayout(grid);
 }
 

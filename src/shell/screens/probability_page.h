@@ -31,6 +31,7 @@ class ProbabilityPage : public QWidget {
 
  protected:
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   void AddCommands(QBoxLayout& column);
@@ -64,6 +65,7 @@ class ProbabilityPage : public QWidget {
   Game& game_;
   ProbabilityEdits edits_;
   PercentageDice shown_;  // as it was when it was last shown
+  QBoxLayout* sheetRow_;  // the sheet and its picture
   ProbabilityModel* model_;
   ProbabilityTable* table_;
   ProbabilityPicture* picture_;

@@ -242,7 +242,8 @@ void ProbabilityTable::FitColumns() {
   for (int column = 0; column < kSheetColumns; ++column)
     setColumnWidth(column, column == kTotalLabels ? fontMetrics().horizontalAdvance("12") + 16 : widest);
   const int frame = 2 * frameWidth();
-  setMinimumWidth(std::min(640, verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame));
+  setMinimumWidth(std::min(400, verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame));
+  setMinimumHeight(horizontalHeader()->sizeHint().height() + verticalHeader()->length() / 2 + frame);
   setMaximumWidth(verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame + 2);
   setMaximumHeight(horizontalHeader()->sizeHint().height() + verticalHeader()->length() + frame + 2);
 }
