@@ -271,7 +271,9 @@ TEST(Lsp, AThousandLinesAreLookedAtAgainInThirtyMilliseconds) {
     const std::chrono::duration<double, std::milli> taken = std::chrono::steady_clock::now() - start;
     least = std::min(least, taken.count());
   }
-  if (std::getenv("TESSARYN_SANITIZED") == nullptr) EXPECT_LT(least, 30);
+  if (std::getenv("TESSARYN_SANITIZED") == nullptr) {
+    EXPECT_LT(least, 30);
+  }
 }
 
 }  // namespace

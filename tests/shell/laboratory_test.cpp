@@ -86,9 +86,16 @@ QStringList Flat(const QList<QStringList>& rows) {
   return texts;
 }
 
+// So many that a run can be stopped on the way.
+#ifdef NDEBUG
+constexpr const char* kEnoughSessions = "20000";
+#else
+constexpr const char* kEnoughSessions = "700";
+#endif
+
 TEST(LaboratoryScreen, PausedAndContinuedItTellsWhatTheCoreFigures) {
   Laboratory table;
-  const Experiment experiment = table.SetUp("700");
+  const Experiment experiment = table.SetUp(kEnoughSessions);
   Click(table.lab, "cmdRun");
   ASSERT_TRUE(table.Waits("Pause"));
   QTest::qWait(300);
