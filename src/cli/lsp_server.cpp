@@ -52,7 +52,7 @@ struct KindFacts {
   const char* token;
   int icon;
 };
-constexpr KindFacts kKinds[kScriptWordKinds] = {
+constexpr KindFacts kKindFacts[kScriptWordKinds] = {
     {"keyword", 14}, {"method", 2}, {"variable", 6},  {"enumMember", 20}, {"function", 3}, {"class", 7},
     {"modifier", 5}, {"macro", 14}, {"operator", 24}, {"number", 12},     {"string", 1},   {"namespace", 9},
     {"comment", 1},  {"", 1},
@@ -60,7 +60,7 @@ constexpr KindFacts kKinds[kScriptWordKinds] = {
 
 Json TokenLegend() {
   Json names = Json::array();
-  for (const KindFacts& kind : kKinds)
+  for (const KindFacts& kind : kKindFacts)
     if (*kind.token != '\0') names.push_back(kind.token);
   return names;
 }
@@ -304,7 +304,7 @@ Json LspServer::Complete(const Request& request) {
     const Json range = SpanJson(text, line, found.begin, column);
     for (const ScriptCompletion& item : found.items)
       items.push_back({{"label", item.text + item.arguments},
-                       {"kind", kKinds[static_cast<int>(item.kind)].icon},
+                       {"kind", kKindFacts[static_cast<int>(item.kind)].icon},
                        {"detail", ScriptKindName(item.kind)},
                        {"documentation", item.doc},
                        {"filterText", item.text},
@@ -365,7 +365,7 @@ Json LspServer::Color(const Request& request) {
   std::size_t line = 0;
   std::size_t startByte = 0;  // of the word before
   for (const ScriptWord& word : document.words) {
-    if (*kKinds[static_cast<int>(word.kind)].token == '\0') continue;
+    if (*kKindFacts[static_cast<int>(word.kind)].token == '\0') continue;
     const auto row = static_cast<std::size_t>(word.line) - 1;
     const auto begin = static_cast<std::size_t>(word.begin);
     const bool sameLine = row == line;
