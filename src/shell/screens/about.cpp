@@ -31,10 +31,13 @@ QVBoxLayout* Headline(QWidget* parent) {
   name->setFont(large);
   name->setAlignment(Qt::AlignCenter);
   column->addWidget(name);
-  auto* version = new QLabel(Words("Version %1").arg(TESSARYN_VERSION), parent);
+  auto* version =
+      new QLabel(Words(QT_TRANSLATE_NOOP("AboutScreen", "Version %1")).arg(TESSARYN_VERSION), parent);
   version->setAlignment(Qt::AlignCenter);
   column->addWidget(version);
-  auto* what = new QLabel(Words("A craps table to play at, and to test betting systems on."), parent);
+  auto* what = new QLabel(
+      Words(QT_TRANSLATE_NOOP("AboutScreen", "A craps table to play at, and to test betting systems on.")),
+      parent);
   what->setAlignment(Qt::AlignCenter);
   column->addWidget(what);
   return column;
@@ -44,20 +47,22 @@ QVBoxLayout* Headline(QWidget* parent) {
 
 AboutScreen::AboutScreen(const Game& game, QWidget* parent) : QDialog(parent) {
   setObjectName("frmAbout");
-  setWindowTitle(Words("About Tessaryn"));
+  setWindowTitle(Words(QT_TRANSLATE_NOOP("AboutScreen", "About Tessaryn")));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(28, 22, 28, 16);
   column->addLayout(Headline(this));
   column->addSpacing(10);
-  auto* folders = new QLabel(
-      Words("Programs:  %1\nData:  %2").arg(FromCore(game.applicationFolder), FromCore(game.dataFolder)),
-      this);
+  auto* folders = new QLabel(Words(QT_TRANSLATE_NOOP("AboutScreen", "Programs:  %1\nData:  %2"))
+                                 .arg(FromCore(game.applicationFolder), FromCore(game.dataFolder)),
+                             this);
   folders->setObjectName("lblFolders");
   folders->setTextInteractionFlags(Qt::TextSelectableByMouse);
   folders->setWordWrap(true);
   column->addWidget(folders);
-  auto* licence =
-      new QLabel(Words("Free software under the GNU General Public License, version 3: see LICENSE."), this);
+  auto* licence = new QLabel(
+      Words(QT_TRANSLATE_NOOP("AboutScreen",
+                              "Free software under the GNU General Public License, version 3: see LICENSE.")),
+      this);
   licence->setObjectName("lblLicense");
   licence->setWordWrap(true);
   column->addWidget(licence);

@@ -26,9 +26,17 @@ namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{"Open Events Log", "Events log file (*.txt);;All files (*)", ".txt", false, false,
+const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Events Log"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           false,
+                           false,
                            kEventsLogFolder};
-const FilePurpose kSaveLog{"Save Events Log As", "Events log file (*.txt);;All files (*)", ".txt", true, true,
+const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Events Log As"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           true,
+                           true,
                            kEventsLogFolder};
 
 constexpr int kSlice = 6;        // milliseconds of work between two looks at the user's events
@@ -42,18 +50,18 @@ struct KindRow {
   unsigned kinds;
 };
 constexpr KindRow kKinds[] = {
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Everything"), kLogAllKinds},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls"), kLogKindRoll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls, passes and misses"),
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Everything"), kLogAllKinds},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls"), kLogKindRoll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls, passes and misses"),
      kLogKindRoll | kLogKindLine | kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bets"), kLogKindBet},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins"), kLogKindWin},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Losses"), kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bankrolls"), kLogKindBankroll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "CheckStacks"), kLogKindStack},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Shooters and hands"), kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bets"), kLogKindBet},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins"), kLogKindWin},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Losses"), kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bankrolls"), kLogKindBankroll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "CheckStacks"), kLogKindStack},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Shooters and hands"), kLogKindHand},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
 };
 
 // How the lines look is kept with the places of the windows.
@@ -274,7 +282,7 @@ void EventsLogScreen::Open() {
   const std::string error = view_->Open(path, reference, filter_);
   if (!error.empty() && !looking_.empty()) {
     looking_.clear();
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
     return Open();
   }
   topShown_ = 0;
@@ -461,7 +469,7 @@ void EventsLogScreen::OpenLog() {
   std::string error;
   looking_.clear();
   if (!OpenEventsLog(game_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
   Open();
   Refresh();
 }
@@ -471,7 +479,8 @@ bool EventsLogScreen::SaveAsChosen() {
   if (path.empty()) return false;
   std::string error;
   const bool saved = SaveEventsLogAs(game_, path, error);
-  if (!saved) ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveLog.title), With<"problem">(error));
+  if (!saved)
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveLog)), With<"problem">(error));
   return saved;
 }
 

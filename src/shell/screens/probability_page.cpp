@@ -15,6 +15,7 @@
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "play/auto_roll.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/dice_boxes.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/probability_picture.h"
@@ -96,7 +97,7 @@ void ProbabilityPage::AddCommands(QBoxLayout& column) {
   editing->addAction(AddCommand("mnuAxes", tr("&Shooter's effectiveness ..."), &ProbabilityPage::Axes));
   QMenu* sets = AddMenuButton("mnuPresets", tr("Ready &dice"), this, *row)->menu();
   for (const ProbabilityPreset& preset : ProbabilityPresets()) {
-    QAction* action = sets->addAction(tr(preset.caption));
+    QAction* action = sets->addAction(CoreWords(preset.caption));
     connect(action, &QAction::triggered, this, [this, &preset] {
       const auto apply = [&] {
         ApplyProbabilityPreset(game_.percentage, preset);
@@ -190,7 +191,7 @@ void ProbabilityPage::AddDisplay(QBoxLayout& column) {
   grid->setVerticalSpacing(4);
   display_ = new QButtonGroup(this);
   for (int mode = 0; mode < 4; ++mode) {
-    auto* radio = new QRadioButton(tr(kProbabilityDisplayCaptions[mode]), this);
+    auto* radio = new QRadioButton(CoreWords(kProbabilityDisplayCaptions[mode]), this);
     radio->setObjectName(QString("optProbability%1").arg(mode));
     display_->addButton(radio, mode);
     grid->addWidget(radio, mode % 2, mode / 2);
@@ -224,7 +225,7 @@ void ProbabilityPage::Refresh() {
 void ProbabilityPage::ShowDice() {
   const PercentageDice& dice = game_.percentage;
   shown_ = dice;
-  kind_->setText(tr(PercentageDiceCaption(dice)));
+  kind_->setText(CoreWords(PercentageDiceCaption(dice)));
   file_->setText(FileLine(dice));
   file_->setToolTip(FromCore(dice.ProbFileName));
   display_->button(dice.ProbDisplayMode)->setChecked(true);
@@ -413,9 +414,9 @@ QList<QStringList> PercentageDiceWindow::Rows() const {
 
 QStringList PercentageDiceWindow::PrintHeadings() const {
   const PercentageDice& dice = game_.percentage;
-  QString shown = tr(kProbabilityDisplayCaptions[dice.ProbDisplayMode]).trimmed();
+  QString shown = CoreWords(kProbabilityDisplayCaptions[dice.ProbDisplayMode]).trimmed();
   if (dice.ProbDisplayMode >= kShowRollsOutOf) shown += " " + QString::number(dice.ProbRollsOutOf, 'g', 15);
-  return {tr(PercentageDiceCaption(dice)), tr("Probability file: %1").arg(FileLine(dice)), shown};
+  return {CoreWords(PercentageDiceCaption(dice)), tr("Probability file: %1").arg(FileLine(dice)), shown};
 }
 
 void PercentageDiceWindow::PaintPicture(QPainter& painter, const QRectF& area) const {

@@ -87,10 +87,11 @@ constexpr std::int32_t kRollsAtATime = 1 << 20;
 constexpr std::int32_t kMostRowsTaken = 200'000;  // more is for the text file, which is written as it is read
 constexpr int kLeastFont = 8;
 constexpr int kMostFont = 16;
-constexpr const char* kTitles[3] = {"Dice Roll File", "Record Dice Rolls During Game Play",
-                                    "Playback Dice Rolls During Game Play"};
-constexpr const char* kTitleEnter = "Record Dice Rolls";
-constexpr const char* kTitleEdit = "Dice Roll File";
+constexpr const char* kTitles[3] = {QT_TRANSLATE_NOOP("Files", "Dice Roll File"),
+                                    QT_TRANSLATE_NOOP("Files", "Record Dice Rolls During Game Play"),
+                                    QT_TRANSLATE_NOOP("Files", "Playback Dice Rolls During Game Play")};
+constexpr const char* kTitleEnter = QT_TRANSLATE_NOOP("Files", "Record Dice Rolls");
+constexpr const char* kTitleEdit = kTitles[0];
 constexpr QSize kPadButton{40, 22};
 constexpr int kPadFace = 14;
 
@@ -608,13 +609,14 @@ void RollFilesWindow::SetFormat() {
 // --- Paper.
 
 bool RollFilesWindow::ReadyToPrint() {
-  constexpr const char* kTitle = "Print Dice Roll File";
+  constexpr const char* kTitle = QT_TRANSLATE_NOOP("Files", "Print Dice Roll File");
   if (!IsRollFileOpen(game_.rollFile))
     TellOpenFileFirst(game_, kTitle);
   else if (RollFileLength(game_.rollFile) == 0)
     TellDiceProblem(game_, kTitle, MessageText<Msg::kNoRollsToPrint>());
   else if (!IsRollFormatUsable(game_.rollFile.RollFileOutputFormat))
-    TellDiceProblem(game_, "Print Dice Rolls", MessageText<Msg::kNoDiceInFormat>());
+    TellDiceProblem(game_, QT_TRANSLATE_NOOP("Files", "Print Dice Rolls"),
+                    MessageText<Msg::kNoDiceInFormat>());
   else
     return true;
   return false;

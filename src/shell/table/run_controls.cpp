@@ -16,8 +16,11 @@ namespace tessaryn {
 QString RunCaption(const Game& game) {
   const bool paced = game.table.AutoRollActive ? !game.table.TurboRollActive
                                                : game.settings.RollThrottle == kThrottleAutoRoll;
-  const char* caption = game.table.AutoRollActive ? (paced ? "Stop &Auto-Roll" : "Stop &Turbo-Roll")
-                                                  : (paced ? "Start &Auto-Roll" : "Start &Turbo-Roll");
+  const char* caption = game.table.AutoRollActive
+                            ? (paced ? QT_TRANSLATE_NOOP("RunControls", "Stop &Auto-Roll")
+                                     : QT_TRANSLATE_NOOP("RunControls", "Stop &Turbo-Roll"))
+                            : (paced ? QT_TRANSLATE_NOOP("RunControls", "Start &Auto-Roll")
+                                     : QT_TRANSLATE_NOOP("RunControls", "Start &Turbo-Roll"));
   return QCoreApplication::translate("RunControls", caption);
 }
 
@@ -64,8 +67,10 @@ RunControls::RunControls(QWidget* parent)
   speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 2);
   Trim(*roll_, {roll_->text()});
   Trim(*pass_, {pass_->text()});
-  Trim(*run_,
-       {tr("Start &Turbo-Roll"), tr("Stop &Turbo-Roll"), tr("Start &Auto-Roll"), tr("Stop &Auto-Roll")});
+  Trim(*run_, {QCoreApplication::translate("RunControls", "Start &Turbo-Roll"),
+               QCoreApplication::translate("RunControls", "Stop &Turbo-Roll"),
+               QCoreApplication::translate("RunControls", "Start &Auto-Roll"),
+               QCoreApplication::translate("RunControls", "Stop &Auto-Roll")});
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(5);
