@@ -24,6 +24,10 @@ Data:  %2</source>
         <source>Free software under the GNU General Public License, version 3: see LICENSE.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>&amp;Language:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>BankrollGraph</name>
@@ -400,6 +404,10 @@ Data:  %2</source>
     </message>
     <message>
         <source>Arra&amp;nge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lang&amp;uage</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1387,6 +1395,10 @@ Data:  %2</source>
     </message>
     <message>
         <source>%1 or %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>language of the window</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

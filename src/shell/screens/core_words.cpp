@@ -50,6 +50,7 @@ constexpr const char* kWords[] = {
     QT_TRANSLATE_NOOP("Core", " Carry the bankroll forward"),
     QT_TRANSLATE_NOOP("Core", " Begin with this amount"),
     QT_TRANSLATE_NOOP("Core", " Ask for the amount"),
+    QT_TRANSLATE_NOOP("Core", "language of the window"),
     QT_TRANSLATE_NOOP("Core", "0 by the change, 1 up, 2 down"),
     QT_TRANSLATE_NOOP("Core", "minimum of bets 1 to 51"),
     QT_TRANSLATE_NOOP("Core", "minimum of bets 52 to 93"),

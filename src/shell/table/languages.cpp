@@ -39,7 +39,7 @@ void LoadTextsOfQt(int language) {
     delete translator;
 }
 
-Words WordsOf(int language) {
+Wording WordingOf(int language) {
   if (language == 0) return {};
   auto file = std::make_shared<QTranslator>();
   if (!file->load(FileOf("tessaryn_", language))) return {};
@@ -67,11 +67,11 @@ void SpeakLanguage(int language, const QStringList& entered) {
   qApp->setProperty(kSpoken, wanted);
   LoadTextsOfQt(wanted);
   if (listens || wanted != 0)
-    SpeakWith(WordsOf(wanted), entered);
+    SpeakWith(WordingOf(wanted), entered);
   else
     SpokenTexts::Of();
 }
 
-void SpeakWith(const Words& words, const QStringList& entered) { SpokenTexts::Of().Change(words, entered); }
+void SpeakWith(const Wording& words, const QStringList& entered) { SpokenTexts::Of().Change(words, entered); }
 
 }  // namespace tessaryn

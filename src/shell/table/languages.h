@@ -27,7 +27,7 @@ void SpeakLanguage(int language, const QStringList& entered = {});
 int LanguageSpoken();
 
 // Another language than those, for tests: the words for a text of a context, or a null text for the source.
-using Words = std::function<QString(const char* context, const char* source)>;
-void SpeakWith(const Words& words, const QStringList& entered = {});
+using Wording = std::function<QString(const char* context, const char* source)>;
+void SpeakWith(const Wording& words, const QStringList& entered = {});
 
 }  // namespace tessaryn

@@ -90,19 +90,19 @@ void SpokenTexts::Hear(const QString& text, const char* context, const char* sou
   QList<Row>& rows = heard_.texts[text];
   for (const Row& row : rows)
     if (row.context == context && row.source == source) return;
-  rows.append({context, source});
+  rows.append(Row{context, source});
   const QString fixed = WithoutHoles(text);
   const int letters = LettersOf(fixed);
   if (fixed.size() == text.size() || letters < kLeastLetters) return;
   const auto place =
       std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
                    [letters](const Pattern& other) { return LettersOf(WithoutHoles(other.text)) < letters; });
-  heard_.patterns.insert(place, {text, {context, source}});
+  heard_.patterns.insert(place, Pattern{text, Row{context, source}});
 }
 
 // --- The change.
 
-void SpokenTexts::Change(const Words& words, const QStringList& entered) {
+void SpokenTexts::Change(const Wording& words, const QStringList& entered) {
   {
     const QMutexLocker lock(&mutex_);
     former_ = std::exchange(heard_, {});

@@ -21,7 +21,7 @@ class SpokenTexts : public QTranslator {
   static SpokenTexts& Of();
   static bool IsThere();
 
-  void Change(const Words& words, const QStringList& entered);
+  void Change(const Wording& words, const QStringList& entered);
 
   QString translate(const char* context, const char* source, const char* disambiguation,
                     int count) const override;
@@ -52,7 +52,7 @@ class SpokenTexts : public QTranslator {
   QString ByPattern(const QString& text, const QWidget& near) const;
   const Row* RowOf(const QString& text, const QWidget& near) const;
 
-  Words words_;
+  Wording words_;
   QStringList entered_;
   Heard former_;  // while a change goes on
   mutable QMutex mutex_;
