@@ -2528,10 +2528,6 @@ Data:  %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>, give or take %1</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source> Odds are counted while a point is on, and Come and Don&apos;t Come bets are made while one is.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2573,6 +2569,10 @@ Data:  %2</source>
     </message>
     <message>
         <source>Only wins and losses count as decisions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, give or take %2</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -3934,10 +3934,6 @@ Data:  %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> (%1% read)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation type="unfinished"></translation>
     </message>
@@ -3959,6 +3955,10 @@ Data:  %2</source>
     </message>
     <message>
         <source>Print Events Log</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (%2% read)</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5265,10 +5265,6 @@ Data:  %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>, %1 selected</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Roll 12, 3 and 4: %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5289,10 +5285,6 @@ Data:  %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> · % · hatched: fair</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Print Dice Rolls</source>
         <translation type="unfinished"></translation>
     </message>
@@ -5306,6 +5298,14 @@ Data:  %2</source>
     </message>
     <message>
         <source>Number of rolls to be printed: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · % · hatched: fair</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -5357,7 +5357,7 @@ File, New or Open begins.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>, rolls %1 to %2 selected</source>
+        <source>%1, rolls %2 to %3 selected</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -394,7 +394,7 @@ void EventsLogScreen::ShowPlace() {
                  : view_->Top().Exact
                      ? tr("Line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()))
                      : tr("About line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()));
-  if (!complete && index.Size > 0) text += tr(" (%1% read)").arg(100 * index.Scanned / index.Size);
+  if (!complete && index.Size > 0) text = tr("%1 (%2% read)").arg(text).arg(100 * index.Scanned / index.Size);
   place_->setToolTip(text);
   place_->setAccessibleName(text);
   // Narrow it has room for the numbers alone.

@@ -21,6 +21,7 @@
 #include "shell/screens/probability_picture.h"
 #include "shell/screens/probability_table.h"
 #include "shell/screens/shooter_axes.h"
+#include "shell/table/languages.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -130,7 +131,9 @@ void ProbabilityPage::AddCommands(QBoxLayout& column) {
   active_->setObjectName("cmdProbabilityActive");
   active_->setAccessibleName(tr("Percentage dice in use"));
   active_->setCheckable(true);
-  active_->setMinimumWidth(active_->fontMetrics().horizontalAdvance("Inactive") + 40);
+  active_->setMinimumWidth(
+      active_->fontMetrics().horizontalAdvance(FromCore(MessageTextIn(LanguageSpoken(), Msg::kInactive))) +
+      40);
   connect(active_, &QPushButton::clicked, this, &ProbabilityPage::ToggleActive);
 }
 
@@ -232,7 +235,7 @@ void ProbabilityPage::ShowDice() {
   if (!outOf_->hasFocus()) outOf_->setText(QString::number(dice.ProbRollsOutOf, 'g', 15));
   active_->setChecked(dice.PercentageDiceActive);
   active_->setText(
-      FromCore(dice.PercentageDiceActive ? MessageText<Msg::kActive>() : MessageText<Msg::kInactive>()));
+      FromCore(MessageTextIn(LanguageSpoken(), dice.PercentageDiceActive ? Msg::kActive : Msg::kInactive)));
   QPalette colours = active_->palette();
   colours.setColor(QPalette::Button, dice.PercentageDiceActive ? kActiveColour : kInactiveColour);
   colours.setColor(QPalette::ButtonText, Qt::black);
@@ -386,6 +389,8 @@ PercentageDiceWindow::PercentageDiceWindow(Game& game, QWidget* parent)
 }
 
 void PercentageDiceWindow::Refresh() { page_->Refresh(); }
+
+void PercentageDiceWindow::Retranslate() { page_->Retranslate(); }
 
 QList<QStringList> PercentageDiceWindow::Rows() const {
   const PercentageDice& dice = game_.percentage;

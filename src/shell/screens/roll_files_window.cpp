@@ -380,7 +380,7 @@ void RollFilesWindow::Refresh() {
   name_->setToolTip(FromCore(file.RollFileName));
   const RollSelection selection = SelectedRolls(file);
   QString count = open ? tr("%1 rolls").arg(NumberText(RollFileLength(file))) : QString();
-  if (selection.Count > 1) count += tr(", %1 selected").arg(NumberText(selection.Count));
+  if (selection.Count > 1) count = tr("%1, %2 selected").arg(count, NumberText(selection.Count));
   count_->setText(count);
   if (!next_->hasFocus()) next_->setText(open ? QString::number(file.RollFileCursor) : QString());
   next_->setEnabled(open);
@@ -442,7 +442,7 @@ void RollFilesWindow::ShowCount(bool all) {
     chart.heading = tr("%1 rolls counted ...").arg(rolls);
   else
     chart.heading = all ? tr("All %1 rolls").arg(rolls) : tr("The %1 selected rolls").arg(rolls);
-  chart.heading += tr(" \u00b7 % \u00b7 hatched: fair");
+  chart.heading = tr("%1 \u00b7 % \u00b7 hatched: fair").arg(chart.heading);
   chart_->Show(chart);
 }
 
