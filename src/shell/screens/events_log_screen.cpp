@@ -191,6 +191,14 @@ void EventsLogScreen::AddFontMenu(QMenuBar& bar) {
   }
 }
 
+// The button has one width whatever it says.
+void EventsLogScreen::Retranslate() {
+  int widest = 0;
+  for (const QString& caption : {tr("In&active"), tr("&Active")})
+    widest = std::max(widest, record_->fontMetrics().horizontalAdvance(caption));
+  record_->setFixedWidth(widest + 32);
+}
+
 QWidget* EventsLogScreen::MakeFilterRow() {
   auto* row = new QWidget(this);
   auto* line = new QHBoxLayout(row);
@@ -199,7 +207,7 @@ QWidget* EventsLogScreen::MakeFilterRow() {
   record_ = new QPushButton(row);
   record_->setObjectName("cmdRecordEvents");
   record_->setCheckable(true);
-  record_->setFixedWidth(record_->fontMetrics().horizontalAdvance(tr("In&active")) + 32);
+  Retranslate();
   connect(record_, &QPushButton::clicked, this, [this] { Toggle(&game_.events.RecordEventsActive); });
   kind_ = new QComboBox(row);
   kind_->setObjectName("cmbKind");

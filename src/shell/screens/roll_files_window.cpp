@@ -238,6 +238,13 @@ QWidget* RollFilesWindow::MakeSide() {
   return side;
 }
 
+void RollFilesWindow::Retranslate() {
+  auto* side = findChild<QScrollArea*>("scrRollTools");
+  side->widget()->layout()->invalidate();
+  side->setFixedWidth(side->widget()->minimumSizeHint().width() + 18);
+  ShowCount(SelectedRolls(game_.rollFile).Count <= 1);
+}
+
 // The mouse's; by the keyboard two digits make a roll.
 void RollFilesWindow::AddPad(QBoxLayout& column) {
   auto* grid = new QGridLayout;

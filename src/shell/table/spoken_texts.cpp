@@ -170,8 +170,9 @@ QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
 QString SpokenTexts::Anew(const QString& text, const QWidget& near) const {
   if (text.isEmpty() || entered_.contains(text)) return {};
   if (const QString whole = Whole(text, near); !whole.isNull()) return whole;
-  // A caption with its key behind it; lines of their own; a text with something in brackets behind it.
-  for (const char* between : {"\t", "\n"}) {
+  // A caption with its key behind it; lines, or parts of one, of their own; a text with something in brackets
+  // behind it.
+  for (const char* between : {"\t", "\n", "   ", "  "}) {
     if (!text.contains(QLatin1String(between))) continue;
     QStringList parts = text.split(QLatin1String(between));
     bool any = false;
