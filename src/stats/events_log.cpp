@@ -461,7 +461,8 @@ template <Msg kId, typename... Arguments>
 void WriteOf(Game& game, int seat, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
   LogLine line;
-  FormLogLine<kId>(line, With<"player">(game.table.seats[seat].SeatName), arguments...);
+  FormLogLine<kId>(line, game.settings.Language, With<"player">(game.table.seats[seat].SeatName),
+                   arguments...);
   WriteGroupedLine(game, line.Text());
 }
 

@@ -16,9 +16,13 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
-const FilePurpose kPng{"Export Picture", "PNG pictures (*.png);;All files (*)", ".png", true, true};
-const FilePurpose kSvg{"Export Picture", "SVG drawings (*.svg);;All files (*)", ".svg", true, true};
+const FilePurpose kRows{QT_TRANSLATE_NOOP("Files", "Export"),
+                        QT_TRANSLATE_NOOP("Files", "Comma-separated values (*.csv);;All files (*)"), ".csv",
+                        true, true};
+const FilePurpose kPng{QT_TRANSLATE_NOOP("Files", "Export Picture"),
+                       QT_TRANSLATE_NOOP("Files", "PNG pictures (*.png);;All files (*)"), ".png", true, true};
+const FilePurpose kSvg{QT_TRANSLATE_NOOP("Files", "Export Picture"),
+                       QT_TRANSLATE_NOOP("Files", "SVG drawings (*.svg);;All files (*)"), ".svg", true, true};
 constexpr qreal kSharpness = 2;            // points of a picture for each of the screen's units
 constexpr std::size_t kAtATime = 1 << 16;  // bytes
 
@@ -29,7 +33,7 @@ QString CsvField(QString text) {
 
 void Tell(Desk& desk, const FilePurpose& purpose, const std::string& problem) {
   if (problem.empty()) return;
-  ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(purpose.title), With<"problem">(problem));
+  ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(FileTitleText(purpose)), With<"problem">(problem));
 }
 
 std::string WriteRows(const RowSource& rows, const std::string& path) {

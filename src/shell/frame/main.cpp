@@ -10,13 +10,16 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 
 #include "base/program_folders.h"
+#include "play/game_file.h"
 #include "shell/frame/main_window.h"
 #include "shell/frame/signals.h"
 #include "shell/frame/sounds.h"
 #include "shell/frame/start_up.h"
 #include "shell/screens/about.h"
+#include "shell/table/languages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -72,6 +75,10 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
   const std::string shared = ClaimDataFolder(game->folderLock, game->ownFolder, "tessaryn");
   Sounds sounds(FromCore(game->applicationFolder));
   host.sounds = &sounds;
+  // Who has never played here is spoken to as by the desktop.
+  std::error_code ignored;
+  if (argument.empty() && !std::filesystem::exists(dataFolder + kDefaultGameFile, ignored))
+    game->settings.Language = LanguageOfDesktop();
   MainWindow window(*game, host);
   const SignalWatch watch(*game, window);
   QTimer::singleShot(kSplashMilliseconds, &window, [&] {

@@ -35,6 +35,7 @@
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
 #include "shell/table/amount_selector.h"
+#include "shell/table/languages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
@@ -76,6 +77,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   desk_.keeps = CanWriteIn(game_.dataFolder);
   desk_.recentGames = ReadRecentGames(game_.dataFolder);
   setWindowIcon(ProgramIcon());
+  Speak();
   BuildBody();
   BuildMenu();
   ConnectTable();
@@ -193,6 +195,13 @@ void MainWindow::Retranslate() {
   RefreshCommands();
 }
 
+void MainWindow::Speak() {
+  QStringList names;
+  for (const SeatState& seat : game_.table.seats)
+    if (!seat.SeatName.empty()) names += FromCore(seat.SeatName);
+  SpeakLanguage(game_.settings.Language, names);
+}
+
 void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) Retranslate();
   QMainWindow::changeEvent(event);
@@ -304,6 +313,7 @@ void MainWindow::ConnectHost() {
 void MainWindow::OnChanged(Change change) {
   changed_ = true;
   agreed_ = false;
+  if (change == Change::kSettings) Speak();
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
@@ -490,6 +500,7 @@ void MainWindow::ShowGame() {
   }
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
+  Speak();
   TakeFontSize(game_.settings.ScreenFontSize);
   table_->RebuildLayout();
   amounts_->RefreshChecks();

@@ -64,6 +64,8 @@ class MainWindow : public QMainWindow {
   void ConnectTable();
   void ConnectHost();
   void Retranslate();
+  // The language that the game is set to.
+  void Speak();
   void RunCommand(const CommandRow& command);
   // Enables and captions everything as the state has it; at once, or with the next events.
   void RefreshCommands();

@@ -27,7 +27,8 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kPdf{"Save as PDF", "PDF files (*.pdf);;All files (*)", ".pdf", true, true};
+const FilePurpose kPdf{QT_TRANSLATE_NOOP("Files", "Save as PDF"),
+                       QT_TRANSLATE_NOOP("Files", "PDF files (*.pdf);;All files (*)"), ".pdf", true, true};
 constexpr QMarginsF kMargins(15, 15, 15, 15);  // millimetres
 constexpr int kPreviewed = 200;                // pages at most, since all are held
 constexpr int kPagesAtATime = 50;              // between two looks at what has to be drawn
@@ -38,7 +39,9 @@ QString Words(const char* text) { return QCoreApplication::translate("Printing",
 class Patience {
  public:
   Patience(QWidget* over, PrintJob& job)
-      : job_(job), dialog_(Words("The pages are being made."), Words("Cancel"), 0, 0, over) {
+      : job_(job),
+        dialog_(Words(QT_TRANSLATE_NOOP("Printing", "The pages are being made.")),
+                Words(QT_TRANSLATE_NOOP("Printing", "Cancel")), 0, 0, over) {
     dialog_.setObjectName("frmPages");
     dialog_.setWindowModality(Qt::WindowModal);
     dialog_.setMinimumDuration(700);
@@ -91,7 +94,8 @@ bool IsAgreed(Desk& desk, const ToolWindow& window, PrintJob& job, const QPrinte
     pages = painter.Pages();
   }
   const QStringList facts = window.PrintFacts(pages);
-  const QString title = window.PrintTitle().isEmpty() ? Words("Print") : window.PrintTitle();
+  const QString title =
+      window.PrintTitle().isEmpty() ? Words(QT_TRANSLATE_NOOP("Printing", "Print")) : window.PrintTitle();
   return Confirms<Msg::kAskPrint>(desk.game, With<"title">(title.toStdString()),
                                   With<"facts">(ToCore(facts.join('\n') + "\n\n")));
 }
@@ -134,7 +138,7 @@ std::string WritePdf(QWidget* over, PrintJob& job, QPrinter& printer, const std:
 
 void SavePdf(Desk& desk, PrintJob& job, QPrinter& printer, const std::string& path) {
   if (const std::string problem = WritePdf(desk.window, job, printer, path); !problem.empty())
-    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(kPdf.title), With<"problem">(problem));
+    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(FileTitleText(kPdf)), With<"problem">(problem));
 }
 
 std::unique_ptr<QPrinter> DefaultPrinter(const Desk& desk) {

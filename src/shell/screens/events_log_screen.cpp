@@ -26,9 +26,17 @@ namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{"Open Events Log", "Events log file (*.txt);;All files (*)", ".txt", false, false,
+const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Events Log"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           false,
+                           false,
                            kEventsLogFolder};
-const FilePurpose kSaveLog{"Save Events Log As", "Events log file (*.txt);;All files (*)", ".txt", true, true,
+const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Events Log As"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           true,
+                           true,
                            kEventsLogFolder};
 
 constexpr int kSlice = 6;        // milliseconds of work between two looks at the user's events
@@ -42,18 +50,18 @@ struct KindRow {
   unsigned kinds;
 };
 constexpr KindRow kKinds[] = {
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Everything"), kLogAllKinds},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls"), kLogKindRoll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls, passes and misses"),
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Everything"), kLogAllKinds},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls"), kLogKindRoll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls, passes and misses"),
      kLogKindRoll | kLogKindLine | kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bets"), kLogKindBet},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins"), kLogKindWin},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Losses"), kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bankrolls"), kLogKindBankroll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "CheckStacks"), kLogKindStack},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Shooters and hands"), kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bets"), kLogKindBet},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins"), kLogKindWin},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Losses"), kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bankrolls"), kLogKindBankroll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "CheckStacks"), kLogKindStack},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Shooters and hands"), kLogKindHand},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
 };
 
 // How the lines look is kept with the places of the windows.
@@ -183,6 +191,14 @@ void EventsLogScreen::AddFontMenu(QMenuBar& bar) {
   }
 }
 
+// The button has one width whatever it says.
+void EventsLogScreen::Retranslate() {
+  int widest = 0;
+  for (const QString& caption : {tr("In&active"), tr("&Active")})
+    widest = std::max(widest, record_->fontMetrics().horizontalAdvance(caption));
+  record_->setFixedWidth(widest + 32);
+}
+
 QWidget* EventsLogScreen::MakeFilterRow() {
   auto* row = new QWidget(this);
   auto* line = new QHBoxLayout(row);
@@ -191,7 +207,7 @@ QWidget* EventsLogScreen::MakeFilterRow() {
   record_ = new QPushButton(row);
   record_->setObjectName("cmdRecordEvents");
   record_->setCheckable(true);
-  record_->setFixedWidth(record_->fontMetrics().horizontalAdvance(tr("In&active")) + 32);
+  Retranslate();
   connect(record_, &QPushButton::clicked, this, [this] { Toggle(&game_.events.RecordEventsActive); });
   kind_ = new QComboBox(row);
   kind_->setObjectName("cmbKind");
@@ -274,7 +290,7 @@ void EventsLogScreen::Open() {
   const std::string error = view_->Open(path, reference, filter_);
   if (!error.empty() && !looking_.empty()) {
     looking_.clear();
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
     return Open();
   }
   topShown_ = 0;
@@ -386,7 +402,7 @@ void EventsLogScreen::ShowPlace() {
                  : view_->Top().Exact
                      ? tr("Line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()))
                      : tr("About line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()));
-  if (!complete && index.Size > 0) text += tr(" (%1% read)").arg(100 * index.Scanned / index.Size);
+  if (!complete && index.Size > 0) text = tr("%1 (%2% read)").arg(text).arg(100 * index.Scanned / index.Size);
   place_->setToolTip(text);
   place_->setAccessibleName(text);
   // Narrow it has room for the numbers alone.
@@ -461,7 +477,7 @@ void EventsLogScreen::OpenLog() {
   std::string error;
   looking_.clear();
   if (!OpenEventsLog(game_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
   Open();
   Refresh();
 }
@@ -471,7 +487,8 @@ bool EventsLogScreen::SaveAsChosen() {
   if (path.empty()) return false;
   std::string error;
   const bool saved = SaveEventsLogAs(game_, path, error);
-  if (!saved) ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveLog.title), With<"problem">(error));
+  if (!saved)
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveLog)), With<"problem">(error));
   return saved;
 }
 

@@ -38,6 +38,7 @@ class EventsLogScreen : public ToolWindow {
   EventsLogView& View() { return *view_; }
 
  protected:
+  void Retranslate() override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void hideEvent(QHideEvent* event) override;

@@ -24,11 +24,12 @@ struct ButtonFacts {
 };
 
 // cmdButton 0 to 4. Help answers nothing; the caller that offers it takes it as a Cancel.
-constexpr ButtonFacts kButtons[] = {{kMsgOk, "&OK", "cmdButton0", kResultOk},
-                                    {kMsgYes, "&Yes", "cmdButton1", kResultYes},
-                                    {kMsgNo, "&No", "cmdButton2", kResultNo},
-                                    {kMsgCancel, "&Cancel", "cmdButton3", kResultCancel},
-                                    {kMsgHelp, "&Help", "cmdButton4", kResultCancel}};
+constexpr ButtonFacts kButtons[] = {
+    {kMsgOk, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&OK"), "cmdButton0", kResultOk},
+    {kMsgYes, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Yes"), "cmdButton1", kResultYes},
+    {kMsgNo, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&No"), "cmdButton2", kResultNo},
+    {kMsgCancel, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Cancel"), "cmdButton3", kResultCancel},
+    {kMsgHelp, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Help"), "cmdButton4", kResultCancel}};
 
 // The narrowest text column of each layout value, in characters of an average width.
 int TextColumns(int width) { return width <= 130 ? 34 : width <= 302 ? 48 : 68; }
@@ -116,7 +117,7 @@ void MessageScreen::AddButtons() {
   bool first = true;
   for (const ButtonFacts& facts : kButtons) {
     if ((flags_ & facts.flag) == 0) continue;
-    auto* button = new QPushButton(facts.caption, this);
+    auto* button = new QPushButton(tr(facts.caption), this);
     button->setObjectName(facts.name);
     button->setDefault(first);
     const int result = facts.result;

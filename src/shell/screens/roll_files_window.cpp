@@ -87,10 +87,11 @@ constexpr std::int32_t kRollsAtATime = 1 << 20;
 constexpr std::int32_t kMostRowsTaken = 200'000;  // more is for the text file, which is written as it is read
 constexpr int kLeastFont = 8;
 constexpr int kMostFont = 16;
-constexpr const char* kTitles[3] = {"Dice Roll File", "Record Dice Rolls During Game Play",
-                                    "Playback Dice Rolls During Game Play"};
-constexpr const char* kTitleEnter = "Record Dice Rolls";
-constexpr const char* kTitleEdit = "Dice Roll File";
+constexpr const char* kTitles[3] = {QT_TRANSLATE_NOOP("Files", "Dice Roll File"),
+                                    QT_TRANSLATE_NOOP("Files", "Record Dice Rolls During Game Play"),
+                                    QT_TRANSLATE_NOOP("Files", "Playback Dice Rolls During Game Play")};
+constexpr const char* kTitleEnter = QT_TRANSLATE_NOOP("Files", "Record Dice Rolls");
+constexpr const char* kTitleEdit = kTitles[0];
 constexpr QSize kPadButton{40, 22};
 constexpr int kPadFace = 14;
 
@@ -237,6 +238,13 @@ QWidget* RollFilesWindow::MakeSide() {
   return side;
 }
 
+void RollFilesWindow::Retranslate() {
+  auto* side = findChild<QScrollArea*>("scrRollTools");
+  side->widget()->layout()->invalidate();
+  side->setFixedWidth(side->widget()->minimumSizeHint().width() + 18);
+  ShowCount(SelectedRolls(game_.rollFile).Count <= 1);
+}
+
 // The mouse's; by the keyboard two digits make a roll.
 void RollFilesWindow::AddPad(QBoxLayout& column) {
   auto* grid = new QGridLayout;
@@ -379,7 +387,7 @@ void RollFilesWindow::Refresh() {
   name_->setToolTip(FromCore(file.RollFileName));
   const RollSelection selection = SelectedRolls(file);
   QString count = open ? tr("%1 rolls").arg(NumberText(RollFileLength(file))) : QString();
-  if (selection.Count > 1) count += tr(", %1 selected").arg(NumberText(selection.Count));
+  if (selection.Count > 1) count = tr("%1, %2 selected").arg(count, NumberText(selection.Count));
   count_->setText(count);
   if (!next_->hasFocus()) next_->setText(open ? QString::number(file.RollFileCursor) : QString());
   next_->setEnabled(open);
@@ -441,7 +449,7 @@ void RollFilesWindow::ShowCount(bool all) {
     chart.heading = tr("%1 rolls counted ...").arg(rolls);
   else
     chart.heading = all ? tr("All %1 rolls").arg(rolls) : tr("The %1 selected rolls").arg(rolls);
-  chart.heading += tr(" \u00b7 % \u00b7 hatched: fair");
+  chart.heading = tr("%1 \u00b7 % \u00b7 hatched: fair").arg(chart.heading);
   chart_->Show(chart);
 }
 
@@ -608,13 +616,14 @@ void RollFilesWindow::SetFormat() {
 // --- Paper.
 
 bool RollFilesWindow::ReadyToPrint() {
-  constexpr const char* kTitle = "Print Dice Roll File";
+  constexpr const char* kTitle = QT_TRANSLATE_NOOP("Files", "Print Dice Roll File");
   if (!IsRollFileOpen(game_.rollFile))
     TellOpenFileFirst(game_, kTitle);
   else if (RollFileLength(game_.rollFile) == 0)
     TellDiceProblem(game_, kTitle, MessageText<Msg::kNoRollsToPrint>());
   else if (!IsRollFormatUsable(game_.rollFile.RollFileOutputFormat))
-    TellDiceProblem(game_, "Print Dice Rolls", MessageText<Msg::kNoDiceInFormat>());
+    TellDiceProblem(game_, QT_TRANSLATE_NOOP("Files", "Print Dice Rolls"),
+                    MessageText<Msg::kNoDiceInFormat>());
   else
     return true;
   return false;

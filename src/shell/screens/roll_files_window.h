@@ -45,6 +45,7 @@ class RollFilesWindow : public ToolWindow {
   struct Command;
 
  protected:
+  void Retranslate() override;
   void timerEvent(QTimerEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 

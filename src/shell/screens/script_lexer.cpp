@@ -2,6 +2,7 @@
 
 #include <Qsci/qsciscintilla.h>
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QPalette>
 #include <algorithm>
@@ -42,7 +43,8 @@ constexpr int kLevelMask = QsciScintillaBase::SC_FOLDLEVELNUMBERMASK;
 ScriptLexer::ScriptLexer(QObject* parent) : QsciLexerCustom(parent) {}
 
 QString ScriptLexer::description(int style) const {
-  return style >= 0 && style <= kSpanKinds ? tr(kStyles[style].name) : QString();
+  return style >= 0 && style <= kSpanKinds ? QCoreApplication::translate("ScriptLexer", kStyles[style].name)
+                                           : QString();
 }
 
 const char* ScriptLexer::wordCharacters() const {

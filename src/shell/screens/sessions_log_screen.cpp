@@ -17,6 +17,7 @@
 #include <algorithm>
 
 #include "base/interrupts.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
@@ -27,9 +28,17 @@ namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{"Open Sessions Log", "Sessions logs (*.slg);;All files (*)", ".slg", false, false,
+const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Sessions Log"),
+                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
+                           ".slg",
+                           false,
+                           false,
                            kSessionsLogFolder};
-const FilePurpose kSaveLog{"Save Sessions Log As", "Sessions logs (*.slg);;All files (*)", ".slg", true, true,
+const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Sessions Log As"),
+                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
+                           ".slg",
+                           true,
+                           true,
                            kSessionsLogFolder};
 
 constexpr int kLookEvery = 40;               // milliseconds
@@ -208,8 +217,7 @@ QWidget* SessionsLogScreen::MakeChoices() {
   stat_->setAccessibleName(tr("Measure"));
   stat_->setMaxVisibleItems(kSessionMeasures);
   for (int measure = 0; measure < kSessionMeasures; ++measure)
-    stat_->addItem(
-        QString::fromUtf8(MeasureName(measure).data(), static_cast<qsizetype>(MeasureName(measure).size())));
+    stat_->addItem(CoreWords(std::string(MeasureName(measure))));
   for (QComboBox* box : {player_, stat_}) {
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(box == stat_ ? 14 : 6);
@@ -610,7 +618,7 @@ void SessionsLogScreen::ShowStatistics() {
   const SessionsStatistics& s = result_->statistics;
   for (int label = 0; label < kStatisticLabels; ++label) {
     const std::string_view name = StatisticName(label);
-    QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    QString text = CoreWords(std::string(name));
     if (name == "Median" && s.MedianMarked) text += " *";
     statNames_[label]->setText(text);
     statNames_[label]->setToolTip(
@@ -726,14 +734,15 @@ void SessionsLogScreen::TakeBounds(OutlierRule rule) {
 
 // --- Commands.
 
-void SessionsLogScreen::Tell(const char* title, const std::string& problem) {
-  if (!problem.empty()) ShowMessage<Msg::kFileProblem>(game_, With<"title">(title), With<"problem">(problem));
+void SessionsLogScreen::Tell(const QString& title, const std::string& problem) {
+  if (!problem.empty())
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(ToCore(title)), With<"problem">(problem));
 }
 
 // The user wants the old log kept under another name; nothing begins anew without it.
 void SessionsLogScreen::KeepOld() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (!path.empty()) Tell(kSaveLog.title, KeepSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
+  if (!path.empty()) Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
 }
 
 void SessionsLogScreen::NewLog() {
@@ -757,7 +766,7 @@ void SessionsLogScreen::OpenLog() {
 void SessionsLogScreen::SaveAs() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
   if (path.empty()) return;
-  Tell(kSaveLog.title, SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
+  Tell(FileTitleOf(kSaveLog), SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
   Recompute();
 }
 
@@ -818,7 +827,7 @@ void SessionsLogScreen::FindEnded() {
     if (!hit_->problem.empty()) {
       ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(hit_->problem));
     } else if (session == 0) {
-      Tell("Search Results", tr("Value not found.").toStdString());
+      Tell(tr("Search Results"), tr("Value not found.").toStdString());
     } else {
       game_.sessions.SessionsTopRow = session;
       game_.sessions.SessionsDisplayMode = 1;
@@ -940,7 +949,7 @@ QStringList SessionsLogScreen::PrintFacts(int pages) const {
 
 bool SessionsLogScreen::ReadyToPrint() {
   if (result_->statistics.Included > 0) return true;
-  Tell(qPrintable(PrintTitle()), tr("There are no sessions selected for printing.").toStdString());
+  Tell(PrintTitle(), tr("There are no sessions selected for printing.").toStdString());
   return false;
 }
 

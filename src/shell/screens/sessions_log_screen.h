@@ -116,7 +116,7 @@ class SessionsLogScreen : public ToolWindow {
   void FindFrom(std::int64_t from, int step);
   void FindEnded();
   void KeepOld();
-  void Tell(const char* title, const std::string& problem);
+  void Tell(const QString& title, const std::string& problem);
   void Recompute();
 
   Game& game_;

@@ -21,22 +21,24 @@ namespace {
 constexpr int kDiceHeight = 44;
 constexpr int kChoices = 7;
 
-const char* const kWinButtons[kChoices + 1] = {"",
-                                               QT_TR_NOOP("&Take Bet and Winnings"),
-                                               QT_TR_NOOP("&Same Bet - Take Winnings"),
-                                               QT_TR_NOOP("Press 1 &Unit - Add $%1 to Bet"),
-                                               QT_TR_NOOP("Press - Add Winnings to &Double Bet"),
-                                               QT_TR_NOOP("Parlay - Add &All Winnings to Bet"),
-                                               QT_TR_NOOP("Sa&me Bet:"),
-                                               QT_TR_NOOP("&Bet:")};
-const char* const kLoseButtons[kChoices + 1] = {"",
-                                                QT_TR_NOOP("&No Bet/Take Remainder (if any)"),
-                                                QT_TR_NOOP("&Same Bet"),
-                                                QT_TR_NOOP("Bet &Remainder (if any)"),
-                                                QT_TR_NOOP("Same Bet Plus 1 &Unit - Add $%1 to Bet"),
-                                                QT_TR_NOOP("&Double Bet"),
-                                                QT_TR_NOOP("Sa&me Bet:"),
-                                                QT_TR_NOOP("&Bet:")};
+const char* const kWinButtons[kChoices + 1] = {
+    "",
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Take Bet and Winnings"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Same Bet - Take Winnings"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Press 1 &Unit - Add $%1 to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Press - Add Winnings to &Double Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Parlay - Add &All Winnings to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Sa&me Bet:"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Bet:")};
+const char* const kLoseButtons[kChoices + 1] = {
+    "",
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&No Bet/Take Remainder (if any)"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Same Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Bet &Remainder (if any)"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Same Bet Plus 1 &Unit - Add $%1 to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Double Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Sa&me Bet:"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Bet:")};
 
 int SafeChoice(bool won) { return won ? int{kWinSame} : int{kLoseTakeDown}; }
 
@@ -106,14 +108,13 @@ QPixmap DiceAsRolled(const TableState& table, double ratio) {
 }  // namespace
 
 std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& question) {
-  using Screen = SettleBetScreen;
   std::vector<SettleLine> lines;
   const int bet = question.bet;
   const Currency amount = game.table.BetAmount(question.seat, bet);
-  lines.push_back({"lblBetAmount", Screen::tr("Bet:"), DollarText(amount)});
+  lines.push_back({"lblBetAmount", SettleBetScreen::tr("Bet:"), DollarText(amount)});
   if (question.offOdds) return lines;
   if (const Counted* counted = RowOf(kCounted, bet))
-    lines.push_back({"lblCount", Screen::tr(counted->caption), QString::number(question.count)});
+    lines.push_back({"lblCount", SettleBetScreen::tr(counted->caption), QString::number(question.count)});
   // What was paid at the ratio, before the shares that lost and the vig were taken off.
   Currency paid = question.gross;
   if (const Shared* shared = RowOf(kShared, bet); shared != nullptr && question.won) {
@@ -126,17 +127,20 @@ std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& ques
   const PayoffRecord& record = question.paidBy;
   const bool plainLoss = !question.won && record.PayTo == -record.PayPer;
   lines.push_back(
-      {"lblPayoff", plainLoss ? Screen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
+      {"lblPayoff", plainLoss ? SettleBetScreen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
   if (HasVig(bet)) {
     const Percent percent = ToPercent(IsLay(bet) ? game.settings.LayVigRate : game.settings.BuyVigRate);
-    lines.push_back({"lblVig", Screen::tr("%1% vig:").arg(MoneyText(percent.Number())), DollarText(-vig)});
+    lines.push_back(
+        {"lblVig", SettleBetScreen::tr("%1% vig:").arg(MoneyText(percent.Number())), DollarText(-vig)});
   }
   if (paid != question.gross)
-    lines.push_back({"lblNet", question.won ? Screen::tr("Net payoff:") : Screen::tr("Net loss:"),
+    lines.push_back({"lblNet",
+                     question.won ? SettleBetScreen::tr("Net payoff:") : SettleBetScreen::tr("Net loss:"),
                      DollarText(question.gross)});
   if (question.net != question.gross)
     lines.push_back({"lblRounded",
-                     question.won ? Screen::tr("Net payoff (rounded):") : Screen::tr("Net loss (rounded):"),
+                     question.won ? SettleBetScreen::tr("Net payoff (rounded):")
+                                  : SettleBetScreen::tr("Net loss (rounded):"),
                      DollarText(question.net)});
   return lines;
 }
@@ -159,7 +163,7 @@ void SettleBetScreen::AddHeader(const Game& game) {
   auto* header = new HeaderBand(colour, DiceAsRolled(game.table, devicePixelRatioF()), this);
   const QString title = question_.offOdds ? tr("ODDS OFF") : question_.won ? tr("WINNER") : tr("LOSER");
   const QString player = FromCore(game.table.seats[question_.seat].SeatName);
-  const QString bet = tr(BetName(question_.bet).c_str());
+  const QString bet = FromCore(BetName(question_.bet));
   header->AddTitle(title);
   header->AddLine("lblBet", bet)->setAccessibleName(tr("%1, bet %2").arg(player, bet));
   header->AddLine("lblPlayer", player);

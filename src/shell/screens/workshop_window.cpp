@@ -47,10 +47,11 @@ constexpr int kPause = 250;  // milliseconds without a key before the text is co
 
 const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
                                               "cmdAction"};
-const char* const kWordCaptions[kWordKinds] = {
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Logic"), QT_TRANSLATE_NOOP("WorkshopWindow", "Variables"),
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Functions"), QT_TRANSLATE_NOOP("WorkshopWindow", "Modifiers"),
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Actions")};
+const char* const kWordCaptions[kWordKinds] = {QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Logic"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Variables"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Functions"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Modifiers"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Actions")};
 
 // Under what a logged bet is made.
 constexpr const char* kConditions[] = {nullptr, "if comeout roll then", "if point is established then"};
@@ -70,49 +71,57 @@ struct WorkshopWindow::Command {
 
 // A row without a command begins a menu; one without a caption is a line.
 const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
-    {"menFile", QT_TRANSLATE_NOOP("WorkshopWindow", "&File"), nullptr, nullptr},
-    {"mnuNew", QT_TRANSLATE_NOOP("WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
-    {"mnuOpen", QT_TRANSLATE_NOOP("WorkshopWindow", "&Open ..."), "Ctrl+O", &WorkshopWindow::OpenFile},
-    {"mnuSamples", QT_TRANSLATE_NOOP("WorkshopWindow", "Sa&mples"), nullptr, nullptr,
+    {"menFile", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&File"), nullptr, nullptr},
+    {"mnuNew", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
+    {"mnuOpen", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Open ..."), "Ctrl+O",
+     &WorkshopWindow::OpenFile},
+    {"mnuSamples", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Sa&mples"), nullptr, nullptr,
      &WorkshopWindow::FillSamples},
-    {"mnuSave", QT_TRANSLATE_NOOP("WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
-    {"mnuSaveAs", QT_TRANSLATE_NOOP("WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
-    {"mnuPrintScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Print in colours ..."), nullptr,
+    {"mnuSave", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
+    {"mnuSaveAs", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
+    {"mnuPrintScript", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Print in colours ..."), nullptr,
      &WorkshopWindow::PrintScript},
-    {"menEdit", QT_TRANSLATE_NOOP("WorkshopWindow", "&Edit"), nullptr, nullptr},
-    {"mnuFind", QT_TRANSLATE_NOOP("WorkshopWindow", "&Find ..."), "Ctrl+F", &WorkshopWindow::FindText},
-    {"mnuReplace", QT_TRANSLATE_NOOP("WorkshopWindow", "&Replace ..."), "Ctrl+H",
+    {"menEdit", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Edit"), nullptr, nullptr},
+    {"mnuFind", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Find ..."), "Ctrl+F",
+     &WorkshopWindow::FindText},
+    {"mnuReplace", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Replace ..."), "Ctrl+H",
      &WorkshopWindow::ReplaceText},
-    {"mnuCopyTo", QT_TRANSLATE_NOOP("WorkshopWindow", "&Copy to"), nullptr, nullptr,
+    {"mnuCopyTo", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Copy to"), nullptr, nullptr,
      &WorkshopWindow::FillCopyTo},
-    {"mnuPasteFrom", QT_TRANSLATE_NOOP("WorkshopWindow", "&Paste from"), nullptr, nullptr,
+    {"mnuPasteFrom", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Paste from"), nullptr, nullptr,
      &WorkshopWindow::FillPasteFrom},
-    {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space",
+    {"mnuWords", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Words that go on"), "Ctrl+Space",
      &WorkshopWindow::OfferWords},
-    {"mnuFix", QT_TRANSLATE_NOOP("WorkshopWindow", "P&ut in the proposal"), "Ctrl+.", &WorkshopWindow::Fix},
-    {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "F1", &WorkshopWindow::ShowTip},
-    {"menRun", QT_TRANSLATE_NOOP("WorkshopWindow", "&Run"), nullptr, nullptr},
-    {"mnuCheckScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Check script"), "F7", &WorkshopWindow::Check},
-    {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("WorkshopWindow", "&Activate all scripts"), nullptr,
+    {"mnuFix", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "P&ut in the proposal"), "Ctrl+.",
+     &WorkshopWindow::Fix},
+    {"mnuTip", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Meaning of the word"), "F1",
+     &WorkshopWindow::ShowTip},
+    {"menRun", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Run"), nullptr, nullptr},
+    {"mnuCheckScript", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Check script"), "F7",
+     &WorkshopWindow::Check},
+    {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Activate all scripts"), nullptr,
      &WorkshopWindow::ActivateAll},
-    {"mnuRunOnce", QT_TRANSLATE_NOOP("WorkshopWindow", "Run &one cycle"), "F5", &WorkshopWindow::RunOnce},
-    {"mnuStep", QT_TRANSLATE_NOOP("WorkshopWindow", "&Step"), "F10", &WorkshopWindow::Step},
-    {"mnuRunToCursor", QT_TRANSLATE_NOOP("WorkshopWindow", "Run to the c&ursor"), "Ctrl+F10",
+    {"mnuRunOnce", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Run &one cycle"), "F5",
+     &WorkshopWindow::RunOnce},
+    {"mnuStep", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Step"), "F10", &WorkshopWindow::Step},
+    {"mnuRunToCursor", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Run to the c&ursor"), "Ctrl+F10",
      &WorkshopWindow::RunToCursor},
-    {"mnuBreak", QT_TRANSLATE_NOOP("WorkshopWindow", "&Break-point"), "F9", &WorkshopWindow::ToggleBreak},
-    {"mnuStop", QT_TRANSLATE_NOOP("WorkshopWindow", "S&top"), "Shift+F5", &WorkshopWindow::StopScripts},
-    {"mnuTryIt", QT_TRANSLATE_NOOP("WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
-    {"mnuPermissions", QT_TRANSLATE_NOOP("WorkshopWindow", "&Permissions ..."), nullptr,
+    {"mnuBreak", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Break-point"), "F9",
+     &WorkshopWindow::ToggleBreak},
+    {"mnuStop", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "S&top"), "Shift+F5",
+     &WorkshopWindow::StopScripts},
+    {"mnuTryIt", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
+    {"mnuPermissions", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Permissions ..."), nullptr,
      &WorkshopWindow::Permissions},
-    {"menView", QT_TRANSLATE_NOOP("WorkshopWindow", "&View"), nullptr, nullptr},
-    {"mnuShowSteps", QT_TRANSLATE_NOOP("WorkshopWindow", "Show &steps"), nullptr, &WorkshopWindow::WantSteps,
-     nullptr, true},
-    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("WorkshopWindow", "&Line numbers"), nullptr,
+    {"menView", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&View"), nullptr, nullptr},
+    {"mnuShowSteps", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Show &steps"), nullptr,
+     &WorkshopWindow::WantSteps, nullptr, true},
+    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Line numbers"), nullptr,
      &WorkshopWindow::Numbers, nullptr, true},
-    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("WorkshopWindow", "Lists of &words"), nullptr,
+    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Lists of &words"), nullptr,
      &WorkshopWindow::Lists, nullptr, true},
-    {"mnuAutoIndent", QT_TRANSLATE_NOOP("WorkshopWindow", "&Auto-indent"), nullptr, &WorkshopWindow::Indent,
-     nullptr, true},
+    {"mnuAutoIndent", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Auto-indent"), nullptr,
+     &WorkshopWindow::Indent, nullptr, true},
 };
 
 WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAutoBet", parent), game_(game) {
@@ -569,7 +578,7 @@ void WorkshopWindow::NewScript() {
 void WorkshopWindow::OpenPath(const std::string& path) {
   std::string error;
   if (!OpenScript(game_, seat_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
   Load();
 }
 
@@ -587,7 +596,7 @@ bool WorkshopWindow::Save() {
   std::string error;
   const bool saved = SaveScript(game_, seat_, path, error);
   if (!saved)
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
   if (saved) editor_->setModified(false);
   ShowStatus();
   return saved;
@@ -600,7 +609,7 @@ bool WorkshopWindow::SaveAs() {
   std::string error;
   if (path.empty()) return false;
   if (!SaveScript(game_, seat_, path, error)) {
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
     return false;
   }
   editor_->setModified(false);
@@ -621,7 +630,8 @@ void WorkshopWindow::CopyToFile() {
   if (path.empty()) return;
   const ScriptFileResult result = WriteScriptFile(path, editor_->Lines());
   if (!result.Ok())
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
+                                   With<"problem">(result.message));
 }
 
 void WorkshopWindow::CopyToSeat(int seat) {
@@ -656,7 +666,8 @@ void WorkshopWindow::PasteFromFile() {
   if (path.empty()) return;
   const ScriptFileResult result = ReadScriptFile(path, lines);
   if (result.Ok()) return PasteLines(lines);
-  ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(result.message));
+  ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)),
+                                 With<"problem">(result.message));
 }
 
 void WorkshopWindow::FillPasteFrom(QMenu& menu) {
@@ -914,7 +925,8 @@ void WorkshopWindow::SaveLogged() {
   if (result.Ok())
     autobet.LoggedBetsUnsaved = false;
   else
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
+                                   With<"problem">(result.message));
 }
 
 void WorkshopWindow::ClearLogged() {

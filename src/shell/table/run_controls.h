@@ -30,7 +30,12 @@ class RunControls : public QWidget {
   void turboPressed();
   void throttleMoved(int position);
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  void Fit();
+
   QPushButton* roll_;
   QPushButton* pass_;
   QPushButton* run_;

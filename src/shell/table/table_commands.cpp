@@ -196,9 +196,13 @@ QString PayoffSummary(const Game& game, int bet) {
   if (!IsTableBet(bet)) return {};
   // Odds on the line pay by the point; before one is set there is nothing to tell.
   if (IsOdds(bet) && FactsOf(bet).number == 0 && game.table.Point == 0) return {};
-  if (bet == kCAndE) return Translated("half each as Any Craps and Eleven");
-  if (bet == kHorn) return Translated("a quarter each as Two, Three, Eleven and Twelve");
-  if (bet == kWorld) return Translated("a fifth each as Two, Three, Seven, Eleven and Twelve");
+  if (bet == kCAndE)
+    return Translated(QT_TRANSLATE_NOOP("TableCommands", "half each as Any Craps and Eleven"));
+  if (bet == kHorn)
+    return Translated(QT_TRANSLATE_NOOP("TableCommands", "a quarter each as Two, Three, Eleven and Twelve"));
+  if (bet == kWorld)
+    return Translated(
+        QT_TRANSLATE_NOOP("TableCommands", "a fifth each as Two, Three, Seven, Eleven and Twelve"));
   QStringList texts;
   for (const PayoffRecord& record : PayoffRowsOf(game, bet)) {
     if (record.PayTo <= kZero) continue;
@@ -229,11 +233,15 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   const bool occupied = IsOccupied(game.table, seat);
   const int action = commands.PendingAction;
   QStringList parts;
-  if (action != kPendingNone) parts += Translated("Next click") + ": " + Translated(kNextClickTexts[action]);
+  if (action != kPendingNone)
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Next click")) + ": " +
+             Translated(kNextClickTexts[action]);
   if (commands.CarriedAmount > kZero)
-    parts += Translated("Carrying %1").arg(TableAmountText(game, commands.CarriedAmount));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Carrying %1"))
+                 .arg(TableAmountText(game, commands.CarriedAmount));
   if (commands.Moving.Bet != 0)
-    parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Moving %1"))
+                 .arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0) {
     if (occupied)
       parts += FromCore(game.table.seats[seat].SeatName) + "   " + StatusLines(game, seat).join("   ");
@@ -241,11 +249,13 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   }
   parts += BetAmountText(game, seat, bet);
   const QString pays = PayoffSummary(game, bet);
-  if (!pays.isEmpty()) parts += Translated("pays") + " " + pays;
+  if (!pays.isEmpty()) parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "pays")) + " " + pays;
   // A click that is meant for something else bets nothing.
   if (IsTableBet(bet) && occupied && action == kPendingNone && commands.Moving.Bet == 0) {
-    parts += Translated("minimum") + " " + TableAmountText(game, MinBetFor(game, bet));
-    parts += Translated("may still be bet") + ": " + TableAmountText(game, RoomFor(game, seat, bet));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "minimum")) + " " +
+             TableAmountText(game, MinBetFor(game, bet));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "may still be bet")) + ": " +
+             TableAmountText(game, RoomFor(game, seat, bet));
   }
   return parts.join("   ");
 }
