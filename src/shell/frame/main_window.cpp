@@ -83,6 +83,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   Retranslate();
   RefreshCommands();
   StartAutosaves();
+  WatchLuck(game_);
   new PointerSnap(game_, this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();

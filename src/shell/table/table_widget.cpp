@@ -7,11 +7,11 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QToolTip>
 #include <QWheelEvent>
 #include <cmath>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/bet_tips.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -100,6 +100,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
     }
     update();
   });
+  new BetTip(*this, game_, commands_);
   RebuildLayout();
   PlaceDice();
 }
@@ -374,11 +375,6 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
   FindPointed();
   if (pointed == scene.hoverBet && openSeat == scene.hoverSeat) return;
   ShowCursor();
-  const QString tip = InfoTip(game_, commands_, scene.hoverBet);
-  if (tip.isEmpty())
-    QToolTip::hideText();
-  else
-    QToolTip::showText(event->globalPosition().toPoint() + QPoint(14, 14), tip, this);
   emit pointedAt(scene.hoverBet);
   update();
 }
