@@ -38,6 +38,7 @@
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_accessible.h"
 #include "shell/table/turbo_panel.h"
 #include "state/show_message.h"
 
@@ -312,7 +313,10 @@ void MainWindow::OnChanged(Change change) {
     table_->RebuildLayout();
     amounts_->RefreshChecks();
   }
-  if (change == Change::kEverything) ShowFallenDice();
+  if (change == Change::kEverything) {
+    ShowFallenDice();
+    AnnounceRoll(*table_, game_);
+  }
   table_->Refresh();
   RefreshSoon();
 }

@@ -23,7 +23,7 @@ namespace {
 QString Translated(const char* text) { return QCoreApplication::translate("TableCommands", text); }
 
 // The words that bet_facts.cpp tells with, for those who translate them.
-[[maybe_unused]] constexpr const char* kFactWords[] = {
+constexpr const char* kFactWords[] = {
     QT_TRANSLATE_NOOP("BetFacts", "one-roll bet"),
     QT_TRANSLATE_NOOP("BetFacts", "stays up until it is decided"),
     QT_TRANSLATE_NOOP("BetFacts", "a contract: it stays up until it is decided"),
@@ -140,6 +140,8 @@ QString Told(const Game& game, const FactText& text) {
   }
   return told;
 }
+
+std::span<const char* const> TranslatedFactWords() { return kFactWords; }
 
 QString WhoBets(const Game& game, int bet) {
   const TableState& table = game.table;

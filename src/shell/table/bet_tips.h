@@ -4,6 +4,7 @@
 #include <QObject>
 #include <QPoint>
 #include <QString>
+#include <span>
 
 #include "play/bet_facts.h"
 
@@ -19,6 +20,8 @@ inline constexpr int kTipMilliseconds = 600;  // that the pointer rests before t
 
 // A line of words in the user's language, money as the table writes it.
 QString Told(const Game& game, const FactText& text);
+// The words that lines may be told with, as the translators see them.
+std::span<const char* const> TranslatedFactWords();
 // Who has checks on the bet: "Ann 12, Bo 6"; of one player alone only where that isn't the selected one.
 QString WhoBets(const Game& game, int bet);
 // A player's session, as the plate at the rail tells it: what was expected, what came, and the luck.
