@@ -450,10 +450,13 @@ std::string RefusingNote(const Game& game, int seat, int bet) {
 
 }  // namespace
 
-// Of several paragraphs the first tells why, the others what to do about it.
+// Behind the player's name the first paragraph tells why, the others what to do about it.
 std::string WhyNotMore(const Game& game, int seat, int bet) {
+  constexpr std::string_view kParagraph = "\r\r";
   std::string text = RefusingNote(game, seat, bet);
-  text.resize(std::min(text.size(), text.find("\r\r")));
+  if (const std::string address = game.table.seats[seat].SeatName + ","; text.starts_with(address))
+    text.erase(0, text.find_first_not_of(" \r", address.size()));
+  text.resize(std::min(text.size(), text.find(kParagraph)));
   std::erase(text, '\r');
   return text;
 }

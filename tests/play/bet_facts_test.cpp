@@ -113,7 +113,8 @@ struct Branches {
 // All standings from the first on, each with what its 36 rolls bring.
 class Course {
  public:
-  Course(Settler& settler, const Standing& first) : settler_(settler) {
+  Course(Settler& settler, const Standing& first)
+      : settler_(settler), oneRoll_(FamilyRowOf(first.bet).decidedBy == DecidedBy::kOneRoll) {
     Visit(first);
     for (std::size_t at = 0; at < standings_.size(); ++at) Settle(at);
   }
@@ -125,7 +126,9 @@ class Course {
       for (std::size_t at = means.size(); at-- > 0;) {
         double sum = branches_[at].net;
         for (const auto& [to, weight] : branches_[at].to) sum += weight * means[to];
-        const double mean = branches_[at].stays < 36 ? sum / (36 - branches_[at].stays) : 0;
+        // Every roll decides a bet on one, also where it brings nothing.
+        const double decides = oneRoll_ ? 36 : 36 - branches_[at].stays;
+        const double mean = decides > 0 ? sum / decides : 0;
         change = std::max(change, std::abs(mean - means[at]));
         means[at] = mean;
       }
@@ -166,6 +169,7 @@ class Course {
   }
 
   Settler& settler_;
+  bool oneRoll_;
   std::map<Standing, std::size_t> places_;
   std::vector<Standing> standings_;
   std::vector<Branches> branches_;
