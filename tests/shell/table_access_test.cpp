@@ -36,6 +36,7 @@ struct AccessTable : ScreenTable {
     window.show();
     Join(2, "Bo");
     Join(3, "Ann");
+    for (SeatState& seat : State().seats) seat.handling.WinHandling = seat.handling.LoseHandling = 1;
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
   }
   QAccessibleInterface& Seen() { return *QAccessible::queryAccessibleInterface(&window.Table()); }
@@ -98,7 +99,7 @@ TEST(TableAccess, PlaysByActionsAndSaysWhatCameOfIt) {
   EXPECT_EQ(table.State().BetAmount(3, kField), table.window.Commands().ClickAmount);
   table.Do("Checks of Ann on Field", "take down");
   EXPECT_EQ(table.State().BetAmount(3, kField), kZero);
-  table.Do("Place 2, Bo", QAccessibleActionInterface::pressAction());
+  table.Do("Seat 2, Bo", QAccessibleActionInterface::pressAction());
   EXPECT_EQ(table.State().SelectedSeat, 2);
   table.Do("Field, right end", QAccessibleActionInterface::setFocusAction());
   ASSERT_NE(table.Seen().focusChild(), nullptr);
@@ -144,9 +145,10 @@ void ExpectTold(QAccessibleInterface* seen, const QString& where, int depth = 0)
   if (seen == nullptr || !seen->isValid() || depth > 14) return;
   const QAccessible::State state = seen->state();
   const auto* widget = qobject_cast<QWidget*>(seen->object());
-  const bool part = widget != nullptr && (widget->objectName().startsWith("qt_") ||
-                                          widget->parent()->inherits("QAbstractSpinBox") ||
-                                          widget->parent()->inherits("QComboBox"));
+  const bool part =
+      widget != nullptr && widget->parent() != nullptr &&
+      (widget->objectName().startsWith("qt_") || widget->parent()->inherits("QAbstractSpinBox") ||
+       widget->parent()->inherits("QComboBox"));
   const QString path = where + " / " + (seen->object() != nullptr ? seen->object()->objectName() : QString());
   const bool focus = widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0;
   if (!state.invisible && !part && (IsWorked(seen->role()) || focus)) {

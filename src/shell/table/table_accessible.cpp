@@ -185,7 +185,8 @@ QString PartAccessible::Name() const {
   const TableState& table = game().table;
   switch (part_.kind) {
     case PartKind::kArea: {
-      const QString bet = FromCore(BetName(Bet()));
+      // Odds that aren't up mean their flat bet, which has an area of its own.
+      const QString bet = FromCore(BetName(IsDontComeOdds(area().Id) ? area().Id : Bet()));
       if (area().Side == 0) return bet;
       return (area().Side == 1 ? Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, left end"))
                                : Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, right end")))
@@ -193,8 +194,8 @@ QString PartAccessible::Name() const {
     }
     case PartKind::kSeat:
       if (!IsOccupied(table, part_.seat))
-        return Said(QT_TRANSLATE_NOOP("TableAccessible", "Place %1, open")).arg(part_.seat);
-      return Said(QT_TRANSLATE_NOOP("TableAccessible", "Place %1, %2"))
+        return Said(QT_TRANSLATE_NOOP("TableAccessible", "Seat %1, open")).arg(part_.seat);
+      return Said(QT_TRANSLATE_NOOP("TableAccessible", "Seat %1, %2"))
           .arg(part_.seat)
           .arg(FromCore(table.seats[part_.seat].SeatName));
     case PartKind::kStack:
