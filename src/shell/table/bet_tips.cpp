@@ -107,10 +107,12 @@ QString ValueText(const Game& game, const FactValue& value) {
 QString ClicksText(const Game& game, const TableCommands& commands, const BetTerms& terms) {
   QStringList clicks;
   if (terms.room > kZero)
-    clicks += Translated("Click: bets %1").arg(TableAmountText(game, commands.ClickAmount));
+    clicks += Translated(QT_TRANSLATE_NOOP("TableCommands", "Click: bets %1"))
+                  .arg(TableAmountText(game, commands.ClickAmount));
   if (terms.amount > kZero)
-    clicks += Translated("Drag: moves it, off the felt takes it down; Delete and a click too");
-  clicks += Translated("Right click: rolls");
+    clicks += Translated(QT_TRANSLATE_NOOP(
+        "TableCommands", "Drag: moves it, off the felt takes it down; Delete and a click too"));
+  clicks += Translated(QT_TRANSLATE_NOOP("TableCommands", "Right click: rolls"));
   return clicks.join("\n");
 }
 
@@ -163,16 +165,18 @@ QString SeatTip(const Game& game, int seat) {
   };
   QStringList lines{FromCore(game.table.seats[seat].SeatName)};
   if (figures.counted == 0) {
-    lines += Translated("No bet has ridden in this session");
+    lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "No bet has ridden in this session"));
   } else {
-    lines += Translated("Expected of the bets made: %1").arg(dollars(figures.report.expected));
-    lines += Translated("Came: %1").arg(dollars(figures.report.actual));
-    lines += Translated("Luck: %1, %2 standard deviations")
+    lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Expected of the bets made: %1"))
+                 .arg(dollars(figures.report.expected));
+    lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Came: %1")).arg(dollars(figures.report.actual));
+    lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Luck: %1, %2 standard deviations"))
                  .arg(dollars(figures.report.luck))
                  .arg(figures.report.deviations, 0, 'f', 2);
   }
   if (figures.missed > 0)
-    lines += Translated("Rolls that were not counted: %1").arg(static_cast<qlonglong>(figures.missed));
+    lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Rolls that were not counted: %1"))
+                 .arg(static_cast<qlonglong>(figures.missed));
   return lines.join("\n");
 }
 
@@ -187,9 +191,11 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   QStringList parts;
   if (action != kPendingNone) parts += Translated(kNextClickTexts[action]);
   if (commands.CarriedAmount > kZero)
-    parts += Translated("Carrying %1").arg(TableAmountText(game, commands.CarriedAmount));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Carrying %1"))
+                 .arg(TableAmountText(game, commands.CarriedAmount));
   if (commands.Moving.Bet != 0)
-    parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
+    parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Moving %1"))
+                 .arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0 && occupied)
     parts += FromCore(game.table.seats[seat].SeatName) + "   " + StatusLines(game, seat).join("   ");
   if (bet != 0 && !IsTableBet(bet)) parts += BetAmountText(game, seat, bet);

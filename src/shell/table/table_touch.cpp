@@ -127,15 +127,18 @@ void TableTouch::AddBetEntries(QMenu& menu, int bet) {
     entry->setObjectName(name);
   };
   menu.addSection(FromCore(BetName(bet)));
-  add("mnuTouchBet", Translated("Bet %1").arg(TableAmountText(game_, commands_.ClickAmount)), kPendingNone);
+  add("mnuTouchBet",
+      Translated(QT_TRANSLATE_NOOP("TableTouch", "Bet %1"))
+          .arg(TableAmountText(game_, commands_.ClickAmount)),
+      kPendingNone);
   if (!up || !IsTableBet(bet)) return;
-  add("mnuTouchRemove", Translated("Take down"), kPendingRemove);
-  add("mnuTouchMove", Translated("Move"), kPendingMove);
+  add("mnuTouchRemove", Translated(QT_TRANSLATE_NOOP("TableTouch", "Take down")), kPendingRemove);
+  add("mnuTouchMove", Translated(QT_TRANSLATE_NOOP("TableTouch", "Move")), kPendingMove);
   if (kCallableBets.Has(bet)) {
-    add("mnuTouchOn", Translated("Call ON"), kPendingCallOn);
-    add("mnuTouchOff", Translated("Call OFF"), kPendingCallOff);
+    add("mnuTouchOn", Translated(QT_TRANSLATE_NOOP("TableTouch", "Call ON")), kPendingCallOn);
+    add("mnuTouchOff", Translated(QT_TRANSLATE_NOOP("TableTouch", "Call OFF")), kPendingCallOff);
   }
-  if (IsPlace(bet)) add("mnuTouchBuy", Translated("Buy"), kPendingBuy);
+  if (IsPlace(bet)) add("mnuTouchBuy", Translated(QT_TRANSLATE_NOOP("TableTouch", "Buy")), kPendingBuy);
 }
 
 void TableTouch::ShowMenu(QPoint at, int bet) {
@@ -144,7 +147,8 @@ void TableTouch::ShowMenu(QPoint at, int bet) {
   menu->setAttribute(Qt::WA_DeleteOnClose);
   if (bet != 0 && IsOccupied(game_.table, game_.table.SelectedSeat)) AddBetEntries(*menu, bet);
   menu->addSeparator();
-  menu->addAction(Translated("Roll the dice"), &table_, [this] { emit table_.rightClicked(); })
+  menu->addAction(Translated(QT_TRANSLATE_NOOP("TableTouch", "Roll the dice")), &table_,
+                  [this] { emit table_.rightClicked(); })
       ->setObjectName("mnuTouchRoll");
   menu->popup(at);
 }
