@@ -119,27 +119,12 @@ TEST(TableAccess, PlaysByActionsAndSaysWhatCameOfIt) {
   EXPECT_EQ(alerts, 1);
 }
 
-// What a reader may work, by role, with the classes that it goes for.
-bool IsWorked(QAccessible::Role role) {
-  switch (role) {
-    case QAccessible::Button:
-    case QAccessible::ButtonMenu:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ComboBox:
-    case QAccessible::EditableText:
-    case QAccessible::SpinBox:
-    case QAccessible::Slider:
-    case QAccessible::PageTab:
-    case QAccessible::Table:
-    case QAccessible::Tree:
-    case QAccessible::List:
-    case QAccessible::MenuItem:
-      return true;
-    default:
-      return false;
-  }
-}
+// What a reader may work.
+const std::set<QAccessible::Role> kWorked{
+    QAccessible::Button,   QAccessible::ButtonMenu,   QAccessible::CheckBox, QAccessible::RadioButton,
+    QAccessible::ComboBox, QAccessible::EditableText, QAccessible::SpinBox,  QAccessible::Slider,
+    QAccessible::PageTab,  QAccessible::Table,        QAccessible::Tree,     QAccessible::List,
+    QAccessible::MenuItem};
 
 void ExpectTold(QAccessibleInterface* seen, const QString& where, int depth = 0) {
   if (seen == nullptr || !seen->isValid() || depth > 14) return;
@@ -151,7 +136,7 @@ void ExpectTold(QAccessibleInterface* seen, const QString& where, int depth = 0)
        widget->parent()->inherits("QComboBox"));
   const QString path = where + " / " + (seen->object() != nullptr ? seen->object()->objectName() : QString());
   const bool focus = widget != nullptr && (widget->focusPolicy() & Qt::TabFocus) != 0;
-  if (!state.invisible && !part && (IsWorked(seen->role()) || focus)) {
+  if (!state.invisible && !part && (kWorked.count(seen->role()) > 0 || focus)) {
     EXPECT_FALSE(seen->text(QAccessible::Name).isEmpty())
         << path.toStdString() << " has no name, role " << seen->role();
     EXPECT_FALSE(seen->role() == QAccessible::NoRole) << path.toStdString();
