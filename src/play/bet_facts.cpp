@@ -40,6 +40,7 @@ enum class Words : std::uint8_t {
   kSevenBeforePoint,
   kOnNext,
   kNotOnNext,
+  kNotOnNextBut,
   kHardWins,
   kHardLoses,
   kMarksWin,
@@ -107,6 +108,7 @@ constexpr const char* kWords[] = {
     "7 before the point",
     "%1 on the next roll",
     "any other roll",
+    "any other roll, but not on %1",
     "%1 as a pair, before 7 and before any other %1",
     "7, or %1 that is no pair",
     "all of %1 before 7",
@@ -206,16 +208,18 @@ std::int64_t NetOfOutcome(const Game& game, const Trial& trial, int bet, int out
 
 // --- What it wins on, from the rolls that pay it.
 
-// "2, 3, 11" or, where not every way to a total pays, "2-4".
-std::string WinningRolls(const Game& game, int bet) {
-  const Trial trial = TrialOf(game, 0, bet);
+// The rolls that bring a bet on one roll something, sign 1, or nothing, 0: "2, 3, 11" or, where not every way
+// to a total does, "4-2".
+std::string RollsThatBring(const Game& game, const Trial& trial, int bet, int sign) {
   std::string text;
   for (int total = 2; total <= 12; ++total) {
     int ways = 0;
     std::string pairs;
     for (int outcome = 0; outcome < kOutcomes; ++outcome) {
       const DicePair dice = kOutcomeDice[static_cast<std::size_t>(outcome)];
-      if (dice.Total() != total || NetOfOutcome(game, trial, bet, outcome) <= 0) continue;
+      if (dice.Total() != total ||
+          std::clamp<std::int64_t>(NetOfOutcome(game, trial, bet, outcome), -1, 1) != sign)
+        continue;
       ways += dice.low == dice.high ? 1 : 2;
       pairs += (pairs.empty() ? "" : ", ") + std::to_string(dice.high) + "-" + std::to_string(dice.low);
     }
@@ -290,6 +294,13 @@ WinsAndLosses OnTheHand(const Game& game, int bet) {
   }
 }
 
+WinsAndLosses OnOneRoll(const Game& game, int bet) {
+  const Trial trial = TrialOf(game, 0, bet);
+  const std::string pushes = RollsThatBring(game, trial, bet, 0);
+  return {Text(Words::kOnNext, {RollsThatBring(game, trial, bet, 1)}),
+          pushes.empty() ? Text(Words::kNotOnNext) : Text(Words::kNotOnNextBut, {pushes})};
+}
+
 WinsAndLosses WinsAndLossesOf(const Game& game, int bet) {
   const int number = FactsOf(bet).number;
   switch (FamilyRowOf(bet).decidedBy) {
@@ -304,7 +315,7 @@ WinsAndLosses WinsAndLossesOf(const Game& game, int bet) {
     case DecidedBy::kHand:
       return OnTheHand(game, bet);
     default:
-      return {Text(Words::kOnNext, {WinningRolls(game, bet)}), Text(Words::kNotOnNext)};
+      return OnOneRoll(game, bet);
   }
 }
 

@@ -244,6 +244,7 @@ TEST(BetFacts, TheLineTellsTheBetAsItStands) {
   EXPECT_TRUE(line(kPlace4 + 2).ends_with("not now: The maximum Place 6 bet is $12")) << line(kPlace4 + 2);
   table.Set("UseBig68", "off");
   EXPECT_TRUE(line(kBig6).ends_with("not now: Table not configured for Big 6 bets.")) << line(kBig6);
+  EXPECT_EQ(InEnglish(BetTermsOf(game, 3, kWorld).loses), "any other roll, but not on 7");
   EXPECT_EQ(InEnglish(TipFacts(BetTermsOf(game, 3, kHop13)), "\n"),
             "Hop 13: one-roll bet\nWins on: 3-1 on the next roll\nLoses on: any other roll\nPays: 15 to 1\n"
             "Next roll: wins 2, loses 34 in 36\nHouse edge: 11.11% of the bet");

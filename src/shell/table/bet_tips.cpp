@@ -42,6 +42,7 @@ constexpr const char* kFactWords[] = {
     QT_TRANSLATE_NOOP("BetFacts", "7 before the point"),
     QT_TRANSLATE_NOOP("BetFacts", "%1 on the next roll"),
     QT_TRANSLATE_NOOP("BetFacts", "any other roll"),
+    QT_TRANSLATE_NOOP("BetFacts", "any other roll, but not on %1"),
     QT_TRANSLATE_NOOP("BetFacts", "%1 as a pair, before 7 and before any other %1"),
     QT_TRANSLATE_NOOP("BetFacts", "7, or %1 that is no pair"),
     QT_TRANSLATE_NOOP("BetFacts", "all of %1 before 7"),
