@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <iterator>
 
@@ -20,6 +21,7 @@
 #include "play/house_presets.h"
 #include "play/players.h"
 #include "play/script_session.h"
+#include "play/session_luck.h"
 #include "play/setting_table.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
@@ -527,6 +529,43 @@ bool Report(Call& call) {
   return true;
 }
 
+Json LuckJson(const Game& game, int seat) {
+  const auto rounded = [](double value) { return std::round(value * 1e8) / 1e8 + 0.0; };
+  const SessionLuckFigures figures = SessionLuckOf(game, seat);
+  const LuckReport& report = figures.report;
+  return {{"seat", seat},
+          {"name", game.table.seats[seat].SeatName},
+          {"expected", rounded(report.expected)},
+          {"actual", rounded(report.actual)},
+          {"luck", rounded(report.luck)},
+          {"stdDev", rounded(report.standardDeviation)},
+          {"sigmas", rounded(report.deviations)},
+          {"shifted", rounded(figures.shifted)},
+          {"rolls", figures.counted},
+          {"missed", figures.missed}};
+}
+
+bool Luck(Call& call) {
+  if (call.words.size() == 1) {
+    Json& seats = call.answer["seats"] = Json::array();
+    for (int seat = 1; seat <= kSeats; ++seat)
+      if (IsOccupied(call.game.table, seat)) seats.push_back(LuckJson(call.game, seat));
+    return true;
+  }
+  int seat = 0;
+  if (!WantWords(call, 2, 2, "luck, or luck SEAT") || !Player(call, 1, seat)) return false;
+  call.answer.update(LuckJson(call.game, seat));
+  return true;
+}
+
+bool Facts(Call& call) {
+  int bet = 0;
+  if (!WantWords(call, 2, 99, "facts BET") || !BetNumber(call, 1, call.words.size(), false, bet))
+    return false;
+  call.answer.update(FactsJson(call.game, bet));
+  return true;
+}
+
 bool Help(Call& call) {
   Json commands = Json::array();
   for (const PlayCommandInfo& info : PlayCommands())
@@ -578,6 +617,9 @@ constexpr Handler kHandlers[] = {
     {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},
     {{"report", kReportArguments, "summary, hands, bet-results, bet-trends, roll-totals or roll-frequencies"},
      Report},
+    {{"luck", "[SEAT]", "what a player's session was expected to bring, what it did, and the difference"},
+     Luck},
+    {{"facts", "BET", "what a bet wins and loses on, pays and costs, as the table stands"}, Facts},
     {{"help", "", "the commands"}, Help},
     {{"quit", "", "ends"}, Quit},
 };
@@ -596,6 +638,8 @@ const std::vector<PlayCommandInfo>& PlayCommands() {
 
 PlaySession::PlaySession(Game& game, PlayHost& host) : game_(game), host_(host) {
   game.autobet.StepsHold = false;
+  WatchLuck(game);
+  WatchLuckOfTurboRolls(game, true);
   host.step = [&host](Game& running, const ScriptStep& shown) { host.TellStep(running, shown); };
 }
 

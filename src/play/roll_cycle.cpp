@@ -8,6 +8,7 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/roll_recorder.h"
+#include "play/session_luck.h"
 #include "play/table_files.h"
 #include "rules/bankroll.h"
 #include "rules/bet_limits.h"
@@ -403,8 +404,10 @@ void FinishRoll(Game& game) {
   RequireConsistency(game);
 }
 
-bool MakeRoll(Game& game) {
+bool MakeRoll(Game& game, SessionLuck* luck) {
+  if (luck != nullptr) LuckRollComes(*luck, game);
   if (!RollAndSettle(game)) return false;
+  if (luck != nullptr) LuckRollFell(*luck, game);
   FinishRoll(game);
   return BankrollsWithinLimit(game);
 }

@@ -5,12 +5,13 @@
 namespace tessaryn {
 
 struct Game;
+struct SessionLuck;
 
 // Whether rolling may begin: bankrolls within their limit, scripts that compile.
 bool ReadyToRoll(Game& game);
 // Makes one roll and settles everything that hangs on it. False when nothing was rolled, or when nothing more
-// may be. Requires ReadyToRoll.
-bool MakeRoll(Game& game);
+// may be. luck: counts what came of it; null for none. Requires ReadyToRoll.
+bool MakeRoll(Game& game, SessionLuck* luck = nullptr);
 // The two parts of MakeRoll, for who has something to do in between: the dice and all that they decide
 // (false: nothing was rolled), then the next bets on the table.
 bool RollAndSettle(Game& game);

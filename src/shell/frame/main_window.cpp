@@ -39,6 +39,7 @@
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_accessible.h"
 #include "shell/table/turbo_panel.h"
 #include "state/show_message.h"
 
@@ -85,6 +86,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   Retranslate();
   RefreshCommands();
   StartAutosaves();
+  WatchLuck(game_);
   new PointerSnap(game_, this);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
@@ -321,7 +323,10 @@ void MainWindow::OnChanged(Change change) {
     table_->RebuildLayout();
     amounts_->RefreshChecks();
   }
-  if (change == Change::kEverything) ShowFallenDice();
+  if (change == Change::kEverything) {
+    ShowFallenDice();
+    AnnounceRoll(*table_, game_);
+  }
   table_->Refresh();
   RefreshSoon();
 }

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "play/session_luck.h"
 #include "shell/screens/message_screen.h"
 #include "state/host.h"
 
@@ -13,7 +14,7 @@ namespace tessaryn {
 
 class Sounds;
 
-class ShellHost : public Host {
+class ShellHost : public Host, public LuckKeeper {
  public:
   ShellHost();
   ~ShellHost() override;

@@ -67,15 +67,10 @@ void RemoveAllBets(Game& game);
 // Whether the bet holds money under contract.
 bool IsContractBet(const Game& game, int seat, int bet);
 
-// --- What the pointer is over.
+// --- What the pointer is over (bet_tips.cpp).
 
-// "Place 6:  12" and for Lay and Buy "vig:  .60".
+// "Place 6: 12".
 QString BetAmountText(const Game& game, int seat, int bet);
-// What the bet pays: "7 to 6"; of bets with a table of payoffs their range.
-QString PayoffSummary(const Game& game, int bet);
-// What a click may still add to the bet, which is what the gate for bets lets through: a click of that amount
-// adds just that.
-Currency RoomFor(Game& game, int seat, int bet);
 // The whole line for the selected seat: what the next click is meant for if not for a bet, name, amount, vig,
 // payoff, and what may still be bet. Over no bet: what the player has.
 QString PointerText(Game& game, const TableCommands& commands, int bet);

@@ -7,13 +7,16 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QToolTip>
 #include <QWheelEvent>
 #include <cmath>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/bet_tips.h"
+#include "shell/table/contrast.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_accessible.h"
+#include "shell/table/table_touch.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -100,6 +103,10 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
     }
     update();
   });
+  new BetTip(*this, game_, commands_);
+  new TableTouch(*this, game_, commands_);
+  MakeTablesAccessible();
+  AnnounceRoll(*this, game_);
   RebuildLayout();
   PlaceDice();
 }
@@ -109,6 +116,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
 void TableWidget::TakeLooks() {
   const Looks& looks = game_.screen.looks;
   colors = ColorsOf(looks);
+  if (IsHighContrast(palette())) MakeHighContrast(colors);
   SetCheckColors(looks.Checks);
   SetLetteringFont(FromCore(looks.LetteringFont));
   checks_.Forget();
@@ -216,6 +224,7 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 void TableWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::FontChange) boxesStale_ = true;
   if (event->type() == QEvent::LanguageChange) TellSoon();
+  if (event->type() == QEvent::PaletteChange) RebuildLayout();
   QWidget::changeEvent(event);
 }
 
@@ -374,11 +383,6 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
   FindPointed();
   if (pointed == scene.hoverBet && openSeat == scene.hoverSeat) return;
   ShowCursor();
-  const QString tip = InfoTip(game_, commands_, scene.hoverBet);
-  if (tip.isEmpty())
-    QToolTip::hideText();
-  else
-    QToolTip::showText(event->globalPosition().toPoint() + QPoint(14, 14), tip, this);
   emit pointedAt(scene.hoverBet);
   update();
 }
@@ -518,6 +522,7 @@ void TableWidget::SetFocusBet(int bet, int side) {
   scene.focusBet = bet;
   scene.focusSide = side;
   TellFocus();
+  TellAreaFocus(*this);
   update();
 }
 
@@ -526,6 +531,7 @@ void TableWidget::TellFocus() {
   const int bet = scene.focusBet == 0 ? 0 : MeantBet(game_, scene.focusBet);
   const QString name = bet == 0 ? tr("Craps table") : PointerText(game_, commands_, bet);
   if (name != accessibleName()) setAccessibleName(name);
+  TellTableChanged(*this);
   emit pointedAt(bet == 0 ? scene.hoverBet : bet);
 }
 
