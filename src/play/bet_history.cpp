@@ -171,4 +171,12 @@ void NoteBetStep(BetHistory& history, const Game& game, const BetsKept& before) 
   history.Now = std::move(now);
 }
 
+bool CanUndoBets(const BetHistory& history, const Game& game) { return CanTake(history, game, true); }
+
+bool CanRedoBets(const BetHistory& history, const Game& game) { return CanTake(history, game, false); }
+
+bool UndoBets(Game& game, BetHistory& history) { return TakeStep(game, history, true); }
+
+bool RedoBets(Game& game, BetHistory& history) { return TakeStep(game, history, false); }
+
 }  // namespace tessaryn
