@@ -137,6 +137,11 @@ BetStep StepBetween(const BetsKept& before, const BetsKept& after) {
   return step;
 }
 
+void NoteCalls(BetHistory& history, bool touched) {
+  if (history.Standing > 0) history.Steps[history.Standing - 1].callsAfter = touched;
+  if (history.Standing < history.Steps.size()) history.Steps[history.Standing].callsBefore = touched;
+}
+
 bool SamePlayers(const BetStep& step) {
   return std::all_of(step.seats.begin(), step.seats.end(),
                      [](const BetStep::OfSeat& of) { return of.before.SeatName == of.after.SeatName; });
@@ -161,9 +166,11 @@ void NoteBetStep(BetHistory& history, const Game& game, const BetsKept& before) 
     return;
   }
   BetStep step = StepBetween(before, now);
-  // Where somebody came, left or moved, that is no change of bets.
-  if (step.seats.empty() || !SamePlayers(step)) return;
   if (!StandsAsLeft(history, before)) history = {};
+  // A call made twice changes nothing but that it is to be looked at.
+  if (step.seats.empty()) return NoteCalls(history, now.CallsTouched);
+  // Where somebody came, left or moved, that is no change of bets.
+  if (!SamePlayers(step)) return;
   history.Steps.resize(history.Standing);
   if (history.Steps.size() == kMostBetSteps) history.Steps.erase(history.Steps.begin());
   history.Steps.push_back(std::move(step));
