@@ -17,9 +17,11 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
+#include "play/bet_history.h"
 #include "play/game_file.h"
 #include "play/house_presets.h"
 #include "play/players.h"
+#include "play/repeat_bets.h"
 #include "play/script_session.h"
 #include "play/session_luck.h"
 #include "play/setting_table.h"
@@ -95,6 +97,7 @@ using Words = std::vector<std::string>;
 struct Call {
   Game& game;
   PlayHost& host;
+  BetHistory& history;
   const Words& words;  // words[0] is the command
   Json answer = Json::object();
   std::string error;
@@ -218,6 +221,25 @@ bool Remove(Call& call) {
     return false;
   call.answer["change"] = MoneyJson(RemoveBet(call.game, seat, bet));
   call.answer["amount"] = MoneyJson(call.game.table.BetAmount(seat, bet));
+  return true;
+}
+
+bool Undo(Call& call) {
+  if (!WantWords(call, 1, 1, "undo")) return false;
+  return UndoBets(call.game, call.history) || call.Bad("no bet has been changed since the last roll");
+}
+
+bool Redo(Call& call) {
+  if (!WantWords(call, 1, 1, "redo")) return false;
+  return RedoBets(call.game, call.history) || call.Bad("nothing was taken back");
+}
+
+bool Repeat(Call& call) {
+  int seat = call.game.table.SelectedSeat;
+  if (!WantWords(call, 1, 2, "repeat [SEAT]")) return false;
+  if (call.words.size() == 2 && !Player(call, 1, seat)) return false;
+  if (BetsToRepeat(call.game, seat).Empty()) return call.Bad("every bet of the last roll is up");
+  call.answer["bets"] = RepeatBets(call.game, seat);
   return true;
 }
 
@@ -582,6 +604,7 @@ bool Quit(Call& call) {
 struct Handler {
   PlayCommandInfo info;
   bool (*run)(Call&);
+  bool bets = false;  // what it changes can be taken back
 };
 
 constexpr Handler kHandlers[] = {
@@ -590,10 +613,15 @@ constexpr Handler kHandlers[] = {
     {{"rename", "SEAT NAME", "gives a player another name"}, Rename},
     {{"move", "SEAT SEAT", "moves a player to an open seat"}, Move},
     {{"select", "SEAT", "selects the player whose bets are shown"}, Select},
-    {{"bet", "SEAT BET AMOUNT", "adds to a bet, or with a negative amount takes it down"}, MakeBet},
-    {{"remove", "SEAT BET", "takes a bet down"}, Remove},
-    {{"call", "SEAT on|off BET", "calls a bet ON or OFF; BET may be all"}, CallOnOff},
-    {{"buy", "SEAT BET", "turns a Place bet into a Buy bet"}, Buy},
+    {{"bet", "SEAT BET AMOUNT", "adds to a bet, or with a negative amount takes it down"}, MakeBet, true},
+    {{"remove", "SEAT BET", "takes a bet down"}, Remove, true},
+    {{"call", "SEAT on|off BET", "calls a bet ON or OFF; BET may be all"}, CallOnOff, true},
+    {{"buy", "SEAT BET", "turns a Place bet into a Buy bet"}, Buy, true},
+    {{"undo", "", "takes back the last change of bets since the roll"}, Undo},
+    {{"redo", "", "makes again what was taken back"}, Redo},
+    {{"repeat", "[SEAT]", "bets again what was up before the last roll; without a seat the selected one"},
+     Repeat,
+     true},
     {{"roll", "[DIE1 DIE2]", "one roll, or these faces"}, Roll},
     {{"turbo", "ROLLS", "so many rolls at full speed"}, Turbo},
     {{"pass", "", "passes the dice"}, Pass},
@@ -608,7 +636,7 @@ constexpr Handler kHandlers[] = {
      StartSession},
     {{"probabilities", "FILE|off", "percentage dice from a file, or none"}, LoadProbabilities},
     {{"rollfile", "FILE play|record|off", "a dice roll file; rollfile off closes it"}, UseRollFile},
-    {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack},
+    {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack, true},
     {{"save", "FILE", "writes the game to a file"}, SaveIt},
     {{"open", "FILE", "opens a game in place of the table"}, OpenIt},
     {{"plot", "SEAT", "the bankroll graph's points"}, Plot},
@@ -648,8 +676,10 @@ Json PlaySession::Do(const std::string& line) {
   if (words.empty()) return {{"ok", false}, {"error", "no command"}};
   for (const Handler& handler : kHandlers) {
     if (words[0] != handler.info.name) continue;
-    Call call{game_, host_, words, Json::object(), "", false};
+    Call call{game_, host_, history_, words, Json::object(), "", false};
+    const BetsKept before = handler.bets ? KeepBets(game_) : BetsKept{};
     const bool done = handler.run(call);
+    if (handler.bets) NoteBetStep(history_, game_, before);
     ended_ = call.ended;
     FlushEventsLog(game_);
     if (!done) return {{"ok", false}, {"error", words[0] + ": " + call.error}};

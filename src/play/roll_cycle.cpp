@@ -361,7 +361,8 @@ bool BeginRoll(Game& game) {
   return true;
 }
 
-// From the fallen dice to the last of what they decided.
+}  // namespace
+
 void SettleDice(Game& game) {
   TableState& table = game.table;
   const bool logged = game.events.RecordEventsActive;
@@ -382,8 +383,6 @@ void SettleDice(Game& game) {
   PlotRoll(game);
   CloseRoll(table);
 }
-
-}  // namespace
 
 bool ReadyToRoll(Game& game) {
   ReplaceMissingGenerator(game.generators);

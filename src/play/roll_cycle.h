@@ -16,6 +16,9 @@ bool MakeRoll(Game& game, SessionLuck* luck = nullptr);
 // (false: nothing was rolled), then the next bets on the table.
 bool RollAndSettle(Game& game);
 void FinishRoll(Game& game);
+// From the fallen dice to the last of what they decided: the end of RollAndSettle, for a copy that was taken
+// when the dice were heard.
+void SettleDice(Game& game);
 // After the last roll: files are brought up to date, and what is shown.
 void CloseRolling(Game& game);
 

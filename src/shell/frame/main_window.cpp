@@ -33,7 +33,7 @@
 #include "shell/frame/screen_manners.h"
 #include "shell/frame/tool_rows.h"
 #include "shell/frame/tool_windows.h"
-#include "shell/screens/settle_bet.h"
+#include "shell/screens/join_screen.h"
 #include "shell/table/amount_selector.h"
 #include "shell/table/languages.h"
 #include "shell/table/pictures.h"
@@ -108,6 +108,7 @@ void MainWindow::StartAutosaves() {
 MainWindow::~MainWindow() {
   host_.changed = nullptr;
   host_.beforeBox = nullptr;
+  host_.diceThrown = nullptr;
   host_.showThrow = nullptr;
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
@@ -221,7 +222,10 @@ void MainWindow::RunCommand(const CommandRow& command) {
   if (!table_->CommitEntry()) return;
   if (command.run == InRun::kAsksFirst && !AskBeforeCommand(game_)) return RefreshCommands();
   ++working_;
-  command.act(desk_);
+  if (ChangesBets(command))
+    AsBetStep(desk_.commands.History, game_, [&] { command.act(desk_); });
+  else
+    command.act(desk_);
   --working_;
   RefreshCommands();
 }
@@ -307,8 +311,9 @@ void MainWindow::ConnectHost() {
     turbo_->Refresh(game);
     RefreshTools(desk_);
   };
+  host_.diceThrown = [this](const Game& game) { settling_.DiceThrown(game); };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
-    return AskSettleBet(this, game, question);
+    return settling_.Ask(game, question);
   };
 }
 
@@ -316,6 +321,7 @@ void MainWindow::OnChanged(Change change) {
   changed_ = true;
   agreed_ = false;
   if (change == Change::kSettings) Speak();
+  if (change == Change::kEverything) settling_.RollEnded(game_);
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
@@ -385,7 +391,7 @@ bool MainWindow::MayBet() {
 
 void MainWindow::OnBetMoved(int from, int to) {
   if (!MayBet()) return;
-  MoveBet(game_, from, to);
+  AsBetStep(desk_.commands.History, game_, [&] { MoveBet(game_, from, to); });
   RefreshCommands();
 }
 
@@ -413,7 +419,7 @@ void MainWindow::OnSeatClicked(int seat) {
       if (!MovePlayer(game_, std::exchange(desk_.movingSeat, 0), seat, error))
         ShowMessage<Msg::kPlayerNotMoved>(game_, With<"problem">(error));
       table_->scene.movingPlayer = false;
-    } else if (AddPlayer(game_, seat)) {
+    } else if (AskJoin(game_, seat, this)) {
       SelectSeat(game_, seat);
     }
   }
@@ -430,7 +436,7 @@ void MainWindow::ShowPointer(int bet) {
 // --- Keys that have no modifier, and the hot-keys.
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (HotKeyPressed(event)) return;
+  if (HotKeyPressed(event) || AmountKeyPressed(event)) return;
   if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
     if (event->key() == Qt::Key_Escape && (GiveUp(desk_.commands) || desk_.movingSeat != 0)) {
       desk_.movingSeat = 0;
@@ -458,6 +464,25 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
     }
   }
   QMainWindow::keyPressEvent(event);
+}
+
+// Alt and a digit is the check of that place, plus and minus the next larger and smaller one.
+bool MainWindow::AmountKeyPressed(QKeyEvent* event) {
+  const Currency* checks = game_.settings.CheckValue;
+  const int key = event->key();
+  const Qt::KeyboardModifiers keys = event->modifiers() & ~Qt::KeypadModifier;
+  if (keys == Qt::AltModifier && key >= Qt::Key_1 && key <= Qt::Key_5) {
+    amounts_->SetAmount(checks[key - Qt::Key_1 + 1]);
+    return true;
+  }
+  if ((keys & ~Qt::ShiftModifier) != 0 || (key != Qt::Key_Plus && key != Qt::Key_Minus)) return false;
+  const Currency now = amounts_->Amount();
+  Currency next = now;
+  for (int n = 1; n <= 5; ++n) {
+    if (key == Qt::Key_Plus ? next == now && checks[n] > now : checks[n] < now) next = checks[n];
+  }
+  amounts_->SetAmount(next);
+  return true;
 }
 
 bool MainWindow::HotKeyPressed(QKeyEvent* event) {

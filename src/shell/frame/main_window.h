@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "shell/frame/desk.h"
+#include "shell/frame/settle_roll.h"
 #include "shell/table/table_widget.h"
 
 class QLabel;
@@ -82,6 +83,7 @@ class MainWindow : public QMainWindow {
   void ShowPointer(int bet);
   void ShowTableStatus();
   bool HotKeyPressed(QKeyEvent* event);
+  bool AmountKeyPressed(QKeyEvent* event);
   void ShowCaption();
   // Everything as the game has it that was just opened.
   void ShowGame();
@@ -100,6 +102,7 @@ class MainWindow : public QMainWindow {
   QLabel* status_ = nullptr;   // rolls, point, shooter
   std::map<std::string, QAction*> actions_;
   std::vector<QMenu*> menus_;
+  SettleRoll settling_{desk_};
   bool refreshPending_ = false;
   int working_ = 0;              // commands that haven't returned
   bool screenPending_ = false;   // the view and the tool windows wait until the window is shown

@@ -35,6 +35,8 @@ class ShellHost : public Host, public LuckKeeper {
   // The settlement dialog. Empty: the safe choice.
   std::function<SettleAnswer(Game&, const SettleQuestion&)> askSettlement;
   std::function<void(Game&, Change)> changed;
+  // The dice have been thrown, and nothing is counted yet. Not called in a Turbo-Roll.
+  std::function<void(const Game&)> diceThrown;
   // The dice have been thrown: shows their tumble. Not called in a Turbo-Roll.
   std::function<void(Game&)> showThrow;
   // The house's bank is broken: shows it. Not called in a Turbo-Roll.

@@ -60,7 +60,8 @@ QPixmap PictureOf(std::uint32_t flags, const QWidget& box) {
 
 }  // namespace
 
-MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent) : QDialog(parent), flags_(box.MsgFlags) {
+MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent)
+    : QDialog(parent), id_(box.MsgId), flags_(box.MsgFlags) {
   setObjectName("frmMsg");
   setWindowTitle(FromCore(box.MsgTitle));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -114,12 +115,14 @@ void MessageScreen::AddButtons() {
   auto* row = new QHBoxLayout;
   qobject_cast<QVBoxLayout*>(layout())->addLayout(row);
   row->addStretch();
+  // What takes a player from the table isn't said yes to by a key that was meant for something else.
+  const bool safe = id_ == Msg::kAskRemovePlayer || id_ == Msg::kAskAbandon;
   bool first = true;
   for (const ButtonFacts& facts : kButtons) {
     if ((flags_ & facts.flag) == 0) continue;
     auto* button = new QPushButton(tr(facts.caption), this);
     button->setObjectName(facts.name);
-    button->setDefault(first);
+    button->setDefault(safe ? facts.flag == kMsgNo : first);
     const int result = facts.result;
     connect(button, &QPushButton::clicked, this, [this, result] { PressedButton(result); });
     row->addWidget(button);

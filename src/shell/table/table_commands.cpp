@@ -29,6 +29,21 @@ void CarryBet(Game& game, TableCommands& commands, int bet) {
   if (taken > kZero) commands.CarriedAmount = taken;
 }
 
+void ReplaceAmount(Game& game, int bet, Currency amount) {
+  const int seat = game.table.SelectedSeat;
+  if (!IsOccupied(game.table, seat) || amount.IsError()) return;
+  const Currency up = game.table.BetAmount(seat, bet);
+  if (amount == up) return;
+  // A contract is raised or kept, never taken down and made anew.
+  if (IsContractBet(game, seat, bet) || IsCheckStack(bet) || up == kZero) {
+    PlaceByHand(game, bet, amount - up);
+    return;
+  }
+  if (-RemoveBet(game, seat, bet) != up) return;
+  PlaceBet(game, seat, bet, amount);
+  LogBet(game, seat, bet);
+}
+
 // The bet that a click on odds means when they aren't up: the flat bet that shares their place.
 int OrItsFlatBet(const Game& game, int bet) {
   const bool up = game.table.BetAmount(game.table.SelectedSeat, bet) != kZero;
@@ -114,9 +129,10 @@ void RemoveAllBets(Game& game) {
   game.host->Changed(game, Change::kLayout);
 }
 
-bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
+namespace {
+
+bool CarryOutClick(Game& game, TableCommands& commands, int bet, bool alt) {
   const int seat = game.table.SelectedSeat;
-  if (!IsOccupied(game.table, seat)) return false;
   const int action = commands.PendingAction;
   commands.PendingAction = kPendingNone;
   switch (action) {
@@ -149,19 +165,17 @@ bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
   return false;
 }
 
-void TakeEnteredAmount(Game& game, int bet, Currency amount) {
-  const int seat = game.table.SelectedSeat;
-  if (!IsOccupied(game.table, seat) || amount.IsError()) return;
-  const Currency up = game.table.BetAmount(seat, bet);
-  if (amount == up) return;
-  // A contract is raised or kept, never taken down and made anew.
-  if (IsContractBet(game, seat, bet) || IsCheckStack(bet) || up == kZero) {
-    PlaceByHand(game, bet, amount - up);
-    return;
-  }
-  if (-RemoveBet(game, seat, bet) != up) return;
-  PlaceBet(game, seat, bet, amount);
-  LogBet(game, seat, bet);
+}  // namespace
+
+bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
+  if (!IsOccupied(game.table, game.table.SelectedSeat)) return false;
+  bool asksForAmount = false;
+  AsBetStep(commands.History, game, [&] { asksForAmount = CarryOutClick(game, commands, bet, alt); });
+  return asksForAmount;
+}
+
+void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount) {
+  AsBetStep(commands.History, game, [&] { ReplaceAmount(game, bet, amount); });
 }
 
 void RightClick(Game& game, TableCommands& commands) {

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "base/table_types.h"
+#include "play/bet_history.h"
 
 namespace tessaryn {
 
@@ -37,6 +38,7 @@ struct TableCommands {
   Currency ClickAmount = Currency::Dollars(5);  // what a click adds
   Currency CarriedAmount;                       // taken up with Alt, to be put down by the next click; 0 none
   BetInHand Moving;
+  BetHistory History;  // what Undo takes back
 };
 
 // A command of the same kind again, or a right click, gives it up.
@@ -48,7 +50,7 @@ bool GiveUp(TableCommands& commands);
 // is held. Returns whether the click asks for an amount to be keyed in; the caller then opens the entry box.
 bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt);
 // The amount typed replaces the bet.
-void TakeEnteredAmount(Game& game, int bet, Currency amount);
+void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount);
 // The right button: drops a pending action; then asks to stop an Auto-Roll, or rolls.
 void RightClick(Game& game, TableCommands& commands);
 // Takes the bet down; odds that share their place with the flat bet take that down when they aren't up.

@@ -591,7 +591,7 @@ bool TableWidget::CommitEntry() {
   const int bet = std::exchange(entryBet_, 0);
   const Currency amount = entry_->Value();
   CloseEntry();
-  TakeEnteredAmount(game_, bet, amount);
+  TakeEnteredAmount(game_, commands_, bet, amount);
   Refresh();
   return game_.table.BetAmount(game_.table.SelectedSeat, bet) == amount;
 }
