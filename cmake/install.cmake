@@ -4,15 +4,9 @@ set(HOME lib/tessaryn)
 set(PROGRAMS tessaryn-cli)
 if(TESSARYN_SHELL)
   list(APPEND PROGRAMS tessaryn)
-  foreach(program ${PROGRAMS})
-    # As built, and so in a portable folder, they look in a folder beside them first; what is installed doesn't.
-    set_target_properties(${program} PROPERTIES BUILD_RPATH "\$ORIGIN/lib")
-    target_link_options(${program} PRIVATE LINKER:--disable-new-dtags)
-  endforeach()
 endif()
 
 # --- The manual, from what the programs themselves say of their options.
-file(GLOB CLI_COMMAND_SOURCES CONFIGURE_DEPENDS src/cli/*_command.cpp)
 set(MANUALS)
 foreach(program ${PROGRAMS})
   set(manual ${CMAKE_BINARY_DIR}/man/${program}.1)
@@ -50,9 +44,6 @@ if(TESSARYN_SHELL)
   install(CODE "set(ENTRY \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/share/applications/tessaryn.desktop\")
     configure_file(\"${CMAKE_SOURCE_DIR}/data/desktop/tessaryn.desktop.in\" \"\${ENTRY}\" @ONLY)
     message(STATUS \"Installing: \${ENTRY}\")")
-  # For the portable folder: the programs as they were built.
-  install(PROGRAMS $<TARGET_FILE:tessaryn> $<TARGET_FILE:tessaryn-cli> DESTINATION ${HOME}
-    COMPONENT portable EXCLUDE_FROM_ALL)
 endif()
 
 # --- The Debian package.
@@ -68,7 +59,8 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION games)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+  "fonts-dejavu-core, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, qt6-translations-l10n")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "A casino dice table for players, and for people who test betting systems.
 One to eight players, 93 kinds of bet, every house rule as a setting; all that happens is counted, by bet, player,
 hand and session. Betting systems are written in a language close to English and tried over millions of rolls, at

@@ -12,7 +12,7 @@ PACKAGES=(
   xvfb xdotool poppler-utils
 )
 STYLE_PACKAGES=(clang-format)  # for .ci/run alone
-PACKAGE_PACKAGES=(dpkg-dev lintian desktop-file-utils appstream shared-mime-info)  # for package.sh alone
+PACKAGE_PACKAGES=(dpkg-dev lintian desktop-file-utils appstream shared-mime-info patchelf)  # for package.sh alone
 
 # Beside PACKAGES those that it is given.
 
