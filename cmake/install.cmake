@@ -1,6 +1,6 @@
-# What is installed, and where: the programs with all that they look for beside themselves in lib/tessaryn, links to them
-# in bin, and under share what a desktop and a reader of manuals look for. A copy of lib/tessaryn alone runs as well.
-set(HOME lib/tessaryn)
+# What is installed, and where: the programs with all that they look for beside themselves in libexec/tessaryn, links to them
+# in bin, and under share what a desktop and a reader of manuals look for. A copy of libexec/tessaryn alone runs as well.
+set(HOME libexec/tessaryn)
 set(PROGRAMS tessaryn-cli)
 if(TESSARYN_SHELL)
   list(APPEND PROGRAMS tessaryn)
@@ -56,15 +56,17 @@ set(CPACK_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
-set(CPACK_DEBIAN_PACKAGE_SECTION games)
+set(CPACK_DEBIAN_PACKAGE_SECTION misc)  # "games" are in /usr/games, where not everybody's shell looks
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "fonts-dejavu-core, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, qt6-translations-l10n")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "A casino dice table for players, and for people who test betting systems.
-One to eight players, 93 kinds of bet, every house rule as a setting; all that happens is counted, by bet, player,
-hand and session. Betting systems are written in a language close to English and tried over millions of rolls, at
-the table, in a laboratory on all cores, or by the program tessaryn-cli without a window.")
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Casino dice table, and a laboratory for betting systems
+One to eight players, 93 kinds of bet, every house rule as a setting; all
+that happens is counted, by bet, player, hand and session. Betting systems
+are written in a language close to English and tried over millions of
+rolls: at the table, in a laboratory on all cores, or by the program
+tessaryn-cli without a window.")
 # What only this package has: its changelog and copyright in Debian's form, packed as it wants them.
 install(CODE "execute_process(COMMAND \"${CMAKE_SOURCE_DIR}/scripts/debian_files.sh\" ${PROJECT_VERSION}-1
     \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\" \"${CPACK_PACKAGE_CONTACT}\" COMMAND_ERROR_IS_FATAL ANY)"

@@ -17,20 +17,23 @@ mv "$doc/CHANGELOG.md.gz" "$doc/changelog.gz"
 gzip -9nf "$doc/README.md" "$root"/share/man/man1/*.1
 
 # An entry for each version, its date as mail has it.
+entry="" date=""
+close_entry() { [ -z "$entry" ] || printf '\n -- %s  %s\n\n' "$maintainer" "$date"; }
 while read -r line; do
   case "$line" in
     "## "*)
-      [ -z "${date:-}" ] || printf '\n -- %s  %s\n\n' "$maintainer" "$date"
-      head="${line#\#\# }"
-      date="$(LC_ALL=C date -u -d "${head#*, }" '+%a, %d %b %Y 00:00:00 +0000')"
-      printf 'tessaryn (%s-%s) unstable; urgency=medium\n\n' "${head%%,*}" "${version##*-}"
+      close_entry
+      entry="${line#\#\# }"
+      date="$(LC_ALL=C date -u -d "${entry#*, }" '+%a, %d %b %Y 00:00:00 +0000')"
+      printf 'tessaryn (%s-%s) unstable; urgency=medium\n\n' "${entry%%,*}" "${version##*-}"
       ;;
-    "- "*) printf '  * %s\n' "${line#- }" ;;
-    ?*) [ -z "${date:-}" ] || printf '    %s\n' "$line" ;;
+    ?*) [ -z "$entry" ] || fold -s -w 70 <<<"${line#- }" | sed -e '1s/^/  * /' -e '2,$s/^/    /' -e 's/ *$//' ;;
   esac
 done <CHANGELOG.md >"$doc/changelog.Debian"
-printf '\n -- %s  %s\n' "$maintainer" "$date" >>"$doc/changelog.Debian"
+close_entry | sed '$d' >>"$doc/changelog.Debian"
 gzip -9nf "$doc/changelog.Debian"
+mkdir -p "$root/share/lintian/overrides"
+echo "tessaryn: initial-upload-closes-no-bugs" >"$root/share/lintian/overrides/tessaryn"
 
 cat >"$doc/copyright" <<TEXT
 Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/
@@ -53,4 +56,4 @@ License: GPL-3+
  On Debian systems the full text of the GNU General Public License version 3 is in
  /usr/share/common-licenses/GPL-3.
 TEXT
-ln -sf ../../share/common-licenses/GPL-3 "$root/lib/tessaryn/LICENSE"
+ln -sf ../../share/common-licenses/GPL-3 "$root/libexec/tessaryn/LICENSE"

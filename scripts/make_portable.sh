@@ -15,7 +15,7 @@ umask 022
 
 cmake --install "$build" --prefix "$work/installed" --strip >/dev/null
 folder="$work/$name"
-mv "$work/installed/lib/tessaryn" "$folder"
+mv "$work/installed/libexec/tessaryn" "$folder"
 cp "$work/installed/share/doc/tessaryn/"*.md "$work/installed/share/icons/hicolor/scalable/apps/tessaryn.svg" "$folder"
 
 HOST='^(ld-linux|libc\.|libm\.|libdl\.|librt\.|libpthread\.|libresolv\.|libutil\.|libgcc_s|libstdc\+\+|libGL|libEGL'

@@ -13,7 +13,7 @@ place="$work/a place"
 export XDG_RUNTIME_DIR="$work" QT_QPA_PLATFORM=offscreen HOME="$work"
 unset XDG_DATA_HOME DISPLAY WAYLAND_DISPLAY
 
-for file in bin/tessaryn-cli lib/tessaryn/{mt19937ar.dll,cokus.dll,LICENSE,samples/Sample1.bet,docs/auto-bet.md} \
+for file in bin/tessaryn-cli libexec/tessaryn/{mt19937ar.dll,cokus.dll,LICENSE,samples/Sample1.bet,docs/auto-bet.md} \
     share/man/man1/tessaryn-cli.1 share/doc/tessaryn/CHANGELOG.md; do
   [ -s "$place/$file" ] || fail "$file is missing"
 done
@@ -34,7 +34,7 @@ if command -v appstreamcli >/dev/null; then
 fi
 
 # The portable copy, moved: what it writes lies beside it.
-mv "$place/lib/tessaryn" "$work/stick"
+mv "$place/libexec/tessaryn" "$work/stick"
 cd "$work"
 stick/tessaryn-cli run --player Ann=1000 --script stick/samples/Sample1.bet --rolls 1000 --rng 1 >played ||
   fail "the command line doesn't play"

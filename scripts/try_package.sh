@@ -73,7 +73,7 @@ inside apt-get install -y -qq "/root/$(basename "$deb")" >/dev/null || fail "the
 data=/home/player/.local/share/tessaryn
 as_player "tessaryn-cli --version && tessaryn --version" | grep -q . || fail "no version"
 as_player "man -P cat tessaryn-cli" | grep -q lab || fail "no manual"
-as_player "cp /usr/lib/tessaryn/samples/Sample1.bet line.bet
+as_player "cp /usr/libexec/tessaryn/samples/Sample1.bet line.bet
   tessaryn-cli run --player Ann=500 --rolls 9 --set ShooterBetRule=0 --record two.rol >/dev/null
   tessaryn-cli probabilities fair.prb --new >/dev/null
   printf 'join 1 Ann 500\nsave evening.crp\nset ShooterBetRule 0\nroll 4 3\nnewsession keeplogs\n' | tessaryn-cli play >/dev/null
@@ -99,7 +99,7 @@ KINDS
 # Nobody writes into what the system has installed, not even who may.
 inside env HOME=/root tessaryn-cli run --player Ann=500 --rolls 9 --set ShooterBetRule=0 >/dev/null
 inside dpkg --verify tessaryn
-[ -z "$(inside find /usr/lib/tessaryn -newer /usr/share/doc/tessaryn/copyright -name '*.crp')" ] ||
+[ -z "$(inside find /usr/libexec/tessaryn -newer /usr/share/doc/tessaryn/copyright -name '*.crp')" ] ||
   fail "a game was written into the system"
 inside apt-get purge -y -qq tessaryn >/dev/null
 left="$(inside find / -xdev -path /proc -prune -o -path /home -prune -o -path /root -prune -o -path /var/cache -prune -o \
