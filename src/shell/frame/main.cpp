@@ -105,9 +105,14 @@ int main(int count, char** arguments) {
   options.add_option("--data-folder", dataFolder, "where everything is written; made if need be")
       ->type_name("DIR");
   std::string game;
-  options.add_option("game", game, "the game to open; without one the last game goes on")->type_name("FILE");
+  options
+      .add_option("game", game,
+                  "the game to open; or a script, dice rolls, probabilities or a sessions log, for the last game, "
+                  "which goes on without any")
+      ->type_name("FILE");
   QApplication::setApplicationName("tessaryn");
   QApplication::setApplicationDisplayName("Tessaryn");
+  QGuiApplication::setDesktopFileName("tessaryn");  // by which a desktop knows whose window it is
   // Help needs no screen. All else does; the window system's own options are taken out by the application.
   options.allow_extras();
   try {

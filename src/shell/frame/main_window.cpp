@@ -28,7 +28,7 @@
 #include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
-#include "shell/frame/open_game.h"
+#include "shell/frame/open_file.h"
 #include "shell/frame/places.h"
 #include "shell/frame/screen_manners.h"
 #include "shell/frame/tool_rows.h"
@@ -512,7 +512,7 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   std::string error;
   if (!ReadHotKeys(game_.dataFolder + kHotKeysFile, game_.screen.HotKeys, error))
     ShowMessage<Msg::kHotKeysFailed>(game_, With<"problem">(error));
-  if (!OfferAutosave(game_)) OpenFirstGame(game_, argument);
+  if (!OfferAutosave(game_)) OpenFirstGame(game_, OpensBesideGame(argument) ? "" : argument);
   if (!game_.file.Path.empty()) NoteRecentGame(desk_, game_.file.Path);
   host_.window = this;
   starting_ = false;
@@ -520,6 +520,10 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   ShowGame();
   changed_ = false;
   if (game_.table.ShooterSeat != 0 && game_.table.Point == 0) host_.PlaySound(game_, Sound::kComeOut);
+}
+
+void MainWindow::OpenBesideGame(const std::string& argument) {
+  if (OpensBesideGame(argument)) OpenAnyFile(desk_, argument);
 }
 
 void MainWindow::ShowGame() {
@@ -620,7 +624,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   const std::string path = DroppedFile(*event->mimeData()).toStdString();
   event->acceptProposedAction();
   QTimer::singleShot(0, this, [this, path] {
-    if (IsFree(desk_) && table_->CommitEntry() && AskBeforeCommand(game_)) OpenGameFile(desk_, path);
+    if (IsFree(desk_) && table_->CommitEntry() && AskBeforeCommand(game_)) OpenAnyFile(desk_, path);
   });
 }
 

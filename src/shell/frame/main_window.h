@@ -40,6 +40,8 @@ class MainWindow : public QMainWindow {
   void OpenAtStart(const std::string& argument);
   // Until that has returned nothing is lost when the program is ended at once.
   bool IsStarting() const { return starting_; }
+  // What the program was started with if that is no game but another of its files. Once the window is shown.
+  void OpenBesideGame(const std::string& argument);
   // A roll or a command hasn't ended yet.
   bool IsUnderWay() const;
   // As closing it, but without questions: what can't be written is told on standard error.

@@ -757,7 +757,11 @@ void SessionsLogScreen::NewAllLogs() {
 
 void SessionsLogScreen::OpenLog() {
   const std::string path = ChooseFile(game_, this, kOpenLog);
-  if (path.empty()) return;
+  if (!path.empty()) OpenPath(path);
+}
+
+void SessionsLogScreen::OpenPath(const std::string& path) {
+  ChooseSeat();
   const std::string problem = OpenSessionsLog(game_, game_.sessions.SessionsSeat, path);
   if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotOpened>(game_, With<"problem">(problem));
   Recompute();

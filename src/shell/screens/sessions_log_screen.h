@@ -47,6 +47,9 @@ class SessionsLogScreen : public ToolWindow {
   QStringList PrintFacts(int pages) const override;
   bool ReadyToPrint() override;
 
+  // Makes it the log of the player shown. Requires one.
+  void OpenPath(const std::string& path);
+
   // The log's figures are those on the screen; for who waits for them.
   bool IsUpToDate() const;
   const SessionsStatistics& Shown() const { return result_->statistics; }

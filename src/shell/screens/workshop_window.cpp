@@ -576,6 +576,10 @@ void WorkshopWindow::NewScript() {
 }
 
 void WorkshopWindow::OpenPath(const std::string& path) {
+  if (MayLeaveScript()) TakeFile(path);
+}
+
+void WorkshopWindow::TakeFile(const std::string& path) {
   std::string error;
   if (!OpenScript(game_, seat_, path, error))
     ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
@@ -585,7 +589,7 @@ void WorkshopWindow::OpenPath(const std::string& path) {
 void WorkshopWindow::OpenFile() {
   if (!MayLeaveScript()) return;
   const std::string path = ChooseFile(game_, this, kOpenAutoBet);
-  if (!path.empty()) OpenPath(path);
+  if (!path.empty()) TakeFile(path);
 }
 
 bool WorkshopWindow::Save() {
@@ -621,7 +625,7 @@ void WorkshopWindow::FillSamples(QMenu& menu) {
   const QDir folder(FromCore(game_.applicationFolder) + "samples");
   for (const QString& name : folder.entryList({"*.bet"}, QDir::Files, QDir::Name))
     connect(menu.addAction(name), &QAction::triggered, this, [this, path = folder.filePath(name)] {
-      if (MayLeaveScript()) OpenPath(ToCore(path));
+      OpenPath(ToCore(path));
     });
 }
 

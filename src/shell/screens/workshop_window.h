@@ -50,6 +50,8 @@ class WorkshopWindow : public ToolWindow {
   void Store();
   void ShowSeat(int seat);
   int Seat() const { return seat_; }
+  // Opens a file for the player shown, who is asked first about a script that isn't saved.
+  void OpenPath(const std::string& path);
   WorkshopEditor& Editor() { return *editor_; }
 
   // A script has become active, or has run.
@@ -79,9 +81,9 @@ class WorkshopWindow : public ToolWindow {
   bool MayLeaveScript();
   void NewScript();
   void OpenFile();
+  void TakeFile(const std::string& path);
   bool Save();
   bool SaveAs();
-  void OpenPath(const std::string& path);
   void PasteFromFile();
   void PasteLines(const std::vector<std::string>& lines);
   void CopyToFile();
