@@ -303,8 +303,10 @@ TEST(RollFilesScreen, EverythingIsNamedAndFitsASmallScreenAndPrints) {
     EXPECT_LE(screen.window->minimumSizeHint().height(), 400);
     ExpectNamed(*screen.window);
     SavePicture(*screen.window, dark ? "roll-files-dark" : "roll-files-light");
-    ASSERT_EQ(screen.window->Rows().size(), 13);
-    EXPECT_EQ(screen.window->Rows()[1][0].left(2), "20");
+    const auto rows = screen.window->TakeRows();
+    ASSERT_EQ(rows->Count(), 13);
+    EXPECT_EQ(rows->Row(12)[0].left(2), "31");
+    EXPECT_EQ(rows->Row(1)[0].left(2), "20");
     screen.window->resize(440, 300);
     QApplication::processEvents();
     SavePicture(*screen.window, dark ? "roll-files-docked-dark" : "roll-files-docked-light");
