@@ -296,7 +296,11 @@ TEST(RollFilesScreen, EverythingIsNamedAndFitsASmallScreenAndPrints) {
     RollScreen screen;
     screen.Open(SomeRolls(300));
     screen.window->resize(1000, 540);
-    screen.List().SetHighlight(1);
+    Find<QAction>(*screen.window, "mnuHighlightSevens").trigger();
+    Find<QAction>(*screen.window, "mnuFontSize10").trigger();
+    const std::unique_ptr<RollFilesWindow> later = std::make_unique<RollFilesWindow>(*screen.game, nullptr);
+    auto& list = Find<RollList>(*later, screen.List().objectName());
+    EXPECT_TRUE(list.Highlight() == 1 && list.FontSize() == 10) << "kept with the game";
     screen.ClickRoll(20);
     screen.ClickRoll(31, Qt::ShiftModifier);
     EXPECT_LE(screen.window->minimumSizeHint().width(), 440);
