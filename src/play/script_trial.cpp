@@ -250,6 +250,11 @@ std::size_t EndOfCall(const std::string& line, std::size_t at, std::size_t end) 
   return end;
 }
 
+bool Belongs(const std::string& line, const ScriptSpan& behind) {
+  const std::string word = Lowered(line.substr(behind.begin, behind.end - behind.begin));
+  return behind.kind == SpanKind::kPlayer || behind.kind == SpanKind::kModifier || word.starts_with("player");
+}
+
 // From behind "if" to "then".
 bool FindCondition(const std::vector<ScriptSpan>& spans, const std::string& line, std::size_t& begin,
                    std::size_t& end) {
@@ -275,18 +280,16 @@ std::string ConditionValues(const Game& game, int seat, const std::string& line)
   std::size_t at = 0, end = 0;
   if (!FindCondition(spans, line, at, end)) return {};
   std::vector<std::string> operands;
-  std::size_t player = std::string::npos;  // where the owner of the next word begins
-  for (const ScriptSpan& span : spans) {
-    if (span.begin < at || span.begin >= end) continue;
-    if (span.kind == SpanKind::kPlayer) {
-      player = span.begin;
-      continue;
-    }
-    const std::size_t from = std::exchange(player, std::string::npos);
-    if (span.kind != SpanKind::kVariable && span.kind != SpanKind::kFunction) continue;
-    const std::size_t begin = std::min(from, span.begin);
-    at = span.kind == SpanKind::kFunction ? EndOfCall(line, span.begin, end) : span.end;
-    std::string operand(Trimmed(line.substr(begin, at - begin)));
+  const auto isIn = [&](const ScriptSpan& span) { return span.begin >= at && span.begin < end; };
+  for (std::size_t n = 0; n < spans.size(); ++n) {
+    const ScriptSpan& span = spans[n];
+    const bool call = span.end < line.size() && line[span.end] == '(' && span.kind != SpanKind::kLogic;
+    if (!isIn(span) || (span.kind != SpanKind::kVariable && !call)) continue;
+    at = call ? EndOfCall(line, span.begin, end) : span.end;
+    // Whose it is, and of which rolls, stands behind.
+    for (; n + 1 < spans.size() && Belongs(line, spans[n + 1]) && spans[n + 1].begin < end; ++n)
+      at = std::max(at, spans[n + 1].end);
+    std::string operand(Trimmed(line.substr(span.begin, at - span.begin)));
     if (std::find(operands.begin(), operands.end(), operand) == operands.end())
       operands.push_back(std::move(operand));
   }

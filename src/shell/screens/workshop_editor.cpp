@@ -235,19 +235,9 @@ void WorkshopEditor::SelectSpan(const ScriptDiagnostic& span) {
   ensureCursorVisible();
 }
 
-bool WorkshopEditor::ReplaceWord(const ScriptDiagnostic& span, const std::string& word,
-                                 const std::string& by) {
-  const std::string wanted = Lowered(word);
-  for (int line = span.firstLine - 1; !wanted.empty() && line < std::min(span.lastLine, lines()); ++line) {
-    const std::size_t from = line == span.firstLine - 1 ? static_cast<std::size_t>(span.firstColumn) : 0;
-    const std::size_t at = Lowered(LineText(line)).find(wanted, from);
-    if (at == std::string::npos) continue;
-    const auto behind = static_cast<int>(at + word.size());
-    setSelection(line, CharacterOf(line, static_cast<int>(at)), line, CharacterOf(line, behind));
-    replaceSelectedText(QString::fromStdString(by));
-    return true;
-  }
-  return false;
+void WorkshopEditor::ReplaceBytes(int line, int begin, int end, const std::string& by) {
+  setSelection(line - 1, CharacterOf(line - 1, begin), line - 1, CharacterOf(line - 1, end));
+  replaceSelectedText(QString::fromStdString(by));
 }
 
 void WorkshopEditor::MarkStep(int line) {

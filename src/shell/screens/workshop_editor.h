@@ -45,8 +45,8 @@ class WorkshopEditor : public QsciScintilla {
   void ShowCounts(const std::vector<LineProfile>& lines);
   // What it shows beside a line from 1; empty: nothing.
   QString CountsOf(int line) const { return counts_.value(line); }
-  // Puts another word in the place of the first one of the kind in the span; false if there is none.
-  bool ReplaceWord(const ScriptDiagnostic& span, const std::string& word, const std::string& by);
+  // Bytes of a line from 1.
+  void ReplaceBytes(int line, int begin, int end, const std::string& by);
   // In place of what has been typed of it, if anything.
   void InsertWord(const std::string& word);
   // The words that go on from what has been typed; with none typed or asked for by the keys, all the same.

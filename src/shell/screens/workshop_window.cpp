@@ -32,6 +32,7 @@
 #include "autobet/run/interpreter.h"
 #include "base/record_file.h"
 #include "play/auto_roll.h"
+#include "play/script_help.h"
 #include "play/script_session.h"
 #include "play/script_trial.h"
 #include "shell/screens/file_chooser.h"
@@ -797,12 +798,9 @@ void WorkshopWindow::Check() {
 
 // The word that the compiler doesn't know gives way to the one that it offers.
 void WorkshopWindow::Fix() {
-  if (!fault_.Failed() || fault_.offer.empty()) return;
-  const std::string& told = fault_.message;
-  const QString word =
-      FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1))
-          .trimmed();
-  editor_->ReplaceWord(fault_, word.toStdString(), fault_.offer);
+  ScriptWord word;
+  if (FindOffered(editor_->Lines(), fault_, word))
+    editor_->ReplaceBytes(word.line, word.begin, word.end, fault_.offer);
 }
 
 // --- Running.
