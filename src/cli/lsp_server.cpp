@@ -10,6 +10,8 @@
 namespace tessaryn::cli {
 namespace {
 
+constexpr std::size_t kLinesToCheck = 4'000;  // between two changes of a text
+
 // --- Reading what may be anything. Null, or nothing, for what isn't there or of another kind.
 
 const Json kNothing = Json();
@@ -273,7 +275,9 @@ void LspServer::Close(const Json& params) {
 
 void LspServer::Look(const std::string& uri, Document& document) {
   document.words = ScriptWords(document.text.Lines(), surroundings_);
-  document.faults = ScriptFaults(surroundings_, 1, document.text.Lines());
+  // Each costs a check of the whole text, and whoever types doesn't wait.
+  const std::size_t most = std::clamp<std::size_t>(kLinesToCheck / (document.text.Lines().size() + 1), 1, 10);
+  document.faults = ScriptFaults(surroundings_, 1, document.text.Lines(), most);
   Json diagnostics = Json::array();
   for (const ScriptDiagnostic& fault : document.faults)
     diagnostics.push_back(DiagnosticJson(document.text, fault));

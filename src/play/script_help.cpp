@@ -587,25 +587,6 @@ bool PassOver(std::vector<std::string>& lines, const ScriptDiagnostic& fault) {
 
 }  // namespace
 
-std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
-                                           const std::vector<std::string>& lines, std::size_t most) {
-  std::vector<ScriptDiagnostic> faults;
-  std::vector<std::string> rest = lines;
-  while (faults.size() < most) {
-    const ScriptCheck check = CheckLines(surroundings, seat, rest);
-    if (!check.diagnostic.Failed()) break;
-    // What is found again can't be passed over.
-    const auto same = [&](const ScriptDiagnostic& known) {
-      return known.firstLine == check.diagnostic.firstLine &&
-             known.firstColumn == check.diagnostic.firstColumn;
-    };
-    if (std::any_of(faults.begin(), faults.end(), same)) break;
-    faults.push_back(check.diagnostic);
-    if (!PassOver(rest, check.diagnostic)) break;
-  }
-  return faults;
-}
-
 bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word) {
   // The message ends with the word that isn't known.
   const std::size_t end = fault.message.find_last_of('\r');
@@ -620,6 +601,33 @@ bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& 
     return true;
   }
   return false;
+}
+
+std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
+                                           const std::vector<std::string>& lines, std::size_t most) {
+  std::vector<ScriptDiagnostic> faults;
+  std::vector<std::string> rest = lines;
+  for (std::size_t looks = 0; faults.size() < most && looks < 2 * most; ++looks) {
+    const ScriptDiagnostic fault = CheckLines(surroundings, seat, rest).diagnostic;
+    if (!fault.Failed()) break;
+    // Where something was mended already it may be for that.
+    const bool mended = std::any_of(faults.begin(), faults.end(), [&](const ScriptDiagnostic& known) {
+      return known.firstLine <= fault.lastLine && known.lastLine >= fault.firstLine;
+    });
+    if (!mended) faults.push_back(fault);
+    ScriptWord word;
+    if (FindOffered(rest, fault, word)) {
+      std::string& line = rest[static_cast<std::size_t>(word.line) - 1];
+      line.replace(static_cast<std::size_t>(word.begin), static_cast<std::size_t>(word.end - word.begin),
+                   fault.offer);
+    } else if (!PassOver(rest, fault)) {
+      break;
+    }
+  }
+  std::stable_sort(faults.begin(), faults.end(), [](const ScriptDiagnostic& a, const ScriptDiagnostic& b) {
+    return a.firstLine < b.firstLine;
+  });
+  return faults;
 }
 
 int LevelBehind(const std::vector<ScriptWord>& words, int line) {
