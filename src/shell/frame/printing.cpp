@@ -10,7 +10,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProgressDialog>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -20,6 +19,7 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/exporting.h"
 #include "shell/frame/page_painter.h"
+#include "shell/frame/patience.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -35,35 +35,22 @@ constexpr int kPagesAtATime = 50;              // between two looks at what has 
 
 QString Words(const char* text) { return QCoreApplication::translate("Printing", text); }
 
-// Long work shows that it is at work, and can be given up; short work shows nothing.
-class Patience {
- public:
-  Patience(QWidget* over, PrintJob& job)
-      : job_(job),
-        dialog_(Words(QT_TRANSLATE_NOOP("Printing", "The pages are being made.")),
-                Words(QT_TRANSLATE_NOOP("Printing", "Cancel")), 0, 0, over) {
-    dialog_.setObjectName("frmPages");
-    dialog_.setWindowModality(Qt::WindowModal);
-    dialog_.setMinimumDuration(700);
-    job.goesOn = [this] {
-      QCoreApplication::processEvents();
-      return !GivenUp();
-    };
+// While pages are made.
+struct PagesPatience : Patience {
+  PagesPatience(QWidget* over, PrintJob& made)
+      : Patience(over, Words(QT_TRANSLATE_NOOP("Printing", "The pages are being made."))), job(made) {
+    job.goesOn = [this] { return GoesOn(); };
   }
-  ~Patience() { job_.goesOn = nullptr; }
-  Patience(const Patience&) = delete;
-  Patience& operator=(const Patience&) = delete;
-  bool GivenUp() const { return dialog_.wasCanceled(); }
-
- private:
-  PrintJob& job_;
-  QProgressDialog dialog_;
+  ~PagesPatience() { job.goesOn = nullptr; }
+  PagesPatience(const PagesPatience&) = delete;
+  PagesPatience& operator=(const PagesPatience&) = delete;
+  PrintJob& job;
 };
 
 enum class Outcome { kDone, kFailed, kGivenUp };
 
 Outcome Make(QWidget* over, PrintJob& job, QPrinter& printer) {
-  const Patience patience(over, job);
+  const PagesPatience patience(over, job);
   return PaintPages(job, printer) ? Outcome::kDone
          : patience.GivenUp()     ? Outcome::kGivenUp
                                   : Outcome::kFailed;
@@ -88,7 +75,7 @@ bool IsAgreed(Desk& desk, const ToolWindow& window, PrintJob& job, const QPrinte
   if (window.PrintFacts(1).isEmpty()) return true;
   int pages = 0;
   {
-    const Patience patience(desk.window, job);
+    const PagesPatience patience(desk.window, job);
     const PagePainter painter(job, printer);
     if (painter.GivenUp()) return false;
     pages = painter.Pages();

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,6 +22,7 @@
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 #include "stats/events_log.h"
+#include "stats/events_log_copy.h"
 
 namespace tessaryn {
 
@@ -44,6 +46,7 @@ constexpr int kTurboSlice = 1;   // in a Turbo-Roll, which is not to be slowed
 constexpr int kTurboPause = 40;  // and what it has for itself between
 constexpr std::int64_t kSearchBytes = 1 << 20;
 constexpr qint64 kCountedAtOnce = 32 << 20;  // bytes
+constexpr int kShowSaving = 100;             // milliseconds
 
 struct KindRow {
   const char* name;
@@ -88,6 +91,7 @@ EventsLogScreen::EventsLogScreen(Game& game, QWidget* parent)
   column->setMenuBar(bar);
   column->addWidget(MakeFilterRow());
   column->addWidget(MakeFindRow());
+  column->addWidget(MakeSaveRow());
   column->addWidget(view_, 1);
   setTabOrder(player_, find_);
   setTabOrder(stop_, view_);
@@ -114,9 +118,9 @@ void EventsLogScreen::AddFlag(QMenu& menu, const char* name, const QString& capt
 
 void EventsLogScreen::AddLogMenu(QMenuBar& bar) {
   QMenu& menu = *bar.addMenu(tr("Lo&g"));
-  Add(menu, "mnuNew", tr("&New"), &EventsLogScreen::NewLog);
-  Add(menu, "mnuOpen", tr("&Open ..."), &EventsLogScreen::OpenLog);
-  Add(menu, "mnuSaveAs", tr("Save &As ..."), &EventsLogScreen::SaveAs);
+  notWhileSaving_ = {Add(menu, "mnuNew", tr("&New"), &EventsLogScreen::NewLog),
+                     Add(menu, "mnuOpen", tr("&Open ..."), &EventsLogScreen::OpenLog),
+                     Add(menu, "mnuSaveAs", tr("Save &As ..."), &EventsLogScreen::SaveAs)};
   menu.addSeparator();
   Add(menu, "mnuLookAt", tr("&Look at another log ..."), &EventsLogScreen::LookAtAnother);
   back_ = Add(menu, "mnuBackToLog", tr("&Back to the table's log"), &EventsLogScreen::BackToLog);
@@ -266,6 +270,37 @@ QWidget* EventsLogScreen::MakeFindRow() {
     line->addWidget(part, part == find_ ? 1 : 0);
   findRow_->hide();
   return findRow_;
+}
+
+QWidget* EventsLogScreen::MakeSaveRow() {
+  saveRow_ = new QWidget(this);
+  auto* line = new QHBoxLayout(saveRow_);
+  line->setContentsMargins(8, 0, 8, 4);
+  line->setSpacing(8);
+  saved_ = new QProgressBar(saveRow_);
+  saved_->setObjectName("barSaving");
+  saved_->setAccessibleName(tr("Saving the log ..."));
+  auto* cancel = new QPushButton(tr("Cancel"), saveRow_);
+  cancel->setObjectName("cmdCancelSaving");
+  connect(cancel, &QPushButton::clicked, this, [this] { saving_.Cancel(); });
+  line->addWidget(new QLabel(tr("Saving the log ..."), saveRow_));
+  line->addWidget(saved_, 1);
+  line->addWidget(cancel);
+  saveRow_->hide();
+  connect(&showSaving_, &QTimer::timeout, this, &EventsLogScreen::ShowSaving);
+  connect(&saving_, &LongWork::Ended, this, [this] {
+    showSaving_.stop();
+    ShowSaving();
+    Refresh();
+  });
+  return saveRow_;
+}
+
+// A log that is soon copied needs no row for it.
+void EventsLogScreen::ShowSaving() {
+  saveRow_->setVisible(saving_.IsOn());
+  saved_->setValue(saving_.Percent());
+  for (QAction* action : notWhileSaving_) action->setEnabled(!saving_.IsOn());
 }
 
 // --- What is shown.
@@ -466,8 +501,7 @@ void EventsLogScreen::RecordNothing() {
 
 void EventsLogScreen::NewLog() {
   looking_.clear();
-  const NewEvents done = NewEventsLog(game_);
-  if (done == NewEvents::kRenameFirst && SaveAsChosen()) StartEventsLog(game_);
+  if (NewEventsLog(game_) == NewEvents::kRenameFirst) SaveAsChosen([this] { StartEventsLog(game_); });
   Refresh();
 }
 
@@ -482,19 +516,39 @@ void EventsLogScreen::OpenLog() {
   Refresh();
 }
 
-bool EventsLogScreen::SaveAsChosen() {
+// One that takes long is copied beside the window, which goes on.
+void EventsLogScreen::SaveAsChosen(std::function<void()> then) {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (path.empty()) return false;
-  std::string error;
-  const bool saved = SaveEventsLogAs(game_, path, error);
-  if (!saved)
+  if (path.empty()) return;
+  const auto ended = [this, then = std::move(then)](const std::string& error) {
+    if (error.empty()) return then();
     ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveLog)), With<"problem">(error));
-  return saved;
+  };
+  FlushEventsLog(game_);
+  const qint64 bytes = QFileInfo(FromCore(EventsLogPath(game_))).size();
+  if (bytes <= kCountedAtOnce || IsSameFile(path, EventsLogPath(game_))) {
+    std::string error;
+    SaveEventsLogAs(game_, path, error);
+    return ended(error);
+  }
+  const auto copy = std::make_shared<EventsLogCopy>();
+  copy->From = EventsLogPath(game_);
+  copy->To = path;
+  saving_.Begin(
+      tr("Saving the log ..."), bytes,
+      [copy](const LongWork::GoOn& goOn) { return CopyEventsLog(*copy, goOn); },
+      [this, copy, ended](const std::string& problem) {
+        const std::string error = problem.empty() ? UseEventsLogCopy(game_, *copy) : problem;
+        // Of a log that began anew meanwhile the copy is all that there is to it.
+        if (!error.empty() || EventsLogPath(game_) == copy->To) ended(error);
+      });
+  showSaving_.start(kShowSaving);
+  ShowSaving();
 }
 
 void EventsLogScreen::SaveAs() {
   looking_.clear();
-  SaveAsChosen();
+  SaveAsChosen([] {});
   Refresh();
 }
 

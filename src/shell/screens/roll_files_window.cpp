@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QButtonGroup>
+#include <QFile>
 #include <QGridLayout>
 #include <QIntValidator>
 #include <QKeyEvent>
@@ -32,6 +33,12 @@
 #include "state/show_message.h"
 
 namespace tessaryn {
+
+// How the list looks is kept with the places of the windows.
+namespace {
+int& HighlightKept(Game& game) { return game.screen.FurtherWindows[1]; }
+int& FontSizeKept(Game& game) { return game.screen.FurtherWindows[2]; }
+}  // namespace
 
 // When a command can act.
 enum class RollCommandNeeds { kNothing, kFile, kSelection, kUndo, kRedo };
@@ -84,7 +91,7 @@ const RollFilesWindow::Command RollFilesWindow::kCommands[] = {
 namespace {
 
 constexpr std::int32_t kRollsAtATime = 1 << 20;
-constexpr std::int32_t kMostRowsTaken = 200'000;  // more is for the text file, which is written as it is read
+constexpr std::int32_t kRowsAtATime = 4'096;
 constexpr int kLeastFont = 8;
 constexpr int kMostFont = 16;
 constexpr const char* kTitles[3] = {QT_TRANSLATE_NOOP("Files", "Dice Roll File"),
@@ -177,9 +184,11 @@ void RollFilesWindow::AddHighlights(QMenu& menu) {
     QAction* action = kinds->addAction(tr(kRollHighlightKinds[kind].caption));
     action->setObjectName(kRollHighlightKinds[kind].name);
     action->setCheckable(true);
-    action->setChecked(kind == 0);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, kind] { list_->SetHighlight(kind); });
+    connect(action, &QAction::triggered, this, [this, kind] {
+      HighlightKept(game_) = kind;
+      ShowKept();
+    });
   }
 }
 
@@ -191,9 +200,11 @@ void RollFilesWindow::AddFontSizes(QMenu& menu) {
     QAction* action = sizes->addAction(text);
     action->setObjectName(QString("mnuFontSize%1").arg(points));
     action->setCheckable(true);
-    action->setChecked(points == 0);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, points] { list_->SetFontSize(points); });
+    connect(action, &QAction::triggered, this, [this, points] {
+      FontSizeKept(game_) = points;
+      ShowKept();
+    });
   };
   add(tr("&As the screen"), 0);
   for (int points = kLeastFont; points <= kMostFont; points += 2) add(QString::number(points), points);
@@ -371,7 +382,19 @@ bool RollFilesWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // --- Showing.
 
+void RollFilesWindow::ShowKept() {
+  const int kind = std::clamp(HighlightKept(game_), 0, kRollHighlights - 1);
+  const int kept = FontSizeKept(game_);
+  const bool sized = kept >= kLeastFont && kept <= kMostFont && kept % 2 == 0;
+  const int points = sized ? kept : 0;
+  menus_->findChild<QAction*>(kRollHighlightKinds[kind].name)->setChecked(true);
+  menus_->findChild<QAction*>(QString("mnuFontSize%1").arg(points))->setChecked(true);
+  if (kind != list_->Highlight()) list_->SetHighlight(kind);
+  if (points != list_->FontSize()) list_->SetFontSize(points);
+}
+
 void RollFilesWindow::Refresh() {
+  ShowKept();
   const RollFile& file = game_.rollFile;
   const bool moved = file.RollFileCursor != shownCursor_ || file.RollFileSelectEnd != shownEnd_;
   const RollFileMark mark = MarkOf(file);
@@ -640,26 +663,40 @@ RollSelection RollsToPrint(const RollFile& file) {
   return selection.Count > 1 ? selection : RollSelection{1, RollFileLength(file)};
 }
 
-// How many rows there are, and of how many.
-QString RollsTaken(const RollFile& file) {
-  const std::int32_t count = RollsToPrint(file).Count;
-  if (count <= kMostRowsTaken) return NumberText(count);
-  return QObject::tr("%1 of %2").arg(NumberText(kMostRowsTaken), NumberText(count));
-}
+// Through a handle of its own: the game may go on with the file meanwhile.
+struct RollRows : RowSource {
+  RollRows(const RollFile& file, RollSelection of)
+      : format(file.RollFileOutputFormat), taken(of), bytes(FromCore(file.RollFileName)) {
+    const bool can = IsRollFileOpen(file) && IsRollFormatUsable(format);
+    if (!can || !bytes.open(QIODevice::ReadOnly)) taken.Count = -1;
+  }
+  qint64 Count() const override { return qint64{taken.Count} + 1; }
+  QStringList Row(qint64 n) const override {
+    if (n <= 0) return {FromCore(format)};
+    if (n < first || n >= first + read.size()) {
+      first = n;
+      bytes.seek(taken.First + n - 2);
+      read = bytes.read(std::min<qint64>(kRowsAtATime, taken.Count - n + 1));
+    }
+    if (read.isEmpty()) return {};  // it has become shorter
+    const auto roll = static_cast<unsigned char>(read[n - first]);
+    return {FromCore(RollText(format, taken.First + n - 1, roll))};
+  }
+
+  std::string format;
+  RollSelection taken;
+  mutable QFile bytes;
+  mutable qint64 first = 0;
+  mutable QByteArray read;
+};
+
+QString RollsTaken(const RollFile& file) { return NumberText(RollsToPrint(file).Count); }
 
 }  // namespace
 
-QList<QStringList> RollFilesWindow::Rows() const {
-  const std::string& format = game_.rollFile.RollFileOutputFormat;
-  if (!IsRollFormatUsable(format)) return {};
-  QList<QStringList> rows{{FromCore(format)}};
-  const RollSelection taken = RollsToPrint(game_.rollFile);
-  std::vector<unsigned char> rolls;
-  if (!ReadRolls(game_.rollFile, taken.First, std::min(taken.Count, kMostRowsTaken), rolls).empty())
-    return {};
-  std::int64_t number = taken.First;
-  for (const unsigned char roll : rolls) rows.append({FromCore(RollText(format, number++, roll))});
-  return rows;
+std::unique_ptr<RowSource> RollFilesWindow::TakeRows() const {
+  FlushRollFile(game_.rollFile);
+  return std::make_unique<RollRows>(game_.rollFile, RollsToPrint(game_.rollFile));
 }
 
 QString RollFilesWindow::PrintTitle() const { return tr("Print Dice Rolls"); }

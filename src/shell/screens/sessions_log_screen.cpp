@@ -128,10 +128,11 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   };
   connect(rows_, &RowView::Scrolled, this, [this] { game_.sessions.SessionsTopRow = rows_->TopRow(); });
   connect(histogram_, &SessionsHistogram::Pointed, this, &SessionsLogScreen::ShowPointed);
-  connect(&pass_, &SessionsPass::Ended, this, &SessionsLogScreen::PassEnded);
-  connect(&search_, &SessionsPass::Ended, this, &SessionsLogScreen::FindEnded);
+  connect(&pass_, &LongWork::Ended, this, &SessionsLogScreen::PassEnded);
+  connect(&search_, &LongWork::Ended, this, &SessionsLogScreen::FindEnded);
+  connect(&change_, &LongWork::Ended, this, &SessionsLogScreen::Recompute);
   connect(&look_, &QTimer::timeout, this, [this] {
-    if (!pass_.IsOn() && !search_.IsOn()) look_.stop();
+    if (!pass_.IsOn() && !search_.IsOn() && !change_.IsOn()) look_.stop();
     if (!pass_.IsOn()) Compute();
     ShowWait();
   });
@@ -432,7 +433,7 @@ void SessionsLogScreen::ListPlayers() {
     for (const auto& [name, seat] : players) player_->addItem(name, seat);
   }
   player_->setCurrentIndex(player_->findData(game_.sessions.SessionsSeat));
-  for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0);
+  for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0 && !change_.IsOn());
 }
 
 // Of a log that isn't there yet: none.
@@ -490,7 +491,7 @@ void SessionsLogScreen::Begin(std::int64_t sessions) {
   const std::int64_t passes = 3 + (limits ? 3 : 0) + (byDeviations ? 2 : 0);
   game_.sessions.Files.Calculating = true;
   pass_.Start(
-      [result = coming_, limits, sessions](const SessionsGoOn& goOn) {
+      [result = coming_, limits, sessions](const LongWork::GoOn& goOn) {
         SessionsLogFile file;
         if (result->path.empty() || !IsThere(result->path)) return;
         result->problem = OpenSessionsFile(file, result->path, SessionsAccess::kRead);
@@ -536,6 +537,7 @@ void SessionsLogScreen::TellProblem() {
 
 // The strip's button: stops what is on, or begins what was stopped.
 void SessionsLogScreen::StopPass() {
+  if (change_.IsOn()) return change_.Cancel();
   if (search_.IsOn()) return search_.Cancel();
   if (pass_.IsOn()) {
     stopped_ = true;
@@ -562,12 +564,15 @@ void SessionsLogScreen::Refresh() {
 // --- Showing.
 
 void SessionsLogScreen::ShowWait() {
+  const bool changing = change_.IsOn();
   const bool calculating = pass_.IsOn() && pass_.IsLong() && coming_->sessions >= kAnnounced;
   const bool searching = search_.IsOn() && search_.IsLong();
   const bool problem = !pass_.IsOn() && !result_->problem.empty();
   const bool stopped = stopped_ && !pass_.IsOn();
   QString text;
-  if (calculating)
+  if (changing)
+    text = change_.Text();
+  else if (calculating)
     text = FromCore(MessageText<Msg::kCalculating>()).replace('\n', ' ');
   else if (searching)
     text = tr("Searching ...");
@@ -577,11 +582,12 @@ void SessionsLogScreen::ShowWait() {
     text = result_->overflow ? tr("The statistics could not be calculated.") : FromCore(result_->problem);
   waitText_->setText(text);
   waitText_->setToolTip(text);
-  waitBar_->setVisible(calculating || searching);
-  const SessionsPass& shown = searching ? search_ : pass_;
+  const bool working = changing || calculating || searching;
+  waitBar_->setVisible(working);
+  const LongWork& shown = changing ? change_ : searching ? search_ : pass_;
   waitBar_->setValue(static_cast<int>(100 * shown.Share()));
-  cancel_->setVisible(calculating || searching || stopped);
-  cancel_->setText(stopped ? tr("&Calculate") : tr("&Cancel"));
+  cancel_->setVisible(working || stopped);
+  cancel_->setText(stopped && !working ? tr("&Calculate") : tr("&Cancel"));
   wait_->setVisible(!text.isEmpty());
 }
 
@@ -739,10 +745,59 @@ void SessionsLogScreen::Tell(const QString& title, const std::string& problem) {
     ShowMessage<Msg::kFileProblem>(game_, With<"title">(ToCore(title)), With<"problem">(problem));
 }
 
+// One whose change would keep the window from drawing is changed beside it.
+bool SessionsLogScreen::IsLarge(const std::string& path) const {
+  return QFileInfo(FromCore(path)).size() >= kAnnounced * qint64{kRecordBytes};
+}
+
+void SessionsLogScreen::Change(const QString& text, const SessionsChange& change,
+                               void (SessionsLogScreen::*tell)(const std::string&)) {
+  const std::string path = SessionsLogPath(game_, game_.sessions.SessionsSeat);
+  const qint64 bytes = QFileInfo(FromCore(path)).size() + QFileInfo(FromCore(change.Other)).size();
+  change_.Begin(
+      text, bytes / qint64{kRecordBytes},
+      [path, change](const LongWork::GoOn& goOn) { return RewriteSessionsLog(path, change, goOn); },
+      [this, tell](const std::string& problem) { (this->*tell)(problem); });
+  look_.start(kLookEvery);
+}
+
+void SessionsLogScreen::Copy(const std::string& path, bool keepName) {
+  const int seat = game_.sessions.SessionsSeat;
+  const std::string player = game_.table.seats[seat].SeatName;
+  const std::string old = keepName ? DefaultSessionsLogName(game_, player) : SessionsLogPath(game_, seat);
+  const auto copied = std::make_shared<std::int64_t>();
+  change_.Begin(
+      tr("Saving the log ..."), QFileInfo(FromCore(old)).size() / qint64{kRecordBytes},
+      [old, path, copied](const LongWork::GoOn& goOn) {
+        SessionsLogFile file;
+        const std::string problem = OpenSessionsFile(file, old, SessionsAccess::kRead);
+        return problem.empty() ? CopySessionsLog(file, path, copied.get(), goOn) : problem;
+      },
+      [this, seat, player, old, path, copied, keepName](std::string problem) {
+        // Who left the table meanwhile, or opened another log, has the copy and that is all.
+        const bool there =
+            game_.table.seats[seat].SeatName == player && (keepName || SessionsLogPath(game_, seat) == old);
+        if (problem.empty() && there) problem = UseSessionsLogCopy(game_, seat, path, *copied, keepName);
+        Tell(FileTitleOf(kSaveLog), problem);
+      });
+  look_.start(kLookEvery);
+}
+
+void SessionsLogScreen::TellNotDeleted(const std::string& problem) {
+  if (!problem.empty()) ShowMessage<Msg::kSessionsNotDeleted>(game_, With<"problem">(problem));
+}
+
+void SessionsLogScreen::TellFailed(const std::string& problem) {
+  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(problem));
+}
+
 // The user wants the old log kept under another name; nothing begins anew without it.
 void SessionsLogScreen::KeepOld() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (!path.empty()) Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
+  const int seat = game_.sessions.SessionsSeat;
+  if (path.empty()) return;
+  if (IsLarge(DefaultSessionsLogName(game_, game_.table.seats[seat].SeatName))) return Copy(path, true);
+  Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, seat, path));
 }
 
 void SessionsLogScreen::NewLog() {
@@ -770,6 +825,10 @@ void SessionsLogScreen::OpenPath(const std::string& path) {
 void SessionsLogScreen::SaveAs() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
   if (path.empty()) return;
+  if (IsLarge(SessionsLogPath(game_, game_.sessions.SessionsSeat))) {
+    Copy(path, false);
+    return Refresh();
+  }
   Tell(FileTitleOf(kSaveLog), SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
   Recompute();
 }
@@ -777,13 +836,26 @@ void SessionsLogScreen::SaveAs() {
 void SessionsLogScreen::Merge() {
   const std::string path = ChooseFile(game_, this, kOpenLog);
   if (path.empty()) return;
-  const std::string problem = MergeSessionsLog(game_, game_.sessions.SessionsSeat, path);
-  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(problem));
+  if (IsLarge(path)) {
+    SessionsLogFile there;  // its log may not be there yet
+    const std::string own = SessionsLogPath(game_, game_.sessions.SessionsSeat);
+    const std::string problem = OpenSessionsFile(there, own, SessionsAccess::kCreate);
+    if (!problem.empty()) return TellFailed(problem);
+    Change(tr("Merging the logs ..."), {0, 0, path}, &SessionsLogScreen::TellFailed);
+    return Refresh();
+  }
+  TellFailed(MergeSessionsLog(game_, game_.sessions.SessionsSeat, path));
   Recompute();
 }
 
 void SessionsLogScreen::DeleteSome() {
-  if (DeleteSessions(game_, game_.sessions.SessionsSeat)) Recompute();
+  const int seat = game_.sessions.SessionsSeat;
+  if (!IsLarge(SessionsLogPath(game_, seat))) return DeleteSessions(game_, seat) ? Recompute() : void();
+  SessionsChange change;
+  if (!AskDeleteSessions(game_, change.First, change.Last)) return;
+  if (change.First < 1) return TellNotDeleted(MessageText<Msg::kSessionsOutOfRange>());
+  Change(tr("Deleting sessions ..."), change, &SessionsLogScreen::TellNotDeleted);
+  Refresh();
 }
 
 void SessionsLogScreen::DeleteAll() {
@@ -814,7 +886,7 @@ void SessionsLogScreen::FindFrom(std::int64_t from, int step) {
   const std::int64_t ahead = step > 0 ? result_->sessions - from : from;
   search_.Start(
       [hit = hit_, path = SessionsLogPath(game_, seat), measure = QueryOf(game_.sessions).Measure,
-       value = game_.sessions.FindValue, from, step](const SessionsGoOn& goOn) {
+       value = game_.sessions.FindValue, from, step](const LongWork::GoOn& goOn) {
         SessionsLogFile file;
         if (!IsThere(path)) return;
         hit->problem = OpenSessionsFile(file, path, SessionsAccess::kRead);

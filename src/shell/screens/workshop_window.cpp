@@ -22,27 +22,36 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <exception>
+#include <new>
+#include <utility>
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/script_files.h"
 #include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
+#include "base/record_file.h"
 #include "play/auto_roll.h"
+#include "play/script_help.h"
 #include "play/script_session.h"
 #include "play/script_trial.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/find_replace_screen.h"
 #include "shell/screens/permissions_screen.h"
+#include "shell/screens/recent_scripts.h"
 #include "shell/screens/workshop_editor.h"
 #include "shell/screens/workshop_steps.h"
 #include "shell/screens/workshop_trial.h"
 #include "shell/screens/workshop_watch.h"
 #include "shell/table/screen_tools.h"
+#include "state/run_stop.h"
 #include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
 
+constexpr int kOutOfMemory = 7;  // as fault reports number them
+constexpr int kInternalError = 51;
 constexpr int kPause = 250;  // milliseconds without a key before the text is compiled
 
 const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
@@ -75,6 +84,8 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
     {"mnuNew", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
     {"mnuOpen", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Open ..."), "Ctrl+O",
      &WorkshopWindow::OpenFile},
+    {"mnuRecent", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Recent"), nullptr, nullptr,
+     &WorkshopWindow::FillRecent},
     {"mnuSamples", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Sa&mples"), nullptr, nullptr,
      &WorkshopWindow::FillSamples},
     {"mnuSave", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
@@ -118,6 +129,8 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
      &WorkshopWindow::WantSteps, nullptr, true},
     {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Line numbers"), nullptr,
      &WorkshopWindow::Numbers, nullptr, true},
+    {"mnuShowCounts", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Counts of the lines"), nullptr,
+     &WorkshopWindow::WantCounts, nullptr, true},
     {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Lists of &words"), nullptr,
      &WorkshopWindow::Lists, nullptr, true},
     {"mnuAutoIndent", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Auto-indent"), nullptr,
@@ -188,6 +201,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     lines = editor_->Lines();
     return seat_ != 0;
   };
+  checkScript = CheckScript;
+  connect(trial_, &WorkshopTrial::ended, this, [this] {
+    if (wantsCounts_) editor_->ShowCounts(trial_->Result().lines);
+  });
   editor_->tipOf = [this](const QString& word) {
     const WordEntry* known = FindWordEntry(word.toStdString());
     QString tip;
@@ -209,6 +226,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
 
 WorkshopWindow::~WorkshopWindow() {
   checks_.waitForDone();
+  if (wantsCounts_) WatchScripts(game_, nullptr);
   if (!wantsSteps_) return;
   game_.autobet.StepMode = false;
 }
@@ -487,6 +505,7 @@ void WorkshopWindow::Store() {
   stored_ = lines;
   SetScript(game_, seat_, std::move(lines), game_.autobet.Scripts[seat_].ScriptFileName);
   game_.autobet.Scripts[seat_].Unsaved = true;
+  counted_.lines[seat_].clear();  // of other lines
 }
 
 bool WorkshopWindow::IsFree() const {
@@ -516,6 +535,7 @@ void WorkshopWindow::Refresh() {
   steps_->Refresh();
   if (!autobet.ScriptRunning) editor_->MarkStep(0);
   watch_->Refresh();
+  ShowCounts();
   ShowStatus();
 }
 
@@ -583,6 +603,8 @@ void WorkshopWindow::TakeFile(const std::string& path) {
   std::string error;
   if (!OpenScript(game_, seat_, path, error))
     ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
+  else
+    NoteRecentScript(game_, path);
   Load();
 }
 
@@ -616,17 +638,29 @@ bool WorkshopWindow::SaveAs() {
     ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
     return false;
   }
+  NoteRecentScript(game_, path);
   editor_->setModified(false);
   ShowStatus();
   return true;
 }
 
+void WorkshopWindow::FillRecent(QMenu& menu) {
+  for (const std::string& path : RecentScripts(game_)) {
+    QAction* action = menu.addAction(FromCore(FileTitle(path)).replace('&', "&&"));
+    action->setToolTip(FromCore(path));
+    connect(action, &QAction::triggered, this, [this, path] {
+      if (MayLeaveScript()) OpenPath(path);
+    });
+  }
+  if (menu.isEmpty()) menu.addAction(tr("None yet"))->setEnabled(false);
+  menu.setToolTipsVisible(true);
+}
+
 void WorkshopWindow::FillSamples(QMenu& menu) {
   const QDir folder(FromCore(game_.applicationFolder) + "samples");
   for (const QString& name : folder.entryList({"*.bet"}, QDir::Files, QDir::Name))
-    connect(menu.addAction(name), &QAction::triggered, this, [this, path = folder.filePath(name)] {
-      OpenPath(ToCore(path));
-    });
+    connect(menu.addAction(name), &QAction::triggered, this,
+            [this, path = folder.filePath(name)] { OpenPath(ToCore(path)); });
 }
 
 void WorkshopWindow::CopyToFile() {
@@ -687,7 +721,19 @@ void WorkshopWindow::PrintScript() {
   QsciPrinter printer;
   printer.setDocName(windowTitle());
   QPrintDialog dialog(&printer, this);
-  if (RunDialog(dialog) == QDialog::Accepted) printer.printRange(editor_);
+  dialog.setObjectName("frmPrintScript");
+  if (RunDialog(dialog) == QDialog::Accepted && !PrintOn(printer))
+    ShowMessage<Msg::kPrintFailed>(game_, With<"problem">(printer.printerName().toStdString()));
+}
+
+// On paper it is light, whatever the desktop is.
+bool WorkshopWindow::PrintOn(QsciPrinter& printer) {
+  printer.setColorMode(game_.settings.ColorPrint ? QPrinter::Color : QPrinter::GrayScale);
+  printer.setWrapMode(QsciScintilla::WrapWord);
+  editor_->SendScintilla(QsciScintilla::SCI_SETPRINTCOLOURMODE,
+                         static_cast<unsigned long>(editor_->IsDark() ? QsciScintilla::SC_PRINT_INVERTLIGHT
+                                                                      : QsciScintilla::SC_PRINT_NORMAL));
+  return printer.printRange(editor_) != 0;
 }
 
 // --- Checks.
@@ -740,7 +786,13 @@ void WorkshopWindow::GoToProblem() {
 void WorkshopWindow::Check() {
   Store();
   if (seat_ == 0) return;
-  const ScriptCheck check = CheckScript(game_, seat_);
+  ScriptCheck check;
+  try {
+    check = checkScript(game_, seat_);
+  } catch (const std::exception& fault) {
+    const bool memory = dynamic_cast<const std::bad_alloc*>(&fault) != nullptr;
+    return ReportError(game_, fault.what(), memory ? kOutOfMemory : kInternalError, "cmdCheckScript");
+  }
   TakeCheck(check);
   if (check.ok && Find("mnuAutoIndent")->isChecked()) {
     const auto& nesting = game_.autobet.Scripts[seat_].ScriptNesting;
@@ -760,20 +812,9 @@ void WorkshopWindow::Check() {
 
 // The word that the compiler doesn't know gives way to the one that it offers.
 void WorkshopWindow::Fix() {
-  if (!fault_.Failed() || fault_.offer.empty()) return;
-  const std::string& told = fault_.message;
-  const QString word =
-      FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1))
-          .trimmed();
-  if (word.isEmpty()) return;
-  for (int line = fault_.firstLine - 1; line < fault_.lastLine; ++line) {
-    const int from = line == fault_.firstLine - 1 ? fault_.firstColumn : 0;
-    const qsizetype at = editor_->text(line).indexOf(word, from, Qt::CaseInsensitive);
-    if (at < 0) continue;
-    editor_->setSelection(line, static_cast<int>(at), line, static_cast<int>(at + word.size()));
-    editor_->replaceSelectedText(FromCore(fault_.offer));
-    return;
-  }
+  ScriptWord word;
+  if (FindOffered(editor_->Lines(), fault_, word))
+    editor_->ReplaceBytes(word.line, word.begin, word.end, fault_.offer);
 }
 
 // --- Running.
@@ -842,6 +883,26 @@ void WorkshopWindow::WantSteps() {
   StepsChanged();
 }
 
+// What runs is counted as long as it is wanted, and only then.
+void WorkshopWindow::WantCounts() {
+  QAction* wanted = Find("mnuShowCounts");
+  if (!IsFree()) return wanted->setChecked(wantsCounts_);
+  wantsCounts_ = trial_->counted = wanted->isChecked();
+  counted_ = {};
+  counted_.profile = true;
+  WatchScripts(game_, wantsCounts_ ? &counted_ : nullptr);
+  editor_->ShowCounts({});
+}
+
+// Behind a run, not in it.
+void WorkshopWindow::ShowCounts() {
+  if (!wantsCounts_ || seat_ == 0 || !IsFree()) return;
+  WatchScripts(game_, &counted_);  // another game may have been opened
+  std::int64_t count = 0;
+  for (const LineProfile& line : counted_.lines[seat_]) count += line.count;
+  if (std::exchange(shownCount_, count) != count) editor_->ShowCounts(counted_.lines[seat_]);
+}
+
 // Statements are told of only while somebody waits for one.
 void WorkshopWindow::StepsChanged() {
   AutoBet& autobet = game_.autobet;
@@ -865,7 +926,9 @@ void WorkshopWindow::ShowStep(const ScriptStep& step) {
     runTo_ = 0;
     autobet.StepMode = true;
   }
-  steps_->ShowStep(step, source);
+  const bool seen = autobet.StepMode || wantsSteps_;
+  const std::string values = seen && step.seat != 0 ? ConditionValues(game_, step.seat, source) : "";
+  steps_->ShowStep(step, source, values);
   tabs_->setTabText(1, steps_->Title());
   if (!autobet.StepMode && !wantsSteps_) return;
   if (step.seat != seat_ && step.seat != 0 && stored_ == editor_->Lines()) ShowSeat(step.seat);
