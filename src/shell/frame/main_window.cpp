@@ -28,6 +28,7 @@
 #include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
+#include "shell/frame/help_desk.h"
 #include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
 #include "shell/frame/screen_manners.h"
@@ -84,6 +85,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   RefreshCommands();
   StartAutosaves();
   new PointerSnap(game_, this);
+  new HelpKey(desk_);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
     if (!KeepForSessionEnd(mayAsk)) manager.cancel();

@@ -90,7 +90,7 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
     {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space",
      &WorkshopWindow::OfferWords},
     {"mnuFix", QT_TRANSLATE_NOOP("WorkshopWindow", "P&ut in the proposal"), "Ctrl+.", &WorkshopWindow::Fix},
-    {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "F1", &WorkshopWindow::ShowTip},
+    {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "Ctrl+F1", &WorkshopWindow::ShowTip},
     {"menRun", QT_TRANSLATE_NOOP("WorkshopWindow", "&Run"), nullptr, nullptr},
     {"mnuCheckScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Check script"), "F7", &WorkshopWindow::Check},
     {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("WorkshopWindow", "&Activate all scripts"), nullptr,
