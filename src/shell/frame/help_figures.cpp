@@ -22,8 +22,6 @@ namespace tessaryn {
 
 namespace {
 
-QString Words(const char* text) { return QCoreApplication::translate("HelpFigures", text); }
-
 // A sign that Markdown would take for its own stands for itself.
 QString Plain(QString text) {
   return text.replace('\\', "\\\\").replace('|', "\\|").replace('<', "\\<").replace('*', "\\*").replace('\n', ' ');
@@ -49,10 +47,10 @@ std::vector<int> BetsNamed(const QString& name) {
 
 QString PaysText(const Game& game, int bet) {
   const QString pays = Plain(PayoffSummary(game, bet));
-  if (pays.isEmpty()) return Words("as odds on the point");
+  if (pays.isEmpty()) return QCoreApplication::translate("HelpFigures", "as odds on the point");
   if (!HasVig(bet)) return pays;
   const double rate = IsLay(bet) ? game.settings.LayVigRate.ToDouble() : game.settings.BuyVigRate.ToDouble();
-  return Words("%1, less %2% vig").arg(pays, QLocale().toString(rate * 100, 'g', 4));
+  return QCoreApplication::translate("HelpFigures", "%1, less %2% vig").arg(pays, QLocale().toString(rate * 100, 'g', 4));
 }
 
 QString PercentText(double share) {
@@ -75,8 +73,8 @@ QString Figures(const Game& game, const QString& what) {
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
       return a.figures.evPerDecision > b.figures.evPerDecision;
     });
-  QString table = TableHead({Words("Bet"), Words("Pays"), Words("House edge"), Words("Edge a roll"),
-                             Words("Rolls to a decision")},
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "Bet"), QCoreApplication::translate("HelpFigures", "Pays"), QCoreApplication::translate("HelpFigures", "House edge"), QCoreApplication::translate("HelpFigures", "Edge a roll"),
+                             QCoreApplication::translate("HelpFigures", "Rolls to a decision")},
                             {"---", "---", "--:", "--:", "--:"});
   for (const Line& line : lines) {
     const Advantage& figures = line.figures;
@@ -97,20 +95,20 @@ QString Payoffs(const Game& game, const QString& what) {
   if (id == 0) return {};
   const PayoffTableInfo& facts = PayoffTableFacts(id);
   const auto rows = PayoffRowsOf(game, bets.front());
-  QString table = TableHead({Words("What comes"), Words("Pays")}, {"---", "---"});
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "What comes"), QCoreApplication::translate("HelpFigures", "Pays")}, {"---", "---"});
   for (std::size_t n = 0; n < rows.size(); ++n) {
     const PayoffRecord& record = rows[n];
     const QString pays = record.PayTo > kZero                  ? FromCore(PayoffText(record))
-                         : record.PayTo == kZero               ? Words("nothing, and stays")
-                         : record.PayTo == -record.PayPer      ? Words("loses")
-                                                               : Words("loses in part");
+                         : record.PayTo == kZero               ? QCoreApplication::translate("HelpFigures", "nothing, and stays")
+                         : record.PayTo == -record.PayPer      ? QCoreApplication::translate("HelpFigures", "loses")
+                                                               : QCoreApplication::translate("HelpFigures", "loses in part");
     table += TableRow({Plain(PayoffRowCaption(id, facts.firstRow + static_cast<int>(n)).simplified()), pays});
   }
   return table;
 }
 
 QString Rules(const Game& game, const QString& what) {
-  QString table = TableHead({Words("Rule"), Words("Now"), Words("Setting")}, {"---", "---", "---"});
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "Rule"), QCoreApplication::translate("HelpFigures", "Now"), QCoreApplication::translate("HelpFigures", "Setting")}, {"---", "---", "---"});
   const std::vector<SettingName> all = AllSettings();
   for (const QString& part : what.split(',')) {
     const std::string name = part.trimmed().toStdString();
@@ -125,7 +123,7 @@ QString Rules(const Game& game, const QString& what) {
 }
 
 QString Houses() {
-  QString table = TableHead({Words("House"), Words("Rules"), Words("Command line")}, {"---", "---", "---"});
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "House"), QCoreApplication::translate("HelpFigures", "Rules"), QCoreApplication::translate("HelpFigures", "Command line")}, {"---", "---", "---"});
   for (const HousePreset& house : HousePresets())
     table += TableRow({Plain(QString::fromUtf8(house.name)), Plain(QString::fromUtf8(house.tells)),
                        QString("`--house %1`").arg(house.key)});
@@ -140,7 +138,7 @@ QString Unmarked(const char* caption) {
 QString Keys() {
   QString text;
   for (const CommandMenu& menu : CommandMenus()) {
-    text += "\n### " + Unmarked(menu.title) + "\n\n" + TableHead({Words("Command"), Words("Key")}, {"---", "---"});
+    text += "\n### " + Unmarked(menu.title) + "\n\n" + TableHead({QCoreApplication::translate("HelpFigures", "Command"), QCoreApplication::translate("HelpFigures", "Key")}, {"---", "---"});
     for (const CommandRow& command : menu.commands)
       if (command.name != nullptr)
         text += TableRow({Plain(Unmarked(command.caption)), command.key != nullptr ? command.key : ""});
