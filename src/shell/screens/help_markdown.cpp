@@ -205,13 +205,15 @@ bool Reader::Table(Block& block, QString& html) {
   };
   const auto row = [&](const QStringList& cells, const char* kind) {
     html += QLatin1String("<tr>");
-    for (qsizetype n = 0; n < head.size(); ++n)
+    for (qsizetype n = 0; n < head.size(); ++n) {
       html += QStringLiteral("<%1 align=\"%2\">%3</%1>")
                   .arg(kind, side(n), n < cells.size() ? Inline(cells[n].trimmed()) : QString());
+      Tell(QStringLiteral(" "));
+    }
     html += QLatin1String("</tr>\n");
     Tell("\n");
   };
-  html += QLatin1String("<table class=\"figures\" border=\"1\" cellspacing=\"0\" cellpadding=\"5\">\n");
+  html += QLatin1String("<table class=\"figures\" border=\"0\" cellspacing=\"0\" cellpadding=\"5\">\n");
   // A heading of nothing takes no room.
   if (!head.join(QString()).trimmed().isEmpty()) row(head, "th");
   for (block.at += 2; !block.Ends() && block.Line().contains('|'); ++block.at) row(CellsOf(block.Line()), "td");
@@ -316,9 +318,7 @@ QString Reader::Inline(const QString& text) {
     else
       html += QLatin1String("<i>") + Inline(sign.captured(9)) + QLatin1String("</i>");
   }
-  html += plain(text.mid(done));
-  Tell(QStringLiteral(" "));
-  return html;
+  return html + plain(text.mid(done));
 }
 
 }  // namespace
@@ -359,10 +359,11 @@ QString HelpStyle(const QPalette& palette) {
                         "a { color: %1; text-decoration: none; }"
                         "code { font-family: monospace; background-color: %2; }"
                         "pre { font-family: monospace; margin: 0px; }"
+                        "table.code td, table.note td { border: none; }"
                         "table.code { background-color: %2; margin-top: 4px; margin-bottom: 12px; }"
                         "table.note { background-color: %3; margin-top: 4px; margin-bottom: 12px; }"
-                        "table.figures { border-collapse: collapse; border-color: %4; margin-top: 4px;"
-                        " margin-bottom: 12px; }"
+                        "table.figures { border-collapse: collapse; margin-top: 4px; margin-bottom: 12px; }"
+                        "td { border-top: 1px solid %4; }"
                         "th { background-color: %2; font-weight: 600; }")
       .arg(dark ? "#7cc4ff" : "#0b5cad", between(0.06), dark ? "#24382d" : "#eaf4ec", between(0.22));
 }

@@ -15,7 +15,7 @@ namespace {
 
 constexpr qint64 kMostBytes = 4'000'000;  // of a page or a picture
 constexpr int kMostHits = 60;
-constexpr int kExcerpt = 140;
+constexpr int kExcerpt = 110;
 
 QByteArray ReadAll(const QString& path) {
   QFile file(path);
@@ -74,7 +74,7 @@ bool HelpShelf::Has(const QString& page) const { return !FileOf(page).isEmpty();
 QString HelpShelf::WithLiveBlocks(const QString& markdown) const {
   if (!live) return markdown;
   static const QRegularExpression kBlock(
-      QStringLiteral("<!-- ([a-z-]+)(?:: ([^\\n]*?))? -->\\n(.*?)(?=<!-- end -->)"),
+      QStringLiteral("<!-- (?!end )([a-z-]+)(?:: ([^\\n]*?))? -->\\n(.*?)(?=<!-- end -->)"),
       QRegularExpression::DotMatchesEverythingOption);
   QString text;
   qsizetype done = 0;

@@ -1,5 +1,6 @@
 #include "shell/screens/help_window.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QAction>
 #include <QDesktopServices>
 #include <QHBoxLayout>
@@ -7,13 +8,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStackedWidget>
-#include <QTextBlock>
+#include <QStyledItemDelegate>
 #include <QTextTable>
 #include <QTimer>
 #include <QToolBar>
@@ -59,6 +61,63 @@ constexpr ToolFacts kTools[] = {
     {"mnuLarger", QT_TRANSLATE_NOOP("tessaryn::HelpWindow", "Larger letters"), "Ctrl++"},
     {"mnuFindInPage", QT_TRANSLATE_NOOP("tessaryn::HelpWindow", "Find in this page"), "Ctrl+F"},
     {"mnuPrintPage", QT_TRANSLATE_NOOP("tessaryn::HelpWindow", "Print this page ..."), "Ctrl+P"},
+};
+
+// A printer, and a glass over a page: signs that not every font has.
+QIcon DrawnIcon(const QString& name, const QPalette& palette) {
+  QPixmap picture(32, 32);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(palette.color(QPalette::ButtonText), 2.5));
+  if (name == "mnuPrintPage") {
+    painter.drawRect(4, 12, 24, 10);
+    painter.drawRect(9, 4, 14, 8);
+    painter.fillRect(9, 18, 14, 10, palette.color(QPalette::Button));
+    painter.drawRect(9, 18, 14, 10);
+  } else {
+    painter.drawEllipse(5, 5, 16, 16);
+    painter.drawLine(19, 19, 28, 28);
+  }
+  return QIcon(picture);
+}
+
+// What was found: a heading, and below it the words round the first hit.
+class HitPainter : public QStyledItemDelegate {
+ public:
+  explicit HitPainter(QListWidget* list) : QStyledItemDelegate(list), list_(list) {}
+
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    return TextOf(option, index, {}).size().toSize() + QSize(0, 4);
+  }
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem bare = option;
+    initStyleOption(&bare, index);
+    bare.text.clear();
+    list_->style()->drawControl(QStyle::CE_ItemViewItem, &bare, painter, list_);
+    const bool chosen = (option.state & QStyle::State_Selected) != 0;
+    painter->save();
+    painter->translate(option.rect.topLeft());
+    QAbstractTextDocumentLayout::PaintContext context;
+    QTextDocument& text = TextOf(option, index,
+                                 option.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
+    text.documentLayout()->draw(painter, context);
+    painter->restore();
+  }
+
+ private:
+  QTextDocument& TextOf(const QStyleOptionViewItem& option, const QModelIndex& index, const QColor& color) const {
+    const QStringList parts = index.data().toString().split('\n');
+    text_.setDefaultFont(option.font);
+    text_.setDocumentMargin(6);
+    text_.setTextWidth(list_->viewport()->width());
+    text_.setHtml(QStringLiteral("<div style=\"color: %1\"><b>%2</b><br>%3</div>")
+                      .arg(color.name(), parts.value(0).toHtmlEscaped(), parts.value(1).toHtmlEscaped()));
+    return text_;
+  }
+
+  QListWidget* list_;
+  mutable QTextDocument text_;
 };
 
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
@@ -108,7 +167,7 @@ HelpWindow::HelpWindow(Game& game, const QString& folder,
   parts_->setStretchFactor(0, 0);
   parts_->setStretchFactor(1, 1);
   resize(860, 620);
-  parts_->setSizes({240, 620});
+  parts_->setSizes({250, 610});
   Retranslate();
 }
 
@@ -143,8 +202,8 @@ void HelpWindow::BuildTools() {
   tools_->addWidget(search_);
   AddTool("mnuSmaller", QStringLiteral("A\u2212"), &HelpWindow::Smaller);
   AddTool("mnuLarger", QStringLiteral("A+"), &HelpWindow::Larger);
-  AddTool("mnuFindInPage", QStringLiteral("\u2315"), &HelpWindow::OpenFind);
-  AddTool("mnuPrintPage", QStringLiteral("\u2399"), &HelpWindow::PrintPage);
+  AddTool("mnuFindInPage", QString(), &HelpWindow::OpenFind);
+  AddTool("mnuPrintPage", QString(), &HelpWindow::PrintPage);
 }
 
 void HelpWindow::BuildLeft() {
@@ -163,7 +222,8 @@ void HelpWindow::BuildLeft() {
   hits_ = new QListWidget(left_);
   hits_->setObjectName("lstHits");
   hits_->setFrameShape(QFrame::NoFrame);
-  hits_->setWordWrap(true);
+  hits_->setItemDelegate(new HitPainter(hits_));
+  hits_->setResizeMode(QListView::Adjust);
   hits_->setAlternatingRowColors(true);
   hits_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   connect(hits_, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
@@ -435,6 +495,8 @@ void HelpWindow::TakeLook() {
   font.setPointSizeF(std::max(6.0, font.pointSizeF() + TextSize(game_)));
   view_->document()->setDefaultFont(font);
   view_->document()->setDefaultStyleSheet(HelpStyle(palette()));
+  for (const char* drawn : {"mnuFindInPage", "mnuPrintPage"})
+    findChild<QAction*>(drawn)->setIcon(DrawnIcon(drawn, palette()));
 }
 
 void HelpWindow::Resize(int by) {
