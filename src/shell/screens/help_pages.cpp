@@ -23,9 +23,6 @@ QByteArray ReadAll(const QString& path) {
   return file.readAll();
 }
 
-// One that a browser would open, and not a page of ours.
-bool LeadsOut(const QString& link) { return QUrl(link).isValid() && !QUrl(link).scheme().isEmpty(); }
-
 const QRegularExpression& LanguageFolder() {
   static const QRegularExpression kFolder(QStringLiteral("^help/[a-z]{2}/"));
   return kFolder;
