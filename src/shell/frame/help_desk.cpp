@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QKeyEvent>
-#include <cstring>
 
 #include "shell/frame/desk.h"
 #include "shell/frame/help_figures.h"
@@ -17,6 +16,7 @@ namespace {
 
 constexpr const char* kTablePage = "help/table.md";
 constexpr const char* kLanguagePage = "auto-bet.md";
+constexpr const char* kConfiguration = "frmConfigure";
 
 constexpr HelpRow kRows[] = {
     {"frmCrapTable", kTablePage},
@@ -30,7 +30,7 @@ constexpr HelpRow kRows[] = {
     {"frmBetTrends", "help/reports.md", "bet-trends"},
     {"frmCheckStacks", "help/check-stacks.md"},
     {"frmColorPal", "help/bankroll-graph.md", "colours"},
-    {"frmConfigure", "help/configuration.md"},
+    {kConfiguration, "help/configuration.md"},
     {"frmDiceRollFiles", "help/dice-roll-files.md"},
     {"frmDocks", "help/windows.md"},
     {"frmEventsLog", "help/events-log.md"},
@@ -76,6 +76,12 @@ constexpr HelpRow kRows[] = {
     {"picMisc", "help/configuration.md", "misc"},
 };
 
+bool IsIn(const QWidget& widget, const char* screen) {
+  for (const QWidget* part = &widget; part != nullptr; part = part->parentWidget())
+    if (part->objectName() == QLatin1String(screen)) return true;
+  return false;
+}
+
 }  // namespace
 
 std::span<const HelpRow> HelpRows() { return kRows; }
@@ -91,6 +97,8 @@ HelpPlace HelpFor(const QWidget* widget) {
       if (!word.isEmpty()) return {kLanguagePage, {}, word};
     }
     const QByteArray name = part->objectName().toLatin1();
+    // Other screens have parts of these names.
+    if (name.startsWith("pic") && !IsIn(*part, kConfiguration)) continue;
     for (const HelpRow& row : kRows)
       if (name == row.screen) return {row.page, row.anchor, {}};
   }
@@ -134,11 +142,14 @@ void HelpHere(Desk& desk) {
 
 HelpKey::HelpKey(Desk& desk) : QObject(desk.window), desk_(desk) { qApp->installEventFilter(this); }
 
+// Ahead of the menu, whose shortcut would come after the table has taken the keyboard.
 bool HelpKey::eventFilter(QObject* object, QEvent* event) {
-  if (event->type() != QEvent::KeyPress || !object->isWidgetType()) return false;
+  const bool asked = event->type() == QEvent::ShortcutOverride;
+  if ((!asked && event->type() != QEvent::KeyPress) || !object->isWidgetType()) return false;
   const auto* key = static_cast<QKeyEvent*>(event);
   if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier) return false;
-  HelpHere(desk_);
+  event->accept();
+  if (!asked) OpenHelp(desk_, HelpFor(static_cast<QWidget*>(object)));
   return true;
 }
 

@@ -40,7 +40,8 @@ std::vector<int> BetsNamed(const QString& name) {
     const QString behind = word.mid(name.size());
     const bool numbered = word.startsWith(name) && !behind.isEmpty() &&
                           std::all_of(behind.begin(), behind.end(), [](QChar sign) { return sign.isDigit(); });
-    if (name == "all" || word == name || numbered) bets.push_back(bet);
+    if (word == name) return {bet};
+    if (name == "all" || numbered) bets.push_back(bet);
   }
   return bets;
 }
