@@ -73,7 +73,9 @@ TEST(HelpPictures, AreMade) {
     screen.close();
     Keep(scene.Show(kRollPadWindow, {300, 300}), "roll-pad");
     Keep(scene.Show(kPercentageDiceWindow), "percentage-dice");
-    Keep(scene.Show(kConfigurationWindow, {820, 520}), "configuration");
+    ToolWindow& configuration = scene.Show(kConfigurationWindow, {820, 520});
+    Find<QListWidget>(configuration, "lstTabs").setCurrentRow(1);
+    Keep(configuration, "configuration");
     SetScript(*scene.table.game, 3,
               {"' Ten on the Pass Line, double odds, and a Come bet.", "if comeout roll then",
                "   bet 10 on passline", "endif", "if point is established then",
@@ -87,13 +89,16 @@ TEST(HelpPictures, AreMade) {
   {
     Scene scene;
     Keep(scene.Show(kCheckStacksWindow, {420, 420}), "check-stacks");
-    scene.table.Turbo(3000);
+    scene.Show(kBankrollWindow, {820, 460});
+    scene.table.game->graph.ScaleMode = kScaleExpanding;
+    scene.table.game->graph.DisplayAverage = true;
+    auto* panel = scene.window.findChild<TurboPanel*>();
+    panel->Begin(*scene.table.game);
+    scene.table.Turbo(450);
     Keep(scene.Show(kBetResultsWindow), "bet-results");
     Keep(scene.Show(kBankrollWindow, {820, 460}), "bankroll-graph");
     Keep(scene.Show(kEventsLogWindow, {820, 420}), "events-log");
-    auto* panel = scene.window.findChild<TurboPanel*>();
     panel->setGeometry(scene.window.Table().rect());
-    panel->Begin(*scene.table.game);
     panel->Refresh(*scene.table.game);
     panel->show();
     Keep(*panel, "turbo-roll");
@@ -128,6 +133,7 @@ TEST(HelpPictures, AreMade) {
   }
   {
     Scene scene({1440, 860});
+    scene.table.game->graph.ScaleMode = kScaleExpanding;
     scene.table.Turbo(400);
     for (const int number : {kBankrollWindow, kRollTotalsWindow, kBetResultsWindow})
       DockTool(scene.desk, number, number == kBetResultsWindow ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea);
