@@ -28,7 +28,9 @@
 #include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
+#include "shell/frame/help_desk.h"
 #include "shell/frame/open_file.h"
+#include "shell/frame/open_game.h"
 #include "shell/frame/places.h"
 #include "shell/frame/screen_manners.h"
 #include "shell/frame/tool_rows.h"
@@ -88,6 +90,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   StartAutosaves();
   WatchLuck(game_);
   new PointerSnap(game_, this);
+  new HelpKey(desk_);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
     if (!KeepForSessionEnd(mayAsk)) manager.cancel();

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "shell/frame/desk.h"
+#include "shell/frame/help_desk.h"
 #include "shell/frame/lab_table.h"
 #include "shell/frame/printing.h"
 #include "shell/frame/sounds.h"
@@ -137,6 +138,7 @@ constexpr ToolRow kTools[] = {
     {kLuckWindow, MakeLuck},
     {kAutoBetWindow, MakeWorkshop},
     {kHotKeysWindow, MakeHotKeys},
+    {kHelpWindow, MakeHelpWindow},
 };
 
 }  // namespace

@@ -148,6 +148,10 @@ PayoffTables OriginalPayoffs(Currency unit) {
 
 }  // namespace
 
+QString PayoffRowCaption(int table, int row) {
+  return table == 0 ? FromCore(BetName(row)) : CaptionOf(table, row);
+}
+
 // --- The cells.
 
 class PayoffModel : public QAbstractTableModel {

@@ -112,4 +112,23 @@ void ScriptLexer::StyleLine(int line) {
                      static_cast<long>((level & kLevelMask) | flags | (next << 16)));
 }
 
+QVector<ColoredPart> ColoredScriptLine(const QString& line, bool dark) {
+  const std::string bytes = line.toStdString();
+  const auto text = [&bytes](std::size_t begin, std::size_t end) {
+    return QString::fromStdString(bytes.substr(begin, end - begin));
+  };
+  QVector<ColoredPart> parts;
+  std::size_t done = 0;
+  for (const ScriptSpan& span : SpansOf(bytes, {})) {
+    const StyleRow& style = kStyles[StyleOf(span.kind)];
+    // What stands for anything, as in a pattern, is no fault on a page.
+    const bool known = span.kind != SpanKind::kUnknown;
+    parts.append({text(done, span.begin), {}});
+    parts.append({text(span.begin, span.end), known ? QColor(dark ? style.dark : style.light) : QColor()});
+    done = span.end;
+  }
+  parts.append({text(done, bytes.size()), {}});
+  return parts;
+}
+
 }  // namespace tessaryn

@@ -105,7 +105,7 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
      &WorkshopWindow::OfferWords},
     {"mnuFix", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "P&ut in the proposal"), "Ctrl+.",
      &WorkshopWindow::Fix},
-    {"mnuTip", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Meaning of the word"), "F1",
+    {"mnuTip", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Meaning of the word"), "Ctrl+F1",
      &WorkshopWindow::ShowTip},
     {"menRun", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Run"), nullptr, nullptr},
     {"mnuCheckScript", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Check script"), "F7",
