@@ -145,8 +145,8 @@ QPalette PaletteOf(const Tones& tones) {
   set(QPalette::Base, tones.panel);
   set(QPalette::AlternateBase, dark ? tones.panel.lighter(112) : tones.window);
   set(QPalette::ToolTipBase, tones.panel);
-  for (const auto role :
-       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText, QPalette::ToolTipText})
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
+                          QPalette::ToolTipText})
     set(role, tones.text);
   set(QPalette::PlaceholderText, tones.second);
   set(QPalette::Highlight, tones.primary);

@@ -36,9 +36,9 @@ class Writer {
     const double width = metrics.horizontalAdvance(text);
     painter_.setFont(font);
     painter_.setPen(tone);
-    painter_.drawText(room_, Qt::AlignLeft | Qt::AlignVCenter,
-                      width <= room_.width() ? text
-                                             : metrics.elidedText(text, Qt::ElideRight, room_.width()));
+    painter_.drawText(
+        room_, Qt::AlignLeft | Qt::AlignVCenter,
+        width <= room_.width() ? text : metrics.elidedText(text, Qt::ElideRight, room_.width()));
     room_.setLeft(width <= room_.width() ? room_.left() + width : room_.right());
   }
   const QRectF& Room() const { return room_; }
@@ -62,7 +62,8 @@ QString NextClickLine(const TableCommands& commands) {
   constexpr const char* kPutDown =
       QT_TRANSLATE_NOOP("Board", "Next click: put the bet down. A right click ends this");
   const bool carries = commands.CarriedAmount > kZero || commands.Moving.Bet != 0;
-  const bool known = commands.PendingAction > 0 && commands.PendingAction < static_cast<int>(std::size(kLines));
+  const bool known =
+      commands.PendingAction > 0 && commands.PendingAction < static_cast<int>(std::size(kLines));
   const char* line = carries ? kPutDown : known ? kLines[commands.PendingAction] : "";
   return *line == 0 ? QString() : QCoreApplication::translate("Board", line);
 }
@@ -156,7 +157,8 @@ void Board::Place() {
   const double handWidth = std::max(Wide(Small(), hand), 90.0);
   // Room for the hand is found only where nobody's plate stands, and never taken from the result.
   const double left = x;
-  hand_ = !place8 && right - handWidth - left > 420 ? QRectF(right - handWidth, 0, handWidth, height) : QRectF();
+  hand_ =
+      !place8 && right - handWidth - left > 420 ? QRectF(right - handWidth, 0, handWidth, height) : QRectF();
   const double end = hand_.isEmpty() ? right : hand_.left() - gap;
   line_ = QRectF(left, height * 0.06, end - left, height * 0.46);
   rolls_ = QRectF(left, height * 0.54, end - left, height * 0.36);
@@ -223,9 +225,9 @@ void Board::ShowGuide() {
     }
   } else if (guiding_) {
     const int wide = width(skip_);
-    skip_->setGeometry(static_cast<int>(this->width() - 12 - wide -
-                                        (IsOccupied(game_.table, kSeats) ? plate_.width() : 0)),
-                       static_cast<int>((height() - rowHeight) / 2), wide, static_cast<int>(rowHeight));
+    skip_->setGeometry(
+        static_cast<int>(this->width() - 12 - wide - (IsOccupied(game_.table, kSeats) ? plate_.width() : 0)),
+        static_cast<int>((height() - rowHeight) / 2), wide, static_cast<int>(rowHeight));
   }
 }
 
@@ -249,8 +251,8 @@ void Board::paintEvent(QPaintEvent*) {
   }
   PaintResult(painter);
   if (step == GuideStep::kAskWins) {
-    Writer(painter, rolls_).Write(Sized(font(), measures_.compact ? 10 : 12.5), Qt::white,
-                                  tr("When a bet wins:"));
+    Writer(painter, rolls_)
+        .Write(Sized(font(), measures_.compact ? 10 : 12.5), Qt::white, tr("When a bet wins:"));
   } else {
     PaintHistory(painter);
     PaintNotes(painter);
@@ -267,8 +269,8 @@ void Board::PaintDice(QPainter& painter) const {
     painter.save();
     painter.translate(dice_.left() + side / 2 + n * (side + 5), dice_.center().y());
     painter.scale(side, side);
-    PaintDie(painter, n == 0 ? table.Die1 : table.Die2,
-             QColor::fromRgb(game_.screen.looks.Dice[n]), QColor::fromRgb(game_.screen.looks.Pips));
+    PaintDie(painter, n == 0 ? table.Die1 : table.Die2, QColor::fromRgb(game_.screen.looks.Dice[n]),
+             QColor::fromRgb(game_.screen.looks.Pips));
     painter.restore();
   }
   painter.setOpacity(1);
@@ -330,9 +332,7 @@ void Board::PaintResult(QPainter& painter) const {
     if (!first) writer.Write(plain, Qt::white, QStringLiteral(", "));
     first = false;
     writer.Write(plain, Qt::white, FromCore(seat.name) + QLatin1Char(' '));
-    const QColor tone = seat.change > kZero   ? kWonTone
-                        : seat.change < kZero ? kLostTone
-                                              : QColor(Qt::white);
+    const QColor tone = seat.change > kZero ? kWonTone : seat.change < kZero ? kLostTone : QColor(Qt::white);
     writer.Write(bold, tone, ChangeText(seat.change));
   }
 }

@@ -158,7 +158,8 @@ void Plate::Tell() {
   setAccessibleName(text_.name);
   const QString lines = Told(QT_TRANSLATE_NOOP("Plates", "Rail:")) + ' ' + text_.rail + '\n' +
                         Told(QT_TRANSLATE_NOOP("Plates", "Bankroll:")) + ' ' + text_.bankroll + '\n' +
-                        text_.betsCaption + ' ' + text_.bets + '\n' + text_.resultCaption + ' ' + text_.result;
+                        text_.betsCaption + ' ' + text_.bets + '\n' + text_.resultCaption + ' ' +
+                        text_.result;
   setAccessibleDescription(lines);
   setToolTip(text_.name + '\n' + lines);
 }
@@ -240,7 +241,8 @@ void Plate::paintEvent(QPaintEvent*) {
     const double x = left + std::min(nameRoom, boldMetrics.horizontalAdvance(name)) + 4;
     const QRectF badge(x, line.center().y() - textHeight_ * 0.62, scriptWidth, textHeight_ * 1.24);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(text_.script == ScriptSign::kActive ? QColor(0x2C, 0x5A, 0xA8) : QColor(0xB3, 0x26, 0x1E));
+    painter.setBrush(text_.script == ScriptSign::kActive ? QColor(0x2C, 0x5A, 0xA8)
+                                                         : QColor(0xB3, 0x26, 0x1E));
     painter.drawRoundedRect(badge, 2, 2);
     painter.setPen(Qt::white);
     painter.drawText(badge, Qt::AlignCenter, script);

@@ -20,21 +20,22 @@ struct MarkWords {
 };
 constexpr MarkWords kMarkWords[] = {
     {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), point stays %5."), nullptr},
-    {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), the point is %2."), QT_TRANSLATE_NOOP("Board", "point")},
-    {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), point made."), QT_TRANSLATE_NOOP("Board", "point made")},
+    {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), the point is %2."),
+     QT_TRANSLATE_NOOP("Board", "point")},
+    {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), point made."),
+     QT_TRANSLATE_NOOP("Board", "point made")},
     {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), seven-out."), QT_TRANSLATE_NOOP("Board", "seven-out")},
     {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), natural."), QT_TRANSLATE_NOOP("Board", "natural")},
     {QT_TRANSLATE_NOOP("Board", "Roll %1: %2 (%3-%4), craps."), QT_TRANSLATE_NOOP("Board", "craps")},
 };
 constexpr const char* kHard = QT_TRANSLATE_NOOP("Board", "hard");
 constexpr const char* kEasy = QT_TRANSLATE_NOOP("Board", "easy");
-constexpr const char* kTotals[] = {
-    QT_TRANSLATE_NOOP("Board", "TWO"),  QT_TRANSLATE_NOOP("Board", "THREE"),
-    QT_TRANSLATE_NOOP("Board", "FOUR"), QT_TRANSLATE_NOOP("Board", "FIVE"),
-    QT_TRANSLATE_NOOP("Board", "SIX"),  QT_TRANSLATE_NOOP("Board", "SEVEN"),
-    QT_TRANSLATE_NOOP("Board", "EIGHT"), QT_TRANSLATE_NOOP("Board", "NINE"),
-    QT_TRANSLATE_NOOP("Board", "TEN"),  QT_TRANSLATE_NOOP("Board", "ELEVEN"),
-    QT_TRANSLATE_NOOP("Board", "TWELVE")};
+constexpr const char* kTotals[] = {QT_TRANSLATE_NOOP("Board", "TWO"),   QT_TRANSLATE_NOOP("Board", "THREE"),
+                                   QT_TRANSLATE_NOOP("Board", "FOUR"),  QT_TRANSLATE_NOOP("Board", "FIVE"),
+                                   QT_TRANSLATE_NOOP("Board", "SIX"),   QT_TRANSLATE_NOOP("Board", "SEVEN"),
+                                   QT_TRANSLATE_NOOP("Board", "EIGHT"), QT_TRANSLATE_NOOP("Board", "NINE"),
+                                   QT_TRANSLATE_NOOP("Board", "TEN"),   QT_TRANSLATE_NOOP("Board", "ELEVEN"),
+                                   QT_TRANSLATE_NOOP("Board", "TWELVE")};
 
 const MarkWords& WordsOf(RollMark mark) { return kMarkWords[static_cast<int>(mark)]; }
 
@@ -74,8 +75,8 @@ RollStory StoryOf(const Game& game, bool settled) {
   story.mark = MarkOf(table.PointBeforeRoll, table.RollTotal);
   for (int seat = 1; seat <= kSeats && settled; ++seat)
     if (IsOccupied(table, seat) && PlayerRolls(game.stats, kCurrentSession, seat) > 0)
-      story.changes.push_back({table.seats[seat].SeatName,
-                               table.BankrollAfterRoll[seat] - table.BankrollBeforeRoll[seat]});
+      story.changes.push_back(
+          {table.seats[seat].SeatName, table.BankrollAfterRoll[seat] - table.BankrollBeforeRoll[seat]});
   return story;
 }
 

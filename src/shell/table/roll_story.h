@@ -29,8 +29,8 @@ struct RolledOnce {
 class RollHistory {
  public:
   static constexpr int kMost = 20;
-  // The roll that the table shows, unless it has been noted. Rolls that nobody noted leave no gap: the history
-  // begins anew.
+  // The roll that the table shows, unless it has been noted. Rolls that nobody noted leave no gap: the
+  // history begins anew.
   void Note(const Game& game);
   void Forget();
   int Size() const { return size_; }
