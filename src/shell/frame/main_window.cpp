@@ -82,7 +82,8 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   BuildBody();
   BuildMenu();
   betButtons_->Add(Command("mnuUndoBet"), "cmdUndo", QT_TRANSLATE_NOOP("BetButtons", "Undo bet"), "\u232B");
-  betButtons_->Add(Command("mnuRepeatBets"), "cmdRepeat", QT_TRANSLATE_NOOP("BetButtons", "Repeat bets"), "R");
+  betButtons_->Add(Command("mnuRepeatBets"), "cmdRepeat", QT_TRANSLATE_NOOP("BetButtons", "Repeat bets"),
+                   "R");
   betButtons_->Add(Command("mnuFullOdds"), "cmdFullOdds", QT_TRANSLATE_NOOP("BetButtons", "Full odds"), "O");
   ConnectTable();
   ConnectHost();

@@ -113,7 +113,7 @@ class MainWindow : public QMainWindow {
   Measures measures_;
   Preferences preferences_;
   std::int64_t settledThrows_ = 0;  // of the table when no roll was being settled
-  std::int64_t badgesOf_ = 0;    // throws of the table when badges were last shown
+  std::int64_t badgesOf_ = 0;       // throws of the table when badges were last shown
   AmountSelector* amounts_ = nullptr;
   RunControls* controls_ = nullptr;
   TurboPanel* turbo_ = nullptr;

@@ -23,8 +23,8 @@ constexpr int kWaitStep = 10;
 }  // namespace
 
 bool IsNote(Msg id) {
-  constexpr Msg kNotes[] = {Msg::kMinimumBet,    Msg::kMaximumBet,    Msg::kMaximumBetButContract,
-                            Msg::kVigCharged,    Msg::kVigOnWin,      Msg::kBankrollTooSmall,
+  constexpr Msg kNotes[] = {Msg::kMinimumBet,     Msg::kMaximumBet,     Msg::kMaximumBetButContract,
+                            Msg::kVigCharged,     Msg::kVigOnWin,       Msg::kBankrollTooSmall,
                             Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRemains};
   return std::find(std::begin(kNotes), std::end(kNotes), id) != std::end(kNotes);
 }

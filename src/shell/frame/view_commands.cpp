@@ -31,7 +31,8 @@ void ShowAmounts(Desk& desk) {
 }
 
 void LookAt(TableView& view, QRectF tableArea) {
-  const QRectF room = QRectF(QPointF(), QSizeF(view.Window)).adjusted(0, view.MarginTop, 0, -view.MarginBottom);
+  const QRectF room =
+      QRectF(QPointF(), QSizeF(view.Window)).adjusted(0, view.MarginTop, 0, -view.MarginBottom);
   const QRectF shown = view.Transform().mapRect(tableArea);
   const double share = std::min(room.width() / shown.width(), room.height() / shown.height());
   ZoomTo(view, static_cast<int>(view.TableZoom * share), shown.center());

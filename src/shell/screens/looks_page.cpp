@@ -212,9 +212,8 @@ void LooksPage::AddWindow(QFormLayout& form) {
     auto* box = new QCheckBox(caption, form.parentWidget());
     box->setObjectName(name);
     form.addRow(box);
-    connect(box, &QCheckBox::clicked, this, [change, place](bool on) {
-      change([place, on](Preferences& wanted) { wanted.*place = on; });
-    });
+    connect(box, &QCheckBox::clicked, this,
+            [change, place](bool on) { change([place, on](Preferences& wanted) { wanted.*place = on; }); });
     shows_.push_back([this, box, place] { box->setChecked(ReadPreferences(game_.dataFolder).*place); });
   };
   add("chkNoMotion", tr("No motion"), &Preferences::noMotion);

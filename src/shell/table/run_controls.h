@@ -41,7 +41,6 @@ class RunControls : public QWidget {
  private:
   void TakeTones();
 
-
   QPushButton* roll_;
   QPushButton* pass_;
   QPushButton* run_;

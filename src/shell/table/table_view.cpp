@@ -129,8 +129,8 @@ void FitUpright(TableView& view) {
   scale = std::min(scale, (height - view.MarginBottom) / (kFeltBottom - kTableFrame.top()));
   TakeZoom(view, scale * kTableUnits);
   const QRectF reach = FrameExtremes(view);
-  const double below = std::max<double>(
-      kBelowTable, view.MarginBottom - (kTableFrame.bottom() - kFeltBottom) * view.Scale());
+  const double below =
+      std::max<double>(kBelowTable, view.MarginBottom - (kTableFrame.bottom() - kFeltBottom) * view.Scale());
   const double spare = std::max(0.0, height - reach.height() - below);
   PutMiddle(view, reach, QPointF(width / 2, spare / 2 + reach.height() / 2));
 }
