@@ -139,6 +139,7 @@ void MainWindow::BuildBody() {
   stage_->installEventFilter(this);
   pointer_ = new QLabel(this);
   pointer_->setObjectName("lblPointer");
+  pointer_->setContentsMargins(8, 0, 0, 0);
   // A long line must not widen the window.
   pointer_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   status_ = new QLabel(this);

@@ -35,9 +35,9 @@ class EdgedStyle : public QProxyStyle {
       if ((option->state & State_KeyboardFocusChange) != 0) Ring(*painter, option->rect, 2);
       return;
     }
+    if (element == PE_PanelButtonCommand) return Button(*painter, *option);
     QProxyStyle::drawPrimitive(element, option, painter, widget);
     switch (element) {
-      case PE_PanelButtonCommand:
       case PE_FrameLineEdit:
       case PE_FrameGroupBox:
       case PE_IndicatorCheckBox:
@@ -77,6 +77,23 @@ class EdgedStyle : public QProxyStyle {
   }
 
  private:
+  // Flat, in the colour of its palette; lit under the pointer.
+  static void Button(QPainter& painter, const QStyleOption& option) {
+    const bool dark = IsDark(option.palette);
+    QColor fill = option.palette.color(QPalette::Button);
+    if ((option.state & (State_Sunken | State_On)) != 0)
+      fill = fill.darker(dark ? 130 : 112);
+    else if ((option.state & State_Enabled) != 0 && (option.state & State_MouseOver) != 0)
+      fill = dark ? fill.lighter(118) : fill.darker(104);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
+    painter.restore();
+    Edge(painter, option, option.rect, kCorner);
+  }
+
   static void Ring(QPainter& painter, const QRectF& rect, double corner) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

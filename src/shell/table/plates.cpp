@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kEdgeGap = 4;   // to the stage's edge
 constexpr int kPlateGap = 4;  // between two
-constexpr double kPadding = 8;
+constexpr double kPadding = 7;
 constexpr double kTip = kPlateTip;
 // Told places of the seats on the lower rail.
 constexpr int kLowerSeats[] = {3, 4, 5, 6};
@@ -201,7 +201,9 @@ void Plate::paintEvent(QPaintEvent*) {
   painter.setPen(outcome);
   painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, result);
   const double side = textHeight_ * 0.5;
-  if (text_.sign != 0 && resultWidth + side + 4 < line.width()) {
+  // A name that would be cut gets the room of the sign: the word says the same.
+  const double head = boldMetrics.horizontalAdvance(text_.name) + (text_.shooter ? textHeight_ + 5 : 0) + 6;
+  if (text_.sign != 0 && head + resultWidth + side + 4 < line.width()) {
     const double x = line.right() - resultWidth - side - 4;
     const double y = line.center().y();
     QPolygonF triangle;
