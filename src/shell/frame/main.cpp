@@ -21,6 +21,7 @@
 #include "shell/screens/about.h"
 #include "shell/table/languages.h"
 #include "shell/table/pictures.h"
+#include "shell/table/preferences.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -67,6 +68,7 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
     std::fprintf(stderr, "tessaryn: %s\n", error.c_str());
     return 1;
   }
+  ApplyScheme(ReadPreferences(dataFolder).scheme);
   QApplication::setWindowIcon(ProgramIcon());
   AboutSplash splash;
   splash.show();

@@ -6,6 +6,8 @@
 #include "play/auto_roll.h"
 #include "play/script_session.h"
 #include "rules/bet_rules.h"
+#include "shell/table/plates.h"
+#include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
 #include "state/bet_families.h"
 #include "state/show_message.h"
