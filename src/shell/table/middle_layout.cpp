@@ -173,16 +173,16 @@ QRectF SideBox(int bet) {
 
 // Numbers that the bet wants, in a row; each turns gold as it is rolled.
 void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::uint32_t numbers) {
-  double x = box.left() + 3;
+  double x = box.left() + 2;
   for (int number = 2; number <= 12; ++number) {
     if ((numbers >> number & 1) == 0) continue;
-    const double width = number >= 10 ? 10.4 : 7.6;
+    const double width = number >= 10 ? 10.4 : 6.3;
     const QRectF place = LayoutBox(x, box.top() + 15.5, x + width, box.top() + 28.5);
-    TableLabel label = Caption(QString::number(number), place.adjusted(0.8, 0.5, -0.8, -0.5), kCaption, Ink::kSoft);
+    TableLabel label = Caption(QString::number(number), place.adjusted(0.1, 0.5, -0.1, -0.5), kCaption, Ink::kSoft);
     area.Labels.push_back(label);
     label.Colour = Ink::kDark;
     build.layout.Marks.push_back({Progress::kNumber, area.Id, number, place, label});
-    x += width + 0.6;
+    x += width + 0.1;
   }
 }
 
@@ -218,12 +218,12 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   TableArea* area = build.Add(special.bet, side, RoundedBox(box), Ground::kSide);
   if (area == nullptr) return;
   const auto line = [&](const char* text, double top) {
-    area->Labels.push_back(LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 44, box.top() + top + 11.7)));
+    area->Labels.push_back(LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
   };
   line(special.label, 1.5);
   if (special.second != nullptr) line(special.second, 13.4);
   AddProgress(build, *area, box);
-  const QPointF stack(box.right() - 14, box.top() + 17);
+  const QPointF stack(box.right() - 12.4, box.top() + 17);
   build.layout.Alone[side][special.bet] = stack;
   for (int place = 0; place < 4; ++place)
     build.Place((side == 1 ? 1 : 5) + place, special.bet,

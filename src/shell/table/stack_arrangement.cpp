@@ -194,9 +194,13 @@ void TakeBadge(Arranger& table, StandingStack& stack, const QString& text) {
   const QPointF right(base.x() + disc + 2 + size.width() / 2, base.y() + 0.3 * radius);
   const QPointF left(base.x() - disc - 2 - size.width() / 2, base.y() + 0.3 * radius);
   const QPointF over(base.x(), stack.Face.y() - disc - 2 - height / 2);
-  const std::array<QPointF, 4> places = stack.Bet == kPassLineOdds
-                                            ? std::array<QPointF, 4>{right, left, over, under}
-                                            : std::array<QPointF, 4>{under, right, left, over};
+  const QPointF aside(size.width() / 2, 0);
+  const QPointF lower(0, height * 0.6);
+  const std::array<QPointF, 10> places =
+      stack.Bet == kPassLineOdds
+          ? std::array<QPointF, 10>{right, left, over, under, right - lower, left - lower, over, over, over, over}
+          : std::array<QPointF, 10>{under,         right,         left,          under + aside, under - aside,
+                                    right + lower, left + lower,  over,          over + aside,  over - aside};
   stack.Badge = Take(table, size, places);
   if (!stack.Badge.isEmpty()) stack.BadgeText = text;
 }

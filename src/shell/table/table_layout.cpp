@@ -309,7 +309,7 @@ void AddField(LayoutBuilder& build) {
     field.inOrder.push_back(payoff);
   }
   field.labels.push_back(Caption("FIELD", LayoutBox(284, 409, 344, 439), 23));
-  constexpr double kAcross[4] = {261, 368, 412, 456};
+  constexpr double kAcross[4] = {261, 362, 398, 482};
   for (int place = 0; place < 4; ++place) field.places[place] = QPointF(kAcross[place], 427);
   AddEndArea(build, field);
 }
@@ -318,7 +318,7 @@ void AddBig(LayoutBuilder& build, int bet, const char* label, double left, doubl
   EndArea big;
   big.bet = bet;
   big.outline = CutByCorner(LayoutBox(left, 366, right, 444), 98);
-  big.inOrder.push_back(Caption("BIG", LayoutBox(left + 5, 369, left + 25, 384)));
+  big.inOrder.push_back(Caption("BIG", LayoutBox(left + 9, 369, left + 25.5, 384)));
   big.inOrder.push_back(Caption(label, LayoutBox(left + 26, 368.5, left + 43, 384.5), 14, Ink::kAccent));
   for (int place = 0; place < 4; ++place) big.places[place] = TwoByTwo(stack, {4.6, 4.2}, place);
   big.alone = stack;

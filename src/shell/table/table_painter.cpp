@@ -140,9 +140,10 @@ class Seen {
   QRectF device_;
 };
 
-void DrawLines(QPainter& painter, const TableLayout& layout, const TableColors& colors) {
+void DrawLines(QPainter& painter, const TableLayout& layout, const TableColors& colors, const Seen& seen) {
   painter.setBrush(Qt::NoBrush);
   for (const FeltLine& line : layout.Lines) {
+    if (!seen.Has(line.Path.boundingRect())) continue;
     QPen pen(colors.Line, line.Dashed ? 0.8 : kLineWidth);
     if (line.Dashed) pen.setDashPattern({2.5, 2.5});
     painter.setPen(pen);
@@ -161,10 +162,11 @@ void DrawHeadings(QPainter& painter, const TableLayout& layout, const TableColor
 }
 
 // The places that are still to be marked.
-void DrawMarks(QPainter& painter, const TableLayout& layout, const TableColors& colors) {
+void DrawMarks(QPainter& painter, const TableLayout& layout, const TableColors& colors, const Seen& seen) {
   painter.setPen(QPen(colors.Soft, 1));
   painter.setBrush(Qt::NoBrush);
   for (const TableMark& mark : layout.Marks) {
+    if (!seen.Has(mark.Box)) continue;
     if (mark.Kind == Progress::kPoint) painter.drawEllipse(mark.Box);
     if (mark.Kind == Progress::kRoll) painter.drawRoundedRect(mark.Box, 1, 1);
   }
@@ -180,11 +182,11 @@ void DrawAreas(QPainter& painter, const TableLayout& layout, const TableColors& 
     painter.setBrush(GroundColor(colors, area->Fill));
     painter.drawPath(area->Outline);
   }
-  DrawLines(painter, layout, colors);
+  DrawLines(painter, layout, colors, seen);
   DrawHeadings(painter, layout, colors, seen);
   for (const TableArea* area : shown)
     for (const TableLabel& label : area->Labels) DrawLabel(painter, label, colors);
-  DrawMarks(painter, layout, colors);
+  DrawMarks(painter, layout, colors, seen);
 }
 
 // The part of the picture from a column of its pixels on, as wide as part is.

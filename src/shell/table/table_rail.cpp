@@ -92,9 +92,9 @@ void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]) {
 
 QPainterPath RailOutline() { return EdgePath({-38, -20, 574, 151}); }
 
-QPainterPath WallOutline() { return EdgePath({-1, 2, 536, 167}); }
+QPainterPath WallOutline() { return EdgePath({-2, 2, 536, 165}); }
 
-QPainterPath FeltOutline() { return EdgePath({6, 6, 530, 169}); }
+QPainterPath FeltOutline() { return EdgePath({4.4, 6, 530, 167.4}); }
 
 QPointF PuckPlace(int point, int side) {
   constexpr double kHeight = 19;
