@@ -173,16 +173,17 @@ QRectF SideBox(int bet) {
 
 // Numbers that the bet wants, in a row; each turns gold as it is rolled.
 void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::uint32_t numbers) {
-  double x = box.left() + 2;
+  const bool tight = area.Id == kAllTall;  // of long numbers beside the stack's place
+  double x = box.left() + 2.2;
   for (int number = 2; number <= 12; ++number) {
     if ((numbers >> number & 1) == 0) continue;
-    const double width = number >= 10 ? 10.4 : 6.3;
+    const double width = number >= 10 ? 10.4 : tight ? 6 : 7.6;
     const QRectF place = LayoutBox(x, box.top() + 15.5, x + width, box.top() + 28.5);
     TableLabel label = Caption(QString::number(number), place.adjusted(0.1, 0.5, -0.1, -0.5), kCaption, Ink::kSoft);
     area.Labels.push_back(label);
     label.Colour = Ink::kDark;
     build.layout.Marks.push_back({Progress::kNumber, area.Id, number, place, label});
-    x += width + 0.1;
+    x += width + (tight ? 0.3 : 0.8);
   }
 }
 

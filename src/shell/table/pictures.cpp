@@ -124,9 +124,11 @@ void PaintFlatDie(QPainter& painter, int face, const QColor& body, const QColor&
   painter.setPen(Qt::NoPen);
   painter.setBrush(body);
   painter.drawRoundedRect(QRectF(-0.5, -0.5, 1, 1), 0.17, 0.17);
-  painter.setBrush(pips);
+  QPainterPath spots;  // as one: there are many of these dice
   for (int n = 0; n < face; ++n)
-    painter.drawEllipse(QPointF(kPips[face][n].x * 0.27, kPips[face][n].y * 0.27), 0.1, 0.1);
+    spots.addEllipse(QPointF(kPips[face][n].x * 0.27, kPips[face][n].y * 0.27), 0.1, 0.1);
+  painter.setBrush(pips);
+  painter.drawPath(spots);
 }
 
 void PaintCheck(QPainter& painter, int denomination, const QString& text) {

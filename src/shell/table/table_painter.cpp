@@ -178,8 +178,10 @@ void DrawAreas(QPainter& painter, const TableLayout& layout, const TableColors& 
   for (const TableArea& area : layout.Areas)
     if (seen.Has(area.Outline.boundingRect())) shown.push_back(&area);
   for (const TableArea* area : shown) {
+    const bool plain = area->Fill == Ground::kFelt;
+    if (plain && !area->Edged) continue;
     painter.setPen(EdgeOf(*area, colors));
-    painter.setBrush(GroundColor(colors, area->Fill));
+    painter.setBrush(plain ? QBrush() : QBrush(GroundColor(colors, area->Fill)));
     painter.drawPath(area->Outline);
   }
   DrawLines(painter, layout, colors, seen);
