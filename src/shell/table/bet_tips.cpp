@@ -1,3 +1,4 @@
+#include "shell/table/plates.h"
 #include "shell/table/bet_tips.h"
 
 #include <QCoreApplication>
@@ -198,7 +199,7 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
     parts += Translated(QT_TRANSLATE_NOOP("TableCommands", "Moving %1"))
                  .arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0 && occupied)
-    parts += FromCore(game.table.seats[seat].SeatName) + "   " + StatusLines(game, seat).join("   ");
+    parts += FromCore(game.table.seats[seat].SeatName) + "   " + MoneyLines(game, seat).join("   ");
   if (bet != 0 && !IsTableBet(bet)) parts += BetAmountText(game, seat, bet);
   // A click that is meant for something else bets nothing.
   const bool bets = occupied && action == kPendingNone && commands.Moving.Bet == 0;

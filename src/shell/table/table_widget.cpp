@@ -46,10 +46,11 @@ double Scatter(std::int64_t roll, int which) {
 DicePose RestingDice(const Game& game, std::int64_t roll) {
   const bool shooterLeft = game.table.ShooterSeat <= 4;
   DicePose pose;
-  const double x = (shooterLeft ? 820 : 300) + 120 * Scatter(roll, 1);
-  const double y = 268 + 44 * Scatter(roll, 2);
-  const double direction = 6.283 * Scatter(roll, 3);
-  const double apart = 13 + 9 * Scatter(roll, 4);
+  // On the Come bar beside its lettering, where no stack stands; the dice don't cover each other.
+  const double x = (shooterLeft ? 1004 : 226) + 16 * Scatter(roll, 1);
+  const double y = 320 + 12 * Scatter(roll, 2);
+  const double direction = 0.7 * Scatter(roll, 3) - 0.35 + (Scatter(roll, 7) < 0.5 ? 0 : 3.1416);
+  const double apart = 22 + 3 * Scatter(roll, 4);
   pose.Die1 = QPointF(x - apart * std::cos(direction), y - apart * std::sin(direction));
   pose.Die2 = QPointF(x + apart * std::cos(direction), y + apart * std::sin(direction));
   pose.Turn1 = 360 * Scatter(roll, 5);
@@ -187,6 +188,7 @@ void TableWidget::PrepareTable() {
   if (!tableStale_ && table_.size() == pixels) return;
   if (table_.size() != pixels) table_ = QImage(pixels, QImage::Format_RGB32);
   table_.setDevicePixelRatio(ratio);
+  FitLettering(layout_, view.Scale());
   DrawTable(table_, drawing_, view, colors);
   tableStale_ = false;
 }
@@ -236,11 +238,11 @@ int TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
 
 int TableWidget::StackAt(QPoint point) const {
   const int seat = game_.table.SelectedSeat;
-  const double radius = kCheckUnits / 2 * view.Scale();
+  const double radius = CheckDiameter(view.Scale()) / 2;
   int found = 0;
   double nearest = radius;
   game_.table.seats[seat].SeatBets.ForEach([&](int bet) {
-    const QPointF way = view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))) - point;
+    const QPointF way = view.ToScreen(StackPlace(layout_, game_.table, seat, bet)) - point;
     const double apart = std::hypot(way.x(), way.y());
     if (apart > nearest) return;
     nearest = apart;
@@ -254,6 +256,8 @@ int TableWidget::SeatAt(QPoint point) const {
   const QPointF table = view.ToTable(point);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const SeatPlace& place = layout_.Seats[seat];
+    for (const QPointF& stack : place.Stacks)
+      if (std::hypot(table.x() - stack.x(), table.y() - stack.y()) <= kStackReach) return seat;
     const QPointF offset = table - place.Rail;
     const double along = QPointF::dotProduct(offset, place.Along);
     const double out = QPointF::dotProduct(offset, place.Out);
