@@ -5,6425 +5,7518 @@
     <name>AboutScreen</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sürüm %1</translation>
     </message>
     <message>
         <source>A craps table to play at, and to test betting systems on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oynamak ve bahis sistemlerini denemek için bir craps masası.</translation>
     </message>
     <message>
         <source>About Tessaryn</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn hakkında</translation>
     </message>
     <message>
         <source>Programs:  %1
 Data:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Programlar:  %1
+Veriler:  %2</translation>
     </message>
     <message>
         <source>Free software under the GNU General Public License, version 3: see LICENSE.</source>
-        <translation type="unfinished"></translation>
+        <translation>GNU General Public License, sürüm 3 altında özgür yazılım: LICENSE dosyasına bakın.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dil:</translation>
     </message>
 </context>
 <context>
     <name>BankrollGraph</name>
     <message>
         <source>rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>atış</translation>
     </message>
     <message>
         <source>No rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış yok</translation>
     </message>
     <message>
         <source>Rolls %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış %1 - %2</translation>
     </message>
     <message>
         <source>High:  %1  Current:  %2  Low:  %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüksek:  %1  Şimdi:  %2  Düşük:  %3</translation>
     </message>
     <message>
         <source>%1 roll avg</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 atış ort.</translation>
     </message>
     <message>
         <source>All rolls avg</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm atışların ort.</translation>
+    </message>
+</context>
+<context>
+    <name>BetButtons</name>
+    <message>
+        <source>Undo bet</source>
+        <translation>Bahsi geri al</translation>
+    </message>
+    <message>
+        <source>Repeat bets</source>
+        <translation>Yinele</translation>
+    </message>
+    <message>
+        <source>Full odds</source>
+        <translation>Tam odds</translation>
+    </message>
+</context>
+<context>
+    <name>BetFacts</name>
+    <message>
+        <source>one-roll bet</source>
+        <translation>tek atışlık bahis</translation>
+    </message>
+    <message>
+        <source>stays up until it is decided</source>
+        <translation>sonuçlanana dek kalır</translation>
+    </message>
+    <message>
+        <source>a contract: it stays up until it is decided</source>
+        <translation>bağlı: sonuçlanana dek kalır</translation>
+    </message>
+    <message>
+        <source>on the line: decided by the come-out or by the point</source>
+        <translation>çizgide: come-out ya da point ile sonuçlanır</translation>
+    </message>
+    <message>
+        <source>odds behind %1</source>
+        <translation>%1 arkasında odds</translation>
+    </message>
+    <message>
+        <source>goes on over several rolls</source>
+        <translation>birkaç atış sürer</translation>
+    </message>
+    <message>
+        <source>%1 before 7</source>
+        <translation>7&apos;den önce %1</translation>
+    </message>
+    <message>
+        <source>7 before %1</source>
+        <translation>%1&apos;den önce 7</translation>
+    </message>
+    <message>
+        <source>7 or 11 on the come-out, then the point before 7</source>
+        <translation>come-out&apos;ta 7 ya da 11, sonra 7&apos;den önce point</translation>
+    </message>
+    <message>
+        <source>2, 3 or 12 on the come-out, then 7 before the point</source>
+        <translation>come-out&apos;ta 2, 3 ya da 12, sonra point&apos;ten önce 7</translation>
+    </message>
+    <message>
+        <source>7 or 11 on the next roll, then its number before 7</source>
+        <translation>sonraki atışta 7 ya da 11, sonra 7&apos;den önce sayısı</translation>
+    </message>
+    <message>
+        <source>2, 3 or 12 on the next roll, then 7 before its number</source>
+        <translation>sonraki atışta 2, 3 ya da 12, sonra sayısından önce 7</translation>
+    </message>
+    <message>
+        <source>%1 or 3 on the come-out, then 7 before the point; %2 is barred</source>
+        <translation>come-out&apos;ta %1 ya da 3, sonra point&apos;ten önce 7; %2 yasak</translation>
+    </message>
+    <message>
+        <source>%1 or 3 on the next roll, then 7 before its number; %2 is barred</source>
+        <translation>sonraki atışta %1 ya da 3, sonra sayısından önce 7; %2 yasak</translation>
+    </message>
+    <message>
+        <source>the point before 7</source>
+        <translation>7&apos;den önce point</translation>
+    </message>
+    <message>
+        <source>7 before the point</source>
+        <translation>point&apos;ten önce 7</translation>
+    </message>
+    <message>
+        <source>%1 on the next roll</source>
+        <translation>sonraki atışta %1</translation>
+    </message>
+    <message>
+        <source>any other roll</source>
+        <translation>başka her atış</translation>
+    </message>
+    <message>
+        <source>any other roll, but not on %1</source>
+        <translation>başka her atış, ama %1 değil</translation>
+    </message>
+    <message>
+        <source>%1 as a pair, before 7 and before any other %1</source>
+        <translation>çift olarak %1, 7&apos;den ve başka her %1&apos;den önce</translation>
+    </message>
+    <message>
+        <source>7, or %1 that is no pair</source>
+        <translation>7, ya da çift olmayan %1</translation>
+    </message>
+    <message>
+        <source>all of %1 before 7</source>
+        <translation>7&apos;den önce hepsi: %1</translation>
+    </message>
+    <message>
+        <source>7 before the last of them</source>
+        <translation>sonuncusundan önce 7</translation>
+    </message>
+    <message>
+        <source>four rolls without a 7</source>
+        <translation>7 gelmeden dört atış</translation>
+    </message>
+    <message>
+        <source>7 within the four rolls</source>
+        <translation>dört atış içinde 7</translation>
+    </message>
+    <message>
+        <source>a point, and 7 on the very next roll</source>
+        <translation>bir point, ve hemen sonraki atışta 7</translation>
+    </message>
+    <message>
+        <source>7 on the come-out, or a point and 7 on the very next roll</source>
+        <translation>come-out&apos;ta 7, ya da bir point ve hemen sonraki atışta 7</translation>
+    </message>
+    <message>
+        <source>anything else</source>
+        <translation>başka her şey</translation>
+    </message>
+    <message>
+        <source>%1 points or more, made before the seven-out</source>
+        <translation>seven-out&apos;tan önce %1 ya da daha çok point</translation>
+    </message>
+    <message>
+        <source>%1 passes or more before the seven-out</source>
+        <translation>seven-out&apos;tan önce %1 ya da daha çok pass</translation>
+    </message>
+    <message>
+        <source>%1 different points or more, made before the seven-out</source>
+        <translation>seven-out&apos;tan önce %1 ya da daha çok farklı point</translation>
+    </message>
+    <message>
+        <source>a seven-out with fewer</source>
+        <translation>daha azıyla seven-out</translation>
+    </message>
+    <message>
+        <source>half each as Any Craps and Eleven</source>
+        <translation>yarısı Any Craps, yarısı Eleven</translation>
+    </message>
+    <message>
+        <source>a quarter each as Two, Three, Eleven and Twelve</source>
+        <translation>Two, Three, Eleven ve Twelve&apos;e dörtte birer</translation>
+    </message>
+    <message>
+        <source>a fifth each as Two, Three, Seven, Eleven and Twelve</source>
+        <translation>Two, Three, Seven, Eleven ve Twelve&apos;e beşte birer</translation>
+    </message>
+    <message>
+        <source>%1% of the bet, charged as it is made</source>
+        <translation>bahsin yüzde %1 kadarı, konurken alınır</translation>
+    </message>
+    <message>
+        <source>%1% of the bet, charged when it wins</source>
+        <translation>bahsin yüzde %1 kadarı, kazanınca alınır</translation>
+    </message>
+    <message>
+        <source>%1% of the win, charged as it is made</source>
+        <translation>kazancın yüzde %1 kadarı, konurken alınır</translation>
+    </message>
+    <message>
+        <source>%1% of the win, charged when it wins</source>
+        <translation>kazancın yüzde %1 kadarı, kazanınca alınır</translation>
+    </message>
+    <message>
+        <source>vig: %1</source>
+        <translation>vig: %1</translation>
+    </message>
+    <message>
+        <source>pays %1</source>
+        <translation>%1 öder</translation>
+    </message>
+    <message>
+        <source>minimum %1</source>
+        <translation>en az %1</translation>
+    </message>
+    <message>
+        <source>may still be bet: %1</source>
+        <translation>daha konabilir: %1</translation>
+    </message>
+    <message>
+        <source>edge %1%</source>
+        <translation>kasa payı yüzde %1</translation>
+    </message>
+    <message>
+        <source>edge %1% a roll</source>
+        <translation>kasa payı atış başına yüzde %1</translation>
+    </message>
+    <message>
+        <source>not now: %1</source>
+        <translation>şimdi olmaz: %1</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Wins on: %1</source>
+        <translation>Kazanır: %1</translation>
+    </message>
+    <message>
+        <source>Loses on: %1</source>
+        <translation>Kaybeder: %1</translation>
+    </message>
+    <message>
+        <source>Pays: %1</source>
+        <translation>Öder: %1</translation>
+    </message>
+    <message>
+        <source>Next roll: wins %1, loses %2 in 36</source>
+        <translation>Sonraki atış: 36&apos;da %1 kazanır, %2 kaybeder</translation>
+    </message>
+    <message>
+        <source>Off on the next roll; working it would win %1, lose %2 in 36</source>
+        <translation>Sonraki atışta OFF; çalışsa 36&apos;da %1 kazanır, %2 kaybederdi</translation>
+    </message>
+    <message>
+        <source>House edge: %1% of the bet</source>
+        <translation>Kasa payı: bahsin yüzde %1 kadarı</translation>
+    </message>
+    <message>
+        <source>House edge: %1% of the bet, a roll</source>
+        <translation>Kasa payı: atış başına bahsin yüzde %1 kadarı</translation>
+    </message>
+    <message>
+        <source>The dice in force never decide it</source>
+        <translation>Geçerli zarlar onu hiç sonuçlandırmaz</translation>
+    </message>
+    <message>
+        <source>Decided after %1 rolls on average</source>
+        <translation>Ortalama %1 atışta sonuçlanır</translation>
+    </message>
+    <message>
+        <source>Vig: %1</source>
+        <translation>Vig: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Board</name>
+    <message>
+        <source>Next click: call a bet ON. A right click ends this</source>
+        <translation>Sonraki tıklama: bahsi ON ilan et. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Next click: call a bet OFF. A right click ends this</source>
+        <translation>Sonraki tıklama: bahsi OFF ilan et. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Next click: buy a Place bet. A right click ends this</source>
+        <translation>Sonraki tıklama: Place bahsini satın al. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Next click: remove a bet. A right click ends this</source>
+        <translation>Sonraki tıklama: bir bahsi kaldır. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Next click: take a bet to move it. A right click ends this</source>
+        <translation>Sonraki tıklama: taşımak için bir bahis al. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Next click: put the bet down. A right click ends this</source>
+        <translation>Sonraki tıklama: bahsi bırak. Sağ tıklama bitirir</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), point stays %5.</source>
+        <translation>Atış %1: %2 (%3-%4), point %5 kalır.</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), the point is %2.</source>
+        <translation>Atış %1: %2 (%3-%4), point %2.</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>point</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), point made.</source>
+        <translation>Atış %1: %2 (%3-%4), point yapıldı.</translation>
+    </message>
+    <message>
+        <source>point made</source>
+        <translation>point yapıldı</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), seven-out.</source>
+        <translation>Atış %1: %2 (%3-%4), seven-out.</translation>
+    </message>
+    <message>
+        <source>seven-out</source>
+        <translation>seven-out</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), natural.</source>
+        <translation>Atış %1: %2 (%3-%4), natural.</translation>
+    </message>
+    <message>
+        <source>natural</source>
+        <translation>natural</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4), craps.</source>
+        <translation>Atış %1: %2 (%3-%4), craps.</translation>
+    </message>
+    <message>
+        <source>craps</source>
+        <translation>craps</translation>
+    </message>
+    <message>
+        <source>hard</source>
+        <translation>hard</translation>
+    </message>
+    <message>
+        <source>easy</source>
+        <translation>easy</translation>
+    </message>
+    <message>
+        <source>TWO</source>
+        <translation>İKİ</translation>
+    </message>
+    <message>
+        <source>THREE</source>
+        <translation>ÜÇ</translation>
+    </message>
+    <message>
+        <source>FOUR</source>
+        <translation>DÖRT</translation>
+    </message>
+    <message>
+        <source>FIVE</source>
+        <translation>BEŞ</translation>
+    </message>
+    <message>
+        <source>SIX</source>
+        <translation>ALTI</translation>
+    </message>
+    <message>
+        <source>SEVEN</source>
+        <translation>YEDİ</translation>
+    </message>
+    <message>
+        <source>EIGHT</source>
+        <translation>SEKİZ</translation>
+    </message>
+    <message>
+        <source>NINE</source>
+        <translation>DOKUZ</translation>
+    </message>
+    <message>
+        <source>TEN</source>
+        <translation>ON</translation>
+    </message>
+    <message>
+        <source>ELEVEN</source>
+        <translation>ON BİR</translation>
+    </message>
+    <message>
+        <source>TWELVE</source>
+        <translation>ON İKİ</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Hand %1</source>
+        <translation>El %1</translation>
+    </message>
+    <message>
+        <source>1 roll</source>
+        <translation>1 atış</translation>
+    </message>
+    <message>
+        <source>%1 rolls</source>
+        <translation>%1 atış</translation>
+    </message>
+    <message>
+        <source>1 point made</source>
+        <translation>1 point yapıldı</translation>
+    </message>
+    <message>
+        <source>%1 points made</source>
+        <translation>%1 point yapıldı</translation>
+    </message>
+    <message>
+        <source>%1, %2</source>
+        <translation>%1, %2</translation>
     </message>
 </context>
 <context>
     <name>Commands</name>
     <message>
         <source>&amp;Play</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oyna</translation>
     </message>
     <message>
         <source>&amp;Watch a system</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir &amp;sistemi izle</translation>
     </message>
     <message>
         <source>&amp;Study results</source>
-        <translation type="unfinished"></translation>
+        <translation>So&amp;nuçları incele</translation>
     </message>
     <message>
         <source>&amp;Float all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tümünü &amp;ayır</translation>
     </message>
     <message>
         <source>&amp;Close all instruments</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm araçları &amp;kapat</translation>
     </message>
     <message>
         <source>&amp;Key in bet amounts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahis tutarlarını yaz</translation>
     </message>
     <message>
         <source>&amp;Buy a Place bet</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Place bahsini satın al</translation>
     </message>
     <message>
         <source>Call a bet &amp;ON</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsi O&amp;N ilan et</translation>
     </message>
     <message>
         <source>Call a bet O&amp;FF</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsi O&amp;FF ilan et</translation>
     </message>
     <message>
         <source>Call all bets O&amp;N</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tüm bahisleri ON ilan et</translation>
     </message>
     <message>
         <source>&amp;Call all bets OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;üm bahisleri OFF ilan et</translation>
     </message>
     <message>
         <source>&amp;Take full odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam &amp;odds al</translation>
     </message>
     <message>
         <source>&amp;Lay full odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam odds &amp;ver</translation>
     </message>
     <message>
         <source>&amp;Remove a bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir bahsi &amp;kaldır</translation>
     </message>
     <message>
         <source>&amp;Move a bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir bahsi t&amp;aşı</translation>
     </message>
     <message>
         <source>Remove &amp;all bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm bahisl&amp;eri kaldır</translation>
     </message>
     <message>
         <source>&amp;Game</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oyun</translation>
     </message>
     <message>
         <source>&amp;Players</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;yuncular</translation>
     </message>
     <message>
         <source>&amp;Bets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahisler</translation>
     </message>
     <message>
         <source>&amp;Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zarlar</translation>
     </message>
     <message>
         <source>A&amp;uto-Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;uto-Bet</translation>
     </message>
     <message>
         <source>Stat&amp;istics</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İstatistik</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görünüm</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;rdım</translation>
     </message>
     <message>
         <source>&amp;Roll the dice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zar at</translation>
     </message>
     <message>
         <source>&amp;Pass the dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarları &amp;devret</translation>
     </message>
     <message>
         <source>Roll your &amp;own numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kendi sayılarını at</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Turbo-Roll başlat</translation>
     </message>
     <message>
         <source>Set Auto-Roll time &amp;delay ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Roll &amp;gecikmesi ...</translation>
     </message>
     <message>
         <source>Set Auto-&amp;Stop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik d&amp;urma ...</translation>
     </message>
     <message>
         <source>Open pro&amp;bability file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olasılık dosyası aç ...</translation>
     </message>
     <message>
         <source>Per&amp;centage dice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yüzdeli zarlar</translation>
     </message>
     <message>
         <source>Pla&amp;y a dice roll file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar &amp;dosyası oynat ...</translation>
     </message>
     <message>
         <source>R&amp;ecord a dice roll file ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasına &amp;kaydet ...</translation>
     </message>
     <message>
         <source>C&amp;lose the dice roll file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasını ka&amp;pat</translation>
     </message>
     <message>
         <source>Dice roll &amp;files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosya&amp;ları</translation>
     </message>
     <message>
         <source>Percentage dice ed&amp;itor</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzdeli zar düz&amp;enleyici</translation>
     </message>
     <message>
         <source>Stop t&amp;he dice roll file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasını durdu&amp;r</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ye&amp;ni ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kaydet</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Recent games</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Son oyunlar</translation>
     </message>
     <message>
         <source>&amp;Files in use ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kullanılan &amp;dosyalar ...</translation>
     </message>
     <message>
         <source>So&amp;und</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;s</translation>
     </message>
     <message>
         <source>&amp;Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;yarlar</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>Çı&amp;kış</translation>
     </message>
     <message>
         <source>&amp;Keys and mouse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tuşlar ve fare</translation>
     </message>
     <message>
         <source>&amp;About Tessaryn</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn &amp;hakkında</translation>
     </message>
     <message>
         <source>&amp;Add ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekle ...</translation>
     </message>
     <message>
         <source>&amp;Rename ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adını değiştir ...</translation>
     </message>
     <message>
         <source>&amp;Move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yerini değiştir</translation>
     </message>
     <message>
         <source>R&amp;emove ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Çı&amp;kar ...</translation>
     </message>
     <message>
         <source>A&amp;TM ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bankamatik ...</translation>
     </message>
     <message>
         <source>Auto-&amp;Play ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-&amp;Play ...</translation>
     </message>
     <message>
         <source>&amp;Open script ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Betik &amp;aç ...</translation>
     </message>
     <message>
         <source>&amp;Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Et&amp;kin</translation>
     </message>
     <message>
         <source>&amp;Initialize</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Baştan başlat</translation>
     </message>
     <message>
         <source>&amp;Stop auto-betting</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet&apos;i &amp;durdur</translation>
     </message>
     <message>
         <source>Assign a &amp;hot-key ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kısayol tuşu ata ...</translation>
     </message>
     <message>
         <source>Auto-Bet &amp;workshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet &amp;atölyesi</translation>
     </message>
     <message>
         <source>Hot-&amp;keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Kısayol &amp;tuşları</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Özet</translation>
     </message>
     <message>
         <source>&amp;Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eller</translation>
     </message>
     <message>
         <source>Bet &amp;results</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis &amp;sonuçları</translation>
     </message>
     <message>
         <source>Bet &amp;trends</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis e&amp;ğilimleri</translation>
     </message>
     <message>
         <source>R&amp;oll totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış &amp;toplamları</translation>
     </message>
     <message>
         <source>Roll &amp;frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış &amp;sıklıkları</translation>
     </message>
     <message>
         <source>&amp;Bankroll graph</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bankroll grafiği</translation>
     </message>
     <message>
         <source>&amp;CheckStacks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;CheckStacks</translation>
     </message>
     <message>
         <source>Sessions &amp;Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum &amp;günlüğü</translation>
     </message>
     <message>
         <source>&amp;Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olay günlüğü</translation>
     </message>
     <message>
         <source>L&amp;aboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Laboratuvar</translation>
     </message>
     <message>
         <source>View %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Görünüm %1</translation>
     </message>
     <message>
         <source>Bet &amp;amounts</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahis tutarları</translation>
     </message>
     <message>
         <source>&amp;Flash the bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisleri &amp;yanıp söndür</translation>
     </message>
     <message>
         <source>&amp;Proposition bets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Proposition bahisleri</translation>
     </message>
     <message>
         <source>&amp;Move, zoom and rotate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Taşı, yakınlaştır ve döndür</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yakınlaştır</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uzaklaştır</translation>
     </message>
     <message>
         <source>&amp;Rotate by 30 degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>30 derece &amp;döndür</translation>
     </message>
     <message>
         <source>&amp;Whole table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm &amp;masa</translation>
     </message>
     <message>
         <source>&amp;Left end</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sol uç</translation>
     </message>
     <message>
         <source>Ri&amp;ght end</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ağ uç</translation>
     </message>
     <message>
         <source>R&amp;estore view</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görünümü geri getir</translation>
     </message>
     <message>
         <source>&amp;Save view</source>
-        <translation type="unfinished"></translation>
+        <translation>Görünümü &amp;sakla</translation>
     </message>
     <message>
         <source>Arra&amp;nge</source>
-        <translation type="unfinished"></translation>
+        <translation>Dü&amp;zen</translation>
     </message>
     <message>
         <source>Lang&amp;uage</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dil</translation>
+    </message>
+    <message>
+        <source>&amp;Undo bet</source>
+        <translation>Bahsi &amp;geri al</translation>
+    </message>
+    <message>
+        <source>R&amp;edo bet</source>
+        <translation>Bahsi &amp;yinele</translation>
+    </message>
+    <message>
+        <source>Re&amp;peat bets</source>
+        <translation>Bahisleri te&amp;krarla</translation>
+    </message>
+    <message>
+        <source>Full o&amp;dds</source>
+        <translation>Ta&amp;m odds</translation>
+    </message>
+    <message>
+        <source>&amp;Help for this screen</source>
+        <translation>Bu ekranın &amp;yardımı</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>&amp;İçindekiler</translation>
+    </message>
+    <message>
+        <source>&amp;Search the help</source>
+        <translation>Yardımda &amp;ara</translation>
+    </message>
+    <message>
+        <source>&amp;Settle each roll on one sheet</source>
+        <translation>&amp;Her atışı tek sayfada sonuçlandır</translation>
+    </message>
+    <message>
+        <source>L&amp;uck</source>
+        <translation>&amp;Şans</translation>
     </message>
 </context>
 <context>
     <name>Core</name>
     <message>
         <source>Auto select</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik seçim</translation>
     </message>
     <message>
         <source>X Flat - No Push</source>
-        <translation type="unfinished"></translation>
+        <translation>X düz - push yok</translation>
     </message>
     <message>
         <source>X Flat w/ Minor Push</source>
-        <translation type="unfinished"></translation>
+        <translation>X düz, küçük push ile</translation>
     </message>
     <message>
         <source>X Flat w/ Color Push</source>
-        <translation type="unfinished"></translation>
+        <translation>X düz, renk push ile</translation>
     </message>
     <message>
         <source>X Flat - Single Odds</source>
-        <translation type="unfinished"></translation>
+        <translation>X düz - tek odds</translation>
     </message>
     <message>
         <source>Flat - Single Odds X</source>
-        <translation type="unfinished"></translation>
+        <translation>Düz - tek odds X</translation>
     </message>
     <message>
         <source>Rounded normally</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal yuvarlama</translation>
     </message>
     <message>
         <source>Rounded down</source>
-        <translation type="unfinished"></translation>
+        <translation>Aşağı yuvarlama</translation>
     </message>
     <message>
         <source>Rounded up</source>
-        <translation type="unfinished"></translation>
+        <translation>Yukarı yuvarlama</translation>
     </message>
     <message>
         <source> Charge winning Buy bets only</source>
-        <translation type="unfinished"></translation>
+        <translation> Yalnız kazanan Buy bahislerinden al</translation>
     </message>
     <message>
         <source> Charge all Buy bets</source>
-        <translation type="unfinished"></translation>
+        <translation> Tüm Buy bahislerinden al</translation>
     </message>
     <message>
         <source> Charge winning Lay bets only</source>
-        <translation type="unfinished"></translation>
+        <translation> Yalnız kazanan Lay bahislerinden al</translation>
     </message>
     <message>
         <source> Charge all Lay bets</source>
-        <translation type="unfinished"></translation>
+        <translation> Tüm Lay bahislerinden al</translation>
     </message>
     <message>
         <source>No bets required to shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmak için bahis gerekmez</translation>
     </message>
     <message>
         <source>Line bet required to shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmak için çizgi bahsi gerekir</translation>
     </message>
     <message>
         <source>Any bet required to shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmak için bir bahis gerekir</translation>
     </message>
     <message>
         <source> Actions not allowed</source>
-        <translation type="unfinished"></translation>
+        <translation> İzin verilmeyen işlemler</translation>
     </message>
     <message>
         <source> Betting limits reached</source>
-        <translation type="unfinished"></translation>
+        <translation> Ulaşılan bahis sınırları</translation>
     </message>
     <message>
         <source> Charges and/or change</source>
-        <translation type="unfinished"></translation>
+        <translation> Kesintiler ve para üstü</translation>
     </message>
     <message>
         <source> Auto-bet messages normal play</source>
-        <translation type="unfinished"></translation>
+        <translation> Normal oyunda Auto-Bet iletileri</translation>
     </message>
     <message>
         <source> Auto-bet messages turbo-roll</source>
-        <translation type="unfinished"></translation>
+        <translation> Turbo-Roll&apos;da Auto-Bet iletileri</translation>
     </message>
     <message>
         <source>Don&apos;t show any info</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilgi gösterme</translation>
     </message>
     <message>
         <source>Show amounts only</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnız tutarları göster</translation>
     </message>
     <message>
         <source>Show names only</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnız adları göster</translation>
     </message>
     <message>
         <source>Show names and amounts only</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnız adları ve tutarları göster</translation>
     </message>
     <message>
         <source>Show all info</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm bilgiyi göster</translation>
     </message>
     <message>
         <source> Theoretical house vig</source>
-        <translation type="unfinished"></translation>
+        <translation> Kuramsal kasa payı</translation>
     </message>
     <message>
         <source> Total comp action</source>
-        <translation type="unfinished"></translation>
+        <translation> Toplam comp hacmi</translation>
     </message>
     <message>
         <source> Average comp action and time</source>
-        <translation type="unfinished"></translation>
+        <translation> Ortalama comp hacmi ve süre</translation>
     </message>
     <message>
         <source> Seed normally</source>
-        <translation type="unfinished"></translation>
+        <translation> Normal tohum</translation>
     </message>
     <message>
         <source> User seed</source>
-        <translation type="unfinished"></translation>
+        <translation> Kullanıcı tohumu</translation>
     </message>
     <message>
         <source> Manual</source>
-        <translation type="unfinished"></translation>
+        <translation> Elle</translation>
     </message>
     <message>
         <source> Auto w/ minor correction</source>
-        <translation type="unfinished"></translation>
+        <translation> Otomatik, küçük düzeltmeyle</translation>
     </message>
     <message>
         <source> Auto w/ color correction</source>
-        <translation type="unfinished"></translation>
+        <translation> Otomatik, renk düzeltmesiyle</translation>
     </message>
     <message>
         <source> Thrown</source>
-        <translation type="unfinished"></translation>
+        <translation> Atılarak</translation>
     </message>
     <message>
         <source> Without motion</source>
-        <translation type="unfinished"></translation>
+        <translation> Hareketsiz</translation>
     </message>
     <message>
         <source> Thrown quickly</source>
-        <translation type="unfinished"></translation>
+        <translation> Hızlı atılarak</translation>
     </message>
     <message>
         <source> Carry the bankroll forward</source>
-        <translation type="unfinished"></translation>
+        <translation> Bankroll&apos;u taşı</translation>
     </message>
     <message>
         <source> Begin with this amount</source>
-        <translation type="unfinished"></translation>
+        <translation> Bu tutarla başla</translation>
     </message>
     <message>
         <source> Ask for the amount</source>
-        <translation type="unfinished"></translation>
+        <translation> Tutarı sor</translation>
     </message>
     <message>
         <source>0 by the change, 1 up, 2 down</source>
-        <translation type="unfinished"></translation>
+        <translation>0 para üstüne göre, 1 yukarı, 2 aşağı</translation>
     </message>
     <message>
         <source>minimum of bets 1 to 51</source>
-        <translation type="unfinished"></translation>
+        <translation>1 - 51 bahislerinin en azı</translation>
     </message>
     <message>
         <source>minimum of bets 52 to 93</source>
-        <translation type="unfinished"></translation>
+        <translation>52 - 93 bahislerinin en azı</translation>
     </message>
     <message>
         <source>table maximum</source>
-        <translation type="unfinished"></translation>
+        <translation>masanın en çoğu</translation>
     </message>
     <message>
         <source>most a proposition may pay</source>
-        <translation type="unfinished"></translation>
+        <translation>bir proposition&apos;ın en çok ödemesi</translation>
     </message>
     <message>
         <source>ceiling of an odds bet</source>
-        <translation type="unfinished"></translation>
+        <translation>odds bahsinin tavanı</translation>
     </message>
     <message>
         <source>ceiling of the Fire bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fire bahsinin tavanı</translation>
     </message>
     <message>
         <source>odds multiple on 4 and 10</source>
-        <translation type="unfinished"></translation>
+        <translation>4 ve 10&apos;da odds katı</translation>
     </message>
     <message>
         <source>odds multiple on 5 and 9</source>
-        <translation type="unfinished"></translation>
+        <translation>5 ve 9&apos;da odds katı</translation>
     </message>
     <message>
         <source>odds multiple on 6 and 8</source>
-        <translation type="unfinished"></translation>
+        <translation>6 ve 8&apos;de odds katı</translation>
     </message>
     <message>
         <source>0 auto select, 1 to 5 the method</source>
-        <translation type="unfinished"></translation>
+        <translation>0 otomatik seçim, 1 - 5 yöntem</translation>
     </message>
     <message>
         <source>12 or 2, barred on the don&apos;t side</source>
-        <translation type="unfinished"></translation>
+        <translation>12 ya da 2, don&apos;t tarafında yasak</translation>
     </message>
     <message>
         <source>Put bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Put bahisleri</translation>
     </message>
     <message>
         <source>0 none, 1 line bet, 2 any bet needed to shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>0 yok, 1 çizgi bahsi, 2 atmak için herhangi bir bahis</translation>
     </message>
     <message>
         <source>Big 6 and Big 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Big 6 ve Big 8</translation>
     </message>
     <message>
         <source>Midway bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Midway bahsi</translation>
     </message>
     <message>
         <source>special propositions, bets 84 to 89</source>
-        <translation type="unfinished"></translation>
+        <translation>özel proposition&apos;lar, 84 - 89 bahisleri</translation>
     </message>
     <message>
         <source>Fire bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fire bahsi</translation>
     </message>
     <message>
         <source>contract bets go back at a new session</source>
-        <translation type="unfinished"></translation>
+        <translation>bağlı bahisler yeni oturumda geri verilir</translation>
     </message>
     <message>
         <source>what the Field pays; Own once a row of it is another</source>
-        <translation type="unfinished"></translation>
+        <translation>Field&apos;ın ödediği; bir satırı değişince Own</translation>
     </message>
     <message>
         <source>a fraction, or with % a percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>bir kesir, ya da % ile bir yüzde</translation>
     </message>
     <message>
         <source>0 normally, 1 down, 2 up</source>
-        <translation type="unfinished"></translation>
+        <translation>0 normal, 1 aşağı, 2 yukarı</translation>
     </message>
     <message>
         <source>charge all Buy bets</source>
-        <translation type="unfinished"></translation>
+        <translation>tüm Buy bahislerinden al</translation>
     </message>
     <message>
         <source>charge all Lay bets</source>
-        <translation type="unfinished"></translation>
+        <translation>tüm Lay bahislerinden al</translation>
     </message>
     <message>
         <source>rolls per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>saatte atış</translation>
     </message>
     <message>
         <source>0 fastest to 11; 12 Auto-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>0 en hızlı - 11; 12 Auto-Roll</translation>
     </message>
     <message>
         <source>seconds between Auto-Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Roll&apos;lar arası saniye</translation>
     </message>
     <message>
         <source>rolls, 0 never</source>
-        <translation type="unfinished"></translation>
+        <translation>atış, 0 hiç</translation>
     </message>
     <message>
         <source>offered to a new player</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni oyuncuya önerilen</translation>
     </message>
     <message>
         <source>the ATM works</source>
-        <translation type="unfinished"></translation>
+        <translation>bankamatik çalışır</translation>
     </message>
     <message>
         <source>amount of an ATM action that names none</source>
-        <translation type="unfinished"></translation>
+        <translation>tutar söylenmeyen bankamatik işleminin tutarı</translation>
     </message>
     <message>
         <source>bits 1 refusals, 2 bankroll, 4 adjustments, 8 and 16 scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>bitler 1 ret, 2 bankroll, 4 düzeltme, 8 ve 16 betikler</translation>
     </message>
     <message>
         <source>amounts below a dollar are written in cents</source>
-        <translation type="unfinished"></translation>
+        <translation>bir doların altı sent olarak yazılır</translation>
     </message>
     <message>
         <source>checks of a bet are changed for the fewest; else they stay as they were bet</source>
-        <translation type="unfinished"></translation>
+        <translation>bahsin fişleri en aza bozulur; yoksa konduğu gibi kalır</translation>
     </message>
     <message>
         <source>the pointer goes to the default button of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>imleç kutunun varsayılan düğmesine gider</translation>
     </message>
     <message>
         <source>printing in colour</source>
-        <translation type="unfinished"></translation>
+        <translation>renkli yazdırma</translation>
     </message>
     <message>
         <source>how much the pointer tells</source>
-        <translation type="unfinished"></translation>
+        <translation>imlecin ne kadar söylediği</translation>
     </message>
     <message>
         <source>points: 9 small, 11 the desktop&apos;s own size, 13 large</source>
-        <translation type="unfinished"></translation>
+        <translation>punto: 9 küçük, 11 masaüstününki, 13 büyük</translation>
     </message>
     <message>
         <source>points</source>
-        <translation type="unfinished"></translation>
+        <translation>punto</translation>
     </message>
     <message>
         <source>how the dice move</source>
-        <translation type="unfinished"></translation>
+        <translation>zarların nasıl hareket ettiği</translation>
     </message>
     <message>
         <source>sound set, 0 none</source>
-        <translation type="unfinished"></translation>
+        <translation>ses takımı, 0 yok</translation>
     </message>
     <message>
         <source>sounds of scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>betiklerin sesleri</translation>
     </message>
     <message>
         <source>silence</source>
-        <translation type="unfinished"></translation>
+        <translation>sessizlik</translation>
     </message>
     <message>
         <source>advantage: zeros are decisions</source>
-        <translation type="unfinished"></translation>
+        <translation>avantaj: sıfırlar karar sayılır</translation>
     </message>
     <message>
         <source>0 theoretical vig, 1 action, 2 action and time</source>
-        <translation type="unfinished"></translation>
+        <translation>0 kuramsal kasa payı, 1 hacim, 2 hacim ve süre</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>yüzde</translation>
     </message>
     <message>
         <source>comps ignore percentage dice</source>
-        <translation type="unfinished"></translation>
+        <translation>comp&apos;lar yüzdeli zarlara bakmaz</translation>
     </message>
     <message>
         <source>generator number less 1</source>
-        <translation type="unfinished"></translation>
+        <translation>üreteç numarası eksi 1</translation>
     </message>
     <message>
         <source>the user is asked for seeds</source>
-        <translation type="unfinished"></translation>
+        <translation>tohumlar kullanıcıya sorulur</translation>
     </message>
     <message>
         <source>a new session seeds again</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni oturum yeniden tohumlar</translation>
     </message>
     <message>
         <source>the Events Log&apos;s master switch</source>
-        <translation type="unfinished"></translation>
+        <translation>olay günlüğünün ana anahtarı</translation>
     </message>
     <message>
         <source>Events Log class</source>
-        <translation type="unfinished"></translation>
+        <translation>olay günlüğü sınıfı</translation>
     </message>
     <message>
         <source>a new session clears the log</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni oturum günlüğü boşaltır</translation>
     </message>
     <message>
         <source>the view follows the rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>görünüm atışları izler</translation>
     </message>
     <message>
         <source>what becomes of a winner, 0 manual</source>
-        <translation type="unfinished"></translation>
+        <translation>kazanana ne olacağı, 0 elle</translation>
     </message>
     <message>
         <source>what becomes of a loser, 0 manual</source>
-        <translation type="unfinished"></translation>
+        <translation>kaybedene ne olacağı, 0 elle</translation>
     </message>
     <message>
         <source>amounts that pay whole</source>
-        <translation type="unfinished"></translation>
+        <translation>tam ödeyen tutarlar</translation>
     </message>
     <message>
         <source>full odds on Pass Line and Come</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass Line ve Come&apos;da tam odds</translation>
     </message>
     <message>
         <source>full odds on Don&apos;t Pass and Don&apos;t Come</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t Pass ve Don&apos;t Come&apos;da tam odds</translation>
     </message>
     <message>
         <source>Place and Buy on a covered number come down</source>
-        <translation type="unfinished"></translation>
+        <translation>örtülü sayıdaki Place ve Buy iner</translation>
     </message>
     <message>
         <source>the seat won&apos;t shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>yer zar atmaz</translation>
     </message>
     <message>
         <source>bets without money</source>
-        <translation type="unfinished"></translation>
+        <translation>parasız bahisler</translation>
     </message>
     <message>
         <source>new session: 0 carry, 1 amount, 2 ask</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni oturum: 0 taşı, 1 tutar, 2 sor</translation>
     </message>
     <message>
         <source>new session&apos;s bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni oturumun bankroll&apos;u</translation>
     </message>
     <message>
         <source>check denominations, ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>fiş değerleri, artan</translation>
     </message>
     <message>
         <source>what a bet pays, as in 7 to 5</source>
-        <translation type="unfinished"></translation>
+        <translation>bahsin ödediği, 7 to 5 gibi</translation>
     </message>
     <message>
         <source>Field by dice</source>
-        <translation type="unfinished"></translation>
+        <translation>zarlara göre Field</translation>
     </message>
     <message>
         <source>7 Point 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7 Point 7</translation>
     </message>
     <message>
         <source>Midway by dice</source>
-        <translation type="unfinished"></translation>
+        <translation>zarlara göre Midway</translation>
     </message>
     <message>
         <source>by points made + 1</source>
-        <translation type="unfinished"></translation>
+        <translation>yapılan point + 1&apos;e göre</translation>
     </message>
     <message>
         <source>by line wins + 1</source>
-        <translation type="unfinished"></translation>
+        <translation>çizgi kazancı + 1&apos;e göre</translation>
     </message>
     <message>
         <source>by different points made</source>
-        <translation type="unfinished"></translation>
+        <translation>yapılan farklı point&apos;lere göre</translation>
     </message>
     <message>
         <source>works on the come-out; seat 0 the house</source>
-        <translation type="unfinished"></translation>
+        <translation>come-out&apos;ta çalışır; yer 0 kasa</translation>
     </message>
     <message>
         <source>counts towards comps</source>
-        <translation type="unfinished"></translation>
+        <translation>comp&apos;lara sayılır</translation>
     </message>
     <message>
         <source>0 plus, 1 minus, 2 times, 3 divided by</source>
-        <translation type="unfinished"></translation>
+        <translation>0 artı, 1 eksi, 2 çarpı, 3 bölü</translation>
     </message>
     <message>
         <source>the value of the slot</source>
-        <translation type="unfinished"></translation>
+        <translation>yuvanın değeri</translation>
     </message>
     <message>
         <source>0 dollars, 1 percent, 2 to 6 units of a check</source>
-        <translation type="unfinished"></translation>
+        <translation>0 dolar, 1 yüzde, 2 - 6 bir fişin birimleri</translation>
     </message>
     <message>
         <source> Take Bet and Winnings</source>
-        <translation type="unfinished"></translation>
+        <translation> Bahsi ve kazancı al</translation>
     </message>
     <message>
         <source> Same Bet/Take Winnings</source>
-        <translation type="unfinished"></translation>
+        <translation> Aynı bahis/kazancı al</translation>
     </message>
     <message>
         <source> Press 1 Unit</source>
-        <translation type="unfinished"></translation>
+        <translation> 1 birim artır</translation>
     </message>
     <message>
         <source> Press Double</source>
-        <translation type="unfinished"></translation>
+        <translation> İkiye katla</translation>
     </message>
     <message>
         <source> Parlay</source>
-        <translation type="unfinished"></translation>
+        <translation> Parlay</translation>
     </message>
     <message>
         <source> Same Bet</source>
-        <translation type="unfinished"></translation>
+        <translation> Aynı bahis</translation>
     </message>
     <message>
         <source> Bet</source>
-        <translation type="unfinished"></translation>
+        <translation> Bahis</translation>
     </message>
     <message>
         <source> No Bet/Take Remainder (if any)</source>
-        <translation type="unfinished"></translation>
+        <translation> Bahis yok/kalanı al (varsa)</translation>
     </message>
     <message>
         <source> Bet Remainder (if any)</source>
-        <translation type="unfinished"></translation>
+        <translation> Kalanı oyna (varsa)</translation>
     </message>
     <message>
         <source> Same Bet Plus 1 Unit</source>
-        <translation type="unfinished"></translation>
+        <translation> Aynı bahis artı 1 birim</translation>
     </message>
     <message>
         <source> Double Bet</source>
-        <translation type="unfinished"></translation>
+        <translation> Bahsi ikiye katla</translation>
     </message>
     <message>
         <source> Show as percentage</source>
-        <translation type="unfinished"></translation>
+        <translation> Yüzde olarak göster</translation>
     </message>
     <message>
         <source> Show as +/- from true %</source>
-        <translation type="unfinished"></translation>
+        <translation> Gerçek %&apos;den +/- olarak göster</translation>
     </message>
     <message>
         <source> Show as # rolls out of:</source>
-        <translation type="unfinished"></translation>
+        <translation> Şu kadar atışta sayı olarak göster:</translation>
     </message>
     <message>
         <source> Show as +/- from true rolls out of:</source>
-        <translation type="unfinished"></translation>
+        <translation> Gerçek atışlardan +/- olarak göster, toplam:</translation>
     </message>
     <message>
         <source> About the 1-6 axis</source>
-        <translation type="unfinished"></translation>
+        <translation> 1-6 ekseni çevresinde</translation>
     </message>
     <message>
         <source> About the 2-5 axis</source>
-        <translation type="unfinished"></translation>
+        <translation> 2-5 ekseni çevresinde</translation>
     </message>
     <message>
         <source> About the 3-4 axis</source>
-        <translation type="unfinished"></translation>
+        <translation> 3-4 ekseni çevresinde</translation>
     </message>
     <message>
         <source>Fair dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Adil zarlar</translation>
     </message>
     <message>
         <source>Shooter on the 1-6 axis, 10%</source>
-        <translation type="unfinished"></translation>
+        <translation>Atıcı 1-6 ekseninde, yüzde 10</translation>
     </message>
     <message>
         <source>Loaded dice, 20% sixes</source>
-        <translation type="unfinished"></translation>
+        <translation>Hileli zarlar, yüzde 20 altı</translation>
     </message>
     <message>
         <source>18% sevens</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde 18 yedi</translation>
     </message>
     <message>
         <source>15% sevens</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde 15 yedi</translation>
     </message>
     <message>
         <source>Free Form Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Serbest biçimli zarlar</translation>
     </message>
     <message>
         <source>Percentage Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzdeli zarlar</translation>
     </message>
     <message>
         <source>&amp;11 basic numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;11 temel sayı</translation>
     </message>
     <message>
         <source>&amp;36 combos (triangle)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;36 birleşim (üçgen)</translation>
     </message>
     <message>
         <source>3&amp;6 combos (box)</source>
-        <translation type="unfinished"></translation>
+        <translation>3&amp;6 birleşim (kutu)</translation>
     </message>
     <message>
         <source>&amp;Individual dice faces</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tek tek zar yüzleri</translation>
     </message>
     <message>
         <source>Set 1st checkstack to #</source>
-        <translation type="unfinished"></translation>
+        <translation>1. CheckStack&apos;i şu numaraya ayarla</translation>
     </message>
     <message>
         <source>Set 2nd checkstack to #</source>
-        <translation type="unfinished"></translation>
+        <translation>2. CheckStack&apos;i şu numaraya ayarla</translation>
     </message>
     <message>
         <source>Set 3rd checkstack to #</source>
-        <translation type="unfinished"></translation>
+        <translation>3. CheckStack&apos;i şu numaraya ayarla</translation>
     </message>
     <message>
         <source>Set 4th checkstack to #</source>
-        <translation type="unfinished"></translation>
+        <translation>4. CheckStack&apos;i şu numaraya ayarla</translation>
     </message>
     <message>
         <source># Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış sayısı</translation>
     </message>
     <message>
         <source># Bets Decided</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuçlanan bahis sayısı</translation>
     </message>
     <message>
         <source># Bets Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanılan bahis sayısı</translation>
     </message>
     <message>
         <source># Bets Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaybedilen bahis sayısı</translation>
     </message>
     <message>
         <source># Bets Won/Lost (Net)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanılan/kaybedilen sayı (net)</translation>
     </message>
     <message>
         <source>$ Bets Decided (Handle)</source>
-        <translation type="unfinished"></translation>
+        <translation>$ sonuçlanan bahis (hacim)</translation>
     </message>
     <message>
         <source>$ Bets Won</source>
-        <translation type="unfinished"></translation>
+        <translation>$ kazanılan bahis</translation>
     </message>
     <message>
         <source>$ Bets Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>$ kaybedilen bahis</translation>
     </message>
     <message>
         <source>$ Bets Won/Lost (Net)</source>
-        <translation type="unfinished"></translation>
+        <translation>$ kazanılan/kaybedilen (net)</translation>
     </message>
     <message>
         <source>% Won or Lost (HA)</source>
-        <translation type="unfinished"></translation>
+        <translation>% kazanılan ya da kaybedilen (HA)</translation>
     </message>
     <message>
         <source>Invested bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Yatırılan bankroll</translation>
     </message>
     <message>
         <source>Ending bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Son bankroll</translation>
     </message>
     <message>
         <source>Sum</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medyan</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mod</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüksek</translation>
     </message>
     <message>
         <source>Mid</source>
-        <translation type="unfinished"></translation>
+        <translation>Orta</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Düşük</translation>
     </message>
     <message>
         <source>Range</source>
-        <translation type="unfinished"></translation>
+        <translation>Aralık</translation>
     </message>
     <message>
         <source>Variance</source>
-        <translation type="unfinished"></translation>
+        <translation>Varyans</translation>
     </message>
     <message>
         <source>Std Dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Std sapma</translation>
     </message>
     <message>
         <source>Skew</source>
-        <translation type="unfinished"></translation>
+        <translation>Çarpıklık</translation>
     </message>
     <message>
         <source>Kurtosis</source>
-        <translation type="unfinished"></translation>
+        <translation>Basıklık</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Özet</translation>
     </message>
     <message>
         <source>Hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Eller</translation>
     </message>
     <message>
         <source>Bet Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis sonuçları</translation>
     </message>
     <message>
         <source>Bet Trends</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis eğilimleri</translation>
     </message>
     <message>
         <source>Roll Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış toplamları</translation>
     </message>
     <message>
         <source>Roll Frequencies</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış sıklıkları</translation>
     </message>
     <message>
         <source>Current hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdiki el</translation>
     </message>
     <message>
         <source>Last hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Son el</translation>
     </message>
     <message>
         <source>Current session</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdiki oturum</translation>
     </message>
     <message>
         <source>Last session</source>
-        <translation type="unfinished"></translation>
+        <translation>Son oturum</translation>
     </message>
     <message>
         <source>All sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm oturumlar</translation>
     </message>
     <message>
         <source>No bets selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis seçilmedi</translation>
     </message>
     <message>
         <source>Resolved</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuçlanan</translation>
     </message>
     <message>
         <source>Tendered</source>
-        <translation type="unfinished"></translation>
+        <translation>Konan</translation>
     </message>
     <message>
         <source>Average $</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama $</translation>
     </message>
     <message>
         <source>Avg # / hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Saatte ort. sayı</translation>
     </message>
     <message>
         <source>Avg $ / hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Saatte ort. $</translation>
     </message>
     <message>
         <source>Total #</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam sayı</translation>
     </message>
     <message>
         <source>Total $</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam $</translation>
     </message>
     <message>
         <source>High $</source>
-        <translation type="unfinished"></translation>
+        <translation>En yüksek $</translation>
     </message>
     <message>
         <source>Low $</source>
-        <translation type="unfinished"></translation>
+        <translation>En düşük $</translation>
     </message>
     <message>
         <source>Last $</source>
-        <translation type="unfinished"></translation>
+        <translation>Son $</translation>
     </message>
     <message>
         <source># rolls since last</source>
-        <translation type="unfinished"></translation>
+        <translation>O zamandan beri atış</translation>
     </message>
     <message>
         <source>Last roll #</source>
-        <translation type="unfinished"></translation>
+        <translation>Son atış no</translation>
     </message>
     <message>
         <source>Last roll $</source>
-        <translation type="unfinished"></translation>
+        <translation>Son atış $</translation>
     </message>
     <message>
         <source>Current #</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdiki sayı</translation>
     </message>
     <message>
         <source>Current $</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdiki $</translation>
     </message>
     <message>
         <source>Prior roll #</source>
-        <translation type="unfinished"></translation>
+        <translation>Önceki atış no</translation>
     </message>
     <message>
         <source>Prior roll $</source>
-        <translation type="unfinished"></translation>
+        <translation>Önceki atış $</translation>
     </message>
     <message>
         <source>Wagers #</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis sayısı</translation>
     </message>
     <message>
         <source>Wagers $</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis $</translation>
     </message>
     <message>
         <source>Wins #</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanç sayısı</translation>
     </message>
     <message>
         <source>Losses #</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıp sayısı</translation>
     </message>
     <message>
         <source>Net $</source>
-        <translation type="unfinished"></translation>
+        <translation>Net $</translation>
     </message>
     <message>
         <source>Net %</source>
-        <translation type="unfinished"></translation>
+        <translation>Net %</translation>
     </message>
     <message>
         <source>Wagers</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisler</translation>
     </message>
     <message>
         <source>Wins</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazançlar</translation>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıplar</translation>
     </message>
     <message>
         <source>Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Net</translation>
     </message>
     <message>
         <source>Expected value $</source>
-        <translation type="unfinished"></translation>
+        <translation>Beklenen değer $</translation>
     </message>
     <message>
         <source>in a row</source>
-        <translation type="unfinished"></translation>
+        <translation>üst üste</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam</translation>
     </message>
     <message>
         <source>Points</source>
-        <translation type="unfinished"></translation>
+        <translation>Point&apos;ler</translation>
     </message>
     <message>
         <source>Naturals</source>
-        <translation type="unfinished"></translation>
+        <translation>Natural&apos;lar</translation>
     </message>
     <message>
         <source>c/o rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>c/o atışları</translation>
     </message>
     <message>
         <source>passes</source>
-        <translation type="unfinished"></translation>
+        <translation>passes</translation>
     </message>
     <message>
         <source>misses</source>
-        <translation type="unfinished"></translation>
+        <translation>misses</translation>
     </message>
     <message>
         <source>Total rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam atış</translation>
     </message>
     <message>
         <source>Total hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam el</translation>
     </message>
     <message>
         <source>Most rolls in a hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir elde en çok atış</translation>
     </message>
     <message>
         <source>Most c/o rolls in a hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir elde en çok c/o atışı</translation>
     </message>
     <message>
         <source>Most passes in a hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir elde en çok passes</translation>
     </message>
     <message>
         <source>Most misses in a hand</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir elde en çok misses</translation>
     </message>
     <message>
         <source>Avg rolls per hand</source>
-        <translation type="unfinished"></translation>
+        <translation>El başına ort. atış</translation>
     </message>
     <message>
         <source>Avg c/o rolls per hand</source>
-        <translation type="unfinished"></translation>
+        <translation>El başına ort. c/o atışı</translation>
     </message>
     <message>
         <source>Avg passes per hand</source>
-        <translation type="unfinished"></translation>
+        <translation>El başına ort. passes</translation>
     </message>
     <message>
         <source>Avg misses per hand</source>
-        <translation type="unfinished"></translation>
+        <translation>El başına ort. misses</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>değer</translation>
     </message>
     <message>
         <source>Total session rolls:</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumun toplam atışı:</translation>
     </message>
     <message>
         <source>Total rolls this selection:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu seçimin toplam atışı:</translation>
     </message>
     <message>
         <source># rolls since last rolled:</source>
-        <translation type="unfinished"></translation>
+        <translation>Son gelişinden beri atış:</translation>
     </message>
     <message>
         <source>Actual % rolled:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerçekte gelen %:</translation>
     </message>
     <message>
         <source>Skewed probable %:</source>
-        <translation type="unfinished"></translation>
+        <translation>Çarpık olasılık %:</translation>
     </message>
     <message>
         <source>True probable %:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerçek olasılık %:</translation>
     </message>
     <message>
         <source>Average # of rolls to achieve:</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelmesi için ortalama atış:</translation>
     </message>
     <message>
         <source>Rolls to come again, and how often</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeniden gelene dek atış, ve kaç kez</translation>
     </message>
     <message>
         <source>Number %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayı %1</translation>
     </message>
     <message>
         <source>Numbers %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılar %1</translation>
     </message>
     <message>
         <source>Any %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Herhangi %1</translation>
     </message>
     <message>
         <source>Hard %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hard %1</translation>
     </message>
     <message>
         <source>Die %1, face %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar %1, yüz %2</translation>
     </message>
     <message>
         <source>%1 or %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya da %2</translation>
     </message>
     <message>
         <source>language of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>pencerenin dili</translation>
     </message>
 </context>
 <context>
     <name>Files</name>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Dışa aktar</translation>
     </message>
     <message>
         <source>Comma-separated values (*.csv);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgülle ayrılmış değerler (*.csv);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Export Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Resmi dışa aktar</translation>
     </message>
     <message>
         <source>PNG pictures (*.png);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG resimleri (*.png);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>SVG drawings (*.svg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>SVG çizimleri (*.svg);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save as PDF</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF olarak kaydet</translation>
     </message>
     <message>
         <source>PDF files (*.pdf);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>PDF dosyaları (*.pdf);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Open Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğü aç</translation>
     </message>
     <message>
         <source>Events log file (*.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğü dosyası (*.txt);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Events Log As</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğünü farklı kaydet</translation>
     </message>
     <message>
         <source>Open Session File</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum dosyası aç</translation>
     </message>
     <message>
         <source>Session files (*.crp);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum dosyaları (*.crp);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Session File As</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum dosyasını farklı kaydet</translation>
     </message>
     <message>
         <source>Open Auto-Bet File</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet dosyası aç</translation>
     </message>
     <message>
         <source>Auto-bet files (*.bet);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet dosyaları (*.bet);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Auto-Bet File As</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet dosyasını farklı kaydet</translation>
     </message>
     <message>
         <source>Select Auto-Bet File for Hot-Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Kısayol tuşu için Auto-Bet dosyası seç</translation>
     </message>
     <message>
         <source>Open Probability File</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık dosyası aç</translation>
     </message>
     <message>
         <source>Probability file (*.prb);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık dosyası (*.prb);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Probability File As</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık dosyasını farklı kaydet</translation>
     </message>
     <message>
         <source>Open Dice Roll File  or  Enter Name For A New File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyası aç  ya da  yeni dosyanın adını yaz</translation>
     </message>
     <message>
         <source>Dice roll file (*.rol);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyası (*.rol);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Copy To Dice Roll File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasına kopyala</translation>
     </message>
     <message>
         <source>Copy To Roll File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasına kopyala</translation>
     </message>
     <message>
         <source>Copy Dice Rolls To Text File</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışları metin dosyasına kopyala</translation>
     </message>
     <message>
         <source>Text files (*.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin dosyaları (*.txt);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Copy To Text File</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin dosyasına kopyala</translation>
     </message>
     <message>
         <source>Paste From Dice Roll File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasından yapıştır</translation>
     </message>
     <message>
         <source>Paste From Ascii/Text File</source>
-        <translation type="unfinished"></translation>
+        <translation>ASCII/metin dosyasından yapıştır</translation>
     </message>
     <message>
         <source>RNG Seed</source>
-        <translation type="unfinished"></translation>
+        <translation>Üreteç tohumu</translation>
     </message>
     <message>
         <source>Auto-bet files (*.bet);;Auto-bet &amp; text files (*.bet *.txt);;Text files (*.txt);;All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet dosyaları (*.bet);;Auto-Bet ve metin dosyaları (*.bet *.txt);;Metin dosyaları (*.txt);;Tüm dosyalar (*.*)</translation>
     </message>
     <message>
         <source>Open House Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasa kuralları aç</translation>
     </message>
     <message>
         <source>House rules (*.txt);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasa kuralları (*.txt);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save House Rules As</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasa kurallarını farklı kaydet</translation>
     </message>
     <message>
         <source>Save Laboratory Report As</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar raporunu farklı kaydet</translation>
     </message>
     <message>
         <source>Web pages (*.html);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Web sayfaları (*.html);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Dice Roll File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyası</translation>
     </message>
     <message>
         <source>Record Dice Rolls During Game Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyun sırasında atışları kaydet</translation>
     </message>
     <message>
         <source>Playback Dice Rolls During Game Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyun sırasında atışları oynat</translation>
     </message>
     <message>
         <source>Record Dice Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışları kaydet</translation>
     </message>
     <message>
         <source>Print Dice Roll File</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyasını yazdır</translation>
     </message>
     <message>
         <source>Print Dice Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışları yazdır</translation>
     </message>
     <message>
         <source>Open Sessions Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlüğü aç</translation>
     </message>
     <message>
         <source>Sessions logs (*.slg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlükleri (*.slg);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Sessions Log As</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlüğünü farklı kaydet</translation>
+    </message>
+</context>
+<context>
+    <name>Guide</name>
+    <message>
+        <source>Click a + to join</source>
+        <translation>Katılmak için bir + işaretine tıkla</translation>
+    </message>
+    <message>
+        <source>Choose a check, click PASS LINE</source>
+        <translation>Bir fiş seç, PASS LINE&apos;a tıkla</translation>
+    </message>
+    <message>
+        <source>Roll</source>
+        <translation>Zar at</translation>
+    </message>
+</context>
+<context>
+    <name>HelpFigures</name>
+    <message>
+        <source>as odds on the point</source>
+        <translation>point&apos;teki odds gibi</translation>
+    </message>
+    <message>
+        <source>%1, less %2% vig</source>
+        <translation>%1, eksi yüzde %2 vig</translation>
+    </message>
+    <message>
+        <source>Bet</source>
+        <translation>Bahis</translation>
+    </message>
+    <message>
+        <source>Pays</source>
+        <translation>Öder</translation>
+    </message>
+    <message>
+        <source>House edge</source>
+        <translation>Kasa payı</translation>
+    </message>
+    <message>
+        <source>Edge a roll</source>
+        <translation>Atış başına pay</translation>
+    </message>
+    <message>
+        <source>Rolls to a decision</source>
+        <translation>Sonuca dek atış</translation>
+    </message>
+    <message>
+        <source>What comes</source>
+        <translation>Ne gelir</translation>
+    </message>
+    <message>
+        <source>nothing, and stays</source>
+        <translation>hiçbir şey, kalır</translation>
+    </message>
+    <message>
+        <source>loses</source>
+        <translation>kaybeder</translation>
+    </message>
+    <message>
+        <source>loses in part</source>
+        <translation>bir kısmını kaybeder</translation>
+    </message>
+    <message>
+        <source>Rule</source>
+        <translation>Kural</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Şimdi</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Ayar</translation>
+    </message>
+    <message>
+        <source>House</source>
+        <translation>Kasa</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Kurallar</translation>
+    </message>
+    <message>
+        <source>Command line</source>
+        <translation>Komut satırı</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Komut</translation>
+    </message>
+    <message>
+        <source>Key</source>
+        <translation>Tuş</translation>
     </message>
 </context>
 <context>
     <name>Laboratory</name>
     <message>
         <source>Laboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar</translation>
     </message>
     <message>
         <source>At the table: session %1 of %2, %3 rolls to %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada: oturum %1 / %2, %4 için %3 atış</translation>
     </message>
     <message>
         <source>%1: no session rolled the dice: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hiçbir oturum zar atmadı: %2</translation>
     </message>
     <message>
         <source>%1: its script has errors: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: betiğinde hatalar var: %2</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
     <message>
         <source>%1 ends a session at %2 on average: between %3 and %4, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bir oturumu ortalama %2 ile bitirir: %3 ile %4 arası, yüzde 95 kesin.</translation>
     </message>
     <message>
         <source>%1 ends a session %2 better than %3 on the same dice: between %4 and %5, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 aynı zarlarla bir oturumu %3 sisteminden %2 daha iyi bitirir: %4 ile %5 arası, yüzde 95 kesin.</translation>
     </message>
     <message>
         <source>Neither is sure to be better: %1 less %2 is %3 a session, between %4 and %5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiçbiri kesin olarak daha iyi değil: %1 eksi %2 oturum başına %3, %4 ile %5 arası.</translation>
     </message>
     <message>
         <source>start %1</source>
-        <translation type="unfinished"></translation>
+        <translation>başlangıç %1</translation>
     </message>
     <message>
         <source>goal +%1</source>
-        <translation type="unfinished"></translation>
+        <translation>hedef +%1</translation>
     </message>
     <message>
         <source>loss limit -%1</source>
-        <translation type="unfinished"></translation>
+        <translation>kayıp sınırı -%1</translation>
     </message>
     <message>
         <source>at most %1 rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>en çok %1 atış</translation>
     </message>
     <message>
         <source>at most %1 hands</source>
-        <translation type="unfinished"></translation>
+        <translation>en çok %1 el</translation>
     </message>
     <message>
         <source>%1 sessions each, %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>her biri %1 oturum, %2.</translation>
     </message>
     <message>
         <source>%1 would give ±%2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, ±%2 verirdi.</translation>
     </message>
     <message>
         <source>Goal reached</source>
-        <translation type="unfinished"></translation>
+        <translation>Hedefe ulaştı</translation>
     </message>
     <message>
         <source>Loss limit met</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıp sınırına ulaştı</translation>
     </message>
     <message>
         <source>Ruined</source>
-        <translation type="unfinished"></translation>
+        <translation>Battı</translation>
     </message>
     <message>
         <source>Stopped by itself</source>
-        <translation type="unfinished"></translation>
+        <translation>Kendi durdu</translation>
     </message>
     <message>
         <source>Ended ahead</source>
-        <translation type="unfinished"></translation>
+        <translation>Önde bitti</translation>
     </message>
     <message>
         <source>Ended even</source>
-        <translation type="unfinished"></translation>
+        <translation>Başa baş bitti</translation>
     </message>
     <message>
         <source>Ended behind</source>
-        <translation type="unfinished"></translation>
+        <translation>Geride bitti</translation>
     </message>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama</translation>
     </message>
     <message>
         <source>Mean without luck</source>
-        <translation type="unfinished"></translation>
+        <translation>Şanssız ortalama</translation>
     </message>
     <message>
         <source>Std Dev</source>
-        <translation type="unfinished"></translation>
+        <translation>Std sapma</translation>
     </message>
     <message>
         <source>Median</source>
-        <translation type="unfinished"></translation>
+        <translation>Medyan</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Düşük</translation>
     </message>
     <message>
         <source>5% quantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde 5&apos;lik dilim</translation>
     </message>
     <message>
         <source>95% quantile</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde 95&apos;lik dilim</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüksek</translation>
     </message>
     <message>
         <source>Mean drawdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama düşüş</translation>
     </message>
     <message>
         <source>Ahead</source>
-        <translation type="unfinished"></translation>
+        <translation>Önde</translation>
     </message>
     <message>
         <source>Goal</source>
-        <translation type="unfinished"></translation>
+        <translation>Hedef</translation>
     </message>
     <message>
         <source>Mean rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama atış</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>Ölçü</translation>
     </message>
     <message>
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem</translation>
     </message>
     <message>
         <source>loss limit %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kayıp sınırı %1</translation>
     </message>
     <message>
         <source>goal %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hedef %1</translation>
     </message>
     <message>
         <source># sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum sayısı</translation>
     </message>
     <message>
         <source>Line: 1% to 99%.  Thick: 5% to 95%.  Box: the middle half, bar at the median.  Diamond: mean.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çizgi: yüzde 1 - 99.  Kalın: yüzde 5 - 95.  Kutu: orta yarı, çubuk medyanda.  Baklava: ortalama.</translation>
     </message>
     <message>
         <source>Only sessions with a most number of rolls are looked at on the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yolda yalnız atış sayısı sınırlı oturumlara bakılır.</translation>
     </message>
     <message>
         <source>Won or lost, $</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanılan ya da kaybedilen, $</translation>
     </message>
     <message>
         <source>Rolls.  Line: median.  Inner band: the middle half.  Outer band: 5% to 95%.</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar.  Çizgi: medyan.  İç bant: orta yarı.  Dış bant: yüzde 5 - 95.</translation>
     </message>
     <message>
         <source>Result of a session, $</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir oturumun sonucu, $</translation>
     </message>
     <message>
         <source>Bankrolls on the way</source>
-        <translation type="unfinished"></translation>
+        <translation>Yolda bankroll&apos;lar</translation>
     </message>
     <message>
         <source>How sessions end, with 95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar nasıl biter, yüzde 95 sınırlarıyla</translation>
     </message>
     <message>
         <source>Nothing has been played yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Henüz bir şey oynanmadı.</translation>
     </message>
     <message>
         <source>%1 sessions (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oturum (%2)</translation>
     </message>
     <message>
         <source>%1 to %2: A %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2: A %3</translation>
     </message>
     <message>
         <source>, B %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, B %1</translation>
     </message>
 </context>
 <context>
     <name>PickList</name>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü seç</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hiçbirini seçme</translation>
+    </message>
+</context>
+<context>
+    <name>Plates</name>
+    <message>
+        <source>1 Bet:</source>
+        <translation>1 bahis:</translation>
+    </message>
+    <message>
+        <source>%1 Bets:</source>
+        <translation>%1 bahis:</translation>
+    </message>
+    <message>
+        <source>Won:</source>
+        <translation>Kazanç:</translation>
+    </message>
+    <message>
+        <source>Lost:</source>
+        <translation>Kayıp:</translation>
+    </message>
+    <message>
+        <source>Even:</source>
+        <translation>Eşit:</translation>
+    </message>
+    <message>
+        <source>Rail:</source>
+        <translation>Ray:</translation>
+    </message>
+    <message>
+        <source>Bankroll:</source>
+        <translation>Bankroll:</translation>
     </message>
 </context>
 <context>
     <name>PrintHeading</name>
     <message>
         <source>Game file:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyun dosyası:  %1</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>adsız</translation>
     </message>
     <message>
         <source>Player:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu:  %1</translation>
     </message>
 </context>
 <context>
     <name>Printing</name>
     <message>
         <source>Page %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayfa %1 / %2</translation>
     </message>
     <message>
         <source>The pages are being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayfalar hazırlanıyor.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Print</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazdır</translation>
+    </message>
+    <message>
+        <source>The rows are being written.</source>
+        <translation>Satırlar yazılıyor.</translation>
+    </message>
+    <message>
+        <source>The rows are being copied.</source>
+        <translation>Satırlar kopyalanıyor.</translation>
     </message>
 </context>
 <context>
     <name>ProbabilityPicture</name>
     <message>
         <source>Die 1 down, die 2 across: % points from fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1 aşağı, zar 2 yana: adilden % puan farkı</translation>
     </message>
     <message>
         <source>Totals: filled as set, hatched fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplamlar: dolu ayarlanan, taralı adil</translation>
     </message>
     <message>
         <source>How the dice differ from fair ones</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarların adil zarlardan farkı</translation>
     </message>
 </context>
 <context>
     <name>ProbabilityTable</name>
     <message>
         <source>Probability</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık</translation>
     </message>
     <message>
         <source>Die 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1</translation>
     </message>
     <message>
         <source>Totals</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplamlar</translation>
     </message>
     <message>
         <source>Die 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 2</translation>
     </message>
     <message>
         <source>Total %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam %1</translation>
     </message>
     <message>
         <source>Die 1 shows %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1 %1 gösterir</translation>
     </message>
     <message>
         <source>Die 2 shows %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 2 %1 gösterir</translation>
     </message>
     <message>
         <source>Die 1 shows %1 and die 2 shows %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1 %1, zar 2 %2 gösterir</translation>
     </message>
     <message>
         <source>%1: %2, locked</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2, kilitli</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>%1 (not saved)</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (kaydedilmedi)</translation>
     </message>
     <message>
         <source>Die %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar %1</translation>
     </message>
     <message>
         <source>Effectiveness %:</source>
-        <translation type="unfinished"></translation>
+        <translation>Etkinlik %:</translation>
     </message>
     <message>
         <source>Die %1, shooter&apos;s effectiveness in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar %1, atıcının yüzde etkinliği</translation>
     </message>
     <message>
         <source>Shooter&apos;s Effectiveness</source>
-        <translation type="unfinished"></translation>
+        <translation>Atıcının etkinliği</translation>
     </message>
     <message>
         <source>In so many percent of the rolls a die turns about its axis, so that the two faces at the axis&apos; ends never show. All cells are unlocked first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışların bu kadar yüzdesinde zar ekseni çevresinde döner, böylece eksenin uçlarındaki iki yüz hiç gelmez. Önce tüm hücrelerin kilidi açılır.</translation>
     </message>
     <message>
         <source>&amp;Accept</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kabul</translation>
     </message>
 </context>
 <context>
     <name>Reports</name>
     <message>
         <source>* beyond 2 standard errors</source>
-        <translation type="unfinished"></translation>
+        <translation>* 2 standart hatadan fazla</translation>
     </message>
     <message>
         <source>PERCENT</source>
-        <translation type="unfinished"></translation>
+        <translation>YÜZDE</translation>
     </message>
     <message>
         <source>Actual</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerçek</translation>
     </message>
     <message>
         <source>Probable (skewed)</source>
-        <translation type="unfinished"></translation>
+        <translation>Olası (çarpık)</translation>
     </message>
     <message>
         <source>Probable</source>
-        <translation type="unfinished"></translation>
+        <translation>Olası</translation>
     </message>
     <message>
         <source>TIMES</source>
-        <translation type="unfinished"></translation>
+        <translation>KEZ</translation>
     </message>
     <message>
         <source>rolls to come again</source>
-        <translation type="unfinished"></translation>
+        <translation>yeniden gelene dek atış</translation>
     </message>
     <message>
         <source>&amp;Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Standart</translation>
     </message>
     <message>
         <source>&amp;Green</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeşil</translation>
     </message>
     <message>
         <source>&amp;Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mavi</translation>
     </message>
     <message>
         <source>&amp;Red</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kırmızı</translation>
     </message>
     <message>
         <source>G&amp;old</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Altın</translation>
     </message>
     <message>
         <source>&amp;Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;or</translation>
     </message>
     <message>
         <source>&amp;Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Turkuaz</translation>
     </message>
     <message>
         <source>Or&amp;ange</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;uruncu</translation>
     </message>
     <message>
         <source>Gr&amp;ey</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gri</translation>
     </message>
     <message>
         <source>&amp;White</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beyaz</translation>
     </message>
     <message>
         <source>Blac&amp;k</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Siyah</translation>
     </message>
     <message>
         <source>No players present</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada oyuncu yok</translation>
     </message>
     <message>
         <source>No players selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu seçilmedi</translation>
     </message>
     <message>
         <source>All players selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm oyuncular seçildi</translation>
     </message>
     <message>
         <source>1 player selected</source>
-        <translation type="unfinished"></translation>
+        <translation>1 oyuncu seçildi</translation>
     </message>
     <message>
         <source>%1 players selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oyuncu seçildi</translation>
     </message>
     <message>
         <source>%1, more than two standard errors off</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, iki standart hatadan fazla uzak</translation>
     </message>
     <message>
         <source>A click on a heading, or Enter, sorts by the column</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir başlığa tıklamak ya da Enter o sütuna göre sıralar</translation>
     </message>
     <message>
         <source>Percentages</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzdeler</translation>
     </message>
     <message>
         <source>Skewed</source>
-        <translation type="unfinished"></translation>
+        <translation>Çarpık</translation>
     </message>
     <message>
         <source>&amp;11 basic numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;11 temel sayı</translation>
     </message>
     <message>
         <source>&amp;21 distinguishable combos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;21 ayırt edilebilir birleşim</translation>
     </message>
     <message>
         <source>&amp;36 unique combos</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;36 tekil birleşim</translation>
     </message>
     <message>
         <source>&amp;Dice faces</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zar yüzleri</translation>
     </message>
     <message>
         <source>Rolls that count</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılan atışlar</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Outcome of a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir atışın sonucu</translation>
     </message>
     <message>
         <source>Players</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncular</translation>
     </message>
     <message>
         <source>Players who count</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılan oyuncular</translation>
     </message>
     <message>
         <source>Bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisler</translation>
     </message>
     <message>
         <source>Bets that count</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılan bahisler</translation>
     </message>
     <message>
         <source>Probabilities of the percentage dice, else of true dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzdeli zarların olasılıkları, yoksa gerçek zarların</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçenekler</translation>
     </message>
     <message>
         <source>&amp;Each bet in a row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Her bahis bir satırda</translation>
     </message>
     <message>
         <source>Use thousands &amp;separator</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Binlik ayırıcı kullan</translation>
     </message>
     <message>
         <source>Font &amp;bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kalın yazı</translation>
     </message>
     <message>
         <source>Font &amp;italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eğik yazı</translation>
     </message>
     <message>
         <source>Display &amp;totals</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Toplamları göster</translation>
     </message>
     <message>
         <source>&amp;Hide probability bars</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olasılık çubuklarını gizle</translation>
     </message>
     <message>
         <source>Graph &amp;background color ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik &amp;arka plan rengi ...</translation>
     </message>
     <message>
         <source>&amp;Graph bars color ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik ç&amp;ubuk rengi ...</translation>
     </message>
     <message>
         <source>Graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik</translation>
     </message>
     <message>
         <source>The table below it has its figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Rakamları alttaki tabloda</translation>
     </message>
     <message>
         <source>Selected player</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili oyuncu</translation>
     </message>
     <message>
         <source>* more than two standard errors from the probable</source>
-        <translation type="unfinished"></translation>
+        <translation>* olasıdan iki standart hatadan fazla</translation>
     </message>
 </context>
 <context>
     <name>RollChart</name>
     <message>
         <source>Distribution of the totals: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplamların dağılımı: %1</translation>
     </message>
     <message>
         <source>%1: %2 of %3 rolls, %4%, fair dice %5%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %3 atıştan %2, yüzde %4, adil zarlarda yüzde %5</translation>
     </message>
     <message>
         <source>%1, more than two standard errors away</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, iki standart hatadan fazla uzak</translation>
     </message>
     <message>
         <source>%1 values are no rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 değer atış değil</translation>
     </message>
 </context>
 <context>
     <name>RunControls</name>
     <message>
         <source>Stop &amp;Auto-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auto-Roll durdur</translation>
     </message>
     <message>
         <source>Stop &amp;Turbo-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Turbo-Roll durdur</translation>
     </message>
     <message>
         <source>Start &amp;Auto-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Auto-Roll başlat</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Turbo-Roll başlat</translation>
     </message>
     <message>
         <source>Auto-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Roll</translation>
     </message>
     <message>
         <source>Full speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam hız</translation>
     </message>
     <message>
         <source>%1 s a roll</source>
-        <translation type="unfinished"></translation>
+        <translation>atış başına %1 s</translation>
     </message>
 </context>
 <context>
     <name>ScriptLexer</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin</translation>
     </message>
     <message>
         <source>Logic</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantık</translation>
     </message>
     <message>
         <source>Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Değişken</translation>
     </message>
     <message>
         <source>Function</source>
-        <translation type="unfinished"></translation>
+        <translation>İşlev</translation>
     </message>
     <message>
         <source>Modifier</source>
-        <translation type="unfinished"></translation>
+        <translation>Niteleyici</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Eylem</translation>
     </message>
     <message>
         <source>Number</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayı</translation>
     </message>
     <message>
         <source>Sign</source>
-        <translation type="unfinished"></translation>
+        <translation>İşaret</translation>
     </message>
     <message>
         <source>Text in quotes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tırnak içinde metin</translation>
     </message>
     <message>
         <source>Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>Açıklama</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Unknown word</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilinmeyen sözcük</translation>
     </message>
 </context>
 <context>
     <name>Sounds</name>
     <message>
         <source>Missing sound files: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksik ses dosyaları: %1</translation>
+    </message>
+</context>
+<context>
+    <name>TableAccessible</name>
+    <message>
+        <source>%1, left end</source>
+        <translation>%1, sol uç</translation>
+    </message>
+    <message>
+        <source>%1, right end</source>
+        <translation>%1, sağ uç</translation>
+    </message>
+    <message>
+        <source>Seat %1, open</source>
+        <translation>Yer %1, boş</translation>
+    </message>
+    <message>
+        <source>Seat %1, %2</source>
+        <translation>Yer %1, %2</translation>
+    </message>
+    <message>
+        <source>Checks of %1 on %2</source>
+        <translation>%1 oyuncusunun %2 üstündeki fişleri</translation>
+    </message>
+    <message>
+        <source>Last roll</source>
+        <translation>Son atış</translation>
+    </message>
+    <message>
+        <source>Take down</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Bet</source>
+        <translation>Bahis koy</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation>Katıl</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2 (%3-%4)</source>
+        <translation>Atış %1: %2 (%3-%4)</translation>
+    </message>
+    <message>
+        <source>seven-out, the point was %1</source>
+        <translation>seven-out, point %1 idi</translation>
+    </message>
+    <message>
+        <source>the point %1 is made</source>
+        <translation>%1 point&apos;i yapıldı</translation>
+    </message>
+    <message>
+        <source>the point is %1</source>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>the point stays %1</source>
+        <translation>point %1 kalır</translation>
+    </message>
+    <message>
+        <source>%1 won %2</source>
+        <translation>%1, %2 kazandı</translation>
+    </message>
+    <message>
+        <source>%1 lost %2</source>
+        <translation>%1, %2 kaybetti</translation>
     </message>
 </context>
 <context>
     <name>TableCommands</name>
     <message>
-        <source>call a bet ON</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>call a bet OFF</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>buy a Place bet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>remove a bet</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>take a bet to move it</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>half each as Any Craps and Eleven</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a quarter each as Two, Three, Eleven and Twelve</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>a fifth each as Two, Three, Seven, Eleven and Twelve</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Next click</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Carrying %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elde</translation>
     </message>
     <message>
         <source>Moving %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 yer değiştiriyor</translation>
     </message>
     <message>
-        <source>pays</source>
-        <translation type="unfinished"></translation>
+        <source>Next click: call a bet ON</source>
+        <translation>Sonraki tıklama: bahsi ON ilan et</translation>
     </message>
     <message>
-        <source>minimum</source>
-        <translation type="unfinished"></translation>
+        <source>Next click: call a bet OFF</source>
+        <translation>Sonraki tıklama: bahsi OFF ilan et</translation>
     </message>
     <message>
-        <source>may still be bet</source>
-        <translation type="unfinished"></translation>
+        <source>Next click: buy a Place bet</source>
+        <translation>Sonraki tıklama: Place bahsini satın al</translation>
+    </message>
+    <message>
+        <source>Next click: remove a bet</source>
+        <translation>Sonraki tıklama: bir bahsi kaldır</translation>
+    </message>
+    <message>
+        <source>Next click: take a bet to move it</source>
+        <translation>Sonraki tıklama: taşımak için bir bahis al</translation>
+    </message>
+    <message>
+        <source>Click: bets %1</source>
+        <translation>Tıklama: %1 koyar</translation>
+    </message>
+    <message>
+        <source>Drag: moves it, off the felt takes it down; Delete and a click too</source>
+        <translation>Sürükleme: taşır, çuhanın dışında kaldırır; Delete ve tıklama da</translation>
+    </message>
+    <message>
+        <source>Right click: rolls</source>
+        <translation>Sağ tıklama: zar atar</translation>
+    </message>
+    <message>
+        <source>No bet has ridden in this session</source>
+        <translation>Bu oturumda hiçbir bahis oynanmadı</translation>
+    </message>
+    <message>
+        <source>Expected of the bets made: %1</source>
+        <translation>Konan bahislerden beklenen: %1</translation>
+    </message>
+    <message>
+        <source>Came: %1</source>
+        <translation>Gelen: %1</translation>
+    </message>
+    <message>
+        <source>Luck: %1, %2 standard deviations</source>
+        <translation>Şans: %1, %2 standart sapma</translation>
+    </message>
+    <message>
+        <source>Rolls that were not counted: %1</source>
+        <translation>Sayılmayan atışlar: %1</translation>
     </message>
 </context>
 <context>
     <name>TableLayout</name>
     <message>
         <source>PAYS</source>
-        <translation type="unfinished"></translation>
+        <translation>ÖDER</translation>
+    </message>
+    <message>
+        <source>HOPS</source>
+        <translation>HOPS</translation>
+    </message>
+    <message>
+        <source>%1  PAIRS %2</source>
+        <extracomment>On the felt: what a hop pays, and what a pair pays.</extracomment>
+        <translation>%1  ÇİFTLER %2</translation>
+    </message>
+    <message>
+        <source>ONE ROLL</source>
+        <translation>TEK ATIŞ</translation>
+    </message>
+    <message>
+        <source>HARDWAYS</source>
+        <translation>HARDWAYS</translation>
+    </message>
+    <message>
+        <source>SIDE BETS</source>
+        <translation>YAN BAHİSLER</translation>
+    </message>
+</context>
+<context>
+    <name>TableTouch</name>
+    <message>
+        <source>Bet %1</source>
+        <translation>%1 koy</translation>
+    </message>
+    <message>
+        <source>Take down</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation>Taşı</translation>
+    </message>
+    <message>
+        <source>Call ON</source>
+        <translation>ON ilan et</translation>
+    </message>
+    <message>
+        <source>Call OFF</source>
+        <translation>OFF ilan et</translation>
+    </message>
+    <message>
+        <source>Buy</source>
+        <translation>Satın al</translation>
+    </message>
+    <message>
+        <source>Roll the dice</source>
+        <translation>Zar at</translation>
     </message>
 </context>
 <context>
     <name>ToolMenu</name>
     <message>
         <source>&amp;Print ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yazdır ...</translation>
     </message>
     <message>
         <source>Print pre&amp;view ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Baskı &amp;önizleme ...</translation>
     </message>
     <message>
         <source>Save as P&amp;DF ...</source>
-        <translation type="unfinished"></translation>
+        <translation>P&amp;DF olarak kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tümünü &amp;kopyala</translation>
     </message>
     <message>
         <source>&amp;Export table (CSV) ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tabloyu dışa aktar (CSV) ...</translation>
     </message>
     <message>
         <source>Export p&amp;icture (PNG) ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resmi dışa aktar (PNG) ...</translation>
     </message>
     <message>
         <source>Export drawin&amp;g (SVG) ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ç&amp;izimi dışa aktar (SVG) ...</translation>
     </message>
     <message>
         <source>Dock at the &amp;right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sağa yerleştir</translation>
     </message>
     <message>
         <source>Dock &amp;below</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alta yerleştir</translation>
     </message>
     <message>
         <source>Dock at the &amp;left</source>
-        <translation type="unfinished"></translation>
+        <translation>So&amp;la yerleştir</translation>
     </message>
     <message>
         <source>&amp;Window of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;endi penceresi</translation>
     </message>
     <message>
         <source>Cl&amp;ose</source>
-        <translation type="unfinished"></translation>
+        <translation>Ka&amp;pat</translation>
     </message>
     <message>
         <source>&amp;Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Çı&amp;ktı</translation>
     </message>
     <message>
         <source>P&amp;lace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yer</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::AdjustEdit</name>
     <message>
         <source>%1: operator</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: işlem</translation>
     </message>
     <message>
         <source>plus</source>
-        <translation type="unfinished"></translation>
+        <translation>artı</translation>
     </message>
     <message>
         <source>minus</source>
-        <translation type="unfinished"></translation>
+        <translation>eksi</translation>
     </message>
     <message>
         <source>times</source>
-        <translation type="unfinished"></translation>
+        <translation>çarpı</translation>
     </message>
     <message>
         <source>divided by</source>
-        <translation type="unfinished"></translation>
+        <translation>bölü</translation>
     </message>
     <message>
         <source>%1: amount</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: tutar</translation>
     </message>
     <message>
         <source>%1: unit</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: birim</translation>
     </message>
     <message>
         <source>(number)</source>
-        <translation type="unfinished"></translation>
+        <translation>(sayı)</translation>
     </message>
     <message>
         <source>dollars</source>
-        <translation type="unfinished"></translation>
+        <translation>dolar</translation>
     </message>
     <message>
         <source>percent</source>
-        <translation type="unfinished"></translation>
+        <translation>yüzde</translation>
     </message>
     <message>
         <source>%1 units</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 birimi</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::AdvantagePage</name>
     <message>
         <source>by the point</source>
-        <translation type="unfinished"></translation>
+        <translation>point&apos;e göre</translation>
     </message>
     <message>
         <source>in shares</source>
-        <translation type="unfinished"></translation>
+        <translation>paylarda</translation>
     </message>
     <message>
         <source>by its table</source>
-        <translation type="unfinished"></translation>
+        <translation>tablosuna göre</translation>
     </message>
     <message>
         <source>Advantage</source>
-        <translation type="unfinished"></translation>
+        <translation>Avantaj</translation>
     </message>
     <message>
         <source>Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis</translation>
     </message>
     <message>
         <source>EV/Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>BD/atış</translation>
     </message>
     <message>
         <source>StDev/Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>SS/atış</translation>
     </message>
     <message>
         <source>EV/Dec</source>
-        <translation type="unfinished"></translation>
+        <translation>BD/karar</translation>
     </message>
     <message>
         <source>StDev/Dec</source>
-        <translation type="unfinished"></translation>
+        <translation>SS/karar</translation>
     </message>
     <message>
         <source>EV/Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>BD/saat</translation>
     </message>
     <message>
         <source>Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada</translation>
     </message>
     <message>
         <source>Up/Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada/saat</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum</translation>
     </message>
     <message>
         <source>Rolls/Dec</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış/karar</translation>
     </message>
     <message>
         <source>Time/Dec</source>
-        <translation type="unfinished"></translation>
+        <translation>Süre/karar</translation>
     </message>
     <message>
         <source>Pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Öder</translation>
     </message>
     <message>
         <source>EV and deviation in dollars on the bet amount. Up: what the player has on the table, and what it is expected to bring in an hour. Session: what was to be expected of the bets that this session decided.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis tutarı için dolar olarak beklenen değer ve sapma. Masada: oyuncunun masada olanı ve bir saatte ondan beklenen. Oturum: bu oturumda sonuçlanan bahislerden beklenen.</translation>
     </message>
     <message>
         <source>Bet amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis tutarı</translation>
     </message>
     <message>
         <source>Bet &amp;amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis &amp;tutarı</translation>
     </message>
     <message>
         <source>&amp;Player</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oyuncu</translation>
     </message>
     <message>
         <source>Sort &amp;by</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sırala</translation>
     </message>
     <message>
         <source>&amp;Only bets that are up</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yalnız masadaki bahisler</translation>
     </message>
     <message>
         <source>Include &amp;zero outcomes</source>
-        <translation type="unfinished"></translation>
+        <translation>Sı&amp;fır sonuçları da say</translation>
     </message>
     <message>
         <source>Show &amp;misc data</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Diğer bilgiler</translation>
     </message>
     <message>
         <source>There are no players at the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada oyuncu yok.</translation>
     </message>
     <message>
         <source>%1 has no bets up.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oyuncusunun masada bahsi yok.</translation>
     </message>
     <message>
         <source>At %1 rolls an hour the bets that %2 has up are expected to bring %3 an hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Saatte %1 atışta %2 oyuncusunun bahislerinden saatte %3 beklenir</translation>
     </message>
     <message>
         <source> Odds are counted while a point is on, and Come and Don&apos;t Come bets are made while one is.</source>
-        <translation type="unfinished"></translation>
+        <translation> Odds point varken sayılır; Come ve Don&apos;t Come da o zaman konur.</translation>
     </message>
     <message>
         <source> How far an hour strays from that is left out: what %1 has in common with the other bets can&apos;t be told.</source>
-        <translation type="unfinished"></translation>
+        <translation> Bir saatin bundan ne kadar sapacağı bırakıldı: %1 bahsinin ötekilerle ortak yanı söylenemez.</translation>
     </message>
     <message>
         <source>No bet has been decided in this session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu oturumda hiçbir bahis sonuçlanmadı.</translation>
     </message>
     <message>
         <source>This session decided %1 of bets: %2 was to be expected of them, %3 it came to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu oturumda %1 tutarında bahis sonuçlandı: beklenen %2, gelen %3.</translation>
     </message>
     <message>
         <source>%1% of all</source>
-        <translation type="unfinished"></translation>
+        <translation>tümünden yüzde %1</translation>
     </message>
     <message>
         <source>%1% of winners</source>
-        <translation type="unfinished"></translation>
+        <translation>kazananlardan yüzde %1</translation>
     </message>
     <message>
         <source>Dice: %1. A roll takes %2. Buy vig: %3. Lay vig: %4. Bar: %5. %6</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarlar: %1. Bir atış %2 sürer. Buy vig: %3. Lay vig: %4. Yasak: %5. %6</translation>
     </message>
     <message>
         <source>percentage dice</source>
-        <translation type="unfinished"></translation>
+        <translation>yüzdeli zarlar</translation>
     </message>
     <message>
         <source>fair</source>
-        <translation type="unfinished"></translation>
+        <translation>adil</translation>
     </message>
     <message>
         <source>Rolls that leave a bet in place count as decisions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsi yerinde bırakan atışlar karar sayılır.</translation>
     </message>
     <message>
         <source>Only wins and losses count as decisions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnız kazanç ve kayıplar karar sayılır.</translation>
     </message>
     <message>
         <source>%1, give or take %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 az ya da çok</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::AmountSelector</name>
     <message>
         <source>Bet amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis tutarı</translation>
     </message>
     <message>
         <source>Amount that a click bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir tıklamanın koyduğu tutar</translation>
     </message>
     <message>
         <source>The amount that a click bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir tıklamanın koyduğu tutar</translation>
     </message>
     <message>
         <source>Bet %1 a click</source>
-        <translation type="unfinished"></translation>
+        <translation>Tıklama başına %1 koy</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::AtmScreen</name>
     <message>
         <source>ATM</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankamatik</translation>
     </message>
     <message>
         <source>Bankroll:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll:</translation>
     </message>
     <message>
         <source>On the table:</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada:</translation>
     </message>
     <message>
         <source>Rail:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ray:</translation>
     </message>
     <message>
         <source>Drawn from the ATM:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankamatikten çekilen:</translation>
     </message>
     <message>
         <source>Allow &amp;negative bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksi bankroll&apos;a izin ver</translation>
     </message>
     <message>
         <source>The ATM is switched off in the configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankamatik ayarlarda kapatılmış.</translation>
     </message>
     <message>
         <source>A&amp;mount:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tutar:</translation>
     </message>
     <message>
         <source>&amp;Withdraw</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Çek</translation>
     </message>
     <message>
         <source>&amp;Deposit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yatır</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kapat</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::AutoPlayScreen</name>
     <message>
         <source>Auto-&amp;take full odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam odds&apos;u otomatik &amp;al</translation>
     </message>
     <message>
         <source>On Pass Line and Come, when a point is set and when the flat bet changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass Line ve Come&apos;da, point konunca ve temel bahis değişince</translation>
     </message>
     <message>
         <source>Auto-&amp;lay full odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam odds&apos;u otomatik &amp;ver</translation>
     </message>
     <message>
         <source>On Don&apos;t Pass and Don&apos;t Come, when a point is set and when the flat bet changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t Pass ve Don&apos;t Come&apos;da, point konunca ve temel bahis değişince</translation>
     </message>
     <message>
         <source>Auto-&amp;down Place bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Place bahislerini otomatik &amp;indir</translation>
     </message>
     <message>
         <source>Place and Buy bets on the number of a line or Come bet come down</source>
-        <translation type="unfinished"></translation>
+        <translation>Çizgi ya da Come bahsinin sayısındaki Place ve Buy bahisleri iner</translation>
     </message>
     <message>
         <source>Auto-&amp;pass the dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarları otomatik &amp;devret</translation>
     </message>
     <message>
         <source>The player never shoots</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu hiç atmaz</translation>
     </message>
     <message>
         <source>Place and Buy:</source>
-        <translation type="unfinished"></translation>
+        <translation>Place ve Buy:</translation>
     </message>
     <message>
         <source>Do side, others:</source>
-        <translation type="unfinished"></translation>
+        <translation>Do tarafı, diğerleri:</translation>
     </message>
     <message>
         <source>Don&apos;t side:</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t tarafı:</translation>
     </message>
     <message>
         <source>Lay:</source>
-        <translation type="unfinished"></translation>
+        <translation>Lay:</translation>
     </message>
     <message>
         <source> Manual</source>
-        <translation type="unfinished"></translation>
+        <translation> Elle</translation>
     </message>
     <message>
         <source> Auto w/ minor correction</source>
-        <translation type="unfinished"></translation>
+        <translation> Otomatik, küçük düzeltmeyle</translation>
     </message>
     <message>
         <source> Auto w/ color correction</source>
-        <translation type="unfinished"></translation>
+        <translation> Otomatik, renk düzeltmesiyle</translation>
     </message>
     <message>
         <source>Auto-Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Play</translation>
     </message>
     <message>
         <source>Pla&amp;yer:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oyuncu:</translation>
     </message>
     <message>
         <source>There are no players at the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada oyuncu yok.</translation>
     </message>
     <message>
         <source>Winning bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanan bahisler</translation>
     </message>
     <message>
         <source>Losing bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaybeden bahisler</translation>
     </message>
     <message>
         <source>Bet amounts that pay whole</source>
-        <translation type="unfinished"></translation>
+        <translation>Tam ödeyen tutarlar</translation>
     </message>
     <message>
         <source>By the change</source>
-        <translation type="unfinished"></translation>
+        <translation>Para üstüne göre</translation>
     </message>
     <message>
         <source>Upward</source>
-        <translation type="unfinished"></translation>
+        <translation>Yukarı</translation>
     </message>
     <message>
         <source>Downward</source>
-        <translation type="unfinished"></translation>
+        <translation>Aşağı</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik</translation>
     </message>
     <message>
         <source>Work on come-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Come-out&apos;ta çalış</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü seç</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kapat</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::BankrollGraphScreen</name>
     <message>
         <source>Bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçenekler</translation>
     </message>
     <message>
         <source>Modes, averages, colors, printing</source>
-        <translation type="unfinished"></translation>
+        <translation>Kipler, ortalamalar, renkler, yazdırma</translation>
     </message>
     <message>
         <source>High</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüksek</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdi</translation>
     </message>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Düşük</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum</translation>
     </message>
     <message>
         <source>Reference line %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Referans çizgisi %1</translation>
     </message>
     <message>
         <source>Bankroll dif</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll farkı</translation>
     </message>
     <message>
         <source>Graph up</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik yukarı</translation>
     </message>
     <message>
         <source>Graph down</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafik aşağı</translation>
     </message>
     <message>
         <source>Smaller scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Daha küçük ölçek</translation>
     </message>
     <message>
         <source>- Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>- Ölçek</translation>
     </message>
     <message>
         <source>Larger scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Daha büyük ölçek</translation>
     </message>
     <message>
         <source>Scale +</source>
-        <translation type="unfinished"></translation>
+        <translation>Ölçek +</translation>
     </message>
     <message>
         <source>Speed of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Koşunun hızı</translation>
     </message>
     <message>
         <source>Start Turbo-Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Turbo-Roll başlat</translation>
     </message>
     <message>
         <source>fast</source>
-        <translation type="unfinished"></translation>
+        <translation>hızlı</translation>
     </message>
     <message>
         <source>slow</source>
-        <translation type="unfinished"></translation>
+        <translation>yavaş</translation>
     </message>
     <message>
         <source>%1 rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 atış</translation>
     </message>
     <message>
         <source>@ %1 rolls/hr</source>
-        <translation type="unfinished"></translation>
+        <translation>saatte %1 atışla</translation>
     </message>
     <message>
         <source>= %1 sim hrs</source>
-        <translation type="unfinished"></translation>
+        <translation>= %1 sim. saat</translation>
     </message>
     <message>
         <source>Rolls diff</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış farkı</translation>
     </message>
     <message>
         <source>Plot &amp;type</source>
-        <translation type="unfinished"></translation>
+        <translation>Çizim &amp;türü</translation>
     </message>
     <message>
         <source>&amp;Page</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sayfa</translation>
     </message>
     <message>
         <source>&amp;Scroll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kayan</translation>
     </message>
     <message>
         <source>Ad&amp;just scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Ölçeği &amp;ayarla</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elle</translation>
     </message>
     <message>
         <source>Auto-&amp;shift </source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik &amp;kaydır </translation>
     </message>
     <message>
         <source>Auto-shift with &amp;expanding scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik kaydır, &amp;genişleyen ölçek</translation>
     </message>
     <message>
         <source>Auto-shift with s&amp;nap-back scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik kaydır, geri &amp;dönen ölçek</translation>
     </message>
     <message>
         <source>Display &amp;grid lines</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Izgara çizgilerini göster</translation>
     </message>
     <message>
         <source>Display &amp;reference lines</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referans çizgilerini göster</translation>
     </message>
     <message>
         <source>Display moving &amp;average</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hareketli ortalamayı göster</translation>
     </message>
     <message>
         <source>Set &amp;moving average ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Hareketli &amp;ortalamayı ayarla ...</translation>
     </message>
     <message>
         <source>&amp;Players together</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncular &amp;birlikte</translation>
     </message>
     <message>
         <source>Graph st&amp;yle</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grafik biçimi</translation>
     </message>
     <message>
         <source>&amp;Plain</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Düz</translation>
     </message>
     <message>
         <source>&amp;Striped</source>
-        <translation type="unfinished"></translation>
+        <translation>Çi&amp;zgili</translation>
     </message>
     <message>
         <source>S&amp;olid</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;olu</translation>
     </message>
     <message>
         <source>Set &amp;color</source>
-        <translation type="unfinished"></translation>
+        <translation>Ren&amp;kler</translation>
     </message>
     <message>
         <source>&amp;Background ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arka plan ...</translation>
     </message>
     <message>
         <source>&amp;Text ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Metin ...</translation>
     </message>
     <message>
         <source>&amp;Grid lines ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Izgara ...</translation>
     </message>
     <message>
         <source>&amp;Start of the session ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oturumun başı ...</translation>
     </message>
     <message>
         <source>Bank&amp;roll ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank&amp;roll ...</translation>
     </message>
     <message>
         <source>&amp;Area under the bankroll ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll altındaki al&amp;an ...</translation>
     </message>
     <message>
         <source>&amp;Moving average ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hareketli ortalama ...</translation>
     </message>
     <message>
         <source>Reference line &amp;1 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Referans çizgisi &amp;1 ...</translation>
     </message>
     <message>
         <source>Reference line &amp;2 ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Referans çizgisi &amp;2 ...</translation>
     </message>
     <message>
         <source>&amp;Pointer ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İmleç ...</translation>
     </message>
     <message>
         <source>&amp;Default colors</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Varsayılan renkler</translation>
     </message>
     <message>
         <source>Print &amp;now</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdi &amp;yazdır</translation>
     </message>
     <message>
         <source>A&amp;uto-print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otomatik yazdır</translation>
     </message>
     <message>
         <source>Grap&amp;hs on a page</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayfadaki &amp;grafik sayısı</translation>
     </message>
     <message>
         <source>Set Auto-Roll time &amp;delay ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Roll &amp;gecikmesi ...</translation>
     </message>
     <message>
         <source>Set Auto-St&amp;op ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik d&amp;urma ...</translation>
     </message>
     <message>
         <source>Show &amp;logged messages</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Not edilen iletileri göster</translation>
+    </message>
+</context>
+<context>
+    <name>tessaryn::Board</name>
+    <message>
+        <source>Skip</source>
+        <translation>Geç</translation>
+    </message>
+    <message>
+        <source>The first steps aren&apos;t shown again</source>
+        <translation>İlk adımlar bir daha gösterilmez</translation>
+    </message>
+    <message>
+        <source>ask me</source>
+        <translation>bana sor</translation>
+    </message>
+    <message>
+        <source>leave the bet, take the winnings</source>
+        <translation>bahsi bırak, kazancı al</translation>
+    </message>
+    <message>
+        <source>POINT</source>
+        <translation>POINT</translation>
+    </message>
+    <message>
+        <source>COME-OUT</source>
+        <translation>COME-OUT</translation>
+    </message>
+    <message>
+        <source>Last roll</source>
+        <translation>Son atış</translation>
+    </message>
+    <message>
+        <source>When a bet wins:</source>
+        <translation>Bir bahis kazanınca:</translation>
+    </message>
+    <message>
+        <source>Turbo-Roll</source>
+        <translation>Turbo-Roll</translation>
+    </message>
+    <message>
+        <source>Auto-Roll</source>
+        <translation>Auto-Roll</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>ON</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
+    </message>
+    <message>
+        <source>Click an open position on the rail to add a player.</source>
+        <translation>Bir oyuncu eklemek için raydaki açık bir pozisyona tıklayın.</translation>
+    </message>
+    <message>
+        <source>No roll yet</source>
+        <translation>Henüz atış yok</translation>
+    </message>
+    <message>
+        <source>LAST %1</source>
+        <translation>SON %1</translation>
+    </message>
+    <message>
+        <source>%1 notes:</source>
+        <translation>%1 not:</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::CheckStackList</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer</translation>
     </message>
     <message>
         <source>Place %1 at the rail</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 raya konsun</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::CheckStackView</name>
     <message>
         <source>Value of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack %1 değeri</translation>
     </message>
     <message>
         <source>Name of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack %1 adı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::CheckStacksScreen</name>
     <message>
         <source>CheckStacks</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStacks</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçenekler</translation>
     </message>
     <message>
         <source>Undo, clipboard, deletions, the stacks on the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Geri al, pano, silme, masadaki yığınlar</translation>
     </message>
     <message>
         <source>On the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada</translation>
     </message>
     <message>
         <source>&amp;Accept</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kabul</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Und&amp;o	Ctrl+Z</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geri al	Ctrl+Z</translation>
     </message>
     <message>
         <source>&amp;Redo	Ctrl+Y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yinele	Ctrl+Y</translation>
     </message>
     <message>
         <source>Cu&amp;t	Ctrl+X</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;es	Ctrl+X</translation>
     </message>
     <message>
         <source>&amp;Copy	Ctrl+C</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopyala	Ctrl+C</translation>
     </message>
     <message>
         <source>&amp;Paste	Ctrl+V</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;pıştır	Ctrl+V</translation>
     </message>
     <message>
         <source>&amp;Delete	Del</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sil	Del</translation>
     </message>
     <message>
         <source>Delete &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü sil</translation>
     </message>
     <message>
         <source>Delete all val&amp;ues</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm &amp;değerleri sil</translation>
     </message>
     <message>
         <source>Delete all &amp;names</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm &amp;adları sil</translation>
     </message>
     <message>
         <source>&amp;Set visible checkstacks</source>
-        <translation type="unfinished"></translation>
+        <translation>Gör&amp;ünen CheckStack&apos;leri seç</translation>
     </message>
     <message>
         <source>Display &amp;zero values</source>
-        <translation type="unfinished"></translation>
+        <translation>Sıfır değe&amp;rleri göster</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazı &amp;boyutu</translation>
     </message>
     <message>
         <source>&amp;Desktop&apos;s</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masaüstününki</translation>
     </message>
     <message>
         <source>CheckStacks of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oyuncusunun CheckStack&apos;leri</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::CompsPage</name>
     <message>
         <source>Total comp action</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam comp hacmi</translation>
     </message>
     <message>
         <source>Comp bets decided</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuçlanan comp bahisleri</translation>
     </message>
     <message>
         <source>Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış</translation>
     </message>
     <message>
         <source>Expected result</source>
-        <translation type="unfinished"></translation>
+        <translation>Beklenen sonuç</translation>
     </message>
     <message>
         <source>Avg action x time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama hacim x süre</translation>
     </message>
     <message>
         <source>Comp value</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp değeri</translation>
     </message>
     <message>
         <source>Comps so far</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdiye dek comp</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Scope</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapsam</translation>
     </message>
     <message>
         <source>Bets figured in comps</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp&apos;lara sayılan bahisler</translation>
     </message>
     <message>
         <source>Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis</translation>
     </message>
     <message>
         <source>Comps</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp&apos;lar</translation>
     </message>
     <message>
         <source>Wagered</source>
-        <translation type="unfinished"></translation>
+        <translation>Konan</translation>
     </message>
     <message>
         <source>Expected</source>
-        <translation type="unfinished"></translation>
+        <translation>Beklenen</translation>
     </message>
     <message>
         <source>A double click or the space bar changes a bet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çift tıklama ya da boşluk tuşu bir bahsi değiştirir.</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Evet</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Hayır</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tümünü seç</translation>
     </message>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sırala</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::ConfigurationScreen</name>
     <message>
         <source>House</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasa</translation>
     </message>
     <message>
         <source>Bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisler</translation>
     </message>
     <message>
         <source>Payoffs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ödemeler</translation>
     </message>
     <message>
         <source>Advantage</source>
-        <translation type="unfinished"></translation>
+        <translation>Avantaj</translation>
     </message>
     <message>
         <source>Comps</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp&apos;lar</translation>
     </message>
     <message>
         <source>Layout</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa</translation>
     </message>
     <message>
         <source>Bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll</translation>
     </message>
     <message>
         <source>Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Renkler</translation>
     </message>
     <message>
         <source>Probability</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık</translation>
     </message>
     <message>
         <source>Generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Üreteç</translation>
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses</translation>
     </message>
     <message>
         <source>Misc</source>
-        <translation type="unfinished"></translation>
+        <translation>Diğer</translation>
     </message>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayarlar</translation>
     </message>
     <message>
         <source>Search settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayarlarda ara</translation>
     </message>
     <message>
         <source>Tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekmeler</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kapat</translation>
     </message>
     <message>
         <source>Not taken yet: %1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Henüz alınmadı: %1. %2</translation>
     </message>
     <message>
         <source>Tab</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekme</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayar</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer</translation>
     </message>
     <message>
         <source>A double click or the space bar changes a bet. New players take this as they buy in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çift tıklama ya da boşluk tuşu bir bahsi değiştirir. Yeni oyuncular girerken bunu alır.</translation>
     </message>
     <message>
         <source> - Yes</source>
-        <translation type="unfinished"></translation>
+        <translation> - Evet</translation>
     </message>
     <message>
         <source> - No</source>
-        <translation type="unfinished"></translation>
+        <translation> - Hayır</translation>
     </message>
     <message>
         <source>Work on come-out roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Come-out&apos;ta çalış</translation>
     </message>
     <message>
         <source>Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>Evet</translation>
     </message>
     <message>
         <source>No</source>
-        <translation type="unfinished"></translation>
+        <translation>Hayır</translation>
     </message>
     <message>
         <source>Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tümünü seç</translation>
     </message>
     <message>
         <source>Default</source>
-        <translation type="unfinished"></translation>
+        <translation>Varsayılan</translation>
     </message>
     <message>
         <source>Checks</source>
-        <translation type="unfinished"></translation>
+        <translation>Fişler</translation>
     </message>
     <message>
         <source>Restore default denominations</source>
-        <translation type="unfinished"></translation>
+        <translation>Varsayılan değerlere dön</translation>
     </message>
     <message>
         <source>Amount to add or subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Eklenecek ya da çıkarılacak tutar</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekle</translation>
     </message>
     <message>
         <source>Subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Çıkar</translation>
     </message>
     <message>
         <source>Add or subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekle ya da çıkar</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>There are no players at the table.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada oyuncu yok.</translation>
     </message>
     <message>
         <source>Sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesler</translation>
     </message>
     <message>
         <source>Stick person</source>
-        <translation type="unfinished"></translation>
+        <translation>Stickman</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarlar</translation>
     </message>
     <message>
         <source>Wins</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazançlar</translation>
     </message>
     <message>
         <source>&lt; none &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; yok &gt;</translation>
     </message>
     <message>
         <source>Stick person 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Stickman 1</translation>
     </message>
     <message>
         <source>&lt; random &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; rastgele &gt;</translation>
     </message>
     <message>
         <source>Try</source>
-        <translation type="unfinished"></translation>
+        <translation>Dene</translation>
     </message>
     <message>
         <source>Try: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dene: %1</translation>
     </message>
     <message>
         <source>The program&apos;s sound files aren&apos;t there.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programın ses dosyaları yerinde değil.</translation>
     </message>
     <message>
         <source>Rolls / hr</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış / saat</translation>
     </message>
     <message>
         <source>Rolls / min</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış / dk</translation>
     </message>
     <message>
         <source>Rolls / sec</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış / sn</translation>
     </message>
     <message>
         <source>Hrs / roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Saat / atış</translation>
     </message>
     <message>
         <source>Mins / roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Dk / atış</translation>
     </message>
     <message>
         <source>Secs / roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Sn / atış</translation>
     </message>
     <message>
         <source>How the rate is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Hızın nasıl gösterildiği</translation>
     </message>
     <message>
         <source>Simulated roll rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Simüle edilen atış hızı</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Sınırlar</translation>
     </message>
     <message>
         <source>Odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurallar</translation>
     </message>
     <message>
         <source>Buy bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Buy bahisleri</translation>
     </message>
     <message>
         <source>Lay bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Lay bahisleri</translation>
     </message>
     <message>
         <source>Bets on the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masadaki bahisler</translation>
     </message>
     <message>
         <source>Stacks and amounts</source>
-        <translation type="unfinished"></translation>
+        <translation>Yığınlar ve tutarlar</translation>
     </message>
     <message>
         <source>New players</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni oyuncular</translation>
     </message>
     <message>
         <source>ATM</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankamatik</translation>
     </message>
     <message>
         <source>All sounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm sesler</translation>
     </message>
     <message>
         <source>Messages to show</source>
-        <translation type="unfinished"></translation>
+        <translation>Gösterilecek iletiler</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>İmleç</translation>
     </message>
     <message>
         <source>Font size of the screens</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekranların yazı boyutu</translation>
     </message>
     <message>
         <source>Dice on the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masadaki zarlar</translation>
     </message>
     <message>
         <source>Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazıcı</translation>
     </message>
     <message>
         <source>Figure comps based on:</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp&apos;ların dayanağı:</translation>
     </message>
     <message>
         <source>For every new session:</source>
-        <translation type="unfinished"></translation>
+        <translation>Her yeni oturumda:</translation>
     </message>
     <message>
         <source>dollars</source>
-        <translation type="unfinished"></translation>
+        <translation>dolar</translation>
     </message>
     <message>
         <source>x flat bet</source>
-        <translation type="unfinished"></translation>
+        <translation>x düz bahis</translation>
     </message>
     <message>
         <source> Bar 12</source>
-        <translation type="unfinished"></translation>
+        <translation> Yasak 12</translation>
     </message>
     <message>
         <source> Bar 2</source>
-        <translation type="unfinished"></translation>
+        <translation> Yasak 2</translation>
     </message>
     <message>
         <source> Small</source>
-        <translation type="unfinished"></translation>
+        <translation> Küçük</translation>
     </message>
     <message>
         <source> Medium</source>
-        <translation type="unfinished"></translation>
+        <translation> Orta</translation>
     </message>
     <message>
         <source> Large</source>
-        <translation type="unfinished"></translation>
+        <translation> Büyük</translation>
     </message>
     <message>
         <source>Minimum bet</source>
-        <translation type="unfinished"></translation>
+        <translation>En az bahis</translation>
     </message>
     <message>
         <source>Minimum prop bet</source>
-        <translation type="unfinished"></translation>
+        <translation>En az proposition bahsi</translation>
     </message>
     <message>
         <source>Maximum bet</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok bahis</translation>
     </message>
     <message>
         <source>Max prop bet payoff</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok proposition ödemesi</translation>
     </message>
     <message>
         <source>Maximum odds bet</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok odds bahsi</translation>
     </message>
     <message>
         <source>Odds on 4 and 10</source>
-        <translation type="unfinished"></translation>
+        <translation>4 ve 10&apos;da odds</translation>
     </message>
     <message>
         <source>Odds on 5 and 9</source>
-        <translation type="unfinished"></translation>
+        <translation>5 ve 9&apos;da odds</translation>
     </message>
     <message>
         <source>Odds on 6 and 8</source>
-        <translation type="unfinished"></translation>
+        <translation>6 ve 8&apos;de odds</translation>
     </message>
     <message>
         <source>Odds calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds hesabı</translation>
     </message>
     <message>
         <source>To shoot</source>
-        <translation type="unfinished"></translation>
+        <translation>Atmak için</translation>
     </message>
     <message>
         <source>Don&apos;t side</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t tarafı</translation>
     </message>
     <message>
         <source>Allow Put bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Put bahislerine izin ver</translation>
     </message>
     <message>
         <source>Return abandoned bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bırakılan bahisleri geri ver</translation>
     </message>
     <message>
         <source>Vig</source>
-        <translation type="unfinished"></translation>
+        <translation>Vig</translation>
     </message>
     <message>
         <source>Rounding</source>
-        <translation type="unfinished"></translation>
+        <translation>Yuvarlama</translation>
     </message>
     <message>
         <source>Buy vig</source>
-        <translation type="unfinished"></translation>
+        <translation>Buy vig</translation>
     </message>
     <message>
         <source>Lay vig</source>
-        <translation type="unfinished"></translation>
+        <translation>Lay vig</translation>
     </message>
     <message>
         <source>Big 6 and Big 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Big 6 ve Big 8</translation>
     </message>
     <message>
         <source>Midway bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Midway bahsi</translation>
     </message>
     <message>
         <source>Special prop bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Özel proposition&apos;lar</translation>
     </message>
     <message>
         <source>Fire bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Fire bahsi</translation>
     </message>
     <message>
         <source>Max Fire bet</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok Fire bahsi</translation>
     </message>
     <message>
         <source>Auto-arrange checks</source>
-        <translation type="unfinished"></translation>
+        <translation>Fişleri kendiliğinden diz</translation>
     </message>
     <message>
         <source>Use cents symbol below a dollar</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir doların altında sent işareti</translation>
     </message>
     <message>
         <source>First check</source>
-        <translation type="unfinished"></translation>
+        <translation>Birinci fiş</translation>
     </message>
     <message>
         <source>Second check</source>
-        <translation type="unfinished"></translation>
+        <translation>İkinci fiş</translation>
     </message>
     <message>
         <source>Third check</source>
-        <translation type="unfinished"></translation>
+        <translation>Üçüncü fiş</translation>
     </message>
     <message>
         <source>Fourth check</source>
-        <translation type="unfinished"></translation>
+        <translation>Dördüncü fiş</translation>
     </message>
     <message>
         <source>Fifth check</source>
-        <translation type="unfinished"></translation>
+        <translation>Beşinci fiş</translation>
     </message>
     <message>
         <source>Allow negative bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksi bankroll&apos;a izin ver</translation>
     </message>
     <message>
         <source>At a new session</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni oturumda</translation>
     </message>
     <message>
         <source>New session&apos;s bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni oturumun bankroll&apos;u</translation>
     </message>
     <message>
         <source>Bankroll offered</source>
-        <translation type="unfinished"></translation>
+        <translation>Önerilen bankroll</translation>
     </message>
     <message>
         <source>The ATM works</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankamatik çalışır</translation>
     </message>
     <message>
         <source>Usual amount</source>
-        <translation type="unfinished"></translation>
+        <translation>Olağan tutar</translation>
     </message>
     <message>
         <source>Sounds of auto-bet scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet betiklerinin sesleri</translation>
     </message>
     <message>
         <source>Disable all sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm sesleri kapat</translation>
     </message>
     <message>
         <source>Info tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilgi ipuçları</translation>
     </message>
     <message>
         <source>Snap to the default button of a box</source>
-        <translation type="unfinished"></translation>
+        <translation>Kutunun varsayılan düğmesine git</translation>
     </message>
     <message>
         <source>Print in colors</source>
-        <translation type="unfinished"></translation>
+        <translation>Renkli yazdır</translation>
     </message>
     <message>
         <source>Use true probabilities</source>
-        <translation type="unfinished"></translation>
+        <translation>Gerçek olasılıkları kullan</translation>
     </message>
     <message>
         <source>Comp rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Comp oranı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::EventsLogScreen</name>
     <message>
         <source>Everything</source>
-        <translation type="unfinished"></translation>
+        <translation>Her şey</translation>
     </message>
     <message>
         <source>Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar</translation>
     </message>
     <message>
         <source>Rolls, passes and misses</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar, passes ve misses</translation>
     </message>
     <message>
         <source>Bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisler</translation>
     </message>
     <message>
         <source>Wins and losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanç ve kayıplar</translation>
     </message>
     <message>
         <source>Wins</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazançlar</translation>
     </message>
     <message>
         <source>Losses</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıplar</translation>
     </message>
     <message>
         <source>Bankrolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll&apos;lar</translation>
     </message>
     <message>
         <source>CheckStacks</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStacks</translation>
     </message>
     <message>
         <source>Shooters and hands</source>
-        <translation type="unfinished"></translation>
+        <translation>Atıcılar ve eller</translation>
     </message>
     <message>
         <source>Sessions, players, scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar, oyuncular, betikler</translation>
     </message>
     <message>
         <source>Lo&amp;g</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Günlük</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Look at another log ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Başka bir günlüğe bak ...</translation>
     </message>
     <message>
         <source>&amp;Back to the table&apos;s log</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masanın günlüğüne dön</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra</translation>
     </message>
     <message>
         <source>&amp;Find ...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra ...</translation>
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonrakini bul</translation>
     </message>
     <message>
         <source>Find &amp;previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ncekini bul</translation>
     </message>
     <message>
         <source>O&amp;ptions</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;eçenekler</translation>
     </message>
     <message>
         <source>Record &amp;events</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Olayları kaydet</translation>
     </message>
     <message>
         <source>&amp;Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Atışlar</translation>
     </message>
     <message>
         <source>&amp;Bet changes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahis değişiklikleri</translation>
     </message>
     <message>
         <source>Bets &amp;won</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kazanılan bahisler</translation>
     </message>
     <message>
         <source>Bets &amp;lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ka&amp;ybedilen bahisler</translation>
     </message>
     <message>
         <source>CheckS&amp;tack changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Check&amp;Stack değişiklikleri</translation>
     </message>
     <message>
         <source>&amp;Passes and misses</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Passes ve misses</translation>
     </message>
     <message>
         <source>S&amp;hooter changes</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;tıcı değişiklikleri</translation>
     </message>
     <message>
         <source>Ban&amp;kroll changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Bank&amp;roll değişiklikleri</translation>
     </message>
     <message>
         <source>Record &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Tümünü kay&amp;det</translation>
     </message>
     <message>
         <source>&amp;Deselect all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hiçbirini kaydetme</translation>
     </message>
     <message>
         <source>&amp;Clear log when new sessions start</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni oturumda &amp;günlüğü boşalt</translation>
     </message>
     <message>
         <source>&amp;Scroll new rolls to the top</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni atışlar üst&amp;te</translation>
     </message>
     <message>
         <source>&amp;Follow the end</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonu &amp;izle</translation>
     </message>
     <message>
         <source>Fon&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;zı</translation>
     </message>
     <message>
         <source>&amp;Italic</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eğik</translation>
     </message>
     <message>
         <source>&amp;Bold</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kalın</translation>
     </message>
     <message>
         <source>&amp;Smaller</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;üçük</translation>
     </message>
     <message>
         <source>&amp;Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normal</translation>
     </message>
     <message>
         <source>&amp;Larger</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Büyük</translation>
     </message>
     <message>
         <source>In&amp;active</source>
-        <translation type="unfinished"></translation>
+        <translation>Etkin &amp;değil</translation>
     </message>
     <message>
         <source>Kind of lines shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Gösterilen satırların türü</translation>
     </message>
     <message>
         <source>Player whose lines are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Satırları gösterilen oyuncu</translation>
     </message>
     <message>
         <source>Text to find</source>
-        <translation type="unfinished"></translation>
+        <translation>Aranacak metin</translation>
     </message>
     <message>
         <source>Previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Önceki</translation>
     </message>
     <message>
         <source>Find previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Öncekini bul</translation>
     </message>
     <message>
         <source>Next</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonraki</translation>
     </message>
     <message>
         <source>Find next</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonrakini bul</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Dur</translation>
     </message>
     <message>
         <source>Stop the search</source>
-        <translation type="unfinished"></translation>
+        <translation>Aramayı durdur</translation>
     </message>
     <message>
         <source>All players</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm oyuncular</translation>
     </message>
     <message>
         <source>&amp;Active</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Etkin</translation>
     </message>
     <message>
         <source>Events are recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Olaylar kaydediliyor</translation>
     </message>
     <message>
         <source>Events are not recorded</source>
-        <translation type="unfinished"></translation>
+        <translation>Olaylar kaydedilmiyor</translation>
     </message>
     <message>
         <source>Events Log (%1, only looked at)</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğü (%1, yalnız bakılıyor)</translation>
     </message>
     <message>
         <source>Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğü</translation>
     </message>
     <message>
         <source>Events Log (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğü (%1)</translation>
     </message>
     <message>
         <source>No lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Satır yok</translation>
     </message>
     <message>
         <source>Line %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Satır %1 / %2</translation>
     </message>
     <message>
         <source>About line %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Yaklaşık satır %1 / %2</translation>
     </message>
     <message>
         <source>Events</source>
-        <translation type="unfinished"></translation>
+        <translation>Olaylar</translation>
     </message>
     <message>
         <source>Tessaryn Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn olay günlüğü</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>yüzde %1</translation>
     </message>
     <message>
         <source>Search Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Arama sonucu</translation>
     </message>
     <message>
         <source>Text not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin bulunamadı.</translation>
     </message>
     <message>
         <source>Print Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğünü yazdır</translation>
     </message>
     <message>
         <source>%1 (%2% read)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (yüzde %2 okundu)</translation>
+    </message>
+    <message>
+        <source>Saving the log ...</source>
+        <translation>Günlük kaydediliyor ...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::EventsLogView</name>
     <message>
         <source>Lines of the Events Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Olay günlüğünün satırları</translation>
     </message>
     <message>
         <source>Line at the top</source>
-        <translation type="unfinished"></translation>
+        <translation>En üstteki satır</translation>
     </message>
     <message>
         <source>Blanks to the left</source>
-        <translation type="unfinished"></translation>
+        <translation>Soldaki boşluklar</translation>
     </message>
     <message>
         <source>No such lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Böyle satır yok</translation>
     </message>
     <message>
         <source>The log is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Günlük boş</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::FindReplaceScreen</name>
     <message>
         <source>Fi&amp;nd:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra:</translation>
     </message>
     <message>
         <source>Replace &amp;by:</source>
-        <translation type="unfinished"></translation>
+        <translation>Şununla &amp;değiştir:</translation>
     </message>
     <message>
         <source>Find ne&amp;xt</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonrakini bul</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;eğiştir</translation>
     </message>
     <message>
         <source>Replace &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü değiştir</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not in the script.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; betikte yok.</translation>
     </message>
     <message>
         <source>%1 replaced</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 değiştirildi</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::GeneratorPage</name>
     <message>
         <source>Mersenne Twister, 32 bits a number, a number for each die. The usual choice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mersenne Twister, sayı başına 32 bit, her zara bir sayı. Olağan seçim.</translation>
     </message>
     <message>
         <source>A second Mersenne Twister with a seeding of its own, a number for each die.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kendi tohumlaması olan ikinci bir Mersenne Twister, her zara bir sayı.</translation>
     </message>
     <message>
         <source>A plain congruence with 714,025 states: short, and good for comparing systems on poor dice. Its seeds end at 999,999.</source>
-        <translation type="unfinished"></translation>
+        <translation>714.025 durumlu düz bir eşlik: kısa, ve sistemleri kötü zarlarla karşılaştırmak için iyi. Tohumları 999.999&apos;da biter.</translation>
     </message>
     <message>
         <source>One congruence whose numbers are shuffled through a table of 97.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayıları 97&apos;lik bir tabloda karılan tek bir eşlik.</translation>
     </message>
     <message>
         <source>Three congruences: two make the number, the third shuffles a table of 97.</source>
-        <translation type="unfinished"></translation>
+        <translation>Üç eşlik: ikisi sayıyı yapar, üçüncüsü 97&apos;lik tabloyu karar.</translation>
     </message>
     <message>
         <source>RNG #1 and RNG #5 by turns, a roll each.</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG #1 ve RNG #5 sırayla, birer atış.</translation>
     </message>
     <message>
         <source>RNG #2 and RNG #4 by turns, a roll each.</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG #2 ve RNG #4 sırayla, birer atış.</translation>
     </message>
     <message>
         <source>As RNG #1, both dice from one number.</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG #1 gibi, iki zar tek sayıdan.</translation>
     </message>
     <message>
         <source>Random number generator</source>
-        <translation type="unfinished"></translation>
+        <translation>Rastgele sayı üreteci</translation>
     </message>
     <message>
         <source>Random number &amp;generator:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rastgele sayı &amp;üreteci:</translation>
     </message>
     <message>
         <source>Seed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tohum</translation>
     </message>
     <message>
         <source> Seed normally</source>
-        <translation type="unfinished"></translation>
+        <translation> Normal tohum</translation>
     </message>
     <message>
         <source> User seed</source>
-        <translation type="unfinished"></translation>
+        <translation> Kullanıcı tohumu</translation>
     </message>
     <message>
         <source>The clock gives each seed</source>
-        <translation type="unfinished"></translation>
+        <translation>Her tohumu saat verir</translation>
     </message>
     <message>
         <source>You are asked for each seed</source>
-        <translation type="unfinished"></translation>
+        <translation>Her tohum size sorulur</translation>
     </message>
     <message>
         <source> Re-seed new sessions</source>
-        <translation type="unfinished"></translation>
+        <translation> Yeni oturumda yeniden tohumla</translation>
     </message>
     <message>
         <source>Seed RNG now</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdi tohumla</translation>
     </message>
     <message>
         <source>Last entered seed:</source>
-        <translation type="unfinished"></translation>
+        <translation>Son girilen tohum:</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::GraphView</name>
     <message>
         <source>Bankroll graph</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll grafiği</translation>
     </message>
     <message>
         <source>Roll %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış %1:</translation>
+    </message>
+</context>
+<context>
+    <name>tessaryn::HelpWindow</name>
+    <message>
+        <source>en</source>
+        <extracomment>The folder of the translated help pages: two small letters, as de or fr. Not a word.</extracomment>
+        <translation>tr</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>First page</source>
+        <translation>İlk sayfa</translation>
+    </message>
+    <message>
+        <source>Show or hide the contents</source>
+        <translation>İçindekileri göster ya da gizle</translation>
+    </message>
+    <message>
+        <source>Smaller letters</source>
+        <translation>Daha küçük yazı</translation>
+    </message>
+    <message>
+        <source>Larger letters</source>
+        <translation>Daha büyük yazı</translation>
+    </message>
+    <message>
+        <source>Find in this page</source>
+        <translation>Bu sayfada bul</translation>
+    </message>
+    <message>
+        <source>Print this page ...</source>
+        <translation>Bu sayfayı yazdır ...</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Yardım</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Araçlar</translation>
+    </message>
+    <message>
+        <source>Search the help</source>
+        <translation>Yardımda ara</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>İçindekiler</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Bulunanlar</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Sayfa</translation>
+    </message>
+    <message>
+        <source>The one before</source>
+        <translation>Önceki</translation>
+    </message>
+    <message>
+        <source>The next one</source>
+        <translation>Sonraki</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Nothing was found for &quot;%1&quot;. Try fewer words, or the beginning of one.</source>
+        <translation>&quot;%1&quot; için bir şey bulunamadı. Daha az sözcük ya da bir sözcüğün başını deneyin.</translation>
+    </message>
+    <message>
+        <source>The pages of the help aren&apos;t where the program is. They lie in the folder &quot;docs&quot; of its source and of its packages.</source>
+        <translation>Yardım sayfaları programın olduğu yerde değil. Kaynağının ve paketlerinin &quot;docs&quot; klasöründe bulunurlar.</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <translation>Yazdır</translation>
+    </message>
+    <message>
+        <source>Not on this page</source>
+        <translation>Bu sayfada yok</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::HotKeysScreen</name>
     <message>
         <source>Hot-Keys</source>
-        <translation type="unfinished"></translation>
+        <translation>Kısayol tuşları</translation>
     </message>
     <message>
         <source>Key</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuş</translation>
     </message>
     <message>
         <source>Auto-Bet file</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet dosyası</translation>
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Açıklama</translation>
     </message>
     <message>
         <source>&amp;Key:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tuş:</translation>
     </message>
     <message>
         <source>Auto-Bet &amp;file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet &amp;dosyası:</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Açıklama:</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekle</translation>
     </message>
     <message>
         <source>&amp;Select ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seç ...</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kaldır</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::HousePage</name>
     <message>
         <source>Houses</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasalar</translation>
     </message>
     <message>
         <source>What the house changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasanın değiştirdikleri</translation>
     </message>
     <message>
         <source>Setting</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayar</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa</translation>
     </message>
     <message>
         <source>House</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasa</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>&amp;Save rules as ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kuralları &amp;farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Use this house</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu kasayı k&amp;ullan</translation>
     </message>
     <message>
         <source>The table has these rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada bu kurallar var.</translation>
+    </message>
+</context>
+<context>
+    <name>tessaryn::JoinScreen</name>
+    <message>
+        <source>&amp;Join</source>
+        <translation>&amp;Katıl</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;İptal</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::LaboratoryScreen</name>
     <message>
         <source>Laboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar</translation>
     </message>
     <message>
         <source>Sessions played</source>
-        <translation type="unfinished"></translation>
+        <translation>Oynanan oturumlar</translation>
     </message>
     <message>
         <source>&amp;End</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bitir</translation>
     </message>
     <message>
         <source>Ends the experiment with what is known</source>
-        <translation type="unfinished"></translation>
+        <translation>Deneyi bilinenlerle bitirir</translation>
     </message>
     <message>
         <source>Comp&amp;are A</source>
-        <translation type="unfinished"></translation>
+        <translation>A&apos;yı &amp;karşılaştır</translation>
     </message>
     <message>
         <source>System A</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem A</translation>
     </message>
     <message>
         <source>&amp;with B</source>
-        <translation type="unfinished"></translation>
+        <translation>B &amp;ile</translation>
     </message>
     <message>
         <source>System B</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem B</translation>
     </message>
     <message>
         <source>Pages of the laboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar sayfaları</translation>
     </message>
     <message>
         <source>E&amp;xperiment</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deney</translation>
     </message>
     <message>
         <source>Measures</source>
-        <translation type="unfinished"></translation>
+        <translation>Ölçüler</translation>
     </message>
     <message>
         <source>Res&amp;ults</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;onuçlar</translation>
     </message>
     <message>
         <source>On the wa&amp;y</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yolda</translation>
     </message>
     <message>
         <source>E&amp;nds</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonlar</translation>
     </message>
     <message>
         <source>All systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm sistemler</translation>
     </message>
     <message>
         <source>All s&amp;ystems</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;üm sistemler</translation>
     </message>
     <message>
         <source>Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum</translation>
     </message>
     <message>
         <source>Number of the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumun numarası</translation>
     </message>
     <message>
         <source>System of the session</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumun sistemi</translation>
     </message>
     <message>
         <source>Play it at the &amp;table</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Masada oyna</translation>
     </message>
     <message>
         <source>Puts the session on the table in place of the game, to be watched roll by roll</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumu oyunun yerine masaya koyar, atış atış izlemek için</translation>
     </message>
     <message>
         <source>Re&amp;port ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rapor ...</translation>
     </message>
     <message>
         <source>of</source>
-        <translation type="unfinished"></translation>
+        <translation>/</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(yok)</translation>
     </message>
     <message>
         <source>The first sessions are being played ...</source>
-        <translation type="unfinished"></translation>
+        <translation>İlk oturumlar oynanıyor ...</translation>
     </message>
     <message>
         <source>What does a system bring over a whole session?</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir sistem bütün bir oturumda ne getirir?</translation>
     </message>
     <message>
         <source>Add systems, say how sessions end, and run: each session has dice of its own, the same for every system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemler ekleyin, oturumların nasıl biteceğini söyleyin ve başlatın: her oturumun kendi zarları vardır, her sistem için aynı.</translation>
     </message>
     <message>
         <source>Pa&amp;use</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;uraklat</translation>
     </message>
     <message>
         <source>C&amp;ontinue</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;evam</translation>
     </message>
     <message>
         <source>&amp;Run %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ba&amp;şlat</translation>
     </message>
     <message>
         <source>Tessaryn Laboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn Laboratuvarı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::LaboratorySetup</name>
     <message>
         <source>Laboratory</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar</translation>
     </message>
     <message>
         <source>Systems, all on the same dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemler, hepsi aynı zarlarla</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemler</translation>
     </message>
     <message>
         <source>Add s&amp;cript ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Beti&amp;k ekle ...</translation>
     </message>
     <message>
         <source>Add &amp;player&apos;s script</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncunun betiğini e&amp;kle</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>Ka&amp;ldır</translation>
     </message>
     <message>
         <source>Standing bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Sürekli bahisler</translation>
     </message>
     <message>
         <source>Standing bets: passline=10, place6=12</source>
-        <translation type="unfinished"></translation>
+        <translation>Sürekli bahisler: passline=10, place6=12</translation>
     </message>
     <message>
         <source>Add &amp;bets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahis ekle</translation>
     </message>
     <message>
         <source>S&amp;takes that CheckStacks start at, each a system of its own:</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack&apos;lerin başladığı &amp;tutarlar, her biri ayrı bir sistem:</translation>
     </message>
     <message>
         <source>Stakes that CheckStacks start at</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack&apos;lerin başladığı tutarlar</translation>
     </message>
     <message>
         <source>as the scripts have them; or 1=5,10,25 or 1=5..50:5</source>
-        <translation type="unfinished"></translation>
+        <translation>betiklerdeki gibi; ya da 1=5,10,25 ya da 1=5..50:5</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>yok</translation>
     </message>
     <message>
         <source>Sessions and their ends</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar ve sonları</translation>
     </message>
     <message>
         <source>Sess&amp;ions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oturumlar</translation>
     </message>
     <message>
         <source>&amp;Start with $</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Başlangıç $</translation>
     </message>
     <message>
         <source>Most r&amp;olls</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok &amp;atış</translation>
     </message>
     <message>
         <source>any</source>
-        <translation type="unfinished"></translation>
+        <translation>herhangi</translation>
     </message>
     <message>
         <source>Most &amp;hands</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok &amp;el</translation>
     </message>
     <message>
         <source>&amp;Win goal $</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanç &amp;hedefi $</translation>
     </message>
     <message>
         <source>&amp;Loss limit $</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıp &amp;sınırı $</translation>
     </message>
     <message>
         <source>at once</source>
-        <translation type="unfinished"></translation>
+        <translation>hemen</translation>
     </message>
     <message>
         <source>after the hand</source>
-        <translation type="unfinished"></translation>
+        <translation>elden sonra</translation>
     </message>
     <message>
         <source>when no contract bet is up any more</source>
-        <translation type="unfinished"></translation>
+        <translation>bağlı bahis kalmayınca</translation>
     </message>
     <message>
         <source>&amp;Ends fall</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonlar gelir</translation>
     </message>
     <message>
         <source>&amp;Known to ±$</source>
-        <translation type="unfinished"></translation>
+        <translation>±$ kadar b&amp;ilinen</translation>
     </message>
     <message>
         <source>Stops as soon as each mean is known so well, 95% sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Her ortalama bu kadar bilinince durur, yüzde 95 kesin</translation>
     </message>
     <message>
         <source>Table and dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa ve zarlar</translation>
     </message>
     <message>
         <source>See&amp;d</source>
-        <translation type="unfinished"></translation>
+        <translation>To&amp;hum</translation>
     </message>
     <message>
         <source>R&amp;ules and dice of this table</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu masanın ku&amp;ralları ve zarları</translation>
     </message>
     <message>
         <source>The selected player has no script.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili oyuncunun betiği yok.</translation>
     </message>
     <message>
         <source>There is nothing to play: add a script, or standing bets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oynanacak bir şey yok: bir betik ya da sürekli bahisler ekleyin.</translation>
     </message>
     <message>
         <source>Stakes %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutarlar %1: %2</translation>
     </message>
     <message>
         <source>Start with: must be from 0.01 to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Başlangıç: 0.01 ile %1 arası olmalı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::LooksPage</name>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeşil</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Mavi</translation>
     </message>
     <message>
         <source>Teal</source>
-        <translation type="unfinished"></translation>
+        <translation>Turkuaz</translation>
     </message>
     <message>
         <source>Burgundy</source>
-        <translation type="unfinished"></translation>
+        <translation>Bordo</translation>
     </message>
     <message>
         <source>Purple</source>
-        <translation type="unfinished"></translation>
+        <translation>Mor</translation>
     </message>
     <message>
         <source>Gray</source>
-        <translation type="unfinished"></translation>
+        <translation>Gri</translation>
     </message>
     <message>
         <source>Tan</source>
-        <translation type="unfinished"></translation>
+        <translation>Kum rengi</translation>
     </message>
     <message>
         <source>Cloth</source>
-        <translation type="unfinished"></translation>
+        <translation>Çuha</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa</translation>
     </message>
     <message>
         <source>Lettering</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazılar</translation>
     </message>
     <message>
         <source>Rail</source>
-        <translation type="unfinished"></translation>
+        <translation>Ray</translation>
     </message>
     <message>
         <source>Round the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masanın çevresi</translation>
     </message>
     <message>
         <source>Checks</source>
-        <translation type="unfinished"></translation>
+        <translation>Fişler</translation>
     </message>
     <message>
         <source>First check</source>
-        <translation type="unfinished"></translation>
+        <translation>Birinci fiş</translation>
     </message>
     <message>
         <source>Second check</source>
-        <translation type="unfinished"></translation>
+        <translation>İkinci fiş</translation>
     </message>
     <message>
         <source>Third check</source>
-        <translation type="unfinished"></translation>
+        <translation>Üçüncü fiş</translation>
     </message>
     <message>
         <source>Fourth check</source>
-        <translation type="unfinished"></translation>
+        <translation>Dördüncü fiş</translation>
     </message>
     <message>
         <source>Fifth check</source>
-        <translation type="unfinished"></translation>
+        <translation>Beşinci fiş</translation>
     </message>
     <message>
         <source>&quot;$&quot; check</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;$&quot; fişi</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarlar</translation>
     </message>
     <message>
         <source>First die</source>
-        <translation type="unfinished"></translation>
+        <translation>Birinci zar</translation>
     </message>
     <message>
         <source>Second die</source>
-        <translation type="unfinished"></translation>
+        <translation>İkinci zar</translation>
     </message>
     <message>
         <source>Pips</source>
-        <translation type="unfinished"></translation>
+        <translation>Noktalar</translation>
     </message>
     <message>
         <source>All as at first</source>
-        <translation type="unfinished"></translation>
+        <translation>Hepsi ilk hali gibi</translation>
     </message>
     <message>
         <source>Another color</source>
-        <translation type="unfinished"></translation>
+        <translation>Başka renk</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk</translation>
     </message>
     <message>
         <source>Texture</source>
-        <translation type="unfinished"></translation>
+        <translation>Doku</translation>
     </message>
     <message>
         <source>Spotlight</source>
-        <translation type="unfinished"></translation>
+        <translation>Spot ışığı</translation>
     </message>
     <message>
         <source>Lettering in a font of my own</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazılar kendi yazı tipimle</translation>
     </message>
     <message>
         <source>Font</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazı tipi</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation>Pencere</translation>
+    </message>
+    <message>
+        <source>Light or dark</source>
+        <translation>Açık ya da koyu</translation>
+    </message>
+    <message>
+        <source>As the desktop</source>
+        <translation>Masaüstü gibi</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Koyu</translation>
+    </message>
+    <message>
+        <source>No motion</source>
+        <translation>Hareketsiz</translation>
+    </message>
+    <message>
+        <source>Notes in boxes</source>
+        <translation>Notlar kutularda</translation>
+    </message>
+</context>
+<context>
+    <name>tessaryn::LuckWindow</name>
+    <message>
+        <source>Luck</source>
+        <translation>Şans</translation>
+    </message>
+    <message>
+        <source>Expected: what the bets made cost or bring on average, under the rules and dice in force. Luck is what the dice gave beyond it. Price: what was given away, in percent of what was decided.</source>
+        <translation>Beklenen: konan bahislerin geçerli kurallar ve zarlarla ortalama maliyeti ya da getirisi. Şans, zarların bunun ötesinde verdiğidir. Bedel: verilen, sonuçlananın yüzdesi olarak.</translation>
+    </message>
+    <message>
+        <source>Luck of the players</source>
+        <translation>Oyuncuların şansı</translation>
+    </message>
+    <message>
+        <source>Player</source>
+        <translation>Oyuncu</translation>
+    </message>
+    <message>
+        <source>Expected</source>
+        <translation>Beklenen</translation>
+    </message>
+    <message>
+        <source>Came</source>
+        <translation>Gelen</translation>
+    </message>
+    <message>
+        <source>Std. deviation</source>
+        <translation>Std sapma</translation>
+    </message>
+    <message>
+        <source>Luck in std. dev.</source>
+        <translation>Std sapma olarak şans</translation>
+    </message>
+    <message>
+        <source>Decided</source>
+        <translation>Sonuçlanan</translation>
+    </message>
+    <message>
+        <source>Price %</source>
+        <translation>Bedel %</translation>
+    </message>
+    <message>
+        <source>Rolls</source>
+        <translation>Atış</translation>
+    </message>
+    <message>
+        <source>Not counted</source>
+        <translation>Sayılmayan</translation>
+    </message>
+    <message>
+        <source>Rolls with bets up that were counted, and rolls that were not: those of a Turbo-Roll are counted while this window is open.</source>
+        <translation>Bahis varken sayılan atışlar, ve sayılmayanlar: Turbo-Roll atışları bu pencere açıkken sayılır.</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::MainWindow</name>
     <message>
         <source>Tessaryn Turbo-Roll Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn Turbo-Roll durduruldu</translation>
     </message>
     <message>
         <source>Roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış %1</translation>
     </message>
     <message>
         <source>Come-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Come-out</translation>
     </message>
     <message>
         <source>Point %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Point %1</translation>
     </message>
     <message>
         <source>Shooter: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atıcı: %1</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::MessageScreen</name>
     <message>
         <source>&amp;OK</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamam</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Evet</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hayır</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İptal</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yardım</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::MovePanel</name>
     <message>
         <source>Move Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masayı taşı</translation>
     </message>
     <message>
         <source>With Shift or Ctrl: to the window&apos;s border</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift ya da Ctrl ile: pencerenin kenarına</translation>
     </message>
     <message>
         <source>By 30 degrees; Shift 90, Ctrl 45, both 180</source>
-        <translation type="unfinished"></translation>
+        <translation>30 derece; Shift 90, Ctrl 45, ikisi 180</translation>
     </message>
     <message>
         <source>Move up</source>
-        <translation type="unfinished"></translation>
+        <translation>Yukarı</translation>
     </message>
     <message>
         <source>Move left</source>
-        <translation type="unfinished"></translation>
+        <translation>Sola</translation>
     </message>
     <message>
         <source>Move right</source>
-        <translation type="unfinished"></translation>
+        <translation>Sağa</translation>
     </message>
     <message>
         <source>Move down</source>
-        <translation type="unfinished"></translation>
+        <translation>Aşağı</translation>
     </message>
     <message>
         <source>Center</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortala</translation>
     </message>
     <message>
         <source>The table into the middle of the window</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa pencerenin ortasına</translation>
     </message>
     <message>
         <source>Turn clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Saat yönünde döndür</translation>
     </message>
     <message>
         <source>Turn counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Saatin tersine döndür</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Yakınlaştır</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Uzaklaştır</translation>
     </message>
     <message>
         <source>Shift: to the window&apos;s height; Ctrl: to its width; both: to the limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift: pencerenin yüksekliğine; Ctrl: genişliğine; ikisi: sınıra</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::NewSessionScreen</name>
     <message>
         <source>New Session</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni oturum</translation>
     </message>
     <message>
         <source>All bets are taken down and a new session starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm bahisler kaldırılır ve yeni bir oturum başlar.</translation>
     </message>
     <message>
         <source> Preserve dice roll file</source>
-        <translation type="unfinished"></translation>
+        <translation> Zar dosyasını koru</translation>
     </message>
     <message>
         <source> Rewind and playback</source>
-        <translation type="unfinished"></translation>
+        <translation> Başa sar ve oynat</translation>
     </message>
     <message>
         <source> Continue </source>
-        <translation type="unfinished"></translation>
+        <translation> Devam et </translation>
     </message>
     <message>
         <source> Preserve auto-bet scripts</source>
-        <translation type="unfinished"></translation>
+        <translation> Auto-Bet betiklerini koru</translation>
     </message>
     <message>
         <source> Preserve previous sessions data</source>
-        <translation type="unfinished"></translation>
+        <translation> Önceki oturumların verilerini koru</translation>
     </message>
     <message>
         <source> Preserve checkstacks</source>
-        <translation type="unfinished"></translation>
+        <translation> CheckStack&apos;leri koru</translation>
     </message>
     <message>
         <source> Preserve sessions logs</source>
-        <translation type="unfinished"></translation>
+        <translation> Oturum günlüklerini koru</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::PadGrid</name>
     <message>
         <source>Roll a %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 at</translation>
     </message>
     <message>
         <source>Roll %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ve %2 at</translation>
     </message>
     <message>
         <source>First die %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Birinci zar %1</translation>
     </message>
     <message>
         <source>Second die %1</source>
-        <translation type="unfinished"></translation>
+        <translation>İkinci zar %1</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::PayoffPage</name>
     <message>
         <source>Passline/Come (c.o.)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass Line/Come (c.o.)</translation>
     </message>
     <message>
         <source>Pass/Come %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass/Come %1</translation>
     </message>
     <message>
         <source>Pass/Come %1 Odds</source>
-        <translation type="unfinished"></translation>
+        <translation>Pass/Come %1 Odds</translation>
     </message>
     <message>
         <source>Don&apos;t Pass/Come (c.o.)</source>
-        <translation type="unfinished"></translation>
+        <translation>Don&apos;t Pass/Come (c.o.)</translation>
     </message>
     <message>
         <source>DP/DC %1</source>
-        <translation type="unfinished"></translation>
+        <translation>DP/DC %1</translation>
     </message>
     <message>
         <source>DP/DC %1 Odds</source>
-        <translation type="unfinished"></translation>
+        <translation>DP/DC %1 Odds</translation>
     </message>
     <message>
         <source>Come-out 7</source>
-        <translation type="unfinished"></translation>
+        <translation>Come-out&apos;ta yedi</translation>
     </message>
     <message>
         <source>Seven after the point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point&apos;ten sonra yedi</translation>
     </message>
     <message>
         <source>%1 or more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya da çok</translation>
     </message>
     <message>
         <source>1 point made</source>
-        <translation type="unfinished"></translation>
+        <translation>1 point yapıldı</translation>
     </message>
     <message>
         <source>%1 points made</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 point yapıldı</translation>
     </message>
     <message>
         <source>1 line win</source>
-        <translation type="unfinished"></translation>
+        <translation>1 çizgi kazancı</translation>
     </message>
     <message>
         <source>%1 line wins</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 çizgi kazancı</translation>
     </message>
     <message>
         <source>1 different point</source>
-        <translation type="unfinished"></translation>
+        <translation>1 farklı point</translation>
     </message>
     <message>
         <source>%1 different points</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 farklı point</translation>
     </message>
     <message>
         <source>Bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahisler</translation>
     </message>
     <message>
         <source>Field</source>
-        <translation type="unfinished"></translation>
+        <translation>Field</translation>
     </message>
     <message>
         <source>7 Point 7</source>
-        <translation type="unfinished"></translation>
+        <translation>7 Point 7</translation>
     </message>
     <message>
         <source>Midway</source>
-        <translation type="unfinished"></translation>
+        <translation>Midway</translation>
     </message>
     <message>
         <source>Sharp Shooter</source>
-        <translation type="unfinished"></translation>
+        <translation>Sharp Shooter</translation>
     </message>
     <message>
         <source>Ride The Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Ride The Line</translation>
     </message>
     <message>
         <source>Fire</source>
-        <translation type="unfinished"></translation>
+        <translation>Fire</translation>
     </message>
     <message>
         <source>&amp;Field w/ 2x on Two and Twelve</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Field, Two ve Twelve&apos;de 2x</translation>
     </message>
     <message>
         <source>&amp;Pass Line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pass Line</translation>
     </message>
     <message>
         <source>&amp;Don&apos;t Pass (bar 12)</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Don&apos;t Pass (yasak 12)</translation>
     </message>
     <message>
         <source>&amp;Crapless Craps Pass Line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crapless Craps Pass Line</translation>
     </message>
     <message>
         <source>Place &amp;6</source>
-        <translation type="unfinished"></translation>
+        <translation>Place &amp;6</translation>
     </message>
     <message>
         <source>Place to &amp;Lose 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Place to &amp;Lose 8</translation>
     </message>
     <message>
         <source>Buy &amp;10 (5 % vig)</source>
-        <translation type="unfinished"></translation>
+        <translation>Buy &amp;10 (yüzde 5 vig)</translation>
     </message>
     <message>
         <source>Lay &amp;4 (5% vig on win only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lay &amp;4 (yalnız kazanınca yüzde 5 vig)</translation>
     </message>
     <message>
         <source>H&amp;ard 8</source>
-        <translation type="unfinished"></translation>
+        <translation>H&amp;ard 8</translation>
     </message>
     <message>
         <source>&amp;Horn</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horn</translation>
     </message>
     <message>
         <source>&amp;World</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;World</translation>
     </message>
     <message>
         <source>H&amp;op 13</source>
-        <translation type="unfinished"></translation>
+        <translation>H&amp;op 13</translation>
     </message>
     <message>
         <source>&amp;Midway</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Midway</translation>
     </message>
     <message>
         <source>Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis</translation>
     </message>
     <message>
         <source>Outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuç</translation>
     </message>
     <message>
         <source>Pays</source>
-        <translation type="unfinished"></translation>
+        <translation>Öder</translation>
     </message>
     <message>
         <source>to/for</source>
-        <translation type="unfinished"></translation>
+        <translation>to/for</translation>
     </message>
     <message>
         <source>Per</source>
-        <translation type="unfinished"></translation>
+        <translation>Başına</translation>
     </message>
     <message>
         <source>Note</source>
-        <translation type="unfinished"></translation>
+        <translation>Not</translation>
     </message>
     <message>
         <source>to</source>
-        <translation type="unfinished"></translation>
+        <translation>to</translation>
     </message>
     <message>
         <source>for</source>
-        <translation type="unfinished"></translation>
+        <translation>for</translation>
     </message>
     <message>
         <source>not taken yet</source>
-        <translation type="unfinished"></translation>
+        <translation>henüz alınmadı</translation>
     </message>
     <message>
         <source>originally %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ilk hali %1</translation>
     </message>
     <message>
         <source>Payoffs of</source>
-        <translation type="unfinished"></translation>
+        <translation>Ödemeleri</translation>
     </message>
     <message>
         <source>Payoffs &amp;of</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;demeleri</translation>
     </message>
     <message>
         <source>Payoffs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ödemeler</translation>
     </message>
     <message>
         <source>Enter goes from number to number; t and f write the word between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter sayıdan sayıya geçer; t ve f aradaki sözcüğü yazar.</translation>
     </message>
     <message>
         <source>&amp;Set Field payoffs to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Field ödemelerini ayarla</translation>
     </message>
     <message>
         <source>&amp;Restore default payoffs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Varsayılan ödemelere dön</translation>
     </message>
     <message>
         <source>Payoff of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ödemesi</translation>
     </message>
     <message>
         <source>Table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablo</translation>
     </message>
     <message>
         <source>Bet or outcome</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis ya da sonuç</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::PercentageDiceWindow</name>
     <message>
         <source>Percentage Dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzdeli zarlar</translation>
     </message>
     <message>
         <source>Die 1 \ Die 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1 \ Zar 2</translation>
     </message>
     <message>
         <source>Die 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 2</translation>
     </message>
     <message>
         <source>Die 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar 1</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam</translation>
     </message>
     <message>
         <source>Probability</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık</translation>
     </message>
     <message>
         <source>Probability file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Olasılık dosyası: %1</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::PermissionsScreen</name>
     <message>
         <source>Auto-Bet Permissions</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet izinleri</translation>
     </message>
     <message>
         <source>%1&apos;s script may:</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oyuncusunun betiği:</translation>
     </message>
     <message>
         <source>act for &amp;other players</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;başka oyuncular adına oynayabilir</translation>
     </message>
     <message>
         <source>start new &amp;sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>yeni &amp;oturumlar başlatabilir</translation>
     </message>
     <message>
         <source>activate and deactivate &amp;probability files and dice roll files</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;olasılık ve zar dosyalarını açıp kapayabilir</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::PlayerChoice</name>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::ProbabilityPage</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosya</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kaydet</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dü&amp;zen</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geri al</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yinele</translation>
     </message>
     <message>
         <source>&amp;Lock or unlock the cell	L</source>
-        <translation type="unfinished"></translation>
+        <translation>Hücreyi &amp;kilitle ya da aç	L</translation>
     </message>
     <message>
         <source>&amp;Shooter&apos;s effectiveness ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Atıcının &amp;etkinliği ...</translation>
     </message>
     <message>
         <source>Ready &amp;dice</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hazır zarlar</translation>
     </message>
     <message>
         <source>E&amp;ven Out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eşitle</translation>
     </message>
     <message>
         <source>Keeps this cell&apos;s value; what isn&apos;t locked shares the rest equally</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu hücrenin değerini korur; kilitli olmayanlar kalanı eşit paylaşır</translation>
     </message>
     <message>
         <source>Nothing is free to share the rest.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalanı paylaşacak serbest hücre yok.</translation>
     </message>
     <message>
         <source>&amp;Unlock All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm ki&amp;litleri aç</translation>
     </message>
     <message>
         <source>Percentage dice in use</source>
-        <translation type="unfinished"></translation>
+        <translation>Kullanılan yüzdeli zarlar</translation>
     </message>
     <message>
         <source>Number of rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış sayısı</translation>
     </message>
     <message>
         <source>%1: %2%, fair dice %3%</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: yüzde %2, adil zarlarda yüzde %3</translation>
     </message>
     <message>
         <source>. Locked: L unlocks it.</source>
-        <translation type="unfinished"></translation>
+        <translation>. Kilitli: L açar.</translation>
     </message>
     <message>
         <source>. Type a value, L locks.</source>
-        <translation type="unfinished"></translation>
+        <translation>. Bir değer yazın, L kilitler.</translation>
     </message>
     <message>
         <source>Nothing is free to take up the difference: the cell keeps its value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Farkı alacak serbest hücre yok: hücre değerini korur.</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::ProbabilityTable</name>
     <message>
         <source>Probabilities of the dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarların olasılıkları</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::RollFilesWindow</name>
     <message>
         <source>&amp;New / Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni / Aç ...</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kapat</translation>
     </message>
     <message>
         <source>Copy To &amp;Roll File ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zar dosyasına kopyala ...</translation>
     </message>
     <message>
         <source>Copy To &amp;Text File ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Metin dosyasına kopyala ...</translation>
     </message>
     <message>
         <source>Paste &amp;From Roll File ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Za&amp;r dosyasından yapıştır ...</translation>
     </message>
     <message>
         <source>Paste From Te&amp;xt File ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Me&amp;tin dosyasından yapıştır ...</translation>
     </message>
     <message>
         <source>&amp;Print ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;zdır ...</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geri al</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yinele</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;es</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopyala</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;pıştır</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sil</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü seç</translation>
     </message>
     <message>
         <source>Dice Roll Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyaları</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosya</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dü&amp;zen</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görünüm</translation>
     </message>
     <message>
         <source>&amp;Highlight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vurgula</translation>
     </message>
     <message>
         <source>Font &amp;size</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazı &amp;boyutu</translation>
     </message>
     <message>
         <source>&amp;As the screen</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekran gibi</translation>
     </message>
     <message>
         <source>Entering rolls, and their distribution</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış girişi ve dağılımları</translation>
     </message>
     <message>
         <source>Enter %1 and %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ve %2 gir</translation>
     </message>
     <message>
         <source>Enters %1 and %2. In the list: type %1%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ve %2 girer. Listede: %1%2 yazın</translation>
     </message>
     <message>
         <source> Type over</source>
-        <translation type="unfinished"></translation>
+        <translation> Üzerine yaz</translation>
     </message>
     <message>
         <source> Insert</source>
-        <translation type="unfinished"></translation>
+        <translation> Araya ekle</translation>
     </message>
     <message>
         <source>Ran&amp;dom</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rastgele</translation>
     </message>
     <message>
         <source>&amp;Output format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Çıktı &amp;biçimi:</translation>
     </message>
     <message>
         <source>Roll#, Die1, Die2 and Total stand for the values; all else is copied as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>Roll#, Die1, Die2 ve Total değerlerin yerini tutar; kalan her şey olduğu gibi kopyalanır</translation>
     </message>
     <message>
         <source>■ Off</source>
-        <translation type="unfinished"></translation>
+        <translation>■ Kapalı</translation>
     </message>
     <message>
         <source>● Record</source>
-        <translation type="unfinished"></translation>
+        <translation>● Kaydet</translation>
     </message>
     <message>
         <source>▶ Playback</source>
-        <translation type="unfinished"></translation>
+        <translation>▶ Oynat</translation>
     </message>
     <message>
         <source>Recorder off</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedici kapalı</translation>
     </message>
     <message>
         <source>Record the game&apos;s rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyunun atışlarını kaydet</translation>
     </message>
     <message>
         <source>Play the file&apos;s rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosyanın atışlarını oyna</translation>
     </message>
     <message>
         <source>Next roll &amp;is roll #</source>
-        <translation type="unfinished"></translation>
+        <translation>So&amp;nraki atış no</translation>
     </message>
     <message>
         <source>No file open</source>
-        <translation type="unfinished"></translation>
+        <translation>Açık dosya yok</translation>
     </message>
     <message>
         <source>%1 rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 atış</translation>
     </message>
     <message>
         <source>Roll 12, 3 and 4: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış 12, 3 ve 4: %1</translation>
     </message>
     <message>
         <source>No die and no total in it</source>
-        <translation type="unfinished"></translation>
+        <translation>İçinde ne zar ne toplam var</translation>
     </message>
     <message>
         <source>%1 rolls counted ...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 atış sayıldı ...</translation>
     </message>
     <message>
         <source>All %1 rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm %1 atış</translation>
     </message>
     <message>
         <source>The %1 selected rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili %1 atış</translation>
     </message>
     <message>
         <source>Print Dice Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışları yazdır</translation>
     </message>
     <message>
         <source>Roll file:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar dosyası:  %1</translation>
     </message>
     <message>
         <source>Rolls: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış: %1</translation>
     </message>
     <message>
         <source>Number of rolls to be printed: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazdırılacak atış sayısı: %1</translation>
     </message>
     <message>
         <source>%1, %2 selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 seçili</translation>
     </message>
     <message>
         <source>%1 · % · hatched: fair</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · % · taralı: adil</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::RollList</name>
     <message>
         <source>&amp;Nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hiçbiri</translation>
     </message>
     <message>
         <source>&amp;Sevens</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yediler</translation>
     </message>
     <message>
         <source>&amp;Craps: 2, 3 and 12</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Craps: 2, 3 ve 12</translation>
     </message>
     <message>
         <source>&amp;Point numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Point sayıları</translation>
     </message>
     <message>
         <source>Si&amp;x and eight</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Altı ve sekiz</translation>
     </message>
     <message>
         <source>P&amp;airs</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Çiftler</translation>
     </message>
     <message>
         <source>First roll shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Gösterilen ilk atış</translation>
     </message>
     <message>
         <source>No dice roll file is open.
 File, New or Open begins.</source>
-        <translation type="unfinished"></translation>
+        <translation>Açık zar dosyası yok.
+Dosya, Yeni ya da Aç ile başlayın.</translation>
     </message>
     <message>
         <source>end of file</source>
-        <translation type="unfinished"></translation>
+        <translation>dosya sonu</translation>
     </message>
     <message>
         <source>No dice roll file is open</source>
-        <translation type="unfinished"></translation>
+        <translation>Açık zar dosyası yok</translation>
     </message>
     <message>
         <source>Dice rolls, next roll %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar, sonraki atış %1 / %2</translation>
     </message>
     <message>
         <source>%1, rolls %2 to %3 selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 - %3 atışları seçili</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::RollPad</name>
     <message>
         <source>&amp;Random Roll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rastgele atış</translation>
     </message>
     <message>
         <source>Roll Your Own Numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kendi sayılarını at</translation>
     </message>
     <message>
         <source>Speed of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Koşunun hızı</translation>
     </message>
     <message>
         <source>Roll %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış %1</translation>
     </message>
     <message>
         <source>&amp;Hide</source>
-        <translation type="unfinished"></translation>
+        <translation>Gi&amp;zle</translation>
     </message>
     <message>
         <source>&amp;Display</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görüntü</translation>
     </message>
     <message>
         <source>Roll &amp;counter</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış &amp;sayacı</translation>
     </message>
     <message>
         <source>&amp;Turbo-Roll button</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Turbo-Roll düğmesi</translation>
     </message>
     <message>
         <source>&amp;Random button</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rastgele düğmesi</translation>
     </message>
     <message>
         <source>Set Auto-Roll t&amp;ime delay ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Roll g&amp;ecikmesi ...</translation>
     </message>
     <message>
         <source>Set Auto-&amp;Stop ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Otomatik &amp;durma ...</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::RunControls</name>
     <message>
         <source>R&amp;oll</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;At</translation>
     </message>
     <message>
         <source>Pass dice</source>
-        <translation type="unfinished"></translation>
+        <translation>Devret</translation>
     </message>
     <message>
         <source>Roll the dice (F2, or right click on the table)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zar at (F2, ya da masaya sağ tıkla)</translation>
     </message>
     <message>
         <source>Pass the dice (P)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zarları devret (P)</translation>
     </message>
     <message>
         <source>Speed of a run</source>
-        <translation type="unfinished"></translation>
+        <translation>Koşunun hızı</translation>
     </message>
     <message>
         <source>How fast a run goes: full speed on the left, Auto-Roll on the right</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir koşunun hızı: solda tam hız, sağda Auto-Roll</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::SessionsHistogram</name>
     <message>
         <source># S e s s i o n s</source>
-        <translation type="unfinished"></translation>
+        <translation>O t u r u m   s a y ı s ı</translation>
     </message>
     <message>
         <source>mean</source>
-        <translation type="unfinished"></translation>
+        <translation>ortalama</translation>
     </message>
     <message>
         <source>1 session</source>
-        <translation type="unfinished"></translation>
+        <translation>1 oturum</translation>
     </message>
     <message>
         <source>%1 sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oturum</translation>
     </message>
     <message>
         <source>%1 to %2: %3, %4% at or below</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2: %3, buraya dek yüzde %4</translation>
     </message>
     <message>
         <source>No sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum yok</translation>
     </message>
     <message>
         <source>Histogram of the sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumların histogramı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::SessionsLogScreen</name>
     <message>
         <source>Lo&amp;g</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Günlük</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni</translation>
     </message>
     <message>
         <source>N&amp;ew (all players)</source>
-        <translation type="unfinished"></translation>
+        <translation>Y&amp;eni (tüm oyuncular)</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>Save &amp;As ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Merge ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Birleştir ...</translation>
     </message>
     <message>
         <source>&amp;Delete ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sil ...</translation>
     </message>
     <message>
         <source>Delete a&amp;ll ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tümünü sil ...</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra</translation>
     </message>
     <message>
         <source>&amp;Find ...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra ...</translation>
     </message>
     <message>
         <source>Find &amp;next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonrakini bul</translation>
     </message>
     <message>
         <source>Find &amp;previous</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;ncekini bul</translation>
     </message>
     <message>
         <source>O&amp;ptions</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;eçenekler</translation>
     </message>
     <message>
         <source>Set &amp;break-point ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sınır koy ...</translation>
     </message>
     <message>
         <source>Graph bar &amp;width</source>
-        <translation type="unfinished"></translation>
+        <translation>Çubuk &amp;genişliği</translation>
     </message>
     <message>
         <source>&amp;Fine</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İnce</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Orta</translation>
     </message>
     <message>
         <source>&amp;Wide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geniş</translation>
     </message>
     <message>
         <source>&amp;Extra wide</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Çok geniş</translation>
     </message>
     <message>
         <source>&amp;Normal curve</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Normal eğri</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>Measure</source>
-        <translation type="unfinished"></translation>
+        <translation>Ölçü</translation>
     </message>
     <message>
         <source> Histogram</source>
-        <translation type="unfinished"></translation>
+        <translation> Histogram</translation>
     </message>
     <message>
         <source> Data</source>
-        <translation type="unfinished"></translation>
+        <translation> Veri</translation>
     </message>
     <message>
         <source>How much of the log has been read</source>
-        <translation type="unfinished"></translation>
+        <translation>Günlüğün ne kadarı okundu</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İptal</translation>
     </message>
     <message>
         <source>Net $</source>
-        <translation type="unfinished"></translation>
+        <translation>Net $</translation>
     </message>
     <message>
         <source>Handle $</source>
-        <translation type="unfinished"></translation>
+        <translation>Hacim $</translation>
     </message>
     <message>
         <source>Advantage %</source>
-        <translation type="unfinished"></translation>
+        <translation>Avantaj %</translation>
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanılan</translation>
     </message>
     <message>
         <source>Broke-even</source>
-        <translation type="unfinished"></translation>
+        <translation>Başa baş</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaybedilen</translation>
     </message>
     <message>
         <source>Total</source>
-        <translation type="unfinished"></translation>
+        <translation>Toplam</translation>
     </message>
     <message>
         <source>These sessions take part</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu oturumlar sayılır</translation>
     </message>
     <message>
         <source>Leave out outliers</source>
-        <translation type="unfinished"></translation>
+        <translation>Aykırıları dışarıda bırak</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>En az</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok</translation>
     </message>
     <message>
         <source>value</source>
-        <translation type="unfinished"></translation>
+        <translation>değer</translation>
     </message>
     <message>
         <source>standard deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>standart sapma</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer</translation>
     </message>
     <message>
         <source>Deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Sapma</translation>
     </message>
     <message>
         <source>Lowest value that takes part</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılan en küçük değer</translation>
     </message>
     <message>
         <source>Highest value that takes part</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayılan en büyük değer</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2</translation>
     </message>
     <message>
         <source>From, to</source>
-        <translation type="unfinished"></translation>
+        <translation>En az, en çok</translation>
     </message>
     <message>
         <source>Searching ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aranıyor ...</translation>
     </message>
     <message>
         <source>The figures are not of this choice: the calculation was cancelled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rakamlar bu seçimin değil: hesap iptal edildi.</translation>
     </message>
     <message>
         <source>The statistics could not be calculated.</source>
-        <translation type="unfinished"></translation>
+        <translation>İstatistik hesaplanamadı.</translation>
     </message>
     <message>
         <source>&amp;Calculate</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hesapla</translation>
     </message>
     <message>
         <source>no player</source>
-        <translation type="unfinished"></translation>
+        <translation>oyuncu yok</translation>
     </message>
     <message>
         <source>Sessions Log (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlüğü (%1)</translation>
     </message>
     <message>
         <source>Near the middle one of the values, which is not known</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortaya yakın değerlerden biri, hangisi olduğu bilinmiyor</translation>
     </message>
     <message>
         <source>Break-point: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sınır: %1</translation>
     </message>
     <message>
         <source>%1 sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oturum</translation>
     </message>
     <message>
         <source>Search Results</source>
-        <translation type="unfinished"></translation>
+        <translation>Arama sonucu</translation>
     </message>
     <message>
         <source>Value not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer bulunamadı.</translation>
     </message>
     <message>
         <source>Statistic</source>
-        <translation type="unfinished"></translation>
+        <translation>İstatistik</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Tessaryn Sessions Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Tessaryn oturum günlüğü</translation>
     </message>
     <message>
         <source>Player:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu:  %1</translation>
     </message>
     <message>
         <source>Log:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Günlük:  %1</translation>
     </message>
     <message>
         <source>Values from %1 to %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2 arası değerler</translation>
     </message>
     <message>
         <source>Print Sessions Log Raw Data</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlüğünün ham verisini yazdır</translation>
     </message>
     <message>
         <source>Print Sessions Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlüğünü yazdır</translation>
     </message>
     <message>
         <source>Number of sessions: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum sayısı: %1</translation>
     </message>
     <message>
         <source>Number of pages: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sayfa sayısı: %1</translation>
     </message>
     <message>
         <source>There are no sessions selected for printing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazdırılacak oturum seçilmemiş.</translation>
+    </message>
+    <message>
+        <source>Saving the log ...</source>
+        <translation>Günlük kaydediliyor ...</translation>
+    </message>
+    <message>
+        <source>Merging the logs ...</source>
+        <translation>Günlükler birleştiriliyor ...</translation>
+    </message>
+    <message>
+        <source>Deleting sessions ...</source>
+        <translation>Oturumlar siliniyor ...</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::SessionsRows</name>
     <message>
         <source>Sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar</translation>
     </message>
     <message>
         <source>Session at the top</source>
-        <translation type="unfinished"></translation>
+        <translation>En üstteki oturum</translation>
     </message>
     <message>
         <source>Session #</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum no</translation>
     </message>
     <message>
         <source># Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış sayısı</translation>
     </message>
     <message>
         <source>Include</source>
-        <translation type="unfinished"></translation>
+        <translation>Say</translation>
     </message>
     <message>
         <source>Standard Deviations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standart sapma</translation>
     </message>
     <message>
         <source>No sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum yok</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::SettleBetScreen</name>
     <message>
         <source>&amp;Take Bet and Winnings</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsi ve kazancı &amp;al</translation>
     </message>
     <message>
         <source>&amp;Same Bet - Take Winnings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aynı bahis - kazancı al</translation>
     </message>
     <message>
         <source>Press 1 &amp;Unit - Add $%1 to Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>1 &amp;birim artır - bahse $%1 ekle</translation>
     </message>
     <message>
         <source>Press - Add Winnings to &amp;Double Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Artır - kazançla &amp;ikiye katla</translation>
     </message>
     <message>
         <source>Parlay - Add &amp;All Winnings to Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Parlay - &amp;tüm kazancı bahse ekle</translation>
     </message>
     <message>
         <source>Sa&amp;me Bet:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ynı bahis:</translation>
     </message>
     <message>
         <source>&amp;Bet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ba&amp;his:</translation>
     </message>
     <message>
         <source>&amp;No Bet/Take Remainder (if any)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis yok/&amp;kalanı al (varsa)</translation>
     </message>
     <message>
         <source>&amp;Same Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aynı bahis</translation>
     </message>
     <message>
         <source>Bet &amp;Remainder (if any)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalanı &amp;oyna (varsa)</translation>
     </message>
     <message>
         <source>Same Bet Plus 1 &amp;Unit - Add $%1 to Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aynı bahis artı 1 &amp;birim - bahse $%1 ekle</translation>
     </message>
     <message>
         <source>&amp;Double Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsi &amp;ikiye katla</translation>
     </message>
     <message>
         <source>Half of the bet wins:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin yarısı kazanır:</translation>
     </message>
     <message>
         <source>Half of the bet loses:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin yarısı kaybeder:</translation>
     </message>
     <message>
         <source>A quarter of the bet wins:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin dörtte biri kazanır:</translation>
     </message>
     <message>
         <source>Three quarters of the bet lose:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin dörtte üçü kaybeder:</translation>
     </message>
     <message>
         <source>A fifth of the bet wins:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin beşte biri kazanır:</translation>
     </message>
     <message>
         <source>Four fifths of the bet lose:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahsin beşte dördü kaybeder:</translation>
     </message>
     <message>
         <source>Points made:</source>
-        <translation type="unfinished"></translation>
+        <translation>Yapılan point&apos;ler:</translation>
     </message>
     <message>
         <source>Line wins:</source>
-        <translation type="unfinished"></translation>
+        <translation>Çizgi kazançları:</translation>
     </message>
     <message>
         <source>Different points made:</source>
-        <translation type="unfinished"></translation>
+        <translation>Yapılan farklı point&apos;ler:</translation>
     </message>
     <message>
         <source>Payoff at %1 for %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ödeme %1 for %2:</translation>
     </message>
     <message>
         <source>Payoff at %1 to %2:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ödeme %1 to %2:</translation>
     </message>
     <message>
         <source>Bet:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis:</translation>
     </message>
     <message>
         <source>Bet lost:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaybedilen bahis:</translation>
     </message>
     <message>
         <source>%1% vig:</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde %1 vig:</translation>
     </message>
     <message>
         <source>Net payoff:</source>
-        <translation type="unfinished"></translation>
+        <translation>Net ödeme:</translation>
     </message>
     <message>
         <source>Net loss:</source>
-        <translation type="unfinished"></translation>
+        <translation>Net kayıp:</translation>
     </message>
     <message>
         <source>Net payoff (rounded):</source>
-        <translation type="unfinished"></translation>
+        <translation>Net ödeme (yuvarlanmış):</translation>
     </message>
     <message>
         <source>Net loss (rounded):</source>
-        <translation type="unfinished"></translation>
+        <translation>Net kayıp (yuvarlanmış):</translation>
     </message>
     <message>
         <source>ODDS OFF</source>
-        <translation type="unfinished"></translation>
+        <translation>ODDS OFF</translation>
     </message>
     <message>
         <source>WINNER</source>
-        <translation type="unfinished"></translation>
+        <translation>KAZANDI</translation>
     </message>
     <message>
         <source>LOSER</source>
-        <translation type="unfinished"></translation>
+        <translation>KAYBETTİ</translation>
     </message>
     <message>
         <source>%1, bet %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bahis %2</translation>
     </message>
     <message>
         <source>%1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - %2</translation>
     </message>
     <message>
         <source>The odds weren&apos;t working: nothing was won or lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds çalışmıyordu: bir şey kazanılmadı ya da kaybedilmedi.</translation>
     </message>
     <message>
         <source>This bet is over. It comes down with every choice.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu bahis bitti. Her seçimde iner.</translation>
+    </message>
+    <message>
+        <source>The same &amp;for the rest of this roll</source>
+        <translation>Bu atışın &amp;kalanı için de aynı</translation>
+    </message>
+    <message>
+        <source>All other winners of this roll are treated alike</source>
+        <translation>Bu atışın öteki tüm kazananlarına aynısı yapılır</translation>
+    </message>
+    <message>
+        <source>All other losers of this roll are treated alike</source>
+        <translation>Bu atışın öteki tüm kaybedenlerine aynısı yapılır</translation>
+    </message>
+    <message>
+        <source>Don&apos;t as&amp;k again (Auto-Play, F3)</source>
+        <translation>Bir daha &amp;sorma (Auto-Play, F3)</translation>
+    </message>
+    <message>
+        <source>Becomes the player&apos;s choice on the Auto-Play screen</source>
+        <translation>Oyuncunun Auto-Play ekranındaki seçimi olur</translation>
+    </message>
+</context>
+<context>
+    <name>tessaryn::SettleSheet</name>
+    <message>
+        <source>the point is set</source>
+        <translation>point kondu</translation>
+    </message>
+    <message>
+        <source>a natural</source>
+        <translation>natural</translation>
+    </message>
+    <message>
+        <source>craps</source>
+        <translation>craps</translation>
+    </message>
+    <message>
+        <source>seven-out</source>
+        <translation>seven-out</translation>
+    </message>
+    <message>
+        <source>point made</source>
+        <translation>point yapıldı</translation>
+    </message>
+    <message>
+        <source>the point stays %1</source>
+        <translation>point %1 kalır</translation>
+    </message>
+    <message>
+        <source>Settle the roll</source>
+        <translation>Atışı sonuçlandır</translation>
+    </message>
+    <message>
+        <source>Roll %1: %2, %3</source>
+        <translation>Atış %1: %2, %3</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bet(s) decided</source>
+        <translation>
+            <numerusform>%n bahis sonuçlandı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Decided bets</source>
+        <translation>Sonuçlanan bahisler</translation>
+    </message>
+    <message>
+        <source>%1 lost %2</source>
+        <translation>%1, %2 kaybetti</translation>
+    </message>
+    <message>
+        <source>%1 won %2</source>
+        <translation>%1, %2 kazandı</translation>
+    </message>
+    <message>
+        <source>WINNER</source>
+        <translation>KAZANDI</translation>
+    </message>
+    <message>
+        <source>This bet is over. It comes down with every choice.</source>
+        <translation>Bu bahis bitti. Her seçimde iner.</translation>
+    </message>
+    <message>
+        <source>The odds weren&apos;t working: nothing was won or lost.</source>
+        <translation>Odds çalışmıyordu: bir şey kazanılmadı ya da kaybedilmedi.</translation>
+    </message>
+    <message>
+        <source>%1, %2, %3</source>
+        <translation>%1, %2, %3</translation>
+    </message>
+    <message>
+        <source>Don&apos;t as&amp;k again: keep these choices (Auto-Play, F3)</source>
+        <translation>Bir daha &amp;sorma: bu seçimleri sakla (Auto-Play, F3)</translation>
+    </message>
+    <message>
+        <source>Each player&apos;s first winner and first loser here become the choices of Auto-Play</source>
+        <translation>Her oyuncunun buradaki ilk kazananı ve ilk kaybedeni Auto-Play seçimi olur</translation>
+    </message>
+    <message>
+        <source>One &amp;at a time</source>
+        <translation>&amp;Tek tek</translation>
+    </message>
+    <message>
+        <source>All &amp;same</source>
+        <translation>&amp;Hepsi aynı</translation>
+    </message>
+    <message>
+        <source>The first winner&apos;s choice for all winners, the first loser&apos;s for all losers</source>
+        <translation>Tüm kazananlara ilk kazananın, tüm kaybedenlere ilk kaybedenin seçimi</translation>
+    </message>
+    <message>
+        <source>&amp;Done (Enter)</source>
+        <translation>&amp;Bitti (Enter)</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::SortChoice</name>
     <message>
         <source>Sort by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sırala</translation>
     </message>
     <message>
         <source>Table order</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa sırası</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::TableWidget</name>
     <message>
         <source>Craps table</source>
-        <translation type="unfinished"></translation>
+        <translation>Craps masası</translation>
     </message>
     <message>
         <source>Bet amount</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Click an open position on the rail to add a player.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis tutarı</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::ToolDock</name>
     <message>
         <source>Print, copy, place</source>
-        <translation type="unfinished"></translation>
+        <translation>Yazdır, kopyala, yer</translation>
     </message>
     <message>
         <source>A window of its own</source>
-        <translation type="unfinished"></translation>
+        <translation>Kendi penceresi</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::TurboPanel</name>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dur</translation>
     </message>
     <message>
         <source>Turbo-Roll Active</source>
-        <translation type="unfinished"></translation>
+        <translation>Turbo-Roll çalışıyor</translation>
     </message>
     <message>
         <source>Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış</translation>
     </message>
     <message>
         <source>Rolls a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Saniyede atış</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Süre</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::WorkshopEditor</name>
     <message>
         <source>Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Betik</translation>
+    </message>
+    <message>
+        <source>%1  %2%</source>
+        <translation>%1  yüzde %2</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::WorkshopSteps</name>
     <message>
         <source>&amp;Wait after each statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Her deyimden sonra &amp;bekle</translation>
     </message>
     <message>
         <source>&amp;Next</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sonraki</translation>
     </message>
     <message>
         <source>&amp;Go on</source>
-        <translation type="unfinished"></translation>
+        <translation>D&amp;evam</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dur</translation>
     </message>
     <message>
         <source>Statements carried out</source>
-        <translation type="unfinished"></translation>
+        <translation>Yürütülen deyimler</translation>
     </message>
     <message>
         <source>Auto-Bet Steps</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet adımları</translation>
     </message>
     <message>
         <source>Auto-Bet Steps (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet adımları (%1)</translation>
     </message>
     <message>
         <source>Line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Satır %1: %2</translation>
+    </message>
+    <message>
+        <source>Values: %1</source>
+        <translation>Değerler: %1</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::WorkshopTrial</name>
     <message>
         <source>Try it</source>
-        <translation type="unfinished"></translation>
+        <translation>Dene</translation>
     </message>
     <message>
         <source>Rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Atış</translation>
     </message>
     <message>
         <source>rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>atış</translation>
     </message>
     <message>
         <source>Tr&amp;y it</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;ne</translation>
     </message>
     <message>
         <source>Same &amp;dice again</source>
-        <translation type="unfinished"></translation>
+        <translation>Yine aynı &amp;zarlar</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>İlerleme</translation>
     </message>
     <message>
         <source>The script runs on a copy of the table; the game stays as it is.</source>
-        <translation type="unfinished"></translation>
+        <translation>Betik masanın bir kopyasında çalışır; oyun olduğu gibi kalır.</translation>
     </message>
     <message>
         <source>Bets of the trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Denemenin bahisleri</translation>
     </message>
     <message>
         <source>Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahis</translation>
     </message>
     <message>
         <source>Won</source>
-        <translation type="unfinished"></translation>
+        <translation>Kazanılan</translation>
     </message>
     <message>
         <source>Lost</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaybedilen</translation>
     </message>
     <message>
         <source>Net</source>
-        <translation type="unfinished"></translation>
+        <translation>Net</translation>
     </message>
     <message>
         <source>Net %</source>
-        <translation type="unfinished"></translation>
+        <translation>Net %</translation>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation type="unfinished"></translation>
+        <translation>Du&amp;r</translation>
     </message>
     <message>
         <source>%1 of %2 bet</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 kondu, net %1</translation>
     </message>
     <message>
         <source>%1 rolls in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 saniyede %1 atış</translation>
     </message>
     <message>
         <source>stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>durduruldu</translation>
     </message>
     <message>
         <source>%1 (line %2, %3 times)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (satır %2, %3 kez)</translation>
     </message>
     <message>
         <source>Run before: %1, %2 rolls</source>
-        <translation type="unfinished"></translation>
+        <translation>Önceki koşu: %1, %2 atış</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::WorkshopWatch</name>
     <message>
         <source>Watch</source>
-        <translation type="unfinished"></translation>
+        <translation>İzleme</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad</translation>
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Değer</translation>
     </message>
     <message>
         <source>Before</source>
-        <translation type="unfinished"></translation>
+        <translation>Önce</translation>
     </message>
     <message>
         <source>Add a name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad ekle</translation>
     </message>
 </context>
 <context>
     <name>tessaryn::WorkshopWindow</name>
     <message>
         <source>Logic</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantık</translation>
     </message>
     <message>
         <source>Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Değişkenler</translation>
     </message>
     <message>
         <source>Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>İşlevler</translation>
     </message>
     <message>
         <source>Modifiers</source>
-        <translation type="unfinished"></translation>
+        <translation>Niteleyiciler</translation>
     </message>
     <message>
         <source>Actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Eylemler</translation>
     </message>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosya</translation>
     </message>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç ...</translation>
     </message>
     <message>
         <source>Sa&amp;mples</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;rnekler</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kaydet</translation>
     </message>
     <message>
         <source>Save &amp;as ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı kaydet ...</translation>
     </message>
     <message>
         <source>&amp;Print in colours ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Renkli ya&amp;zdır ...</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dü&amp;zen</translation>
     </message>
     <message>
         <source>&amp;Find ...</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ra ...</translation>
     </message>
     <message>
         <source>&amp;Replace ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Değiştir ...</translation>
     </message>
     <message>
         <source>&amp;Copy to</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopyala</translation>
     </message>
     <message>
         <source>&amp;Paste from</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;pıştır</translation>
     </message>
     <message>
         <source>&amp;Words that go on</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Devam eden sözcükler</translation>
     </message>
     <message>
         <source>P&amp;ut in the proposal</source>
-        <translation type="unfinished"></translation>
+        <translation>Ö&amp;neriyi koy</translation>
     </message>
     <message>
         <source>&amp;Meaning of the word</source>
-        <translation type="unfinished"></translation>
+        <translation>Sö&amp;zcüğün anlamı</translation>
     </message>
     <message>
         <source>&amp;Run</source>
-        <translation type="unfinished"></translation>
+        <translation>Ça&amp;lıştır</translation>
     </message>
     <message>
         <source>&amp;Check script</source>
-        <translation type="unfinished"></translation>
+        <translation>Betiği &amp;denetle</translation>
     </message>
     <message>
         <source>&amp;Activate all scripts</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm betikleri &amp;etkinleştir</translation>
     </message>
     <message>
         <source>Run &amp;one cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir &amp;tur çalıştır</translation>
     </message>
     <message>
         <source>&amp;Step</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adım</translation>
     </message>
     <message>
         <source>Run to the c&amp;ursor</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;İmlece dek çalıştır</translation>
     </message>
     <message>
         <source>&amp;Break-point</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kesme noktası</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>Du&amp;r</translation>
     </message>
     <message>
         <source>Tr&amp;y it</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;ne</translation>
     </message>
     <message>
         <source>&amp;Permissions ...</source>
-        <translation type="unfinished"></translation>
+        <translation>İ&amp;zinler ...</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görünüm</translation>
     </message>
     <message>
         <source>Show &amp;steps</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Adımları göster</translation>
     </message>
     <message>
         <source>&amp;Line numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Satır numaraları</translation>
     </message>
     <message>
         <source>Lists of &amp;words</source>
-        <translation type="unfinished"></translation>
+        <translation>Sö&amp;zcük listeleri</translation>
     </message>
     <message>
         <source>&amp;Auto-indent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Otomatik girinti</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimdi: %1</translation>
     </message>
     <message>
         <source>P&amp;layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>O&amp;yuncu:</translation>
     </message>
     <message>
         <source>Player</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyuncu</translation>
     </message>
     <message>
         <source>A&amp;ctive</source>
-        <translation type="unfinished"></translation>
+        <translation>Etk&amp;in</translation>
     </message>
     <message>
         <source>Check Script</source>
-        <translation type="unfinished"></translation>
+        <translation>Betiği denetle</translation>
     </message>
     <message>
         <source>Run one cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir tur çalıştır</translation>
     </message>
     <message>
         <source>Step</source>
-        <translation type="unfinished"></translation>
+        <translation>Adım</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Dur</translation>
     </message>
     <message>
         <source>Below the script</source>
-        <translation type="unfinished"></translation>
+        <translation>Betiğin altında</translation>
     </message>
     <message>
         <source>Problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorunlar</translation>
     </message>
     <message>
         <source>Words</source>
-        <translation type="unfinished"></translation>
+        <translation>Sözcükler</translation>
     </message>
     <message>
         <source>Logged bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Not edilen bahisler</translation>
     </message>
     <message>
         <source>Find</source>
-        <translation type="unfinished"></translation>
+        <translation>Ara</translation>
     </message>
     <message>
         <source>Words of the language</source>
-        <translation type="unfinished"></translation>
+        <translation>Dilin sözcükleri</translation>
     </message>
     <message>
         <source>Word</source>
-        <translation type="unfinished"></translation>
+        <translation>Sözcük</translation>
     </message>
     <message>
         <source>Meaning</source>
-        <translation type="unfinished"></translation>
+        <translation>Anlamı</translation>
     </message>
     <message>
         <source>Log &amp;my bets</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bahislerimi not et</translation>
     </message>
     <message>
         <source>When they are made</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne zaman konduysa</translation>
     </message>
     <message>
         <source>As they stand</source>
-        <translation type="unfinished"></translation>
+        <translation>Olduğu gibi</translation>
     </message>
     <message>
         <source>On the come-out</source>
-        <translation type="unfinished"></translation>
+        <translation>Come-out&apos;ta</translation>
     </message>
     <message>
         <source>After a point</source>
-        <translation type="unfinished"></translation>
+        <translation>Point&apos;ten sonra</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekle</translation>
     </message>
     <message>
         <source>Save ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydet ...</translation>
     </message>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Boşalt</translation>
     </message>
     <message>
         <source>Line %1, column %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Satır %1, sütun %2</translation>
     </message>
     <message>
         <source>1 error</source>
-        <translation type="unfinished"></translation>
+        <translation>1 hata</translation>
     </message>
     <message>
         <source>Auto-Bet</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet</translation>
     </message>
     <message>
         <source>Nobody is at the table</source>
-        <translation type="unfinished"></translation>
+        <translation>Masada kimse yok</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>adsız</translation>
     </message>
     <message>
         <source>Auto-Bet - %1 - %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto-Bet - %1 - %2</translation>
     </message>
     <message>
         <source>%1, not saved</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, kaydedilmedi</translation>
     </message>
     <message>
         <source>may act for other players</source>
-        <translation type="unfinished"></translation>
+        <translation>başka oyuncular adına oynayabilir</translation>
     </message>
     <message>
         <source>may start sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>oturum başlatabilir</translation>
     </message>
     <message>
         <source>may use files of dice</source>
-        <translation type="unfinished"></translation>
+        <translation>zar dosyaları kullanabilir</translation>
     </message>
     <message>
         <source>Line</source>
-        <translation type="unfinished"></translation>
+        <translation>Satır</translation>
     </message>
     <message>
         <source>Statement</source>
-        <translation type="unfinished"></translation>
+        <translation>Deyim</translation>
     </message>
     <message>
         <source>&amp;File ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosya ...</translation>
     </message>
     <message>
         <source>Ctrl+. puts in &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>Ctrl+. &quot;%1&quot; koyar</translation>
     </message>
     <message>
         <source>Problems (1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorunlar (1)</translation>
+    </message>
+    <message>
+        <source>&amp;Recent</source>
+        <translation>&amp;Son kullanılanlar</translation>
+    </message>
+    <message>
+        <source>&amp;Counts of the lines</source>
+        <translation>Satır &amp;sayımları</translation>
+    </message>
+    <message>
+        <source>None yet</source>
+        <translation>Henüz yok</translation>
     </message>
 </context>
 </TS>

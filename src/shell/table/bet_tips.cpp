@@ -1,5 +1,5 @@
-#include "shell/table/plates.h"
 #include "shell/table/bet_tips.h"
+
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -12,6 +12,7 @@
 #include "base/bet_catalogue.h"
 #include "play/session_luck.h"
 #include "rules/bet_limits.h"
+#include "shell/table/plates.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
 #include "shell/table/table_painter.h"
