@@ -567,7 +567,10 @@ Json LuckJson(const Game& game, int seat) {
           {"missed", figures.missed}};
 }
 
+// Who asks wants the rolls of the runs to come counted too, which takes its time.
 bool Luck(Call& call) {
+  if (const SessionLuck* const luck = WatchedLuck(call.game); luck != nullptr && luck->turboWatchers == 0)
+    WatchLuckOfTurboRolls(call.game, true);
   if (call.words.size() == 1) {
     Json& seats = call.answer["seats"] = Json::array();
     for (int seat = 1; seat <= kSeats; ++seat)
@@ -645,7 +648,9 @@ constexpr Handler kHandlers[] = {
     {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},
     {{"report", kReportArguments, "summary, hands, bet-results, bet-trends, roll-totals or roll-frequencies"},
      Report},
-    {{"luck", "[SEAT]", "what a player's session was expected to bring, what it did, and the difference"},
+    {{"luck", "[SEAT]",
+      "what sessions were expected to bring, what they did, and the difference; rolls of turbo count from "
+      "the first luck on"},
      Luck},
     {{"facts", "BET", "what a bet wins and loses on, pays and costs, as the table stands"}, Facts},
     {{"help", "", "the commands"}, Help},
@@ -667,7 +672,6 @@ const std::vector<PlayCommandInfo>& PlayCommands() {
 PlaySession::PlaySession(Game& game, PlayHost& host) : game_(game), host_(host) {
   game.autobet.StepsHold = false;
   WatchLuck(game);
-  WatchLuckOfTurboRolls(game, true);
   host.step = [&host](Game& running, const ScriptStep& shown) { host.TellStep(running, shown); };
 }
 

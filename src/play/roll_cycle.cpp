@@ -404,9 +404,10 @@ void FinishRoll(Game& game) {
 }
 
 bool MakeRoll(Game& game, SessionLuck* luck) {
-  if (luck != nullptr) LuckRollComes(*luck, game);
+  const bool counted = WantsRoll(luck, game.table.TurboRollActive);
+  if (counted) LuckRollComes(*luck, game);
   if (!RollAndSettle(game)) return false;
-  if (luck != nullptr) LuckRollFell(*luck, game);
+  if (counted) LuckRollFell(*luck, game);
   FinishRoll(game);
   return BankrollsWithinLimit(game);
 }

@@ -13,25 +13,27 @@ SessionLuck* LuckKeptBy(const Game& game) {
   return keeper != nullptr ? &keeper->sessionLuck : nullptr;
 }
 
-// The rolls from here on until counting begins again are missed.
-void BeginMissing(SessionLuck& luck, const Game& game) {
-  luck.missing = true;
-  for (std::int64_t& since : luck.missingSince) since = Throws(game.stats);
+void BeginCounting(SessionLuck& luck, const Game& game) {
+  luck.session = game.stats.ThrowsBeforeSession;
+  luck.upTo = Throws(game.stats);
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    luck.missed[seat] = PlayerRolls(game.stats, kCurrentSession, seat);
+    luck.missedUpTo[seat] = luck.upTo;
+  }
+  LuckBeginSession(luck.meter, game);
 }
 
-void EndMissing(SessionLuck& luck, const Game& game) {
-  luck.missing = false;
-  for (int seat = 1; seat <= kSeats; ++seat)
-    luck.missed[seat] += Throws(game.stats) - luck.missingSince[seat];
-  // Bets have come and gone unseen: that is nobody's doing between two rolls.
+// Behind rolls that nobody wanted counted. Bets have come and gone unseen meanwhile: that is no shift between
+// two rolls.
+void ResumeCounting(SessionLuck& luck, const Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) luck.missed[seat] += Throws(game.stats) - luck.missedUpTo[seat];
   LuckResume(luck.meter, game);
 }
 
-void BeginCounting(SessionLuck& luck, const Game& game) {
-  luck.missing = false;
-  for (int seat = 1; seat <= kSeats; ++seat)
-    luck.missed[seat] = PlayerRolls(game.stats, kCurrentSession, seat);
-  LuckBeginSession(luck.meter, game);
+// Every roll up to now is told of.
+void StandUpTo(SessionLuck& luck, std::int64_t throws) {
+  luck.upTo = throws;
+  for (std::int64_t& upTo : luck.missedUpTo) upTo = throws;
 }
 
 }  // namespace
@@ -61,7 +63,7 @@ void ClearSeatLuck(Game& game, int seat) {
   if (luck == nullptr) return;
   luck->meter.seats[seat] = {};
   luck->missed[seat] = 0;
-  luck->missingSince[seat] = Throws(game.stats);
+  luck->missedUpTo[seat] = Throws(game.stats);
 }
 
 void SwapSeatLuck(Game& game, int a, int b) {
@@ -69,37 +71,38 @@ void SwapSeatLuck(Game& game, int a, int b) {
   if (luck == nullptr) return;
   std::swap(luck->meter.seats[a], luck->meter.seats[b]);
   std::swap(luck->missed[a], luck->missed[b]);
-  std::swap(luck->missingSince[a], luck->missingSince[b]);
+  std::swap(luck->missedUpTo[a], luck->missedUpTo[b]);
 }
 
 void LuckRollComes(SessionLuck& luck, const Game& game) {
-  // A session that begins has nothing behind it.
-  if (SessionRolls(game.stats) == 0) BeginCounting(luck, game);
-  const bool wanted = !game.table.TurboRollActive || luck.turboWatchers > 0;
-  if (!wanted) {
-    if (!luck.missing) BeginMissing(luck, game);
-    return;
-  }
-  if (luck.missing) EndMissing(luck, game);
+  if (luck.session != game.stats.ThrowsBeforeSession || SessionRolls(game.stats) == 0)
+    BeginCounting(luck, game);
+  else if (luck.upTo != Throws(game.stats))
+    ResumeCounting(luck, game);
+  StandUpTo(luck, Throws(game.stats));
   LuckBeforeRoll(luck.meter, game);
 }
 
 void LuckRollFell(SessionLuck& luck, const Game& game) {
-  if (!luck.missing) LuckAfterRoll(luck.meter, game);
+  LuckAfterRoll(luck.meter, game);
+  StandUpTo(luck, Throws(game.stats));
 }
 
 SessionLuckFigures SessionLuckOf(const Game& game, int seat) {
   SessionLuckFigures figures;
   const SessionLuck* const luck = WatchedLuck(game);
   if (luck == nullptr || SessionRolls(game.stats) == 0) return figures;
+  if (luck->session != game.stats.ThrowsBeforeSession) {
+    figures.missed = PlayerRolls(game.stats, kCurrentSession, seat);
+    return figures;
+  }
   const SeatLuck& counted = luck->meter.seats[seat];
   figures.report = LuckOf(luck->meter, seat);
   if (luck->meter.unit > 0)
     figures.shifted =
         static_cast<double>(counted.shifted) / (static_cast<double>(luck->meter.unit) * Currency::kPerDollar);
   figures.counted = counted.rolls;
-  figures.missed = luck->missed[seat];
-  if (luck->missing) figures.missed += Throws(game.stats) - luck->missingSince[seat];
+  figures.missed = luck->missed[seat] + Throws(game.stats) - luck->missedUpTo[seat];
   return figures;
 }
 

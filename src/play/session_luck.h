@@ -15,11 +15,11 @@ struct SessionLuck {
   const Game* game = nullptr;  // whose luck it is; null while nobody watches
   int turboWatchers = 0;       // who want the rolls of a Turbo-Roll counted too
   LuckMeter meter;
-  // Rolls of the session that were not counted, and where the present stretch of such rolls began, in throws;
-  // below 0 while rolls are counted.
+  std::int64_t session = 0;  // throws before the session that is counted
+  std::int64_t upTo = 0;     // throws that have been counted or missed
+  // Of each seat: rolls of the session that were not counted, up to so many throws.
   std::int64_t missed[kSeatRows] = {};
-  std::int64_t missingSince[kSeatRows] = {};
-  bool missing = false;
+  std::int64_t missedUpTo[kSeatRows] = {};
 };
 
 // A host that keeps luck is one beside its being a Host.
@@ -44,6 +44,10 @@ void SwapSeatLuck(Game& game, int a, int b);
 
 // --- For the roll cycle.
 
+// Whether a roll is to be counted; one that isn't asks for nothing.
+inline bool WantsRoll(const SessionLuck* luck, bool turbo) {
+  return luck != nullptr && (luck->turboWatchers > 0 || !turbo);
+}
 void LuckRollComes(SessionLuck& luck, const Game& game);
 void LuckRollFell(SessionLuck& luck, const Game& game);
 

@@ -542,7 +542,7 @@ TEST(MainWindow, ThePointersLineFollowsEveryChange) {
   };
   const Case cases[] = {{[] {}, "may still be bet: 0"},  // there is no point
                         {[&] { evening.real.Roll(2, 2); }, "may still be bet: 1,000"},
-                        {[&] { PlaceBet(game, 4, kCome, Currency::Dollars(40)); }, "Come:  40"},
+                        {[&] { PlaceBet(game, 4, kCome, Currency::Dollars(40)); }, "Come: 40"},
                         {[&] {
                            game.settings.MaxBet = Currency::Dollars(300);
                            evening.real.host.Changed(game, Change::kSettings);
