@@ -522,7 +522,7 @@ void HelpWindow::ToggleContents() {
 
 void HelpWindow::TakeLook() {
   QFont font = this->font();
-  font.setPointSizeF(std::max(6.0, font.pointSizeF() + TextSize(game_)));
+  font.setPointSizeF(std::max(6.0, font.pointSizeF() + std::clamp(TextSize(game_), kLeastSize, kMostSize)));
   view_->document()->setDefaultFont(font);
   view_->document()->setDefaultStyleSheet(HelpStyle(palette()));
   for (const char* drawn : {"mnuFindInPage", "mnuPrintPage"})
