@@ -29,7 +29,8 @@ constexpr int kWidest = 820;
 void Keep(QWidget& widget, const QString& name) {
   QImage picture = widget.grab().toImage();
   if (picture.width() > kWidest) picture = picture.scaledToWidth(kWidest, Qt::SmoothTransformation);
-  picture = picture.convertToFormat(QImage::Format_RGB888).convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
+  picture = picture.convertToFormat(QImage::Format_RGB888)
+                .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
   EXPECT_TRUE(picture.save(QString(kSourceFolder) + "/docs/help/pictures/" + name + ".png", "PNG", 0));
 }
 
@@ -82,7 +83,8 @@ TEST(HelpPictures, AreMade) {
                "   bet 2 * passline on passlineodds", "   bet 10 on come", "endif"},
               "");
     Keep(scene.Show(kAutoBetWindow, {960, 600}), "workshop");
-    scene.table.game->screen.HotKeys = {{'a', "across.bet", "across the numbers"}, {'f', "field.bet", "the Field"}};
+    scene.table.game->screen.HotKeys = {{'a', "across.bet", "across the numbers"},
+                                        {'f', "field.bet", "the Field"}};
     Keep(scene.Show(kHotKeysWindow, {560, 300}), "hot-keys");
     Keep(OpenHelp(scene.desk, {"help/bets-numbers.md", {}, {}}), "help");
   }
@@ -112,8 +114,8 @@ TEST(HelpPictures, AreMade) {
     }
     TypeInto(lab, "txtSessions", "2000");
     Click(lab, "cmdRun");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>(lab, "cmdRun").text().remove('&').startsWith("Run"); },
-                                60'000));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return Find<QPushButton>(lab, "cmdRun").text().remove('&').startsWith("Run"); }, 60'000));
     Find<QTabWidget>(lab, "tabLaboratory").setCurrentIndex(1);
     QTest::qWait(200);
     Keep(lab, "laboratory");
@@ -136,7 +138,8 @@ TEST(HelpPictures, AreMade) {
     scene.table.game->graph.ScaleMode = kScaleExpanding;
     scene.table.Turbo(400);
     for (const int number : {kBankrollWindow, kRollTotalsWindow, kBetResultsWindow})
-      DockTool(scene.desk, number, number == kBetResultsWindow ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea);
+      DockTool(scene.desk, number,
+               number == kBetResultsWindow ? Qt::BottomDockWidgetArea : Qt::RightDockWidgetArea);
     QTest::qWait(500);
     Keep(scene.window, "docks");
   }

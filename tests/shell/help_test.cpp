@@ -110,7 +110,8 @@ TEST(HelpPages, NoLinkIsDeadAndNoPictureMissing) {
       // What isn't a page lies beside the folder, for those who read the sources.
       const QString file = QFileInfo(kDocs + '/' + page).path() + '/' + link;
       if (place.page.isEmpty())
-        EXPECT_TRUE(!link.endsWith(".md") && QFileInfo::exists(file)) << page.toStdString() << " " << link.toStdString();
+        EXPECT_TRUE(!link.endsWith(".md") && QFileInfo::exists(file))
+            << page.toStdString() << " " << link.toStdString();
       else
         EXPECT_TRUE(place.anchor.isEmpty() || HasAnchor(pages[place.page], place.anchor))
             << page.toStdString() << " " << link.toStdString();
@@ -168,7 +169,8 @@ TEST(HelpPages, EveryScreenHasItsPage) {
     EXPECT_TRUE(!told.contains(row.screen)) << row.screen;
     told.insert(row.screen);
     ASSERT_TRUE(Shelf().Has(row.page)) << row.page;
-    EXPECT_TRUE(*row.anchor == '\0' || HasAnchor(Shelf().Page(row.page), row.anchor)) << row.page << row.anchor;
+    EXPECT_TRUE(*row.anchor == '\0' || HasAnchor(Shelf().Page(row.page), row.anchor))
+        << row.page << row.anchor;
   }
   static const QRegularExpression kScreen("\"(frm[A-Z][A-Za-z]*)\"");
   static const QRegularExpression kTab("\\{\"(pic[A-Z][A-Za-z]*)\",");
@@ -195,17 +197,18 @@ TEST(HelpPages, NothingOutsideOfTheFolderIsRead) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.write("# " + name.toUtf8());
   };
-  for (const char* name : {"secret.md", "secret.png", "docs/auto-bet.md", "docs/help/index.md", "docs/help/a.md",
-                           "docs/help/de/a.md", "docs/help/pictures/a.png"})
+  for (const char* name : {"secret.md", "secret.png", "docs/auto-bet.md", "docs/help/index.md",
+                           "docs/help/a.md", "docs/help/de/a.md", "docs/help/pictures/a.png"})
     write(name);
   ASSERT_TRUE(QFile::link(folder.path() + "/secret.md", folder.path() + "/docs/help/link.md"));
   ASSERT_TRUE(QFile::link(folder.path() + "/secret.png", folder.path() + "/docs/help/link.png"));
   const QString docs = QDir(folder.path() + "/docs").canonicalPath();
   const HelpShelf shelf(docs, "de");
-  const char* const bad[] = {"../../secret.md", "../../../secret.md", "%2e%2e/%2e%2e/secret.md", "link.md",
-                             "file:///etc/passwd", "/etc/passwd", "//host/secret.md", "..\\..\\secret.md",
-                             "pictures/../../../secret.md", "qrc:/secret.md", "a.md%00.png", "",
-                             "../../secret.png", "link.png", "pictures/../../../secret.png"};
+  const char* const bad[] = {"../../secret.md",  "../../../secret.md", "%2e%2e/%2e%2e/secret.md",
+                             "link.md",          "file:///etc/passwd", "/etc/passwd",
+                             "//host/secret.md", "..\\..\\secret.md",  "pictures/../../../secret.md",
+                             "qrc:/secret.md",   "a.md%00.png",        "",
+                             "../../secret.png", "link.png",           "pictures/../../../secret.png"};
   for (const char* link : bad) {
     const HelpPlace place = shelf.Resolve("help/index.md", link);
     EXPECT_TRUE(place.page.isEmpty() || place.page == "help/index.md") << link;
@@ -230,9 +233,11 @@ TEST(HelpPages, MarkdownBecomesThePageAndNothingOfItMarkup) {
   } cases[] = {
       {"# A & *b* `c<d>`", "<h1><a name=\"a--b-cd\"></a>A &amp; <i>b</i> <code>c&lt;d&gt;</code></h1>\n"},
       {"one\ntwo\n\n**three**", "<p>one two</p>\n<p><b>three</b></p>\n"},
-      {"- a\n  b\n- c\n  - d\n\n1. e", "<ul>\n<li>a b</li>\n<li><p>c</p>\n<ul>\n<li>d</li>\n</ul></li>\n</ul>\n"
-                                       "<ol>\n<li>e</li>\n</ol>\n"},
-      {"[a <b>](x.md#y) ![p](q.png)", "<p><a href=\"x.md#y\">a &lt;b&gt;</a> <img src=\"q.png\" alt=\"p\"></p>\n"},
+      {"- a\n  b\n- c\n  - d\n\n1. e",
+       "<ul>\n<li>a b</li>\n<li><p>c</p>\n<ul>\n<li>d</li>\n</ul></li>\n</ul>\n"
+       "<ol>\n<li>e</li>\n</ol>\n"},
+      {"[a <b>](x.md#y) ![p](q.png)",
+       "<p><a href=\"x.md#y\">a &lt;b&gt;</a> <img src=\"q.png\" alt=\"p\"></p>\n"},
       {"<script>alert(1)</script>", "<p>&lt;script&gt;alert(1)&lt;/script&gt;</p>\n"},
       {"[x](a\"onclick=\"b)", "<p><a href=\"a&quot;onclick=&quot;b\">x</a></p>\n"},
       {"<!-- words: a -->\nb\n<!-- end -->", "<p>b</p>\n"},
@@ -240,16 +245,19 @@ TEST(HelpPages, MarkdownBecomesThePageAndNothingOfItMarkup) {
   };
   for (const auto& [markdown, html] : cases) {
     QString read = ReadHelpText(markdown).html;
-    EXPECT_EQ(read.replace("<li><p>c</p>", "<li>c"), QString(html).replace("<li><p>c</p>", "<li>c")) << markdown;
+    EXPECT_EQ(read.replace("<li><p>c</p>", "<li>c"), QString(html).replace("<li><p>c</p>", "<li>c"))
+        << markdown;
   }
   const QString table = ReadHelpText("| a | b |\n|---|--:|\n| `x|y` | 2 |").html;
-  EXPECT_TRUE(table.contains("<td align=\"left\"><code>x|y</code></td><td align=\"right\">2</td>")) << table.toStdString();
+  EXPECT_TRUE(table.contains("<td align=\"left\"><code>x|y</code></td><td align=\"right\">2</td>"))
+      << table.toStdString();
   // Of any text something comes, soon, and its tags are its own.
   std::mt19937 random(7);
   const QString signs = "#*`|-<>[]()!\\\n\n  1.ab>";
   for (int round = 0; round < 3000; ++round) {
     QString text;
-    for (int n = 0; n < 60; ++n) text += signs[static_cast<qsizetype>(random() % static_cast<unsigned>(signs.size()))];
+    for (int n = 0; n < 60; ++n)
+      text += signs[static_cast<qsizetype>(random() % static_cast<unsigned>(signs.size()))];
     QString html = ReadHelpText(text).html;
     static const QRegularExpression kTags(
         "</?(h[1-6]|p|b|i|ul|ol|li|hr|tr|td|th|pre|code|table|a|img|span)( [a-z]+=\"[^\"<>]*\")*>");
@@ -263,9 +271,12 @@ TEST(HelpPages, TheSearchFindsWhatItShould) {
     const char* words;
     const char* page;
     const char* anchor;
-  } cases[] = {{"don't come", "help/bets-line.md", "dont-come"}, {"DONT PASS", "help/bets-line.md", "dont-pass"},
-               {"fire", "help/bets-special.md", "fire"},         {"permissions", "help/workshop.md", "permissions"},
-               {"hot-keys", "help/hot-keys.md", ""},             {"turbo", "help/running.md", ""},
+  } cases[] = {{"don't come", "help/bets-line.md", "dont-come"},
+               {"DONT PASS", "help/bets-line.md", "dont-pass"},
+               {"fire", "help/bets-special.md", "fire"},
+               {"permissions", "help/workshop.md", "permissions"},
+               {"hot-keys", "help/hot-keys.md", ""},
+               {"turbo", "help/running.md", ""},
                {"run-time errors", "auto-bet.md", "run-time-errors"},
                {"percent dice", "help/dice.md", "percentage-dice"},
                {"laborat", "help/laboratory.md", ""}};
@@ -278,7 +289,8 @@ TEST(HelpPages, TheSearchFindsWhatItShould) {
   }
   EXPECT_TRUE(shelf.Search("zzyzx").isEmpty());
   EXPECT_TRUE(shelf.Search("  - ").isEmpty());
-  EXPECT_EQ(HelpWords(QString::fromUtf8("Çok güzel: l'élan, İŞ!")), (QStringList{"cok", "guzel", "lelan", "is"}));
+  EXPECT_EQ(HelpWords(QString::fromUtf8("Çok güzel: l'élan, İŞ!")),
+            (QStringList{"cok", "guzel", "lelan", "is"}));
 }
 
 // --- The window.
@@ -298,7 +310,8 @@ TEST(HelpWindow, GoesBackAndForwardSearchesAndFinds) {
   EXPECT_EQ(help.Place().page, kHelpContents);
   QTest::keyClick(&view, Qt::Key_Right, Qt::AltModifier);
   EXPECT_EQ(help.Place(), (HelpPlace{"help/bets-line.md", "come", {}}));
-  // A page that isn't there is the first one; a link out of the folder leads nowhere, one to the web to the browser.
+  // A page that isn't there is the first one; a link out of the folder leads nowhere, one to the web to the
+  // browser.
   QUrl opened;
   help.openAddress = [&](const QUrl& address) { opened = address; };
   emit view.anchorClicked(QUrl("../../../README.md"));
@@ -323,7 +336,8 @@ TEST(HelpWindow, GoesBackAndForwardSearchesAndFinds) {
   EXPECT_EQ(view.textCursor().selectedText().toLower(), "different points");
   Find<QLineEdit>(help, "txtFind").setText("nowhere at all");
   EXPECT_FALSE(Find<QLabel>(help, "lblFound").text().isEmpty());
-  // Letters grow, also by a key that the table has as well, and printing doesn't depend on the desktop's colours.
+  // Letters grow, also by a key that the table has as well, and printing doesn't depend on the desktop's
+  // colours.
   const double before = view.document()->defaultFont().pointSizeF();
   const int zoom = table.window.Table().view.TableZoom;
   QTest::keyClick(&view, Qt::Key_Plus, Qt::ControlModifier);

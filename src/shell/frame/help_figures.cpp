@@ -24,7 +24,11 @@ namespace {
 
 // A sign that Markdown would take for its own stands for itself.
 QString Plain(QString text) {
-  return text.replace('\\', "\\\\").replace('|', "\\|").replace('<', "\\<").replace('*', "\\*").replace('\n', ' ');
+  return text.replace('\\', "\\\\")
+      .replace('|', "\\|")
+      .replace('<', "\\<")
+      .replace('*', "\\*")
+      .replace('\n', ' ');
 }
 
 QString TableRow(const QStringList& cells) { return "| " + cells.join(" | ") + " |\n"; }
@@ -38,8 +42,9 @@ std::vector<int> BetsNamed(const QString& name) {
   for (int bet = 1; bet <= kBets; ++bet) {
     const QString word = QString::fromLatin1(FactsOf(bet).scriptName);
     const QString behind = word.mid(name.size());
-    const bool numbered = word.startsWith(name) && !behind.isEmpty() &&
-                          std::all_of(behind.begin(), behind.end(), [](QChar sign) { return sign.isDigit(); });
+    const bool numbered =
+        word.startsWith(name) && !behind.isEmpty() &&
+        std::all_of(behind.begin(), behind.end(), [](QChar sign) { return sign.isDigit(); });
     if (word == name) return {bet};
     if (name == "all" || numbered) bets.push_back(bet);
   }
@@ -51,7 +56,8 @@ QString PaysText(const Game& game, int bet) {
   if (pays.isEmpty()) return QCoreApplication::translate("HelpFigures", "as odds on the point");
   if (!HasVig(bet)) return pays;
   const double rate = IsLay(bet) ? game.settings.LayVigRate.ToDouble() : game.settings.BuyVigRate.ToDouble();
-  return QCoreApplication::translate("HelpFigures", "%1, less %2% vig").arg(pays, QLocale().toString(rate * 100, 'g', 4));
+  return QCoreApplication::translate("HelpFigures", "%1, less %2% vig")
+      .arg(pays, QLocale().toString(rate * 100, 'g', 4));
 }
 
 QString PercentText(double share) {
@@ -74,9 +80,12 @@ QString Figures(const Game& game, const QString& what) {
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
       return a.figures.evPerDecision > b.figures.evPerDecision;
     });
-  QString table = TableHead({QCoreApplication::translate("HelpFigures", "Bet"), QCoreApplication::translate("HelpFigures", "Pays"), QCoreApplication::translate("HelpFigures", "House edge"), QCoreApplication::translate("HelpFigures", "Edge a roll"),
-                             QCoreApplication::translate("HelpFigures", "Rolls to a decision")},
-                            {"---", "---", "--:", "--:", "--:"});
+  QString table = TableHead(
+      {QCoreApplication::translate("HelpFigures", "Bet"), QCoreApplication::translate("HelpFigures", "Pays"),
+       QCoreApplication::translate("HelpFigures", "House edge"),
+       QCoreApplication::translate("HelpFigures", "Edge a roll"),
+       QCoreApplication::translate("HelpFigures", "Rolls to a decision")},
+      {"---", "---", "--:", "--:", "--:"});
   for (const Line& line : lines) {
     const Advantage& figures = line.figures;
     const bool decided = figures.rollsPerDecision > 0;
@@ -96,20 +105,26 @@ QString Payoffs(const Game& game, const QString& what) {
   if (id == 0) return {};
   const PayoffTableInfo& facts = PayoffTableFacts(id);
   const auto rows = PayoffRowsOf(game, bets.front());
-  QString table = TableHead({QCoreApplication::translate("HelpFigures", "What comes"), QCoreApplication::translate("HelpFigures", "Pays")}, {"---", "---"});
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "What comes"),
+                             QCoreApplication::translate("HelpFigures", "Pays")},
+                            {"---", "---"});
   for (std::size_t n = 0; n < rows.size(); ++n) {
     const PayoffRecord& record = rows[n];
-    const QString pays = record.PayTo > kZero                  ? FromCore(PayoffText(record))
-                         : record.PayTo == kZero               ? QCoreApplication::translate("HelpFigures", "nothing, and stays")
-                         : record.PayTo == -record.PayPer      ? QCoreApplication::translate("HelpFigures", "loses")
-                                                               : QCoreApplication::translate("HelpFigures", "loses in part");
+    const QString pays =
+        record.PayTo > kZero             ? FromCore(PayoffText(record))
+        : record.PayTo == kZero          ? QCoreApplication::translate("HelpFigures", "nothing, and stays")
+        : record.PayTo == -record.PayPer ? QCoreApplication::translate("HelpFigures", "loses")
+                                         : QCoreApplication::translate("HelpFigures", "loses in part");
     table += TableRow({Plain(PayoffRowCaption(id, facts.firstRow + static_cast<int>(n)).simplified()), pays});
   }
   return table;
 }
 
 QString Rules(const Game& game, const QString& what) {
-  QString table = TableHead({QCoreApplication::translate("HelpFigures", "Rule"), QCoreApplication::translate("HelpFigures", "Now"), QCoreApplication::translate("HelpFigures", "Setting")}, {"---", "---", "---"});
+  QString table = TableHead(
+      {QCoreApplication::translate("HelpFigures", "Rule"), QCoreApplication::translate("HelpFigures", "Now"),
+       QCoreApplication::translate("HelpFigures", "Setting")},
+      {"---", "---", "---"});
   const std::vector<SettingName> all = AllSettings();
   for (const QString& part : what.split(',')) {
     const std::string name = part.trimmed().toStdString();
@@ -124,7 +139,10 @@ QString Rules(const Game& game, const QString& what) {
 }
 
 QString Houses() {
-  QString table = TableHead({QCoreApplication::translate("HelpFigures", "House"), QCoreApplication::translate("HelpFigures", "Rules"), QCoreApplication::translate("HelpFigures", "Command line")}, {"---", "---", "---"});
+  QString table = TableHead({QCoreApplication::translate("HelpFigures", "House"),
+                             QCoreApplication::translate("HelpFigures", "Rules"),
+                             QCoreApplication::translate("HelpFigures", "Command line")},
+                            {"---", "---", "---"});
   for (const HousePreset& house : HousePresets())
     table += TableRow({Plain(QString::fromUtf8(house.name)), Plain(QString::fromUtf8(house.tells)),
                        QString("`--house %1`").arg(house.key)});
@@ -139,7 +157,10 @@ QString Unmarked(const char* caption) {
 QString Keys() {
   QString text;
   for (const CommandMenu& menu : CommandMenus()) {
-    text += "\n### " + Unmarked(menu.title) + "\n\n" + TableHead({QCoreApplication::translate("HelpFigures", "Command"), QCoreApplication::translate("HelpFigures", "Key")}, {"---", "---"});
+    text += "\n### " + Unmarked(menu.title) + "\n\n" +
+            TableHead({QCoreApplication::translate("HelpFigures", "Command"),
+                       QCoreApplication::translate("HelpFigures", "Key")},
+                      {"---", "---"});
     for (const CommandRow& command : menu.commands)
       if (command.name != nullptr)
         text += TableRow({Plain(Unmarked(command.caption)), command.key != nullptr ? command.key : ""});

@@ -8,8 +8,8 @@ namespace tessaryn {
 
 struct Game;
 
-// A block of a page, as <!-- figures: place, field --> begins one, in Markdown. Null for a kind, or a name in it,
-// that there isn't.
+// A block of a page, as <!-- figures: place, field --> begins one, in Markdown. Null for a kind, or a name in
+// it, that there isn't.
 //   figures  bets by their words, or the beginnings of several ("place"), or "all" of them by their edge
 //   payoffs  a bet with a table of payoffs of its own, row by row
 //   rules    settings, with what they are now

@@ -75,7 +75,8 @@ const QRegularExpression& ItemSign() {
   return kSign;
 }
 const QRegularExpression& TableSign() {
-  static const QRegularExpression kSign(QStringLiteral("^\\s*\\|?\\s*:?-+:?\\s*(\\|\\s*:?-+:?\\s*)*\\|?\\s*$"));
+  static const QRegularExpression kSign(
+      QStringLiteral("^\\s*\\|?\\s*:?-+:?\\s*(\\|\\s*:?-+:?\\s*)*\\|?\\s*$"));
   return kSign;
 }
 const QRegularExpression& RuleSign() {
@@ -97,9 +98,9 @@ QString Reader::Blocks(const QStringList& lines, int first, int depth) {
       ++block.at;
       continue;
     }
-    const bool taken = Fence(block, html) || Comment(block, html) || Heading(block, html) || Rule(block, html) ||
-                       (depth < kDeepest && (Quote(block, html) || List(block, html))) || Table(block, html) ||
-                       Indented(block, html);
+    const bool taken = Fence(block, html) || Comment(block, html) || Heading(block, html) ||
+                       Rule(block, html) || (depth < kDeepest && (Quote(block, html) || List(block, html))) ||
+                       Table(block, html) || Indented(block, html);
     if (!taken) Paragraph(block, html);
   }
   return html;
@@ -216,7 +217,8 @@ bool Reader::Table(Block& block, QString& html) {
   html += QLatin1String("<table class=\"figures\" border=\"0\" cellspacing=\"0\" cellpadding=\"5\">\n");
   // A heading of nothing takes no room.
   if (!head.join(QString()).trimmed().isEmpty()) row(head, "th");
-  for (block.at += 2; !block.Ends() && block.Line().contains('|'); ++block.at) row(CellsOf(block.Line()), "td");
+  for (block.at += 2; !block.Ends() && block.Line().contains('|'); ++block.at)
+    row(CellsOf(block.Line()), "td");
   html += QLatin1String("</table>\n");
   return true;
 }
@@ -230,7 +232,8 @@ bool Reader::List(Block& block, QString& html) {
   html += numbered ? QLatin1String("<ol>\n") : QLatin1String("<ul>\n");
   while (!block.Ends()) {
     match = ItemSign().match(block.Line());
-    if (!match.hasMatch() || match.capturedLength(1) != left || match.captured(2)[0].isDigit() != numbered) break;
+    if (!match.hasMatch() || match.capturedLength(1) != left || match.captured(2)[0].isDigit() != numbered)
+      break;
     const int inner = static_cast<int>(left + match.capturedLength(2) + match.capturedLength(3));
     const int begin = block.at++;
     QStringList lines{match.captured(4)};
@@ -239,7 +242,8 @@ bool Reader::List(Block& block, QString& html) {
       const bool within = IndentOf(block.Line()) >= std::min(inner, static_cast<int>(left) + 2);
       if (!block.IsBlank() && !within && (loose || BeginsBlock(block.Line()))) break;
       loose = block.IsBlank();
-      lines.append(within ? block.Line().mid(std::min(inner, IndentOf(block.Line()))) : block.Line().trimmed());
+      lines.append(within ? block.Line().mid(std::min(inner, IndentOf(block.Line())))
+                          : block.Line().trimmed());
     }
     QString item = Blocks(lines, block.first + begin, block.depth + 1).trimmed();
     // A lone paragraph is the item itself.
@@ -261,7 +265,8 @@ void Reader::Paragraph(Block& block, QString& html) {
 
 QString Reader::Code(const QString& text, const QString& language) const {
   page_.sections.last().text += text + '\n';
-  return QLatin1String("<table class=\"code\" width=\"100%\" cellspacing=\"0\" cellpadding=\"8\"><tr><td><pre>") +
+  return QLatin1String(
+             "<table class=\"code\" width=\"100%\" cellspacing=\"0\" cellpadding=\"8\"><tr><td><pre>") +
          (language == QLatin1String("bet") ? Script(text) : text.toHtmlEscaped()) +
          QLatin1String("</pre></td></tr></table>\n");
 }
@@ -271,7 +276,8 @@ QString Reader::Script(const QString& text) const {
   for (const QString& line : text.split('\n')) {
     QString html;
     for (const ColoredPart& part : ColoredScriptLine(line, colors_.dark))
-      html += part.color.isValid() ? Colored(part.color, part.text.toHtmlEscaped()) : part.text.toHtmlEscaped();
+      html +=
+          part.color.isValid() ? Colored(part.color, part.text.toHtmlEscaped()) : part.text.toHtmlEscaped();
     lines.append(html);
   }
   return lines.join('\n');
@@ -289,12 +295,12 @@ QString Reader::Link(const QString& label, const QString& target, bool picture) 
 // What stands within a line, from sign to sign.
 QString Reader::Inline(const QString& text) {
   static const QRegularExpression kSigns(
-      QStringLiteral("\\\\([\\\\`*_{}\\[\\]()#+.!|<>~-])"               // 1 an escaped sign
-                     "|(`+)(.+?)\\2"                                     // 3 code
+      QStringLiteral("\\\\([\\\\`*_{}\\[\\]()#+.!|<>~-])"                          // 1 an escaped sign
+                     "|(`+)(.+?)\\2"                                               // 3 code
                      "|(!?)\\[((?:[^\\[\\]]|\\[[^\\]]*\\])*)\\]\\(([^()\\s]*)\\)"  // 5, 6 a link or picture
-                     "|<(https?://[^>\\s]+)>"                            // 7 an address
-                     "|\\*\\*(?=\\S)(.+?)(?<=\\S)\\*\\*"                 // 8 strong
-                     "|(?<!\\*)\\*(?=[^\\s*])(.+?)(?<=[^\\s*])\\*(?!\\*)"));  // 9 emphasis
+                     "|<(https?://[^>\\s]+)>"                                      // 7 an address
+                     "|\\*\\*(?=\\S)(.+?)(?<=\\S)\\*\\*"                           // 8 strong
+                     "|(?<!\\*)\\*(?=[^\\s*])(.+?)(?<=[^\\s*])\\*(?!\\*)"));       // 9 emphasis
   QString html;
   qsizetype done = 0;
   const auto plain = [this](const QString& part) {
@@ -351,20 +357,21 @@ QString HelpStyle(const QPalette& palette) {
         .name();
   };
   const bool dark = base.lightness() < 128;
-  return QStringLiteral("h1 { font-size: xx-large; font-weight: 600; margin-top: 4px; margin-bottom: 12px; }"
-                        "h2 { font-size: x-large; font-weight: 600; margin-top: 20px; margin-bottom: 8px; }"
-                        "h3 { font-size: large; font-weight: 600; margin-top: 16px; margin-bottom: 4px; }"
-                        "p { margin-top: 4px; margin-bottom: 8px; line-height: 125%; }"
-                        "li { margin-top: 2px; margin-bottom: 2px; }"
-                        "a { color: %1; text-decoration: none; }"
-                        "code { font-family: monospace; background-color: %2; }"
-                        "pre { font-family: monospace; margin: 0px; }"
-                        "table.code td, table.note td { border: none; }"
-                        "table.code { background-color: %2; margin-top: 4px; margin-bottom: 12px; }"
-                        "table.note { background-color: %3; margin-top: 4px; margin-bottom: 12px; }"
-                        "table.figures { border-collapse: collapse; margin-top: 4px; margin-bottom: 12px; }"
-                        "td { border-top: 1px solid %4; }"
-                        "th { background-color: %2; font-weight: 600; }")
+  return QStringLiteral(
+             "h1 { font-size: xx-large; font-weight: 600; margin-top: 4px; margin-bottom: 12px; }"
+             "h2 { font-size: x-large; font-weight: 600; margin-top: 20px; margin-bottom: 8px; }"
+             "h3 { font-size: large; font-weight: 600; margin-top: 16px; margin-bottom: 4px; }"
+             "p { margin-top: 4px; margin-bottom: 8px; line-height: 125%; }"
+             "li { margin-top: 2px; margin-bottom: 2px; }"
+             "a { color: %1; text-decoration: none; }"
+             "code { font-family: monospace; background-color: %2; }"
+             "pre { font-family: monospace; margin: 0px; }"
+             "table.code td, table.note td { border: none; }"
+             "table.code { background-color: %2; margin-top: 4px; margin-bottom: 12px; }"
+             "table.note { background-color: %3; margin-top: 4px; margin-bottom: 12px; }"
+             "table.figures { border-collapse: collapse; margin-top: 4px; margin-bottom: 12px; }"
+             "td { border-top: 1px solid %4; }"
+             "th { background-color: %2; font-weight: 600; }")
       .arg(dark ? "#7cc4ff" : "#0b5cad", between(0.06), dark ? "#24382d" : "#eaf4ec", between(0.22));
 }
 

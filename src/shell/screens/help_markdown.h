@@ -1,7 +1,7 @@
-// The pages of the help: Markdown, as the docs folder has it, and the HTML that the help window shows. What it
-// knows: headings, paragraphs, lists, tables, fenced and indented code, quotes, lines across, and within a line
-// emphasis, code, links, pictures and escaped signs. Anything else stands as it is written; no text of a page
-// gets into the HTML as markup.
+// The pages of the help: Markdown, as the docs folder has it, and the HTML that the help window shows. What
+// it knows: headings, paragraphs, lists, tables, fenced and indented code, quotes, lines across, and within a
+// line emphasis, code, links, pictures and escaped signs. Anything else stands as it is written; no text of a
+// page gets into the HTML as markup.
 #pragma once
 
 #include <QColor>
@@ -30,8 +30,8 @@ struct HelpText {
   QString title;  // the first heading's
   QString html;   // a body, without styles
   QVector<HelpSection> sections;
-  QStringList links;     // as they are written
-  QStringList pictures;  // likewise
+  QStringList links;            // as they are written
+  QStringList pictures;         // likewise
   QVector<HelpScript> scripts;  // blocks fenced as "bet"
 };
 

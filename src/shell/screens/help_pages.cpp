@@ -31,9 +31,8 @@ const QRegularExpression& LanguageFolder() {
 }  // namespace
 
 QString FindHelpFolder(const QString& applicationFolder) {
-  const char* const places[] = {"docs",         "../share/tessaryn/docs", "../share/doc/tessaryn",
-                                "../docs",      "../../docs",             "../../../docs",
-                                "../share/docs"};
+  const char* const places[] = {"docs",       "../share/tessaryn/docs", "../share/doc/tessaryn", "../docs",
+                                "../../docs", "../../../docs",          "../share/docs"};
   for (const char* place : places) {
     const QString folder = QDir(applicationFolder).filePath(QString::fromLatin1(place));
     if (QFileInfo(folder + '/' + kHelpContents).isFile()) return QDir(folder).canonicalPath();
@@ -128,7 +127,8 @@ QVector<HelpEntry> HelpShelf::Contents() const {
   static const QRegularExpression kLink(QStringLiteral("^( *)- \\[([^\\]]+)\\]\\(([^)]+)\\)"));
   QVector<HelpEntry> entries;
   for (const QString& line : Markdown(kHelpContents).split('\n')) {
-    if (const auto heading = kHeading.match(line); heading.hasMatch()) entries.append({heading.captured(1), {}, 0});
+    if (const auto heading = kHeading.match(line); heading.hasMatch())
+      entries.append({heading.captured(1), {}, 0});
     const auto link = kLink.match(line);
     if (!link.hasMatch()) continue;
     const HelpPlace place = Resolve(kHelpContents, link.captured(3));
@@ -234,7 +234,8 @@ QVector<HelpHit> HelpShelf::Search(const QString& typed) {
     if (!whole[n]) continue;
     hits.append({section.place, section.page, section.section, ExcerptOf(section.text, words), scores[n]});
   }
-  std::stable_sort(hits.begin(), hits.end(), [](const HelpHit& a, const HelpHit& b) { return a.score > b.score; });
+  std::stable_sort(hits.begin(), hits.end(),
+                   [](const HelpHit& a, const HelpHit& b) { return a.score > b.score; });
   if (hits.size() > kMostHits) hits.resize(kMostHits);
   return hits;
 }

@@ -1,6 +1,6 @@
-// The folder of the help's pages, and the search in them. A page is known by its path in the folder, "help/start.md"
-// or "auto-bet.md"; its translation stands in help/LANGUAGE/ under its own name. Nothing outside of the folder is
-// ever read, whatever a link says.
+// The folder of the help's pages, and the search in them. A page is known by its path in the folder,
+// "help/start.md" or "auto-bet.md"; its translation stands in help/LANGUAGE/ under its own name. Nothing
+// outside of the folder is ever read, whatever a link says.
 #pragma once
 
 #include <QByteArray>
@@ -49,8 +49,8 @@ class HelpShelf {
   // language: a folder of translated pages; pages that it lacks are the English ones.
   HelpShelf(QString folder, QString language);
 
-  // Takes the place of marked blocks in a page, as <!-- figures: field --> to <!-- end -->, by what is told of
-  // the table as it is. A null string leaves a block as it stands.
+  // Takes the place of marked blocks in a page, as <!-- figures: field --> to <!-- end -->, by what is told
+  // of the table as it is. A null string leaves a block as it stands.
   std::function<QString(const QString& kind, const QString& what)> live;
 
   bool Has(const QString& page) const;

@@ -16,6 +16,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStyledItemDelegate>
+#include <QTextBlock>
 #include <QTextTable>
 #include <QTimer>
 #include <QToolBar>
@@ -35,6 +36,7 @@ constexpr int kNarrow = 560;     // below it the page has the window to itself
 constexpr int kMostSteps = 200;  // back
 constexpr int kLeastSize = -4;
 constexpr int kMostSize = 12;  // points more than the desktop's letters
+constexpr int kMargin = 16;    // round a page
 constexpr int kPlaceRole = Qt::UserRole;
 constexpr int kAnchorRole = Qt::UserRole + 1;
 
@@ -99,14 +101,15 @@ class HitPainter : public QStyledItemDelegate {
     painter->save();
     painter->translate(option.rect.topLeft());
     QAbstractTextDocumentLayout::PaintContext context;
-    QTextDocument& text = TextOf(option, index,
-                                 option.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
+    QTextDocument& text =
+        TextOf(option, index, option.palette.color(chosen ? QPalette::HighlightedText : QPalette::Text));
     text.documentLayout()->draw(painter, context);
     painter->restore();
   }
 
  private:
-  QTextDocument& TextOf(const QStyleOptionViewItem& option, const QModelIndex& index, const QColor& color) const {
+  QTextDocument& TextOf(const QStyleOptionViewItem& option, const QModelIndex& index,
+                        const QColor& color) const {
     const QStringList parts = index.data().toString().split('\n');
     text_.setDefaultFont(option.font);
     text_.setDocumentMargin(6);
@@ -120,6 +123,19 @@ class HitPainter : public QStyledItemDelegate {
   mutable QTextDocument text_;
 };
 
+// How well a place tells of a word: 3 as one of the words that the row of a table is about, 2 within one of
+// them, 1 anywhere else.
+int TellsOf(const QString& word, const QTextCursor& at) {
+  const QTextTable* table = at.currentTable();
+  if (table == nullptr || table->columns() < 2 || table->cellAt(at).column() != 0) return 1;
+  const QStringList words = at.block().text().split(QStringLiteral(", "));
+  const auto same = [&word](const QString& told) {
+    return told.section('(', 0, 0).trimmed().compare(word.section('(', 0, 0).trimmed(),
+                                                     Qt::CaseInsensitive) == 0;
+  };
+  return std::any_of(words.begin(), words.end(), same) ? 3 : 2;
+}
+
 bool IsDark(const QPalette& palette) { return palette.color(QPalette::Base).lightness() < 128; }
 
 }  // namespace
@@ -131,12 +147,17 @@ HelpPageView::HelpPageView(QWidget* parent) : QTextBrowser(parent) {
 
 QVariant HelpPageView::loadResource(int type, const QUrl& name) {
   if (type != QTextDocument::ImageResource || !picture) return {};
-  return QImage::fromData(picture(name.toString(QUrl::FullyEncoded)));
+  const QImage image = QImage::fromData(picture(name.toString(QUrl::FullyEncoded)));
+  const int room = std::max(160, viewport()->width() - 2 * kMargin - 4);
+  return image.width() <= room ? image : image.scaledToWidth(room, Qt::SmoothTransformation);
 }
 
 HelpWindow::HelpWindow(Game& game, const QString& folder,
                        std::function<QString(const QString& kind, const QString& what)> live, QWidget* parent)
-    : ToolWindow("frmHelp", parent), game_(game), folder_(folder), live_(std::move(live)),
+    : ToolWindow("frmHelp", parent),
+      game_(game),
+      folder_(folder),
+      live_(std::move(live)),
       shelf_(folder_, HelpLanguage()) {
   shelf_.live = live_;
   auto* column = new QVBoxLayout(this);
@@ -156,7 +177,7 @@ HelpWindow::HelpWindow(Game& game, const QString& folder,
   view_ = new HelpPageView(right);
   view_->setObjectName("txtPage");
   view_->setFrameShape(QFrame::NoFrame);
-  view_->document()->setDocumentMargin(16);
+  view_->document()->setDocumentMargin(kMargin);
   view_->picture = [this](const QString& link) { return shelf_.Picture(place_.page, link); };
   view_->installEventFilter(this);
   connect(view_, &QTextBrowser::anchorClicked, this, &HelpWindow::Follow);
@@ -223,6 +244,7 @@ void HelpWindow::BuildLeft() {
   hits_->setObjectName("lstHits");
   hits_->setFrameShape(QFrame::NoFrame);
   hits_->setItemDelegate(new HitPainter(hits_));
+  hits_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // its width is that of the texts' lines
   hits_->setResizeMode(QListView::Adjust);
   hits_->setAlternatingRowColors(true);
   hits_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -235,8 +257,8 @@ void HelpWindow::BuildLeft() {
   nothing_->setAlignment(Qt::AlignTop | Qt::AlignLeft);
   nothing_->setMargin(12);
   nothing_->setWordWrap(true);
-  for (QWidget* part : {static_cast<QWidget*>(contents_), static_cast<QWidget*>(hits_),
-                        static_cast<QWidget*>(nothing_)})
+  for (QWidget* part :
+       {static_cast<QWidget*>(contents_), static_cast<QWidget*>(hits_), static_cast<QWidget*>(nothing_)})
     left_->addWidget(part);
   parts_->addWidget(left_);
 }
@@ -321,7 +343,9 @@ void HelpWindow::ListContents() {
   QTreeWidgetItem* heading = nullptr;
   QTreeWidgetItem* above = nullptr;
   for (const HelpEntry& entry : shelf_.Contents()) {
-    QTreeWidgetItem* under = entry.level == 0 ? nullptr : entry.level == 2 && above != nullptr ? above : heading;
+    QTreeWidgetItem* under = entry.level == 0                       ? nullptr
+                             : entry.level == 2 && above != nullptr ? above
+                                                                    : heading;
     auto* item = under == nullptr ? new QTreeWidgetItem(contents_) : new QTreeWidgetItem(under);
     item->setText(0, entry.title);
     item->setToolTip(0, entry.title);
@@ -361,9 +385,10 @@ void HelpWindow::ShowHits() {
       item->setData(kPlaceRole, hit.place.page);
       item->setData(kAnchorRole, hit.place.anchor);
     }
-    nothing_->setText(tr("Nothing was found for \"%1\". Try fewer words, or the beginning of one.").arg(typed));
+    nothing_->setText(
+        tr("Nothing was found for \"%1\". Try fewer words, or the beginning of one.").arg(typed));
   }
-  left_->setCurrentWidget(!searching             ? static_cast<QWidget*>(contents_)
+  left_->setCurrentWidget(!searching            ? static_cast<QWidget*>(contents_)
                           : hits_->count() == 0 ? static_cast<QWidget*>(nothing_)
                                                 : static_cast<QWidget*>(hits_));
   left_->setVisible((!hidden_ && width() >= kNarrow) || searching);
@@ -414,9 +439,10 @@ void HelpWindow::Show(const HelpPlace& place, int scrolled) {
   TakeLook();
   const HelpText page = shelf_.Page(place.page, {IsDark(palette())});
   if (page.html.isEmpty())
-    view_->setHtml(QStringLiteral("<p>%1</p>").arg(tr("The pages of the help aren't where the program is. They "
-                                                      "lie in the folder \"docs\" of its source and of its "
-                                                      "packages.")));
+    view_->setHtml(QStringLiteral("<p>%1</p>")
+                       .arg(tr("The pages of the help aren't where the program is. They "
+                               "lie in the folder \"docs\" of its source and of its "
+                               "packages.")));
   else
     view_->setHtml(page.html);
   if (scrolled >= 0) {
@@ -425,9 +451,12 @@ void HelpWindow::Show(const HelpPlace& place, int scrolled) {
     ShowWord(place.word);
   } else if (!place.anchor.isEmpty()) {
     view_->scrollToAnchor(place.anchor);
+    arrived_ = view_->verticalScrollBar()->value();
     // A window that isn't laid out yet has another height.
     QTimer::singleShot(0, this, [this, place] {
-      if (place_ == place && at_ >= 0 && visited_[at_].scrolled < 0) view_->scrollToAnchor(place.anchor);
+      if (!(place_ == place) || view_->verticalScrollBar()->value() != arrived_) return;
+      view_->scrollToAnchor(place.anchor);
+      arrived_ = view_->verticalScrollBar()->value();
     });
   } else {
     view_->verticalScrollBar()->setValue(0);
@@ -437,16 +466,17 @@ void HelpWindow::Show(const HelpPlace& place, int scrolled) {
   if (!place.word.isEmpty()) ShowWord(place.word);
 }
 
-// The row of a table, or else the paragraph, that tells of a word of the language.
 void HelpWindow::ShowWord(const QString& word) {
   QTextCursor best;
+  int bestTells = 0;
   const QRegularExpression whole("(?<![\\w])" + QRegularExpression::escape(word) + "(?![\\w])",
                                  QRegularExpression::CaseInsensitiveOption);
-  for (QTextCursor at = view_->document()->find(whole); !at.isNull(); at = view_->document()->find(whole, at)) {
-    const QTextTable* table = at.currentTable();
-    const bool row = table != nullptr && table->columns() > 1 && table->cellAt(at).column() == 0;
-    if (best.isNull() || row) best = at;
-    if (row) break;
+  for (QTextCursor at = view_->document()->find(whole); !at.isNull();
+       at = view_->document()->find(whole, at)) {
+    const int tells = TellsOf(word, at);
+    if (tells <= bestTells) continue;
+    best = at;
+    bestTells = tells;
   }
   if (best.isNull()) return;
   QTextCursor top = best;
@@ -492,7 +522,7 @@ void HelpWindow::ToggleContents() {
 
 void HelpWindow::TakeLook() {
   QFont font = this->font();
-  font.setPointSizeF(std::max(6.0, font.pointSizeF() + TextSize(game_)));
+  font.setPointSizeF(std::max(6.0, font.pointSizeF() + std::clamp(TextSize(game_), kLeastSize, kMostSize)));
   view_->document()->setDefaultFont(font);
   view_->document()->setDefaultStyleSheet(HelpStyle(palette()));
   for (const char* drawn : {"mnuFindInPage", "mnuPrintPage"})
@@ -603,8 +633,16 @@ void HelpWindow::changeEvent(QEvent* event) {
   if (look && !place_.page.isEmpty()) Show(place_, view_->verticalScrollBar()->value());
 }
 
+// Pictures are made anew for the room that there is now.
 void HelpWindow::resizeEvent(QResizeEvent* event) {
   ToolWindow::resizeEvent(event);
+  if (event->size().width() != event->oldSize().width() && !place_.page.isEmpty() &&
+      !shelf_.Page(place_.page).pictures.isEmpty())
+    QTimer::singleShot(0, this, [this, place = place_] {
+      const int scrolled = view_->verticalScrollBar()->value();
+      // Who hasn't moved since stays at the heading.
+      if (place_ == place) Show(place, !place.anchor.isEmpty() && scrolled == arrived_ ? -1 : scrolled);
+    });
   const bool searching = left_->currentWidget() != contents_;
   left_->setVisible((!hidden_ && width() >= kNarrow) || searching);
 }

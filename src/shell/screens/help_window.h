@@ -100,7 +100,8 @@ class HelpWindow : public ToolWindow {
   HelpShelf shelf_;
   HelpPlace place_;
   QVector<Visited> visited_;
-  int at_ = -1;  // in visited_
+  int at_ = -1;       // in visited_
+  int arrived_ = -1;  // how far down its heading is
   QToolBar* tools_ = nullptr;
   QSplitter* parts_ = nullptr;
   QStackedWidget* left_ = nullptr;
