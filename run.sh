@@ -6,7 +6,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 source scripts/packages.sh
 install_missing_packages
-build_preset release tessaryn tessaryn-cli >&2  # the tests and benchmarks are for test.sh
+build_preset release tessaryn tessaryn-cli tessaryn_manuals >&2  # the tests and benchmarks are for test.sh
 
 bin=build/release/bin
 if [ "${1:-}" = "--headless" ]; then

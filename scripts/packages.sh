@@ -8,10 +8,12 @@ PACKAGES=(
   libcli11-dev nlohmann-json3-dev libreadline-dev
   libgtest-dev libbenchmark-dev
   libqscintilla2-qt6-dev
-  qt6-base-dev qt6-multimedia-dev qt6-charts-dev libqt6opengl6-dev qt6-svg-dev libgl1-mesa-dri fonts-dejavu-core
+  qt6-base-dev qt6-multimedia-dev qt6-svg-dev libgl1-mesa-dri fonts-dejavu-core
+  qt6-tools-dev qt6-l10n-tools qt6-translations-l10n
   xvfb xdotool poppler-utils
 )
 STYLE_PACKAGES=(clang-format)  # for .ci/run alone
+PACKAGE_PACKAGES=(dpkg-dev lintian desktop-file-utils appstream shared-mime-info patchelf)  # for package.sh alone
 
 # Beside PACKAGES those that it is given.
 

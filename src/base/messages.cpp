@@ -18,6 +18,40 @@ constexpr bool ToldInOrder() {
 }
 static_assert(ToldInOrder(), "messages told by number come first, in their order");
 
+// In other languages than English, by the place of the row; those that aren't told have none.
+struct Translation {
+  Msg id;
+  std::string_view texts[kMessageLanguages - 1];
+};
+constexpr Translation kTranslations[] = {
+#define SPOKEN(id, spanish, german, french, turkish) {Msg::id, {spanish, german, french, turkish}},
+#include "base/message_translations.inc"
+#undef SPOKEN
+};
+
+constexpr bool SameHoles(std::string_view one, std::string_view other) {
+  HoleNames holes;
+  HoleNames others;
+  holes.AddFrom(one);
+  others.AddFrom(other);
+  bool same = holes.count == others.count && !others.broken;
+  for (std::size_t i = 0; i < holes.count; ++i) same = same && others.Has(holes.names[i]);
+  return same;
+}
+
+// The rows of the table and those told are the same, in the same order, so that a place is all it takes.
+constexpr bool AllTranslated() {
+  if (std::size(kTranslations) + 1 != messages::kToldRows) return false;
+  for (std::size_t i = 0; i < std::size(kTranslations); ++i) {
+    const MessageRow& told = kMessages[i + 1];
+    if (kTranslations[i].id != told.id) return false;
+    for (const std::string_view text : kTranslations[i].texts)
+      if (text.empty() || !SameHoles(told.text, text)) return false;
+  }
+  return true;
+}
+static_assert(AllTranslated(), "a told message isn't there, stands elsewhere, or has other holes");
+
 using Arguments = std::vector<MessageArgument>;
 
 const MessageValue* ValueOf(const Arguments& arguments, std::string_view hole) {
@@ -41,7 +75,14 @@ void AppendValue(std::string& text, const MessageValue& value, bool plain) {
   }
 }
 
-void AppendPattern(std::string& text, std::string_view pattern, const Arguments& arguments, bool plain) {
+// How a pattern's holes are filled.
+struct Filling {
+  int language;
+  const Arguments& arguments;
+  bool plain;  // money without separators
+};
+
+void AppendPattern(std::string& text, std::string_view pattern, const Filling& filling) {
   using Form = PatternPart::Form;
   for (PatternPart part; !pattern.empty(); pattern.remove_prefix(part.length)) {
     part = FirstPart(pattern);
@@ -50,33 +91,43 @@ void AppendPattern(std::string& text, std::string_view pattern, const Arguments&
       continue;
     }
     if (part.form == Form::kMessage) {
-      AppendPattern(text, RowOf(part.message).text, arguments, plain);
+      AppendPattern(text, PatternIn(filling.language, part.message), filling);
       continue;
     }
-    const MessageValue* value = ValueOf(arguments, part.text);
+    const MessageValue* value = ValueOf(filling.arguments, part.text);
     if (value == nullptr) {
       text += pattern.substr(0, part.length);
     } else if (part.form == Form::kHole) {
-      AppendValue(text, *value, plain);
+      AppendValue(text, *value, filling.plain);
     } else {
       const bool first = part.form == Form::kChoice ? value->IsAny() : value->number == 1;
-      AppendPattern(text, first ? part.first : part.second, arguments, plain);
+      AppendPattern(text, first ? part.first : part.second, filling);
     }
   }
 }
 
 }  // namespace
 
-std::string MessageText(Msg id, const std::vector<MessageArgument>& arguments) {
-  const MessageRow& row = RowOf(id);
+std::string_view PatternIn(int language, Msg id) {
+  const auto number = static_cast<std::size_t>(id);
+  const std::size_t place = number < messages::kFirstOther ? messages::kPlaceOfTold[number] : 0;
+  if (place == 0 || language <= 0 || language >= kMessageLanguages) return RowOf(id).text;
+  return kTranslations[place - 1].texts[language - 1];
+}
+
+std::string MessageTextIn(int language, Msg id, const std::vector<MessageArgument>& arguments) {
   std::string text;
-  AppendPattern(text, row.text, arguments, row.kind == MessageKind::kLine);
+  AppendPattern(text, PatternIn(language, id), {language, arguments, RowOf(id).kind == MessageKind::kLine});
   return text;
 }
 
-std::string_view GetMessage(int, int id) {
+std::string MessageText(Msg id, const std::vector<MessageArgument>& arguments) {
+  return MessageTextIn(0, id, arguments);
+}
+
+std::string_view GetMessage(int language, int id) {
   const bool told = id > 0 && id < static_cast<int>(Msg::kLastTold);
-  return told ? RowOf(static_cast<Msg>(id)).text : std::string_view();
+  return told ? PatternIn(language, static_cast<Msg>(id)) : std::string_view();
 }
 
 }  // namespace tessaryn

@@ -258,8 +258,16 @@ std::string MessageText(const Arguments&... arguments) {
   return MessageText(kId, ArgumentsOf(arguments...));
 }
 
-// The text of a told id in a language (0 English), with holes where values go; empty for a number that is
-// none. Languages that have no table speak English.
+// The languages that messages have: 0 English, 1 Spanish, 2 German, 3 French, 4 Turkish.
+inline constexpr int kMessageLanguages = 5;
+
+// The pattern in a language: what isn't told to translators is English in all of them, as is what a language
+// says that isn't there.
+std::string_view PatternIn(int language, Msg id);
+// As the text in English, but what is told to translators, parts of others too, is in the language.
+std::string MessageTextIn(int language, Msg id, const std::vector<MessageArgument>& arguments = {});
+
+// The text of a told id in a language, with holes where values go; empty for a number that is none.
 std::string_view GetMessage(int language, int id);
 
 }  // namespace tessaryn

@@ -22,7 +22,9 @@ std::string ApplicationFolder() {
 
 std::string DefaultDataFolder() {
   const std::string application = ApplicationFolder();
-  if (access(application.c_str(), W_OK) == 0) return application;
+  // What the system has installed is no portable copy, not even for who may write there.
+  const bool portable = !application.starts_with("/usr/") && access(application.c_str(), W_OK) == 0;
+  if (portable) return application;
   if (const char* data = std::getenv("XDG_DATA_HOME"); data != nullptr && *data != 0)
     return std::string(data) + "/tessaryn/";
   const char* home = std::getenv("HOME");

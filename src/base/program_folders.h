@@ -8,7 +8,7 @@ namespace tessaryn {
 // The folder that holds this program, with a separator at the end.
 std::string ApplicationFolder();
 // The folder that everything is written to when none is named: the application folder when it can be
-// written, else the user's data folder. With a separator at the end.
+// written and isn't the system's (below /usr), else the user's data folder. With a separator at the end.
 std::string DefaultDataFolder();
 // Makes the folder if need be; an empty one becomes the default. False when it can't be used, with the
 // reason.

@@ -3,6 +3,9 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <chrono>
+#include <cstdint>
+#include <string>
 
 namespace tessaryn::cli {
 
@@ -26,5 +29,9 @@ void AddLabCommand(CLI::App& program, int& exitCode);
 
 // An error on standard error: "tessaryn-cli: ...". Returns kBad.
 int Fail(const std::string& what);
+
+double SecondsSince(std::chrono::steady_clock::time_point start);
+// A number as reports show it: "12,345".
+std::string Whole(std::int64_t number);
 
 }  // namespace tessaryn::cli

@@ -22,42 +22,36 @@
 namespace tessaryn::cli {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double SecondsSince(Clock::time_point start) {
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 int Answer(const std::string& error) { return error.empty() ? kDone : Fail(error); }
 
 // --- What is written.
 
-struct Target {
+struct OutputFile {
   const char* option;
   std::string path;
 };
 
-std::vector<Target> TargetsOf(const LabOptions& options, std::size_t systems) {
-  std::vector<Target> targets = {
+std::vector<OutputFile> TargetsOf(const LabOptions& options, std::size_t systems) {
+  std::vector<OutputFile> targets = {
       {"--out ", options.out}, {"--csv ", options.csv}, {"--report ", options.report}};
   if (options.resume.empty() && !options.out.empty()) targets.push_back({"--out ", RowsPathOf(options.out)});
   if (!options.slg.empty())
     for (std::size_t i = 0; i < systems; ++i)
       targets.push_back({"--slg ", SessionsLogOf(options.slg, i, systems)});
-  std::erase_if(targets, [](const Target& target) { return target.path.empty(); });
+  std::erase_if(targets, [](const OutputFile& target) { return target.path.empty(); });
   return targets;
 }
 
 // Before anything is played: none is written over another, or over what the experiment reads.
 int CheckTargets(const LabOptions& options, std::size_t systems) {
-  const std::vector<Target> targets = TargetsOf(options, systems);
-  std::vector<Target> known;
+  const std::vector<OutputFile> targets = TargetsOf(options, systems);
+  std::vector<OutputFile> known;
   for (const std::string& script : options.scripts) known.push_back({"--script ", script});
   known.push_back({"--resume ", options.out.empty() ? options.resume : ""});
   known.push_back({"--settings ", options.settingsFile});
   known.push_back({"--probabilities ", options.probabilities});
-  for (const Target& target : targets) {
-    for (const Target& other : known)
+  for (const OutputFile& target : targets) {
+    for (const OutputFile& other : known)
       if (!other.path.empty() && (other.path == target.path || IsSameFile(other.path, target.path)))
         return Fail(target.option + target.path + ": is the file of " + other.option + "too");
     if (const std::string problem = TargetProblem(target.path); !problem.empty())
@@ -133,7 +127,7 @@ class ProgressLine {
   bool drawn_ = false;
   std::int64_t before_;
   Currency precision_;
-  Clock::time_point start_ = Clock::now();
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
 std::int64_t RollsOf(const LabState& state) {
@@ -159,7 +153,7 @@ int Play(LabState& state, const LabOptions& options) {
     run.rows = &rows;
     state.rows = rows.kept;
   }
-  const auto start = Clock::now();
+  const auto start = std::chrono::steady_clock::now();
   const std::int64_t before = RollsOf(state);
   std::string error;
   {

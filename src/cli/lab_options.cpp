@@ -254,7 +254,7 @@ struct Fixed {
   bool (*same)(const Experiment&, const Experiment&);
 };
 
-const Fixed kFixed[] = {
+const Fixed kFixedFields[] = {
     {{"--script", "--bets", "--stack", "--vary"},
      [](const Experiment& a, const Experiment& b) { return Same(a.systems, b.systems); }},
     {{"--bankroll"}, [](const Experiment& a, const Experiment& b) { return a.bankroll == b.bankroll; }},
@@ -302,7 +302,7 @@ int CheckAgainstResumed(const CLI::App& command, const LabOptions& options, cons
     wanted.seed = options.seed;
     wanted.generator = options.rng;
   }
-  for (const Fixed& fixed : kFixed)
+  for (const Fixed& fixed : kFixedFields)
     for (const char* option : fixed.options)
       if (given(option) && !fixed.same(wanted, resumed))
         return Wrong(std::string(option) + ": the experiment of " + options.resume + " has another value");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "cli/commands.h"
 #include "cli/script_report.h"
 
 namespace tessaryn::cli {
@@ -65,14 +66,9 @@ Json HistogramJson(const ValueCounts& counts) {
   return bins;
 }
 
-Json ErrorsJson(const SystemSums& sums) {
+Json KindsJson(const std::vector<ScriptErrorKind>& kinds) {
   Json errors = Json::array();
-  for (const ScriptErrorKind& kind : sums.errors)
-    errors.push_back({{"code", kind.code},
-                      {"text", kind.text},
-                      {"count", kind.count},
-                      {"line", kind.line},
-                      {"statement", kind.statement}});
+  for (const ScriptErrorKind& kind : kinds) errors.push_back(ErrorJson(kind));
   return errors;
 }
 
@@ -99,7 +95,7 @@ Json SystemJson(const LabSystem& system, const SystemSums& sums) {
   json["losingStreak"] = {{"mean", MeanOf(sums.streak, sums.sessions, 1)},
                           {"quantiles", QuantilesJson(sums.streaks, NumberJson)}};
   json["histogram"] = HistogramJson(sums.nets);
-  if (!sums.errors.empty()) json["scriptErrors"] = ErrorsJson(sums);
+  if (!sums.errors.empty()) json["scriptErrors"] = KindsJson(sums.errors);
   return json;
 }
 
@@ -125,7 +121,6 @@ Json LabJson(LabState& state) {
 
 namespace {
 
-std::string Whole(std::int64_t number) { return FormatMoney(Currency::Dollars(number)); }
 std::string Dollars(std::int64_t raw) { return FormatMoney(Currency::FromRaw(raw)); }
 
 std::string Percent(std::int64_t count, std::int64_t of) {

@@ -10,6 +10,8 @@
 namespace tessaryn::cli {
 namespace {
 
+constexpr std::size_t kLinesToCheck = 4'000;  // between two changes of a text
+
 // --- Reading what may be anything. Null, or nothing, for what isn't there or of another kind.
 
 const Json kNothing = Json();
@@ -52,7 +54,7 @@ struct KindFacts {
   const char* token;
   int icon;
 };
-constexpr KindFacts kKinds[kScriptWordKinds] = {
+constexpr KindFacts kKindFacts[kScriptWordKinds] = {
     {"keyword", 14}, {"method", 2}, {"variable", 6},  {"enumMember", 20}, {"function", 3}, {"class", 7},
     {"modifier", 5}, {"macro", 14}, {"operator", 24}, {"number", 12},     {"string", 1},   {"namespace", 9},
     {"comment", 1},  {"", 1},
@@ -60,7 +62,7 @@ constexpr KindFacts kKinds[kScriptWordKinds] = {
 
 Json TokenLegend() {
   Json names = Json::array();
-  for (const KindFacts& kind : kKinds)
+  for (const KindFacts& kind : kKindFacts)
     if (*kind.token != '\0') names.push_back(kind.token);
   return names;
 }
@@ -73,6 +75,7 @@ Json Capabilities() {
           {"definitionProvider", true},
           {"foldingRangeProvider", true},
           {"documentFormattingProvider", true},
+          {"codeActionProvider", {{"codeActionKinds", {"quickfix"}}}},
           {"semanticTokensProvider",
            {{"legend", {{"tokenTypes", TokenLegend()}, {"tokenModifiers", Json::array()}}}, {"full", true}}}};
 }
@@ -130,6 +133,7 @@ const LspServer::Method* LspServer::FindMethod(const std::string& name) {
       {"textDocument/definition", About::kPlace, &LspServer::Define},
       {"textDocument/foldingRange", About::kDocument, &LspServer::Fold},
       {"textDocument/formatting", About::kDocument, &LspServer::Format},
+      {"textDocument/codeAction", About::kDocument, &LspServer::Fix},
       {"textDocument/semanticTokens/full", About::kDocument, &LspServer::Color},
   };
   for (const Method& method : kMethods)
@@ -271,9 +275,12 @@ void LspServer::Close(const Json& params) {
 
 void LspServer::Look(const std::string& uri, Document& document) {
   document.words = ScriptWords(document.text.Lines(), surroundings_);
-  const ScriptCheck check = CheckLines(surroundings_, 1, document.text.Lines());
+  // Each costs a check of the whole text, and whoever types doesn't wait.
+  const std::size_t most = std::clamp<std::size_t>(kLinesToCheck / (document.text.Lines().size() + 1), 1, 10);
+  document.faults = ScriptFaults(surroundings_, 1, document.text.Lines(), most);
   Json diagnostics = Json::array();
-  if (check.diagnostic.Failed()) diagnostics.push_back(DiagnosticJson(document.text, check.diagnostic));
+  for (const ScriptDiagnostic& fault : document.faults)
+    diagnostics.push_back(DiagnosticJson(document.text, fault));
   Publish(uri, std::move(diagnostics));
 }
 
@@ -304,7 +311,7 @@ Json LspServer::Complete(const Request& request) {
     const Json range = SpanJson(text, line, found.begin, column);
     for (const ScriptCompletion& item : found.items)
       items.push_back({{"label", item.text + item.arguments},
-                       {"kind", kKinds[static_cast<int>(item.kind)].icon},
+                       {"kind", kKindFacts[static_cast<int>(item.kind)].icon},
                        {"detail", ScriptKindName(item.kind)},
                        {"documentation", item.doc},
                        {"filterText", item.text},
@@ -359,13 +366,39 @@ Json LspServer::Format(const Request& request) {
   return edits;
 }
 
+// The words that the findings in the range offer.
+Json LspServer::Fix(const Request& request) {
+  const Document& document = *request.document;
+  const Json& range = Member(request.params, "range");
+  LspPlace begin;
+  LspPlace end;
+  Json actions = Json::array();
+  if (!ReadPlace(Member(range, "start"), begin) || !ReadPlace(Member(range, "end"), end)) return actions;
+  for (const ScriptDiagnostic& fault : document.faults) {
+    ScriptWord word;
+    const auto first = static_cast<std::size_t>(fault.firstLine) - 1;
+    const auto last = static_cast<std::size_t>(fault.lastLine) - 1;
+    if (first > end.line || last < begin.line || !FindOffered(document.text.Lines(), fault, word)) continue;
+    const Json edit = {{"range", SpanJson(document.text, word.line, word.begin, word.end)},
+                       {"newText", fault.offer}};
+    Json changes = Json::object();
+    changes[request.uri] = Json::array({edit});
+    actions.push_back({{"title", "Put in \"" + fault.offer + "\""},
+                       {"kind", "quickfix"},
+                       {"isPreferred", true},
+                       {"diagnostics", Json::array({DiagnosticJson(document.text, fault)})},
+                       {"edit", {{"changes", std::move(changes)}}}});
+  }
+  return actions;
+}
+
 Json LspServer::Color(const Request& request) {
   const Document& document = *request.document;
   Json data = Json::array();
   std::size_t line = 0;
   std::size_t startByte = 0;  // of the word before
   for (const ScriptWord& word : document.words) {
-    if (*kKinds[static_cast<int>(word.kind)].token == '\0') continue;
+    if (*kKindFacts[static_cast<int>(word.kind)].token == '\0') continue;
     const auto row = static_cast<std::size_t>(word.line) - 1;
     const auto begin = static_cast<std::size_t>(word.begin);
     const bool sameLine = row == line;

@@ -38,6 +38,7 @@ class LspServer {
   struct Document {
     LspText text;
     std::vector<ScriptWord> words;
+    std::vector<ScriptDiagnostic> faults;
   };
   struct Request;
   struct Method;
@@ -50,6 +51,7 @@ class LspServer {
   Json Define(const Request& request);
   Json Fold(const Request& request);
   Json Format(const Request& request);
+  Json Fix(const Request& request);
   Json Color(const Request& request);
   void Open(const Json& params);
   void Change(const Json& params);

@@ -44,6 +44,7 @@ int main(int argc, char** argv) {
   using namespace tessaryn::cli;
   CLI::App program{"Tessaryn: a casino dice table for players, and for people who test betting systems."};
   program.name("tessaryn-cli");
+  program.set_version_flag("--version", TESSARYN_VERSION);
   // None at all is told below: asking for one here would hide the name of a wrong one.
   program.require_subcommand(0, 1);
   program.footer("Every command has --help with an example.");

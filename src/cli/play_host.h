@@ -2,11 +2,12 @@
 #pragma once
 
 #include "cli/cli_host.h"
+#include "play/session_luck.h"
 
 namespace tessaryn::cli {
 
 // Answers boxes from the queue, and else safely.
-class PlayHost : public CliHost {
+class PlayHost : public CliHost, public LuckKeeper {
  public:
   QueuedAnswers answers;
   // The command in hand is itself the wish to have this asked done: the next yes/no box without contract

@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <chrono>
+#include <cmath>
 #include <cstdio>
 #include <iterator>
 
@@ -16,10 +17,13 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/auto_roll.h"
+#include "play/bet_history.h"
 #include "play/game_file.h"
 #include "play/house_presets.h"
 #include "play/players.h"
+#include "play/repeat_bets.h"
 #include "play/script_session.h"
+#include "play/session_luck.h"
 #include "play/setting_table.h"
 #include "rules/bankroll.h"
 #include "rules/bet_rules.h"
@@ -93,6 +97,7 @@ using Words = std::vector<std::string>;
 struct Call {
   Game& game;
   PlayHost& host;
+  BetHistory& history;
   const Words& words;  // words[0] is the command
   Json answer = Json::object();
   std::string error;
@@ -216,6 +221,25 @@ bool Remove(Call& call) {
     return false;
   call.answer["change"] = MoneyJson(RemoveBet(call.game, seat, bet));
   call.answer["amount"] = MoneyJson(call.game.table.BetAmount(seat, bet));
+  return true;
+}
+
+bool Undo(Call& call) {
+  if (!WantWords(call, 1, 1, "undo")) return false;
+  return UndoBets(call.game, call.history) || call.Bad("no bet has been changed since the last roll");
+}
+
+bool Redo(Call& call) {
+  if (!WantWords(call, 1, 1, "redo")) return false;
+  return RedoBets(call.game, call.history) || call.Bad("nothing was taken back");
+}
+
+bool Repeat(Call& call) {
+  int seat = call.game.table.SelectedSeat;
+  if (!WantWords(call, 1, 2, "repeat [SEAT]")) return false;
+  if (call.words.size() == 2 && !Player(call, 1, seat)) return false;
+  if (BetsToRepeat(call.game, seat).Empty()) return call.Bad("every bet of the last roll is up");
+  call.answer["bets"] = RepeatBets(call.game, seat);
   return true;
 }
 
@@ -527,6 +551,43 @@ bool Report(Call& call) {
   return true;
 }
 
+Json LuckJson(const Game& game, int seat) {
+  const auto rounded = [](double value) { return std::round(value * 1e8) / 1e8 + 0.0; };
+  const SessionLuckFigures figures = SessionLuckOf(game, seat);
+  const LuckReport& report = figures.report;
+  return {{"seat", seat},
+          {"name", game.table.seats[seat].SeatName},
+          {"expected", rounded(report.expected)},
+          {"actual", rounded(report.actual)},
+          {"luck", rounded(report.luck)},
+          {"stdDev", rounded(report.standardDeviation)},
+          {"sigmas", rounded(report.deviations)},
+          {"shifted", rounded(figures.shifted)},
+          {"rolls", figures.counted},
+          {"missed", figures.missed}};
+}
+
+bool Luck(Call& call) {
+  if (call.words.size() == 1) {
+    Json& seats = call.answer["seats"] = Json::array();
+    for (int seat = 1; seat <= kSeats; ++seat)
+      if (IsOccupied(call.game.table, seat)) seats.push_back(LuckJson(call.game, seat));
+    return true;
+  }
+  int seat = 0;
+  if (!WantWords(call, 2, 2, "luck, or luck SEAT") || !Player(call, 1, seat)) return false;
+  call.answer.update(LuckJson(call.game, seat));
+  return true;
+}
+
+bool Facts(Call& call) {
+  int bet = 0;
+  if (!WantWords(call, 2, 99, "facts BET") || !BetNumber(call, 1, call.words.size(), false, bet))
+    return false;
+  call.answer.update(FactsJson(call.game, bet));
+  return true;
+}
+
 bool Help(Call& call) {
   Json commands = Json::array();
   for (const PlayCommandInfo& info : PlayCommands())
@@ -543,6 +604,7 @@ bool Quit(Call& call) {
 struct Handler {
   PlayCommandInfo info;
   bool (*run)(Call&);
+  bool bets = false;  // what it changes can be taken back
 };
 
 constexpr Handler kHandlers[] = {
@@ -551,10 +613,15 @@ constexpr Handler kHandlers[] = {
     {{"rename", "SEAT NAME", "gives a player another name"}, Rename},
     {{"move", "SEAT SEAT", "moves a player to an open seat"}, Move},
     {{"select", "SEAT", "selects the player whose bets are shown"}, Select},
-    {{"bet", "SEAT BET AMOUNT", "adds to a bet, or with a negative amount takes it down"}, MakeBet},
-    {{"remove", "SEAT BET", "takes a bet down"}, Remove},
-    {{"call", "SEAT on|off BET", "calls a bet ON or OFF; BET may be all"}, CallOnOff},
-    {{"buy", "SEAT BET", "turns a Place bet into a Buy bet"}, Buy},
+    {{"bet", "SEAT BET AMOUNT", "adds to a bet, or with a negative amount takes it down"}, MakeBet, true},
+    {{"remove", "SEAT BET", "takes a bet down"}, Remove, true},
+    {{"call", "SEAT on|off BET", "calls a bet ON or OFF; BET may be all"}, CallOnOff, true},
+    {{"buy", "SEAT BET", "turns a Place bet into a Buy bet"}, Buy, true},
+    {{"undo", "", "takes back the last change of bets since the roll"}, Undo},
+    {{"redo", "", "makes again what was taken back"}, Redo},
+    {{"repeat", "[SEAT]", "bets again what was up before the last roll; without a seat the selected one"},
+     Repeat,
+     true},
     {{"roll", "[DIE1 DIE2]", "one roll, or these faces"}, Roll},
     {{"turbo", "ROLLS", "so many rolls at full speed"}, Turbo},
     {{"pass", "", "passes the dice"}, Pass},
@@ -569,7 +636,7 @@ constexpr Handler kHandlers[] = {
      StartSession},
     {{"probabilities", "FILE|off", "percentage dice from a file, or none"}, LoadProbabilities},
     {{"rollfile", "FILE play|record|off", "a dice roll file; rollfile off closes it"}, UseRollFile},
-    {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack},
+    {{"stack", "SEAT N VALUE", "sets a CheckStack 0 to 99"}, SetStack, true},
     {{"save", "FILE", "writes the game to a file"}, SaveIt},
     {{"open", "FILE", "opens a game in place of the table"}, OpenIt},
     {{"plot", "SEAT", "the bankroll graph's points"}, Plot},
@@ -578,6 +645,9 @@ constexpr Handler kHandlers[] = {
     {{"stats", "SEAT SCOPE [BET]", "the statistics of a seat (0 the table) and scope (0 to 4)"}, Stats},
     {{"report", kReportArguments, "summary, hands, bet-results, bet-trends, roll-totals or roll-frequencies"},
      Report},
+    {{"luck", "[SEAT]", "what a player's session was expected to bring, what it did, and the difference"},
+     Luck},
+    {{"facts", "BET", "what a bet wins and loses on, pays and costs, as the table stands"}, Facts},
     {{"help", "", "the commands"}, Help},
     {{"quit", "", "ends"}, Quit},
 };
@@ -596,6 +666,8 @@ const std::vector<PlayCommandInfo>& PlayCommands() {
 
 PlaySession::PlaySession(Game& game, PlayHost& host) : game_(game), host_(host) {
   game.autobet.StepsHold = false;
+  WatchLuck(game);
+  WatchLuckOfTurboRolls(game, true);
   host.step = [&host](Game& running, const ScriptStep& shown) { host.TellStep(running, shown); };
 }
 
@@ -604,8 +676,10 @@ Json PlaySession::Do(const std::string& line) {
   if (words.empty()) return {{"ok", false}, {"error", "no command"}};
   for (const Handler& handler : kHandlers) {
     if (words[0] != handler.info.name) continue;
-    Call call{game_, host_, words, Json::object(), "", false};
+    Call call{game_, host_, history_, words, Json::object(), "", false};
+    const BetsKept before = handler.bets ? KeepBets(game_) : BetsKept{};
     const bool done = handler.run(call);
+    if (handler.bets) NoteBetStep(history_, game_, before);
     ended_ = call.ended;
     FlushEventsLog(game_);
     if (!done) return {{"ok", false}, {"error", words[0] + ": " + call.error}};

@@ -6,6 +6,7 @@
 
 #include "cli/play_host.h"
 #include "cli/table_json.h"
+#include "play/bet_history.h"
 
 namespace tessaryn::cli {
 
@@ -28,6 +29,7 @@ class PlaySession {
  private:
   Game& game_;
   PlayHost& host_;
+  BetHistory history_;
   bool ended_ = false;
 };
 

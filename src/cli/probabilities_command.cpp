@@ -12,7 +12,7 @@ namespace tessaryn::cli {
 namespace {
 
 // One operation of the command line, in the order given.
-struct Operation {
+struct DiceStep {
   std::string name;   // "--set" ...
   std::string value;  // "1.6=4000" ...
 };
@@ -20,7 +20,7 @@ struct Operation {
 struct ProbabilityOptions {
   std::string file;
   std::string out;
-  std::vector<Operation> operations;
+  std::vector<DiceStep> operations;
   double rollsOutOf = 36;
   bool json = false;
   bool force = false;
@@ -36,7 +36,7 @@ struct Workshop {
   unsigned axes[2] = {0, 0};
   std::string error;
 
-  bool Bad(const Operation& operation, const std::string& what) {
+  bool Bad(const DiceStep& operation, const std::string& what) {
     error = operation.name + (operation.value.empty() ? "" : " " + operation.value) + ": " + what;
     return false;
   }
@@ -56,7 +56,7 @@ bool SplitAssignment(const std::string& text, std::string& left, double& value) 
   return value >= 0 && value <= kProbabilityWhole;
 }
 
-bool EditCell(Workshop& work, const Operation& operation, int row, int column, double value) {
+bool EditCell(Workshop& work, const DiceStep& operation, int row, int column, double value) {
   if (IsProbabilityLocked(work.dice, row, column))
     return work.Bad(operation, "the cell is locked; --unlock unlocks all");
   if (!SetProbabilityCell(work.dice, row, column, value, true))
@@ -68,7 +68,7 @@ bool EditCell(Workshop& work, const Operation& operation, int row, int column, d
 constexpr const char* kValueForm =
     "the value is 0 to 100000 thousandths of a percent, or a percentage such as 4%";
 
-bool SetCombination(Workshop& work, const Operation& operation) {
+bool SetCombination(Workshop& work, const DiceStep& operation) {
   std::string faces;
   double value = 0;
   if (!SplitAssignment(operation.value, faces, value)) return work.Bad(operation, kValueForm);
@@ -80,7 +80,7 @@ bool SetCombination(Workshop& work, const Operation& operation) {
   return EditCell(work, operation, ProbabilityRow(die1, die2), ProbabilityColumn(die1, die2), value);
 }
 
-bool SetTotal(Workshop& work, const Operation& operation) {
+bool SetTotal(Workshop& work, const DiceStep& operation) {
   std::string text;
   double value = 0;
   if (!SplitAssignment(operation.value, text, value)) return work.Bad(operation, kValueForm);
@@ -90,7 +90,7 @@ bool SetTotal(Workshop& work, const Operation& operation) {
   return EditCell(work, operation, kTotalRow, total - 1, value);
 }
 
-bool SetFace(Workshop& work, const Operation& operation) {
+bool SetFace(Workshop& work, const DiceStep& operation) {
   std::string text;
   double value = 0;
   if (!SplitAssignment(operation.value, text, value)) return work.Bad(operation, kValueForm);
@@ -100,7 +100,7 @@ bool SetFace(Workshop& work, const Operation& operation) {
   return EditCell(work, operation, text[0] - '0' + 1, column, value);
 }
 
-bool SetAxis(Workshop& work, const Operation& operation) {
+bool SetAxis(Workshop& work, const DiceStep& operation) {
   constexpr const char* kNames[] = {"1-6", "2-5", "3-4"};
   const int die = operation.name.back() - '1';
   for (unsigned axis = 0; axis < 3; ++axis) {
@@ -111,7 +111,7 @@ bool SetAxis(Workshop& work, const Operation& operation) {
   return work.Bad(operation, "an axis is 1-6, 2-5 or 3-4");
 }
 
-bool SetEffectiveness(Workshop& work, const Operation& operation) {
+bool SetEffectiveness(Workshop& work, const DiceStep& operation) {
   const int die = operation.name.back() - '1';
   Currency percent;
   if (!TryParseMoney(operation.value, percent) || percent < kZero || percent > Currency::Dollars(100))
@@ -170,7 +170,7 @@ void PrintMatrix(const PercentageDice& dice) {
     std::printf("%4d %12s\n", total, cell(kTotalRow, total - 1).c_str());
 }
 
-bool Show(Workshop& work, const Operation& operation) {
+bool Show(Workshop& work, const DiceStep& operation) {
   constexpr const char* kModes[] = {"percent", "difference", "rolls", "rollsdifference"};
   for (int mode = 0; mode < 4; ++mode) {
     if (operation.value != kModes[mode]) continue;
@@ -184,26 +184,26 @@ bool Show(Workshop& work, const Operation& operation) {
   return work.Bad(operation, "expected percent, difference, rolls or rollsdifference");
 }
 
-bool StartNew(Workshop& work, const Operation&) {
+bool StartNew(Workshop& work, const DiceStep&) {
   NewProbabilityMatrix(work.dice);
   work.edited = true;
   return true;
 }
 
-bool Unlock(Workshop& work, const Operation&) {
+bool Unlock(Workshop& work, const DiceStep&) {
   UnlockAllProbabilities(work.dice);
   work.edited = true;
   return true;
 }
 
-struct OperationKind {
+struct DiceOperation {
   const char* name;
   const char* help;
   bool takesValue;
-  bool (*run)(Workshop&, const Operation&);
+  bool (*run)(Workshop&, const DiceStep&);
 };
 
-constexpr OperationKind kKinds[] = {
+constexpr DiceOperation kDiceOperations[] = {
     {"--new", "Start with fair dice", false, StartNew},
     {"--set", "A combination, DIE1.DIE2=VALUE in thousandths of a percent", true, SetCombination},
     {"--total", "A total, TOTAL=VALUE", true, SetTotal},
@@ -217,8 +217,8 @@ constexpr OperationKind kKinds[] = {
     {"--show", "Show the matrix: percent, difference, rolls or rollsdifference", true, Show},
 };
 
-bool RunOperation(Workshop& work, const Operation& operation) {
-  for (const OperationKind& kind : kKinds)
+bool RunOperation(Workshop& work, const DiceStep& operation) {
+  for (const DiceOperation& kind : kDiceOperations)
     if (operation.name == kind.name) return kind.run(work, operation);
   return false;
 }
@@ -244,7 +244,7 @@ int Probabilities(const ProbabilityOptions& options) {
     return Fail(options.file + ": File not found (--new makes one)");
   if (!startsNew && !OpenProbabilityFile(work.dice, options.file, "", error))
     return Fail(options.file + ": " + error);
-  for (const Operation& operation : options.operations)
+  for (const DiceStep& operation : options.operations)
     if (!RunOperation(work, operation)) return Fail(work.error);
   const std::string target = options.out.empty() ? options.file : options.out;
   const bool writes = work.edited || !options.out.empty();
@@ -262,7 +262,7 @@ void AddProbabilitiesCommand(CLI::App& program, int& exitCode) {
   CLI::App* command = program.add_subcommand(
       "probabilities", "Makes, shows and edits loaded dice; operations in the order given");
   command->add_option("FILE", options->file, "The probability file (.prb)")->required();
-  for (const OperationKind& kind : kKinds) {
+  for (const DiceOperation& kind : kDiceOperations) {
     const std::string name = kind.name;
     if (kind.takesValue)
       command

@@ -20,7 +20,7 @@
 namespace tessaryn::cli {
 namespace {
 
-struct Operation {
+struct RollsStep {
   std::string name;
   std::string value;
 };
@@ -31,7 +31,7 @@ struct RollsOptions {
   std::string format = kDefaultRollFormat;
   bool renumber = false;
   bool json = false;
-  std::vector<Operation> operations;
+  std::vector<RollsStep> operations;
 };
 
 // Operations change a work file, and copies wait beside their targets: when all has gone well they are put in
@@ -47,7 +47,7 @@ struct Workbench {
   std::string error;
 
   // Nothing wrong when text is empty.
-  bool Done(const Operation& operation, const std::string& text) {
+  bool Done(const RollsStep& operation, const std::string& text) {
     if (!text.empty()) error = operation.name + " " + operation.value + ": " + text;
     return text.empty();
   }
@@ -84,22 +84,22 @@ std::string PutCursor(RollFile& file, const std::string& text) {
   return "";
 }
 
-bool Cut(Workbench& bench, const Operation& operation) {
+bool Cut(Workbench& bench, const RollsStep& operation) {
   std::string problem = Select(bench.file, operation.value);
   if (problem.empty()) problem = CutRolls(bench.file, bench.folder);
   return bench.Done(operation, problem);
 }
-bool Copy(Workbench& bench, const Operation& operation) {
+bool Copy(Workbench& bench, const RollsStep& operation) {
   std::string problem = Select(bench.file, operation.value);
   if (problem.empty()) problem = CopyRolls(bench.file, bench.folder);
   return bench.Done(operation, problem);
 }
-bool Delete(Workbench& bench, const Operation& operation) {
+bool Delete(Workbench& bench, const RollsStep& operation) {
   std::string problem = Select(bench.file, operation.value);
   if (problem.empty()) problem = DeleteRolls(bench.file);
   return bench.Done(operation, problem);
 }
-bool Paste(Workbench& bench, const Operation& operation) {
+bool Paste(Workbench& bench, const RollsStep& operation) {
   std::string problem = PutCursor(bench.file, operation.value);
   if (problem.empty()) problem = PasteCopiedRolls(bench.file, bench.folder);
   return bench.Done(operation, problem);
@@ -113,13 +113,13 @@ bool IsSamePlace(const std::string& path, const std::string& other) {
   return IsSameFile(path, other) || first == fs::weakly_canonical(fs::absolute(other, fault), fault);
 }
 
-bool SelectPart(Workbench& bench, const Operation& operation) {
+bool SelectPart(Workbench& bench, const RollsStep& operation) {
   bench.selection = operation.value;
   return bench.Done(operation, Select(bench.file, operation.value));
 }
 
 // What both exports begin with: the rolls to be written, and a place for them.
-std::string PrepareExport(Workbench& bench, const Operation& operation) {
+std::string PrepareExport(Workbench& bench, const RollsStep& operation) {
   if (IsSamePlace(operation.value, bench.path))
     return MessageText<Msg::kCopyToOpenFile>(With<"command">(operation.name));
   bench.copies.emplace_back();
@@ -127,13 +127,13 @@ std::string PrepareExport(Workbench& bench, const Operation& operation) {
   SelectAllRolls(bench.file);
   return "";
 }
-bool Export(Workbench& bench, const Operation& operation) {
+bool Export(Workbench& bench, const RollsStep& operation) {
   std::string problem = PrepareExport(bench, operation);
   if (problem.empty())
     problem = DraftTextFile(bench.file, operation.value, bench.renumber, bench.copies.back());
   return bench.Done(operation, problem);
 }
-bool ExportRolls(Workbench& bench, const Operation& operation) {
+bool ExportRolls(Workbench& bench, const RollsStep& operation) {
   std::string problem = PrepareExport(bench, operation);
   if (problem.empty()) problem = DraftRollFile(bench.file, operation.value, bench.copies.back());
   return bench.Done(operation, problem);
@@ -145,12 +145,12 @@ std::string ImportPath(const Workbench& bench, const std::string& path) {
     if (copy->Path == path && !copy->Temporary.empty()) return copy->Temporary;
   return path;
 }
-bool ImportText(Workbench& bench, const Operation& operation) {
+bool ImportText(Workbench& bench, const RollsStep& operation) {
   SetRollFileCursor(bench.file, RollFileLength(bench.file) + std::int64_t{1});
   const std::string path = ImportPath(bench, operation.value);
   return bench.Done(operation, PasteFromTextFile(bench.file, path, bench.folder));
 }
-bool ImportRolls(Workbench& bench, const Operation& operation) {
+bool ImportRolls(Workbench& bench, const RollsStep& operation) {
   if (IsSamePlace(operation.value, bench.path))
     return bench.Done(operation, MessageText<Msg::kCopyToOpenFile>(With<"command">("--import")));
   SetRollFileCursor(bench.file, RollFileLength(bench.file) + std::int64_t{1});
@@ -171,7 +171,7 @@ std::string CheckRollList(const std::string& rolls) {
 }
 
 // AT=D1.D2,D1.D2 ... A list with a fault inserts none of its rolls.
-bool Insert(Workbench& bench, const Operation& operation) {
+bool Insert(Workbench& bench, const RollsStep& operation) {
   const auto equals = operation.value.find('=');
   if (equals == std::string::npos) return bench.Done(operation, "expected AT=DIE1.DIE2, such as 1=3.4,6.6");
   const std::string rolls = operation.value.substr(equals + 1);
@@ -183,13 +183,13 @@ bool Insert(Workbench& bench, const Operation& operation) {
   return bench.Done(operation, problem);
 }
 
-struct OperationKind {
+struct RollsOperation {
   const char* name;
   const char* help;
   bool changes;  // the file; the others leave it as it is
-  bool (*run)(Workbench&, const Operation&);
+  bool (*run)(Workbench&, const RollsStep&);
 };
-constexpr OperationKind kKinds[] = {
+constexpr RollsOperation kRollsOperations[] = {
     {"--cut", "Cut rolls A-B for --paste", true, Cut},
     {"--copy", "Copy rolls A-B for --paste", false, Copy},
     {"--delete", "Delete rolls A-B", true, Delete},
@@ -202,9 +202,9 @@ constexpr OperationKind kKinds[] = {
     {"--export-rolls", "Write the rolls to another roll file", false, ExportRolls},
 };
 
-const OperationKind& KindOf(const Operation& operation) {
-  return *std::find_if(std::begin(kKinds), std::end(kKinds),
-                       [&](const OperationKind& kind) { return operation.name == kind.name; });
+const RollsOperation& RowOf(const RollsStep& operation) {
+  return *std::find_if(std::begin(kRollsOperations), std::end(kRollsOperations),
+                       [&](const RollsOperation& kind) { return operation.name == kind.name; });
 }
 
 struct Distribution {
@@ -261,8 +261,8 @@ void Print(const Distribution& counts, bool json) {
 // The operations, and what the file then holds. The error is a text.
 std::string Work(Workbench& bench, const RollsOptions& options, Distribution& counts) {
   bench.file.RollFileOutputFormat = options.format;
-  for (const Operation& operation : options.operations)
-    if (!KindOf(operation).run(bench, operation)) return bench.error;
+  for (const RollsStep& operation : options.operations)
+    if (!RowOf(operation).run(bench, operation)) return bench.error;
   return Count(bench.file, counts);
 }
 
@@ -288,7 +288,7 @@ std::string Change(Workbench& bench, const RollsOptions& options, RollFile& orig
 
 std::string WorkAndPutInPlace(Workbench& bench, const RollsOptions& options, Distribution& counts) {
   const bool changes = std::any_of(options.operations.begin(), options.operations.end(),
-                                   [](const Operation& operation) { return KindOf(operation).changes; });
+                                   [](const RollsStep& operation) { return RowOf(operation).changes; });
   std::error_code fault;
   const bool isThere = std::filesystem::exists(options.file, fault);
   if (!isThere && !fault && !changes) return options.file + ": File not found";
@@ -327,7 +327,7 @@ void AddRollsCommand(CLI::App& program, int& exitCode) {
   CLI::App* command = program.add_subcommand(
       "rolls", "Counts, checks and edits recorded dice; operations in the order given");
   command->add_option("FILE", options->file, "The dice roll file (.rol)")->required();
-  for (const OperationKind& kind : kKinds) {
+  for (const RollsOperation& kind : kRollsOperations) {
     const std::string name = kind.name;
     command
         ->add_option_function<std::string>(

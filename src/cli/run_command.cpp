@@ -23,8 +23,6 @@
 namespace tessaryn::cli {
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
 constexpr std::size_t kLongestTrace = 1'000'000;
 
 struct RunOptions {
@@ -36,10 +34,6 @@ struct RunOptions {
   bool profile = false;   // the scripts' lines that ran most are
 };
 
-double SecondsSince(Clock::time_point start) {
-  return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
 // A bar on a terminal, redrawn ten times a second.
 class ProgressBar {
  public:
@@ -49,7 +43,7 @@ class ProgressBar {
   }
   void Update(std::int64_t rolls) {
     if (!shown_ || SecondsSince(last_) < 0.1) return;
-    last_ = Clock::now();
+    last_ = std::chrono::steady_clock::now();
     drawn_ = true;
     const double part = target_ > 0 ? static_cast<double>(rolls) / static_cast<double>(target_) : 0;
     constexpr int kWidth = 40;
@@ -64,7 +58,7 @@ class ProgressBar {
   std::int64_t target_;
   bool shown_;
   bool drawn_ = false;
-  Clock::time_point last_ = Clock::now();
+  std::chrono::steady_clock::time_point last_ = std::chrono::steady_clock::now();
 };
 
 // The sessions that scripts began and ended, by player.
@@ -193,7 +187,7 @@ int Run(const RunOptions& options) {
     return Fail("a script can't be run");
   const std::int64_t before = Throws(game->stats);
   host.rollTarget = before + options.rolls;
-  const auto start = Clock::now();
+  const auto start = std::chrono::steady_clock::now();
   {
     ProgressBar bar(options.rolls);
     host.progress = [&](Game& running) { bar.Update(Throws(running.stats) - before); };

@@ -91,16 +91,21 @@ std::string ErrorReport(const ScriptErrorKind& kind) {
                "\n    " + kind.statement);
 }
 
+Json ErrorJson(const ScriptErrorKind& kind) {
+  return {{"code", kind.code},
+          {"text", kind.text},
+          {"count", kind.count},
+          {"line", kind.line},
+          {"statement", kind.statement}};
+}
+
 Json ErrorsJson(const Game& game) {
   Json errors = Json::array();
   for (int seat = 0; seat <= kSeats; ++seat)
-    for (const ScriptErrorKind& kind : game.autobet.Scripts[seat].Errors)
-      errors.push_back({{"seat", seat},
-                        {"code", kind.code},
-                        {"text", kind.text},
-                        {"count", kind.count},
-                        {"line", kind.line},
-                        {"statement", kind.statement}});
+    for (const ScriptErrorKind& kind : game.autobet.Scripts[seat].Errors) {
+      errors.push_back({{"seat", seat}});
+      errors.back().update(ErrorJson(kind));
+    }
   return errors;
 }
 

@@ -21,6 +21,8 @@ std::string CheckReport(const std::string& file, const std::vector<std::string>&
 Json CheckJson(const std::string& file, const std::vector<std::string>& lines, const ScriptCheck& check);
 // A run-time error with its code, line and statement.
 std::string ErrorReport(const ScriptErrorKind& kind);
+// {"code":...,"text":...,"count":...,"line":...,"statement":...}
+Json ErrorJson(const ScriptErrorKind& kind);
 // The run-time errors of all scripts by kind: [{"seat":...,"code":...,"text":...,"count":...,"line":...,
 // "statement":...}]; seat 0 is the last hot-key's.
 Json ErrorsJson(const Game& game);

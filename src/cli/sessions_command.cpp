@@ -186,8 +186,6 @@ Json StatisticsJson(const SessionsStatistics& s) {
           {"histogram", histogram}};
 }
 
-std::string Whole(std::int64_t count) { return FormatMoney(Currency::Dollars(count)); }
-
 void PrintHistogram(const SessionsStatistics& s) {
   constexpr int kColumns = 25;  // in a bar
   constexpr std::int64_t kWidth = 40;

@@ -1,7 +1,10 @@
 #include "cli/table_json.h"
 
+#include <cmath>
+
 #include "base/bet_catalogue.h"
 #include "dice/roll_file.h"
+#include "play/bet_facts.h"
 #include "rules/bet_rules.h"
 #include "stats/statistics.h"
 
@@ -176,6 +179,28 @@ Json RunJson(const Game& game, const RunFigures& figures) {
         {"misses", SumNumbers(stats, table, kMisses)},
         {"totals", totals}}},
       {"seats", seats}};
+}
+
+Json FactsJson(Game& game, int bet) {
+  const BetTerms terms = BetTermsOf(game, game.table.SelectedSeat, bet);
+  const auto rounded = [](double value) { return std::round(value * 1e6) / 1e6 + 0.0; };
+  Json lines = Json::array();
+  for (const FactText& line : TipFacts(terms)) lines.push_back(InEnglish(line));
+  return {{"bet", bet},
+          {"name", BetName(bet)},
+          {"text", InEnglish(PointerFacts(terms, true), ", ")},
+          {"lines", lines},
+          {"amount", MoneyJson(terms.amount)},
+          {"pays", InEnglish(terms.pays)},
+          {"winIn36", rounded(terms.chances.win)},
+          {"loseIn36", rounded(terms.chances.lose)},
+          {"working", terms.working},
+          {"edge", rounded(terms.edge)},
+          {"rollsToDecide", rounded(terms.rollsToDecide)},
+          {"vig", MoneyJson(terms.vigAmount)},
+          {"minimum", MoneyJson(terms.minimum)},
+          {"room", MoneyJson(terms.room)},
+          {"refusal", terms.refusal}};
 }
 
 }  // namespace tessaryn::cli

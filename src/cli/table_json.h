@@ -14,6 +14,8 @@ Json MoneyJson(Currency value);
 Json StateJson(const Game& game);
 // The statistics of seat 0 to 8 and scope 0 to 4; bet 0 all bets that have any.
 Json StatsJson(const Game& game, int seat, int scope, int bet);
+// What a bet is and costs for the selected seat, with the texts that the window tells.
+Json FactsJson(Game& game, int bet);
 // The bets of a seat that are up, as {number: amount}.
 Json BetsUpJson(const Game& game, int seat);
 

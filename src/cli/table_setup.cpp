@@ -223,7 +223,7 @@ bool PlayRollFile(Game& game, const TableOptions& options) {
 
 // --- What is written. First it is looked at, and touched when all else is found good.
 
-struct Target {
+struct OutputOption {
   const char* option;
   const std::string& path;
 };
@@ -235,13 +235,13 @@ bool IsOneFile(const std::string& path, const std::string& other) {
 bool CheckTargets(Game& game, const TableOptions& options) {
   if (!options.rollFile.empty() && !options.recordFile.empty())
     return Told("--roll-file and --record can't be used together: a table has one dice roll file");
-  const Target targets[] = {{"--save-settings ", options.saveSettings},
-                            {"--save-game ", options.saveGame},
-                            {"--events-log ", options.eventsLog},
-                            {"--record ", options.recordFile},
-                            {"--roll-file ", options.rollFile}};
-  for (const Target& target : targets) {
-    for (const Target& other : targets)
+  const OutputOption targets[] = {{"--save-settings ", options.saveSettings},
+                                  {"--save-game ", options.saveGame},
+                                  {"--events-log ", options.eventsLog},
+                                  {"--record ", options.recordFile},
+                                  {"--roll-file ", options.rollFile}};
+  for (const OutputOption& target : targets) {
+    for (const OutputOption& other : targets)
       if (&other < &target && IsOneFile(target.path, other.path))
         return Told(target.option + target.path + ": is the file of " + other.option + "too");
     if (target.path.empty() || target.path == options.rollFile) continue;

@@ -5,6 +5,7 @@
 
 #include "dice/roll_file.h"
 #include "play/roll_cycle.h"
+#include "play/session_luck.h"
 #include "play/table_files.h"
 #include "state/run_stop.h"
 #include "state/show_message.h"
@@ -104,7 +105,8 @@ bool GoRoundAgain(Game& game) {
 void RollDice(Game& game) {
   if (game.table.RollInProgress || !ReadyToRoll(game)) return;
   game.table.RollInProgress = true;
-  while (MakeRoll(game) && GoRoundAgain(game)) {
+  SessionLuck* const luck = WatchedLuck(game);
+  while (MakeRoll(game, luck) && GoRoundAgain(game)) {
   }
   CloseRolling(game);
 }

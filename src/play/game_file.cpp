@@ -18,6 +18,7 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/game_file_records.h"
+#include "play/session_luck.h"
 #include "play/start_up.h"
 #include "play/table_files.h"
 #include "rules/consistency.h"
@@ -428,6 +429,7 @@ bool OpenGameAs(Game& game, const std::string& path, OpenAs as) {
   if (!ReleaseFiles(game)) return false;
   const GameFileState file = loaded->file;
   TakeOver(game, *loaded);
+  RestartLuck(game);
   OpenReferredFiles(game, *loaded, references, as);
   game.file = as == OpenAs::kAutosave ? file : GameFileState{};
   if (as == OpenAs::kGame) game.file = {FullPath(path), DigestOf(game)};

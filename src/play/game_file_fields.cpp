@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <concepts>
+#include <functional>
 #include <limits>
 #include <map>
 #include <type_traits>
@@ -108,34 +109,55 @@ concept HasCells = requires(T& value) {
   value.cells[0][0];
 };
 
-// Calls visit(path, cells) for each field that holds no further fields, with its cells in all the places
-// where it is. Skipped: what skip(path) wants so.
-template <typename T, typename Skip, typename Visit>
-void ForEachColumn(const std::string& path, const std::vector<T*>& cells, const Skip& skip, Visit& visit) {
-  using Plain = std::remove_const_t<T>;
-  if (skip(path)) return;
-  if constexpr (HasFields<Plain>) {
-    ForEachMember(std::type_identity<Plain>{}, [&](const char* name, auto member) {
+// What can be done with a field of one type. Columns are handed on without their types, so that the walk
+// through the fields is compiled once.
+struct Writer;
+struct Reader;
+struct FieldRange;
+struct FieldForm {
+  void (*put)(Writer&, const void*);
+  void (*get)(Reader&, void*);
+  bool (*isInRange)(const void*, const FieldRange*);
+};
+struct Column {
+  const std::string& path;
+  const FieldForm& form;
+  const std::vector<void*>& cells;
+};
+// False: the fields of that path aren't wanted.
+using Wanted = std::function<bool(std::string_view path)>;
+using Visit = std::function<void(const Column&)>;
+
+template <typename T>
+void VisitColumn(const std::string& path, const std::vector<T*>& cells, const Visit& visit);
+
+// Calls visit for each field that holds no further fields, with its cells in all the places where it is.
+template <typename T>
+void ForEachColumn(const std::string& path, const std::vector<T*>& cells, const Wanted& wanted,
+                   const Visit& visit) {
+  if (!wanted(path)) return;
+  if constexpr (HasFields<T>) {
+    ForEachMember(std::type_identity<T>{}, [&](const char* name, auto member) {
       using Member = std::remove_reference_t<decltype(cells[0]->*member)>;
       std::vector<Member*> inner;
       inner.reserve(cells.size());
       for (T* cell : cells) inner.push_back(&(cell->*member));
-      ForEachColumn(path + "." + name, inner, skip, visit);
+      ForEachColumn(path + "." + name, inner, wanted, visit);
     });
-  } else if constexpr (kIsFixedList<Plain>) {
+  } else if constexpr (kIsFixedList<T>) {
     using Element = std::remove_reference_t<decltype((*cells[0])[0])>;
     std::vector<Element*> inner;
     inner.reserve(cells.size() * std::size(*cells[0]));
     for (T* cell : cells)
       for (Element& element : *cell) inner.push_back(&element);
-    ForEachColumn(path, inner, skip, visit);
+    ForEachColumn(path, inner, wanted, visit);
   } else if constexpr (HasCells<T>) {
     using Cells = std::remove_reference_t<decltype((cells[0]->cells))>;
     std::vector<Cells*> inner;
     for (T* cell : cells) inner.push_back(&cell->cells);
-    ForEachColumn(path, inner, skip, visit);
+    ForEachColumn(path, inner, wanted, visit);
   } else {
-    visit(path, cells);
+    VisitColumn(path, cells, visit);
   }
 }
 
@@ -266,62 +288,7 @@ void Get(Reader& from, T& value) {
   }
 }
 
-template <typename GameType, typename Skip, typename Visit>
-void ForEachKeptColumn(GameType& game, const Skip& skip, Visit&& visit) {
-  auto kept = [&]<typename T>(const std::string& path, const std::vector<T*>& cells) {
-    if constexpr (kIsKept<std::remove_const_t<T>>) visit(path, cells);
-  };
-  ForEachColumn(std::string(), std::vector<GameType*>{&game}, skip, kept);
-}
-
-}  // namespace
-
-std::string EncodeFields(const Game& game, bool autosave, bool withScreens) {
-  Writer stream;
-  const auto skip = [&](std::string_view path) {
-    if (IsWithin(path, ".file")) return !autosave;
-    if (!withScreens && (IsWithin(path, ".screen") || path == ".events.EventsLogTopLine")) return true;
-    return IsLeftOut(path);
-  };
-  ForEachKeptColumn(game, skip, [&](const std::string& path, const auto& cells) {
-    Writer values;
-    for (const auto* cell : cells) Put(values, *cell);
-    stream.Text(path);
-    stream.Unsigned(cells.size());
-    stream.Text(values.bytes);
-  });
-  return stream.bytes;
-}
-
-bool DecodeFields(std::string_view bytes, Game& game) {
-  struct Column {
-    std::uint64_t cells = 0;
-    std::string_view values;
-  };
-  std::map<std::string_view, Column> columns;
-  Reader stream{bytes};
-  while (!stream.rest.empty() && !stream.failed) {
-    const std::string_view path = stream.Text();
-    Column column{stream.Unsigned(), {}};
-    column.values = stream.Text();
-    columns[path] = column;
-  }
-  bool good = !stream.failed;
-  const auto skip = [](std::string_view path) { return !IsWithin(path, ".file") && IsLeftOut(path); };
-  ForEachKeptColumn(game, skip, [&](const std::string& path, const auto& cells) {
-    const auto found = columns.find(path);
-    if (found == columns.end()) return;
-    Reader values{found->second.values};
-    const std::size_t count = std::min<std::uint64_t>(cells.size(), found->second.cells);
-    for (std::size_t i = 0; i < count && !values.failed; ++i) Get(values, *cells[i]);
-    good = good && !values.failed && (found->second.cells > count || values.rest.empty());
-  });
-  return good;
-}
-
 // --- What a value may be.
-
-namespace {
 
 enum class Bits { kNone, kBets, kStacks };
 
@@ -460,14 +427,80 @@ bool IsInRange(const T& value, const FieldRange* range) {
     return true;
 }
 
+// --- Columns.
+
+template <typename T>
+constexpr FieldForm kFormOf = {
+    [](Writer& to, const void* cell) { Put(to, *static_cast<const T*>(cell)); },
+    [](Reader& from, void* cell) { Get(from, *static_cast<T*>(cell)); },
+    [](const void* cell, const FieldRange* range) { return IsInRange(*static_cast<const T*>(cell), range); },
+};
+
+template <typename T>
+void VisitColumn(const std::string& path, const std::vector<T*>& cells, const Visit& visit) {
+  if constexpr (kIsKept<T>) visit({path, kFormOf<T>, std::vector<void*>(cells.begin(), cells.end())});
+}
+
+void ForEachKeptColumn(Game& game, const Wanted& wanted, const Visit& visit) {
+  ForEachColumn(std::string(), std::vector<Game*>{&game}, wanted, visit);
+}
+// The visitor only reads.
+void ForEachKeptColumn(const Game& game, const Wanted& wanted, const Visit& visit) {
+  ForEachKeptColumn(const_cast<Game&>(game), wanted, visit);
+}
+
 }  // namespace
+
+std::string EncodeFields(const Game& game, bool autosave, bool withScreens) {
+  Writer stream;
+  const auto wanted = [&](std::string_view path) {
+    if (IsWithin(path, ".file")) return autosave;
+    if (!withScreens && (IsWithin(path, ".screen") || path == ".events.EventsLogTopLine")) return false;
+    return !IsLeftOut(path);
+  };
+  ForEachKeptColumn(game, wanted, [&](const Column& column) {
+    Writer values;
+    for (const void* cell : column.cells) column.form.put(values, cell);
+    stream.Text(column.path);
+    stream.Unsigned(column.cells.size());
+    stream.Text(values.bytes);
+  });
+  return stream.bytes;
+}
+
+bool DecodeFields(std::string_view bytes, Game& game) {
+  struct Written {
+    std::uint64_t cells = 0;
+    std::string_view values;
+  };
+  std::map<std::string_view, Written> columns;
+  Reader stream{bytes};
+  while (!stream.rest.empty() && !stream.failed) {
+    const std::string_view path = stream.Text();
+    Written column{stream.Unsigned(), {}};
+    column.values = stream.Text();
+    columns[path] = column;
+  }
+  bool good = !stream.failed;
+  const auto wanted = [](std::string_view path) { return IsWithin(path, ".file") || !IsLeftOut(path); };
+  ForEachKeptColumn(game, wanted, [&](const Column& column) {
+    const auto found = columns.find(column.path);
+    if (found == columns.end()) return;
+    Reader values{found->second.values};
+    const std::size_t count = std::min<std::uint64_t>(column.cells.size(), found->second.cells);
+    for (std::size_t i = 0; i < count && !values.failed; ++i) column.form.get(values, column.cells[i]);
+    good = good && !values.failed && (found->second.cells > count || values.rest.empty());
+  });
+  return good;
+}
 
 std::string FieldOutOfRange(const Game& game) {
   std::string found;
-  ForEachKeptColumn(game, IsLeftOut, [&](const std::string& path, const auto& cells) {
-    const FieldRange* range = RangeOf(path);
-    for (const auto* cell : cells)
-      if (found.empty() && !IsInRange(*cell, range)) found = path;
+  const auto wanted = [](std::string_view path) { return !IsLeftOut(path); };
+  ForEachKeptColumn(game, wanted, [&](const Column& column) {
+    const FieldRange* range = RangeOf(column.path);
+    for (const void* cell : column.cells)
+      if (found.empty() && !column.form.isInRange(cell, range)) found = column.path;
   });
   return found;
 }

@@ -347,10 +347,24 @@ void RollsOutOf(Io& io, Number& rolls) {
     if (told != Currency::FromDouble(rolls)) rolls = told.ToDouble();
 }
 
-template <typename Io, typename GameType>
-void FirstConfiguration(Io& io, GameType& game) {
+// 0 in a file is none, and black stands in the further records.
+template <typename Io, typename Colour24>
+void Colour(Io& io, Colour24& colour) {
+  constexpr std::uint32_t kColours = 0xFFFFFF;
+  std::int64_t told = colour;
+  io.Money(told);
+  if constexpr (Io::kReads)
+    if (told > 0 && told <= kColours) colour = static_cast<std::uint32_t>(told);
+}
+
+template <typename Io, typename GameType, typename Screen>
+void FirstConfiguration(Io& io, GameType& game, Screen& screen) {
   auto& settings = game.settings;
-  io.MoneyTo(4);
+  auto& looks = screen.looks;
+  Colour(io, looks.Dice[0]);
+  Colour(io, looks.Dice[1]);
+  Colour(io, looks.Pips);
+  Colour(io, looks.Checks[1]);
   io.Money(settings.DiceAction);
   io.Money(settings.SimRollRate);
   io.Money(settings.UseCentsSymbol);
@@ -661,7 +675,7 @@ void GameRecords(Io& io, GameType& game, Screen& screen, References& references)
   Refer(io, references.probability);
   Refer(io, references.eventsLog);
   EventsOptions(io, game.events);
-  FirstConfiguration(io, game);
+  FirstConfiguration(io, game, screen);
   SecondConfiguration(io, game.settings);
   Comps(io, game.settings);
   Payoffs(io, game.payoffs);

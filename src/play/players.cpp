@@ -7,6 +7,7 @@
 
 #include "autobet/language/normaliser.h"
 #include "base/record_file.h"
+#include "play/session_luck.h"
 #include "rules/bet_rules.h"
 #include "rules/consistency.h"
 #include "rules/shooter.h"
@@ -106,6 +107,7 @@ void ClearSeat(Game& game, int seat) {
   for (int scope = 0; scope < kScopes; ++scope)
     game.stats.RollsNotSeen[Slot(scope, seat)] = game.stats.RollTotals[Slot(scope, 0)];
   game.autobet.SessionAhead |= static_cast<std::uint16_t>(1u << seat);
+  ClearSeatLuck(game, seat);
 }
 
 bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency bankroll, std::string& error) {
@@ -292,6 +294,7 @@ void SwapSeats(Game& game, int a, int b) {
   ForEachPartOfASeat(game, swap);
   ForEachSeatPart(game.graph, swap);
   ForEachSeatMask(game, [a, b](auto& mask) { SwapBits(mask, a, b); });
+  SwapSeatLuck(game, a, b);
   ListSeated(table);
   // Both seats' copies may be out of date now.
   table.SeatsSinceBefore |= 1u << a | 1u << b;

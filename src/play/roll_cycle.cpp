@@ -8,6 +8,7 @@
 #include "dice/percentage_dice.h"
 #include "dice/roll_file.h"
 #include "play/roll_recorder.h"
+#include "play/session_luck.h"
 #include "play/table_files.h"
 #include "rules/bankroll.h"
 #include "rules/bet_limits.h"
@@ -360,7 +361,8 @@ bool BeginRoll(Game& game) {
   return true;
 }
 
-// From the fallen dice to the last of what they decided.
+}  // namespace
+
 void SettleDice(Game& game) {
   TableState& table = game.table;
   const bool logged = game.events.RecordEventsActive;
@@ -382,8 +384,6 @@ void SettleDice(Game& game) {
   CloseRoll(table);
 }
 
-}  // namespace
-
 bool ReadyToRoll(Game& game) {
   ReplaceMissingGenerator(game.generators);
   return BankrollsWithinLimit(game) && ScriptsReady(game);
@@ -403,8 +403,10 @@ void FinishRoll(Game& game) {
   RequireConsistency(game);
 }
 
-bool MakeRoll(Game& game) {
+bool MakeRoll(Game& game, SessionLuck* luck) {
+  if (luck != nullptr) LuckRollComes(*luck, game);
   if (!RollAndSettle(game)) return false;
+  if (luck != nullptr) LuckRollFell(*luck, game);
   FinishRoll(game);
   return BankrollsWithinLimit(game);
 }

@@ -543,6 +543,93 @@ ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, int seat,
   return findings;
 }
 
+namespace {
+
+constexpr std::string_view kHolds = "if 1 = 1 then";
+
+// Blanks in the place of the bytes from begin to end of a line; what stands behind keeps its column.
+void Blank(std::string& line, int begin, int end) {
+  const auto from = std::min(line.size(), static_cast<std::size_t>(std::max(begin, 0)));
+  const auto to = std::clamp(static_cast<std::size_t>(std::max(end, 0)), from, line.size());
+  line.replace(from, to - from, to - from, ' ');
+}
+
+// Takes a faulty statement out; of one that opens a block the block stays. False where the blocks behind it
+// would no longer be known.
+bool PassOver(std::vector<std::string>& lines, const ScriptDiagnostic& fault) {
+  const int count = static_cast<int>(lines.size());
+  if (fault.firstLine < 1 || fault.lastLine < fault.firstLine || fault.lastLine > count) return false;
+  const std::vector<std::string> span(lines.begin() + fault.firstLine - 1, lines.begin() + fault.lastLine);
+  int opens = 0;
+  for (const ScriptWord& word : ScriptWords(span, {})) {
+    const bool first = word.line == 1 && word.end <= fault.firstColumn;
+    const bool behind = word.line == static_cast<int>(span.size()) && word.begin >= fault.lastColumn;
+    if (first || behind) continue;
+    if (Closes(word)) return false;
+    if (Opens(word)) ++opens;
+  }
+  if (opens > 1) return false;
+  for (int line = fault.firstLine; line <= fault.lastLine; ++line) {
+    std::string& text = lines[static_cast<std::size_t>(line) - 1];
+    Blank(text, line == fault.firstLine ? fault.firstColumn : 0,
+          line == fault.lastLine ? fault.lastColumn : static_cast<int>(text.size()));
+  }
+  if (opens == 0) return true;
+  std::string& text = lines[static_cast<std::size_t>(fault.firstLine) - 1];
+  const auto at = static_cast<std::size_t>(std::max(fault.firstColumn, 0));
+  if (at > text.size()) return false;
+  const bool alone = text.find_first_not_of(' ', at) == std::string::npos;
+  if (!alone && (text.size() - at < kHolds.size() || text.find_first_not_of(' ', at) < at + kHolds.size()))
+    return false;
+  text.replace(at, std::min(kHolds.size(), text.size() - at), kHolds);
+  return true;
+}
+
+}  // namespace
+
+bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word) {
+  // The message ends with the word that isn't known.
+  const std::size_t end = fault.message.find_last_of('\r');
+  const std::string told = Lowered(Trimmed(fault.message.substr(end == std::string::npos ? 0 : end + 1)));
+  if (fault.offer.empty() || told.empty()) return false;
+  for (int line = std::max(fault.firstLine, 1); line <= fault.lastLine; ++line) {
+    if (line > static_cast<int>(lines.size())) break;
+    const auto from = static_cast<std::size_t>(line == fault.firstLine ? std::max(fault.firstColumn, 0) : 0);
+    const std::size_t at = Lowered(lines[static_cast<std::size_t>(line) - 1]).find(told, from);
+    if (at == std::string::npos) continue;
+    word = {ScriptWordKind::kUnknown, line, static_cast<int>(at), static_cast<int>(at + told.size()), {}};
+    return true;
+  }
+  return false;
+}
+
+std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
+                                           const std::vector<std::string>& lines, std::size_t most) {
+  std::vector<ScriptDiagnostic> faults;
+  std::vector<std::string> rest = lines;
+  for (std::size_t looks = 0; faults.size() < most && looks < 2 * most; ++looks) {
+    const ScriptDiagnostic fault = CheckLines(surroundings, seat, rest).diagnostic;
+    if (!fault.Failed()) break;
+    // Where something was mended already it may be for that.
+    const bool mended = std::any_of(faults.begin(), faults.end(), [&](const ScriptDiagnostic& known) {
+      return known.firstLine <= fault.lastLine && known.lastLine >= fault.firstLine;
+    });
+    if (!mended) faults.push_back(fault);
+    ScriptWord word;
+    if (FindOffered(rest, fault, word)) {
+      std::string& line = rest[static_cast<std::size_t>(word.line) - 1];
+      line.replace(static_cast<std::size_t>(word.begin), static_cast<std::size_t>(word.end - word.begin),
+                   fault.offer);
+    } else if (!PassOver(rest, fault)) {
+      break;
+    }
+  }
+  std::stable_sort(faults.begin(), faults.end(), [](const ScriptDiagnostic& a, const ScriptDiagnostic& b) {
+    return a.firstLine < b.firstLine;
+  });
+  return faults;
+}
+
 int LevelBehind(const std::vector<ScriptWord>& words, int line) {
   int level = 0;
   for (const ScriptWord& word : words) {

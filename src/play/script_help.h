@@ -115,6 +115,12 @@ struct ScriptFindings {
 };
 ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, int seat,
                               const std::vector<std::string>& lines);
+// What is wrong, the first first: behind each finding the text is looked at as if that statement were in
+// order, as far as its blocks can still be told. At most so many; none of a script that compiles.
+std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
+                                           const std::vector<std::string>& lines, std::size_t most = 10);
+// The word that a finding's offer takes the place of. False if there is no offer, or the word isn't found.
+bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word);
 // The indentation, in levels, that a line behind these would have: for a new line while the text is not
 // whole.
 int LevelBehind(const std::vector<ScriptWord>& words, int line);

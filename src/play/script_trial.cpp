@@ -5,8 +5,11 @@
 #include <algorithm>
 #include <chrono>
 #include <filesystem>
+#include <utility>
 
 #include "autobet/compile/compile_autobets.h"
+#include "autobet/language/script_text.h"
+#include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
 #include "play/auto_roll.h"
 #include "play/copy_game.h"
@@ -152,8 +155,10 @@ void TellBets(const Before& before, const Before& now, TrialResult& result) {
 
 }  // namespace
 
-TrialResult ScriptTrial::Run(std::int64_t rolls, TrialProgress& progress) {
+TrialResult ScriptTrial::Run(std::int64_t rolls, TrialProgress& progress, bool counted) {
   TrialResult result;
+  ScriptWatch watch;
+  watch.profile = true;
   Game& game = *parts_->game;
   TrialHost& host = parts_->host;
   const auto start = std::chrono::steady_clock::now();
@@ -161,6 +166,7 @@ TrialResult ScriptTrial::Run(std::int64_t rolls, TrialProgress& progress) {
     result.problem = host.said;
     return result;
   }
+  if (counted) WatchScripts(game, &watch);
   host.before = Throws(game.stats);
   host.target = rolls;
   host.every = std::max<std::int64_t>(1, rolls / static_cast<std::int64_t>(kMostPoints));
@@ -170,6 +176,8 @@ TrialResult ScriptTrial::Run(std::int64_t rolls, TrialProgress& progress) {
   result.bankrolls.push_back(game.table.BankrollCurrent[parts_->seat]);
   ToggleAutoRoll(game);
   host.progress = nullptr;
+  if (counted) WatchScripts(game, nullptr);
+  result.lines = std::move(watch.lines[parts_->seat]);
   result.rolls = Throws(game.stats) - host.before;
   result.stopped = progress.stop;
   result.stopReason = game.table.StopReason;
@@ -228,6 +236,68 @@ std::vector<std::string> PresentValues(const Game& game, int seat,
       values[n] = ValueOf(*copy, seat, expressions[n]);
   }
   return values;
+}
+
+namespace {
+
+// Where a function that begins at a byte ends, its brackets included.
+std::size_t EndOfCall(const std::string& line, std::size_t at, std::size_t end) {
+  int depth = 0;
+  for (; at < end; ++at) {
+    if (line[at] == '(') ++depth;
+    if (line[at] == ')' && --depth == 0) return at + 1;
+  }
+  return end;
+}
+
+bool Belongs(const std::string& line, const ScriptSpan& behind) {
+  const std::string word = Lowered(line.substr(behind.begin, behind.end - behind.begin));
+  return behind.kind == SpanKind::kPlayer || behind.kind == SpanKind::kModifier || word.starts_with("player");
+}
+
+// From behind "if" to "then".
+bool FindCondition(const std::vector<ScriptSpan>& spans, const std::string& line, std::size_t& begin,
+                   std::size_t& end) {
+  bool found = false;
+  for (const ScriptSpan& span : spans) {
+    const std::string word = Lowered(line.substr(span.begin, span.end - span.begin));
+    if (span.kind == SpanKind::kLogic && !found && (word == "if" || word == "else if")) {
+      found = true;
+      begin = span.end;
+      end = line.size();
+    } else if (found && (word == "then" || span.kind == SpanKind::kComment)) {
+      end = span.begin;
+      break;
+    }
+  }
+  return found;
+}
+
+}  // namespace
+
+std::string ConditionValues(const Game& game, int seat, const std::string& line) {
+  const std::vector<ScriptSpan> spans = SpansOf(line, SurroundingsOf(game));
+  std::size_t at = 0, end = 0;
+  if (!FindCondition(spans, line, at, end)) return {};
+  std::vector<std::string> operands;
+  const auto isIn = [&](const ScriptSpan& span) { return span.begin >= at && span.begin < end; };
+  for (std::size_t n = 0; n < spans.size(); ++n) {
+    const ScriptSpan& span = spans[n];
+    const bool call = span.end < line.size() && line[span.end] == '(' && span.kind != SpanKind::kLogic;
+    if (!isIn(span) || (span.kind != SpanKind::kVariable && !call)) continue;
+    at = call ? EndOfCall(line, span.begin, end) : span.end;
+    // Whose it is, and of which rolls, stands behind.
+    for (; n + 1 < spans.size() && Belongs(line, spans[n + 1]) && spans[n + 1].begin < end; ++n)
+      at = std::max(at, spans[n + 1].end);
+    std::string operand(Trimmed(line.substr(span.begin, at - span.begin)));
+    if (std::find(operands.begin(), operands.end(), operand) == operands.end())
+      operands.push_back(std::move(operand));
+  }
+  const std::vector<std::string> values = PresentValues(game, seat, operands);
+  std::string text;
+  for (std::size_t n = 0; n < operands.size(); ++n)
+    if (!values[n].empty()) text += (text.empty() ? "" : ", ") + operands[n] + " " + values[n];
+  return text;
 }
 
 }  // namespace tessaryn

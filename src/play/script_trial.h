@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "autobet/run/script_watch.h"
 #include "base/money.h"
 #include "state/script_types.h"
 
@@ -42,6 +43,7 @@ struct TrialResult {
   std::vector<TrialBet> bets;       // those that were decided
   std::vector<Currency> bankrolls;  // what the player has, bets included, at even distances; the start first
   std::vector<ScriptErrorKind> errors;
+  std::vector<LineProfile> lines;  // of the script, by line; 0 unused. Empty if they weren't counted.
 };
 
 // A trial that has been made ready. The table that it was made from is not touched by it.
@@ -56,7 +58,8 @@ class ScriptTrial {
   ScriptTrial& operator=(const ScriptTrial&) = delete;
 
   // In any one thread, once. Returns when all is rolled, something ends the run, or progress asks to stop.
-  TrialResult Run(std::int64_t rolls, TrialProgress& progress);
+  // counted: the script's lines are counted and timed, which takes time itself.
+  TrialResult Run(std::int64_t rolls, TrialProgress& progress, bool counted = false);
 
  private:
   struct Parts;
@@ -67,5 +70,9 @@ class ScriptTrial {
 // can't be told. The table is not touched.
 std::vector<std::string> PresentValues(const Game& game, int seat,
                                        const std::vector<std::string>& expressions);
+
+// What the variables and functions in the condition of a line are worth now: "passline 0, max(cs1, cs2) 12".
+// Empty for a line without a condition.
+std::string ConditionValues(const Game& game, int seat, const std::string& line);
 
 }  // namespace tessaryn

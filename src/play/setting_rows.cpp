@@ -136,6 +136,9 @@ constexpr Limits<Percent> kCompRates{Percent{}, Percent::Whole(900'000'000'000)}
 constexpr Limits<int> kSoundSets{0, 100};
 constexpr int kBarred[] = {12, 2};
 
+constexpr const char* kLanguageNames[] = {"English", "Espa\u00f1ol", "Deutsch", "Fran\u00e7ais",
+                                          "T\u00fcrk\u00e7e"};
+
 constexpr const char* kOddsMethods[] = {"Auto select",          "X Flat - No Push",
                                         "X Flat w/ Minor Push", "X Flat w/ Color Push",
                                         "X Flat - Single Odds", "Flat - Single Odds X"};
@@ -204,6 +207,7 @@ constexpr SettingRow kRows[] = {
     Choice<&Settings::InfoTipLevel>(kInfoTips, "how much the pointer tells"),
     Number<&Settings::ScreenFontSize>({9, 13}, "points: 9 small, 11 the desktop's own size, 13 large",
                                       {.unit = "points"}),
+    Choice<&Settings::Language>(kLanguageNames, "language of the window"),
     Choice<&Settings::DiceAction>(kDiceActions, "how the dice move"),
     Number<&Settings::StickPerson>(kSoundSets, "sound set, 0 none"),
     Number<&Settings::DiceSound>(kSoundSets, "sound set, 0 none"),

@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "rules/bet_limits.h"
+#include "rules/bet_refusals.h"
 #include "rules/consistency.h"
 #include "state/bet_families.h"
 #include "state/show_message.h"
@@ -421,6 +422,43 @@ bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
 
 Currency AllowedChange(Game& game, int seat, int bet, Currency request, Asking asking) {
   return DecideChange(game, seat, bet, request, asking);
+}
+
+namespace {
+
+Msg RefusingRule(const Game& game, int seat, int bet) {
+  const int place = kRuleOf[bet][0];
+  const Currency more = game.table.BetAmount(seat, bet) + game.settings.Unit();
+  return place >= 0 && kRules[place].refuses({game, seat, bet, more}) ? kRules[place].text : Msg::kNone;
+}
+
+// The note that a request for a unit more gets.
+std::string RefusingNote(const Game& game, int seat, int bet) {
+  const std::vector<MessageArgument> names{
+      {"player", game.table.seats[seat].SeatName}, {"bet", BetName(bet)}, {"flat", BetName(FlatBetOf(bet))}};
+  if (kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet))
+    return MessageText(Msg::kBetNotOffered, names);
+  if (const Msg rule = RefusingRule(game, seat, bet); rule != Msg::kNone) return MessageText(rule, names);
+  const Currency maximum = MaxBetFor(game, seat, bet);
+  if (game.table.BetAmount(seat, bet) >= maximum)
+    return MessageText<Msg::kMaximumBet>(With<"player">(game.table.seats[seat].SeatName),
+                                         With<"bet">(BetName(bet)), With<"limit">(maximum));
+  return MessageText<Msg::kBankrollTooSmall>(With<"player">(game.table.seats[seat].SeatName),
+                                             With<"bet">(BetName(bet)),
+                                             With<"others">(HasOtherBets(game, seat, bet)));
+}
+
+}  // namespace
+
+// Behind the player's name the first paragraph tells why, the others what to do about it.
+std::string WhyNotMore(const Game& game, int seat, int bet) {
+  constexpr std::string_view kParagraph = "\r\r";
+  std::string text = RefusingNote(game, seat, bet);
+  if (const std::string address = game.table.seats[seat].SeatName + ","; text.starts_with(address))
+    text.erase(0, text.find_first_not_of(" \r", address.size()));
+  text.resize(std::min(text.size(), text.find(kParagraph)));
+  std::erase(text, '\r');
+  return text;
 }
 
 Currency ChangeBet(Game& game, int seat, int bet, Currency request, Asking asking) {

@@ -260,6 +260,18 @@ void Shift(LuckMeter& meter, int seat, std::int64_t value) {
   luck.value = value;
 }
 
+// Of the bets as they stand, whatever was before.
+void TakeValues(LuckMeter& meter, const Game& game) {
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    meter.seats[seat].value = 0;
+    if (game.table.seats[seat].SeatBets.Empty()) continue;
+    ++meter.roll;
+    meter.seats[seat].value = meter.plans[PlanFor(meter, game, seat)].before;
+  }
+  meter.ridingSeats = 0;
+  meter.throwsBefore = -1;
+}
+
 }  // namespace
 
 std::int64_t LuckUnit(const Game& game) { return UnitOf(LuckDiceOf(game.percentage)); }
@@ -273,14 +285,13 @@ void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
   }
   meter.rulesStand = may == LuckRulesMay::kStand;
   meter.unit = UnitOf(meter.dice);
-  for (int seat = 0; seat < kSeatRows; ++seat) {
-    meter.seats[seat] = {};
-    if (seat == kHouse.value || game.table.seats[seat].SeatBets.Empty()) continue;
-    ++meter.roll;
-    meter.seats[seat].value = meter.plans[PlanFor(meter, game, seat)].before;
-  }
-  meter.ridingSeats = 0;
-  meter.throwsBefore = -1;
+  for (SeatLuck& seat : meter.seats) seat = {};
+  TakeValues(meter, game);
+}
+
+void LuckResume(LuckMeter& meter, const Game& game) {
+  FollowRules(meter, game);
+  TakeValues(meter, game);
 }
 
 void LuckBeforeRoll(LuckMeter& meter, const Game& game) {

@@ -82,6 +82,8 @@ std::int64_t LuckUnit(const Game& game);
 // Sums at 0, in the unit of the dice in force. Bets may be up; what they are worth above their face is no
 // luck.
 void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may = LuckRulesMay::kChange);
+// The sums go on behind rolls that were not counted: bets are taken as they stand now.
+void LuckResume(LuckMeter& meter, const Game& game);
 // Right before MakeRoll, with all bets as they will ride. May be called again if the roll didn't come.
 void LuckBeforeRoll(LuckMeter& meter, const Game& game);
 // After it, with the dice still as they fell; what scripts and handling have done since doesn't matter.

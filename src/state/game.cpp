@@ -48,8 +48,8 @@ int ShowMessage(Game& game, Msg id, std::vector<MessageArgument> arguments) {
   const MessageRow& row = RowOf(id);
   box.MsgId = id;
   box.MsgArguments = std::move(arguments);
-  box.MsgTitle = MessageText(row.title, box.MsgArguments);
-  box.MsgText = MessageText(id, box.MsgArguments);
+  box.MsgTitle = MessageTextIn(game.settings.Language, row.title, box.MsgArguments);
+  box.MsgText = MessageTextIn(game.settings.Language, id, box.MsgArguments);
   box.MsgFlags = FlagsOf(row.kind);
   box.MsgWidth = MessageBox{}.MsgWidth;
   box.MsgResult = kResultCancel;

@@ -70,6 +70,7 @@ struct Settings {
   bool ColorPrint = false;
   int InfoTipLevel = 1;     // 0 to 4
   int ScreenFontSize = 11;  // points, 9 to 13
+  int Language = 0;         // of the window and of what messages.inc tells translators: 0 to 4
   int DiceAction = 0;
   int StickPerson = 1;  // sound sets; 0 none
   int DiceSound = 1;
@@ -92,7 +93,8 @@ TESSARYN_FIELDS(Settings, MinBetMain, MinBetProp, MaxBet, MaxPropBetPayoff, MaxO
                 FieldPreset, BuyVigRate, LayVigRate, BuyVigRound, LayVigRound, BuyVigUpFront, LayVigUpFront,
                 CheckValue, SimRollRate, RollThrottle, AutoRollDelay, AutoStopInterval, StartBank, AtmEnabled,
                 AtmUnit, MessageMask, UseCentsSymbol, AutoArrangeChecks, SnapMouse, ColorPrint, InfoTipLevel,
-                ScreenFontSize, DiceAction, StickPerson, DiceSound, CheckSound, WinSound, AutoBetSounds,
-                DisableAllSound, IncludeZeroOutcomes, CompBase, CompRate, CompUseTrueProbs, CompBetFlags)
+                ScreenFontSize, Language, DiceAction, StickPerson, DiceSound, CheckSound, WinSound,
+                AutoBetSounds, DisableAllSound, IncludeZeroOutcomes, CompBase, CompRate, CompUseTrueProbs,
+                CompBetFlags)
 
 }  // namespace tessaryn

@@ -14,6 +14,7 @@
 #include "dice/percentage_dice.h"
 #include "state/run_stop.h"
 #include "state/show_message.h"
+#include "stats/events_log_copy.h"
 
 namespace tessaryn {
 namespace {
@@ -427,17 +428,12 @@ bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error) {
   const std::string from = EventsLogPath(game);
   std::error_code fault;
   if (fs::weakly_canonical(path, fault) == fs::weakly_canonical(from, fault)) return true;
-  const std::string beside = path + ".tmp";
-  fs::copy_file(from, beside, fs::copy_options::overwrite_existing, fault);
-  if (!fault) fs::rename(beside, path, fault);
-  if (fault) {
-    std::error_code ignored;
-    fs::remove(beside, ignored);
-    error = path + ": " + fault.message();
-    return false;
-  }
-  game.events.Path = path;
-  return true;
+  EventsLogCopy copy;
+  copy.From = from;
+  copy.To = path;
+  error = CopyEventsLog(copy, {});
+  if (error.empty()) error = UseEventsLogCopy(game, copy);
+  return error.empty();
 }
 
 void RecordAllEvents(EventsLog& log, bool on) {
@@ -461,7 +457,8 @@ template <Msg kId, typename... Arguments>
 void WriteOf(Game& game, int seat, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
   LogLine line;
-  FormLogLine<kId>(line, With<"player">(game.table.seats[seat].SeatName), arguments...);
+  FormLogLine<kId>(line, game.settings.Language, With<"player">(game.table.seats[seat].SeatName),
+                   arguments...);
   WriteGroupedLine(game, line.Text());
 }
 

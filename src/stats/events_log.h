@@ -29,7 +29,7 @@ template <Msg kId, typename... Arguments>
 void WriteLogLine(Game& game, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
   LogLine line;
-  FormLogLine<kId>(line, arguments...);
+  FormLogLine<kId>(line, game.settings.Language, arguments...);
   WriteEventsLogLine(game, line.Text());
 }
 // Writes the pending heading, if any, and then the line.

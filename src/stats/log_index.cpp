@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 
 namespace tessaryn {
@@ -58,6 +59,19 @@ constexpr std::string_view kFurtherDeeds[] = {
     " joined the game", " moved to stick ", " cashed out with "};
 constexpr std::string_view kOfTheTable[] = {"====", " New session", "----New hand"};
 
+// Those that the window's language tells, in any of them.
+bool IsToldDeed(std::string_view deed) {
+  constexpr std::string_view kName = "{player}";
+  for (int language = 1; language < kMessageLanguages; ++language)
+    for (const Msg told :
+         {Msg::kPartJoinedLeft, Msg::kPartJoinedRight, Msg::kPartNameChanged, Msg::kPartCashedOut}) {
+      std::string_view text = PatternIn(language, told);
+      if (text.starts_with(kName)) text.remove_prefix(kName.size());
+      if (deed.starts_with(FirstPart(text).text)) return true;
+    }
+  return false;
+}
+
 bool IsAbout(std::string_view line, std::string_view player) {
   const std::size_t first = line.find_first_not_of(' ');
   if (first == std::string_view::npos) return false;
@@ -68,6 +82,7 @@ bool IsAbout(std::string_view line, std::string_view player) {
       if (deed.starts_with(form.text)) return true;
     for (const std::string_view text : kFurtherDeeds)
       if (deed.starts_with(text)) return true;
+    if (IsToldDeed(deed)) return true;
   }
   if (words.starts_with("----")) {
     const std::size_t open = words.find('(');

@@ -110,11 +110,26 @@ template <Msg kId, std::size_t kPiece, typename... Arguments>
 
 }  // namespace log_line
 
+// Whether a part of the line is told to translators: it is in the language of the window, the others are
+// English.
+template <Msg kId>
+consteval bool HasLanguages() {
+  std::string_view pattern = RowOf(kId).text;
+  for (PatternPart part; !pattern.empty(); pattern.remove_prefix(part.length)) {
+    part = FirstPart(pattern);
+    if (part.form == PatternPart::Form::kMessage) return true;
+  }
+  return false;
+}
+
+// language: see messages.h.
 template <Msg kId, typename... Arguments>
-void FormLogLine(LogLine& line, const Arguments&... arguments) {
+void FormLogLine(LogLine& line, int language, const Arguments&... arguments) {
   static_assert(FillsAllHoles<kId, Arguments...>(), "the arguments are not those of the message");
   static_assert(RowOf(kId).kind == MessageKind::kLine, "this message is no line of the log");
-  if constexpr (log_line::kPiecesOf<kId>.chooses)
+  if constexpr (HasLanguages<kId>())
+    line.Add(MessageTextIn(language, kId, ArgumentsOf(arguments...)));
+  else if constexpr (log_line::kPiecesOf<kId>.chooses)
     line.Add(MessageText<kId>(arguments...));
   else
     [&]<std::size_t... kPiece>(std::index_sequence<kPiece...>) {

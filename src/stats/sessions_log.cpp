@@ -357,6 +357,20 @@ std::string MergeSessionsLog(Game& game, int seat, const std::string& path) {
   return problem.empty() ? AppendSessionsOf(file, other) : problem;
 }
 
+std::string UseSessionsLogCopy(Game& game, int seat, const std::string& path, std::int64_t copied,
+                               bool keepName) {
+  const std::string& player = game.table.seats[seat].SeatName;
+  const std::string old = keepName ? DefaultSessionsLogName(game, player) : SessionsLogPath(game, seat);
+  if (IsSameFile(old, path)) return {};
+  SessionsLogFile file, copy;
+  std::string problem = OpenSessionsFile(file, old, SessionsAccess::kChange);
+  if (problem.empty()) problem = OpenSessionsFile(copy, path, SessionsAccess::kChange);
+  if (problem.empty()) problem = AppendSessionsOf(copy, file, copied + 1);
+  if (problem.empty() && keepName) problem = DeleteEverySession(file);
+  if (problem.empty()) UseLog(game, seat, keepName ? old : path);
+  return problem;
+}
+
 bool DeleteAllSessions(Game& game, int seat) {
   if (!Confirms<Msg::kAskDeleteAllSessions>(game, With<"player">(game.table.seats[seat].SeatName)))
     return false;
@@ -368,7 +382,7 @@ bool DeleteAllSessions(Game& game, int seat) {
   return problem.empty();
 }
 
-bool DeleteSessions(Game& game, int seat) {
+bool AskDeleteSessions(Game& game, std::int64_t& first, std::int64_t& last) {
   MessageBox& box = game.box;
   box.MsgValue1 = Currency::Dollars(game.sessions.SessionsTopRow);
   box.MsgValue2 = kZero;
@@ -376,9 +390,15 @@ bool DeleteSessions(Game& game, int seat) {
   // A second box left at 0 asks for a single session.
   const Currency second = box.MsgValue2 == kZero ? box.MsgValue1 : box.MsgValue2;
   const bool whole = box.MsgValue1.IsWhole() && second.IsWhole();
-  std::int64_t first = whole ? box.MsgValue1.raw / Currency::kPerDollar : 0;
-  std::int64_t last = whole ? second.raw / Currency::kPerDollar : 0;
+  first = whole ? box.MsgValue1.raw / Currency::kPerDollar : 0;
+  last = whole ? second.raw / Currency::kPerDollar : 0;
   if (last < first) std::swap(first, last);
+  return true;
+}
+
+bool DeleteSessions(Game& game, int seat) {
+  std::int64_t first = 0, last = 0;
+  if (!AskDeleteSessions(game, first, last)) return false;
   SessionsLogFile file;
   std::string problem = OpenOf(game, seat, file, SessionsAccess::kCreate);
   if (problem.empty()) problem = DeleteSessionRange(file, first, last);

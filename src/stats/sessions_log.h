@@ -55,10 +55,16 @@ std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path);
 // The file moves. One that is there already is not replaced.
 std::string RenameSessionsLog(Game& game, int seat, const std::string& path);
 std::string MergeSessionsLog(Game& game, int seat, const std::string& path);
+// After a copy of so many sessions was made beside the game: what the log has got since goes behind them, and
+// the log goes on under the new name or, with keepName, begins anew under its own.
+std::string UseSessionsLogCopy(Game& game, int seat, const std::string& path, std::int64_t copied,
+                               bool keepName);
 
 // These ask, and tell what went wrong. Whether something has changed.
 bool DeleteAllSessions(Game& game, int seat);
 bool DeleteSessions(Game& game, int seat);
+// The question of the last alone: sessions first to last, as they were typed.
+bool AskDeleteSessions(Game& game, std::int64_t& first, std::int64_t& last);
 bool SetBreakPoint(Game& game);
 // Looks from the top session on for FindValue, by ask for a value that is typed first. step 1 or -1.
 bool FindSession(Game& game, bool ask, int step);

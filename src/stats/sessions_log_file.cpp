@@ -101,6 +101,33 @@ class Lock {
   int descriptor_;
 };
 
+// Held by who takes sessions out, so that nobody else does meanwhile; what is added doesn't mind it.
+class DeletionLock {
+ public:
+  explicit DeletionLock(const SessionsLogFile& file) : descriptor_(file.Descriptor) {
+    if (Set(F_WRLCK) == 0 || (errno != EAGAIN && errno != EACCES)) return;
+    descriptor_ = -1;
+    problem = MessageText<Msg::kSessionsLogInUse>(With<"path">(file.Path));
+  }
+  DeletionLock(const DeletionLock&) = delete;
+  DeletionLock& operator=(const DeletionLock&) = delete;
+  ~DeletionLock() {
+    if (descriptor_ >= 0) Set(F_UNLCK);
+  }
+  std::string problem;
+
+ private:
+  int Set(short type) const {
+    struct flock place {};
+    place.l_type = type;
+    place.l_whence = SEEK_SET;
+    place.l_len = 1;
+    return fcntl(descriptor_, F_OFD_SETLK, &place);
+  }
+
+  int descriptor_;
+};
+
 // The first of them, to session first and those behind it.
 std::string WriteRecords(const SessionsLogFile& file, std::int64_t first, const std::vector<Record>& records,
                          std::int64_t count) {
@@ -218,6 +245,36 @@ std::string LockedAppend(const SessionsLogFile& file, const Record& session) {
   return WriteHeader(file, header);
 }
 
+// How many sessions another log would add.
+std::string CountFurther(const SessionsLogFile& file, SessionsLogFile& other, std::int64_t& further) {
+  if (file.Device == other.Device && file.Inode == other.Inode)
+    return MessageText<Msg::kSessionsLogSame>(With<"path">(other.Path));
+  return CountSessions(other, further);
+}
+
+bool IsRange(std::int64_t first, std::int64_t last, std::int64_t count) {
+  return first >= 1 && last <= count && first <= last;
+}
+
+std::string_view BytesOf(const std::vector<Record>& records) {
+  return {reinterpret_cast<const char*>(records.data()), records.size() * kRecordBytes};
+}
+
+// The sessions first to last behind what the copy has. done counts them, and those of earlier parts.
+std::string CopyRecords(FileReplacement& copy, const SessionsLogFile& file, std::int64_t first,
+                        std::int64_t last, std::int64_t& done, const SessionsGoOn& goOn) {
+  std::vector<Record> records;
+  for (std::int64_t at = first; at <= last; at += static_cast<std::int64_t>(records.size())) {
+    const std::int64_t block = std::min(kCopyBlock, last - at + 1);
+    std::string problem = ReadSessions(file, at, static_cast<std::size_t>(block), records);
+    if (problem.empty()) problem = WriteReplacement(copy, BytesOf(records));
+    done += block;
+    if (problem.empty() && goOn) problem = goOn(done);
+    if (!problem.empty()) return problem;
+  }
+  return {};
+}
+
 }  // namespace
 
 Record SessionsLogHeader(std::int64_t count) {
@@ -297,11 +354,11 @@ std::string AppendSession(SessionsLogFile& file, const Record& session) {
   }
 }
 
-std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
-  if (file.Device == other.Device && file.Inode == other.Inode)
-    return MessageText<Msg::kSessionsLogSame>(With<"path">(other.Path));
+std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other, std::int64_t from) {
   std::int64_t further = 0;
-  if (std::string problem = CountSessions(other, further); !problem.empty()) return problem;
+  if (std::string problem = CountFurther(file, other, further); !problem.empty()) return problem;
+  further -= from - 1;
+  if (further <= 0) return {};
   const Lock lock(file);
   if (!lock.problem.empty()) return lock.problem;
   Header header;
@@ -311,7 +368,7 @@ std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
   std::vector<Record> records;
   for (std::int64_t done = 0; done < further;) {
     const std::int64_t block = std::min(kCopyBlock, further - done);
-    if (std::string problem = ReadSessions(other, done + 1, static_cast<std::size_t>(block), records);
+    if (std::string problem = ReadSessions(other, from + done, static_cast<std::size_t>(block), records);
         !problem.empty())
       return problem;
     if (std::string problem = WriteRecords(file, header.count + done + 1, records, block); !problem.empty())
@@ -323,11 +380,13 @@ std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other) {
 }
 
 std::string DeleteSessionRange(SessionsLogFile& file, std::int64_t first, std::int64_t last) {
+  const DeletionLock alone(file);
+  if (!alone.problem.empty()) return alone.problem;
   const Lock lock(file);
   if (!lock.problem.empty()) return lock.problem;
   Header header;
   if (std::string problem = SettledHeader(file, header); !problem.empty()) return problem;
-  if (first < 1 || last > header.count || first > last) return MessageText<Msg::kSessionsOutOfRange>();
+  if (!IsRange(first, last, header.count)) return MessageText<Msg::kSessionsOutOfRange>();
   header.moveTo = first;
   header.moveGap = last - first + 1;
   if (last < header.count)
@@ -336,6 +395,8 @@ std::string DeleteSessionRange(SessionsLogFile& file, std::int64_t first, std::i
 }
 
 std::string DeleteEverySession(SessionsLogFile& file) {
+  const DeletionLock alone(file);
+  if (!alone.problem.empty()) return alone.problem;
   const Lock lock(file);
   if (!lock.problem.empty()) return lock.problem;
   Header header;
@@ -343,27 +404,61 @@ std::string DeleteEverySession(SessionsLogFile& file) {
   return WriteHeader(file, {});
 }
 
-std::string CopySessionsLog(SessionsLogFile& file, const std::string& path) {
+std::string CopySessionsLog(SessionsLogFile& file, const std::string& path, std::int64_t* copied,
+                            const SessionsGoOn& goOn) {
   if (IsSameFile(file.Path, path)) return {};
   std::int64_t count = 0;
   if (std::string problem = CountSessions(file, count); !problem.empty()) return problem;
   FileReplacement copy;
+  std::int64_t done = 0;
   std::string problem = BeginReplacement(copy, path);
-  Record head{};
-  PutText(head, 0, kTitleBytes, kTitle);
-  PutInt32(head, kCountAt, static_cast<std::int32_t>(count));
-  const auto bytes = [](const Record* records, std::size_t size) {
-    return std::string_view(reinterpret_cast<const char*>(records), size * kRecordBytes);
-  };
-  if (problem.empty()) problem = WriteReplacement(copy, bytes(&head, 1));
-  std::vector<Record> records;
-  for (std::int64_t done = 0; done < count && problem.empty();
-       done += static_cast<std::int64_t>(records.size())) {
-    const std::int64_t block = std::min(kCopyBlock, count - done);
-    problem = ReadSessions(file, done + 1, static_cast<std::size_t>(block), records);
-    if (problem.empty()) problem = WriteReplacement(copy, bytes(records.data(), records.size()));
-  }
+  if (problem.empty()) problem = WriteReplacement(copy, BytesOf({SessionsLogHeader(count)}));
+  if (problem.empty()) problem = CopyRecords(copy, file, 1, count, done, goOn);
+  if (copied != nullptr) *copied = count;
   return problem.empty() ? CommitReplacement(copy) : problem;
+}
+
+std::string RewriteSessionsLog(const std::string& path, const SessionsChange& change,
+                               const SessionsGoOn& goOn) {
+  SessionsLogFile file, other;
+  Header header;
+  std::int64_t further = 0;
+  std::string problem = OpenSessionsFile(file, path, SessionsAccess::kChange);
+  if (!problem.empty()) return problem;
+  const DeletionLock alone(file);
+  problem = alone.problem.empty() ? CountSessions(file, header.count) : alone.problem;
+  if (problem.empty() && !change.Other.empty()) {
+    problem = OpenSessionsFile(other, change.Other, SessionsAccess::kRead);
+    if (problem.empty()) problem = CountFurther(file, other, further);
+  }
+  const bool deletes = change.First != 0;
+  if (problem.empty() && deletes && !IsRange(change.First, change.Last, header.count))
+    problem = MessageText<Msg::kSessionsOutOfRange>();
+  // What stands before and behind the gap, the other log's, and what is added until all that is done.
+  const std::int64_t seen = header.count;
+  const std::int64_t gap = deletes ? change.Last - change.First + 1 : 0;
+  const std::int64_t before = deletes ? change.First - 1 : seen;
+  std::int64_t done = 0;
+  FileReplacement copy;
+  if (problem.empty()) problem = BeginReplacement(copy, path);
+  if (problem.empty()) problem = WriteReplacement(copy, BytesOf({SessionsLogHeader(0)}));
+  if (problem.empty()) problem = CopyRecords(copy, file, 1, before, done, goOn);
+  if (problem.empty()) problem = CopyRecords(copy, file, before + gap + 1, seen, done, goOn);
+  if (problem.empty()) problem = CopyRecords(copy, other, 1, further, done, goOn);
+  if (!problem.empty()) return problem;
+  fsync(copy.Descriptor);  // what takes long, before others have to wait
+  const Lock lock(file);
+  problem = lock.problem.empty() ? SettledHeader(file, header) : lock.problem;
+  if (problem.empty() && (header.count < seen || !IsInPlace(file)))
+    problem = MessageText<Msg::kSessionsLogReplaced>(With<"path">(path));
+  const std::int64_t count = header.count - gap + further;
+  if (problem.empty() && count > kMostSessions)
+    problem = MessageText<Msg::kSessionsLogsTooLong>(With<"path">(path), With<"limit">(kMostSessions));
+  if (problem.empty()) problem = CopyRecords(copy, file, seen + 1, header.count, done, {});
+  if (!problem.empty()) return problem;
+  const Record head = SessionsLogHeader(count);
+  const int fault = WriteAt(copy.Descriptor, 0, head.data(), head.size());
+  return fault == 0 ? CommitReplacement(copy) : FileErrorText("write", path, fault);
 }
 
 }  // namespace tessaryn

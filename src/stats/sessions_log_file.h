@@ -84,13 +84,26 @@ std::string ForEachSession(const SessionsLogFile& file, std::int64_t first, std:
 // Opened by kChange or kCreate from here on. A log that was deleted or replaced meanwhile is made or opened
 // anew by an append.
 std::string AppendSession(SessionsLogFile& file, const Record& session);
-// All sessions of another log behind its own, or none of them.
-std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other);
+// All sessions of another log, or those from one on, behind its own, or none of them.
+std::string AppendSessionsOf(SessionsLogFile& file, SessionsLogFile& other, std::int64_t from = 1);
 // Sessions first to last out; those above move down in place.
 std::string DeleteSessionRange(SessionsLogFile& file, std::int64_t first, std::int64_t last);
 // A header without sessions; what it counted stays in the file, unreachable.
 std::string DeleteEverySession(SessionsLogFile& file);
-// A copy under another name, put in place when it is whole. Of the same file: nothing.
-std::string CopySessionsLog(SessionsLogFile& file, const std::string& path);
+// A copy under another name, put in place when it is whole. Of the same file: nothing. copied: how many
+// sessions it has.
+std::string CopySessionsLog(SessionsLogFile& file, const std::string& path, std::int64_t* copied = nullptr,
+                            const SessionsGoOn& goOn = {});
+
+// What a log becomes: without its sessions First to Last, if First isn't 0, and with all of another log's behind
+// its own, if Other names one.
+struct SessionsChange {
+  std::int64_t First = 0;
+  std::int64_t Last = 0;
+  std::string Other;
+};
+// Changes a log of any size beside the program: it is written anew beside the old one, which others go on
+// adding to meanwhile, and put in its place when it is whole. goOn's text ends it before that.
+std::string RewriteSessionsLog(const std::string& path, const SessionsChange& change, const SessionsGoOn& goOn);
 
 }  // namespace tessaryn

@@ -3,9 +3,13 @@
 
 #include <gtest/gtest.h>
 
+#include <ctime>
+#include <random>
+
 #include "autobet/run_helpers.h"
 #include "base/bet_catalogue.h"
 #include "play/players.h"
+#include "play/script_trial.h"
 
 namespace tessaryn {
 namespace {
@@ -108,6 +112,96 @@ TEST(LoggedBets, PlayTheSameBetsAgain) {
   SetScriptActive(game, 1, true);
   ASSERT_TRUE(InitialiseScripts(game));
   for (int number = 1; number < 200; ++number) EXPECT_EQ(table.Bet(number), wanted[number]) << number;
+}
+
+// An evening's bets, as they were logged between the rolls, make the same evening on the same dice.
+TEST(LoggedBets, ARandomEveningPlaysAgain) {
+  const unsigned seed = std::random_device{}();
+  SCOPED_TRACE("seed " + std::to_string(seed));
+  std::mt19937 random(seed);
+  const auto draw = [&](int low, int high) {
+    return low + static_cast<int>(random() % static_cast<unsigned>(high - low + 1));
+  };
+  constexpr int kRolls = 60;
+  struct Roll {
+    int die1, die2;
+    Currency bankroll;
+    std::vector<Currency> bets;
+  };
+  const auto lookAt = [](const Game& game, Roll& roll) {
+    roll.bankroll = game.table.BankrollCurrent[1];
+    for (int bet = 1; bet <= kBets; ++bet) roll.bets.push_back(game.table.BetAmount(1, bet));
+  };
+  std::vector<Roll> rolls;
+  std::string script = "cs1 = cs1 + 1\n";
+  {
+    ScriptTable evening;
+    Game& game = *evening.game;
+    LeaveTable(game, 2);
+    game.autobet.BetLogging = true;
+    for (int n = 1; n <= kRolls; ++n) {
+      for (int clicks = draw(0, 5); clicks > 0; --clicks) {
+        const int bet = draw(0, 2) == 0 ? draw(1, kBets) : draw(1, 12);
+        if (draw(0, 3) == 0 && game.table.BetAmount(1, bet) != kZero)
+          RemoveBet(game, 1, bet);
+        else
+          PlaceBet(game, 1, bet, Currency::Dollars(5 * draw(1, 6)));
+        LogBet(game, 1, bet);
+      }
+      script += "if cs1 = " + std::to_string(n) + " then\n";
+      for (const std::string& statement : game.autobet.LoggedBets) script += statement + "\n";
+      script += "endif\n";
+      game.autobet.LoggedBets.clear();
+      Roll roll{draw(1, 6), draw(1, 6), kZero, {}};
+      lookAt(game, roll);
+      evening.Dice(roll.die1, roll.die2);
+      rolls.push_back(roll);
+    }
+  }
+  ScriptTable again;
+  Game& game = *again.game;
+  LeaveTable(game, 2);
+  ASSERT_EQ(again.Load(1, script), "");
+  ASSERT_TRUE(InitialiseScripts(game));  // later it runs behind each roll
+  for (const Roll& roll : rolls) {
+    Roll now{};
+    lookAt(game, now);
+    for (std::size_t bet = 0; bet < now.bets.size(); ++bet)
+      ASSERT_EQ(now.bets[bet], roll.bets[bet])
+          << BetName(static_cast<int>(bet) + 1) << " in roll " << &roll - rolls.data() + 1 << "\n"
+          << script;
+    ASSERT_EQ(now.bankroll, roll.bankroll) << "in roll " << &roll - rolls.data() + 1;
+    again.Dice(roll.die1, roll.die2);
+  }
+}
+
+TEST(ConditionValues, TellWhatTheOperandsAreWorth) {
+  ScriptTable table;
+  ASSERT_EQ(table.Run("cs1 = 3 : cs2 = 12"), "");
+  struct Case {
+    const char* line;
+    const char* values;
+  };
+  const Case cases[] = {
+      {"if cs1 < 5 and cs2 = cs1 then", "cs1 3, cs2 12"},
+      {"   IF sum(cs1, cs2) = 15 and bankroll player2 > 0 then 'cs3",
+       "sum(cs1, cs2) 15, bankroll player2 1000"},
+      {"cs1 = cs2", ""},
+      {"' if cs1 = 1 then", ""},
+      {"if sum(cs1", ""},
+  };
+  for (const Case& one : cases) EXPECT_EQ(ConditionValues(*table.game, 1, one.line), one.values) << one.line;
+}
+
+// In processor time, and with room for a build that isn't optimised.
+TEST(CheckScript, TenThousandLinesAreCheckedAtOnce) {
+  std::vector<std::string> lines;
+  while (lines.size() < 10'000)
+    for (const char* line : {"if comeout roll and passline = 0 then", "   bet 10 on passline", "endif"})
+      lines.emplace_back(line);
+  const std::clock_t start = std::clock();
+  EXPECT_TRUE(CheckLines({}, 1, lines).ok);
+  EXPECT_LT(1000.0 * static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC, 1500);
 }
 
 TEST(LoggedBets, EveryBetIsAStatementThatCompiles) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <string>
@@ -43,6 +44,28 @@ TEST(Messages, EveryNumberHasTheTextToldForItAndTheOthersNone) {
   }
   EXPECT_EQ(told.size(), 84u);
   for (int id = -1; id <= 1100; ++id) EXPECT_EQ(GetMessage(0, id), told.contains(id) ? told[id] : "") << id;
+}
+
+TEST(Messages, EachLanguageHasEveryToldTextWithItsBlanksAndLetters) {
+  EXPECT_EQ(GetMessage(4, 1), "Bir oyuncu eklemek için raydaki açik bir pozisyona tiklayin.");
+  EXPECT_EQ(GetMessage(1, 1), "Haga clic en una posición abierta en el riel para agregar un jugador.");
+  for (const int outside : {-1, 5, 99}) EXPECT_EQ(GetMessage(outside, 132), "Jump to Tessaryn' home folder?");
+  for (int language = 1; language < kMessageLanguages; ++language)
+    for (int id = -1; id <= 1100; ++id) {
+      const std::string english(GetMessage(0, id));
+      const std::string text(GetMessage(language, id));
+      EXPECT_EQ(text.empty(), english.empty()) << id;
+      if (english.empty()) continue;
+      EXPECT_EQ(std::count(text.begin(), text.end(), '&'), std::count(english.begin(), english.end(), '&'))
+          << text;
+      EXPECT_EQ(text.ends_with('$'), english.ends_with('$')) << text;
+      EXPECT_TRUE(!english.ends_with(' ') || text.ends_with(' ')) << text;
+    }
+  // Parts of others come along; what isn't told stays English, and names as they were entered.
+  EXPECT_EQ(MessageTextIn(2, Msg::kNameTaken, ArgumentsOf(With<"name">("Ömer"))),
+            "Es gibt schon einen Spieler namens Ömer.");
+  EXPECT_EQ(MessageTextIn(3, Msg::kNoSuchSeat, ArgumentsOf(With<"seat">(9))),
+            "There is no seat 9; seats are 1 to 8.");
 }
 
 MessageValue ValueOf(const std::string& text) {

@@ -136,6 +136,30 @@ TEST(Lsp, AnEditorsSessionIsServed) {
   EXPECT_EQ(client.answers[closed]["error"]["code"], -32602);
 }
 
+TEST(Lsp, SeveralFindingsAreToldAndMended) {
+  Client client;
+  client.Begin();
+  client.Open("csn1 = \"🎲\" : bet 5 on feld\ncs1 = 1\nbet 5 on pasline");
+  const auto ask = [&](Json range) {
+    return client.Ask("textDocument/codeAction", {{"textDocument", {{"uri", kUri}}},
+                                                  {"range", std::move(range)},
+                                                  {"context", {{"diagnostics", Json::array()}}}});
+  };
+  const int first = ask(Range(0, 20, 22));
+  const int none = ask(Range(1, 0, 3));
+  const int bad = ask("here");
+  client.End();
+  client.Run();
+  ASSERT_EQ(client.findings.size(), 1u);
+  EXPECT_EQ(client.findings[0].size(), 2u);
+  const Json actions = client.Result(first);
+  ASSERT_EQ(actions.size(), 1u);
+  EXPECT_EQ(actions[0]["kind"], "quickfix");
+  EXPECT_EQ(actions[0]["edit"]["changes"][kUri], (Json{{{"range", Range(0, 23, 27)}, {"newText", "field"}}}));
+  EXPECT_EQ(client.Result(none), Json::array());
+  EXPECT_EQ(client.Result(bad), Json::array());
+}
+
 // A text in UTF-16 as the editor has it, changed by random edits; the server that was told each of them must
 // see what a server sees that is given the whole.
 TEST(Lsp, RandomEditsLeaveTheServerWithTheEditorsText) {

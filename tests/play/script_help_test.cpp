@@ -147,5 +147,34 @@ TEST(ScriptHelp, WordsOfAnyTextStandInItInOrder) {
   }
 }
 
+TEST(ScriptHelp, FaultsAreToldTogetherAndMendedByTheirOffers) {
+  struct Case {
+    std::vector<std::string> lines;
+    std::vector<int> faulty;
+  };
+  const Case cases[] = {
+      {{"bet 5 on fieldd", "cs1 = 3", "bet 7 on paslin", "if cs1 = 3 and feld = 0 then", "  bet 5 on feld",
+        "endif", "clear filed : cs2 = = 4"},
+       {1, 3, 4, 5, 7}},
+      {{"if cs1 = 3 then", "bet 5 on feld"}, {1, 2}},
+      {{"goto nowhere", "bet on", "if then", "cs1 = 2", "endif", "bet 5 on feld"}, {1, 2, 3, 6}},
+      {{"bet 5 on field"}, {}},
+  };
+  for (const Case& one : cases) {
+    std::vector<int> faulty;
+    for (const ScriptDiagnostic& fault : ScriptFaults({}, 1, one.lines)) faulty.push_back(fault.firstLine);
+    EXPECT_EQ(faulty, one.faulty) << one.lines[0];
+  }
+  // With every offer taken only what has none is left.
+  std::vector<std::string> lines = cases[0].lines;
+  for (const ScriptDiagnostic& fault : ScriptFaults({}, 1, lines)) {
+    ScriptWord word;
+    if (FindOffered(lines, fault, word))
+      lines[static_cast<std::size_t>(word.line) - 1].replace(
+          static_cast<std::size_t>(word.begin), static_cast<std::size_t>(word.end - word.begin), fault.offer);
+  }
+  EXPECT_EQ(ScriptFaults({}, 1, lines).size(), 1u);
+}
+
 }  // namespace
 }  // namespace tessaryn

@@ -5,10 +5,12 @@
 
 #include <QColorDialog>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
+#include <QMainWindow>
 #include <QPushButton>
 #include <QSlider>
 #include <random>
@@ -228,9 +230,18 @@ TEST(BankrollGraphScreen, PrintsEachPageOfATurboRollByItself) {
   table.Choose("mnuAutoPrint");
   EXPECT_EQ(table.screen.WaitingGraphs(), 1) << "kept for the next sheet";
   table.Choose("mnuAutoPrint");
-  table.host.answers.Yes();
-  table.screen.hide();
+  // A dock that is closed takes it along.
+  QMainWindow sides;
+  QDockWidget dock;
+  dock.setWidget(&table.screen);
+  sides.addDockWidget(Qt::LeftDockWidgetArea, &dock);
+  sides.show();
   QTest::qWait(5);
+  EXPECT_EQ(printed.size(), 2u) << "moved, not closed";
+  table.host.answers.Yes();
+  dock.close();
+  QTest::qWait(5);
+  table.screen.setParent(nullptr);
   EXPECT_EQ(printed.size(), 3u) << "the last graph filled the sheet";
   EXPECT_TRUE(table.host.answers.Empty());
   table.screen.FinishPrinting();

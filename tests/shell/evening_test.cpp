@@ -59,6 +59,8 @@ class Hands {
       Click(*dialog, QString("cmdHandle%1").arg(1 + settled++ % 7));
     } else if (dialog->objectName() == "frmMsg") {
       Read(*dialog);
+    } else {
+      Answer(*dialog);
     }
     busy_ = false;
   }
@@ -71,6 +73,10 @@ class Hands {
       return;
     }
     ASSERT_FALSE(answers.empty()) << "asked: " << box.findChild<QLabel*>("lblMsg")->text().toStdString();
+    Answer(box);
+  }
+  void Answer(QDialog& box) {
+    ASSERT_FALSE(answers.empty()) << "open: " << box.objectName().toStdString();
     const auto answer = answers.front();
     answers.pop_front();
     answer(box);
@@ -93,6 +99,16 @@ std::function<void(QDialog&)> Typing(const char* text) {
   };
 }
 
+// Joins with a name and an amount to buy in for.
+std::function<void(QDialog&)> Joining(const char* name, const char* buyIn) {
+  return [name, buyIn](QDialog& box) {
+    ASSERT_EQ(box.objectName(), "frmJoin");
+    QTest::keyClicks(box.focusWidget(), name);
+    TypeInto(box, "txtBuyIn", buyIn);
+    QTest::keyClick(box.focusWidget(), Qt::Key_Return);
+  };
+}
+
 struct Evening {
   ScreenTable real;
   TestTable model;
@@ -105,6 +121,7 @@ struct Evening {
   Evening() {
     window.resize(1500, 900);
     window.Table().animate = false;
+    SetSettlesInBoxes(window.TheDesk(), true);
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
     // Every choice of the settlement dialog in turn, as the hands press them.
@@ -162,7 +179,7 @@ struct Evening {
 
   // --- Each step, by hand and by command.
   void Join(int seat, const char* name) {
-    hands.answers = {PressReturn, Typing(name), Typing("9000")};
+    hands.answers = {Joining(name, "9000")};
     QTest::mouseClick(&Table(), Qt::LeftButton, {}, Table().PointOfSeat(seat));
     EXPECT_TRUE(hands.answers.empty());
     model.Join(seat, name, "9000");
@@ -428,6 +445,86 @@ TEST(MainWindow, AStackIsDraggedBeyondAThresholdOnlyAndGivenUpByTheRightButtonAn
   EXPECT_EQ(state.Point, 6) << "the right button rolls";
 }
 
+TEST(MainWindow, TheHandTakesBackRepeatsAndTakesOddsByOneKey) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  TableWidget& table = evening.Table();
+  Game& game = *evening.real.game;
+  const auto up = [&](int bet) { return PlainMoney(game.table.BetAmount(4, bet)); };
+  const auto click = [&](int bet) {
+    QTest::mouseClick(&table, Qt::LeftButton, {}, table.PointOfBet(4, bet));
+  };
+  QTest::keyClick(evening.window.windowHandle(), Qt::Key_3, Qt::AltModifier);
+  click(kPassLine);
+  evening.Key(Qt::Key_Plus);
+  click(kPlace4);
+  evening.Key(Qt::Key_Minus);
+  evening.Key(Qt::Key_Minus);
+  click(kField);
+  EXPECT_EQ(up(kPassLine) + " " + up(kPlace4) + " " + up(kField), "25 100 5");
+  // A stack dragged away, a bet taken off by Delete, and back through all of it.
+  QTest::mousePress(&table, Qt::LeftButton, {}, table.PointOfBet(4, kPlace4));
+  evening.Point(table.PointOfBet(4, kPlace4 + 2), Qt::LeftButton);
+  QTest::mouseRelease(&table, Qt::LeftButton, {}, table.PointOfBet(4, kPlace4 + 2));
+  evening.Key(Qt::Key_Delete);
+  click(kField);
+  EXPECT_EQ(up(kPlace4) + " " + up(kPlace4 + 2) + " " + up(kField), "0 100 0");
+  const char* const kBack[] = {"25 0 100 5", "25 100 0 5", "25 100 0 0", "25 0 0 0", "0 0 0 0"};
+  const auto all = [&] {
+    return up(kPassLine) + " " + up(kPlace4) + " " + up(kPlace4 + 2) + " " + up(kField);
+  };
+  for (const char* then : kBack) {
+    evening.Key(Qt::Key_Backspace);
+    EXPECT_EQ(all(), then);
+  }
+  EXPECT_FALSE(evening.window.Command("mnuUndoBet")->isEnabled());
+  for (int n = 3; n >= 0; --n) {
+    QTest::keyClick(evening.window.windowHandle(), Qt::Key_Backspace, Qt::ShiftModifier);
+    EXPECT_EQ(all(), kBack[n]);
+  }
+  evening.real.Roll(4, 4);
+  EXPECT_FALSE(evening.window.Command("mnuUndoBet")->isEnabled()) << "the dice have fallen";
+  evening.Key(Qt::Key_O);
+  EXPECT_NE(up(kPassLineOdds), "0");
+  game.table.seats[4].handling.LoseHandling = 1;
+  evening.real.Roll(3, 4);
+  EXPECT_EQ(up(kPassLine), "0");
+  evening.Key(Qt::Key_R);
+  EXPECT_EQ(up(kPassLine), "25");
+  evening.Key(Qt::Key_Backspace);
+  EXPECT_EQ(up(kPassLine), "0") << "the bets repeated are one step";
+}
+
+TEST(MainWindow, JoiningInOneBoxRefusesAsTheQuestionsDo) {
+  Evening evening;
+  evening.Join(4, "Eve");
+  QStringList problems;
+  const auto problem = [&](QDialog& box) { problems.append(Find<QLabel>(box, "lblProblem").text()); };
+  const QPoint seat = evening.Table().PointOfSeat(2);
+  evening.hands.answers = {[&](QDialog& box) {
+    ExpectNamed(box);
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_TRUE(box.isVisible()) << "nobody joins without a name";
+    for (const auto& [name, buyIn] : {std::pair{"eve", "100"}, {"77", "100"}, {"Bo", "10000000"}}) {
+      TypeInto(box, "txtName", name);
+      TypeInto(box, "txtBuyIn", buyIn);
+      QTest::keyClick(&box, Qt::Key_Return);
+      problem(box);
+    }
+    EXPECT_EQ(ToCore(Find<QLabel>(box, "lblBuyIn").text()), "How much would Bo like to buy-in for?");
+    SavePicture(box, "join");
+    QTest::keyClick(&box, Qt::Key_Escape);
+  }};
+  QTest::mouseClick(&evening.Table(), Qt::LeftButton, {}, seat);
+  const char* const kProblems[] = {
+      "There's already a player named eve.",
+      "A player's name can't be all numeric because it can't be used in auto-betting.",
+      "The maximum player bankroll is $9,999,999"};
+  ASSERT_EQ(problems.size(), 3);
+  for (int n = 0; n < 3; ++n) EXPECT_EQ(ToCore(problems[n]), kProblems[n]);
+  EXPECT_EQ(evening.real.game->table.OccupiedSeats, 1);
+}
+
 // Without the pointer being moved.
 TEST(MainWindow, ThePointersLineFollowsEveryChange) {
   Evening evening;
@@ -522,10 +619,10 @@ TEST(MainWindow, TheKeyboardAloneWalksTheAreasBetsAndRolls) {
 
 TEST(MainWindow, DigitsAreThePlacesAtTheRail) {
   Evening evening;
-  evening.hands.answers = {PressReturn, Typing("Fay"), Typing("300")};
+  evening.hands.answers = {Joining("Fay", "300")};
   evening.Key(Qt::Key_6);
   EXPECT_EQ(evening.real.game->table.seats[6].SeatName, "Fay");
-  evening.hands.answers = {PressReturn, Typing("Gil"), Typing("300")};
+  evening.hands.answers = {Joining("Gil", "300")};
   evening.Key(Qt::Key_1);
   EXPECT_EQ(evening.real.game->table.SelectedSeat, 1);
   evening.Key(Qt::Key_6);

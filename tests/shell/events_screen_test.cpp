@@ -1,8 +1,10 @@
 // The Events Log's window, worked by mouse and keys: it shows the file's lines whatever is done to it.
 #include <QAction>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -258,6 +260,34 @@ TEST(EventsLogScreen, AnotherLogIsLookedAtWithoutDisturbingTheTables) {
   EXPECT_EQ(EventsLogPath(game), own);
   EXPECT_FALSE(QFile::exists(QString::fromStdString(own)));
   EXPECT_EQ(table.screen->windowTitle(), "Events Log");
+}
+
+TEST(EventsLogScreen, ALargeLogIsSavedBesideTheWindow) {
+  OpenLogScreen table;
+  Game& game = *table.game;
+  const std::string large = LongLog(table.folder, 4'000'000);
+  std::string error;
+  ASSERT_TRUE(OpenEventsLog(game, large, error)) << error;
+  auto& command = Find<QAction>(*table.screen, "mnuSaveAs");
+  for (const bool giveUp : {true, false}) {
+    const QString copy = table.folder.filePath(giveUp ? "given up.txt" : "saved.txt");
+    QueuedFileNames().push_back(copy.toStdString());
+    QElapsedTimer clock;
+    clock.start();
+    command.trigger();
+    EXPECT_LT(clock.elapsed(), 200);
+    EXPECT_FALSE(command.isEnabled());
+    table.Roll(3, 4);
+    if (giveUp) Find<QPushButton>(*table.screen, "cmdCancelSaving").click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return command.isEnabled(); }, 60'000));
+    const bool saved = EventsLogPath(game) == copy.toStdString();
+    EXPECT_EQ(saved, QFile::exists(copy));
+    EXPECT_TRUE(saved || giveUp);
+    if (saved) EXPECT_EQ(QFileInfo(copy).size(), QFileInfo(QString::fromStdString(large)).size());
+    if (saved) break;
+  }
+  const QStringList left = QDir(table.folder.path()).entryList(QDir::Files | QDir::Hidden);
+  EXPECT_EQ(left.filter("saved.txt").size() + left.filter("given up").size(), 1) << "nothing half-written";
 }
 
 // TESSARYN_LOG_BYTES=5000000000 tries it with what an evening at full speed writes.

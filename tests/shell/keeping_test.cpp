@@ -11,6 +11,7 @@
 #include <deque>
 
 #include "base/messages.h"
+#include "dice/percentage_dice.h"
 #include "play/game_file.h"
 #include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
@@ -20,6 +21,7 @@
 #include "shell/screens_support.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
+#include "stats/sessions_log.h"
 
 namespace tessaryn::test {
 namespace {
@@ -440,6 +442,57 @@ TEST(GameMenu, AFileDroppedOnTheWindowIsOpened) {
   QApplication::sendEvent(run.window.get(), &drop);
   EXPECT_TRUE(QTest::qWaitFor([&] { return run.game->table.seats[5].SeatName == "Eve"; }, 5000));
   run.window->CloseUnasked();
+}
+
+// --- Other files that the program is started with.
+
+TEST(Opening, EachKindOpensItsScreenForTheLastGame) {
+  const QTemporaryDir folder;
+  std::string error;
+  const auto at = [&](const char* name) { return folder.filePath(name).toStdString(); };
+  {
+    Visit first(folder);
+    first.Join(3, "Ann");
+    WriteFile(at("line.BET"), "bet 10 on passline\n");
+    WriteFile(at("two.rol"), std::string("\x24\x48"));
+    WriteFile(at("bad.rol"), "?");
+    ASSERT_TRUE(SaveProbabilityFile(first.game->percentage, at("fair.prb"), error)) << error;
+    ASSERT_EQ(SaveSessionsLogAs(*first.game, 3, at("old.slg")), "");
+    first.window->CloseUnasked();
+    QFile::copy(folder.filePath("default.crp"), folder.filePath("evening.crp"));
+  }
+  const struct {
+    const char* name;
+    int window;
+    std::string (*opened)(const Game&);
+    bool fails = false;
+  } rows[] = {
+      {"line.BET", kAutoBetWindow, [](const Game& game) { return game.autobet.Scripts[3].ScriptFileName; }},
+      {"two.rol", kDiceRollFilesWindow, [](const Game& game) { return game.rollFile.RollFileName; }},
+      {"fair.prb", kPercentageDiceWindow, [](const Game& game) { return game.percentage.ProbFileName; }},
+      {"old.slg", kSessionsWindow, [](const Game& game) { return SessionsLogPath(game, 3); }},
+      {"bad.rol", kDiceRollFilesWindow, [](const Game& game) { return game.rollFile.RollFileName; }, true},
+      {"none.prb", kPercentageDiceWindow, [](const Game& game) { return game.percentage.ProbFileName; }, true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    Visit run(folder, {}, at(row.name));
+    EXPECT_EQ(run.game->table.seats[3].SeatName, "Ann") << "the last game goes on";
+    if (row.fails) run.answers.buttons = {kOk};
+    run.window->OpenBesideGame(at(row.name));
+    EXPECT_TRUE(run.answers.buttons.empty()) << "nothing was told";
+    EXPECT_EQ(row.opened(*run.game) == at(row.name), !row.fails);
+    EXPECT_EQ(ToolIsShown(run.window->TheDesk(), row.window), row.name != std::string_view("none.prb"));
+    run.window->CloseUnasked();
+    QFile::remove(folder.filePath("default.crp"));
+    QFile::copy(folder.filePath("evening.crp"), folder.filePath("default.crp"));
+  }
+  const QTemporaryDir empty;
+  Visit nobody(empty, {}, at("line.BET"));
+  nobody.answers.buttons = {kOk};
+  nobody.window->OpenBesideGame(at("line.BET"));
+  EXPECT_EQ(nobody.answers.titles, QStringList{Words(Msg::kTitleAddAPlayer)});
+  nobody.window->CloseUnasked();
 }
 
 // --- The autosave.

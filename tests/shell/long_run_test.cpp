@@ -1,15 +1,20 @@
-// An Auto-Roll in the window for as long as TESSARYN_AUTO_ROLL_SECONDS tells: what is drawn, said and counted
-// leaves nothing behind.
+// Long runs in the window. An Auto-Roll for as long as TESSARYN_AUTO_ROLL_SECONDS tells: what is drawn, said
+// and counted leaves nothing behind. A Turbo-Roll of TESSARYN_LONG_ROLLS rolls with every instrument open,
+// against one with none: in a release its speed, too.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
+#include <ctime>
 
 #include "play/auto_roll.h"
+#include "shell/frame/desk.h"
 #include "shell/frame/main_window.h"
+#include "shell/frame/tool_rows.h"
+#include "shell/frame/tool_windows.h"
 #include "shell/screens_support.h"
 #include "state/run_stop.h"
 
@@ -50,6 +55,76 @@ TEST(LongRun, AnAutoRollLeavesNoMemoryBehind) {
   EXPECT_LT(grown, 1500) << "kilobytes more after " << SessionRolls(table.game->stats) << " rolls";
   RecordProperty("rolls", static_cast<int>(SessionRolls(table.game->stats)));
   RecordProperty("kilobytes", static_cast<int>(grown));
+}
+
+double ProcessorSeconds() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
+
+struct TurboRun {
+  double rate = 0;            // rolls a second of processor time
+  double longestSilence = 0;  // milliseconds of processor time in which no click would have been heard
+  long grown = 0;             // kilobytes since a third of the run
+};
+
+TurboRun RunTurbo(std::int64_t rolls, bool instruments) {
+  ScreenTable table;
+  table.watchdog.stop();
+  MainWindow window(*table.game, table.host);
+  window.Table().animate = false;
+  window.resize(1280, 800);
+  window.show();
+  EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
+  table.Join(1, "Ann", "900000");
+  table.State().seats[1].handling.WinHandling = table.State().seats[1].handling.LoseHandling = 2;
+  for (const int bet : {kPassLine, kField, kHard8}) table.Bet(1, bet, "5");
+  table.game->settings.ShooterBetRule = 0;
+  table.game->settings.AutoStopInterval = rolls;
+  if (instruments)
+    for (const ToolRow& row : ToolRows()) ShowTool(window.TheDesk(), row.number, true);
+  QTest::qWait(300);
+  TurboRun run;
+  long warm = 0;
+  double heard = 0;
+  QTimer ear;
+  QObject::connect(&ear, &QTimer::timeout, [&] {
+    const double now = ProcessorSeconds();
+    run.longestSilence = std::max(run.longestSilence, 1000 * (now - heard));
+    heard = now;
+    if (warm == 0 && SessionRolls(table.game->stats) > rolls / 3) warm = MemoryInUse();
+  });
+  ear.start(1);
+  table.host.answers.Ok();
+  const double before = heard = ProcessorSeconds();
+  ToggleAutoRoll(*table.game);
+  run.rate = static_cast<double>(rolls) / (ProcessorSeconds() - before);
+  run.grown = MemoryInUse() - warm;
+  EXPECT_EQ(SessionRolls(table.game->stats), rolls);
+  return run;
+}
+
+TEST(LongRun, EveryInstrumentOpenBesideATurboRoll) {
+#ifdef NDEBUG
+  const std::int64_t rolls = qEnvironmentVariable("TESSARYN_LONG_ROLLS", "5000000").toLongLong();
+  constexpr double kLeastShare = 0.95;
+  constexpr double kLongestSilence = 100;
+#else
+  const std::int64_t rolls = qEnvironmentVariable("TESSARYN_LONG_ROLLS", "20000").toLongLong();
+  constexpr double kLeastShare = 0.3;  // a roll costs many times as much, with its checks
+  constexpr double kLongestSilence = 1000;
+#endif
+  double best = 0;
+  TurboRun all, none;
+  for (int again = 0; again < 3 && best < kLeastShare; ++again) {
+    none = RunTurbo(rolls, false);
+    all = RunTurbo(rolls, true);
+    best = std::max(best, all.rate / none.rate);
+  }
+  EXPECT_GT(best, kLeastShare) << all.rate << " rolls a second of " << none.rate;
+  EXPECT_LT(all.longestSilence, kLongestSilence);
+  EXPECT_LT(all.grown, 2000) << "kilobytes more";
+  printf(
+      "%.0f rolls a second without instruments, %.0f with all of them (%.1f%%); unheard for %.0f ms at most; "
+      "%ld kB more\n",
+      none.rate, all.rate, 100 * all.rate / none.rate, all.longestSilence, all.grown);
 }
 
 }  // namespace

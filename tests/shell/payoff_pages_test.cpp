@@ -295,6 +295,10 @@ TEST(CompsPage, BetsAreFlippedAndTheCompsAreThoseOfTheRules) {
   window.PlayRandomly(120);
   window.screen->Refresh();
   auto& bets = window.Table("lstCompBets");
+  window.screen->resize(900, 600);
+  QTest::qWait(20);
+  EXPECT_LE(bets.columnViewportPosition(3) + bets.columnWidth(3), bets.viewport()->width())
+      << "what is expected";
   bets.setFocus();
   bets.setCurrentIndex(bets.model()->index(kField - 1, 0));
   QTest::keyClick(&bets, Qt::Key_Space);

@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
@@ -278,6 +279,56 @@ TEST(SessionsLogScreen, ALongPassNeitherBlocksNorGoesOnWhenCancelled) {
   table.ExpectRight("after all");
   Click(*table.screen, "chkInclude0");
   table.screen.reset();  // closed in the midst of it
+}
+
+// Deletion, merge and copy of a large log go on beside the window, are given up whole, and lose no session
+// that ends meanwhile.
+TEST(SessionsLogScreen, ALargeLogIsChangedBesideTheWindow) {
+  OpenSessions table(60'000);
+  const std::string path = SessionsLogPath(*table.game, 3);
+  auto& cancel = Find<QPushButton>(*table.screen, "cmdCancel");
+  const auto working = [&] { return !Find<QAction>(*table.screen, "mnuDelete").isEnabled(); };
+  std::int64_t expected = 60'000;
+  const auto change = [&](const char* name, bool giveUp) {
+    QElapsedTimer clock;
+    clock.start();
+    Find<QAction>(*table.screen, name).trigger();
+    EXPECT_LT(clock.elapsed(), 200) << name;
+    EXPECT_TRUE(working() && cancel.isVisible()) << name;
+    OpenSessions::Write(path, {table.records[0]});
+    ++expected;
+    if (giveUp) cancel.click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !working(); }, 60'000)) << name;
+    table.Settle();
+  };
+  table.host.answers.Type("11", "50010");
+  change("mnuDelete", true);
+  if (table.screen->Shown().Total != expected) expected -= 50'000;  // it was done before the click
+  EXPECT_EQ(table.screen->Shown().Total, expected);
+  const std::string other = table.folder.filePath("other.slg").toStdString();
+  OpenSessions::Write(other, table.records);
+  QueuedFileNames().push_back(other);
+  expected += 60'000;
+  change("mnuMerge", false);
+  EXPECT_EQ(table.screen->Shown().Total, expected);
+  table.host.answers.Type("1", "60000");
+  expected -= 60'000;
+  change("mnuDelete", false);
+  EXPECT_EQ(table.screen->Shown().Total, expected);
+  table.ExpectRight("changed");
+  QueuedFileNames().push_back(other);
+  change("mnuMerge", false);
+  expected += 60'000;
+  const std::string copy = table.folder.filePath("copy.slg").toStdString();
+  QueuedFileNames().push_back(copy);
+  change("mnuSaveAs", false);
+  EXPECT_EQ(SessionsLogPath(*table.game, 3), copy);
+  EXPECT_EQ(table.screen->Shown().Total, expected) << "with the one that ended meanwhile";
+  EXPECT_EQ(table.folder.isValid()
+                ? QDir(table.folder.path()).entryList({"*.slg*"}, QDir::Files | QDir::Hidden).size()
+                : 0,
+            3)
+      << "nothing half-written is left";
 }
 
 // TESSARYN_LOG_SESSIONS=10000000 tries it with a log of two and a half gigabytes.

@@ -299,7 +299,7 @@ TEST(SettleBet, TabWalksDownTheChoices) {
        }));
   EXPECT_EQ(names.join(" ").toStdString(),
             "cmdHandle1 cmdHandle2 cmdHandle3 cmdHandle4 cmdHandle5 cmdHandle6 cmdMathOperator4 "
-            "txtModifyAmount4 cmdUnits4 cmdHandle7 txtModifyAmount6 cmdUnits6");
+            "txtModifyAmount4 cmdUnits4 cmdHandle7 txtModifyAmount6 cmdUnits6 chkRestOfRoll chkDontAskAgain");
 }
 
 TEST(SettleBet, TitlesSayWhatHappened) {

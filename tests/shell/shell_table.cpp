@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QImage>
 #include <QPixmap>
 #include <QWidget>
 
@@ -60,9 +61,9 @@ void ShellTable::MakeBusy() {
   game->table.SelectedSeat = 3;
 }
 
-void SavePicture(QWidget& widget, const QString& name) {
-  const QPixmap picture = widget.grab();
-  const QImage image = picture.toImage();
+void SavePicture(QWidget& widget, const QString& name) { SaveImage(widget.grab().toImage(), name); }
+
+void SaveImage(const QImage& image, const QString& name) {
   bool varied = false;
   for (int x = 0; x < image.width() && !varied; x += 3)
     for (int y = 0; y < image.height() && !varied; y += 3) varied = image.pixel(x, y) != image.pixel(0, 0);
@@ -70,7 +71,7 @@ void SavePicture(QWidget& widget, const QString& name) {
   const QString folder = qEnvironmentVariable("TESSARYN_PICTURES");
   if (folder.isEmpty()) return;
   QDir().mkpath(folder);
-  EXPECT_TRUE(picture.save(folder + "/" + name + ".png"));
+  EXPECT_TRUE(image.save(folder + "/" + name + ".png"));
 }
 
 }  // namespace tessaryn

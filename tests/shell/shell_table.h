@@ -6,6 +6,7 @@
 #include "shell/table/table_commands.h"
 #include "support/test_host.h"
 
+class QImage;
 class QWidget;
 
 namespace tessaryn {
@@ -20,5 +21,6 @@ struct ShellTable : test::TestTable {
 // Writes the widget's picture to the folder that TESSARYN_PICTURES names; nothing without it. A picture of
 // one colour fails the test.
 void SavePicture(QWidget& widget, const QString& name);
+void SaveImage(const QImage& image, const QString& name);
 
 }  // namespace tessaryn

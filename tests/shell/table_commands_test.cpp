@@ -21,7 +21,7 @@ using test::Money;
 Currency ToldRoom(const QString& line) {
   const QString before = "may still be bet: ";
   const auto at = line.indexOf(before);
-  return at < 0 ? -kBankrollLimit : ParseMoney(ToCore(line.mid(at + before.size())));
+  return at < 0 ? -kBankrollLimit : ParseMoney(ToCore(line.mid(at + before.size()).section(", ", 0, 0)));
 }
 
 class RandomTable {

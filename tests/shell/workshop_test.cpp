@@ -1,4 +1,6 @@
 // A person's path through the script workshop, with the keys and buttons of the real program.
+#include <Qsci/qsciprinter.h>
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QElapsedTimer>
@@ -7,11 +9,13 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTreeWidget>
+#include <new>
 
 #include "autobet/language/script_words.h"
 #include "play/game_file.h"
@@ -264,6 +268,89 @@ TEST(Workshop, FindAndReplaceLoggedBetsAndLists) {
   Find<QPushButton>(*table.workshop, "cmdAction").click();
   auto& words = Find<QTreeWidget>(*table.workshop, "lstWords");
   EXPECT_GT(words.topLevelItemCount(), 20);
+}
+
+// Letters of several bytes stand before what is marked, mended and counted.
+TEST(Workshop, PlacesAreThoseOfCharacters) {
+  WorkshopTable table;
+  table.Open();
+  const QString line = QString::fromUtf8("csn1 = \"\u00e4\u20ac\U0001F3B2\" : bet 10 on paslin");
+  table.Editor().ChangeLines({line.toStdString()});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 1"); }, 5000));
+  Find<QListWidget>(*table.workshop, "lstProblems").setCurrentRow(0);
+  table.Key(Qt::Key_Period, Qt::ControlModifier);
+  EXPECT_EQ(table.Editor().Lines()[0], QString(line).replace("paslin", "passline").toStdString());
+}
+
+TEST(Workshop, CompletionPrintRecentFilesAndAFault) {
+  WorkshopTable table;
+  table.Open();
+  QTest::keyClicks(&table.Editor(), "bet 10 on passli");
+  ASSERT_TRUE(table.Editor().isListActive());
+  table.Key(Qt::Key_Return);
+  EXPECT_EQ(table.Editor().Lines(), Lines{"bet 10 on passline"});
+  const std::string path = table.folder.filePath("recent & old.bet").toStdString();
+  QueuedFileNames().push_back(path);
+  table.Do("mnuSaveAs");
+  table.Do("mnuNew");
+  QMenu& recent = *Find<QAction>(*table.workshop, "mnuRecent").menu();
+  emit recent.aboutToShow();
+  ASSERT_EQ(recent.actions().size(), 1);
+  EXPECT_EQ(recent.actions()[0]->text(), "recent && old.bet");
+  recent.actions()[0]->trigger();
+  EXPECT_EQ(table.Editor().Lines(), Lines{"bet 10 on passline"});
+  // On paper, its words in colours if the house wants them.
+  for (const bool colours : {false, true}) {
+    table.game->settings.ColorPrint = colours;
+    const QString pages = table.folder.filePath("pages");
+    QsciPrinter printer;
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(pages + ".pdf");
+    ASSERT_TRUE(table.workshop->PrintOn(printer));
+    QProcess program;
+    program.start("pdftoppm", {"-r", "60", "-png", "-singlefile", pages + ".pdf", pages});
+    ASSERT_TRUE(program.waitForFinished(20'000));
+    const QImage page(pages + ".png");
+    bool coloured = false;
+    bool inked = false;
+    for (int y = 0; y < page.height(); ++y)
+      for (int x = 0; x < page.width(); ++x) {
+        const QColor point = page.pixelColor(x, y);
+        coloured = coloured || point.hsvSaturation() > 60;
+        inked = inked || point.lightness() < 200;
+      }
+    EXPECT_TRUE(inked);
+    EXPECT_EQ(coloured, colours);
+  }
+  table.workshop->checkScript = [](Game&, int) -> ScriptCheck { throw std::bad_alloc(); };
+  table.host.answers.Ok();
+  Click(*table.workshop, "cmdCheckScript");
+  EXPECT_TRUE(
+      QString::fromStdString(table.game->box.MsgText).endsWith(", Error #7\r occurred at: cmdCheckScript"))
+      << table.game->box.MsgText;
+}
+
+TEST(Workshop, LinesAreCountedInTrialsAndAtTheTable) {
+  WorkshopTable table;
+  table.Open();
+  table.Editor().ChangeLines({"cs1 = cs1 + 1", "if cs1 > 1 then", "   cs2 = 1", "endif"});
+  table.Do("mnuShowCounts");
+  auto& trial = *table.workshop->findChild<WorkshopTrial*>();
+  Find<QSpinBox>(*table.workshop, "spnTrialRolls").setValue(50);
+  trial.Toggle();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !trial.IsOn(); }, 20'000));
+  ASSERT_GT(trial.Result().lines.size(), 3u);
+  EXPECT_EQ(trial.Result().lines[1].count, trial.Result().lines[3].count + 1) << "one more than it held";
+  EXPECT_TRUE(table.Editor().CountsOf(1).startsWith(QString::number(trial.Result().lines[1].count)));
+  table.workshop->Store();
+  SetScriptActive(*table.game, 1, true);
+  table.game->settings.ShooterBetRule = 0;
+  for (int roll = 0; roll < 3; ++roll) table.Roll(3, 2);
+  table.workshop->Refresh();
+  EXPECT_TRUE(table.Editor().CountsOf(1).startsWith("3 ")) << table.Editor().CountsOf(1).toStdString();
+  EXPECT_TRUE(table.Editor().CountsOf(3).startsWith("2 "));
+  table.Do("mnuShowCounts");
+  EXPECT_EQ(table.Editor().CountsOf(1), "");
 }
 
 TEST(Workshop, AThousandLinesAreCheckedWhileTypingGoesOn) {

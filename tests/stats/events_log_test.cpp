@@ -15,6 +15,7 @@
 #include "rules/session.h"
 #include "rules/shooter.h"
 #include "state/run_stop.h"
+#include "stats/log_index.h"
 #include "support/test_host.h"
 
 namespace tessaryn {
@@ -40,6 +41,34 @@ struct LoggedTable : TestTable {
   }
   std::size_t seen = 0;
 };
+
+TEST(EventsLogLines, WhatIsToldOfPlayersIsInTheLanguageAndTheRestEnglish) {
+  const LogLines told[] = {
+      {"    Ann se unió al juego en stick 4-izquierda con $1000",
+       "    Ann se retiró con $1000 (sin ganar ni perder)"},
+      {"    Ann ist eingestiegen, Stick 4-links, mit $1000",
+       "    Ann ist ausgestiegen mit $1000 (ausgeglichen)"},
+      {"    Ann a rejoint la partie, stick 4-gauche, avec $1000",
+       "    Ann a quitté la table avec $1000 (ni gain ni perte)"},
+      {"    Ann oyuna katıldı, stick 4-sol, kasa $1000", "    Ann oyundan ayrıldı, aldığı $1000 (başa baş)"}};
+  for (int language = 1; language < kMessageLanguages; ++language) {
+    LoggedTable table;
+    table.Set("Language", std::to_string(language));
+    table.Join(1, "Ann");
+    table.Set("RecordBetChanges", "on");
+    table.Bet(1, kPassLine, "10");
+    table.Bet(1, kPassLine, "-10");
+    LeaveTable(*table.game, 1);
+    const LogLines news = table.News();
+    ASSERT_FALSE(news.empty());
+    EXPECT_EQ(news.front(), told[language - 1].front());
+    EXPECT_NE(std::find(news.begin(), news.end(), told[language - 1].back()), news.end()) << news.back();
+    EXPECT_NE(std::find(news.begin(), news.end(), "      Ann bet $10 on Pass Line"), news.end());
+    // Found again by the player's name.
+    for (const std::string& line : told[language - 1])
+      EXPECT_TRUE(PassesLogFilter({.Kinds = kLogAllKinds, .Player = "Ann"}, line)) << line;
+  }
+}
 
 TEST(EventsLogLines, ALittleGameOfThreeReadsAsItWasPlayed) {
   LoggedTable table;

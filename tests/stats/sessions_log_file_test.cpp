@@ -7,6 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <csignal>
 #include <cstdlib>
@@ -78,6 +79,33 @@ TEST(SessionsLogFile, EveryChangeIsThatOfAList) {
         model.push_back(Numbered(++number));
         EXPECT_EQ(AppendSession(file, model.back()), "");
         break;
+      case 5: {  // beside a program that adds to it meanwhile, to its end or not
+        SessionsChange change{Draw(random, 0, size), 0, ""};
+        change.Last = Draw(random, std::max<std::int64_t>(change.First, 1), size + 1);
+        const Records further{Numbered(++number), Numbered(++number)};
+        std::remove(second.c_str());
+        SessionsLogFile other;
+        ASSERT_EQ(OpenedTo(other, second), "");
+        for (const Record& record : further) ASSERT_EQ(AppendSession(other, record), "");
+        if (Draw(random, 0, 1) == 0) change.Other = second;
+        Records added;
+        const bool stopped = Draw(random, 0, 3) == 0;
+        const std::string problem = RewriteSessionsLog(path, change, [&](std::int64_t) {
+          added.push_back(Numbered(++number));
+          EXPECT_EQ(AppendSession(file, added.back()), "");
+          EXPECT_NE(DeleteEverySession(file), "") << "sessions are being taken out";
+          return std::string(stopped ? "enough" : "");
+        });
+        if (problem.empty()) {
+          if (change.First != 0) model.erase(model.begin() + change.First - 1, model.begin() + change.Last);
+          if (!change.Other.empty()) model.insert(model.end(), further.begin(), further.end());
+        }
+        EXPECT_EQ(problem.empty(), (change.First == 0 || change.Last <= size) && (!stopped || added.empty()));
+        model.insert(model.end(), added.begin(), added.end());
+        model.push_back(Numbered(++number));
+        EXPECT_EQ(AppendSession(file, model.back()), "");
+        break;
+      }
       default:
         for (std::int64_t n = Draw(random, 1, 50); n > 0; --n) {
           model.push_back(Numbered(++number));

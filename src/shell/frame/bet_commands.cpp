@@ -1,3 +1,4 @@
+#include "play/repeat_bets.h"
 #include "rules/bet_rules.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
@@ -50,7 +51,33 @@ void FullOdds(Desk& desk) {
   desk.table->Refresh();
 }
 
+void FullOddsOfBothSides(Desk& desk) {
+  if (CanTakeOdds(desk)) FullOdds<false>(desk);
+  if (CanLayOdds(desk)) FullOdds<true>(desk);
+}
+bool CanHaveOdds(const Desk& desk) { return CanTakeOdds(desk) || CanLayOdds(desk); }
+
+bool CanUndoBet(const Desk& desk) { return IsFree(desk) && CanUndoBets(desk.commands.History, desk.game); }
+bool CanRedoBet(const Desk& desk) { return IsFree(desk) && CanRedoBets(desk.commands.History, desk.game); }
+
+bool CanRepeat(const Desk& desk) {
+  return HasPlayer(desk) && !BetsToRepeat(desk.game, desk.game.table.SelectedSeat).Empty();
+}
+
 }  // namespace
+
+// What the next click was meant for may be gone with the step.
+void UndoBet(Desk& desk) {
+  GiveUp(desk.commands);
+  UndoBets(desk.game, desk.commands.History);
+  desk.table->Refresh();
+}
+
+void RedoBet(Desk& desk) {
+  GiveUp(desk.commands);
+  RedoBets(desk.game, desk.commands.History);
+  desk.table->Refresh();
+}
 
 std::span<const CommandRow> BetCommands() {
   constexpr InRun kAsks = InRun::kAsksFirst;
@@ -60,6 +87,12 @@ std::span<const CommandRow> BetCommands() {
        .key = "F9",
        .act = KeyInAmounts,
        .ticked = KeysInAmounts},
+      {},
+      {"mnuUndoBet", QT_TRANSLATE_NOOP("Commands", "&Undo bet"), "Backspace", kAsks, UndoBet, CanUndoBet},
+      {"mnuRedoBet", QT_TRANSLATE_NOOP("Commands", "R&edo bet"), "Shift+Backspace", kAsks, RedoBet,
+       CanRedoBet},
+      {"mnuRepeatBets", QT_TRANSLATE_NOOP("Commands", "Re&peat bets"), "R", kAsks,
+       [](Desk& desk) { RepeatBets(desk.game, desk.game.table.SelectedSeat); }, CanRepeat},
       {},
       {"mnuBuyPlaceBet", QT_TRANSLATE_NOOP("Commands", "&Buy a Place bet"), "F5", kAsks, Arm<kPendingBuy>,
        HasPlayer, Armed<kPendingBuy>},
@@ -72,6 +105,8 @@ std::span<const CommandRow> BetCommands() {
       {"mnuCallAllBetsOff", QT_TRANSLATE_NOOP("Commands", "&Call all bets OFF"), nullptr, kAsks,
        CallAll<false>, HasCallableBet},
       {},
+      {"mnuFullOdds", QT_TRANSLATE_NOOP("Commands", "Full o&dds"), "O", kAsks, FullOddsOfBothSides,
+       CanHaveOdds},
       {"mnuTakeFullOdds", QT_TRANSLATE_NOOP("Commands", "&Take full odds"), nullptr, kAsks, FullOdds<false>,
        CanTakeOdds},
       {"mnuLayFullOdds", QT_TRANSLATE_NOOP("Commands", "&Lay full odds"), nullptr, kAsks, FullOdds<true>,

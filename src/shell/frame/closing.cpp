@@ -32,7 +32,8 @@ bool SaveScriptsFirst(Desk& desk) {
     if (path.empty()) return false;
     std::string error;
     if (!SaveScript(game, seat, path, error)) {
-      ShowMessage<Msg::kFileProblem>(game, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+      ShowMessage<Msg::kFileProblem>(game, With<"title">(FileTitleText(kSaveAutoBet)),
+                                     With<"problem">(error));
       return false;
     }
   }
@@ -50,7 +51,8 @@ bool SaveProbabilitiesFirst(Desk& desk) {
   std::string error;
   if (path.empty()) return false;
   if (SaveProbabilityFile(game.percentage, path, error)) return true;
-  ShowMessage<Msg::kFileProblem>(game, With<"title">(kSaveProbabilities.title), With<"problem">(error));
+  ShowMessage<Msg::kFileProblem>(game, With<"title">(FileTitleText(kSaveProbabilities)),
+                                 With<"problem">(error));
   return false;
 }
 

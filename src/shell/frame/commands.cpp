@@ -17,11 +17,18 @@ std::span<const CommandMenu> CommandMenus() {
   return kMenus;
 }
 
+bool ChangesBets(const CommandRow& command) {
+  const auto bets = BetCommands();
+  const bool takesBack = command.act == UndoBet || command.act == RedoBet;
+  return &command >= bets.data() && &command < bets.data() + bets.size() && !takesBack;
+}
+
 int PlainKeyCode(const char* key) {
   const QString name(key);
   if (name == "Space") return Qt::Key_Space;
   if (name == "Esc") return Qt::Key_Escape;
   if (name == "Del") return Qt::Key_Delete;
+  if (name == "Backspace") return Qt::Key_Backspace;
   return name.size() == 1 ? name[0].unicode() : 0;
 }
 

@@ -53,6 +53,11 @@ std::span<const CommandRow> HelpCommands();
 // A statement of a script was carried out, and somebody wants to see it: in the workshop, which is opened.
 void ShowScriptStep(Desk& desk, const ScriptStep& step);
 
+void UndoBet(Desk& desk);
+void RedoBet(Desk& desk);
+// Whether what the command changes in bets can be taken back.
+bool ChangesBets(const CommandRow& command);
+
 // Keys without a modifier stay free for entry boxes; 0 for a shortcut with one.
 int PlainKeyCode(const char* key);
 

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QImage>
 #include <QMimeData>
@@ -10,17 +11,23 @@
 
 #include "base/record_file.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/patience.h"
 #include "shell/screens/file_chooser.h"
 #include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
 
-const FilePurpose kRows{"Export", "Comma-separated values (*.csv);;All files (*)", ".csv", true, true};
-const FilePurpose kPng{"Export Picture", "PNG pictures (*.png);;All files (*)", ".png", true, true};
-const FilePurpose kSvg{"Export Picture", "SVG drawings (*.svg);;All files (*)", ".svg", true, true};
+const FilePurpose kRows{QT_TRANSLATE_NOOP("Files", "Export"),
+                        QT_TRANSLATE_NOOP("Files", "Comma-separated values (*.csv);;All files (*)"), ".csv",
+                        true, true};
+const FilePurpose kPng{QT_TRANSLATE_NOOP("Files", "Export Picture"),
+                       QT_TRANSLATE_NOOP("Files", "PNG pictures (*.png);;All files (*)"), ".png", true, true};
+const FilePurpose kSvg{QT_TRANSLATE_NOOP("Files", "Export Picture"),
+                       QT_TRANSLATE_NOOP("Files", "SVG drawings (*.svg);;All files (*)"), ".svg", true, true};
 constexpr qreal kSharpness = 2;            // points of a picture for each of the screen's units
 constexpr std::size_t kAtATime = 1 << 16;  // bytes
+constexpr qint64 kRowsAtATime = 4'096;
 
 QString CsvField(QString text) {
   if (!text.contains(',') && !text.contains('"') && !text.contains('\n') && !text.contains('\r')) return text;
@@ -29,10 +36,14 @@ QString CsvField(QString text) {
 
 void Tell(Desk& desk, const FilePurpose& purpose, const std::string& problem) {
   if (problem.empty()) return;
-  ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(purpose.title), With<"problem">(problem));
+  ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(FileTitleText(purpose)), With<"problem">(problem));
 }
 
-std::string WriteRows(const RowSource& rows, const std::string& path) {
+QString Words(const char* text) { return QCoreApplication::translate("Printing", text); }
+
+// Given up it leaves the old file.
+std::string WriteRows(QWidget* over, const RowSource& rows, const std::string& path) {
+  const Patience patience(over, Words(QT_TRANSLATE_NOOP("Printing", "The rows are being written.")));
   FileReplacement file;
   std::string problem = BeginReplacement(file, path);
   std::string text;
@@ -43,6 +54,7 @@ std::string WriteRows(const RowSource& rows, const std::string& path) {
     if (text.size() < kAtATime) continue;
     problem = WriteReplacement(file, text);
     text.clear();
+    if (!patience.GoesOn()) return {};
   }
   if (problem.empty()) problem = WriteReplacement(file, text);
   if (problem.empty()) return CommitReplacement(file);
@@ -99,21 +111,24 @@ std::string FileNameFor(const ToolWindow& window) {
 
 void ExportRows(Desk& desk, ToolWindow& window) {
   const std::string path = ChooseFile(desk.game, window.window(), kRows, FileNameFor(window));
-  if (!path.empty()) Tell(desk, kRows, WriteRows(*window.TakeRows(), path));
+  if (!path.empty()) Tell(desk, kRows, WriteRows(window.window(), *window.TakeRows(), path));
 }
 
 void ExportPng(Desk& desk, ToolWindow& window) { ExportPicture(desk, window, kPng, PngOf); }
 void ExportSvg(Desk& desk, ToolWindow& window) { ExportPicture(desk, window, kSvg, SvgOf); }
 
 void CopyTool(Desk&, ToolWindow& window) {
-  auto* copied = new QMimeData;
   const std::unique_ptr<RowSource> rows = window.TakeRows();
+  const Patience patience(window.window(),
+                          Words(QT_TRANSLATE_NOOP("Printing", "The rows are being copied.")));
   QString text;
   for (qint64 n = 0; n < rows->Count(); ++n) {
     QStringList cells = rows->Row(n);
     for (QString& cell : cells) cell = cell.simplified();
     text += cells.join('\t') + '\n';
+    if (n % kRowsAtATime == kRowsAtATime - 1 && !patience.GoesOn()) return;
   }
+  auto* copied = new QMimeData;
   if (!text.isEmpty()) copied->setText(text);
   if (window.HasPicture()) copied->setImageData(PictureOf(window));
   QGuiApplication::clipboard()->setMimeData(copied);

@@ -1,8 +1,9 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/help_desk.h"
 #include "shell/screens/about.h"
+#include "shell/screens/help_window.h"
 #include "shell/table/screen_tools.h"
-#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
@@ -12,16 +13,22 @@ void OpenAbout(Desk& desk) {
   RunDialog(screen);
 }
 
-void ShowKeys(Desk& desk) { ShowMessage<Msg::kKeys>(desk.game); }
+void ShowContents(Desk& desk) { OpenHelp(desk, {kHelpContents, {}, {}}); }
+void SearchHelp(Desk& desk) { OpenHelp(desk, {kHelpContents, {}, {}}).OpenSearch(); }
+void ShowKeys(Desk& desk) { OpenHelp(desk, {"help/keys.md", {}, {}}); }
 
 }  // namespace
 
 std::span<const CommandRow> HelpCommands() {
   static const CommandRow kCommands[] = {
-      {.name = "mnuKeys",
-       .caption = QT_TRANSLATE_NOOP("Commands", "&Keys and mouse"),
+      {.name = "mnuHelpHere",
+       .caption = QT_TRANSLATE_NOOP("Commands", "&Help for this screen"),
        .key = "F1",
-       .act = ShowKeys},
+       .act = HelpHere},
+      {.name = "mnuHelpContents", .caption = QT_TRANSLATE_NOOP("Commands", "&Contents"), .act = ShowContents},
+      {.name = "mnuHelpSearch", .caption = QT_TRANSLATE_NOOP("Commands", "&Search the help"), .act = SearchHelp},
+      {.name = "mnuKeys", .caption = QT_TRANSLATE_NOOP("Commands", "&Keys and mouse"), .act = ShowKeys},
+      {},
       {.name = "mnuAbout", .caption = QT_TRANSLATE_NOOP("Commands", "&About Tessaryn"), .act = OpenAbout},
   };
   return kCommands;

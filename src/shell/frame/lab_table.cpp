@@ -22,7 +22,9 @@ constexpr const char* kSessionFile = "laboratory.crp";
 QString Words(const char* text) { return QCoreApplication::translate("Laboratory", text); }
 
 void Tell(Desk& desk, const std::string& problem) {
-  ShowMessage<Msg::kFileProblem>(desk.game, With<"title">("Laboratory"), With<"problem">(problem));
+  ShowMessage<Msg::kFileProblem>(desk.game,
+                                 With<"title">(ToCore(Words(QT_TRANSLATE_NOOP("Laboratory", "Laboratory")))),
+                                 With<"problem">(problem));
 }
 
 bool OpenTable(Desk& desk, const Experiment& experiment, const LabSystem& system) {
@@ -54,7 +56,7 @@ QString PlayLabSession(Desk& desk, const Experiment& experiment, std::size_t num
   desk.game.settings.AutoStopInterval = result.rolls;
   desk.showGame();
   if (!begun) return {};
-  return Words("At the table: session %1 of %2, %3 rolls to %4")
+  return Words(QT_TRANSLATE_NOOP("Laboratory", "At the table: session %1 of %2, %3 rolls to %4"))
       .arg(session + 1)
       .arg(FromCore(LabelOf(system)))
       .arg(result.rolls)

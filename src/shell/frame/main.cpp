@@ -10,13 +10,16 @@
 #include <QTimer>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 
 #include "base/program_folders.h"
+#include "play/game_file.h"
 #include "shell/frame/main_window.h"
 #include "shell/frame/signals.h"
 #include "shell/frame/sounds.h"
 #include "shell/frame/start_up.h"
 #include "shell/screens/about.h"
+#include "shell/table/languages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/preferences.h"
 #include "shell/table/screen_tools.h"
@@ -74,6 +77,10 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
   const std::string shared = ClaimDataFolder(game->folderLock, game->ownFolder, "tessaryn");
   Sounds sounds(FromCore(game->applicationFolder));
   host.sounds = &sounds;
+  // Who has never played here is spoken to as by the desktop.
+  std::error_code ignored;
+  if (argument.empty() && !std::filesystem::exists(dataFolder + kDefaultGameFile, ignored))
+    game->settings.Language = LanguageOfDesktop();
   MainWindow window(*game, host);
   const SignalWatch watch(*game, window);
   QTimer::singleShot(kSplashMilliseconds, &window, [&] {
@@ -100,9 +107,14 @@ int main(int count, char** arguments) {
   options.add_option("--data-folder", dataFolder, "where everything is written; made if need be")
       ->type_name("DIR");
   std::string game;
-  options.add_option("game", game, "the game to open; without one the last game goes on")->type_name("FILE");
+  options
+      .add_option("game", game,
+                  "the game to open; or a script, dice rolls, probabilities or a sessions log, for the last game, "
+                  "which goes on without any")
+      ->type_name("FILE");
   QApplication::setApplicationName("tessaryn");
   QApplication::setApplicationDisplayName("Tessaryn");
+  QGuiApplication::setDesktopFileName("tessaryn");  // by which a desktop knows whose window it is
   // Help needs no screen. All else does; the window system's own options are taken out by the application.
   options.allow_extras();
   try {

@@ -28,18 +28,21 @@
 #include "shell/frame/docking.h"
 #include "shell/frame/docks.h"
 #include "shell/frame/game_files.h"
-#include "shell/frame/open_game.h"
+#include "shell/frame/help_desk.h"
+#include "shell/frame/open_file.h"
 #include "shell/frame/places.h"
 #include "shell/frame/screen_manners.h"
 #include "shell/frame/tool_rows.h"
 #include "shell/frame/tool_windows.h"
-#include "shell/screens/settle_bet.h"
+#include "shell/screens/join_screen.h"
 #include "shell/table/amount_selector.h"
 #include "shell/table/bet_buttons.h"
 #include "shell/table/board.h"
+#include "shell/table/languages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_accessible.h"
 #include "shell/table/turbo_panel.h"
 #include "state/show_message.h"
 
@@ -79,6 +82,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   desk_.keeps = CanWriteIn(game_.dataFolder);
   desk_.recentGames = ReadRecentGames(game_.dataFolder);
   setWindowIcon(ProgramIcon());
+  Speak();
   BuildBody();
   BuildMenu();
   betButtons_->Add(Command("mnuUndoBet"), "cmdUndo", QT_TRANSLATE_NOOP("BetButtons", "Undo bet"), "\u232B");
@@ -92,7 +96,9 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   TakeMeasures();
   RefreshCommands();
   StartAutosaves();
+  WatchLuck(game_);
   new PointerSnap(game_, this);
+  new HelpKey(desk_);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
     if (!KeepForSessionEnd(mayAsk)) manager.cancel();
@@ -114,6 +120,7 @@ MainWindow::~MainWindow() {
   host_.changed = nullptr;
   host_.showNote = nullptr;
   host_.beforeBox = nullptr;
+  host_.diceThrown = nullptr;
   host_.showThrow = nullptr;
   host_.showWin = nullptr;
   host_.showProgress = nullptr;
@@ -290,6 +297,13 @@ void MainWindow::Retranslate() {
   RefreshCommands();
 }
 
+void MainWindow::Speak() {
+  QStringList names;
+  for (const SeatState& seat : game_.table.seats)
+    if (!seat.SeatName.empty()) names += FromCore(seat.SeatName);
+  SpeakLanguage(game_.settings.Language, names);
+}
+
 void MainWindow::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) Retranslate();
   QMainWindow::changeEvent(event);
@@ -307,7 +321,10 @@ void MainWindow::RunCommand(const CommandRow& command) {
   if (!table_->CommitEntry()) return;
   if (command.run == InRun::kAsksFirst && !AskBeforeCommand(game_)) return RefreshCommands();
   ++working_;
-  command.act(desk_);
+  if (ChangesBets(command))
+    AsBetStep(desk_.commands.History, game_, [&] { command.act(desk_); });
+  else
+    command.act(desk_);
   --working_;
   RefreshCommands();
 }
@@ -402,8 +419,9 @@ void MainWindow::ConnectHost() {
     stage_->Refresh(true);
     RefreshTools(desk_);
   };
+  host_.diceThrown = [this](const Game& game) { settling_.DiceThrown(game); };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
-    return AskSettleBet(this, game, question);
+    return settling_.Ask(game, question);
   };
 }
 
@@ -411,6 +429,8 @@ void MainWindow::OnChanged(Change change) {
   changed_ = true;
   agreed_ = false;
   if (!game_.table.RollInProgress) settledThrows_ = Throws(game_.stats);
+  if (change == Change::kSettings) Speak();
+  if (change == Change::kEverything) settling_.RollEnded(game_);
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
@@ -425,6 +445,7 @@ void MainWindow::OnChanged(Change change) {
     settledThrows_ = Throws(game_.stats);
     ShowBoard(true);
   }
+  if (change == Change::kEverything) AnnounceRoll(*table_, game_);
   table_->Refresh();
   RefreshSoon();
 }
@@ -484,7 +505,7 @@ bool MainWindow::MayBet() {
 
 void MainWindow::OnBetMoved(int from, int to) {
   if (!MayBet()) return;
-  MoveBet(game_, from, to);
+  AsBetStep(desk_.commands.History, game_, [&] { MoveBet(game_, from, to); });
   RefreshCommands();
 }
 
@@ -512,7 +533,7 @@ void MainWindow::OnSeatClicked(int seat) {
       if (!MovePlayer(game_, std::exchange(desk_.movingSeat, 0), seat, error))
         ShowMessage<Msg::kPlayerNotMoved>(game_, With<"problem">(error));
       table_->scene.movingPlayer = false;
-    } else if (AddPlayer(game_, seat)) {
+    } else if (AskJoin(game_, seat, this)) {
       SelectSeat(game_, seat);
     }
   }
@@ -529,7 +550,7 @@ void MainWindow::ShowPointer(int bet) {
 // --- Keys that have no modifier, and the hot-keys.
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-  if (HotKeyPressed(event)) return;
+  if (HotKeyPressed(event) || AmountKeyPressed(event)) return;
   if (event->modifiers() == Qt::NoModifier || event->modifiers() == Qt::KeypadModifier) {
     if (event->key() == Qt::Key_Escape && (GiveUp(desk_.commands) || desk_.movingSeat != 0)) {
       desk_.movingSeat = 0;
@@ -559,6 +580,25 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
   QMainWindow::keyPressEvent(event);
 }
 
+// Alt and a digit is the check of that place, plus and minus the next larger and smaller one.
+bool MainWindow::AmountKeyPressed(QKeyEvent* event) {
+  const Currency* checks = game_.settings.CheckValue;
+  const int key = event->key();
+  const Qt::KeyboardModifiers keys = event->modifiers() & ~Qt::KeypadModifier;
+  if (keys == Qt::AltModifier && key >= Qt::Key_1 && key <= Qt::Key_5) {
+    amounts_->SetAmount(checks[key - Qt::Key_1 + 1]);
+    return true;
+  }
+  if ((keys & ~Qt::ShiftModifier) != 0 || (key != Qt::Key_Plus && key != Qt::Key_Minus)) return false;
+  const Currency now = amounts_->Amount();
+  Currency next = now;
+  for (int n = 1; n <= 5; ++n) {
+    if (key == Qt::Key_Plus ? next == now && checks[n] > now : checks[n] < now) next = checks[n];
+  }
+  amounts_->SetAmount(next);
+  return true;
+}
+
 bool MainWindow::HotKeyPressed(QKeyEvent* event) {
   if (event->modifiers() != Qt::ControlModifier || !IsFree(desk_)) return false;
   const int key = event->key();
@@ -586,7 +626,7 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   std::string error;
   if (!ReadHotKeys(game_.dataFolder + kHotKeysFile, game_.screen.HotKeys, error))
     ShowMessage<Msg::kHotKeysFailed>(game_, With<"problem">(error));
-  if (!OfferAutosave(game_)) OpenFirstGame(game_, argument);
+  if (!OfferAutosave(game_)) OpenFirstGame(game_, OpensBesideGame(argument) ? "" : argument);
   if (!game_.file.Path.empty()) NoteRecentGame(desk_, game_.file.Path);
   host_.window = this;
   starting_ = false;
@@ -600,6 +640,10 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   if (game_.table.ShooterSeat != 0 && game_.table.Point == 0) host_.PlaySound(game_, Sound::kComeOut);
 }
 
+void MainWindow::OpenBesideGame(const std::string& argument) {
+  if (OpensBesideGame(argument)) OpenAnyFile(desk_, argument);
+}
+
 void MainWindow::ShowGame() {
   screenPending_ = !isVisible();
   if (!screenPending_) {
@@ -608,6 +652,7 @@ void MainWindow::ShowGame() {
   }
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
+  Speak();
   host_.rolled.Forget();
   host_.rolled.Note(game_);
   settledThrows_ = badgesOf_ = Throws(game_.stats);
@@ -700,7 +745,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   const std::string path = DroppedFile(*event->mimeData()).toStdString();
   event->acceptProposedAction();
   QTimer::singleShot(0, this, [this, path] {
-    if (IsFree(desk_) && table_->CommitEntry() && AskBeforeCommand(game_)) OpenGameFile(desk_, path);
+    if (IsFree(desk_) && table_->CommitEntry() && AskBeforeCommand(game_)) OpenAnyFile(desk_, path);
   });
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "shell/frame/desk.h"
+#include "shell/frame/settle_roll.h"
 #include "shell/table/preferences.h"
 #include "shell/table/table_stage.h"
 #include "shell/table/table_widget.h"
@@ -44,6 +45,8 @@ class MainWindow : public QMainWindow {
   void OpenAtStart(const std::string& argument);
   // Until that has returned nothing is lost when the program is ended at once.
   bool IsStarting() const { return starting_; }
+  // What the program was started with if that is no game but another of its files. Once the window is shown.
+  void OpenBesideGame(const std::string& argument);
   // A roll or a command hasn't ended yet.
   bool IsUnderWay() const;
   // As closing it, but without questions: what can't be written is told on standard error.
@@ -80,6 +83,8 @@ class MainWindow : public QMainWindow {
   void ConnectTable();
   void ConnectHost();
   void Retranslate();
+  // The language that the game is set to.
+  void Speak();
   void RunCommand(const CommandRow& command);
   // Enables and captions everything as the state has it; at once, or with the next events.
   void RefreshCommands();
@@ -96,6 +101,7 @@ class MainWindow : public QMainWindow {
   void ShowPointer(int bet);
   void ShowTableStatus();
   bool HotKeyPressed(QKeyEvent* event);
+  bool AmountKeyPressed(QKeyEvent* event);
   void ShowCaption();
   // Everything as the game has it that was just opened.
   void ShowGame();
@@ -121,6 +127,7 @@ class MainWindow : public QMainWindow {
   QLabel* status_ = nullptr;   // rolls, point, shooter
   std::map<std::string, QAction*> actions_;
   std::vector<QMenu*> menus_;
+  SettleRoll settling_{desk_};
   bool refreshPending_ = false;
   int working_ = 0;              // commands that haven't returned
   bool screenPending_ = false;   // the view and the tool windows wait until the window is shown

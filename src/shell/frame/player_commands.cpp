@@ -1,6 +1,7 @@
 #include "play/players.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
+#include "shell/frame/settle_roll.h"
 #include "shell/screens/atm.h"
 #include "shell/screens/auto_play.h"
 #include "shell/table/screen_tools.h"
@@ -48,6 +49,10 @@ std::span<const CommandRow> PlayerCommands() {
       {},
       {"mnuAtm", QT_TRANSLATE_NOOP("Commands", "A&TM ..."), nullptr, kAsks, OpenAtm, CanAtm},
       {"mnuAutoPlay", QT_TRANSLATE_NOOP("Commands", "Auto-&Play ..."), "F3", kAsks, OpenAutoPlay, HasPlayer},
+      {.name = "mnuSettleOnSheet",
+       .caption = QT_TRANSLATE_NOOP("Commands", "&Settle each roll on one sheet"),
+       .act = [](Desk& desk) { SetSettlesInBoxes(desk, !SettlesInBoxes(desk)); },
+       .ticked = [](const Desk& desk) { return !SettlesInBoxes(desk); }},
   };
   return kCommands;
 }

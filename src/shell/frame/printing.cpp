@@ -10,7 +10,6 @@
 #include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QProgressDialog>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <algorithm>
@@ -20,6 +19,7 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/exporting.h"
 #include "shell/frame/page_painter.h"
+#include "shell/frame/patience.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -27,40 +27,30 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kPdf{"Save as PDF", "PDF files (*.pdf);;All files (*)", ".pdf", true, true};
+const FilePurpose kPdf{QT_TRANSLATE_NOOP("Files", "Save as PDF"),
+                       QT_TRANSLATE_NOOP("Files", "PDF files (*.pdf);;All files (*)"), ".pdf", true, true};
 constexpr QMarginsF kMargins(15, 15, 15, 15);  // millimetres
 constexpr int kPreviewed = 200;                // pages at most, since all are held
 constexpr int kPagesAtATime = 50;              // between two looks at what has to be drawn
 
 QString Words(const char* text) { return QCoreApplication::translate("Printing", text); }
 
-// Long work shows that it is at work, and can be given up; short work shows nothing.
-class Patience {
- public:
-  Patience(QWidget* over, PrintJob& job)
-      : job_(job), dialog_(Words("The pages are being made."), Words("Cancel"), 0, 0, over) {
-    dialog_.setObjectName("frmPages");
-    dialog_.setWindowModality(Qt::WindowModal);
-    dialog_.setMinimumDuration(700);
-    job.goesOn = [this] {
-      QCoreApplication::processEvents();
-      return !GivenUp();
-    };
+// While pages are made.
+struct PagesPatience : Patience {
+  PagesPatience(QWidget* over, PrintJob& made)
+      : Patience(over, Words(QT_TRANSLATE_NOOP("Printing", "The pages are being made."))), job(made) {
+    job.goesOn = [this] { return GoesOn(); };
   }
-  ~Patience() { job_.goesOn = nullptr; }
-  Patience(const Patience&) = delete;
-  Patience& operator=(const Patience&) = delete;
-  bool GivenUp() const { return dialog_.wasCanceled(); }
-
- private:
-  PrintJob& job_;
-  QProgressDialog dialog_;
+  ~PagesPatience() { job.goesOn = nullptr; }
+  PagesPatience(const PagesPatience&) = delete;
+  PagesPatience& operator=(const PagesPatience&) = delete;
+  PrintJob& job;
 };
 
 enum class Outcome { kDone, kFailed, kGivenUp };
 
 Outcome Make(QWidget* over, PrintJob& job, QPrinter& printer) {
-  const Patience patience(over, job);
+  const PagesPatience patience(over, job);
   return PaintPages(job, printer) ? Outcome::kDone
          : patience.GivenUp()     ? Outcome::kGivenUp
                                   : Outcome::kFailed;
@@ -85,13 +75,14 @@ bool IsAgreed(Desk& desk, const ToolWindow& window, PrintJob& job, const QPrinte
   if (window.PrintFacts(1).isEmpty()) return true;
   int pages = 0;
   {
-    const Patience patience(desk.window, job);
+    const PagesPatience patience(desk.window, job);
     const PagePainter painter(job, printer);
     if (painter.GivenUp()) return false;
     pages = painter.Pages();
   }
   const QStringList facts = window.PrintFacts(pages);
-  const QString title = window.PrintTitle().isEmpty() ? Words("Print") : window.PrintTitle();
+  const QString title =
+      window.PrintTitle().isEmpty() ? Words(QT_TRANSLATE_NOOP("Printing", "Print")) : window.PrintTitle();
   return Confirms<Msg::kAskPrint>(desk.game, With<"title">(title.toStdString()),
                                   With<"facts">(ToCore(facts.join('\n') + "\n\n")));
 }
@@ -134,7 +125,7 @@ std::string WritePdf(QWidget* over, PrintJob& job, QPrinter& printer, const std:
 
 void SavePdf(Desk& desk, PrintJob& job, QPrinter& printer, const std::string& path) {
   if (const std::string problem = WritePdf(desk.window, job, printer, path); !problem.empty())
-    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(kPdf.title), With<"problem">(problem));
+    ShowMessage<Msg::kFileProblem>(desk.game, With<"title">(FileTitleText(kPdf)), With<"problem">(problem));
 }
 
 std::unique_ptr<QPrinter> DefaultPrinter(const Desk& desk) {

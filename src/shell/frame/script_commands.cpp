@@ -33,7 +33,7 @@ void OpenScriptFile(Desk& desk) {
   const int seat = game.table.SelectedSeat;
   std::string error;
   if (!OpenScript(game, seat, path, error)) {
-    ShowMessage<Msg::kFileProblem>(game, With<"title">(kOpenAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
     return;
   }
   desk.table->update();

@@ -118,6 +118,7 @@ double ShellHost::DateTimeNumber() {
 void ShellHost::PlaySound(Game& game, Sound sound) {
   if (game.table.TurboRollActive) return;
   if (sounds != nullptr) sounds->Play(sound, game);
+  if (sound == Sound::kDice && diceThrown) diceThrown(game);
   if (sound == Sound::kDice && showThrow) showThrow(game);
   if (sound == Sound::kWin && showWin) showWin(game);
 }

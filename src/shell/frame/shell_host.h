@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <functional>
 
+#include "play/session_luck.h"
 #include "shell/screens/message_screen.h"
 #include "shell/table/roll_story.h"
 #include "state/host.h"
@@ -18,7 +19,7 @@ class Sounds;
 // in boxes.
 bool IsNote(Msg id);
 
-class ShellHost : public Host {
+class ShellHost : public Host, public LuckKeeper {
  public:
   ShellHost();
   ~ShellHost() override;
@@ -43,6 +44,8 @@ class ShellHost : public Host {
   // The settlement dialog. Empty: the safe choice.
   std::function<SettleAnswer(Game&, const SettleQuestion&)> askSettlement;
   std::function<void(Game&, Change)> changed;
+  // The dice have been thrown, and nothing is counted yet. Not called in a Turbo-Roll.
+  std::function<void(const Game&)> diceThrown;
   // The dice have been thrown: shows their tumble. Not called in a Turbo-Roll.
   std::function<void(Game&)> showThrow;
   // The house's bank is broken: shows it. Not called in a Turbo-Roll.

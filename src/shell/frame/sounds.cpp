@@ -1,6 +1,7 @@
 #include "shell/frame/sounds.h"
 
 #include <QAudioDevice>
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -137,7 +138,9 @@ QString Sounds::Missing() const {
   if (!Holds(dice_, "soft.dce")) missing += "soft.dce";
   if (!Holds(win_, "Chips.win")) missing += "Chips.win";
   if (check_.isEmpty()) missing += "*.chp";
-  return missing.isEmpty() ? QString() : "Missing sound files: " + missing.join(", ");
+  return missing.isEmpty()
+             ? QString()
+             : QCoreApplication::translate("Sounds", "Missing sound files: %1").arg(missing.join(", "));
 }
 
 QString Sounds::StickFile(int index) const {

@@ -17,10 +17,10 @@ constexpr const char* kTableFontFile = "tessaryn.ttf";
 
 QString RegisterTableFont(const std::string& applicationFolder) {
   const QString file = FromCore(applicationFolder) + kTableFontFile;
-  if (!QFile::exists(file)) return kDefaultTableFont;
+  if (!QFile::exists(file)) return BuiltInTableFont();
   const int id = QFontDatabase::addApplicationFont(file);
   const QStringList families = id < 0 ? QStringList() : QFontDatabase::applicationFontFamilies(id);
-  return families.isEmpty() ? QString(kDefaultTableFont) : families.first();
+  return families.isEmpty() ? BuiltInTableFont() : families.first();
 }
 
 std::unique_ptr<Game> StartTable(ShellHost& host, const std::string& applicationFolder,

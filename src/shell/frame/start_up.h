@@ -13,7 +13,7 @@ namespace tessaryn {
 struct Game;
 
 // The family of the table's lettering: of the font file in the application folder when there is one that can
-// be read, otherwise "Arial". Requires an application.
+// be read, otherwise the program's own. Requires an application.
 QString RegisterTableFont(const std::string& applicationFolder);
 
 // A first game on defaults; the generators seeded. host outlives it.

@@ -1,6 +1,7 @@
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/tool_windows.h"
+#include "shell/screens/luck_window.h"
 
 namespace tessaryn {
 namespace {
@@ -28,6 +29,7 @@ std::span<const CommandRow> StatisticsCommands() {
       ToggleRow<kCheckStacksWindow>("mnuCheckStacks", QT_TRANSLATE_NOOP("Commands", "&CheckStacks")),
       ToggleRow<kSessionsWindow>("mnuSessions", QT_TRANSLATE_NOOP("Commands", "Sessions &Log")),
       ToggleRow<kEventsLogWindow>("mnuEventsLog", QT_TRANSLATE_NOOP("Commands", "&Events Log")),
+      ToggleRow<kLuckWindow>("mnuLuck", QT_TRANSLATE_NOOP("Commands", "L&uck")),
       {},
       ToggleRow<kLaboratoryWindow>("mnuLaboratory", QT_TRANSLATE_NOOP("Commands", "L&aboratory")),
   };

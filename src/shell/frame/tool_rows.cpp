@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "shell/frame/desk.h"
+#include "shell/frame/help_desk.h"
 #include "shell/frame/lab_table.h"
 #include "shell/frame/printing.h"
 #include "shell/frame/sounds.h"
@@ -13,6 +14,7 @@
 #include "shell/screens/events_log_screen.h"
 #include "shell/screens/hot_keys_screen.h"
 #include "shell/screens/laboratory_screen.h"
+#include "shell/screens/luck_window.h"
 #include "shell/screens/move_panel.h"
 #include "shell/screens/probability_page.h"
 #include "shell/screens/report_window.h"
@@ -114,6 +116,8 @@ ToolWindow* MakeWorkshop(Desk& desk) {
 
 ToolWindow* MakeHotKeys(Desk& desk) { return new HotKeysScreen(desk.game, desk.keeps, desk.window); }
 
+ToolWindow* MakeLuck(Desk& desk) { return new LuckWindow(desk.game, desk.window); }
+
 constexpr ToolRow kTools[] = {
     {kRollPadWindow, MakeRollPad, true},
     {kMoveWindow, MakeMovePanel, true},
@@ -131,8 +135,10 @@ constexpr ToolRow kTools[] = {
     {kEventsLogWindow, MakeLog<EventsLogScreen>},
     {kConfigurationWindow, MakeConfiguration},
     {kLaboratoryWindow, MakeLaboratory},
+    {kLuckWindow, MakeLuck},
     {kAutoBetWindow, MakeWorkshop},
     {kHotKeysWindow, MakeHotKeys},
+    {kHelpWindow, MakeHelpWindow},
 };
 
 }  // namespace

@@ -3,11 +3,14 @@
 #include <algorithm>
 #include <string_view>
 
+#include "play/setting_table.h"
 #include "shell/frame/arrange.h"
 #include "shell/frame/commands.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/tool_windows.h"
+#include "shell/table/languages.h"
 #include "shell/table/table_widget.h"
+#include "state/game.h"
 
 namespace tessaryn {
 
@@ -112,6 +115,26 @@ void ShowView(Desk& desk, const char* command) {
   desk.refresh();
 }
 
+namespace {
+
+void ListLanguages(Desk& desk, QMenu& menu) {
+  int number = 0;
+  for (const SpokenLanguage& language : SpokenLanguages()) {
+    QAction* action = menu.addAction(QString::fromUtf8(language.name));
+    action->setObjectName(QStringLiteral("mnuLanguage%1").arg(number));
+    action->setCheckable(true);
+    action->setChecked(number == desk.game.settings.Language);
+    QObject::connect(action, &QAction::triggered, desk.window, [&desk, number] {
+      std::string error;  // there are no others
+      SetSetting(desk.game, "Language", 0, std::to_string(number), error);
+      desk.refresh();
+    });
+    ++number;
+  }
+}
+
+}  // namespace
+
 std::span<const CommandRow> ViewCommands() {
   static const CommandRow kCommands[] = {
       {.name = "mnuDisplayBetAmounts",
@@ -166,6 +189,7 @@ std::span<const CommandRow> ViewCommands() {
        .fill = ListViewsToSave},
       {},
       {.name = "mnuArrange", .caption = QT_TRANSLATE_NOOP("Commands", "Arra&nge"), .fill = ListArrangements},
+      {.name = "mnuLanguage", .caption = QT_TRANSLATE_NOOP("Commands", "Lang&uage"), .fill = ListLanguages},
   };
   return kCommands;
 }

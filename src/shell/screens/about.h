@@ -9,7 +9,7 @@ struct Game;
 
 class AboutScreen : public QDialog {
  public:
-  AboutScreen(const Game& game, QWidget* parent);
+  AboutScreen(Game& game, QWidget* parent);
 };
 
 // Stands on the screen until the table comes up.

@@ -247,7 +247,8 @@ QString AdvantagePage::UpText(int seat) {
   QString text =
       tr("At %1 rolls an hour the bets that %2 has up are expected to bring %3 an hour")
           .arg(MoneyText(game_.settings.SimRollRate.Number()), name, DollarFigure(together_.evPerHour));
-  if (together_.unknownBet == 0) text += tr(", give or take %1").arg(DollarFigure(together_.stdevPerHour));
+  if (together_.unknownBet == 0)
+    text = tr("%1, give or take %2").arg(text, DollarFigure(together_.stdevPerHour));
   text += QLatin1Char('.');
   if (together_.waitsForPoint)
     text += tr(" Odds are counted while a point is on, and Come and Don't Come bets are made while one is.");

@@ -15,6 +15,7 @@
 #include "base/bet_catalogue.h"
 #include "play/setting_table.h"
 #include "rules/handling.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/screen_parts.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -137,7 +138,7 @@ QGroupBox* AutoPlayScreen::HandlingGroup(bool win) {
   (win ? win_ : lose_) = group;
   const char* const* captions = win ? kWinChoiceCaptions : kLoseChoiceCaptions;
   for (int choice = 0; choice <= kWinFixed; ++choice) {
-    auto* radio = new QRadioButton(tr(captions[choice]), box);
+    auto* radio = new QRadioButton(CoreWords(captions[choice]), box);
     radio->setObjectName(box->objectName() + QString::number(choice));
     group->addButton(radio, choice);
     const bool adjusted = choice >= kWinAdjusted;
@@ -202,7 +203,7 @@ QGroupBox* AutoPlayScreen::WorkingGroup() {
   working_->setAccessibleName(box->title());
   working_->setUniformItemSizes(true);
   for (int bet = 1; bet <= kBets; ++bet) {
-    auto* item = new QListWidgetItem(tr(BetName(bet).c_str()), working_);
+    auto* item = new QListWidgetItem(FromCore(BetName(bet)), working_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     item->setData(Qt::UserRole, bet);
     item->setCheckState(Qt::Unchecked);

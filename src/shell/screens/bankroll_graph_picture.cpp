@@ -112,7 +112,7 @@ void PaintMoneyLabels(QPainter& painter, const GraphFrame& frame, const GraphPag
 // Every hundredth roll of the session, as far as there is room for its number.
 void PaintRollLabels(QPainter& painter, const GraphFrame& frame, const GraphPage& page) {
   const QFontMetricsF metrics = MetricsOf(painter);
-  const QString rollsText = Translated("rolls");
+  const QString rollsText = Translated(QT_TRANSLATE_NOOP("BankrollGraph", "rolls"));
   double free = frame.plot.left() - 30 * frame.unit;
   for (int cell = 0; cell <= kPlotCells; ++cell) {
     const auto place = static_cast<std::size_t>(cell - 1);
@@ -272,8 +272,10 @@ void PaintLegend(QPainter& painter, const GraphFrame& frame, const GraphPage& pa
 }
 
 QString RollsOf(const GraphPage& page) {
-  if (page.rolls.empty()) return Translated("No rolls");
-  return Translated("Rolls %1 to %2").arg(page.rolls.front()).arg(page.rolls.back());
+  if (page.rolls.empty()) return Translated(QT_TRANSLATE_NOOP("BankrollGraph", "No rolls"));
+  return Translated(QT_TRANSLATE_NOOP("BankrollGraph", "Rolls %1 to %2"))
+      .arg(page.rolls.front())
+      .arg(page.rolls.back());
 }
 
 }  // namespace
@@ -281,8 +283,8 @@ QString RollsOf(const GraphPage& page) {
 QString GraphMoney(Currency value) { return FromCore(NumberText(value, kFigure)); }
 
 QString GraphFigures(const GraphPage& page) {
-  return Translated("High:  ") + GraphMoney(page.high) + Translated("  Current:  ") +
-         GraphMoney(page.current) + Translated("  Low:  ") + GraphMoney(page.low);
+  return Translated(QT_TRANSLATE_NOOP("BankrollGraph", "High:  %1  Current:  %2  Low:  %3"))
+      .arg(GraphMoney(page.high), GraphMoney(page.current), GraphMoney(page.low));
 }
 
 GraphColours GraphColoursOf(const GraphShown& shown, bool dark) {
@@ -308,7 +310,10 @@ GraphPage TakeGraphPage(const Game& game, WhichPage which) {
     if (seat != graph.PlotSeat && (shown.TogetherSeats >> seat & 1) != 0 && IsOccupied(game.table, seat))
       page.curves.push_back(TakeCurve(game, seat, which, count));
   if (graph.DisplayAverage) page.averages = TakeAverages(game, which, count);
-  page.averageCaption = FromCore(MovingAverageCaption(graph));
+  page.averageCaption =
+      graph.MovingAverageRolls > 0
+          ? Translated(QT_TRANSLATE_NOOP("BankrollGraph", "%1 roll avg")).arg(graph.MovingAverageRolls)
+          : Translated(QT_TRANSLATE_NOOP("BankrollGraph", "All rolls avg"));
   page.high = page.low = page.current = game.table.BankrollCurrent[graph.PlotSeat];
   FindExtremes(page);
   page.start = game.stats.BankrollSessionStart[graph.PlotSeat];

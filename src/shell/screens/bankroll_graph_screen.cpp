@@ -617,8 +617,17 @@ void BankrollGraphScreen::hideEvent(QHideEvent* event) {
   ToolWindow::hideEvent(event);
   if (!event->spontaneous() && autoPrint_)
     QTimer::singleShot(0, this, [this] {
-      if (isHidden()) EndAutoPrint();
+      if (IsPutAway()) EndAutoPrint();
     });
+}
+
+// Closed, by itself or with the dock it stands in; behind another tab it isn't.
+bool BankrollGraphScreen::IsPutAway() const {
+  for (const QWidget* part = this; part != nullptr; part = part->parentWidget()) {
+    if (part->isHidden()) return true;
+    if (part->isWindow()) break;
+  }
+  return false;
 }
 
 }  // namespace tessaryn

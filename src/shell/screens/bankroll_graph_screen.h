@@ -95,6 +95,7 @@ class BankrollGraphScreen : public ToolWindow {
   bool MayAct();
   void SetAutoPrint(bool on);
   void EndAutoPrint();
+  bool IsPutAway() const;
   void PrintSheet();
 
   Game& game_;

@@ -1,5 +1,6 @@
 #include "shell/screens/check_stacks_list.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
@@ -31,9 +32,12 @@ class StackDelegate : public QStyledItemDelegate {
     }
     box->setObjectName("txtCheckStack");
     box->setFrame(false);
-    box->setAccessibleName(index.column() == kStackValue
-                               ? CheckStackView::tr("Value of CheckStack %1").arg(index.row())
-                               : CheckStackView::tr("Name of CheckStack %1").arg(index.row()));
+    box->setAccessibleName(
+        index.column() == kStackValue
+            ? QCoreApplication::translate("tessaryn::CheckStackView", "Value of CheckStack %1")
+                  .arg(index.row())
+            : QCoreApplication::translate("tessaryn::CheckStackView", "Name of CheckStack %1")
+                  .arg(index.row()));
     return box;
   }
 };

@@ -21,6 +21,7 @@
 
 #include "play/auto_roll.h"
 #include "shell/screens/check_stacks_list.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/print_heading.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -144,7 +145,7 @@ void CheckStacksScreen::AddSetStacks(QBoxLayout& column) {
   auto* grid = new QGridLayout(setStacks_);
   grid->setContentsMargins(8, 8, 8, 8);
   for (int n = 0; n < kVisibleStacks; ++n) {
-    auto* label = new QLabel(tr(kVisibleStackLabels[n]), setStacks_);
+    auto* label = new QLabel(CoreWords(kVisibleStackLabels[n]), setStacks_);
     numbers_[n] = new QSpinBox(setStacks_);
     numbers_[n]->setObjectName(QString("txtStackNum%1").arg(n));
     numbers_[n]->setRange(0, kCheckStacks - 1);

@@ -13,6 +13,7 @@
 #include "play/reports.h"
 #include "rules/advantage.h"
 #include "rules/comps.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/screen_parts.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -46,7 +47,7 @@ void CompsPage::AddResults() {
   scopes_ = new QComboBox(group);
   scopes_->setObjectName("cmbCompScope");
   scopes_->setAccessibleName(tr("Scope"));
-  for (int scope = 0; scope < kScopes; ++scope) scopes_->addItem(tr(ScopeName(scope)));
+  for (int scope = 0; scope < kScopes; ++scope) scopes_->addItem(CoreWords(ScopeName(scope)));
   scopes_->setCurrentIndex(kCurrentSession);
   form->addRow(tr("Scope"), scopes_);
   for (int n = 0; n < kResults; ++n) {

@@ -94,37 +94,41 @@ QWidget* ConfigurationScreen::EditorOf(const Parts& parts) {
 
 // In the order of their list.
 std::span<const ConfigurationScreen::TabRow> ConfigurationScreen::Tabs() {
-#define CAPTION(text) QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", text)
   static const TabRow kTabs[] = {
-      {"picHouse", CAPTION("House"), EditorOf<HousePage>, RefreshPage<HousePage>},
-      {"picBets", CAPTION("Bets"),
+      {"picHouse", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "House"), EditorOf<HousePage>,
+       RefreshPage<HousePage>},
+      {"picBets", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Bets"),
        [](const Parts& parts) -> QWidget* { return MakeBetsPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
-      {"picPayoffs", CAPTION("Payoffs"), EditorOf<PayoffPage>, RefreshPage<PayoffPage>},
-      {"picAdvantage", CAPTION("Advantage"), EditorOf<AdvantagePage>, RefreshPage<AdvantagePage>},
-      {"picComps", CAPTION("Comps"), EditorOf<CompsPage>, RefreshPage<CompsPage>},
-      {"picLayout", CAPTION("Layout"),
+      {"picPayoffs", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Payoffs"), EditorOf<PayoffPage>,
+       RefreshPage<PayoffPage>},
+      {"picAdvantage", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Advantage"),
+       EditorOf<AdvantagePage>, RefreshPage<AdvantagePage>},
+      {"picComps", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Comps"), EditorOf<CompsPage>,
+       RefreshPage<CompsPage>},
+      {"picLayout", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Layout"),
        [](const Parts& parts) -> QWidget* { return MakeLayoutPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
-      {"picBankroll", CAPTION("Bankroll"),
+      {"picBankroll", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Bankroll"),
        [](const Parts& parts) -> QWidget* {
          return MakeBankrollPage(parts.game, parts.editor, parts.parent);
        },
        RefreshControls},
-      {"picColors", CAPTION("Colors"), PageOf<LooksPage>, RefreshPage<LooksPage>},
-      {"picProbability", CAPTION("Probability"), PageOf<Scrolled<ProbabilityPage>>,
-       RefreshPage<Scrolled<ProbabilityPage>>},
-      {"picRNG", CAPTION("Generator"), PageOf<Scrolled<GeneratorPage>>, RefreshPage<Scrolled<GeneratorPage>>},
-      {"picSound", CAPTION("Sound"),
+      {"picColors", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Colors"), PageOf<LooksPage>,
+       RefreshPage<LooksPage>},
+      {"picProbability", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Probability"),
+       PageOf<Scrolled<ProbabilityPage>>, RefreshPage<Scrolled<ProbabilityPage>>},
+      {"picRNG", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Generator"),
+       PageOf<Scrolled<GeneratorPage>>, RefreshPage<Scrolled<GeneratorPage>>},
+      {"picSound", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Sound"),
        [](const Parts& parts) -> QWidget* {
          return MakeSoundPage(parts.game, parts.editor, parts.shelf, parts.parent);
        },
        RefreshControls},
-      {"picMisc", CAPTION("Misc"),
+      {"picMisc", QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Misc"),
        [](const Parts& parts) -> QWidget* { return MakeMiscPage(parts.game, parts.editor, parts.parent); },
        RefreshControls},
   };
-#undef CAPTION
   return kTabs;
 }
 

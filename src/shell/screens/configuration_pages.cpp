@@ -24,6 +24,7 @@
 #include "play/setting_values.h"
 #include "rules/bankroll.h"
 #include "shell/screens/configuration_rows.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/screen_parts.h"
 #include "shell/table/screen_tools.h"
 #include "state/bet_families.h"
@@ -51,7 +52,7 @@ std::string FlagText(bool on) { return on ? "on" : "off"; }
 
 // What `set` calls it, for the tip and for the search.
 void Explain(QWidget* widget, const SettingRow& row, const char* setting) {
-  const QString tells = QStringLiteral("%1 (%2)").arg(QString::fromUtf8(row.help), QLatin1String(setting));
+  const QString tells = QStringLiteral("%1 (%2)").arg(CoreWords(row.help), QLatin1String(setting));
   widget->setToolTip(tells);
   widget->setProperty("tells", tells);
 }
@@ -205,7 +206,7 @@ void ControlsPage::AddNumber(const ControlRow& row, QGroupBox& group) {
 void ControlsPage::AddChoice(const ControlRow& row, const SettingRow& setting, QGroupBox& group) {
   auto* choices = new QComboBox(&group);
   choices->setObjectName(row.name);
-  for (const char* caption : setting.facts.captions) choices->addItem(Translated(caption));
+  for (const char* caption : setting.facts.captions) choices->addItem(CoreWords(caption));
   SettingControl& control = Register(row, choices, [choices](const std::string& value) {
     choices->setCurrentIndex(std::atoi(value.c_str()));
   });
@@ -223,7 +224,8 @@ void ControlsPage::AddButtons(const ControlRow& row, const SettingRow& setting, 
   column->setSpacing(4);
   auto* buttons = new QButtonGroup(field);
   for (int n = 0; n < static_cast<int>(captions.size()); ++n) {
-    auto* button = new QRadioButton(Translated(captions[n]), field);
+    auto* button =
+        new QRadioButton(row.captions.empty() ? CoreWords(captions[n]) : Translated(captions[n]), field);
     button->setObjectName(QStringLiteral("%1%2").arg(row.name).arg(n));
     Explain(button, setting, row.setting);
     buttons->addButton(button, row.values.empty() ? n : row.values[n]);
@@ -253,7 +255,7 @@ void ControlsPage::AddButtons(const ControlRow& row, const SettingRow& setting, 
 void ControlsPage::AddMask(const ControlRow& row, const SettingRow& setting, QGroupBox& group) {
   QList<QCheckBox*> boxes;
   for (int bit = 0; bit < static_cast<int>(setting.facts.captions.size()); ++bit) {
-    auto* box = new QCheckBox(Translated(setting.facts.captions[bit]), &group);
+    auto* box = new QCheckBox(CoreWords(setting.facts.captions[bit]), &group);
     box->setObjectName(QStringLiteral("%1%2").arg(row.name).arg(bit));
     Explain(box, setting, row.setting);
     FormOf(&group)->addRow(box);
@@ -298,7 +300,9 @@ class WorkingList {
   void Refresh() {
     const BetSet& works = game_.table.seats[0].BetDefaultWorking;
     for (int bet = 1; bet <= kBets; ++bet) {
-      const QString ending = works.Has(bet) ? Translated(" - Yes") : Translated(" - No");
+      const QString ending = works.Has(bet)
+                                 ? Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - Yes"))
+                                 : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - No"));
       const QString text = FromCore(BetName(bet)) + ending;
       if (list_->item(bet - 1)->text() != text) list_->item(bet - 1)->setText(text);
     }
@@ -332,7 +336,8 @@ class WorkingList {
 
 ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picBets", parent);
-  QGroupBox* group = page->Group(Translated("Work on come-out roll"), 1);
+  QGroupBox* group =
+      page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Work on come-out roll")), 1);
   const auto list = std::make_shared<WorkingList>(game, editor, *group);
   list->List()->setMinimumHeight(list->List()->fontMetrics().lineSpacing() * 7);
   auto* row = new QGridLayout;
@@ -343,10 +348,13 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
     std::function<void()> act;
   };
   const Button buttons[] = {
-      {"cmdWorkingYes", Translated("Yes"), [list] { list->Set([](int) { return true; }); }},
-      {"cmdWorkingNo", Translated("No"), [list] { list->Set([](int) { return false; }); }},
-      {"cmdWorkingSelectAll", Translated("Select all"), [list] { list->SelectAll(); }},
-      {"cmdWorkingDefault", Translated("Default"),
+      {"cmdWorkingYes", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Yes")),
+       [list] { list->Set([](int) { return true; }); }},
+      {"cmdWorkingNo", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "No")),
+       [list] { list->Set([](int) { return false; }); }},
+      {"cmdWorkingSelectAll", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Select all")),
+       [list] { list->SelectAll(); }},
+      {"cmdWorkingDefault", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Default")),
        [list] { list->Set([](int bet) { return kHouseWorkingBets.Has(bet); }); }}};
   for (const Button& facts : buttons) {
     QPushButton* button = NewButton(group, facts.name, facts.caption);
@@ -365,9 +373,10 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
 
 ControlsPage* MakeLayoutPage(Game& game, SettingEditor& editor, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picLayout", parent);
-  QGroupBox* group = page->Group(Translated("Checks"), 1);
-  QPushButton* restore =
-      NewButton(group, "mnuRestoreDefaultDenoms", Translated("Restore default denominations"));
+  QGroupBox* group = page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Checks")), 1);
+  QPushButton* restore = NewButton(
+      group, "mnuRestoreDefaultDenoms",
+      Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Restore default denominations")));
   QObject::connect(restore, &QPushButton::clicked, page, [&game, &editor] {
     if (!Confirms<Msg::kAskRestoreChecks>(game)) return;
     const Settings original;
@@ -410,7 +419,8 @@ void AddAtm(Game& game, SettingEditor& editor, QGroupBox& group) {
   line->setContentsMargins(0, 0, 0, 0);
   line->setSpacing(8);
   MoneyEdit* amount = NewNumber(field, "txtAddSub");
-  amount->setAccessibleName(Translated("Amount to add or subtract"));
+  amount->setAccessibleName(
+      Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Amount to add or subtract")));
   amount->SetValue(game.settings.AtmUnit);
   line->addWidget(amount);
   struct Button {
@@ -419,7 +429,9 @@ void AddAtm(Game& game, SettingEditor& editor, QGroupBox& group) {
     bool deposit;
   };
   for (const Button& facts :
-       {Button{"cmdAddSub0", Translated("Add"), false}, Button{"cmdAddSub1", Translated("Subtract"), true}}) {
+       {Button{"cmdAddSub0", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Add")), false},
+        Button{"cmdAddSub1", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Subtract")),
+               true}}) {
     QPushButton* button = NewButton(field, facts.name, facts.caption);
     QObject::connect(button, &QPushButton::clicked, &editor, [&game, &editor, amount, facts] {
       if (editor.Seat() == 0 || !editor.MayChange() || amount->Value().IsError()) return;
@@ -429,31 +441,33 @@ void AddAtm(Game& game, SettingEditor& editor, QGroupBox& group) {
     });
     line->addWidget(button);
   }
-  ControlsPage::FormOf(&group)->addRow(Translated("Add or subtract"), field);
+  ControlsPage::FormOf(&group)->addRow(
+      Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Add or subtract")), field);
 }
 
 }  // namespace
 
 ControlsPage* MakeBankrollPage(Game& game, SettingEditor& editor, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picBankroll", parent);
-  QGroupBox* group = page->Group(Translated("Player"), 0);
+  QGroupBox* group = page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Player")), 0);
   QFormLayout* form = ControlsPage::FormOf(group);
   auto* players = new QComboBox(group);
   players->setObjectName("cmbPlayer");
-  players->setAccessibleName(Translated("Player"));
+  players->setAccessibleName(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Player")));
   players->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   players->setMinimumContentsLength(20);
-  form->insertRow(0, Translated("Player"), players);
+  form->insertRow(0, Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Player")), players);
   QObject::connect(players, &QComboBox::activated, page,
                    [&editor, players] { editor.SetSeat(players->currentData().toInt()); });
   auto* bankroll = new QLabel(group);
   bankroll->setObjectName("lblBankroll");
-  form->insertRow(1, Translated("Bankroll"), bankroll);
+  form->insertRow(1, Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Bankroll")), bankroll);
   AddAtm(game, editor, *group);
   page->refresh = [&game, &editor, group, players, bankroll] {
     ListPlayers(game, editor, *players);
     group->setEnabled(editor.Seat() != 0);
-    bankroll->setText(editor.Seat() == 0 ? Translated("There are no players at the table.")
+    bankroll->setText(editor.Seat() == 0 ? Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen",
+                                                                        "There are no players at the table."))
                                          : DollarText(game.table.BankrollCurrent[editor.Seat()]));
   };
   return page;
@@ -463,7 +477,7 @@ ControlsPage* MakeBankrollPage(Game& game, SettingEditor& editor, QWidget* paren
 
 ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf& shelf, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picSound", parent);
-  QGroupBox* group = page->Group(Translated("Sounds"), 0);
+  QGroupBox* group = page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Sounds")), 0);
   struct Choice {
     const char* name;
     QString caption;
@@ -473,10 +487,15 @@ ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf&
   };
   // The stickman's calls are one set together.
   const QStringList stick = shelf.stick.isEmpty() ? QStringList() : QStringList{shelf.stick.front()};
-  const Choice choices[] = {{"cmbStickPerson", Translated("Stick person"), "StickPerson", stick, false},
-                            {"cmbDiceSound", Translated("Dice"), "DiceSound", shelf.dice, true},
-                            {"cmbCheckSound", Translated("Checks"), "CheckSound", shelf.checks, true},
-                            {"cmbWinSound", Translated("Wins"), "WinSound", shelf.wins, true}};
+  const Choice choices[] = {
+      {"cmbStickPerson", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Stick person")),
+       "StickPerson", stick, false},
+      {"cmbDiceSound", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Dice")), "DiceSound",
+       shelf.dice, true},
+      {"cmbCheckSound", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Checks")),
+       "CheckSound", shelf.checks, true},
+      {"cmbWinSound", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Wins")), "WinSound",
+       shelf.wins, true}};
   for (const Choice& choice : choices) {
     auto* field = new QWidget(group);
     auto* line = new QHBoxLayout(field);
@@ -486,14 +505,20 @@ ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf&
     list->setObjectName(choice.name);
     list->setAccessibleName(choice.caption);
     list->setMinimumContentsLength(14);
-    list->addItem(Translated("< none >"));
+    list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< none >")));
     for (const QString& file : choice.files)
-      list->addItem(choice.random ? file.section('.', 0, -2) : Translated("Stick person 1"), file);
-    if (choice.random) list->addItem(Translated("< random >"));
+      list->addItem(choice.random
+                        ? file.section('.', 0, -2)
+                        : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Stick person 1")),
+                    file);
+    if (choice.random)
+      list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< random >")));
     line->addWidget(list);
-    QPushButton* hear = NewButton(field, "", Translated("Try"));
+    QPushButton* hear =
+        NewButton(field, "", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try")));
     hear->setObjectName(QStringLiteral("cmdTry") + choice.setting);
-    hear->setAccessibleName(Translated("Try: %1").arg(choice.caption));
+    hear->setAccessibleName(
+        Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try: %1")).arg(choice.caption));
     line->addWidget(hear);
     const int count = static_cast<int>(choice.files.size());
     const bool random = choice.random;
@@ -518,7 +543,9 @@ ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf&
     static_cast<QLabel*>(ControlsPage::FormOf(group)->labelForField(field))->setBuddy(list);
   }
   if (shelf.dice.isEmpty() && shelf.checks.isEmpty()) {
-    auto* note = new QLabel(Translated("The program's sound files aren't there."), group);
+    auto* note = new QLabel(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen",
+                                                         "The program's sound files aren't there.")),
+                            group);
     ControlsPage::FormOf(group)->addRow(note);
   }
   page->refresh = [&game, group] { group->setEnabled(!game.settings.DisableAllSound); };
@@ -559,7 +586,8 @@ void AddRollRate(SettingEditor& editor, QGroupBox& group) {
   rate->setAccessibleName(group.title());
   auto* views = new QComboBox(field);
   views->setObjectName("cmbRollsPerTime");
-  views->setAccessibleName(Translated("How the rate is shown"));
+  views->setAccessibleName(
+      Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "How the rate is shown")));
   for (const RateView& view : kRateViews) views->addItem(Translated(view.caption));
   line->addWidget(rate);
   line->addWidget(views);
@@ -598,7 +626,9 @@ void AddRollRate(SettingEditor& editor, QGroupBox& group) {
 
 ControlsPage* MakeMiscPage(Game&, SettingEditor& editor, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picMisc", parent);
-  AddRollRate(editor, *page->Group(Translated("Simulated roll rate"), 1));
+  AddRollRate(
+      editor,
+      *page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Simulated roll rate")), 1));
   return page;
 }
 

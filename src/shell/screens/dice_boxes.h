@@ -7,7 +7,8 @@ namespace tessaryn {
 
 struct Game;
 
-// A box with OK: what can't be done, or why not. title as the box has it.
+// A box with OK: what can't be done, or why not. title is for translation, in the context
+// "Files".
 void TellDiceProblem(Game& game, const char* title, const std::string& problem);
 // "You need to open a file first."
 void TellOpenFileFirst(Game& game, const char* title);

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QMenuBar>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -21,14 +22,23 @@
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 #include "stats/events_log.h"
+#include "stats/events_log_copy.h"
 
 namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{"Open Events Log", "Events log file (*.txt);;All files (*)", ".txt", false, false,
+const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Events Log"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           false,
+                           false,
                            kEventsLogFolder};
-const FilePurpose kSaveLog{"Save Events Log As", "Events log file (*.txt);;All files (*)", ".txt", true, true,
+const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Events Log As"),
+                           QT_TRANSLATE_NOOP("Files", "Events log file (*.txt);;All files (*)"),
+                           ".txt",
+                           true,
+                           true,
                            kEventsLogFolder};
 
 constexpr int kSlice = 6;        // milliseconds of work between two looks at the user's events
@@ -36,24 +46,25 @@ constexpr int kTurboSlice = 1;   // in a Turbo-Roll, which is not to be slowed
 constexpr int kTurboPause = 40;  // and what it has for itself between
 constexpr std::int64_t kSearchBytes = 1 << 20;
 constexpr qint64 kCountedAtOnce = 32 << 20;  // bytes
+constexpr int kShowSaving = 100;             // milliseconds
 
 struct KindRow {
   const char* name;
   unsigned kinds;
 };
 constexpr KindRow kKinds[] = {
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Everything"), kLogAllKinds},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls"), kLogKindRoll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Rolls, passes and misses"),
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Everything"), kLogAllKinds},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls"), kLogKindRoll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls, passes and misses"),
      kLogKindRoll | kLogKindLine | kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bets"), kLogKindBet},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Wins"), kLogKindWin},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Losses"), kLogKindLoss},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Bankrolls"), kLogKindBankroll},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "CheckStacks"), kLogKindStack},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Shooters and hands"), kLogKindHand},
-    {QT_TRANSLATE_NOOP("EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bets"), kLogKindBet},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins and losses"), kLogKindWin | kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Wins"), kLogKindWin},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Losses"), kLogKindLoss},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Bankrolls"), kLogKindBankroll},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "CheckStacks"), kLogKindStack},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Shooters and hands"), kLogKindHand},
+    {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Sessions, players, scripts"), kLogKindPlayer},
 };
 
 // How the lines look is kept with the places of the windows.
@@ -80,6 +91,7 @@ EventsLogScreen::EventsLogScreen(Game& game, QWidget* parent)
   column->setMenuBar(bar);
   column->addWidget(MakeFilterRow());
   column->addWidget(MakeFindRow());
+  column->addWidget(MakeSaveRow());
   column->addWidget(view_, 1);
   setTabOrder(player_, find_);
   setTabOrder(stop_, view_);
@@ -106,9 +118,9 @@ void EventsLogScreen::AddFlag(QMenu& menu, const char* name, const QString& capt
 
 void EventsLogScreen::AddLogMenu(QMenuBar& bar) {
   QMenu& menu = *bar.addMenu(tr("Lo&g"));
-  Add(menu, "mnuNew", tr("&New"), &EventsLogScreen::NewLog);
-  Add(menu, "mnuOpen", tr("&Open ..."), &EventsLogScreen::OpenLog);
-  Add(menu, "mnuSaveAs", tr("Save &As ..."), &EventsLogScreen::SaveAs);
+  notWhileSaving_ = {Add(menu, "mnuNew", tr("&New"), &EventsLogScreen::NewLog),
+                     Add(menu, "mnuOpen", tr("&Open ..."), &EventsLogScreen::OpenLog),
+                     Add(menu, "mnuSaveAs", tr("Save &As ..."), &EventsLogScreen::SaveAs)};
   menu.addSeparator();
   Add(menu, "mnuLookAt", tr("&Look at another log ..."), &EventsLogScreen::LookAtAnother);
   back_ = Add(menu, "mnuBackToLog", tr("&Back to the table's log"), &EventsLogScreen::BackToLog);
@@ -183,6 +195,14 @@ void EventsLogScreen::AddFontMenu(QMenuBar& bar) {
   }
 }
 
+// The button has one width whatever it says.
+void EventsLogScreen::Retranslate() {
+  int widest = 0;
+  for (const QString& caption : {tr("In&active"), tr("&Active")})
+    widest = std::max(widest, record_->fontMetrics().horizontalAdvance(caption));
+  record_->setFixedWidth(widest + 32);
+}
+
 QWidget* EventsLogScreen::MakeFilterRow() {
   auto* row = new QWidget(this);
   auto* line = new QHBoxLayout(row);
@@ -191,7 +211,7 @@ QWidget* EventsLogScreen::MakeFilterRow() {
   record_ = new QPushButton(row);
   record_->setObjectName("cmdRecordEvents");
   record_->setCheckable(true);
-  record_->setFixedWidth(record_->fontMetrics().horizontalAdvance(tr("In&active")) + 32);
+  Retranslate();
   connect(record_, &QPushButton::clicked, this, [this] { Toggle(&game_.events.RecordEventsActive); });
   kind_ = new QComboBox(row);
   kind_->setObjectName("cmbKind");
@@ -252,6 +272,37 @@ QWidget* EventsLogScreen::MakeFindRow() {
   return findRow_;
 }
 
+QWidget* EventsLogScreen::MakeSaveRow() {
+  saveRow_ = new QWidget(this);
+  auto* line = new QHBoxLayout(saveRow_);
+  line->setContentsMargins(8, 0, 8, 4);
+  line->setSpacing(8);
+  saved_ = new QProgressBar(saveRow_);
+  saved_->setObjectName("barSaving");
+  saved_->setAccessibleName(tr("Saving the log ..."));
+  auto* cancel = new QPushButton(tr("Cancel"), saveRow_);
+  cancel->setObjectName("cmdCancelSaving");
+  connect(cancel, &QPushButton::clicked, this, [this] { saving_.Cancel(); });
+  line->addWidget(new QLabel(tr("Saving the log ..."), saveRow_));
+  line->addWidget(saved_, 1);
+  line->addWidget(cancel);
+  saveRow_->hide();
+  connect(&showSaving_, &QTimer::timeout, this, &EventsLogScreen::ShowSaving);
+  connect(&saving_, &LongWork::Ended, this, [this] {
+    showSaving_.stop();
+    ShowSaving();
+    Refresh();
+  });
+  return saveRow_;
+}
+
+// A log that is soon copied needs no row for it.
+void EventsLogScreen::ShowSaving() {
+  saveRow_->setVisible(saving_.IsOn());
+  saved_->setValue(saving_.Percent());
+  for (QAction* action : notWhileSaving_) action->setEnabled(!saving_.IsOn());
+}
+
 // --- What is shown.
 
 std::string EventsLogScreen::PathShown() const { return looking_.empty() ? EventsLogPath(game_) : looking_; }
@@ -274,7 +325,7 @@ void EventsLogScreen::Open() {
   const std::string error = view_->Open(path, reference, filter_);
   if (!error.empty() && !looking_.empty()) {
     looking_.clear();
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
     return Open();
   }
   topShown_ = 0;
@@ -386,7 +437,7 @@ void EventsLogScreen::ShowPlace() {
                  : view_->Top().Exact
                      ? tr("Line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()))
                      : tr("About line %1 of %2").arg(Count(view_->TopRow()), Count(view_->Rows()));
-  if (!complete && index.Size > 0) text += tr(" (%1% read)").arg(100 * index.Scanned / index.Size);
+  if (!complete && index.Size > 0) text = tr("%1 (%2% read)").arg(text).arg(100 * index.Scanned / index.Size);
   place_->setToolTip(text);
   place_->setAccessibleName(text);
   // Narrow it has room for the numbers alone.
@@ -450,8 +501,7 @@ void EventsLogScreen::RecordNothing() {
 
 void EventsLogScreen::NewLog() {
   looking_.clear();
-  const NewEvents done = NewEventsLog(game_);
-  if (done == NewEvents::kRenameFirst && SaveAsChosen()) StartEventsLog(game_);
+  if (NewEventsLog(game_) == NewEvents::kRenameFirst) SaveAsChosen([this] { StartEventsLog(game_); });
   Refresh();
 }
 
@@ -461,23 +511,44 @@ void EventsLogScreen::OpenLog() {
   std::string error;
   looking_.clear();
   if (!OpenEventsLog(game_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenLog.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenLog)), With<"problem">(error));
   Open();
   Refresh();
 }
 
-bool EventsLogScreen::SaveAsChosen() {
+// One that takes long is copied beside the window, which goes on.
+void EventsLogScreen::SaveAsChosen(std::function<void()> then) {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (path.empty()) return false;
-  std::string error;
-  const bool saved = SaveEventsLogAs(game_, path, error);
-  if (!saved) ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveLog.title), With<"problem">(error));
-  return saved;
+  if (path.empty()) return;
+  const auto ended = [this, then = std::move(then)](const std::string& error) {
+    if (error.empty()) return then();
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveLog)), With<"problem">(error));
+  };
+  FlushEventsLog(game_);
+  const qint64 bytes = QFileInfo(FromCore(EventsLogPath(game_))).size();
+  if (bytes <= kCountedAtOnce || IsSameFile(path, EventsLogPath(game_))) {
+    std::string error;
+    SaveEventsLogAs(game_, path, error);
+    return ended(error);
+  }
+  const auto copy = std::make_shared<EventsLogCopy>();
+  copy->From = EventsLogPath(game_);
+  copy->To = path;
+  saving_.Begin(
+      tr("Saving the log ..."), bytes,
+      [copy](const LongWork::GoOn& goOn) { return CopyEventsLog(*copy, goOn); },
+      [this, copy, ended](const std::string& problem) {
+        const std::string error = problem.empty() ? UseEventsLogCopy(game_, *copy) : problem;
+        // Of a log that began anew meanwhile the copy is all that there is to it.
+        if (!error.empty() || EventsLogPath(game_) == copy->To) ended(error);
+      });
+  showSaving_.start(kShowSaving);
+  ShowSaving();
 }
 
 void EventsLogScreen::SaveAs() {
   looking_.clear();
-  SaveAsChosen();
+  SaveAsChosen([] {});
   Refresh();
 }
 

@@ -4,6 +4,7 @@
 
 #include <QTimer>
 
+#include "shell/screens/long_work.h"
 #include "shell/screens/tool_window.h"
 #include "stats/log_index.h"
 
@@ -13,6 +14,7 @@ class QLabel;
 class QLineEdit;
 class QMenu;
 class QMenuBar;
+class QProgressBar;
 class QPushButton;
 class QToolButton;
 
@@ -38,6 +40,7 @@ class EventsLogScreen : public ToolWindow {
   EventsLogView& View() { return *view_; }
 
  protected:
+  void Retranslate() override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void hideEvent(QHideEvent* event) override;
@@ -51,6 +54,7 @@ class EventsLogScreen : public ToolWindow {
   void AddFontMenu(QMenuBar& bar);
   QWidget* MakeFilterRow();
   QWidget* MakeFindRow();
+  QWidget* MakeSaveRow();
 
   void NewLog();
   void OpenLog();
@@ -62,7 +66,9 @@ class EventsLogScreen : public ToolWindow {
   void Toggle(bool* flag);
   void SetFollow(bool on);
 
-  bool SaveAsChosen();
+  // then: what follows when it is saved.
+  void SaveAsChosen(std::function<void()> then);
+  void ShowSaving();
   std::string PathShown() const;
   void Open();
   void FollowTable();
@@ -86,6 +92,11 @@ class EventsLogScreen : public ToolWindow {
   QComboBox* kind_ = nullptr;
   QComboBox* player_ = nullptr;
   QLabel* place_ = nullptr;
+  QWidget* saveRow_ = nullptr;
+  QProgressBar* saved_ = nullptr;
+  QList<QAction*> notWhileSaving_;
+  FileWork saving_;
+  QTimer showSaving_;
   QWidget* findRow_ = nullptr;
   QLineEdit* find_ = nullptr;
   QLabel* progress_ = nullptr;

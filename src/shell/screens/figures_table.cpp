@@ -17,6 +17,7 @@ namespace {
 constexpr int kValueRole = Qt::UserRole;
 constexpr int kMarkedRole = Qt::UserRole + 1;
 constexpr int kIdRole = Qt::UserRole + 2;
+constexpr int kLeastName = 12;  // characters
 constexpr int kLeastColumn = 40;
 constexpr int kColumnMargins = 12;
 constexpr int kSortArrow = 16;
@@ -153,8 +154,24 @@ void FiguresTable::FitColumns(bool mayShrink) {
       width = std::max(width, fontMetrics().horizontalAdvance(model_->index(row, column).data().toString()));
     width = std::max(width + kColumnMargins, kLeastColumn);
     if (header->isSectionHidden(column)) continue;
+    if (column == 0) names_ = mayShrink ? width : std::max(width, names_);
     if (mayShrink || width > header->sectionSize(column)) header->resizeSection(column, width);
   }
+  FitNames();
+}
+
+// Names give way where that alone brings the last figures into view.
+void FiguresTable::FitNames() {
+  QHeaderView* header = horizontalHeader();
+  const int room = viewport()->width() - (header->length() - header->sectionSize(0));
+  const int least = fontMetrics().averageCharWidth() * kLeastName;
+  const int width = room >= names_ || room < least ? names_ : room;
+  if (names_ > 0 && width != header->sectionSize(0)) header->resizeSection(0, width);
+}
+
+void FiguresTable::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  FitNames();
 }
 
 void FiguresTable::ShowMarkedOnly(bool only) { sorted_->ShowMarkedOnly(only); }

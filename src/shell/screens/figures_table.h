@@ -48,13 +48,18 @@ class FiguresTable : public QTableView {
   // The ids of the rows that are selected.
   std::vector<int> Selected() const;
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
   class Sorted;
   // Columns as wide as what stands in them; while rolls come in they only grow.
   void FitColumns(bool mayShrink);
+  void FitNames();
 
   FiguresModel* model_;
   Sorted* sorted_;
+  int names_ = 0;  // the width that the first column asks for
 };
 
 // The same by keyboard: which column sorts. Choosing it again turns the order round.

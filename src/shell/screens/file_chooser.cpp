@@ -1,5 +1,6 @@
 #include "shell/screens/file_chooser.h"
 
+#include <QCoreApplication>
 #include <QFileDialog>
 #include <QUrl>
 #include <filesystem>
@@ -14,63 +15,99 @@ namespace tessaryn {
 
 namespace fs = std::filesystem;
 
-const FilePurpose kOpenGame{"Open Session File", "Session files (*.crp);;All files (*)", ".crp", false, false,
+const FilePurpose kOpenGame{QT_TRANSLATE_NOOP("Files", "Open Session File"),
+                            QT_TRANSLATE_NOOP("Files", "Session files (*.crp);;All files (*)"),
+                            ".crp",
+                            false,
+                            false,
                             kGameFolder};
-const FilePurpose kSaveGame{
-    "Save Session File As", "Session files (*.crp);;All files (*)", ".crp", true, true, kGameFolder};
-const FilePurpose kOpenAutoBet{
-    "Open Auto-Bet File", "Auto-bet files (*.bet);;All files (*)", ".bet", false, false, kScriptFolder, true};
-const FilePurpose kSaveAutoBet{
-    "Save Auto-Bet File As", "Auto-bet files (*.bet);;All files (*)", ".bet", true, true, kScriptFolder};
-const FilePurpose kHotKeyScript{"Select Auto-Bet File for Hot-Key",
-                                "Auto-bet files (*.bet);;All files (*)",
+const FilePurpose kSaveGame{QT_TRANSLATE_NOOP("Files", "Save Session File As"),
+                            QT_TRANSLATE_NOOP("Files", "Session files (*.crp);;All files (*)"),
+                            ".crp",
+                            true,
+                            true,
+                            kGameFolder};
+const FilePurpose kOpenAutoBet{QT_TRANSLATE_NOOP("Files", "Open Auto-Bet File"),
+                               QT_TRANSLATE_NOOP("Files", "Auto-bet files (*.bet);;All files (*)"),
+                               ".bet",
+                               false,
+                               false,
+                               kScriptFolder,
+                               true};
+const FilePurpose kSaveAutoBet{QT_TRANSLATE_NOOP("Files", "Save Auto-Bet File As"),
+                               QT_TRANSLATE_NOOP("Files", "Auto-bet files (*.bet);;All files (*)"),
+                               ".bet",
+                               true,
+                               true,
+                               kScriptFolder};
+const FilePurpose kHotKeyScript{QT_TRANSLATE_NOOP("Files", "Select Auto-Bet File for Hot-Key"),
+                                QT_TRANSLATE_NOOP("Files", "Auto-bet files (*.bet);;All files (*)"),
                                 ".bet",
                                 false,
                                 false,
                                 kScriptFolder,
                                 true};
-const FilePurpose kOpenProbabilities{
-    "Open Probability File", "Probability file (*.prb);;All files (*)", ".prb", false, false,
-    kProbabilityFolder};
-const FilePurpose kSaveProbabilities{
-    "Save Probability File As", "Probability file (*.prb);;All files (*)", ".prb", true, true,
-    kProbabilityFolder};
-const FilePurpose kOpenRollFile{"Open Dice Roll File  or  Enter Name For A New File",
-                                "Dice roll file (*.rol);;All files (*)",
-                                ".rol",
-                                false,
-                                true,
-                                kRollFileFolder};
+const FilePurpose kOpenProbabilities{QT_TRANSLATE_NOOP("Files", "Open Probability File"),
+                                     QT_TRANSLATE_NOOP("Files", "Probability file (*.prb);;All files (*)"),
+                                     ".prb",
+                                     false,
+                                     false,
+                                     kProbabilityFolder};
+const FilePurpose kSaveProbabilities{QT_TRANSLATE_NOOP("Files", "Save Probability File As"),
+                                     QT_TRANSLATE_NOOP("Files", "Probability file (*.prb);;All files (*)"),
+                                     ".prb",
+                                     true,
+                                     true,
+                                     kProbabilityFolder};
+const FilePurpose kOpenRollFile{
+    QT_TRANSLATE_NOOP("Files", "Open Dice Roll File  or  Enter Name For A New File"),
+    QT_TRANSLATE_NOOP("Files", "Dice roll file (*.rol);;All files (*)"),
+    ".rol",
+    false,
+    true,
+    kRollFileFolder};
 
-const FilePurpose kCopyToRollFile{"Copy To Dice Roll File",
-                                  "Dice roll file (*.rol);;All files (*)",
+const FilePurpose kCopyToRollFile{QT_TRANSLATE_NOOP("Files", "Copy To Dice Roll File"),
+                                  QT_TRANSLATE_NOOP("Files", "Dice roll file (*.rol);;All files (*)"),
                                   ".rol",
                                   true,
                                   true,
                                   kRollFileFolder,
                                   false,
-                                  "Copy To Roll File"};
-const FilePurpose kCopyToTextFile{"Copy Dice Rolls To Text File",
-                                  "Text files (*.txt);;All files (*)",
+                                  QT_TRANSLATE_NOOP("Files", "Copy To Roll File")};
+const FilePurpose kCopyToTextFile{QT_TRANSLATE_NOOP("Files", "Copy Dice Rolls To Text File"),
+                                  QT_TRANSLATE_NOOP("Files", "Text files (*.txt);;All files (*)"),
                                   ".txt",
                                   true,
                                   true,
                                   kRollFileFolder,
                                   false,
-                                  "Copy To Text File"};
-const FilePurpose kPasteFromRollFile{"Paste From Dice Roll File",
-                                     "Dice roll file (*.rol);;All files (*)",
+                                  QT_TRANSLATE_NOOP("Files", "Copy To Text File")};
+const FilePurpose kPasteFromRollFile{QT_TRANSLATE_NOOP("Files", "Paste From Dice Roll File"),
+                                     QT_TRANSLATE_NOOP("Files", "Dice roll file (*.rol);;All files (*)"),
                                      ".rol",
                                      false,
                                      false,
                                      kRollFileFolder};
-const FilePurpose kPasteFromTextFile{
-    "Paste From Ascii/Text File", "Text files (*.txt);;All files (*)", ".txt", false, false, kRollFileFolder};
+const FilePurpose kPasteFromTextFile{QT_TRANSLATE_NOOP("Files", "Paste From Ascii/Text File"),
+                                     QT_TRANSLATE_NOOP("Files", "Text files (*.txt);;All files (*)"),
+                                     ".txt",
+                                     false,
+                                     false,
+                                     kRollFileFolder};
 
 std::deque<std::string>& QueuedFileNames() {
   static std::deque<std::string> names;
   return names;
 }
+
+namespace {
+QString FileWords(const char* text) { return QCoreApplication::translate("Files", text); }
+}  // namespace
+
+QString FileTitleOf(const FilePurpose& purpose) { return FileWords(purpose.title); }
+QString FileTypesOf(const FilePurpose& purpose) { return FileWords(purpose.types); }
+std::string FileTitleText(const FilePurpose& purpose) { return ToCore(FileTitleOf(purpose)); }
 
 namespace {
 std::string SamplesFolder(const Game& game) { return game.applicationFolder + "samples/"; }
@@ -101,7 +138,8 @@ FileProblem CheckFileName(const Game& game, const FilePurpose& purpose, const st
   const bool there = fs::exists(path, error);
   if (!there && !purpose.mayBeNew) return {Msg::kFileNotFound, path};
   if (there && purpose.copies != nullptr && IsSameFile(path, game.rollFile.RollFileName))
-    return {Msg::kFileFailed, MessageText<Msg::kCopyToOpenFile>(With<"command">(purpose.copies))};
+    return {Msg::kFileFailed,
+            MessageText<Msg::kCopyToOpenFile>(With<"command">(ToCore(FileWords(purpose.copies))))};
   if (there && &purpose == &kOpenRollFile) {
     bool valid = false;
     const std::string problem = CheckRollFile(path, valid);
@@ -125,8 +163,8 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
     queued.pop_front();
     return !name.empty();
   }
-  QFileDialog dialog(parent, QObject::tr(purpose.title), FromCore(StartFolder(game, purpose)),
-                     QObject::tr(purpose.types));
+  QFileDialog dialog(parent, FileTitleOf(purpose), FromCore(StartFolder(game, purpose)),
+                     FileTypesOf(purpose));
   dialog.setObjectName("frmFile");
   dialog.setAcceptMode(purpose.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   const QList<QUrl> usual = dialog.sidebarUrls();
@@ -151,7 +189,8 @@ bool AskName(Game& game, QWidget* parent, const FilePurpose& purpose, std::strin
 bool MayReplace(Game& game, const FilePurpose& purpose, const std::string& path) {
   std::error_code error;
   if (!purpose.save || !fs::exists(path, error)) return true;
-  const auto title = With<"title">(purpose.title);
+  const std::string wanted = FileTitleText(purpose);
+  const auto title = With<"title">(wanted);
   const auto file = With<"file">(fs::path(path).filename().string());
   if (&purpose == &kCopyToRollFile) return Confirms<Msg::kAskCopyOver>(game, title, file);
   return Confirms<Msg::kAskReplaceFile>(game, title, file);

@@ -14,7 +14,7 @@ namespace tessaryn {
 
 struct Game;
 
-// What a file is wanted for.
+// What a file is wanted for. Its texts are for translation, in the context "Files".
 struct FilePurpose {
   const char* title;
   const char* types;      // "Auto-bet files (*.bet);;All files (*)"
@@ -39,6 +39,12 @@ extern const FilePurpose kCopyToRollFile;
 extern const FilePurpose kCopyToTextFile;
 extern const FilePurpose kPasteFromRollFile;
 extern const FilePurpose kPasteFromTextFile;
+
+// Its title and its kinds of files, in the language of the window.
+QString FileTitleOf(const FilePurpose& purpose);
+QString FileTypesOf(const FilePurpose& purpose);
+// The same for what the core shows.
+std::string FileTitleText(const FilePurpose& purpose);
 
 // The chosen path, or empty when given up. Names without a folder go to the data folder. Refusals are shown
 // as boxes, and the question is asked again.

@@ -128,7 +128,8 @@ void GeneratorPage::Choose(int index) {
 
 void GeneratorPage::Set(const char* name, bool on) {
   std::string error;
-  if (!SetSetting(game_, name, 0, on ? "on" : "off", error)) TellDiceProblem(game_, "RNG Seed", error);
+  if (!SetSetting(game_, name, 0, on ? "on" : "off", error))
+    TellDiceProblem(game_, QT_TRANSLATE_NOOP("Files", "RNG Seed"), error);
   Refresh();
 }
 

@@ -19,14 +19,16 @@ namespace {
 
 constexpr int kMostBytes = 100;  // of a path or description in the file
 
-const FilePurpose kSelectFile{"Select Auto-Bet File for Hot-Key",
-                              "Auto-bet files (*.bet);;Auto-bet & text files (*.bet *.txt);;Text files "
-                              "(*.txt);;All files (*.*)",
-                              ".bet",
-                              false,
-                              false,
-                              kScriptFolder,
-                              true};
+const FilePurpose kSelectFile{
+    QT_TRANSLATE_NOOP("Files", "Select Auto-Bet File for Hot-Key"),
+    QT_TRANSLATE_NOOP("Files",
+                      "Auto-bet files (*.bet);;Auto-bet & text files (*.bet *.txt);;Text files "
+                      "(*.txt);;All files (*.*)"),
+    ".bet",
+    false,
+    false,
+    kScriptFolder,
+    true};
 
 }  // namespace
 

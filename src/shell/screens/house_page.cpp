@@ -20,8 +20,12 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kOpenHouse{"Open House Rules", "House rules (*.txt);;All files (*)", ".txt", false, false};
-const FilePurpose kSaveHouse{"Save House Rules As", "House rules (*.txt);;All files (*)", ".txt", true, true};
+const FilePurpose kOpenHouse{QT_TRANSLATE_NOOP("Files", "Open House Rules"),
+                             QT_TRANSLATE_NOOP("Files", "House rules (*.txt);;All files (*)"), ".txt", false,
+                             false};
+const FilePurpose kSaveHouse{QT_TRANSLATE_NOOP("Files", "Save House Rules As"),
+                             QT_TRANSLATE_NOOP("Files", "House rules (*.txt);;All files (*)"), ".txt", true,
+                             true};
 
 QPushButton* NewButton(QWidget* parent, const char* name, const QString& caption) {
   auto* button = new QPushButton(caption, parent);
@@ -157,7 +161,7 @@ void HousePage::OpenFile() {
   if (path.empty()) return;
   std::vector<SettingChange> rules;
   if (const std::string problem = ReadCheckedSettings(game_, path, rules); !problem.empty()) {
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenHouse.title), With<"problem">(problem));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenHouse)), With<"problem">(problem));
     return;
   }
   opened_.push_back(path);
@@ -172,7 +176,7 @@ void HousePage::SaveFile() {
   const std::string path = ChooseFile(game_, this, kSaveHouse, HousesFolder(game_) + "My house.txt");
   if (path.empty()) return;
   if (const std::string problem = SaveSettingsFile(game_, path); !problem.empty()) {
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveHouse.title), With<"problem">(problem));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveHouse)), With<"problem">(problem));
     return;
   }
   opened_.push_back(path);

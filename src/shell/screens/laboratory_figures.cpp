@@ -50,9 +50,10 @@ void LayBars(LabFigures& figures, const LabState& state) {
 
 QString NoteOn(const LabSystem& system, const SystemSums& sums) {
   if (sums.sessions > 0 && sums.unrolled == sums.sessions)
-    return Words("%1: no session rolled the dice: %2").arg(FromCore(system.name), FromCore(sums.stopReason));
+    return Words(QT_TRANSLATE_NOOP("Laboratory", "%1: no session rolled the dice: %2"))
+        .arg(FromCore(system.name), FromCore(sums.stopReason));
   if (sums.errors.empty()) return {};
-  return Words("%1: its script has errors: %2")
+  return Words(QT_TRANSLATE_NOOP("Laboratory", "%1: its script has errors: %2"))
       .arg(FromCore(system.name), FromCore(sums.errors.front().text));
 }
 
@@ -132,13 +133,16 @@ QString LabShare(std::int64_t count, std::int64_t of) {
 }
 QString LabBounds(std::int64_t count, std::int64_t of) {
   const Bounds bounds = FigureShare(count, of).ci95;
-  return Words("%1 to %2").arg(100 * bounds.low, 0, 'f', 1).arg(100 * bounds.high, 0, 'f', 1);
+  return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2"))
+      .arg(100 * bounds.low, 0, 'f', 1)
+      .arg(100 * bounds.high, 0, 'f', 1);
 }
 
 namespace {
 
 QString SentenceOnOne(const SystemFigures& system) {
-  return Words("%1 ends a session at %2 on average: between %3 and %4, 95% sure.")
+  return Words(QT_TRANSLATE_NOOP("Laboratory",
+                                 "%1 ends a session at %2 on average: between %3 and %4, 95% sure."))
       .arg(system.name, SignedMoney(system.net.mean), SignedMoney(system.net.ci95.low),
            SignedMoney(system.net.ci95.high));
 }
@@ -149,20 +153,29 @@ QString SentenceOnTwo(const LabFigures& figures, std::size_t a, std::size_t b) {
   const QString& better = figures.systems[a].name;
   const QString& worse = figures.systems[b].name;
   if (difference.ci95.low > 0)
-    return Words("%1 ends a session %2 better than %3 on the same dice: between %4 and %5, 95% sure.")
+    return Words(QT_TRANSLATE_NOOP(
+                     "Laboratory",
+                     "%1 ends a session %2 better than %3 on the same dice: between %4 and %5, 95% sure."))
         .arg(better, LabMoney(difference.mean), worse, LabMoney(difference.ci95.low),
              LabMoney(difference.ci95.high));
-  return Words("Neither is sure to be better: %1 less %2 is %3 a session, between %4 and %5.")
+  return Words(QT_TRANSLATE_NOOP(
+                   "Laboratory",
+                   "Neither is sure to be better: %1 less %2 is %3 a session, between %4 and %5."))
       .arg(better, worse, SignedMoney(difference.mean), SignedMoney(difference.ci95.low),
            SignedMoney(difference.ci95.high));
 }
 
 QString Conditions(const LabFigures& experiment) {
-  QStringList parts = {Words("start %1").arg(MoneyText(experiment.bankroll))};
-  if (experiment.winGoal > kZero) parts << Words("goal +%1").arg(MoneyText(experiment.winGoal));
-  if (experiment.lossLimit > kZero) parts << Words("loss limit -%1").arg(MoneyText(experiment.lossLimit));
-  if (experiment.mostRolls > 0) parts << Words("at most %1 rolls").arg(LabCount(experiment.mostRolls));
-  if (experiment.mostHands > 0) parts << Words("at most %1 hands").arg(LabCount(experiment.mostHands));
+  QStringList parts = {
+      Words(QT_TRANSLATE_NOOP("Laboratory", "start %1")).arg(MoneyText(experiment.bankroll))};
+  if (experiment.winGoal > kZero)
+    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "goal +%1")).arg(MoneyText(experiment.winGoal));
+  if (experiment.lossLimit > kZero)
+    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "loss limit -%1")).arg(MoneyText(experiment.lossLimit));
+  if (experiment.mostRolls > 0)
+    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 rolls")).arg(LabCount(experiment.mostRolls));
+  if (experiment.mostHands > 0)
+    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 hands")).arg(LabCount(experiment.mostHands));
   return parts.join(", ");
 }
 
@@ -173,9 +186,10 @@ LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b) {
   const bool two = a != b;
   LabVerdict verdict;
   verdict.sentence = two ? SentenceOnTwo(figures, a, b) : SentenceOnOne(figures.systems[a]);
-  verdict.below = Words("%1 sessions each, %2.").arg(LabCount(figures.sessions), Conditions(figures));
+  verdict.below = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions each, %2."))
+                      .arg(LabCount(figures.sessions), Conditions(figures));
   const Bounds bounds = two ? DifferenceOf(figures, a, b).ci95 : figures.systems[a].net.ci95;
-  verdict.below += " " + Words("%1 would give \u00b1%2.")
+  verdict.below += " " + Words(QT_TRANSLATE_NOOP("Laboratory", "%1 would give \u00b1%2."))
                              .arg(LabCount(figures.sessions * 4), LabMoney((bounds.high - bounds.low) / 4));
   for (const std::size_t system : {a, b})
     if (!figures.systems[system].note.isEmpty() && (system == a || two))
@@ -185,15 +199,17 @@ LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b) {
 
 QList<LabEnd> EndsOf(const LabFigures& figures) {
   QList<LabEnd> ends;
-  if (figures.winGoal > kZero) ends.append({Words("Goal reached"), &SystemFigures::goal});
-  if (figures.lossLimit > kZero) ends.append({Words("Loss limit met"), &SystemFigures::limit});
-  ends.append({Words("Ruined"), &SystemFigures::ruined});
+  if (figures.winGoal > kZero)
+    ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Goal reached")), &SystemFigures::goal});
+  if (figures.lossLimit > kZero)
+    ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Loss limit met")), &SystemFigures::limit});
+  ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Ruined")), &SystemFigures::ruined});
   const auto stopped = [](const SystemFigures& system) { return system.stopped > 0; };
   if (std::any_of(figures.systems.begin(), figures.systems.end(), stopped))
-    ends.append({Words("Stopped by itself"), &SystemFigures::stopped});
-  ends.append({Words("Ended ahead"), &SystemFigures::won});
-  ends.append({Words("Ended even"), &SystemFigures::brokeEven});
-  ends.append({Words("Ended behind"), &SystemFigures::lost});
+    ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Stopped by itself")), &SystemFigures::stopped});
+  ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Ended ahead")), &SystemFigures::won});
+  ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Ended even")), &SystemFigures::brokeEven});
+  ends.append({Words(QT_TRANSLATE_NOOP("Laboratory", "Ended behind")), &SystemFigures::lost});
   return ends;
 }
 
@@ -242,7 +258,7 @@ const Measure kMeasures[] = {
 }  // namespace
 
 QList<QStringList> MeasureRows(const LabFigures& figures, std::size_t a, std::size_t b) {
-  QList<QStringList> rows = {{Words("Measure"), "A"}};
+  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "Measure")), "A"}};
   if (a != b) rows[0] << "B";
   if (figures.systems.empty()) return rows;
   for (const Measure& measure : kMeasures) {
@@ -253,7 +269,7 @@ QList<QStringList> MeasureRows(const LabFigures& figures, std::size_t a, std::si
 }
 
 QList<QStringList> SystemRows(const LabFigures& figures) {
-  QList<QStringList> rows = {{Words("System")}};
+  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "System"))}};
   for (const Measure& measure : kMeasures) rows[0] << Words(measure.caption);
   for (const SystemFigures& system : figures.systems) {
     QStringList row = {system.name};

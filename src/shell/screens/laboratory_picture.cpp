@@ -160,10 +160,12 @@ void PaintBorders(Canvas& canvas, const ResultsPlan& plan) {
   };
   const LabFigures& figures = canvas.figures;
   if (figures.lossLimit > kZero)
-    border(Words("loss limit %1").arg(PlainNumber(-figures.lossLimit.ToDouble())),
+    border(Words(QT_TRANSLATE_NOOP("Laboratory", "loss limit %1"))
+               .arg(PlainNumber(-figures.lossLimit.ToDouble())),
            -figures.lossLimit.ToDouble());
   if (figures.winGoal > kZero)
-    border(Words("goal %1").arg(PlainNumber(figures.winGoal.ToDouble())), figures.winGoal.ToDouble());
+    border(Words(QT_TRANSLATE_NOOP("Laboratory", "goal %1")).arg(PlainNumber(figures.winGoal.ToDouble())),
+           figures.winGoal.ToDouble());
 }
 
 void PaintBox(Canvas& canvas, const ResultsPlan& plan, const SystemFigures& system, bool second, double y) {
@@ -194,7 +196,7 @@ void PaintResults(Canvas& canvas) {
   const QRectF& plot = plan.plot;
   const Scale up{0, static_cast<double>(plan.most), plot.bottom(), plot.top()};
   Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 9, kAxisRoom + 30, kLine),
-       Qt::AlignLeft, Words("# sessions"), canvas.colours.second);
+       Qt::AlignLeft, Words(QT_TRANSLATE_NOOP("Laboratory", "# sessions")), canvas.colours.second);
   PaintAxes(canvas, plot, plan.across, up, StepFor(up.high, plot.height() / 40), false);
   PaintBars(canvas, plan, up);
   PaintBorders(canvas, plan);
@@ -202,7 +204,9 @@ void PaintResults(Canvas& canvas) {
   PaintBox(canvas, plan, canvas.A(), false, y);
   if (canvas.Two()) PaintBox(canvas, plan, canvas.B(), true, y += kBoxLine);
   Text(canvas, QRectF(plot.left(), y + kBoxLine / 2, plot.width(), kLine), Qt::AlignLeft,
-       Words("Line: 1% to 99%.  Thick: 5% to 95%.  Box: the middle half, bar at the median.  Diamond: mean."),
+       Words(QT_TRANSLATE_NOOP(
+           "Laboratory",
+           "Line: 1% to 99%.  Thick: 5% to 95%.  Box: the middle half, bar at the median.  Diamond: mean.")),
        canvas.colours.second);
 }
 
@@ -245,7 +249,8 @@ void PaintWay(Canvas& canvas) {
   const QRectF plot = canvas.area.adjusted(kAxisRoom, 2 * kLine + 22, -kMargin, -(kMargin + 2 * kLine));
   if (canvas.figures.mostRolls == 0)
     return Text(canvas, canvas.area, Qt::AlignHCenter,
-                Words("Only sessions with a most number of rolls are looked at on the way."),
+                Words(QT_TRANSLATE_NOOP(
+                    "Laboratory", "Only sessions with a most number of rolls are looked at on the way.")),
                 canvas.colours.second);
   const Scale across{0, static_cast<double>(canvas.figures.mostRolls), plot.left(), plot.right()};
   Scale up{-1, 1, plot.bottom(), plot.top()};
@@ -255,12 +260,13 @@ void PaintWay(Canvas& canvas) {
       up.high = std::max(up.high, mark[kFanLines - 1]);
     }
   Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 9, 200, kLine), Qt::AlignLeft,
-       Words("Won or lost, $"), canvas.colours.second);
+       Words(QT_TRANSLATE_NOOP("Laboratory", "Won or lost, $")), canvas.colours.second);
   PaintAxes(canvas, plot, across, up, StepFor(up.high - up.low, plot.height() / 36), true);
   PaintFan(canvas, canvas.A(), plot, across, up, false);
   if (canvas.Two()) PaintFan(canvas, canvas.B(), plot, across, up, true);
   Text(canvas, QRectF(plot.left(), plot.bottom() + kLine + 2, plot.width(), kLine), Qt::AlignLeft,
-       Words("Rolls.  Line: median.  Inner band: the middle half.  Outer band: 5% to 95%."),
+       Words(QT_TRANSLATE_NOOP(
+           "Laboratory", "Rolls.  Line: median.  Inner band: the middle half.  Outer band: 5% to 95%.")),
        canvas.colours.second);
 }
 
@@ -332,7 +338,7 @@ void PaintLab(QPainter& painter, const QRectF& area, const LabFigures& figures, 
   painter.setFont(letters);
   if (figures.sessions == 0) {
     Text(canvas, area.adjusted(kMargin, 0, -kMargin, 0), Qt::AlignHCenter,
-         Words("Nothing has been played yet."), canvas.colours.second);
+         Words(QT_TRANSLATE_NOOP("Laboratory", "Nothing has been played yet.")), canvas.colours.second);
     painter.restore();
     return;
   }
@@ -363,11 +369,12 @@ QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& fi
   const double low = figures.firstBar + static_cast<double>(bar) * figures.barWidth;
   const auto count = [&](std::size_t system) {
     const SystemFigures& shown = figures.systems[system];
-    return Words("%1 sessions (%2)")
+    return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions (%2)"))
         .arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
   };
-  QString text = Words("%1 to %2: A %3").arg(LabMoney(low), LabMoney(low + figures.barWidth), count(look.a));
-  if (look.a != look.b) text += Words(", B %1").arg(count(look.b));
+  QString text = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2: A %3"))
+                     .arg(LabMoney(low), LabMoney(low + figures.barWidth), count(look.a));
+  if (look.a != look.b) text += Words(QT_TRANSLATE_NOOP("Laboratory", ", B %1")).arg(count(look.b));
   return text;
 }
 

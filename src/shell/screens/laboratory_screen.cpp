@@ -27,7 +27,8 @@
 namespace tessaryn {
 namespace {
 
-const FilePurpose kSaveReport{"Save Laboratory Report As", "Web pages (*.html);;All files (*)", ".html", true,
+const FilePurpose kSaveReport{QT_TRANSLATE_NOOP("Files", "Save Laboratory Report As"),
+                              QT_TRANSLATE_NOOP("Files", "Web pages (*.html);;All files (*)"), ".html", true,
                               true};
 
 constexpr int kResultsPage = 1;
@@ -259,7 +260,7 @@ QWidget* LaboratoryScreen::MakeFoot() {
 // --- Running.
 
 void LaboratoryScreen::Tell(const std::string& problem) {
-  ShowMessage<Msg::kFileProblem>(game_, With<"title">("Laboratory"), With<"problem">(problem));
+  ShowMessage<Msg::kFileProblem>(game_, With<"title">(ToCore(tr("Laboratory"))), With<"problem">(problem));
 }
 
 void LaboratoryScreen::RunOrPause() {

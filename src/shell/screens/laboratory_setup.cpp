@@ -30,7 +30,8 @@ constexpr int kUsualRolls = 500;
 constexpr int kNumberWidth = 130;
 
 void Tell(Game& game, const std::string& problem) {
-  ShowMessage<Msg::kFileProblem>(game, With<"title">("Laboratory"), With<"problem">(problem));
+  ShowMessage<Msg::kFileProblem>(game, With<"title">(ToCore(LaboratorySetup::tr("Laboratory"))),
+                                 With<"problem">(problem));
 }
 
 QPushButton* Button(const char* name, const QString& caption, QWidget* parent) {
@@ -205,7 +206,8 @@ void LaboratorySetup::AddScript() {
 void LaboratorySetup::AddPlayersScript() {
   const int seat = game_.table.SelectedSeat;
   const SeatScript& script = game_.autobet.Scripts[seat];
-  if (seat == 0 || script.ScriptLines.empty()) return Tell(game_, "The selected player has no script.");
+  if (seat == 0 || script.ScriptLines.empty())
+    return Tell(game_, ToCore(tr("The selected player has no script.")));
   LabSystem system;
   system.lines = script.ScriptLines;
   system.name =
@@ -252,18 +254,18 @@ void LaboratorySetup::TakeTable(Experiment& experiment) const {
 }
 
 std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
-  if (systems_.empty()) return "There is nothing to play: add a script, or standing bets.";
+  if (systems_.empty()) return ToCore(tr("There is nothing to play: add a script, or standing bets."));
   experiment = Experiment();
   experiment.systems = systems_;
   const std::string stakes = ToCore(stakes_->text().remove(' '));
   if (!stakes.empty())
     for (const std::string& part : SplitText(stakes, ';'))
       if (const std::string error = SweepStack(part, experiment.systems); !error.empty())
-        return "Stakes " + part + ": " + error;
+        return ToCore(tr("Stakes %1: %2").arg(FromCore(part), FromCore(error)));
   experiment.sessions = sessions_->value();
   experiment.bankroll = bankroll_->Value();
   if (experiment.bankroll <= kZero || experiment.bankroll > kBankrollLimit)
-    return "Start with: must be from 0.01 to " + FormatMoney(kBankrollLimit);
+    return ToCore(tr("Start with: must be from 0.01 to %1").arg(FromCore(FormatMoney(kBankrollLimit))));
   experiment.rolls = rolls_->value();
   experiment.hands = hands_->value();
   experiment.winGoal = winGoal_->Value();

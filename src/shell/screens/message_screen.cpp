@@ -24,11 +24,12 @@ struct ButtonFacts {
 };
 
 // cmdButton 0 to 4. Help answers nothing; the caller that offers it takes it as a Cancel.
-constexpr ButtonFacts kButtons[] = {{kMsgOk, "&OK", "cmdButton0", kResultOk},
-                                    {kMsgYes, "&Yes", "cmdButton1", kResultYes},
-                                    {kMsgNo, "&No", "cmdButton2", kResultNo},
-                                    {kMsgCancel, "&Cancel", "cmdButton3", kResultCancel},
-                                    {kMsgHelp, "&Help", "cmdButton4", kResultCancel}};
+constexpr ButtonFacts kButtons[] = {
+    {kMsgOk, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&OK"), "cmdButton0", kResultOk},
+    {kMsgYes, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Yes"), "cmdButton1", kResultYes},
+    {kMsgNo, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&No"), "cmdButton2", kResultNo},
+    {kMsgCancel, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Cancel"), "cmdButton3", kResultCancel},
+    {kMsgHelp, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Help"), "cmdButton4", kResultCancel}};
 
 // The narrowest text column of each layout value, in characters of an average width.
 int TextColumns(int width) { return width <= 130 ? 34 : width <= 302 ? 48 : 68; }
@@ -59,7 +60,8 @@ QPixmap PictureOf(std::uint32_t flags, const QWidget& box) {
 
 }  // namespace
 
-MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent) : QDialog(parent), flags_(box.MsgFlags) {
+MessageScreen::MessageScreen(const MessageBox& box, QWidget* parent)
+    : QDialog(parent), id_(box.MsgId), flags_(box.MsgFlags) {
   setObjectName("frmMsg");
   setWindowTitle(FromCore(box.MsgTitle));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -113,12 +115,14 @@ void MessageScreen::AddButtons() {
   auto* row = new QHBoxLayout;
   qobject_cast<QVBoxLayout*>(layout())->addLayout(row);
   row->addStretch();
+  // What takes a player from the table isn't said yes to by a key that was meant for something else.
+  const bool safe = id_ == Msg::kAskRemovePlayer || id_ == Msg::kAskAbandon;
   bool first = true;
   for (const ButtonFacts& facts : kButtons) {
     if ((flags_ & facts.flag) == 0) continue;
-    auto* button = new QPushButton(facts.caption, this);
+    auto* button = new QPushButton(tr(facts.caption), this);
     button->setObjectName(facts.name);
-    button->setDefault(first);
+    button->setDefault(safe ? facts.flag == kMsgNo : first);
     const int result = facts.result;
     connect(button, &QPushButton::clicked, this, [this, result] { PressedButton(result); });
     row->addWidget(button);

@@ -30,6 +30,7 @@ class MessageScreen : public QDialog {
   void AddInputs(const MessageBox& box);
   void PressedButton(int result);
 
+  Msg id_;
   std::uint32_t flags_;
   int pressed_ = 0;
   QLineEdit* inputs_[2] = {nullptr, nullptr};

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "base/messages.h"
+#include "shell/table/languages.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "stats/events_log.h"
@@ -14,11 +15,16 @@
 namespace tessaryn {
 namespace {
 
-template <Msg label>
-void Tell(QString& text, const QStringList& paths) {
-  if (paths.isEmpty() || paths.front().isEmpty()) return;
-  text += FromCore(MessageText<label>()) + "\n    " + paths.join("\n    ") + "\n";
-}
+// What they are of, in the language of the window, with the paths under it.
+struct PathList {
+  int language;
+  QString text = {};
+
+  void Add(Msg label, const QStringList& paths) {
+    if (paths.isEmpty() || paths.front().isEmpty()) return;
+    text += FromCore(MessageTextIn(language, label)) + "\n    " + paths.join("\n    ") + "\n";
+  }
+};
 
 // Of the players, each told with the name.
 template <typename PathOf>
@@ -33,21 +39,21 @@ QStringList OfPlayers(const Game& game, const PathOf& pathOf) {
 }  // namespace
 
 QString PathsInUse(const Game& game) {
-  QString text;
-  Tell<Msg::kProgramLocation>(text, {FromCore(game.applicationFolder)});
-  Tell<Msg::kGameFile>(text, {FromCore(game.file.Path)});
-  Tell<Msg::kEventsLogFile>(text, {FromCore(EventsLogPath(game))});
-  Tell<Msg::kDiceRollFile>(text, {FromCore(game.rollFile.RollFileName)});
-  Tell<Msg::kProbabilityFile>(text, {FromCore(game.percentage.ProbFileName)});
-  Tell<Msg::kAutoBetFiles>(
-      text, OfPlayers(game, [&](int seat) { return game.autobet.Scripts[seat].ScriptFileName; }));
-  Tell<Msg::kSessionsLogFiles>(text, OfPlayers(game, [&](int seat) { return SessionsLogPath(game, seat); }));
-  return text.trimmed();
+  PathList list{game.settings.Language};
+  list.Add(Msg::kProgramLocation, {FromCore(game.applicationFolder)});
+  list.Add(Msg::kGameFile, {FromCore(game.file.Path)});
+  list.Add(Msg::kEventsLogFile, {FromCore(EventsLogPath(game))});
+  list.Add(Msg::kDiceRollFile, {FromCore(game.rollFile.RollFileName)});
+  list.Add(Msg::kProbabilityFile, {FromCore(game.percentage.ProbFileName)});
+  list.Add(Msg::kAutoBetFiles,
+           OfPlayers(game, [&](int seat) { return game.autobet.Scripts[seat].ScriptFileName; }));
+  list.Add(Msg::kSessionsLogFiles, OfPlayers(game, [&](int seat) { return SessionsLogPath(game, seat); }));
+  return list.text.trimmed();
 }
 
 PathScreen::PathScreen(const QString& paths, QWidget* parent) : QDialog(parent) {
   setObjectName("frmPath");
-  setWindowTitle(FromCore(MessageText<Msg::kPath>()));
+  setWindowTitle(FromCore(MessageTextIn(LanguageSpoken(), Msg::kPath)));
   auto* column = new QVBoxLayout(this);
   auto* text = new QPlainTextEdit(paths, this);
   text->setObjectName("picpath");

@@ -32,27 +32,25 @@ constexpr int kFieldTable = static_cast<int>(PayoffTableId::kField);
 struct BetRows {
   int first;
   int last;
-  const char* prefix;  // before the number; the bet's own name without
-  const char* suffix;
+  const char* caption;  // with a hole for the number, if there are several; the bet's own name without
 };
 constexpr BetRows kBetRows[] = {
-    {kCome, kCome, "Passline/Come (c.o.)", nullptr},
-    {kCome4, kCome4 + 5, "Pass/Come ", ""},
-    {kComeOdds4, kComeOdds4 + 5, "Pass/Come ", " Odds"},
-    {kDontCome, kDontCome, "Don't Pass/Come (c.o.)", nullptr},
-    {kDontCome4, kDontCome4 + 5, "DP/DC ", ""},
-    {kDontComeOdds4, kDontComeOdds4 + 5, "DP/DC ", " Odds"},
-    {kPlace4, kBuy4 + 5, nullptr, nullptr},
-    {kLay4, kLay4 + 5, nullptr, nullptr},
-    {kBig6, kCraps, nullptr, nullptr},
-    {kOver7, kPoint7, nullptr, nullptr},
+    {kCome, kCome, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "Passline/Come (c.o.)")},
+    {kCome4, kCome4 + 5, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "Pass/Come %1")},
+    {kComeOdds4, kComeOdds4 + 5, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "Pass/Come %1 Odds")},
+    {kDontCome, kDontCome, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "Don't Pass/Come (c.o.)")},
+    {kDontCome4, kDontCome4 + 5, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "DP/DC %1")},
+    {kDontComeOdds4, kDontComeOdds4 + 5, QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "DP/DC %1 Odds")},
+    {kPlace4, kBuy4 + 5, nullptr},
+    {kLay4, kLay4 + 5, nullptr},
+    {kBig6, kCraps, nullptr},
+    {kOver7, kPoint7, nullptr},
 };
 
 QString CaptionOf(const BetRows& rows, int bet) {
-  if (rows.prefix == nullptr) return FromCore(BetName(bet));
-  const QString prefix = QString::fromUtf8(rows.prefix);
-  if (rows.suffix == nullptr) return prefix;
-  return prefix + QString::number(FactsOf(bet).number) + QLatin1String(rows.suffix);
+  if (rows.caption == nullptr) return FromCore(BetName(bet));
+  const QString caption = PayoffPage::tr(rows.caption);
+  return rows.first == rows.last ? caption : caption.arg(FactsOf(bet).number);
 }
 
 constexpr const char* kSevenPointSevenCaptions[] = {
@@ -149,6 +147,10 @@ PayoffTables OriginalPayoffs(Currency unit) {
 }
 
 }  // namespace
+
+QString PayoffRowCaption(int table, int row) {
+  return table == 0 ? FromCore(BetName(row)) : CaptionOf(table, row);
+}
 
 // --- The cells.
 

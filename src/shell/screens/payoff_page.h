@@ -42,6 +42,9 @@ class PayoffPage : public QWidget, public PageRows {
   QMenu* presets_ = nullptr;
 };
 
+// What a row of a table of payoffs is paid for: "6 (3.3)", "2 points made"; of the first table, by bet.
+QString PayoffRowCaption(int table, int row);
+
 // The cells of a payoff: what it pays, "to" or "for", and for how much. Typing goes through them: Enter or
 // Tab goes on to the next one, t and f write the word between the numbers.
 class PayoffTable : public QTableView {

@@ -17,11 +17,14 @@ QStringList PrintHeading(const Game& game, const QString& what) {
 
 QString GameFileLine(const Game& game) {
   const std::string& path = game.file.Path;
-  return Translated("Game file:  ") + (path.empty() ? Translated("untitled") : FromCore(FileTitle(path)));
+  return Translated(QT_TRANSLATE_NOOP("PrintHeading", "Game file:  %1"))
+      .arg(path.empty() ? Translated(QT_TRANSLATE_NOOP("PrintHeading", "untitled"))
+                        : FromCore(FileTitle(path)));
 }
 
 QString PlayerLine(const Game& game, int seat) {
-  return Translated("Player:  ") + FromCore(game.table.seats[seat].SeatName);
+  return Translated(QT_TRANSLATE_NOOP("PrintHeading", "Player:  %1"))
+      .arg(FromCore(game.table.seats[seat].SeatName));
 }
 
 }  // namespace tessaryn

@@ -15,11 +15,13 @@
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "play/auto_roll.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/dice_boxes.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/probability_picture.h"
 #include "shell/screens/probability_table.h"
 #include "shell/screens/shooter_axes.h"
+#include "shell/table/languages.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -96,7 +98,7 @@ void ProbabilityPage::AddCommands(QBoxLayout& column) {
   editing->addAction(AddCommand("mnuAxes", tr("&Shooter's effectiveness ..."), &ProbabilityPage::Axes));
   QMenu* sets = AddMenuButton("mnuPresets", tr("Ready &dice"), this, *row)->menu();
   for (const ProbabilityPreset& preset : ProbabilityPresets()) {
-    QAction* action = sets->addAction(tr(preset.caption));
+    QAction* action = sets->addAction(CoreWords(preset.caption));
     connect(action, &QAction::triggered, this, [this, &preset] {
       const auto apply = [&] {
         ApplyProbabilityPreset(game_.percentage, preset);
@@ -129,7 +131,9 @@ void ProbabilityPage::AddCommands(QBoxLayout& column) {
   active_->setObjectName("cmdProbabilityActive");
   active_->setAccessibleName(tr("Percentage dice in use"));
   active_->setCheckable(true);
-  active_->setMinimumWidth(active_->fontMetrics().horizontalAdvance("Inactive") + 40);
+  active_->setMinimumWidth(
+      active_->fontMetrics().horizontalAdvance(FromCore(MessageTextIn(LanguageSpoken(), Msg::kInactive))) +
+      40);
   connect(active_, &QPushButton::clicked, this, &ProbabilityPage::ToggleActive);
 }
 
@@ -190,7 +194,7 @@ void ProbabilityPage::AddDisplay(QBoxLayout& column) {
   grid->setVerticalSpacing(4);
   display_ = new QButtonGroup(this);
   for (int mode = 0; mode < 4; ++mode) {
-    auto* radio = new QRadioButton(tr(kProbabilityDisplayCaptions[mode]), this);
+    auto* radio = new QRadioButton(CoreWords(kProbabilityDisplayCaptions[mode]), this);
     radio->setObjectName(QString("optProbability%1").arg(mode));
     display_->addButton(radio, mode);
     grid->addWidget(radio, mode % 2, mode / 2);
@@ -224,14 +228,14 @@ void ProbabilityPage::Refresh() {
 void ProbabilityPage::ShowDice() {
   const PercentageDice& dice = game_.percentage;
   shown_ = dice;
-  kind_->setText(tr(PercentageDiceCaption(dice)));
+  kind_->setText(CoreWords(PercentageDiceCaption(dice)));
   file_->setText(FileLine(dice));
   file_->setToolTip(FromCore(dice.ProbFileName));
   display_->button(dice.ProbDisplayMode)->setChecked(true);
   if (!outOf_->hasFocus()) outOf_->setText(QString::number(dice.ProbRollsOutOf, 'g', 15));
   active_->setChecked(dice.PercentageDiceActive);
   active_->setText(
-      FromCore(dice.PercentageDiceActive ? MessageText<Msg::kActive>() : MessageText<Msg::kInactive>()));
+      FromCore(MessageTextIn(LanguageSpoken(), dice.PercentageDiceActive ? Msg::kActive : Msg::kInactive)));
   QPalette colours = active_->palette();
   colours.setColor(QPalette::Button, dice.PercentageDiceActive ? kActiveColour : kInactiveColour);
   colours.setColor(QPalette::ButtonText, Qt::black);
@@ -386,6 +390,8 @@ PercentageDiceWindow::PercentageDiceWindow(Game& game, QWidget* parent)
 
 void PercentageDiceWindow::Refresh() { page_->Refresh(); }
 
+void PercentageDiceWindow::Retranslate() { page_->Retranslate(); }
+
 QList<QStringList> PercentageDiceWindow::Rows() const {
   const PercentageDice& dice = game_.percentage;
   const auto text = [&](int row, int column) { return FromCore(ProbabilityCellText(dice, row, column)); };
@@ -413,9 +419,9 @@ QList<QStringList> PercentageDiceWindow::Rows() const {
 
 QStringList PercentageDiceWindow::PrintHeadings() const {
   const PercentageDice& dice = game_.percentage;
-  QString shown = tr(kProbabilityDisplayCaptions[dice.ProbDisplayMode]).trimmed();
+  QString shown = CoreWords(kProbabilityDisplayCaptions[dice.ProbDisplayMode]).trimmed();
   if (dice.ProbDisplayMode >= kShowRollsOutOf) shown += " " + QString::number(dice.ProbRollsOutOf, 'g', 15);
-  return {tr(PercentageDiceCaption(dice)), tr("Probability file: %1").arg(FileLine(dice)), shown};
+  return {CoreWords(PercentageDiceCaption(dice)), tr("Probability file: %1").arg(FileLine(dice)), shown};
 }
 
 void PercentageDiceWindow::PaintPicture(QPainter& painter, const QRectF& area) const {

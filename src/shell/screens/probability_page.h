@@ -28,6 +28,8 @@ class ProbabilityPage : public QWidget {
   ProbabilityPage(Game& game, QWidget* parent);
   // Brings everything to the state, which scripts and game files change too. Cheap when nothing changed.
   void Refresh();
+  // Another language is spoken.
+  void Retranslate() { ShowDice(); }
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -89,6 +91,9 @@ class PercentageDiceWindow : public ToolWindow {
   QStringList PrintHeadings() const override;
   bool HasPicture() const override { return true; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override;
+
+ protected:
+  void Retranslate() override;
 
  private:
   Game& game_;

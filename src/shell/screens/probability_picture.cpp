@@ -144,9 +144,10 @@ void PaintProbabilityPicture(QPainter& painter, const QRectF& area, const Percen
     painter.drawText(QRectF(where.left(), where.top(), where.width(), line), Qt::AlignLeft | Qt::AlignVCenter,
                      text);
   };
-  heading(first, Words("Die 1 down, die 2 across: % points from fair"));
+  heading(first,
+          Words(QT_TRANSLATE_NOOP("ProbabilityPicture", "Die 1 down, die 2 across: % points from fair")));
   PaintMap(painter, first.adjusted(0, line, 0, 0), dice, ink);
-  heading(second, Words("Totals: filled as set, hatched fair"));
+  heading(second, Words(QT_TRANSLATE_NOOP("ProbabilityPicture", "Totals: filled as set, hatched fair")));
   PaintTotals(painter, second.adjusted(0, line, 0, 0), dice, ink);
   painter.restore();
 }
@@ -154,7 +155,7 @@ void PaintProbabilityPicture(QPainter& painter, const QRectF& area, const Percen
 ProbabilityPicture::ProbabilityPicture(const PercentageDice& dice, QWidget* parent)
     : QWidget(parent), dice_(dice) {
   setObjectName("picProbabilities");
-  setAccessibleName(Words("How the dice differ from fair ones"));
+  setAccessibleName(Words(QT_TRANSLATE_NOOP("ProbabilityPicture", "How the dice differ from fair ones")));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

@@ -77,7 +77,7 @@ class CellDelegate : public QStyledItemDelegate {
   QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const override {
     auto* box = new QLineEdit(parent);
     box->setObjectName("txtProbability");
-    box->setAccessibleName(Words("Probability"));
+    box->setAccessibleName(Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Probability")));
     box->setAlignment(Qt::AlignRight);
     box->setFrame(false);
     return box;
@@ -91,8 +91,11 @@ class CellDelegate : public QStyledItemDelegate {
 
 QVariant HeaderText(int section, bool across) {
   if (section < kFaces) return QString::number(section + 1);
-  if (across) return section == kFaceColumn ? Words("Die 1") : section == kTotalColumn ? Words("Totals") : "";
-  return section == kFaceRow ? Words("Die 2") : QString();
+  if (across)
+    return section == kFaceColumn    ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 1"))
+           : section == kTotalColumn ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Totals"))
+                                     : "";
+  return section == kFaceRow ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 2")) : QString();
 }
 
 }  // namespace
@@ -125,13 +128,13 @@ SheetPlace PlaceInSheet(ProbabilityCell cell) {
 QString ProbabilityCellName(ProbabilityCell cell) {
   switch (KindOfProbabilityCell(cell.row, cell.column)) {
     case ProbabilityCellKind::kTotal:
-      return Words("Total %1").arg(cell.column + 1);
+      return Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Total %1")).arg(cell.column + 1);
     case ProbabilityCellKind::kFace1:
-      return Words("Die 1 shows %1").arg(cell.row - 1);
+      return Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 1 shows %1")).arg(cell.row - 1);
     case ProbabilityCellKind::kFace2:
-      return Words("Die 2 shows %1").arg(cell.row - 1);
+      return Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 2 shows %1")).arg(cell.row - 1);
     case ProbabilityCellKind::kCombination:
-      return Words("Die 1 shows %1 and die 2 shows %2")
+      return Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 1 shows %1 and die 2 shows %2"))
           .arg(ProbabilityDie1(cell.row, cell.column))
           .arg(ProbabilityDie2(cell.row, cell.column));
     default:
@@ -173,8 +176,9 @@ QVariant ProbabilityModel::data(const QModelIndex& index, int role) const {
     case Qt::UserRole:
       return locked;
     case Qt::AccessibleTextRole:
-      return ProbabilityCellName(cell) + ": " + FromCore(ProbabilityCellText(dice_, cell.row, cell.column)) +
-             (locked ? Words(", locked") : QString());
+      return (locked ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "%1: %2, locked"))
+                     : QStringLiteral("%1: %2"))
+          .arg(ProbabilityCellName(cell), FromCore(ProbabilityCellText(dice_, cell.row, cell.column)));
     default:
       return {};
   }
@@ -187,7 +191,9 @@ QVariant ProbabilityModel::headerData(int section, Qt::Orientation orientation, 
     return FacePicture(section + 1, across ? kDiceBlue : kDiceRed);
   if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignCenter);
   if (role == Qt::AccessibleTextRole && section < kFaces)
-    return (across ? Words("Die 2 shows %1") : Words("Die 1 shows %1")).arg(section + 1);
+    return (across ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 2 shows %1"))
+                   : Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 1 shows %1")))
+        .arg(section + 1);
   return {};
 }
 

@@ -259,8 +259,9 @@ ReportChart TotalsChart(const ReportTable& report, bool hideProbable, bool skewe
                             : Said(QT_TRANSLATE_NOOP("Reports", "Probable"));
   for (const ReportRow& row : report.rows) {
     const ReportCell& actual = row.cells[kActualColumn];
-    chart.bars.push_back({ReportText(row.label).replace(", ", "\n"), FromCore(row.cells[kCountColumn].text),
-                          actual.value, hideProbable ? -1 : row.cells[kProbableColumn].value, actual.marked});
+    chart.bars.push_back({ReportText(report, row.label).replace(", ", "\n"),
+                          FromCore(row.cells[kCountColumn].text), actual.value,
+                          hideProbable ? -1 : row.cells[kProbableColumn].value, actual.marked});
   }
   return chart;
 }

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 
+#include "shell/screens/core_words.h"
+#include "shell/table/screen_tools.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -80,8 +82,20 @@ void SelectBets(Game& game, const BetSet& bets) {
   if (!shown.AllBets) bets.ForEach([&shown](int bet) { shown.Bets.push_back(bet); });
 }
 
-QString ReportText(const std::string& text) {
-  return text.empty() ? QString() : QCoreApplication::translate("Reports", text.c_str());
+bool SpeaksEnglish(std::string_view report) { return report == "summary" || report == "roll-totals"; }
+
+QString ReportText(const ReportTable& report, const std::string& text) {
+  return SpeaksEnglish(report.name) ? FromCore(text) : CoreWords(text);
+}
+
+QString PlayersSelectedWords(const Game& game, const ReportSelection& selection) {
+  const auto selected = static_cast<int>(SelectedPlayers(game, selection).size());
+  if (game.table.OccupiedSeats == 0) return QCoreApplication::translate("Reports", "No players present");
+  if (selected == 0) return QCoreApplication::translate("Reports", "No players selected");
+  if (selected == game.table.OccupiedSeats)
+    return QCoreApplication::translate("Reports", "All players selected");
+  if (selected == 1) return QCoreApplication::translate("Reports", "1 player selected");
+  return QCoreApplication::translate("Reports", "%1 players selected").arg(selected);
 }
 
 }  // namespace tessaryn

@@ -37,7 +37,11 @@ ReportSelection SelectionShown(const Game& game);
 // All of the table's bets, or these.
 void SelectBets(Game& game, const BetSet& bets);
 
+// Summary and Roll Totals are English in every language.
+bool SpeaksEnglish(std::string_view report);
 // A label or heading of a report in the user's language.
-QString ReportText(const std::string& text);
+QString ReportText(const ReportTable& report, const std::string& text);
+// "2 players selected"
+QString PlayersSelectedWords(const Game& game, const ReportSelection& selection);
 
 }  // namespace tessaryn

@@ -251,7 +251,7 @@ QString ReportModel::LongestText(int column) const {
     const std::string& text = cell < 0 ? row.label : row.cells[at].text;
     if (longest == nullptr || text.size() > longest->size()) longest = &text;
   }
-  return longest == nullptr ? QString() : cell < 0 ? ReportText(*longest) : FromCore(*longest);
+  return longest == nullptr ? QString() : cell < 0 ? ReportText(*report_, *longest) : FromCore(*longest);
 }
 
 bool ReportModel::HasSigns(int column) const {
@@ -288,7 +288,8 @@ QVariant ReportModel::data(const QModelIndex& index, int role) const {
     return (StripOf(index.column()) > 0 ? kStripGap : 0) + (inBlock ? kBlockIndent : 0);
   }
   if (label)
-    return role == Qt::DisplayRole ? QVariant(ReportText(line->heading ? row.block : row.label)) : QVariant();
+    return role == Qt::DisplayRole ? QVariant(ReportText(*report_, line->heading ? row.block : row.label))
+                                   : QVariant();
   const ReportCell* cell = CellAt(index.row(), index.column());
   if (cell == nullptr) return {};
   switch (role) {
@@ -317,7 +318,7 @@ QVariant ReportModel::headerData(int section, Qt::Orientation orientation, int r
   const Column& column = columns_[static_cast<std::size_t>(section)];
   // What stands beside the first strip from its first column on is not of that column.
   if (role != Qt::DisplayRole || label || (column.strip > 0 && column.cell == 0)) return {};
-  return ReportText(report_->columns[static_cast<std::size_t>(column.cell)]);
+  return ReportText(*report_, report_->columns[static_cast<std::size_t>(column.cell)]);
 }
 
 // --- The view.

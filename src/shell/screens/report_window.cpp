@@ -12,6 +12,7 @@
 #include <algorithm>
 
 #include "base/bet_catalogue.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/pick_list.h"
 #include "shell/screens/report_chart.h"
 #include "shell/screens/report_selection.h"
@@ -134,7 +135,7 @@ ReportWindow::ReportWindow(Game& game, int number, QWidget* parent)
       game_(game),
       screen_(ScreenOf(number)),
       kind_(*FindReport(screen_.report)) {
-  setWindowTitle(Said(kind_.title));
+  setWindowTitle(SpeaksEnglish(kind_.name) ? QString(kind_.title) : CoreWords(kind_.title));
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
   column->setSpacing(kSpace);
@@ -150,7 +151,7 @@ ReportWindow::ReportWindow(Game& game, int number, QWidget* parent)
 void ReportWindow::AddSelectors(QHBoxLayout& row) {
   if (kind_.ofScope) {
     hand_ = AddCombo(row, "cmbHand", Said(QT_TRANSLATE_NOOP("Reports", "Rolls that count")));
-    for (int scope = 0; scope < kScopes; ++scope) hand_->addItem(Said(ScopeName(scope)), scope);
+    for (int scope = 0; scope < kScopes; ++scope) hand_->addItem(CoreWords(ScopeName(scope)), scope);
     connect(hand_, &QComboBox::activated, this, [this](int scope) {
       game_.screen.Reports.Scope = scope;
       Selected();
@@ -166,7 +167,7 @@ void ReportWindow::AddSelectors(QHBoxLayout& row) {
   }
   if (screen_.window == kRollFreqsWindow) {
     item_ = AddCombo(row, "cmbFreqNum", Said(QT_TRANSLATE_NOOP("Reports", "Outcome of a roll")));
-    for (int item = kFirstItem; item <= kLastItem; ++item) item_->addItem(FromCore(RollItemText(item)), item);
+    for (int item = kFirstItem; item <= kLastItem; ++item) item_->addItem(RollItemWords(item), item);
     connect(item_, &QComboBox::activated, this, [this] {
       game_.screen.Reports.Item = item_->currentData().toInt();
       Selected();
@@ -217,7 +218,7 @@ void ReportWindow::AddBets(QHBoxLayout& row) {
   pick->setObjectName("cmdBets");
   pick->entries = [] {
     std::vector<PickList::Entry> bets;
-    for (int bet = 1; bet <= kBets; ++bet) bets.emplace_back(ReportText(BetName(bet)), bet);
+    for (int bet = 1; bet <= kBets; ++bet) bets.emplace_back(FromCore(BetName(bet)), bet);
     return bets;
   };
   pick->isPicked = [this](int bet) { return SelectionShown(game_).bets.Has(bet); };
@@ -407,11 +408,16 @@ void ReportWindow::ListPlayers() {
   player_->setCurrentIndex(std::max(0, player_->findData(game_.screen.Reports.Seat)));
 }
 
+QString ReportWindow::SelectedWords(const ReportSelection& selection) const {
+  return kind_.players == ReportPlayers::kSeveral ? PlayersSelectedWords(game_, selection)
+                                                  : ReportText(*report_, report_->selected);
+}
+
 // The names are told where the words before them don't say them all.
 void ReportWindow::ShowLabels(const ReportSelection& selection) {
   const bool several = kind_.players == ReportPlayers::kSeveral;
   const bool nobody = kind_.players == ReportPlayers::kOne && !IsOccupied(game_.table, selection.seat);
-  SetText(*players_, several || nobody ? ReportText(report_->selected) : QString());
+  SetText(*players_, several || nobody ? SelectedWords(selection) : QString());
   const int count = static_cast<int>(SelectedPlayers(game_, selection).size());
   QStringList names;
   if (count > 0 && (count == 1 || count < game_.table.OccupiedSeats))
@@ -450,7 +456,7 @@ void ReportWindow::ShowGaps() {
   for (std::size_t row = gaps.first + report_->gridRows; row < report_->rows.size(); row += report_->gridRows)
     gaps.strips.push_back(row);
   grid_->Show(report_, gaps);
-  SetText(*gaps_, ReportText(report_->rows[gaps.first].block));
+  SetText(*gaps_, ReportText(*report_, report_->rows[gaps.first].block));
   grid_->setAccessibleName(gaps_->text());
 }
 
@@ -476,14 +482,16 @@ void ReportWindow::resizeEvent(QResizeEvent* event) {
 // Marks have a column of their own, so that figures stay figures.
 QList<QStringList> ReportWindow::Rows() const {
   if (report_ == nullptr) return {};
-  QStringList headings{Said(report_->title.c_str())};
-  for (const std::string& column : report_->columns) headings += ReportText(column);
+  QStringList headings{ReportText(*report_, report_->title)};
+  for (const std::string& column : report_->columns) headings += ReportText(*report_, column);
   const bool marks = screen_.window == kRollTotalsWindow;
   QList<QStringList> rows{headings};
   if (marks) rows[0] += QStringLiteral("*");
   for (std::size_t i = 0; i < report_->rows.size(); ++i) {
     const ReportRow& row = report_->rows[i];
-    QStringList texts{ReportText(RowName(*report_, i))};
+    const bool named = RowName(*report_, i) != row.label;  // the label comes twice
+    QStringList texts{named ? ReportText(*report_, row.block) + " " + ReportText(*report_, row.label)
+                            : ReportText(*report_, row.label)};
     for (int column = 0; column < row.column; ++column) texts += QString();
     for (const ReportCell& cell : row.cells) texts += FromCore(cell.text).trimmed();
     while (texts.size() < headings.size()) texts += QString();
@@ -496,7 +504,7 @@ QList<QStringList> ReportWindow::Rows() const {
 QStringList ReportWindow::PrintHeadings() const {
   if (report_ == nullptr) return {windowTitle()};
   QStringList lines{windowTitle()};
-  for (const QString& line : {ReportText(report_->scope), FromCore(report_->selected),
+  for (const QString& line : {ReportText(*report_, report_->scope), SelectedWords(SelectionShown(game_)),
                               FromCore(report_->selectedNames), FromCore(report_->selectedBets)})
     if (!line.isEmpty()) lines += line;
   if (!report_->note.empty()) lines += FromCore(report_->note).split('\n');

@@ -64,6 +64,7 @@ class ReportWindow : public ToolWindow {
 
   void ShowSelectors(const ReportSelection& selection);
   void ListPlayers();
+  QString SelectedWords(const ReportSelection& selection) const;
   void ShowLabels(const ReportSelection& selection);
   void ShowTables();
   void ShowGaps();

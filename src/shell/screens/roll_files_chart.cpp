@@ -91,7 +91,8 @@ RollChartView::RollChartView(QWidget* parent) : QWidget(parent) {
 
 void RollChartView::Show(const RollChart& chart) {
   chart_ = chart;
-  setAccessibleName(Words("Distribution of the totals: %1").arg(chart.heading));
+  setAccessibleName(
+      Words(QT_TRANSLATE_NOOP("RollChart", "Distribution of the totals: %1")).arg(chart.heading));
   update();
 }
 
@@ -106,14 +107,17 @@ bool RollChartView::event(QEvent* event) {
   const auto* help = static_cast<QHelpEvent*>(event);
   const int total = std::clamp(2 + (help->pos().x() - 8) * 11 / std::max(1, width() - 16), 2, 12);
   const RollTotals& totals = chart_.totals;
-  QString text = Words("%1: %2 of %3 rolls, %4%, fair dice %5%")
+  QString text = Words(QT_TRANSLATE_NOOP("RollChart", "%1: %2 of %3 rolls, %4%, fair dice %5%"))
                      .arg(total)
                      .arg(CountText(totals.Total[static_cast<std::size_t>(total)]))
                      .arg(CountText(totals.Rolls))
                      .arg(ShareOf(totals, total) * 100, 0, 'f', 3)
                      .arg(FairShare(total) * 100, 0, 'f', 3);
-  if (FarFromFair(totals, total) != 0) text += Words(", more than two standard errors away");
-  if (totals.Faults > 0) text += "\n" + Words("%1 values are no rolls").arg(CountText(totals.Faults));
+  if (FarFromFair(totals, total) != 0)
+    text = Words(QT_TRANSLATE_NOOP("RollChart", "%1, more than two standard errors away")).arg(text);
+  if (totals.Faults > 0)
+    text +=
+        "\n" + Words(QT_TRANSLATE_NOOP("RollChart", "%1 values are no rolls")).arg(CountText(totals.Faults));
   QToolTip::showText(help->globalPos(), text, this);
   return true;
 }

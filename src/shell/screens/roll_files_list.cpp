@@ -334,7 +334,10 @@ void RollList::Tell() {
     const RollSelection selection = SelectedRolls(file_);
     text = tr("Dice rolls, next roll %1 of %2").arg(file_.RollFileCursor).arg(Length());
     if (selection.Count > 1)
-      text += tr(", rolls %1 to %2 selected").arg(selection.First).arg(selection.First + selection.Count - 1);
+      text = tr("%1, rolls %2 to %3 selected")
+                 .arg(text)
+                 .arg(selection.First)
+                 .arg(selection.First + selection.Count - 1);
   }
   if (text != accessibleName()) setAccessibleName(text);
 }

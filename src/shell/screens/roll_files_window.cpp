@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QButtonGroup>
+#include <QFile>
 #include <QGridLayout>
 #include <QIntValidator>
 #include <QKeyEvent>
@@ -32,6 +33,12 @@
 #include "state/show_message.h"
 
 namespace tessaryn {
+
+// How the list looks is kept with the places of the windows.
+namespace {
+int& HighlightKept(Game& game) { return game.screen.FurtherWindows[1]; }
+int& FontSizeKept(Game& game) { return game.screen.FurtherWindows[2]; }
+}  // namespace
 
 // When a command can act.
 enum class RollCommandNeeds { kNothing, kFile, kSelection, kUndo, kRedo };
@@ -84,13 +91,14 @@ const RollFilesWindow::Command RollFilesWindow::kCommands[] = {
 namespace {
 
 constexpr std::int32_t kRollsAtATime = 1 << 20;
-constexpr std::int32_t kMostRowsTaken = 200'000;  // more is for the text file, which is written as it is read
+constexpr std::int32_t kRowsAtATime = 4'096;
 constexpr int kLeastFont = 8;
 constexpr int kMostFont = 16;
-constexpr const char* kTitles[3] = {"Dice Roll File", "Record Dice Rolls During Game Play",
-                                    "Playback Dice Rolls During Game Play"};
-constexpr const char* kTitleEnter = "Record Dice Rolls";
-constexpr const char* kTitleEdit = "Dice Roll File";
+constexpr const char* kTitles[3] = {QT_TRANSLATE_NOOP("Files", "Dice Roll File"),
+                                    QT_TRANSLATE_NOOP("Files", "Record Dice Rolls During Game Play"),
+                                    QT_TRANSLATE_NOOP("Files", "Playback Dice Rolls During Game Play")};
+constexpr const char* kTitleEnter = QT_TRANSLATE_NOOP("Files", "Record Dice Rolls");
+constexpr const char* kTitleEdit = kTitles[0];
 constexpr QSize kPadButton{40, 22};
 constexpr int kPadFace = 14;
 
@@ -176,9 +184,11 @@ void RollFilesWindow::AddHighlights(QMenu& menu) {
     QAction* action = kinds->addAction(tr(kRollHighlightKinds[kind].caption));
     action->setObjectName(kRollHighlightKinds[kind].name);
     action->setCheckable(true);
-    action->setChecked(kind == 0);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, kind] { list_->SetHighlight(kind); });
+    connect(action, &QAction::triggered, this, [this, kind] {
+      HighlightKept(game_) = kind;
+      ShowKept();
+    });
   }
 }
 
@@ -190,9 +200,11 @@ void RollFilesWindow::AddFontSizes(QMenu& menu) {
     QAction* action = sizes->addAction(text);
     action->setObjectName(QString("mnuFontSize%1").arg(points));
     action->setCheckable(true);
-    action->setChecked(points == 0);
     group->addAction(action);
-    connect(action, &QAction::triggered, this, [this, points] { list_->SetFontSize(points); });
+    connect(action, &QAction::triggered, this, [this, points] {
+      FontSizeKept(game_) = points;
+      ShowKept();
+    });
   };
   add(tr("&As the screen"), 0);
   for (int points = kLeastFont; points <= kMostFont; points += 2) add(QString::number(points), points);
@@ -235,6 +247,13 @@ QWidget* RollFilesWindow::MakeSide() {
   side->setWidget(inside);
   side->setFixedWidth(inside->minimumSizeHint().width() + 18);
   return side;
+}
+
+void RollFilesWindow::Retranslate() {
+  auto* side = findChild<QScrollArea*>("scrRollTools");
+  side->widget()->layout()->invalidate();
+  side->setFixedWidth(side->widget()->minimumSizeHint().width() + 18);
+  ShowCount(SelectedRolls(game_.rollFile).Count <= 1);
 }
 
 // The mouse's; by the keyboard two digits make a roll.
@@ -363,7 +382,19 @@ bool RollFilesWindow::eventFilter(QObject* watched, QEvent* event) {
 
 // --- Showing.
 
+void RollFilesWindow::ShowKept() {
+  const int kind = std::clamp(HighlightKept(game_), 0, kRollHighlights - 1);
+  const int kept = FontSizeKept(game_);
+  const bool sized = kept >= kLeastFont && kept <= kMostFont && kept % 2 == 0;
+  const int points = sized ? kept : 0;
+  menus_->findChild<QAction*>(kRollHighlightKinds[kind].name)->setChecked(true);
+  menus_->findChild<QAction*>(QString("mnuFontSize%1").arg(points))->setChecked(true);
+  if (kind != list_->Highlight()) list_->SetHighlight(kind);
+  if (points != list_->FontSize()) list_->SetFontSize(points);
+}
+
 void RollFilesWindow::Refresh() {
+  ShowKept();
   const RollFile& file = game_.rollFile;
   const bool moved = file.RollFileCursor != shownCursor_ || file.RollFileSelectEnd != shownEnd_;
   const RollFileMark mark = MarkOf(file);
@@ -379,7 +410,7 @@ void RollFilesWindow::Refresh() {
   name_->setToolTip(FromCore(file.RollFileName));
   const RollSelection selection = SelectedRolls(file);
   QString count = open ? tr("%1 rolls").arg(NumberText(RollFileLength(file))) : QString();
-  if (selection.Count > 1) count += tr(", %1 selected").arg(NumberText(selection.Count));
+  if (selection.Count > 1) count = tr("%1, %2 selected").arg(count, NumberText(selection.Count));
   count_->setText(count);
   if (!next_->hasFocus()) next_->setText(open ? QString::number(file.RollFileCursor) : QString());
   next_->setEnabled(open);
@@ -441,7 +472,7 @@ void RollFilesWindow::ShowCount(bool all) {
     chart.heading = tr("%1 rolls counted ...").arg(rolls);
   else
     chart.heading = all ? tr("All %1 rolls").arg(rolls) : tr("The %1 selected rolls").arg(rolls);
-  chart.heading += tr(" \u00b7 % \u00b7 hatched: fair");
+  chart.heading = tr("%1 \u00b7 % \u00b7 hatched: fair").arg(chart.heading);
   chart_->Show(chart);
 }
 
@@ -608,13 +639,14 @@ void RollFilesWindow::SetFormat() {
 // --- Paper.
 
 bool RollFilesWindow::ReadyToPrint() {
-  constexpr const char* kTitle = "Print Dice Roll File";
+  constexpr const char* kTitle = QT_TRANSLATE_NOOP("Files", "Print Dice Roll File");
   if (!IsRollFileOpen(game_.rollFile))
     TellOpenFileFirst(game_, kTitle);
   else if (RollFileLength(game_.rollFile) == 0)
     TellDiceProblem(game_, kTitle, MessageText<Msg::kNoRollsToPrint>());
   else if (!IsRollFormatUsable(game_.rollFile.RollFileOutputFormat))
-    TellDiceProblem(game_, "Print Dice Rolls", MessageText<Msg::kNoDiceInFormat>());
+    TellDiceProblem(game_, QT_TRANSLATE_NOOP("Files", "Print Dice Rolls"),
+                    MessageText<Msg::kNoDiceInFormat>());
   else
     return true;
   return false;
@@ -631,26 +663,40 @@ RollSelection RollsToPrint(const RollFile& file) {
   return selection.Count > 1 ? selection : RollSelection{1, RollFileLength(file)};
 }
 
-// How many rows there are, and of how many.
-QString RollsTaken(const RollFile& file) {
-  const std::int32_t count = RollsToPrint(file).Count;
-  if (count <= kMostRowsTaken) return NumberText(count);
-  return QObject::tr("%1 of %2").arg(NumberText(kMostRowsTaken), NumberText(count));
-}
+// Through a handle of its own: the game may go on with the file meanwhile.
+struct RollRows : RowSource {
+  RollRows(const RollFile& file, RollSelection of)
+      : format(file.RollFileOutputFormat), taken(of), bytes(FromCore(file.RollFileName)) {
+    const bool can = IsRollFileOpen(file) && IsRollFormatUsable(format);
+    if (!can || !bytes.open(QIODevice::ReadOnly)) taken.Count = -1;
+  }
+  qint64 Count() const override { return qint64{taken.Count} + 1; }
+  QStringList Row(qint64 n) const override {
+    if (n <= 0) return {FromCore(format)};
+    if (n < first || n >= first + read.size()) {
+      first = n;
+      bytes.seek(taken.First + n - 2);
+      read = bytes.read(std::min<qint64>(kRowsAtATime, taken.Count - n + 1));
+    }
+    if (read.isEmpty()) return {};  // it has become shorter
+    const auto roll = static_cast<unsigned char>(read[n - first]);
+    return {FromCore(RollText(format, taken.First + n - 1, roll))};
+  }
+
+  std::string format;
+  RollSelection taken;
+  mutable QFile bytes;
+  mutable qint64 first = 0;
+  mutable QByteArray read;
+};
+
+QString RollsTaken(const RollFile& file) { return NumberText(RollsToPrint(file).Count); }
 
 }  // namespace
 
-QList<QStringList> RollFilesWindow::Rows() const {
-  const std::string& format = game_.rollFile.RollFileOutputFormat;
-  if (!IsRollFormatUsable(format)) return {};
-  QList<QStringList> rows{{FromCore(format)}};
-  const RollSelection taken = RollsToPrint(game_.rollFile);
-  std::vector<unsigned char> rolls;
-  if (!ReadRolls(game_.rollFile, taken.First, std::min(taken.Count, kMostRowsTaken), rolls).empty())
-    return {};
-  std::int64_t number = taken.First;
-  for (const unsigned char roll : rolls) rows.append({FromCore(RollText(format, number++, roll))});
-  return rows;
+std::unique_ptr<RowSource> RollFilesWindow::TakeRows() const {
+  FlushRollFile(game_.rollFile);
+  return std::make_unique<RollRows>(game_.rollFile, RollsToPrint(game_.rollFile));
 }
 
 QString RollFilesWindow::PrintTitle() const { return tr("Print Dice Rolls"); }

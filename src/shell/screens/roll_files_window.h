@@ -32,7 +32,7 @@ class RollFilesWindow : public ToolWindow {
 
   void Refresh() override;
   // The selected rolls in the output format, a row each; all of them when no more than one is selected.
-  QList<QStringList> Rows() const override;
+  std::unique_ptr<RowSource> TakeRows() const override;
   QStringList PrintHeadings() const override;
   // The title of the boxes about printing, what is told before it, and whether there is anything to print; if
   // not, it has been told.
@@ -45,6 +45,7 @@ class RollFilesWindow : public ToolWindow {
   struct Command;
 
  protected:
+  void Retranslate() override;
   void timerEvent(QTimerEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -66,6 +67,7 @@ class RollFilesWindow : public ToolWindow {
   bool MayEdit(const char* title);
   void Edit(const char* title, RollPlace place, const std::function<std::string()>& edit);
   void ShowCommands();
+  void ShowKept();
   void ShowRecorder();
   void Count();
   void ShowCount(bool all);

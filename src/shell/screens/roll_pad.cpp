@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "play/auto_roll.h"
+#include "shell/screens/core_words.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "state/game.h"
@@ -343,7 +344,7 @@ void RollPad::AddLayouts(QMenu& menu) {
   QMenu* display = menu.addMenu(tr("&Display"));
   display->menuAction()->setObjectName("mnuRYONDisplay");
   for (int layout = 0; layout < kRollPadLayouts; ++layout) {
-    QAction* action = display->addAction(tr(kRollPadCaptions[layout]));
+    QAction* action = display->addAction(CoreWords(kRollPadCaptions[layout]));
     action->setObjectName(QString("mnuRYONDisplay%1").arg(layout));
     action->setCheckable(true);
     action->setChecked(layout == grid_->PadLayout());

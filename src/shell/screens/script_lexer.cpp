@@ -2,6 +2,7 @@
 
 #include <Qsci/qsciscintilla.h>
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QPalette>
 #include <algorithm>
@@ -42,7 +43,8 @@ constexpr int kLevelMask = QsciScintillaBase::SC_FOLDLEVELNUMBERMASK;
 ScriptLexer::ScriptLexer(QObject* parent) : QsciLexerCustom(parent) {}
 
 QString ScriptLexer::description(int style) const {
-  return style >= 0 && style <= kSpanKinds ? tr(kStyles[style].name) : QString();
+  return style >= 0 && style <= kSpanKinds ? QCoreApplication::translate("ScriptLexer", kStyles[style].name)
+                                           : QString();
 }
 
 const char* ScriptLexer::wordCharacters() const {
@@ -108,6 +110,25 @@ void ScriptLexer::StyleLine(int line) {
   const int flags = step.behind > 0 ? QsciScintillaBase::SC_FOLDLEVELHEADERFLAG : 0;
   text.SendScintilla(QsciScintillaBase::SCI_SETFOLDLEVEL, static_cast<unsigned long>(line),
                      static_cast<long>((level & kLevelMask) | flags | (next << 16)));
+}
+
+QVector<ColoredPart> ColoredScriptLine(const QString& line, bool dark) {
+  const std::string bytes = line.toStdString();
+  const auto text = [&bytes](std::size_t begin, std::size_t end) {
+    return QString::fromStdString(bytes.substr(begin, end - begin));
+  };
+  QVector<ColoredPart> parts;
+  std::size_t done = 0;
+  for (const ScriptSpan& span : SpansOf(bytes, {})) {
+    const StyleRow& style = kStyles[StyleOf(span.kind)];
+    // What stands for anything, as in a pattern, is no fault on a page.
+    const bool known = span.kind != SpanKind::kUnknown;
+    parts.append({text(done, span.begin), {}});
+    parts.append({text(span.begin, span.end), known ? QColor(dark ? style.dark : style.light) : QColor()});
+    done = span.end;
+  }
+  parts.append({text(done, bytes.size()), {}});
+  return parts;
 }
 
 }  // namespace tessaryn

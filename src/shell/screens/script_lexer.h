@@ -4,6 +4,8 @@
 #include <Qsci/qscilexercustom.h>
 
 #include <QColor>
+#include <QString>
+#include <QVector>
 
 #include "state/script_types.h"
 
@@ -28,5 +30,12 @@ class ScriptLexer : public QsciLexerCustom {
 
   ScriptSurroundings surroundings_;
 };
+
+// A line of a script in its colours, for pages that show one. A part without a colour is plain text.
+struct ColoredPart {
+  QString text;
+  QColor color;
+};
+QVector<ColoredPart> ColoredScriptLine(const QString& line, bool dark);
 
 }  // namespace tessaryn

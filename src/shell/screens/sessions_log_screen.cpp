@@ -17,6 +17,7 @@
 #include <algorithm>
 
 #include "base/interrupts.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
@@ -27,9 +28,17 @@ namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{"Open Sessions Log", "Sessions logs (*.slg);;All files (*)", ".slg", false, false,
+const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Sessions Log"),
+                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
+                           ".slg",
+                           false,
+                           false,
                            kSessionsLogFolder};
-const FilePurpose kSaveLog{"Save Sessions Log As", "Sessions logs (*.slg);;All files (*)", ".slg", true, true,
+const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Sessions Log As"),
+                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
+                           ".slg",
+                           true,
+                           true,
                            kSessionsLogFolder};
 
 constexpr int kLookEvery = 40;               // milliseconds
@@ -119,10 +128,11 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   };
   connect(rows_, &RowView::Scrolled, this, [this] { game_.sessions.SessionsTopRow = rows_->TopRow(); });
   connect(histogram_, &SessionsHistogram::Pointed, this, &SessionsLogScreen::ShowPointed);
-  connect(&pass_, &SessionsPass::Ended, this, &SessionsLogScreen::PassEnded);
-  connect(&search_, &SessionsPass::Ended, this, &SessionsLogScreen::FindEnded);
+  connect(&pass_, &LongWork::Ended, this, &SessionsLogScreen::PassEnded);
+  connect(&search_, &LongWork::Ended, this, &SessionsLogScreen::FindEnded);
+  connect(&change_, &LongWork::Ended, this, &SessionsLogScreen::Recompute);
   connect(&look_, &QTimer::timeout, this, [this] {
-    if (!pass_.IsOn() && !search_.IsOn()) look_.stop();
+    if (!pass_.IsOn() && !search_.IsOn() && !change_.IsOn()) look_.stop();
     if (!pass_.IsOn()) Compute();
     ShowWait();
   });
@@ -208,8 +218,7 @@ QWidget* SessionsLogScreen::MakeChoices() {
   stat_->setAccessibleName(tr("Measure"));
   stat_->setMaxVisibleItems(kSessionMeasures);
   for (int measure = 0; measure < kSessionMeasures; ++measure)
-    stat_->addItem(
-        QString::fromUtf8(MeasureName(measure).data(), static_cast<qsizetype>(MeasureName(measure).size())));
+    stat_->addItem(CoreWords(std::string(MeasureName(measure))));
   for (QComboBox* box : {player_, stat_}) {
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(box == stat_ ? 14 : 6);
@@ -424,7 +433,7 @@ void SessionsLogScreen::ListPlayers() {
     for (const auto& [name, seat] : players) player_->addItem(name, seat);
   }
   player_->setCurrentIndex(player_->findData(game_.sessions.SessionsSeat));
-  for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0);
+  for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0 && !change_.IsOn());
 }
 
 // Of a log that isn't there yet: none.
@@ -482,7 +491,7 @@ void SessionsLogScreen::Begin(std::int64_t sessions) {
   const std::int64_t passes = 3 + (limits ? 3 : 0) + (byDeviations ? 2 : 0);
   game_.sessions.Files.Calculating = true;
   pass_.Start(
-      [result = coming_, limits, sessions](const SessionsGoOn& goOn) {
+      [result = coming_, limits, sessions](const LongWork::GoOn& goOn) {
         SessionsLogFile file;
         if (result->path.empty() || !IsThere(result->path)) return;
         result->problem = OpenSessionsFile(file, result->path, SessionsAccess::kRead);
@@ -528,6 +537,7 @@ void SessionsLogScreen::TellProblem() {
 
 // The strip's button: stops what is on, or begins what was stopped.
 void SessionsLogScreen::StopPass() {
+  if (change_.IsOn()) return change_.Cancel();
   if (search_.IsOn()) return search_.Cancel();
   if (pass_.IsOn()) {
     stopped_ = true;
@@ -554,12 +564,15 @@ void SessionsLogScreen::Refresh() {
 // --- Showing.
 
 void SessionsLogScreen::ShowWait() {
+  const bool changing = change_.IsOn();
   const bool calculating = pass_.IsOn() && pass_.IsLong() && coming_->sessions >= kAnnounced;
   const bool searching = search_.IsOn() && search_.IsLong();
   const bool problem = !pass_.IsOn() && !result_->problem.empty();
   const bool stopped = stopped_ && !pass_.IsOn();
   QString text;
-  if (calculating)
+  if (changing)
+    text = change_.Text();
+  else if (calculating)
     text = FromCore(MessageText<Msg::kCalculating>()).replace('\n', ' ');
   else if (searching)
     text = tr("Searching ...");
@@ -569,11 +582,12 @@ void SessionsLogScreen::ShowWait() {
     text = result_->overflow ? tr("The statistics could not be calculated.") : FromCore(result_->problem);
   waitText_->setText(text);
   waitText_->setToolTip(text);
-  waitBar_->setVisible(calculating || searching);
-  const SessionsPass& shown = searching ? search_ : pass_;
+  const bool working = changing || calculating || searching;
+  waitBar_->setVisible(working);
+  const LongWork& shown = changing ? change_ : searching ? search_ : pass_;
   waitBar_->setValue(static_cast<int>(100 * shown.Share()));
-  cancel_->setVisible(calculating || searching || stopped);
-  cancel_->setText(stopped ? tr("&Calculate") : tr("&Cancel"));
+  cancel_->setVisible(working || stopped);
+  cancel_->setText(stopped && !working ? tr("&Calculate") : tr("&Cancel"));
   wait_->setVisible(!text.isEmpty());
 }
 
@@ -610,7 +624,7 @@ void SessionsLogScreen::ShowStatistics() {
   const SessionsStatistics& s = result_->statistics;
   for (int label = 0; label < kStatisticLabels; ++label) {
     const std::string_view name = StatisticName(label);
-    QString text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    QString text = CoreWords(std::string(name));
     if (name == "Median" && s.MedianMarked) text += " *";
     statNames_[label]->setText(text);
     statNames_[label]->setToolTip(
@@ -726,14 +740,64 @@ void SessionsLogScreen::TakeBounds(OutlierRule rule) {
 
 // --- Commands.
 
-void SessionsLogScreen::Tell(const char* title, const std::string& problem) {
-  if (!problem.empty()) ShowMessage<Msg::kFileProblem>(game_, With<"title">(title), With<"problem">(problem));
+void SessionsLogScreen::Tell(const QString& title, const std::string& problem) {
+  if (!problem.empty())
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(ToCore(title)), With<"problem">(problem));
+}
+
+// One whose change would keep the window from drawing is changed beside it.
+bool SessionsLogScreen::IsLarge(const std::string& path) const {
+  return QFileInfo(FromCore(path)).size() >= kAnnounced * qint64{kRecordBytes};
+}
+
+void SessionsLogScreen::Change(const QString& text, const SessionsChange& change,
+                               void (SessionsLogScreen::*tell)(const std::string&)) {
+  const std::string path = SessionsLogPath(game_, game_.sessions.SessionsSeat);
+  const qint64 bytes = QFileInfo(FromCore(path)).size() + QFileInfo(FromCore(change.Other)).size();
+  change_.Begin(
+      text, bytes / qint64{kRecordBytes},
+      [path, change](const LongWork::GoOn& goOn) { return RewriteSessionsLog(path, change, goOn); },
+      [this, tell](const std::string& problem) { (this->*tell)(problem); });
+  look_.start(kLookEvery);
+}
+
+void SessionsLogScreen::Copy(const std::string& path, bool keepName) {
+  const int seat = game_.sessions.SessionsSeat;
+  const std::string player = game_.table.seats[seat].SeatName;
+  const std::string old = keepName ? DefaultSessionsLogName(game_, player) : SessionsLogPath(game_, seat);
+  const auto copied = std::make_shared<std::int64_t>();
+  change_.Begin(
+      tr("Saving the log ..."), QFileInfo(FromCore(old)).size() / qint64{kRecordBytes},
+      [old, path, copied](const LongWork::GoOn& goOn) {
+        SessionsLogFile file;
+        const std::string problem = OpenSessionsFile(file, old, SessionsAccess::kRead);
+        return problem.empty() ? CopySessionsLog(file, path, copied.get(), goOn) : problem;
+      },
+      [this, seat, player, old, path, copied, keepName](std::string problem) {
+        // Who left the table meanwhile, or opened another log, has the copy and that is all.
+        const bool there =
+            game_.table.seats[seat].SeatName == player && (keepName || SessionsLogPath(game_, seat) == old);
+        if (problem.empty() && there) problem = UseSessionsLogCopy(game_, seat, path, *copied, keepName);
+        Tell(FileTitleOf(kSaveLog), problem);
+      });
+  look_.start(kLookEvery);
+}
+
+void SessionsLogScreen::TellNotDeleted(const std::string& problem) {
+  if (!problem.empty()) ShowMessage<Msg::kSessionsNotDeleted>(game_, With<"problem">(problem));
+}
+
+void SessionsLogScreen::TellFailed(const std::string& problem) {
+  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(problem));
 }
 
 // The user wants the old log kept under another name; nothing begins anew without it.
 void SessionsLogScreen::KeepOld() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (!path.empty()) Tell(kSaveLog.title, KeepSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
+  const int seat = game_.sessions.SessionsSeat;
+  if (path.empty()) return;
+  if (IsLarge(DefaultSessionsLogName(game_, game_.table.seats[seat].SeatName))) return Copy(path, true);
+  Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, seat, path));
 }
 
 void SessionsLogScreen::NewLog() {
@@ -748,7 +812,11 @@ void SessionsLogScreen::NewAllLogs() {
 
 void SessionsLogScreen::OpenLog() {
   const std::string path = ChooseFile(game_, this, kOpenLog);
-  if (path.empty()) return;
+  if (!path.empty()) OpenPath(path);
+}
+
+void SessionsLogScreen::OpenPath(const std::string& path) {
+  ChooseSeat();
   const std::string problem = OpenSessionsLog(game_, game_.sessions.SessionsSeat, path);
   if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotOpened>(game_, With<"problem">(problem));
   Recompute();
@@ -757,20 +825,37 @@ void SessionsLogScreen::OpenLog() {
 void SessionsLogScreen::SaveAs() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
   if (path.empty()) return;
-  Tell(kSaveLog.title, SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
+  if (IsLarge(SessionsLogPath(game_, game_.sessions.SessionsSeat))) {
+    Copy(path, false);
+    return Refresh();
+  }
+  Tell(FileTitleOf(kSaveLog), SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
   Recompute();
 }
 
 void SessionsLogScreen::Merge() {
   const std::string path = ChooseFile(game_, this, kOpenLog);
   if (path.empty()) return;
-  const std::string problem = MergeSessionsLog(game_, game_.sessions.SessionsSeat, path);
-  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(problem));
+  if (IsLarge(path)) {
+    SessionsLogFile there;  // its log may not be there yet
+    const std::string own = SessionsLogPath(game_, game_.sessions.SessionsSeat);
+    const std::string problem = OpenSessionsFile(there, own, SessionsAccess::kCreate);
+    if (!problem.empty()) return TellFailed(problem);
+    Change(tr("Merging the logs ..."), {0, 0, path}, &SessionsLogScreen::TellFailed);
+    return Refresh();
+  }
+  TellFailed(MergeSessionsLog(game_, game_.sessions.SessionsSeat, path));
   Recompute();
 }
 
 void SessionsLogScreen::DeleteSome() {
-  if (DeleteSessions(game_, game_.sessions.SessionsSeat)) Recompute();
+  const int seat = game_.sessions.SessionsSeat;
+  if (!IsLarge(SessionsLogPath(game_, seat))) return DeleteSessions(game_, seat) ? Recompute() : void();
+  SessionsChange change;
+  if (!AskDeleteSessions(game_, change.First, change.Last)) return;
+  if (change.First < 1) return TellNotDeleted(MessageText<Msg::kSessionsOutOfRange>());
+  Change(tr("Deleting sessions ..."), change, &SessionsLogScreen::TellNotDeleted);
+  Refresh();
 }
 
 void SessionsLogScreen::DeleteAll() {
@@ -801,7 +886,7 @@ void SessionsLogScreen::FindFrom(std::int64_t from, int step) {
   const std::int64_t ahead = step > 0 ? result_->sessions - from : from;
   search_.Start(
       [hit = hit_, path = SessionsLogPath(game_, seat), measure = QueryOf(game_.sessions).Measure,
-       value = game_.sessions.FindValue, from, step](const SessionsGoOn& goOn) {
+       value = game_.sessions.FindValue, from, step](const LongWork::GoOn& goOn) {
         SessionsLogFile file;
         if (!IsThere(path)) return;
         hit->problem = OpenSessionsFile(file, path, SessionsAccess::kRead);
@@ -818,7 +903,7 @@ void SessionsLogScreen::FindEnded() {
     if (!hit_->problem.empty()) {
       ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(hit_->problem));
     } else if (session == 0) {
-      Tell("Search Results", tr("Value not found.").toStdString());
+      Tell(tr("Search Results"), tr("Value not found.").toStdString());
     } else {
       game_.sessions.SessionsTopRow = session;
       game_.sessions.SessionsDisplayMode = 1;
@@ -940,7 +1025,7 @@ QStringList SessionsLogScreen::PrintFacts(int pages) const {
 
 bool SessionsLogScreen::ReadyToPrint() {
   if (result_->statistics.Included > 0) return true;
-  Tell(qPrintable(PrintTitle()), tr("There are no sessions selected for printing.").toStdString());
+  Tell(PrintTitle(), tr("There are no sessions selected for printing.").toStdString());
   return false;
 }
 

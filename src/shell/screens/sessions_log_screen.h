@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <memory>
 
-#include "shell/screens/sessions_log_pass.h"
+#include "shell/screens/long_work.h"
 #include "shell/screens/tool_window.h"
 #include "stats/sessions_log.h"
 
@@ -46,6 +46,9 @@ class SessionsLogScreen : public ToolWindow {
   QString PrintTitle() const override;
   QStringList PrintFacts(int pages) const override;
   bool ReadyToPrint() override;
+
+  // Makes it the log of the player shown. Requires one.
+  void OpenPath(const std::string& path);
 
   // The log's figures are those on the screen; for who waits for them.
   bool IsUpToDate() const;
@@ -116,7 +119,13 @@ class SessionsLogScreen : public ToolWindow {
   void FindFrom(std::int64_t from, int step);
   void FindEnded();
   void KeepOld();
-  void Tell(const char* title, const std::string& problem);
+  bool IsLarge(const std::string& path) const;
+  void Change(const QString& text, const SessionsChange& change,
+              void (SessionsLogScreen::*tell)(const std::string&));
+  void Copy(const std::string& path, bool keepName);
+  void TellNotDeleted(const std::string& problem);
+  void TellFailed(const std::string& problem);
+  void Tell(const QString& title, const std::string& problem);
   void Recompute();
 
   Game& game_;
@@ -127,8 +136,9 @@ class SessionsLogScreen : public ToolWindow {
   bool shownCurve_ = false;
   bool again_ = false;    // what was computed last is no longer so
   bool stopped_ = false;  // by the user, until something else is asked
-  SessionsPass pass_;
-  SessionsPass search_;
+  LongWork pass_;
+  LongWork search_;
+  FileWork change_;  // of a large log
   std::shared_ptr<Hit> hit_;
   QTimer look_;  // at the passes, while one is on or due
   qint64 lastPass_ = 0;

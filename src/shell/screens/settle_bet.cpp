@@ -1,5 +1,6 @@
 #include "shell/screens/settle_bet.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
@@ -21,24 +22,24 @@ namespace {
 constexpr int kDiceHeight = 44;
 constexpr int kChoices = 7;
 
-const char* const kWinButtons[kChoices + 1] = {"",
-                                               QT_TR_NOOP("&Take Bet and Winnings"),
-                                               QT_TR_NOOP("&Same Bet - Take Winnings"),
-                                               QT_TR_NOOP("Press 1 &Unit - Add $%1 to Bet"),
-                                               QT_TR_NOOP("Press - Add Winnings to &Double Bet"),
-                                               QT_TR_NOOP("Parlay - Add &All Winnings to Bet"),
-                                               QT_TR_NOOP("Sa&me Bet:"),
-                                               QT_TR_NOOP("&Bet:")};
-const char* const kLoseButtons[kChoices + 1] = {"",
-                                                QT_TR_NOOP("&No Bet/Take Remainder (if any)"),
-                                                QT_TR_NOOP("&Same Bet"),
-                                                QT_TR_NOOP("Bet &Remainder (if any)"),
-                                                QT_TR_NOOP("Same Bet Plus 1 &Unit - Add $%1 to Bet"),
-                                                QT_TR_NOOP("&Double Bet"),
-                                                QT_TR_NOOP("Sa&me Bet:"),
-                                                QT_TR_NOOP("&Bet:")};
-
-int SafeChoice(bool won) { return won ? int{kWinSame} : int{kLoseTakeDown}; }
+const char* const kWinButtons[kChoices + 1] = {
+    "",
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Take Bet and Winnings"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Same Bet - Take Winnings"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Press 1 &Unit - Add $%1 to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Press - Add Winnings to &Double Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Parlay - Add &All Winnings to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Sa&me Bet:"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Bet:")};
+const char* const kLoseButtons[kChoices + 1] = {
+    "",
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&No Bet/Take Remainder (if any)"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Same Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Bet &Remainder (if any)"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Same Bet Plus 1 &Unit - Add $%1 to Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Double Bet"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "Sa&me Bet:"),
+    QT_TRANSLATE_NOOP("tessaryn::SettleBetScreen", "&Bet:")};
 
 // A bet that is cut into shares of which one wins.
 struct Shared {
@@ -84,9 +85,27 @@ void AddShares(const Shared& shared, Currency amount, Currency share, std::vecto
   lines.push_back({"lblShareLoses", SettleBetScreen::tr(shared.loses), DollarText(-(amount - share))});
 }
 
-QPixmap DiceAsRolled(const TableState& table, double ratio) {
+}  // namespace
+
+QString SettleTitle(const SettleQuestion& question) {
+  return question.offOdds ? SettleBetScreen::tr("ODDS OFF")
+         : question.won   ? SettleBetScreen::tr("WINNER")
+                          : SettleBetScreen::tr("LOSER");
+}
+
+QString SettleBetName(int bet) { return SettleBetScreen::tr(BetName(bet).c_str()); }
+
+QString SettleChoiceText(const SettleQuestion& question, int choice) {
+  const QString caption = SettleBetScreen::tr((question.won ? kWinButtons : kLoseButtons)[choice]);
+  const bool adds = choice == (question.won ? int{kWinPressUnit} : int{kLosePlusUnit});
+  return adds ? caption.arg(MoneyText(question.pressUnit)) : caption;
+}
+
+int SafeChoice(const SettleQuestion& question) { return question.won ? int{kWinSame} : int{kLoseTakeDown}; }
+
+QPixmap DiceAsRolled(const TableState& table, int height, double ratio) {
   if (table.Die1 < 1 || table.Die2 < 1) return {};
-  const QSize size(kDiceHeight * 2 + kDiceHeight / 4, kDiceHeight);
+  const QSize size(height * 2 + height / 4, height);
   QPixmap picture((QSizeF(size) * ratio).toSize());
   picture.setDevicePixelRatio(ratio);
   picture.fill(Qt::transparent);
@@ -95,25 +114,22 @@ QPixmap DiceAsRolled(const TableState& table, double ratio) {
   const int faces[2] = {table.Die1, table.Die2};
   for (int n = 0; n < 2; ++n) {
     painter.save();
-    painter.translate(n == 0 ? kDiceHeight / 2.0 : size.width() - kDiceHeight / 2.0, kDiceHeight / 2.0);
-    painter.scale(kDiceHeight, kDiceHeight);
+    painter.translate(n == 0 ? height / 2.0 : size.width() - height / 2.0, height / 2.0);
+    painter.scale(height, height);
     PaintDie(painter, faces[n], kDiceRed, Qt::white);
     painter.restore();
   }
   return picture;
 }
 
-}  // namespace
-
 std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& question) {
-  using Screen = SettleBetScreen;
   std::vector<SettleLine> lines;
   const int bet = question.bet;
   const Currency amount = game.table.BetAmount(question.seat, bet);
-  lines.push_back({"lblBetAmount", Screen::tr("Bet:"), DollarText(amount)});
+  lines.push_back({"lblBetAmount", SettleBetScreen::tr("Bet:"), DollarText(amount)});
   if (question.offOdds) return lines;
   if (const Counted* counted = RowOf(kCounted, bet))
-    lines.push_back({"lblCount", Screen::tr(counted->caption), QString::number(question.count)});
+    lines.push_back({"lblCount", SettleBetScreen::tr(counted->caption), QString::number(question.count)});
   // What was paid at the ratio, before the shares that lost and the vig were taken off.
   Currency paid = question.gross;
   if (const Shared* shared = RowOf(kShared, bet); shared != nullptr && question.won) {
@@ -126,23 +142,26 @@ std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& ques
   const PayoffRecord& record = question.paidBy;
   const bool plainLoss = !question.won && record.PayTo == -record.PayPer;
   lines.push_back(
-      {"lblPayoff", plainLoss ? Screen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
+      {"lblPayoff", plainLoss ? SettleBetScreen::tr("Bet lost:") : PayoffCaption(record), DollarText(paid)});
   if (HasVig(bet)) {
     const Percent percent = ToPercent(IsLay(bet) ? game.settings.LayVigRate : game.settings.BuyVigRate);
-    lines.push_back({"lblVig", Screen::tr("%1% vig:").arg(MoneyText(percent.Number())), DollarText(-vig)});
+    lines.push_back(
+        {"lblVig", SettleBetScreen::tr("%1% vig:").arg(MoneyText(percent.Number())), DollarText(-vig)});
   }
   if (paid != question.gross)
-    lines.push_back({"lblNet", question.won ? Screen::tr("Net payoff:") : Screen::tr("Net loss:"),
+    lines.push_back({"lblNet",
+                     question.won ? SettleBetScreen::tr("Net payoff:") : SettleBetScreen::tr("Net loss:"),
                      DollarText(question.gross)});
   if (question.net != question.gross)
     lines.push_back({"lblRounded",
-                     question.won ? Screen::tr("Net payoff (rounded):") : Screen::tr("Net loss (rounded):"),
+                     question.won ? SettleBetScreen::tr("Net payoff (rounded):")
+                                  : SettleBetScreen::tr("Net loss (rounded):"),
                      DollarText(question.net)});
   return lines;
 }
 
 SettleBetScreen::SettleBetScreen(const Game& game, const SettleQuestion& question, QWidget* parent)
-    : QDialog(parent), question_(question), choice_(SafeChoice(question.won)) {
+    : QDialog(parent), question_(question), choice_(SafeChoice(question)) {
   setObjectName("frmSettleBet");
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   auto* column = new QVBoxLayout(this);
@@ -156,11 +175,10 @@ SettleBetScreen::SettleBetScreen(const Game& game, const SettleQuestion& questio
 
 void SettleBetScreen::AddHeader(const Game& game) {
   const QColor& colour = question_.offOdds ? kBandGrey : question_.won ? kBandGreen : kBandRed;
-  auto* header = new HeaderBand(colour, DiceAsRolled(game.table, devicePixelRatioF()), this);
-  const QString title = question_.offOdds ? tr("ODDS OFF") : question_.won ? tr("WINNER") : tr("LOSER");
+  auto* header = new HeaderBand(colour, DiceAsRolled(game.table, kDiceHeight, devicePixelRatioF()), this);
   const QString player = FromCore(game.table.seats[question_.seat].SeatName);
-  const QString bet = tr(BetName(question_.bet).c_str());
-  header->AddTitle(title);
+  const QString bet = SettleBetName(question_.bet);
+  header->AddTitle(SettleTitle(question_));
   header->AddLine("lblBet", bet)->setAccessibleName(tr("%1, bet %2").arg(player, bet));
   header->AddLine("lblPlayer", player);
   setWindowTitle(tr("%1 - %2").arg(player, bet));
@@ -211,7 +229,27 @@ void SettleBetScreen::AddChoices(const Game& game) {
   const bool won = question_.won;
   same_ = AddAdjusted(*grid, kWinAdjusted, won ? kSlotWinSame : kSlotLoseSame, game);
   fixed_ = AddAdjusted(*grid, kWinFixed, won ? kSlotWinBet : kSlotLoseBet, game);
+  grid->setRowMinimumHeight(kChoices + 1, 4);
+  rest_ = AddReach(*grid, "chkRestOfRoll", tr("The same &for the rest of this roll"),
+                   won ? tr("All other winners of this roll are treated alike")
+                       : tr("All other losers of this roll are treated alike"));
+  always_ = AddReach(*grid, "chkDontAskAgain", tr("Don't as&k again (Auto-Play, F3)"),
+                     tr("Becomes the player's choice on the Auto-Play screen"));
 }
+
+// How far the choice reaches, beyond this bet.
+QCheckBox* SettleBetScreen::AddReach(QGridLayout& grid, const char* name, const QString& caption,
+                                     const QString& tip) {
+  auto* box = new QCheckBox(caption, grid.parentWidget());
+  box->setObjectName(name);
+  box->setToolTip(tip);
+  grid.addWidget(box, grid.rowCount(), 0, 1, 2);
+  return box;
+}
+
+bool SettleBetScreen::ForRestOfRoll() const { return rest_->isChecked(); }
+
+bool SettleBetScreen::ForGood() const { return always_->isChecked(); }
 
 // A choice with its amount, which begins as the seat keeps it.
 AdjustEdit* SettleBetScreen::AddAdjusted(QGridLayout& grid, int choice, int slot, const Game& game) {
@@ -228,15 +266,12 @@ AdjustEdit* SettleBetScreen::AddAdjusted(QGridLayout& grid, int choice, int slot
 }
 
 QPushButton* SettleBetScreen::AddChoice(QGridLayout& grid, int choice) {
-  QString caption = tr((question_.won ? kWinButtons : kLoseButtons)[choice]);
-  if (choice == (question_.won ? int{kWinPressUnit} : int{kLosePlusUnit}))
-    caption = caption.arg(MoneyText(question_.pressUnit));
-  auto* button = new QPushButton(caption, grid.parentWidget());
+  auto* button = new QPushButton(SettleChoiceText(question_, choice), grid.parentWidget());
   button->setObjectName(QString("cmdHandle%1").arg(choice));
   button->setAutoDefault(true);
   connect(button, &QPushButton::clicked, this, [this, choice] { Choose(choice); });
   if (choice < kWinAdjusted) grid.addWidget(button, choice, 0, 1, 2);
-  if (choice == SafeChoice(question_.won)) {
+  if (choice == SafeChoice(question_)) {
     button->setDefault(true);
     button->setFocus();
   }

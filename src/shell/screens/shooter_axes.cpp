@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "dice/percentage_dice.h"
+#include "shell/screens/core_words.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -52,7 +53,7 @@ DiePanel AddDie(int die, QDialog& dialog, QBoxLayout& row, const ShooterAxes& ch
   grid->addWidget(label, 0, 0);
   grid->addWidget(panel.percent, 0, 1);
   for (int axis = 0; axis < 3; ++axis) {
-    panel.axes[axis] = new QCheckBox(QObject::tr(kAxisCaptions[axis]), box);
+    panel.axes[axis] = new QCheckBox(CoreWords(kAxisCaptions[axis]), box);
     panel.axes[axis]->setObjectName(QString("optDie%1Axis%2").arg(die).arg(axis));
     panel.axes[axis]->setChecked((chosen.axes[die - 1] & (1u << axis)) != 0);
     grid->addWidget(panel.axes[axis], axis + 1, 0, 1, 2);

@@ -1,6 +1,7 @@
 #include "shell/screens/tool_window.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -25,6 +26,15 @@ struct HeldRows : RowSource {
 ToolWindow::ToolWindow(const char* name, QWidget* parent) : QWidget(parent, Qt::Tool) { setObjectName(name); }
 
 std::unique_ptr<RowSource> ToolWindow::TakeRows() const { return std::make_unique<HeldRows>(Rows()); }
+
+// While it is hidden nothing is put together: it is when it is shown.
+void ToolWindow::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange) {
+    Retranslate();
+    if (isVisible()) Refresh();
+  }
+  QWidget::changeEvent(event);
+}
 
 // From a part of a window it goes up by itself.
 void ToolWindow::keyPressEvent(QKeyEvent* event) {

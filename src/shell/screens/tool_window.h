@@ -55,6 +55,11 @@ class ToolWindow : public QWidget {
   virtual bool ReadyToPrint() { return true; }
 
  protected:
+  // Another language is spoken. Texts that stand as they were given have been given anew; what the window
+  // puts together itself is to be said anew here.
+  virtual void Retranslate() {}
+
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;

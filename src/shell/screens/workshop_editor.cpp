@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLocale>
 #include <QToolTip>
 #include <algorithm>
 
+#include "autobet/language/characters.h"
 #include "autobet/language/script_text.h"
 #include "autobet/language/script_words.h"
 #include "shell/screens/script_lexer.h"
@@ -16,6 +18,7 @@ namespace {
 constexpr int kNumberMargin = 0;
 constexpr int kMarkMargin = 1;
 constexpr int kFoldMargin = 2;
+constexpr int kCountMargin = 3;
 constexpr int kFaultMark = 1;
 constexpr int kBreakMark = 2;
 constexpr int kStepMark = 3;
@@ -55,6 +58,9 @@ WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(
   setMarginSensitivity(kMarkMargin, true);
   setMarginMarkerMask(kMarkMargin, 1 << kFaultMark | 1 << kBreakMark | 1 << kStepMark);
   setMarginMarkerMask(kNumberMargin, 0);
+  setMarginType(kCountMargin, TextMarginRightJustified);
+  setMarginMarkerMask(kCountMargin, 0);
+  setMarginWidth(kCountMargin, 0);
   setMarginSensitivity(kNumberMargin, true);
   setFolding(PlainFoldStyle, kFoldMargin);
   markerDefine(RightTriangle, kStepMark);
@@ -86,9 +92,11 @@ WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(
   connect(this, &QsciScintillaBase::SCN_DWELLEND, this, [](int, int, int) { QToolTip::hideText(); });
 }
 
+bool WorkshopEditor::IsDark() { return QApplication::palette().color(QPalette::Base).lightness() < 128; }
+
 void WorkshopEditor::TakeColours() {
   const QPalette palette = QApplication::palette();
-  const bool dark = palette.color(QPalette::Base).lightness() < 128;
+  const bool dark = IsDark();
   lexer_->TakeColours(palette);
   setPaper(palette.color(QPalette::Base));
   setColor(palette.color(QPalette::Text));
@@ -184,6 +192,12 @@ std::string WorkshopEditor::LineText(int line) const {
   return content;
 }
 
+int WorkshopEditor::CharacterOf(int line, int byte) const {
+  const std::string content = LineText(line);
+  return static_cast<int>(CountCharacters(std::string_view(content).substr(
+      0, std::min(content.size(), static_cast<std::size_t>(std::max(byte, 0))))));
+}
+
 int WorkshopEditor::CursorLine() const {
   int line = 0;
   int column = 0;
@@ -204,9 +218,10 @@ void WorkshopEditor::MarkFault(const ScriptDiagnostic& fault) {
   if (!fault.Failed()) return;
   const int first = std::clamp(fault.firstLine - 1, 0, std::max(lines() - 1, 0));
   const int last = std::clamp(fault.lastLine - 1, first, std::max(lines() - 1, 0));
-  int end = std::min(fault.lastColumn, static_cast<int>(text(last).size()));
-  if (first == last && end <= fault.firstColumn) end = static_cast<int>(text(last).size());
-  fillIndicatorRange(first, fault.firstColumn, last, end, kFaultIndicator);
+  const int begin = CharacterOf(first, fault.firstColumn);
+  int end = CharacterOf(last, fault.lastColumn);
+  if (first == last && end <= begin) end = CharacterOf(last, lineLength(last));
+  fillIndicatorRange(first, begin, last, end, kFaultIndicator);
   markerAdd(first, kFaultMark);
   for (int line = first; line <= last; ++line) markerAdd(line, kFaultLine);
 }
@@ -216,9 +231,13 @@ void WorkshopEditor::SelectSpan(const ScriptDiagnostic& span) {
   const int first = std::clamp(span.firstLine - 1, 0, std::max(lines() - 1, 0));
   const int last = std::clamp(span.lastLine - 1, first, std::max(lines() - 1, 0));
   ensureLineVisible(last);
-  setSelection(first, std::min(span.firstColumn, lineLength(first)), last,
-               std::min(span.lastColumn, lineLength(last)));
+  setSelection(first, CharacterOf(first, span.firstColumn), last, CharacterOf(last, span.lastColumn));
   ensureCursorVisible();
+}
+
+void WorkshopEditor::ReplaceBytes(int line, int begin, int end, const std::string& by) {
+  setSelection(line - 1, CharacterOf(line - 1, begin), line - 1, CharacterOf(line - 1, end));
+  replaceSelectedText(QString::fromStdString(by));
 }
 
 void WorkshopEditor::MarkStep(int line) {
@@ -278,6 +297,28 @@ void WorkshopEditor::ShowLineNumbers(bool shown) {
     setMarginWidth(kNumberMargin, 0);
 }
 
+void WorkshopEditor::ShowCounts(const std::vector<LineProfile>& lines) {
+  std::int64_t all = 0;
+  for (const LineProfile& line : lines) all += line.nanoseconds;
+  clearMarginText();
+  counts_.clear();
+  QString widest;
+  for (std::size_t line = 1; line < lines.size() && static_cast<int>(line) <= this->lines(); ++line) {
+    if (lines[line].count == 0) continue;
+    const double share =
+        all > 0 ? 100 * static_cast<double>(lines[line].nanoseconds) / static_cast<double>(all) : 0;
+    const QString text = tr("%1  %2%").arg(QLocale().toString(static_cast<qlonglong>(lines[line].count)),
+                                           QLocale().toString(share, 'f', 1).rightJustified(5));
+    setMarginText(static_cast<int>(line) - 1, text, STYLE_LINENUMBER);
+    counts_[static_cast<int>(line)] = text;
+    if (text.size() > widest.size()) widest = text;
+  }
+  if (widest.isEmpty())
+    setMarginWidth(kCountMargin, 0);
+  else
+    setMarginWidth(kCountMargin, widest + "  ");
+}
+
 // --- Words.
 
 void WorkshopEditor::InsertWord(const std::string& word) {
@@ -285,7 +326,7 @@ void WorkshopEditor::InsertWord(const std::string& word) {
   int column = 0;
   getCursorPosition(&line, &column);
   const std::string content = LineText(line);
-  const std::size_t at = QString::fromStdString(content).left(column).toUtf8().size();
+  const std::size_t at = CharacterStart(content, static_cast<std::size_t>(column));
   std::size_t length = 0;
   for (const WordOffer& offer : OffersAt(content, at))
     if (offer.word->text == word) length = std::max(length, offer.length);
@@ -305,7 +346,7 @@ void WorkshopEditor::OfferWords(bool asked) {
   int column = 0;
   getCursorPosition(&line, &column);
   const std::string content = LineText(line);
-  const std::size_t at = QString::fromStdString(content).left(column).toUtf8().size();
+  const std::size_t at = CharacterStart(content, static_cast<std::size_t>(column));
   const std::string ahead = content.substr(0, at);
   const bool word = !ahead.empty() && !IsBlank(ahead.back());
   if (!asked && !word) return;

@@ -4,11 +4,13 @@
 
 #include <Qsci/qsciscintilla.h>
 
+#include <QHash>
 #include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "autobet/run/script_watch.h"
 #include "state/script_types.h"
 
 namespace tessaryn {
@@ -39,6 +41,12 @@ class WorkshopEditor : public QsciScintilla {
   std::set<int> Breaks() const;
   void SetBreaks(const std::set<int>& breaks);
   void ShowLineNumbers(bool shown);
+  // How often each line ran and its share of their time, beside the lines; without any the column goes.
+  void ShowCounts(const std::vector<LineProfile>& lines);
+  // What it shows beside a line from 1; empty: nothing.
+  QString CountsOf(int line) const { return counts_.value(line); }
+  // Bytes of a line from 1.
+  void ReplaceBytes(int line, int begin, int end, const std::string& by);
   // In place of what has been typed of it, if anything.
   void InsertWord(const std::string& word);
   // The words that go on from what has been typed; with none typed or asked for by the keys, all the same.
@@ -51,6 +59,8 @@ class WorkshopEditor : public QsciScintilla {
   // The tip of the word at the cursor.
   void ShowTip();
   bool autoIndent = true;
+  // Of the desktop's colours.
+  static bool IsDark();
 
  signals:
   void breaksChanged();
@@ -64,9 +74,12 @@ class WorkshopEditor : public QsciScintilla {
   void IndentLine(int line);
   void MatchBlocks();
   std::string LineText(int line) const;  // from 0
+  // How many characters of a line stand ahead of a byte of it.
+  int CharacterOf(int line, int byte) const;
   void ShowTipAt(int position);
 
   ScriptLexer* lexer_;
+  QHash<int, QString> counts_;  // by line
   int stepMark_ = 0;
   int changing_ = 0;
 };

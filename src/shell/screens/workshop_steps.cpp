@@ -77,13 +77,14 @@ QString WorkshopSteps::Title() const {
   return name.empty() ? tr("Auto-Bet Steps") : tr("Auto-Bet Steps (%1)").arg(FromCore(name));
 }
 
-void WorkshopSteps::ShowStep(const ScriptStep& step, const std::string& source) {
+void WorkshopSteps::ShowStep(const ScriptStep& step, const std::string& source, const std::string& values) {
   seat_ = step.seat;
   const QString line = tr("Line %1: %2").arg(step.line).arg(QString::fromStdString(source).trimmed());
   line_->setText(line);
-  status_->setText(FromCore(step.text));
-  auto* item =
-      new QListWidgetItem(line + QString::fromUtf8("  \u2013  ") + FromCore(step.text).replace('\n', ' '));
+  QString text = FromCore(step.text);
+  if (!values.empty()) text += "\n" + tr("Values: %1").arg(FromCore(values));
+  status_->setText(text);
+  auto* item = new QListWidgetItem(line + QString::fromUtf8("  \u2013  ") + text.replace('\n', ' '));
   item->setData(kSeatRole, step.seat);
   item->setData(kLineRole, step.line);
   list_->addItem(item);

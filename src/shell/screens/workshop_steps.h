@@ -22,7 +22,7 @@ class WorkshopSteps : public QWidget {
   WorkshopSteps(Game& game, QWidget* parent);
 
   // One statement was carried out; source is its line.
-  void ShowStep(const ScriptStep& step, const std::string& source);
+  void ShowStep(const ScriptStep& step, const std::string& source, const std::string& values);
   // Which buttons can be pressed.
   void Refresh();
   // "Auto-Bet Steps (Ann)"

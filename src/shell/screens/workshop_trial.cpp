@@ -176,8 +176,8 @@ void WorkshopTrial::Toggle() {
   progress_->setValue(0);
   progress_->show();
   start_->setText(tr("Sto&p"));
-  thread_ = std::thread([this, rolls = rolls_->value()] {
-    coming_ = trial_->Run(rolls, *state_);
+  thread_ = std::thread([this, rolls = rolls_->value(), with = counted] {
+    coming_ = trial_->Run(rolls, *state_, with);
     done_ = true;
   });
   timer_->start();

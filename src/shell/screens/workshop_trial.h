@@ -40,6 +40,8 @@ class WorkshopTrial : public QWidget {
 
   // The lines of which seat are tried; false refuses.
   std::function<bool(int& seat, std::vector<std::string>& lines)> take;
+  // Whether the lines of the next one are counted.
+  bool counted = false;
   // Begins a trial, or stops the one that is on.
   void Toggle();
   bool IsOn() const { return thread_.joinable(); }

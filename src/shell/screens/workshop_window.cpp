@@ -22,35 +22,45 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <exception>
+#include <new>
+#include <utility>
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/script_files.h"
 #include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
+#include "base/record_file.h"
 #include "play/auto_roll.h"
+#include "play/script_help.h"
 #include "play/script_session.h"
 #include "play/script_trial.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/find_replace_screen.h"
 #include "shell/screens/permissions_screen.h"
+#include "shell/screens/recent_scripts.h"
 #include "shell/screens/workshop_editor.h"
 #include "shell/screens/workshop_steps.h"
 #include "shell/screens/workshop_trial.h"
 #include "shell/screens/workshop_watch.h"
 #include "shell/table/screen_tools.h"
+#include "state/run_stop.h"
 #include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
 
+constexpr int kOutOfMemory = 7;  // as fault reports number them
+constexpr int kInternalError = 51;
 constexpr int kPause = 250;  // milliseconds without a key before the text is compiled
 
 const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
                                               "cmdAction"};
-const char* const kWordCaptions[kWordKinds] = {
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Logic"), QT_TRANSLATE_NOOP("WorkshopWindow", "Variables"),
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Functions"), QT_TRANSLATE_NOOP("WorkshopWindow", "Modifiers"),
-    QT_TRANSLATE_NOOP("WorkshopWindow", "Actions")};
+const char* const kWordCaptions[kWordKinds] = {QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Logic"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Variables"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Functions"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Modifiers"),
+                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Actions")};
 
 // Under what a logged bet is made.
 constexpr const char* kConditions[] = {nullptr, "if comeout roll then", "if point is established then"};
@@ -70,49 +80,61 @@ struct WorkshopWindow::Command {
 
 // A row without a command begins a menu; one without a caption is a line.
 const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
-    {"menFile", QT_TRANSLATE_NOOP("WorkshopWindow", "&File"), nullptr, nullptr},
-    {"mnuNew", QT_TRANSLATE_NOOP("WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
-    {"mnuOpen", QT_TRANSLATE_NOOP("WorkshopWindow", "&Open ..."), "Ctrl+O", &WorkshopWindow::OpenFile},
-    {"mnuSamples", QT_TRANSLATE_NOOP("WorkshopWindow", "Sa&mples"), nullptr, nullptr,
+    {"menFile", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&File"), nullptr, nullptr},
+    {"mnuNew", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&New"), nullptr, &WorkshopWindow::NewScript},
+    {"mnuOpen", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Open ..."), "Ctrl+O",
+     &WorkshopWindow::OpenFile},
+    {"mnuRecent", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Recent"), nullptr, nullptr,
+     &WorkshopWindow::FillRecent},
+    {"mnuSamples", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Sa&mples"), nullptr, nullptr,
      &WorkshopWindow::FillSamples},
-    {"mnuSave", QT_TRANSLATE_NOOP("WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
-    {"mnuSaveAs", QT_TRANSLATE_NOOP("WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
-    {"mnuPrintScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Print in colours ..."), nullptr,
+    {"mnuSave", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Save"), "Ctrl+S", nullptr},
+    {"mnuSaveAs", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Save &as ..."), "Ctrl+Shift+S", nullptr},
+    {"mnuPrintScript", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Print in colours ..."), nullptr,
      &WorkshopWindow::PrintScript},
-    {"menEdit", QT_TRANSLATE_NOOP("WorkshopWindow", "&Edit"), nullptr, nullptr},
-    {"mnuFind", QT_TRANSLATE_NOOP("WorkshopWindow", "&Find ..."), "Ctrl+F", &WorkshopWindow::FindText},
-    {"mnuReplace", QT_TRANSLATE_NOOP("WorkshopWindow", "&Replace ..."), "Ctrl+H",
+    {"menEdit", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Edit"), nullptr, nullptr},
+    {"mnuFind", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Find ..."), "Ctrl+F",
+     &WorkshopWindow::FindText},
+    {"mnuReplace", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Replace ..."), "Ctrl+H",
      &WorkshopWindow::ReplaceText},
-    {"mnuCopyTo", QT_TRANSLATE_NOOP("WorkshopWindow", "&Copy to"), nullptr, nullptr,
+    {"mnuCopyTo", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Copy to"), nullptr, nullptr,
      &WorkshopWindow::FillCopyTo},
-    {"mnuPasteFrom", QT_TRANSLATE_NOOP("WorkshopWindow", "&Paste from"), nullptr, nullptr,
+    {"mnuPasteFrom", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Paste from"), nullptr, nullptr,
      &WorkshopWindow::FillPasteFrom},
-    {"mnuWords", QT_TRANSLATE_NOOP("WorkshopWindow", "&Words that go on"), "Ctrl+Space",
+    {"mnuWords", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Words that go on"), "Ctrl+Space",
      &WorkshopWindow::OfferWords},
-    {"mnuFix", QT_TRANSLATE_NOOP("WorkshopWindow", "P&ut in the proposal"), "Ctrl+.", &WorkshopWindow::Fix},
-    {"mnuTip", QT_TRANSLATE_NOOP("WorkshopWindow", "&Meaning of the word"), "F1", &WorkshopWindow::ShowTip},
-    {"menRun", QT_TRANSLATE_NOOP("WorkshopWindow", "&Run"), nullptr, nullptr},
-    {"mnuCheckScript", QT_TRANSLATE_NOOP("WorkshopWindow", "&Check script"), "F7", &WorkshopWindow::Check},
-    {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("WorkshopWindow", "&Activate all scripts"), nullptr,
+    {"mnuFix", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "P&ut in the proposal"), "Ctrl+.",
+     &WorkshopWindow::Fix},
+    {"mnuTip", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Meaning of the word"), "Ctrl+F1",
+     &WorkshopWindow::ShowTip},
+    {"menRun", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Run"), nullptr, nullptr},
+    {"mnuCheckScript", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Check script"), "F7",
+     &WorkshopWindow::Check},
+    {"mnuActivateAllScripts", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Activate all scripts"), nullptr,
      &WorkshopWindow::ActivateAll},
-    {"mnuRunOnce", QT_TRANSLATE_NOOP("WorkshopWindow", "Run &one cycle"), "F5", &WorkshopWindow::RunOnce},
-    {"mnuStep", QT_TRANSLATE_NOOP("WorkshopWindow", "&Step"), "F10", &WorkshopWindow::Step},
-    {"mnuRunToCursor", QT_TRANSLATE_NOOP("WorkshopWindow", "Run to the c&ursor"), "Ctrl+F10",
+    {"mnuRunOnce", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Run &one cycle"), "F5",
+     &WorkshopWindow::RunOnce},
+    {"mnuStep", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Step"), "F10", &WorkshopWindow::Step},
+    {"mnuRunToCursor", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Run to the c&ursor"), "Ctrl+F10",
      &WorkshopWindow::RunToCursor},
-    {"mnuBreak", QT_TRANSLATE_NOOP("WorkshopWindow", "&Break-point"), "F9", &WorkshopWindow::ToggleBreak},
-    {"mnuStop", QT_TRANSLATE_NOOP("WorkshopWindow", "S&top"), "Shift+F5", &WorkshopWindow::StopScripts},
-    {"mnuTryIt", QT_TRANSLATE_NOOP("WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
-    {"mnuPermissions", QT_TRANSLATE_NOOP("WorkshopWindow", "&Permissions ..."), nullptr,
+    {"mnuBreak", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Break-point"), "F9",
+     &WorkshopWindow::ToggleBreak},
+    {"mnuStop", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "S&top"), "Shift+F5",
+     &WorkshopWindow::StopScripts},
+    {"mnuTryIt", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Tr&y it"), "F8", &WorkshopWindow::TryIt},
+    {"mnuPermissions", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Permissions ..."), nullptr,
      &WorkshopWindow::Permissions},
-    {"menView", QT_TRANSLATE_NOOP("WorkshopWindow", "&View"), nullptr, nullptr},
-    {"mnuShowSteps", QT_TRANSLATE_NOOP("WorkshopWindow", "Show &steps"), nullptr, &WorkshopWindow::WantSteps,
-     nullptr, true},
-    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("WorkshopWindow", "&Line numbers"), nullptr,
+    {"menView", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&View"), nullptr, nullptr},
+    {"mnuShowSteps", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Show &steps"), nullptr,
+     &WorkshopWindow::WantSteps, nullptr, true},
+    {"mnuShowLineNumbers", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Line numbers"), nullptr,
      &WorkshopWindow::Numbers, nullptr, true},
-    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("WorkshopWindow", "Lists of &words"), nullptr,
+    {"mnuShowCounts", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Counts of the lines"), nullptr,
+     &WorkshopWindow::WantCounts, nullptr, true},
+    {"mnuShowSyntaxLists", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Lists of &words"), nullptr,
      &WorkshopWindow::Lists, nullptr, true},
-    {"mnuAutoIndent", QT_TRANSLATE_NOOP("WorkshopWindow", "&Auto-indent"), nullptr, &WorkshopWindow::Indent,
-     nullptr, true},
+    {"mnuAutoIndent", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "&Auto-indent"), nullptr,
+     &WorkshopWindow::Indent, nullptr, true},
 };
 
 WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAutoBet", parent), game_(game) {
@@ -179,6 +201,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     lines = editor_->Lines();
     return seat_ != 0;
   };
+  checkScript = CheckScript;
+  connect(trial_, &WorkshopTrial::ended, this, [this] {
+    if (wantsCounts_) editor_->ShowCounts(trial_->Result().lines);
+  });
   editor_->tipOf = [this](const QString& word) {
     const WordEntry* known = FindWordEntry(word.toStdString());
     QString tip;
@@ -200,6 +226,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
 
 WorkshopWindow::~WorkshopWindow() {
   checks_.waitForDone();
+  if (wantsCounts_) WatchScripts(game_, nullptr);
   if (!wantsSteps_) return;
   game_.autobet.StepMode = false;
 }
@@ -478,6 +505,7 @@ void WorkshopWindow::Store() {
   stored_ = lines;
   SetScript(game_, seat_, std::move(lines), game_.autobet.Scripts[seat_].ScriptFileName);
   game_.autobet.Scripts[seat_].Unsaved = true;
+  counted_.lines[seat_].clear();  // of other lines
 }
 
 bool WorkshopWindow::IsFree() const {
@@ -507,6 +535,7 @@ void WorkshopWindow::Refresh() {
   steps_->Refresh();
   if (!autobet.ScriptRunning) editor_->MarkStep(0);
   watch_->Refresh();
+  ShowCounts();
   ShowStatus();
 }
 
@@ -567,16 +596,22 @@ void WorkshopWindow::NewScript() {
 }
 
 void WorkshopWindow::OpenPath(const std::string& path) {
+  if (MayLeaveScript()) TakeFile(path);
+}
+
+void WorkshopWindow::TakeFile(const std::string& path) {
   std::string error;
   if (!OpenScript(game_, seat_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
+  else
+    NoteRecentScript(game_, path);
   Load();
 }
 
 void WorkshopWindow::OpenFile() {
   if (!MayLeaveScript()) return;
   const std::string path = ChooseFile(game_, this, kOpenAutoBet);
-  if (!path.empty()) OpenPath(path);
+  if (!path.empty()) TakeFile(path);
 }
 
 bool WorkshopWindow::Save() {
@@ -587,7 +622,7 @@ bool WorkshopWindow::Save() {
   std::string error;
   const bool saved = SaveScript(game_, seat_, path, error);
   if (!saved)
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
   if (saved) editor_->setModified(false);
   ShowStatus();
   return saved;
@@ -600,20 +635,32 @@ bool WorkshopWindow::SaveAs() {
   std::string error;
   if (path.empty()) return false;
   if (!SaveScript(game_, seat_, path, error)) {
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(error));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
     return false;
   }
+  NoteRecentScript(game_, path);
   editor_->setModified(false);
   ShowStatus();
   return true;
 }
 
+void WorkshopWindow::FillRecent(QMenu& menu) {
+  for (const std::string& path : RecentScripts(game_)) {
+    QAction* action = menu.addAction(FromCore(FileTitle(path)).replace('&', "&&"));
+    action->setToolTip(FromCore(path));
+    connect(action, &QAction::triggered, this, [this, path] {
+      if (MayLeaveScript()) OpenPath(path);
+    });
+  }
+  if (menu.isEmpty()) menu.addAction(tr("None yet"))->setEnabled(false);
+  menu.setToolTipsVisible(true);
+}
+
 void WorkshopWindow::FillSamples(QMenu& menu) {
   const QDir folder(FromCore(game_.applicationFolder) + "samples");
   for (const QString& name : folder.entryList({"*.bet"}, QDir::Files, QDir::Name))
-    connect(menu.addAction(name), &QAction::triggered, this, [this, path = folder.filePath(name)] {
-      if (MayLeaveScript()) OpenPath(ToCore(path));
-    });
+    connect(menu.addAction(name), &QAction::triggered, this,
+            [this, path = folder.filePath(name)] { OpenPath(ToCore(path)); });
 }
 
 void WorkshopWindow::CopyToFile() {
@@ -621,7 +668,8 @@ void WorkshopWindow::CopyToFile() {
   if (path.empty()) return;
   const ScriptFileResult result = WriteScriptFile(path, editor_->Lines());
   if (!result.Ok())
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
+                                   With<"problem">(result.message));
 }
 
 void WorkshopWindow::CopyToSeat(int seat) {
@@ -656,7 +704,8 @@ void WorkshopWindow::PasteFromFile() {
   if (path.empty()) return;
   const ScriptFileResult result = ReadScriptFile(path, lines);
   if (result.Ok()) return PasteLines(lines);
-  ShowMessage<Msg::kFileProblem>(game_, With<"title">(kOpenAutoBet.title), With<"problem">(result.message));
+  ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)),
+                                 With<"problem">(result.message));
 }
 
 void WorkshopWindow::FillPasteFrom(QMenu& menu) {
@@ -672,7 +721,19 @@ void WorkshopWindow::PrintScript() {
   QsciPrinter printer;
   printer.setDocName(windowTitle());
   QPrintDialog dialog(&printer, this);
-  if (RunDialog(dialog) == QDialog::Accepted) printer.printRange(editor_);
+  dialog.setObjectName("frmPrintScript");
+  if (RunDialog(dialog) == QDialog::Accepted && !PrintOn(printer))
+    ShowMessage<Msg::kPrintFailed>(game_, With<"problem">(printer.printerName().toStdString()));
+}
+
+// On paper it is light, whatever the desktop is.
+bool WorkshopWindow::PrintOn(QsciPrinter& printer) {
+  printer.setColorMode(game_.settings.ColorPrint ? QPrinter::Color : QPrinter::GrayScale);
+  printer.setWrapMode(QsciScintilla::WrapWord);
+  editor_->SendScintilla(QsciScintilla::SCI_SETPRINTCOLOURMODE,
+                         static_cast<unsigned long>(editor_->IsDark() ? QsciScintilla::SC_PRINT_INVERTLIGHT
+                                                                      : QsciScintilla::SC_PRINT_NORMAL));
+  return printer.printRange(editor_) != 0;
 }
 
 // --- Checks.
@@ -725,7 +786,13 @@ void WorkshopWindow::GoToProblem() {
 void WorkshopWindow::Check() {
   Store();
   if (seat_ == 0) return;
-  const ScriptCheck check = CheckScript(game_, seat_);
+  ScriptCheck check;
+  try {
+    check = checkScript(game_, seat_);
+  } catch (const std::exception& fault) {
+    const bool memory = dynamic_cast<const std::bad_alloc*>(&fault) != nullptr;
+    return ReportError(game_, fault.what(), memory ? kOutOfMemory : kInternalError, "cmdCheckScript");
+  }
   TakeCheck(check);
   if (check.ok && Find("mnuAutoIndent")->isChecked()) {
     const auto& nesting = game_.autobet.Scripts[seat_].ScriptNesting;
@@ -745,20 +812,9 @@ void WorkshopWindow::Check() {
 
 // The word that the compiler doesn't know gives way to the one that it offers.
 void WorkshopWindow::Fix() {
-  if (!fault_.Failed() || fault_.offer.empty()) return;
-  const std::string& told = fault_.message;
-  const QString word =
-      FromCore(told.substr(told.find_last_of('\r') == std::string::npos ? 0 : told.find_last_of('\r') + 1))
-          .trimmed();
-  if (word.isEmpty()) return;
-  for (int line = fault_.firstLine - 1; line < fault_.lastLine; ++line) {
-    const int from = line == fault_.firstLine - 1 ? fault_.firstColumn : 0;
-    const qsizetype at = editor_->text(line).indexOf(word, from, Qt::CaseInsensitive);
-    if (at < 0) continue;
-    editor_->setSelection(line, static_cast<int>(at), line, static_cast<int>(at + word.size()));
-    editor_->replaceSelectedText(FromCore(fault_.offer));
-    return;
-  }
+  ScriptWord word;
+  if (FindOffered(editor_->Lines(), fault_, word))
+    editor_->ReplaceBytes(word.line, word.begin, word.end, fault_.offer);
 }
 
 // --- Running.
@@ -827,6 +883,26 @@ void WorkshopWindow::WantSteps() {
   StepsChanged();
 }
 
+// What runs is counted as long as it is wanted, and only then.
+void WorkshopWindow::WantCounts() {
+  QAction* wanted = Find("mnuShowCounts");
+  if (!IsFree()) return wanted->setChecked(wantsCounts_);
+  wantsCounts_ = trial_->counted = wanted->isChecked();
+  counted_ = {};
+  counted_.profile = true;
+  WatchScripts(game_, wantsCounts_ ? &counted_ : nullptr);
+  editor_->ShowCounts({});
+}
+
+// Behind a run, not in it.
+void WorkshopWindow::ShowCounts() {
+  if (!wantsCounts_ || seat_ == 0 || !IsFree()) return;
+  WatchScripts(game_, &counted_);  // another game may have been opened
+  std::int64_t count = 0;
+  for (const LineProfile& line : counted_.lines[seat_]) count += line.count;
+  if (std::exchange(shownCount_, count) != count) editor_->ShowCounts(counted_.lines[seat_]);
+}
+
 // Statements are told of only while somebody waits for one.
 void WorkshopWindow::StepsChanged() {
   AutoBet& autobet = game_.autobet;
@@ -850,7 +926,9 @@ void WorkshopWindow::ShowStep(const ScriptStep& step) {
     runTo_ = 0;
     autobet.StepMode = true;
   }
-  steps_->ShowStep(step, source);
+  const bool seen = autobet.StepMode || wantsSteps_;
+  const std::string values = seen && step.seat != 0 ? ConditionValues(game_, step.seat, source) : "";
+  steps_->ShowStep(step, source, values);
   tabs_->setTabText(1, steps_->Title());
   if (!autobet.StepMode && !wantsSteps_) return;
   if (step.seat != seat_ && step.seat != 0 && stored_ == editor_->Lines()) ShowSeat(step.seat);
@@ -914,7 +992,8 @@ void WorkshopWindow::SaveLogged() {
   if (result.Ok())
     autobet.LoggedBetsUnsaved = false;
   else
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(kSaveAutoBet.title), With<"problem">(result.message));
+    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
+                                   With<"problem">(result.message));
 }
 
 void WorkshopWindow::ClearLogged() {

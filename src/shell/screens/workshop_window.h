@@ -2,11 +2,14 @@
 #pragma once
 
 #include <QThreadPool>
+#include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "autobet/run/script_watch.h"
 #include "base/table_types.h"
+#include "play/script_session.h"
 #include "shell/screens/tool_window.h"
 #include "state/auto_bet_state.h"
 
@@ -18,6 +21,7 @@ class QLabel;
 class QListWidget;
 class QMenu;
 class QMenuBar;
+class QsciPrinter;
 class QTabWidget;
 class QTimer;
 class QTreeWidget;
@@ -30,7 +34,6 @@ class WorkshopSteps;
 class WorkshopTrial;
 class WorkshopWatch;
 struct Game;
-struct ScriptCheck;
 
 // The text shown is a copy of the player's script. It goes to the player behind each pause in typing, as long
 // as nothing runs, and ahead of each command that needs it.
@@ -50,7 +53,14 @@ class WorkshopWindow : public ToolWindow {
   void Store();
   void ShowSeat(int seat);
   int Seat() const { return seat_; }
+  // Opens a file for the player shown, who is asked first about a script that isn't saved.
+  void OpenPath(const std::string& path);
   WorkshopEditor& Editor() { return *editor_; }
+
+  // On paper, in the colours of the words if the house prints in colours.
+  bool PrintOn(QsciPrinter& printer);
+  // What checks the script of a seat.
+  std::function<ScriptCheck(Game&, int)> checkScript;
 
   // A script has become active, or has run.
   std::function<void()> changed;
@@ -79,15 +89,16 @@ class WorkshopWindow : public ToolWindow {
   bool MayLeaveScript();
   void NewScript();
   void OpenFile();
+  void TakeFile(const std::string& path);
   bool Save();
   bool SaveAs();
-  void OpenPath(const std::string& path);
   void PasteFromFile();
   void PasteLines(const std::vector<std::string>& lines);
   void CopyToFile();
   void CopyToSeat(int seat);
   void FillCopyTo(QMenu& menu);
   void FillPasteFrom(QMenu& menu);
+  void FillRecent(QMenu& menu);
   void FillSamples(QMenu& menu);
   void PrintScript();
   void ListPlayers();
@@ -111,6 +122,8 @@ class WorkshopWindow : public ToolWindow {
   void RunToCursor();
   void ToggleBreak();
   void WantSteps();
+  void WantCounts();
+  void ShowCounts();
   void StepsChanged();
   void TryIt();
   void Permissions();
@@ -158,6 +171,9 @@ class WorkshopWindow : public ToolWindow {
   bool wantsSteps_ = false;
   int runTo_ = 0;  // the line that the run goes on to; 0 none
   ScriptDiagnostic fault_;
+  ScriptWatch counted_;  // of the table's runs, while counts are wanted
+  bool wantsCounts_ = false;
+  std::int64_t shownCount_ = 0;
   struct Place {
     int line = 0;
     int column = 0;

@@ -12,29 +12,26 @@ namespace tessaryn {
 
 namespace {
 
-// The colours of a check and the pattern of its edge. The patterns differ too, so that they are told apart
-// without their colours.
+// The colours of a check and the spots of its edge. Their number and width differ too, so that checks are told
+// apart without their colours.
 struct CheckLook {
   QColor body;
-  QColor edge;
-  QColor centre;
+  QColor spot;  // and the ring round the value
   QColor text;
-  int marks;        // marks round the edge
-  double share;     // how much of the edge they take
-  bool doubleMark;  // each mark split in two
+  int spots;
+  double share;  // of the edge that the spots take
 };
 
 // As they are at first.
 const std::array<CheckLook, kCheckFaces + 1>& FirstCheckLooks() {
   static const std::array<CheckLook, kCheckFaces + 1> looks = {{
       {},
-      {QColor(236, 236, 232), QColor(52, 92, 168), QColor(250, 250, 247), QColor(30, 48, 92), 4, 0.30, false},
-      {QColor(190, 30, 38), QColor(255, 250, 240), QColor(250, 240, 226), QColor(122, 10, 18), 6, 0.36,
-       false},
-      {QColor(18, 112, 60), QColor(255, 236, 150), QColor(238, 246, 226), QColor(8, 66, 34), 8, 0.42, false},
-      {QColor(30, 30, 34), QColor(240, 240, 240), QColor(232, 232, 234), QColor(16, 16, 18), 4, 0.50, true},
-      {QColor(106, 44, 144), QColor(250, 200, 70), QColor(246, 236, 250), QColor(70, 20, 102), 6, 0.56, true},
-      {QColor(222, 160, 40), QColor(96, 62, 8), QColor(255, 244, 208), QColor(92, 58, 4), 12, 0.34, false},
+      {QColor(0xF4, 0xF4, 0xF1), QColor(0x1F, 0x4E, 0x9E), QColor(0x1F, 0x4E, 0x9E), 4, 0.40},
+      {QColor(0xC8, 0x20, 0x2B), Qt::white, Qt::white, 6, 0.46},
+      {QColor(0x15, 0x7A, 0x44), Qt::white, Qt::white, 8, 0.37},
+      {QColor(0x20, 0x22, 0x26), QColor(0xF2, 0xD2, 0x7A), Qt::white, 3, 0.50},
+      {QColor(0x6B, 0x2F, 0xA0), QColor(0xFF, 0xE0, 0x8A), Qt::white, 12, 0.36},
+      {QColor(0xDE, 0xA0, 0x28), QColor(0x60, 0x3E, 0x08), QColor(0x30, 0x1E, 0x04), 2, 0.50},
   }};
   return looks;
 }
@@ -48,40 +45,25 @@ bool IsLight(const QColor& color) {
   return 0.299 * color.redF() + 0.587 * color.greenF() + 0.114 * color.blueF() > 0.55;
 }
 
-// A check in a colour of the user's: the edge stands off the body, the value can be read on the middle.
+// A check in a colour of the user's: spots and value stand off the body.
 CheckLook LookOf(const CheckLook& first, const QColor& body) {
   CheckLook look = first;
-  if (body == first.body) return look;
   look.body = body;
-  look.edge = IsLight(body) ? body.darker(320) : QColor(255, 250, 236);
-  const QColor hue = QColor::fromHsvF(std::max(0.0f, body.hueF()), body.saturationF(), 0.4f);
-  look.centre = QColor::fromHsvF(std::max(0.0f, body.hueF()), body.saturationF() * 0.08f, 0.98f);
-  look.text = hue.darker(130);
+  look.spot = IsLight(body) ? body.darker(320) : QColor(255, 250, 236);
+  look.text = IsLight(body) ? body.darker(420) : QColor(Qt::white);
   return look;
 }
 
-// A piece of the ring between two radii.
-QPainterPath RingPiece(double inner, double outer, double startDegrees, double spanDegrees) {
+// A spot of the edge: a piece of the ring between two radii, about an angle upwards.
+QPainterPath EdgeSpot(double inner, double outer, double degrees, double span) {
   QPainterPath path;
-  path.arcMoveTo(QRectF(-outer, -outer, 2 * outer, 2 * outer), startDegrees);
-  path.arcTo(QRectF(-outer, -outer, 2 * outer, 2 * outer), startDegrees, spanDegrees);
-  path.arcTo(QRectF(-inner, -inner, 2 * inner, 2 * inner), startDegrees + spanDegrees, -spanDegrees);
+  const QRectF out(-outer, -outer, 2 * outer, 2 * outer);
+  const QRectF in(-inner, -inner, 2 * inner, 2 * inner);
+  path.arcMoveTo(out, degrees + 90 - span / 2);
+  path.arcTo(out, degrees + 90 - span / 2, span);
+  path.arcTo(in, degrees + 90 + span / 2 * 0.72, -span * 0.72);
   path.closeSubpath();
   return path;
-}
-
-void PaintEdgeMarks(QPainter& painter, const CheckLook& look) {
-  const double step = 360.0 / look.marks;
-  for (int n = 0; n < look.marks; ++n) {
-    const double start = n * step;
-    const double span = step * look.share;
-    if (look.doubleMark) {
-      painter.drawPath(RingPiece(0.37, 0.485, start, span * 0.38));
-      painter.drawPath(RingPiece(0.37, 0.485, start + span * 0.62, span * 0.38));
-    } else {
-      painter.drawPath(RingPiece(0.37, 0.485, start, span));
-    }
-  }
 }
 
 // The text as an outline of a size that fits a box, centred on the origin.
@@ -138,27 +120,43 @@ void PaintDie(QPainter& painter, int face, const QColor& body, const QColor& pip
   painter.restore();
 }
 
+void PaintFlatDie(QPainter& painter, int face, const QColor& body, const QColor& pips) {
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(body);
+  painter.drawRoundedRect(QRectF(-0.5, -0.5, 1, 1), 0.17, 0.17);
+  QPainterPath spots;  // as one: there are many of these dice
+  for (int n = 0; n < face; ++n)
+    spots.addEllipse(QPointF(kPips[face][n].x * 0.27, kPips[face][n].y * 0.27), 0.1, 0.1);
+  painter.setBrush(pips);
+  painter.drawPath(spots);
+}
+
 void PaintCheck(QPainter& painter, int denomination, const QString& text) {
   const CheckLook& look = CheckLooks()[denomination];
   painter.save();
-  painter.setPen(QPen(look.body.darker(190), 0.025));
+  painter.setPen(QPen(QColor(10, 10, 10), 0.032));
   painter.setBrush(look.body);
-  painter.drawEllipse(QPointF(0, 0), 0.487, 0.487);
+  painter.drawEllipse(QPointF(0, 0), 0.484, 0.484);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(look.edge);
-  PaintEdgeMarks(painter, look);
-  painter.setBrush(look.centre);
-  painter.setPen(QPen(look.body.darker(120), 0.02));
-  painter.drawEllipse(QPointF(0, 0), 0.345, 0.345);
+  painter.setBrush(look.spot);
+  const double step = 360.0 / look.spots;
+  for (int n = 0; n < look.spots; ++n) painter.drawPath(EdgeSpot(0.35, 0.475, n * step, step * look.share));
+  painter.setPen(QPen(look.spot, 0.036));
+  painter.setBrush(look.body);
+  painter.drawEllipse(QPointF(0, 0), 0.33, 0.33);
   painter.setPen(Qt::NoPen);
   painter.setBrush(look.text);
-  painter.drawPath(FittedText(text, 0.56, 0.27));
+  painter.drawPath(FittedText(text, 0.5, 0.36));
   painter.restore();
 }
 
+QColor CheckBodyColor(int denomination) { return CheckLooks()[denomination].body; }
+
 void SetCheckColors(const std::uint32_t (&colors)[kCheckColors]) {
+  const Looks first;
   for (int n = 1; n <= kCheckFaces; ++n)
-    CheckLooks()[n] = LookOf(FirstCheckLooks()[n], QColor::fromRgb(colors[n]));
+    CheckLooks()[n] = colors[n] == first.Checks[n] ? FirstCheckLooks()[n]
+                                                   : LookOf(FirstCheckLooks()[n], QColor::fromRgb(colors[n]));
 }
 
 QString CheckText(int denomination, const Currency (&checkValue)[6], bool centsSymbol) {

@@ -18,8 +18,11 @@ namespace tessaryn {
 QString RunCaption(const Game& game) {
   const bool paced = game.table.AutoRollActive ? !game.table.TurboRollActive
                                                : game.settings.RollThrottle == kThrottleAutoRoll;
-  const char* caption = game.table.AutoRollActive ? (paced ? "Stop &Auto-Roll" : "Stop &Turbo-Roll")
-                                                  : (paced ? "Start &Auto-Roll" : "Start &Turbo-Roll");
+  const char* caption = game.table.AutoRollActive
+                            ? (paced ? QT_TRANSLATE_NOOP("RunControls", "Stop &Auto-Roll")
+                                     : QT_TRANSLATE_NOOP("RunControls", "Stop &Turbo-Roll"))
+                            : (paced ? QT_TRANSLATE_NOOP("RunControls", "Start &Auto-Roll")
+                                     : QT_TRANSLATE_NOOP("RunControls", "Start &Turbo-Roll"));
   return QCoreApplication::translate("RunControls", caption);
 }
 
@@ -63,10 +66,7 @@ RunControls::RunControls(QWidget* parent)
   throttle_->setAccessibleName(tr("Speed of a run"));
   throttle_->setToolTip(tr("How fast a run goes: full speed on the left, Auto-Roll on the right"));
   speed_->setObjectName("lblThrottle");
-  speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 2);
-  Trim(*pass_, {pass_->text()});
-  Trim(*run_,
-       {tr("Start &Turbo-Roll"), tr("Stop &Turbo-Roll"), tr("Start &Auto-Roll"), tr("Stop &Auto-Roll")});
+  Fit();
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(5);
@@ -83,6 +83,16 @@ RunControls::RunControls(QWidget* parent)
   connect(throttle_, &QSlider::valueChanged, this, &RunControls::throttleMoved);
 }
 
+// By the longest that each may say.
+void RunControls::Fit() {
+  speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 2);
+  Trim(*pass_, {pass_->text()});
+  Trim(*run_, {QCoreApplication::translate("RunControls", "Start &Turbo-Roll"),
+               QCoreApplication::translate("RunControls", "Stop &Turbo-Roll"),
+               QCoreApplication::translate("RunControls", "Start &Auto-Roll"),
+               QCoreApplication::translate("RunControls", "Stop &Auto-Roll")});
+}
+
 void RunControls::SetMeasures(const Measures& measures) {
   roll_->setFixedSize(measures.roll);
   roll_->setFont(Sized(font(), measures.compact ? 13 : 16, true));
@@ -97,6 +107,7 @@ void RunControls::ShowPass(bool shown) { pass_->setVisible(shown); }
 
 void RunControls::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ApplicationPaletteChange) TakeTones();
+  if (event->type() == QEvent::LanguageChange) Fit();
   QWidget::changeEvent(event);
 }
 

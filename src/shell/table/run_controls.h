@@ -39,6 +39,7 @@ class RunControls : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void Fit();
   void TakeTones();
 
   QPushButton* roll_;

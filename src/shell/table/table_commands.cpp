@@ -1,15 +1,11 @@
 #include "shell/table/table_commands.h"
 
-#include <QCoreApplication>
-#include <QStringList>
 #include <algorithm>
 #include <memory>
 
 #include "play/auto_roll.h"
 #include "play/script_session.h"
-#include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
-#include "rules/payoffs.h"
 #include "shell/table/plates.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
@@ -19,8 +15,6 @@
 namespace tessaryn {
 
 namespace {
-
-QString Translated(const char* text) { return QCoreApplication::translate("TableCommands", text); }
 
 // A bet of the selected seat made by hand; the log of such bets has it, if it is kept.
 void PlaceByHand(Game& game, int bet, Currency request) {
@@ -37,19 +31,26 @@ void CarryBet(Game& game, TableCommands& commands, int bet) {
   if (taken > kZero) commands.CarriedAmount = taken;
 }
 
+void ReplaceAmount(Game& game, int bet, Currency amount) {
+  const int seat = game.table.SelectedSeat;
+  if (!IsOccupied(game.table, seat) || amount.IsError()) return;
+  const Currency up = game.table.BetAmount(seat, bet);
+  if (amount == up) return;
+  // A contract is raised or kept, never taken down and made anew.
+  if (IsContractBet(game, seat, bet) || IsCheckStack(bet) || up == kZero) {
+    PlaceByHand(game, bet, amount - up);
+    return;
+  }
+  if (-RemoveBet(game, seat, bet) != up) return;
+  PlaceBet(game, seat, bet, amount);
+  LogBet(game, seat, bet);
+}
+
 // The bet that a click on odds means when they aren't up: the flat bet that shares their place.
 int OrItsFlatBet(const Game& game, int bet) {
   const bool up = game.table.BetAmount(game.table.SelectedSeat, bet) != kZero;
   return !up && IsOdds(bet) ? FlatBetOf(bet) : bet;
 }
-
-// What the next click is meant for, by PendingAction.
-constexpr const char* kNextClickTexts[] = {"",
-                                           QT_TRANSLATE_NOOP("TableCommands", "call a bet ON"),
-                                           QT_TRANSLATE_NOOP("TableCommands", "call a bet OFF"),
-                                           QT_TRANSLATE_NOOP("TableCommands", "buy a Place bet"),
-                                           QT_TRANSLATE_NOOP("TableCommands", "remove a bet"),
-                                           QT_TRANSLATE_NOOP("TableCommands", "take a bet to move it")};
 
 }  // namespace
 
@@ -130,9 +131,10 @@ void RemoveAllBets(Game& game) {
   game.host->Changed(game, Change::kLayout);
 }
 
-bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
+namespace {
+
+bool CarryOutClick(Game& game, TableCommands& commands, int bet, bool alt) {
   const int seat = game.table.SelectedSeat;
-  if (!IsOccupied(game.table, seat)) return false;
   const int action = commands.PendingAction;
   commands.PendingAction = kPendingNone;
   switch (action) {
@@ -165,108 +167,23 @@ bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
   return false;
 }
 
-void TakeEnteredAmount(Game& game, int bet, Currency amount) {
-  const int seat = game.table.SelectedSeat;
-  if (!IsOccupied(game.table, seat) || amount.IsError()) return;
-  const Currency up = game.table.BetAmount(seat, bet);
-  if (amount == up) return;
-  // A contract is raised or kept, never taken down and made anew.
-  if (IsContractBet(game, seat, bet) || IsCheckStack(bet) || up == kZero) {
-    PlaceByHand(game, bet, amount - up);
-    return;
-  }
-  if (-RemoveBet(game, seat, bet) != up) return;
-  PlaceBet(game, seat, bet, amount);
-  LogBet(game, seat, bet);
+}  // namespace
+
+bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
+  if (!IsOccupied(game.table, game.table.SelectedSeat)) return false;
+  bool asksForAmount = false;
+  AsBetStep(commands.History, game, [&] { asksForAmount = CarryOutClick(game, commands, bet, alt); });
+  return asksForAmount;
+}
+
+void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount) {
+  AsBetStep(commands.History, game, [&] { ReplaceAmount(game, bet, amount); });
 }
 
 void RightClick(Game& game, TableCommands& commands) {
   GiveUp(commands);
   if (!AskBeforeCommand(game) || game.table.RollInProgress) return;
   RollDice(game);
-}
-
-QString BetAmountText(const Game& game, int seat, int bet) {
-  QString text = FromCore(BetName(bet)) + ":  " + TableAmountText(game, game.table.BetAmount(seat, bet));
-  if (IsTableBet(bet) && HasVig(bet) && game.table.BetAmount(seat, bet) > kZero)
-    text += "   vig:  " + TableAmountText(game, VigFor(game, bet, game.table.BetAmount(seat, bet)));
-  return text;
-}
-
-QString PayoffSummary(const Game& game, int bet) {
-  if (!IsTableBet(bet)) return {};
-  // Odds on the line pay by the point; before one is set there is nothing to tell.
-  if (IsOdds(bet) && FactsOf(bet).number == 0 && game.table.Point == 0) return {};
-  if (bet == kCAndE) return Translated("half each as Any Craps and Eleven");
-  if (bet == kHorn) return Translated("a quarter each as Two, Three, Eleven and Twelve");
-  if (bet == kWorld) return Translated("a fifth each as Two, Three, Seven, Eleven and Twelve");
-  QStringList texts;
-  for (const PayoffRecord& record : PayoffRowsOf(game, bet)) {
-    if (record.PayTo <= kZero) continue;
-    const QString text = FromCore(PayoffText(record));
-    if (!texts.contains(text)) texts.push_back(text);
-  }
-  if (texts.size() > 3) return texts.front() + " ... " + texts.back();
-  return texts.join(", ");
-}
-
-Currency RoomFor(Game& game, int seat, int bet) {
-  const auto allowed = [&](Currency request) {
-    return AllowedChange(game, seat, bet, request, Asking::kQuietly);
-  };
-  Currency room = allowed(kBankrollLimit);
-  // Corrections for the payoff may give less for less, or more where they and the betting unit don't meet;
-  // what is told is given, and just that as far as any amount is.
-  for (Currency given; room > kZero; room = given) {
-    given = allowed(room);
-    if (given == room) break;
-    if (given > room && allowed(given) != given) break;
-  }
-  return std::max(room, kZero);
-}
-
-QString PointerText(Game& game, const TableCommands& commands, int bet) {
-  const int seat = game.table.SelectedSeat;
-  const bool occupied = IsOccupied(game.table, seat);
-  const int action = commands.PendingAction;
-  QStringList parts;
-  if (action != kPendingNone) parts += Translated("Next click") + ": " + Translated(kNextClickTexts[action]);
-  if (commands.CarriedAmount > kZero)
-    parts += Translated("Carrying %1").arg(TableAmountText(game, commands.CarriedAmount));
-  if (commands.Moving.Bet != 0)
-    parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
-  if (bet == 0) {
-    if (occupied)
-      parts += FromCore(game.table.seats[seat].SeatName) + "   " + MoneyLines(game, seat).join("   ");
-    return parts.join("   ");
-  }
-  parts += BetAmountText(game, seat, bet);
-  const QString pays = PayoffSummary(game, bet);
-  if (!pays.isEmpty()) parts += Translated("pays") + " " + pays;
-  // A click that is meant for something else bets nothing.
-  if (IsTableBet(bet) && occupied && action == kPendingNone && commands.Moving.Bet == 0) {
-    parts += Translated("minimum") + " " + TableAmountText(game, MinBetFor(game, bet));
-    parts += Translated("may still be bet") + ": " + TableAmountText(game, RoomFor(game, seat, bet));
-  }
-  return parts.join("   ");
-}
-
-QString InfoTip(Game& game, const TableCommands& commands, int bet) {
-  if (bet == 0) return {};
-  const int seat = game.table.SelectedSeat;
-  const Currency amount = game.table.BetAmount(seat, bet);
-  switch (game.settings.InfoTipLevel) {
-    case 1:
-      return amount == kZero ? QString() : TableAmountText(game, amount);
-    case 2:
-      return FromCore(BetName(bet));
-    case 3:
-      return BetAmountText(game, seat, bet);
-    case 4:
-      return PointerText(game, commands, bet).replace("   ", "\n");
-    default:
-      return {};
-  }
 }
 
 int NextSeat(const Game& game, int direction) {

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include "base/table_types.h"
+#include "play/bet_history.h"
 
 namespace tessaryn {
 
@@ -37,6 +38,7 @@ struct TableCommands {
   Currency ClickAmount = Currency::Dollars(5);  // what a click adds
   Currency CarriedAmount;                       // taken up with Alt, to be put down by the next click; 0 none
   BetInHand Moving;
+  BetHistory History;  // what Undo takes back
 };
 
 // A command of the same kind again, or a right click, gives it up.
@@ -48,7 +50,7 @@ bool GiveUp(TableCommands& commands);
 // is held. Returns whether the click asks for an amount to be keyed in; the caller then opens the entry box.
 bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt);
 // The amount typed replaces the bet.
-void TakeEnteredAmount(Game& game, int bet, Currency amount);
+void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount);
 // The right button: drops a pending action; then asks to stop an Auto-Roll, or rolls.
 void RightClick(Game& game, TableCommands& commands);
 // Takes the bet down; odds that share their place with the flat bet take that down when they aren't up.
@@ -67,15 +69,10 @@ void RemoveAllBets(Game& game);
 // Whether the bet holds money under contract.
 bool IsContractBet(const Game& game, int seat, int bet);
 
-// --- What the pointer is over.
+// --- What the pointer is over (bet_tips.cpp).
 
-// "Place 6:  12" and for Lay and Buy "vig:  .60".
+// "Place 6: 12".
 QString BetAmountText(const Game& game, int seat, int bet);
-// What the bet pays: "7 to 6"; of bets with a table of payoffs their range.
-QString PayoffSummary(const Game& game, int bet);
-// What a click may still add to the bet, which is what the gate for bets lets through: a click of that amount
-// adds just that.
-Currency RoomFor(Game& game, int seat, int bet);
 // The whole line for the selected seat: what the next click is meant for if not for a bet, name, amount, vig,
 // payoff, and what may still be bet. Over no bet: what the player has.
 QString PointerText(Game& game, const TableCommands& commands, int bet);

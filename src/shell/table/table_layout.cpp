@@ -1,30 +1,83 @@
 #include "shell/table/table_layout.h"
 
 #include <QCoreApplication>
-#include <QFont>
 #include <QTransform>
+#include <bit>
 #include <cmath>
 
 #include "rules/bet_rules.h"
 #include "rules/payoffs.h"
+#include "shell/table/layout_builder.h"
 #include "state/bet_families.h"
-#include "state/settings.h"
 
 namespace tessaryn {
+
+void LayoutBuilder::Place(int seat, int bet, QPointF point) {
+  layout.CheckX(seat, bet) = static_cast<int>(std::lround(point.x()));
+  layout.CheckY(seat, bet) = static_cast<int>(std::lround(point.y()));
+}
+
+TableArea* LayoutBuilder::Add(int bet, int side, const QPainterPath& outline, Ground fill) {
+  if (!BetOffered(settings, bet)) return nullptr;
+  layout.Areas.push_back({bet, side, outline, fill, false, true, {}});
+  return &layout.Areas.back();
+}
+
+static QString PayoffCaption(const PayoffRecord& record) {
+  return QString::fromStdString(PayoffText(record)).toUpper();
+}
+
+QString LayoutBuilder::Pays(int bet) const { return PayoffCaption(payoffs.PayoffTable[bet]); }
+
+QRectF LayoutBox(double left, double top, double right, double bottom) {
+  return {QPointF(left, top), QPointF(right, bottom)};
+}
+
+QPainterPath RoundedBox(const QRectF& box) {
+  QPainterPath path;
+  path.addRoundedRect(box, 2, 2);
+  return path;
+}
+
+QTransform LayoutMirror() { return {-1, 0, 0, 1, 2 * kTableMiddle, 0}; }
+
+TableLabel Caption(const QString& text, const QRectF& box, double cap, Ink ink) {
+  TableLabel label;
+  label.Text = text;
+  label.Box = box;
+  label.Cap = cap;
+  label.Colour = ink;
+  return label;
+}
+
+TableLabel LeftCaption(const QString& text, const QRectF& box, double cap) {
+  TableLabel label = Caption(text, box, cap);
+  label.Left = true;
+  return label;
+}
+
+TableLabel DiceLabel(int die1, int die2, const QRectF& box) {
+  TableLabel label;
+  label.Die1 = die1;
+  label.Die2 = die2;
+  label.Box = box;
+  return label;
+}
+
+TableLabel PayoffLabel(const QString& pays, const QRectF& box) {
+  TableLabel label = LeftCaption(pays, box);
+  const QString shorter = QString(pays).replace(QStringLiteral(" TO "), QStringLiteral(":"));
+  if (shorter != pays) label.Shorter = {shorter};
+  return label;
+}
 
 namespace {
 
 // --- Shapes. The left end is drawn; the right end is its mirror.
 
-QPainterPath Rectangle(double left, double top, double right, double bottom) {
-  QPainterPath path;
-  path.addRoundedRect(QRectF(QPointF(left, top), QPointF(right, bottom)), 1.5, 1.5);
-  return path;
-}
-
 // A band that runs down the end of the table, round its corner and along the players' side.
 constexpr QPointF kCorner(192, 344);
-constexpr double kBandTop = 152;
+constexpr double kBandTop = 128;
 constexpr double kBandRight = 560;
 
 QPainterPath Band(double outer, double inner) {
@@ -45,129 +98,111 @@ QPainterPath Band(double outer, double inner) {
 }
 
 // A rectangle as far as it lies within the corner that the bands leave.
-QPainterPath CutByCorner(double left, double top, double right, double bottom, double radius) {
+QPainterPath CutByCorner(const QRectF& box, double radius) {
   QPainterPath inside;
   inside.addRect(kCorner.x(), 0, 700, kCorner.y() + radius);
   inside.addRect(0, 0, kCorner.x(), kCorner.y());
   inside.addEllipse(kCorner, radius, radius);
   inside.setFillRule(Qt::WindingFill);
   QPainterPath path;
-  path.addRect(QRectF(QPointF(left, top), QPointF(right, bottom)));
+  path.addRect(box);
   QPainterPath cut = path.intersected(inside.simplified());
   cut.closeSubpath();
   return cut;
 }
 
-QTransform Mirror() { return {-1, 0, 0, 1, 2 * kTableMiddle, 0}; }
-
-// --- Lettering.
-
-TableLabel Letters(const QString& text, QRectF box, Ink ink = Ink::kLetter, double rotation = 0) {
-  TableLabel label;
-  label.Text = text;
-  label.Box = box;
-  label.Colour = ink;
-  label.Rotation = rotation;
-  return label;
-}
-
-TableLabel Dice(int die1, int die2, QRectF box) {
-  TableLabel label;
-  label.Die1 = die1;
-  label.Die2 = die2;
-  label.Box = box;
-  return label;
-}
-
-QRectF Box(double left, double top, double right, double bottom) {
-  return {QPointF(left, top), QPointF(right, bottom)};
-}
-
-QString Payoff(const PayoffRecord& record) { return QString::fromStdString(PayoffText(record)).toUpper(); }
-
-struct Builder {
-  const Settings& settings;
-  const PayoffTables& payoffs;
-  TableLayout layout;
-
-  void Place(int seat, int bet, QPointF point) {
-    layout.CheckX(seat, bet) = static_cast<int>(std::lround(point.x()));
-    layout.CheckY(seat, bet) = static_cast<int>(std::lround(point.y()));
-  }
-  QString Pays(int bet) const { return Payoff(payoffs.PayoffTable[bet]); }
-
-  TableArea* Add(int bet, int side, const QPainterPath& outline) {
-    if (!BetOffered(settings, bet)) return nullptr;
-    layout.Areas.push_back({bet, side, outline, {}});
-    return &layout.Areas.back();
-  }
-};
-
-// Four places in a row, for the four seats of an end.
-QPointF InRow(QRectF box, int place) {
-  return {box.left() + box.width() * (2 * place + 1) / 8, box.center().y()};
-}
-
-// Two rows of two.
-QPointF InSquare(QRectF box, int place) {
-  return {box.left() + box.width() * (place % 2 == 0 ? 0.27 : 0.73),
-          box.top() + box.height() * (place / 2 == 0 ? 0.27 : 0.73)};
+// The four places of an end in an area, two by two about a point.
+QPointF TwoByTwo(QPointF centre, QPointF step, int place) {
+  return centre + QPointF(place % 2 == 0 ? -step.x() : step.x(), place / 2 == 0 ? -step.y() : step.y());
 }
 
 int FirstSeat(int side) { return side == 1 ? 1 : 5; }
 
-// --- The six boxes of an end.
+// --- The six boxes of an end. Places are measured from the column's left edge.
 
 struct ColumnRow {
   int firstBet;  // the bet of the 4; the other numbers follow
-  double left;   // within the column
+  double left;
   double right;
   double top;
   double bottom;
   const char* label;
-  double labelHeight;  // at the top
-  bool square;         // places in a square rather than in a row
-};
-
-struct LetteredBet {
-  int bet;
-  const char* label;
+  const char* shorter;
+  double told;    // the height of the bet's own place, in the middle of the column
+  QPointF alone;  // of a stack that has the area to itself
+  QPointF four;   // the middle of the four places
+  QPointF step;   // from there to each
 };
 
 constexpr double kHalf = kColumnWidth / 2;
-constexpr double kGap = 1.2;  // between neighbouring areas
 
 constexpr ColumnRow kColumnRows[] = {
-    {kDontCome4, 0, kHalf, 50, 90, "DON'T\nCOME", 10, true},
-    {kDontComeOdds4, kHalf, kColumnWidth, 50, 90, "ODDS", 6, true},
-    {kLay4, 0, kColumnWidth, 90, 116, "LAY", 8, false},
-    {kCome4, 0, kHalf, 116, 156, "COME", 6, true},
-    {kComeOdds4, kHalf, kColumnWidth, 116, 156, "ODDS", 6, true},
-    {kPlace4, 0, kColumnWidth, 156, 222, nullptr, 42, false},
-    {kBuy4, 0, kColumnWidth, 222, 248, "BUY", 8, false},
+    {kDontCome4, 0, kHalf, 32, 74, "DC", "D", 44, {13.8, 59}, {13.8, 58}, {4.6, 4.2}},
+    {kDontComeOdds4, kHalf, kColumnWidth, 32, 74, "ODDS", "O", 39, {40.2, 59}, {40.2, 58}, {4.6, 4.2}},
+    {kLay4, 0, kColumnWidth, 76, 108, "LAY", "L", 92, {38, 94}, {35, 93}, {6, 4.2}},
+    {kBuy4, 0, kColumnWidth, 110, 140, "BUY", "B", 126, {38, 126}, {35, 126}, {6, 4.2}},
+    {kCome4, 0, kHalf, 142, 188, "COME", "C", 162, {13.8, 171}, {13.8, 170}, {4.6, 4.2}},
+    {kComeOdds4, kHalf, kColumnWidth, 142, 188, "ODDS", "O", 169, {40.2, 171}, {40.2, 170}, {4.6, 4.2}},
+    {kPlace4, 0, kColumnWidth, 190, 284, nullptr, nullptr, 237, {27, 265}, {27, 257}, {13.2, 13.2}},
 };
 
 constexpr const char* kNumberWords[6] = {"4", "5", "SIX", "8", "NINE", "10"};
 
-void AddColumnArea(Builder& build, const ColumnRow& row, int side, int number) {
-  const double x = (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth;
-  const QRectF box =
-      Box(x + row.left + kGap / 2, row.top + kGap / 2, x + row.right - kGap / 2, row.bottom - kGap / 2);
-  const int bet = row.firstBet + number;
-  TableArea* area = build.Add(bet, side, Rectangle(box.left(), box.top(), box.right(), box.bottom()));
-  const QRectF head = Box(box.left() + 2, box.top() + 2, box.right() - 2, box.top() + 2 + row.labelHeight);
-  const bool isBox = row.label == nullptr;
-  area->Labels.push_back(isBox ? Letters(kNumberWords[number], head.adjusted(2, 4, -2, -4), Ink::kAccent)
-                               : Letters(row.label, head, Ink::kSoft));
-  const QRectF places = Box(box.left(), box.top() + row.labelHeight + 2, box.right(), box.bottom());
-  for (int place = 0; place < 4; ++place)
-    build.Place(FirstSeat(side) + place, bet, row.square ? InSquare(places, place) : InRow(places, place));
+QRectF ColumnBox(const ColumnRow& row, double x) {
+  return LayoutBox(x + std::max(row.left, kGap / 2), row.top,
+                   x + std::min(row.right, kColumnWidth - kGap / 2) - (row.right < kColumnWidth ? 0.3 : 0),
+                   row.bottom);
 }
 
-void AddColumns(Builder& build) {
+TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
+  const auto caption = [&](double margin) {
+    TableLabel label = Caption(row.label, LayoutBox(box.left() + margin, box.top() + 1.6, box.right() - margin,
+                                                    box.top() + 1.6 + kCaptionRoom));
+    label.Shorter = {row.shorter};
+    return label;
+  };
+  if (row.label == nullptr)
+    return Caption(kNumberWords[number],
+                   LayoutBox(box.left() + 2.5, box.top() + 4, box.right() - 2.5, box.top() + 56), 45.5,
+                   Ink::kAccent);
+  if (row.right - row.left < kColumnWidth) return caption(1.5);
+  TableLabel label = caption(4);
+  label.Left = true;
+  label.Box.setRight(box.left() + 22);
+  return label;
+}
+
+void AddColumnArea(LayoutBuilder& build, const ColumnRow& row, int side, int number) {
+  const double x = (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth;
+  const QRectF box = ColumnBox(row, x);
+  const int bet = row.firstBet + number;
+  TableArea* area = build.Add(bet, side, RoundedBox(box), row.label == nullptr ? Ground::kDark : Ground::kFelt);
+  area->Edged = row.right - row.left == kColumnWidth;
+  area->Labels.push_back(ColumnLabel(row, box, number));
+  if (side == 1) build.Place(0, bet, QPointF(x + kHalf, row.told));
+  build.layout.Alone[side][bet] = QPointF(x, 0) + row.alone;
+  for (int place = 0; place < 4; ++place)
+    build.Place(FirstSeat(side) + place, bet, QPointF(x, 0) + TwoByTwo(row.four, row.step, place));
+}
+
+// The edge round two halves of a box, and the line between them.
+void AddHalves(LayoutBuilder& build, const ColumnRow& row, double x) {
+  if (row.left > 0 || row.right == kColumnWidth) return;
+  const QRectF box = LayoutBox(x + kGap / 2, row.top, x + kColumnWidth - kGap / 2, row.bottom);
+  build.layout.Lines.push_back({RoundedBox(box), false});
+  QPainterPath line;
+  line.moveTo(box.center().x(), box.top() + 1);
+  line.lineTo(box.center().x(), box.bottom() - 1);
+  build.layout.Lines.push_back({line, true});
+}
+
+void AddColumns(LayoutBuilder& build) {
   for (int side = 1; side <= 2; ++side)
     for (int number = 0; number < 6; ++number)
-      for (const ColumnRow& row : kColumnRows) AddColumnArea(build, row, side, number);
+      for (const ColumnRow& row : kColumnRows) {
+        AddColumnArea(build, row, side, number);
+        AddHalves(build, row, (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth);
+      }
 }
 
 // --- The bands and the fields of an end. Drawn for the left end and mirrored.
@@ -176,9 +211,11 @@ void AddColumns(Builder& build) {
 struct EndArea {
   int bet;
   QPainterPath outline;
+  Ground fill = Ground::kDark;
   std::vector<TableLabel> labels;
+  std::vector<TableLabel> inOrder;  // that read from left to right on both ends
   QPointF places[4];
-  bool inOrder = false;  // several labels that read from left to right on both ends
+  QPointF alone;
 };
 
 // How far the labels of an area move to stand on the other end in the same order.
@@ -188,226 +225,132 @@ double ShiftOf(const std::vector<TableLabel>& labels) {
   return 2 * kTableMiddle - all.left() - all.right();
 }
 
-void AddEndArea(Builder& build, const EndArea& ends) {
+void AddEndArea(LayoutBuilder& build, const EndArea& ends) {
   for (int side = 1; side <= 2; ++side) {
-    TableArea* area = build.Add(ends.bet, side, side == 1 ? ends.outline : Mirror().map(ends.outline));
+    const QTransform mirror = side == 1 ? QTransform() : LayoutMirror();
+    TableArea* area = build.Add(ends.bet, side, mirror.map(ends.outline), ends.fill);
     if (area == nullptr) return;
     for (TableLabel label : ends.labels) {
-      if (side == 2 && ends.inOrder && label.Rotation == 0) {
-        label.Box.translate(ShiftOf(ends.labels), 0);
-      } else if (side == 2) {
-        label.Box.moveCenter(Mirror().map(label.Box.center()));
-        label.Rotation = -label.Rotation;
-      }
+      label.Box.moveCenter(mirror.map(label.Box.center()));
+      if (side == 2) label.Rotation = -label.Rotation;
       area->Labels.push_back(label);
     }
-    for (int place = 0; place < 4; ++place) {
-      if (side == 1)
-        build.Place(1 + place, ends.bet, ends.places[place]);
-      else
-        build.Place(8 - place, ends.bet, Mirror().map(ends.places[place]));
+    for (TableLabel label : ends.inOrder) {
+      if (side == 2) label.Box.translate(ShiftOf(ends.inOrder), 0);
+      area->Labels.push_back(label);
     }
+    if (!ends.alone.isNull()) build.layout.Alone[side][ends.bet] = mirror.map(ends.alone);
+    for (int place = 0; place < 4; ++place)
+      build.Place(side == 1 ? 1 + place : 8 - place, ends.bet, mirror.map(ends.places[place]));
   }
 }
 
-constexpr double kOddsOuter = 149;
-constexpr double kPassOuter = 126;
-constexpr double kPassInner = 95;
-constexpr double kDontInner = 69;
-constexpr double kFieldCorner = 66;
+TableLabel Turned(const char* text, const QRectF& box, double cap, Ink ink = Ink::kLetter) {
+  TableLabel label = Caption(text, box, cap, ink);
+  label.Rotation = -90;
+  return label;
+}
 
-void AddLines(Builder& build) {
+void AddLines(LayoutBuilder& build) {
   const int bar = build.settings.BarNumber == 2 ? 1 : 6;
   AddEndArea(build, {kPassLineOdds,
-                     Band(kOddsOuter, kPassOuter + kGap),
-                     {Letters("ODDS", Box(300, 475, 370, 488), Ink::kSoft)},
-                     {{55, 205}, {55, 330}, {238, 482}, {430, 482}}});
+                     Band(182, 160),
+                     Ground::kDark,
+                     {Caption("ODDS", LayoutBox(250, 508, 342, 522), 11.5),
+                      Turned("ODDS", LayoutBox(-9, 229, 51, 243), 9)},
+                     {},
+                     {{21, 152}, {21, 336}, {196, 515}, {455, 515}},
+                     {}});
   AddEndArea(build, {kPassLine,
-                     Band(kPassOuter, kPassInner),
-                     {Letters("PASS LINE", Box(250, 443, 540, 466)),
-                      Letters("PASS LINE", Box(7, 254, 157, 276), Ink::kLetter, -90)},
-                     {{82, 186}, {82, 344}, {222, 455}, {418, 457}}});
-  AddEndArea(build,
-             {kDontPass,
-              Band(kPassInner - kGap, kDontInner),
-              {Letters("DON'T PASS BAR", Box(284, 418, 400, 434)), Dice(bar, bar, Box(472, 416, 506, 434))},
-              {{111, 186}, {111, 330}, {232, 428}, {420, 428}}});
+                     Band(158, 126),
+                     Ground::kDark,
+                     {Caption("PASS LINE", LayoutBox(240, 474, 352, 498), 21, Ink::kAccent),
+                      Turned("PASS LINE", LayoutBox(-6, 225, 106, 247), 19, Ink::kAccent)},
+                     {},
+                     {{50, 152}, {50, 336}, {170, 484}, {425, 486}},
+                     {}});
+  AddEndArea(build, {kDontPass,
+                     Band(124, 102),
+                     Ground::kFelt,
+                     {DiceLabel(bar, bar, LayoutBox(205, 449.5, 237, 464.5)),
+                      Caption("DON'T PASS BAR", LayoutBox(242, 450, 352, 464), 13),
+                      Turned("DON'T PASS BAR", LayoutBox(29, 229, 129, 243), 9.5)},
+                     {},
+                     {{79, 152}, {79, 336}, {175, 456}, {425, 457}},
+                     {}});
   // The odds of Don't Pass stand beside their bet, in its area.
-  constexpr QPointF kLaidOdds[4] = {{111, 206}, {111, 312}, {252, 428}, {440, 428}};
+  constexpr QPointF kLaidOdds[4] = {{79, 182}, {79, 306}, {146, 447}, {455, 457}};
   for (int place = 0; place < 4; ++place) {
     build.Place(1 + place, kDontPassOdds, kLaidOdds[place]);
-    build.Place(8 - place, kDontPassOdds, Mirror().map(kLaidOdds[place]));
+    build.Place(8 - place, kDontPassOdds, LayoutMirror().map(kLaidOdds[place]));
   }
 }
 
 // The Field's numbers; the two that pay more are ringed and say what they pay.
-void AddField(Builder& build) {
-  EndArea field{kField, CutByCorner(240, 331, 560, 410, kFieldCorner), {}, {}};
+void AddField(LayoutBuilder& build) {
+  EndArea field;
+  field.bet = kField;
+  field.outline = RoundedBox(LayoutBox(192, 366, 560, 444));
   constexpr int kNumbers[7] = {2, 3, 4, 9, 10, 11, 12};
   for (int n = 0; n < 7; ++n) {
-    const double x = 244 + n * 45;
+    const double x = 222 + n * 51.35;
     const bool end = n == 0 || n == 6;
-    TableLabel number =
-        Letters(QString::number(kNumbers[n]), Box(x, end ? 340 : 338, x + 42, end ? 358 : 354), Ink::kAccent);
+    TableLabel number = Caption(QString::number(kNumbers[n]), LayoutBox(x - 15.5, 374.5, x + 15.5, 405.5), 17,
+                                Ink::kAccent);
     number.Ring = end;
-    field.labels.push_back(number);
-    if (end)
-      field.labels.push_back(
-          Letters(QCoreApplication::translate("TableLayout", "PAYS") + " " +
-                      Payoff(build.payoffs.FieldPayoffs[FieldRow(n == 0 ? 1 : 6, n == 0 ? 1 : 6)]),
-                  Box(x, 364, x + 42, 371), Ink::kSoft));
+    field.inOrder.push_back(number);
+    if (!end) continue;
+    const double pays = n == 0 ? 219 : 533;
+    field.inOrder.push_back(Caption(QCoreApplication::translate("TableLayout", "PAYS"),
+                                    LayoutBox(pays - 20, 408, pays + 20, 420)));
+    const PayoffRecord& record = build.payoffs.FieldPayoffs[FieldRow(n == 0 ? 1 : 6, n == 0 ? 1 : 6)];
+    TableLabel payoff = PayoffLabel(PayoffCaption(record), LayoutBox(pays - 20, 421, pays + 20, 433));
+    payoff.Left = false;
+    field.inOrder.push_back(payoff);
   }
-  field.labels.push_back(Letters("FIELD", Box(330, 360, 470, 384)));
-  for (int place = 0; place < 4; ++place) field.places[place] = InRow(Box(250, 386, 550, 406), place);
-  field.inOrder = true;
+  field.labels.push_back(Caption("FIELD", LayoutBox(284, 409, 344, 439), 23));
+  constexpr double kAcross[4] = {261, 362, 398, 482};
+  for (int place = 0; place < 4; ++place) field.places[place] = QPointF(kAcross[place], 427);
   AddEndArea(build, field);
 }
 
-void AddBig(Builder& build, int bet, const char* label, double left, double right) {
-  EndArea big{bet, CutByCorner(left, 331, right, 410, kFieldCorner), {}, {}};
-  const double middle = bet == kBig6 ? 166 : (left + right) / 2;
-  big.labels.push_back(Letters("BIG", Box(middle - 13, 335, middle + 13, 343), Ink::kSoft));
-  big.labels.push_back(Letters(label, Box(middle - 13, 345, middle + 13, 366), Ink::kAccent));
-  for (int place = 0; place < 4; ++place)
-    big.places[place] = InSquare(Box(middle - 13, 364, middle + 15, 392), place);
+void AddBig(LayoutBuilder& build, int bet, const char* label, double left, double right, QPointF stack) {
+  EndArea big;
+  big.bet = bet;
+  big.outline = CutByCorner(LayoutBox(left, 366, right, 444), 98);
+  big.inOrder.push_back(Caption("BIG", LayoutBox(left + 9, 369, left + 25.5, 384)));
+  big.inOrder.push_back(Caption(label, LayoutBox(left + 26, 368.5, left + 43, 384.5), 14, Ink::kAccent));
+  for (int place = 0; place < 4; ++place) big.places[place] = TwoByTwo(stack, {4.6, 4.2}, place);
+  big.alone = stack;
   AddEndArea(build, big);
 }
 
-void AddEndFields(Builder& build) {
+void AddEndFields(LayoutBuilder& build) {
   const int bar = build.settings.BarNumber == 2 ? 1 : 6;
-  EndArea come{
-      kCome, Rectangle(128, 251, 560, 328), {Letters("COME", Box(220, 256, 470, 308), Ink::kAccent)}, {}};
-  for (int place = 0; place < 4; ++place) come.places[place] = InRow(Box(130, 306, 556, 326), place);
+  EndArea come;
+  come.bet = kCome;
+  come.outline = RoundedBox(LayoutBox(94, 288, 560, 364));
+  come.labels.push_back(Caption("COME", LayoutBox(295, 296, 425, 356), 44, Ink::kAccent));
+  // Between them and the word lie the dice.
+  constexpr double kAcross[4] = {118, 158, 470, 520};
+  for (int place = 0; place < 4; ++place) come.places[place] = QPointF(kAcross[place], 326);
   AddEndArea(build, come);
-  EndArea dont{kDontCome, Rectangle(128, 174, 238, 248), {}, {}};
-  dont.labels.push_back(Letters("DON'T COME", Box(133, 179, 233, 195)));
-  dont.labels.push_back(Letters("BAR", Box(140, 200, 176, 216)));
-  dont.labels.push_back(Dice(bar, bar, Box(184, 199, 222, 217)));
-  for (int place = 0; place < 4; ++place) dont.places[place] = InRow(Box(130, 226, 236, 246), place);
-  dont.inOrder = true;
+  EndArea dont;
+  dont.bet = kDontCome;
+  dont.outline = RoundedBox(LayoutBox(94, 214, 236, 284));
+  dont.fill = Ground::kFelt;
+  dont.inOrder.push_back(Caption("DON'T COME", LayoutBox(100, 217, 230, 235), 14.5));
+  dont.inOrder.push_back(Caption("BAR", LayoutBox(132, 237, 156, 251), 10));
+  dont.inOrder.push_back(DiceLabel(bar, bar, LayoutBox(161, 237.5, 191, 251)));
+  for (int place = 0; place < 4; ++place) dont.places[place] = QPointF(114 + 34 * place, 267);
   AddEndArea(build, dont);
   AddField(build);
-  AddBig(build, kBig6, "6", 128, 183.4);
-  AddBig(build, kBig8, "8", 184.6, 238);
-}
-
-// The bets on a whole hand, at both ends.
-constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL"},
-                                     {kAllTall, "ALL TALL"},
-                                     {kMakeAll, "MAKE ALL"},
-                                     {kFourRolls, "4 ROLLS NO 7"},
-                                     {kPoint7, "POINT 7"},
-                                     {kSevenPoint7, "7 POINT 7"},
-                                     {kMidway, "MIDWAY"},
-                                     {kSharpShooter, "SHARP SHOOTER"},
-                                     {kRideTheLine, "RIDE THE LINE"},
-                                     {kFire, "FIRE"}};
-
-void AddSpecials(Builder& build) {
-  for (int n = 0; n < static_cast<int>(std::size(kSpecials)); ++n) {
-    const double left = 128 + (n % 2) * 55.2;
-    const double top = 50 + (n / 2) * 24.6;
-    EndArea area{kSpecials[n].bet, Rectangle(left, top, left + 54, top + 23.4), {}, {}};
-    area.labels.push_back(Letters(kSpecials[n].label, Box(left + 3, top + 2, left + 51, top + 8.5)));
-    for (int place = 0; place < 4; ++place)
-      area.places[place] = InRow(Box(left + 1, top + 9, left + 53, top + 23), place);
-    AddEndArea(build, area);
-  }
-}
-
-// --- The middle block, which all eight seats share.
-
-// An area of the middle: dice or a name, and the payoff under it.
-void AddProposition(Builder& build, int bet, QRectF box, const QString& name, int die1 = 0, int die2 = 0) {
-  TableArea* area = build.Add(bet, 0,
-                              Rectangle(box.left() + kGap / 2, box.top() + kGap / 2, box.right() - kGap / 2,
-                                        box.bottom() - kGap / 2));
-  if (area == nullptr) return;
-  const double half = box.height() * 0.5;
-  const QRectF head = Box(box.left() + 3, box.top() + 2.5, box.right() - 3, box.top() + half - 0.5);
-  const QRectF foot =
-      Box(box.left() + 3, box.bottom() - box.height() * 0.26, box.right() - 3, box.bottom() - 2.5);
-  if (die1 > 0)
-    area->Labels.push_back(Dice(die1, die2, head));
-  else
-    area->Labels.push_back(Letters(name, head));
-  // Bets that are several in one pay as these do; a ratio of their own would mislead.
-  if (SharesOf(bet) == 1) area->Labels.push_back(Letters(build.Pays(bet), foot, Ink::kSoft));
-  // Each end's seats on their side, in two rows.
-  constexpr int kRow[kSeats] = {0, 1, 1, 0, 0, 1, 1, 0};
-  const QRectF places =
-      box.adjusted(box.width() * 0.04, box.height() * 0.14, -box.width() * 0.04, -box.height() * 0.02);
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    const double column = (seat - 1) / 2;
-    build.Place(seat, bet,
-                {places.left() + places.width() * (2 * column + 1) / 8,
-                 places.top() + places.height() * (kRow[seat - 1] == 0 ? 0.3 : 0.74)});
-  }
-}
-
-struct DiceBet {
-  int bet;
-  int die1;
-  int die2;
-};
-constexpr DiceBet kHardways[] = {{kHard4, 2, 2}, {kHard10, 5, 5}, {kHard6, 3, 3}, {kHard8, 4, 4}};
-constexpr DiceBet kHorns[] = {{kThree, 1, 2}, {kEleven, 5, 6}, {kTwo, 1, 1}, {kTwelve, 6, 6}};
-constexpr DiceBet kHops[] = {{kHop13, 1, 3}, {kHop14, 1, 4}, {kHop15, 1, 5}, {kHop16, 1, 6}, {kHop22, 2, 2},
-                             {kHop23, 2, 3}, {kHop24, 2, 4}, {kHop25, 2, 5}, {kHop26, 2, 6}, {kHop33, 3, 3},
-                             {kHop34, 3, 4}, {kHop35, 3, 5}, {kHop36, 3, 6}, {kHop44, 4, 4}, {kHop45, 4, 5},
-                             {kHop46, 4, 6}, {kHop55, 5, 5}};
-
-constexpr LetteredBet kSevenRow[] = {{kSeven, "SEVEN"}};
-constexpr LetteredBet kCrapsRow[] = {{kCraps, "ANY CRAPS"}};
-constexpr LetteredBet kSharedRow[] = {{kCAndE, "C & E"}, {kHorn, "HORN"}, {kWorld, "WORLD"}};
-constexpr LetteredBet kOverUnderRow[] = {{kUnder7, "UNDER 7"}, {kOver7, "OVER 7"}};
-
-constexpr double kMiddleLeft = 568;
-constexpr double kMiddleWidth = 111;
-
-// Bets by name side by side. Returns where they end.
-template <int kCount>
-double AddLetteredRow(Builder& build, const LetteredBet (&bets)[kCount], double top, double height) {
-  constexpr double kEach = kMiddleWidth / kCount;
-  for (int n = 0; n < kCount; ++n) {
-    const double left = kMiddleLeft + n * kEach;
-    AddProposition(build, bets[n].bet, Box(left, top, left + kEach, top + height), bets[n].label);
-  }
-  return top + height;
-}
-
-// A block of dice bets, so many in a row, from a height downwards.
-template <int kCount>
-double AddDiceBlock(Builder& build, const DiceBet (&bets)[kCount], int columns, double top, double height) {
-  for (int n = 0; n < kCount; ++n) {
-    const double width = kMiddleWidth / columns;
-    const double left = kMiddleLeft + (n % columns) * width;
-    const double y = top + (n / columns) * height;
-    AddProposition(build, bets[n].bet, Box(left, y, left + width, y + height), {}, bets[n].die1,
-                   bets[n].die2);
-  }
-  return top + (kCount + columns - 1) / columns * height;
-}
-
-void AddMiddle(Builder& build) {
-  double y = 46;
-  y = AddLetteredRow(build, kSevenRow, y, 30) + 1;
-  y = AddDiceBlock(build, kHardways, 2, y, 35) + 1;
-  y = AddDiceBlock(build, kHorns, 2, y, 32) + 1;
-  y = AddLetteredRow(build, kCrapsRow, y, 29) + 1;
-  y = AddLetteredRow(build, kSharedRow, y, 29) + 1;
-  y = AddLetteredRow(build, kOverUnderRow, y, 27) + 1;
-  AddDiceBlock(build, kHops, 3, y, 29.5);
+  AddBig(build, kBig6, "6", 94, 141.4, {128, 399});
+  AddBig(build, kBig8, "8", 142.6, 190.8, {167, 405});
 }
 
 // --- Every bet has its place.
 
-template <typename Row, std::size_t kRows>
-constexpr BetSet BetsIn(const Row (&rows)[kRows]) {
-  BetSet bets;
-  for (const Row& row : rows) bets.Add(row.bet);
-  return bets;
-}
 constexpr BetSet kNumberBets = [] {
   BetSet bets;
   for (const ColumnRow& row : kColumnRows) bets = bets | BetRange(row.firstBet, row.firstBet + 5);
@@ -416,175 +359,39 @@ constexpr BetSet kNumberBets = [] {
 constexpr BetSet OnFelt(Felt felt) {
   return BetsWhere([felt](const FamilyRow& row) { return row.felt == felt; });
 }
-constexpr bool kHasPlaces =
-    kNumberBets == OnFelt(Felt::kNumbers) &&
-    (BetRange(kPassLine, kDontCome) | BetRange(kField, kBig8)) == OnFelt(Felt::kLine) &&
-    (BetsIn(kSevenRow) | BetsIn(kHardways) | BetsIn(kHorns) | BetsIn(kCrapsRow) | BetsIn(kSharedRow) |
-     BetsIn(kOverUnderRow) | BetsIn(kHops)) == OnFelt(Felt::kMiddle) &&
-    BetsIn(kSpecials) == OnFelt(Felt::kSpecials);
-static_assert(kHasPlaces, "a bet without its place on the felt");
-
-// --- The rail.
-
-void PlaceSeats(TableLayout& layout) {
-  struct Stand {
-    QPointF spot;
-    QPointF rail;
-    QPointF out;
-  };
-  // Seats 1 to 4; 8 to 5 are their mirrors.
-  constexpr Stand kStands[4] = {{{26, 76}, {47, 83}, {-0.81, -0.58}},
-                                {{-12, 356}, {20, 356}, {-1, 0}},
-                                {{160, 550}, {162, 514}, {-0.17, 0.985}},
-                                {{425, 550}, {425, 517}, {0, 1}}};
-  for (int n = 0; n < 4; ++n) {
-    SeatPlace& left = layout.Seats[1 + n];
-    left.Spot = kStands[n].spot;
-    left.Rail = kStands[n].rail;
-    left.Out = kStands[n].out;
-    SeatPlace& right = layout.Seats[8 - n];
-    right.Spot = QPointF(1248 - left.Spot.x(), left.Spot.y());
-    right.Rail = Mirror().map(left.Rail);
-    right.Out = QPointF(-left.Out.x(), left.Out.y());
-  }
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    SeatPlace& place = layout.Seats[seat];
-    place.Along = QPointF(place.Out.y(), -place.Out.x());
-  }
-}
+static_assert(kNumberBets == OnFelt(Felt::kNumbers) &&
+                  (BetRange(kPassLine, kDontCome) | BetRange(kField, kBig8)) == OnFelt(Felt::kLine),
+              "a bet without its place on the felt");
 
 }  // namespace
 
-QPointF VisibleStackPlace(const SeatPlace& place, int index) {
-  return place.Rail - place.Out * 8 + place.Along * (index * 16.0 - 24);
-}
-
-void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]) {
-  for (int stack = 0; stack < kCheckStacks; ++stack) {
-    layout.CheckX(seat, kFirstCheckStack + stack) = 0;
-    layout.CheckY(seat, kFirstCheckStack + stack) = 0;
-  }
-  for (int n = 0; n < 4; ++n) {
-    const QPointF point = VisibleStackPlace(layout.Seats[seat], n);
-    layout.CheckX(seat, kFirstCheckStack + stacks[n]) = static_cast<int>(std::lround(point.x()));
-    layout.CheckY(seat, kFirstCheckStack + stacks[n]) = static_cast<int>(std::lround(point.y()));
-  }
-}
-
 TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payoffs) {
-  Builder build{settings, payoffs, {}};
+  LayoutBuilder build{settings, payoffs, {}};
   AddLines(build);
   AddEndFields(build);
-  AddSpecials(build);
+  AddSideBets(build);
   AddColumns(build);
   AddMiddle(build);
   PlaceSeats(build.layout);
   for (TableArea& area : build.layout.Areas)
-    for (TableLabel& label : area.Labels)
-      if (label.Die1 == 0) label.Outline = LabelOutline(label);
+    for (TableLabel& label : area.Labels) WordLabel(label);
+  for (TableHeading& heading : build.layout.Headings)
+    for (TableLabel& label : heading.Labels) WordLabel(label);
+  for (TableMark& mark : build.layout.Marks)
+    if (!mark.Label.Text.isEmpty()) WordLabel(mark.Label);
   return std::move(build.layout);
 }
 
-QPainterPath RailOutline() {
-  QPainterPath path;
-  path.moveTo(169, 0);
-  path.lineTo(436, 0);
-  path.cubicTo(446, 0, 442, -23, 454, -23);
-  path.lineTo(793, -23);
-  path.cubicTo(805, -23, 801, 0, 811, 0);
-  path.lineTo(1078, 0);
-  path.arcTo(QRectF(909, 0, 338, 338), 90, -90);
-  path.lineTo(1247, 344);
-  path.arcTo(QRectF(863, 152, 384, 384), 0, -90);
-  path.lineTo(192, 536);
-  path.arcTo(QRectF(0, 152, 384, 384), 270, -90);
-  path.lineTo(0, 169);
-  path.arcTo(QRectF(0, 0, 338, 338), 180, -90);
-  path.closeSubpath();
-  return path;
-}
-
-QPainterPath FeltOutline() {
-  QPainterPath path;
-  path.moveTo(169, 24);
-  path.lineTo(1078, 24);
-  path.arcTo(QRectF(949, 24, 258, 290), 90, -90);
-  path.lineTo(1207, 344);
-  path.arcTo(QRectF(903, 192, 304, 304), 0, -90);
-  path.lineTo(192, 496);
-  path.arcTo(QRectF(40, 192, 304, 304), 270, -90);
-  path.lineTo(40, 169);
-  path.arcTo(QRectF(40, 24, 258, 290), 180, -90);
-  path.closeSubpath();
-  return path;
-}
-
-QPointF PuckPlace(int point, int side) {
-  if (point == 0) return side == 1 ? QPointF(218, 37) : QPointF(2 * kTableMiddle - 218, 37);
-  const double columns = side == 1 ? kLeftColumns : kRightColumns;
-  return {columns + (BoxPosition(point) + 0.5) * kColumnWidth, 37};
-}
-
-namespace {
-// The one thing that is the same for every table of the program: a font is registered for all of it.
-QString& TableFontFamily() {
-  static QString family = kDefaultTableFont;
-  return family;
-}
-QString& LetteringFamily() {
-  static QString family;
-  return family;
-}
-}  // namespace
-
-void SetTableFont(const QString& family) { TableFontFamily() = family; }
-
-void SetLetteringFont(const QString& family) { LetteringFamily() = family; }
-
-QFont TableFont(bool bold, double pixels) {
-  QFont font(LetteringFamily().isEmpty() ? TableFontFamily() : LetteringFamily());
-  font.setStyleHint(QFont::SansSerif);
-  font.setBold(bold);
-  font.setPixelSize(std::max(4, static_cast<int>(pixels)));
-  return font;
-}
-
-QPainterPath LabelOutline(const TableLabel& label) {
-  const QFont font = TableFont(true, 64);
-  QPainterPath path;
-  const QStringList lines = label.Text.split(QLatin1Char('\n'));
-  for (int n = 0; n < lines.size(); ++n) {
-    QPainterPath line;
-    line.addText(0, 0, font, lines[n]);
-    line.translate(-line.boundingRect().center().x(), n * 66);
-    path.addPath(line);
-  }
-  const QRectF bounds = path.boundingRect();
-  if (bounds.isEmpty()) return {};
-  // Within a ring the text's corners must stay inside.
-  const double scale =
-      label.Ring ? 0.82 * label.Box.height() / std::hypot(bounds.width(), bounds.height())
-                 : std::min(label.Box.width() / bounds.width(), label.Box.height() / bounds.height());
-  QTransform place;
-  place.translate(label.Box.center().x(), label.Box.center().y());
-  place.rotate(label.Rotation);
-  place.scale(scale, scale);
-  place.translate(-bounds.center().x(), -bounds.center().y());
-  path = place.map(path);
-  if (label.Ring) {
-    const double radius = label.Box.height() / 2;
-    QPainterPath ring;
-    ring.addEllipse(label.Box.center(), radius, radius);
-    ring.addEllipse(label.Box.center(), radius - 1.1, radius - 1.1);
-    path.addPath(ring);
-  }
-  return path;
-}
-
-LabelDice PlaceLabelDice(const TableLabel& label) {
-  const double side = std::min(label.Box.height(), label.Box.width() / 2.15);
-  const QPointF step(side * 0.56, 0);
-  return {label.Box.center() - step, label.Box.center() + step, side};
+QPointF StackPlace(const TableLayout& layout, const TableState& table, int seat, int bet) {
+  const QPointF own(layout.CheckX(seat, bet), layout.CheckY(seat, bet));
+  if (!IsTableBet(bet)) return own;
+  const bool shared = !layout.Alone[0][bet].isNull();
+  const QPointF alone = layout.Alone[shared ? 0 : SideOf(seat)][bet];
+  if (alone.isNull()) return own;
+  const int first = shared ? 1 : FirstSeat(SideOf(seat));
+  for (int other = first; other < first + (shared ? kSeats : 4); ++other)
+    if (other != seat && table.seats[other].SeatBets.Has(bet)) return own;
+  return alone;
 }
 
 }  // namespace tessaryn

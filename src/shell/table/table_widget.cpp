@@ -7,13 +7,16 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
-#include <QToolTip>
 #include <QWheelEvent>
 #include <cmath>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/bet_tips.h"
+#include "shell/table/contrast.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/table_accessible.h"
+#include "shell/table/table_touch.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -43,10 +46,11 @@ double Scatter(std::int64_t roll, int which) {
 DicePose RestingDice(const Game& game, std::int64_t roll) {
   const bool shooterLeft = game.table.ShooterSeat <= 4;
   DicePose pose;
-  const double x = (shooterLeft ? 820 : 300) + 120 * Scatter(roll, 1);
-  const double y = 268 + 44 * Scatter(roll, 2);
-  const double direction = 6.283 * Scatter(roll, 3);
-  const double apart = 13 + 9 * Scatter(roll, 4);
+  // On the Come bar beside its lettering, where no stack stands; the dice don't cover each other.
+  const double x = (shooterLeft ? 1004 : 226) + 16 * Scatter(roll, 1);
+  const double y = 320 + 12 * Scatter(roll, 2);
+  const double direction = 0.7 * Scatter(roll, 3) - 0.35 + (Scatter(roll, 7) < 0.5 ? 0 : 3.1416);
+  const double apart = 22 + 3 * Scatter(roll, 4);
   pose.Die1 = QPointF(x - apart * std::cos(direction), y - apart * std::sin(direction));
   pose.Die2 = QPointF(x + apart * std::cos(direction), y + apart * std::sin(direction));
   pose.Turn1 = 360 * Scatter(roll, 5);
@@ -101,6 +105,10 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
     }
     update();
   });
+  new BetTip(*this, game_, commands_);
+  new TableTouch(*this, game_, commands_);
+  MakeTablesAccessible();
+  AnnounceRoll(*this, game_);
   RebuildLayout();
   PlaceDice();
 }
@@ -110,6 +118,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
 void TableWidget::TakeLooks() {
   const Looks& looks = game_.screen.looks;
   colors = ColorsOf(looks);
+  if (IsHighContrast(palette())) MakeHighContrast(colors);
   SetCheckColors(looks.Checks);
   SetLetteringFont(FromCore(looks.LetteringFont));
   checks_.Forget();
@@ -179,6 +188,7 @@ void TableWidget::PrepareTable() {
   if (!tableStale_ && table_.size() == pixels) return;
   if (table_.size() != pixels) table_ = QImage(pixels, QImage::Format_RGB32);
   table_.setDevicePixelRatio(ratio);
+  FitLettering(layout_, view.Scale());
   DrawTable(table_, drawing_, view, colors);
   tableStale_ = false;
 }
@@ -210,6 +220,7 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 
 void TableWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) TellSoon();
+  if (event->type() == QEvent::PaletteChange) RebuildLayout();
   QWidget::changeEvent(event);
 }
 
@@ -227,11 +238,11 @@ int TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
 
 int TableWidget::StackAt(QPoint point) const {
   const int seat = game_.table.SelectedSeat;
-  const double radius = kCheckUnits / 2 * view.Scale();
+  const double radius = CheckDiameter(view.Scale()) / 2;
   int found = 0;
   double nearest = radius;
   game_.table.seats[seat].SeatBets.ForEach([&](int bet) {
-    const QPointF way = view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))) - point;
+    const QPointF way = view.ToScreen(StackPlace(layout_, game_.table, seat, bet)) - point;
     const double apart = std::hypot(way.x(), way.y());
     if (apart > nearest) return;
     nearest = apart;
@@ -245,6 +256,8 @@ int TableWidget::SeatAt(QPoint point) const {
   const QPointF table = view.ToTable(point);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const SeatPlace& place = layout_.Seats[seat];
+    for (const QPointF& stack : place.Stacks)
+      if (std::hypot(table.x() - stack.x(), table.y() - stack.y()) <= kStackReach) return seat;
     const QPointF offset = table - place.Rail;
     const double along = QPointF::dotProduct(offset, place.Along);
     const double out = QPointF::dotProduct(offset, place.Out);
@@ -368,11 +381,6 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
   FindPointed();
   if (pointed == scene.hoverBet && openSeat == scene.hoverSeat) return;
   ShowCursor();
-  const QString tip = InfoTip(game_, commands_, scene.hoverBet);
-  if (tip.isEmpty())
-    QToolTip::hideText();
-  else
-    QToolTip::showText(event->globalPosition().toPoint() + QPoint(14, 14), tip, this);
   emit pointedAt(scene.hoverBet);
   update();
 }
@@ -512,6 +520,7 @@ void TableWidget::SetFocusBet(int bet, int side) {
   scene.focusBet = bet;
   scene.focusSide = side;
   TellFocus();
+  TellAreaFocus(*this);
   update();
 }
 
@@ -520,6 +529,7 @@ void TableWidget::TellFocus() {
   const int bet = scene.focusBet == 0 ? 0 : MeantBet(game_, scene.focusBet);
   const QString name = bet == 0 ? tr("Craps table") : PointerText(game_, commands_, bet);
   if (name != accessibleName()) setAccessibleName(name);
+  TellTableChanged(*this);
   emit pointedAt(bet == 0 ? scene.hoverBet : bet);
 }
 
@@ -579,7 +589,7 @@ bool TableWidget::CommitEntry() {
   const int bet = std::exchange(entryBet_, 0);
   const Currency amount = entry_->Value();
   CloseEntry();
-  TakeEnteredAmount(game_, bet, amount);
+  TakeEnteredAmount(game_, commands_, bet, amount);
   Refresh();
   return game_.table.BetAmount(game_.table.SelectedSeat, bet) == amount;
 }

@@ -56,6 +56,8 @@ class TableWidget : public QWidget {
   // The dice as the state has them.
   void PlaceDice();
   void FlashBets();
+  // What the pointer's line tells of a bet.
+  QString LineOf(int bet) { return PointerText(game_, commands_, bet); }
   // The area with the keyboard's focus; 0 takes it away.
   void SetFocusBet(int bet, int side);
   // The entry box of a bet's amount.

@@ -1,0 +1,77 @@
+#include "shell/table/languages.h"
+
+#include <QApplication>
+#include <QLocale>
+#include <QTranslator>
+#include <QVariant>
+#include <memory>
+
+#include "shell/table/spoken_texts.h"
+
+// The resource lies in a library, which nobody looks into unless told so; not in a namespace.
+static void OpenTranslations() { Q_INIT_RESOURCE(translations); }
+
+namespace tessaryn {
+namespace {
+
+constexpr SpokenLanguage kLanguages[] = {{"English", ""},
+                                         {"Espa\u00f1ol", "es"},
+                                         {"Deutsch", "de"},
+                                         {"Fran\u00e7ais", "fr"},
+                                         {"T\u00fcrk\u00e7e", "tr"}};
+
+constexpr const char* kSpoken = "languageSpoken";
+constexpr const char* kOfQt = "textsOfQt";
+
+QString FileOf(const char* whose, int language) {
+  return QLatin1String(":/translations/") + QLatin1String(whose) + QLatin1String(kLanguages[language].code);
+}
+
+// What Qt says itself: the buttons of its dialogs, the menus of its input lines.
+void LoadTextsOfQt(int language) {
+  delete qApp->findChild<QTranslator*>(kOfQt, Qt::FindDirectChildrenOnly);
+  if (language == 0) return;
+  auto* translator = new QTranslator(qApp);
+  translator->setObjectName(kOfQt);
+  if (translator->load(FileOf("qtbase_", language)))
+    QCoreApplication::installTranslator(translator);
+  else
+    delete translator;
+}
+
+Wording WordingOf(int language) {
+  if (language == 0) return {};
+  auto file = std::make_shared<QTranslator>();
+  if (!file->load(FileOf("tessaryn_", language))) return {};
+  return [file](const char* context, const char* source) { return file->translate(context, source); };
+}
+
+}  // namespace
+
+std::span<const SpokenLanguage> SpokenLanguages() { return kLanguages; }
+
+int LanguageOfDesktop() {
+  const QString desktop = QLocale::system().name();
+  for (int language = 1; language < static_cast<int>(std::size(kLanguages)); ++language)
+    if (desktop.startsWith(QLatin1String(kLanguages[language].code))) return language;
+  return 0;
+}
+
+int LanguageSpoken() { return qApp->property(kSpoken).toInt(); }
+
+void SpeakLanguage(int language, const QStringList& entered) {
+  const int wanted = language > 0 && language < static_cast<int>(std::size(kLanguages)) ? language : 0;
+  const bool listens = SpokenTexts::IsThere();
+  if (listens && wanted == LanguageSpoken()) return;
+  OpenTranslations();
+  qApp->setProperty(kSpoken, wanted);
+  LoadTextsOfQt(wanted);
+  if (listens || wanted != 0)
+    SpeakWith(WordingOf(wanted), entered);
+  else
+    SpokenTexts::Of();
+}
+
+void SpeakWith(const Wording& words, const QStringList& entered) { SpokenTexts::Of().Change(words, entered); }
+
+}  // namespace tessaryn

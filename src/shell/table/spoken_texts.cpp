@@ -1,0 +1,256 @@
+#include "shell/table/spoken_texts.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QPlainTextEdit>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTableWidget>
+#include <QTextEdit>
+#include <QTreeWidget>
+#include <algorithm>
+#include <cctype>
+#include <utility>
+
+namespace tessaryn {
+namespace {
+
+constexpr const char* kName = "spokenTexts";
+constexpr int kLeastLetters = 3;  // of a pattern: those with fewer are in everything
+
+// Qt asks for its own texts in the same way; its widgets say them anew themselves.
+bool IsOfQt(const char* context) {
+  return context[0] == 'Q' && std::isupper(static_cast<unsigned char>(context[1])) != 0 &&
+         qstrcmp(context, "QObject") != 0;
+}
+
+QString WithoutHoles(QString text) {
+  static const QRegularExpression kHole("%L?\\d");
+  return text.remove(kHole);
+}
+
+int LettersOf(const QString& text) {
+  return static_cast<int>(std::count_if(text.begin(), text.end(), [](QChar c) { return c.isLetter(); }));
+}
+
+// What a user types is nobody's word.
+bool IsTyped(const QObject& object) {
+  return object.inherits("QLineEdit") || object.inherits("QPlainTextEdit") || object.inherits("QTextEdit") ||
+         object.inherits("QsciScintillaBase");
+}
+
+constexpr const char* kProperties[] = {"text",
+                                       "title",
+                                       "windowTitle",
+                                       "toolTip",
+                                       "statusTip",
+                                       "whatsThis",
+                                       "placeholderText",
+                                       "accessibleName",
+                                       "accessibleDescription",
+                                       "prefix",
+                                       "suffix",
+                                       "specialValueText",
+                                       "labelText"};
+
+}  // namespace
+
+SpokenTexts::SpokenTexts(QObject* parent) : QTranslator(parent) { setObjectName(kName); }
+
+bool SpokenTexts::IsThere() {
+  return qApp->findChild<QTranslator*>(kName, Qt::FindDirectChildrenOnly) != nullptr;
+}
+
+SpokenTexts& SpokenTexts::Of() {
+  if (auto* there = qApp->findChild<QTranslator*>(kName, Qt::FindDirectChildrenOnly); there != nullptr)
+    return *static_cast<SpokenTexts*>(there);
+  auto* texts = new SpokenTexts(qApp);
+  QCoreApplication::installTranslator(texts);
+  return *texts;
+}
+
+// --- What is asked for.
+
+QString SpokenTexts::translate(const char* context, const char* source, const char*, int) const {
+  if (IsOfQt(context) || source == nullptr || *source == 0) return {};
+  const QString text = words_ ? words_(context, source) : QString();
+  const QMutexLocker lock(&mutex_);
+  Hear(text.isEmpty() ? QString::fromUtf8(source) : text, context, source);
+  return text;
+}
+
+void SpokenTexts::Hear(const QString& text, const char* context, const char* source) const {
+  QList<Row>& rows = heard_.texts[text];
+  for (const Row& row : rows)
+    if (row.context == context && row.source == source) return;
+  rows.append(Row{context, source});
+  const QString fixed = WithoutHoles(text);
+  const int letters = LettersOf(fixed);
+  if (fixed.size() == text.size() || letters < kLeastLetters) return;
+  const auto place =
+      std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
+                   [letters](const Pattern& other) { return LettersOf(WithoutHoles(other.text)) < letters; });
+  heard_.patterns.insert(place, Pattern{text, Row{context, source}});
+}
+
+// --- The change.
+
+void SpokenTexts::Change(const Wording& words, const QStringList& entered) {
+  {
+    const QMutexLocker lock(&mutex_);
+    former_ = std::exchange(heard_, {});
+    words_ = words;
+  }
+  entered_ = entered;
+  for (QWidget* widget : QApplication::allWidgets()) SayAnew(*widget);
+  former_ = {};
+  // What screens put together themselves they do on this event; it comes to all of them.
+  QEvent change(QEvent::LanguageChange);
+  QCoreApplication::sendEvent(qApp, &change);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
+}
+
+const SpokenTexts::Row* SpokenTexts::RowOf(const QString& text, const QWidget& near) const {
+  const auto found = former_.texts.constFind(text);
+  if (found == former_.texts.constEnd()) return nullptr;
+  // The same words may be those of several texts: the nearest screen's are meant.
+  for (const QObject* at = &near; at != nullptr; at = at->parent())
+    for (const Row& row : *found)
+      if (row.context == at->metaObject()->className()) return &row;
+  return &found->front();
+}
+
+QString SpokenTexts::Whole(const QString& text, const QWidget& near) const {
+  if (const Row* row = RowOf(text, near); row != nullptr)
+    return QCoreApplication::translate(row->context, row->source);
+  return {};
+}
+
+QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
+  static const QRegularExpression kHole("%L?(\\d)");
+  for (const Pattern& pattern : former_.patterns) {
+    QString expression;
+    QList<int> holes;
+    qsizetype from = 0;
+    for (auto hole = kHole.globalMatch(pattern.text); hole.hasNext();) {
+      const QRegularExpressionMatch match = hole.next();
+      expression +=
+          QRegularExpression::escape(pattern.text.mid(from, match.capturedStart() - from)) + "(.*?)";
+      holes.append(match.captured(1).toInt());
+      from = match.capturedEnd();
+    }
+    expression += QRegularExpression::escape(pattern.text.mid(from));
+    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression),
+                                   QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = whole.match(text);
+    if (!match.hasMatch()) continue;
+    QString anew = QCoreApplication::translate(pattern.row.context, pattern.row.source);
+    QString filled;
+    from = 0;
+    for (auto hole = kHole.globalMatch(anew); hole.hasNext();) {
+      const QRegularExpressionMatch at = hole.next();
+      const auto which = holes.indexOf(at.captured(1).toInt());
+      const QString held = which < 0 ? QString() : match.captured(static_cast<int>(which) + 1);
+      const QString word = Whole(held, near);
+      filled += anew.mid(from, at.capturedStart() - from) + (word.isNull() ? held : word);
+      from = at.capturedEnd();
+    }
+    return filled + anew.mid(from);
+  }
+  return {};
+}
+
+QString SpokenTexts::Anew(const QString& text, const QWidget& near) const {
+  if (text.isEmpty() || entered_.contains(text)) return {};
+  if (const QString whole = Whole(text, near); !whole.isNull()) return whole;
+  // A caption with its key behind it; lines, or parts of one, of their own; a text with something in brackets
+  // behind it.
+  for (const char* between : {"\t", "\n", "   ", "  "}) {
+    if (!text.contains(QLatin1String(between))) continue;
+    QStringList parts = text.split(QLatin1String(between));
+    bool any = false;
+    for (QString& part : parts)
+      if (const QString anew = Anew(part, near); !anew.isNull()) {
+        part = anew;
+        any = true;
+      }
+    if (any) return parts.join(QLatin1String(between));
+  }
+  if (const qsizetype bracket = text.lastIndexOf(QLatin1String(" (")); bracket > 0)
+    if (const QString whole = Whole(text.left(bracket), near); !whole.isNull())
+      return whole + text.mid(bracket);
+  return ByPattern(text, near);
+}
+
+void SpokenTexts::SayProperties(QObject& object, const QWidget& near) {
+  const bool typed = IsTyped(object);
+  auto* button = qobject_cast<QAbstractButton*>(&object);
+  // In a dock the keys of the buttons are put out of action.
+  const bool keyless = button != nullptr && button->shortcut().isEmpty();
+  for (const char* name : kProperties) {
+    if (typed && qstrcmp(name, "text") == 0) continue;
+    if (object.metaObject()->indexOfProperty(name) < 0) continue;
+    const QVariant value = object.property(name);
+    if (value.typeId() != QMetaType::QString) continue;
+    if (const QString anew = Anew(value.toString(), near); !anew.isNull() && anew != value.toString())
+      object.setProperty(name, anew);
+  }
+  if (keyless) button->setShortcut({});
+}
+
+void SpokenTexts::SayItems(QWidget& widget) {
+  const auto item = [&](auto* of, int column) {
+    if (of == nullptr) return;
+    if (const QString anew = Anew(of->text(column), widget); !anew.isNull()) of->setText(column, anew);
+  };
+  const auto plain = [&](auto* of) {
+    if (of == nullptr) return;
+    if (const QString anew = Anew(of->text(), widget); !anew.isNull()) of->setText(anew);
+  };
+  if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+    for (int n = 0; n < box->count(); ++n)
+      if (const QString anew = Anew(box->itemText(n), widget); !anew.isNull()) box->setItemText(n, anew);
+  } else if (auto* bar = qobject_cast<QTabBar*>(&widget)) {
+    for (int n = 0; n < bar->count(); ++n) {
+      if (const QString anew = Anew(bar->tabText(n), widget); !anew.isNull()) bar->setTabText(n, anew);
+      if (const QString anew = Anew(bar->tabToolTip(n), widget); !anew.isNull()) bar->setTabToolTip(n, anew);
+    }
+  } else if (auto* list = qobject_cast<QListWidget*>(&widget)) {
+    for (int n = 0; n < list->count(); ++n) plain(list->item(n));
+  } else if (auto* table = qobject_cast<QTableWidget*>(&widget)) {
+    for (int column = 0; column < table->columnCount(); ++column) {
+      plain(table->horizontalHeaderItem(column));
+      for (int row = 0; row < table->rowCount(); ++row) plain(table->item(row, column));
+    }
+    for (int row = 0; row < table->rowCount(); ++row) plain(table->verticalHeaderItem(row));
+  } else if (auto* tree = qobject_cast<QTreeWidget*>(&widget)) {
+    for (int column = 0; column < tree->columnCount(); ++column) {
+      item(tree->headerItem(), column);
+      for (int row = 0; row < tree->topLevelItemCount(); ++row) item(tree->topLevelItem(row), column);
+    }
+  }
+}
+
+void SpokenTexts::SayAnew(QWidget& widget) {
+  // A menu's title is the text of its action, which follows.
+  if (qobject_cast<QMenu*>(&widget) == nullptr) SayProperties(widget, widget);
+  SayItems(widget);
+  for (QAction* action : widget.findChildren<QAction*>(QString(), Qt::FindDirectChildrenOnly))
+    SayProperties(*action, widget);
+  if (auto* view = qobject_cast<QAbstractItemView*>(&widget); view != nullptr && view->model() != nullptr) {
+    const QAbstractItemModel& model = *view->model();
+    for (auto* header : view->findChildren<QHeaderView*>(QString(), Qt::FindDirectChildrenOnly))
+      header->headerDataChanged(header->orientation(), 0, std::max(0, header->count() - 1));
+    (void)model;
+    view->viewport()->update();
+  }
+}
+
+}  // namespace tessaryn

@@ -1,0 +1,62 @@
+// Remembers for each text that the window has been given what it is the translation of, so that it can be
+// given in another language wherever it stands by then.
+#pragma once
+
+#include <QByteArray>
+#include <QHash>
+#include <QList>
+#include <QMutex>
+#include <QTranslator>
+
+#include "shell/table/languages.h"
+
+class QObject;
+class QWidget;
+
+namespace tessaryn {
+
+class SpokenTexts : public QTranslator {
+ public:
+  // The one of the program, made when it isn't there yet.
+  static SpokenTexts& Of();
+  static bool IsThere();
+
+  void Change(const Wording& words, const QStringList& entered);
+
+  QString translate(const char* context, const char* source, const char* disambiguation,
+                    int count) const override;
+  bool isEmpty() const override { return false; }
+
+ private:
+  struct Row {
+    QByteArray context;
+    QByteArray source;
+  };
+  struct Pattern {  // a text with holes
+    QString text;
+    Row row;
+  };
+  struct Heard {
+    QHash<QString, QList<Row>> texts;
+    QList<Pattern> patterns;  // those that hold most letters first
+  };
+
+  explicit SpokenTexts(QObject* parent);
+  void Hear(const QString& text, const char* context, const char* source) const;
+  void SayAnew(QWidget& widget);
+  void SayItems(QWidget& widget);
+  void SayProperties(QObject& object, const QWidget& near);
+  // The text in the language of now; null for one that nobody was given.
+  QString Anew(const QString& text, const QWidget& near) const;
+  QString Whole(const QString& text, const QWidget& near) const;
+  QString ByPattern(const QString& text, const QWidget& near) const;
+  const Row* RowOf(const QString& text, const QWidget& near) const;
+
+  Wording words_;
+  QStringList entered_;
+  Heard former_;  // while a change goes on
+  mutable QMutex mutex_;
+  mutable Heard heard_;
+};
+
+}  // namespace tessaryn

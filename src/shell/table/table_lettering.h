@@ -1,0 +1,69 @@
+// The lettering of the felt: its font, and how captions are fitted into their boxes at a scale.
+#pragma once
+
+#include <QFont>
+#include <QPainterPath>
+#include <QPointF>
+#include <QRectF>
+#include <QString>
+#include <QStringList>
+#include <vector>
+
+namespace tessaryn {
+
+struct TableLayout;
+
+// The inks of the lettering; TableColors gives each its colour.
+enum class Ink { kLetter, kAccent, kSoft, kDark };
+
+// One wording of a caption as an outline: capitals 1 high, from the origin to the right.
+struct Wording {
+  QPainterPath Path;
+  double Width = 0;
+};
+
+// Lettering, or two dice, inside an area.
+struct TableLabel {
+  QString Text;
+  QRectF Box;           // before the turn; its centre stays
+  double Rotation = 0;  // degrees clockwise
+  Ink Colour = Ink::kLetter;
+  double Cap = 0;       // the height of its capitals as it should be; 0: as high as the box
+  QStringList Shorter;  // what stands there instead where the text is too wide, the longest first
+  bool Left = false;    // at the box's left edge rather than in its middle
+  int Die1 = 0;         // above 0: dice instead of the text
+  int Die2 = 0;
+  bool Ring = false;              // a ring as high as the box round the text
+  std::vector<Wording> Wordings;  // the text and what is shorter; written by BuildTableLayout
+  QPainterPath Outline;           // of what stands there, empty for nothing; written by FitLettering
+  double FittedCap = 0;           // the height of its capitals in table units; likewise
+};
+
+// The smallest height of capitals on the felt, in screen units: on a small table less.
+double LeastCap(double scale);
+// Fits all lettering of the layout for so many screen units to a table unit: what is too wide shrinks to the
+// smallest height, then gives way to a shorter wording, then goes. Does nothing for the scale it is fitted for.
+void FitLettering(TableLayout& layout, double scale);
+// Makes the wordings of a label. Requires the table's font to be set.
+void WordLabel(TableLabel& label);
+
+// The square that each of the label's dice fills: its centre (first, second) and side.
+struct LabelDice {
+  QPointF First;
+  QPointF Second;
+  double Side = 0;
+};
+LabelDice PlaceLabelDice(const TableLabel& label);
+
+// The family of the lettering that the program brings along; "Arial" where it can't be used.
+QString BuiltInTableFont();
+inline constexpr const char* kPlainTableFont = "Arial";
+// Another family instead, before the first layout is built.
+void SetTableFont(const QString& family);
+// The user's own instead of both; empty for none.
+void SetLetteringFont(const QString& family);
+QFont TableFont(bool bold, double pixels);
+// The same with capitals of that height.
+QFont TableFontOfCap(double cap);
+
+}  // namespace tessaryn

@@ -1,0 +1,48 @@
+// What of the table's state is drawn over the felt, and how.
+#pragma once
+
+#include <QPointF>
+#include <vector>
+
+namespace tessaryn {
+
+struct Game;
+class BetPiles;
+
+// Where the dice lie, in table units, and how they are turned.
+struct DicePose {
+  QPointF Die1{985, 318};
+  QPointF Die2{1025, 330};
+  double Turn1 = 12;  // degrees
+  double Turn2 = -25;
+  double Height = 0;  // above the felt, 0 to 1
+  int Face1 = 3;
+  int Face2 = 4;
+};
+
+// A check that fell on the layout as the bank was broken.
+struct FallenCheck {
+  QPointF Place;  // table units
+  int Denomination = 1;
+};
+
+// What of the state is shown, and how.
+struct TableScene {
+  const Game* game = nullptr;
+  DicePose dice;
+  bool showAmounts = false;  // the amounts of the bets beside the checks
+  bool hideBets = false;     // while the bets flash
+  bool showDice = true;
+  int hoverBet = 0;  // the area under the pointer
+  int refusedBet = 0;  // the area of a bet that was just refused
+  int focusBet = 0;  // the area with the keyboard's focus
+  int focusSide = 0;
+  int hoverSeat = 0;  // an open position under the pointer
+  int heldBet = 0;    // a stack of the selected seat that hangs on the pointer
+  QPointF heldAt;     // there, on the screen
+  bool movingPlayer = false;
+  std::vector<FallenCheck> rain;
+  BetPiles* piles = nullptr;  // not owned; null: checks are always changed for the fewest
+};
+
+}  // namespace tessaryn
