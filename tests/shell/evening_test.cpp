@@ -651,7 +651,7 @@ TEST(MainWindow, ATurboRollShowsItsPanelAndStopsWithinATenthOfASecond) {
   bool shown = false;
   QTimer::singleShot(400, [&] {
     auto* panel = evening.window.findChild<QWidget*>("picTurboRoll");
-    shown = panel->isVisible() && panel->rect().size() == evening.Table().size();
+    shown = panel->isVisible() && panel->geometry() == evening.window.Stage().FeltRoom();
     EXPECT_GT(panel->findChild<QLabel*>("lblRolls")->text().size(), 3);
     clock.start();
     QTest::mouseClick(panel->findChild<QWidget*>("cmdStop"), Qt::LeftButton);

@@ -61,9 +61,11 @@ TEST(RunControlsBar, WhatCannotActIsGrey) {
 TEST(RunControlsBar, IsSmallAndOfOneSizeWhateverItSays) {
   ScreenTable table;
   RunControls bar;
+  EXPECT_LE(bar.sizeHint().height(), MeasuresOf({1280, 800}).controls);
+  bar.SetMeasures(MeasuresOf(kSmallestWindow));
   const QSize size = bar.sizeHint();
-  EXPECT_LE(size.height(), 40);
-  EXPECT_LE(size.width(), 420);
+  EXPECT_LE(size.height(), MeasuresOf(kSmallestWindow).controls);
+  EXPECT_LE(size.width(), 470);
   for (int run = 0; run < 3; ++run)
     for (int throttle = 0; throttle <= kThrottleAutoRoll; ++throttle) {
       table.game->settings.RollThrottle = throttle;

@@ -92,15 +92,25 @@ class EdgedStyle : public QProxyStyle {
     painter.drawRoundedRect(QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5), kCorner, kCorner);
     painter.restore();
     Edge(painter, option, option.rect, kCorner);
+    // What Enter presses.
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    if (button == nullptr || (button->features & QStyleOptionButton::DefaultButton) == 0) return;
+    if ((option.state & State_HasFocus) == 0)
+      Outline(painter, option.rect, kCorner, QPen(TonesInForce().primary, kFocus));
   }
 
-  static void Ring(QPainter& painter, const QRectF& rect, double corner) {
+  static void Outline(QPainter& painter, const QRectF& rect, double corner, const QPen& pen) {
+    const double half = pen.widthF() / 2;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(TonesInForce().focus, kFocus));
-    painter.drawRoundedRect(rect.adjusted(1, 1, -1, -1), corner, corner);
+    painter.setPen(pen);
+    painter.drawRoundedRect(rect.adjusted(half, half, -half, -half), corner, corner);
     painter.restore();
+  }
+
+  static void Ring(QPainter& painter, const QRectF& rect, double corner) {
+    Outline(painter, rect, corner, QPen(TonesInForce().focus, kFocus));
   }
 
   static void Edge(QPainter& painter, const QStyleOption& option, const QRectF& rect, double corner) {
@@ -108,12 +118,7 @@ class EdgedStyle : public QProxyStyle {
     if ((option.state & kKeyboard) != 0) return Ring(painter, rect, corner);
     QColor tone = TonesInForce().edge;
     if ((option.state & State_Enabled) == 0) tone.setAlpha(110);
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(tone, kEdge));
-    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-    painter.restore();
+    Outline(painter, rect, corner, QPen(tone, kEdge));
   }
 };
 

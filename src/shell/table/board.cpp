@@ -362,7 +362,7 @@ void Board::PaintHistory(QPainter& painter) const {
   const QFont label = Small();
   const QString caption = tr("LAST %1").arg(HistoryRoom());
   const QRectF oldest = HistoryCell(shown - 1);
-  if (notes_.isEmpty()) {
+  if (notes_.isEmpty() && oldest.left() - Wide(label, caption) - 10 >= rolls_.left() - 1) {
     painter.setFont(label);
     painter.setPen(kCaptionTone);
     painter.drawText(QRectF(oldest.left() - Wide(label, caption) - 10, rolls_.top(), Wide(label, caption) + 4,
