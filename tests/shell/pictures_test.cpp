@@ -69,70 +69,10 @@ TEST(TablePictures, TheWindowAtEverySizeInLightAndDark) {
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
     EXPECT_EQ(window.size(), look.size) << look.name << " does not fit";
     const TableView& view = window.Table().view;
-    const QRectF reach = TableExtremes(view);
+    const QRectF reach = FrameExtremes(view);
     EXPECT_TRUE(QRectF(window.Table().rect()).adjusted(-2, -2, 2, 2).contains(reach)) << look.name;
     SavePicture(window, look.name);
     QApplication::setPalette(before);
-  }
-}
-
-// In every view: off the felt, the stacks at the rail and each other; so no click on one can be a bet's.
-TEST(TablePictures, StatusBoxesStandOffAllBetsAndOffEachOther) {
-  struct Look {
-    const char* name;
-    QSize size;
-    int angle;
-    int zoom;      // 0: the whole table
-    QPoint shift;  // then
-    bool all;      // there is room for every box
-  };
-  constexpr Look kLooks[] = {{"table-eight", {1280, 720}, 0, 0, {}, true},
-                             {"eight-1024x600", {1024, 480}, 0, 0, {}, true},
-                             {"eight-800x500", {800, 400}, 0, 0, {}, true},
-                             {"eight-30", {1280, 720}, 30, 0, {}, true},
-                             {"eight-large", {1280, 720}, 0, 2000, {500, 300}, false},
-                             {"eight-left", {1280, 720}, 0, 1600, {900, 0}, false},
-                             {"eight-turned", {1024, 480}, 90, 1400, {0, 80}, false},
-                             {"eight-close", {1280, 720}, 200, 5000, {-100, 40}, false}};
-  ShellTable table;
-  for (int seat = 1; seat <= kSeats; ++seat)
-    table.Join(seat, "Player" + std::string(1, static_cast<char>('a' + seat)), "9999999");
-  table.State().SelectedSeat = 4;
-  for (const Look& look : kLooks) {
-    TableWidget widget(*table.game, table.commands);
-    widget.resize(look.size);
-    widget.view.Window = look.size;
-    SetTableRotation(widget.view, look.angle);
-    widget.ShowWhole();
-    if (look.zoom != 0) {
-      ZoomTo(widget.view, look.zoom, QPointF(look.size.width() / 2.0, look.size.height() / 2.0));
-      ShiftTable(widget.view, look.shift.x(), look.shift.y());
-      widget.ViewChanged();
-    }
-    SavePicture(widget, look.name);
-    const auto boxes = PlaceStatusBoxes(*table.game, widget.Layout(), widget.view, widget.font());
-    const QPainterPath felt = widget.view.Transform().map(FeltOutline());
-    const QPainterPath rail = widget.view.Transform().map(RailOutline());
-    for (int a = 1; a <= kSeats; ++a) {
-      EXPECT_TRUE(!look.all || !boxes[a].isEmpty()) << look.name << " " << a;
-      if (boxes[a].isEmpty()) continue;
-      EXPECT_TRUE(QRectF(widget.rect()).contains(boxes[a])) << look.name << " " << a;
-      EXPECT_FALSE(felt.intersects(boxes[a])) << look.name << " " << a;
-      if (look.all) {
-        EXPECT_FALSE(rail.contains(boxes[a].center())) << look.name << " " << a;
-      }
-      for (int x = 0; x < 20; ++x)
-        for (int y = 0; y < 20; ++y) {
-          const QPointF point =
-              boxes[a].topLeft() + QPointF(boxes[a].width() * x, boxes[a].height() * y) / 20;
-          table.State().SelectedSeat = 1 + (x + y) % kSeats;
-          EXPECT_EQ(widget.BetAt(point.toPoint()), 0) << look.name << " " << a;
-          EXPECT_EQ(widget.SeatAt(point.toPoint()), a) << look.name;
-        }
-      table.State().SelectedSeat = 4;
-      for (int b = a + 1; b <= kSeats; ++b)
-        EXPECT_FALSE(boxes[a].intersects(boxes[b])) << look.name << " " << a << " and " << b;
-    }
   }
 }
 

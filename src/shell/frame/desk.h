@@ -20,6 +20,7 @@ namespace tessaryn {
 
 class AmountSelector;
 class DockArea;
+class TableStage;
 class TableWidget;
 
 // A tool window that there may be.
@@ -37,6 +38,7 @@ struct Desk {
   ShellHost& host;
   QWidget* window = nullptr;  // what screens stand over
   TableWidget* table = nullptr;
+  TableStage* stage = nullptr;  // it, its board and plates
   AmountSelector* amounts = nullptr;
   DockArea* docks = nullptr;                                  // the table and its sides; null: nothing docks
   TableCommands commands = {};                                // what the next click on the table means

@@ -18,6 +18,7 @@
 #include "shell/frame/start_up.h"
 #include "shell/screens/about.h"
 #include "shell/table/pictures.h"
+#include "shell/table/preferences.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -64,6 +65,7 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
     std::fprintf(stderr, "tessaryn: %s\n", error.c_str());
     return 1;
   }
+  ApplyScheme(ReadPreferences(dataFolder).scheme);
   QApplication::setWindowIcon(ProgramIcon());
   AboutSplash splash;
   splash.show();

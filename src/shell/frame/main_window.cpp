@@ -35,6 +35,8 @@
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/settle_bet.h"
 #include "shell/table/amount_selector.h"
+#include "shell/table/bet_buttons.h"
+#include "shell/table/board.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
@@ -69,6 +71,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
     : game_(game), host_(host), desk_{.game = game, .host = host, .window = this} {
   setObjectName("frmCrapTable");
   setAcceptDrops(true);
+  setMinimumSize(kSmallestWindow);
   desk_.toolRows = ToolRows();
   desk_.toolMade = [this](ToolWindow& tool) { GiveToolMenu(desk_, tool); };
   desk_.refresh = [this] { RefreshCommands(); };
@@ -78,9 +81,15 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   setWindowIcon(ProgramIcon());
   BuildBody();
   BuildMenu();
+  betButtons_->Add(Command("mnuUndoBet"), "cmdUndo", QT_TRANSLATE_NOOP("BetButtons", "Undo bet"), "\u232B");
+  betButtons_->Add(Command("mnuRepeatBets"), "cmdRepeat", QT_TRANSLATE_NOOP("BetButtons", "Repeat bets"),
+                   "R");
+  betButtons_->Add(Command("mnuFullOdds"), "cmdFullOdds", QT_TRANSLATE_NOOP("BetButtons", "Full odds"), "O");
   ConnectTable();
   ConnectHost();
+  TakePreferences();
   Retranslate();
+  TakeMeasures();
   RefreshCommands();
   StartAutosaves();
   new PointerSnap(game_, this);
@@ -103,6 +112,7 @@ void MainWindow::StartAutosaves() {
 
 MainWindow::~MainWindow() {
   host_.changed = nullptr;
+  host_.showNote = nullptr;
   host_.beforeBox = nullptr;
   host_.showThrow = nullptr;
   host_.showWin = nullptr;
@@ -118,20 +128,15 @@ void MainWindow::BuildBody() {
   auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
-  table_ = desk_.table = new TableWidget(game_, desk_.commands, body);
-  column->addWidget(desk_.docks = new DockArea(table_, body), 1);
-  auto* bar = new QHBoxLayout;
-  bar->setContentsMargins(4, 2, 4, 2);
-  amounts_ = desk_.amounts = new AmountSelector(game_, body);
-  controls_ = new RunControls(body);
-  bar->addWidget(amounts_);
-  bar->addStretch();
-  bar->addWidget(controls_);
-  column->addLayout(bar);
+  stage_ = desk_.stage = new TableStage(game_, desk_.commands, host_.rolled, body);
+  table_ = desk_.table = &stage_->Table();
+  column->addWidget(desk_.docks = new DockArea(stage_, body), 1);
+  BuildBar(body);
+  column->addWidget(bar_);
   setCentralWidget(body);
-  turbo_ = new TurboPanel(table_);
+  turbo_ = new TurboPanel(stage_);
   turbo_->hide();
-  table_->installEventFilter(this);
+  stage_->installEventFilter(this);
   pointer_ = new QLabel(this);
   pointer_->setObjectName("lblPointer");
   // A long line must not widen the window.
@@ -142,6 +147,97 @@ void MainWindow::BuildBody() {
   statusBar()->addPermanentWidget(status_);
   desk_.commands.ClickAmount = amounts_->Amount();
   table_->setFocus();
+}
+
+void MainWindow::BuildBar(QWidget* body) {
+  bar_ = new QWidget(body);
+  auto* row = new QHBoxLayout(bar_);
+  row->setContentsMargins(8, 2, 8, 2);
+  row->setSpacing(12);
+  amounts_ = desk_.amounts = new AmountSelector(game_, bar_);
+  betButtons_ = new BetButtons(bar_);
+  controls_ = new RunControls(bar_);
+  row->addWidget(amounts_);
+  row->addWidget(betButtons_);
+  row->addStretch();
+  row->addWidget(controls_);
+}
+
+void MainWindow::TakeMeasures() {
+  measures_ = MeasuresOf(size());
+  stage_->SetMeasures(measures_);
+  bar_->setFixedHeight(measures_.controls);
+  statusBar()->setFixedHeight(measures_.status);
+  const QFont letters = Sized(font(), measures_.compact ? 11 : 12.5);
+  pointer_->setFont(letters);
+  status_->setFont(letters);
+  amounts_->SetMeasures(measures_);
+  betButtons_->SetMeasures(measures_);
+  controls_->SetMeasures(measures_);
+  FitBar();
+}
+
+// Where the bar is too narrow for all, what has a key of its own gives way.
+void MainWindow::FitBar() {
+  constexpr int kGaps = 52;
+  controls_->ShowPass(true);
+  const int room = width() - amounts_->sizeHint().width() - kGaps;
+  const bool pass = room - controls_->sizeHint().width() >= betButtons_->WantedWidth();
+  controls_->ShowPass(pass);
+  betButtons_->FitInto(room - controls_->sizeHint().width());
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  TakeMeasures();
+}
+
+void MainWindow::TakePreferences() {
+  const bool still = std::exchange(preferences_, ReadPreferences(game_.dataFolder)).noMotion;
+  ApplyScheme(preferences_.scheme);
+  if (preferences_.noMotion || DesktopIsStill())
+    table_->animate = false;
+  else if (still)
+    table_->animate = true;
+  host_.showNote = nullptr;
+  if (!preferences_.notesInBoxes) host_.showNote = [this](Game&, const MessageBox& box) { TakeNote(box); };
+}
+
+void MainWindow::TakeNote(const MessageBox& box) {
+  stage_->TheBoard().AddNote(FromCore(box.MsgText).simplified());
+}
+
+void MainWindow::EndGuide() {
+  preferences_.guideDone = true;
+  if (desk_.keeps) WritePreferences(game_.dataFolder, preferences_);
+  ShowBoard(Throws(game_.stats) == settledThrows_);
+}
+
+// settled: not while a roll's bets are still being asked about.
+void MainWindow::ShowBoard(bool settled) {
+  stage_->TheBoard().SetNextClick(NextClickLine(desk_.commands));
+  stage_->Refresh(settled);
+  const std::int64_t throws = Throws(game_.stats);
+  if (!settled || throws == badgesOf_) return;
+  const bool next = throws == badgesOf_ + 1;
+  badgesOf_ = throws;
+  if (next) stage_->ShowBadges();
+}
+
+// The menu of a player's place: the commands for the player.
+void MainWindow::OpenPlateMenu(int seat, QPoint where) {
+  OnSeatClicked(seat);
+  if (game_.table.SelectedSeat != seat) return;
+  QMenu menu(this);
+  menu.setObjectName("mnuPlate");
+  for (const char* name : {"mnuPlayerRename", "mnuPlayerMove", "mnuPlayerDelete", "", "mnuAtm", "mnuAutoPlay",
+                           "", "mnuRemoveAllBets", "mnuPassDice"}) {
+    if (*name == 0)
+      menu.addSeparator();
+    else if (QAction* action = Command(name); action != nullptr)
+      menu.addAction(action);
+  }
+  menu.exec(where);
 }
 
 void MainWindow::BuildMenu() {
@@ -232,6 +328,7 @@ void MainWindow::RefreshCommands() {
     if (command.text != nullptr) action->setText(command.text(desk_));
   });
   controls_->Refresh(game_);
+  ShowBoard(Throws(game_.stats) == settledThrows_);
   RefreshTools(desk_);
   ShowTableStatus();
   ShowCaption();
@@ -270,6 +367,13 @@ void MainWindow::ConnectTable() {
   });
   connect(table_, &TableWidget::pointedAt, this, &MainWindow::ShowPointer);
   connect(table_, &TableWidget::wheelZoomed, this, [this] { ShowView(desk_, ""); });
+  connect(stage_, &TableStage::seatChosen, this, &MainWindow::OnSeatClicked);
+  connect(stage_, &TableStage::plateMenuWanted, this, &MainWindow::OpenPlateMenu);
+  connect(&stage_->TheBoard(), &Board::guideSkipped, this, &MainWindow::EndGuide);
+  connect(&stage_->TheBoard(), &Board::winsChosen, this, [this](bool ask) {
+    ChooseWinHandling(game_, ask);
+    EndGuide();
+  });
   connect(amounts_, &AmountSelector::amountChanged, this, [this] {
     desk_.commands.ClickAmount = amounts_->Amount();
     table_->RefreshPointer();
@@ -294,6 +398,7 @@ void MainWindow::ConnectHost() {
   host_.betweenRolls = [this](Game&) { Autosave(); };
   host_.showProgress = [this](Game& game) {
     turbo_->Refresh(game);
+    stage_->Refresh(true);
     RefreshTools(desk_);
   };
   host_.askSettlement = [this](Game& game, const SettleQuestion& question) {
@@ -304,14 +409,21 @@ void MainWindow::ConnectHost() {
 void MainWindow::OnChanged(Change change) {
   changed_ = true;
   agreed_ = false;
+  if (!game_.table.RollInProgress) settledThrows_ = Throws(game_.stats);
   if (change == Change::kRun) return OnRunChanged();
   if (game_.table.TurboRollActive) return;
   if (change == Change::kSettings) {
     TakeFontSize(game_.settings.ScreenFontSize);
+    TakePreferences();
     table_->RebuildLayout();
     amounts_->RefreshChecks();
+    TakeMeasures();
   }
-  if (change == Change::kEverything) ShowFallenDice();
+  if (change == Change::kEverything) {
+    ShowFallenDice();
+    settledThrows_ = Throws(game_.stats);
+    ShowBoard(true);
+  }
   table_->Refresh();
   RefreshSoon();
 }
@@ -332,7 +444,7 @@ void MainWindow::ShowState() {
 
 // What covers the table follows its size, as when a tool window is docked in a run.
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == table_ && event->type() == QEvent::Resize) turbo_->setGeometry(table_->rect());
+  if (watched == stage_ && event->type() == QEvent::Resize) turbo_->setGeometry(stage_->FeltRoom());
   return QMainWindow::eventFilter(watched, event);
 }
 
@@ -344,7 +456,7 @@ void MainWindow::OnRunChanged() {
   }
   const bool turbo = game_.table.TurboRollActive;
   if (turbo && !turbo_->isVisible()) {
-    turbo_->setGeometry(table_->rect());
+    turbo_->setGeometry(stage_->FeltRoom());
     turbo_->Begin(game_);
     turbo_->show();
     turbo_->raise();
@@ -354,6 +466,7 @@ void MainWindow::OnRunChanged() {
     turbo_->hide();
     table_->PlaceDice();
     table_->Refresh();
+    badgesOf_ = Throws(game_.stats);
   }
   runEndedUnseen_ = isMinimized() && !game_.table.AutoRollActive;
   RefreshCommands();
@@ -476,6 +589,10 @@ void MainWindow::OpenAtStart(const std::string& argument) {
   if (!game_.file.Path.empty()) NoteRecentGame(desk_, game_.file.Path);
   host_.window = this;
   starting_ = false;
+  if (!preferences_.guideDone && !HasBeenPlayed(game_))
+    stage_->TheBoard().StartGuide();
+  else if (!preferences_.guideDone)
+    EndGuide();
   PlaceMainWindow(desk_);
   ShowGame();
   changed_ = false;
@@ -490,6 +607,9 @@ void MainWindow::ShowGame() {
   }
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
+  host_.rolled.Forget();
+  host_.rolled.Note(game_);
+  settledThrows_ = badgesOf_ = Throws(game_.stats);
   TakeFontSize(game_.settings.ScreenFontSize);
   table_->RebuildLayout();
   amounts_->RefreshChecks();

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "shell/frame/desk.h"
+#include "shell/table/preferences.h"
+#include "shell/table/table_stage.h"
 #include "shell/table/table_widget.h"
 
 class QLabel;
@@ -15,6 +17,8 @@ class QMenu;
 namespace tessaryn {
 
 class AmountSelector;
+class BetButtons;
+class Board;
 struct CommandRow;
 class RunControls;
 class TurboPanel;
@@ -28,6 +32,7 @@ class MainWindow : public QMainWindow {
   ~MainWindow() override;
 
   TableWidget& Table() { return *table_; }
+  TableStage& Stage() { return *stage_; }
   // What its commands work on.
   Desk& TheDesk() { return desk_; }
   TableCommands& Commands() { return desk_.commands; }
@@ -51,6 +56,7 @@ class MainWindow : public QMainWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -61,6 +67,16 @@ class MainWindow : public QMainWindow {
   void BuildMenu();
   QAction* AddSubmenu(QMenu& menu, const CommandRow& command);
   void BuildBody();
+  void BuildBar(QWidget* body);
+  // What the size of the window makes of its parts.
+  void TakeMeasures();
+  void FitBar();
+  // The user's wishes, as they are kept.
+  void TakePreferences();
+  void EndGuide();
+  void ShowBoard(bool settled);
+  void TakeNote(const MessageBox& box);
+  void OpenPlateMenu(int seat, QPoint where);
   void ConnectTable();
   void ConnectHost();
   void Retranslate();
@@ -90,7 +106,14 @@ class MainWindow : public QMainWindow {
   Game& game_;
   ShellHost& host_;
   Desk desk_;
+  TableStage* stage_ = nullptr;
   TableWidget* table_ = nullptr;
+  QWidget* bar_ = nullptr;
+  BetButtons* betButtons_ = nullptr;
+  Measures measures_;
+  Preferences preferences_;
+  std::int64_t settledThrows_ = 0;  // of the table when no roll was being settled
+  std::int64_t badgesOf_ = 0;       // throws of the table when badges were last shown
   AmountSelector* amounts_ = nullptr;
   RunControls* controls_ = nullptr;
   TurboPanel* turbo_ = nullptr;

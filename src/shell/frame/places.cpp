@@ -8,7 +8,8 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/docking.h"
 #include "shell/table/amount_selector.h"
-#include "shell/table/table_painter.h"
+#include "shell/table/appearance.h"
+#include "shell/table/table_stage.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
 
@@ -27,11 +28,10 @@ WindowPlace MainPlace(const QWidget& window) {
 }
 
 void KeepRails(ScreenState& screen, const Desk& desk) {
-  const TableWidget& table = *desk.table;
-  const auto boxes = PlaceStatusBoxes(desk.game, table.Layout(), table.view, table.font());
   for (int seat = 1; seat <= kSeats; ++seat) {
-    screen.RailLeft[seat] = static_cast<int>(boxes[seat].left());
-    screen.RailTop[seat] = static_cast<int>(boxes[seat].top());
+    const QPoint corner = desk.stage->PlateOf(seat).pos();
+    screen.RailLeft[seat] = corner.x();
+    screen.RailTop[seat] = corner.y();
   }
 }
 
@@ -67,7 +67,7 @@ void PlaceMainWindow(Desk& desk) {
   const QScreen* screen = placed ? QGuiApplication::screenAt(QRect(corner, wanted).center()) : nullptr;
   const QRect room = (screen != nullptr ? screen : window.screen())->availableGeometry();
   window.setWindowState(window.windowState() & ~Qt::WindowMaximized);
-  window.resize((placed ? wanted : kFirstSize).boundedTo(room.size() - kFrame));
+  window.resize((placed ? wanted : kFirstSize).boundedTo(room.size() - kFrame).expandedTo(kSmallestWindow));
   if (screen != nullptr)
     window.move(std::clamp(corner.x(), room.left(), room.right() + 1 - window.width()),
                 std::clamp(corner.y(), room.top(), room.bottom() + 1 - window.height()));

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "base/messages.h"
 #include "shell/frame/sounds.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -21,6 +22,13 @@ constexpr qint64 kSlowestProgress = 2000;
 constexpr int kWaitStep = 10;
 }  // namespace
 
+bool IsNote(Msg id) {
+  constexpr Msg kNotes[] = {Msg::kMinimumBet,     Msg::kMaximumBet,     Msg::kMaximumBetButContract,
+                            Msg::kVigCharged,     Msg::kVigOnWin,       Msg::kBankrollTooSmall,
+                            Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRemains};
+  return std::find(std::begin(kNotes), std::end(kNotes), id) != std::end(kNotes);
+}
+
 ShellHost::ShellHost() { clock_.start(); }
 
 ShellHost::~ShellHost() { delete notice_; }
@@ -28,6 +36,11 @@ ShellHost::~ShellHost() { delete notice_; }
 // A notice stands over the window while the work goes on; the next box takes its place.
 void ShellHost::ShowMessage(Game& game, MessageBox& box) {
   EndNotice(game);
+  if (showNote && IsNote(box.MsgId)) {
+    showNote(game, box);
+    box.MsgResult = kResultOk;
+    return;
+  }
   if (beforeBox) beforeBox();
   if (IsNotice(box)) {
     notice_ = new MessageScreen(box, window);
@@ -58,6 +71,7 @@ void ShellHost::TellBetweenRolls(Game& game) {
 }
 
 bool ShellHost::Yield(Game& game) {
+  rolled.Note(game);
   if ((++yields_ % kYieldsPerLook) != 0 && game.table.TurboRollActive && game.settings.RollThrottle == 0)
     return false;
   const qint64 now = clock_.elapsed();
@@ -114,6 +128,7 @@ bool ShellHost::PlaySoundFile(Game& game, const std::string& name) {
 }
 
 void ShellHost::Changed(Game& game, Change change) {
+  rolled.Note(game);
   if (changed) changed(game, change);
 }
 

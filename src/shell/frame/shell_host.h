@@ -7,11 +7,16 @@
 #include <functional>
 
 #include "shell/screens/message_screen.h"
+#include "shell/table/roll_story.h"
 #include "state/host.h"
 
 namespace tessaryn {
 
 class Sounds;
+
+// Notes on a bet that nobody is asked about: a limit, a charge, a change. They may stand in a list instead of
+// in boxes.
+bool IsNote(Msg id);
 
 class ShellHost : public Host {
  public:
@@ -31,6 +36,10 @@ class ShellHost : public Host {
   // A box is about to come up: what it stands over is brought up to date, since the state rests until it is
   // answered.
   std::function<void()> beforeBox;
+  // A note is told in a list. Empty: in a box.
+  std::function<void(Game&, const MessageBox&)> showNote;
+  // The last rolls, those of a run at full speed too.
+  RollHistory rolled;
   // The settlement dialog. Empty: the safe choice.
   std::function<SettleAnswer(Game&, const SettleQuestion&)> askSettlement;
   std::function<void(Game&, Change)> changed;

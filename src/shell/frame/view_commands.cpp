@@ -21,7 +21,7 @@ constexpr int kTurn = 30;  // degrees
 // Parts of the table that have a command of their own, in table units.
 constexpr QRectF kLeftEnd(-20, -25, 605, 590);
 constexpr QRectF kRightEnd(663, -25, 605, 590);
-constexpr QRectF kPropositionBets(556, 30, 135, 470);
+constexpr QRectF kPropositionBets(556, 4, 135, 524);
 
 bool AmountsShown(const Desk& desk) { return desk.table->scene.showAmounts; }
 
@@ -31,11 +31,12 @@ void ShowAmounts(Desk& desk) {
 }
 
 void LookAt(TableView& view, QRectF tableArea) {
+  const QRectF room =
+      QRectF(QPointF(), QSizeF(view.Window)).adjusted(0, view.MarginTop, 0, -view.MarginBottom);
   const QRectF shown = view.Transform().mapRect(tableArea);
-  const double share = std::min(view.Window.width() / shown.width(), view.Window.height() / shown.height());
+  const double share = std::min(room.width() / shown.width(), room.height() / shown.height());
   ZoomTo(view, static_cast<int>(view.TableZoom * share), shown.center());
-  const QPointF off =
-      QPointF(view.Window.width() / 2.0, view.Window.height() / 2.0) - view.ToScreen(tableArea.center());
+  const QPointF off = room.center() - view.ToScreen(tableArea.center());
   view.TableOffsetX += static_cast<int>(off.x());
   view.TableOffsetY += static_cast<int>(off.y());
 }

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "base/fields.h"
+#include "shell/table/preferences.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -103,6 +104,7 @@ LooksPage::LooksPage(Game& game, QWidget* parent) : TwoColumns(parent), game_(ga
         *dice, QStringLiteral("cmdColorDie%1").arg(n + 1), n == 0 ? tr("First die") : tr("Second die"),
         [](Looks& looks, int die) -> std::uint32_t& { return looks.Dice[die]; }, n);
   AddColor(*dice, "cmdColorPips", tr("Pips"), [](Looks& looks, int) -> std::uint32_t& { return looks.Pips; });
+  AddWindow(*group(tr("Window"), 1));
   auto* first = new QPushButton(tr("All as at first"), widget());
   first->setObjectName("cmdFirstLooks");
   first->setAutoDefault(false);
@@ -187,6 +189,37 @@ void LooksPage::AddFont(QFormLayout& form) {
     own->setChecked(!family.empty());
     font_->setEnabled(!family.empty());
     if (!family.empty()) font_->setCurrentFont(QFont(FromCore(family)));
+  });
+}
+
+// What the user wants of the program, whatever game is open.
+void LooksPage::AddWindow(QFormLayout& form) {
+  auto* scheme = new QComboBox(form.parentWidget());
+  scheme->setObjectName("cmbScheme");
+  scheme->setAccessibleName(tr("Light or dark"));
+  scheme->addItems({tr("As the desktop"), tr("Light"), tr("Dark")});
+  form.addRow(tr("Light or dark"), scheme);
+  const auto change = [this](auto set) {
+    Preferences wanted = ReadPreferences(game_.dataFolder);
+    set(wanted);
+    WritePreferences(game_.dataFolder, wanted);
+    game_.host->Changed(game_, Change::kSettings);
+  };
+  connect(scheme, &QComboBox::activated, this, [change](int chosen) {
+    change([chosen](Preferences& wanted) { wanted.scheme = static_cast<Scheme>(chosen); });
+  });
+  const auto add = [&](const char* name, const QString& caption, bool Preferences::*place) {
+    auto* box = new QCheckBox(caption, form.parentWidget());
+    box->setObjectName(name);
+    form.addRow(box);
+    connect(box, &QCheckBox::clicked, this,
+            [change, place](bool on) { change([place, on](Preferences& wanted) { wanted.*place = on; }); });
+    shows_.push_back([this, box, place] { box->setChecked(ReadPreferences(game_.dataFolder).*place); });
+  };
+  add("chkNoMotion", tr("No motion"), &Preferences::noMotion);
+  add("chkNotesInBoxes", tr("Notes in boxes"), &Preferences::notesInBoxes);
+  shows_.push_back([this, scheme] {
+    scheme->setCurrentIndex(static_cast<int>(ReadPreferences(game_.dataFolder).scheme));
   });
 }
 

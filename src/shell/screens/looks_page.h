@@ -47,6 +47,7 @@ class LooksPage : public TwoColumns {
   QSlider* AddSlider(QFormLayout& form, const char* name, const QString& caption, int Looks::*place);
   void AddCloth(QFormLayout& form);
   void AddFont(QFormLayout& form);
+  void AddWindow(QFormLayout& form);
   void Changed();
 
   Game& game_;

@@ -12,23 +12,19 @@
 
 namespace tessaryn {
 
-namespace {
-constexpr int kCheckSize = 30;
-}
-
 AmountSelector::AmountSelector(const Game& game, QWidget* parent)
     : QWidget(parent), game_(game), typed_(new MoneyEdit(this)) {
   setObjectName("picAmt");
   setAccessibleName(tr("Bet amount"));
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(4, 2, 4, 2);
+  row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(2);
   for (int n = 1; n <= 5; ++n) {
     checks_[n] = new QToolButton(this);
     checks_[n]->setObjectName(QString("picCheck%1").arg(n));
     checks_[n]->setCheckable(true);
     checks_[n]->setAutoRaise(true);
-    checks_[n]->setIconSize(QSize(kCheckSize, kCheckSize));
+    checks_[n]->setFocusPolicy(Qt::TabFocus);
     connect(checks_[n], &QToolButton::clicked, this, [this, n] { SetAmount(game_.settings.CheckValue[n]); });
     row->addWidget(checks_[n]);
   }
@@ -43,12 +39,21 @@ AmountSelector::AmountSelector(const Game& game, QWidget* parent)
   RefreshChecks();
 }
 
+void AmountSelector::SetMeasures(const Measures& measures) {
+  checkSize_ = measures.check;
+  typed_->setFixedHeight(measures.compact ? 26 : 32);
+  layout()->setSpacing(measures.compact ? 2 : 4);
+  RefreshChecks();
+}
+
 void AmountSelector::RefreshChecks() {
   for (int n = 1; n <= 5; ++n) {
+    checks_[n]->setIconSize(QSize(checkSize_, checkSize_));
+    checks_[n]->setFixedSize(checkSize_ + 6, checkSize_ + 6);
     const QString value = TableAmountText(game_, game_.settings.CheckValue[n]);
     checks_[n]->setIcon(CheckPicture(n,
                                      CheckText(n, game_.settings.CheckValue, game_.settings.UseCentsSymbol),
-                                     kCheckSize, devicePixelRatioF()));
+                                     checkSize_, devicePixelRatioF()));
     checks_[n]->setAccessibleName(tr("Bet %1 a click").arg(value));
     checks_[n]->setToolTip(tr("Bet %1 a click").arg(value));
   }

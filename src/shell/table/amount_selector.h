@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "base/money.h"
+#include "shell/table/appearance.h"
 
 class QButtonGroup;
 class QToolButton;
@@ -23,6 +24,7 @@ class AmountSelector : public QWidget {
   void SetAmount(Currency amount);
   // The checks' values changed.
   void RefreshChecks();
+  void SetMeasures(const Measures& measures);
 
  signals:
   void amountChanged();
@@ -39,6 +41,7 @@ class AmountSelector : public QWidget {
 
   const Game& game_;
   Currency amount_ = Currency::Dollars(5);
+  int checkSize_ = 30;
   QToolButton* checks_[6] = {};
   MoneyEdit* typed_;
 };

@@ -1,6 +1,8 @@
 #include "shell/table/run_controls.h"
 
+#include <QApplication>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -44,7 +46,7 @@ void Trim(QPushButton& button, const QStringList& captions) {
 
 RunControls::RunControls(QWidget* parent)
     : QWidget(parent),
-      roll_(new QPushButton(tr("R&oll"), this)),
+      roll_(new QPushButton(tr("R&oll") + QStringLiteral("  F2"), this)),
       pass_(new QPushButton(tr("Pass dice"), this)),
       run_(new QPushButton(this)),
       throttle_(new QSlider(Qt::Horizontal, this)),
@@ -62,7 +64,6 @@ RunControls::RunControls(QWidget* parent)
   throttle_->setToolTip(tr("How fast a run goes: full speed on the left, Auto-Roll on the right"));
   speed_->setObjectName("lblThrottle");
   speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 2);
-  Trim(*roll_, {roll_->text()});
   Trim(*pass_, {pass_->text()});
   Trim(*run_,
        {tr("Start &Turbo-Roll"), tr("Stop &Turbo-Roll"), tr("Start &Auto-Roll"), tr("Stop &Auto-Roll")});
@@ -73,10 +74,43 @@ RunControls::RunControls(QWidget* parent)
        {static_cast<QWidget*>(throttle_), static_cast<QWidget*>(speed_), static_cast<QWidget*>(run_),
         static_cast<QWidget*>(pass_), static_cast<QWidget*>(roll_)})
     row->addWidget(part);
+  roll_->setFocusPolicy(Qt::TabFocus);
+  SetMeasures({});
+  TakeTones();
   connect(roll_, &QPushButton::clicked, this, &RunControls::rollPressed);
   connect(pass_, &QPushButton::clicked, this, &RunControls::passPressed);
   connect(run_, &QPushButton::clicked, this, &RunControls::turboPressed);
   connect(throttle_, &QSlider::valueChanged, this, &RunControls::throttleMoved);
+}
+
+void RunControls::SetMeasures(const Measures& measures) {
+  roll_->setFixedSize(measures.roll);
+  roll_->setFont(Sized(font(), measures.compact ? 13 : 16, true));
+  const int height = measures.compact ? 28 : 34;
+  pass_->setFixedHeight(height);
+  run_->setFixedHeight(height);
+  throttle_->setFixedWidth(measures.compact ? 84 : 112);
+  layout()->setSpacing(measures.compact ? 4 : 8);
+}
+
+void RunControls::ShowPass(bool shown) { pass_->setVisible(shown); }
+
+void RunControls::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) TakeTones();
+  QWidget::changeEvent(event);
+}
+
+// The one button that goes on stands out.
+void RunControls::TakeTones() {
+  const Tones& tones = TonesInForce();
+  QPalette colours = QApplication::palette();
+  colours.setColor(QPalette::Button, tones.primary);
+  colours.setColor(QPalette::ButtonText, tones.onPrimary);
+  QColor faint = tones.primary;
+  faint.setAlpha(130);
+  colours.setColor(QPalette::Disabled, QPalette::Button, faint);
+  colours.setColor(QPalette::Disabled, QPalette::ButtonText, tones.onPrimary);
+  roll_->setPalette(colours);
 }
 
 void RunControls::Refresh(const Game& game) {

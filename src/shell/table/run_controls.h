@@ -4,6 +4,8 @@
 #include <QString>
 #include <QWidget>
 
+#include "shell/table/appearance.h"
+
 class QLabel;
 class QPushButton;
 class QSlider;
@@ -23,6 +25,9 @@ class RunControls : public QWidget {
  public:
   explicit RunControls(QWidget* parent = nullptr);
   void Refresh(const Game& game);
+  void SetMeasures(const Measures& measures);
+  // Passing the dice has its key and its entry in the menu where there is no room for a button.
+  void ShowPass(bool shown);
 
  signals:
   void rollPressed();
@@ -30,7 +35,12 @@ class RunControls : public QWidget {
   void turboPressed();
   void throttleMoved(int position);
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
+  void TakeTones();
+
   QPushButton* roll_;
   QPushButton* pass_;
   QPushButton* run_;

@@ -10,6 +10,7 @@
 #include "rules/bet_limits.h"
 #include "rules/bet_rules.h"
 #include "rules/payoffs.h"
+#include "shell/table/plates.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_painter.h"
 #include "state/bet_families.h"
@@ -236,7 +237,7 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
     parts += Translated("Moving %1").arg(BetAmountText(game, commands.Moving.Seat, commands.Moving.Bet));
   if (bet == 0) {
     if (occupied)
-      parts += FromCore(game.table.seats[seat].SeatName) + "   " + StatusLines(game, seat).join("   ");
+      parts += FromCore(game.table.seats[seat].SeatName) + "   " + MoneyLines(game, seat).join("   ");
     return parts.join("   ");
   }
   parts += BetAmountText(game, seat, bet);

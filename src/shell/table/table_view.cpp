@@ -41,10 +41,10 @@ int Bounded(double low, double high, int size, int change) {
 }
 
 int FittingHeight(const TableView& view) {
-  return static_cast<int>((view.Window.height() - 2 * view.MarginY) / kTableRatio);
+  return static_cast<int>((view.Window.height() - view.MarginTop - view.MarginBottom) / kTableRatio);
 }
 
-int FittingWidth(const TableView& view) { return view.Window.width() - 2 * view.MarginX; }
+int FittingWidth(const TableView& view) { return view.Window.width(); }
 
 int ZoomByMode(const TableView& view, int mode, int direction) {
   switch (mode) {
@@ -108,16 +108,43 @@ void CenterTable(TableView& view) {
   view.TableOffsetY += static_cast<int>(std::lround(off.y()));
 }
 
+namespace {
+
+// The middle of what reaches so far comes to a point of the screen.
+void PutMiddle(TableView& view, const QRectF& reach, QPointF middle) {
+  view.TableOffsetX += static_cast<int>(std::lround(middle.x() - reach.center().x()));
+  view.TableOffsetY += static_cast<int>(std::lround(middle.y() - reach.center().y()));
+}
+
+void TakeZoom(TableView& view, double zoom) {
+  view.TableZoom = std::clamp(static_cast<int>(zoom), kMinimumZoom, kMaximumZoom);
+  SetCoefficients(view);
+}
+
+// Upright: as wide as the window, or as high as leaves the plates their room, which hang on the lower rail.
+void FitUpright(TableView& view) {
+  const double width = view.Window.width();
+  const double height = view.Window.height();
+  double scale = std::min(width / kTableFrame.width(), (height - kBelowTable) / kTableFrame.height());
+  scale = std::min(scale, (height - view.MarginBottom) / (kFeltBottom - kTableFrame.top()));
+  TakeZoom(view, scale * kTableUnits);
+  const QRectF reach = FrameExtremes(view);
+  const double below =
+      std::max<double>(kBelowTable, view.MarginBottom - (kTableFrame.bottom() - kFeltBottom) * view.Scale());
+  const double spare = std::max(0.0, height - reach.height() - below);
+  PutMiddle(view, reach, QPointF(width / 2, spare / 2 + reach.height() / 2));
+}
+
+}  // namespace
+
 void FitTable(TableView& view) {
-  view.TableZoom = kMaximumZoom;
   SetCoefficients(view);
-  const QRectF reach = TableExtremes(view);
-  const double width = (view.Window.width() - 2 * view.MarginX) / reach.width();
-  const double height = (view.Window.height() - 2 * view.MarginY) / reach.height();
-  view.TableZoom =
-      std::clamp(static_cast<int>(kMaximumZoom * std::min(width, height)), kMinimumZoom, kMaximumZoom);
-  SetCoefficients(view);
-  CenterTable(view);
+  if (view.TableAngle == 0) return FitUpright(view);
+  TakeZoom(view, kMaximumZoom);
+  const QRectF reach = FrameExtremes(view);
+  const double height = view.Window.height() - view.MarginTop - view.MarginBottom;
+  TakeZoom(view, kMaximumZoom * std::min(view.Window.width() / reach.width(), height / reach.height()));
+  PutMiddle(view, FrameExtremes(view), QPointF(view.Window.width() / 2.0, view.MarginTop + height / 2));
 }
 
 void ResizeView(TableView& view, QSize window) {
@@ -144,15 +171,26 @@ bool RestoreView(TableView& view, int number) {
   return true;
 }
 
-QRectF TableExtremes(const TableView& view) {
+namespace {
+
+QRectF Reach(const TableView& view, double rail) {
   QRectF reach;
   for (const Corner& corner : kCorners) {
     const QPointF centre = view.ToScreen({corner.x, corner.y});
-    const double radius = corner.radius * view.Scale();
+    const double radius = (corner.radius + rail) * view.Scale();
     reach |=
         QRectF(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius).adjusted(0, 0, 0.001, 0.001);
   }
   return reach;
+}
+
+}  // namespace
+
+QRectF TableExtremes(const TableView& view) { return Reach(view, 0); }
+
+// The round corners reach less far than those of the frame when the table is turned.
+QRectF FrameExtremes(const TableView& view) {
+  return Reach(view, -kTableFrame.left()) & view.Transform().mapRect(kTableFrame);
 }
 
 }  // namespace tessaryn

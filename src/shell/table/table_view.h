@@ -33,10 +33,10 @@ struct TableView {
   float TableSinY = 0;  // screen y = y * TableCosY - x * TableSinY + TableOffsetY
   float TableCosY = 1;
   QSize Window;  // of the widget that shows the table
-  // Room that the window's size must leave to the status boxes above and below, and on either side, when a
-  // table is fitted into it.
-  int MarginX = 0;
-  int MarginY = 0;
+  // Room that plates take at the upper and the lower edge of the window, where no felt may lie: a table that
+  // stands whole and upright needs less of it, since they stand on its rail.
+  int MarginTop = 0;
+  int MarginBottom = 0;
   std::array<SavedView, kSavedViews> SavedViews;
 
   // From table units to the screen.
@@ -63,6 +63,13 @@ void MoveTable(TableView& view, int dx, int dy, int mode);
 // By any distance, bounded in the same way.
 void ShiftTable(TableView& view, int dx, int dy);
 void CenterTable(TableView& view);
+// The drawn table, rail and all, in table units.
+inline constexpr QRectF kTableFrame(-38, -20, 1323, 594);
+// The lower edge of the felt in it.
+inline constexpr double kFeltBottom = 529;
+// Below a table that stands upright, for the plates.
+inline constexpr int kBelowTable = 18;
+
 // The largest zoom that shows the whole table at its angle, centred.
 void FitTable(TableView& view);
 // The window has another size: the table point at its centre stays there.
@@ -72,7 +79,8 @@ void ResizeView(TableView& view, QSize window);
 bool SaveView(TableView& view, int number);
 bool RestoreView(TableView& view, int number);
 
-// How far the drawn table reaches on the screen.
+// How far the drawn table reaches on the screen, by the told corners; and with all of its rail.
 QRectF TableExtremes(const TableView& view);
+QRectF FrameExtremes(const TableView& view);
 
 }  // namespace tessaryn

@@ -22,8 +22,9 @@ namespace {
 
 constexpr int kFlashMilliseconds = 160;
 constexpr int kFlashes = 6;
-constexpr int kThrowMilliseconds = 520;
+constexpr int kThrowMilliseconds = 500;
 constexpr int kRainMilliseconds = 3000;
+constexpr std::int64_t kStillBelow = Currency::kPerDollar * 6 / 10;  // of a run's seconds a roll
 // A stack in hand shows beside the hand that is the pointer then, not below it.
 constexpr QPoint kHeldAbove(10, 12);
 constexpr int kFrameMilliseconds = 15;
@@ -120,27 +121,37 @@ void TableWidget::RebuildLayout() {
   layout_ = BuildTableLayout(game_.settings, game_.payoffs);
   drawing_ = {BuildTableLayout(game_.settings, game_.payoffs),
               BuildTableLayout(game_.settings, game_.payoffs)};
-  tableStale_ = mapStale_ = boxesStale_ = true;
+  tableStale_ = mapStale_ = true;
   Refresh();
 }
 
-void TableWidget::SetMargins() {
-  view.MarginY = static_cast<int>(QFontMetricsF(font()).height() * 5 + 16);
-  view.MarginX = 6;
+void TableWidget::SetPlateRoom(int above, int below) {
+  if (view.MarginTop == above && view.MarginBottom == below) return;
+  view.MarginTop = above;
+  view.MarginBottom = below;
+  if (fitted_) ShowWhole();
+  update();
 }
 
 void TableWidget::ShowWhole() {
-  SetMargins();
   FitTable(view);
-  ViewChanged();
-  fitted_ = true;
+  TellView(true);
 }
 
-void TableWidget::ViewChanged() {
-  fitted_ = false;
-  tableStale_ = mapStale_ = boxesStale_ = true;
+void TableWidget::ViewChanged() { TellView(false); }
+
+void TableWidget::TellView(bool fitted) {
+  fitted_ = fitted;
+  tableStale_ = mapStale_ = true;
   TellSoon();
   update();
+  emit viewChanged();
+}
+
+// What of the widget shows the table: beside it the plates stand, off the felt.
+QRect TableWidget::OpenRoom() const {
+  if (fitted_ && view.TableAngle == 0) return rect();
+  return rect().adjusted(0, view.MarginTop, 0, -view.MarginBottom);
 }
 
 void TableWidget::Refresh() {
@@ -153,7 +164,7 @@ void TableWidget::Refresh() {
     std::copy_n(table.seats[seat].VisibleStacks, 4, now.stacks[seat].begin());
     PlaceVisibleStacks(layout_, seat, table.seats[seat].VisibleStacks);
   }
-  if (!(now == shown_)) mapStale_ = boxesStale_ = true;
+  if (!(now == shown_)) mapStale_ = true;
   shown_ = now;
   BetInHand& hand = commands_.Moving;
   if (hand.Seat != table.SelectedSeat || table.BetAmount(hand.Seat, hand.Bet) == kZero) hand = {};
@@ -183,29 +194,13 @@ void TableWidget::PrepareMap() {
 
 void TableWidget::paintEvent(QPaintEvent*) {
   PrepareTable();
-  if (boxesStale_) boxes_ = PlaceStatusBoxes(game_, layout_, view, font());
-  boxesStale_ = false;
   QPainter painter(this);
   painter.drawImage(0, 0, table_);
   DrawChecksAndDice(painter, scene, layout_, view, colors, checks_);
-  DrawStatusBoxes(painter, game_, boxes_, font());
-  if (game_.table.OccupiedSeats == 0) {
-    QFont large = font();
-    large.setPointSizeF(font().pointSizeF() * 1.5);
-    painter.setFont(large);
-    const QString hint = tr("Click an open position on the rail to add a player.");
-    QRectF box = QFontMetricsF(large).boundingRect(hint).adjusted(-18, -10, 18, 10);
-    box.moveCenter(QPointF(width() / 2.0, height() - box.height() / 2 - 8));
-    painter.setPen(QPen(QColor(255, 214, 92), 1.5));
-    painter.setBrush(QColor(20, 18, 16, 232));
-    painter.drawRoundedRect(box, 8, 8);
-    painter.setPen(QColor(255, 240, 205));
-    painter.drawText(box, Qt::AlignCenter, hint);
-  }
+  for (const QRect& part : QRegion(rect()) - OpenRoom()) painter.fillRect(part, colors.Room);
 }
 
 void TableWidget::resizeEvent(QResizeEvent*) {
-  SetMargins();
   if (fitted_) {
     view.Window = size();
     ShowWhole();
@@ -216,7 +211,6 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 }
 
 void TableWidget::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange) boxesStale_ = true;
   if (event->type() == QEvent::LanguageChange) TellSoon();
   QWidget::changeEvent(event);
 }
@@ -224,6 +218,7 @@ void TableWidget::changeEvent(QEvent* event) {
 // --- Where things are.
 
 Hit TableWidget::HitAt(QPoint point) {
+  if (!OpenRoom().contains(point)) return {};
   PrepareMap();
   const Hit hit = HitTest(map_, point, game_);
   // A stack at another seat's rail is that player's: a click there chooses the seat.
@@ -248,8 +243,7 @@ int TableWidget::StackAt(QPoint point) const {
 }
 
 int TableWidget::SeatAt(QPoint point) const {
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (boxes_[seat].contains(point)) return seat;
+  if (!OpenRoom().contains(point)) return 0;
   const QPointF table = view.ToTable(point);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const SeatPlace& place = layout_.Seats[seat];
@@ -642,7 +636,9 @@ void TableWidget::ShowThrow() {
   const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
   const QPointF from = layout_.Seats[std::max(1, game_.table.ShooterSeat)].Rail;
   constexpr int kMilliseconds[] = {kThrowMilliseconds, 0, kThrowMilliseconds / 2};
-  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0)
+  // The dice of a quick run would never lie still.
+  const bool quick = game_.table.AutoRollActive && game_.settings.AutoRollDelay.raw < kStillBelow;
+  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0 && !quick)
     Animate(time, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
   scene.dice = rest;
   update();

@@ -39,6 +39,8 @@ class TableWidget : public QWidget {
   void RebuildLayout();
   // The view was changed from outside.
   void ViewChanged();
+  // How much of the upper and lower edge is the plates' in any view but the whole table's.
+  void SetPlateRoom(int above, int below);
   // The whole table, as large as the window shows it.
   void ShowWhole();
   // It is shown so until the user chooses another view.
@@ -72,6 +74,7 @@ class TableWidget : public QWidget {
   void seatClicked(int seat);
   void pointedAt(int bet);
   void wheelZoomed();
+  void viewChanged();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -106,7 +109,8 @@ class TableWidget : public QWidget {
   void LeftPress(QMouseEvent* event);
   void LeftRelease(QMouseEvent* event);
   void DragStack(QMouseEvent* event);
-  void SetMargins();
+  QRect OpenRoom() const;
+  void TellView(bool fitted);
   // Calls frame with the share 0 to 1 of the time that is over, until it is or the user cuts it short.
   void Animate(int milliseconds, const std::function<void(double)>& frame);
   void CloseEntry();
@@ -122,9 +126,7 @@ class TableWidget : public QWidget {
   bool tableStale_ = true;
   bool mapStale_ = true;
   bool fitted_ = true;  // shows the whole table until the user chooses a view
-  std::array<QRectF, kSeatRows> boxes_;
-  bool boxesStale_ = true;
-  // What the map and the boxes were made for, beside the view.
+  // What the map was made for, beside the view.
   struct Shown {
     int selected = 0;
     std::array<bool, kSeatRows> seats{};

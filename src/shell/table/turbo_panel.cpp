@@ -45,16 +45,13 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
   column->addStretch(2);
   auto* caption = new QLabel(tr("Turbo-Roll Active"), this);
   caption->setObjectName("lblTurboRoll");
-  QFont large = font();
-  large.setPointSize(30);
-  caption->setFont(large);
+  caption_ = caption;
   caption->setAlignment(Qt::AlignCenter);
   column->addWidget(caption);
   column->addSpacing(14);
   auto* middle = new QHBoxLayout;
-  auto* grid = new QGridLayout;
+  auto* grid = grid_ = new QGridLayout;
   grid->setHorizontalSpacing(24);
-  grid->setVerticalSpacing(3);
   middle->addStretch();
   middle->addLayout(grid);
   middle->addStretch();
@@ -70,8 +67,7 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
     changes_[row] = new QLabel(this);
     changes_[row]->setObjectName("lblChange");
     changes_[row]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    changes_[row]->setFont(bankrolls_[row]->font());
-    changes_[row]->setMinimumWidth(changes_[row]->fontMetrics().horizontalAdvance("-19,999,998.00") + kSlack);
+    figures_.append(changes_[row]);
     grid->addWidget(changes_[row], 4 + row, 2);
   }
   column->addSpacing(14);
@@ -80,25 +76,48 @@ TurboPanel::TurboPanel(QWidget* parent) : QWidget(parent), stop_(new QPushButton
   column->addWidget(stop_, 0, Qt::AlignHCenter);
   column->addStretch(3);
   connect(stop_, &QPushButton::clicked, this, &TurboPanel::stopPressed);
+  TakeLetters(false);
 }
 
 QLabel* TurboPanel::AddFigure(QGridLayout& grid, int row, const QString& caption, const char* name) {
   auto* label = new QLabel(caption, this);
   auto* figure = new QLabel(this);
   figure->setObjectName(name);
-  // Figures of one width, in a column wide enough for the largest, so that nothing jumps.
-  QFont digits = font();
-  digits.setPointSizeF(digits.pointSizeF() * 1.25);
-  digits.setStyleHint(QFont::Monospace);
-  digits.setFamily("monospace");
-  figure->setFont(digits);
-  label->setFont(digits);
-  figure->setMinimumWidth(figure->fontMetrics().horizontalAdvance("-9,999,999.00") + kSlack);
+  figures_.append(figure);
+  captions_.append(label);
   figure->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   grid.addWidget(label, row, 0);
   grid.addWidget(figure, row, 1);
   return figure;
 }
+
+// Figures of one width, in a column wide enough for the largest, so that nothing jumps.
+void TurboPanel::TakeLetters(bool small) {
+  QFont large = font();
+  large.setPointSize(small ? 14 : 30);
+  caption_->setFont(large);
+  QFont digits = font();
+  digits.setPointSizeF(digits.pointSizeF() * (small ? 0.9 : 1.25));
+  digits.setStyleHint(QFont::Monospace);
+  digits.setFamily("monospace");
+  for (QLabel* label : captions_ + figures_) label->setFont(digits);
+  const QFontMetrics metrics(digits);
+  for (QLabel* figure : figures_)
+    figure->setMinimumWidth(
+        metrics.horizontalAdvance(figure->objectName() == "lblChange" ? "-19,999,998.00" : "-9,999,999.00") +
+        kSlack);
+  grid_->setVerticalSpacing(small ? 0 : 3);
+  layout()->setContentsMargins(9, small ? 2 : 9, 9, small ? 2 : 9);
+  layout()->invalidate();
+}
+
+// In a small window all of it shows in smaller letters.
+void TurboPanel::FitLetters() {
+  TakeLetters(false);
+  if (layout()->minimumSize().height() > height()) TakeLetters(true);
+}
+
+void TurboPanel::resizeEvent(QResizeEvent*) { FitLetters(); }
 
 void TurboPanel::Begin(const Game& game) {
   clock_.start();
@@ -113,6 +132,7 @@ void TurboPanel::Begin(const Game& game) {
         FromCore(game.table.seats[seats_[row]].SeatName), Qt::ElideRight, nameWidth));
     for (QLabel* label : {names_[row], bankrolls_[row], changes_[row]}) label->setVisible(here);
   }
+  FitLetters();
   Refresh(game);
   layout()->activate();
 }

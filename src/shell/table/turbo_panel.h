@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QList>
 #include <QWidget>
 #include <cstdint>
 
@@ -30,9 +31,12 @@ class TurboPanel : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void TakeLetters(bool small);
+  void FitLetters();
   QLabel* AddFigure(QGridLayout& grid, int row, const QString& caption, const char* name);
   QString Amount(Currency value) const;
 
@@ -46,6 +50,10 @@ class TurboPanel : public QWidget {
   int seats_[kSeats] = {};  // who a row is for; 0 nobody
   bool cents_ = false;      // there has been an amount with cents: all have two places from then on
   QPushButton* stop_;
+  QLabel* caption_ = nullptr;
+  QGridLayout* grid_ = nullptr;
+  QList<QLabel*> captions_;
+  QList<QLabel*> figures_;
   QElapsedTimer clock_;
   std::int64_t firstRoll_ = 0;
   Currency firstBankroll_[kSeatRows];

@@ -1,0 +1,286 @@
+#include "shell/table/plates.h"
+
+#include <QContextMenuEvent>
+#include <QCoreApplication>
+#include <QFontMetricsF>
+#include <QLocale>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <cmath>
+
+#include "shell/table/pictures.h"
+#include "shell/table/screen_tools.h"
+#include "shell/table/table_layout.h"
+#include "state/game.h"
+
+namespace tessaryn {
+
+namespace {
+
+constexpr int kEdgeGap = 4;   // to the stage's edge
+constexpr int kPlateGap = 4;  // between two
+constexpr double kPadding = 8;
+constexpr double kTip = kPlateTip;
+// Told places of the seats on the lower rail.
+constexpr int kLowerSeats[] = {3, 4, 5, 6};
+constexpr double kLowerSpots[] = {160, 425, 823, 1088};  // x in table units
+constexpr double kFrameBottom = 574;
+
+QString Told(const char* text) { return QCoreApplication::translate("Plates", text); }
+
+// What points from a plate's upper edge to its player's place.
+QPolygonF TipOf(double x) {
+  return QPolygonF({QPointF(x - kTip, kTip), QPointF(x + kTip, kTip), QPointF(x, 0)});
+}
+
+QString Amount(Currency value) { return QLocale(QLocale::English).toString(value.ToDouble(), 'f', 2); }
+
+}  // namespace
+
+PlateText PlateTextOf(const Game& game, int seat) {
+  const TableState& table = game.table;
+  PlateText text;
+  if (!IsOccupied(table, seat)) return text;
+  const SeatScript& script = game.autobet.Scripts[seat];
+  int bets = 0;
+  table.seats[seat].SeatBets.ForEach([&](int) { ++bets; });
+  const Currency result = table.BankrollCurrent[seat] - game.stats.BankrollSessionStart[seat];
+  text.name = FromCore(table.seats[seat].SeatName);
+  text.selected = table.SelectedSeat == seat;
+  text.shooter = table.ShooterSeat == seat;
+  if (game.autobet.ScriptActive[seat])
+    text.script = script.Errors.empty() ? ScriptSign::kActive : ScriptSign::kError;
+  text.rail = Amount(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount);
+  text.bankroll = Amount(table.BankrollCurrent[seat]);
+  text.betsCaption = bets == 1 ? Told(QT_TRANSLATE_NOOP("Plates", "1 Bet:"))
+                               : Told(QT_TRANSLATE_NOOP("Plates", "%1 Bets:")).arg(bets);
+  text.bets = Amount(table.seats[seat].OnTableAmount);
+  text.sign = result > kZero ? 1 : result < kZero ? -1 : 0;
+  text.resultCaption = text.sign > 0   ? Told(QT_TRANSLATE_NOOP("Plates", "Won:"))
+                       : text.sign < 0 ? Told(QT_TRANSLATE_NOOP("Plates", "Lost:"))
+                                       : Told(QT_TRANSLATE_NOOP("Plates", "Even:"));
+  text.result = Amount(result);
+  return text;
+}
+
+QStringList MoneyLines(const Game& game, int seat) {
+  const PlateText text = PlateTextOf(game, seat);
+  const auto line = [](const QString& caption, const QString& figure) {
+    return caption + QStringLiteral("  ") + figure;
+  };
+  return {line(Told(QT_TRANSLATE_NOOP("Plates", "Rail:")), text.rail),
+          line(Told(QT_TRANSLATE_NOOP("Plates", "Bankroll:")), text.bankroll),
+          line(text.betsCaption, text.bets), line(text.resultCaption, text.result)};
+}
+
+// --- Places.
+
+QSize PlateSize(QSize stage, const Measures& measures) {
+  const QSize small = MeasuresOf(kSmallestWindow).plate;
+  // Six stand side by side below the table.
+  return 6 * (measures.plate.width() + kPlateGap) + kEdgeGap > stage.width() ? small : measures.plate;
+}
+
+int RoomAbove(const Measures& measures, QSize stage) {
+  return std::max(0, kEdgeGap + PlateSize(stage, measures).height() + kPlateGap - measures.board);
+}
+
+int RoomBelow(const Measures& measures, QSize stage) {
+  return PlateSize(stage, measures).height() + kEdgeGap + kPlateGap;
+}
+
+PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
+                        bool fitted) {
+  PlatePlaces places;
+  const QSize size = PlateSize(stage, measures);
+  const int right = stage.width() - kEdgeGap - size.width();
+  places[1] = QRect(QPoint(kEdgeGap, kEdgeGap - 1), size);
+  places[8] = QRect(QPoint(right, kEdgeGap - 1), size);
+  int low = stage.height() - kEdgeGap + 1 - size.height();
+  // Where there is more room than needed they stay with the table.
+  const double bottom = view.ToScreen({0, kFrameBottom}).y() + table.top();
+  if (fitted) low = std::min(low, static_cast<int>(std::lround(bottom)) + kEdgeGap);
+  places[2] = QRect(QPoint(kEdgeGap, low), size);
+  places[7] = QRect(QPoint(right, low), size);
+  const auto wanted = [&](int n) {
+    const double share = fitted ? view.ToScreen({kLowerSpots[n], 0}).x() + table.left()
+                                : stage.width() * (kLowerSpots[n] + 38) / 1323;
+    return static_cast<int>(std::lround(share)) - size.width() / 2;
+  };
+  // Each as near to its player as its neighbours nearer to the corner let it.
+  const int step = size.width() + kPlateGap;
+  int x[4];
+  x[0] = std::max(wanted(0), places[2].left() + step);
+  x[3] = std::min(wanted(3), places[7].left() - step);
+  x[1] = std::max(wanted(1), x[0] + step);
+  x[2] = std::min(wanted(2), x[3] - step);
+  if (x[2] < x[1] + step) {
+    const int middle = (x[1] + x[2]) / 2;
+    x[1] = std::max(middle - step / 2, x[0] + step);
+    x[2] = std::max(x[1] + step, std::min(x[2], x[3] - step));
+  }
+  for (int n = 0; n < 4; ++n) places[kLowerSeats[n]] = QRect(QPoint(x[n], low), size);
+  return places;
+}
+
+// --- A plate.
+
+Plate::Plate(int seat, QWidget* parent) : QWidget(parent), seat_(seat) {
+  setObjectName(QStringLiteral("picPlate%1").arg(seat));
+  setCursor(Qt::PointingHandCursor);
+  setFocusPolicy(Qt::NoFocus);
+  hide();
+}
+
+void Plate::SetLook(double textHeight, int pointer) {
+  textHeight_ = textHeight;
+  pointer_ = pointer;
+  // Beside the tip the rail takes the clicks.
+  if (pointer < 0)
+    clearMask();
+  else
+    setMask(QRegion(0, kPlateTip, width(), height() - kPlateTip) + QRegion(TipOf(pointer).toPolygon()));
+  update();
+}
+
+void Plate::Show(const PlateText& text) {
+  setVisible(!text.name.isEmpty());
+  if (text == text_) return;
+  text_ = text;
+  Tell();
+  update();
+}
+
+// To a screen reader, and to who rests on a name that was cut.
+void Plate::Tell() {
+  setAccessibleName(text_.name);
+  const QString lines = Told(QT_TRANSLATE_NOOP("Plates", "Rail:")) + ' ' + text_.rail + '\n' +
+                        Told(QT_TRANSLATE_NOOP("Plates", "Bankroll:")) + ' ' + text_.bankroll + '\n' +
+                        text_.betsCaption + ' ' + text_.bets + '\n' + text_.resultCaption + ' ' +
+                        text_.result;
+  setAccessibleDescription(lines);
+  setToolTip(text_.name + '\n' + lines);
+}
+
+QFont Plate::TextFont(bool bold) const { return Sized(font(), textHeight_, bold); }
+
+bool Plate::FiguresFit() const {
+  const QFontMetricsF plain(TextFont(false));
+  const QFontMetricsF bold(TextFont(true));
+  const double room = width() - 2 * kPadding;
+  const auto fits = [&](const QString& caption, const QString& figure) {
+    return plain.horizontalAdvance(caption + QLatin1Char(' ') + figure) <= room;
+  };
+  return fits(Told("Rail:"), text_.rail) && fits(Told("Bankroll:"), text_.bankroll) &&
+         fits(text_.betsCaption, text_.bets) &&
+         bold.horizontalAdvance(text_.resultCaption + QLatin1Char(' ') + text_.result) <= room;
+}
+
+void Plate::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double above = pointer_ < 0 ? 0 : kTip;
+  painter.translate(0, above);
+  const QRectF body(1, 1, width() - 2, height() - above - 2);
+  painter.setPen(QPen(text_.selected ? kGoldTone : QColor(0x4A, 0x54, 0x5C), text_.selected ? 2 : 1));
+  painter.setBrush(kPlateTone);
+  painter.drawRoundedRect(body, 6, 6);
+  const double row = (height() - above - 6) / 4.0;
+  QRectF line(kPadding, 3, width() - 2 * kPadding, row);
+  const QFont plain = TextFont(false);
+  const QFont bold = TextFont(true);
+  const QFontMetricsF plainMetrics(plain);
+  const QFontMetricsF boldMetrics(bold);
+  // The head: the result first, since a name is cut and a figure never.
+  const QString result = text_.resultCaption + QLatin1Char(' ') + text_.result;
+  double resultWidth = boldMetrics.horizontalAdvance(result);
+  painter.setFont(bold);
+  const QColor outcome = text_.sign > 0 ? kWonTone : text_.sign < 0 ? kLostTone : QColor(Qt::white);
+  painter.setPen(outcome);
+  painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, result);
+  const double side = textHeight_ * 0.5;
+  if (text_.sign != 0 && resultWidth + side + 4 < line.width()) {
+    const double x = line.right() - resultWidth - side - 4;
+    const double y = line.center().y();
+    QPolygonF triangle;
+    if (text_.sign > 0)
+      triangle << QPointF(x, y + side / 2) << QPointF(x + side, y + side / 2)
+               << QPointF(x + side / 2, y - side / 2);
+    else
+      triangle << QPointF(x, y - side / 2) << QPointF(x + side, y - side / 2)
+               << QPointF(x + side / 2, y + side / 2);
+    painter.setBrush(outcome);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(triangle);
+    resultWidth += side + 4;
+  }
+  double left = line.left();
+  const double free = line.right() - resultWidth - 6;
+  if (text_.shooter && left + textHeight_ + 4 <= free) {
+    painter.save();
+    const double die = textHeight_ + 1;
+    painter.translate(left + die / 2, line.center().y());
+    painter.scale(die, die);
+    PaintDie(painter, 5, kDiceRed, Qt::white);
+    painter.restore();
+    left += die + 4;
+  }
+  const QString script = text_.script == ScriptSign::kNone     ? QString()
+                         : text_.script == ScriptSign::kActive ? QStringLiteral("{ }")
+                                                               : QStringLiteral("{ ! }");
+  double scriptWidth = script.isEmpty() ? 0 : boldMetrics.horizontalAdvance(script) + 8;
+  if (left + scriptWidth > free) scriptWidth = 0;
+  painter.setFont(bold);
+  painter.setPen(text_.selected ? kGoldTone : QColor(Qt::white));
+  const double nameRoom = free - left - (scriptWidth > 0 ? scriptWidth + 4 : 0);
+  const QString name = boldMetrics.elidedText(text_.name, Qt::ElideRight, std::max(0.0, nameRoom));
+  if (nameRoom > 4) painter.drawText(QRectF(left, line.top(), nameRoom + 1, row), Qt::AlignVCenter, name);
+  if (scriptWidth > 0) {
+    const double x = left + std::min(nameRoom, boldMetrics.horizontalAdvance(name)) + 4;
+    const QRectF badge(x, line.center().y() - textHeight_ * 0.62, scriptWidth, textHeight_ * 1.24);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(text_.script == ScriptSign::kActive ? QColor(0x2C, 0x5A, 0xA8)
+                                                         : QColor(0xB3, 0x26, 0x1E));
+    painter.drawRoundedRect(badge, 2, 2);
+    painter.setPen(Qt::white);
+    painter.drawText(badge, Qt::AlignCenter, script);
+  }
+  painter.setFont(plain);
+  const auto figure = [&](const QString& caption, const QString& value) {
+    line.translate(0, row);
+    painter.setPen(kCaptionTone);
+    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
+                     plainMetrics.elidedText(caption, Qt::ElideRight,
+                                             line.width() - plainMetrics.horizontalAdvance(value) - 3));
+    painter.setPen(Qt::white);
+    painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, value);
+  };
+  figure(Told("Rail:"), text_.rail);
+  figure(Told("Bankroll:"), text_.bankroll);
+  figure(text_.betsCaption, text_.bets);
+  if (pointer_ < 0) return;
+  painter.translate(0, -kTip);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(text_.selected ? kGoldTone : kCaptionTone);
+  painter.drawPolygon(TipOf(pointer_));
+}
+
+void Plate::mousePressEvent(QMouseEvent* event) {
+  event->accept();
+  if (event->button() == Qt::LeftButton) emit chosen(seat_);
+}
+
+void Plate::contextMenuEvent(QContextMenuEvent* event) {
+  event->accept();
+  emit menuWanted(seat_, event->globalPos());
+}
+
+void Plate::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::LanguageChange) Tell();
+  if (event->type() == QEvent::FontChange) update();
+  QWidget::changeEvent(event);
+}
+
+}  // namespace tessaryn

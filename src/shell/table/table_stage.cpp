@@ -1,0 +1,74 @@
+#include "shell/table/table_stage.h"
+
+#include "shell/table/badges.h"
+#include "shell/table/board.h"
+#include "shell/table/table_widget.h"
+#include "state/game.h"
+
+namespace tessaryn {
+
+TableStage::TableStage(Game& game, TableCommands& commands, const RollHistory& history, QWidget* parent)
+    : QWidget(parent),
+      game_(game),
+      board_(new Board(game, history, this)),
+      table_(new TableWidget(game, commands, this)),
+      badges_(new Badges(table_)) {
+  setObjectName("picStage");
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    plates_[seat] = new Plate(seat, this);
+    connect(plates_[seat], &Plate::chosen, this, &TableStage::seatChosen);
+    connect(plates_[seat], &Plate::menuWanted, this, &TableStage::plateMenuWanted);
+  }
+  connect(table_, &TableWidget::viewChanged, this, &TableStage::PlaceThePlates);
+  setFocusProxy(table_);
+  setMinimumSize(320, 240);
+}
+
+void TableStage::SetMeasures(const Measures& measures) {
+  measures_ = measures;
+  Place();
+}
+
+void TableStage::resizeEvent(QResizeEvent*) { Place(); }
+
+void TableStage::Place() {
+  const QSize plate = PlateSize(size(), measures_);
+  board_->setGeometry(0, 0, width(), measures_.board);
+  board_->SetMeasures(measures_, plate);
+  table_->SetPlateRoom(RoomAbove(measures_, size()), RoomBelow(measures_, size()));
+  table_->setGeometry(0, measures_.board, width(), std::max(1, height() - measures_.board));
+  PlaceThePlates();
+}
+
+void TableStage::PlaceThePlates() {
+  constexpr double kSpots[kSeatRows] = {0, 0, 0, 160, 425, 823, 1088, 0, 0};
+  const bool fitted = table_->IsFitted() && table_->view.TableAngle == 0;
+  const PlatePlaces places = PlacePlates(size(), table_->geometry(), table_->view, measures_, fitted);
+  const bool small = PlateSize(size(), measures_) != measures_.plate;
+  const double letters = small ? MeasuresOf(kSmallestWindow).plateText : measures_.plateText;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    const QRect& place = places[seat];
+    int tip = -1;
+    if (fitted && kSpots[seat] > 0)
+      tip = std::clamp(static_cast<int>(table_->view.ToScreen({kSpots[seat], 0}).x()) - place.left(), 12,
+                       place.width() - 12);
+    plates_[seat]->setGeometry(tip < 0 ? place : place.adjusted(0, -kPlateTip, 0, 0));
+    plates_[seat]->SetLook(letters, tip);
+    plates_[seat]->raise();
+  }
+}
+
+QRect TableStage::FeltRoom() const {
+  return table_->geometry().adjusted(0, RoomAbove(measures_, size()), 0, -RoomBelow(measures_, size()));
+}
+
+void TableStage::Refresh(bool settled) {
+  board_->Refresh(settled);
+  for (int seat = 1; seat <= kSeats; ++seat) plates_[seat]->Show(PlateTextOf(game_, seat));
+}
+
+void TableStage::ShowBadges() {
+  if (table_->animate) badges_->Show(BetChanges(game_), table_->Layout(), table_->view);
+}
+
+}  // namespace tessaryn
