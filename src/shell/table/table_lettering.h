@@ -42,7 +42,8 @@ struct TableLabel {
 // The smallest height of capitals on the felt, in screen units: on a small table less.
 double LeastCap(double scale);
 // Fits all lettering of the layout for so many screen units to a table unit: what is too wide shrinks to the
-// smallest height, then gives way to a shorter wording, then goes. Does nothing for the scale it is fitted for.
+// smallest height, then gives way to a shorter wording, then goes. Does nothing for the scale it is fitted
+// for.
 void FitLettering(TableLayout& layout, double scale);
 // Makes the wordings of a label. Requires the table's font to be set.
 void WordLabel(TableLabel& label);
