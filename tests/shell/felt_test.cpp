@@ -140,7 +140,7 @@ TEST(Felt, LetteringKeepsItsSmallestHeightAndStaysOffTheStacks) {
   }
 }
 
-// A table as people play at, and one with everything up, as they look.
+// A table as people play at, in colours and without, and one with everything up.
 TEST(Felt, Pictures) {
   for (const bool full : {false, true})
     for (const int width : kWidths) {
@@ -179,7 +179,10 @@ TEST(Felt, Pictures) {
           std::printf("%d %s: felt %.1f ms, over it %.1f ms\n", width, full ? "full" : "busy",
                       ms(felt - start), ms(end - felt));
       }
-      SaveImage(picture, QStringLiteral("felt-%1-%2").arg(full ? "full" : "busy").arg(width));
+      const QString name = QStringLiteral("felt-%1-%2").arg(full ? "full" : "busy").arg(width);
+      SaveImage(picture, name);
+      if (!full)
+        SaveImage(picture.convertToFormat(QImage::Format_Grayscale8), name + QStringLiteral("-gray"));
     }
 }
 

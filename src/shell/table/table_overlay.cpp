@@ -110,13 +110,14 @@ void DrawFeltMarks(Overlay& over) {
   const int point = over.scene.game->table.Point;
   const int pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : 0;
   LightArea(over, pointBox);
-  if (over.scene.hoverBet != pointBox) LightArea(over, over.scene.hoverBet);
+  const int hover = AreaOf(over.scene.hoverBet);
+  if (hover != pointBox) LightArea(over, hover);
   DrawProgress(over);
   EdgeArea(over, pointBox, 0, Qt::white, 2.6);
   // Seen on light and dark: white within black.
   EdgeArea(over, over.scene.focusBet, over.scene.focusSide, Qt::black, 6);
   EdgeArea(over, over.scene.focusBet, over.scene.focusSide, Qt::white, 2.6);
-  EdgeArea(over, over.scene.refusedBet, 0, QColor(0xFF, 0x4B, 0x3E), 3.5);
+  EdgeArea(over, AreaOf(over.scene.refusedBet), 0, QColor(0xFF, 0x4B, 0x3E), 3.5);
   over.painter.restore();
 }
 

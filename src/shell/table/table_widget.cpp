@@ -211,7 +211,7 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 }
 
 void TableWidget::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) TellSoon();
+  if (event->type() == QEvent::LanguageChange) RebuildLayout();  // the headings of the felt too
   QWidget::changeEvent(event);
 }
 
