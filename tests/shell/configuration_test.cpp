@@ -391,12 +391,14 @@ QColor ColorAt(TableWidget& widget, QPointF table) {
 
 // A place of the felt where nothing stands, near its middle.
 QPointF BareFelt(const TableLayout& layout) {
-  for (int y = 40; y < 520; y += 4)
+  for (int y = 16; y < 520; y += 4)
     for (int x = 300; x < 940; x += 4) {
       const QRectF room(x - 5, y - 5, 10, 10);
       const bool bare =
           std::none_of(layout.Areas.begin(), layout.Areas.end(),
-                       [&room](const TableArea& area) { return area.Outline.intersects(room); });
+                       [&room](const TableArea& area) { return area.Outline.intersects(room); }) &&
+          std::none_of(layout.Headings.begin(), layout.Headings.end(),
+                       [&room](const TableHeading& heading) { return heading.Box.intersects(room); });
       if (bare && FeltOutline().contains(room)) return room.center();
     }
   ADD_FAILURE() << "no bare felt";

@@ -81,7 +81,8 @@ TEST(Felt, NoTotalOrMarkerCoversAnotherOrAFace) {
       for (const QRectF& mark : {stack.Badge, stack.Tab, stack.Call}) {
         if (mark.isEmpty()) continue;
         EXPECT_FALSE(stack.Faint);
-        for (const QRectF& other : marks) ASSERT_FALSE(mark.intersects(other)) << game << " " << BetName(stack.Bet);
+        for (const QRectF& other : marks)
+          ASSERT_FALSE(mark.intersects(other)) << game << " " << BetName(stack.Bet);
         for (const StandingStack& other : stacks)
           ASSERT_TRUE(other.Faint || FaceToMark(other, mark) > CheckDiameter(view.Scale()) * 0.33)
               << game << " " << BetName(stack.Bet) << " on " << BetName(other.Bet);
@@ -139,7 +140,7 @@ TEST(Felt, LetteringKeepsItsSmallestHeightAndStaysOffTheStacks) {
   }
 }
 
-// A table as people play at, and one with everything up, as they look.
+// A table as people play at, in colours and without, and one with everything up.
 TEST(Felt, Pictures) {
   for (const bool full : {false, true})
     for (const int width : kWidths) {
@@ -159,7 +160,8 @@ TEST(Felt, Pictures) {
       QImage picture(view.Window, QImage::Format_RGB32);
       TableLayout layout = BuildTableLayout(table.game->settings, table.game->payoffs);
       for (int seat = 1; seat <= kSeats; ++seat)
-        if (IsOccupied(table.State(), seat)) PlaceVisibleStacks(layout, seat, table.State().seats[seat].VisibleStacks);
+        if (IsOccupied(table.State(), seat))
+          PlaceVisibleStacks(layout, seat, table.State().seats[seat].VisibleStacks);
       TableScene scene = SceneOf(*table.game, full);
       scene.hoverBet = kPlace4 + 2;
       CheckPictures checks;
@@ -174,9 +176,13 @@ TEST(Felt, Pictures) {
         const auto end = std::clock();
         const auto ms = [](std::clock_t time) { return static_cast<double>(time) * 1000 / CLOCKS_PER_SEC; };
         if (warm && !qEnvironmentVariableIsEmpty("TESSARYN_TIMES"))
-          std::printf("%d %s: felt %.1f ms, over it %.1f ms\n", width, full ? "full" : "busy", ms(felt - start), ms(end - felt));
+          std::printf("%d %s: felt %.1f ms, over it %.1f ms\n", width, full ? "full" : "busy",
+                      ms(felt - start), ms(end - felt));
       }
-      SaveImage(picture, QStringLiteral("felt-%1-%2").arg(full ? "full" : "busy").arg(width));
+      const QString name = QStringLiteral("felt-%1-%2").arg(full ? "full" : "busy").arg(width);
+      SaveImage(picture, name);
+      if (!full)
+        SaveImage(picture.convertToFormat(QImage::Format_Grayscale8), name + QStringLiteral("-gray"));
     }
 }
 

@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "base/bet_catalogue.h"
+#include "play/bet_facts.h"
 #include "play/house_presets.h"
 #include "play/setting_table.h"
 #include "rules/advantage.h"
 #include "rules/payoffs.h"
 #include "shell/frame/commands.h"
 #include "shell/screens/payoff_page.h"
+#include "shell/table/bet_tips.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
 #include "state/bet_families.h"
@@ -52,7 +54,7 @@ std::vector<int> BetsNamed(const QString& name) {
 }
 
 QString PaysText(const Game& game, int bet) {
-  const QString pays = Plain(PayoffSummary(game, bet));
+  const QString pays = Plain(Told(game, PaysOf(game, bet)));
   if (pays.isEmpty()) return QCoreApplication::translate("HelpFigures", "as odds on the point");
   if (!HasVig(bet)) return pays;
   const double rate = IsLay(bet) ? game.settings.LayVigRate.ToDouble() : game.settings.BuyVigRate.ToDouble();

@@ -28,7 +28,7 @@ struct Cloth {
   std::uint32_t color;
 };
 constexpr Cloth kCloths[] = {
-    {"mnuSetTableGreen", QT_TRANSLATE_NOOP("tessaryn::LooksPage", "Green"), 0x0C5C3A},
+    {"mnuSetTableGreen", QT_TRANSLATE_NOOP("tessaryn::LooksPage", "Green"), 0x0C5C3B},
     {"mnuSetTableBlue", QT_TRANSLATE_NOOP("tessaryn::LooksPage", "Blue"), 0x174A86},
     {"mnuSetTableTeal", QT_TRANSLATE_NOOP("tessaryn::LooksPage", "Teal"), 0x0D5A63},
     {"mnuSetTableBurgundy", QT_TRANSLATE_NOOP("tessaryn::LooksPage", "Burgundy"), 0x5E1A28},

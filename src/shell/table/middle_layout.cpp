@@ -28,12 +28,11 @@ constexpr LetteredBet kSharedRow[] = {{kCAndE, "C & E", "C&E"}, {kHorn, "HORN", 
 constexpr LetteredBet kOverUnderRow[] = {
     {kUnder7, "UNDER 7", "UND 7"}, {kMidway, "MIDWAY", "MID"}, {kOver7, "OVER 7", "OV 7"}};
 // The second line where the name has two.
-constexpr LetteredBet kSpecials[] = {
-    {kAllSmall, "ALL SMALL", nullptr},    {kAllTall, "ALL TALL", nullptr},
-    {kMakeAll, "MAKE ALL", nullptr},      {kFourRolls, "4 ROLLS", "NO 7"},
-    {kPoint7, "POINT 7", nullptr},        {kSevenPoint7, "7 POINT 7", nullptr},
-    {kFire, "FIRE", nullptr},             {kSharpShooter, "SHARP", "SHOOTER"},
-    {kRideTheLine, "RIDE THE", "LINE"}};
+constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL", nullptr}, {kAllTall, "ALL TALL", nullptr},
+                                     {kMakeAll, "MAKE ALL", nullptr},   {kFourRolls, "4 ROLLS", "NO 7"},
+                                     {kPoint7, "POINT 7", nullptr},     {kSevenPoint7, "7 POINT 7", nullptr},
+                                     {kFire, "FIRE", nullptr},          {kSharpShooter, "SHARP", "SHOOTER"},
+                                     {kRideTheLine, "RIDE THE", "LINE"}};
 
 constexpr double kLeft = 568;
 constexpr double kRight = 679;
@@ -65,7 +64,8 @@ void AddWide(LayoutBuilder& build, const LetteredBet& bet, double top) {
   const QRectF box = LayoutBox(kLeft, top, kRight, top + 27);
   TableArea* area = AddCell(build, bet.bet, box, {84, 13.5}, 9);
   if (area == nullptr) return;
-  area->Labels.push_back(LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 2, box.left() + 68, top + 15), 12));
+  area->Labels.push_back(
+      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 2, box.left() + 68, top + 15), 12));
   area->Labels.back().Shorter = {bet.second};
   area->Labels.push_back(
       PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 15.6, box.left() + 62, top + 26)));
@@ -90,8 +90,10 @@ void AddDicePairs(LayoutBuilder& build, const DiceBet (&bets)[4], double top) {
     const double y = top + n / 2 * 32;
     TableArea* area = AddCell(build, bets[n].bet, LayoutBox(left, y, left + 55, y + 31), {40.5, 16});
     if (area == nullptr) continue;
-    area->Labels.push_back(DiceLabel(bets[n].die1, bets[n].die2, LayoutBox(left + 2, y + 2.6, left + 29, y + 15.2)));
-    area->Labels.push_back(PayoffLabel(build.Pays(bets[n].bet), LayoutBox(left + 3, y + 17.4, left + 31, y + 29.4)));
+    area->Labels.push_back(
+        DiceLabel(bets[n].die1, bets[n].die2, LayoutBox(left + 2, y + 2.6, left + 29, y + 15.2)));
+    area->Labels.push_back(
+        PayoffLabel(build.Pays(bets[n].bet), LayoutBox(left + 3, y + 17.4, left + 31, y + 29.4)));
   }
 }
 
@@ -118,7 +120,8 @@ void AddHopHeading(LayoutBuilder& build, double top) {
   heading.Labels.push_back(name);
   if (!plain.isEmpty() && !pairs.isEmpty()) {
     //: On the felt: what a hop pays, and what a pair pays.
-    TableLabel pays = Caption(QCoreApplication::translate("TableLayout", "%1  PAIRS %2").arg(plain, pairs), box);
+    TableLabel pays =
+        Caption(QCoreApplication::translate("TableLayout", "%1  PAIRS %2").arg(plain, pairs), box);
     pays.Box.setLeft(box.left() + 33);
     pays.Shorter = {plain + QStringLiteral("  ") + pairs};
     heading.Labels.push_back(pays);
@@ -133,7 +136,8 @@ void AddHops(LayoutBuilder& build, double top) {
   for (int total = 4; total <= 10; ++total) {
     const double y = top + (total - 4) * kRow;
     TableHeading head{LayoutBox(kLeft, y, kLeft + 15, y + kHeight), Ground::kHead, {}};
-    head.Labels.push_back(Caption(QString::number(total), head.Box.adjusted(1.5, 4, -1.5, -4), 10.5, Ink::kAccent));
+    head.Labels.push_back(
+        Caption(QString::number(total), head.Box.adjusted(1.5, 4, -1.5, -4), 10.5, Ink::kAccent));
     build.layout.Headings.push_back(head);
     int column = 0;
     for (const DiceBet& hop : kHops) {
@@ -142,7 +146,8 @@ void AddHops(LayoutBuilder& build, double top) {
       TableArea* area = AddCell(build, hop.bet, LayoutBox(left, y, left + 30.7, y + kHeight), {15.6, 19.5});
       if (area == nullptr) continue;
       area->Gold = hop.die1 == hop.die2;
-      area->Labels.push_back(DiceLabel(hop.die1, hop.die2, LayoutBox(left + 1.4, y + 2.2, left + 29.3, y + 14.8)));
+      area->Labels.push_back(
+          DiceLabel(hop.die1, hop.die2, LayoutBox(left + 1.4, y + 2.2, left + 29.3, y + 14.8)));
     }
     for (; column < 3; ++column) {
       const double left = kLeft + 16.3 + column * kEach;
@@ -179,7 +184,8 @@ void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::u
     if ((numbers >> number & 1) == 0) continue;
     const double width = number >= 10 ? 10.4 : tight ? 6 : 7.6;
     const QRectF place = LayoutBox(x, box.top() + 15.5, x + width, box.top() + 28.5);
-    TableLabel label = Caption(QString::number(number), place.adjusted(0.1, 0.5, -0.1, -0.5), kCaption, Ink::kSoft);
+    TableLabel label =
+        Caption(QString::number(number), place.adjusted(0.1, 0.5, -0.1, -0.5), kCaption, Ink::kSoft);
     area.Labels.push_back(label);
     label.Colour = Ink::kDark;
     build.layout.Marks.push_back({Progress::kNumber, area.Id, number, place, label});
@@ -187,7 +193,8 @@ void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::u
   }
 }
 
-void AddMarks(LayoutBuilder& build, int bet, Progress kind, int count, QPointF first, QPointF step, QSizeF size) {
+void AddMarks(LayoutBuilder& build, int bet, Progress kind, int count, QPointF first, QPointF step,
+              QSizeF size) {
   for (int n = 0; n < count; ++n)
     build.layout.Marks.push_back({kind, bet, n, QRectF(first + step * n, size), {}});
 }
@@ -219,7 +226,8 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   TableArea* area = build.Add(special.bet, side, RoundedBox(box), Ground::kSide);
   if (area == nullptr) return;
   const auto line = [&](const char* text, double top) {
-    area->Labels.push_back(LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
+    area->Labels.push_back(LeftCaption(
+        text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
   };
   line(special.label, 1.5);
   if (special.second != nullptr) line(special.second, 13.4);
@@ -237,8 +245,8 @@ constexpr BetSet BetsIn(const Row (&rows)[kRows]) {
   for (const Row& row : rows) bets.Add(row.bet);
   return bets;
 }
-static_assert((BetsIn(kSevenRow) | BetsIn(kHardways) | BetsIn(kHorns) | BetsIn(kCrapsRow) | BetsIn(kSharedRow) |
-               BetsIn(kOverUnderRow) | BetsIn(kHops) | BetsIn(kSpecials)) ==
+static_assert((BetsIn(kSevenRow) | BetsIn(kHardways) | BetsIn(kHorns) | BetsIn(kCrapsRow) |
+               BetsIn(kSharedRow) | BetsIn(kOverUnderRow) | BetsIn(kHops) | BetsIn(kSpecials)) ==
                   BetsWhere([](const FamilyRow& row) {
                     return row.felt == Felt::kMiddle || row.felt == Felt::kSpecials;
                   }),

@@ -12,8 +12,8 @@ namespace tessaryn {
 
 namespace {
 
-// The colours of a check and the spots of its edge. Their number and width differ too, so that checks are told
-// apart without their colours.
+// The colours of a check and the spots of its edge. Their number and width differ too, so that checks are
+// told apart without their colours.
 struct CheckLook {
   QColor body;
   QColor spot;  // and the ring round the value

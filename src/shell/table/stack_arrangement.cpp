@@ -130,8 +130,8 @@ void FindFaint(Arranger& table) {
     if (stack.Seat == table.Selected()) continue;
     stack.Faint = all.Any(stack.Face, [&](int n) {
       const StandingStack& other = table.stacks[n];
-      return &other != &stack && std::min(ApartFromStack(stack.Face, other), ApartFromStack(other.Face, stack)) <
-                                     kTooClose * table.diameter;
+      return &other != &stack && std::min(ApartFromStack(stack.Face, other),
+                                          ApartFromStack(other.Face, stack)) < kTooClose * table.diameter;
     });
   }
   for (std::size_t n = 0; n < table.stacks.size(); ++n)
@@ -198,9 +198,10 @@ void TakeBadge(Arranger& table, StandingStack& stack, const QString& text) {
   const QPointF lower(0, height * 0.6);
   const std::array<QPointF, 10> places =
       stack.Bet == kPassLineOdds
-          ? std::array<QPointF, 10>{right, left, over, under, right - lower, left - lower, over, over, over, over}
-          : std::array<QPointF, 10>{under,         right,         left,          under + aside, under - aside,
-                                    right + lower, left + lower,  over,          over + aside,  over - aside};
+          ? std::array<QPointF, 10>{right,        left, over, under, right - lower,
+                                    left - lower, over, over, over,  over}
+          : std::array<QPointF, 10>{under,         right,        left, under + aside, under - aside,
+                                    right + lower, left + lower, over, over + aside,  over - aside};
   stack.Badge = Take(table, size, places);
   if (!stack.Badge.isEmpty()) stack.BadgeText = text;
 }
@@ -213,8 +214,8 @@ void PlaceBadge(Arranger& table, StandingStack& stack) {
 }
 
 void PlaceTab(Arranger& table, StandingStack& stack) {
-  const QString text = IsBuy(stack.Bet)    ? QStringLiteral("BUY")
-                       : IsLay(stack.Bet)  ? QStringLiteral("LAY")
+  const QString text = IsBuy(stack.Bet)       ? QStringLiteral("BUY")
+                       : IsLay(stack.Bet)     ? QStringLiteral("LAY")
                        : stack.Amount.raw < 0 ? QStringLiteral("-")
                                               : QString();
   if (text.isEmpty()) return;
@@ -224,12 +225,12 @@ void PlaceTab(Arranger& table, StandingStack& stack) {
   const double high = stack.Face.y() - radius - height / 2;
   const double beside = radius * kFaceShare + 2 + width / 2;
   const QPointF face = stack.Face;
-  stack.Tab = Take(table, QSizeF(width, height),
-                   std::array<QPointF, 5>{QPointF(face.x() + 2 - width / 2, high),
-                                          QPointF(face.x() - 2 + width / 2, high),
-                                          QPointF(face.x() - beside, face.y() - radius * 0.6),
-                                          QPointF(face.x() + beside, face.y() - radius * 0.6),
-                                          QPointF(face.x() - beside, face.y() + radius * 0.6)});
+  stack.Tab = Take(
+      table, QSizeF(width, height),
+      std::array<QPointF, 5>{QPointF(face.x() + 2 - width / 2, high), QPointF(face.x() - 2 + width / 2, high),
+                             QPointF(face.x() - beside, face.y() - radius * 0.6),
+                             QPointF(face.x() + beside, face.y() - radius * 0.6),
+                             QPointF(face.x() - beside, face.y() + radius * 0.6)});
   if (!stack.Tab.isEmpty()) stack.TabText = text;
 }
 
@@ -242,12 +243,12 @@ void PlaceCall(Arranger& table, StandingStack& stack) {
   const double out = radius * kFaceShare + 1 + width / 2;
   const QPointF face = stack.Face;
   const double high = face.y() - radius - width / 2 + 3;
-  stack.Call = Take(table, QSizeF(width, width),
-                    std::array<QPointF, 5>{QPointF(face.x() + 4 + width / 2, high),
-                                           QPointF(face.x() - 4 - width / 2, high),
-                                           QPointF(face.x() + out, face.y() - radius * 0.5),
-                                           QPointF(face.x() - out, face.y() - radius * 0.5),
-                                           QPointF(face.x() + out, face.y() + radius * 0.5)});
+  stack.Call = Take(
+      table, QSizeF(width, width),
+      std::array<QPointF, 5>{QPointF(face.x() + 4 + width / 2, high), QPointF(face.x() - 4 - width / 2, high),
+                             QPointF(face.x() + out, face.y() - radius * 0.5),
+                             QPointF(face.x() - out, face.y() - radius * 0.5),
+                             QPointF(face.x() + out, face.y() + radius * 0.5)});
   stack.CalledOn = working == 2;
 }
 

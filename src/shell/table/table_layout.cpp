@@ -156,8 +156,8 @@ QRectF ColumnBox(const ColumnRow& row, double x) {
 
 TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
   const auto caption = [&](double margin) {
-    TableLabel label = Caption(row.label, LayoutBox(box.left() + margin, box.top() + 1.6, box.right() - margin,
-                                                    box.top() + 1.6 + kCaptionRoom));
+    TableLabel label = Caption(row.label, LayoutBox(box.left() + margin, box.top() + 1.6,
+                                                    box.right() - margin, box.top() + 1.6 + kCaptionRoom));
     label.Shorter = {row.shorter};
     return label;
   };
@@ -176,7 +176,8 @@ void AddColumnArea(LayoutBuilder& build, const ColumnRow& row, int side, int num
   const double x = (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth;
   const QRectF box = ColumnBox(row, x);
   const int bet = row.firstBet + number;
-  TableArea* area = build.Add(bet, side, RoundedBox(box), row.label == nullptr ? Ground::kDark : Ground::kFelt);
+  TableArea* area =
+      build.Add(bet, side, RoundedBox(box), row.label == nullptr ? Ground::kDark : Ground::kFelt);
   area->Edged = row.right - row.left == kColumnWidth;
   area->Labels.push_back(ColumnLabel(row, box, number));
   if (side == 1) build.Place(0, bet, QPointF(x + kHalf, row.told));
@@ -295,8 +296,8 @@ void AddField(LayoutBuilder& build) {
   for (int n = 0; n < 7; ++n) {
     const double x = 222 + n * 51.35;
     const bool end = n == 0 || n == 6;
-    TableLabel number = Caption(QString::number(kNumbers[n]), LayoutBox(x - 15.5, 374.5, x + 15.5, 405.5), 17,
-                                Ink::kAccent);
+    TableLabel number =
+        Caption(QString::number(kNumbers[n]), LayoutBox(x - 15.5, 374.5, x + 15.5, 405.5), 17, Ink::kAccent);
     number.Ring = end;
     field.inOrder.push_back(number);
     if (!end) continue;

@@ -24,8 +24,8 @@ struct TableArea {
   int Side = 0;  // 0 the middle, 1 the end of seats 1 to 4, 2 the end of seats 5 to 8
   QPainterPath Outline;
   Ground Fill = Ground::kFelt;
-  bool Gold = false;   // a gold edge
-  bool Edged = true;   // else it is one of two halves within an edge of Lines
+  bool Gold = false;  // a gold edge
+  bool Edged = true;  // else it is one of two halves within an edge of Lines
   std::vector<TableLabel> Labels;
 };
 

@@ -33,7 +33,7 @@ double CapHeight(const QFont& font) {
   return std::max(1.0, capital.boundingRect().height());
 }
 
-Wording WordingOf(const QString& text, const QFont& font) {
+LabelWording LabelWordingOf(const QString& text, const QFont& font) {
   QPainterPath path;
   path.addText(0, 0, font, text);
   const QRectF bounds = path.boundingRect();
@@ -56,7 +56,7 @@ void Fit(TableLabel& label, double least) {
   label.Outline = {};
   label.FittedCap = 0;
   const double wanted = std::min(label.Box.height(), std::max(label.Cap > 0 ? label.Cap : 1e9, least));
-  for (const Wording& wording : label.Wordings) {
+  for (const LabelWording& wording : label.Wordings) {
     if (wording.Width <= 0) continue;
     const double cap = std::min(wanted, label.Box.width() / wording.Width);
     if (cap < least - 1e-6) continue;
@@ -90,8 +90,8 @@ void FitLettering(TableLayout& layout, double scale) {
 void WordLabel(TableLabel& label) {
   if (label.Die1 != 0) return;
   const QFont font = TableFont(true, kDrawnAt);
-  label.Wordings = {WordingOf(label.Text, font)};
-  for (const QString& text : label.Shorter) label.Wordings.push_back(WordingOf(text, font));
+  label.Wordings = {LabelWordingOf(label.Text, font)};
+  for (const QString& text : label.Shorter) label.Wordings.push_back(LabelWordingOf(text, font));
 }
 
 LabelDice PlaceLabelDice(const TableLabel& label) {

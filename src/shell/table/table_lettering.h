@@ -17,7 +17,7 @@ struct TableLayout;
 enum class Ink { kLetter, kAccent, kSoft, kDark };
 
 // One wording of a caption as an outline: capitals 1 high, from the origin to the right.
-struct Wording {
+struct LabelWording {
   QPainterPath Path;
   double Width = 0;
 };
@@ -33,16 +33,17 @@ struct TableLabel {
   bool Left = false;    // at the box's left edge rather than in its middle
   int Die1 = 0;         // above 0: dice instead of the text
   int Die2 = 0;
-  bool Ring = false;              // a ring as high as the box round the text
-  std::vector<Wording> Wordings;  // the text and what is shorter; written by BuildTableLayout
-  QPainterPath Outline;           // of what stands there, empty for nothing; written by FitLettering
-  double FittedCap = 0;           // the height of its capitals in table units; likewise
+  bool Ring = false;                   // a ring as high as the box round the text
+  std::vector<LabelWording> Wordings;  // the text and what is shorter; written by BuildTableLayout
+  QPainterPath Outline;                // of what stands there, empty for nothing; written by FitLettering
+  double FittedCap = 0;                // the height of its capitals in table units; likewise
 };
 
 // The smallest height of capitals on the felt, in screen units: on a small table less.
 double LeastCap(double scale);
 // Fits all lettering of the layout for so many screen units to a table unit: what is too wide shrinks to the
-// smallest height, then gives way to a shorter wording, then goes. Does nothing for the scale it is fitted for.
+// smallest height, then gives way to a shorter wording, then goes. Does nothing for the scale it is fitted
+// for.
 void FitLettering(TableLayout& layout, double scale);
 // Makes the wordings of a label. Requires the table's font to be set.
 void WordLabel(TableLabel& label);

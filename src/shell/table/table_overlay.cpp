@@ -1,4 +1,5 @@
-// What is drawn over the felt: marks of the hand, what is pointed at, places at the rail, puck, stacks and dice.
+// What is drawn over the felt: marks of the hand, what is pointed at, places at the rail, puck, stacks and
+// dice.
 #include <QPainter>
 #include <cmath>
 
@@ -52,7 +53,8 @@ void DrawCount(Overlay& over, const TableMark& mark) {
   WordLabel(label);
   const double cap = std::min(label.Box.height(), label.Box.width() / label.Wordings[0].Width);
   QTransform place;
-  place.translate(label.Box.center().x() - cap * label.Wordings[0].Width / 2, label.Box.center().y() + cap / 2);
+  place.translate(label.Box.center().x() - cap * label.Wordings[0].Width / 2,
+                  label.Box.center().y() + cap / 2);
   place.scale(cap, cap);
   over.painter.setBrush(over.colors.Ink);
   over.painter.drawPath(place.map(label.Wordings[0].Path));
@@ -108,13 +110,14 @@ void DrawFeltMarks(Overlay& over) {
   const int point = over.scene.game->table.Point;
   const int pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : 0;
   LightArea(over, pointBox);
-  if (over.scene.hoverBet != pointBox) LightArea(over, over.scene.hoverBet);
+  const int hover = AreaOf(over.scene.hoverBet);
+  if (hover != pointBox) LightArea(over, hover);
   DrawProgress(over);
   EdgeArea(over, pointBox, 0, Qt::white, 2.6);
   // Seen on light and dark: white within black.
   EdgeArea(over, over.scene.focusBet, over.scene.focusSide, Qt::black, 6);
   EdgeArea(over, over.scene.focusBet, over.scene.focusSide, Qt::white, 2.6);
-  EdgeArea(over, over.scene.refusedBet, 0, QColor(0xFF, 0x4B, 0x3E), 3.5);
+  EdgeArea(over, AreaOf(over.scene.refusedBet), 0, QColor(0xFF, 0x4B, 0x3E), 3.5);
   over.painter.restore();
 }
 
@@ -167,19 +170,20 @@ void DrawPuck(Overlay& over) {
   for (int side = 1; side <= 2; ++side) {
     const QPointF centre = over.view.ToScreen(PuckPlace(over.scene.game->table.Point, side));
     const QRectF box(centre.x() - radius - 3, centre.y() - radius - 3, 2 * radius + 6, 2 * radius + 6);
-    DrawKept(over.painter, on ? QStringLiteral("puck on") : QStringLiteral("puck off"), box, [&](QPainter& brush) {
-      brush.setPen(Qt::NoPen);
-      brush.setBrush(QColor(0, 0, 0, 100));
-      brush.drawEllipse(centre + QPointF(1, 2), radius, radius);
-      brush.setPen(QPen(ink, 1.2));
-      brush.setBrush(body);
-      brush.drawEllipse(centre, radius, radius);
-      brush.setPen(QPen(ink, 1));
-      brush.drawEllipse(centre, radius * 0.84, radius * 0.84);
-      brush.setBrush(ink);
-      const QString text = on ? QStringLiteral("ON") : QStringLiteral("OFF");
-      DrawLettering(brush, box, text, radius * (on ? 0.76 : 0.64));
-    });
+    DrawKept(over.painter, on ? QStringLiteral("puck on") : QStringLiteral("puck off"), box,
+             [&](QPainter& brush) {
+               brush.setPen(Qt::NoPen);
+               brush.setBrush(QColor(0, 0, 0, 100));
+               brush.drawEllipse(centre + QPointF(1, 2), radius, radius);
+               brush.setPen(QPen(ink, 1.2));
+               brush.setBrush(body);
+               brush.drawEllipse(centre, radius, radius);
+               brush.setPen(QPen(ink, 1));
+               brush.drawEllipse(centre, radius * 0.84, radius * 0.84);
+               brush.setBrush(ink);
+               const QString text = on ? QStringLiteral("ON") : QStringLiteral("OFF");
+               DrawLettering(brush, box, text, radius * (on ? 0.76 : 0.64));
+             });
   }
 }
 
@@ -268,8 +272,8 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
   for (int seat = 1; seat <= kSeats; ++seat)
     IsOccupied(game.table, seat) ? DrawStackPlaces(over, seat) : DrawOpenPlace(over, seat);
   DrawPuck(over);
-  pictures.SetSize(CheckDiameter(view.Scale()), painter.device()->devicePixelRatioF(), game.settings.CheckValue,
-                   game.settings.UseCentsSymbol);
+  pictures.SetSize(CheckDiameter(view.Scale()), painter.device()->devicePixelRatioF(),
+                   game.settings.CheckValue, game.settings.UseCentsSymbol);
   if (!scene.hideBets) {
     DrawStacks(over);
     if (scene.piles != nullptr) scene.piles->ForgetOthers();

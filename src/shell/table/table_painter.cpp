@@ -51,7 +51,6 @@ void DrawWeave(QPainter& painter, const TableColors& colors) {
   painter.drawPath(FeltOutline());
 }
 
-
 void DrawRail(QPainter& painter, const TableColors& colors) {
   QLinearGradient wood(0, -20, 0, 574);
   wood.setColorAt(0, colors.Rail.lighter(200));
@@ -115,7 +114,8 @@ void DrawLabel(QPainter& painter, const TableLabel& label, const TableColors& co
     painter.save();
     painter.translate(first ? dice.First : dice.Second);
     painter.scale(dice.Side, dice.Side);
-    PaintFlatDie(painter, first ? label.Die1 : label.Die2, QColor(0xF7, 0xF3, 0xE6), QColor(0x1B, 0x1F, 0x23));
+    PaintFlatDie(painter, first ? label.Die1 : label.Die2, QColor(0xF7, 0xF3, 0xE6),
+                 QColor(0x1B, 0x1F, 0x23));
     painter.restore();
   }
 }

@@ -1,5 +1,5 @@
-// Draws the table from its layout through the view's transform, and over it the checks, markers and dice of the
-// state.
+// Draws the table from its layout through the view's transform, and over it the checks, markers and dice of
+// the state.
 #pragma once
 
 #include <QColor>
@@ -7,7 +7,6 @@
 
 #include "shell/table/check_piles.h"
 #include "shell/table/hit_map.h"
-#include "shell/table/status_boxes.h"
 #include "shell/table/table_layout.h"
 #include "shell/table/table_scene.h"
 #include "shell/table/table_view.h"

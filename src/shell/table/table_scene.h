@@ -33,9 +33,9 @@ struct TableScene {
   bool showAmounts = false;  // the amounts of the bets beside the checks
   bool hideBets = false;     // while the bets flash
   bool showDice = true;
-  int hoverBet = 0;  // the area under the pointer
+  int hoverBet = 0;    // the area under the pointer
   int refusedBet = 0;  // the area of a bet that was just refused
-  int focusBet = 0;  // the area with the keyboard's focus
+  int focusBet = 0;    // the area with the keyboard's focus
   int focusSide = 0;
   int hoverSeat = 0;  // an open position under the pointer
   int heldBet = 0;    // a stack of the selected seat that hangs on the pointer

@@ -219,7 +219,10 @@ void TableWidget::resizeEvent(QResizeEvent*) {
 }
 
 void TableWidget::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) TellSoon();
+  if (event->type() == QEvent::LanguageChange) {
+    RebuildLayout();  // the headings of the felt too
+    TellSoon();
+  }
   if (event->type() == QEvent::PaletteChange) RebuildLayout();
   QWidget::changeEvent(event);
 }
