@@ -64,7 +64,8 @@ struct Settling {
   }
 };
 
-int ChoiceOf(int roll, int question) { return 1 + (roll * 5 + question * 3) % 5; }
+// A choice for each bet and outcome, another one each roll.
+int ChoiceOf(int roll, const QString& what) { return 1 + static_cast<int>((qHash(what, 7) + roll) % 5); }
 
 TEST(SettleSheet, GivesTheGameThatBoxesAnsweredAlikeGive) {
   const unsigned seed = std::random_device{}();
@@ -73,17 +74,22 @@ TEST(SettleSheet, GivesTheGameThatBoxesAnsweredAlikeGive) {
   Settling other;
   SetSettlesInBoxes(other.window.TheDesk(), true);
   int roll = 0;
-  int question = 0;
-  int asked = 0;
   one.sheet = [&](QDialog& sheet) {
-    const int count = static_cast<int>(dynamic_cast<SettleSheet&>(sheet).Decisions().size());
-    for (int at = 0; at < count; ++at)
+    const auto decisions = dynamic_cast<SettleSheet&>(sheet).Decisions();
+    for (std::size_t at = 0; at < decisions.size(); ++at) {
+      const SettleQuestion& question = decisions[at].question;
+      const QString what =
+          decisions[at].player + ", bet " + SettleBetName(question.bet) + SettleTitle(question);
       if (auto* choice = sheet.findChild<QComboBox*>(QString("cmbHandle%1").arg(at)); choice != nullptr)
-        choice->setCurrentIndex(ChoiceOf(roll, at) - 1);
-    asked += count;
+        choice->setCurrentIndex(ChoiceOf(roll, what) - 1);
+    }
     QTest::keyClick(&sheet, Qt::Key_Return);
   };
-  other.box = [&](QDialog& box) { Click(box, QString("cmdHandle%1").arg(ChoiceOf(roll, question++))); };
+  // What is chosen for one bet may change what is asked about another: that comes in its box.
+  one.box = other.box = [&](QDialog& box) {
+    const QString what = Find<QLabel>(box, "lblBet").accessibleName() + Find<QLabel>(box, "lblTitle").text();
+    Click(box, QString("cmdHandle%1").arg(ChoiceOf(roll, what)));
+  };
   for (Settling* table : {&one, &other})
     for (const int seat : {1, 4, 7})
       table->table.Join(seat, "Player " + std::string(1, char('A' + seat)), "90000");
@@ -97,7 +103,6 @@ TEST(SettleSheet, GivesTheGameThatBoxesAnsweredAlikeGive) {
     }
     const int die1 = 1 + static_cast<int>(dice() % 6);
     const int die2 = 1 + static_cast<int>(dice() % 6);
-    question = 0;
     for (Settling* table : {&one, &other}) table->table.Roll(die1, die2);
     TableState a = one.table.State();
     a.LastActivityTick = other.table.State().LastActivityTick;
@@ -105,9 +110,8 @@ TEST(SettleSheet, GivesTheGameThatBoxesAnsweredAlikeGive) {
       a.seats[seat].SessionsLogName = other.table.State().seats[seat].SessionsLogName;
     ASSERT_EQ(FirstDifference(a, other.table.State()), "") << "roll " << roll;
   }
-  EXPECT_EQ(one.boxes, 0);
-  EXPECT_EQ(other.boxes, asked);
-  EXPECT_GT(asked, one.sheets);
+  EXPECT_GT(one.sheets, 0);
+  EXPECT_LT(one.boxes, other.boxes / 5);
 }
 
 QComboBox& ChoiceFor(QDialog& sheet, const QString& what) {

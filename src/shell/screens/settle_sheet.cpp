@@ -33,6 +33,7 @@ constexpr int kSlideMilliseconds = 150;
 constexpr int kSlide = 24;  // pixels that it comes up by
 constexpr int kChoices = 7;
 constexpr double kSmall = 0.92;
+constexpr int kOneLine = 270;  // pixels that bet, payoff and amount may take side by side
 
 // Text on a panel, light and dark.
 QColor TintOf(int sign, bool dark) {
@@ -113,8 +114,7 @@ void SettleSheet::AddHeader(const Game& game) {
   QLabel* heading = Label(header_, title, 1.15, true);
   heading->setObjectName("lblTitle");
   row->addWidget(heading, 1);
-  QLabel* count =
-      Label(header_, tr("%n bet(s) decided", nullptr, static_cast<int>(decisions_.size())), kSmall);
+  QLabel* count = Label(header_, tr("Bets decided: %1").arg(decisions_.size()), kSmall);
   count->setObjectName("lblCount");
   row->addWidget(count);
   QPalette colours = palette();
@@ -189,7 +189,15 @@ void SettleSheet::AddDecision(QLayout& column, int at, const Game& game) {
   grid->addWidget(row.outcome, 0, 0, Qt::AlignTop);
   QLabel* bet = Label(area, SettleBetName(question.bet) + "  " + MoneyText(decision.amount));
   bet->setObjectName(QString("lblBet%1").arg(at));
-  grid->addWidget(bet, 0, 1, 1, 2);
+  // A bet of few words has its payoff on its own line.
+  const QFontMetrics metrics = bet->fontMetrics();
+  const bool together =
+      decision.lines.size() == 2 &&
+      metrics.horizontalAdvance(bet->text() + decision.lines[1].caption + decision.lines[1].value) < kOneLine;
+  if (together)
+    grid->addWidget(bet, 0, 1);
+  else
+    grid->addWidget(bet, 0, 1, 1, 3);
   // From the payoff to what was really paid; the bet itself stands above.
   for (std::size_t n = 1; n < decision.lines.size(); ++n) {
     const SettleLine& line = decision.lines[n];
@@ -199,9 +207,12 @@ void SettleSheet::AddDecision(QLayout& column, int at, const Game& game) {
     QLabel* value = Label(area, line.value, last ? 1.0 : kSmall, last);
     value->setObjectName(QString("%1Value%2").arg(line.name).arg(at));
     value->setAccessibleName(line.caption + " " + line.value);
-    const int below = static_cast<int>(n);
-    grid->addWidget(caption, below, 1);
-    grid->addWidget(value, below, 2, Qt::AlignRight);
+    const int below = together ? 0 : static_cast<int>(n);
+    if (together)
+      grid->addWidget(caption, below, 2, Qt::AlignRight);
+    else
+      grid->addWidget(caption, below, 1, 1, 2);
+    grid->addWidget(value, below, 3, Qt::AlignRight);
     if (last) {
       row.result = value;
       tinted_.push_back({value, SignOf(question.net)});
@@ -222,7 +233,7 @@ void SettleSheet::AddChoice(QLayout& column, int at, const Game& game) {
     QLabel* note = Label(area, text, kSmall);
     note->setForegroundRole(QPalette::PlaceholderText);
     note->setWordWrap(true);
-    grid.addWidget(note, grid.rowCount(), 1, 1, 2);
+    grid.addWidget(note, grid.rowCount(), 1, 1, 3);
     if (question.finished) return;
   }
   Row& row = rows_[static_cast<std::size_t>(at)];
@@ -238,7 +249,7 @@ void SettleSheet::AddChoice(QLayout& column, int at, const Game& game) {
   for (int choice = 1; choice <= kChoices; ++choice)
     row.choice->addItem(WithoutKey(SettleChoiceText(question, choice)));
   row.choice->view()->setMinimumWidth(row.choice->view()->sizeHintForColumn(0) + 24);
-  grid.addWidget(row.choice, grid.rowCount(), 1, 1, 2);
+  grid.addWidget(row.choice, grid.rowCount(), 1, 1, 3);
   row.same = AddAdjusted(grid, at, false, game);
   row.fixed = AddAdjusted(grid, at, true, game);
   connect(row.choice, &QComboBox::currentIndexChanged, this,
@@ -257,7 +268,7 @@ AdjustEdit* SettleSheet::AddAdjusted(QLayout& column, int at, bool fixed, const 
   edit->setObjectName(QString(fixed ? "adjFixed%1" : "adjSame%1").arg(at));
   const Handling& handling = game.table.seats[question.seat].handling;
   edit->SetValue({handling.AdjustKind[slot], handling.AdjustValue[slot], handling.AdjustUnit[slot]});
-  grid.addWidget(edit, grid.rowCount(), 1, 1, 2);
+  grid.addWidget(edit, grid.rowCount(), 1, 1, 3);
   return edit;
 }
 
@@ -300,6 +311,11 @@ void SettleSheet::AddFoot() {
 
 void SettleSheet::ShowColours() {
   const bool dark = IsDark(palette());
+  auto* ready = foot_->findChild<QPushButton*>("cmdDone");
+  ready->setStyleSheet(
+      QString("QPushButton { background: %1; color: %2; border: 2px solid %1; border-radius: 5px;"
+              " padding: 4px 20px; font-weight: bold; } QPushButton:focus { border-color: %3; }")
+          .arg(dark ? "#3CC98A" : "#0B6B45", dark ? "#06210F" : "#FFFFFF", dark ? "#7FB2FF" : "#1A5FD0"));
   for (const Tinted& tinted : tinted_) {
     if (tinted.sign == 0) continue;
     QPalette colours = palette();
