@@ -68,7 +68,7 @@ as_player "rm -r stick; ls -A" >"$root/before"
 
 # --- The Debian package.
 inside apt-get install -y -qq --no-install-recommends libglib2.0-bin desktop-file-utils shared-mime-info man-db >/dev/null
-inside apt-get install -y -qq --no-install-recommends "/root/$(basename "$deb")" >/dev/null 2>&1 || fail "the package can't be installed"
+inside apt-get install -y -qq --reinstall --no-install-recommends "/root/$(basename "$deb")" >/dev/null 2>&1 || fail "the package can't be installed"
 data=/home/player/.local/share/tessaryn
 [ "$(as_player "tessaryn-cli --version")" = "$(as_player "tessaryn --version")" ] || fail "versions differ"
 as_player "man -P cat tessaryn-cli" | grep -c lab >/dev/null || fail "no manual"
