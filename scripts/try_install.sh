@@ -39,7 +39,8 @@ cd "$work"
 stick/tessaryn-cli run --player Ann=1000 --script stick/samples/Sample1.bet --rolls 1000 --rng 1 >played ||
   fail "the command line doesn't play"
 [ -x stick/tessaryn ] || exit 0
-stick/tessaryn &
+printf 'join 1 Ann 500\nsave stick/default.crp\n' | stick/tessaryn-cli play >/dev/null
+stick/tessaryn stick/samples/Sample1.bet &
 window=$!
 catches_term() { [ $((0x$(awk '/^SigCgt/ { print $2 }' /proc/$window/status) >> 14 & 1)) -eq 1 ]; }
 for ((i = 0; i < 200; i++)); do
@@ -52,5 +53,6 @@ kill -TERM $window
 code=0
 wait $window || code=$?
 [ $code -eq 143 ] || fail "the window ended with $code"
-[ -s stick/default.crp ] || fail "the window kept nothing beside itself"
+stick/tessaryn-cli game stick/default.crp | grep -c "^Script of seat 1: [1-9]" >/dev/null ||
+  fail "the script that the window was started with is not kept beside it"
 [ ! -e .local/share/tessaryn ] || fail "it wrote elsewhere"

@@ -92,6 +92,7 @@ int RunProgram(QApplication& application, std::string dataFolder, const std::str
     if (!shared.empty()) ShowMessage<Msg::kDataFolderShared>(*game, With<"problem">(shared));
     window.TellIfNothingIsKept();
     if (!sounds.Missing().isEmpty()) window.statusBar()->showMessage(sounds.Missing(), 15'000);
+    window.OpenBesideGame(argument);
   });
   return application.exec();
 }
