@@ -308,7 +308,7 @@ TEST(Workshop, CompletionPrintRecentFilesAndAFault) {
     printer.setOutputFileName(pages + ".pdf");
     ASSERT_TRUE(table.workshop->PrintOn(printer));
     QProcess program;
-    program.start("pdftoppm", {"-r", "60", "-png", "-singlefile", pages + ".pdf", pages});
+    program.start("pdftoppm", {"-r", "100", "-png", "-singlefile", pages + ".pdf", pages});
     ASSERT_TRUE(program.waitForFinished(20'000));
     const QImage page(pages + ".png");
     bool coloured = false;
@@ -316,7 +316,7 @@ TEST(Workshop, CompletionPrintRecentFilesAndAFault) {
     for (int y = 0; y < page.height(); ++y)
       for (int x = 0; x < page.width(); ++x) {
         const QColor point = page.pixelColor(x, y);
-        coloured = coloured || point.hsvSaturation() > 60;
+        coloured = coloured || point.hsvSaturation() > 40;
         inked = inked || point.lightness() < 200;
       }
     EXPECT_TRUE(inked);
@@ -340,7 +340,9 @@ TEST(Workshop, LinesAreCountedInTrialsAndAtTheTable) {
   trial.Toggle();
   EXPECT_TRUE(QTest::qWaitFor([&] { return !trial.IsOn(); }, 20'000));
   ASSERT_GT(trial.Result().lines.size(), 3u);
-  EXPECT_EQ(trial.Result().lines[1].count, trial.Result().lines[3].count + 1) << "one more than it held";
+  EXPECT_EQ(trial.Result().lines[1].count, trial.Result().lines[3].count)
+      << "from the first roll on it holds";
+  EXPECT_GE(trial.Result().lines[1].count, 49);
   EXPECT_TRUE(table.Editor().CountsOf(1).startsWith(QString::number(trial.Result().lines[1].count)));
   table.workshop->Store();
   SetScriptActive(*table.game, 1, true);

@@ -21,6 +21,7 @@
 #include "play/auto_roll.h"
 #include "play/setting_table.h"
 #include "shell/screens/bankroll_graph_view.h"
+#include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
@@ -95,31 +96,15 @@ BankrollGraphScreen::BankrollGraphScreen(Game& game, QWidget* parent)
 // --- The controls.
 
 void BankrollGraphScreen::AddHeader(QBoxLayout& column) {
-  auto* row = new QHBoxLayout;
-  column.addLayout(row);
-  player_ = new QComboBox(this);
-  player_->setObjectName("cmbPlayer");
-  player_->setAccessibleName(tr("Player"));
-  player_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  player_->setMinimumContentsLength(12);
+  const PlayerHeadTexts texts{tr("Player"), tr("Options"), tr("Modes, averages, colors, printing")};
+  const PlayerHead head = AddPlayerHead(column, "mnuGraph", texts, this);
+  player_ = head.player;
+  menu_ = head.menu;
   connect(player_, &QComboBox::activated, this, [this] {
     SelectPlotSeat(game_, player_->currentData().toInt());
     Refresh();
   });
-  row->addWidget(player_);
-  row->addStretch();
-  auto* options = new QToolButton(this);
-  options->setObjectName("cmdOptions");
-  options->setText(tr("Options"));
-  options->setToolTip(tr("Modes, averages, colors, printing"));
-  options->setFocusPolicy(Qt::StrongFocus);
-  options->setMinimumWidth(options->sizeHint().width() + 12);  // the arrow stands beside the word
-  options->setPopupMode(QToolButton::InstantPopup);
-  menu_ = new QMenu(this);
-  menu_->setObjectName("mnuGraph");
   connect(menu_, &QMenu::aboutToShow, this, &BankrollGraphScreen::ShowTicks);
-  options->setMenu(menu_);
-  row->addWidget(options);
 }
 
 BankrollGraphScreen::Figure BankrollGraphScreen::AddFigure(QBoxLayout& row, const char* name,

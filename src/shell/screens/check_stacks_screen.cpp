@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QSpinBox>
-#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -22,6 +21,7 @@
 #include "play/auto_roll.h"
 #include "shell/screens/check_stacks_list.h"
 #include "shell/screens/core_words.h"
+#include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -80,31 +80,16 @@ CheckStacksScreen::CheckStacksScreen(Game& game, QWidget* parent)
 // --- The controls.
 
 void CheckStacksScreen::AddHeader(QBoxLayout& column) {
-  auto* row = new QHBoxLayout;
-  column.addLayout(row);
-  player_ = new QComboBox(this);
-  player_->setObjectName("cmbPlayer");
-  player_->setAccessibleName(tr("Player"));
-  player_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  player_->setMinimumContentsLength(12);
+  const PlayerHeadTexts texts{tr("Player"), tr("Options"),
+                              tr("Undo, clipboard, deletions, the stacks on the table")};
+  const PlayerHead head = AddPlayerHead(column, "mnuStacks", texts, this);
+  player_ = head.player;
+  menu_ = head.menu;
   connect(player_, &QComboBox::activated, this, [this] {
     game_.screen.CheckStacks.CheckStackSeat = player_->currentData().toInt();
     Refresh();
   });
-  row->addWidget(player_);
-  row->addStretch();
-  auto* options = new QToolButton(this);
-  options->setObjectName("cmdOptions");
-  options->setText(tr("Options"));
-  options->setToolTip(tr("Undo, clipboard, deletions, the stacks on the table"));
-  options->setFocusPolicy(Qt::StrongFocus);
-  options->setMinimumWidth(options->sizeHint().width() + 12);  // the arrow stands beside the word
-  options->setPopupMode(QToolButton::InstantPopup);
-  menu_ = new QMenu(this);
-  menu_->setObjectName("mnuStacks");
   connect(menu_, &QMenu::aboutToShow, this, &CheckStacksScreen::ShowMenu);
-  options->setMenu(menu_);
-  row->addWidget(options);
 }
 
 // The four that stand on the table, as they are now.

@@ -890,6 +890,7 @@ void WorkshopWindow::WantCounts() {
   wantsCounts_ = trial_->counted = wanted->isChecked();
   counted_ = {};
   counted_.profile = true;
+  shownCount_ = 0;
   WatchScripts(game_, wantsCounts_ ? &counted_ : nullptr);
   editor_->ShowCounts({});
 }
