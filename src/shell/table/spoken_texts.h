@@ -31,9 +31,12 @@ class SpokenTexts : public QTranslator {
   struct Row {
     QByteArray context;
     QByteArray source;
+    bool letterless = false;  // the text without its access letter
   };
   struct Pattern {  // a text with holes
     QString text;
+    QString longest;  // between two of them
+    int letters;
     Row row;
   };
   struct Heard {
@@ -42,7 +45,8 @@ class SpokenTexts : public QTranslator {
   };
 
   explicit SpokenTexts(QObject* parent);
-  void Hear(const QString& text, const char* context, const char* source) const;
+  void Hear(const QString& text, const char* context, const char* source, bool letterless) const;
+  static QString Said(const Row& row);
   void SayAnew(QWidget& widget);
   void SayItems(QWidget& widget);
   void SayProperties(QObject& object, const QWidget& near);
