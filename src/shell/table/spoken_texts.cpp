@@ -114,9 +114,21 @@ void SpokenTexts::Hear(const QString& text, const char* context, const char* sou
     if (part.size() > longest.size()) longest = part;
   }
   if (between.size() == 1 || letters < kLeastLetters) return;
+  QString expression;
+  QList<int> holes;
+  qsizetype from = 0;
+  for (auto hole = Hole().globalMatch(text); hole.hasNext();) {
+    const QRegularExpressionMatch match = hole.next();
+    expression += QRegularExpression::escape(text.mid(from, match.capturedStart() - from)) + "(.*?)";
+    holes.append(match.captured(1).toInt());
+    from = match.capturedEnd();
+  }
+  expression = QRegularExpression::anchoredPattern(expression + QRegularExpression::escape(text.mid(from)));
   const auto place = std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
                                   [letters](const Pattern& other) { return other.letters < letters; });
-  heard_.patterns.insert(place, Pattern{text, longest, letters, Row{context, source, letterless}});
+  heard_.patterns.insert(
+      place, Pattern{text, longest, letters, Row{context, source, letterless},
+                     QRegularExpression(expression, QRegularExpression::DotMatchesEverythingOption), holes});
 }
 
 // --- The change.
@@ -159,27 +171,14 @@ QString SpokenTexts::Whole(const QString& text, const QWidget& near) const {
 QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
   for (const Pattern& pattern : former_.patterns) {
     if (!text.contains(pattern.longest)) continue;
-    QString expression;
-    QList<int> holes;
-    qsizetype from = 0;
-    for (auto hole = Hole().globalMatch(pattern.text); hole.hasNext();) {
-      const QRegularExpressionMatch match = hole.next();
-      expression +=
-          QRegularExpression::escape(pattern.text.mid(from, match.capturedStart() - from)) + "(.*?)";
-      holes.append(match.captured(1).toInt());
-      from = match.capturedEnd();
-    }
-    expression += QRegularExpression::escape(pattern.text.mid(from));
-    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression),
-                                   QRegularExpression::DotMatchesEverythingOption);
-    const QRegularExpressionMatch match = whole.match(text);
+    const QRegularExpressionMatch match = pattern.whole.match(text);
     if (!match.hasMatch()) continue;
     const QString anew = Said(pattern.row);
     QString filled;
-    from = 0;
+    qsizetype from = 0;
     for (auto hole = Hole().globalMatch(anew); hole.hasNext();) {
       const QRegularExpressionMatch at = hole.next();
-      const auto which = holes.indexOf(at.captured(1).toInt());
+      const auto which = pattern.holes.indexOf(at.captured(1).toInt());
       const QString held = which < 0 ? QString() : match.captured(static_cast<int>(which) + 1);
       const QString word = Whole(held, near);
       filled += anew.mid(from, at.capturedStart() - from) + (word.isNull() ? held : word);
@@ -193,6 +192,8 @@ QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
 QString SpokenTexts::Anew(const QString& text, const QWidget& near) const {
   if (text.isEmpty() || entered_.contains(text)) return {};
   if (const QString whole = Whole(text, near); !whole.isNull()) return whole;
+  // The name of a box, from the label before it.
+  if (const QString label = Whole(text + ':', near); label.endsWith(':')) return label.chopped(1);
   static const QRegularExpression kBold("^<b>(.*)</b>$");
   if (const QRegularExpressionMatch bold = kBold.match(text); bold.hasMatch()) {
     const QString anew = Anew(bold.captured(1), near);

@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QMutex>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include "shell/table/languages.h"
@@ -38,6 +39,8 @@ class SpokenTexts : public QTranslator {
     QString longest;  // between two of them
     int letters;
     Row row;
+    QRegularExpression whole;
+    QList<int> holes;  // their numbers, in the order of the text
   };
   struct Heard {
     QHash<QString, QList<Row>> texts;
