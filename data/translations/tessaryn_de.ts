@@ -1835,6 +1835,82 @@ Daten:  %2</translation>
         <source>language of the window</source>
         <translation>Sprache des Fensters</translation>
     </message>
+    <message>
+        <source>As at first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The table as it is when the program is started for the first time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-4-5x odds, $10 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The usual table of a large house: three times odds on 4 and 10, four on 5 and 9, five on 6 and 8.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3-4-5x odds, $25 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same in the evening: a higher minimum, propositions from $5.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double odds, $5 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A small house with double odds and every side bet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Single odds, bar 2, $5 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An old house: single odds, two aces barred, no Put bets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>10x odds, $10 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ten times odds on every point, vig only when Buy and Lay bets win.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>20x odds, $5 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Twenty times odds on every point, a low minimum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100x odds, $5 table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A hundred times odds on every point: what the house keeps is least here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At home, from a quarter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checks of 25 cents to $25, bets from a quarter to $50.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Files</name>

@@ -128,9 +128,13 @@ QList<Seen> TextsOf(QWidget& screen) {
   const auto add = [&](const QString& text, const QObject& of, const char* what) {
     const QObject* named = &of;
     while (named != nullptr && named->objectName().isEmpty()) named = named->parent();
+    const QObject* tool = named;
+    while (tool != nullptr && dynamic_cast<const ToolWindow*>(tool) == nullptr) tool = tool->parent();
+    const auto nameOf = [](const QObject* object) {
+      return object == nullptr ? "" : object->objectName().toStdString();
+    };
     if (!text.isEmpty())
-      seen.append({text, screen.objectName().toStdString() + "/" +
-                             (named == nullptr ? "" : named->objectName().toStdString()) + " " +
+      seen.append({text, nameOf(tool == nullptr ? &screen : tool) + "/" + nameOf(named) + " " +
                              of.metaObject()->className() + "." + what});
   };
   QList<QWidget*> widgets = screen.findChildren<QWidget*>();
@@ -165,24 +169,36 @@ QList<Seen> TextsOf(QWidget& screen) {
 
 constexpr QChar kOpen(0x2039);
 constexpr QChar kClose(0x203a);
-// A language in which every text stands between marks.
-QString Marked(const char*, const char* source) { return kOpen + QString::fromUtf8(source) + kClose; }
+// A language in which every text stands between marks; a colon ends a label in each.
+QString Marked(const char*, const char* source) {
+  const QString text = QString::fromUtf8(source);
+  return text.endsWith(':') ? kOpen + text.chopped(1) + kClose + ':' : kOpen + text + kClose;
+}
 
-// What is English in every language, and what is nobody's word: names, files, words of scripts.
+// What is English in every language, and what is nobody's word: names, files, fonts, colours, words of
+// scripts.
 bool MayStay(QString text, const QString& where) {
-  // The bars of Summary and Roll Totals, the log's own lines, scripts and their words.
-  for (const char* place : {"frmSummary/tblReport", "frmRollTotals/tblReport", "frmEventsLog/log",
-                            "frmAutoBet/lst", "frmAutoBet/tblWatch", "frmSummary/frmSummary QWidget", "qt_"})
+  for (const char* place : {"frmSummary/tblReport", "frmRollTotals/tblReport", "/lstWords", "/tblWatch",
+                            "/cmbFont", "/cmbRNG", "/qt_", "/ScrollLeftButton", "/ScrollRightButton",
+                            "/cmdProbabilityActive",  // by the language that is set
+                            "/lblPointer"})
     if (where.contains(place)) return true;
   // What is between marks has been said; marks may stand in each other.
   static const QRegularExpression kSaid(QString("%1[^%1%2]*%2").arg(kOpen).arg(kClose));
   while (text.contains(kSaid)) text.remove(kSaid);
-  for (int bet = 1; bet <= kBets; ++bet) text.remove(FromCore(BetName(bet)));
-  static const QStringList kNames{"Tessaryn",     "Summary", "Roll Totals",   "Ada",
-                                  "Bo",           "House",   "RNG",           "Ctrl",
-                                  "Shift",        "Alt",     "Auto-Bet",      "English",
-                                  "Espa\u00f1ol", "Deutsch", "Fran\u00e7ais", "T\u00fcrk\u00e7e",
-                                  "ON",           "OFF",     "BUY",           "LAY"};
+  // Keys, names of settings, colours, the names of bets alone and together.
+  for (const char* kept : {"\\t.*$", "\\(\\w+(\\.\\w+)?\\)", "#[0-9A-F]{6}", "Ctrl\\+\\w",
+                           "(Passline|Pass|DP|Don't Pass)/(Come|DC)( \\d+)?( Odds)?( \\(c\\.o\\.\\))?"})
+    text.remove(QRegularExpression(kept));
+  static const QStringList kNames = [] {
+    QStringList names{"Tessaryn",         "Summary", "Roll Totals",  "Ada",     "House",
+                      "Auto-Bet",         "English", "Espa\u00f1ol", "Deutsch", "Fran\u00e7ais",
+                      "T\u00fcrk\u00e7e", "OFF",     "BUY",          "LAY"};
+    for (int bet = 1; bet <= kBets; ++bet) names += FromCore(BetName(bet));
+    std::sort(names.begin(), names.end(),
+              [](const QString& a, const QString& b) { return a.size() > b.size(); });
+    return names;
+  }();
   for (const QString& name : kNames) text.remove(name);
   static const QRegularExpression kWord("[A-Za-z]{3,}");
   return !text.contains(kWord);
@@ -215,6 +231,8 @@ TEST(Languages, AChangeWithEverythingOpenLeavesNothingOfTheFormerOne) {
     }
   before.sort();
   after.sort();
+  // A list that is made anew has nothing chosen.
+  before.removeIf([](const QString& text) { return text.contains("/lblHouse "); });
   for (const QString& text : before)
     EXPECT_TRUE(after.contains(text)) << "changed on the way: " << text.toStdString();
 }
@@ -264,11 +282,13 @@ TEST(Languages, NoTextIsCutInAnyLanguage) {
             label != nullptr && (label->wordWrap() || label->text().isEmpty() ||
                                  label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored ||
                                  label->minimumSizeHint().width() <= 0 || label->inherits("ElidedLabel"));
-        const bool counts = (label != nullptr && !free) || qobject_cast<QAbstractButton*>(widget) != nullptr;
-        if (!counts) continue;
-        EXPECT_GE(widget->width(), widget->minimumSizeHint().width())
-            << where << widget->objectName().toStdString() << ": "
-            << widget->property("text").toString().toStdString();
+        const auto* button = qobject_cast<QAbstractButton*>(widget);
+        if ((label == nullptr || free) && button == nullptr) continue;
+        const int needed = button != nullptr
+                               ? button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 4
+                               : label->minimumSizeHint().width();
+        EXPECT_GE(widget->width(), needed) << where << widget->objectName().toStdString() << ": "
+                                           << widget->property("text").toString().toStdString();
       }
       SavePicture(*screen, QString("language-%1-%2").arg(language).arg(screen->objectName()));
     }

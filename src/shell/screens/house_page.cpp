@@ -12,6 +12,7 @@
 
 #include "play/house_presets.h"
 #include "play/settings_file.h"
+#include "shell/screens/core_words.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/setting_editor.h"
 #include "shell/table/screen_tools.h"
@@ -100,9 +101,9 @@ void HousePage::ListHouses() {
   houses_ = std::move(houses);
   list_->clear();
   for (const House& house : houses_) {
-    const std::string name =
-        house.ready != nullptr ? house.ready->name : std::filesystem::path(house.path).stem().string();
-    auto* item = new QListWidgetItem(FromCore(name), list_);
+    const QString name = house.ready != nullptr ? CoreWords(house.ready->name)
+                                                : FromCore(std::filesystem::path(house.path).stem().string());
+    auto* item = new QListWidgetItem(name, list_);
     if (house.ready == nullptr) item->setToolTip(FromCore(house.path));
   }
   list_->setCurrentRow(std::clamp(row, 0, list_->count() - 1));
@@ -118,7 +119,8 @@ void HousePage::Choose() {
   else
     problem = ReadCheckedSettings(game_, house.path, rules_);
   good_ = problem.empty();
-  about_ = FromCore(!good_ ? problem : house.ready != nullptr ? house.ready->tells : house.path);
+  about_ = good_ && house.ready != nullptr ? CoreWords(house.ready->tells)
+                                           : FromCore(good_ ? house.path : problem);
   Compare();
 }
 

@@ -40,7 +40,8 @@ bool IsShownAlike(const PercentageDice& a, const PercentageDice& b) {
 }
 
 QString FileLine(const PercentageDice& dice) {
-  const QString title = FromCore(ProbabilityTitle(dice));
+  const QString title =
+      dice.ProbFileName.empty() ? CoreWords(ProbabilityTitle(dice)) : FromCore(ProbabilityTitle(dice));
   return dice.ProbDirty ? QObject::tr("%1 (not saved)").arg(title) : title;
 }
 

@@ -31,9 +31,9 @@ bool IsOfQt(const char* context) {
          qstrcmp(context, "QObject") != 0;
 }
 
-QString WithoutHoles(QString text) {
-  static const QRegularExpression kHole("%L?\\d");
-  return text.remove(kHole);
+const QRegularExpression& Hole() {
+  static const QRegularExpression kHole("%L?(\\d)");
+  return kHole;
 }
 
 int LettersOf(const QString& text) {
@@ -44,6 +44,19 @@ int LettersOf(const QString& text) {
 bool IsTyped(const QObject& object) {
   return object.inherits("QLineEdit") || object.inherits("QPlainTextEdit") || object.inherits("QTextEdit") ||
          object.inherits("QsciScintillaBase");
+}
+
+// Null when no part is said anew.
+template <typename Say>
+QString InParts(const QString& text, const char* between, const Say& say) {
+  QStringList parts = text.split(QLatin1String(between));
+  bool any = false;
+  for (QString& part : parts)
+    if (const QString anew = say(part); !anew.isNull()) {
+      part = anew;
+      any = true;
+    }
+  return any ? parts.join(QLatin1String(between)) : QString();
 }
 
 constexpr const char* kProperties[] = {"text",
@@ -82,22 +95,40 @@ QString SpokenTexts::translate(const char* context, const char* source, const ch
   if (IsOfQt(context) || source == nullptr || *source == 0) return {};
   const QString text = words_ ? words_(context, source) : QString();
   const QMutexLocker lock(&mutex_);
-  Hear(text.isEmpty() ? QString::fromUtf8(source) : text, context, source);
+  QString heard = text.isEmpty() ? QString::fromUtf8(source) : text;
+  Hear(heard, context, source, false);
+  if (heard.contains('&')) Hear(heard.remove('&'), context, source, true);
   return text;
 }
 
-void SpokenTexts::Hear(const QString& text, const char* context, const char* source) const {
+void SpokenTexts::Hear(const QString& text, const char* context, const char* source, bool letterless) const {
   QList<Row>& rows = heard_.texts[text];
   for (const Row& row : rows)
-    if (row.context == context && row.source == source) return;
-  rows.append(Row{context, source});
-  const QString fixed = WithoutHoles(text);
-  const int letters = LettersOf(fixed);
-  if (fixed.size() == text.size() || letters < kLeastLetters) return;
-  const auto place =
-      std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
-                   [letters](const Pattern& other) { return LettersOf(WithoutHoles(other.text)) < letters; });
-  heard_.patterns.insert(place, Pattern{text, Row{context, source}});
+    if (row.context == context && row.source == source && row.letterless == letterless) return;
+  rows.append(Row{context, source, letterless});
+  const QStringList between = text.split(Hole());
+  int letters = 0;
+  QString longest;
+  for (const QString& part : between) {
+    letters += LettersOf(part);
+    if (part.size() > longest.size()) longest = part;
+  }
+  if (between.size() == 1 || letters < kLeastLetters) return;
+  QString expression;
+  QList<int> holes;
+  qsizetype from = 0;
+  for (auto hole = Hole().globalMatch(text); hole.hasNext();) {
+    const QRegularExpressionMatch match = hole.next();
+    expression += QRegularExpression::escape(text.mid(from, match.capturedStart() - from)) + "(.*?)";
+    holes.append(match.captured(1).toInt());
+    from = match.capturedEnd();
+  }
+  expression = QRegularExpression::anchoredPattern(expression + QRegularExpression::escape(text.mid(from)));
+  const auto place = std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
+                                  [letters](const Pattern& other) { return other.letters < letters; });
+  heard_.patterns.insert(
+      place, Pattern{text, longest, letters, Row{context, source, letterless},
+                     QRegularExpression(expression, QRegularExpression::DotMatchesEverythingOption), holes});
 }
 
 // --- The change.
@@ -127,36 +158,27 @@ const SpokenTexts::Row* SpokenTexts::RowOf(const QString& text, const QWidget& n
   return &found->front();
 }
 
+QString SpokenTexts::Said(const Row& row) {
+  QString text = QCoreApplication::translate(row.context, row.source);
+  return row.letterless ? text.remove('&') : text;
+}
+
 QString SpokenTexts::Whole(const QString& text, const QWidget& near) const {
-  if (const Row* row = RowOf(text, near); row != nullptr)
-    return QCoreApplication::translate(row->context, row->source);
+  if (const Row* row = RowOf(text, near); row != nullptr) return Said(*row);
   return {};
 }
 
 QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
-  static const QRegularExpression kHole("%L?(\\d)");
   for (const Pattern& pattern : former_.patterns) {
-    QString expression;
-    QList<int> holes;
-    qsizetype from = 0;
-    for (auto hole = kHole.globalMatch(pattern.text); hole.hasNext();) {
-      const QRegularExpressionMatch match = hole.next();
-      expression +=
-          QRegularExpression::escape(pattern.text.mid(from, match.capturedStart() - from)) + "(.*?)";
-      holes.append(match.captured(1).toInt());
-      from = match.capturedEnd();
-    }
-    expression += QRegularExpression::escape(pattern.text.mid(from));
-    const QRegularExpression whole(QRegularExpression::anchoredPattern(expression),
-                                   QRegularExpression::DotMatchesEverythingOption);
-    const QRegularExpressionMatch match = whole.match(text);
+    if (!text.contains(pattern.longest)) continue;
+    const QRegularExpressionMatch match = pattern.whole.match(text);
     if (!match.hasMatch()) continue;
-    QString anew = QCoreApplication::translate(pattern.row.context, pattern.row.source);
+    const QString anew = Said(pattern.row);
     QString filled;
-    from = 0;
-    for (auto hole = kHole.globalMatch(anew); hole.hasNext();) {
+    qsizetype from = 0;
+    for (auto hole = Hole().globalMatch(anew); hole.hasNext();) {
       const QRegularExpressionMatch at = hole.next();
-      const auto which = holes.indexOf(at.captured(1).toInt());
+      const auto which = pattern.holes.indexOf(at.captured(1).toInt());
       const QString held = which < 0 ? QString() : match.captured(static_cast<int>(which) + 1);
       const QString word = Whole(held, near);
       filled += anew.mid(from, at.capturedStart() - from) + (word.isNull() ? held : word);
@@ -170,23 +192,26 @@ QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
 QString SpokenTexts::Anew(const QString& text, const QWidget& near) const {
   if (text.isEmpty() || entered_.contains(text)) return {};
   if (const QString whole = Whole(text, near); !whole.isNull()) return whole;
-  // A caption with its key behind it; lines, or parts of one, of their own; a text with something in brackets
-  // behind it.
-  for (const char* between : {"\t", "\n", "   ", "  "}) {
-    if (!text.contains(QLatin1String(between))) continue;
-    QStringList parts = text.split(QLatin1String(between));
-    bool any = false;
-    for (QString& part : parts)
-      if (const QString anew = Anew(part, near); !anew.isNull()) {
-        part = anew;
-        any = true;
-      }
-    if (any) return parts.join(QLatin1String(between));
+  // The name of a box, from the label before it.
+  if (const QString label = Whole(text + ':', near); label.endsWith(':')) return label.chopped(1);
+  static const QRegularExpression kBold("^<b>(.*)</b>$");
+  if (const QRegularExpressionMatch bold = kBold.match(text); bold.hasMatch()) {
+    const QString anew = Anew(bold.captured(1), near);
+    return anew.isNull() ? anew : "<b>" + anew + "</b>";
   }
+  // A caption with its key behind it; lines of their own.
+  for (const char* between : {"\t", "\n"})
+    if (text.contains(QLatin1String(between)))
+      return InParts(text, between, [&](const QString& part) { return Anew(part, near); });
   if (const qsizetype bracket = text.lastIndexOf(QLatin1String(" (")); bracket > 0)
     if (const QString whole = Whole(text.left(bracket), near); !whole.isNull())
       return whole + text.mid(bracket);
-  return ByPattern(text, near);
+  if (const QString filled = ByPattern(text, near); !filled.isNull()) return filled;
+  // What a screen has put side by side.
+  for (const char* between : {"   ", "  ", ", "})
+    if (text.contains(QLatin1String(between)))
+      return InParts(text, between, [&](const QString& part) { return Whole(part, near); });
+  return {};
 }
 
 void SpokenTexts::SayProperties(QObject& object, const QWidget& near) {

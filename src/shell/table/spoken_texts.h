@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QList>
 #include <QMutex>
+#include <QRegularExpression>
 #include <QTranslator>
 
 #include "shell/table/languages.h"
@@ -31,10 +32,15 @@ class SpokenTexts : public QTranslator {
   struct Row {
     QByteArray context;
     QByteArray source;
+    bool letterless = false;  // the text without its access letter
   };
   struct Pattern {  // a text with holes
     QString text;
+    QString longest;  // between two of them
+    int letters;
     Row row;
+    QRegularExpression whole;
+    QList<int> holes;  // their numbers, in the order of the text
   };
   struct Heard {
     QHash<QString, QList<Row>> texts;
@@ -42,7 +48,8 @@ class SpokenTexts : public QTranslator {
   };
 
   explicit SpokenTexts(QObject* parent);
-  void Hear(const QString& text, const char* context, const char* source) const;
+  void Hear(const QString& text, const char* context, const char* source, bool letterless) const;
+  static QString Said(const Row& row);
   void SayAnew(QWidget& widget);
   void SayItems(QWidget& widget);
   void SayProperties(QObject& object, const QWidget& near);
