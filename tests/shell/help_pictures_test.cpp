@@ -1,15 +1,11 @@
 // The pictures on the pages of the help: scripts/help_pictures.sh has them made.
 #include <QDir>
 #include <QImage>
-#include <QTabWidget>
 
-#include "dice/roll_file.h"
 #include "play/hot_keys.h"
-#include "play/roll_recorder.h"
 #include "play/script_session.h"
 #include "play/setting_table.h"
 #include "rules/bet_rules.h"
-#include "rules/session.h"
 #include "shell/frame/docking.h"
 #include "shell/frame/help_desk.h"
 #include "shell/frame/main_window.h"
@@ -104,34 +100,6 @@ TEST(HelpPictures, AreMade) {
     panel->Refresh(*scene.table.game);
     panel->show();
     Keep(*panel, "turbo-roll");
-  }
-  {
-    Scene scene;
-    ToolWindow& lab = scene.Show(kLaboratoryWindow, {960, 600});
-    for (const char* bets : {"passline=10, passlineodds=20", "passline=10, field=10"}) {
-      TypeInto(lab, "txtBets", bets);
-      QTest::keyClick(&Find<QWidget>(lab, "txtBets"), Qt::Key_Return);
-    }
-    TypeInto(lab, "txtSessions", "2000");
-    Click(lab, "cmdRun");
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return Find<QPushButton>(lab, "cmdRun").text().remove('&').startsWith("Run"); }, 60'000));
-    Find<QTabWidget>(lab, "tabLaboratory").setCurrentIndex(1);
-    QTest::qWait(200);
-    Keep(lab, "laboratory");
-    const QTemporaryDir folder;
-    Game& game = *scene.table.game;
-    game.dataFolder = folder.path().toStdString() + "/";
-    EXPECT_EQ(OpenRollFile(game.rollFile, game.dataFolder + "evening.rol"), "");
-    EXPECT_EQ(SetRecorder(game, kRecorderRecord), "");
-    for (int session = 0; session < 40; ++session) {
-      PlaceBet(game, 3, kPassLine, Currency::Dollars(25));
-      scene.table.Turbo(60);
-      NewSession(game, true, false, true, kContinueRollFile);
-    }
-    Keep(scene.Show(kSessionsWindow, {820, 520}), "sessions-log");
-    Keep(scene.Show(kDiceRollFilesWindow, {820, 480}), "dice-roll-files");
-    CloseRollFile(game.rollFile);
   }
   {
     Scene scene({1440, 860});
