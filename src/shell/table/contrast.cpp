@@ -36,8 +36,10 @@ void MakeHighContrast(TableColors& colors) {
   const QColor black(Qt::black);
   const QColor white(Qt::white);
   const QColor yellow(255, 255, 0);
-  colors.Room = colors.Felt = colors.Rail = colors.RailPad = black;
-  colors.Line = colors.Letter = colors.Soft = colors.Pips = colors.Puck = white;
+  colors.Room = colors.Felt = colors.Dark = colors.Rail = colors.Ink = black;
+  colors.Middle = colors.Head = colors.Side = colors.SideHead = black;
+  colors.Line = colors.Letter = colors.Soft = colors.Pips = white;
+  colors.Lit = QColor(0, 0, 150);
   colors.Accent = yellow;
   colors.Dice = colors.Dice2 = QColor(96, 0, 0);
   colors.Texture = colors.Spotlight = 0;

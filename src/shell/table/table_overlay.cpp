@@ -84,8 +84,10 @@ void ForAreas(const TableLayout& layout, int bet, int side, Visit visit) {
 }
 
 QColor LitColor(const TableColors& colors, const TableArea& area) {
+  const QColor ground = GroundColor(colors, area.Fill);
   const bool onFelt = area.Fill == Ground::kFelt || area.Fill == Ground::kDark;
-  return onFelt ? colors.Lit : GroundColor(colors, area.Fill).lighter(155);
+  // Black, as in high contrast, has no lighter shade.
+  return onFelt || ground == QColor(Qt::black) ? colors.Lit : ground.lighter(155);
 }
 
 void LightArea(Overlay& over, int bet) {
