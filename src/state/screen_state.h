@@ -144,6 +144,7 @@ struct ScreenState {
   int BetAmountMode = 1;  // how a click gets its amount, as TableCommands has it
   Currency ClickAmount = Currency::Dollars(5);
   bool HotKeysEnabled = true;
+  bool SettleInBoxes = false;  // decided bets are asked about one by one, not on a sheet
   Looks looks;
   // --- Files.
   std::string Folders[kChooserFolders];  // empty: the data folder
@@ -151,8 +152,8 @@ struct ScreenState {
 };
 TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
                 CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
-                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, looks, Folders,
-                HotKeys)
+                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, SettleInBoxes,
+                looks, Folders, HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

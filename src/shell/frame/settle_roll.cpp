@@ -26,9 +26,9 @@ void KeepChoice(Handling& handling, bool won, const SettleAnswer& answer) {
 
 }  // namespace
 
-bool SettlesInBoxes(const Desk& desk) { return desk.settlesInBoxes; }
+bool SettlesInBoxes(const Desk& desk) { return desk.game.screen.SettleInBoxes; }
 
-void SetSettlesInBoxes(Desk& desk, bool boxes) { desk.settlesInBoxes = boxes; }
+void SetSettlesInBoxes(Desk& desk, bool boxes) { desk.game.screen.SettleInBoxes = boxes; }
 
 SettleRoll::SettleRoll(Desk& desk) : desk_(desk) {}
 
