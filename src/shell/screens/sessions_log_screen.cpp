@@ -890,7 +890,7 @@ void SessionsLogScreen::FindEnded() {
     if (!hit_->problem.empty()) {
       ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(hit_->problem));
     } else if (session == 0) {
-      Tell("Search Results", tr("Value not found.").toStdString());
+      ShowMessage<Msg::kSessionValueNotFound>(game_);
     } else {
       game_.sessions.SessionsTopRow = session;
       game_.sessions.SessionsDisplayMode = 1;
@@ -1012,7 +1012,7 @@ QStringList SessionsLogScreen::PrintFacts(int pages) const {
 
 bool SessionsLogScreen::ReadyToPrint() {
   if (result_->statistics.Included > 0) return true;
-  Tell(qPrintable(PrintTitle()), tr("There are no sessions selected for printing.").toStdString());
+  Tell(qPrintable(PrintTitle()), MessageText<Msg::kNoSessionsToPrint>());
   return false;
 }
 
