@@ -623,8 +623,7 @@ void EventsLogScreen::Work() {
     view_->ShowOnTop(PlaceOfLogByte(view_->Index(), search_.Found));
     return Scrolled();
   }
-  ShowMessage<Msg::kFileProblem>(game_, With<"title">(tr("Search Results").toStdString()),
-                                 With<"problem">(tr("Text not found.").toStdString()));
+  ShowMessage<Msg::kTextNotFound>(game_);
 }
 
 void EventsLogScreen::keyPressEvent(QKeyEvent* event) {

@@ -903,7 +903,7 @@ void SessionsLogScreen::FindEnded() {
     if (!hit_->problem.empty()) {
       ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(hit_->problem));
     } else if (session == 0) {
-      Tell(tr("Search Results"), tr("Value not found.").toStdString());
+      ShowMessage<Msg::kSessionValueNotFound>(game_);
     } else {
       game_.sessions.SessionsTopRow = session;
       game_.sessions.SessionsDisplayMode = 1;
@@ -1025,7 +1025,7 @@ QStringList SessionsLogScreen::PrintFacts(int pages) const {
 
 bool SessionsLogScreen::ReadyToPrint() {
   if (result_->statistics.Included > 0) return true;
-  Tell(PrintTitle(), tr("There are no sessions selected for printing.").toStdString());
+  Tell(PrintTitle(), MessageText<Msg::kNoSessionsToPrint>());
   return false;
 }
 
