@@ -83,6 +83,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
       commands_(commands),
       flashTimer_(new QTimer(this)),
       entry_(new MoneyEdit(this)) {
+  MakeTablesAccessible();  // before anybody is told of this one
   setObjectName("picLayout");
   setAccessibleName(tr("Craps table"));
   setMouseTracking(true);
@@ -105,7 +106,6 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
   });
   new BetTip(*this, game_, commands_);
   new TableTouch(*this, game_, commands_);
-  MakeTablesAccessible();
   AnnounceRoll(*this, game_);
   RebuildLayout();
   PlaceDice();
