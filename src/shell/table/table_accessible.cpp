@@ -141,6 +141,7 @@ class TableAccessible : public QAccessibleWidget {
 
  private:
   std::vector<Part> Parts() const {
+    if (table_->scene.game == nullptr) return {};  // it is being made
     std::vector<Part> parts{{PartKind::kRoll}};
     for (std::size_t at = 0; at < table_->Layout().Areas.size(); ++at)
       parts.push_back({PartKind::kArea, 0, 0, static_cast<int>(at)});
@@ -324,7 +325,7 @@ QAccessibleInterface* MakeInterface(const QString&, QObject* object) {
 
 TableAccessible* AccessibleOf(TableWidget& table) {
   return QAccessible::isActive()
-             ? static_cast<TableAccessible*>(QAccessible::queryAccessibleInterface(&table))
+             ? dynamic_cast<TableAccessible*>(QAccessible::queryAccessibleInterface(&table))
              : nullptr;
 }
 

@@ -85,6 +85,7 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
       commands_(commands),
       flashTimer_(new QTimer(this)),
       entry_(new MoneyEdit(this)) {
+  MakeTablesAccessible();  // before anybody is told of this one
   setObjectName("picLayout");
   setAccessibleName(tr("Craps table"));
   setMouseTracking(true);
@@ -107,7 +108,6 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
   });
   new BetTip(*this, game_, commands_);
   new TableTouch(*this, game_, commands_);
-  MakeTablesAccessible();
   AnnounceRoll(*this, game_);
   RebuildLayout();
   PlaceDice();
