@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -51,6 +52,7 @@ namespace tessaryn {
 namespace {
 
 constexpr int kLookAgain = 20;    // milliseconds between two looks whether a roll has ended
+constexpr int kRefusedFor = 400;  // milliseconds that the edge of a refused bet is red
 constexpr int kToldFor = 10'000;  // milliseconds that a line stays at the window's foot
 
 template <typename Work>
@@ -213,6 +215,23 @@ void MainWindow::TakePreferences() {
 
 void MainWindow::TakeNote(const MessageBox& box) {
   stage_->TheBoard().AddNote(FromCore(box.MsgText).simplified());
+}
+
+// The edge first, then the box that tells why.
+void MainWindow::ShowRefusal() {
+  const int bet = std::exchange(clickedBet_, 0);
+  if (bet == 0 || (game_.box.MsgFlags & kMsgNo) != 0) return;
+  table_->scene.refusedBet = AreaOf(bet);
+  table_->update();
+  if (table_->animate) {
+    QEventLoop wait;
+    QTimer::singleShot(kRefusedFor, &wait, &QEventLoop::quit);
+    wait.exec(QEventLoop::ExcludeUserInputEvents);
+  }
+  QTimer::singleShot(table_->animate ? 0 : kRefusedFor, this, [this] {
+    table_->scene.refusedBet = 0;
+    table_->update();
+  });
 }
 
 void MainWindow::EndGuide() {
@@ -409,7 +428,10 @@ void MainWindow::ConnectTable() {
 void MainWindow::ConnectHost() {
   host_.window = this;
   host_.changed = [this](Game&, Change change) { OnChanged(change); };
-  host_.beforeBox = [this] { ShowState(); };
+  host_.beforeBox = [this] {
+    ShowState();
+    ShowRefusal();
+  };
   host_.showThrow = [this](Game&) { table_->ShowThrow(); };
   host_.showWin = [this](Game&) { table_->RainChecks(); };
   host_.showStep = [this](Game&, const ScriptStep& step) { ShowScriptStep(desk_, step); };
@@ -515,7 +537,10 @@ void MainWindow::OnBetClicked(int bet, bool alt) {
     ShowMessage<Msg::kClickOpenPosition>(game_);
     return;
   }
-  if (ClickBet(game_, desk_.commands, bet, alt)) table_->OpenEntry(bet);
+  clickedBet_ = bet;
+  const bool keyedIn = ClickBet(game_, desk_.commands, bet, alt);
+  clickedBet_ = 0;
+  if (keyedIn) table_->OpenEntry(bet);
   table_->Refresh();
   RefreshCommands();
   ShowPointer(bet);

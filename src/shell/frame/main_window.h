@@ -79,6 +79,8 @@ class MainWindow : public QMainWindow {
   void EndGuide();
   void ShowBoard(bool settled);
   void TakeNote(const MessageBox& box);
+  // The area of a click that a box is about to refuse, edged for a moment.
+  void ShowRefusal();
   void OpenPlateMenu(int seat, QPoint where);
   void ConnectTable();
   void ConnectHost();
@@ -118,6 +120,7 @@ class MainWindow : public QMainWindow {
   BetButtons* betButtons_ = nullptr;
   Measures measures_;
   Preferences preferences_;
+  int clickedBet_ = 0;  // while a click on it is carried out
   std::int64_t settledThrows_ = 0;  // of the table when no roll was being settled
   std::int64_t badgesOf_ = 0;       // throws of the table when badges were last shown
   AmountSelector* amounts_ = nullptr;

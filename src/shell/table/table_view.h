@@ -66,7 +66,7 @@ void CenterTable(TableView& view);
 // The drawn table, rail and all, in table units.
 inline constexpr QRectF kTableFrame(-38, -20, 1323, 594);
 // The lower edge of the felt in it.
-inline constexpr double kFeltBottom = 529;
+inline constexpr double kFeltBottom = 530;
 // Below a table that stands upright, for the plates.
 inline constexpr int kBelowTable = 18;
 
