@@ -1837,79 +1837,79 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>As at first</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie zu Beginn</translation>
     </message>
     <message>
         <source>The table as it is when the program is started for the first time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tisch, wie er beim ersten Start des Programms ist.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>3-4-5x Odds, 10-$-Tisch</translation>
     </message>
     <message>
         <source>The usual table of a large house: three times odds on 4 and 10, four on 5 and 9, five on 6 and 8.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der übliche Tisch eines großen Hauses: dreifache Odds auf 4 und 10, vierfache auf 5 und 9, fünffache auf 6 und 8.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $25 table</source>
-        <translation type="unfinished"></translation>
+        <translation>3-4-5x Odds, 25-$-Tisch</translation>
     </message>
     <message>
         <source>The same in the evening: a higher minimum, propositions from $5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Derselbe am Abend: höheres Minimum, Propositions ab $5.</translation>
     </message>
     <message>
         <source>Double odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelte Odds, 5-$-Tisch</translation>
     </message>
     <message>
         <source>A small house with double odds and every side bet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein kleines Haus mit doppelten Odds und jeder Nebenwette.</translation>
     </message>
     <message>
         <source>Single odds, bar 2, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Einfache Odds, Bar 2, 5-$-Tisch</translation>
     </message>
     <message>
         <source>An old house: single odds, two aces barred, no Put bets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein altes Haus: einfache Odds, zwei Einsen gesperrt, keine Put-Einsätze.</translation>
     </message>
     <message>
         <source>10x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>10x Odds, 10-$-Tisch</translation>
     </message>
     <message>
         <source>Ten times odds on every point, vig only when Buy and Lay bets win.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehnfache Odds auf jedem Point, Vig nur, wenn Buy- und Lay-Einsätze gewinnen.</translation>
     </message>
     <message>
         <source>20x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>20x Odds, 5-$-Tisch</translation>
     </message>
     <message>
         <source>Twenty times odds on every point, a low minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwanzigfache Odds auf jedem Point, ein niedriges Minimum.</translation>
     </message>
     <message>
         <source>100x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>100x Odds, 5-$-Tisch</translation>
     </message>
     <message>
         <source>A hundred times odds on every point: what the house keeps is least here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hundertfache Odds auf jedem Point: was das Haus behält, ist hier am wenigsten.</translation>
     </message>
     <message>
         <source>At home, from a quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Hause, ab 25 Cent</translation>
     </message>
     <message>
         <source>Checks of 25 cents to $25, bets from a quarter to $50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetons von 25 Cent bis $25, Einsätze von 25 Cent bis $50.</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>unbenannt</translation>
     </message>
 </context>
 <context>
@@ -4779,14 +4779,6 @@ Daten:  %2</translation>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Suchergebnis</translation>
-    </message>
-    <message>
-        <source>Text not found.</source>
-        <translation>Text nicht gefunden.</translation>
-    </message>
-    <message>
         <source>Print Events Log</source>
         <translation>Ereignis-Log drucken</translation>
     </message>
@@ -6713,14 +6705,6 @@ Datei, Neu oder Öffnen beginnt.</translation>
         <translation>%1 Sessions</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Suchergebnis</translation>
-    </message>
-    <message>
-        <source>Value not found.</source>
-        <translation>Wert nicht gefunden.</translation>
-    </message>
-    <message>
         <source>Statistic</source>
         <translation>Statistik</translation>
     </message>
@@ -6759,10 +6743,6 @@ Datei, Neu oder Öffnen beginnt.</translation>
     <message>
         <source>Number of pages: %1</source>
         <translation>Anzahl Seiten: %1</translation>
-    </message>
-    <message>
-        <source>There are no sessions selected for printing.</source>
-        <translation>Es sind keine Sessions zum Drucken ausgewählt.</translation>
     </message>
     <message>
         <source>Saving the log ...</source>
@@ -7013,13 +6993,6 @@ Datei, Neu oder Öffnen beginnt.</translation>
         <source>Roll %1: %2, %3</source>
         <translation>Wurf %1: %2, %3</translation>
     </message>
-    <message numerus="yes">
-        <source>%n bet(s) decided</source>
-        <translation>
-            <numerusform>%n Einsatz entschieden</numerusform>
-            <numerusform>%n Einsätze entschieden</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Decided bets</source>
         <translation>Entschiedene Einsätze</translation>
@@ -7071,6 +7044,10 @@ Datei, Neu oder Öffnen beginnt.</translation>
     <message>
         <source>&amp;Done (Enter)</source>
         <translation>Fe&amp;rtig (Enter)</translation>
+    </message>
+    <message>
+        <source>Bets decided: %1</source>
+        <translation>Entschiedene Einsätze: %1</translation>
     </message>
 </context>
 <context>

@@ -1837,79 +1837,79 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>As at first</source>
-        <translation type="unfinished"></translation>
+        <translation>Como al principio</translation>
     </message>
     <message>
         <source>The table as it is when the program is started for the first time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mesa tal como es al iniciar el programa por primera vez.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 3-4-5x, mesa de $10</translation>
     </message>
     <message>
         <source>The usual table of a large house: three times odds on 4 and 10, four on 5 and 9, five on 6 and 8.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mesa habitual de una casa grande: Odds triples en 4 y 10, cuádruples en 5 y 9, quíntuples en 6 y 8.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $25 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 3-4-5x, mesa de $25</translation>
     </message>
     <message>
         <source>The same in the evening: a higher minimum, propositions from $5.</source>
-        <translation type="unfinished"></translation>
+        <translation>La misma por la noche: mínimo más alto, proposiciones desde $5.</translation>
     </message>
     <message>
         <source>Double odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds dobles, mesa de $5</translation>
     </message>
     <message>
         <source>A small house with double odds and every side bet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una casa pequeña con Odds dobles y todas las apuestas extra.</translation>
     </message>
     <message>
         <source>Single odds, bar 2, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds simples, barra 2, mesa de $5</translation>
     </message>
     <message>
         <source>An old house: single odds, two aces barred, no Put bets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una casa antigua: Odds simples, dos ases barrados, sin apuestas Put.</translation>
     </message>
     <message>
         <source>10x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 10x, mesa de $10</translation>
     </message>
     <message>
         <source>Ten times odds on every point, vig only when Buy and Lay bets win.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds de diez veces en cada punto, vig solo cuando ganan Buy y Lay.</translation>
     </message>
     <message>
         <source>20x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 20x, mesa de $5</translation>
     </message>
     <message>
         <source>Twenty times odds on every point, a low minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds de veinte veces en cada punto, un mínimo bajo.</translation>
     </message>
     <message>
         <source>100x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 100x, mesa de $5</translation>
     </message>
     <message>
         <source>A hundred times odds on every point: what the house keeps is least here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds de cien veces en cada punto: aquí la casa se queda lo menos posible.</translation>
     </message>
     <message>
         <source>At home, from a quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>En casa, desde un cuarto</translation>
     </message>
     <message>
         <source>Checks of 25 cents to $25, bets from a quarter to $50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichas de 25 centavos a $25, apuestas de 25 centavos a $50.</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>sin título</translation>
     </message>
 </context>
 <context>
@@ -4779,14 +4779,6 @@ Datos:  %2</translation>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Resultado de la búsqueda</translation>
-    </message>
-    <message>
-        <source>Text not found.</source>
-        <translation>Texto no encontrado.</translation>
-    </message>
-    <message>
         <source>Print Events Log</source>
         <translation>Imprimir registro de eventos</translation>
     </message>
@@ -6713,14 +6705,6 @@ Archivo, Nuevo o Abrir para empezar.</translation>
         <translation>%1 sesiones</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Resultado de la búsqueda</translation>
-    </message>
-    <message>
-        <source>Value not found.</source>
-        <translation>Valor no encontrado.</translation>
-    </message>
-    <message>
         <source>Statistic</source>
         <translation>Estadística</translation>
     </message>
@@ -6759,10 +6743,6 @@ Archivo, Nuevo o Abrir para empezar.</translation>
     <message>
         <source>Number of pages: %1</source>
         <translation>Número de páginas: %1</translation>
-    </message>
-    <message>
-        <source>There are no sessions selected for printing.</source>
-        <translation>No hay sesiones elegidas para imprimir.</translation>
     </message>
     <message>
         <source>Saving the log ...</source>
@@ -7013,13 +6993,6 @@ Archivo, Nuevo o Abrir para empezar.</translation>
         <source>Roll %1: %2, %3</source>
         <translation>Tirada %1: %2, %3</translation>
     </message>
-    <message numerus="yes">
-        <source>%n bet(s) decided</source>
-        <translation>
-            <numerusform>%n apuesta decidida</numerusform>
-            <numerusform>%n apuestas decididas</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Decided bets</source>
         <translation>Apuestas decididas</translation>
@@ -7071,6 +7044,10 @@ Archivo, Nuevo o Abrir para empezar.</translation>
     <message>
         <source>&amp;Done (Enter)</source>
         <translation>&amp;Listo (Intro)</translation>
+    </message>
+    <message>
+        <source>Bets decided: %1</source>
+        <translation>Apuestas decididas: %1</translation>
     </message>
 </context>
 <context>

@@ -1837,79 +1837,79 @@ Données :  %2</translation>
     </message>
     <message>
         <source>As at first</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme à l&apos;origine</translation>
     </message>
     <message>
         <source>The table as it is when the program is started for the first time.</source>
-        <translation type="unfinished"></translation>
+        <translation>La table telle qu&apos;elle est au premier démarrage du programme.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 3-4-5x, table à 10 $</translation>
     </message>
     <message>
         <source>The usual table of a large house: three times odds on 4 and 10, four on 5 and 9, five on 6 and 8.</source>
-        <translation type="unfinished"></translation>
+        <translation>La table habituelle d&apos;une grande maison : Odds triples sur 4 et 10, quadruples sur 5 et 9, quintuples sur 6 et 8.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $25 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 3-4-5x, table à 25 $</translation>
     </message>
     <message>
         <source>The same in the evening: a higher minimum, propositions from $5.</source>
-        <translation type="unfinished"></translation>
+        <translation>La même le soir : un minimum plus haut, propositions dès 5 $.</translation>
     </message>
     <message>
         <source>Double odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds doubles, table à 5 $</translation>
     </message>
     <message>
         <source>A small house with double odds and every side bet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une petite maison avec Odds doubles et toutes les mises annexes.</translation>
     </message>
     <message>
         <source>Single odds, bar 2, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds simples, barre 2, table à 5 $</translation>
     </message>
     <message>
         <source>An old house: single odds, two aces barred, no Put bets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une vieille maison : Odds simples, deux as barrés, pas de mises Put.</translation>
     </message>
     <message>
         <source>10x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 10x, table à 10 $</translation>
     </message>
     <message>
         <source>Ten times odds on every point, vig only when Buy and Lay bets win.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds dix fois sur chaque point, vig seulement quand Buy et Lay gagnent.</translation>
     </message>
     <message>
         <source>20x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 20x, table à 5 $</translation>
     </message>
     <message>
         <source>Twenty times odds on every point, a low minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds vingt fois sur chaque point, un minimum bas.</translation>
     </message>
     <message>
         <source>100x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds 100x, table à 5 $</translation>
     </message>
     <message>
         <source>A hundred times odds on every point: what the house keeps is least here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odds cent fois sur chaque point : la maison garde ici le moins.</translation>
     </message>
     <message>
         <source>At home, from a quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>À la maison, dès 25 cents</translation>
     </message>
     <message>
         <source>Checks of 25 cents to $25, bets from a quarter to $50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jetons de 25 cents à 25 $, mises de 25 cents à 50 $.</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>sans titre</translation>
     </message>
 </context>
 <context>
@@ -4779,14 +4779,6 @@ Données :  %2</translation>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Résultat de la recherche</translation>
-    </message>
-    <message>
-        <source>Text not found.</source>
-        <translation>Texte introuvable.</translation>
-    </message>
-    <message>
         <source>Print Events Log</source>
         <translation>Imprimer le journal des événements</translation>
     </message>
@@ -6713,14 +6705,6 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
         <translation>%1 sessions</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Résultat de la recherche</translation>
-    </message>
-    <message>
-        <source>Value not found.</source>
-        <translation>Valeur introuvable.</translation>
-    </message>
-    <message>
         <source>Statistic</source>
         <translation>Statistique</translation>
     </message>
@@ -6759,10 +6743,6 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
     <message>
         <source>Number of pages: %1</source>
         <translation>Nombre de pages : %1</translation>
-    </message>
-    <message>
-        <source>There are no sessions selected for printing.</source>
-        <translation>Aucune session n&apos;est choisie pour l&apos;impression.</translation>
     </message>
     <message>
         <source>Saving the log ...</source>
@@ -7013,13 +6993,6 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
         <source>Roll %1: %2, %3</source>
         <translation>Lancer %1 : %2, %3</translation>
     </message>
-    <message numerus="yes">
-        <source>%n bet(s) decided</source>
-        <translation>
-            <numerusform>%n mise décidée</numerusform>
-            <numerusform>%n mises décidées</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Decided bets</source>
         <translation>Mises décidées</translation>
@@ -7071,6 +7044,10 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
     <message>
         <source>&amp;Done (Enter)</source>
         <translation>&amp;Fini (Entrée)</translation>
+    </message>
+    <message>
+        <source>Bets decided: %1</source>
+        <translation>Mises décidées : %1</translation>
     </message>
 </context>
 <context>

@@ -1837,79 +1837,79 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>As at first</source>
-        <translation type="unfinished"></translation>
+        <translation>İlk hali gibi</translation>
     </message>
     <message>
         <source>The table as it is when the program is started for the first time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Program ilk kez başladığında masanın hali.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>3-4-5x odds, 10 $ masası</translation>
     </message>
     <message>
         <source>The usual table of a large house: three times odds on 4 and 10, four on 5 and 9, five on 6 and 8.</source>
-        <translation type="unfinished"></translation>
+        <translation>Büyük bir kasanın olağan masası: 4 ve 10&apos;da üç, 5 ve 9&apos;da dört, 6 ve 8&apos;de beş kat odds.</translation>
     </message>
     <message>
         <source>3-4-5x odds, $25 table</source>
-        <translation type="unfinished"></translation>
+        <translation>3-4-5x odds, 25 $ masası</translation>
     </message>
     <message>
         <source>The same in the evening: a higher minimum, propositions from $5.</source>
-        <translation type="unfinished"></translation>
+        <translation>Akşam aynı masa: daha yüksek en az bahis, proposition&apos;lar 5 $&apos;dan.</translation>
     </message>
     <message>
         <source>Double odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>İki kat odds, 5 $ masası</translation>
     </message>
     <message>
         <source>A small house with double odds and every side bet.</source>
-        <translation type="unfinished"></translation>
+        <translation>İki kat odds ve tüm yan bahislerle küçük bir kasa.</translation>
     </message>
     <message>
         <source>Single odds, bar 2, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>Tek odds, yasak 2, 5 $ masası</translation>
     </message>
     <message>
         <source>An old house: single odds, two aces barred, no Put bets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eski bir kasa: tek odds, iki as yasak, Put bahsi yok.</translation>
     </message>
     <message>
         <source>10x odds, $10 table</source>
-        <translation type="unfinished"></translation>
+        <translation>10x odds, 10 $ masası</translation>
     </message>
     <message>
         <source>Ten times odds on every point, vig only when Buy and Lay bets win.</source>
-        <translation type="unfinished"></translation>
+        <translation>Her point&apos;te on kat odds, vig yalnız Buy ve Lay kazanınca.</translation>
     </message>
     <message>
         <source>20x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>20x odds, 5 $ masası</translation>
     </message>
     <message>
         <source>Twenty times odds on every point, a low minimum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Her point&apos;te yirmi kat odds, düşük bir en az bahis.</translation>
     </message>
     <message>
         <source>100x odds, $5 table</source>
-        <translation type="unfinished"></translation>
+        <translation>100x odds, 5 $ masası</translation>
     </message>
     <message>
         <source>A hundred times odds on every point: what the house keeps is least here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Her point&apos;te yüz kat odds: kasaya en az burada kalır.</translation>
     </message>
     <message>
         <source>At home, from a quarter</source>
-        <translation type="unfinished"></translation>
+        <translation>Evde, çeyrekten</translation>
     </message>
     <message>
         <source>Checks of 25 cents to $25, bets from a quarter to $50.</source>
-        <translation type="unfinished"></translation>
+        <translation>25 sentten 25 $&apos;a fişler, çeyrekten 50 $&apos;a bahisler.</translation>
     </message>
     <message>
         <source>untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>adsız</translation>
     </message>
 </context>
 <context>
@@ -4779,14 +4779,6 @@ Veriler:  %2</translation>
         <translation>yüzde %1</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Arama sonucu</translation>
-    </message>
-    <message>
-        <source>Text not found.</source>
-        <translation>Metin bulunamadı.</translation>
-    </message>
-    <message>
         <source>Print Events Log</source>
         <translation>Olay günlüğünü yazdır</translation>
     </message>
@@ -6713,14 +6705,6 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
         <translation>%1 oturum</translation>
     </message>
     <message>
-        <source>Search Results</source>
-        <translation>Arama sonucu</translation>
-    </message>
-    <message>
-        <source>Value not found.</source>
-        <translation>Değer bulunamadı.</translation>
-    </message>
-    <message>
         <source>Statistic</source>
         <translation>İstatistik</translation>
     </message>
@@ -6759,10 +6743,6 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
     <message>
         <source>Number of pages: %1</source>
         <translation>Sayfa sayısı: %1</translation>
-    </message>
-    <message>
-        <source>There are no sessions selected for printing.</source>
-        <translation>Yazdırılacak oturum seçilmemiş.</translation>
     </message>
     <message>
         <source>Saving the log ...</source>
@@ -7013,12 +6993,6 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
         <source>Roll %1: %2, %3</source>
         <translation>Atış %1: %2, %3</translation>
     </message>
-    <message numerus="yes">
-        <source>%n bet(s) decided</source>
-        <translation>
-            <numerusform>%n bahis sonuçlandı</numerusform>
-        </translation>
-    </message>
     <message>
         <source>Decided bets</source>
         <translation>Sonuçlanan bahisler</translation>
@@ -7070,6 +7044,10 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
     <message>
         <source>&amp;Done (Enter)</source>
         <translation>&amp;Bitti (Enter)</translation>
+    </message>
+    <message>
+        <source>Bets decided: %1</source>
+        <translation>Sonuçlanan bahisler: %1</translation>
     </message>
 </context>
 <context>

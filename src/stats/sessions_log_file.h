@@ -95,8 +95,8 @@ std::string DeleteEverySession(SessionsLogFile& file);
 std::string CopySessionsLog(SessionsLogFile& file, const std::string& path, std::int64_t* copied = nullptr,
                             const SessionsGoOn& goOn = {});
 
-// What a log becomes: without its sessions First to Last, if First isn't 0, and with all of another log's behind
-// its own, if Other names one.
+// What a log becomes: without its sessions First to Last, if First isn't 0, and with all of another log's
+// behind its own, if Other names one.
 struct SessionsChange {
   std::int64_t First = 0;
   std::int64_t Last = 0;
@@ -104,6 +104,7 @@ struct SessionsChange {
 };
 // Changes a log of any size beside the program: it is written anew beside the old one, which others go on
 // adding to meanwhile, and put in its place when it is whole. goOn's text ends it before that.
-std::string RewriteSessionsLog(const std::string& path, const SessionsChange& change, const SessionsGoOn& goOn);
+std::string RewriteSessionsLog(const std::string& path, const SessionsChange& change,
+                               const SessionsGoOn& goOn);
 
 }  // namespace tessaryn

@@ -8,9 +8,9 @@
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QLabel>
+#include <QMainWindow>
 #include <QMenu>
 #include <QPainter>
-#include <QMainWindow>
 #include <QPushButton>
 #include <QSlider>
 #include <random>

@@ -472,7 +472,8 @@ TEST(Opening, EachKindOpensItsScreenForTheLastGame) {
       {"fair.prb", kPercentageDiceWindow, [](const Game& game) { return game.percentage.ProbFileName; }},
       {"old.slg", kSessionsWindow, [](const Game& game) { return SessionsLogPath(game, 3); }},
       {"bad.rol", kDiceRollFilesWindow, [](const Game& game) { return game.rollFile.RollFileName; }, true},
-      {"none.prb", kPercentageDiceWindow, [](const Game& game) { return game.percentage.ProbFileName; }, true},
+      {"none.prb", kPercentageDiceWindow, [](const Game& game) { return game.percentage.ProbFileName; },
+       true},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);

@@ -109,9 +109,10 @@ int main(int count, char** arguments) {
       ->type_name("DIR");
   std::string game;
   options
-      .add_option("game", game,
-                  "the game to open; or a script, dice rolls, probabilities or a sessions log, for the last game, "
-                  "which goes on without any")
+      .add_option(
+          "game", game,
+          "the game to open; or a script, dice rolls, probabilities or a sessions log, for the last game, "
+          "which goes on without any")
       ->type_name("FILE");
   QApplication::setApplicationName("tessaryn");
   QApplication::setApplicationDisplayName("Tessaryn");

@@ -120,7 +120,7 @@ class MainWindow : public QMainWindow {
   BetButtons* betButtons_ = nullptr;
   Measures measures_;
   Preferences preferences_;
-  int clickedBet_ = 0;  // while a click on it is carried out
+  int clickedBet_ = 0;              // while a click on it is carried out
   std::int64_t settledThrows_ = 0;  // of the table when no roll was being settled
   std::int64_t badgesOf_ = 0;       // throws of the table when badges were last shown
   AmountSelector* amounts_ = nullptr;

@@ -11,8 +11,8 @@ struct Desk;
 // place: scripts, dice rolls, probabilities, Sessions Logs.
 bool OpensBesideGame(const std::string& path);
 
-// Does what Open does in the kind's own window, for the selected player, and shows that window. Any other name is
-// that of a game. What is wrong is told.
+// Does what Open does in the kind's own window, for the selected player, and shows that window. Any other
+// name is that of a game. What is wrong is told.
 void OpenAnyFile(Desk& desk, const std::string& path);
 
 }  // namespace tessaryn

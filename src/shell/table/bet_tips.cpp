@@ -1,6 +1,5 @@
 #include "shell/table/bet_tips.h"
 
-
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QStringList>
