@@ -116,6 +116,20 @@ HelpPlace HelpShelf::Resolve(const QString& page, const QString& link) const {
   return {path, QUrl(link).fragment(QUrl::FullyDecoded), {}};
 }
 
+// Translations keep the headings' order.
+QString HelpShelf::AnchorHere(const QString& page, const QString& anchor) const {
+  const auto place = [&](const QVector<HelpSection>& sections) {
+    return std::find_if(sections.begin(), sections.end(),
+                        [&](const HelpSection& section) { return section.anchor == anchor; }) -
+           sections.begin();
+  };
+  const QVector<HelpSection> here = Page(page).sections;
+  if (anchor.isEmpty() || place(here) < here.size()) return anchor;
+  const QVector<HelpSection> english = ReadHelpText(QString::fromUtf8(ReadAll(Inside(page))), {}).sections;
+  const qsizetype at = place(english);
+  return at < std::min(english.size(), here.size()) ? here[at].anchor : anchor;
+}
+
 QByteArray HelpShelf::Picture(const QString& page, const QString& link) const {
   const QString path = PathOf(page, link);
   return path.endsWith(QLatin1String(".png")) ? ReadAll(Inside(path)) : QByteArray();

@@ -59,6 +59,8 @@ class HelpShelf {
   HelpText Page(const QString& page, const HelpColors& colors = {}) const;
   // What a link of a page leads to; no page for one that leads out of the folder.
   HelpPlace Resolve(const QString& page, const QString& link) const;
+  // The anchor of the page as it is shown that stands where the English page has this one.
+  QString AnchorHere(const QString& page, const QString& anchor) const;
   // What a page shows; empty for what isn't there, or isn't in the folder.
   QByteArray Picture(const QString& page, const QString& link) const;
 

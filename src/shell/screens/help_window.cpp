@@ -422,7 +422,8 @@ void HelpWindow::OpenSearch() {
 // --- Pages.
 
 void HelpWindow::Open(const HelpPlace& wanted) {
-  const HelpPlace place = shelf_.Has(wanted.page) ? wanted : HelpPlace{kHelpContents, {}, {}};
+  HelpPlace place = shelf_.Has(wanted.page) ? wanted : HelpPlace{kHelpContents, {}, {}};
+  place.anchor = shelf_.AnchorHere(place.page, place.anchor);
   if (at_ >= 0) visited_[at_].scrolled = view_->verticalScrollBar()->value();
   if (at_ < 0 || !(visited_[at_].place == place)) {
     visited_.resize(at_ + 1);
