@@ -166,9 +166,11 @@ TEST(HelpPages, EveryPageStandsInTheContentsOnce) {
 
 TEST(HelpPages, EveryScriptCompiles) {
   int scripts = 0;
-  for (int n = 0; n < 5 * Pages().size(); ++n)
-    for (const HelpScript& script :
-         Shelf(QStringList{"", "es", "de", "fr", "tr"}[n % 5]).Page(Pages()[n / 5]).scripts) {
+  QVector<std::pair<QString, HelpText>> pages;
+  for (const char* language : {"", "es", "de", "fr", "tr"})
+    for (const QString& page : Pages()) pages.append({page + " " + language, Shelf(language).Page(page)});
+  for (const auto& [page, text] : pages)
+    for (const HelpScript& script : text.scripts) {
       std::vector<std::string> lines;
       for (const QString& line : script.text.split('\n')) lines.push_back(line.toStdString());
       ScriptSurroundings surroundings;
