@@ -14,7 +14,6 @@
 #include "dice/percentage_dice.h"
 #include "state/run_stop.h"
 #include "state/show_message.h"
-#include "stats/events_log_copy.h"
 
 namespace tessaryn {
 namespace {
@@ -421,19 +420,6 @@ bool OpenEventsLog(Game& game, const std::string& path, std::string& error) {
   }
   game.events.EventsLogTopLine = 1;
   return true;
-}
-
-bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error) {
-  FlushEventsLog(game);
-  const std::string from = EventsLogPath(game);
-  std::error_code fault;
-  if (fs::weakly_canonical(path, fault) == fs::weakly_canonical(from, fault)) return true;
-  EventsLogCopy copy;
-  copy.From = from;
-  copy.To = path;
-  error = CopyEventsLog(copy, {});
-  if (error.empty()) error = UseEventsLogCopy(game, copy);
-  return error.empty();
 }
 
 void RecordAllEvents(EventsLog& log, bool on) {

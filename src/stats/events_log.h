@@ -53,7 +53,7 @@ std::int64_t FindInEventsLog(Game& game, std::string_view text, bool forward);
 void ClearEventsLog(Game& game);
 // Whether the index is there and of the text file, so that it tells where every line begins.
 bool EventsIndexFits(const Game& game);
-// The New, Open and Save As commands. New asks first when the log has its default name; kRenameFirst: the
+// The New and Open commands. New asks first when the log has its default name; kRenameFirst: the
 // user wants to keep it, and the screen goes on to Save As and then to StartEventsLog. The index of a text of
 // more than 64 MB is made when it is first needed.
 enum class NewEvents { kCancelled, kRenameFirst, kStarted };
@@ -61,7 +61,6 @@ NewEvents NewEventsLog(Game& game);
 // The log is the default one, and empty.
 void StartEventsLog(Game& game);
 bool OpenEventsLog(Game& game, const std::string& path, std::string& error);
-bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error);
 // All eight classes on or off.
 void RecordAllEvents(EventsLog& log, bool on);
 

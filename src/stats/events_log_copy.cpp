@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <vector>
 
 #include "base/interrupts.h"
@@ -77,6 +78,19 @@ std::string UseEventsLogCopy(Game& game, const EventsLogCopy& copy) {
   if (!cut) return FileErrorText("write", copy.To, EIO);
   if (problem.empty()) game.events.Path = copy.To;
   return problem;
+}
+
+bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error) {
+  FlushEventsLog(game);
+  const std::string from = EventsLogPath(game);
+  std::error_code fault;
+  if (std::filesystem::weakly_canonical(path, fault) == std::filesystem::weakly_canonical(from, fault)) return true;
+  EventsLogCopy copy;
+  copy.From = from;
+  copy.To = path;
+  error = CopyEventsLog(copy, {});
+  if (error.empty()) error = UseEventsLogCopy(game, copy);
+  return error.empty();
 }
 
 }  // namespace tessaryn

@@ -27,4 +27,7 @@ std::string CopyEventsLog(EventsLogCopy& copy, const std::function<std::string(s
 // meanwhile, or another one, stays the table's: the copy is of the old one, and whole.
 std::string UseEventsLogCopy(Game& game, const EventsLogCopy& copy);
 
+// The Save As command, at once.
+bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error);
+
 }  // namespace tessaryn

@@ -1,4 +1,5 @@
 #include "stats/events_log.h"
+#include "stats/events_log_copy.h"
 
 #include <gtest/gtest.h>
 
@@ -57,6 +58,7 @@ TEST(EventsLogLines, WhatIsToldOfPlayersIsInTheLanguageAndTheRestEnglish) {
     table.Join(1, "Ann");
     table.Set("RecordBetChanges", "on");
     table.Bet(1, kPassLine, "10");
+    LogChangesBeforeRoll(*table.game);
     table.Bet(1, kPassLine, "-10");
     LeaveTable(*table.game, 1);
     const LogLines news = table.News();

@@ -38,12 +38,14 @@
 #include "shell/screens/join_screen.h"
 #include "shell/table/amount_selector.h"
 #include "shell/table/bet_buttons.h"
+#include "shell/table/bet_tips.h"
 #include "shell/table/board.h"
 #include "shell/table/languages.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_accessible.h"
+#include "shell/table/table_touch.h"
 #include "shell/table/turbo_panel.h"
 #include "state/show_message.h"
 
@@ -133,6 +135,7 @@ MainWindow::~MainWindow() {
 }
 
 void MainWindow::BuildBody() {
+  MakeTablesAccessible();  // before anybody is told of the table
   auto* body = new QWidget(this);
   auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
@@ -391,6 +394,11 @@ void MainWindow::ShowTableStatus() {
 // --- The table.
 
 void MainWindow::ConnectTable() {
+  new BetTip(*table_, game_, desk_.commands);
+  new TableTouch(*table_, game_, desk_.commands);
+  AnnounceRoll(*table_, game_);
+  connect(table_, &TableWidget::areaFocused, this, [this] { TellAreaFocus(*table_); });
+  connect(table_, &TableWidget::toldAnew, this, [this] { TellTableChanged(*table_); });
   connect(table_, &TableWidget::betClicked, this, &MainWindow::OnBetClicked);
   connect(table_, &TableWidget::betMoved, this, &MainWindow::OnBetMoved);
   connect(table_, &TableWidget::seatClicked, this, &MainWindow::OnSeatClicked);

@@ -3,8 +3,9 @@
 
 #include <QString>
 #include <QStringList>
-#include <functional>
 #include <span>
+
+#include "shell/table/spoken_texts.h"
 
 namespace tessaryn {
 
@@ -26,8 +27,7 @@ void SpeakLanguage(int language, const QStringList& entered = {});
 // The one that is spoken.
 int LanguageSpoken();
 
-// Another language than those, for tests: the words for a text of a context, or a null text for the source.
-using Wording = std::function<QString(const char* context, const char* source)>;
+// Another language than those, for tests.
 void SpeakWith(const Wording& words, const QStringList& entered = {});
 
 }  // namespace tessaryn

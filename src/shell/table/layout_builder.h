@@ -1,10 +1,12 @@
 // What the parts of the layout are built with. For the files that build it alone.
 #pragma once
 
-#include "shell/table/table_layout.h"
+#include "shell/table/table_areas.h"
 #include "state/settings.h"
 
 namespace tessaryn {
+
+struct PayoffTables;
 
 struct LayoutBuilder {
   const Settings& settings;

@@ -8,13 +8,15 @@
 #include <QMutex>
 #include <QRegularExpression>
 #include <QTranslator>
-
-#include "shell/table/languages.h"
+#include <functional>
 
 class QObject;
 class QWidget;
 
 namespace tessaryn {
+
+// The words of a language for a text of a context, or a null text for the source.
+using Wording = std::function<QString(const char* context, const char* source)>;
 
 class SpokenTexts : public QTranslator {
  public:

@@ -9,35 +9,9 @@
 #include <QStringList>
 #include <vector>
 
+#include "shell/table/table_areas.h"
+
 namespace tessaryn {
-
-struct TableLayout;
-
-// The inks of the lettering; TableColors gives each its colour.
-enum class Ink { kLetter, kAccent, kSoft, kDark };
-
-// One wording of a caption as an outline: capitals 1 high, from the origin to the right.
-struct LabelWording {
-  QPainterPath Path;
-  double Width = 0;
-};
-
-// Lettering, or two dice, inside an area.
-struct TableLabel {
-  QString Text;
-  QRectF Box;           // before the turn; its centre stays
-  double Rotation = 0;  // degrees clockwise
-  Ink Colour = Ink::kLetter;
-  double Cap = 0;       // the height of its capitals as it should be; 0: as high as the box
-  QStringList Shorter;  // what stands there instead where the text is too wide, the longest first
-  bool Left = false;    // at the box's left edge rather than in its middle
-  int Die1 = 0;         // above 0: dice instead of the text
-  int Die2 = 0;
-  bool Ring = false;                   // a ring as high as the box round the text
-  std::vector<LabelWording> Wordings;  // the text and what is shorter; written by BuildTableLayout
-  QPainterPath Outline;                // of what stands there, empty for nothing; written by FitLettering
-  double FittedCap = 0;                // the height of its capitals in table units; likewise
-};
 
 // The smallest height of capitals on the felt, in screen units: on a small table less.
 double LeastCap(double scale);

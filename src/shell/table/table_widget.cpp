@@ -11,12 +11,9 @@
 #include <cmath>
 
 #include "base/bet_catalogue.h"
-#include "shell/table/bet_tips.h"
 #include "shell/table/contrast.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
-#include "shell/table/table_accessible.h"
-#include "shell/table/table_touch.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -85,7 +82,6 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
       commands_(commands),
       flashTimer_(new QTimer(this)),
       entry_(new MoneyEdit(this)) {
-  MakeTablesAccessible();  // before anybody is told of this one
   setObjectName("picLayout");
   setAccessibleName(tr("Craps table"));
   setMouseTracking(true);
@@ -106,9 +102,6 @@ TableWidget::TableWidget(Game& game, TableCommands& commands, QWidget* parent)
     }
     update();
   });
-  new BetTip(*this, game_, commands_);
-  new TableTouch(*this, game_, commands_);
-  AnnounceRoll(*this, game_);
   RebuildLayout();
   PlaceDice();
 }
@@ -523,7 +516,7 @@ void TableWidget::SetFocusBet(int bet, int side) {
   scene.focusBet = bet;
   scene.focusSide = side;
   TellFocus();
-  TellAreaFocus(*this);
+  emit areaFocused();
   update();
 }
 
@@ -532,7 +525,7 @@ void TableWidget::TellFocus() {
   const int bet = scene.focusBet == 0 ? 0 : MeantBet(game_, scene.focusBet);
   const QString name = bet == 0 ? tr("Craps table") : PointerText(game_, commands_, bet);
   if (name != accessibleName()) setAccessibleName(name);
-  TellTableChanged(*this);
+  emit toldAnew();
   emit pointedAt(bet == 0 ? scene.hoverBet : bet);
 }
 

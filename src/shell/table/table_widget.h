@@ -75,6 +75,10 @@ class TableWidget : public QWidget {
   void rightClicked();
   void seatClicked(int seat);
   void pointedAt(int bet);
+  // The keyboard's focus has gone to another area, or left them.
+  void areaFocused();
+  // What an area or stack says may be another.
+  void toldAnew();
   void wheelZoomed();
   void viewChanged();
 
