@@ -6432,7 +6432,7 @@ Datei, Neu oder Öffnen beginnt.</translation>
     <name>tessaryn::RunControls</name>
     <message>
         <source>R&amp;oll</source>
-        <translation>&amp;Würfeln</translation>
+        <translation>&amp;Wurf</translation>
     </message>
     <message>
         <source>Pass dice</source>
