@@ -23,6 +23,9 @@ constexpr QColor kSevenRed(0xD8, 0x20, 0x2E);
 constexpr QColor kNaturalGreen(0x1B, 0x8A, 0x50);
 constexpr QColor kNoteAmber(0xFF, 0xC9, 0x6B);
 constexpr int kShortHistory = 12;
+constexpr int kFewRolls = 6;  // beside a note where there isn't room for more
+constexpr double kCellGap = 3;
+constexpr double kNoteRoom = 240;
 
 double Wide(const QFont& font, const QString& text) { return QFontMetricsF(font).horizontalAdvance(text); }
 
@@ -130,8 +133,8 @@ QFont Board::Small() const { return Sized(font(), measures_.compact ? 10 : 11.5)
 
 void Board::Place() {
   const double height = this->height();
-  const double gap = measures_.compact ? 8 : 12;
-  double x = plate_.width() + (measures_.compact ? 16 : 20);
+  const double gap = measures_.compact ? 8 : 10;
+  double x = plate_.width() + (measures_.compact ? 16 : 18);
   const double die = measures_.boardDice;
   dice_ = QRectF(x, (height - die) / 2, 2 * die + 5, die);
   x = dice_.right() + gap / 2 + 2;
@@ -153,12 +156,12 @@ void Board::Place() {
   x += gap / 2;
   const bool place8 = IsOccupied(game_.table, kSeats);
   const double right = width() - (place8 ? plate_.width() + 16 : 16);
-  const QString hand = HandText(game_);
-  const double handWidth = std::max(Wide(Small(), hand), 90.0);
-  // Room for the hand is found only where nobody's plate stands, and never taken from the result.
+  const double handWidth = std::max(Wide(Small(), HandLine()), measures_.compact ? 70.0 : 90.0);
+  // Room for the hand is found only where nobody's plate stands, and never taken from the result or the rolls.
   const double left = x;
+  const double result = std::max(420.0, RollHistory::kMost * HistoryPitch());
   hand_ =
-      !place8 && right - handWidth - left > 420 ? QRectF(right - handWidth, 0, handWidth, height) : QRectF();
+      !place8 && right - handWidth - gap - left > result ? QRectF(right - handWidth, 0, handWidth, height) : QRectF();
   const double end = hand_.isEmpty() ? right : hand_.left() - gap;
   line_ = QRectF(left, height * 0.06, end - left, height * 0.46);
   rolls_ = QRectF(left, height * 0.54, end - left, height * 0.36);
@@ -277,7 +280,7 @@ void Board::PaintDice(QPainter& painter) const {
   if (!rolled) return;
   painter.setPen(Qt::white);
   painter.setFont(Sized(font(), height() * 0.72, true));
-  painter.drawText(total_, Qt::AlignRight | Qt::AlignVCenter, QString::number(table.RollTotal));
+  painter.drawText(total_, Qt::AlignCenter, QString::number(table.RollTotal));
   const QRectF upper(words_.left(), height() * 0.14, words_.width() + 2, height() * 0.38);
   painter.setPen(kGoldTone);
   painter.setFont(Sized(font(), measures_.compact ? 11 : 13.5, true));
@@ -337,22 +340,33 @@ void Board::PaintResult(QPainter& painter) const {
   }
 }
 
+// From one cell to the next.
+double Board::HistoryPitch() const { return measures_.compact ? 22 : measures_.board > 50 ? 31 : 26; }
+
+// The room of the history's caption.
+double Board::HistoryLabel() const { return Wide(Small(), tr("LAST %1").arg(RollHistory::kMost)) + 10; }
+
+// How many rolls the window's width is for, whatever else is told.
+int Board::HistoryPlaces() const {
+  return RollHistory::kMost * HistoryPitch() <= rolls_.width() + kCellGap ? RollHistory::kMost : kShortHistory;
+}
+
+// Behind the rolls where there is much room, so that they stay as they are.
+bool Board::NotesStandBehind() const { return rolls_.right() - HistoryCell(0).right() >= kNoteRoom; }
+
 int Board::HistoryRoom() const {
-  const double pitch = HistoryCell(0).width() + 4;
-  const double label = Wide(Small(), tr("LAST %1").arg(RollHistory::kMost)) + 10;
-  const bool all = notes_.isEmpty() && label + RollHistory::kMost * pitch <= rolls_.width() + 4;
-  return all ? RollHistory::kMost : kShortHistory;
+  const int places = HistoryPlaces();
+  if (notes_.isEmpty() || NotesStandBehind()) return places;
+  return places == RollHistory::kMost ? kShortHistory : kFewRolls;
 }
 
 // The newest stands at the right, the others before it.
 QRectF Board::HistoryCell(int back) const {
-  const double width = measures_.compact ? 19 : measures_.board > 50 ? 27 : 23;
-  const double label = Wide(Small(), tr("LAST %1").arg(RollHistory::kMost)) + 10;
-  const double pitch = width + 4;
-  const int room = static_cast<int>((rolls_.width() - label + 4) / pitch);
-  const int places = std::clamp(room, 1, RollHistory::kMost);
-  const double right = rolls_.left() + label + places * pitch - 4;
-  return {right - width - back * pitch, rolls_.top(), width, rolls_.height()};
+  const double pitch = HistoryPitch();
+  const double wanted = HistoryPlaces() * pitch - kCellGap;
+  const double label = HistoryLabel() + wanted <= rolls_.width() ? HistoryLabel() : 0;
+  const double width = pitch - kCellGap;
+  return {rolls_.left() + label + wanted - width - back * pitch, rolls_.top(), width, rolls_.height()};
 }
 
 void Board::PaintHistory(QPainter& painter) const {
@@ -362,7 +376,8 @@ void Board::PaintHistory(QPainter& painter) const {
   const QFont label = Small();
   const QString caption = tr("LAST %1").arg(HistoryRoom());
   const QRectF oldest = HistoryCell(shown - 1);
-  if (notes_.isEmpty() && oldest.left() - Wide(label, caption) - 10 >= rolls_.left() - 1) {
+  const bool labelled = notes_.isEmpty() || NotesStandBehind();
+  if (labelled && oldest.left() - Wide(label, caption) - 10 >= rolls_.left() - 1) {
     painter.setFont(label);
     painter.setPen(kCaptionTone);
     painter.drawText(QRectF(oldest.left() - Wide(label, caption) - 10, rolls_.top(), Wide(label, caption) + 4,
@@ -400,12 +415,15 @@ void Board::PaintHistory(QPainter& painter) const {
   painter.drawPolygon(QPolygonF({QPointF(x - 3.5, y), QPointF(x + 3.5, y), QPointF(x, y - 3.5)}));
 }
 
-// The newest in words, before the rolls; a click or the pointer lists them all.
+// The newest in words, beside the rolls; a click or the pointer lists them all.
 void Board::PaintNotes(QPainter& painter) const {
   if (notes_.isEmpty()) return;
   const int shown = std::min(HistoryRoom(), history_.Size());
   QRectF room = rolls_;
-  if (shown > 0) room.setRight(HistoryCell(shown - 1).left() - 10);
+  if (NotesStandBehind())
+    room.setLeft(HistoryCell(0).right() + 16);
+  else if (shown > 0)
+    room.setRight(HistoryCell(shown - 1).left() - 10);
   const QFont plain = Sized(font(), measures_.compact ? 10 : 12.5);
   Writer writer(painter, room);
   if (notes_.size() > 1)
@@ -413,6 +431,8 @@ void Board::PaintNotes(QPainter& painter) const {
                  tr("%1 notes:").arg(notes_.size()) + QLatin1Char(' '));
   writer.Write(plain, kNoteAmber, notes_.first());
 }
+
+QString Board::HandLine() const { return HandText(game_, measures_.compact); }
 
 void Board::PaintHand(QPainter& painter) const {
   if (hand_.isEmpty()) return;
@@ -423,7 +443,7 @@ void Board::PaintHand(QPainter& painter) const {
   painter.setPen(kCaptionTone);
   painter.setFont(Small());
   painter.drawText(QRectF(hand_.left(), height() * 0.5, hand_.width(), height() * 0.42),
-                   Qt::AlignRight | Qt::AlignVCenter, HandText(game_));
+                   Qt::AlignRight | Qt::AlignVCenter, HandLine());
 }
 
 // Side by side where there is room, in two rows otherwise. What is done has a tick.

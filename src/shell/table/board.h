@@ -60,6 +60,11 @@ class Board : public QWidget {
   void Retranslate();
   void ShowGuide();
   QString RunText() const;
+  QString HandLine() const;
+  double HistoryPitch() const;
+  double HistoryLabel() const;
+  int HistoryPlaces() const;
+  bool NotesStandBehind() const;
   QRectF HistoryCell(int back) const;
   void PaintDice(QPainter& painter) const;
   void PaintPoint(QPainter& painter) const;

@@ -23,6 +23,7 @@ constexpr int kEdgeGap = 4;   // to the stage's edge
 constexpr int kPlateGap = 4;  // between two
 constexpr double kPadding = 7;
 constexpr double kTip = kPlateTip;
+constexpr int kNarrowest = 75;  // percent of a letter's width
 // Told places of the seats on the lower rail.
 constexpr int kLowerSeats[] = {3, 4, 5, 6};
 constexpr double kLowerSpots[] = {160, 425, 823, 1088};  // x in table units
@@ -88,7 +89,7 @@ int RoomAbove(const Measures& measures, QSize stage) {
 }
 
 int RoomBelow(const Measures& measures, QSize stage) {
-  return PlateSize(stage, measures).height() + kEdgeGap + kPlateGap;
+  return PlateSize(stage, measures).height() + kEdgeGap + kPlateTip;
 }
 
 PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
@@ -137,6 +138,7 @@ Plate::Plate(int seat, QWidget* parent) : QWidget(parent), seat_(seat) {
 void Plate::SetLook(double textHeight, int pointer) {
   textHeight_ = textHeight;
   pointer_ = pointer;
+  FitLetters();
   // Beside the tip the rail takes the clicks.
   if (pointer < 0)
     clearMask();
@@ -149,8 +151,8 @@ void Plate::Show(const PlateText& text) {
   setVisible(!text.name.isEmpty());
   if (text == text_) return;
   text_ = text;
+  FitLetters();
   Tell();
-  update();
 }
 
 // To a screen reader, and to who rests on a name that was cut.
@@ -164,7 +166,18 @@ void Plate::Tell() {
   setToolTip(text_.name + '\n' + lines);
 }
 
-QFont Plate::TextFont(bool bold) const { return Sized(font(), textHeight_, bold); }
+// Letters of a broad font are drawn narrower where a line of the largest figures needs it.
+QFont Plate::TextFont(bool bold) const {
+  QFont letters = Sized(font(), textHeight_, bold);
+  letters.setStretch(stretch_);
+  return letters;
+}
+
+void Plate::FitLetters() {
+  stretch_ = 100;
+  while (!FiguresFit() && stretch_ > kNarrowest) --stretch_;
+  update();
+}
 
 bool Plate::FiguresFit() const {
   const QFontMetricsF plain(TextFont(false));
@@ -281,7 +294,7 @@ void Plate::contextMenuEvent(QContextMenuEvent* event) {
 
 void Plate::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LanguageChange) Tell();
-  if (event->type() == QEvent::FontChange) update();
+  if (event->type() == QEvent::FontChange) FitLetters();
   QWidget::changeEvent(event);
 }
 

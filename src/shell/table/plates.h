@@ -77,11 +77,13 @@ class Plate : public QWidget {
  private:
   void Tell();
   QFont TextFont(bool bold) const;
+  void FitLetters();
 
   const int seat_;
   PlateText text_;
   double textHeight_ = 11.5;
   int pointer_ = -1;
+  int stretch_ = 100;  // of the letters, in percent
 };
 
 }  // namespace tessaryn

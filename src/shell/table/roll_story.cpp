@@ -125,13 +125,14 @@ QString HandTitle(const Game& game) {
       .arg(QLocale().toString(static_cast<qlonglong>(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1)));
 }
 
-QString HandText(const Game& game) {
+QString HandText(const Game& game, bool brief) {
   int made = 0;
   for (int number = 4; number <= 10; ++number)
     if (number != 7) made += game.stats.NumberCounts[Slot(kCurrentHand, 0)][number][kPasses];
   const int rolls = static_cast<int>(HandRolls(game.stats));
   const QString rolled = rolls == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 roll"))
                                     : Told(QT_TRANSLATE_NOOP("Board", "%1 rolls")).arg(rolls);
+  if (brief) return rolled;
   const QString points = made == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 point made"))
                                    : Told(QT_TRANSLATE_NOOP("Board", "%1 points made")).arg(made);
   return Told(QT_TRANSLATE_NOOP("Board", "%1, %2")).arg(rolled, points);

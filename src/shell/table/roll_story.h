@@ -75,7 +75,7 @@ QStringList TotalKinds();
 
 // "Hand 4", and "4 rolls, 0 points made".
 QString HandTitle(const Game& game);
-QString HandText(const Game& game);
+QString HandText(const Game& game, bool brief);
 
 // What was won and lost by the last roll, bet by bet.
 struct BetChange {
