@@ -502,7 +502,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Take full odds</source>
-        <translation>&amp;Volle Odds nehmen</translation>
+        <translation>Volle Odd&amp;s nehmen</translation>
     </message>
     <message>
         <source>&amp;Lay full odds</source>
@@ -558,11 +558,11 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Pass the dice</source>
-        <translation>Würfel &amp;weitergeben</translation>
+        <translation>Würfel weiterge&amp;ben</translation>
     </message>
     <message>
         <source>Roll your &amp;own numbers</source>
-        <translation>Eigene &amp;Zahlen würfeln</translation>
+        <translation>&amp;Eigene Zahlen würfeln</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
@@ -630,7 +630,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Files in use ...</source>
-        <translation>&amp;Benutzte Dateien ...</translation>
+        <translation>Benutzte &amp;Dateien ...</translation>
     </message>
     <message>
         <source>So&amp;und</source>
@@ -642,7 +642,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>B&amp;eenden</translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>&amp;Keys and mouse</source>
@@ -710,7 +710,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Hands</source>
-        <translation>&amp;Hände</translation>
+        <translation>Hän&amp;de</translation>
     </message>
     <message>
         <source>Bet &amp;results</source>
@@ -754,7 +754,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Bet &amp;amounts</source>
-        <translation>Einsatz&amp;beträge</translation>
+        <translation>Ei&amp;nsatzbeträge</translation>
     </message>
     <message>
         <source>&amp;Flash the bets</source>
@@ -762,7 +762,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Proposition bets</source>
-        <translation>&amp;Proposition-Einsätze</translation>
+        <translation>Proposition-&amp;Einsätze</translation>
     </message>
     <message>
         <source>&amp;Move, zoom and rotate</source>
@@ -778,7 +778,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Rotate by 30 degrees</source>
-        <translation>Um 30 Grad &amp;drehen</translation>
+        <translation>&amp;Um 30 Grad drehen</translation>
     </message>
     <message>
         <source>&amp;Whole table</source>
@@ -2400,7 +2400,7 @@ Daten:  %2</translation>
     <name>PickList</name>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Alle wählen</translation>
+        <translation>Alle wä&amp;hlen</translation>
     </message>
     <message>
         <source>Select &amp;None</source>
@@ -3089,7 +3089,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Save as P&amp;DF ...</source>
-        <translation>Als P&amp;DF speichern ...</translation>
+        <translation>&amp;Als PDF speichern ...</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
@@ -3516,7 +3516,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Alle wählen</translation>
+        <translation>Alle wä&amp;hlen</translation>
     </message>
     <message>
         <source>&amp;Close</source>
@@ -3759,7 +3759,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Show &amp;logged messages</source>
-        <translation>Vermerkte Mel&amp;dungen zeigen</translation>
+        <translation>&amp;Vermerkte Meldungen zeigen</translation>
     </message>
 </context>
 <context>
@@ -3923,7 +3923,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Set visible checkstacks</source>
-        <translation>&amp;Sichtbare CheckStacks wählen</translation>
+        <translation>Sichtbare &amp;CheckStacks wählen</translation>
     </message>
     <message>
         <source>Display &amp;zero values</source>
@@ -3931,7 +3931,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation>&amp;Schriftgröße</translation>
+        <translation>Schri&amp;ftgröße</translation>
     </message>
     <message>
         <source>&amp;Desktop&apos;s</source>
@@ -6075,7 +6075,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>&amp;Shooter&apos;s effectiveness ...</source>
-        <translation>&amp;Wirksamkeit des Werfers ...</translation>
+        <translation>Wirksamkeit &amp;des Werfers ...</translation>
     </message>
     <message>
         <source>Ready &amp;dice</source>
@@ -6185,7 +6185,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation>&amp;Alle wählen</translation>
+        <translation>Alle wä&amp;hlen</translation>
     </message>
     <message>
         <source>Dice Roll Files</source>
@@ -7137,7 +7137,7 @@ Datei, Neu oder Öffnen beginnt.</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation>An&amp;halten</translation>
+        <translation>A&amp;nhalten</translation>
     </message>
     <message>
         <source>Statements carried out</source>
@@ -7176,7 +7176,7 @@ Datei, Neu oder Öffnen beginnt.</translation>
     </message>
     <message>
         <source>Tr&amp;y it</source>
-        <translation>Aus&amp;probieren</translation>
+        <translation>Auspr&amp;obieren</translation>
     </message>
     <message>
         <source>Same &amp;dice again</source>
@@ -7216,7 +7216,7 @@ Datei, Neu oder Öffnen beginnt.</translation>
     </message>
     <message>
         <source>Sto&amp;p</source>
-        <translation>An&amp;halten</translation>
+        <translation>A&amp;nhalten</translation>
     </message>
     <message>
         <source>%1 of %2 bet</source>
@@ -7310,7 +7310,7 @@ Datei, Neu oder Öffnen beginnt.</translation>
     </message>
     <message>
         <source>&amp;Print in colours ...</source>
-        <translation>&amp;Farbig drucken ...</translation>
+        <translation>Farbig &amp;drucken ...</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
@@ -7374,11 +7374,11 @@ Datei, Neu oder Öffnen beginnt.</translation>
     </message>
     <message>
         <source>S&amp;top</source>
-        <translation>An&amp;halten</translation>
+        <translation>A&amp;nhalten</translation>
     </message>
     <message>
         <source>Tr&amp;y it</source>
-        <translation>Aus&amp;probieren</translation>
+        <translation>Auspr&amp;obieren</translation>
     </message>
     <message>
         <source>&amp;Permissions ...</source>

@@ -758,7 +758,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>&amp;Flash the bets</source>
-        <translation>&amp;Parpadear las apuestas</translation>
+        <translation>Parpadear &amp;las apuestas</translation>
     </message>
     <message>
         <source>&amp;Proposition bets</source>
@@ -770,7 +770,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Zoom &amp;in</source>
-        <translation>A&amp;mpliar</translation>
+        <translation>&amp;Ampliar</translation>
     </message>
     <message>
         <source>Zoom &amp;out</source>
@@ -802,7 +802,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Arra&amp;nge</source>
-        <translation>Dis&amp;posición</translation>
+        <translation>Di&amp;sposición</translation>
     </message>
     <message>
         <source>Lang&amp;uage</source>
@@ -818,11 +818,11 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Re&amp;peat bets</source>
-        <translation>Re&amp;petir apuestas</translation>
+        <translation>&amp;Repetir apuestas</translation>
     </message>
     <message>
         <source>Full o&amp;dds</source>
-        <translation>Odds comple&amp;tas</translation>
+        <translation>Odd&amp;s completas</translation>
     </message>
     <message>
         <source>&amp;Help for this screen</source>
@@ -842,7 +842,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>L&amp;uck</source>
-        <translation>Suert&amp;e</translation>
+        <translation>S&amp;uerte</translation>
     </message>
 </context>
 <context>
@@ -2609,7 +2609,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>&amp;Red</source>
-        <translation>&amp;Rojo</translation>
+        <translation>Ro&amp;jo</translation>
     </message>
     <message>
         <source>G&amp;old</source>
@@ -2637,7 +2637,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Blac&amp;k</source>
-        <translation>Negr&amp;o</translation>
+        <translation>Neg&amp;ro</translation>
     </message>
     <message>
         <source>No players present</source>
@@ -2741,7 +2741,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Font &amp;italic</source>
-        <translation>Letra &amp;cursiva</translation>
+        <translation>&amp;Letra cursiva</translation>
     </message>
     <message>
         <source>Display &amp;totals</source>
@@ -2811,7 +2811,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
-        <translation>Iniciar &amp;Turbo-Roll</translation>
+        <translation>&amp;Iniciar Turbo-Roll</translation>
     </message>
     <message>
         <source>Auto-Roll</source>
@@ -3085,7 +3085,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Print pre&amp;view ...</source>
-        <translation>&amp;Vista previa ...</translation>
+        <translation>Vista p&amp;revia ...</translation>
     </message>
     <message>
         <source>Save as P&amp;DF ...</source>
@@ -3105,11 +3105,11 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Export drawin&amp;g (SVG) ...</source>
-        <translation>Exportar di&amp;bujo (SVG) ...</translation>
+        <translation>Exportar dibujo (&amp;SVG) ...</translation>
     </message>
     <message>
         <source>Dock at the &amp;right</source>
-        <translation>Acoplar a la &amp;derecha</translation>
+        <translation>&amp;Acoplar a la derecha</translation>
     </message>
     <message>
         <source>Dock &amp;below</source>
@@ -3117,7 +3117,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Dock at the &amp;left</source>
-        <translation>Acoplar a la &amp;izquierda</translation>
+        <translation>Acoplar a &amp;la izquierda</translation>
     </message>
     <message>
         <source>&amp;Window of its own</source>
@@ -3623,7 +3623,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Plot &amp;type</source>
-        <translation>&amp;Tipo de trazado</translation>
+        <translation>Tipo &amp;de trazado</translation>
     </message>
     <message>
         <source>&amp;Page</source>
@@ -3635,7 +3635,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Ad&amp;just scale</source>
-        <translation>A&amp;justar la escala</translation>
+        <translation>&amp;Ajustar la escala</translation>
     </message>
     <message>
         <source>&amp;Manual</source>
@@ -7342,7 +7342,7 @@ Archivo, Nuevo o Abrir para empezar.</translation>
     </message>
     <message>
         <source>&amp;Meaning of the word</source>
-        <translation>S&amp;ignificado de la palabra</translation>
+        <translation>Significado &amp;de la palabra</translation>
     </message>
     <message>
         <source>&amp;Run</source>

@@ -482,7 +482,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Buy a Place bet</source>
-        <translation>A&amp;cheter une mise Place</translation>
+        <translation>&amp;Acheter une mise Place</translation>
     </message>
     <message>
         <source>Call a bet &amp;ON</source>
@@ -490,7 +490,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Call a bet O&amp;FF</source>
-        <translation>Déclarer une mise O&amp;FF</translation>
+        <translation>Déclarer une &amp;mise OFF</translation>
     </message>
     <message>
         <source>Call all bets O&amp;N</source>
@@ -590,7 +590,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>R&amp;ecord a dice roll file ...</source>
-        <translation>&amp;Enregistrer un fichier de lancers ...</translation>
+        <translation>Enregistrer &amp;un fichier de lancers ...</translation>
     </message>
     <message>
         <source>C&amp;lose the dice roll file</source>
@@ -610,7 +610,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;New ...</source>
-        <translation>&amp;Nouvelle ...</translation>
+        <translation>Nou&amp;velle ...</translation>
     </message>
     <message>
         <source>&amp;Open ...</source>
@@ -670,7 +670,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>A&amp;TM ...</source>
-        <translation>&amp;Distributeur ...</translation>
+        <translation>Di&amp;stributeur ...</translation>
     </message>
     <message>
         <source>Auto-&amp;Play ...</source>
@@ -682,7 +682,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Active</source>
-        <translation>&amp;Actif</translation>
+        <translation>A&amp;ctif</translation>
     </message>
     <message>
         <source>&amp;Initialize</source>
@@ -722,7 +722,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>R&amp;oll totals</source>
-        <translation>Totaux des &amp;lancers</translation>
+        <translation>Totaux &amp;des lancers</translation>
     </message>
     <message>
         <source>Roll &amp;frequencies</source>
@@ -802,11 +802,11 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Arra&amp;nge</source>
-        <translation>Disp&amp;osition</translation>
+        <translation>Dispositio&amp;n</translation>
     </message>
     <message>
         <source>Lang&amp;uage</source>
-        <translation>Lan&amp;gue</translation>
+        <translation>&amp;Langue</translation>
     </message>
     <message>
         <source>&amp;Undo bet</source>
@@ -814,7 +814,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>R&amp;edo bet</source>
-        <translation>Ré&amp;tablir la mise</translation>
+        <translation>Rétablir &amp;la mise</translation>
     </message>
     <message>
         <source>Re&amp;peat bets</source>
@@ -822,7 +822,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Full o&amp;dds</source>
-        <translation>Toutes les O&amp;dds</translation>
+        <translation>Tout&amp;es les Odds</translation>
     </message>
     <message>
         <source>&amp;Help for this screen</source>
@@ -842,7 +842,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>L&amp;uck</source>
-        <translation>&amp;Chance</translation>
+        <translation>Chanc&amp;e</translation>
     </message>
 </context>
 <context>
@@ -2609,7 +2609,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Red</source>
-        <translation>&amp;Rouge</translation>
+        <translation>Ro&amp;uge</translation>
     </message>
     <message>
         <source>G&amp;old</source>
@@ -2617,7 +2617,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Purple</source>
-        <translation>&amp;Violet</translation>
+        <translation>Viole&amp;t</translation>
     </message>
     <message>
         <source>&amp;Teal</source>
@@ -3097,11 +3097,11 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Export table (CSV) ...</source>
-        <translation>Exporter le ta&amp;bleau (CSV) ...</translation>
+        <translation>Exporter le tableau (&amp;CSV) ...</translation>
     </message>
     <message>
         <source>Export p&amp;icture (PNG) ...</source>
-        <translation>Exporter l&apos;ima&amp;ge (PNG) ...</translation>
+        <translation>Exporter &amp;l&apos;image (PNG) ...</translation>
     </message>
     <message>
         <source>Export drawin&amp;g (SVG) ...</source>
@@ -3121,7 +3121,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Window of its own</source>
-        <translation>&amp;Fenêtre à part</translation>
+        <translation>Fenêtre à &amp;part</translation>
     </message>
     <message>
         <source>Cl&amp;ose</source>
@@ -3755,11 +3755,11 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Set Auto-St&amp;op ...</source>
-        <translation>Arrêt auto&amp;matique ...</translation>
+        <translation>Arrêt aut&amp;omatique ...</translation>
     </message>
     <message>
         <source>Show &amp;logged messages</source>
-        <translation>Afficher les messages &amp;notés</translation>
+        <translation>A&amp;fficher les messages notés</translation>
     </message>
 </context>
 <context>
@@ -3931,7 +3931,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Font size</source>
-        <translation>Taille de la &amp;police</translation>
+        <translation>Taille de &amp;la police</translation>
     </message>
     <message>
         <source>&amp;Desktop&apos;s</source>
@@ -4588,7 +4588,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation>&amp;Chercher</translation>
+        <translation>Che&amp;rcher</translation>
     </message>
     <message>
         <source>&amp;Find ...</source>
@@ -4732,7 +4732,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>&amp;Active</source>
-        <translation>&amp;Actif</translation>
+        <translation>A&amp;ctif</translation>
     </message>
     <message>
         <source>Events are recorded</source>
@@ -6522,7 +6522,7 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
     </message>
     <message>
         <source>&amp;Find</source>
-        <translation>&amp;Chercher</translation>
+        <translation>Che&amp;rcher</translation>
     </message>
     <message>
         <source>&amp;Find ...</source>

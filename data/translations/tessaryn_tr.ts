@@ -562,7 +562,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Roll your &amp;own numbers</source>
-        <translation>&amp;Kendi sayılarını at</translation>
+        <translation>Kendi &amp;sayılarını at</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
@@ -586,7 +586,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Pla&amp;y a dice roll file ...</source>
-        <translation>Zar &amp;dosyası oynat ...</translation>
+        <translation>Z&amp;ar dosyası oynat ...</translation>
     </message>
     <message>
         <source>R&amp;ecord a dice roll file ...</source>
@@ -626,7 +626,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Recent games</source>
-        <translation>&amp;Son oyunlar</translation>
+        <translation>Son &amp;oyunlar</translation>
     </message>
     <message>
         <source>&amp;Files in use ...</source>
@@ -642,7 +642,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation>Çı&amp;kış</translation>
+        <translation>&amp;Çıkış</translation>
     </message>
     <message>
         <source>&amp;Keys and mouse</source>
@@ -678,7 +678,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Open script ...</source>
-        <translation>Betik &amp;aç ...</translation>
+        <translation>B&amp;etik aç ...</translation>
     </message>
     <message>
         <source>&amp;Active</source>
@@ -694,7 +694,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Assign a &amp;hot-key ...</source>
-        <translation>&amp;Kısayol tuşu ata ...</translation>
+        <translation>Kısayol &amp;tuşu ata ...</translation>
     </message>
     <message>
         <source>Auto-Bet &amp;workshop</source>
@@ -702,7 +702,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Hot-&amp;keys</source>
-        <translation>Kısayol &amp;tuşları</translation>
+        <translation>Kısayol t&amp;uşları</translation>
     </message>
     <message>
         <source>&amp;Summary</source>
@@ -726,7 +726,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Roll &amp;frequencies</source>
-        <translation>Atış &amp;sıklıkları</translation>
+        <translation>&amp;Atış sıklıkları</translation>
     </message>
     <message>
         <source>&amp;Bankroll graph</source>
@@ -758,7 +758,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Flash the bets</source>
-        <translation>Bahisleri &amp;yanıp söndür</translation>
+        <translation>Bahisl&amp;eri yanıp söndür</translation>
     </message>
     <message>
         <source>&amp;Proposition bets</source>
@@ -778,7 +778,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Rotate by 30 degrees</source>
-        <translation>30 derece &amp;döndür</translation>
+        <translation>&amp;30 derece döndür</translation>
     </message>
     <message>
         <source>&amp;Whole table</source>
@@ -798,7 +798,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Save view</source>
-        <translation>Görünümü &amp;sakla</translation>
+        <translation>Gö&amp;rünümü sakla</translation>
     </message>
     <message>
         <source>Arra&amp;nge</source>
@@ -818,7 +818,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Re&amp;peat bets</source>
-        <translation>Bahisleri te&amp;krarla</translation>
+        <translation>Bahi&amp;sleri tekrarla</translation>
     </message>
     <message>
         <source>Full o&amp;dds</source>
@@ -2597,7 +2597,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Standard</source>
-        <translation>&amp;Standart</translation>
+        <translation>Standa&amp;rt</translation>
     </message>
     <message>
         <source>&amp;Green</source>
@@ -3093,7 +3093,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Copy all</source>
-        <translation>Tümünü &amp;kopyala</translation>
+        <translation>Tümünü k&amp;opyala</translation>
     </message>
     <message>
         <source>&amp;Export table (CSV) ...</source>
@@ -3675,7 +3675,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Graph st&amp;yle</source>
-        <translation>&amp;Grafik biçimi</translation>
+        <translation>Gra&amp;fik biçimi</translation>
     </message>
     <message>
         <source>&amp;Plain</source>
@@ -3695,7 +3695,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>&amp;Background ...</source>
-        <translation>&amp;Arka plan ...</translation>
+        <translation>Arka &amp;plan ...</translation>
     </message>
     <message>
         <source>&amp;Text ...</source>
@@ -3743,11 +3743,11 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>A&amp;uto-print</source>
-        <translation>&amp;Otomatik yazdır</translation>
+        <translation>Otomatik yaz&amp;dır</translation>
     </message>
     <message>
         <source>Grap&amp;hs on a page</source>
-        <translation>Sayfadaki &amp;grafik sayısı</translation>
+        <translation>&amp;Sayfadaki grafik sayısı</translation>
     </message>
     <message>
         <source>Set Auto-Roll time &amp;delay ...</source>
@@ -4636,7 +4636,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>S&amp;hooter changes</source>
-        <translation>A&amp;tıcı değişiklikleri</translation>
+        <translation>Atı&amp;cı değişiklikleri</translation>
     </message>
     <message>
         <source>Ban&amp;kroll changes</source>
@@ -6141,7 +6141,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Copy To &amp;Roll File ...</source>
-        <translation>&amp;Zar dosyasına kopyala ...</translation>
+        <translation>Zar &amp;dosyasına kopyala ...</translation>
     </message>
     <message>
         <source>Copy To &amp;Text File ...</source>
@@ -7334,7 +7334,7 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
     </message>
     <message>
         <source>&amp;Words that go on</source>
-        <translation>&amp;Devam eden sözcükler</translation>
+        <translation>Devam eden &amp;sözcükler</translation>
     </message>
     <message>
         <source>P&amp;ut in the proposal</source>
@@ -7394,7 +7394,7 @@ Dosya, Yeni ya da Aç ile başlayın.</translation>
     </message>
     <message>
         <source>&amp;Line numbers</source>
-        <translation>&amp;Satır numaraları</translation>
+        <translation>Satır &amp;numaraları</translation>
     </message>
     <message>
         <source>Lists of &amp;words</source>
