@@ -430,7 +430,7 @@ TEST(HelpWindow, F1OnAWordOfAScriptOpensItsEntry) {
   EXPECT_EQ(table.Help().Place(), (HelpPlace{"auto-bet.md", {}, "comeout roll"}));
   auto& view = Find<QTextBrowser>(table.Help(), "txtPage");
   ASSERT_EQ(view.extraSelections().size(), 1);
-  const QTextCursor& mark = view.extraSelections().front().cursor;
+  const QTextCursor mark = view.extraSelections().front().cursor;
   EXPECT_EQ(mark.selectedText().toLower(), "comeout roll");
   EXPECT_TRUE(view.rect().contains(view.cursorRect(mark).center()));
 }
