@@ -758,10 +758,11 @@ TEST(FileChooser, ScriptsAreLookedForWhereTheSamplesAre) {
   install.start("cmake", {"--install", QString(test::kBinFolder) + "/..", "--prefix", installed.path()});
   ASSERT_TRUE(install.waitForFinished(60'000) && install.exitCode() == 0)
       << install.readAllStandardError().toStdString();
-  EXPECT_TRUE(QFileInfo(installed.filePath("tessaryn")).isExecutable());
+  const QString home = installed.filePath("libexec/tessaryn/");
+  EXPECT_TRUE(QFileInfo(home + "tessaryn").isExecutable());
   ScreenTable table;
   Game& game = *table.game;
-  for (const std::string& program : {game.applicationFolder, installed.path().toStdString() + "/"}) {
+  for (const std::string& program : {game.applicationFolder, home.toStdString()}) {
     game.applicationFolder = program;
     for (const FilePurpose* purpose : {&kOpenAutoBet, &kHotKeyScript}) {
       EXPECT_EQ(StartFolder(game, *purpose), program + "samples/");
