@@ -24,7 +24,8 @@ Badges::Badges(QWidget* table) : QWidget(table), end_(new QTimer(this)) {
 }
 
 // Each above its stack; one that would lie on another, or leave the table, goes upwards or isn't shown.
-void Badges::Show(const std::vector<BetChange>& changes, const TableLayout& layout, const TableView& view) {
+void Badges::Show(const std::vector<BetChange>& changes, const TableState& table, const TableLayout& layout,
+                  const TableView& view) {
   badges_.clear();
   setGeometry(parentWidget()->rect());
   const QFontMetricsF metrics(Sized(font(), kLetters, true));
@@ -34,8 +35,7 @@ void Badges::Show(const std::vector<BetChange>& changes, const TableLayout& layo
     Badge badge;
     badge.text = ChangeText(change.change);
     badge.sign = change.change > kZero ? 1 : -1;
-    const QPointF at = view.ToScreen(
-        QPointF(layout.CheckX(change.seat, change.bet), layout.CheckY(change.seat, change.bet)));
+    const QPointF at = view.ToScreen(StackPlace(layout, table, change.seat, change.bet));
     badge.box = QRectF(0, 0, metrics.horizontalAdvance(badge.text) + kSign + 16, metrics.height() + 2);
     badge.box.moveCenter(at - QPointF(0, above));
     const auto taken = [&] {

@@ -12,13 +12,15 @@ class QTimer;
 namespace tessaryn {
 
 struct TableLayout;
+struct TableState;
 struct TableView;
 
 // Covers its parent, and lets every click through.
 class Badges : public QWidget {
  public:
   explicit Badges(QWidget* table);
-  void Show(const std::vector<BetChange>& changes, const TableLayout& layout, const TableView& view);
+  void Show(const std::vector<BetChange>& changes, const TableState& table, const TableLayout& layout,
+            const TableView& view);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -47,12 +47,6 @@ class Neighbours {
 
 double Apart(QPointF a, QPointF b) { return std::hypot(a.x() - b.x(), a.y() - b.y()); }
 
-// From a point to a stack as it is drawn, from its lowest check up to its uppermost.
-double ApartFromStack(QPointF point, const StandingStack& stack) {
-  const double y = std::clamp(point.y(), std::min(stack.Face.y(), stack.Base.y()), stack.Base.y());
-  return Apart(point, {stack.Base.x(), y});
-}
-
 struct Arranger {
   Arranger(const TableScene& shown, const TableLayout& places, const TableView& seen)
       : scene(shown), layout(places), view(seen) {}
@@ -253,6 +247,11 @@ void PlaceCall(Arranger& table, StandingStack& stack) {
 }
 
 }  // namespace
+
+double ApartFromStack(QPointF point, const StandingStack& stack) {
+  const double y = std::clamp(point.y(), std::min(stack.Face.y(), stack.Base.y()), stack.Base.y());
+  return Apart(point, {stack.Base.x(), y});
+}
 
 double MarkCap(double scale) { return std::clamp(8.25 * scale, LeastCap(scale), 14.0); }
 

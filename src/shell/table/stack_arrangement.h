@@ -37,6 +37,9 @@ inline constexpr double kFaceShare = 0.68;
 // The height of the capitals of totals and markers, in screen units.
 double MarkCap(double scale);
 
+// From a point to the line from a stack's lowest check up to its uppermost.
+double ApartFromStack(QPointF point, const StandingStack& stack);
+
 // All stacks from the back to the front. Of those that stand too close to one another the selected player's
 // are in front. Totals of stacks of several checks, or with showAmounts of all.
 std::vector<StandingStack> ArrangeStacks(const TableScene& scene, const TableLayout& layout,

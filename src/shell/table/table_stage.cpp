@@ -68,7 +68,7 @@ void TableStage::Refresh(bool settled) {
 }
 
 void TableStage::ShowBadges() {
-  if (table_->animate) badges_->Show(BetChanges(game_), table_->Layout(), table_->view);
+  if (table_->animate) badges_->Show(BetChanges(game_), game_.table, table_->Layout(), table_->view);
 }
 
 }  // namespace tessaryn

@@ -74,8 +74,9 @@ void TableTouch::Touch(QTouchEvent& event) {
   } else if (event.type() == QEvent::TouchUpdate) {
     if (hand_ == Hand::kDown && (at - at_).manhattanLength() >= QApplication::startDragDistance()) {
       timer_->stop();
-      hand_ = Hand::kDrags;
-      Mouse(QEvent::MouseButtonPress, at_);
+      // A finger that wanders over the felt without a stack bets nothing.
+      hand_ = table_.DragsFrom(at_.toPoint()) != 0 ? Hand::kDrags : Hand::kDone;
+      if (hand_ == Hand::kDrags) Mouse(QEvent::MouseButtonPress, at_);
     }
     if (hand_ == Hand::kDrags) Mouse(QEvent::MouseMove, at);
   }

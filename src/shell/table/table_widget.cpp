@@ -14,6 +14,7 @@
 #include "shell/table/contrast.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/stack_arrangement.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -235,16 +236,18 @@ int TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
 int TableWidget::StackAt(QPoint point) const {
   const int seat = game_.table.SelectedSeat;
   const double radius = CheckDiameter(view.Scale()) / 2;
-  int found = 0;
-  double nearest = radius;
-  game_.table.seats[seat].SeatBets.ForEach([&](int bet) {
-    const QPointF way = view.ToScreen(StackPlace(layout_, game_.table, seat, bet)) - point;
-    const double apart = std::hypot(way.x(), way.y());
-    if (apart > nearest) return;
-    nearest = apart;
-    found = bet;
-  });
+  int found = 0;  // the one in front of the others
+  for (const StandingStack& stack : ArrangeStacks(scene, layout_, view))
+    if (stack.Seat == seat && game_.table.seats[seat].SeatBets.Has(stack.Bet) &&
+        ApartFromStack(point, stack) <= radius)
+      found = stack.Bet;
   return found;
+}
+
+int TableWidget::DragsFrom(QPoint point) const {
+  const bool free = commands_.PendingAction == kPendingNone && commands_.CarriedAmount == kZero &&
+                    commands_.Moving.Bet == 0;
+  return free ? StackAt(point) : 0;
 }
 
 int TableWidget::SeatAt(QPoint point) const {
@@ -264,6 +267,10 @@ int TableWidget::SeatAt(QPoint point) const {
 
 QPoint TableWidget::PointOfBet(int seat, int bet) const {
   return view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))).toPoint();
+}
+
+QPoint TableWidget::PointOfStack(int seat, int bet) const {
+  return view.ToScreen(StackPlace(layout_, game_.table, seat, bet)).toPoint();
 }
 
 QPoint TableWidget::PointOfSeat(int seat) const {
@@ -297,15 +304,15 @@ void TableWidget::LeftPress(QMouseEvent* event) {
   SetFocusBet(0, 0);
   if (commands_.Moving.Bet != 0) return PutDown(point);
   const bool alt = (event->modifiers() & Qt::AltModifier) != 0;
-  const int stack = StackAt(point);
-  if (stack != 0 && !alt && commands_.PendingAction == kPendingNone && commands_.CarriedAmount == kZero) {
+  const int drags = alt ? 0 : DragsFrom(point);
+  if (drags != 0) {
     // A click if it is let go here; else it drags the stack.
-    pressedStack_ = stack;
+    pressedStack_ = drags;
     pressedAt_ = point;
     return;
   }
-  int bet = BetAt(point);
-  if (commands_.PendingAction == kPendingMove && stack != 0) bet = stack;
+  const int stack = commands_.PendingAction == kPendingMove ? StackAt(point) : 0;
+  const int bet = stack != 0 ? stack : BetAt(point);
   if (bet != 0) {
     emit betClicked(bet, alt);
     return;
@@ -342,7 +349,7 @@ void TableWidget::DragStack(QMouseEvent* event) {
 // A bet that is taken in hand without the pointer stays at its place.
 void TableWidget::ShowHeld() {
   const BetInHand& hand = commands_.Moving;
-  if (scene.heldBet != hand.Bet) scene.heldAt = PointOfBet(hand.Seat, hand.Bet);
+  if (scene.heldBet != hand.Bet) scene.heldAt = PointOfStack(hand.Seat, hand.Bet);
   scene.heldBet = hand.Bet;
 }
 

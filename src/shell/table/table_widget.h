@@ -29,10 +29,14 @@ class TableWidget : public QWidget {
   const TableLayout& Layout() const { return layout_; }
   // The bet meant under a point of the widget; 0 for none.
   int BetAt(QPoint point);
+  // The bet whose stack a press there would drag; 0 for none.
+  int DragsFrom(QPoint point) const;
   // The seat whose place at the rail is under a point; 0 for none.
   int SeatAt(QPoint point) const;
   // The middle of an area on the screen, where a click hits it; the seat's end of the table first.
   QPoint PointOfBet(int seat, int bet) const;
+  // Where the seat's checks on a bet stand now, or would.
+  QPoint PointOfStack(int seat, int bet) const;
   QPoint PointOfSeat(int seat) const;
 
   // The rules or payoffs changed: lettering and areas are made anew.
