@@ -21,7 +21,7 @@ bool IsExtreme(const QColor& colour) { return colour == QColor(Qt::black) || col
 }  // namespace
 
 double ContrastOf(unsigned first, unsigned second) {
-  const auto [dark, light] = std::minmax(Brightness(first), Brightness(second));
+  const auto [dark, light] = std::minmax({Brightness(first), Brightness(second)});
   return (light + 0.05) / (dark + 0.05);
 }
 
