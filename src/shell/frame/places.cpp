@@ -68,9 +68,10 @@ void PlaceMainWindow(Desk& desk) {
   const QRect room = (screen != nullptr ? screen : window.screen())->availableGeometry();
   window.setWindowState(window.windowState() & ~Qt::WindowMaximized);
   window.resize((placed ? wanted : kFirstSize).boundedTo(room.size() - kFrame).expandedTo(kSmallestWindow));
-  if (screen != nullptr)
-    window.move(std::clamp(corner.x(), room.left(), room.right() + 1 - window.width()),
-                std::clamp(corner.y(), room.top(), room.bottom() + 1 - window.height()));
+  const QSize free = (room.size() - kFrame - window.size()).expandedTo(QSize(0, 0));
+  if (placed)
+    window.move(std::clamp(corner.x(), room.left(), room.left() + free.width()),
+                std::clamp(corner.y(), room.top(), room.top() + free.height()));
   if (desk.game.screen.MainWindow == kMainMaximised)
     window.setWindowState(window.windowState() | Qt::WindowMaximized);
 }
