@@ -64,7 +64,21 @@ struct Window : ScreenTable {
     Bet(4, kPlace4 + 2, "12");
     Bet(7, kCome, "10");
     Bet(1, kHard8, "5");
+    Bet(4, kPassLineOdds, "20");
+    Bet(5, kBuy4, "25");
+    Bet(7, kLay4 + 5, "50");
     Roll(4, 2);
+    QApplication::processEvents();
+  }
+  // All places taken, with the largest amounts, and bets of everybody in the same areas.
+  void MakeCrowd() {
+    for (const int seat : {2, 3, 6, 8}) Join(seat, "Maximilian " + std::to_string(seat), "9999999");
+    for (int seat = 1; seat <= kSeats; ++seat)
+      for (const int bet : std::initializer_list<int>{kPassLine, kPassLineOdds, kField, kCome, kPlace4 + 2,
+                                                      kPlace4 + 4, kHard6, kBuy4})
+        Bet(seat, bet, seat % 2 == 0 ? "25" : "60");
+    SelectSeat(*game, 4);
+    window.TheDesk().refresh();
     QApplication::processEvents();
   }
 };
@@ -81,6 +95,10 @@ TEST(WindowPictures, TheWholeWindowAtTheToldSizesInLightAndDark) {
       SavePicture(
           window.window,
           QStringLiteral("board-%1x%2%3").arg(size.width()).arg(size.height()).arg(dark ? "-dark" : ""));
+      window.MakeCrowd();
+      SavePicture(
+          window.window,
+          QStringLiteral("crowd-%1x%2%3").arg(size.width()).arg(size.height()).arg(dark ? "-dark" : ""));
       EXPECT_EQ(window.window.size(), size);
     }
   QApplication::setPalette(before);

@@ -157,11 +157,12 @@ void Board::Place() {
   const bool place8 = IsOccupied(game_.table, kSeats);
   const double right = width() - (place8 ? plate_.width() + 16 : 16);
   const double handWidth = std::max(Wide(Small(), HandLine()), measures_.compact ? 70.0 : 90.0);
-  // Room for the hand is found only where nobody's plate stands, and never taken from the result or the rolls.
+  // Room for the hand is found only where nobody's plate stands, and never taken from the result or the
+  // rolls.
   const double left = x;
   const double result = std::max(420.0, RollHistory::kMost * HistoryPitch());
-  hand_ =
-      !place8 && right - handWidth - gap - left > result ? QRectF(right - handWidth, 0, handWidth, height) : QRectF();
+  hand_ = !place8 && right - handWidth - gap - left > result ? QRectF(right - handWidth, 0, handWidth, height)
+                                                             : QRectF();
   const double end = hand_.isEmpty() ? right : hand_.left() - gap;
   line_ = QRectF(left, height * 0.06, end - left, height * 0.46);
   rolls_ = QRectF(left, height * 0.54, end - left, height * 0.36);
@@ -348,7 +349,8 @@ double Board::HistoryLabel() const { return Wide(Small(), tr("LAST %1").arg(Roll
 
 // How many rolls the window's width is for, whatever else is told.
 int Board::HistoryPlaces() const {
-  return RollHistory::kMost * HistoryPitch() <= rolls_.width() + kCellGap ? RollHistory::kMost : kShortHistory;
+  return RollHistory::kMost * HistoryPitch() <= rolls_.width() + kCellGap ? RollHistory::kMost
+                                                                          : kShortHistory;
 }
 
 // Behind the rolls where there is much room, so that they stay as they are.

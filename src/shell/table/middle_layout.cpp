@@ -209,7 +209,7 @@ void AddProgress(LayoutBuilder& build, TableArea& area, const QRectF& box) {
     case kMakeAll:
       return AddNumbers(build, area, box, kAllMarks);
     case kFourRolls:
-      return AddMarks(build, area.Id, Progress::kRoll, 4, corner + QPointF(4, 25.5), {8, 0}, {6.6, 4.6});
+      return AddMarks(build, area.Id, Progress::kRoll, 4, corner + QPointF(28, 16.4), {5.2, 0}, {4.4, 5.8});
     case kFire:
       return AddMarks(build, area.Id, Progress::kPoint, 6, corner + QPointF(4, 19), {6.3, 0}, {5.4, 5.4});
     case kSharpShooter:

@@ -23,6 +23,7 @@ constexpr int kEdgeGap = 4;   // to the stage's edge
 constexpr int kPlateGap = 4;  // between two
 constexpr double kPadding = 7;
 constexpr double kTip = kPlateTip;
+constexpr double kHeadGap = 6;  // from name to result
 constexpr int kNarrowest = 75;  // percent of a letter's width
 // Told places of the seats on the lower rail.
 constexpr int kLowerSeats[] = {3, 4, 5, 6};
@@ -34,6 +35,11 @@ QString Told(const char* text) { return QCoreApplication::translate("Plates", te
 // What points from a plate's upper edge to its player's place.
 QPolygonF TipOf(double x) {
   return QPolygonF({QPointF(x - kTip, kTip), QPointF(x + kTip, kTip), QPointF(x, 0)});
+}
+
+QString ScriptText(ScriptSign sign) {
+  if (sign == ScriptSign::kNone) return {};
+  return sign == ScriptSign::kActive ? QStringLiteral("{ }") : QStringLiteral("{ ! }");
 }
 
 QString Amount(Currency value) { return QLocale(QLocale::English).toString(value.ToDouble(), 'f', 2); }
@@ -173,9 +179,27 @@ QFont Plate::TextFont(bool bold) const {
   return letters;
 }
 
+QFont Plate::HeadFont() const {
+  QFont letters = TextFont(true);
+  letters.setStretch(headStretch_);
+  return letters;
+}
+
+// What name, result and signs would need to stand there whole.
+double Plate::HeadWidth() const {
+  const QFontMetricsF metrics(HeadFont());
+  double width = metrics.horizontalAdvance(text_.name) + kHeadGap +
+                 metrics.horizontalAdvance(text_.resultCaption + QLatin1Char(' ') + text_.result);
+  if (text_.shooter) width += textHeight_ + 5;
+  if (text_.script != ScriptSign::kNone) width += metrics.horizontalAdvance(ScriptText(text_.script)) + 12;
+  return width;
+}
+
 void Plate::FitLetters() {
   stretch_ = 100;
   while (!FiguresFit() && stretch_ > kNarrowest) --stretch_;
+  headStretch_ = stretch_;
+  while (HeadWidth() > width() - 2 * kPadding && headStretch_ > kNarrowest) --headStretch_;
   update();
 }
 
@@ -203,7 +227,7 @@ void Plate::paintEvent(QPaintEvent*) {
   const double row = (height() - above - 6) / 4.0;
   QRectF line(kPadding, 3, width() - 2 * kPadding, row);
   const QFont plain = TextFont(false);
-  const QFont bold = TextFont(true);
+  const QFont bold = HeadFont();
   const QFontMetricsF plainMetrics(plain);
   const QFontMetricsF boldMetrics(bold);
   // The head: the result first, since a name is cut and a figure never.
@@ -215,8 +239,7 @@ void Plate::paintEvent(QPaintEvent*) {
   painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, result);
   const double side = textHeight_ * 0.5;
   // A name that would be cut gets the room of the sign: the word says the same.
-  const double head = boldMetrics.horizontalAdvance(text_.name) + (text_.shooter ? textHeight_ + 5 : 0) + 6;
-  if (text_.sign != 0 && head + resultWidth + side + 4 < line.width()) {
+  if (text_.sign != 0 && HeadWidth() + side + 4 < line.width()) {
     const double x = line.right() - resultWidth - side - 4;
     const double y = line.center().y();
     QPolygonF triangle;
@@ -232,7 +255,7 @@ void Plate::paintEvent(QPaintEvent*) {
     resultWidth += side + 4;
   }
   double left = line.left();
-  const double free = line.right() - resultWidth - 6;
+  const double free = line.right() - resultWidth - kHeadGap;
   if (text_.shooter && left + textHeight_ + 4 <= free) {
     painter.save();
     const double die = textHeight_ + 1;
@@ -242,9 +265,7 @@ void Plate::paintEvent(QPaintEvent*) {
     painter.restore();
     left += die + 4;
   }
-  const QString script = text_.script == ScriptSign::kNone     ? QString()
-                         : text_.script == ScriptSign::kActive ? QStringLiteral("{ }")
-                                                               : QStringLiteral("{ ! }");
+  const QString script = ScriptText(text_.script);
   double scriptWidth = script.isEmpty() ? 0 : boldMetrics.horizontalAdvance(script) + 8;
   if (left + scriptWidth > free) scriptWidth = 0;
   painter.setFont(bold);

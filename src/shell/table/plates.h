@@ -77,13 +77,16 @@ class Plate : public QWidget {
  private:
   void Tell();
   QFont TextFont(bool bold) const;
+  QFont HeadFont() const;
+  double HeadWidth() const;
   void FitLetters();
 
   const int seat_;
   PlateText text_;
   double textHeight_ = 11.5;
   int pointer_ = -1;
-  int stretch_ = 100;  // of the letters, in percent
+  int stretch_ = 100;      // of the letters, in percent
+  int headStretch_ = 100;  // of those of name and result
 };
 
 }  // namespace tessaryn
