@@ -61,7 +61,7 @@ Daten:  %2</translation>
     <name>BetButtons</name>
     <message>
         <source>Undo bet</source>
-        <translation>Einsatz zurück</translation>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Repeat bets</source>
@@ -2823,7 +2823,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>%1 s a roll</source>
-        <translation>%1 s je Wurf</translation>
+        <translation>%1 s/Wurf</translation>
     </message>
 </context>
 <context>

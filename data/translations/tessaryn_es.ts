@@ -69,7 +69,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Full odds</source>
-        <translation>Odds completas</translation>
+        <translation>Odds máx.</translation>
     </message>
 </context>
 <context>
@@ -2819,11 +2819,11 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Full speed</source>
-        <translation>A toda velocidad</translation>
+        <translation>Al máximo</translation>
     </message>
     <message>
         <source>%1 s a roll</source>
-        <translation>%1 s por tirada</translation>
+        <translation>%1 s/tirada</translation>
     </message>
 </context>
 <context>

@@ -61,7 +61,7 @@ Données :  %2</translation>
     <name>BetButtons</name>
     <message>
         <source>Undo bet</source>
-        <translation>Annuler la mise</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Repeat bets</source>
@@ -69,7 +69,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Full odds</source>
-        <translation>Toutes les Odds</translation>
+        <translation>Odds max.</translation>
     </message>
 </context>
 <context>
@@ -2799,19 +2799,19 @@ Données :  %2</translation>
     <name>RunControls</name>
     <message>
         <source>Stop &amp;Auto-Roll</source>
-        <translation>Arrêter l&apos;&amp;Auto-Roll</translation>
+        <translation>Arrêter &amp;Auto-Roll</translation>
     </message>
     <message>
         <source>Stop &amp;Turbo-Roll</source>
-        <translation>Arrêter le &amp;Turbo-Roll</translation>
+        <translation>Arrêter &amp;Turbo-Roll</translation>
     </message>
     <message>
         <source>Start &amp;Auto-Roll</source>
-        <translation>Démarrer l&apos;&amp;Auto-Roll</translation>
+        <translation>Démarrer &amp;Auto-Roll</translation>
     </message>
     <message>
         <source>Start &amp;Turbo-Roll</source>
-        <translation>Démarrer le &amp;Turbo-Roll</translation>
+        <translation>Démarrer &amp;Turbo-Roll</translation>
     </message>
     <message>
         <source>Auto-Roll</source>
@@ -2823,7 +2823,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>%1 s a roll</source>
-        <translation>%1 s par lancer</translation>
+        <translation>%1 s/lancer</translation>
     </message>
 </context>
 <context>

@@ -2823,7 +2823,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>%1 s a roll</source>
-        <translation>atış başına %1 s</translation>
+        <translation>%1 s/atış</translation>
     </message>
 </context>
 <context>

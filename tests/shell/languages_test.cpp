@@ -279,6 +279,11 @@ TEST(Languages, NoTextIsCutInAnyLanguage) {
                                  label->sizePolicy().horizontalPolicy() == QSizePolicy::Ignored ||
                                  label->minimumSizeHint().width() <= 0 || label->inherits("ElidedLabel"));
         const auto* button = qobject_cast<QAbstractButton*>(widget);
+        // Nor does one of a row stand over its neighbour.
+        for (auto* other : widget->parentWidget()->findChildren<QAbstractButton*>(Qt::FindDirectChildrenOnly))
+          EXPECT_TRUE(button == nullptr || other == button || !other->isVisibleTo(screen) ||
+                      !other->geometry().intersects(button->geometry()))
+              << where << widget->objectName().toStdString() << " and " << other->objectName().toStdString();
         if ((label == nullptr || free) && button == nullptr) continue;
         const int needed = button != nullptr
                                ? button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() + 4

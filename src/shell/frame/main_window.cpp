@@ -327,7 +327,11 @@ void MainWindow::Speak() {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) Retranslate();
+  if (event->type() == QEvent::LanguageChange) {
+    Retranslate();
+    // Once the bar's parts have their words as well.
+    QMetaObject::invokeMethod(this, &MainWindow::FitBar, Qt::QueuedConnection);
+  }
   QMainWindow::changeEvent(event);
 }
 

@@ -85,7 +85,10 @@ RunControls::RunControls(QWidget* parent)
 
 // By the longest that each may say.
 void RunControls::Fit() {
-  speed_->setMinimumWidth(speed_->fontMetrics().horizontalAdvance(ThrottleText(11)) + 2);
+  int widest = 0;
+  for (const int position : {0, kThrottleAutoRoll - 1, kThrottleAutoRoll})
+    widest = std::max(widest, speed_->fontMetrics().horizontalAdvance(ThrottleText(position)));
+  speed_->setFixedWidth(widest + 2);
   Trim(*pass_, {pass_->text()});
   Trim(*run_, {QCoreApplication::translate("RunControls", "Start &Turbo-Roll"),
                QCoreApplication::translate("RunControls", "Stop &Turbo-Roll"),
