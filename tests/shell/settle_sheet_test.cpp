@@ -39,7 +39,8 @@ struct Settling {
   }
   void Look() {
     auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) return;
+    // Another table has hands of its own.
+    if (dialog == nullptr || !dialog->isVisible() || dialog->parentWidget() != &window) return;
     const bool onSheet = dialog->objectName() == "frmSettleSheet";
     ++(onSheet ? sheets : boxes);
     timer.stop();
@@ -91,8 +92,8 @@ TEST(SettleSheet, GivesTheGameThatBoxesAnsweredAlikeGive) {
     Click(box, QString("cmdHandle%1").arg(ChoiceOf(roll, what)));
   };
   for (Settling* table : {&one, &other})
-    for (const int seat : {1, 4, 7})
-      table->table.Join(seat, "Player " + std::string(1, char('A' + seat)), "90000");
+    for (const auto& [seat, name] : {std::pair{1, "Bea"}, {4, "Eve"}, {7, "Hal"}})
+      table->table.Join(seat, name, "90000");
   std::mt19937 dice(seed);
   for (roll = 0; roll < 25; ++roll) {
     for (int n = 0; n < 9; ++n) {
