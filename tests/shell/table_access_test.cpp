@@ -110,13 +110,16 @@ TEST(TableAccess, PlaysByActionsAndSaysWhatCameOfIt) {
   table.Roll(4, 2);
   QCoreApplication::processEvents();
   QAccessible::installUpdateHandler(nullptr);
+  const QString told = "Roll 1: 6 (4-2), the point is 6. Bo lost 10";
+  EXPECT_EQ(table.Part("Last roll")->text(QAccessible::Value), told);
   int alerts = 0;
   for (const auto& [type, text] : Heard())
     if (type == QAccessible::Alert) {
       ++alerts;
-      EXPECT_EQ(text, "Last roll: Roll 1: 6 (4-2), the point is 6. Bo lost 10");
+      EXPECT_EQ(text, "Last roll: " + told);
     }
-  EXPECT_EQ(alerts, 1);
+  // Without a reader, as on the offscreen platform, Qt hands nothing on.
+  EXPECT_EQ(alerts, QAccessible::isActive() ? 1 : 0);
 }
 
 // What a reader may work.
@@ -148,6 +151,7 @@ void ExpectTold(QAccessibleInterface* seen, const QString& where, int depth = 0)
 
 TEST(TableAccess, EveryScreenIsToldByNameAndRole) {
   AccessTable table;
+  table.game->settings.ShooterBetRule = 0;
   table.Bet(3, kPassLine, "10");
   table.Roll(3, 3);
   Desk& desk = table.window.TheDesk();
@@ -186,6 +190,7 @@ TEST(TableTouch, ATapBetsALongPressBringsTheMenuAndTwoFingersZoom) {
   QTest::qWait(750);
   auto* menu = table.felt.findChild<QMenu*>("mnuTouch");
   ASSERT_NE(menu, nullptr);
+  test::QtWarnings().removeAll("This plugin does not support grabbing the keyboard");  // says the offscreen one
   QTest::touchEvent(&table.felt, table.device).release(0, field, &table.felt);
   EXPECT_EQ(table.State().BetAmount(3, kField), once) << "the long press is no tap";
   menu->findChild<QAction*>("mnuTouchRemove")->trigger();
@@ -213,15 +218,18 @@ TEST(TableTouch, ATapBetsALongPressBringsTheMenuAndTwoFingersZoom) {
 TEST(TableTouch, ADraggedStackMoves) {
   FingerTable table;
   table.Bet(3, kPlace4, "10");
-  const QPoint from = table.felt.PointOfBet(3, kPlace4);
   const QPoint to = table.felt.PointOfBet(3, kPlace4 + 1);
-  QTest::touchEvent(&table.felt, table.device).press(0, from, &table.felt);
-  for (int step = 1; step <= 4; ++step)
-    QTest::touchEvent(&table.felt, table.device).move(0, from + (to - from) * step / 4, &table.felt);
-  QTest::touchEvent(&table.felt, table.device).release(0, to, &table.felt);
-  QCoreApplication::processEvents();
-  EXPECT_EQ(table.State().BetAmount(3, kPlace4), kZero);
-  EXPECT_EQ(table.State().BetAmount(3, kPlace4 + 1), Currency::Dollars(10));
+  // From the stack, and from where there is none.
+  for (const QPoint from : {table.felt.PointOfStack(3, kPlace4), table.felt.PointOfBet(3, kField)}) {
+    QTest::touchEvent(&table.felt, table.device).press(0, from, &table.felt);
+    for (int step = 1; step <= 4; ++step)
+      QTest::touchEvent(&table.felt, table.device).move(0, from + (to - from) * step / 4, &table.felt);
+    QTest::touchEvent(&table.felt, table.device).release(0, to, &table.felt);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(table.State().BetAmount(3, kPlace4), kZero);
+    EXPECT_EQ(table.State().BetAmount(3, kPlace4 + 1), Currency::Dollars(10));
+    EXPECT_EQ(table.State().BetAmount(3, kField), kZero);
+  }
 }
 
 // --- Tips.
@@ -279,9 +287,9 @@ TEST(LuckWindow, TellsEachSessionAndCountsTurboRollsWhileItIsOpen) {
   const QList<QStringList> rows = luck.Rows();
   ASSERT_EQ(rows.size(), 3);
   EXPECT_EQ(rows[2][0], "Ann");
-  EXPECT_EQ(rows[2][1], "-$1.00");
-  EXPECT_EQ(rows[2][2], "$36.00");
-  EXPECT_EQ(rows[2][3], "$37.00");
+  EXPECT_EQ(rows[2][1], "-$1");
+  EXPECT_EQ(rows[2][2], "$36");
+  EXPECT_EQ(rows[2][3], "$37");
   EXPECT_TRUE(SeatTip(*table.game, 3).contains("Luck: 37")) << SeatTip(*table.game, 3).toStdString();
   EXPECT_EQ(WatchedLuck(*table.game)->turboWatchers, 1);
   SavePicture(luck, "luck-light");

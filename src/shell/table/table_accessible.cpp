@@ -242,7 +242,7 @@ QRect PartAccessible::rect() const {
   };
   if (part_.kind == PartKind::kArea)
     place = table.view.Transform().mapRect(area().Outline.boundingRect()).toRect();
-  if (part_.kind == PartKind::kStack) place = round(table.PointOfBet(part_.seat, part_.bet));
+  if (part_.kind == PartKind::kStack) place = round(table.PointOfStack(part_.seat, part_.bet));
   if (part_.kind == PartKind::kSeat) place = round(table.PointOfSeat(part_.seat));
   return QRect(table.mapToGlobal(place.topLeft()), place.size());
 }
