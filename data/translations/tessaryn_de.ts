@@ -1577,7 +1577,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Current session</source>
-        <translation>Laufende Session</translation>
+        <translation>Diese Session</translation>
     </message>
     <message>
         <source>Last session</source>
@@ -1605,7 +1605,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Avg # / hour</source>
-        <translation>Mittel Anz. / Stunde</translation>
+        <translation>Anz. / Std (Mittel)</translation>
     </message>
     <message>
         <source>Avg $ / hour</source>
@@ -1653,11 +1653,11 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Prior roll #</source>
-        <translation>Vorheriger Wurf Nr.</translation>
+        <translation>Voriger Wurf Nr.</translation>
     </message>
     <message>
         <source>Prior roll $</source>
-        <translation>Vorheriger Wurf $</translation>
+        <translation>Voriger Wurf $</translation>
     </message>
     <message>
         <source>Wagers #</source>
@@ -2484,7 +2484,7 @@ Daten:  %2</translation>
     <name>ProbabilityPicture</name>
     <message>
         <source>Die 1 down, die 2 across: % points from fair</source>
-        <translation>Würfel 1 abwärts, Würfel 2 quer: Prozentpunkte gegen fair</translation>
+        <translation>Würfel 1 abwärts, 2 quer: %-Punkte gegen fair</translation>
     </message>
     <message>
         <source>Totals: filled as set, hatched fair</source>

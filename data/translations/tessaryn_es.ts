@@ -2484,7 +2484,7 @@ Datos:  %2</translation>
     <name>ProbabilityPicture</name>
     <message>
         <source>Die 1 down, die 2 across: % points from fair</source>
-        <translation>Dado 1 hacia abajo, dado 2 a lo ancho: puntos de % de diferencia</translation>
+        <translation>Dado 1 abajo, dado 2 a lo ancho: puntos de %</translation>
     </message>
     <message>
         <source>Totals: filled as set, hatched fair</source>

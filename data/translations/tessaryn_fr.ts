@@ -2484,7 +2484,7 @@ Données :  %2</translation>
     <name>ProbabilityPicture</name>
     <message>
         <source>Die 1 down, die 2 across: % points from fair</source>
-        <translation>Dé 1 vers le bas, dé 2 en travers : points de % d&apos;écart</translation>
+        <translation>Dé 1 vers le bas, dé 2 en travers : écart en %</translation>
     </message>
     <message>
         <source>Totals: filled as set, hatched fair</source>

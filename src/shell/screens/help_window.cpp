@@ -595,6 +595,8 @@ bool HelpWindow::event(QEvent* event) {
     event->accept();
     return true;
   }
+  // Shown by the menu of windows, or with the arrangement of last time.
+  if (event->type() == QEvent::Show && place_.page.isEmpty()) Open({kHelpContents, {}, {}});
   return ToolWindow::event(event);
 }
 

@@ -62,7 +62,7 @@ LuckWindow::LuckWindow(Game& game, QWidget* parent) : ToolWindow("frmLuck", pare
   tells_->setTextFormat(Qt::PlainText);
   column_->addWidget(tells_);
   Build();
-  resize(760, 260);
+  resize(860, 260);
 }
 
 LuckWindow::~LuckWindow() { Watch(false); }

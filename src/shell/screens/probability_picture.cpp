@@ -140,7 +140,10 @@ void PaintProbabilityPicture(QPainter& painter, const QRectF& area, const Percen
   const QRectF second(inside.bottomRight() - QPointF(part.width(), part.height()), part);
   const auto heading = [&](const QRectF& where, const QString& text) {
     painter.setPen(ink.text);
-    painter.setFont(Sized(painter, 12.5, true));
+    // A long one in smaller letters.
+    double size = 12.5;
+    do painter.setFont(Sized(painter, size, true));
+    while ((size -= 0.5) >= 10 && painter.fontMetrics().horizontalAdvance(text) > where.width());
     painter.drawText(QRectF(where.left(), where.top(), where.width(), line), Qt::AlignLeft | Qt::AlignVCenter,
                      text);
   };

@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QPainter>
 #include <QPalette>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -250,7 +251,8 @@ void ProbabilityTable::FitColumns() {
   const int frame = 2 * frameWidth();
   setMinimumWidth(std::min(400, verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame));
   setMinimumHeight(horizontalHeader()->sizeHint().height() + verticalHeader()->length() / 2 + frame);
-  setMaximumWidth(verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame + 2);
+  setMaximumWidth(verticalHeader()->sizeHint().width() + horizontalHeader()->length() + frame + 2 +
+                  verticalScrollBar()->sizeHint().width());
   setMaximumHeight(horizontalHeader()->sizeHint().height() + verticalHeader()->length() + frame + 2);
 }
 

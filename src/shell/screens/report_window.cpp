@@ -185,6 +185,7 @@ QComboBox* ReportWindow::AddCombo(QHBoxLayout& row, const char* name, const QStr
   combo->setAccessibleName(what);
   combo->setToolTip(what);
   combo->setMaxVisibleItems(16);
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToContents);  // in another language as well
   row.addWidget(combo);
   return combo;
 }
