@@ -243,6 +243,17 @@ TEST(Plates, EightOfTheLargestNeverOverlapCoverFeltOrMove) {
     for (int seat = 1; seat <= kSeats; ++seat) at[seat] = stage.PlateOf(seat).geometry();
     EXPECT_GE(table.view.Scale() * 1323 + 2, std::min<double>(table.width(), (table.height() - 80) / 0.449))
         << what << ": the table is small";
+    // The mark of an open position is seen whole whoever sits beside it.
+    const int mark = static_cast<int>(OpenMarkRadius(table.view.Scale()));
+    for (int seat = 3; seat <= 6; ++seat) {
+      const QPoint middle = table.PointOfSeat(seat) + table.pos();
+      for (int other = 1; other <= kSeats; ++other) {
+        if (other == seat) continue;
+        EXPECT_FALSE(at[other].intersects(QRect(middle.x() - mark, middle.y(), 2 * mark, 1)))
+            << what << " " << seat << other;
+      }
+      EXPECT_EQ(table.SeatAt(table.PointOfSeat(seat)), seat) << what;
+    }
     window.Bet(3, kPassLine, "500");
     LeaveTable(*window.game, 8);
     window.window.TheDesk().refresh();

@@ -127,8 +127,9 @@ void DrawFeltMarks(Overlay& over) {
 
 void DrawOpenPlace(Overlay& over, int seat) {
   const bool hover = over.scene.hoverSeat == seat || over.scene.movingPlayer;
-  const double radius = std::max(12.0, 11.4 * over.view.Scale());
-  const QPointF centre = over.view.ToScreen(over.layout.Seats[seat].Rail);
+  const double radius = OpenMarkRadius(over.view.Scale());
+  const QPointF centre =
+      over.view.ToScreen(over.layout.Seats[seat].Rail) + QPointF(over.scene.openShift[seat], 0);
   const QRectF box(centre.x() - radius - 1, centre.y() - radius - 1, 2 * radius + 2, 2 * radius + 2);
   DrawKept(over.painter, hover ? QStringLiteral("open+") : QStringLiteral("open"), box, [&](QPainter& brush) {
     brush.setPen(QPen(hover ? over.colors.Accent : over.colors.Line, hover ? 2 : 1.3));

@@ -2,7 +2,11 @@
 #pragma once
 
 #include <QPointF>
+#include <algorithm>
+#include <array>
 #include <vector>
+
+#include "base/table_types.h"
 
 namespace tessaryn {
 
@@ -26,6 +30,9 @@ struct FallenCheck {
   int Denomination = 1;
 };
 
+// The mark of an open position, in screen units; scale: pixels per table unit.
+inline double OpenMarkRadius(double scale) { return std::max(12.0, 11.4 * scale); }
+
 // What of the state is shown, and how.
 struct TableScene {
   const Game* game = nullptr;
@@ -38,8 +45,11 @@ struct TableScene {
   int focusBet = 0;    // the area with the keyboard's focus
   int focusSide = 0;
   int hoverSeat = 0;  // an open position under the pointer
-  int heldBet = 0;    // a stack of the selected seat that hangs on the pointer
-  QPointF heldAt;     // there, on the screen
+  // How far the mark of an open position stands off its place, in screen units to the right: where the
+  // plate in the corner would cover it. Index by seat.
+  std::array<double, kSeatRows> openShift{};
+  int heldBet = 0;  // a stack of the selected seat that hangs on the pointer
+  QPointF heldAt;   // there, on the screen
   bool movingPlayer = false;
   std::vector<FallenCheck> rain;
   BetPiles* piles = nullptr;  // not owned; null: checks are always changed for the fewest

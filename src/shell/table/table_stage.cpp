@@ -1,5 +1,7 @@
 #include "shell/table/table_stage.h"
 
+#include <utility>
+
 #include "shell/table/badges.h"
 #include "shell/table/board.h"
 #include "shell/table/table_widget.h"
@@ -46,6 +48,7 @@ void TableStage::PlaceThePlates() {
   const PlatePlaces places = PlacePlates(size(), table_->geometry(), table_->view, measures_, fitted);
   const bool small = PlateSize(size(), measures_) != measures_.plate;
   const double letters = small ? MeasuresOf(kSmallestWindow).plateText : measures_.plateText;
+  ShiftOpenMarks(places, fitted);
   for (int seat = 1; seat <= kSeats; ++seat) {
     const QRect& place = places[seat];
     int tip = -1;
@@ -55,6 +58,19 @@ void TableStage::PlaceThePlates() {
     plates_[seat]->setGeometry(tip < 0 ? place : place.adjusted(0, -kPlateTip, 0, 0));
     plates_[seat]->SetLook(letters, tip);
     plates_[seat]->raise();
+  }
+}
+
+// Those beside the corners, whoever sits there: nothing moves as players come and go.
+void TableStage::ShiftOpenMarks(const PlatePlaces& places, bool fitted) {
+  constexpr std::pair<int, int> kCorners[] = {{2, 3}, {7, 6}};  // the plate, and the seat beside it
+  const double room = OpenMarkRadius(table_->view.Scale()) + 3;
+  for (const auto& [corner, seat] : kCorners) {
+    const QRectF plate = QRectF(places[corner]).translated(-table_->pos());
+    const QPointF mark = table_->view.ToScreen(table_->Layout().Seats[seat].Rail);
+    const bool covered = fitted && plate.adjusted(-room, -room, room, room).contains(mark);
+    const double free = corner == 2 ? plate.right() + room : plate.left() - room;
+    table_->scene.openShift[seat] = covered ? free - mark.x() : 0;
   }
 }
 

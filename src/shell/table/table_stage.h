@@ -45,6 +45,7 @@ class TableStage : public QWidget {
  private:
   void Place();
   void PlaceThePlates();
+  void ShiftOpenMarks(const PlatePlaces& places, bool fitted);
 
   Game& game_;
   Measures measures_;

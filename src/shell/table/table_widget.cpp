@@ -274,7 +274,8 @@ QPoint TableWidget::PointOfStack(int seat, int bet) const {
 }
 
 QPoint TableWidget::PointOfSeat(int seat) const {
-  return view.ToScreen(layout_.Seats[seat].Rail + layout_.Seats[seat].Out * 8).toPoint();
+  const SeatPlace& place = layout_.Seats[seat];
+  return (view.ToScreen(place.Rail + place.Out * 8) + QPointF(scene.openShift[seat], 0)).toPoint();
 }
 
 // --- The pointer.
