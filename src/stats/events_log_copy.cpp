@@ -84,7 +84,8 @@ bool SaveEventsLogAs(Game& game, const std::string& path, std::string& error) {
   FlushEventsLog(game);
   const std::string from = EventsLogPath(game);
   std::error_code fault;
-  if (std::filesystem::weakly_canonical(path, fault) == std::filesystem::weakly_canonical(from, fault)) return true;
+  if (std::filesystem::weakly_canonical(path, fault) == std::filesystem::weakly_canonical(from, fault))
+    return true;
   EventsLogCopy copy;
   copy.From = from;
   copy.To = path;

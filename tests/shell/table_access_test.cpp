@@ -190,7 +190,8 @@ TEST(TableTouch, ATapBetsALongPressBringsTheMenuAndTwoFingersZoom) {
   QTest::qWait(750);
   auto* menu = table.felt.findChild<QMenu*>("mnuTouch");
   ASSERT_NE(menu, nullptr);
-  test::QtWarnings().removeAll("This plugin does not support grabbing the keyboard");  // says the offscreen one
+  test::QtWarnings().removeAll(
+      "This plugin does not support grabbing the keyboard");  // says the offscreen one
   QTest::touchEvent(&table.felt, table.device).release(0, field, &table.felt);
   EXPECT_EQ(table.State().BetAmount(3, kField), once) << "the long press is no tap";
   menu->findChild<QAction*>("mnuTouchRemove")->trigger();

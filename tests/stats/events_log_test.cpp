@@ -1,5 +1,4 @@
 #include "stats/events_log.h"
-#include "stats/events_log_copy.h"
 
 #include <gtest/gtest.h>
 
@@ -16,6 +15,7 @@
 #include "rules/session.h"
 #include "rules/shooter.h"
 #include "state/run_stop.h"
+#include "stats/events_log_copy.h"
 #include "stats/log_index.h"
 #include "support/test_host.h"
 

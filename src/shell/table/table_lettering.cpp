@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 
-
 // In a library of its own a resource must be asked for, outside of any namespace.
 static void BringFonts() { Q_INIT_RESOURCE(fonts); }
 
