@@ -4728,7 +4728,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>All players</source>
-        <translation>Todos los jugadores</translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>&amp;Active</source>

@@ -4728,7 +4728,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>All players</source>
-        <translation>Tous les joueurs</translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>&amp;Active</source>

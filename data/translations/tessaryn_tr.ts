@@ -4728,7 +4728,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>All players</source>
-        <translation>Tüm oyuncular</translation>
+        <translation>Herkes</translation>
     </message>
     <message>
         <source>&amp;Active</source>
