@@ -3,8 +3,19 @@
 #include <QApplication>
 #include <QFont>
 #include <QLocale>
+#include <QPalette>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+
+namespace {
+
+// Each test begins on the same light desktop, whatever one before it looked like.
+struct SameDesktop : testing::EmptyTestEventListener {
+  const QPalette palette = QApplication::palette();
+  void OnTestStart(const testing::TestInfo&) override { QApplication::setPalette(palette); }
+};
+
+}  // namespace
 
 // The screens' tests need no screen: fonts, style, size and locale are pinned.
 int main(int count, char** arguments) {
@@ -16,5 +27,6 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setFont(QFont("DejaVu Sans", 10));
+  testing::UnitTest::GetInstance()->listeners().Append(new SameDesktop);
   return RUN_ALL_TESTS();
 }
