@@ -302,8 +302,9 @@ TEST(MainWindow, ItsPartsHaveTheToldHeights) {
                {{1920, 1080}, 56, 54, 24, {172, 78}, {118, 44}},
                {{800, 500}, 38, 36, 18, {122, 50}, {86, 31}}};
   for (const auto& told : kTold) {
-    Window window(told.size);
+    Window window;
     window.Join(1, "Ann");
+    window.window.resize(told.size);  // as it stands, not only when it comes up
     QApplication::processEvents();
     const auto& roll = Find<QPushButton>(window.window, "cmdRoll");
     EXPECT_EQ(window.TheBoard().height(), told.board);

@@ -198,6 +198,12 @@ void MainWindow::FitBar() {
   const bool pass = room - controls_->sizeHint().width() >= betButtons_->WantedWidth();
   controls_->ShowPass(pass);
   betButtons_->FitInto(room - controls_->sizeHint().width());
+  // At once, from the parts outwards: a window made narrower would show them over one another until then.
+  for (QWidget* part : {static_cast<QWidget*>(amounts_), static_cast<QWidget*>(betButtons_),
+                        static_cast<QWidget*>(controls_), bar_}) {
+    part->updateGeometry();
+    if (part->layout() != nullptr) part->layout()->activate();
+  }
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {
