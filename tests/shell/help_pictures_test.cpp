@@ -25,8 +25,8 @@ constexpr int kWidest = 820;
 void Keep(QWidget& widget, const QString& name) {
   QImage picture = widget.grab().toImage();
   if (picture.width() > kWidest) picture = picture.scaledToWidth(kWidest, Qt::SmoothTransformation);
-  picture = picture.convertToFormat(QImage::Format_RGB888)
-                .convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither | Qt::AvoidDither);
+  picture =
+      picture.convertToFormat(QImage::Format_RGB16, Qt::AvoidDither).convertToFormat(QImage::Format_RGB888);
   EXPECT_TRUE(picture.save(QString(kSourceFolder) + "/docs/help/pictures/" + name + ".png", "PNG", 0));
 }
 
