@@ -283,7 +283,9 @@ TEST(EventsLogScreen, ALargeLogIsSavedBesideTheWindow) {
     const bool saved = EventsLogPath(game) == copy.toStdString();
     EXPECT_EQ(saved, QFile::exists(copy));
     EXPECT_TRUE(saved || giveUp);
-    if (saved) EXPECT_EQ(QFileInfo(copy).size(), QFileInfo(QString::fromStdString(large)).size());
+    if (saved) {
+      EXPECT_EQ(QFileInfo(copy).size(), QFileInfo(QString::fromStdString(large)).size());
+    }
     if (saved) break;
   }
   const QStringList left = QDir(table.folder.path()).entryList(QDir::Files | QDir::Hidden);
