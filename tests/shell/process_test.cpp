@@ -34,7 +34,10 @@ class Display {
     server_.setArguments(
         {"-displayfd", "1", "-screen", "0", screen, "-fbdir", folder_.path(), "-nolisten", "tcp"});
     server_.start();
-    if (server_.waitForReadyRead(15'000)) name_ = ":" + QString(server_.readAllStandardOutput()).trimmed();
+    // The number comes as a line, which may come in parts.
+    while (!server_.canReadLine() && server_.waitForReadyRead(15'000)) {
+    }
+    if (server_.canReadLine()) name_ = ":" + QString(server_.readLine()).trimmed();
   }
   ~Display() {
     server_.terminate();
@@ -102,6 +105,7 @@ class Program {
     return tool.readAllStandardOutput();
   }
   void Do(const QStringList& arguments) { Ask(arguments); }
+  QString Windows() { return Ask({"search", "--onlyvisible", "--name", ".", "getwindowname", "%@"}); }
   // The titles of the boxes that are open. Tool tips have none.
   QStringList Boxes() {
     QStringList titles;
@@ -422,7 +426,9 @@ TEST(Program, ASignalAtTheFirstQuestionLeavesTheAutosave) {
   const std::string kept = ReadFile(autosave);
   Program program(evening.display, QString(test::kBinFolder) + "/tessaryn",
                   {"--data-folder", evening.data.path()});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000))
+      << evening.display.Name().toStdString() << ": " << program.Windows().toStdString()
+      << program.Complaints().toStdString();
   program.Terminate();
   EXPECT_TRUE(program.WaitForEnd());
   EXPECT_EQ(program.ExitCode(), 128 + SIGTERM);
@@ -434,7 +440,9 @@ TEST(Program, ADataFolderThatCantBeWrittenIsToldOnce) {
   FirstEvening evening;
   ASSERT_FALSE(evening.display.Name().isEmpty());
   Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", {"--data-folder", "/proc"});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000));
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000))
+      << evening.display.Name().toStdString() << ": " << program.Windows().toStdString()
+      << program.Complaints().toStdString();
   EXPECT_EQ(program.Boxes(), QStringList("Data Folder"));
   program.Settled();
   program.Key("Return");
