@@ -31,8 +31,8 @@ class Display {
   explicit Display(QSize size = {1400, 900}) {
     const QString screen = QString("%1x%2x24").arg(size.width()).arg(size.height());
     server_.setProgram("Xvfb");
-    server_.setArguments(
-        {"-displayfd", "1", "-screen", "0", screen, "-fbdir", folder_.path(), "-nolisten", "tcp"});
+    server_.setArguments({"-displayfd", "1", "-screen", "0", screen, "-fbdir", folder_.path(), "-nolisten",
+                          "tcp", "-noreset"});
     server_.start();
     // The number comes as a line, which may come in parts.
     while (!server_.canReadLine() && server_.waitForReadyRead(15'000)) {
