@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/letters.h"
 #include "base/bet_catalogue.h"
 #include "base/messages.h"
 #include "play/setting_effects.h"
@@ -81,10 +82,10 @@ int IndexOf(const SettingRow& row, std::string_view text) {
 
 Meaning MeaningOf(std::string_view name) {
   for (const StateRow& state : kStateRows)
-    if (SameWord(state.name, name)) return {nullptr, 0, &state};
+    if (SameLetters(state.name, name)) return {nullptr, 0, &state};
   const auto dot = name.rfind('.');
   for (const SettingRow& row : SettingRows()) {
-    if (!SameWord(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
+    if (!SameLetters(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
     const int index = !row.inRows                     ? 0
                       : dot == std::string_view::npos ? -1
                                                       : IndexOf(row, name.substr(dot + 1));
