@@ -13,11 +13,11 @@ using Json = nlohmann::ordered_json;
 Json MoneyJson(Currency value);
 Json StateJson(const Game& game);
 // The statistics of seat 0 to 8 and scope 0 to 4; bet 0 all bets that have any.
-Json StatsJson(const Game& game, int seat, int scope, int bet);
+Json StatsJson(const Game& game, SeatId seat, ScopeId scope, BetId bet);
 // What a bet is and costs for the selected seat, with the texts that the window tells.
-Json FactsJson(Game& game, int bet);
+Json FactsJson(Game& game, BetId bet);
 // The bets of a seat that are up, as {number: amount}.
-Json BetsUpJson(const Game& game, int seat);
+Json BetsUpJson(const Game& game, SeatId seat);
 
 struct RunFigures {
   std::int64_t rolls = 0;

@@ -17,7 +17,7 @@ namespace {
 struct StateRow {
   const char* name;
   bool bySeat;
-  std::string (*text)(const Game&, int seat);
+  std::string (*text)(const Game&, SeatId seat);
 };
 
 template <typename T>
@@ -46,13 +46,13 @@ constexpr StateRow kStateRows[] = {
     {"RecorderState", false, [](const Game& game, int) { return Whole(game.rollFile.RecorderState); }},
     {"RollFileName", false, [](const Game& game, int) { return game.rollFile.RollFileName; }},
     {"RollFileCursor", false, [](const Game& game, int) { return Whole(game.rollFile.RollFileCursor); }},
-    {"SeatName", true, [](const Game& game, int seat) { return game.table.seats[seat].SeatName; }},
+    {"SeatName", true, [](const Game& game, SeatId seat) { return game.table.seats[seat].SeatName; }},
     {"BankrollCurrent", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
     {"OnTableAmount", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].OnTableAmount); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.seats[seat].OnTableAmount); }},
     {"RailAmount", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].RailAmount); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.seats[seat].RailAmount); }},
 };
 
 // --- Names.
@@ -96,19 +96,19 @@ Meaning MeaningOf(std::string_view name) {
 
 bool HasMeaning(const Meaning& meaning, std::string_view name, std::string& error) {
   if (meaning.row != nullptr || meaning.state != nullptr) return true;
-  error = "There is no setting named \"" + std::string(name) + "\".";
+  error = MessageText<Msg::kNoSuchSetting>(With<"setting">(name));
   return false;
 }
 
-bool IsSeatNumber(int seat, std::string& error) {
+bool IsSeatNumber(SeatId seat, std::string& error) {
   if (seat >= 0 && seat <= kSeats) return true;
   error = MessageText<Msg::kNoSuchSeat>(With<"seat">(seat));
   return false;
 }
 
-bool BelongsToSeat(const Meaning& meaning, std::string_view name, int seat, std::string& error) {
+bool BelongsToSeat(const Meaning& meaning, std::string_view name, SeatId seat, std::string& error) {
   if (meaning.BySeat() || seat == 0) return true;
-  error = std::string(name) + " is the table's, not a seat's.";
+  error = MessageText<Msg::kSettingOfTable>(With<"setting">(name));
   return false;
 }
 
@@ -127,7 +127,7 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   const Meaning meaning = MeaningOf(name);
   if (!IsSeatNumber(change.seat, error) || !HasMeaning(meaning, name, error)) return false;
   if (meaning.state != nullptr) {
-    error = std::string(meaning.state->name) + " can only be read.";
+    error = MessageText<Msg::kSettingReadOnly>(With<"setting">(meaning.state->name));
     return false;
   }
   if (!BelongsToSeat(meaning, name, change.seat, error)) return false;
@@ -137,7 +137,7 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   }
   const bool everyPlayer = meaning.row->keeper == Keeper::kPlayer && change.seat == 0;
   if (!everyPlayer) return PutAt(game, meaning, SeatId(change.seat), text, error);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game.table, seat) && !PutAt(game, meaning, SeatId(seat), text, error)) return false;
   return true;
 }
@@ -236,11 +236,12 @@ bool IsSeatSetting(std::string_view name) {
   return meaning.row != nullptr && meaning.row->keeper == Keeper::kPlayer;
 }
 
-bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error) {
+bool SetSetting(Game& game, std::string_view name, SeatId seat, std::string_view value, std::string& error) {
   return SetSettings(game, {{std::string(name), seat, std::string(value)}}, error);
 }
 
-bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error) {
+bool GetSetting(const Game& game, std::string_view name, SeatId seat, std::string& value,
+                std::string& error) {
   const std::string trimmed = Trimmed(name);
   const Meaning meaning = MeaningOf(trimmed);
   if (!HasMeaning(meaning, trimmed, error) || !IsSeatNumber(seat, error) ||
