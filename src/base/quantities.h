@@ -56,9 +56,11 @@ struct Limits {
 
 // What the names of an enum number, if they do: they then are ids of that kind and of no other.
 template <typename Names>
-struct KindOf {
+struct IdKind {
   using Kind = void;
 };
+template <typename Names, typename Kind>
+inline constexpr bool kNamesOthers = std::is_enum_v<Names> && !std::same_as<typename IdKind<Names>::Kind, Kind>;
 
 // The number of one of several: a seat, a bet, a roll. It comes from a plain number and serves as one, so
 // that tables are reached by it; but it never turns into a number of another kind, nor is it compared with
@@ -69,8 +71,8 @@ struct Id {
 
   constexpr Id() = default;
   constexpr Id(Number number) : value(number) {}
-  template <typename Names>
-  requires std::is_enum_v<Names> &&(!std::same_as<typename KindOf<Names>::Kind, Kind>)Id(Names) = delete;
+  template <typename Names, std::enable_if_t<kNamesOthers<Names, Kind>, int> = 0>
+  Id(Names) = delete;
   constexpr operator Number() const { return value; }
   constexpr Id& operator++() {
     ++value;

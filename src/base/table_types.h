@@ -99,7 +99,7 @@ enum Bet : int {
   kFire = 93,
 };
 template <>
-struct KindOf<Bet> {
+struct IdKind<Bet> {
   using Kind = BetKind;
 };
 static_assert(std::is_convertible_v<Bet, BetId> && !std::is_convertible_v<Bet, SeatId>);
@@ -113,7 +113,7 @@ constexpr bool IsBoxNumber(int number) { return number >= 4 && number <= 10 && n
 // Scopes of the statistics; a slot is scope * 9 + seat.
 enum Scope : int { kCurrentHand = 0, kLastHand = 1, kCurrentSession = 2, kLastSession = 3, kAllSessions = 4 };
 template <>
-struct KindOf<Scope> {
+struct IdKind<Scope> {
   using Kind = ScopeKind;
 };
 inline constexpr int kScopes = 5;

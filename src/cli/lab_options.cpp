@@ -230,7 +230,7 @@ int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion
       return Wrong(std::string("--find and ") + other + " can't be used together");
   if (options.find != "bankroll") {
     const bool ofStack = options.find.starts_with("stack:") && options.find.size() > 6;
-    const BetId bet = ofStack ? BetByName("cs" + options.find.substr(6)) : 0;
+    const BetId bet = ofStack ? BetByName("cs" + options.find.substr(6)) : kNoBet;
     if (!IsCheckStack(bet))
       return Wrong("--find " + options.find +
                    ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");

@@ -187,8 +187,8 @@ bool Rename(Call& call) {
 }
 
 bool Move(Call& call) {
-  int from = 0;
-  int to = 0;
+  SeatId from;
+  SeatId to;
   if (!WantWords(call, 3, 3, "move SEAT SEAT") || !Player(call, 1, from) || !SeatNumber(call, 2, to))
     return false;
   return MovePlayer(call.game, from, to, call.error);

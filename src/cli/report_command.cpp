@@ -142,7 +142,7 @@ bool PickOneSeat(const Game& game, bool named, ReportSelection& selection, std::
     error = "this report is of one seat";
     return false;
   }
-  selection.seat = seats.empty() ? 0 : seats.front();
+  selection.seat = seats.empty() ? kNobody : seats.front();
   if (!named && IsOccupied(game.table, game.table.SelectedSeat)) selection.seat = game.table.SelectedSeat;
   return true;
 }

@@ -5,6 +5,16 @@
 
 #include "state/game.h"
 
+namespace tessaryn {
+
+// How the library of JSON writes a seat or a bet: as its number.
+template <typename Json, typename Kind, typename Number>
+void to_json(Json& json, Id<Kind, Number> id) {
+  json = id.value;
+}
+
+}  // namespace tessaryn
+
 namespace tessaryn::cli {
 
 using Json = nlohmann::ordered_json;

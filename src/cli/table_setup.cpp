@@ -81,7 +81,7 @@ bool ParseSettingName(const std::string& text, std::string& name, SeatId& seat) 
   seat = 0;
   if (at == std::string::npos) return true;
   const char* last = text.data() + text.size();
-  const auto [end, fault] = std::from_chars(text.data() + at + 1, last, seat);
+  const auto [end, fault] = std::from_chars(text.data() + at + 1, last, seat.value);
   return fault == std::errc() && end == last;
 }
 

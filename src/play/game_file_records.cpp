@@ -48,6 +48,8 @@ bool FromWhole(std::int64_t number, T& value) {
     value = number != 0;
   } else if constexpr (HasRaw<T>) {
     value.raw = number;
+  } else if constexpr (kIsId<T>) {
+    return FromWhole(number, value.value);
   } else {
     value = static_cast<T>(number);
     return static_cast<std::int64_t>(value) == number;

@@ -321,7 +321,7 @@ bool MovePlayer(Game& game, SeatId fromSeat, SeatId toSeat, std::string& error) 
   }
   if (!error.empty()) return false;
   SwapSeats(game, fromSeat, toSeat);
-  for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
+  for (SeatId* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
   LogPlayerMoved(game, toSeat);

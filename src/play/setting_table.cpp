@@ -26,26 +26,26 @@ std::string Whole(T value) {
 }
 
 constexpr StateRow kStateRows[] = {
-    {"Point", false, [](const Game& game, int) { return Whole(game.table.Point); }},
-    {"LastPoint", false, [](const Game& game, int) { return Whole(game.table.LastPoint); }},
-    {"Die1", false, [](const Game& game, int) { return Whole(game.table.Die1); }},
-    {"Die2", false, [](const Game& game, int) { return Whole(game.table.Die2); }},
-    {"RollTotal", false, [](const Game& game, int) { return Whole(game.table.RollTotal); }},
-    {"ShooterSeat", false, [](const Game& game, int) { return Whole(game.table.ShooterSeat); }},
-    {"HandSeat", false, [](const Game& game, int) { return Whole(game.table.HandSeat); }},
-    {"SelectedSeat", false, [](const Game& game, int) { return Whole(game.table.SelectedSeat); }},
-    {"OccupiedSeats", false, [](const Game& game, int) { return Whole(game.table.OccupiedSeats); }},
-    {"NumberMarks", false, [](const Game& game, int) { return Whole(game.table.NumberMarks); }},
-    {"FourRollCount", false, [](const Game& game, int) { return Whole(game.table.FourRollCount); }},
-    {"FireMarks", false, [](const Game& game, int) { return Whole(game.table.FireMarks); }},
-    {"FireCount", false, [](const Game& game, int) { return Whole(game.table.FireCount); }},
-    {"SharpShooterCount", false, [](const Game& game, int) { return Whole(game.table.SharpShooterCount); }},
-    {"RideTheLineCount", false, [](const Game& game, int) { return Whole(game.table.RideTheLineCount); }},
-    {"RngLastSeed", false, [](const Game& game, int) { return Whole(game.generators.RngLastSeed); }},
-    {"StopReason", false, [](const Game& game, int) { return game.table.StopReason; }},
-    {"RecorderState", false, [](const Game& game, int) { return Whole(game.rollFile.RecorderState); }},
-    {"RollFileName", false, [](const Game& game, int) { return game.rollFile.RollFileName; }},
-    {"RollFileCursor", false, [](const Game& game, int) { return Whole(game.rollFile.RollFileCursor); }},
+    {"Point", false, [](const Game& game, SeatId) { return Whole(game.table.Point); }},
+    {"LastPoint", false, [](const Game& game, SeatId) { return Whole(game.table.LastPoint); }},
+    {"Die1", false, [](const Game& game, SeatId) { return Whole(game.table.Die1); }},
+    {"Die2", false, [](const Game& game, SeatId) { return Whole(game.table.Die2); }},
+    {"RollTotal", false, [](const Game& game, SeatId) { return Whole(game.table.RollTotal); }},
+    {"ShooterSeat", false, [](const Game& game, SeatId) { return Whole(game.table.ShooterSeat); }},
+    {"HandSeat", false, [](const Game& game, SeatId) { return Whole(game.table.HandSeat); }},
+    {"SelectedSeat", false, [](const Game& game, SeatId) { return Whole(game.table.SelectedSeat); }},
+    {"OccupiedSeats", false, [](const Game& game, SeatId) { return Whole(game.table.OccupiedSeats); }},
+    {"NumberMarks", false, [](const Game& game, SeatId) { return Whole(game.table.NumberMarks); }},
+    {"FourRollCount", false, [](const Game& game, SeatId) { return Whole(game.table.FourRollCount); }},
+    {"FireMarks", false, [](const Game& game, SeatId) { return Whole(game.table.FireMarks); }},
+    {"FireCount", false, [](const Game& game, SeatId) { return Whole(game.table.FireCount); }},
+    {"SharpShooterCount", false, [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
+    {"RideTheLineCount", false, [](const Game& game, SeatId) { return Whole(game.table.RideTheLineCount); }},
+    {"RngLastSeed", false, [](const Game& game, SeatId) { return Whole(game.generators.RngLastSeed); }},
+    {"StopReason", false, [](const Game& game, SeatId) { return game.table.StopReason; }},
+    {"RecorderState", false, [](const Game& game, SeatId) { return Whole(game.rollFile.RecorderState); }},
+    {"RollFileName", false, [](const Game& game, SeatId) { return game.rollFile.RollFileName; }},
+    {"RollFileCursor", false, [](const Game& game, SeatId) { return Whole(game.rollFile.RollFileCursor); }},
     {"SeatName", true, [](const Game& game, SeatId seat) { return game.table.seats[seat].SeatName; }},
     {"BankrollCurrent", true,
      [](const Game& game, SeatId seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
@@ -76,7 +76,7 @@ int IndexOf(const SettingRow& row, std::string_view text) {
   int index = -1;
   const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), index);
   const bool whole = fault == std::errc() && end == text.data() + text.size();
-  return whole || !row.byBets ? index : BetByName(text);
+  return whole || !row.byBets ? index : BetByName(text).value;
 }
 
 Meaning MeaningOf(std::string_view name) {

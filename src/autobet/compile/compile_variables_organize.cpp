@@ -364,7 +364,7 @@ class StatementOrganizer {
       nodes_[lastWritten_].next = group.player.first;
       lastWritten_ = group.player.last;
     } else {
-      Write({kTokenPlayer, static_cast<double>(reference.wholeTable ? 0 : player_)});
+      Write({kTokenPlayer, static_cast<double>(reference.wholeTable ? kHouse : player_)});
     }
     if (reference.referenceClass == ReferenceClass::kPlayer) return;
     if (group.scope == kNotGiven) group.scope = kScopeCurrentSession;

@@ -83,7 +83,7 @@ int HardNumber(double number) { return PlaceAmong(kHardNumbers, number); }
 int Faces(double number) {
   int die1 = 0;
   int die2 = 0;
-  const BetId bet = FacesOf(number, die1, die2) ? HopBet(die1, die2) : 0;
+  const BetId bet = FacesOf(number, die1, die2) ? HopBet(die1, die2) : kNoBet;
   return bet == 0 ? -1 : bet - kHop13;
 }
 
