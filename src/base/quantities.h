@@ -60,7 +60,8 @@ struct IdKind {
   using Kind = void;
 };
 template <typename Names, typename Kind>
-inline constexpr bool kNamesOthers = std::is_enum_v<Names> && !std::same_as<typename IdKind<Names>::Kind, Kind>;
+inline constexpr bool kNamesOthers =
+    !std::is_void_v<typename IdKind<Names>::Kind> && !std::same_as<typename IdKind<Names>::Kind, Kind>;
 
 // The number of one of several: a seat, a bet, a roll. It comes from a plain number and serves as one, so
 // that tables are reached by it; but it never turns into a number of another kind, nor is it compared with
