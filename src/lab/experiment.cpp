@@ -12,7 +12,7 @@ namespace tessaryn {
 namespace {
 
 constexpr const char* kPlayer = "Lab";
-constexpr int kSeat = 1;
+constexpr SeatId kSeat = 1;
 // What a script of the laboratory asks to write leads nowhere: sessions run side by side.
 constexpr const char* kNowhere = "/dev/null/";
 

@@ -23,7 +23,7 @@ TESSARYN_FIELDS(StackStart, stack, amount)
 
 struct LabSetting {
   std::string name;
-  int seat = 0;
+  SeatId seat = 0;
   std::string text;  // its value
 };
 TESSARYN_FIELDS(LabSetting, name, seat, text)
@@ -78,7 +78,7 @@ std::string LabelOf(const LabSystem& system);
 
 // A standing bet: put up again before each roll when it is down.
 struct StandingBet {
-  int bet = 0;
+  BetId bet = 0;
   Currency amount;
 };
 LabSystem StandingBetSystem(const std::string& name, const std::vector<StandingBet>& bets);

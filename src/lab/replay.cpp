@@ -8,7 +8,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr int kSeat = 1;
+constexpr SeatId kSeat = 1;
 
 }  // namespace
 

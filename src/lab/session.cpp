@@ -17,7 +17,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr int kSeat = 1;
+constexpr SeatId kSeat = 1;
 constexpr int kStatementsOfALook = 64;  // at full speed the interpreter gives way so often
 
 }  // namespace
@@ -67,7 +67,7 @@ struct IsSeatBetTable<SeatBetTable<T, kRows>> : std::true_type {};
 template <typename T, int kRows>
 void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fresh,
                const TouchedBets& touched) {
-  touched.bets.ForEach([&](int bet) { cells(kSeat, bet) = fresh(kSeat, bet); });
+  touched.bets.ForEach([&](BetId bet) { cells(kSeat, bet) = fresh(kSeat, bet); });
   if constexpr (kRows == kBetRows)
     touched.stacks.ForEach(
         [&](int stack) { cells(kSeat, kFirstCheckStack + stack) = fresh(kSeat, kFirstCheckStack + stack); });
@@ -97,7 +97,7 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
     if constexpr (IsSeatBetTable<Member>::value)
       ResetRows(table.*member, fresh.*member, touched);
     else if constexpr (std::is_same_v<Member, SeatState[kSeatRows]>)
-      for (int seat = 0; seat <= kSeat; ++seat) ResetPart(table.seats[seat], fresh.seats[seat]);
+      for (SeatId seat = 0; seat <= kSeat; ++seat) ResetPart(table.seats[seat], fresh.seats[seat]);
     else
       ResetPart(table.*member, fresh.*member);
   });
@@ -116,7 +116,7 @@ std::size_t CellsCounted(const std::int32_t (&row)[kGapCells]) {
 }
 
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
-  const auto resetBet = [&](int bet) {
+  const auto resetBet = [&](BetId bet) {
     std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
   };
   resetBet(0);
@@ -297,7 +297,7 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
 
 bool ContractIsUp(const Game& game) {
   bool up = false;
-  game.table.seats[kSeat].SeatBets.ForEach([&](int bet) {
+  game.table.seats[kSeat].SeatBets.ForEach([&](BetId bet) {
     up = up || (UnderContract(game.table, bet) && game.table.BetCommitted(kSeat, bet) > kZero);
   });
   return up;
@@ -365,7 +365,7 @@ bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, Se
 // The amounts that were decided, in the hand and before it.
 Currency HandleOf(const Statistics& stats, const TouchedBets& touched) {
   Currency handle;
-  touched.bets.ForEach([&](int bet) {
+  touched.bets.ForEach([&](BetId bet) {
     const auto& scopes = stats.Bets[bet][kSeat];
     handle += scopes[kCurrentSession].kinds[kWagerStats][kStatTotal - 1] +
               scopes[kCurrentHand].kinds[kWagerStats][kStatTotal - 1];

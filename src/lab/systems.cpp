@@ -56,7 +56,7 @@ bool ReadValues(const std::string& text, std::vector<Currency>& values) {
 
 std::string SweepStack(const std::string& text, std::vector<LabSystem>& systems) {
   const auto equals = text.find('=');
-  const int bet = BetByName("cs" + text.substr(0, equals));
+  const BetId bet = BetByName("cs" + text.substr(0, equals));
   if (equals == std::string::npos || equals == 0 || !IsCheckStack(bet))
     return "expected N=VALUE,... with a CheckStack N from 0 to 99";
   const int stack = bet - kFirstCheckStack;

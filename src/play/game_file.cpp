@@ -57,7 +57,7 @@ FileReference ReferenceTo(const std::string& path) {
   return {full, GameFileDate(full)};
 }
 
-std::string DefaultSessionsLog(const Game& game, int seat) {
+std::string DefaultSessionsLog(const Game& game, SeatId seat) {
   return game.dataFolder + Lowered(game.table.seats[seat].SeatName) + ".slg";
 }
 
@@ -70,7 +70,7 @@ GameReferences ReferencesOf(const Game& game, const std::string& probabilityFile
   // A log that nothing was ever written to is none.
   const std::string log = EventsLogPath(game);
   if (!game.events.Path.empty() || Exists(log)) references.eventsLog = ReferenceTo(log);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     references.script[seat] = ReferenceTo(game.autobet.Scripts[seat].ScriptFileName);
     references.sessionsLog[seat] = ReferenceTo(game.table.seats[seat].SessionsLogName);
   }
@@ -94,7 +94,7 @@ std::string ReferencesProblem(const Game& game, const GameReferences& references
   look(MessageText<Msg::kPathOfRollFile>(), references.rollFile.path);
   look(MessageText<Msg::kPathOfProbabilities>(), references.probability.path);
   look(MessageText<Msg::kPathOfEventsLog>(), references.eventsLog.path);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = game.table.seats[seat].SeatName;
     if (name.empty()) continue;
     look(MessageText<Msg::kNameOfSeat>(With<"seat">(seat)), name);
@@ -114,7 +114,7 @@ std::uint64_t DigestOf(const Game& game) {
   GameReferences references = ReferencesOf(game, game.percentage.ProbFileName);
   for (FileReference* reference : {&references.rollFile, &references.probability, &references.eventsLog})
     reference->date.clear();
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     references.script[seat].date = references.sessionsLog[seat].date = "";
   std::uint64_t digest = kDigestStart;
   for (const Record& record : WriteGameRecords(game, references, GameFileKind::kDigest).Records)
@@ -233,7 +233,7 @@ void TellFile(Game& game, const FileReference& reference) {
 }
 
 template <Msg kId>
-void TellScript(Game& game, int seat, const FileReference& reference) {
+void TellScript(Game& game, SeatId seat, const FileReference& reference) {
   ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"path">(reference.path));
 }
 
@@ -353,7 +353,7 @@ void OpenReferredLog(Game& game, const FileReference& reference) {
   TellFile<Msg::kEventsLogMissing>(game, reference);
 }
 
-void DropScript(Game& game, int seat) {
+void DropScript(Game& game, SeatId seat) {
   AutoBet& autobet = game.autobet;
   SeatScript& script = autobet.Scripts[seat];
   script.ScriptLines.clear();
@@ -364,7 +364,7 @@ void DropScript(Game& game, int seat) {
       std::any_of(autobet.ScriptActive + 1, autobet.ScriptActive + kSeatRows, [](bool on) { return on; });
 }
 
-void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
+void OpenReferredScript(Game& game, SeatId seat, const FileReference& reference) {
   SeatScript& script = game.autobet.Scripts[seat];
   script.ScriptFileName = reference.path;
   if (reference.path.empty()) return;
@@ -387,7 +387,7 @@ void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
   script.ScriptNesting.clear();
 }
 
-void OpenReferredSessionsLog(Game& game, int seat, const FileReference& reference) {
+void OpenReferredSessionsLog(Game& game, SeatId seat, const FileReference& reference) {
   std::string& log = game.table.seats[seat].SessionsLogName;
   log = reference.path;
   if (reference.date.empty() || Exists(reference.path)) return;
@@ -401,7 +401,7 @@ void OpenReferredFiles(Game& game, const Game& loaded, const GameReferences& ref
   OpenReferredRollFile(game, loaded.rollFile, references.rollFile);
   OpenReferredProbabilities(game, loaded.percentage, references.probability, as);
   OpenReferredLog(game, references.eventsLog);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     OpenReferredScript(game, seat, references.script[seat]);
     OpenReferredSessionsLog(game, seat, references.sessionsLog[seat]);

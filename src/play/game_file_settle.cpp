@@ -17,7 +17,7 @@ std::string SettlePlayers(Game& game) {
   TableState& table = game.table;
   const int told = table.OccupiedSeats;
   table.OccupiedSeats = 0;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = table.seats[seat].SeatName;
     if (name.empty()) continue;
     if (!TextProblem(name).empty()) return "the name of seat " + std::to_string(seat);
@@ -43,10 +43,10 @@ std::string SettleBets(Game& game) {
   TableState& table = game.table;
   table.AnyBets.Clear();
   std::fill(std::begin(table.SeatsUp), std::end(table.SeatsUp), std::uint8_t{0});
-  for (int seat = 0; seat < kSeatRows; ++seat) table.seats[seat].SeatBets.Clear();
+  for (SeatId seat = 0; seat < kSeatRows; ++seat) table.seats[seat].SeatBets.Clear();
   for (int place = 0; place < kSeats; ++place) {
-    const int seat = kPayOrder[static_cast<std::size_t>(place)];
-    for (int bet = 0; bet < kBetRows; ++bet) {
+    const SeatId seat = kPayOrder[static_cast<std::size_t>(place)];
+    for (BetId bet = 0; bet < kBetRows; ++bet) {
       const Currency amount = table.BetAmount(seat, bet);
       if (IsCheckStack(bet) && (amount > kStackLimit || amount < -kStackLimit)) return "a CheckStack";
       if (!IsTableBet(bet) && !IsCheckStack(bet) && amount != kZero) return "a bet that is none";
@@ -103,7 +103,7 @@ std::string SettleStatistics(Game& game) {
 std::string SettleScripts(Game& game) {
   AutoBet& autobet = game.autobet;
   autobet.ScriptActive[0] = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = autobet.Scripts[seat];
     if (script.ScriptNesting.size() != script.ScriptLines.size()) script.ScriptNesting.clear();
     if (!IsOccupied(game.table, seat)) autobet.ScriptActive[seat] = false;

@@ -13,7 +13,7 @@
 namespace tessaryn {
 namespace {
 
-using Seats = std::vector<int>;
+using Seats = std::vector<SeatId>;
 
 // --- Hands.
 
@@ -29,9 +29,9 @@ struct Hands {
   std::int32_t most[kHandKinds] = {};
 };
 
-Hands HandsOf(const Statistics& stats, int scope, const Seats& seats) {
+Hands HandsOf(const Statistics& stats, ScopeId scope, const Seats& seats) {
   Hands sum;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     const int slot = Slot(scope, seat);
     sum.rolls += RollCount(stats, scope, seat, 0);
     sum.hands += stats.HandCount[slot];
@@ -142,12 +142,12 @@ bool IsFarOff(std::int64_t count, std::int64_t rolls, double chance) {
 }
 
 // The latest roll of an item is counted over the session alone.
-bool HasRollsSinceLast(int scope) { return scope == kCurrentHand || scope == kCurrentSession; }
+bool HasRollsSinceLast(ScopeId scope) { return scope == kCurrentHand || scope == kCurrentSession; }
 
 ReportRow BarRow(const Game& game, const ReportSelection& selection, const Seats& seats, const Bar& bar) {
   std::int64_t rolls = 0;
   std::int64_t count = 0;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     rolls += RollCount(game.stats, selection.scope, seat, 0);
     count += RollCount(game.stats, selection.scope, seat, bar.item);
   }

@@ -71,7 +71,7 @@ struct LuckMeter {
   std::size_t riding[kSeatRows] = {};        // places in plans
   std::size_t lastRide[kSeatRows][11] = {};  // by the point: of the last roll that it was on
   std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
-  std::int64_t roll = 0;
+  RollNumber roll = 0;
   std::int64_t throwsBefore = -1;
 };
 
@@ -98,6 +98,6 @@ struct LuckReport {
   double standardDeviation = 0;  // of luck
   double deviations = 0;         // luck in standard deviations; 0 without any
 };
-LuckReport LuckOf(const LuckMeter& meter, int seat);
+LuckReport LuckOf(const LuckMeter& meter, SeatId seat);
 
 }  // namespace tessaryn

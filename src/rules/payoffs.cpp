@@ -234,7 +234,7 @@ ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const c
 }
 
 struct LineRow {
-  int bet;
+  BetId bet;
   const char* name;
 };
 constexpr LineRow kLineRows[] = {{45, "Passline/Come (c.o.)"},
@@ -269,7 +269,7 @@ PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row) {
   return tables[table][row];
 }
 
-const PayoffRecord& PayoffOf(const Game& game, int bet) {
+const PayoffRecord& PayoffOf(const Game& game, BetId bet) {
   const PayoffRecord* records = game.payoffs.PayoffTable;
   if (bet != kPassLineOdds && bet != kDontPassOdds) return records[bet];
   const TableState& table = game.table;
@@ -278,7 +278,7 @@ const PayoffRecord& PayoffOf(const Game& game, int bet) {
   return records[BetOn(bet == kPassLineOdds ? kComeOdds4 : kDontComeOdds4, point)];
 }
 
-std::span<const PayoffRecord> PayoffRowsOf(const Game& game, int bet) {
+std::span<const PayoffRecord> PayoffRowsOf(const Game& game, BetId bet) {
   const int table = static_cast<int>(FamilyRowOf(bet).payoffs);
   if (table == 0) return {&PayoffOf(game, bet), 1};
   const PayoffTableInfo& rows = kTables[table];

@@ -86,11 +86,11 @@ TESSARYN_FIELDS(HotKey, key, path, description)
 
 // What is selected on the reports.
 struct ReportsShown {
-  int Scope = 2;                // 0 to 4, as statistics have it
+  ScopeId Scope = 2;            // 0 to 4, as statistics have it
   std::uint32_t Seats = 0x1FE;  // bit i: seat i
-  int Seat = 0;                 // of Bet Trends; 0 the selected player
+  SeatId Seat = 0;              // of Bet Trends; 0 the selected player
   bool AllBets = true;
-  std::vector<int> Bets;  // without AllBets, ascending
+  std::vector<BetId> Bets;  // without AllBets, ascending
   bool HandsPercent = false;
   int RollGrouping = 0;  // 0 totals, 1 pairs, 2 combinations, 3 faces
   bool HideProbabilities = false;
@@ -115,7 +115,7 @@ struct GraphShown {
 TESSARYN_FIELDS(GraphShown, GraphStyle, GraphColors, TogetherSeats, GraphsPerPage)
 
 struct CheckStacksShown {
-  int CheckStackSeat = 0;  // 0 the selected player
+  SeatId CheckStackSeat = 0;  // 0 the selected player
   bool DisplayZero = false;
   int ListFontSize = 0;  // points, 9 to 16; 0 the desktop's
 };

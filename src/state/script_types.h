@@ -116,7 +116,7 @@ struct ScriptSurroundings {
 
 // A script that compiled, and all that it was compiled from.
 struct KeptScript {
-  int seat = 0;
+  SeatId seat = 0;
   std::vector<std::string> lines;
   ScriptSurroundings surroundings;
   CompiledScript script;

@@ -263,7 +263,7 @@ std::string OpenLogIndex(LogIndex& index, const std::string& path, const std::st
   if (fstat(index.Text, &status) != 0 || !S_ISREG(status.st_mode)) {
     CloseLogIndex(index);
     return S_ISDIR(status.st_mode) ? FileErrorText("open", path, EISDIR)
-                                   : "Unable to open " + path + ": it is not a file.";
+                                   : MessageText<Msg::kNotAFile>(With<"path">(path));
   }
   if (!reference.empty() && !filter.IsOn())
     index.Reference = open(reference.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);

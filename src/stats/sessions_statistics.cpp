@@ -95,7 +95,7 @@ bool HoldsSeveral(const SessionsStatistics& s, int column) {
   return s.ColumnLow[column] != s.ColumnHigh[column];
 }
 
-int NextOccupied(const SessionsStatistics& s, int column) {
+SeatId NextOccupied(const SessionsStatistics& s, int column) {
   while (++column < kHistogramColumns - 1 && s.Histogram[column] == 0) {
   }
   return column;

@@ -24,6 +24,6 @@ struct VocabularyRow {
 const std::vector<VocabularyRow>& VocabularyRows();
 
 // The first word or phrase of the language that means bet 1 to 93; empty for any other number.
-std::string_view BetWord(int bet);
+std::string_view BetWord(BetId bet);
 
 }  // namespace tessaryn

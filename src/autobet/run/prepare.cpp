@@ -245,7 +245,7 @@ class ProgramPreparer {
   ProgramCode code_;
   ExpressionPreparer expressions_;
   std::vector<std::int32_t> statementOf_;  // by record: the statement that it is of
-  int owner_ = 0;                          // whose script it is; 0 a hot-key's
+  SeatId owner_ = 0;                       // whose script it is; 0 a hot-key's
   int line_ = 0;
   int column_ = 0;
   bool inCondition_ = false;

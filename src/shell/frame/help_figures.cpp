@@ -39,9 +39,9 @@ QString TableHead(const QStringList& cells, const QStringList& sides) {
 }
 
 // The bets of "place4" or of "place".
-std::vector<int> BetsNamed(const QString& name) {
-  std::vector<int> bets;
-  for (int bet = 1; bet <= kBets; ++bet) {
+std::vector<BetId> BetsNamed(const QString& name) {
+  std::vector<BetId> bets;
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const QString word = QString::fromLatin1(FactsOf(bet).scriptName);
     const QString behind = word.mid(name.size());
     const bool numbered =
@@ -53,7 +53,7 @@ std::vector<int> BetsNamed(const QString& name) {
   return bets;
 }
 
-QString PaysText(const Game& game, int bet) {
+QString PaysText(const Game& game, BetId bet) {
   const QString pays = Plain(Told(game, PaysOf(game, bet)));
   if (pays.isEmpty()) return QCoreApplication::translate("HelpFigures", "as odds on the point");
   if (!HasVig(bet)) return pays;
@@ -69,14 +69,14 @@ QString PercentText(double share) {
 
 QString Figures(const Game& game, const QString& what) {
   struct Line {
-    int bet;
+    BetId bet;
     Advantage figures;
   };
   std::vector<Line> lines;
   for (const QString& name : what.split(',')) {
-    const std::vector<int> bets = BetsNamed(name.trimmed());
+    const std::vector<BetId> bets = BetsNamed(name.trimmed());
     if (bets.empty()) return {};
-    for (const int bet : bets) lines.push_back({bet, FigureAdvantage(game, bet)});
+    for (const BetId bet : bets) lines.push_back({bet, FigureAdvantage(game, bet)});
   }
   if (what == "all")
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
@@ -101,7 +101,7 @@ QString Figures(const Game& game, const QString& what) {
 
 // Rows in a row that pay the same share a line.
 QString Payoffs(const Game& game, const QString& what) {
-  const std::vector<int> bets = BetsNamed(what);
+  const std::vector<BetId> bets = BetsNamed(what);
   if (bets.size() != 1) return {};
   const int id = static_cast<int>(FamilyRowOf(bets.front()).payoffs);
   if (id == 0) return {};

@@ -228,7 +228,7 @@ void MainWindow::TakeNote(const MessageBox& box) {
 
 // The edge first, then the box that tells why.
 void MainWindow::ShowRefusal() {
-  const int bet = std::exchange(clickedBet_, 0);
+  const BetId bet = std::exchange(clickedBet_, 0);
   if (bet == 0 || (game_.box.MsgFlags & kMsgNo) != 0) return;
   table_->scene.refusedBet = AreaOf(bet);
   table_->update();
@@ -261,7 +261,7 @@ void MainWindow::ShowBoard(bool settled) {
 }
 
 // The menu of a player's place: the commands for the player.
-void MainWindow::OpenPlateMenu(int seat, QPoint where) {
+void MainWindow::OpenPlateMenu(SeatId seat, QPoint where) {
   OnSeatClicked(seat);
   if (game_.table.SelectedSeat != seat) return;
   QMenu menu(this);
@@ -549,7 +549,7 @@ void MainWindow::OnBetMoved(int from, int to) {
   RefreshCommands();
 }
 
-void MainWindow::OnBetClicked(int bet, bool alt) {
+void MainWindow::OnBetClicked(BetId bet, bool alt) {
   if (!MayBet()) return;
   if (!IsOccupied(game_.table, game_.table.SelectedSeat)) {
     ShowMessage<Msg::kClickOpenPosition>(game_);
@@ -564,7 +564,7 @@ void MainWindow::OnBetClicked(int bet, bool alt) {
   ShowPointer(bet);
 }
 
-void MainWindow::OnSeatClicked(int seat) {
+void MainWindow::OnSeatClicked(SeatId seat) {
   NoteActivity(game_);
   if (!IsFree(desk_)) return;
   if (IsOccupied(game_.table, seat)) {
@@ -584,7 +584,7 @@ void MainWindow::OnSeatClicked(int seat) {
   RefreshCommands();
 }
 
-void MainWindow::ShowPointer(int bet) {
+void MainWindow::ShowPointer(BetId bet) {
   const QString text = PointerText(game_, desk_.commands, bet);
   pointer_->setText(text);
   pointer_->setToolTip(text);
@@ -608,7 +608,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
       return OnSeatClicked(event->key() - Qt::Key_1 + 1);
     const bool back = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up;
     if (back || event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) {
-      const int seat = NextSeat(game_, back ? -1 : 1);
+      const SeatId seat = NextSeat(game_, back ? -1 : 1);
       if (seat == game_.table.SelectedSeat && seat != 0) {
         // Alone at the table: there is nobody to go to, so the arrows walk the bets.
         table_->SetFocusBet(kPassLine, seat <= 4 ? 1 : 2);

@@ -28,7 +28,7 @@ WindowPlace MainPlace(const QWidget& window) {
 }
 
 void KeepRails(ScreenState& screen, const Desk& desk) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const QPoint corner = desk.stage->PlateOf(seat).pos();
     screen.RailLeft[seat] = corner.x();
     screen.RailTop[seat] = corner.y();

@@ -251,7 +251,7 @@ void BankrollGraphScreen::MeetSeat() {
 void BankrollGraphScreen::ShowPlayers() {
   QStringList names;
   QList<int> seats;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game_.table, seat)) continue;
     names += FromCore(game_.table.seats[seat].SeatName);
     seats += seat;
@@ -264,12 +264,12 @@ void BankrollGraphScreen::ShowPlayers() {
     for (qsizetype n = 0; n < seats.size(); ++n) player_->addItem(names[n], seats[n]);
     player_->setEnabled(!seats.isEmpty());
   }
-  const int at = player_->findData(game_.graph.PlotSeat);
+  const int at = player_->findData(game_.graph.PlotSeat.value);
   if (at != player_->currentIndex()) player_->setCurrentIndex(at);
 }
 
 void BankrollGraphScreen::ShowGain() {
-  const int seat = game_.graph.PlotSeat;
+  const SeatId seat = game_.graph.PlotSeat;
   const Currency gain = game_.table.BankrollCurrent[seat] - game_.stats.BankrollSessionStart[seat];
   const bool dark = IsDark(*this);
   QString text = Signed(gain);
@@ -415,7 +415,7 @@ void BankrollGraphScreen::AddChoices(QMenu& menu, const QString& name, const QSt
 void BankrollGraphScreen::ShowTicks() {
   for (const Entry& entry : entries_)
     if (entry.ticked) entry.action->setChecked(entry.ticked());
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     auto* action = menu_->findChild<QAction*>(QString("mnuTogether%1").arg(seat));
     action->setText(QString("&%1  %2").arg(seat).arg(FromCore(game_.table.seats[seat].SeatName)));
     action->setVisible(IsOccupied(game_.table, seat) && seat != game_.graph.PlotSeat);
@@ -470,7 +470,7 @@ void BankrollGraphScreen::AddDisplay() {
   AddEntry(*menu_, "mnuSetAverage", tr("Set &moving average ..."), [this] { SetMovingAverage(game_); });
   QMenu* together = menu_->addMenu(tr("&Players together"));
   together->menuAction()->setObjectName("mnuTogether");
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     AddEntry(
         *together, QString("mnuTogether%1").arg(seat), QString::number(seat),
         [this, seat] { game_.screen.Graph.TogetherSeats ^= 1u << seat; },

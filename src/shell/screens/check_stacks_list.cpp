@@ -63,7 +63,7 @@ int CommandOf(const QKeyEvent& event) {
 
 CheckStackList::CheckStackList(Game& game, QObject* parent) : QAbstractTableModel(parent), game_(game) {}
 
-void CheckStackList::SetSeat(int seat) {
+void CheckStackList::SetSeat(SeatId seat) {
   if (seat == seat_) return;
   beginResetModel();
   seat_ = seat;

@@ -291,7 +291,7 @@ class WorkingList {
     list_->setProperty("tells", "BetDefaultWorking");
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->setUniformItemSizes(true);
-    for (int bet = 1; bet <= kBets; ++bet) list_->addItem(QString());
+    for (BetId bet = 1; bet <= kBets; ++bet) list_->addItem(QString());
     ControlsPage::FormOf(&group)->addRow(list_);
   }
 
@@ -299,7 +299,7 @@ class WorkingList {
 
   void Refresh() {
     const BetSet& works = game_.table.seats[0].BetDefaultWorking;
-    for (int bet = 1; bet <= kBets; ++bet) {
+    for (BetId bet = 1; bet <= kBets; ++bet) {
       const QString ending = works.Has(bet)
                                  ? Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - Yes"))
                                  : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - No"));
@@ -312,7 +312,7 @@ class WorkingList {
   template <typename Works>
   void Set(const Works& works) {
     std::vector<SettingChange> changes;
-    for (int bet = 1; bet <= kBets; ++bet)
+    for (BetId bet = 1; bet <= kBets; ++bet)
       if (list_->item(bet - 1)->isSelected())
         changes.push_back({"BetDefaultWorking." + std::to_string(bet), 0, FlagText(works(bet))});
     if (!changes.empty()) editor_.ChangeTogether(changes);
@@ -321,7 +321,7 @@ class WorkingList {
 
   void Flip() {
     const BetSet before = game_.table.seats[0].BetDefaultWorking;
-    Set([&before](int bet) { return !before.Has(bet); });
+    Set([&before](BetId bet) { return !before.Has(bet); });
   }
 
   void SelectAll() { list_->selectAll(); }
@@ -355,7 +355,7 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
       {"cmdWorkingSelectAll", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Select all")),
        [list] { list->SelectAll(); }},
       {"cmdWorkingDefault", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Default")),
-       [list] { list->Set([](int bet) { return kHouseWorkingBets.Has(bet); }); }}};
+       [list] { list->Set([](BetId bet) { return kHouseWorkingBets.Has(bet); }); }}};
   for (const Button& facts : buttons) {
     QPushButton* button = NewButton(group, facts.name, facts.caption);
     QObject::connect(button, &QPushButton::clicked, page, facts.act);
@@ -395,15 +395,15 @@ namespace {
 
 void ListPlayers(const Game& game, SettingEditor& editor, QComboBox& players) {
   QStringList names;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     names += IsOccupied(game.table, seat) ? FromCore(game.table.seats[seat].SeatName) : QString();
   if (players.property("names").toStringList() != names) {
     players.setProperty("names", names);
     players.clear();
-    for (int seat = 1; seat <= kSeats; ++seat)
-      if (!names[seat - 1].isEmpty()) players.addItem(names[seat - 1], seat);
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
+      if (!names[seat - 1].isEmpty()) players.addItem(names[seat - 1], seat.value);
   }
-  int seat = editor.Seat();
+  SeatId seat = editor.Seat();
   if (!IsOccupied(game.table, seat))
     seat = IsOccupied(game.table, game.table.SelectedSeat) ? game.table.SelectedSeat
            : game.table.OccupiedSeats > 0                  ? game.table.Seated[0]

@@ -384,7 +384,7 @@ void EventsLogScreen::ChangeFilter() {
 // Those at the table, and one who was chosen and has left.
 void EventsLogScreen::ListPlayers() {
   QStringList names{tr("All players")};
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) names.append(FromCore(game_.table.seats[seat].SeatName));
   const QString chosen = FromCore(filter_.Player);
   if (!chosen.isEmpty() && !names.contains(chosen)) names.append(chosen);

@@ -220,17 +220,17 @@ PlayerChoice::PlayerChoice(const char* name, QWidget* parent) : QComboBox(parent
 
 void PlayerChoice::Refresh(const TableState& table) {
   QStringList names;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     names += IsOccupied(table, seat) ? FromCore(table.seats[seat].SeatName) : QString();
   if (names == names_) return;
-  const int before = Seat();
+  const SeatId before = Seat();
   const QSignalBlocker quiet(this);
   names_ = names;
   clear();
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(table, seat)) addItem(names[seat - 1], seat);
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(table, seat)) addItem(names[seat - 1], seat.value);
   const int at = findData(before);
-  setCurrentIndex(at >= 0 ? at : std::max(0, findData(table.SelectedSeat)));
+  setCurrentIndex(at >= 0 ? at : std::max(0, findData(table.SelectedSeat.value)));
   setEnabled(count() > 0);
 }
 

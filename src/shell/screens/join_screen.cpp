@@ -16,7 +16,7 @@ constexpr int kTextWidth = 340;
 constexpr auto kNobodyYet = "...";  // in place of a name that isn't typed yet
 }  // namespace
 
-JoinScreen::JoinScreen(Game& game, int seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
+JoinScreen::JoinScreen(Game& game, SeatId seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
   setObjectName("frmJoin");
   setWindowTitle(FromCore(MessageText<Msg::kTitleAddNewPlayer>()));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
@@ -94,7 +94,7 @@ void JoinScreen::Join() {
   wrong->selectAll();
 }
 
-bool AskJoin(Game& game, int seat, QWidget* parent) {
+bool AskJoin(Game& game, SeatId seat, QWidget* parent) {
   if (seat < 1 || seat > kSeats || IsOccupied(game.table, seat)) return false;
   JoinScreen screen(game, seat, parent);
   return RunDialog(screen) == QDialog::Accepted;

@@ -204,7 +204,7 @@ void LaboratorySetup::AddScript() {
 }
 
 void LaboratorySetup::AddPlayersScript() {
-  const int seat = game_.table.SelectedSeat;
+  const SeatId seat = game_.table.SelectedSeat;
   const SeatScript& script = game_.autobet.Scripts[seat];
   if (seat == 0 || script.ScriptLines.empty())
     return Tell(game_, ToCore(tr("The selected player has no script.")));

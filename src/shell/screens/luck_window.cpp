@@ -23,14 +23,14 @@ FigureCell Count(std::int64_t count) {
 }
 
 // What was decided in the session.
-double WageredBy(const Game& game, int seat) {
+double WageredBy(const Game& game, SeatId seat) {
   Currency sum;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     sum += BetStat(game.stats, kWagerStats, kCurrentSession, seat, bet, kStatTotal);
   return sum.IsError() ? 0 : sum.ToDouble();
 }
 
-FigureRow RowOf(const Game& game, int seat) {
+FigureRow RowOf(const Game& game, SeatId seat) {
   const SessionLuckFigures figures = SessionLuckOf(game, seat);
   const double wagered = WageredBy(game, seat);
   // What is given away in percent of what was decided, where all of it was counted.
@@ -94,7 +94,7 @@ void LuckWindow::Watch(bool wanted) {
 
 void LuckWindow::Refresh() {
   std::vector<FigureRow> rows;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) rows.push_back(RowOf(game_, seat));
   table_->SetRows(std::move(rows));
 }

@@ -47,7 +47,7 @@ constexpr BetRows kBetRows[] = {
     {kOver7, kPoint7, nullptr},
 };
 
-QString CaptionOf(const BetRows& rows, int bet) {
+QString CaptionOf(const BetRows& rows, BetId bet) {
   if (rows.caption == nullptr) return FromCore(BetName(bet));
   const QString caption = PayoffPage::tr(rows.caption);
   return rows.first == rows.last ? caption : caption.arg(FactsOf(bet).number);
@@ -132,7 +132,7 @@ std::vector<ListedPayoff> Listed(int table) {
   };
   if (table == 0) {
     for (const BetRows& rows : kBetRows)
-      for (int bet = rows.first; bet <= rows.last; ++bet)
+      for (BetId bet = rows.first; bet <= rows.last; ++bet)
         if (SharesOf(bet) <= 1) add(bet, CaptionOf(rows, bet));
   } else {
     for (int row = facts.firstRow; row <= facts.lastRow; ++row) add(row, CaptionOf(table, row));

@@ -107,7 +107,7 @@ void RollList::SetFontSize(int points) {
   Refresh(true);
 }
 
-QRect RollList::CellOf(std::int64_t roll) const {
+QRect RollList::CellOf(RollNumber roll) const {
   const std::int64_t place = roll - Top();
   if (place < 0 || place >= std::int64_t{rows_} * columns_) return {};
   const auto column = static_cast<int>(place / rows_);
@@ -122,7 +122,7 @@ std::int64_t RollList::RollAt(QPoint point) const {
   return std::min(Top() + std::int64_t{column} * rows_ + row, Length() + 1);
 }
 
-void RollList::Show(std::int64_t roll) {
+void RollList::Show(RollNumber roll) {
   QScrollBar* bar = verticalScrollBar();
   const std::int64_t page = std::int64_t{rows_} * columns_;
   if (roll < Top()) bar->setValue(static_cast<int>(roll - 1));
@@ -145,7 +145,7 @@ void RollList::paintEvent(QPaintEvent*) {
   std::vector<unsigned char> rolls;
   if (!ReadRolls(file_, static_cast<std::int32_t>(Top()), rows_ * columns_, rolls).empty()) rolls.clear();
   for (std::size_t n = 0; n < rolls.size(); ++n) {
-    const std::int64_t roll = Top() + static_cast<std::int64_t>(n);
+    const RollNumber roll = Top() + static_cast<std::int64_t>(n);
     PaintRoll(painter, CellOf(roll), roll, rolls[n]);
   }
   const QRect end = CellOf(Length() + 1);
@@ -154,7 +154,7 @@ void RollList::paintEvent(QPaintEvent*) {
   if (!next.isEmpty()) PaintMarker(painter, next);
 }
 
-void RollList::PaintRoll(QPainter& painter, const QRect& cell, std::int64_t roll, unsigned char byte) const {
+void RollList::PaintRoll(QPainter& painter, const QRect& cell, RollNumber roll, unsigned char byte) const {
   const int die1 = RollByteDie1(byte);
   const int die2 = RollByteDie2(byte);
   const bool good = CheckRollValue(byte);
@@ -228,7 +228,7 @@ void RollList::PaintMarker(QPainter& painter, const QRect& cell) const {
 
 // --- Mouse and keys.
 
-void RollList::GoTo(std::int64_t roll, bool extend) {
+void RollList::GoTo(RollNumber roll, bool extend) {
   if (!IsRollFileOpen(file_)) return;
   typed_ = 0;
   roll = std::clamp<std::int64_t>(roll, 1, Length() + 1);
@@ -244,14 +244,14 @@ void RollList::GoTo(std::int64_t roll, bool extend) {
 
 void RollList::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return event->ignore();
-  if (const std::int64_t roll = RollAt(event->position().toPoint()); roll > 0)
+  if (const RollNumber roll = RollAt(event->position().toPoint()); roll > 0)
     GoTo(roll, (event->modifiers() & Qt::ShiftModifier) != 0);
 }
 
 void RollList::mouseMoveEvent(QMouseEvent* event) {
   if ((event->buttons() & Qt::LeftButton) == 0) return;
   const QPoint point = event->position().toPoint();
-  std::int64_t roll = RollAt(point);
+  RollNumber roll = RollAt(point);
   if (roll <= 0) return;
   // Beyond the edge it scrolls.
   if (point.y() < 0) roll = Top() - 1;

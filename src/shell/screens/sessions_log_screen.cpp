@@ -414,7 +414,7 @@ void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
 // --- Computing.
 
 void SessionsLogScreen::ChooseSeat() {
-  int& seat = game_.sessions.SessionsSeat;
+  SeatId& seat = game_.sessions.SessionsSeat;
   if (IsOccupied(game_.table, seat)) return;
   seat = IsOccupied(game_.table, game_.table.SelectedSeat) ? game_.table.SelectedSeat : 0;
   for (int other = 1; other <= kSeats && seat == 0; ++other)
@@ -423,7 +423,7 @@ void SessionsLogScreen::ChooseSeat() {
 
 void SessionsLogScreen::ListPlayers() {
   QList<std::pair<QString, int>> players;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) players.append({FromCore(game_.table.seats[seat].SeatName), seat});
   bool same = player_->count() == players.size();
   for (int i = 0; same && i < player_->count(); ++i)
@@ -438,7 +438,7 @@ void SessionsLogScreen::ListPlayers() {
 
 // Of a log that isn't there yet: none.
 std::int64_t SessionsLogScreen::CountNow(std::string& problem) const {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   const std::string path = seat == 0 ? "" : SessionsLogPath(game_, seat);
   if (path.empty() || !IsThere(path)) return 0;
   SessionsLogFile file;
@@ -449,7 +449,7 @@ std::int64_t SessionsLogScreen::CountNow(std::string& problem) const {
 }
 
 bool SessionsLogScreen::IsAsked(const Result& result) const {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   return result.path == (seat == 0 ? "" : SessionsLogPath(game_, seat)) &&
          SameQuery(result.query, QueryOf(game_.sessions));
 }
@@ -481,7 +481,7 @@ void SessionsLogScreen::Compute() {
 }
 
 void SessionsLogScreen::Begin(std::int64_t sessions) {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   coming_ = std::make_shared<Result>();
   coming_->path = seat == 0 ? "" : SessionsLogPath(game_, seat);
   coming_->sessions = sessions;
@@ -528,7 +528,7 @@ void SessionsLogScreen::TellProblem() {
   const bool tell = !problem.empty() && problem != told_ && !game_.table.TurboRollActive && !Interrupted();
   told_ = problem;
   if (!tell) return;
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   if (result_->overflow)
     ShowMessage<Msg::kSessionsNotComputed>(game_, With<"name">(game_.table.seats[seat].SeatName));
   else
@@ -593,7 +593,7 @@ void SessionsLogScreen::ShowWait() {
 
 void SessionsLogScreen::ShowAll() {
   const SessionsLogs& screen = game_.sessions;
-  const int seat = screen.SessionsSeat;
+  const SeatId seat = screen.SessionsSeat;
   const QString file =
       seat == 0 ? tr("no player") : QFileInfo(FromCore(SessionsLogPath(game_, seat))).fileName();
   const QString title = tr("Sessions Log (%1)").arg(file);
@@ -762,7 +762,7 @@ void SessionsLogScreen::Change(const QString& text, const SessionsChange& change
 }
 
 void SessionsLogScreen::Copy(const std::string& path, bool keepName) {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   const std::string player = game_.table.seats[seat].SeatName;
   const std::string old = keepName ? DefaultSessionsLogName(game_, player) : SessionsLogPath(game_, seat);
   const auto copied = std::make_shared<std::int64_t>();
@@ -794,7 +794,7 @@ void SessionsLogScreen::TellFailed(const std::string& problem) {
 // The user wants the old log kept under another name; nothing begins anew without it.
 void SessionsLogScreen::KeepOld() {
   const std::string path = ChooseFile(game_, this, kSaveLog);
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   if (path.empty()) return;
   if (IsLarge(DefaultSessionsLogName(game_, game_.table.seats[seat].SeatName))) return Copy(path, true);
   Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, seat, path));
@@ -849,7 +849,7 @@ void SessionsLogScreen::Merge() {
 }
 
 void SessionsLogScreen::DeleteSome() {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   if (!IsLarge(SessionsLogPath(game_, seat))) return DeleteSessions(game_, seat) ? Recompute() : void();
   SessionsChange change;
   if (!AskDeleteSessions(game_, change.First, change.Last)) return;
@@ -880,7 +880,7 @@ void SessionsLogScreen::FindNext() { FindFrom(game_.sessions.SessionsTopRow, 1);
 void SessionsLogScreen::FindPrevious() { FindFrom(game_.sessions.SessionsTopRow, -1); }
 
 void SessionsLogScreen::FindFrom(std::int64_t from, int step) {
-  const int seat = game_.sessions.SessionsSeat;
+  const SeatId seat = game_.sessions.SessionsSeat;
   if (search_.IsOn() || seat == 0) return;
   hit_ = std::make_shared<Hit>();
   const std::int64_t ahead = step > 0 ? result_->sessions - from : from;

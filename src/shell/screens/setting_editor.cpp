@@ -53,7 +53,7 @@ SettingControl* SettingEditor::ControlOf(const ConfigurationProblem& problem) {
   return nullptr;
 }
 
-void SettingEditor::SetSeat(int seat) {
+void SettingEditor::SetSeat(SeatId seat) {
   for (SettingControl& control : controls_)
     if (control.ofPlayer && seat != seat_) control.waiting.reset();
   seat_ = seat;

@@ -165,7 +165,7 @@ void WorkshopTrial::Toggle() {
     state_->stop = true;
     return;
   }
-  int seat = 0;
+  SeatId seat = 0;
   std::vector<std::string> lines;
   if (!take || !take(seat, lines)) return;
   if (seed_ == 0 || !same_->isChecked()) seed_ = 1 + QRandomGenerator::global()->bounded(kMostSeed);

@@ -63,7 +63,7 @@ WorkshopWatch::WorkshopWatch(Game& game, QWidget* parent) : QWidget(parent), gam
   for (const char* name : {"bankroll", "point", "cs1", "cs2"}) Add(name);
 }
 
-void WorkshopWatch::SetSeat(int seat) {
+void WorkshopWatch::SetSeat(SeatId seat) {
   if (seat_ == seat) return;
   seat_ = seat;
   LookUp();

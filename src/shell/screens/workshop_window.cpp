@@ -188,7 +188,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { ShowStatus(); });
   connect(editor_, &WorkshopEditor::breaksChanged, this, &WorkshopWindow::StepsChanged);
   connect(steps_, &WorkshopSteps::changed, this, &WorkshopWindow::StepsChanged);
-  connect(steps_, &WorkshopSteps::lineChosen, this, [this](int seat, int line) {
+  connect(steps_, &WorkshopSteps::lineChosen, this, [this](SeatId seat, int line) {
     if (seat == seat_) editor_->MarkStep(line);
   });
   connect(find_, &FindReplaceScreen::replaced, this, [this] {
@@ -196,7 +196,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     game_.autobet.ScriptsCompiled = false;
     Store();
   });
-  trial_->take = [this](int& seat, std::vector<std::string>& lines) {
+  trial_->take = [this](SeatId& seat, std::vector<std::string>& lines) {
     seat = seat_;
     lines = editor_->Lines();
     return seat_ != 0;
@@ -451,7 +451,7 @@ void WorkshopWindow::hideEvent(QHideEvent* event) {
 void WorkshopWindow::ListPlayers() {
   QStringList wanted;
   QList<int> seats;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game_.table, seat)) continue;
     wanted << FromCore(game_.table.seats[seat].SeatName);
     seats << seat;
@@ -468,7 +468,7 @@ void WorkshopWindow::ListPlayers() {
   player_->setCurrentIndex(static_cast<int>(seats.indexOf(seat_)));
 }
 
-void WorkshopWindow::ShowSeat(int seat) {
+void WorkshopWindow::ShowSeat(SeatId seat) {
   if (seat == seat_ || !IsOccupied(game_.table, seat)) return;
   Store();
   Place& left = places_[seat_];
@@ -672,7 +672,7 @@ void WorkshopWindow::CopyToFile() {
                                    With<"problem">(result.message));
 }
 
-void WorkshopWindow::CopyToSeat(int seat) {
+void WorkshopWindow::CopyToSeat(SeatId seat) {
   if (!AskBeforeCommand(game_)) return;
   Store();
   SetScript(game_, seat, editor_->Lines(), "");
@@ -680,7 +680,7 @@ void WorkshopWindow::CopyToSeat(int seat) {
 }
 
 void WorkshopWindow::FillCopyTo(QMenu& menu) {
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (seat != seat_ && IsOccupied(game_.table, seat))
       connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
               [this, seat] { CopyToSeat(seat); });
@@ -709,7 +709,7 @@ void WorkshopWindow::PasteFromFile() {
 }
 
 void WorkshopWindow::FillPasteFrom(QMenu& menu) {
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (seat != seat_ && IsOccupied(game_.table, seat))
       connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
               [this, seat] { PasteLines(game_.autobet.Scripts[seat].ScriptLines); });
@@ -908,7 +908,7 @@ void WorkshopWindow::ShowCounts() {
 void WorkshopWindow::StepsChanged() {
   AutoBet& autobet = game_.autobet;
   bool breaks = editor_->HasBreaks();
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     breaks = breaks || (seat != seat_ && !places_[seat].breaks.empty());
   autobet.StepsShown = wantsSteps_ || breaks || runTo_ > 0 || autobet.StepMode;
   autobet.StepsHold = wantsSteps_;

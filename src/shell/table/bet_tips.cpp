@@ -119,7 +119,7 @@ QString ClicksText(const Game& game, const TableCommands& commands, const BetTer
 }
 
 // All that the highest level of tips tells.
-QString WholeTip(Game& game, const TableCommands& commands, int bet) {
+QString WholeTip(Game& game, const TableCommands& commands, BetId bet) {
   const BetTerms terms = BetTermsOf(game, game.table.SelectedSeat, bet);
   QStringList lines{Told(game, TipFacts(terms), "\n")};
   if (terms.amount > kZero) lines.insert(0, BetAmountText(game, game.table.SelectedSeat, bet));
@@ -147,11 +147,11 @@ QString Told(const Game& game, const FactText& text) {
 
 std::span<const char* const> TranslatedFactWords() { return kFactWords; }
 
-QString WhoBets(const Game& game, int bet) {
+QString WhoBets(const Game& game, BetId bet) {
   const TableState& table = game.table;
   QStringList players;
   bool others = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (table.BetAmount(seat, bet) == kZero) continue;
     others = others || seat != table.SelectedSeat;
     players += FromCore(table.seats[seat].SeatName) + " " + TableAmountText(game, table.BetAmount(seat, bet));
@@ -159,7 +159,7 @@ QString WhoBets(const Game& game, int bet) {
   return others ? players.join(", ") : QString();
 }
 
-QString SeatTip(const Game& game, int seat) {
+QString SeatTip(const Game& game, SeatId seat) {
   if (!IsOccupied(game.table, seat) || WatchedLuck(game) == nullptr) return {};
   const SessionLuckFigures figures = SessionLuckOf(game, seat);
   const auto dollars = [](double value) {
@@ -182,12 +182,12 @@ QString SeatTip(const Game& game, int seat) {
   return lines.join("\n");
 }
 
-QString BetAmountText(const Game& game, int seat, int bet) {
+QString BetAmountText(const Game& game, SeatId seat, BetId bet) {
   return FromCore(BetName(bet)) + ": " + TableAmountText(game, game.table.BetAmount(seat, bet));
 }
 
-QString PointerText(Game& game, const TableCommands& commands, int bet) {
-  const int seat = game.table.SelectedSeat;
+QString PointerText(Game& game, const TableCommands& commands, BetId bet) {
+  const SeatId seat = game.table.SelectedSeat;
   const bool occupied = IsOccupied(game.table, seat);
   const int action = commands.PendingAction;
   QStringList parts;
@@ -210,9 +210,9 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   return parts.join("   ");
 }
 
-QString InfoTip(Game& game, const TableCommands& commands, int bet) {
+QString InfoTip(Game& game, const TableCommands& commands, BetId bet) {
   if (bet == 0) return {};
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   const Currency amount = game.table.BetAmount(seat, bet);
   const QString who = WhoBets(game, bet);
   QStringList lines;
@@ -273,8 +273,8 @@ bool BetTip::eventFilter(QObject* watched, QEvent* event) {
 
 // The tip stays while the pointer is over what it tells of.
 void BetTip::PointAt(QPoint point, QPoint screen) {
-  const int bet = table_.BetAt(point);
-  const int seat = bet == 0 ? table_.SeatAt(point) : 0;
+  const BetId bet = table_.BetAt(point);
+  const SeatId seat = bet == 0 ? table_.SeatAt(point) : 0;
   screen_ = screen;
   if (shown_ && bet == bet_ && seat == seat_) return;
   Hide();

@@ -48,7 +48,7 @@ class BetPiles {
  public:
   // The pile of a bet as it lies now: what was added lies on top, what was taken is taken off the top as far
   // as its checks are worth just that; else the amount is changed as a whole.
-  const CheckPile& PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]);
+  const CheckPile& PileOf(SeatId seat, BetId bet, Currency amount, const Currency (&checkValue)[6]);
   // All bets have been asked for: those that were not are down.
   void ForgetOthers();
 

@@ -11,7 +11,7 @@ namespace tessaryn {
 namespace {
 
 struct DiceBet {
-  int bet;
+  BetId bet;
   int die1;
   int die2;
 };
@@ -40,13 +40,13 @@ constexpr double kRight = 679;
 // --- The middle.
 
 // An area of the middle; the eight seats' stacks stand about a point, each end's on its side.
-TableArea* AddCell(LayoutBuilder& build, int bet, const QRectF& box, QPointF stacks, double pitch = 7.2) {
+TableArea* AddCell(LayoutBuilder& build, BetId bet, const QRectF& box, QPointF stacks, double pitch = 7.2) {
   TableArea* area = build.Add(bet, 0, RoundedBox(box), Ground::kMiddle);
   if (area == nullptr) return nullptr;
   const QPointF centre = box.topLeft() + stacks;
   build.layout.Alone[0][bet] = centre;
   constexpr int kRow[kSeats] = {0, 1, 1, 0, 0, 1, 1, 0};
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const double column = (seat - 1) / 2 - 1.5;
     build.Place(seat, bet, centre + QPointF(column * pitch, kRow[seat - 1] == 0 ? -4 : 4));
   }
@@ -165,7 +165,7 @@ constexpr double kSideRow = 33.3;
 constexpr double kSideHeight = 32;
 constexpr double kOtherEnd = 917;  // from an end's block to the other's
 
-QRectF SideBox(int bet) {
+QRectF SideBox(BetId bet) {
   int cell = 0;
   for (const LetteredBet& special : kSpecials) {
     if (special.bet == bet) break;
@@ -193,7 +193,7 @@ void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::u
   }
 }
 
-void AddMarks(LayoutBuilder& build, int bet, Progress kind, int count, QPointF first, QPointF step,
+void AddMarks(LayoutBuilder& build, BetId bet, Progress kind, int count, QPointF first, QPointF step,
               QSizeF size) {
   for (int n = 0; n < count; ++n)
     build.layout.Marks.push_back({kind, bet, n, QRectF(first + step * n, size), {}});

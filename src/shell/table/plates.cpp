@@ -46,7 +46,7 @@ QString Amount(Currency value) { return QLocale(QLocale::English).toString(value
 
 }  // namespace
 
-PlateText PlateTextOf(const Game& game, int seat) {
+PlateText PlateTextOf(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   PlateText text;
   if (!IsOccupied(table, seat)) return text;
@@ -72,7 +72,7 @@ PlateText PlateTextOf(const Game& game, int seat) {
   return text;
 }
 
-QStringList MoneyLines(const Game& game, int seat) {
+QStringList MoneyLines(const Game& game, SeatId seat) {
   const PlateText text = PlateTextOf(game, seat);
   const auto line = [](const QString& caption, const QString& figure) {
     return caption + QStringLiteral("  ") + figure;
@@ -134,7 +134,7 @@ PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, 
 
 // --- A plate.
 
-Plate::Plate(int seat, QWidget* parent) : QWidget(parent), seat_(seat) {
+Plate::Plate(SeatId seat, QWidget* parent) : QWidget(parent), seat_(seat) {
   setObjectName(QStringLiteral("picPlate%1").arg(seat));
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::NoFocus);

@@ -31,9 +31,9 @@ struct PlateText {
 
   friend bool operator==(const PlateText&, const PlateText&) = default;
 };
-PlateText PlateTextOf(const Game& game, int seat);
+PlateText PlateTextOf(const Game& game, SeatId seat);
 // The lines of a player's money as one: "Rail: 463.00", "Bankroll: 535.00", ...
-QStringList MoneyLines(const Game& game, int seat);
+QStringList MoneyLines(const Game& game, SeatId seat);
 
 // Where the plates of all seats stand, whoever is there. Index by seat.
 using PlatePlaces = std::array<QRect, kSeatRows>;
@@ -54,8 +54,8 @@ class Plate : public QWidget {
   Q_OBJECT
 
  public:
-  Plate(int seat, QWidget* parent);
-  int Seat() const { return seat_; }
+  Plate(SeatId seat, QWidget* parent);
+  SeatId Seat() const { return seat_; }
   // textHeight in screen units; pointer: where the player's place is, from the plate's left edge, for the tip
   // above the plate that points to it, which is then kPlateTip higher; below 0 without one. After a resize.
   void SetLook(double textHeight, int pointer);
@@ -65,8 +65,8 @@ class Plate : public QWidget {
   bool FiguresFit() const;
 
  signals:
-  void chosen(int seat);
-  void menuWanted(int seat, QPoint where);
+  void chosen(SeatId seat);
+  void menuWanted(SeatId seat, QPoint where);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -81,7 +81,7 @@ class Plate : public QWidget {
   double HeadWidth() const;
   void FitLetters();
 
-  const int seat_;
+  const SeatId seat_;
   PlateText text_;
   double textHeight_ = 11.5;
   int pointer_ = -1;

@@ -73,7 +73,7 @@ RollStory StoryOf(const Game& game, bool settled) {
   story.die2 = table.Die2;
   story.pointBefore = table.PointBeforeRoll;
   story.mark = MarkOf(table.PointBeforeRoll, table.RollTotal);
-  for (int seat = 1; seat <= kSeats && settled; ++seat)
+  for (SeatId seat = 1; seat <= kSeats && settled; ++seat)
     if (IsOccupied(table, seat) && PlayerRolls(game.stats, kCurrentSession, seat) > 0)
       story.changes.push_back(
           {table.seats[seat].SeatName, table.BankrollAfterRoll[seat] - table.BankrollBeforeRoll[seat]});
@@ -140,11 +140,11 @@ QString HandText(const Game& game, bool brief) {
 
 std::vector<BetChange> BetChanges(const Game& game) {
   std::vector<BetChange> changes;
-  const std::int64_t roll = SessionRolls(game.stats);
+  const RollNumber roll = SessionRolls(game.stats);
   if (roll == 0) return changes;
   for (int i = 0; i < game.table.OccupiedSeats; ++i) {
-    const int seat = game.table.Seated[i];
-    for (int bet = 1; bet <= kBets; ++bet) {
+    const SeatId seat = game.table.Seated[i];
+    for (BetId bet = 1; bet <= kBets; ++bet) {
       const auto& kinds = game.stats.Bets[bet][seat][kCurrentHand].kinds;
       const auto& last = game.stats.Bets[bet][seat][kLastHand].kinds;
       for (const int table : {kWinStats, kLossStats}) {

@@ -50,7 +50,7 @@ struct SeatChange {
 };
 
 struct RollStory {
-  std::int64_t roll = 0;  // of the session; 0 there was none
+  RollNumber roll = 0;  // of the session; 0 there was none
   int die1 = 0;
   int die2 = 0;
   int pointBefore = 0;
@@ -79,8 +79,8 @@ QString HandText(const Game& game, bool brief);
 
 // What was won and lost by the last roll, bet by bet.
 struct BetChange {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   Currency change;
 };
 std::vector<BetChange> BetChanges(const Game& game);

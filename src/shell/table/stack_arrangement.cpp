@@ -81,7 +81,7 @@ CheckPile ChecksOf(const TableScene& scene, const StandingStack& stack) {
   return {lies.begin() + over, lies.end()};
 }
 
-void AddStack(Arranger& table, int seat, int bet) {
+void AddStack(Arranger& table, SeatId seat, BetId bet) {
   const Game& game = *table.scene.game;
   StandingStack stack;
   stack.Seat = seat;
@@ -100,9 +100,9 @@ void AddStack(Arranger& table, int seat, int bet) {
 void CollectStacks(Arranger& table) {
   const TableState& state = table.scene.game->table;
   table.stacks.reserve(128);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(state, seat)) continue;
-    state.seats[seat].SeatBets.ForEach([&](int bet) { AddStack(table, seat, bet); });
+    state.seats[seat].SeatBets.ForEach([&](BetId bet) { AddStack(table, seat, bet); });
     for (const int stack : state.seats[seat].VisibleStacks)
       if (state.BetAmount(seat, kFirstCheckStack + stack).raw != 0)
         AddStack(table, seat, kFirstCheckStack + stack);

@@ -15,8 +15,8 @@ namespace tessaryn {
 
 // A stack with what it bears, in screen units. An empty rectangle: it bears none of that.
 struct StandingStack {
-  int Seat = 0;
-  int Bet = 0;
+  SeatId Seat = 0;
+  BetId Bet = 0;
   Currency Amount;
   CheckPile Checks;
   QPointF Base;        // the middle of its lowest check

@@ -28,9 +28,9 @@ QString Said(const char* text) { return QCoreApplication::translate("TableAccess
 enum class PartKind { kArea, kSeat, kStack, kRoll };
 struct Part {
   PartKind kind = PartKind::kRoll;
-  int seat = 0;  // of a seat and a stack
-  int bet = 0;   // of a stack
-  int area = 0;  // its place in the layout
+  SeatId seat = 0;  // of a seat and a stack
+  BetId bet = 0;    // of a stack
+  int area = 0;     // its place in the layout
   auto operator<=>(const Part&) const = default;
 };
 
@@ -69,7 +69,7 @@ class PartAccessible : public QAccessibleInterface, public QAccessibleActionInte
   TableWidget& widget() const;
   const TableArea& area() const;
   // The bet that a click there means for the selected player; 0 for none.
-  int Bet() const;
+  BetId Bet() const;
   bool OfSelected() const;
   bool CanAct() const { return !actionNames().isEmpty(); }
   QString Name() const;
@@ -108,7 +108,7 @@ class TableAccessible : public QAccessibleWidget {
   QAccessibleInterface* childAt(int x, int y) const override {
     const QPoint point = table_->mapFromGlobal(QPoint(x, y));
     if (const Part area = AreaAt(point); area.kind == PartKind::kArea) return Of(area);
-    if (const int seat = table_->SeatAt(point); seat != 0) return Of({PartKind::kSeat, seat});
+    if (const SeatId seat = table_->SeatAt(point); seat != 0) return Of({PartKind::kSeat, seat});
     return QAccessibleWidget::childAt(x, y);
   }
   QAccessibleInterface* focusChild() const override {
@@ -145,9 +145,9 @@ class TableAccessible : public QAccessibleWidget {
     std::vector<Part> parts{{PartKind::kRoll}};
     for (std::size_t at = 0; at < table_->Layout().Areas.size(); ++at)
       parts.push_back({PartKind::kArea, 0, 0, static_cast<int>(at)});
-    for (int seat = 1; seat <= kSeats; ++seat) parts.push_back({PartKind::kSeat, seat});
-    for (int seat = 1; seat <= kSeats; ++seat)
-      TheGame().table.seats[seat].SeatBets.ForEach([&](int bet) {
+    for (SeatId seat = 1; seat <= kSeats; ++seat) parts.push_back({PartKind::kSeat, seat});
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
+      TheGame().table.seats[seat].SeatBets.ForEach([&](BetId bet) {
         parts.push_back({PartKind::kStack, seat, bet});
       });
     return parts;
@@ -176,7 +176,7 @@ QWindow* PartAccessible::window() const { return table_.window(); }
 QAccessibleInterface* PartAccessible::parent() const { return &table_; }
 bool PartAccessible::OfSelected() const { return part_.seat == game().table.SelectedSeat; }
 
-int PartAccessible::Bet() const {
+BetId PartAccessible::Bet() const {
   return part_.kind == PartKind::kArea    ? MeantBet(game(), area().Id)
          : part_.kind == PartKind::kStack ? part_.bet
                                           : 0;
@@ -213,7 +213,7 @@ QString PartAccessible::Value() const {
   if (part_.kind == PartKind::kSeat)
     return IsOccupied(table, part_.seat) ? TableAmountText(game(), table.BankrollCurrent[part_.seat])
                                          : QString();
-  const int seat = part_.kind == PartKind::kStack ? part_.seat : table.SelectedSeat;
+  const SeatId seat = part_.kind == PartKind::kStack ? part_.seat : table.SelectedSeat;
   return TableAmountText(game(), table.BetAmount(seat, Bet()));
 }
 
@@ -299,13 +299,13 @@ void PartAccessible::doAction(const QString& name) {
   if (!actionNames().contains(name)) return;
   TableWidget* const table = &widget();
   const auto soon = [table](auto act) { QMetaObject::invokeMethod(table, act, Qt::QueuedConnection); };
-  const int bet = Bet();
+  const BetId bet = Bet();
   if (name == kTakeDown) return soon([table, bet] { emit table->betMoved(bet, 0); });
   if (name == setFocusAction()) {
     table->setFocus();
     return table->SetFocusBet(area().Id, area().Side);
   }
-  const int seat = part_.seat;
+  const SeatId seat = part_.seat;
   if (part_.kind == PartKind::kSeat) return soon([table, seat] { emit table->seatClicked(seat); });
   soon([table, bet] { emit table->betClicked(bet, false); });
 }
@@ -369,7 +369,7 @@ QString RollAnnouncement(const Game& game) {
                          : Said(QT_TRANSLATE_NOOP("TableAccessible", "the point stays %1")))
                 .arg(table.Point);
   QStringList players;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
     if (!IsOccupied(table, seat) || change == kZero) continue;
     players += (change > kZero ? Said(QT_TRANSLATE_NOOP("TableAccessible", "%1 won %2"))

@@ -12,12 +12,12 @@
 
 namespace tessaryn {
 
-void LayoutBuilder::Place(int seat, int bet, QPointF point) {
+void LayoutBuilder::Place(SeatId seat, BetId bet, QPointF point) {
   layout.CheckX(seat, bet) = static_cast<int>(std::lround(point.x()));
   layout.CheckY(seat, bet) = static_cast<int>(std::lround(point.y()));
 }
 
-TableArea* LayoutBuilder::Add(int bet, int side, const QPainterPath& outline, Ground fill) {
+TableArea* LayoutBuilder::Add(BetId bet, int side, const QPainterPath& outline, Ground fill) {
   if (!BetOffered(settings, bet)) return nullptr;
   layout.Areas.push_back({bet, side, outline, fill, false, true, {}});
   return &layout.Areas.back();
@@ -27,7 +27,7 @@ static QString PayoffCaption(const PayoffRecord& record) {
   return QString::fromStdString(PayoffText(record)).toUpper();
 }
 
-QString LayoutBuilder::Pays(int bet) const { return PayoffCaption(payoffs.PayoffTable[bet]); }
+QString LayoutBuilder::Pays(BetId bet) const { return PayoffCaption(payoffs.PayoffTable[bet]); }
 
 QRectF LayoutBox(double left, double top, double right, double bottom) {
   return {QPointF(left, top), QPointF(right, bottom)};
@@ -116,12 +116,12 @@ QPointF TwoByTwo(QPointF centre, QPointF step, int place) {
   return centre + QPointF(place % 2 == 0 ? -step.x() : step.x(), place / 2 == 0 ? -step.y() : step.y());
 }
 
-int FirstSeat(int side) { return side == 1 ? 1 : 5; }
+SeatId FirstSeat(int side) { return side == 1 ? 1 : 5; }
 
 // --- The six boxes of an end. Places are measured from the column's left edge.
 
 struct ColumnRow {
-  int firstBet;  // the bet of the 4; the other numbers follow
+  BetId firstBet;  // the bet of the 4; the other numbers follow
   double left;
   double right;
   double top;
@@ -175,7 +175,7 @@ TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
 void AddColumnArea(LayoutBuilder& build, const ColumnRow& row, int side, int number) {
   const double x = (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth;
   const QRectF box = ColumnBox(row, x);
-  const int bet = row.firstBet + number;
+  const BetId bet = row.firstBet + number;
   TableArea* area =
       build.Add(bet, side, RoundedBox(box), row.label == nullptr ? Ground::kDark : Ground::kFelt);
   area->Edged = row.right - row.left == kColumnWidth;
@@ -210,7 +210,7 @@ void AddColumns(LayoutBuilder& build) {
 
 // An area of the left end with the places of seats 1 to 4.
 struct EndArea {
-  int bet;
+  BetId bet;
   QPainterPath outline;
   Ground fill = Ground::kDark;
   std::vector<TableLabel> labels;
@@ -315,7 +315,7 @@ void AddField(LayoutBuilder& build) {
   AddEndArea(build, field);
 }
 
-void AddBig(LayoutBuilder& build, int bet, const char* label, double left, double right, QPointF stack) {
+void AddBig(LayoutBuilder& build, BetId bet, const char* label, double left, double right, QPointF stack) {
   EndArea big;
   big.bet = bet;
   big.outline = CutByCorner(LayoutBox(left, 366, right, 444), 98);
@@ -383,7 +383,7 @@ TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payof
   return std::move(build.layout);
 }
 
-QPointF StackPlace(const TableLayout& layout, const TableState& table, int seat, int bet) {
+QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet) {
   const QPointF own(layout.CheckX(seat, bet), layout.CheckY(seat, bet));
   if (!IsTableBet(bet)) return own;
   const bool shared = !layout.Alone[0][bet].isNull();

@@ -25,11 +25,11 @@ constexpr double PuckDiameter(double scale) { return scale * 29 < 23 ? 23 : scal
 // the lettering tells the payoffs in force. Its lettering is still to be fitted.
 TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payoffs);
 // The end of a seat: 1 or 2.
-constexpr int SideOf(int seat) { return seat <= 4 ? 1 : 2; }
+constexpr int SideOf(SeatId seat) { return seat <= 4 ? 1 : 2; }
 // Where a seat's stack on a bet stands now, with what others have up in its area.
-QPointF StackPlace(const TableLayout& layout, const TableState& table, int seat, int bet);
+QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet);
 // Puts the CheckStacks that a seat shows to their four places at its rail. Stacks not shown have none (0, 0).
-void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]);
+void PlaceVisibleStacks(TableLayout& layout, SeatId seat, const int (&stacks)[4]);
 QPointF VisibleStackPlace(const SeatPlace& place, int index);
 inline constexpr double kStackReach = 11;  // round such a place, in table units, is the stack's
 

@@ -77,7 +77,7 @@ void DrawProgress(Overlay& over) {
 }
 
 template <class Visit>
-void ForAreas(const TableLayout& layout, int bet, int side, Visit visit) {
+void ForAreas(const TableLayout& layout, BetId bet, int side, Visit visit) {
   if (bet == 0) return;
   for (const TableArea& area : layout.Areas)
     if (area.Id == bet && (side == 0 || area.Side == 0 || area.Side == side)) visit(area);
@@ -90,13 +90,13 @@ QColor LitColor(const TableColors& colors, const TableArea& area) {
   return onFelt || ground == QColor(Qt::black) ? colors.Lit : ground.lighter(155);
 }
 
-void LightArea(Overlay& over, int bet) {
+void LightArea(Overlay& over, BetId bet) {
   ForAreas(over.layout, bet, 0, [&](const TableArea& area) {
     DrawArea(over.painter, area, over.colors, LitColor(over.colors, area));
   });
 }
 
-void EdgeArea(Overlay& over, int bet, int side, const QColor& color, double width) {
+void EdgeArea(Overlay& over, BetId bet, int side, const QColor& color, double width) {
   ForAreas(over.layout, bet, side, [&](const TableArea& area) {
     QPen pen(color, width);
     pen.setCosmetic(true);
@@ -125,7 +125,7 @@ void DrawFeltMarks(Overlay& over) {
 
 // --- At the rail.
 
-void DrawOpenPlace(Overlay& over, int seat) {
+void DrawOpenPlace(Overlay& over, SeatId seat) {
   const bool hover = over.scene.hoverSeat == seat || over.scene.movingPlayer;
   const double radius = OpenMarkRadius(over.view.Scale());
   const QPointF centre =
@@ -142,7 +142,7 @@ void DrawOpenPlace(Overlay& over, int seat) {
 }
 
 // The places of a player's visible CheckStacks.
-void DrawStackPlaces(Overlay& over, int seat) {
+void DrawStackPlaces(Overlay& over, SeatId seat) {
   const double radius = kStackReach * over.view.Scale();
   for (int n = 0; n < 4; ++n) {
     const QPointF centre = over.view.ToScreen(VisibleStackPlace(over.layout.Seats[seat], n));
@@ -272,7 +272,7 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
   const Game& game = *scene.game;
   painter.setRenderHint(QPainter::Antialiasing);
   DrawFeltMarks(over);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     IsOccupied(game.table, seat) ? DrawStackPlaces(over, seat) : DrawOpenPlace(over, seat);
   DrawPuck(over);
   pictures.SetSize(CheckDiameter(view.Scale()), painter.device()->devicePixelRatioF(),

@@ -70,7 +70,7 @@ void PlaceSeats(TableLayout& layout) {
       right.Stacks[stack] = LayoutMirror().map(left.Stacks[stack]);
     }
   }
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SeatPlace& place = layout.Seats[seat];
     place.Along = QPointF(place.Out.y(), -place.Out.x());
   }
@@ -78,7 +78,7 @@ void PlaceSeats(TableLayout& layout) {
 
 QPointF VisibleStackPlace(const SeatPlace& place, int index) { return place.Stacks[index]; }
 
-void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]) {
+void PlaceVisibleStacks(TableLayout& layout, SeatId seat, const int (&stacks)[4]) {
   for (int stack = 0; stack < kCheckStacks; ++stack) {
     layout.CheckX(seat, kFirstCheckStack + stack) = 0;
     layout.CheckY(seat, kFirstCheckStack + stack) = 0;

@@ -40,16 +40,16 @@ struct TableScene {
   bool showAmounts = false;  // the amounts of the bets beside the checks
   bool hideBets = false;     // while the bets flash
   bool showDice = true;
-  int hoverBet = 0;    // the area under the pointer
-  int refusedBet = 0;  // the area of a bet that was just refused
-  int focusBet = 0;    // the area with the keyboard's focus
+  BetId hoverBet = 0;    // the area under the pointer
+  BetId refusedBet = 0;  // the area of a bet that was just refused
+  BetId focusBet = 0;    // the area with the keyboard's focus
   int focusSide = 0;
-  int hoverSeat = 0;  // an open position under the pointer
+  SeatId hoverSeat = 0;  // an open position under the pointer
   // How far the mark of an open position stands off its place, in screen units to the right: where the
   // plate in the corner would cover it. Index by seat.
   std::array<double, kSeatRows> openShift{};
-  int heldBet = 0;  // a stack of the selected seat that hangs on the pointer
-  QPointF heldAt;   // there, on the screen
+  BetId heldBet = 0;  // a stack of the selected seat that hangs on the pointer
+  QPointF heldAt;     // there, on the screen
   bool movingPlayer = false;
   std::vector<FallenCheck> rain;
   BetPiles* piles = nullptr;  // not owned; null: checks are always changed for the fewest

@@ -148,7 +148,7 @@ void TurboPanel::Refresh(const Game& game) {
   rolls_->setText(WholeNumber(rolls));
   rate_->setText(WholeNumber(elapsed > 0 ? rolls * 1000 / static_cast<double>(elapsed) : 0));
   time_->setText(ClockText(elapsed));
-  for (const int seat : seats_)
+  for (const SeatId seat : seats_)
     cents_ = cents_ ||
              (seat > 0 && !(game.table.BankrollCurrent[seat].IsWhole() && firstBankroll_[seat].IsWhole()));
   for (int row = 0; row < kSeats && seats_[row] > 0; ++row) {

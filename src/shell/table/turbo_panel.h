@@ -47,15 +47,15 @@ class TurboPanel : public QWidget {
   QLabel* names_[kSeats] = {};
   QLabel* bankrolls_[kSeats] = {};
   QLabel* changes_[kSeats] = {};
-  int seats_[kSeats] = {};  // who a row is for; 0 nobody
-  bool cents_ = false;      // there has been an amount with cents: all have two places from then on
+  SeatId seats_[kSeats];  // who a row is for; 0 nobody
+  bool cents_ = false;    // there has been an amount with cents: all have two places from then on
   QPushButton* stop_;
   QLabel* caption_ = nullptr;
   QGridLayout* grid_ = nullptr;
   QList<QLabel*> captions_;
   QList<QLabel*> figures_;
   QElapsedTimer clock_;
-  std::int64_t firstRoll_ = 0;
+  RollNumber firstRoll_ = 0;
   Currency firstBankroll_[kSeatRows];
 };
 
