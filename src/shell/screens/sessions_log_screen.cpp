@@ -416,8 +416,8 @@ void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
 void SessionsLogScreen::ChooseSeat() {
   SeatId& seat = game_.sessions.SessionsSeat;
   if (IsOccupied(game_.table, seat)) return;
-  seat = IsOccupied(game_.table, game_.table.SelectedSeat) ? game_.table.SelectedSeat : 0;
-  for (int other = 1; other <= kSeats && seat == 0; ++other)
+  seat = IsOccupied(game_.table, game_.table.SelectedSeat) ? game_.table.SelectedSeat : kNobody;
+  for (SeatId other = 1; other <= kSeats && seat == 0; ++other)
     if (IsOccupied(game_.table, other)) seat = other;
 }
 
@@ -432,7 +432,7 @@ void SessionsLogScreen::ListPlayers() {
     player_->clear();
     for (const auto& [name, seat] : players) player_->addItem(name, seat);
   }
-  player_->setCurrentIndex(player_->findData(game_.sessions.SessionsSeat));
+  player_->setCurrentIndex(player_->findData(game_.sessions.SessionsSeat.value));
   for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0 && !change_.IsOn());
 }
 

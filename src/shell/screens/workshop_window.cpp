@@ -464,7 +464,7 @@ void WorkshopWindow::ListPlayers() {
     for (int n = 0; n < wanted.size(); ++n) player_->addItem(wanted[n], seats[n]);
   }
   if (!IsOccupied(game_.table, seat_))
-    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : seats.value(0);
+    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : SeatId(seats.value(0));
   player_->setCurrentIndex(static_cast<int>(seats.indexOf(seat_)));
 }
 
@@ -476,7 +476,7 @@ void WorkshopWindow::ShowSeat(SeatId seat) {
   left.top = editor_->firstVisibleLine();
   left.breaks = editor_->Breaks();
   seat_ = seat;
-  player_->setCurrentIndex(player_->findData(seat));
+  player_->setCurrentIndex(player_->findData(seat.value));
   Load();
   const Place& kept = places_[seat];
   editor_->SetBreaks(kept.breaks);
