@@ -21,7 +21,7 @@ std::string SettlePlayers(Game& game) {
     const std::string& name = table.seats[seat].SeatName;
     if (name.empty()) continue;
     if (!TextProblem(name).empty()) return "the name of seat " + std::to_string(seat);
-    for (int other = 1; other < seat; ++other)
+    for (SeatId other = 1; other < seat; ++other)
       if (SameLetters(table.seats[other].SeatName, name)) return "two players named " + name;
     table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
   }

@@ -228,7 +228,7 @@ std::vector<std::string> PresentValues(const Game& game, SeatId seat,
   if (expressions.empty() || !IsOccupied(game.table, seat)) return values;
   TrialHost host;
   const std::unique_ptr<Game> copy = CopyApart(game, host, {});
-  for (int other = 0; other < kSeatRows; ++other) copy->autobet.ScriptActive[other] = false;
+  for (SeatId other = 0; other < kSeatRows; ++other) copy->autobet.ScriptActive[other] = false;
   SetScriptActive(*copy, seat, true);
   for (std::size_t n = 0; n < expressions.size(); ++n) {
     // Nothing but an expression: no second statement, no comment that swallows the bracket.

@@ -137,9 +137,9 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
     return false;
   }
   const bool everyPlayer = meaning.row->keeper == Keeper::kPlayer && change.seat == 0;
-  if (!everyPlayer) return PutAt(game, meaning, SeatId(change.seat), text, error);
+  if (!everyPlayer) return PutAt(game, meaning, change.seat, text, error);
   for (SeatId seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(game.table, seat) && !PutAt(game, meaning, SeatId(seat), text, error)) return false;
+    if (IsOccupied(game.table, seat) && !PutAt(game, meaning, seat, text, error)) return false;
   return true;
 }
 
@@ -249,7 +249,7 @@ bool GetSetting(const Game& game, std::string_view name, SeatId seat, std::strin
       !BelongsToSeat(meaning, trimmed, seat, error))
     return false;
   value = meaning.state != nullptr ? meaning.state->text(game, seat)
-                                   : SettingText(game, *meaning.row, SeatId(seat), meaning.index);
+                                   : SettingText(game, *meaning.row, seat, meaning.index);
   return true;
 }
 

@@ -77,8 +77,8 @@ bool CountRunning(const RuleCase& c) { return c.game.table.FourRollCount > 0 && 
 bool HandStarted(const RuleCase& c) { return HandRolls(c.game.stats) > 0 && OverCommitted(c); }
 
 struct BetRule {
-  int first;
-  int last;
+  BetId first;
+  BetId last;
   bool decrease;
   bool (*refuses)(const RuleCase&);
   bool endsCall;  // nothing of the change is left to look at

@@ -25,9 +25,9 @@ bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, 
     return true;
   }
   const std::string name = Lowered(Trimmed(program.texts[static_cast<std::size_t>(operand.place)]));
-  for (int i = 1; i <= kSeats && !name.empty(); ++i) {
-    if (Lowered(Trimmed(game.table.seats[i].SeatName)) != name) continue;
-    seat = i;
+  for (SeatId other = 1; other <= kSeats && !name.empty(); ++other) {
+    if (Lowered(Trimmed(game.table.seats[other].SeatName)) != name) continue;
+    seat = other;
     return true;
   }
   return ScriptFails(game, kErrorPlayer);

@@ -104,7 +104,7 @@ void AutoPlayScreen::AddPlayerRow(QBoxLayout& column) {
   for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (const std::string& name = game_.table.seats[seat].SeatName; !name.empty())
       player_->addItem(FromCore(name), seat.value);
-  player_->setCurrentIndex(player_->findData(seat_));
+  player_->setCurrentIndex(player_->findData(seat_.value));
   player_->setEnabled(seat_ > 0);
   connect(player_, &QComboBox::activated, this, [this] { ShowSeat(player_->currentData().toInt()); });
   auto* label = new QLabel(tr("Pla&yer:"), this);

@@ -245,12 +245,12 @@ void BankrollGraphScreen::AddRun(QBoxLayout& column) {
 void BankrollGraphScreen::MeetSeat() {
   const TableState& table = game_.table;
   if (IsOccupied(table, game_.graph.PlotSeat) || table.OccupiedSeats == 0) return;
-  SelectPlotSeat(game_, IsOccupied(table, table.SelectedSeat) ? table.SelectedSeat : table.Seated[0]);
+  SelectPlotSeat(game_, IsOccupied(table, table.SelectedSeat) ? table.SelectedSeat : SeatId(table.Seated[0]));
 }
 
 void BankrollGraphScreen::ShowPlayers() {
   QStringList names;
-  QList<int> seats;
+  QList<int> seats;  // as the combo box keeps them
   for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game_.table, seat)) continue;
     names += FromCore(game_.table.seats[seat].SeatName);

@@ -406,9 +406,9 @@ void ListPlayers(const Game& game, SettingEditor& editor, QComboBox& players) {
   SeatId seat = editor.Seat();
   if (!IsOccupied(game.table, seat))
     seat = IsOccupied(game.table, game.table.SelectedSeat) ? game.table.SelectedSeat
-           : game.table.OccupiedSeats > 0                  ? game.table.Seated[0]
-                                                           : 0;
-  players.setCurrentIndex(players.findData(seat));
+           : game.table.OccupiedSeats > 0                  ? SeatId(game.table.Seated[0])
+                                                           : kNobody;
+  players.setCurrentIndex(players.findData(seat.value));
   if (seat != editor.Seat()) editor.SetSeat(seat);
 }
 

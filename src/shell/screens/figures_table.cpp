@@ -229,7 +229,7 @@ void PlayerChoice::Refresh(const TableState& table) {
   clear();
   for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat)) addItem(names[seat - 1], seat.value);
-  const int at = findData(before);
+  const int at = findData(before.value);
   setCurrentIndex(at >= 0 ? at : std::max(0, findData(table.SelectedSeat.value)));
   setEnabled(count() > 0);
 }

@@ -204,7 +204,7 @@ void ReportWindow::AddPlayers(QHBoxLayout& row) {
   };
   pick->isPicked = [this](SeatId seat) { return (game_.screen.Reports.Seats >> seat & 1) != 0; };
   // Places where nobody stands keep what they have: who comes there counts as before.
-  pick->picked = [this](const std::vector<SeatId>& seats) {
+  pick->picked = [this](const std::vector<int>& seats) {
     std::uint32_t& kept = game_.screen.Reports.Seats;
     for (SeatId seat = 1; seat <= kSeats; ++seat)
       if (IsOccupied(game_.table, seat)) kept &= ~(1u << seat);

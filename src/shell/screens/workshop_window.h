@@ -60,7 +60,7 @@ class WorkshopWindow : public ToolWindow {
   // On paper, in the colours of the words if the house prints in colours.
   bool PrintOn(QsciPrinter& printer);
   // What checks the script of a seat.
-  std::function<ScriptCheck(Game&, int)> checkScript;
+  std::function<ScriptCheck(Game&, SeatId)> checkScript;
 
   // A script has become active, or has run.
   std::function<void()> changed;

@@ -204,7 +204,7 @@ QString PointerText(Game& game, const TableCommands& commands, BetId bet) {
   // A click that is meant for something else bets nothing.
   const bool bets = occupied && action == kPendingNone && commands.Moving.Bet == 0;
   if (IsTableBet(bet))
-    parts += Told(game, PointerFacts(BetTermsOf(game, occupied ? seat : 0, bet), bets), ", ");
+    parts += Told(game, PointerFacts(BetTermsOf(game, occupied ? seat : kNobody, bet), bets), ", ");
   if (IsTableBet(bet)) parts += WhoBets(game, bet);
   parts.removeAll(QString());
   return parts.join("   ");
@@ -274,7 +274,7 @@ bool BetTip::eventFilter(QObject* watched, QEvent* event) {
 // The tip stays while the pointer is over what it tells of.
 void BetTip::PointAt(QPoint point, QPoint screen) {
   const BetId bet = table_.BetAt(point);
-  const SeatId seat = bet == 0 ? table_.SeatAt(point) : 0;
+  const SeatId seat = bet == 0 ? table_.SeatAt(point) : kNobody;
   screen_ = screen;
   if (shown_ && bet == bet_ && seat == seat_) return;
   Hide();

@@ -59,7 +59,7 @@ class BetPiles {
     std::array<Currency, 6> values{};
     bool up = false;  // asked for since the others were forgotten
   };
-  std::map<std::pair<int, int>, Kept> piles_;
+  std::map<std::pair<SeatId, BetId>, Kept> piles_;
 };
 
 }  // namespace tessaryn

@@ -42,7 +42,7 @@ BetId MeantBet(const Game& game, int id) {
   return id;
 }
 
-int AreaOf(BetId bet) { return bet == kDontPassOdds ? static_cast<int>(kDontPass) : bet; }
+int AreaOf(BetId bet) { return bet == kDontPassOdds ? kDontPass : bet; }
 
 Hit HitTest(const QImage& map, QPoint point, const Game& game) {
   if (!map.rect().contains(point)) return {};

@@ -179,7 +179,7 @@ bool PartAccessible::OfSelected() const { return part_.seat == game().table.Sele
 BetId PartAccessible::Bet() const {
   return part_.kind == PartKind::kArea    ? MeantBet(game(), area().Id)
          : part_.kind == PartKind::kStack ? part_.bet
-                                          : 0;
+                                          : kNoBet;
 }
 
 QString PartAccessible::Name() const {
@@ -187,7 +187,7 @@ QString PartAccessible::Name() const {
   switch (part_.kind) {
     case PartKind::kArea: {
       // Odds that aren't up mean their flat bet, which has an area of its own.
-      const QString bet = FromCore(BetName(IsDontComeOdds(area().Id) ? area().Id : Bet()));
+      const QString bet = FromCore(BetName(IsDontComeOdds(area().Id) ? BetId(area().Id) : Bet()));
       if (area().Side == 0) return bet;
       return (area().Side == 1 ? Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, left end"))
                                : Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, right end")))

@@ -94,7 +94,7 @@ BetId PutDownBet(const Game& game, const BetInHand& hand, int area) {
   if (area == AreaOf(hand.Bet)) return hand.Bet;
   // An area that means the bet in hand while that is up means itself once it has left.
   const BetId bet = MeantBet(game, area);
-  return bet == hand.Bet ? area : bet;
+  return bet == hand.Bet ? BetId(area) : bet;
 }
 
 void MoveBet(Game& game, int from, int to) {

@@ -389,8 +389,8 @@ QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId se
   const bool shared = !layout.Alone[0][bet].isNull();
   const QPointF alone = layout.Alone[shared ? 0 : SideOf(seat)][bet];
   if (alone.isNull()) return own;
-  const int first = shared ? 1 : FirstSeat(SideOf(seat));
-  for (int other = first; other < first + (shared ? kSeats : 4); ++other)
+  const SeatId first = shared ? SeatId(1) : FirstSeat(SideOf(seat));
+  for (SeatId other = first; other < first + (shared ? kSeats : 4); ++other)
     if (other != seat && table.seats[other].SeatBets.Has(bet)) return own;
   return alone;
 }

@@ -110,7 +110,7 @@ void DrawFeltMarks(Overlay& over) {
   over.painter.save();
   over.painter.setTransform(over.view.Transform(), true);
   const int point = over.scene.game->table.Point;
-  const int pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : 0;
+  const BetId pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : kNoBet;
   LightArea(over, pointBox);
   const int hover = AreaOf(over.scene.hoverBet);
   if (hover != pointBox) LightArea(over, hover);

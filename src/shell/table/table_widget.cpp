@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <cmath>
+#include <tuple>
 
 #include "base/bet_catalogue.h"
 #include "shell/table/contrast.h"
@@ -313,7 +314,7 @@ void TableWidget::LeftPress(QMouseEvent* event) {
     return;
   }
   const int stack = commands_.PendingAction == kPendingMove ? StackAt(point) : 0;
-  const BetId bet = stack != 0 ? stack : BetAt(point);
+  const BetId bet = stack != 0 ? BetId(stack) : BetAt(point);
   if (bet != 0) {
     emit betClicked(bet, alt);
     return;
@@ -392,8 +393,8 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
 // What is under the pointer now; the table may have changed below it.
 void TableWidget::FindPointed() {
   const bool inside = rect().contains(pointer_);
-  scene.hoverBet = inside ? BetAt(pointer_) : 0;
-  scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : 0;
+  scene.hoverBet = inside ? BetAt(pointer_) : kNoBet;
+  scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : kNobody;
 }
 
 // The line of what is pointed at is told anew once the events at hand are done: of many changes the last.
@@ -401,7 +402,7 @@ void TableWidget::TellSoon() {
   if (std::exchange(tellPending_, true)) return;
   QTimer::singleShot(0, this, [this] {
     tellPending_ = false;
-    const auto shown = [this] { return std::array{scene.hoverBet, scene.hoverSeat, scene.heldBet}; };
+    const auto shown = [this] { return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet); };
     const auto before = shown();
     FindPointed();
     ShowHeld();
@@ -425,7 +426,8 @@ void TableWidget::enterEvent(QEnterEvent* event) {
 
 void TableWidget::leaveEvent(QEvent*) {
   pointer_ = QPoint(-1, -1);
-  scene.hoverBet = scene.hoverSeat = 0;
+  scene.hoverBet = kNoBet;
+  scene.hoverSeat = kNobody;
   emit pointedAt(0);
   update();
 }
