@@ -71,6 +71,7 @@ struct LuckMeter {
   const LuckPlan* riding[kSeatRows] = {};    // of the roll to come; in plans
   std::size_t lastRide[kSeatRows][11] = {};  // places in plans, by the point: of the last roll that it was on
   std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
+  int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
   std::int64_t roll = 0;
   std::int64_t throwsBefore = -1;
 };
