@@ -127,6 +127,34 @@ TEST(LabCommand, RefusesWhatItCantPlay) {
   EXPECT_EQ(ReadFile(ground.folder.File("junk.lab")), "junk");
 }
 
+TEST(LabCommand, WritesNothingOverWhatItReads) {
+  Ground ground;
+  const auto shard = [&](int number) { return ground.folder.File(std::to_string(number) + ".lab"); };
+  std::string before;
+  for (int number = 1; number <= 2; ++number) {
+    ground.Says({"--bets", "43=10", "--sessions", "40", "--shard", std::to_string(number) + "/2", "--out",
+                 shard(number), "--csv", ground.folder.File("part.csv")});
+    before += ReadFile(shard(number)) + ReadFile(shard(number) + ".rows");
+  }
+  const std::vector<std::string> merge = {"merge", shard(2), shard(1)};
+  for (const auto& [option, path] : {std::pair("--out", shard(1)), std::pair("--csv", shard(2) + ".rows"),
+                                     std::pair("--report", shard(2))}) {
+    std::vector<std::string> words = merge;
+    words.insert(words.end(), {option, path});
+    const Ran ran = ground.Run(words);
+    EXPECT_EQ(ran.exitCode, 1) << option;
+    EXPECT_NE(ran.err.find(path), std::string::npos) << ran.err;
+  }
+  EXPECT_TRUE(ReadFile(shard(1)) + ReadFile(shard(1) + ".rows") + ReadFile(shard(2)) +
+                  ReadFile(shard(2) + ".rows") ==
+              before);
+  // What can be written is, beside what can't.
+  std::vector<std::string> words = merge;
+  words.insert(words.end(), {"--csv", "/dev/full", "--report", ground.folder.File("r.html")});
+  EXPECT_NE(ground.Run(words).err.find("/dev/full"), std::string::npos);
+  EXPECT_FALSE(ReadFile(ground.folder.File("r.html")).empty());
+}
+
 // Killed ten times on the way, at any moment, and gone on with on more threads or fewer.
 TEST(LabCommand, IsTheSameAfterTenKills) {
   Ground ground;
