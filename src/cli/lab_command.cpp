@@ -69,7 +69,8 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
     if (const std::string error = WriteRowsAsLogs(rows, options.slg); !error.empty())
       return Fail("--slg: " + error);
   if (!options.report.empty())
-    if (const std::string error = ReplaceFile(options.report, HtmlReport(state)); !error.empty())
+    if (const std::string error = ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank)));
+        !error.empty())
       return Fail("--report: " + error);
   return kDone;
 }
