@@ -54,9 +54,12 @@ double MeanOf(Int128 sum, std::int64_t count, double unit) {
   return count == 0 ? 0.0 : FigureMean({sum, 0, 0}, count, unit).mean;
 }
 
+// Parts in which luck and price are told, to the dollar.
+double PartsOf(const SystemSums& sums) {
+  return kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
+}
 MeanFigure AdjustedOf(const SystemSums& sums) {
-  return FigureMean(sums.adjusted, sums.sessions,
-                    kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
+  return FigureMean(sums.adjusted, sums.sessions, PartsOf(sums));
 }
 
 Json HistogramJson(const ValueCounts& counts) {
@@ -83,6 +86,7 @@ Json SystemJson(const LabSystem& system, const SystemSums& sums) {
   const MeanFigure adjusted = AdjustedOf(sums);
   json["adjusted"] = {{"mean", adjusted.mean}, {"ci95", BoundsJson(adjusted.ci95)}};
   json["handle"] = handle;
+  json["price"] = MeanOf(sums.price, sums.sessions, PartsOf(sums));
   json["advantagePercent"] = handle > 0 ? 100 * net.mean / handle : 0.0;
   const std::pair<const char*, std::int64_t> shares[] = {
       {"won", sums.won},   {"brokeEven", sums.brokeEven}, {"lost", sums.lost},      {"ruined", sums.ruined},
@@ -139,7 +143,8 @@ void PrintSystem(const LabSystem& system, const SystemSums& sums) {
   const MeanFigure adjusted = AdjustedOf(sums);
   std::printf("  less luck   %.4f, 95%% within %.4f to %.4f\n", adjusted.mean, adjusted.ci95.low,
               adjusted.ci95.high);
-  std::printf("  handle %.2f, result %.3f%% of it\n", handle, handle > 0 ? 100 * net.mean / handle : 0.0);
+  std::printf("  handle %.2f, result %.3f%% of it; price %.4f\n", handle,
+              handle > 0 ? 100 * net.mean / handle : 0.0, MeanOf(sums.price, sums.sessions, PartsOf(sums)));
   std::printf("  won %s, even %s, lost %s; ruined %s, goal %s, loss limit %s, stopped %s\n",
               Percent(sums.won, of).c_str(), Percent(sums.brokeEven, of).c_str(),
               Percent(sums.lost, of).c_str(), Percent(sums.ruined, of).c_str(),

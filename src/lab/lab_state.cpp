@@ -11,7 +11,8 @@ namespace {
 
 // --- The file: a title, the fields by their lists, and a hash of all before it.
 
-constexpr std::string_view kTitle = "Tessaryn Laboratory, Data Format 1\n";
+constexpr std::string_view kTitle = "Tessaryn Laboratory, Data Format 2\n";
+constexpr std::string_view kAnyTitle = "Tessaryn Laboratory, Data Format ";
 constexpr std::size_t kHashBytes = 8;
 constexpr std::uint64_t kLongestList = std::uint64_t{1} << 32;
 
@@ -192,7 +193,9 @@ std::string ReadLab(const std::string& path, LabState& state) {
   std::string bytes;
   constexpr std::uint64_t kLargest = std::uint64_t{4} << 30;
   if (std::string error = ReadWholeFile(path, bytes, kLargest); !error.empty()) return error;
-  if (!std::string_view(bytes).starts_with(kTitle)) return path + ": this is no laboratory's file";
+  if (!std::string_view(bytes).starts_with(kAnyTitle)) return path + ": this is no laboratory's file";
+  if (!std::string_view(bytes).starts_with(kTitle))
+    return path + ": the file is of another version of the laboratory, or damaged";
   if (bytes.size() < kTitle.size() + kHashBytes) return Damaged(path);
   const std::string_view content = std::string_view(bytes).substr(0, bytes.size() - kHashBytes);
   Reader hash{std::string_view(bytes).substr(content.size())};

@@ -95,6 +95,7 @@ void AddSession(SystemSums& sums, const SessionResult& result) {
   sums.luckUnit = result.luckUnit;
   AddSquared(sums.adjusted, Int128{result.net.raw} * result.luckUnit - result.luck);
   sums.handle += result.handle.raw;
+  sums.price += result.price;
   sums.drawdown += result.maxDrawdown.raw;
   CountValue(sums.nets, result.net.raw);
   CountValue(sums.drawdowns, result.maxDrawdown.raw);
@@ -113,6 +114,7 @@ void AddSums(SystemSums& sums, const SystemSums& later) {
   if (sums.luckUnit == 0) sums.luckUnit = later.luckUnit;
   AddExact(sums.adjusted, later.adjusted);
   sums.handle += later.handle;
+  sums.price += later.price;
   sums.drawdown += later.drawdown;
   for (ValueCounts SystemSums::*counts : {&SystemSums::nets, &SystemSums::drawdowns, &SystemSums::lengths,
                                           &SystemSums::streaks, &SystemSums::ruins})

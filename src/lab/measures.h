@@ -61,6 +61,7 @@ struct SystemSums {
   std::int64_t luckUnit = 0;  // parts of $0.0001 in which luck is told; 0 before the first session
   ExactSum adjusted;          // net less luck, in 1 / luckUnit of $0.0001
   Int128 handle = 0;
+  Int128 price = 0;  // as luck is told
   Int128 drawdown = 0;
   ValueCounts nets;
   ValueCounts drawdowns;
@@ -74,7 +75,7 @@ struct SystemSums {
   std::string stopReason;               // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
-                net, luckUnit, adjusted, handle, drawdown, nets, drawdowns, lengths, streak, streaks, ruins,
+                net, luckUnit, adjusted, handle, price, drawdown, nets, drawdowns, lengths, streak, streaks, ruins,
                 fan, errors, acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.

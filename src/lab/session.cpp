@@ -394,7 +394,9 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   NoteTouched(table);
   result.net = NetOf(game, course);
   result.highest = course.highest;
-  result.luck = table.luck.seats[kSeat].luck;
+  const SeatLuck& luck = table.luck.seats[kSeat];
+  result.luck = luck.luck;
+  result.price = -(luck.expected + luck.shifted);
   result.luckUnit = table.luck.unit;
   result.handle = HandleOf(game.stats, table.touched);
   if (experiment.rolls > 0)

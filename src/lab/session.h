@@ -33,11 +33,12 @@ struct SessionResult {
   std::int64_t rolls = 0;
   std::int64_t hands = 0;     // seven-outs
   WideInt luck = 0;           // what the dice brought beyond their mean, in 1 / luckUnit of $0.0001
+  WideInt price = 0;          // what the bets were expected to cost as they rode, likewise
   std::int64_t luckUnit = 1;  // the same for all sessions of a system
   std::uint8_t marks = 0;     // what it met at some roll's end: SessionMark
 };
-TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, losingStreak, rolls, hands, luck, luckUnit,
-                marks)
+TESSARYN_FIELDS(SessionResult, net, handle, maxDrawdown, highest, losingStreak, rolls, hands, luck, price,
+                luckUnit, marks)
 
 // What the laboratory's tables ask of the outside: nobody is there, and no clock goes.
 struct LabHost : Host {

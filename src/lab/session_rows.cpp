@@ -9,7 +9,7 @@
 namespace tessaryn {
 namespace {
 
-constexpr std::size_t kLineBytes = 10 * 8;
+constexpr std::size_t kLineBytes = 12 * 8;
 constexpr std::size_t kBufferBytes = 1u << 20;
 constexpr std::uint64_t kHashStart = 0xcbf29ce484222325u;
 
@@ -91,7 +91,8 @@ void AddRow(SessionRows& rows, const SessionResult& result, const Record& record
     for (const std::int64_t number :
          {result.net.raw, result.handle.raw, result.maxDrawdown.raw, result.highest.raw, result.rolls,
           result.hands, std::int64_t{result.marks}, static_cast<std::int64_t>(result.luck),
-          static_cast<std::int64_t>(result.luck >> 64), result.luckUnit})
+          static_cast<std::int64_t>(result.luck >> 64), result.luckUnit,
+          static_cast<std::int64_t>(result.price), static_cast<std::int64_t>(result.price >> 64)})
       word(number);
   if (rows.kept.records) rows.buffer.append(reinterpret_cast<const char*>(record.data()), record.size());
   Hash(rows.kept.hash, rows.buffer.data() + start, rows.buffer.size() - start);
@@ -134,12 +135,12 @@ std::string CsvText(const std::string& text) {
 }
 
 // In dollars: exact to what a double holds.
-std::string LuckText(std::int64_t low, std::int64_t high, std::int64_t unit) {
-  const auto luck =
+std::string PartsText(std::int64_t low, std::int64_t high, std::int64_t unit) {
+  const auto parts =
       static_cast<WideInt>(high) * (static_cast<WideInt>(1) << 64) + static_cast<std::uint64_t>(low);
   char text[48];
   std::snprintf(text, sizeof text, "%.9g",
-                static_cast<double>(luck) / static_cast<double>(unit) / Currency::kPerDollar);
+                static_cast<double>(parts) / static_cast<double>(unit) / Currency::kPerDollar);
   return text;
 }
 
@@ -153,7 +154,7 @@ std::string CsvLine(const std::string& row, std::int64_t session, const std::str
   }
   std::string line = std::to_string(session) + "," + system;
   for (int i = 0; i < 4; ++i) line += "," + PlainMoney(Currency::FromRaw(words[i]));
-  line += "," + LuckText(words[7], words[8], words[9]);
+  line += "," + PartsText(words[7], words[8], words[9]) + "," + PartsText(words[10], words[11], words[9]);
   line += "," + std::to_string(words[4]) + "," + std::to_string(words[5]);
   for (const int mark : {kMarkRuined, kMarkGoal, kMarkLimit, kMarkStopped})
     line += (words[6] & mark) != 0 ? ",1" : ",0";
@@ -161,7 +162,7 @@ std::string CsvLine(const std::string& row, std::int64_t session, const std::str
 }
 
 constexpr const char* kCsvHeader =
-    "session,system,net,handle,maxDrawdown,highest,luck,rolls,hands,ruined,goal,limit,stopped\n";
+    "session,system,net,handle,maxDrawdown,highest,luck,price,rolls,hands,ruined,goal,limit,stopped\n";
 
 }  // namespace
 
