@@ -216,7 +216,7 @@ std::string SpreadFigure(const LabState& state) {
   Widen(low, high);
   const double room = (high - low) / 40;
   Drawing drawing(low - room, high + room, 0, 1,
-                  90 + kSpreadLine * static_cast<double>(state.systems.size()));
+                  104 + kSpreadLine * static_cast<double>(state.systems.size()));
   const double step = NiceStep(high - low, 8);
   for (double at = std::ceil((low - room) / step); at * step <= high + room; ++at) {
     const double x = drawing.across.At(at * step);

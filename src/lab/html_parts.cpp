@@ -10,7 +10,7 @@ namespace {
 constexpr const char* kNoCharacter = "\xEF\xBF\xBD";
 constexpr double kPlotLeft = 78;
 constexpr double kPlotRight = kDrawnWidth - 14;
-constexpr double kPlotTop = 30;
+constexpr double kPlotTop = 44;  // a line for the axis, one for borders
 constexpr double kBelowPlot = 42;
 
 // The bytes of the character that begins there; 0 where none does.
@@ -172,7 +172,7 @@ void Drawing::AddAxes(Shown acrossAs, Shown upAs, const std::string& acrossName,
   for (double at = std::ceil(across.low / step - 1e-9); at * step <= across.high + step * 1e-9; ++at)
     AddText(across.At(at * step), height - kBelowPlot + 18, "middle", ShownNumber(at * step, step, acrossAs));
   AddText(kPlotRight, height - 6, "end", acrossName);
-  AddText(kPlotLeft, kPlotTop - 14, "start", upName);
+  AddText(kPlotLeft, kPlotTop - 30, "start", upName);
 }
 
 std::string Drawing::Finish(const std::string& caption) const {

@@ -52,11 +52,11 @@ std::string ShownNumber(double number, double step, Shown as);
 struct Drawing {
   DrawnScale across;
   DrawnScale up;
-  double height = 280;
+  double height = 290;
   std::string svg;
 
-  // Room is left for numbers at the left and below, and for a line of words above.
-  Drawing(double acrossLow, double acrossHigh, double upLow, double upHigh, double itsHeight = 280);
+  // Room is left for numbers at the left and below, and for two lines of words above.
+  Drawing(double acrossLow, double acrossHigh, double upLow, double upHigh, double itsHeight = 290);
   void AddAxes(Shown acrossAs, Shown upAs, const std::string& acrossName, const std::string& upName);
   void AddText(double x, double y, const char* anchor, const std::string& text, const char* kind = "");
   void AddLine(double x1, double y1, double x2, double y2, const char* kind);

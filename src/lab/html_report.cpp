@@ -33,31 +33,38 @@ std::string KeyedName(const LabState& state, std::size_t system) {
 }
 
 MeanFigure NetOf(const SystemSums& sums) { return FigureMean(sums.net, sums.sessions, kDollar); }
+// Parts in which luck and price are told, to the dollar.
+double PartsOf(const SystemSums& sums) {
+  return kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
+}
 MeanFigure AdjustedOf(const SystemSums& sums) {
-  return FigureMean(sums.adjusted, sums.sessions,
-                    kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
+  return FigureMean(sums.adjusted, sums.sessions, PartsOf(sums));
 }
 double MeanOf(Int128 sum, std::int64_t count, double unit) {
   return FigureMean({sum, 0, 0}, count, unit).mean;
 }
 
-// One session has no spread to tell bounds from.
-std::string MeanText(const MeanFigure& figure, std::int64_t sessions) {
-  const int decimals = DecimalsFor(figure.ci95);
-  if (sessions < 2) return Signed(figure.mean, decimals);
-  return Signed(figure.mean, decimals) + " <small>" + Signed(figure.ci95.low, decimals) + " to " +
-         Signed(figure.ci95.high, decimals) + "</small>";
+std::string Between(const Bounds& bounds, std::string (*show)(double, int), int decimals) {
+  return Tag("small", show(bounds.low, decimals) + " to " + show(bounds.high, decimals));
 }
 
-std::string ShareText(std::int64_t count, std::int64_t of) {
+// A figure and its bounds, a cell each. One session has no spread to tell bounds from.
+using Cells = std::vector<std::string>;
+Cells MeanCells(const MeanFigure& figure, std::int64_t sessions) {
+  const int decimals = DecimalsFor(figure.ci95);
+  return {Signed(figure.mean, decimals), sessions < 2 ? "" : Between(figure.ci95, Signed, decimals)};
+}
+Cells ShareCells(std::int64_t count, std::int64_t of) {
   const ShareFigure share = FigureShare(count, of);
-  return PercentText(share.p, 2) + " <small>" + PercentText(share.ci95.low, 2) + " to " +
-         PercentText(share.ci95.high, 2) + "</small>";
+  return {PercentText(share.p, 2), Between(share.ci95, PercentText, 2)};
 }
 
 std::string PlainShare(std::int64_t count, std::int64_t of) {
   return PercentText(FigureShare(count, of).p, 1);
 }
+
+// With a full stop, whether it came with one or not.
+std::string Ended(const std::string& sentence) { return sentence.ends_with('.') ? sentence : sentence + "."; }
 
 bool NeverRolled(const SystemSums& sums) { return sums.unrolled == sums.sessions; }
 
@@ -189,10 +196,10 @@ std::string Ranking(const LabState& state, RankBy by) {
   int place = 0;
   for (const Ranked& ranked : RankSystems(state, by)) {
     const SystemSums& sums = state.systems[ranked.system];
-    std::vector<std::string> cells = {MeanText(NetOf(sums), sums.sessions),
-                                      MeanText(AdjustedOf(sums), sums.sessions),
-                                      Dollars(Quantile(sums.nets, 50)), PlainShare(sums.won, sums.sessions),
-                                      PlainShare(sums.ruined, sums.sessions)};
+    const Cells net = MeanCells(NetOf(sums), sums.sessions);
+    const Cells adjusted = MeanCells(AdjustedOf(sums), sums.sessions);
+    Cells cells = {net[0] + net[1], adjusted[0] + adjusted[1], Dollars(Quantile(sums.nets, 50)),
+                   PlainShare(sums.won, sums.sessions), PlainShare(sums.ruined, sums.sessions)};
     if (goal) cells.push_back(PlainShare(sums.goal, sums.sessions));
     std::string row = Tag("td", std::to_string(++place) + ".") +
                       Tag("th", KeyedName(state, ranked.system), "scope=\"row\" class=\"name\"");
@@ -270,26 +277,34 @@ std::string QuantileTable(const SystemSums& sums) {
   add("deepest fall, $", sums.drawdowns, Dollars);
   add("rolls", sums.lengths, Whole);
   add("longest losing streak, rolls", sums.streaks, Whole);
-  return Tag("div", Tag("table", HeadRow(heads) + Tag("tbody", rows)), "class=\"wide\"") + "\n";
+  return Tag("div", Tag("table", HeadRow(heads) + Tag("tbody", rows), "class=\"quantiles\""),
+             "class=\"wide\"") +
+         "\n";
 }
 
 std::string Measures(const Experiment& experiment, const SystemSums& sums) {
   const MeanFigure net = NetOf(sums);
   const std::int64_t of = sums.sessions;
   const double handle = MeanOf(sums.handle, of, kDollar);
-  std::string rows = Row("mean result, $", {MeanText(net, of)}, "class=\"mean\"");
-  rows += Row("the same less luck, $", {MeanText(AdjustedOf(sums), of)});
-  if (of > 1) rows += Row("standard deviation, $", {Number(net.stdDev, 2)});
-  rows += Row("decided in a session, $", {Number(handle, 2)}) +
-          Row("result of what was decided", {handle > 0 ? PercentText(net.mean / handle, 3) : "none"}) +
-          Row("deepest fall on average, $", {Number(MeanOf(sums.drawdown, of, kDollar), 2)}) +
-          Row("rolls on average", {Number(MeanOf(sums.rolls, of, 1), 1)}) +
-          Row("ended ahead", {ShareText(sums.won, of)}) + Row("broke even", {ShareText(sums.brokeEven, of)}) +
-          Row("ended behind", {ShareText(sums.lost, of)}) + Row("ruined", {ShareText(sums.ruined, of)});
-  if (experiment.winGoal > kZero) rows += Row("reached the goal", {ShareText(sums.goal, of)});
-  if (experiment.lossLimit > kZero) rows += Row("met the loss limit", {ShareText(sums.limit, of)});
-  if (sums.stopped > 0) rows += Row("stopped by itself", {ShareText(sums.stopped, of)});
-  return Tag("div", Tag("table", Tag("tbody", rows)), "class=\"wide\"") + "\n";
+  std::string rows = Row("mean result, $", MeanCells(net, of), "class=\"mean\"");
+  const auto add = [&](const char* name, const Cells& cells) { rows += Row(name, cells); };
+  add("the same less luck, $", MeanCells(AdjustedOf(sums), of));
+  if (of > 1) add("standard deviation, $", {Number(net.stdDev, 2), ""});
+  add("decided in a session, $", {Number(handle, 2), ""});
+  add("price of its bets by the odds, $", {Number(MeanOf(sums.price, of, PartsOf(sums)), 2), ""});
+  add("result of what was decided", {handle > 0 ? PercentText(net.mean / handle, 3) : "none", ""});
+  add("deepest fall on average, $", {Number(MeanOf(sums.drawdown, of, kDollar), 2), ""});
+  add("rolls on average", {Number(MeanOf(sums.rolls, of, 1), 1), ""});
+  add("ended ahead", ShareCells(sums.won, of));
+  add("broke even", ShareCells(sums.brokeEven, of));
+  add("ended behind", ShareCells(sums.lost, of));
+  add("ruined", ShareCells(sums.ruined, of));
+  if (experiment.winGoal > kZero) add("reached the goal", ShareCells(sums.goal, of));
+  if (experiment.lossLimit > kZero) add("met the loss limit", ShareCells(sums.limit, of));
+  if (sums.stopped > 0) add("stopped by itself", ShareCells(sums.stopped, of));
+  return Tag("div", Tag("table", HeadRow({"", "", of > 1 ? "95% bounds" : ""}) + Tag("tbody", rows)),
+             "class=\"wide\"") +
+         "\n";
 }
 
 std::string SystemSection(const LabState& state, std::size_t system) {

@@ -34,7 +34,12 @@ tbody th{white-space:normal;overflow-wrap:anywhere;min-width:9rem}
 tr.mean th,tr.mean td{font-weight:700}
 table.facts th{color:var(--soft);width:14rem}
 table.facts td{text-align:left;white-space:normal;overflow-wrap:anywhere}
-td small{display:inline-block;min-width:9.5rem}
+table.ranking td:first-child{width:2rem}
+table.ranking tbody th{text-align:left;padding-left:0;min-width:15rem}
+table.ranking thead th:nth-child(2){text-align:left;padding-left:0}
+table.ranking small{display:block}
+table.quantiles td,table.quantiles th{padding-left:.75rem}
+table.quantiles th:first-child{padding-left:0}
 .key{display:inline-block;min-width:1.4em;font-weight:700}
 .map td{text-align:center;padding:.4rem .6rem;border:2px solid var(--page);-webkit-print-color-adjust:exact;
 print-color-adjust:exact}
@@ -58,7 +63,7 @@ details{margin:.75rem 0}summary{cursor:pointer;color:var(--soft)}
 @page{margin:15mm}body{font-size:10pt;max-width:none;padding:0}h2,h3{break-after:avoid}
 figure,tr,.words{break-inside:avoid}.wide,figure,pre{overflow:visible}svg{min-width:0}
 section{margin-top:1.5rem}section.system{break-before:page}svg *{-webkit-print-color-adjust:exact;
-print-color-adjust:exact}th,td{padding-left:.7rem}td small{min-width:0}.many td,.many th{font-size:8pt}}
+print-color-adjust:exact}th,td{padding-left:.7rem}.many td,.many th{font-size:8pt}}
 )";
 
 }  // namespace tessaryn
