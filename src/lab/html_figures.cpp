@@ -32,8 +32,9 @@ std::string Dashes(std::size_t system) {
 
 }  // namespace
 
-std::string KeyOf(std::size_t system) {
-  return system < 26 ? std::string(1, static_cast<char>('A' + system)) : std::to_string(system + 1);
+std::string KeyOf(std::size_t system, std::size_t systems) {
+  constexpr std::size_t kLetters = 26;
+  return systems <= kLetters ? std::string(1, static_cast<char>('A' + system)) : std::to_string(system + 1);
 }
 
 namespace {
@@ -44,7 +45,7 @@ void AddBorders(Drawing& drawing, const Experiment& experiment) {
     const double x = drawing.across.At(at);
     if (x < drawing.across.from || x > drawing.across.to) return;
     drawing.AddLine(x, drawing.up.to - 6, x, drawing.up.from, "edge");
-    drawing.AddText(std::clamp(x, drawing.across.from + 120, drawing.across.to - 40), drawing.up.to - 10,
+    drawing.AddText(std::clamp(x, drawing.across.from + 30, drawing.across.to - 30), drawing.up.to - 10,
                     "middle", name);
   };
   if (experiment.lossLimit > kZero) border(-experiment.lossLimit.ToDouble(), "loss limit");
@@ -170,7 +171,7 @@ std::string RuinFigure(const LabState& state, std::size_t first, std::size_t las
   std::sort(ends.rbegin(), ends.rend());
   for (const auto& [y, system] : ends) {
     above = std::min(y + 4, above - 13);
-    drawing.AddText(drawing.across.to + 6, above, "start", KeyOf(system), "key");
+    drawing.AddText(drawing.across.to + 6, above, "start", KeyOf(system, state.systems.size()), "key");
   }
   return drawing.Finish("Ruin over time.");
 }
@@ -225,7 +226,7 @@ std::string SpreadFigure(const LabState& state) {
   }
   drawing.AddText(drawing.across.to, drawing.height - 6, "end", "result of a session, $");
   for (std::size_t i = 0; i < state.systems.size(); ++i)
-    AddSpread(drawing, state.systems[i], KeyOf(i),
+    AddSpread(drawing, state.systems[i], KeyOf(i, state.systems.size()),
               drawing.up.to + kSpreadLine / 2 + 9 + kSpreadLine * static_cast<double>(i));
   return drawing.Finish(
       "What sessions brought. Line: 1% to 99% of them; thick: 5% to 95%; box: the middle half, bar at the "

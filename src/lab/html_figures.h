@@ -7,8 +7,8 @@
 
 namespace tessaryn {
 
-// A letter for each system, A to Z, then numbers.
-std::string KeyOf(std::size_t system);
+// A letter for each system, or a number where letters don't suffice for all.
+std::string KeyOf(std::size_t system, std::size_t systems);
 
 // All require settled counts and one session at least.
 std::string ResultsFigure(const Experiment& experiment, const SystemSums& sums);

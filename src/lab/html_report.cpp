@@ -23,13 +23,18 @@ constexpr std::int64_t kFewSessions = 30;  // bounds of fewer are rough
 std::string Whole(std::int64_t number) { return FormatMoney(Currency::Dollars(number)); }
 std::string Dollars(std::int64_t raw) { return Number(static_cast<double>(raw) / kDollar, 2); }
 
+constexpr std::size_t kMostOfName = 64;  // characters; all of it stands above its own section
+
 std::string NameOf(const LabState& state, std::size_t system) {
-  return Escaped(LabelOf(state.experiment.systems[system]));
+  return Escaped(Shortened(LabelOf(state.experiment.systems[system]), kMostOfName));
 }
 // With its letter where there are several.
+std::string Keyed(const LabState& state, std::size_t system, const std::string& name) {
+  if (state.systems.size() == 1) return name;
+  return Tag("span", KeyOf(system, state.systems.size()), "class=\"key\"") + "&nbsp;" + name;
+}
 std::string KeyedName(const LabState& state, std::size_t system) {
-  const std::string key = state.systems.size() == 1 ? "" : Tag("span", KeyOf(system), "class=\"key\"") + " ";
-  return key + NameOf(state, system);
+  return Keyed(state, system, NameOf(state, system));
 }
 
 MeanFigure NetOf(const SystemSums& sums) { return FigureMean(sums.net, sums.sessions, kDollar); }
@@ -74,20 +79,22 @@ std::string SystemInWords(const LabState& state, std::size_t system) {
   const SystemSums& sums = state.systems[system];
   const std::string name = Tag("b", KeyedName(state, system));
   if (NeverRolled(sums))
-    return Tag("p",
-               name + " never rolled the dice: " +
-                   (sums.stopReason.empty() ? "every session stopped at once" : Escaped(sums.stopReason)) +
-                   ".") +
+    return Tag("p", name + " never rolled the dice: " +
+                        (sums.stopReason.empty() ? "every session stopped at once."
+                                                 : Ended(Escaped(sums.stopReason)))) +
            "\n";
   const MeanFigure net = NetOf(sums);
   const int decimals = DecimalsFor(net.ci95);
   if (sums.handle == 0 && net.mean == 0 && net.stdDev == 0)
     return Tag("p", name + " neither won nor lost anything: none of its bets was decided.") + "\n";
+  if (sums.sessions == 1)
+    return Tag("p", name + (net.mean < 0 ? " lost " : " won ") + Number(std::fabs(net.mean), 2) +
+                        " dollars in its one session, of " + Whole(sums.rolls) + " rolls" +
+                        (sums.ruined > 0 ? ", and was ruined." : ".")) +
+           "\n";
   std::string text = name + (net.mean < 0 ? " loses " : " wins ") + Number(std::fabs(net.mean), decimals) +
-                     " dollars a session on average";
-  if (sums.sessions > 1)
-    text +=
-        ", 95% sure between " + Signed(net.ci95.low, decimals) + " and " + Signed(net.ci95.high, decimals);
+                     " dollars a session on average, 95% sure between " + Signed(net.ci95.low, decimals) +
+                     " and " + Signed(net.ci95.high, decimals);
   text += ". " + PlainShare(sums.won, sums.sessions) + " of the sessions end ahead, " +
           PlainShare(sums.lost, sums.sessions) + " behind; " + PlainShare(sums.ruined, sums.sessions) +
           " are ruined";
@@ -310,8 +317,9 @@ std::string Measures(const Experiment& experiment, const SystemSums& sums) {
 std::string SystemSection(const LabState& state, std::size_t system) {
   const Experiment& experiment = state.experiment;
   const SystemSums& sums = state.systems[system];
-  std::string text =
-      "<section class=\"system\"><h2>" + KeyedName(state, system) + "</h2>\n" + Measures(experiment, sums);
+  std::string text = "<section class=\"system\"><h2>" +
+                     Keyed(state, system, Escaped(LabelOf(experiment.systems[system]))) + "</h2>\n" +
+                     Measures(experiment, sums);
   if (!sums.stopReason.empty())
     text += Tag("p", "The first session that stopped by itself: " + Escaped(sums.stopReason)) + "\n";
   for (const ScriptErrorKind& kind : sums.errors)
@@ -319,7 +327,11 @@ std::string SystemSection(const LabState& state, std::size_t system) {
                          ": line " + std::to_string(kind.line) + ", " + Escaped(kind.text)) +
             "\n";
   if (NeverRolled(sums)) return text + "</section>\n";
-  text += ResultsFigure(experiment, sums) + WayFigure(experiment, sums);
+  if (sums.nets.rows.size() == 1)
+    text += Tag("p", "Every session ended at " + Dollars(sums.nets.rows.front().amount) + ".") + "\n";
+  else
+    text += ResultsFigure(experiment, sums);
+  text += WayFigure(experiment, sums);
   if (state.systems.size() == 1 || state.systems.size() > kMostLines)
     text += RuinFigure(state, system, system + 1);
   return text + QuantileTable(sums) + "</section>\n";
@@ -435,7 +447,7 @@ std::string Head(const LabState& state) {
 std::string HtmlReport(LabState& state, RankBy by) {
   SettleState(state);
   std::string page =
-      Head(state) + Summary(state) + AllSystems(state, by) + SweepSections(state, by) + Comparisons(state);
+      Head(state) + Summary(state) + SweepSections(state, by) + AllSystems(state, by) + Comparisons(state);
   const std::size_t shown = std::min(state.systems.size(), kMostSections);
   for (std::size_t i = 0; i < shown; ++i) page += SystemSection(state, i);
   if (shown < state.systems.size())

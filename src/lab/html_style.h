@@ -41,9 +41,10 @@ table.ranking small{display:block}
 table.quantiles td,table.quantiles th{padding-left:.75rem}
 table.quantiles th:first-child{padding-left:0}
 .key{display:inline-block;min-width:1.4em;font-weight:700}
-.map td{text-align:center;padding:.4rem .6rem;border:2px solid var(--page);-webkit-print-color-adjust:exact;
+.map td,.map th{font-size:.9rem}
+.map td{text-align:center;padding:.4rem .35rem;min-width:3.2rem;border:2px solid var(--page);-webkit-print-color-adjust:exact;
 print-color-adjust:exact}
-.map th{padding:.4rem .6rem;border:0;font-weight:600;text-align:center;min-width:0;white-space:nowrap}
+.map th{padding:.4rem .35rem;border:0;font-weight:600;text-align:center;min-width:0;white-space:nowrap}
 .map tbody th{text-align:right}
 .map td.best{outline:3px solid var(--ink);outline-offset:-2px;font-weight:700}
 .map td.near{outline:2px dotted var(--ink);outline-offset:-2px}
@@ -63,7 +64,7 @@ details{margin:.75rem 0}summary{cursor:pointer;color:var(--soft)}
 @page{margin:15mm}body{font-size:10pt;max-width:none;padding:0}h2,h3{break-after:avoid}
 figure,tr,.words{break-inside:avoid}.wide,figure,pre{overflow:visible}svg{min-width:0}
 section{margin-top:1.5rem}section.system{break-before:page}svg *{-webkit-print-color-adjust:exact;
-print-color-adjust:exact}th,td{padding-left:.7rem}.many td,.many th{font-size:8pt}}
+print-color-adjust:exact}th,td{padding-left:.7rem}.map td,.map th{font-size:8pt;padding:2pt 3pt;min-width:0}details{display:none}}
 )";
 
 }  // namespace tessaryn

@@ -78,7 +78,7 @@ std::string Legend(const Sweep& sweep) {
   for (int i = 0; i <= 5; ++i) stops += (i == 0 ? "" : ",") + Rgb(HeatColourOf(i / 5.0));
   std::string text = ValueText(sweep.worst, sweep.by) +
                      "<span class=\"bar\" style=\"background:linear-gradient(to right," + stops +
-                     ")\"></span>" + ValueText(sweep.At(sweep.best), sweep.by) + ". Framed: the best.";
+                     ")\">&nbsp;</span>" + ValueText(sweep.At(sweep.best), sweep.by) + ". Framed: the best.";
   if (sweep.by == RankBy::kMean) text += " Dotted: not sure to be worse than that.";
   return Tag("p", text, "class=\"soft\"");
 }
@@ -100,10 +100,8 @@ std::string HeatMap(const Sweep& sweep) {
       cells += Cell(sweep, row * grid.Columns() + column);
     table += Tag("tr", cells) + "\n";
   }
-  return Tag("div",
-             Tag("table", table + "</tbody>", grid.Columns() > 12 ? "class=\"map many\"" : "class=\"map\""),
-             "class=\"wide\"") +
-         Legend(sweep) + "\n";
+  return Tag("div", Tag("table", table + "</tbody>", "class=\"map\""), "class=\"wide\"") + Legend(sweep) +
+         "\n";
 }
 
 // --- One sweep.

@@ -13,6 +13,7 @@
 #include <QMenu>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -64,6 +65,7 @@ enum Page : int {
   kSweepPage,
   kFoundPage
 };
+constexpr int kLeastBelow = 80;
 constexpr int kHeightForAll = 470;  // of the page of results, with how sessions end below
 constexpr int kProgressSteps = 1'000;
 constexpr int kMeasuresWidth = 330;
@@ -267,7 +269,12 @@ QWidget* LaboratoryScreen::MakePages() {
     pictures_.append(view);
     return view;
   };
-  pages_->addTab(setup_, tr("E&xperiment"));
+  auto* scrolled = new QScrollArea(pages_);
+  scrolled->setFrameShape(QFrame::NoFrame);
+  scrolled->setWidgetResizable(true);
+  scrolled->setFocusPolicy(Qt::NoFocus);
+  scrolled->setWidget(setup_);
+  pages_->addTab(scrolled, tr("E&xperiment"));
   pages_->addTab(MakeResults(), tr("Res&ults"));
   auto* way = new QWidget(pages_);
   auto* row = new QHBoxLayout(way);
@@ -312,6 +319,10 @@ QWidget* LaboratoryScreen::MakeResults() {
   grid->setRowStretch(1, 2);
   grid->setColumnStretch(0, 1);
   page->lower = {ends, about};
+  for (QWidget* widget : page->lower) {
+    widget->setMinimumHeight(kLeastBelow);
+    widget->hide();
+  }
   return page;
 }
 
