@@ -127,22 +127,6 @@ int ReadSystems(const CLI::App& command, const LabOptions& options, std::vector<
   return kDone;
 }
 
-// --- Sweeps.
-
-int VarySetting(const std::string& text, std::vector<LabSystem>& systems) {
-  const std::string where = "--vary " + text + ": ";
-  LabSetting setting;
-  std::string values;
-  if (!ParseAssignment(text, setting.name, setting.seat, values) || setting.name.empty())
-    return Wrong(where + "expected NAME=VALUE,...");
-  const std::vector<std::string> parts = SplitText(values, ',');
-  const std::string error = MultiplySystems(systems, parts.size(), [&](LabSystem& system, std::size_t i) {
-    setting.text = parts[i];
-    system.settings.push_back(setting);
-  });
-  return error.empty() ? kDone : Wrong(where + error);
-}
-
 // --- The table.
 
 int ReadSettings(const LabOptions& options, std::vector<LabSetting>& settings) {
@@ -208,7 +192,8 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
     if (const std::string error = SweepStack(text, experiment.systems); !error.empty())
       return Wrong("--stack " + text + ": " + error);
   for (const std::string& text : options.varied)
-    if (const int code = VarySetting(text, experiment.systems)) return code;
+    if (const std::string error = SweepSetting(text, experiment.systems); !error.empty())
+      return Wrong("--vary " + text + ": " + error);
   if (const int code = ReadMoney("--bankroll", options.bankroll, kLeast, experiment.bankroll)) return code;
   if (const int code = ReadMoney("--precision", options.precision, kLeast, experiment.precision)) return code;
   if (const int code = ReadEnds(command, options, experiment)) return code;
