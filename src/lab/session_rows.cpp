@@ -46,6 +46,14 @@ std::string ForEachRow(SessionRows& rows, Visit&& visit) {
   return {};
 }
 
+// To the file, once there is much.
+void EmptyBuffer(SessionRows& rows) {
+  if (rows.file == nullptr || rows.buffer.size() < kBufferBytes || !rows.fault.empty()) return;
+  if (std::fwrite(rows.buffer.data(), 1, rows.buffer.size(), rows.file) != rows.buffer.size())
+    rows.fault = Fault(rows, "write");
+  rows.buffer.clear();
+}
+
 // The rows that are kept must be those that were written.
 std::string CheckRows(SessionRows& rows, const RowsKept& kept) {
   rows.kept = kept;
@@ -96,10 +104,14 @@ void AddRow(SessionRows& rows, const SessionResult& result, const Record& record
       word(number);
   if (rows.kept.records) rows.buffer.append(reinterpret_cast<const char*>(record.data()), record.size());
   Hash(rows.kept.hash, rows.buffer.data() + start, rows.buffer.size() - start);
-  if (rows.buffer.size() < kBufferBytes || !rows.fault.empty()) return;
-  if (std::fwrite(rows.buffer.data(), 1, rows.buffer.size(), rows.file) != rows.buffer.size())
-    rows.fault = Fault(rows, "write");
-  rows.buffer.clear();
+  EmptyBuffer(rows);
+}
+
+void AddPieceRows(SessionRows& rows, const LabPiece& piece) {
+  rows.buffer += piece.rows;
+  Hash(rows.kept.hash, piece.rows.data(), piece.rows.size());
+  rows.kept.sessions += piece.last - piece.first;
+  EmptyBuffer(rows);
 }
 
 std::string FlushRows(SessionRows& rows) {

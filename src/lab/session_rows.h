@@ -14,11 +14,11 @@
 namespace tessaryn {
 
 struct SessionRows {
-  std::string path;  // empty: a file of nobody's, gone with the program
-  std::FILE* file = nullptr;
-  RowsKept kept;       // what is in the file and the buffer
-  std::string buffer;  // not written yet
-  std::string fault;   // what went wrong in writing; nothing more is written then
+  std::string path;           // empty: a file of nobody's, gone with the program
+  std::FILE* file = nullptr;  // null: all rows stay in the buffer
+  RowsKept kept;              // what is in the file and the buffer
+  std::string buffer;         // not written yet
+  std::string fault;          // what went wrong in writing; nothing more is written then
   std::size_t systems = 0;
 
   SessionRows() = default;
@@ -37,6 +37,8 @@ std::string OpenRows(SessionRows& rows, const std::string& path, const LabState&
 void AddRow(SessionRows& rows, const SessionResult& result, const Record& record);
 // A session is complete with all its systems.
 inline void CloseSession(SessionRows& rows) { ++rows.kept.sessions; }
+// Those of a piece, behind the rows that are there.
+void AddPieceRows(SessionRows& rows, const LabPiece& piece);
 // Everything to the disk.
 std::string FlushRows(SessionRows& rows);
 // The rows of another file behind those that are there.
