@@ -371,7 +371,7 @@ std::string RunTo(std::int64_t last, LabState& state, const LabRun& run, FreshTa
   lab.last = last;
   lab.taken = state.next;
   lab.stop = state.finished;
-  if (run.helpers != nullptr && !state.finished) run.helpers->begin(state);
+  if (run.helpers != nullptr && !state.finished) run.helpers->begin(state, run.helpers->threads);
   std::unique_lock guard(lab.lock);
   if (std::string error = Checkpoint(lab, guard); !error.empty()) return error;
   guard.unlock();

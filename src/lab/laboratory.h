@@ -22,9 +22,10 @@ struct LabProgress {
 // Others who play: processes of the same build, on other machines maybe.
 struct LabHelpers {
   int count = 0;
-  int threads = 0;  // that each is asked to play on; 0: as it likes
+  int threads = 0;      // that each is asked to play on; 0: as it likes
+  int threadsHere = 1;  // of the caller of RunLab, where nobody asks for others
   // Before the first session: the experiment that is played.
-  std::function<void(const LabState& state)> begin;
+  std::function<void(const LabState& state, int threads)> begin;
   // Plays the sessions first <= k < last by PlayPiece, as the helper of this number from 0; each has a thread
   // of its own that calls this. When stop is set it may come back with fewer. The error, of a helper that is
   // lost, ends the run at once.

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -43,6 +44,21 @@ void AddPieceRows(SessionRows& rows, const LabPiece& piece);
 std::string FlushRows(SessionRows& rows);
 // The rows of another file behind those that are there.
 std::string AppendRows(SessionRows& rows, SessionRows& other);
+
+// A row's line, in numbers.
+struct SessionLine {
+  Currency net;
+  Currency handle;
+  Currency maxDrawdown;
+  Currency highest;
+  double luck = 0;  // dollars, as well as a double holds them
+  double price = 0;
+  std::int64_t rolls = 0;
+  std::int64_t hands = 0;
+  int marks = 0;  // SessionMark
+};
+// In the order of the rows. Requires lines that are kept.
+std::string ForEachLine(SessionRows& rows, const std::function<void(const SessionLine&)>& visit);
 
 // The first session of the rows is first (from 0). Requires flushed rows that hold what is asked for.
 std::string WriteRowsAsCsv(SessionRows& rows, const Experiment& experiment, const std::string& path);
