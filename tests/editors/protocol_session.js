@@ -1,15 +1,16 @@
-// A session of the language server with the protocol's own client library: protocol_session.js TESSARYN_CLI MODULES.
-// 77 where the library isn't in MODULES (scripts/editor_clients.sh puts it there).
+// A session of the language server with the protocol's own client library: protocol_session.js TESSARYN_CLI FOLDER.
+// 77 where the library isn't among the modules of FOLDER (scripts/editor_clients.sh puts it there).
 const assert = require("node:assert/strict");
 const { spawn } = require("node:child_process");
 const { createRequire } = require("node:module");
+const path = require("node:path");
 
-const [program, modules] = process.argv.slice(2);
+const [program, folder] = process.argv.slice(2);
 let lsp;
 try {
-  lsp = createRequire(modules + "/")("vscode-languageserver-protocol/node");
+  lsp = createRequire(path.resolve(folder, "x"))("vscode-languageserver-protocol/node");
 } catch (error) {
-  console.log(`Skipped: no client of the protocol in ${modules}; scripts/editor_clients.sh installs it.`);
+  console.log(`Skipped: no client of the protocol in ${folder}; scripts/editor_clients.sh installs it.`);
   process.exit(77);
 }
 

@@ -253,7 +253,8 @@ void SpokenTexts::SayItems(QWidget& widget) {
     for (int column = 0; column < table->columnCount(); ++column) {
       plain(table->horizontalHeaderItem(column));
       for (int row = 0; row < table->rowCount(); ++row)
-        if (QTableWidgetItem* of = table->item(row, column); of != nullptr && !of->data(kNobodysWord).toBool())
+        if (QTableWidgetItem* of = table->item(row, column);
+            of != nullptr && !of->data(kNobodysWord).toBool())
           plain(of);
     }
     for (int row = 0; row < table->rowCount(); ++row) plain(table->verticalHeaderItem(row));
