@@ -13,6 +13,7 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QTabBar>
+#include <QTableWidget>
 #include <QXmlStreamReader>
 
 #include "base/bet_catalogue.h"
@@ -209,6 +210,12 @@ TEST(Languages, AChangeWithEverythingOpenLeavesNothingOfTheFormerOne) {
     for (const Seen& seen : TextsOf(*screen)) before += QString::fromStdString(seen.where) + "|" + seen.text;
   SpeakWith(Marked, names);
   QTest::qWait(100);
+  int watched = 0;
+  for (QWidget* screen : table.Windows())
+    for (const auto* watch : screen->findChildren<QTableWidget*>("tblWatch"))
+      for (int row = 0; row < watch->rowCount(); ++row, ++watched)
+        EXPECT_FALSE(watch->item(row, 0)->text().contains(kOpen)) << "a script's word has become another";
+  EXPECT_GT(watched, 0);
   int said = 0;
   for (QWidget* screen : table.Windows())
     for (const Seen& seen : TextsOf(*screen)) {

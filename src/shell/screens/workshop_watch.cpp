@@ -11,6 +11,7 @@
 #include "play/script_trial.h"
 #include "rules/check_stacks.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/spoken_texts.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -74,7 +75,9 @@ void WorkshopWatch::Add(const QString& expression) {
   filling_ = true;
   const int row = list_->rowCount();
   list_->insertRow(row);
-  list_->setItem(row, kName, new QTableWidgetItem(expression.trimmed()));
+  auto* name = new QTableWidgetItem(expression.trimmed());
+  name->setData(kNobodysWord, true);
+  list_->setItem(row, kName, name);
   for (const Column column : {kValue, kBefore}) {
     auto* item = new QTableWidgetItem;
     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);

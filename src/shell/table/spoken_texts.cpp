@@ -252,7 +252,10 @@ void SpokenTexts::SayItems(QWidget& widget) {
   } else if (auto* table = qobject_cast<QTableWidget*>(&widget)) {
     for (int column = 0; column < table->columnCount(); ++column) {
       plain(table->horizontalHeaderItem(column));
-      for (int row = 0; row < table->rowCount(); ++row) plain(table->item(row, column));
+      for (int row = 0; row < table->rowCount(); ++row)
+        if (QTableWidgetItem* of = table->item(row, column);
+            of != nullptr && !of->data(kNobodysWord).toBool())
+          plain(of);
     }
     for (int row = 0; row < table->rowCount(); ++row) plain(table->verticalHeaderItem(row));
   } else if (auto* tree = qobject_cast<QTreeWidget*>(&widget)) {

@@ -18,6 +18,9 @@ namespace tessaryn {
 // The words of a language for a text of a context, or a null text for the source.
 using Wording = std::function<QString(const char* context, const char* source)>;
 
+// Of a table's item: its text is nobody's word, a name in a script say, and stays in every language.
+inline constexpr int kNobodysWord = Qt::UserRole + 90;
+
 class SpokenTexts : public QTranslator {
  public:
   // The one of the program, made when it isn't there yet.
