@@ -65,10 +65,10 @@ void AddWide(LayoutBuilder& build, const LetteredBet& bet, double top) {
   TableArea* area = AddCell(build, bet.bet, box, {84, 13.5}, 9);
   if (area == nullptr) return;
   area->Labels.push_back(
-      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 2, box.left() + 68, top + 15), 12));
+      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 1, box.left() + 68, top + 13.4), 12));
   area->Labels.back().Shorter = {bet.second};
   area->Labels.push_back(
-      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 15.6, box.left() + 62, top + 26)));
+      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 14, box.left() + 62, top + 26)));
 }
 
 // Bets by name side by side. What is several bets in one pays as these do, and says no payoff of its own.
@@ -226,10 +226,13 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   TableArea* area = build.Add(special.bet, side, RoundedBox(box), Ground::kSide);
   if (area == nullptr) return;
   const auto line = [&](const char* text, double top) {
-    area->Labels.push_back(LeftCaption(
-        text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
+    area->Labels.push_back(
+        LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 12)));
   };
   line(special.label, 1.5);
+  // Where there is no room for both words, that which tells it from the others.
+  if (special.bet == kAllSmall || special.bet == kAllTall || special.bet == kMakeAll)
+    area->Labels.back().Shorter = {QString(special.label).remove(QStringLiteral("ALL ")).remove(" ALL")};
   if (special.second != nullptr) line(special.second, 13.4);
   AddProgress(build, *area, box);
   const QPointF stack(box.right() - 12.4, box.top() + 17);
