@@ -226,9 +226,10 @@ TEST(Motion, PuckAndChecksMoveShortlyAndHoldNothingUp) {
   EXPECT_LT(scene.moving[0].From.y(), 0) << "won: from the house";
   EXPECT_EQ(scene.puckShare, 1) << "the point stays";
   // Clicks and rolls go on at once.
+  const Currency up = window.State().BetAmount(4, kField);
   const QPoint field = window.window.Table().PointOfBet(4, kField);
   QTest::mouseClick(&window.window.Table(), Qt::LeftButton, {}, field);
-  EXPECT_EQ(window.State().BetAmount(4, kField), Currency::Dollars(35));
+  EXPECT_EQ(window.State().BetAmount(4, kField), up + Currency::Dollars(5));
   const std::int64_t rolls = SessionRolls(window.game->stats);
   window.Roll(6, 1);
   EXPECT_EQ(SessionRolls(window.game->stats), rolls + 1);

@@ -1,6 +1,8 @@
 // The block of bets in the middle, which all eight seats share, and the side bets of the two ends.
 #include <QCoreApplication>
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "base/bet_catalogue.h"
 #include "shell/table/layout_builder.h"
@@ -33,6 +35,11 @@ constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL", nullptr}, {kAllTal
                                      {kPoint7, "POINT 7", nullptr},     {kSevenPoint7, "7 POINT 7", nullptr},
                                      {kFire, "FIRE", nullptr},          {kSharpShooter, "SHARP", "SHOOTER"},
                                      {kRideTheLine, "RIDE THE", "LINE"}};
+
+// Where there is no room for the whole name, what tells it from the others.
+constexpr std::pair<std::string_view, const char*> kShorterNames[] = {
+    {"ALL SMALL", "SMALL"}, {"ALL TALL", "TALL"},    {"MAKE ALL", "MAKE"},
+    {"POINT 7", "PT 7"},    {"7 POINT 7", "7 PT 7"}, {"SHOOTER", "SHOOT"}};
 
 constexpr double kLeft = 568;
 constexpr double kRight = 679;
@@ -230,9 +237,6 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
         LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 12)));
   };
   line(special.label, 1.5);
-  // Where there is no room for both words, that which tells it from the others.
-  if (special.bet == kAllSmall || special.bet == kAllTall || special.bet == kMakeAll)
-    area->Labels.back().Shorter = {QString(special.label).remove(QStringLiteral("ALL ")).remove(" ALL")};
   if (special.second != nullptr) line(special.second, 13.4);
   AddProgress(build, *area, box);
   const QPointF stack(box.right() - 12.4, box.top() + 17);
