@@ -387,6 +387,7 @@ constexpr FieldRange kRanges[] = {
     {"Left", -kFarthest, kFarthest},
     {"Width", 0, kFarthest},
     {"Height", 0, kFarthest},
+    {"DiceHistoryThrows", 0, 1'000'000'000'000'000'000},
     {"RailLeft", -kFarthest, kFarthest},
     {"RailTop", -kFarthest, kFarthest},
     {"TableZoom", 0, kMostZoom},

@@ -286,6 +286,28 @@ void ViewsAndFolders(Io& io, Screen& screen) {
   for (auto& folder : screen.Folders) io.Name(folder, blank);
 }
 
+// How many rolls of the dice history follow at the end. A number that can't be leaves the file without one.
+template <typename Io, typename Screen>
+void HistoryCount(Io& io, Screen& screen) {
+  auto count = static_cast<int>(std::min<std::size_t>(screen.DiceHistory.size(), kMostKeptRolls));
+  io.Long(count);
+  if constexpr (Io::kReads)
+    screen.DiceHistory.resize(count < 0 || count > kMostKeptRolls ? 0 : static_cast<std::size_t>(count));
+}
+
+template <typename Io, typename Screen>
+void History(Io& io, Screen& screen) {
+  for (std::size_t n = 0; n < std::min<std::size_t>(screen.DiceHistory.size(), kMostKeptRolls); ++n) {
+    auto& roll = screen.DiceHistory[n];
+    io.Short(roll.Die1);
+    io.Short(roll.Die2);
+    io.ToldShort(roll.Total());
+    io.Short(roll.PointBefore);
+    io.Short(roll.ShooterSeat);
+  }
+  io.EndShorts();
+}
+
 template <typename Io, typename GameType, typename Screen>
 void TableRecord(Io& io, GameType& game, Screen& screen) {
   auto& table = game.table;
@@ -305,7 +327,7 @@ void TableRecord(Io& io, GameType& game, Screen& screen) {
   io.Long(game.generators.RngSeedState);
   io.Long(game.generators.RngLastSeed);
   OneView(io, screen.View);
-  io.ToldLong(0);  // no history of rolls is kept
+  HistoryCount(io, screen);
   io.ToldLong(Io::kReads ? 0 : Throws(game.stats));
   io.Long(table.LastPoint);
   io.ToldLong(table.RollTotal);
@@ -692,6 +714,7 @@ void GameRecords(Io& io, GameType& game, Screen& screen, References& references)
     SeatPart(io, game, references, seat);
   }
   TableLists(io, game.stats);
+  History(io, screen);
 }
 
 // --- The final record and the further ones.

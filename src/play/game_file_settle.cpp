@@ -110,8 +110,21 @@ std::string SettleScripts(Game& game) {
     autobet.ScriptActive[0] = autobet.ScriptActive[0] || autobet.ScriptActive[seat];
   }
   if (!(game.percentage.ProbRollsOutOf > 0)) game.percentage.ProbRollsOutOf = 36;
-  for (KeptView& view : game.screen.SavedViews)
+  return "";
+}
+
+std::string SettleScreens(Game& game) {
+  ScreenState& screen = game.screen;
+  for (KeptView& view : screen.SavedViews)
     if (view.TableZoom < kLeastZoom) view = {};
+  // Without a window nobody notes the rolls: it is then of a time before.
+  if (screen.DiceHistoryThrows != Throws(game.stats)) screen.DiceHistory.clear();
+  const auto isFace = [](int die) { return die >= 1 && die <= 6; };
+  for (const KeptRoll& roll : screen.DiceHistory) {
+    const bool point = roll.PointBefore == 0 || IsBoxNumber(roll.PointBefore);
+    const bool shooter = roll.ShooterSeat >= 0 && roll.ShooterSeat <= kSeats;
+    if (!isFace(roll.Die1) || !isFace(roll.Die2) || !point || !shooter) return "the dice history";
+  }
   return "";
 }
 
@@ -119,8 +132,8 @@ std::string SettleScripts(Game& game) {
 
 std::string SettleOpenedGame(Game& game) {
   if (std::string path = FieldOutOfRange(game); !path.empty()) return path;
-  constexpr std::string (*kSteps[])(Game&) = {SettlePlayers,  SettleRoll,       SettleBets,
-                                              SettleSettings, SettleStatistics, SettleScripts};
+  constexpr std::string (*kSteps[])(Game&) = {SettlePlayers,    SettleRoll,    SettleBets,   SettleSettings,
+                                              SettleStatistics, SettleScripts, SettleScreens};
   for (const auto step : kSteps)
     if (std::string problem = step(game); !problem.empty()) return problem;
   return CheckConsistency(game);

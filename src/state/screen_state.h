@@ -121,6 +121,20 @@ struct CheckStacksShown {
 };
 TESSARYN_FIELDS(CheckStacksShown, CheckStackSeat, DisplayZero, ListFontSize)
 
+// A roll among the last ones that the board shows.
+struct KeptRoll {
+  int Die1 = 1;
+  int Die2 = 1;
+  int PointBefore = 0;  // 0: a come-out roll
+  int ShooterSeat = 0;
+
+  int Total() const { return Die1 + Die2; }
+  friend bool operator==(const KeptRoll&, const KeptRoll&) = default;
+};
+TESSARYN_FIELDS(KeptRoll, Die1, Die2, PointBefore, ShooterSeat)
+
+inline constexpr int kMostKeptRolls = 2000;
+
 struct ScreenState {
   // --- Windows.
   int MainWindow = kMainNormal;
@@ -138,7 +152,9 @@ struct ScreenState {
   int FurtherWindows[8] = {};  // of windows to come
   // --- The table.
   KeptView View;
-  KeptView SavedViews[kKeptViews];  // "View 0" to "View 9"
+  KeptView SavedViews[kKeptViews];     // "View 0" to "View 9"
+  std::vector<KeptRoll> DiceHistory;   // of this session, the newest last; at most kMostKeptRolls
+  std::int64_t DiceHistoryThrows = 0;  // of the table when the newest was rolled
   bool ShowBetAmounts = false;
   bool ShowPropositions = false;
   int BetAmountMode = 1;  // how a click gets its amount, as TableCommands has it
@@ -152,8 +168,8 @@ struct ScreenState {
 };
 TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
                 CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
-                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, SettleInBoxes,
-                looks, Folders, HotKeys)
+                DiceHistory, DiceHistoryThrows, ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount,
+                HotKeysEnabled, SettleInBoxes, looks, Folders, HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

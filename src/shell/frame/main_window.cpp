@@ -696,8 +696,7 @@ void MainWindow::ShowGame() {
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
   Speak();
-  host_.rolled.Forget();
-  host_.rolled.Note(game_);
+  host_.rolled.Take(game_);
   settledThrows_ = badgesOf_ = Throws(game_.stats);
   TakeFontSize(game_.settings.ScreenFontSize);
   table_->RebuildLayout();

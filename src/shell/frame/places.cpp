@@ -52,6 +52,7 @@ void KeepScreen(Desk& desk) {
                     ? KeptView{}
                     : KeptView{view.TableZoom, view.TableAngle, view.TableOffsetX, view.TableOffsetY};
   std::copy(view.SavedViews.begin(), view.SavedViews.end(), screen.SavedViews);
+  desk.host.rolled.Keep(desk.game);
   screen.ShowBetAmounts = desk.table->scene.showAmounts;
   screen.ShowPropositions = desk.beforePropositions.TableZoom != 0;
   screen.BetAmountMode = desk.commands.BetAmountMode;

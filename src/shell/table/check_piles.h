@@ -17,8 +17,9 @@ using CheckPile = std::vector<int>;
 // "$" check on top. A pile that would be too high shows its largest checks.
 CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int most);
 
-inline constexpr int kPileHeight = 5;       // checks that show
-inline constexpr double kStackStep = 0.12;  // of a check's diameter, from one check to the next above it
+inline constexpr int kPileHeight = 5;        // checks that show
+inline constexpr int kSharedPileHeight = 2;  // of a stack beside which others stand
+inline constexpr double kStackStep = 0.12;   // of a check's diameter, from one check to the next above it
 
 // The pictures of checks and of whole piles at one size, made when first asked for.
 class CheckPictures {

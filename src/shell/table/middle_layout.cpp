@@ -1,6 +1,8 @@
 // The block of bets in the middle, which all eight seats share, and the side bets of the two ends.
 #include <QCoreApplication>
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "base/bet_catalogue.h"
 #include "shell/table/layout_builder.h"
@@ -34,6 +36,11 @@ constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL", nullptr}, {kAllTal
                                      {kFire, "FIRE", nullptr},          {kSharpShooter, "SHARP", "SHOOTER"},
                                      {kRideTheLine, "RIDE THE", "LINE"}};
 
+// Where there is no room for the whole name, what tells it from the others.
+constexpr std::pair<std::string_view, const char*> kShorterNames[] = {
+    {"ALL SMALL", "SMALL"}, {"ALL TALL", "TALL"},    {"MAKE ALL", "MAKE"},
+    {"POINT 7", "PT 7"},    {"7 POINT 7", "7 PT 7"}, {"SHOOTER", "SHOOT"}};
+
 constexpr double kLeft = 568;
 constexpr double kRight = 679;
 
@@ -65,10 +72,10 @@ void AddWide(LayoutBuilder& build, const LetteredBet& bet, double top) {
   TableArea* area = AddCell(build, bet.bet, box, {84, 13.5}, 9);
   if (area == nullptr) return;
   area->Labels.push_back(
-      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 2, box.left() + 68, top + 15), 12));
+      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 1, box.left() + 68, top + 13.4), 12));
   area->Labels.back().Shorter = {bet.second};
   area->Labels.push_back(
-      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 15.6, box.left() + 62, top + 26)));
+      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 14, box.left() + 62, top + 26)));
 }
 
 // Bets by name side by side. What is several bets in one pays as these do, and says no payoff of its own.
@@ -226,8 +233,8 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   TableArea* area = build.Add(special.bet, side, RoundedBox(box), Ground::kSide);
   if (area == nullptr) return;
   const auto line = [&](const char* text, double top) {
-    area->Labels.push_back(LeftCaption(
-        text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
+    area->Labels.push_back(
+        LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 12)));
   };
   line(special.label, 1.5);
   if (special.second != nullptr) line(special.second, 13.4);

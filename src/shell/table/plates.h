@@ -41,7 +41,7 @@ using PlatePlaces = std::array<QRect, kSeatRows>;
 // fitted: the table is shown whole and upright, so that the lower plates may stand on its rail.
 PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
                         bool fitted);
-// The size they have there; the small one where the other has no room.
+// The size they have there: the largest that leaves the places of the CheckStacks free.
 QSize PlateSize(QSize stage, const Measures& measures);
 // Room that the plates need above and below a table that is turned, enlarged or moved, so that they never
 // stand on its felt; of a table shown whole the part that hangs below it.
@@ -78,6 +78,10 @@ class Plate : public QWidget {
   void Tell();
   QFont TextFont(bool bold) const;
   QFont HeadFont() const;
+  double Padding() const;
+  bool IsNarrow() const;
+  QString BankrollCaption() const;
+  QString ResultText() const;
   double HeadWidth() const;
   void FitLetters();
 
@@ -87,6 +91,7 @@ class Plate : public QWidget {
   int pointer_ = -1;
   int stretch_ = 100;      // of the letters, in percent
   int headStretch_ = 100;  // of those of name and result
+  bool briefResult_ = false;
 };
 
 }  // namespace tessaryn

@@ -52,17 +52,36 @@ RollMark MarkOf(int pointBefore, int total) {
 
 void RollHistory::Note(const Game& game) {
   const std::int64_t throws = Throws(game.stats);
+  const std::int64_t session = SessionRolls(game.stats);
+  if (session < size_) size_ = 0;
   if (throws == throws_) return;
   if (throws != throws_ + 1) size_ = 0;
   throws_ = throws;
-  if (throws == 0) return;
+  if (session == 0) return;
   const TableState& table = game.table;
-  rolls_[next_] = {table.RollTotal, MarkOf(table.PointBeforeRoll, table.RollTotal)};
+  Add({table.Die1, table.Die2, table.PointBeforeRoll, table.HandSeat});
+}
+
+void RollHistory::Add(const KeptRoll& roll) {
+  rolls_[next_] = {roll.Total(), MarkOf(roll.PointBefore, roll.Total()), roll};
   next_ = (next_ + 1) % kMost;
   if (size_ < kMost) ++size_;
 }
 
-void RollHistory::Forget() { *this = {}; }
+void RollHistory::Keep(Game& game) const {
+  ScreenState& screen = game.screen;
+  screen.DiceHistory.clear();
+  for (int back = size_ - 1; back >= 0; --back) screen.DiceHistory.push_back(Back(back).roll);
+  screen.DiceHistoryThrows = throws_;
+}
+
+void RollHistory::Take(const Game& game) {
+  *this = {};
+  const ScreenState& screen = game.screen;
+  if (screen.DiceHistory.empty() || screen.DiceHistoryThrows != Throws(game.stats)) return Note(game);
+  throws_ = screen.DiceHistoryThrows;
+  for (const KeptRoll& roll : screen.DiceHistory) Add(roll);
+}
 
 RollStory StoryOf(const Game& game, bool settled) {
   const TableState& table = game.table;

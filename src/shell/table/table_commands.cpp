@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "play/auto_roll.h"
+#include "play/bet_facts.h"
 #include "play/script_session.h"
 #include "rules/bet_rules.h"
 #include "shell/table/plates.h"
@@ -184,6 +185,26 @@ void RightClick(Game& game, TableCommands& commands) {
   GiveUp(commands);
   if (!AskBeforeCommand(game) || game.table.RollInProgress) return;
   RollDice(game);
+}
+
+bool TakesClick(Game& game, const TableCommands& commands, BetId bet) {
+  const SeatId seat = game.table.SelectedSeat;
+  if (!IsTableBet(bet) || !IsOccupied(game.table, seat)) return true;
+  const auto isUp = [&](BetId which) { return game.table.BetAmount(seat, which) != kZero; };
+  switch (commands.PendingAction) {
+    case kPendingRemove:
+    case kPendingMove:
+      return isUp(OrItsFlatBet(game, bet));
+    case kPendingCallOn:
+    case kPendingCallOff:
+    case kPendingBuy:
+      return isUp(bet);
+    default:
+      break;
+  }
+  // Where a bet in hand may go is found out as it is put down.
+  if (commands.Moving.Bet != 0) return true;
+  return RoomFor(game, seat, bet) > kZero || (commands.BetAmountMode == kKeyInAmounts && isUp(bet));
 }
 
 SeatId NextSeat(const Game& game, int direction) {

@@ -69,6 +69,9 @@ void RemoveAllBets(Game& game);
 // Whether the bet holds money under contract.
 bool IsContractBet(const Game& game, SeatId seat, BetId bet);
 
+// Whether what the next click is meant for may be done on the bet as the table stands.
+bool TakesClick(Game& game, const TableCommands& commands, int bet);
+
 // --- What the pointer is over (bet_tips.cpp).
 
 // "Place 6: 12".

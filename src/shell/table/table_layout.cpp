@@ -143,7 +143,7 @@ constexpr ColumnRow kColumnRows[] = {
     {kBuy4, 0, kColumnWidth, 110, 140, "BUY", "B", 126, {38, 126}, {35, 126}, {6, 4.2}},
     {kCome4, 0, kHalf, 142, 188, "COME", "C", 162, {13.8, 171}, {13.8, 170}, {4.6, 4.2}},
     {kComeOdds4, kHalf, kColumnWidth, 142, 188, "ODDS", "O", 169, {40.2, 171}, {40.2, 170}, {4.6, 4.2}},
-    {kPlace4, 0, kColumnWidth, 190, 284, nullptr, nullptr, 237, {27, 265}, {27, 257}, {13.2, 13.2}},
+    {kPlace4, 0, kColumnWidth, 190, 284, nullptr, nullptr, 237, {27, 265}, {27, 261.5}, {13.2, 9.5}},
 };
 
 constexpr const char* kNumberWords[6] = {"4", "5", "SIX", "8", "NINE", "10"};
@@ -163,7 +163,7 @@ TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
   };
   if (row.label == nullptr)
     return Caption(kNumberWords[number],
-                   LayoutBox(box.left() + 2.5, box.top() + 4, box.right() - 2.5, box.top() + 56), 45.5,
+                   LayoutBox(box.left() + 2.5, box.top() + 3, box.right() - 2.5, box.top() + 49), 45.5,
                    Ink::kAccent);
   if (row.right - row.left < kColumnWidth) return caption(1.5);
   TableLabel label = caption(4);
@@ -383,16 +383,29 @@ TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payof
   return std::move(build.layout);
 }
 
+namespace {
+
+// Where the seat's stack stands if it has the area to itself; null where every seat has a place of its own.
+QPointF PlaceAlone(const TableLayout& layout, SeatId seat, BetId bet) {
+  if (!IsTableBet(bet)) return {};
+  return layout.Alone[layout.Alone[0][bet].isNull() ? SideOf(seat) : 0][bet];
+}
+
+}  // namespace
+
+bool SharesArea(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet) {
+  if (PlaceAlone(layout, seat, bet).isNull()) return false;
+  const bool both = !layout.Alone[0][bet].isNull();
+  const SeatId first = both ? SeatId(1) : FirstSeat(SideOf(seat));
+  for (SeatId other = first; other < first + (both ? kSeats : 4); ++other)
+    if (other != seat && table.seats[other].SeatBets.Has(bet)) return true;
+  return false;
+}
+
 QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet) {
-  const QPointF own(layout.CheckX(seat, bet), layout.CheckY(seat, bet));
-  if (!IsTableBet(bet)) return own;
-  const bool shared = !layout.Alone[0][bet].isNull();
-  const QPointF alone = layout.Alone[shared ? 0 : SideOf(seat)][bet];
-  if (alone.isNull()) return own;
-  const SeatId first = shared ? SeatId(1) : FirstSeat(SideOf(seat));
-  for (SeatId other = first; other < first + (shared ? kSeats : 4); ++other)
-    if (other != seat && table.seats[other].SeatBets.Has(bet)) return own;
-  return alone;
+  const QPointF alone = PlaceAlone(layout, seat, bet);
+  if (!alone.isNull() && !SharesArea(layout, table, seat, bet)) return alone;
+  return {static_cast<double>(layout.CheckX(seat, bet)), static_cast<double>(layout.CheckY(seat, bet))};
 }
 
 }  // namespace tessaryn

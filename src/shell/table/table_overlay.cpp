@@ -113,7 +113,7 @@ void DrawFeltMarks(Overlay& over) {
   const BetId pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : kNoBet;
   LightArea(over, pointBox);
   const int hover = AreaOf(over.scene.hoverBet);
-  if (hover != pointBox) LightArea(over, hover);
+  if (hover != pointBox && over.scene.hoverTakes) LightArea(over, hover);
   DrawProgress(over);
   EdgeArea(over, pointBox, 0, Qt::white, 2.6);
   // Seen on light and dark: white within black.
@@ -171,7 +171,10 @@ void DrawPuck(Overlay& over) {
   const QColor ink = on ? kBlack : Qt::white;
   const QColor body = on ? Qt::white : kBlack;
   for (int side = 1; side <= 2; ++side) {
-    const QPointF centre = over.view.ToScreen(PuckPlace(over.scene.game->table.Point, side));
+    const QPointF from = PuckPlace(over.scene.puckFrom, side);
+    const QPointF to = PuckPlace(over.scene.game->table.Point, side);
+    // On whole pixels, as its kept picture is.
+    const QPointF centre = over.view.ToScreen(from + (to - from) * over.scene.puckShare).toPoint();
     const QRectF box(centre.x() - radius - 3, centre.y() - radius - 3, 2 * radius + 6, 2 * radius + 6);
     DrawKept(over.painter, on ? QStringLiteral("puck on") : QStringLiteral("puck off"), box,
              [&](QPainter& brush) {
@@ -244,6 +247,14 @@ void DrawStacks(Overlay& over) {
   }
 }
 
+void DrawMoving(Overlay& over) {
+  for (const MovingChecks& checks : over.scene.moving) {
+    const QPointF at = checks.From + (checks.To - checks.From) * over.scene.movingShare;
+    over.painter.drawPixmap((over.view.ToScreen(at) - over.pictures.Origin()).toPoint(),
+                            over.pictures.PilePicture(checks.Checks));
+  }
+}
+
 void DrawDie(Overlay& over, const QColor& body, QPointF place, double turn, int face) {
   const double height = over.scene.dice.Height;
   const double side = DieSide(over.view.Scale()) * (1 + 0.5 * height);
@@ -281,6 +292,7 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
     DrawStacks(over);
     if (scene.piles != nullptr) scene.piles->ForgetOthers();
   }
+  DrawMoving(over);
   for (const FallenCheck& check : scene.rain)
     painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),
                        pictures.PilePicture({check.Denomination}));

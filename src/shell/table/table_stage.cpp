@@ -84,7 +84,10 @@ void TableStage::Refresh(bool settled) {
 }
 
 void TableStage::ShowBadges() {
-  if (table_->animate) badges_->Show(BetChanges(game_), game_.table, table_->Layout(), table_->view);
+  if (!table_->animate) return;
+  const std::vector<BetChange> changes = BetChanges(game_);
+  table_->ShowChecksMove(changes);
+  badges_->Show(changes, game_.table, table_->Layout(), table_->view);
 }
 
 }  // namespace tessaryn

@@ -169,6 +169,8 @@ void TableWidget::Refresh() {
   }
   if (!(now == shown_)) mapStale_ = true;
   shown_ = now;
+  const int before = std::exchange(shownPoint_, table.Point);
+  if (before != table.Point && MayMove()) motion_.MovePuck(before);
   BetInHand& hand = commands_.Moving;
   if (hand.Seat != table.SelectedSeat || table.BetAmount(hand.Seat, hand.Bet) == kZero) hand = {};
   ShowHeld();
@@ -391,9 +393,10 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 // What is under the pointer now; the table may have changed below it.
-void TableWidget::FindPointed() {
+void TableWidget::FindPointed(bool anew) {
   const bool inside = rect().contains(pointer_);
-  scene.hoverBet = inside ? BetAt(pointer_) : kNoBet;
+  const BetId before = std::exchange(scene.hoverBet, inside ? BetAt(pointer_) : kNoBet);
+  if (anew || before != scene.hoverBet) scene.hoverTakes = TakesClick(game_, commands_, scene.hoverBet);
   scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : kNobody;
 }
 
@@ -402,9 +405,9 @@ void TableWidget::TellSoon() {
   if (std::exchange(tellPending_, true)) return;
   QTimer::singleShot(0, this, [this] {
     tellPending_ = false;
-    const auto shown = [this] { return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet); };
+    const auto shown = [this] { return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet, scene.hoverTakes); };
     const auto before = shown();
-    FindPointed();
+    FindPointed(true);
     ShowHeld();
     ShowCursor();
     TellFocus();
@@ -468,7 +471,19 @@ void TableWidget::ShowCursor() {
         text = CheckText(n, game_.settings.CheckValue, game_.settings.UseCentsSymbol);
       }
   }
-  setCursor(QCursor(CheckPicture(denomination, text, kSize, ratio), kSize / 2, kSize / 2));
+  QPixmap check = CheckPicture(denomination, text, kSize, ratio);
+  if (!scene.hoverTakes) {
+    // It can't be put down here.
+    QPixmap faint(check.size());
+    faint.setDevicePixelRatio(ratio);
+    faint.fill(Qt::transparent);
+    QPainter painter(&faint);
+    painter.setOpacity(0.5);
+    painter.drawPixmap(0, 0, check);
+    painter.end();
+    check = faint;
+  }
+  setCursor(QCursor(check, kSize / 2, kSize / 2));
 }
 
 // --- Keys.
@@ -648,12 +663,24 @@ void TableWidget::ShowThrow() {
   const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
   const QPointF from = layout_.Seats[std::max<int>(1, game_.table.ShooterSeat)].Rail;
   constexpr int kMilliseconds[] = {kThrowMilliseconds, 0, kThrowMilliseconds / 2};
-  // The dice of a quick run would never lie still.
-  const bool quick = game_.table.AutoRollActive && game_.settings.AutoRollDelay.raw < kStillBelow;
-  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0 && !quick)
+  motion_.Stop();
+  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0 && MayMove())
     Animate(time, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
   scene.dice = rest;
   update();
+}
+
+// In a quick run nothing would ever lie still.
+bool TableWidget::MayMove() const {
+  const TableState& table = game_.table;
+  const bool quick = table.AutoRollActive && game_.settings.AutoRollDelay.raw < kStillBelow;
+  return animate && isVisible() && !table.TurboRollActive && !quick;
+}
+
+void TableWidget::ShowChecksMove(const std::vector<BetChange>& changes) {
+  std::vector<MovingChecks> moving;
+  if (MayMove()) moving = ChecksOnTheirWay(game_, layout_, changes);
+  if (!moving.empty()) motion_.MoveChecks(std::move(moving));
 }
 
 void TableWidget::RainChecks() {

@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "shell/table/table_commands.h"
+#include "shell/table/table_motion.h"
 #include "shell/table/table_painter.h"
 
 class QTimer;
@@ -24,7 +25,7 @@ class TableWidget : public QWidget {
   TableView view;
   TableColors colors;
   TableScene scene;
-  bool animate = true;  // whether thrown dice tumble
+  bool animate = true;  // whether anything moves by itself
 
   const TableLayout& Layout() const { return layout_; }
   // The bet meant under a point of the widget; 0 for none.
@@ -54,6 +55,8 @@ class TableWidget : public QWidget {
   // Brings the dice from the shooter to the far end; returns when they lie still. A key or click cuts it
   // short.
   void ShowThrow();
+  // What the roll won comes from the house, what it lost goes there. Returns at once.
+  void ShowChecksMove(const std::vector<BetChange>& changes);
   // A thousand checks fall on the layout; they lie there until the state changes. A key or click ends the
   // fall.
   void RainChecks();
@@ -111,7 +114,9 @@ class TableWidget : public QWidget {
   void ShowHeld();
   void PutDown(QPoint point);
   void PutDownOn(int area);
-  void FindPointed();
+  void FindPointed(bool anew = false);
+  // Whether what goes on leaves the time to look at something that moves.
+  bool MayMove() const;
   void ShowCursor();
   void TellSoon();
   void WalkFocus(int key);
@@ -135,6 +140,8 @@ class TableWidget : public QWidget {
   QImage map_;    // ids under the points
   bool tableStale_ = true;
   bool mapStale_ = true;
+  TableMotion motion_{scene, *this};
+  int shownPoint_ = 0;
   bool fitted_ = true;  // shows the whole table until the user chooses a view
   // What the map was made for, beside the view.
   struct Shown {
