@@ -333,7 +333,8 @@ void MainWindow::Speak() {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) {
+  // The language of the game is spoken before there is anything of the window to say.
+  if (event->type() == QEvent::LanguageChange && !actions_.empty()) {
     Retranslate();
     // Once the bar's parts have their words as well.
     QMetaObject::invokeMethod(this, &MainWindow::FitBar, Qt::QueuedConnection);
