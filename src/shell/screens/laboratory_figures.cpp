@@ -1,10 +1,10 @@
 #include "shell/screens/laboratory_figures.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <algorithm>
 #include <cmath>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -14,6 +14,9 @@ constexpr double kDollar = Currency::kPerDollar;
 constexpr double kMostBars = 60;
 
 QString Words(const char* text) { return QCoreApplication::translate("Laboratory", text); }
+QString Counted(const char* text, std::int64_t count) {
+  return QCoreApplication::translate("Laboratory", text, nullptr, PluralOf(count)).arg(LabCount(count));
+}
 
 double InDollars(std::int64_t raw) { return static_cast<double>(raw) / kDollar; }
 
@@ -122,20 +125,19 @@ MeanFigure DifferenceOf(const LabFigures& figures, std::size_t a, std::size_t b)
 
 QString LabMoney(double dollars) {
   const double cents = std::round(dollars * 100);
-  return QLocale(QLocale::English).toString(cents == 0 ? 0.0 : cents / 100, 'f', 2);
+  return ShownNumber(cents == 0 ? 0.0 : cents / 100, 2);
 }
 QString SignedMoney(double dollars) {
   return (std::round(dollars * 100) > 0 ? QStringLiteral("+") : QString()) + LabMoney(dollars);
 }
 QString LabCount(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
 QString LabShare(std::int64_t count, std::int64_t of) {
-  return QString::number(100 * FigureShare(count, of).p, 'f', 1) + "%";
+  return ShownNumber(100 * FigureShare(count, of).p, 1) + "%";
 }
 QString LabBounds(std::int64_t count, std::int64_t of) {
   const Bounds bounds = FigureShare(count, of).ci95;
   return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2"))
-      .arg(100 * bounds.low, 0, 'f', 1)
-      .arg(100 * bounds.high, 0, 'f', 1);
+      .arg(ShownNumber(100 * bounds.low, 1), ShownNumber(100 * bounds.high, 1));
 }
 
 namespace {
@@ -173,9 +175,9 @@ QString Conditions(const LabFigures& experiment) {
   if (experiment.lossLimit > kZero)
     parts << Words(QT_TRANSLATE_NOOP("Laboratory", "loss limit -%1")).arg(MoneyText(experiment.lossLimit));
   if (experiment.mostRolls > 0)
-    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 rolls")).arg(LabCount(experiment.mostRolls));
+    parts << Counted(QT_TRANSLATE_N_NOOP("Laboratory", "at most %1 rolls"), experiment.mostRolls);
   if (experiment.mostHands > 0)
-    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 hands")).arg(LabCount(experiment.mostHands));
+    parts << Counted(QT_TRANSLATE_N_NOOP("Laboratory", "at most %1 hands"), experiment.mostHands);
   return parts.join(", ");
 }
 
@@ -186,8 +188,8 @@ LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b) {
   const bool two = a != b;
   LabVerdict verdict;
   verdict.sentence = two ? SentenceOnTwo(figures, a, b) : SentenceOnOne(figures.systems[a]);
-  verdict.below = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions each, %2."))
-                      .arg(LabCount(figures.sessions), Conditions(figures));
+  verdict.below = Counted(QT_TRANSLATE_N_NOOP("Laboratory", "%1 sessions each, %2."), figures.sessions)
+                      .arg(Conditions(figures));
   const Bounds bounds = two ? DifferenceOf(figures, a, b).ci95 : figures.systems[a].net.ci95;
   verdict.below += " " + Words(QT_TRANSLATE_NOOP("Laboratory", "%1 would give \u00b1%2."))
                              .arg(LabCount(figures.sessions * 4), LabMoney((bounds.high - bounds.low) / 4));
@@ -250,8 +252,8 @@ const Measure kMeasures[] = {
     {QT_TRANSLATE_NOOP("Laboratory", "Mean rolls"),
      [](const SystemFigures& s) {
        return s.sessions == 0
-                  ? QString("0.0")
-                  : QString::number(static_cast<double>(s.rolls) / static_cast<double>(s.sessions), 'f', 1);
+                  ? ShownNumber(0, 1)
+                  : ShownNumber(static_cast<double>(s.rolls) / static_cast<double>(s.sessions), 1);
      }},
 };
 

@@ -20,6 +20,7 @@
 #include "lab/html_report.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/laboratory_setup.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "state/show_message.h"
@@ -39,7 +40,11 @@ constexpr int kMeasuresWidth = 330;
 // Sorted by the number that it begins with.
 struct NumberItem : QTableWidgetItem {
   using QTableWidgetItem::QTableWidgetItem;
-  double Number() const { return text().section(' ', 0, 0).remove(',').remove('%').toDouble(); }
+  double Number() const {
+    Currency number;
+    ReadNumber(text().section(' ', 0, 0).remove('%'), number);
+    return number.ToDouble();
+  }
   bool operator<(const QTableWidgetItem& other) const override {
     return Number() < static_cast<const NumberItem&>(other).Number();
   }

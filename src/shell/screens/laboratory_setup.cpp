@@ -265,7 +265,7 @@ std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
   experiment.sessions = sessions_->value();
   experiment.bankroll = bankroll_->Value();
   if (experiment.bankroll <= kZero || experiment.bankroll > kBankrollLimit)
-    return ToCore(tr("Start with: must be from 0.01 to %1").arg(FromCore(FormatMoney(kBankrollLimit))));
+    return ToCore(tr("Start with: must be from 0.01 to %1").arg(MoneyText(kBankrollLimit)));
   experiment.rolls = rolls_->value();
   experiment.hands = hands_->value();
   experiment.winGoal = winGoal_->Value();
