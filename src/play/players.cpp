@@ -38,15 +38,26 @@ std::string Trimmed(const std::string& text) {
 
 }  // namespace
 
+namespace {
+
+// What has translations is told in the language of the game, as in boxes.
+template <Msg kId, typename... Arguments>
+std::string Told(const Game& game, const Arguments&... arguments) {
+  static_assert(FillsAllHoles<kId, Arguments...>(), "the arguments are not those of the message");
+  return MessageTextIn(game.settings.Language, kId, ArgumentsOf(arguments...));
+}
+
+}  // namespace
+
 std::string NameProblem(const Game& game, const std::string& name, SeatId ownSeat) {
   if (const std::string problem = TextProblem(name); !problem.empty())
     return MessageText<Msg::kNameUnfit>(With<"reason">(problem));
   for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (seat != ownSeat && SameLetters(game.table.seats[seat].SeatName, name))
-      return MessageText<Msg::kNameTaken>(With<"name">(name));
+      return Told<Msg::kNameTaken>(game, With<"name">(name));
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
-      return MessageText<Msg::kNameNumeric>();
+      return Told<Msg::kNameNumeric>(game);
     case ScriptNameProblem::kReservedWord:
       return MessageText<Msg::kNameReserved>(With<"name">(name));
     default:
@@ -116,9 +127,9 @@ bool JoinPlayer(Game& game, SeatId seat, const std::string& givenName, Currency 
   } else if (name.empty()) {
     error = MessageText<Msg::kNameMissing>();
   } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
-    error = MessageText<Msg::kBankrollTooHigh>(With<"limit">(kBankrollLimit));
+    error = Told<Msg::kBankrollTooHigh>(game, With<"limit">(kBankrollLimit));
   } else if (bankroll < -kBankrollLimit) {
-    error = MessageText<Msg::kBankrollTooLow>(With<"limit">(kBankrollLimit));
+    error = Told<Msg::kBankrollTooLow>(game, With<"limit">(kBankrollLimit));
   } else {
     error = NameProblem(game, name, 0);
   }

@@ -7,6 +7,8 @@
 #include <QStyleFactory>
 #include <QTemporaryDir>
 
+#include "shell/table/languages.h"
+
 namespace {
 
 // Each test begins on the same light desktop, whatever one before it looked like.
@@ -27,6 +29,7 @@ int main(int count, char** arguments) {
   QApplication application(count, arguments);
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setFont(QFont("DejaVu Sans", 10));
+  tessaryn::SpeakLanguage(0);
   testing::UnitTest::GetInstance()->listeners().Append(new SameDesktop);
   return RUN_ALL_TESTS();
 }

@@ -1,7 +1,6 @@
 #include "shell/frame/help_figures.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <vector>
@@ -15,6 +14,7 @@
 #include "shell/frame/commands.h"
 #include "shell/screens/payoff_page.h"
 #include "shell/table/bet_tips.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
 #include "state/bet_families.h"
@@ -59,12 +59,12 @@ QString PaysText(const Game& game, BetId bet) {
   if (!HasVig(bet)) return pays;
   const double rate = IsLay(bet) ? game.settings.LayVigRate.ToDouble() : game.settings.BuyVigRate.ToDouble();
   return QCoreApplication::translate("HelpFigures", "%1, less %2% vig")
-      .arg(pays, QLocale().toString(rate * 100, 'g', 4));
+      .arg(pays, InHabit(QString::number(rate * 100, 'g', 4)));
 }
 
 QString PercentText(double share) {
-  const QString text = QLocale().toString(share * 100, 'f', 2);
-  return (text == QLocale().toString(-0.0, 'f', 2) ? QLocale().toString(0.0, 'f', 2) : text) + "%";
+  const QString text = ShownNumber(share * 100, 2);
+  return (text == ShownNumber(-0.0, 2) ? ShownNumber(0.0, 2) : text) + "%";
 }
 
 QString Figures(const Game& game, const QString& what) {
@@ -94,7 +94,7 @@ QString Figures(const Game& game, const QString& what) {
     table += TableRow({Plain(FromCore(BetName(line.bet))), PaysText(game, line.bet),
                        decided ? PercentText(-figures.evPerDecision) : "-",
                        decided ? PercentText(-figures.evPerRoll) : "-",
-                       decided ? QLocale().toString(figures.rollsPerDecision, 'f', 2) : "-"});
+                       decided ? ShownNumber(figures.rollsPerDecision, 2) : "-"});
   }
   return table;
 }

@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -41,6 +40,7 @@
 #include "shell/table/bet_tips.h"
 #include "shell/table/board.h"
 #include "shell/table/languages.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
@@ -102,6 +102,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   StartAutosaves();
   WatchLuck(game_);
   new PointerSnap(game_, this);
+  new WholeChoices(this);
   new HelpKey(desk_);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
@@ -333,7 +334,8 @@ void MainWindow::Speak() {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) {
+  // The language of the game is spoken before there is anything of the window to say.
+  if (event->type() == QEvent::LanguageChange && !actions_.empty()) {
     Retranslate();
     // Once the bar's parts have their words as well.
     QMetaObject::invokeMethod(this, &MainWindow::FitBar, Qt::QueuedConnection);
@@ -394,7 +396,7 @@ void MainWindow::ShowCaption() {
 
 void MainWindow::ShowTableStatus() {
   const TableState& table = game_.table;
-  QStringList parts{tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats))))};
+  QStringList parts{tr("Roll %1").arg(ShownCount(SessionRolls(game_.stats)))};
   parts += table.Point == 0 ? tr("Come-out") : tr("Point %1").arg(table.Point);
   if (table.ShooterSeat != 0)
     parts += tr("Shooter: %1").arg(FromCore(table.seats[table.ShooterSeat].SeatName));

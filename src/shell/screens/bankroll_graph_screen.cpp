@@ -23,6 +23,7 @@
 #include "shell/screens/bankroll_graph_view.h"
 #include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -298,7 +299,8 @@ void BankrollGraphScreen::ShowFigures(const GraphPage& page) {
   Colour(*average_.caption, graph.DisplayAverage
                                 ? GraphColoursOf(game_.screen.Graph, IsDark(*this)).parts[kGraphAverage]
                                 : palette().color(QPalette::WindowText));
-  Show(*rolls_, tr("%1 rolls").arg(Count(static_cast<double>(SessionRolls(game_.stats)))));
+  Show(*rolls_, tr("%1 rolls", nullptr, PluralOf(SessionRolls(game_.stats)))
+                    .arg(Count(static_cast<double>(SessionRolls(game_.stats)))));
   Show(*rate_, tr("@ %1 rolls/hr").arg(RollRateText(game_)));
   Show(*hours_, tr("= %1 sim hrs").arg(SimHours(game_)));
 }

@@ -23,6 +23,7 @@
 #include "shell/screens/core_words.h"
 #include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "state/show_message.h"
@@ -56,7 +57,7 @@ std::string NameFrom(const QString& text) { return text.simplified().toStdString
 
 bool ValueFrom(const QString& text, Currency& value) {
   value = kZero;
-  return text.trimmed().isEmpty() || TryParseMoney(text.trimmed().toStdString(), value);
+  return text.trimmed().isEmpty() || ReadNumber(text, value);
 }
 
 }  // namespace
@@ -288,7 +289,8 @@ void CheckStacksScreen::ShowVisible() {
     const int stack = game_.table.seats[seat].VisibleStacks[n];
     const QString name = seat == 0 ? QString() : FromCore(CheckStackNameOf(game_, seat, stack));
     const QString caption = seat == 0 ? QString() : QString("#%1 %2").arg(stack).arg(name);
-    const QString value = seat == 0 ? QString() : FromCore(CheckStackValueText(game_, seat, stack, true));
+    const QString value =
+        seat == 0 ? QString() : InHabit(FromCore(CheckStackValueText(game_, seat, stack, true)));
     QLabel& label = *visible_[n].caption;
     Show(*visible_[n].value, value);
     Show(label, caption);

@@ -26,6 +26,7 @@
 #include "shell/screens/configuration_rows.h"
 #include "shell/screens/core_words.h"
 #include "shell/screens/screen_parts.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/bet_families.h"
 #include "state/show_message.h"
@@ -566,7 +567,7 @@ QString RateText(Currency rollsPerHour, const RateView& view) {
   if (rollsPerHour == kZero) return "0";
   const Currency part = Currency::Dollars(view.perHour);
   const Currency shown = view.reciprocal ? Divide(part, rollsPerHour) : Divide(rollsPerHour, part);
-  return shown == kZero ? QStringLiteral("<.0001") : QString::fromStdString(PlainMoney(shown));
+  return shown == kZero ? QStringLiteral("<.0001") : InHabit(QString::fromStdString(PlainMoney(shown)));
 }
 
 Currency RateOf(Currency typed, const RateView& view) {

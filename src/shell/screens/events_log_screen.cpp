@@ -9,7 +9,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -52,6 +51,7 @@ struct KindRow {
   const char* name;
   unsigned kinds;
 };
+constexpr int kKindLetters = 36;  // the longest of all languages, with its arrow
 constexpr KindRow kKinds[] = {
     {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Everything"), kLogAllKinds},
     {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls"), kLogKindRoll},
@@ -226,12 +226,14 @@ QWidget* EventsLogScreen::MakeFilterRow() {
     box->setMaxVisibleItems(12);
     connect(box, &QComboBox::activated, this, &EventsLogScreen::ChangeFilter);
   }
+  kind_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  kind_->setMaximumWidth(kind_->fontMetrics().averageCharWidth() * kKindLetters);
   place_ = new QLabel(row);
   place_->setObjectName("lblPlace");
   place_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   place_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line->addWidget(record_);
-  line->addWidget(kind_);
+  line->addWidget(kind_, 2);
   line->addWidget(player_);
   line->addWidget(place_, 1);
   return row;

@@ -8,6 +8,7 @@
 
 #include "base/money.h"
 #include "shell/screens/screen_parts.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/table_state.h"
 
@@ -46,7 +47,7 @@ class FiguresModel : public QAbstractTableModel {
     const FigureCell& cell = row.cells[static_cast<std::size_t>(index.column())];
     switch (role) {
       case Qt::DisplayRole:
-        return cell.text;
+        return index.column() == 0 ? cell.text : FigureInHabit(cell.text);
       case Qt::TextAlignmentRole:
         return static_cast<int>(AlignmentOf(index.column()));
       case kValueRole:

@@ -1,10 +1,10 @@
 #include "shell/screens/laboratory_figures.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <algorithm>
 #include <cmath>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -17,6 +17,9 @@ constexpr std::size_t kMostPaired = 60;  // systems all of whose pairs are told
 constexpr std::size_t kMostSteps = 200;  // of ruin over time
 
 QString Words(const char* text) { return QCoreApplication::translate("Laboratory", text); }
+QString Counted(const char* text, std::int64_t count) {
+  return QCoreApplication::translate("Laboratory", text, nullptr, PluralOf(count)).arg(LabCount(count));
+}
 
 double InDollars(std::int64_t raw) { return static_cast<double>(raw) / kDollar; }
 
@@ -190,20 +193,19 @@ QColor LabColour(bool second, bool dark) {
 
 QString LabMoney(double dollars) {
   const double cents = std::round(dollars * 100);
-  return QLocale(QLocale::English).toString(cents == 0 ? 0.0 : cents / 100, 'f', 2);
+  return ShownNumber(cents == 0 ? 0.0 : cents / 100, 2);
 }
 QString SignedMoney(double dollars) {
   return (std::round(dollars * 100) > 0 ? QStringLiteral("+") : QString()) + LabMoney(dollars);
 }
 QString LabCount(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
 QString LabShare(std::int64_t count, std::int64_t of) {
-  return QString::number(100 * FigureShare(count, of).p, 'f', 1) + "%";
+  return ShownNumber(100 * FigureShare(count, of).p, 1) + "%";
 }
 QString LabBounds(std::int64_t count, std::int64_t of) {
   const Bounds bounds = FigureShare(count, of).ci95;
   return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2"))
-      .arg(100 * bounds.low, 0, 'f', 1)
-      .arg(100 * bounds.high, 0, 'f', 1);
+      .arg(ShownNumber(100 * bounds.low, 1), ShownNumber(100 * bounds.high, 1));
 }
 
 namespace {
@@ -276,9 +278,9 @@ QString Conditions(const LabFigures& experiment) {
   if (experiment.lossLimit > kZero)
     parts << Words(QT_TRANSLATE_NOOP("Laboratory", "loss limit -%1")).arg(MoneyText(experiment.lossLimit));
   if (experiment.mostRolls > 0)
-    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 rolls")).arg(LabCount(experiment.mostRolls));
+    parts << Counted(QT_TRANSLATE_N_NOOP("Laboratory", "at most %1 rolls"), experiment.mostRolls);
   if (experiment.mostHands > 0)
-    parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 hands")).arg(LabCount(experiment.mostHands));
+    parts << Counted(QT_TRANSLATE_N_NOOP("Laboratory", "at most %1 hands"), experiment.mostHands);
   if (experiment.mostHours > kZero)
     parts << Words(QT_TRANSLATE_NOOP("Laboratory", "at most %1 hours")).arg(MoneyText(experiment.mostHours));
   return parts.join(", ");
@@ -294,8 +296,8 @@ LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b, boo
     SayOnTwo(verdict, figures, a, b, dark);
   else
     SayOnOne(verdict, figures.systems[a], LabColour(false, dark).name());
-  verdict.below = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions each, %2."))
-                      .arg(LabCount(figures.sessions), Conditions(figures));
+  verdict.below = Counted(QT_TRANSLATE_N_NOOP("Laboratory", "%1 sessions each, %2."), figures.sessions)
+                      .arg(Conditions(figures));
   const Bounds bounds = two ? DifferenceOf(figures, a, b).ci95 : figures.systems[a].net.ci95;
   verdict.below += " " + Words(QT_TRANSLATE_NOOP("Laboratory", "%1 would give \u00b1%2."))
                              .arg(LabCount(figures.sessions * 4), LabMoney((bounds.high - bounds.low) / 4));
@@ -358,8 +360,8 @@ const Measure kMeasures[] = {
     {QT_TRANSLATE_NOOP("Laboratory", "Mean rolls"),
      [](const SystemFigures& s) {
        return s.sessions == 0
-                  ? QString("0.0")
-                  : QString::number(static_cast<double>(s.rolls) / static_cast<double>(s.sessions), 'f', 1);
+                  ? ShownNumber(0, 1)
+                  : ShownNumber(static_cast<double>(s.rolls) / static_cast<double>(s.sessions), 1);
      }},
 };
 
@@ -428,7 +430,7 @@ QString RankCaption(RankBy by) {
 }
 
 QString RankText(double value, RankBy by) {
-  return IsShare(by) ? QString::number(100 * value, 'f', 1) + "%" : SignedMoney(value);
+  return IsShare(by) ? ShownNumber(100 * value, 1) + "%" : SignedMoney(value);
 }
 
 // --- What is found.
@@ -451,7 +453,7 @@ QList<QStringList> FoundRows(const Experiment& experiment, const LabQuestion& qu
       continue;
     }
     rows.append({name, MoneyText(answer.value), MoneyText(answer.low), MoneyText(answer.high),
-                 QString::number(100 * answer.ruined.p, 'f', 2) + "%",
+                 ShownNumber(100 * answer.ruined.p, 2) + "%",
                  Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2"))
                      .arg(100 * answer.ruined.ci95.low, 0, 'f', 2)
                      .arg(100 * answer.ruined.ci95.high, 0, 'f', 2)});

@@ -7,6 +7,7 @@
 
 #include "lab/html_parts.h"
 #include "shell/screens/laboratory_sweep.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -430,7 +431,7 @@ QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& fi
   const double low = figures.firstBar + static_cast<double>(bar) * figures.barWidth;
   const auto count = [&](std::size_t system) {
     const SystemFigures& shown = figures.systems[system];
-    return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions (%2)"))
+    return QCoreApplication::translate("Laboratory", "%1 sessions (%2)", nullptr, PluralOf(shown.bars[bar]))
         .arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
   };
   QString text = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2: A %3"))

@@ -29,6 +29,7 @@
 #include "lab/lab_words.h"
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/laboratory_setup.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "state/show_message.h"
@@ -73,7 +74,11 @@ constexpr int kMeasuresWidth = 330;
 // Sorted by the number that it begins with.
 struct NumberItem : QTableWidgetItem {
   using QTableWidgetItem::QTableWidgetItem;
-  double Value() const { return text().section(' ', 0, 0).remove(',').remove('%').toDouble(); }
+  double Value() const {
+    Currency number;
+    ReadNumber(text().section(' ', 0, 0).remove('%'), number);
+    return number.ToDouble();
+  }
   bool operator<(const QTableWidgetItem& other) const override {
     return Value() < static_cast<const NumberItem&>(other).Value();
   }
@@ -682,7 +687,7 @@ void LaboratoryScreen::ShowAbout() {
                             .arg(experiment_.seed));
   if (run_.Seconds() > 0)
     add(tr("Time"),
-        tr("%1 sessions in %2 s").arg(LabCount(figures_->sessions), QString::number(run_.Seconds(), 'f', 1)));
+        tr("%1 sessions in %2 s").arg(LabCount(figures_->sessions), ShownNumber(run_.Seconds(), 1)));
   about_->setText("<b>" + tr("Experiment").toHtmlEscaped() + "</b><table>" + rows + "</table>");
 }
 

@@ -418,7 +418,7 @@ std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
   experiment.sessions = sessions_->value();
   experiment.bankroll = bankroll_->Value();
   if (experiment.bankroll <= kZero || experiment.bankroll > kBankrollLimit)
-    return ToCore(tr("Start with: must be from 0.01 to %1").arg(FromCore(FormatMoney(kBankrollLimit))));
+    return ToCore(tr("Start with: must be from 0.01 to %1").arg(MoneyText(kBankrollLimit)));
   if (!IsSearch()) experiment.precision = precision_->Value();
   experiment.seed = seed_->text().toULongLong();
   return ReadEnds(experiment);

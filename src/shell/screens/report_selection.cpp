@@ -94,8 +94,7 @@ QString PlayersSelectedWords(const Game& game, const ReportSelection& selection)
   if (selected == 0) return QCoreApplication::translate("Reports", "No players selected");
   if (selected == game.table.OccupiedSeats)
     return QCoreApplication::translate("Reports", "All players selected");
-  if (selected == 1) return QCoreApplication::translate("Reports", "1 player selected");
-  return QCoreApplication::translate("Reports", "%1 players selected").arg(selected);
+  return QCoreApplication::translate("Reports", "%1 players selected", nullptr, selected).arg(selected);
 }
 
 }  // namespace tessaryn

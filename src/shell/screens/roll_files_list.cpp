@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -10,6 +9,7 @@
 #include <algorithm>
 
 #include "dice/roll_file.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 
 namespace tessaryn {
@@ -62,7 +62,7 @@ void RollList::Measure() {
   if (fontSize_ > 0) own.setPointSize(fontSize_);
   const QFontMetrics metrics(own);
   rowHeight_ = metrics.height() + 4;
-  numberWidth_ = metrics.horizontalAdvance(QLocale().toString(static_cast<qlonglong>(Length() + 1)));
+  numberWidth_ = metrics.horizontalAdvance(ShownCount(Length() + 1));
   numberWidth_ = std::max(numberWidth_, metrics.horizontalAdvance("99,999"));
   const int face = rowHeight_ - 4;
   columnWidth_ = kMarker + numberWidth_ + 2 * face + metrics.horizontalAdvance("12") + 4 * kPad + kColumnGap;
@@ -168,7 +168,7 @@ void RollList::PaintRoll(QPainter& painter, const QRect& cell, RollNumber roll, 
   const QRect inside = cell.adjusted(kMarker, 0, 0, 0);
   painter.setPen(selected ? palette().color(role) : palette().color(QPalette::PlaceholderText));
   painter.drawText(QRect(inside.left(), cell.top(), numberWidth_, cell.height()),
-                   Qt::AlignRight | Qt::AlignVCenter, QLocale().toString(static_cast<qlonglong>(roll)));
+                   Qt::AlignRight | Qt::AlignVCenter, ShownCount(roll));
   const int face = rowHeight_ - 4;
   int left = inside.left() + numberWidth_ + 2 * kPad;
   painter.setPen(palette().color(role));

@@ -6,6 +6,7 @@
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
 #include "shell/screens/sessions_log_screen.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -76,12 +77,15 @@ std::unique_ptr<RowSource> SessionsLogScreen::TakeRows() const {
   QList<QStringList>& rows = figures->rows;
   rows.append({tr("Statistic"), stat_->currentText()});
   for (int label = 0; label < kStatisticLabels; ++label)
-    rows.append({statNames_[label]->text(), statValues_[label]->text()});
+    rows.append({statNames_[label]->text(), FigureInHabit(QString::fromStdString(StatisticText(s, label)))});
+  const Currency fixed[] = {s.Net, s.Handle, s.AdvantagePercent};
   const QString names[] = {tr("Net $"), tr("Handle $"), tr("Advantage %")};
-  for (int i = 0; i < 3; ++i) rows.append({names[i], fixed_[i]->text()});
+  for (int i = 0; i < 3; ++i) rows.append({names[i], s.Included == 0 ? QString() : InHabit(QString::fromStdString(SessionsNumber(fixed[i])))});
+  const std::int64_t counts[] = {s.Won, s.BrokeEven, s.Lost, s.Total};
   const QString classes[] = {tr("Won"), tr("Broke-even"), tr("Lost"), tr("Total")};
   for (int i = 0; i < 4; ++i)
-    rows.append({classes[i], tr("%1 (%2)").arg(counts_[i]->text(), shares_[i]->text())});
+    rows.append({classes[i], tr("%1 (%2)").arg(MoneyText(Currency::Dollars(counts[i])),
+                                              FigureInHabit(QString::fromStdString(ShareText(counts[i], s.Total))))});
   return figures;
 }
 

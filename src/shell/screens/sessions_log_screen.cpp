@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -21,6 +20,7 @@
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -33,7 +33,10 @@ constexpr int kWide = 680;  // from here on the figures stand beside the histogr
 constexpr std::int64_t kUsualDeviations = 3;
 
 QString Count(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
-QString Number(Currency value) { return QString::fromStdString(SessionsNumber(value)); }
+QString ShareOf(std::int64_t count, std::int64_t of) {
+  return FigureInHabit(QString::fromStdString(ShareText(count, of)));
+}
+QString Number(Currency value) { return InHabit(QString::fromStdString(SessionsNumber(value))); }
 
 QLabel* Figure(const QString& name, QWidget* parent) {
   auto* label = new QLabel(parent);
@@ -452,7 +455,7 @@ void SessionsLogScreen::ShowStatistics() {
     statNames_[label]->setText(text);
     statNames_[label]->setToolTip(
         text.endsWith('*') ? tr("Near the middle one of the values, which is not known") : QString());
-    statValues_[label]->setText(QString::fromStdString(StatisticText(s, label)));
+    statValues_[label]->setText(FigureInHabit(QString::fromStdString(StatisticText(s, label))));
   }
   const Currency fixed[] = {s.Net, s.Handle, s.AdvantagePercent};
   for (int i = 0; i < 3; ++i) fixed_[i]->setText(s.Included == 0 ? QString() : Number(fixed[i]));
@@ -466,9 +469,9 @@ void SessionsLogScreen::ShowClasses() {
   for (int i = 0; i < 4; ++i) {
     if (i < 3) include_[i]->setChecked(included[i]);
     counts_[i]->setText(Count(counts[i]));
-    shares_[i]->setText(QString::fromStdString(ShareText(counts[i], s.Total)));
+    shares_[i]->setText(ShareOf(counts[i], s.Total));
   }
-  const QString range = QString::fromStdString(BreakPointLabel(game_.sessions));
+  const QString range = InHabit(QString::fromStdString(BreakPointLabel(game_.sessions)));
   const Currency point = game_.sessions.BreakPointLow;
   breakPoint_->setText(!range.isEmpty() ? tr("Break-point: %1").arg(range)
                        : point == kZero ? QString()
@@ -490,7 +493,7 @@ void SessionsLogScreen::ShowOutliers() {
     const double away = byDeviations ? bounds[end].ToDouble() : DeviationsOf(whole, value);
     if (!values_[end]->hasFocus() || !values_[end]->isModified()) values_[end]->setText(Number(value));
     if (!deviations_[end]->hasFocus() || !deviations_[end]->isModified())
-      deviations_[end]->setText(QLocale::c().toString(away, 'f', 2));
+      deviations_[end]->setText(ShownNumber(away, 2));
     const QSignalBlocker quiet(sliders_[end]);
     const double range = whole.Range.ToDouble();
     const double share = range <= 0 ? end : (value - whole.Low).ToDouble() / range;
@@ -505,7 +508,7 @@ void SessionsLogScreen::ShowOutliers() {
 void SessionsLogScreen::ShowPointed() {
   const int width = kBarColumns[std::clamp(game_.sessions.GraphBarWidth, 0, 3)];
   current_->setText(game_.sessions.SessionsDisplayMode == 1
-                        ? tr("%1 sessions").arg(Count(rows_->Rows()))
+                        ? tr("%1 sessions", nullptr, PluralOf(rows_->Rows())).arg(Count(rows_->Rows()))
                         : HistogramText(result_->statistics, histogram_->Pointer(), width));
 }
 
@@ -551,8 +554,7 @@ void SessionsLogScreen::TakeBounds(OutlierRule rule) {
   QLineEdit** boxes = rule == OutlierRule::kByValue ? values_ : deviations_;
   Currency bounds[2];
   bool good = true;
-  for (int end = 0; end < 2; ++end)
-    good = TryParseMoney(boxes[end]->text().toStdString(), bounds[end]) && good;
+  for (int end = 0; end < 2; ++end) good = ReadNumber(boxes[end]->text(), bounds[end]) && good;
   for (int end = 0; end < 2; ++end) boxes[end]->setModified(false);
   if (!good) return ShowOutliers();  // what is in force stands there again
   game_.sessions.Outliers = rule;

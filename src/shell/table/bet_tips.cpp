@@ -11,6 +11,7 @@
 #include "base/bet_catalogue.h"
 #include "play/session_luck.h"
 #include "rules/bet_limits.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/plates.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
@@ -103,7 +104,8 @@ QString ValueText(const Game& game, const FactValue& value) {
   if (!value.words.Empty()) return Told(game, value.words);
   const MessageValue& plain = value.plain;
   if (plain.kind == MessageValue::Kind::kMoney) return TableAmountText(game, Currency::FromRaw(plain.number));
-  return plain.kind == MessageValue::Kind::kNumber ? QString::number(plain.number) : FromCore(plain.text);
+  return plain.kind == MessageValue::Kind::kNumber ? ShownCount(plain.number)
+                                                   : FigureInHabit(FromCore(plain.text));
 }
 
 QString ClicksText(const Game& game, const TableCommands& commands, const BetTerms& terms) {
@@ -173,12 +175,11 @@ QString SeatTip(const Game& game, SeatId seat) {
                  .arg(dollars(figures.report.expected));
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Came: %1")).arg(dollars(figures.report.actual));
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Luck: %1, %2 standard deviations"))
-                 .arg(dollars(figures.report.luck))
-                 .arg(figures.report.deviations, 0, 'f', 2);
+                 .arg(dollars(figures.report.luck), ShownNumber(figures.report.deviations, 2));
   }
   if (figures.missed > 0)
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Rolls that were not counted: %1"))
-                 .arg(static_cast<qlonglong>(figures.missed));
+                 .arg(ShownCount(figures.missed));
   return lines.join("\n");
 }
 

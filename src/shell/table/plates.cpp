@@ -3,13 +3,13 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
@@ -42,7 +42,7 @@ QString ScriptText(ScriptSign sign) {
   return sign == ScriptSign::kActive ? QStringLiteral("{ }") : QStringLiteral("{ ! }");
 }
 
-QString Amount(Currency value) { return QLocale(QLocale::English).toString(value.ToDouble(), 'f', 2); }
+QString Amount(Currency value) { return ShownNumber(value.ToDouble(), 2); }
 
 }  // namespace
 
@@ -61,8 +61,7 @@ PlateText PlateTextOf(const Game& game, SeatId seat) {
     text.script = script.Errors.empty() ? ScriptSign::kActive : ScriptSign::kError;
   text.rail = Amount(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount);
   text.bankroll = Amount(table.BankrollCurrent[seat]);
-  text.betsCaption = bets == 1 ? Told(QT_TRANSLATE_NOOP("Plates", "1 Bet:"))
-                               : Told(QT_TRANSLATE_NOOP("Plates", "%1 Bets:")).arg(bets);
+  text.betsCaption = QCoreApplication::translate("Plates", "%1 Bets:", nullptr, PluralOf(bets)).arg(bets);
   text.bets = Amount(table.seats[seat].OnTableAmount);
   text.sign = result > kZero ? 1 : result < kZero ? -1 : 0;
   text.resultCaption = text.sign > 0   ? Told(QT_TRANSLATE_NOOP("Plates", "Won:"))

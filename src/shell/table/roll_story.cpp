@@ -1,8 +1,8 @@
 #include "shell/table/roll_story.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "stats/statistics.h"
@@ -103,7 +103,7 @@ QString RollSentence(const RollStory& story) {
   if (story.roll == 0) return {};
   // Arguments that a sentence doesn't take are not given to it.
   const QString sentence = Told(WordsOf(story.mark).sentence)
-                               .arg(QLocale().toString(static_cast<qlonglong>(story.roll)))
+                               .arg(ShownCount(story.roll))
                                .arg(story.die1 + story.die2)
                                .arg(story.die1)
                                .arg(story.die2);
@@ -141,7 +141,7 @@ QStringList TotalKinds() {
 
 QString HandTitle(const Game& game) {
   return Told(QT_TRANSLATE_NOOP("Board", "Hand %1"))
-      .arg(QLocale().toString(static_cast<qlonglong>(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1)));
+      .arg(ShownCount(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1));
 }
 
 QString HandText(const Game& game, bool brief) {
@@ -149,11 +149,11 @@ QString HandText(const Game& game, bool brief) {
   for (int number = 4; number <= 10; ++number)
     if (number != 7) made += game.stats.NumberCounts[Slot(kCurrentHand, 0)][number][kPasses];
   const int rolls = static_cast<int>(HandRolls(game.stats));
-  const QString rolled = rolls == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 roll"))
-                                    : Told(QT_TRANSLATE_NOOP("Board", "%1 rolls")).arg(rolls);
+  const QString rolled =
+      QCoreApplication::translate("Board", "%1 rolls", nullptr, PluralOf(rolls)).arg(ShownCount(rolls));
   if (brief) return rolled;
-  const QString points = made == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 point made"))
-                                   : Told(QT_TRANSLATE_NOOP("Board", "%1 points made")).arg(made);
+  const QString points =
+      QCoreApplication::translate("Board", "%1 points made", nullptr, PluralOf(made)).arg(made);
   return Told(QT_TRANSLATE_NOOP("Board", "%1, %2")).arg(rolled, points);
 }
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/bet_families.h"
 #include "state/game.h"
@@ -176,7 +177,7 @@ QString ShortAmount(Currency amount) {
   const double unit = value >= 1e6 ? 1e6 : 1e3;
   const double share = value / unit;
   const double step = share >= 100 ? 1 : share >= 10 ? 10 : 100;
-  const QString figure = QString::number(std::floor(share * step + 1e-9) / step);
+  const QString figure = InHabit(QString::number(std::floor(share * step + 1e-9) / step));
   return (amount.raw < 0 ? QStringLiteral("-") : QString()) + figure +
          (unit == 1e6 ? QStringLiteral("M") : QStringLiteral("k"));
 }

@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCoreApplication>
-#include <QLocale>
 #include <QWindow>
 #include <map>
 #include <tuple>
@@ -11,6 +10,7 @@
 
 #include "base/bet_catalogue.h"
 #include "shell/table/bet_tips.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
@@ -354,7 +354,7 @@ void TellTableChanged(TableWidget& table) {
 QString RollAnnouncement(const Game& game) {
   const TableState& table = game.table;
   const QString roll = Said(QT_TRANSLATE_NOOP("TableAccessible", "Roll %1: %2 (%3-%4)"))
-                           .arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game.stats))))
+                           .arg(ShownCount(SessionRolls(game.stats)))
                            .arg(table.RollTotal)
                            .arg(table.Die1)
                            .arg(table.Die2);

@@ -3,11 +3,11 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -20,7 +20,7 @@ constexpr int kNameColumns = 20;  // of a name as it is shown
 const QColor kWon(150, 232, 160);
 const QColor kLost(255, 172, 160);
 
-QString WholeNumber(double value) { return QLocale(QLocale::English).toString(value, 'f', 0); }
+QString WholeNumber(double value) { return ShownNumber(value, 0); }
 
 QString ClockText(qint64 milliseconds) {
   const qint64 seconds = milliseconds / 1000;
@@ -138,8 +138,7 @@ void TurboPanel::Begin(const Game& game) {
 }
 
 QString TurboPanel::Amount(Currency value) const {
-  const QString text = MoneyText(value);
-  return cents_ && value.IsWhole() ? text + QStringLiteral(".00") : text;
+  return cents_ && value.IsWhole() ? ShownNumber(value.ToDouble(), 2) : MoneyText(value);
 }
 
 void TurboPanel::Refresh(const Game& game) {
