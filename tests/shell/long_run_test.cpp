@@ -4,11 +4,13 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <ctime>
+#include <map>
 
 #include "play/auto_roll.h"
 #include "shell/frame/desk.h"
@@ -64,6 +66,8 @@ struct TurboRun {
   double rate = 0;            // rolls a second of processor time
   double longestSilence = 0;  // milliseconds of processor time in which no click would have been heard
   long grown = 0;             // kilobytes since a third of the run
+  int refreshes = 0;
+  double seconds = 0;  // of the clock
 };
 
 TurboRun RunTurbo(std::int64_t rolls, bool instruments) {
@@ -96,10 +100,40 @@ TurboRun RunTurbo(std::int64_t rolls, bool instruments) {
   });
   ear.start(1);
   table.host.answers.Ok();
+  std::map<QString, double> costs;
+  QElapsedTimer since;
+  since.start();
+  if (qEnvironmentVariableIsSet("TESSARYN_COSTS")) table.host.showProgress = nullptr;
+  if (qEnvironmentVariableIsSet("TESSARYN_COSTS"))
+    table.host.betweenRolls = [&](Game&) {
+      if (since.elapsed() < 100) return;
+      since.start();
+      if (++run.refreshes == 3) costs.clear();
+      for (const ToolRow& row : ToolRows()) {
+        const double from = ProcessorSeconds();
+        RefreshTool(window.TheDesk(), row.number);
+        const double refreshed = ProcessorSeconds();
+        for (int k = 0; k < 2; ++k) QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        if (window.TheDesk().tools[row.number] == nullptr) continue;
+        costs[window.TheDesk().tools[row.number]->objectName() + " refresh"] += refreshed - from;
+        costs[window.TheDesk().tools[row.number]->objectName() + " paint"] += ProcessorSeconds() - refreshed;
+      }
+    };
+  else
+    table.host.showProgress = [&run, all = table.host.showProgress](Game& game) {
+      ++run.refreshes;
+      all(game);
+    };
+  QElapsedTimer clock;
+  clock.start();
   const double before = heard = ProcessorSeconds();
   ToggleAutoRoll(*table.game);
   run.rate = static_cast<double>(rolls) / (ProcessorSeconds() - before);
+  run.seconds = static_cast<double>(clock.elapsed()) / 1000;
   run.grown = MemoryInUse() - warm;
+  for (const auto& [name, cost] : costs)
+    printf("%-32s %7.3f ms\n", qPrintable(name), 1000 * cost / (run.refreshes - 2));
   EXPECT_EQ(SessionRolls(table.game->stats), rolls);
   return run;
 }
@@ -125,10 +159,14 @@ TEST(LongRun, EveryInstrumentOpenBesideATurboRoll) {
   EXPECT_GT(best, leastShare) << all.rate << " rolls a second of " << none.rate;
   EXPECT_LT(all.longestSilence, kLongestSilence);
   EXPECT_LT(all.grown, 2000) << "kilobytes more";
+#ifdef NDEBUG
+  EXPECT_GT(all.refreshes, 5 * all.seconds) << "too dear to be done ten times a second";
+#endif
   printf(
       "%.0f rolls a second without instruments, %.0f with all of them (%.1f%%); unheard for %.0f ms at most; "
-      "%ld kB more\n",
-      none.rate, all.rate, 100 * all.rate / none.rate, all.longestSilence, all.grown);
+      "%ld kB more; %.1f refreshes a second\n",
+      none.rate, all.rate, 100 * all.rate / none.rate, all.longestSilence, all.grown,
+      all.refreshes / all.seconds);
 }
 
 }  // namespace
