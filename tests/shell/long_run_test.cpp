@@ -4,13 +4,11 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <ctime>
-#include <map>
 
 #include "play/auto_roll.h"
 #include "shell/frame/desk.h"
@@ -67,7 +65,7 @@ struct TurboRun {
   double longestSilence = 0;  // milliseconds of processor time in which no click would have been heard
   long grown = 0;             // kilobytes since a third of the run
   int refreshes = 0;
-  double seconds = 0;  // of the clock
+  double seconds = 0;  // of processor time
 };
 
 TurboRun RunTurbo(std::int64_t rolls, bool instruments) {
@@ -100,40 +98,15 @@ TurboRun RunTurbo(std::int64_t rolls, bool instruments) {
   });
   ear.start(1);
   table.host.answers.Ok();
-  std::map<QString, double> costs;
-  QElapsedTimer since;
-  since.start();
-  if (qEnvironmentVariableIsSet("TESSARYN_COSTS")) table.host.showProgress = nullptr;
-  if (qEnvironmentVariableIsSet("TESSARYN_COSTS"))
-    table.host.betweenRolls = [&](Game&) {
-      if (since.elapsed() < 100) return;
-      since.start();
-      if (++run.refreshes == 3) costs.clear();
-      for (const ToolRow& row : ToolRows()) {
-        const double from = ProcessorSeconds();
-        RefreshTool(window.TheDesk(), row.number);
-        const double refreshed = ProcessorSeconds();
-        for (int k = 0; k < 2; ++k) QCoreApplication::sendPostedEvents();
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-        if (window.TheDesk().tools[row.number] == nullptr) continue;
-        costs[window.TheDesk().tools[row.number]->objectName() + " refresh"] += refreshed - from;
-        costs[window.TheDesk().tools[row.number]->objectName() + " paint"] += ProcessorSeconds() - refreshed;
-      }
-    };
-  else
-    table.host.showProgress = [&run, all = table.host.showProgress](Game& game) {
-      ++run.refreshes;
-      all(game);
-    };
-  QElapsedTimer clock;
-  clock.start();
+  table.host.showProgress = [&run, all = table.host.showProgress](Game& game) {
+    ++run.refreshes;
+    all(game);
+  };
   const double before = heard = ProcessorSeconds();
   ToggleAutoRoll(*table.game);
-  run.rate = static_cast<double>(rolls) / (ProcessorSeconds() - before);
-  run.seconds = static_cast<double>(clock.elapsed()) / 1000;
+  run.seconds = ProcessorSeconds() - before;
+  run.rate = static_cast<double>(rolls) / run.seconds;
   run.grown = MemoryInUse() - warm;
-  for (const auto& [name, cost] : costs)
-    printf("%-32s %7.3f ms\n", qPrintable(name), 1000 * cost / (run.refreshes - 2));
   EXPECT_EQ(SessionRolls(table.game->stats), rolls);
   return run;
 }
