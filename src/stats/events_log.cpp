@@ -12,8 +12,8 @@
 #include "base/letters.h"
 #include "base/record_file.h"
 #include "dice/percentage_dice.h"
-#include "state/run_stop.h"
 #include "state/show_message.h"
+#include "stats/log_fault.h"
 
 namespace tessaryn {
 namespace {
@@ -39,17 +39,9 @@ void ForgetFiles(EventsLog& log) {
   log.Files.failedAt = 0;
 }
 
-// A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there
-// it is told once.
 void ReportFault(Game& game, const std::string& what) {
-  EventsLog& log = game.events;
-  const bool told = log.FaultReported == what;
-  log.FaultReported = what;
-  const bool run = game.table.AutoRollActive;
-  const bool turbo = game.table.TurboRollActive;
-  if (run) StopRun(game, what);  // of a Turbo-Roll the reason is shown
-  if (turbo || (told && !run)) return;
-  ShowMessage<Msg::kLogFaultReported>(game, With<"problem">(what));
+  if (StopWithLogFault(game, game.events.FaultReported, what))
+    ShowMessage<Msg::kLogFaultReported>(game, With<"problem">(what));
 }
 
 std::string FaultText(const std::string& path, int error) {

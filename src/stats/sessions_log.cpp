@@ -11,8 +11,8 @@
 #include "base/letters.h"
 #include "base/messages.h"
 #include "state/game.h"
-#include "state/run_stop.h"
 #include "state/show_message.h"
+#include "stats/log_fault.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -234,13 +234,8 @@ void TellSessionsLogFault(Game& game) {
   SessionsLogFiles& files = game.sessions.Files;
   if (files.Fault.empty()) return;
   const std::string fault = std::exchange(files.Fault, {});
-  const bool told = files.FaultTold == fault;
-  files.FaultTold = fault;
-  const bool run = game.table.AutoRollActive;
-  const bool turbo = game.table.TurboRollActive;
-  if (run) StopRun(game, fault);  // of a Turbo-Roll the reason is shown
-  if (turbo || (told && !run)) return;
-  ShowMessage<Msg::kSessionsLogFault>(game, With<"problem">(fault));
+  if (StopWithLogFault(game, files.FaultTold, fault))
+    ShowMessage<Msg::kSessionsLogFault>(game, With<"problem">(fault));
 }
 
 void WriteWaitingSessions(Game& game) {

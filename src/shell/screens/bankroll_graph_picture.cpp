@@ -149,10 +149,13 @@ void PaintArea(QPainter& painter, const GraphFrame& frame, const GraphPage& page
   if (page.style == kGraphSolid) {
     line.append({line.back().x(), frame.plot.bottom()});
     line.append({line.front().x(), frame.plot.bottom()});
+    // The curve stands over its edge.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colours.parts[kGraphArea]);
     painter.drawPolygon(line);
     painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(QPainter::Antialiasing);
     return;
   }
   QList<QLineF> stripes;

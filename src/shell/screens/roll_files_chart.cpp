@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 #include "shell/table/number_habit.h"
 
@@ -91,6 +92,10 @@ RollChartView::RollChartView(QWidget* parent) : QWidget(parent) {
 }
 
 void RollChartView::Show(const RollChart& chart) {
+  const auto shown = [](const RollChart& of) {
+    return std::tie(of.totals.Total, of.totals.Rolls, of.totals.Faults, of.heading, of.counting);
+  };
+  if (shown(chart) == shown(chart_)) return;
   chart_ = chart;
   setAccessibleName(
       Words(QT_TRANSLATE_NOOP("RollChart", "Distribution of the totals: %1")).arg(chart.heading));

@@ -9,8 +9,8 @@
 #include <algorithm>
 
 #include "dice/roll_file.h"
+#include "shell/table/die_face.h"
 #include "shell/table/number_habit.h"
-#include "shell/table/pictures.h"
 
 namespace tessaryn {
 
@@ -69,17 +69,9 @@ void RollList::Measure() {
   const qreal ratio = devicePixelRatioF();
   if (faces_[0].size() != QSize(face, face) * ratio)
     for (int die = 0; die < 2; ++die)
-      for (int pips = 1; pips <= 6; ++pips) {
-        QPixmap picture(QSize(face, face) * ratio);
-        picture.fill(Qt::transparent);
-        picture.setDevicePixelRatio(ratio);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(face / 2.0, face / 2.0);
-        painter.scale(face - 1, face - 1);
-        PaintDie(painter, pips, die == 0 ? kDiceRed : kDiceBlue, Qt::white);
-        faces_[static_cast<std::size_t>(die * 6 + pips - 1)] = picture;
-      }
+      for (int pips = 1; pips <= 6; ++pips)
+        faces_[static_cast<std::size_t>(die * 6 + pips - 1)] =
+            DieFace(pips, die == 0 ? kDiceRed : kDiceBlue, face, ratio);
   rows_ = std::max(1, viewport()->height() / rowHeight_);
   columns_ = std::max(1, viewport()->width() / columnWidth_);
   QScrollBar* bar = verticalScrollBar();

@@ -413,10 +413,12 @@ void RollFilesWindow::Refresh() {
   QString count = open ? tr("%1 rolls", nullptr, PluralOf(length)).arg(NumberText(length)) : QString();
   if (selection.Count > 1) count = tr("%1, %2 selected").arg(count, NumberText(selection.Count));
   count_->setText(count);
-  if (!next_->hasFocus()) next_->setText(open ? QString::number(file.RollFileCursor) : QString());
+  const QString next = open ? QString::number(file.RollFileCursor) : QString();
+  if (!next_->hasFocus() && next_->text() != next) next_->setText(next);
   next_->setEnabled(open);
   mode_->button(file.RollFileInsertMode ? 1 : 0)->setChecked(true);
-  if (!format_->hasFocus()) format_->setText(FromCore(file.RollFileOutputFormat));
+  const QString format = FromCore(file.RollFileOutputFormat);
+  if (!format_->hasFocus() && format_->text() != format) format_->setText(format);
   sample_->setText(
       IsRollFormatUsable(file.RollFileOutputFormat)
           ? tr("Roll 12, 3 and 4: %1").arg(FromCore(RollText(file.RollFileOutputFormat, 12, RollByte(3, 4))))

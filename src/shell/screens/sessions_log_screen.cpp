@@ -491,9 +491,11 @@ void SessionsLogScreen::ShowOutliers() {
     Currency value = byDeviations ? whole.Mean + Multiply(bounds[end], whole.StdDev) : bounds[end];
     if (!on) value = end == 0 ? whole.Low : whole.High;
     const double away = byDeviations ? bounds[end].ToDouble() : DeviationsOf(whole, value);
-    if (!values_[end]->hasFocus() || !values_[end]->isModified()) values_[end]->setText(Number(value));
-    if (!deviations_[end]->hasFocus() || !deviations_[end]->isModified())
-      deviations_[end]->setText(ShownNumber(away, 2));
+    const auto show = [](QLineEdit& box, const QString& text) {
+      if ((!box.hasFocus() || !box.isModified()) && box.text() != text) box.setText(text);
+    };
+    show(*values_[end], Number(value));
+    show(*deviations_[end], ShownNumber(away, 2));
     const QSignalBlocker quiet(sliders_[end]);
     const double range = whole.Range.ToDouble();
     const double share = range <= 0 ? end : (value - whole.Low).ToDouble() / range;

@@ -155,18 +155,31 @@ void TurboPanel::Refresh(const Game& game) {
     const Currency change = bankroll - firstBankroll_[seats_[row]];
     bankrolls_[row]->setText(Amount(bankroll));
     changes_[row]->setText((change > kZero ? "+" : "") + Amount(change));
-    QPalette colours = palette();
-    if (change != kZero) colours.setColor(QPalette::WindowText, change > kZero ? kWon : kLost);
+    const QColor ink = change == kZero ? palette().color(QPalette::WindowText)
+                       : change > kZero ? kWon
+                                        : kLost;
+    QPalette colours = changes_[row]->palette();
+    if (colours.color(QPalette::WindowText) == ink) continue;
+    colours.setColor(QPalette::WindowText, ink);
     changes_[row]->setPalette(colours);
   }
 }
 
-void TurboPanel::paintEvent(QPaintEvent*) {
+// Figures that change have it painted below them many times a second.
+void TurboPanel::paintEvent(QPaintEvent* event) {
+  const double ratio = devicePixelRatioF();
+  if (light_.size() != size() * ratio) {
+    light_ = QPixmap(size() * ratio);
+    light_.setDevicePixelRatio(ratio);
+    QRadialGradient light(rect().center(), std::max(width(), height()) * 0.7);
+    light.setColorAt(0, QColor(14, 88, 58));
+    light.setColorAt(1, QColor(6, 40, 28));
+    QPainter(&light_).fillRect(rect(), light);
+  }
   QPainter painter(this);
-  QRadialGradient light(rect().center(), std::max(width(), height()) * 0.7);
-  light.setColorAt(0, QColor(14, 88, 58));
-  light.setColorAt(1, QColor(6, 40, 28));
-  painter.fillRect(rect(), light);
+  for (const QRect& part : event->region())
+    painter.drawPixmap(part.topLeft(), light_,
+                       QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio).toRect());
 }
 
 void TurboPanel::keyPressEvent(QKeyEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPixmap>
 #include <QList>
 #include <QWidget>
 #include <cstdint>
@@ -55,6 +56,7 @@ class TurboPanel : public QWidget {
   QList<QLabel*> captions_;
   QList<QLabel*> figures_;
   QElapsedTimer clock_;
+  QPixmap light_;  // the ground that all stands on
   RollNumber firstRoll_ = 0;
   Currency firstBankroll_[kSeatRows];
 };
