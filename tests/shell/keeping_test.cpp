@@ -518,7 +518,8 @@ TEST(Autosaving, OneIsWrittenEveryFewMinutesIfAnythingChanged) {
   Visit run(folder);
   const auto minutesPass = [&] {
     for (QTimer* timer : run.window->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly))
-      if (timer->interval() == kAutosaveMinutes * 60'000) emit timer->timeout({});
+      if (timer->interval() == kAutosaveMinutes * 60'000)
+        QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
     return IsThere(folder, "autosave.crp");
   };
   EXPECT_FALSE(minutesPass());
