@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <random>
+#include <regex>
 
 #include "support/cli_process.h"
 
@@ -114,7 +115,9 @@ TEST(CliGame, ANewProcessGoesOnAtAnyPoint) {
     const test::Ran opened = test::RunCli(folder, next, rest);
     ASSERT_EQ(played.exitCode + opened.exitCode, 0) << played.err << opened.err;
     ASSERT_GT(opened.out.size(), 2'000u);
-    EXPECT_TRUE(played.out.ends_with(opened.out));
+    const std::regex times("\"(rollsPerSecond|seconds)\":[-+.e0-9]+");
+    const std::string told = std::regex_replace(opened.out, times, "");
+    EXPECT_TRUE(std::regex_replace(played.out, times, "").ends_with(told));
     EXPECT_FALSE(end.empty());
     EXPECT_TRUE(test::ReadFile(folder.File("end.crp")) == end) << "the two ended in other files";
   }

@@ -280,8 +280,9 @@ TEST(GameFile, AGameThatWasOpenedGoesOnAsTheOneThatWasSaved) {
     const std::string first = test::ReadFile(path);
     EXPECT_FALSE(IsSessionUnsaved(*played.game));
 
+    const test::TempFolder aside;
+    played.LeaveRollFileTo(aside);
     RandomTable opened(1);
-    played.LeaveRollFileTo(opened.folder);
     opened.game->screen.HotKeys.clear();
     opened.host.boxes.clear();
     if (as == KeptAs::kAutosave) {
