@@ -635,6 +635,11 @@ TEST(GameFile, AProgramThatIsKilledLeavesTheOldFileOrTheNewOne) {
       ASSERT_FALSE(problem.Found()) << path << ": " << problem.reason;
     }
   }
+  const auto left =
+      std::count_if(fs::directory_iterator(table.folder.Path()), {}, [](const fs::directory_entry& entry) {
+        return entry.path().filename().string().starts_with(".tessaryn-");
+      });
+  RecordProperty("within_a_write", static_cast<int>(left));
   ClearLeftovers(table.folder.Path());
 }
 
