@@ -58,8 +58,10 @@ bool PrepareDataFolder(std::string& folder, std::string& error) {
   }
   // What files name by it is found from any folder.
   std::error_code unknown;
-  if (const fs::path full = fs::absolute(folder, unknown); !unknown)
-    folder = full.lexically_normal().string();
+  const fs::path full = fs::absolute(folder, unknown);
+  // Behind a link, ".." is another folder than it looks.
+  const bool plain = folder.find("..") == folder.npos;
+  if (!unknown) folder = (plain ? full.lexically_normal() : full).string();
   return true;
 }
 
