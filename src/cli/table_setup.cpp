@@ -282,6 +282,7 @@ bool TakeDataFolder(Game& game, const TableOptions& options) {
   std::string folder = options.dataFolder;
   std::string error;
   if (!PrepareDataFolder(folder, error)) return Told(error);
+  game.dataFolder = game.ownFolder = folder;
   if (!options.writes) return true;
   const std::string told = ClaimDataFolder(game.folderLock, game.ownFolder, "tessaryn-cli");
   if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());

@@ -254,8 +254,8 @@ void Windows(Io& io, Screen& screen) {
     Window(io, screen.ToolWindows[row.window], row.sized);
   }
   io.LongsTo(30);
-  for (SeatId seat = 1; seat <= kSeats; ++seat) io.Long(screen.RailLeft[seat]);
-  for (SeatId seat = 1; seat <= kSeats; ++seat) io.Long(screen.RailTop[seat]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) io.ToldLong(screen.RailLeft[seat]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) io.ToldLong(screen.RailTop[seat]);
   io.EndLongs();
   for (const WindowRow& row : kFurtherWindows) {
     if (row.window == kRollFreqsWindow) {
@@ -786,6 +786,11 @@ bool ReadGameRecords(const RecordFile& file, Game& game, GameReferences& referen
   references = {};
   RecordsIn io(file);
   GameRecords(io, game, game.screen, references);
+  game.rollFile.RollFileName = references.rollFile.path;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    game.autobet.Scripts[seat].ScriptFileName = references.script[seat].path;
+    game.table.seats[seat].SessionsLogName = references.sessionsLog[seat].path;
+  }
   return !io.Failed();
 }
 

@@ -115,7 +115,15 @@ void LeaveAllUnsaved(Visit& run) {
   run.Do("mnuSaveAs");
   script.Unsaved = true;
   run.game->percentage.ProbDirty = true;
+  // Nothing is asked of logged bets: the last game keeps them, and that they aren't saved.
+  run.game->autobet.LoggedBets = {"bet 5 on field"};
+  run.game->autobet.LoggedBetsUnsaved = true;
   run.Bet(3, kField, 25);
+}
+
+void ExpectLoggedBets(const Visit& run) {
+  EXPECT_EQ(run.game->autobet.LoggedBets, std::vector<std::string>{"bet 5 on field"});
+  EXPECT_TRUE(run.game->autobet.LoggedBetsUnsaved);
 }
 
 TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
@@ -158,6 +166,7 @@ TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
       EXPECT_EQ(next.game->autobet.Scripts[3].ScriptLines, std::vector<std::string>{"bet 10 on field"});
       EXPECT_EQ(next.window->windowTitle(), "Tessaryn");
       EXPECT_FALSE(next.game->percentage.ProbFileName.empty());
+      ExpectLoggedBets(next);
       EXPECT_FALSE(IsThere(folder, "autosave.crp"));
       next.window->CloseUnasked();
     }
@@ -210,6 +219,7 @@ TEST(Closing, WhereNobodyIsAskedNothingIsLost) {
   Visit next(folder);
   EXPECT_EQ(next.game->autobet.Scripts[3].ScriptLines, std::vector<std::string>{"bet 10 on field"});
   EXPECT_TRUE(next.game->autobet.Scripts[3].Unsaved);
+  ExpectLoggedBets(next);
   EXPECT_EQ(QFileInfo(FromCore(next.game->percentage.ProbFileName)).fileName(), "default.prb");
   EXPECT_EQ(next.game->screen.HotKeys.size(), 1u);
   EXPECT_EQ(next.OnField(3), Currency::Dollars(25));
@@ -502,6 +512,21 @@ TEST(Opening, EachKindOpensItsScreenForTheLastGame) {
 }
 
 // --- The autosave.
+
+TEST(Autosaving, OneIsWrittenEveryFewMinutesIfAnythingChanged) {
+  const QTemporaryDir folder;
+  Visit run(folder);
+  const auto minutesPass = [&] {
+    for (QTimer* timer : run.window->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly))
+      if (timer->interval() == kAutosaveMinutes * 60'000)
+        QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+    return IsThere(folder, "autosave.crp");
+  };
+  EXPECT_FALSE(minutesPass());
+  run.Join(3, "Ann");
+  EXPECT_TRUE(minutesPass());
+  EXPECT_TRUE(run.Close());
+}
 
 TEST(Autosaving, ARunIsPrecededByOneAndAnOrderlyEndTakesItAway) {
   const QTemporaryDir folder;
