@@ -15,6 +15,5 @@ function(compile_by_folders target files)
     math(EXPR count_${folder} "0${count_${folder}} + 1")
     set_source_files_properties(${source} PROPERTIES UNITY_GROUP "${folder}_${part}")
   endforeach()
-  set_source_files_properties(${CMAKE_SOURCE_DIR}/src/play/game_file_fields.cpp ${CMAKE_SOURCE_DIR}/src/lab/replay.cpp
-    PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+  set_source_files_properties(${CMAKE_SOURCE_DIR}/src/play/game_file_fields.cpp PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
 endfunction()

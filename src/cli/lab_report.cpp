@@ -10,7 +10,6 @@
 namespace tessaryn::cli {
 namespace {
 
-constexpr double kDollar = Currency::kPerDollar;
 
 using lab_json::AdjustedOf;
 using lab_json::MeanOf;

@@ -38,6 +38,7 @@ struct LabSystem {
 };
 TESSARYN_FIELDS(LabSystem, name, lines, standingBets, stacks, settings)
 
+inline constexpr SeatId kLabSeat = 1;  // where every system plays
 inline constexpr std::int64_t kMostLabSessions = 1'000'000'000;
 inline constexpr std::size_t kMostSystems = 1'000;
 inline constexpr int kMostShards = 100'000;

@@ -15,7 +15,6 @@
 namespace tessaryn {
 namespace {
 
-constexpr double kDollar = Currency::kPerDollar;
 constexpr std::int64_t kFewSessions = 30;  // bounds of fewer are rough
 
 // --- Figures in words.

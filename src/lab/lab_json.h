@@ -11,8 +11,6 @@ namespace tessaryn {
 
 namespace lab_json {
 
-inline constexpr double kDollar = Currency::kPerDollar;
-
 template <typename Json>
 Json BoundsJson(const Bounds& bounds) {
   return {bounds.low, bounds.high};

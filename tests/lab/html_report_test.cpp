@@ -19,7 +19,7 @@
 namespace tessaryn::test {
 namespace {
 
-LabState Played(Experiment experiment, std::int64_t sessions) {
+LabState StateOf(Experiment experiment, std::int64_t sessions) {
   experiment.sessions = sessions;
   LabState state = BeginLab(experiment, false, false);
   LabRun run;
@@ -84,10 +84,10 @@ TEST(HtmlReport, HoldsTogetherWhateverItTells) {
   dice.probabilities = FairProbabilities();
   for (const Experiment& experiment : {odd, eight, unbounded, dice, Bets({"place6=12"})})
     for (const int sessions : {1, 2, 300}) {
-      LabState state = Played(experiment, sessions);
+      LabState state = StateOf(experiment, sessions);
       ExpectWhole(HtmlReport(state));
     }
-  LabState state = Played(odd, 20);
+  LabState state = StateOf(odd, 20);
   const std::string page = HtmlReport(state);
   EXPECT_EQ(page.find("<b>&\"x"), std::string::npos);
   EXPECT_NE(page.find("never rolled the dice"), std::string::npos);
@@ -159,7 +159,7 @@ TEST(LabGrid, EverySystemStandsWhereItsValuesSay) {
 }
 
 TEST(LabGrid, TheMapFramesTheBestByWhatSystemsAreRankedBy) {
-  LabState state = Played(Swept({"1=5..20:5", "2=1..3:1"}, {}), 40);
+  LabState state = StateOf(Swept({"1=5..20:5", "2=1..3:1"}, {}), 40);
   for (const RankBy by : {RankBy::kMean, RankBy::kMedian, RankBy::kRuin}) {
     const std::string page = HtmlReport(state, by);
     ExpectWhole(page);

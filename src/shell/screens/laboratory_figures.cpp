@@ -10,7 +10,6 @@
 namespace tessaryn {
 namespace {
 
-constexpr double kDollar = Currency::kPerDollar;
 constexpr double kMostBars = 60;
 constexpr std::size_t kMostDrawn = 12;   // systems whose pictures are all kept ready
 constexpr std::size_t kMostPaired = 60;  // systems all of whose pairs are told
