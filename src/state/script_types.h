@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/fields.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 

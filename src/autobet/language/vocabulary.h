@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 // Where a row may match.
