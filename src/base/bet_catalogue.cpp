@@ -1,7 +1,8 @@
 #include "base/bet_catalogue.h"
 
-#include <cctype>
 #include <charconv>
+
+#include "base/letters.h"
 
 namespace tessaryn {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 std::string Compact(std::string_view text) {
   std::string compact;
   for (const char c : text)
-    if (c != ' ' && c != '\'') compact += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    if (c != ' ' && c != '\'') compact += Lowered(c);
   return compact;
 }
 

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
@@ -12,6 +11,7 @@
 
 #include "autobet/language/script_files.h"
 #include "base/interrupts.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "dice/generators.h"
@@ -33,12 +33,6 @@ constexpr const char* kProgramName = "Tessaryn";
 constexpr int kFileError = 75;  // of paths and files, in the general error box
 
 // --- Names and dates.
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return lower;
-}
 
 std::string FullPath(const std::string& path) {
   std::error_code failed;
@@ -64,7 +58,7 @@ FileReference ReferenceTo(const std::string& path) {
 }
 
 std::string DefaultSessionsLog(const Game& game, SeatId seat) {
-  return game.dataFolder + Lower(game.table.seats[seat].SeatName) + ".slg";
+  return game.dataFolder + Lowered(game.table.seats[seat].SeatName) + ".slg";
 }
 
 // --- What a game refers to.
@@ -152,7 +146,7 @@ std::string SaveUnsavedProbabilities(Game& game, const std::string& gamePath, st
 std::string DefaultGamePath(const Game& game) { return game.ownFolder + kDefaultGameFile; }
 std::string BackupGamePath(const Game& game) { return game.ownFolder + kBackupGameFile; }
 std::string AutosavePath(const Game& game) { return game.ownFolder + kAutosaveGameFile; }
-bool IsDefaultGame(std::string_view path) { return Lower(FileTitle(path)) == kDefaultGameFile; }
+bool IsDefaultGame(std::string_view path) { return Lowered(FileTitle(path)) == kDefaultGameFile; }
 
 bool SaveGame(Game& game, const std::string& path, std::string& error) {
   FlushTableFiles(game);
@@ -268,10 +262,8 @@ void TakeOverEvents(EventsLog& log, const EventsLog& loaded) {
 // own.
 void TakeOverHotKeys(std::vector<HotKey>& keys, const std::vector<HotKey>& loaded) {
   for (const HotKey& key : loaded)
-    if (std::none_of(keys.begin(), keys.end(), [&](const HotKey& known) {
-          return std::tolower(static_cast<unsigned char>(known.key)) ==
-                 std::tolower(static_cast<unsigned char>(key.key));
-        }))
+    if (std::none_of(keys.begin(), keys.end(),
+                     [&](const HotKey& known) { return Lowered(known.key) == Lowered(key.key); }))
       keys.push_back(key);
 }
 
@@ -456,7 +448,7 @@ std::string GameToOpen(Game& game, std::string_view argument) {
   if (argument.size() >= 2 && argument.front() == '"' && argument.back() == '"')
     argument = argument.substr(1, argument.size() - 2);
   if (argument.empty()) return DefaultGamePath(game);
-  if (Lower(argument).ends_with(kGameFileExtension)) return std::string(argument);
+  if (Lowered(argument).ends_with(kGameFileExtension)) return std::string(argument);
   ShowMessage<Msg::kNotAGameFileName>(game);
   return DefaultGamePath(game);
 }

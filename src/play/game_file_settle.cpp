@@ -1,8 +1,8 @@
 // What a game file may bring to a table: nothing in it is trusted.
 #include <algorithm>
-#include <cctype>
 #include <limits>
 
+#include "base/letters.h"
 #include "dice/generators.h"
 #include "play/game_file_fields.h"
 #include "play/game_file_records.h"
@@ -13,11 +13,6 @@
 namespace tessaryn {
 namespace {
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 std::string SettlePlayers(Game& game) {
   TableState& table = game.table;
   const int told = table.OccupiedSeats;
@@ -27,7 +22,7 @@ std::string SettlePlayers(Game& game) {
     if (name.empty()) continue;
     if (!TextProblem(name).empty()) return "the name of seat " + std::to_string(seat);
     for (SeatId other = 1; other < seat; ++other)
-      if (Lower(table.seats[other].SeatName) == Lower(name)) return "two players named " + name;
+      if (SameLetters(table.seats[other].SeatName, name)) return "two players named " + name;
     table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
   }
   for (int i = table.OccupiedSeats; i < kSeats; ++i) table.Seated[i] = 0;

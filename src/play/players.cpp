@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <cctype>
 #include <utility>
 
 #include "autobet/language/normaliser.h"
+#include "base/letters.h"
 #include "base/record_file.h"
 #include "play/session_luck.h"
 #include "rules/bet_rules.h"
@@ -30,11 +30,6 @@ void ListSeated(TableState& table) {
       table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
 }
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 std::string Trimmed(const std::string& text) {
   const auto first = text.find_first_not_of(" \t\r\n");
   if (first == std::string::npos) return "";
@@ -47,7 +42,7 @@ std::string NameProblem(const Game& game, const std::string& name, SeatId ownSea
   if (const std::string problem = TextProblem(name); !problem.empty())
     return MessageText<Msg::kNameUnfit>(With<"reason">(problem));
   for (SeatId seat = 1; seat <= kSeats; ++seat)
-    if (seat != ownSeat && Lower(game.table.seats[seat].SeatName) == Lower(name))
+    if (seat != ownSeat && SameLetters(game.table.seats[seat].SeatName, name))
       return MessageText<Msg::kNameTaken>(With<"name">(name));
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
@@ -280,7 +275,7 @@ bool RenamePlayer(Game& game) {
   if (!AskName(game, Msg::kAskNewName, old, seat, name)) return false;
   std::string error;
   if (!RenameTo(game, seat, name, error)) return false;
-  if (Lower(old) == Lower(name)) return true;
+  if (SameLetters(old, name)) return true;
   if (!Confirms<Msg::kAskRenameSessionsLog>(game, With<"player">(name))) return true;
   const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
   if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotRenamed>(game, With<"problem">(problem));

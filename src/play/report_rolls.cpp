@@ -17,16 +17,16 @@ using Seats = std::vector<SeatId>;
 
 // --- Hands.
 
-constexpr int kKinds = 3;  // come-out rolls, passes, misses
+constexpr int kHandKinds = 3;  // come-out rolls, passes, misses
 
 struct Hands {
-  std::int64_t numbers[13][kKinds] = {};
-  std::int64_t total[kKinds] = {};
-  std::int64_t points[kKinds] = {};
+  std::int64_t numbers[13][kHandKinds] = {};
+  std::int64_t total[kHandKinds] = {};
+  std::int64_t points[kHandKinds] = {};
   std::int64_t rolls = 0;
   std::int64_t hands = 0;
   std::int32_t mostRolls = 0;
-  std::int32_t most[kKinds] = {};
+  std::int32_t most[kHandKinds] = {};
 };
 
 Hands HandsOf(const Statistics& stats, ScopeId scope, const Seats& seats) {
@@ -38,7 +38,7 @@ Hands HandsOf(const Statistics& stats, ScopeId scope, const Seats& seats) {
     sum.mostRolls = std::max(sum.mostRolls, stats.MostRollsInHand[slot]);
     const std::int32_t most[] = {stats.MostComeoutRollsInHand[slot], stats.MostPassesInHand[slot],
                                  stats.MostMissesInHand[slot]};
-    for (int kind = 0; kind < kKinds; ++kind) {
+    for (int kind = 0; kind < kHandKinds; ++kind) {
       sum.most[kind] = std::max(sum.most[kind], most[kind]);
       for (int number = 2; number <= 12; ++number) {
         const std::int32_t count = stats.NumberCounts[slot][number][kind];
@@ -61,7 +61,7 @@ ReportCell HandCell(std::int64_t count, std::int64_t total, bool percent) {
 void AddNumbers(const Hands& hands, bool percent, ReportTable& report) {
   const auto add = [&](const std::string& label, auto countOf) {
     std::vector<ReportCell> cells;
-    for (int kind = 0; kind < kKinds; ++kind)
+    for (int kind = 0; kind < kHandKinds; ++kind)
       cells.push_back(HandCell(countOf(kind), hands.total[kind], percent));
     report.Add("", label, std::move(cells));
   };

@@ -18,10 +18,10 @@ namespace {
 
 // BetUnit follows from the rest.
 template <typename T>
-bool Same(const T& a, const T& b) {
+bool SameValue(const T& a, const T& b) {
   return a == b;
 }
-bool Same(const PayoffRecord& a, const PayoffRecord& b) {
+bool SameValue(const PayoffRecord& a, const PayoffRecord& b) {
   return a.PayTo == b.PayTo && a.ForFlag == b.ForFlag && a.PayPer == b.PayPer;
 }
 
@@ -171,7 +171,7 @@ std::vector<SettingPlace> ChangesSince(Game& game, const KeptSettings& kept) {
   std::vector<SettingPlace> changes;
   std::size_t i = 0;
   ForEachSettingPlace(game, [&]<typename T>(const SettingPlace& place, const T& value) {
-    if (!Same(value, std::get<Value<T>>(kept.values[i++]).value)) changes.push_back(place);
+    if (!SameValue(value, std::get<Value<T>>(kept.values[i++]).value)) changes.push_back(place);
   });
   return changes;
 }

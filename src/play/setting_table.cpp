@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "base/bet_catalogue.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "play/setting_effects.h"
 #include "rules/configuration.h"
@@ -39,7 +40,8 @@ constexpr StateRow kStateRows[] = {
     {"FourRollCount", false, [](const Game& game, SeatId) { return Whole(game.table.FourRollCount); }},
     {"FireMarks", false, [](const Game& game, SeatId) { return Whole(game.table.FireMarks); }},
     {"FireCount", false, [](const Game& game, SeatId) { return Whole(game.table.FireCount); }},
-    {"SharpShooterCount", false, [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
+    {"SharpShooterCount", false,
+     [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
     {"RideTheLineCount", false, [](const Game& game, SeatId) { return Whole(game.table.RideTheLineCount); }},
     {"RngLastSeed", false, [](const Game& game, SeatId) { return Whole(game.generators.RngLastSeed); }},
     {"StopReason", false, [](const Game& game, SeatId) { return game.table.StopReason; }},
@@ -81,10 +83,10 @@ int IndexOf(const SettingRow& row, std::string_view text) {
 
 Meaning MeaningOf(std::string_view name) {
   for (const StateRow& state : kStateRows)
-    if (SameWord(state.name, name)) return {nullptr, 0, &state};
+    if (SameLetters(state.name, name)) return {nullptr, 0, &state};
   const auto dot = name.rfind('.');
   for (const SettingRow& row : SettingRows()) {
-    if (!SameWord(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
+    if (!SameLetters(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
     const int index = !row.inRows                     ? 0
                       : dot == std::string_view::npos ? -1
                                                       : IndexOf(row, name.substr(dot + 1));

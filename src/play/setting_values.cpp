@@ -1,10 +1,10 @@
 #include "play/setting_values.h"
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 #include <string_view>
 
+#include "base/letters.h"
 #include "base/messages.h"
 #include "rules/payoffs.h"
 #include "state/game.h"
@@ -34,7 +34,7 @@ bool ReadNumber(const std::string& name, const std::string& text, Limits<Currenc
 
 bool ReadFlag(const std::string& name, const std::string& text, bool& value, std::string& error) {
   const auto isOneOf = [&text](std::initializer_list<const char*> words) {
-    return std::any_of(words.begin(), words.end(), [&](const char* word) { return SameWord(text, word); });
+    return std::any_of(words.begin(), words.end(), [&](const char* word) { return SameLetters(text, word); });
   };
   const bool on = isOneOf({"on", "yes", "true", "-1", "1"});
   if (!on && !isOneOf({"off", "no", "false", "0"})) {
@@ -102,7 +102,7 @@ bool Read(const Cell<std::int64_t>& cell, const std::string& name, const std::st
 bool Read(const Cell<FieldPresetId>&, const std::string& name, const std::string& text, FieldPresetId& value,
           std::string& error) {
   const int preset = FieldPresetByName(text);
-  if (preset < 0 && !SameWord(text, kOwnPreset)) {
+  if (preset < 0 && !SameLetters(text, kOwnPreset)) {
     error = MessageText<Msg::kSettingNoPreset>(With<"setting">(name), With<"value">(text),
                                                With<"presets">(FieldPresetNames()));
     return false;
@@ -173,12 +173,6 @@ PayoffRecord OriginalPayoff(Game& game, const Cell<PayoffRecord>& cell, const Se
 }
 
 }  // namespace
-
-bool SameWord(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
-  });
-}
 
 std::string SettingFullName(const SettingRow& row, int index) {
   return row.inRows ? std::string(row.name) + "." + std::to_string(index) : row.name;

@@ -64,6 +64,10 @@ enum TokenKind : std::int32_t {
   kTokenList = -81,   // value: 2 any, 3 all
 };
 
+constexpr bool IsRelation(int tokenKind) {
+  return tokenKind >= kTokenEqual && tokenKind <= kTokenGreaterEqual;
+}
+
 struct ScriptToken {
   std::int32_t kind = 0;
   double value = 0;  // the code within the kind, a number, a string index, or a jump target

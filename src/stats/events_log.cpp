@@ -1,7 +1,6 @@
 #include "stats/events_log.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <charconv>
 #include <cstring>
@@ -10,6 +9,7 @@
 #include <system_error>
 
 #include "base/bet_catalogue.h"
+#include "base/letters.h"
 #include "base/record_file.h"
 #include "dice/percentage_dice.h"
 #include "state/run_stop.h"
@@ -220,12 +220,6 @@ bool BeginsWithRoll(std::string_view text) {
   return first < text.size() && text[first] == 'R' && text.substr(first, 4) == "Roll";
 }
 
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return lower;
-}
-
 // The files as another reader would see them; the index made anew if it can't belong to the text.
 bool ReadyToRead(Game& game) {
   FlushEventsLog(game);
@@ -358,12 +352,12 @@ std::string ReadEventsLogLine(Game& game, std::int64_t line) {
 std::int64_t FindInEventsLog(Game& game, std::string_view wanted, bool forward) {
   EventsLog& log = game.events;
   const std::int64_t count = EventsLogLineCount(game);
-  const std::string lower = Lower(wanted);
+  const std::string lower = Lowered(wanted);
   std::ifstream text(EventsLogPath(game), std::ios::binary);
   std::ifstream index(EventsIndexPath(game), std::ios::binary);
   const int step = forward ? 1 : -1;
   for (std::int64_t line = log.EventsLogTopLine + step; line >= 1 && line <= count; line += step) {
-    if (Lower(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
+    if (Lowered(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
     log.EventsLogTopLine = static_cast<std::int32_t>(line);
     return line;
   }
@@ -386,7 +380,7 @@ bool EventsIndexFits(const Game& game) {
 
 NewEvents NewEventsLog(Game& game) {
   FlushEventsLog(game);
-  const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
+  const bool defaultName = Lowered(FileNameOf(EventsLogPath(game))) == Lowered(kEventsLogName);
   if (defaultName && FileSize(EventsLogPath(game)) > 0) {
     const int answer = ShowMessage<Msg::kAskSaveEventsLog>(game);
     if (answer == kResultCancel) return NewEvents::kCancelled;

@@ -4,11 +4,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <cstdio>
 
 #include "base/interrupts.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "state/game.h"
 #include "state/run_stop.h"
@@ -25,8 +25,7 @@ constexpr std::size_t kMostWaiting = 10'000;
 // What a name would lead elsewhere by stands as a dash.
 std::string DefaultTitle(std::string_view playerName) {
   std::string title(playerName);
-  for (char& c : title)
-    c = c == '/' || c == '\\' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  for (char& c : title) c = c == '/' || c == '\\' ? '-' : Lowered(c);
   return title + ".slg";
 }
 

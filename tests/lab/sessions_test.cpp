@@ -17,7 +17,7 @@ namespace tessaryn::test {
 namespace {
 
 // Not a constant: the folders are known only once the program has begun.
-std::string Folder() { return std::string(kBinFolder) + "/"; }
+std::string ProgramFolder() { return std::string(kBinFolder) + "/"; }
 
 Experiment Asked(const std::vector<std::string>& script, std::int64_t sessions, std::int64_t rolls) {
   Experiment experiment;
@@ -33,7 +33,7 @@ LabState Played(const Experiment& experiment, int threads = 2) {
   LabState state = BeginLab(experiment, false, false);
   LabRun run;
   run.threads = threads;
-  run.applicationFolder = Folder();
+  run.applicationFolder = ProgramFolder();
   EXPECT_EQ(RunLab(state, run), "");
   SettleState(state);
   return state;
@@ -56,7 +56,7 @@ TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
   experiment.settings = {{"AutoTakeOdds", 0, "1"}};
   LabHost host;
   LabProblem problem;
-  const auto fresh = BuildTable(experiment, experiment.systems[0], host, Folder(), problem);
+  const auto fresh = BuildTable(experiment, experiment.systems[0], host, ProgramFolder(), problem);
   ASSERT_FALSE(problem.Found()) << problem.text;
   const auto used = OpenLabTable(*fresh, nullptr);
   const auto untouched = OpenLabTable(*fresh, nullptr);
@@ -176,9 +176,8 @@ struct Case {
 };
 
 std::int64_t SessionsToPlay() {
-  if (const char* asked = std::getenv("TESSARYN_LAB_SESSIONS")) return std::atoll(asked);
 #ifdef NDEBUG
-  return 100'000;
+  return test::LengthOf("TESSARYN_LAB_SESSIONS", 100'000, 1'000);
 #else
   return 1'000;  // each roll is checked through
 #endif
@@ -294,7 +293,7 @@ TEST(LabSession, ThatCantGoOnTellsWhy) {
   LabState state =
       BeginLab(Asked({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
   LabRun run;
-  run.applicationFolder = Folder();
+  run.applicationFolder = ProgramFolder();
   const std::string error = RunLab(state, run);
   EXPECT_NE(error.find("test.bet, line "), std::string::npos) << error;
   EXPECT_EQ(SessionsDone(state), 0);

@@ -49,10 +49,6 @@ bool IsJump(StatementKind kind) {
          kind == StatementKind::kGosub || kind == StatementKind::kLoop || kind == StatementKind::kExitDo;
 }
 
-bool IsRelation(const ScriptToken& token) {
-  return token.kind >= kTokenEqual && token.kind <= kTokenGreaterEqual;
-}
-
 class ProgramPreparer {
  public:
   ProgramPreparer(const CompiledScript& script, PreparedProgram& prepared)
@@ -221,7 +217,7 @@ class ProgramPreparer {
       const ScriptToken& token = tokens_[piece.begin];
       TargetItem item;
       item.code.begin = code_.BeginStretch();
-      if (IsRelation(token)) {
+      if (IsRelation(token.kind)) {
         item.isQualifier = true;
         item.relation = token.kind;
         item.operand = expressions_.SpanValue(piece.begin + 1, piece.end);
