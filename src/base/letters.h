@@ -18,7 +18,8 @@ inline std::string Lowered(std::string_view text) {
 }
 // Alike but for capitals.
 inline bool SameLetters(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) { return Lowered(x) == Lowered(y); });
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return Lowered(x) == Lowered(y); });
 }
 
 }  // namespace tessaryn

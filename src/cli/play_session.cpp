@@ -368,7 +368,7 @@ bool Set(Call& call) {
   if (!WantWords(call, 3, 99, "set NAME VALUE, or set NAME@SEAT VALUE")) return false;
   SettingChange change;
   if (!ParseSettingName(call.words[1], change.name, change.seat))
-    return call.Bad("\"" + call.words[1] + "\": expected NAME or NAME@SEAT");
+    return call.Bad(NoSettingName(call.words[1]));
   change.value = Joined(call.words, 2, call.words.size());
   return SetSettings(call.game, {change}, call.error);
 }
@@ -391,7 +391,7 @@ bool Get(Call& call) {
   std::string name;
   SeatId seat = 0;
   if (!ParseSettingName(call.words[1], name, seat))
-    return call.Bad("\"" + call.words[1] + "\": expected NAME or NAME@SEAT");
+    return call.Bad(NoSettingName(call.words[1]));
   std::string value;
   if (!GetSetting(call.game, name, seat, value, call.error)) return false;
   call.answer["name"] = call.words[1];

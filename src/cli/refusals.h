@@ -18,6 +18,9 @@ inline std::string NoAmount(const std::string& word) { return "\"" + word + "\" 
 inline std::string NeitherOnNorOff(const std::string& word) {
   return "\"" + word + "\" is neither on nor off";
 }
+inline std::string NoSettingName(const std::string& word) {
+  return "\"" + word + "\": expected NAME or NAME@SEAT";
+}
 // option: with what it was given.
 inline std::string NoSeed(const std::string& option, std::int64_t most) {
   return option + ": must be a whole number from 1 to " + std::to_string(most);

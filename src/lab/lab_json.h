@@ -141,7 +141,7 @@ Json LabJson(LabState& state) {
     systems.push_back(lab_json::SystemJson<Json>(experiment.systems[i], state.systems[i]));
   Json& comparisons = json["comparisons"] = Json::array();
   ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
-    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), lab_json::kDollar);
+    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
     comparisons.push_back({{"a", LabelOf(experiment.systems[a])},
                            {"b", LabelOf(experiment.systems[b])},
                            {"mean", difference.mean},

@@ -262,9 +262,8 @@ void TakeOverEvents(EventsLog& log, const EventsLog& loaded) {
 // own.
 void TakeOverHotKeys(std::vector<HotKey>& keys, const std::vector<HotKey>& loaded) {
   for (const HotKey& key : loaded)
-    if (std::none_of(keys.begin(), keys.end(), [&](const HotKey& known) {
-          return Lowered(known.key) == Lowered(key.key);
-        }))
+    if (std::none_of(keys.begin(), keys.end(),
+                     [&](const HotKey& known) { return Lowered(known.key) == Lowered(key.key); }))
       keys.push_back(key);
 }
 

@@ -422,6 +422,8 @@ bool IsInRange(const T& value, const FieldRange* range) {
     return range == nullptr || Without(value, Allowed(range->bits)).Empty();
   else if constexpr (WholeNumber<T>)
     return within(static_cast<std::int64_t>(value));
+  else if constexpr (HasValue<T>)
+    return within(value.value);
   else if constexpr (std::is_same_v<T, PayoffRecord>)
     return !value.PayTo.IsError() && !value.ForFlag.IsError() && !value.PayPer.IsError();
   else if constexpr (HasRaw<T>)

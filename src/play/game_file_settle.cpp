@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "dice/generators.h"
 #include "base/letters.h"
+#include "dice/generators.h"
 #include "play/game_file_fields.h"
 #include "play/game_file_records.h"
 #include "play/setting_table.h"

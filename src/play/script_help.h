@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/table_types.h"
 #include "play/script_session.h"
 #include "state/script_types.h"
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/money.h"
+#include "base/table_types.h"
 #include "state/script_types.h"
 
 namespace tessaryn {

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
-#include "base/letters.h"
 #include "base/bet_catalogue.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "play/setting_effects.h"
 #include "rules/configuration.h"
@@ -40,7 +40,8 @@ constexpr StateRow kStateRows[] = {
     {"FourRollCount", false, [](const Game& game, SeatId) { return Whole(game.table.FourRollCount); }},
     {"FireMarks", false, [](const Game& game, SeatId) { return Whole(game.table.FireMarks); }},
     {"FireCount", false, [](const Game& game, SeatId) { return Whole(game.table.FireCount); }},
-    {"SharpShooterCount", false, [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
+    {"SharpShooterCount", false,
+     [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
     {"RideTheLineCount", false, [](const Game& game, SeatId) { return Whole(game.table.RideTheLineCount); }},
     {"RngLastSeed", false, [](const Game& game, SeatId) { return Whole(game.generators.RngLastSeed); }},
     {"StopReason", false, [](const Game& game, SeatId) { return game.table.StopReason; }},

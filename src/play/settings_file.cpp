@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "base/bet_catalogue.h"
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "state/game.h"
 

@@ -64,7 +64,9 @@ enum TokenKind : std::int32_t {
   kTokenList = -81,   // value: 2 any, 3 all
 };
 
-constexpr bool IsRelation(int tokenKind) { return tokenKind >= kTokenEqual && tokenKind <= kTokenGreaterEqual; }
+constexpr bool IsRelation(int tokenKind) {
+  return tokenKind >= kTokenEqual && tokenKind <= kTokenGreaterEqual;
+}
 
 struct ScriptToken {
   std::int32_t kind = 0;

@@ -212,7 +212,6 @@ bool BeginsWithRoll(std::string_view text) {
   return first < text.size() && text[first] == 'R' && text.substr(first, 4) == "Roll";
 }
 
-
 // The files as another reader would see them; the index made anew if it can't belong to the text.
 bool ReadyToRead(Game& game) {
   FlushEventsLog(game);

@@ -25,8 +25,7 @@ constexpr std::size_t kMostWaiting = 10'000;
 // What a name would lead elsewhere by stands as a dash.
 std::string DefaultTitle(std::string_view playerName) {
   std::string title(playerName);
-  for (char& c : title)
-    c = c == '/' || c == '\\' ? '-' : Lowered(c);
+  for (char& c : title) c = c == '/' || c == '\\' ? '-' : Lowered(c);
   return title + ".slg";
 }
 

@@ -72,6 +72,8 @@ void Fill(T& value, int& next) {
     value.words[1] = static_cast<std::uint64_t>(next % 1000);
   } else if constexpr (std::is_arithmetic_v<T> || std::is_enum_v<T>) {
     value = static_cast<T>(++next % 120);
+  } else if constexpr (kIsId<T>) {
+    value = ++next % 120;
   } else if constexpr (std::is_same_v<T, PayoffRecord>) {
     value = {kZero, Currency::FromRaw(++next), Currency::FromRaw(++next), Currency::FromRaw(++next)};
   } else if constexpr (requires { value.raw; }) {

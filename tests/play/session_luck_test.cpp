@@ -37,9 +37,7 @@ constexpr House kHouses[] = {
 void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 
 // TESSARYN_LUCK_ROLLS sets the length; a million takes two minutes a house in a build with checks.
-std::int64_t RollsWanted() {
-  return test::LengthOf("TESSARYN_LUCK_ROLLS", 15'000, 2'000);
-}
+std::int64_t RollsWanted() { return test::LengthOf("TESSARYN_LUCK_ROLLS", 15'000, 2'000); }
 
 constexpr int kPlayers = 3;
 const Currency kBankroll = Currency::Dollars(5000);

@@ -57,9 +57,7 @@ const House kHouses[] = {
 void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 
 // TESSARYN_LUCK_ROLLS sets the length of each game.
-std::int64_t RollsWanted() {
-  return test::LengthOf("TESSARYN_LUCK_ROLLS", 100'000, 2'000);
-}
+std::int64_t RollsWanted() { return test::LengthOf("TESSARYN_LUCK_ROLLS", 100'000, 2'000); }
 
 struct SilentHost : test::TestHost {
   void ShowMessage(Game&, MessageBox& box) override { box.MsgResult = kResultOk; }

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/table_types.h"
 #include "state/script_types.h"
 
 namespace tessaryn {

@@ -52,9 +52,7 @@ bool IsValue(const Item& item) { return item.shape == Shape::kNumber || item.sha
 bool IsNumber(const Item& item) { return item.shape == Shape::kNumber; }
 bool IsComparable(const Item& item) { return IsValue(item) || item.shape == Shape::kList; }
 bool IsOperator(const Item& item, int kind) { return item.shape == Shape::kOperator && item.code == kind; }
-bool RelationItem(const Item& item) {
-  return item.shape == Shape::kOperator && IsRelation(item.code);
-}
+bool RelationItem(const Item& item) { return item.shape == Shape::kOperator && IsRelation(item.code); }
 bool IsTarget(const Item& item) {
   return item.shape >= Shape::kTarget && item.shape <= Shape::kAnyTargetList;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "autobet/language/script_spans.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "autobet/language/tidy_script_line.h"
+#include "base/table_types.h"
 #include "state/script_types.h"
 
 namespace tessaryn {

@@ -281,6 +281,7 @@ void BeginCondition(Run& run) {
   run.conditionTrue = false;
 }
 
+constexpr const char* kBeginningOfCondition = "Beginning of condition block.";
 constexpr const char* kEndOfStructure = "End of If/Then structure.";
 
 void EndCondition(Run& run, const PreparedStatement& statement) {
@@ -298,7 +299,7 @@ void EndCondition(Run& run, const PreparedStatement& statement) {
       "will "
       "be skipped.\r";
   run.text += target.keyword == kTokenElse     ? "Beginning of last action block."
-              : target.keyword == kTokenElseIf ? "Beginning of condition block."
+              : target.keyword == kTokenElseIf ? kBeginningOfCondition
                                                : kEndOfStructure;
 }
 
@@ -334,7 +335,7 @@ void Dispatch(Run& run, const PreparedStatement& statement) {
       return BeginScript(run, statement.player);
     case StatementKind::kIf:
       BeginCondition(run);
-      return Note(run, "Beginning of condition block.");
+      return Note(run, kBeginningOfCondition);
     case StatementKind::kThen:
       return EndCondition(run, statement);
     case StatementKind::kElse:

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/table_types.h"
 #include "state/script_types.h"
 
 namespace tessaryn {

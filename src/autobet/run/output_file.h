@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 struct Game;

@@ -7,6 +7,8 @@
 #include <QTableView>
 #include <vector>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 struct TableState;

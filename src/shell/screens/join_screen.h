@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include "base/table_types.h"
+
 class QLabel;
 class QLineEdit;
 class QPushButton;

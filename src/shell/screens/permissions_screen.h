@@ -3,6 +3,8 @@
 
 #include <QDialog>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 struct Game;

@@ -3,6 +3,8 @@
 
 #include <QStringList>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 struct Game;

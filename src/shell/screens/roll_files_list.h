@@ -8,6 +8,7 @@
 #include <functional>
 #include <vector>
 
+#include "base/table_types.h"
 #include "state/roll_file_state.h"
 
 namespace tessaryn {

@@ -4,6 +4,8 @@
 #include <QWidget>
 #include <functional>
 
+#include "base/table_types.h"
+
 class QLineEdit;
 class QTableWidget;
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/money.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 

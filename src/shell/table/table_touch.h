@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QPointF>
 
+#include "base/table_types.h"
+
 class QMenu;
 class QTimer;
 class QTouchEvent;
