@@ -14,8 +14,9 @@ namespace tessaryn {
 namespace {
 
 constexpr std::int64_t kPrecisionStep = 1'000;  // sessions between two looks at the bounds
-constexpr std::size_t kMostTables = 96;         // of all threads: a table takes a megabyte
-constexpr std::int64_t kRollsOfABlock = 10'000;
+constexpr std::size_t kMostTables = 256;        // of all threads: a table takes a megabyte
+// Enough that a table that is opened for one block pays.
+constexpr std::int64_t kRollsOfABlock = 500'000;
 constexpr std::int64_t kRollsOfAPiece =
     1'000'000;  // some tenths of a second, many times what a message takes
 constexpr auto kCheckpointEvery = std::chrono::milliseconds(1'500);
@@ -71,7 +72,7 @@ std::int64_t CostOfSession(const Experiment& experiment) {
   return std::max<std::int64_t>(rolls, 50) * std::ssize(experiment.systems);
 }
 
-// Some tenths of a second at most.
+// A part of a thousand, so that the bounds are looked at between blocks; a tenth of a second or so at most.
 std::int64_t SizeBlocks(std::int64_t cost) {
   for (const std::int64_t size : {200, 100, 50, 20, 10, 5, 2})
     if (size * cost <= kRollsOfABlock) return size;
