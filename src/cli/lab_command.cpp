@@ -14,6 +14,7 @@
 #include "base/record_file.h"
 #include "cli/commands.h"
 #include "cli/lab_report.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 #include "cli/table_setup.h"
 #include "lab/html_report.h"
@@ -57,7 +58,7 @@ int CheckTargets(const LabOptions& options, std::size_t systems,
   for (const OutputFile& target : targets) {
     for (const OutputFile& other : known)
       if (!other.path.empty() && (other.path == target.path || IsSameFile(other.path, target.path)))
-        return Fail(target.option + target.path + ": is the file of " + other.option + "too");
+        return Fail(SameFileAs(target.option + target.path, other.option));
     if (const std::string problem = TargetProblem(target.path); !problem.empty())
       return Fail(target.option + target.path + ": " + problem);
     known.push_back(target);
@@ -75,7 +76,7 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
   };
   if (!options.csv.empty()) note("--csv: ", WriteRowsAsCsv(rows, state.experiment, options.csv));
   if (!options.slg.empty()) note("--slg: ", WriteRowsAsLogs(rows, options.slg));
-  if (!options.report.empty()) note("--report: ", ReplaceFile(options.report, HtmlReport(state)));
+  if (!options.report.empty()) note("--report: ", ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank))));
   return code;
 }
 
@@ -185,8 +186,7 @@ int Play(LabState& state, const LabOptions& options, const LabHelpers* helpers) 
   const double seconds = SecondsSince(start);
   const std::int64_t rolls = RollsOf(state) - before;
   std::fprintf(
-      stderr, "%s rolls in %.2f seconds (%s rolls a second)\n", FormatMoney(Currency::Dollars(rolls)).c_str(),
-      seconds,
+      stderr, kRollsASecond, FormatMoney(Currency::Dollars(rolls)).c_str(), seconds,
       FormatMoney(Currency::FromDouble(std::floor(static_cast<double>(rolls) / std::max(seconds, 1e-6))))
           .c_str());
   if (SessionsDone(state) == 0 && Interrupted()) return kBad;

@@ -46,6 +46,8 @@ void Put(Writer& out, const T& value) {
     out.Word(static_cast<std::uint64_t>(value >> 64));
   } else if constexpr (std::is_integral_v<T>) {
     out.Word(static_cast<std::uint64_t>(value));
+  } else if constexpr (kIsId<T>) {
+    Put(out, value.value);
   } else if constexpr (std::is_same_v<T, Currency>) {
     out.Word(static_cast<std::uint64_t>(value.raw));
   } else if constexpr (std::is_same_v<T, std::string>) {
@@ -101,6 +103,8 @@ void Get(Reader& in, T& value) {
     value = in.Word() != 0;
   } else if constexpr (std::is_integral_v<T>) {
     value = static_cast<T>(in.Word());
+  } else if constexpr (kIsId<T>) {
+    Get(in, value.value);
   } else if constexpr (std::is_same_v<T, Currency>) {
     value.raw = static_cast<std::int64_t>(in.Word());
   } else if constexpr (std::is_same_v<T, std::string>) {

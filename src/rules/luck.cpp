@@ -67,7 +67,7 @@ struct Records {
 constexpr std::size_t kRow = sizeof(PayoffRecord);
 constexpr Records Rows(int first, int last) { return {first * kRow, (last - first + 1) * kRow}; }
 
-constexpr Records OtherRecordsOf(int bet) {
+constexpr Records OtherRecordsOf(BetId bet) {
   switch (FamilyOf(bet)) {
     case FamilyId::kPassLine:
     case FamilyId::kCome:
@@ -100,12 +100,12 @@ constexpr Records OtherRecordsOf(int bet) {
 }
 constexpr auto kOtherRecords = [] {
   std::array<Records, kBets + 1> records{};
-  for (int bet = 1; bet <= kBets; ++bet) records[bet] = OtherRecordsOf(bet);
+  for (BetId bet = 1; bet <= kBets; ++bet) records[bet] = OtherRecordsOf(bet);
   return records;
 }();
 
 // The first bet on a number whose row a bet on the line is paid by while a point is on.
-constexpr int LineRowsOf(int bet) {
+constexpr int LineRowsOf(BetId bet) {
   switch (bet) {
     case kPassLine:
       return kCome4;
@@ -120,7 +120,7 @@ constexpr int LineRowsOf(int bet) {
   }
 }
 
-bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, int bet, int point) {
+bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, BetId bet, int point) {
   const int line = LineRowsOf(bet);
   if (line != 0 && point != 0) {
     const int row = BetOn(line, point);
@@ -145,13 +145,14 @@ BetSet WorkingBets(const SeatState& state) { return state.BetWorking.Working() &
 
 // Calls visit(figure) for amounts and vigs in the order of a ride.
 template <typename Visit>
-void ForEachFigure(const Game& game, int seat, Visit visit) {
+void ForEachFigure(const Game& game, SeatId seat, Visit visit) {
   const BetSet& bets = game.table.seats[seat].SeatBets;
-  bets.ForEach([&](int bet) { visit(game.table.BetAmount(seat, bet).raw); });
-  if (bets.Meets(kVigBets)) (bets & kVigBets).ForEach([&](int bet) { visit(VigHeld(game, seat, bet).raw); });
+  bets.ForEach([&](BetId bet) { visit(game.table.BetAmount(seat, bet).raw); });
+  if (bets.Meets(kVigBets))
+    (bets & kVigBets).ForEach([&](BetId bet) { visit(VigHeld(game, seat, bet).raw); });
 }
 
-std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
+std::uint64_t HashOf(const Game& game, SeatId seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const BetSet working = WorkingBets(state);
   std::uint64_t hash = Mixed(state.SeatBets.words[0] ^ static_cast<std::uint64_t>(game.table.Point) << 60,
@@ -168,7 +169,7 @@ std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
 }
 
 // Whether the plan was made for what the seat rides with. layout: none where only the point counts.
-inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+inline bool IsFor(const LuckPlan& plan, const Game& game, SeatId seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const LuckRide& ride = plan.ride;
   if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
@@ -180,7 +181,7 @@ inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLa
   return other == 0;
 }
 
-LuckRide RideOf(const Game& game, int seat) {
+LuckRide RideOf(const Game& game, SeatId seat) {
   const SeatState& state = game.table.seats[seat];
   LuckRide ride;
   ride.layout = LuckLayoutOf(game, state.SeatBets);
@@ -194,17 +195,17 @@ LuckRide RideOf(const Game& game, int seat) {
 }
 
 // Payoffs that have changed are taken over.
-void FollowPayoffs(LuckMeter& meter, const Game& game, int seat) {
+void FollowPayoffs(LuckMeter& meter, const Game& game, SeatId seat) {
   bool stand = true;
   game.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
+      [&](BetId bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
   if (stand) return;
   meter.payoffs = game.payoffs;
   ForgetPlans(meter);
 }
 
 // Makes the plan at its place, or at the seat's own where that one is ridden with on this roll already.
-std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_t place) {
+std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::size_t place) {
   const LuckRide ride = RideOf(game, seat);
   if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
   if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
@@ -221,7 +222,7 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
 
 // Whether the plan of the last roll with this point is right, where rules stand: the common case, at a
 // glance.
-bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
+bool StillRides(const LuckPlan& plan, const TableState& table, SeatId seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
   const BetSet working = WorkingBets(state);
@@ -237,7 +238,7 @@ bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
 }
 
 // Its place in plans.
-std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
+std::size_t PlanFor(LuckMeter& meter, const Game& game, SeatId seat) {
   if (!meter.rulesStand) FollowPayoffs(meter, game, seat);
   LuckLayout layout;
   const BetSet& bets = game.table.seats[seat].SeatBets;
@@ -255,7 +256,7 @@ std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
 }
 
 // What the values have become between rolls.
-void Shift(LuckMeter& meter, int seat, std::int64_t value) {
+void Shift(LuckMeter& meter, SeatId seat, std::int64_t value) {
   SeatLuck& luck = meter.seats[seat];
   luck.shifted += WideInt{value - luck.value} * (meter.unit / kValueUnit);
   luck.value = value;
@@ -263,7 +264,7 @@ void Shift(LuckMeter& meter, int seat, std::int64_t value) {
 
 // Of the bets as they stand, whatever was before.
 void TakeValues(LuckMeter& meter, const Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     meter.seats[seat].value = 0;
     if (game.table.seats[seat].SeatBets.Empty()) continue;
     ++meter.roll;
@@ -309,7 +310,7 @@ namespace {
   const TableState& table = game.table;
   bool byPoint = meter.rulesStand && !meter.dice.percentage;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     std::int64_t value = 0;
     if (!table.seats[seat].SeatBets.Empty()) {
       LuckPlan* plan = &meter.plans[meter.lastRide[seat][table.Point]];
@@ -327,7 +328,7 @@ namespace {
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
 }
 
-void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
+void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
   const LuckPlan& plan = *meter.riding[seat];
   SeatLuck& luck = meter.seats[seat];
   if (meter.unit == plan.unit) [[likely]] {
@@ -371,7 +372,7 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
     AddRollOfSeats(meter, outcome);
 }
 
-LuckReport LuckOf(const LuckMeter& meter, int seat) {
+LuckReport LuckOf(const LuckMeter& meter, SeatId seat) {
   const SeatLuck& luck = meter.seats[seat];
   const double perDollar = static_cast<double>(meter.unit) * Currency::kPerDollar;
   const auto dollars = [&](WideInt sum) { return perDollar > 0 ? static_cast<double>(sum) / perDollar : 0; };

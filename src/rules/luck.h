@@ -72,7 +72,7 @@ struct LuckMeter {
   std::size_t lastRide[kSeatRows][11] = {};  // places in plans, by the point: of the last roll that it was on
   std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
   int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
-  std::int64_t roll = 0;
+  RollNumber roll = 0;
   std::int64_t throwsBefore = -1;
 };
 
@@ -99,6 +99,6 @@ struct LuckReport {
   double standardDeviation = 0;  // of luck
   double deviations = 0;         // luck in standard deviations; 0 without any
 };
-LuckReport LuckOf(const LuckMeter& meter, int seat);
+LuckReport LuckOf(const LuckMeter& meter, SeatId seat);
 
 }  // namespace tessaryn
