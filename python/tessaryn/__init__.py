@@ -76,7 +76,7 @@ def run(*, progress=None, **options):
     """Plays an experiment; options are those of "tessaryn-cli lab", with "_" for "-".
 
     script, bets and set may be lists. bets, set, stack and vary may be dicts:
-    bets={"passline": 10, "odds": 20}, stack={1: range(5, 55, 5)}, vary={"OddsCalcMethod": [1, 2, 3]}.
+    bets={"passline": 10, "passlineodds": 20}, stack={1: range(5, 55, 5)}, vary={"OddsCalcMethod": [1, 2, 3]}.
     progress(sessions, target) is called several times a second. Ctrl-C ends the run, which goes on with resume=
     if it was begun with out=. Raises ValueError for an option that is wrong, RuntimeError for what it leads to;
     both name it.

@@ -21,11 +21,11 @@ except ImportError as error:
     sys.exit(77)
 
 DOCS = pathlib.Path(__file__).resolve().parents[2] / "docs" / "python.md"
-ASKED = dict(bets=[{"passline": 10, "odds": 20}, "49=5"], sessions=500, rolls=60, bankroll=80, set="ShooterBetRule=0")
+ASKED = dict(bets=[{"passline": 10, "passlineodds": 20}, "49=5"], sessions=500, rolls=60, bankroll=80, set="ShooterBetRule=0")
 
 
 def command_line(*more):
-    words = ["--bets=passline=10,odds=20", "--bets=49=5", "--sessions=500", "--rolls=60", "--bankroll=80"]
+    words = ["--bets=passline=10,passlineodds=20", "--bets=49=5", "--sessions=500", "--rolls=60", "--bankroll=80"]
     words += ["--set=ShooterBetRule=0", "--json", *more]
     return json.loads(subprocess.run([CLI, "lab", *words], check=True, capture_output=True).stdout)
 

@@ -242,7 +242,8 @@ std::int64_t MostRolls(const Experiment& experiment, const Game& game) {
   if (experiment.hours <= kZero) return most;
   constexpr auto kParts = static_cast<WideInt>(Currency::kPerDollar) * Currency::kPerDollar;
   const WideInt parts = WideInt{experiment.hours.raw} * game.settings.SimRollRate.raw;
-  return std::min(most, static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls)));
+  return std::min(most,
+                  static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls)));
 }
 
 // Behind a roll, or what was played out.
@@ -276,7 +277,8 @@ std::uint8_t MarkOfRefusal(const Game& game) {
 }
 
 // Behind a roll that left other money.
-[[gnu::noinline]] void LookAtMoney(const Game& game, const Experiment& experiment, Course& course, SessionResult& result) {
+[[gnu::noinline]] void LookAtMoney(const Game& game, const Experiment& experiment, Course& course,
+                                   SessionResult& result) {
   course.bankroll = game.table.BankrollCurrent[kLabSeat];
   course.drawn = DrawnOf(game);
   const Currency net = NetOf(game, course);

@@ -71,11 +71,11 @@ class LabMpi : public testing::Test {
 };
 
 TEST_F(LabMpi, BringsTheBytesOfOneProcessForAnyRanks) {
-  const Ran alone = Run(Asked("alone", "70000"), {});
+  const Ran alone = Run(Asked("alone", "25000"), {});
   ASSERT_EQ(alone.exitCode, 0) << alone.err;
   for (int count = 1; count <= 4; ++count) {
     const std::string name = "r" + std::to_string(count);
-    const Ran ran = Run(Asked(name, "70000"), Ranks(count));
+    const Ran ran = Run(Asked(name, "25000"), Ranks(count));
     EXPECT_EQ(ran.exitCode, 0) << ran.err;
     EXPECT_TRUE(ran.out == alone.out) << count << " ranks";
     EXPECT_TRUE(Kept(name) == Kept("alone")) << count << " ranks";
@@ -107,7 +107,7 @@ TEST_F(LabMpi, TellsItsErrorsAsOneProcessDoes) {
 
 // What was in is in the file, whole, and one process alone goes on with it.
 TEST_F(LabMpi, AnEndOnTheWayLosesNothing) {
-  const std::string sessions = "400000";
+  const std::string sessions = "60000";
   const Ran alone = Run(Asked("alone", sessions), {});
   for (const int signal : {SIGKILL, SIGINT, SIGTERM}) {
     const std::string name = "s" + std::to_string(signal);
@@ -115,7 +115,7 @@ TEST_F(LabMpi, AnEndOnTheWayLosesNothing) {
     around.signal = signal == SIGKILL ? SIGTERM : signal;  // to mpirun
     around.when = [&, looks = 0]() mutable {
       const std::string rank = ReadFile(folder_.File("rank2"));
-      if (ReadFile(folder_.File(name + ".lab")).empty() || rank.empty() || ++looks < 100) return false;
+      if (ReadFile(folder_.File(name + ".lab")).empty() || rank.empty() || ++looks < 20) return false;
       if (signal == SIGKILL) kill(std::stoi(rank), SIGKILL);
       return signal != SIGKILL;
     };

@@ -39,19 +39,25 @@ struct Played {
   }
 };
 
-// The bet with all that it needs to be made: what it rides on, and a point.
-std::vector<StandingBet> WithItsBase(int bet) {
-  const Currency amount = FamilyOf(bet) == FamilyId::kFire ? Currency::Dollars(5) : Currency::Dollars(60);
-  std::vector<StandingBet> bets = {{bet, amount}};
+bool IsDont(int bet) {
   const FamilyId family = FamilyOf(bet);
-  const bool dont = family == FamilyId::kDontComeNumber || family == FamilyId::kDontComeOdds ||
-                    family == FamilyId::kDontPassOdds || family == FamilyId::kDontCome;
+  return family == FamilyId::kDontComeNumber || family == FamilyId::kDontComeOdds ||
+         family == FamilyId::kDontPass || family == FamilyId::kDontPassOdds || family == FamilyId::kDontCome;
+}
+
+// The bet with all that it needs to be made: what it rides on, and a point. Amounts that are paid without
+// rounding, vig too.
+std::vector<StandingBet> WithItsBase(int bet) {
+  const FamilyId family = FamilyOf(bet);
+  const int dollars = family == FamilyId::kFire ? 5 : family == FamilyId::kLay ? 240 : 60;
+  const Currency amount = Currency::Dollars(dollars);
+  std::vector<StandingBet> bets = {{bet, amount}};
   const bool line = family == FamilyId::kComeNumber || family == FamilyId::kComeOdds ||
                     family == FamilyId::kPassLineOdds || family == FamilyId::kCome;
   const auto add = [&](int base) {
     if (base != bet) bets.push_back({base, amount});
   };
-  if (dont) add(kDontPass), add(kDontCome);
+  if (IsDont(bet)) add(kDontPass), add(kDontCome);
   if (line) add(kPassLine), add(kCome);
   return bets;
 }
@@ -132,6 +138,14 @@ TEST(LabProofs, LuckComesToNothingForEveryBetAndEveryEnd) {
 
 // --- The edge.
 
+// By the dollar decided, as it is counted: a Come bet's number is a bet of its own, and a seven, which pushes
+// the World, no decision.
+double EdgeOf(const Game& game, int bet) {
+  if (bet == kCome) return FigureAdvantage(game, kPassComeOutRow).evPerDecision;
+  if (bet == kDontCome) return FigureAdvantage(game, kDontComeOutRow).evPerDecision;
+  return FigureAdvantage(game, bet).evPerDecision * (bet == kWorld ? 1.2 : 1.0);
+}
+
 // Net less luck, less what the analysis gives for the bets decided: of mean 0, where hands are played out.
 TEST(LabProofs, TheMeanIsTheEdgeTimesTheHandleForEveryBet) {
   const std::int64_t sessions = AtFullLength() ? 100'000 : 1'000;
@@ -141,13 +155,11 @@ TEST(LabProofs, TheMeanIsTheEdgeTimesTheHandleForEveryBet) {
       Experiment experiment = Asked(bet, byHands ? 0 : 40);
       experiment.hands = byHands ? 4 : 0;
       experiment.endWithHand = !byHands;
-      const std::vector<StandingBet> bets = WithItsBase(bet);
       // At an end by rolls these may stand, worth more or less than their face.
-      const DecidedBy by = FamilyRowOf(bet).decidedBy;
-      if (!byHands && (by == DecidedBy::kHand || bets.back().bet == kDontCome || bet == kDontPass)) continue;
+      if (!byHands && (FamilyRowOf(bet).decidedBy == DecidedBy::kHand || IsDont(bet))) continue;
       Played played(experiment);
       double edge[kBets + 1];
-      for (int each = 1; each <= kBets; ++each) edge[each] = FigureAdvantage(*played.fresh, each).evPerDecision;
+      for (int each = 1; each <= kBets; ++each) edge[each] = EdgeOf(*played.fresh, each);
       double sum = 0;
       double squares = 0;
       Currency handle;

@@ -266,12 +266,7 @@ TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
        DontPass,
        true},
       {"Field to ruin", {"if field = 0 then bet 5 on field endif"}, {20, 60, 50, 0}, {0, 0, 5}, Field, false},
-      {"Martingale",
-       kMartingale,
-       {100, 12, 0, 0},
-       {0, 0, 5},
-       martingale,
-       false},
+      {"Martingale", kMartingale, {100, 12, 0, 0}, {0, 0, 5}, martingale, false},
       {"Martingale with ends", kMartingale, {300, 40, 60, 200}, {0, 0, 5}, richer, false}};
   for (const Case& one : cases) {
     SCOPED_TRACE(one.name);
@@ -310,7 +305,9 @@ TEST(LabSession, BoundsHoldTheTruthAsOftenAsTheySay) {
     }
     const std::int64_t n = sums.sessions;
     const double unit = static_cast<double>(sums.luckUnit) * Currency::kPerDollar;
-    const auto holds = [](Bounds bounds, double truth) { return bounds.low <= truth && truth <= bounds.high; };
+    const auto holds = [](Bounds bounds, double truth) {
+      return bounds.low <= truth && truth <= bounds.high;
+    };
     held[0] += holds(FigureMean(sums.net, n, Currency::kPerDollar).ci95, mean);
     held[1] += holds(FigureMean(sums.adjusted, n, unit).ci95, mean);
     held[2] += holds(FigureShare(sums.goal, n).ci95, exact.goal);
