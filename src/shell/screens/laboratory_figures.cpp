@@ -402,19 +402,18 @@ QList<QStringList> RankedRows(const LabFigures& figures, RankBy by) {
 }
 
 QList<QStringList> PairRows(const LabFigures& figures) {
-  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "First less second")),
+  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "System")),
+                              Words(QT_TRANSLATE_NOOP("Laboratory", "less system")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "Mean difference")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "From")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "To")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "Better, 95% sure"))}};
   for (const LabPair& pair : figures.pairs) {
-    const QString& first = figures.systems[pair.a].name;
-    const QString& second = figures.systems[pair.b].name;
     const Bounds& bounds = pair.difference.ci95;
-    rows.append({Words(QT_TRANSLATE_NOOP("Laboratory", "%1 less %2")).arg(first, second),
+    rows.append({figures.systems[pair.a].name, figures.systems[pair.b].name,
                  SignedMoney(pair.difference.mean), SignedMoney(bounds.low), SignedMoney(bounds.high),
-                 bounds.low > 0    ? first
-                 : bounds.high < 0 ? second
+                 bounds.low > 0    ? Words(QT_TRANSLATE_NOOP("Laboratory", "the first"))
+                 : bounds.high < 0 ? Words(QT_TRANSLATE_NOOP("Laboratory", "the second"))
                                    : Words(QT_TRANSLATE_NOOP("Laboratory", "not known"))});
   }
   return rows;
