@@ -69,7 +69,8 @@ enum Page : int {
 constexpr int kLeastBelow = 80;
 constexpr int kHeightForAll = 470;  // of the page of results, with how sessions end below
 constexpr int kProgressSteps = 1'000;
-constexpr int kMeasuresWidth = 340;
+constexpr int kMeasuresWidth = 350;
+constexpr int kScrollBarWidth = 22;
 
 // Sorted by the number that it begins with.
 struct NumberItem : QTableWidgetItem {
@@ -658,7 +659,7 @@ void MarkMeasures(QTableWidget& table, bool dark) {
   }
   int figures = 0;
   for (int column = 1; column < table.columnCount(); ++column) figures += table.columnWidth(column);
-  table.setColumnWidth(0, std::max(table.viewport()->width() - figures, 80));
+  table.setColumnWidth(0, std::max(kMeasuresWidth - kScrollBarWidth - figures, 80));
 }
 
 }  // namespace
