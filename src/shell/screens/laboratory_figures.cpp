@@ -92,6 +92,7 @@ SystemFigures FigureSystem(const LabSystem& system, SystemSums& sums) {
   figures.net = FigureMean(sums.net, sums.sessions, kDollar);
   const auto unit = static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
   figures.adjusted = FigureMean(sums.adjusted, sums.sessions, kDollar * unit);
+  figures.price = FigureMean({sums.price, 0, 0}, sums.sessions, kDollar * unit).mean;
   figures.drawdown = MeanOf(sums.drawdown, sums.sessions);
   figures.note = NoteOn(system, sums);
   if (sums.nets.rows.empty()) return figures;
@@ -337,6 +338,8 @@ const Measure kMeasures[] = {
     {QT_TRANSLATE_NOOP("Laboratory", "Mean"), [](const SystemFigures& s) { return WithBounds(s.net); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Mean without luck"),
      [](const SystemFigures& s) { return WithBounds(s.adjusted); }},
+    {QT_TRANSLATE_NOOP("Laboratory", "Price of the bets"),
+     [](const SystemFigures& s) { return LabMoney(s.price); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Std Dev"),
      [](const SystemFigures& s) { return LabMoney(s.net.stdDev); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Median"),
