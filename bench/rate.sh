@@ -1,9 +1,9 @@
 # What the comparisons share. Processor time, since a wall clock also counts what else the machine does.
 
-# rate ROLLS COMMAND...: rolls for each second of processor time that the command took. The command tells, as
-# one JSON object in its last line, how many it rolled.
+# rate ROLLS COMMAND...: rolls for each second of processor time that the command took; with rate_by=%R by the
+# clock. The command tells, as one JSON object in its last line, how many it rolled.
 rate() {
-  local rolls=$1 answer spent TIMEFORMAT='%U %S'
+  local rolls=$1 answer spent TIMEFORMAT=${rate_by:-%U %S}
   shift
   answer=$(mktemp)
   spent=$({ time "$@" >"$answer" 2>&3; } 3>&2 2>&1)

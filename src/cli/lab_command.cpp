@@ -42,12 +42,17 @@ std::vector<OutputFile> TargetsOf(const LabOptions& options, std::size_t systems
   return targets;
 }
 
-// Before anything is played: none is written over another, or over what the experiment reads.
-int CheckTargets(const LabOptions& options, std::size_t systems) {
+// Before anything is played: none is written over another, or over what the experiment reads. shards: of a
+// merge.
+int CheckTargets(const LabOptions& options, std::size_t systems,
+                 const std::vector<std::string>& shards = {}) {
   const std::vector<OutputFile> targets = TargetsOf(options, systems);
   std::vector<OutputFile> known;
   for (const std::string& script : options.scripts) known.push_back({"--script ", script});
+  for (const std::string& shard : shards)
+    for (const std::string& path : {shard, RowsPathOf(shard)}) known.push_back({"merge ", path});
   known.push_back({"--resume ", options.out.empty() ? options.resume : ""});
+  known.push_back({"--resume ", RowsPathOf(options.resume)});
   known.push_back({"--settings ", options.settingsFile});
   known.push_back({"--probabilities ", options.probabilities});
   for (const OutputFile& target : targets) {
@@ -61,18 +66,17 @@ int CheckTargets(const LabOptions& options, std::size_t systems) {
   return kDone;
 }
 
+// One that can't be written keeps none of the others from it.
 int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) {
-  if (!options.csv.empty())
-    if (const std::string error = WriteRowsAsCsv(rows, state.experiment, options.csv); !error.empty())
-      return Fail("--csv: " + error);
-  if (!options.slg.empty())
-    if (const std::string error = WriteRowsAsLogs(rows, options.slg); !error.empty())
-      return Fail("--slg: " + error);
+  int code = kDone;
+  const auto note = [&](const char* option, const std::string& error) {
+    if (!error.empty()) code = Fail(option + error);
+  };
+  if (!options.csv.empty()) note("--csv: ", WriteRowsAsCsv(rows, state.experiment, options.csv));
+  if (!options.slg.empty()) note("--slg: ", WriteRowsAsLogs(rows, options.slg));
   if (!options.report.empty())
-    if (const std::string error = ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank)));
-        !error.empty())
-      return Fail("--report: " + error);
-  return kDone;
+    note("--report: ", ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank))));
+  return code;
 }
 
 void Print(LabState& state, const LabOptions& options) {
@@ -267,7 +271,7 @@ int Merge(const std::vector<std::string>& files, const LabOptions& options) {
     return Fail("--csv: it needs shards that were made with --csv");
   if (!options.slg.empty() && !whole.rows.records)
     return Fail("--slg: it needs shards that were made with --slg");
-  if (const int code = CheckTargets(options, whole.systems.size())) return code;
+  if (const int code = CheckTargets(options, whole.systems.size(), paths)) return code;
   SessionRows rows;
   if (whole.rows.Any())
     if (const int code = MergeRows(paths, shards, whole, rows, options.out)) return code;

@@ -14,8 +14,9 @@ namespace tessaryn {
 namespace {
 
 constexpr std::int64_t kPrecisionStep = 1'000;  // sessions between two looks at the bounds
-constexpr std::size_t kMostTables = 96;         // of all threads: a table takes a megabyte
-constexpr std::int64_t kRollsOfABlock = 10'000;
+constexpr std::size_t kMostTables = 256;        // of all threads: a table takes a megabyte
+// Enough that a table that is opened for one block pays.
+constexpr std::int64_t kRollsOfABlock = 500'000;
 constexpr auto kCheckpointEvery = std::chrono::milliseconds(1'500);
 constexpr auto kLookEvery = std::chrono::milliseconds(100);
 
@@ -56,7 +57,7 @@ struct Lab {
   int working = 0;
 };
 
-// A part of a thousand, so that the bounds are looked at between blocks; some tenths of a second at most.
+// A part of a thousand, so that the bounds are looked at between blocks; a tenth of a second or so at most.
 std::int64_t SizeBlocks(const Experiment& experiment) {
   const std::int64_t hands = experiment.hands > 0 ? experiment.hands * 9 : kMaxRolls;
   const std::int64_t hours =

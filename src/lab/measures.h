@@ -75,8 +75,8 @@ struct SystemSums {
   std::string stopReason;               // of the first that was stopped
 };
 TESSARYN_FIELDS(SystemSums, sessions, rolls, won, brokeEven, lost, ruined, goal, limit, stopped, unrolled,
-                net, luckUnit, adjusted, handle, price, drawdown, nets, drawdowns, lengths, streak, streaks, ruins,
-                fan, errors, acted, stopReason)
+                net, luckUnit, adjusted, handle, price, drawdown, nets, drawdowns, lengths, streak, streaks,
+                ruins, fan, errors, acted, stopReason)
 
 // Errors of a session, or of a shard, behind those that are known.
 void AddScriptErrors(std::vector<ScriptErrorKind>& errors, const std::vector<ScriptErrorKind>& more);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <type_traits>
 
 #include "lab/dice_streams.h"
@@ -103,28 +104,17 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
   });
 }
 
-// How far a row of gaps was counted into: few are long. On a table that nothing was rolled on all are 0.
-std::size_t CellsCounted(const std::int32_t (&row)[kGapCells]) {
-  constexpr std::size_t kStep = 40;
-  std::size_t cells = kGapCells;
-  for (; cells > kStep; cells -= kStep) {
-    std::int32_t any = 0;
-    for (std::size_t cell = cells - kStep; cell < cells; ++cell) any |= row[cell];
-    if (any != 0) break;
-  }
-  return cells;
-}
-
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
   const auto resetBet = [&](int bet) {
     std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
   };
   resetBet(0);
   touched.bets.ForEach(resetBet);
+  // On a table that nothing was rolled on all are 0, and no gap is longer than up to the last roll.
   for (int item = 0; item < kRollItems; ++item)
-    if (stats.ItemLastRoll[item] != fresh.ItemLastRoll[item])
+    if (const int last = stats.ItemLastRoll[item]; last != 0)
       std::memset(stats.RollGapCounts[item], 0,
-                  CellsCounted(stats.RollGapCounts[item]) * sizeof(std::int32_t));
+                  static_cast<std::size_t>(std::min(last + 1, kGapCells)) * sizeof(std::int32_t));
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
@@ -134,8 +124,11 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
   const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
+  // In pieces: of many kilobytes at once the C library makes string instructions, which are slower here.
+  constexpr std::size_t kPiece = 25;
   if (fresh.PlotPoints == 0)
-    std::fill_n(graph.Rows, rows, PlotRow());
+    for (std::size_t row = 0; row < rows; row += kPiece)
+      std::memset(static_cast<void*>(&graph.Rows[row]), 0, std::min(kPiece, rows - row) * sizeof(PlotRow));
   else
     std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
@@ -227,24 +220,31 @@ struct Course {
   Currency start;  // what net counts from
   Currency highest;
   Currency net;
+  // As last looked at; before the first roll nothing is.
+  Currency bankroll = Currency::FromRaw(std::numeric_limits<std::int64_t>::min());
+  Currency drawn;             // from the ATM
   std::int64_t streak = 0;    // losing rolls by now
-  std::int64_t rolls = 0;     // the most; 0 any
+  std::int64_t rolls = 0;     // the most
+  std::int64_t hands = 0;     // likewise
   std::int64_t marks = 0;     // of the fan
   std::int64_t nextMark = 0;  // the roll that the next is set at
 };
+constexpr std::int64_t kNoEnd = std::numeric_limits<std::int64_t>::max();
 
 // The first roll behind a part of the experiment's.
 std::int64_t RollOfMark(const Experiment& experiment, std::int64_t mark) {
+  if (experiment.rolls == 0 || mark == kFanMarks) return kNoEnd;
   return (experiment.rolls * (mark + 1) + kFanMarks - 1) / kFanMarks;
 }
 
 // Until the roll that fills the hours by the roll rate, if not to an end before.
 std::int64_t MostRolls(const Experiment& experiment, const Game& game) {
-  if (experiment.hours <= kZero) return experiment.rolls;
+  const std::int64_t most = experiment.rolls > 0 ? experiment.rolls : kNoEnd;
+  if (experiment.hours <= kZero) return most;
   constexpr auto kParts = static_cast<WideInt>(Currency::kPerDollar) * Currency::kPerDollar;
   const WideInt parts = WideInt{experiment.hours.raw} * game.settings.SimRollRate.raw;
-  const auto rolls = static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls));
-  return experiment.rolls > 0 ? std::min(rolls, experiment.rolls) : rolls;
+  return std::min(most,
+                  static_cast<std::int64_t>(std::min<WideInt>((parts + kParts - 1) / kParts, kMaxRolls)));
 }
 
 // Behind a roll, or what was played out.
@@ -254,8 +254,10 @@ void FollowStreak(Course& course, Currency net, SessionResult& result) {
   course.net = net;
 }
 
+Currency DrawnOf(const Game& game) { return game.stats.AtmTotal[Slot(kCurrentSession, kSeat)]; }
+
 Currency NetOf(const Game& game, const Course& course) {
-  return game.table.BankrollCurrent[kSeat] - course.start - game.stats.AtmTotal[Slot(kCurrentSession, kSeat)];
+  return game.table.BankrollCurrent[kSeat] - course.start - DrawnOf(game);
 }
 
 bool BeginSession(LabTable& table, const Experiment& experiment, std::int64_t session) {
@@ -275,12 +277,11 @@ std::uint8_t MarkOfRefusal(const Game& game) {
   return rail < game.settings.MinBetMain ? kMarkRuined : kMarkStopped;
 }
 
-// The result as a roll ends. Whether the session is to end here.
-bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
-  const Game& game = *table.game;
-  LuckAfterRoll(table.luck, game);
-  ++result.rolls;
-  if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
+// Behind a roll that left other money.
+[[gnu::noinline]] void LookAtMoney(const Game& game, const Experiment& experiment, Course& course,
+                                   SessionResult& result) {
+  course.bankroll = game.table.BankrollCurrent[kSeat];
+  course.drawn = DrawnOf(game);
   const Currency net = NetOf(game, course);
   FollowStreak(course, net, result);
   if (net > course.highest) course.highest = net;
@@ -288,11 +289,19 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
   if (IsRuined(game)) result.marks |= kMarkRuined;
   if (experiment.winGoal > kZero && net >= experiment.winGoal) result.marks |= kMarkGoal;
   if (experiment.lossLimit > kZero && net <= -experiment.lossLimit) result.marks |= kMarkLimit;
-  for (; course.marks < kFanMarks && result.rolls >= course.nextMark;
-       course.nextMark = RollOfMark(experiment, course.marks))
-    table.fan[course.marks++] = net;
-  return result.marks != 0 || (course.rolls > 0 && result.rolls >= course.rolls) ||
-         (experiment.hands > 0 && result.hands >= experiment.hands);
+}
+
+// The result as a roll ends. Whether the session is to end here.
+bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+  const Game& game = *table.game;
+  LuckAfterRoll(table.luck, game);
+  ++result.rolls;
+  if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
+  if (game.table.BankrollCurrent[kSeat] != course.bankroll || DrawnOf(game) != course.drawn)
+    LookAtMoney(game, experiment, course, result);
+  for (; result.rolls >= course.nextMark; course.nextMark = RollOfMark(experiment, course.marks))
+    table.fan[course.marks++] = course.net;
+  return result.marks != 0 || result.rolls >= course.rolls || result.hands >= course.hands;
 }
 
 bool ContractIsUp(const Game& game) {
@@ -314,6 +323,7 @@ void TakeNoNewBets(Game& game) {
 }
 
 void NoteTouched(LabTable& table) {
+  if ((table.game->table.SeatsSinceBefore & 1u << kSeat) == 0) return;
   const SeatState& seat = table.game->table.seats[kSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
@@ -385,9 +395,9 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   if (GivenUp(table)) return false;
   LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
   course.start = game.stats.BankrollSessionStart[kSeat];
-  course.marks = experiment.rolls > 0 ? 0 : kFanMarks;
   course.nextMark = RollOfMark(experiment, 0);
   course.rolls = MostRolls(experiment, game);
+  course.hands = experiment.hands > 0 ? experiment.hands : kNoEnd;
   if (!begun) result.marks |= kMarkStopped;
   if (begun && !PlayRolls(table, experiment, course, result)) return false;
   if (experiment.endWithHand) PlayOut(table, experiment, course, result);

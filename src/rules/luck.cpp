@@ -13,6 +13,7 @@ namespace tessaryn {
 namespace {
 
 constexpr std::size_t kPlans = 256;  // a power of two
+constexpr int kStandsNowhere = -1;
 
 // --- What plans are made from.
 
@@ -223,15 +224,15 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
 bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
-  if (!plan.byPoint || ride.layout.point != table.Point || !(ride.bets == state.SeatBets) ||
-      !(ride.working == WorkingBets(state)))
+  const BetSet working = WorkingBets(state);
+  if (!plan.byPoint || ride.layout.point != table.Point ||
+      ((ride.bets.words[0] ^ state.SeatBets.words[0]) | (ride.bets.words[1] ^ state.SeatBets.words[1]) |
+       (ride.working.words[0] ^ working.words[0]) | (ride.working.words[1] ^ working.words[1])) != 0)
     return false;
-  std::size_t at = 0;
-  for (std::size_t word = 0; word < 2; ++word)
+  const std::int64_t* figure = ride.figure.data();
+  for (int word = 0; word < 2; ++word)
     for (std::uint64_t rest = ride.bets.words[word]; rest != 0; rest &= rest - 1)
-      if (table.BetAmount(seat, static_cast<int>(word) * 64 + std::countr_zero(rest)).raw !=
-          ride.figure[at++])
-        return false;
+      if (table.BetAmount(seat, word * 64 + std::countr_zero(rest)).raw != *figure++) return false;
   return true;
 }
 
@@ -270,6 +271,7 @@ void TakeValues(LuckMeter& meter, const Game& game) {
   }
   meter.ridingSeats = 0;
   meter.throwsBefore = -1;
+  meter.standsAt = kStandsNowhere;
 }
 
 }  // namespace
@@ -294,29 +296,67 @@ void LuckResume(LuckMeter& meter, const Game& game) {
   TakeValues(meter, game);
 }
 
-void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
-  if (meter.unit == 0) LuckBeginSession(meter, game);
-  FollowRules(meter, game);
+namespace {
+
+// Finds what every seat rides with.
+[[gnu::noinline]] void RideAnew(LuckMeter& meter, const Game& game) {
+  if (!meter.rulesStand || meter.dice.percentage || game.percentage.PercentageDiceActive) {
+    if (meter.unit == 0) LuckBeginSession(meter, game);
+    FollowRules(meter, game);
+  }
   ++meter.roll;
   meter.ridingSeats = 0;
-  meter.throwsBefore = Throws(game.stats);
   const TableState& table = game.table;
+  bool byPoint = meter.rulesStand && !meter.dice.percentage;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
     const int seat = table.Seated[i];
-    const bool any = !table.seats[seat].SeatBets.Empty();
-    if (any) {
-      const std::size_t last = meter.lastRide[seat][table.Point];
-      if (meter.rulesStand && StillRides(meter.plans[last], table, seat)) {
-        meter.plans[last].rides = meter.roll;
-        meter.riding[seat] = last;
-      } else {
-        meter.riding[seat] = PlanFor(meter, game, seat);
-      }
+    std::int64_t value = 0;
+    if (!table.seats[seat].SeatBets.Empty()) {
+      LuckPlan* plan = &meter.plans[meter.lastRide[seat][table.Point]];
+      if (meter.rulesStand && StillRides(*plan, table, seat))
+        plan->rides = meter.roll;
+      else
+        plan = &meter.plans[PlanFor(meter, game, seat)];
+      value = plan->before;
+      byPoint = byPoint && plan->byPoint;
+      meter.riding[seat] = plan;
       meter.ridingSeats |= 1u << seat;
     }
-    const std::int64_t value = any ? meter.plans[meter.riding[seat]].before : 0;
     if (value != meter.seats[seat].value) Shift(meter, seat, value);
   }
+  meter.standsAt = byPoint ? table.Point : kStandsNowhere;
+}
+
+void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
+  const LuckPlan& plan = *meter.riding[seat];
+  SeatLuck& luck = meter.seats[seat];
+  if (meter.unit == plan.unit) [[likely]] {
+    luck.luck += plan.luck[outcome];
+    luck.expected += plan.expected;
+  } else {
+    luck.luck += plan.luck[outcome] * (meter.unit / plan.unit);
+    luck.expected += plan.expected * (meter.unit / plan.unit);
+  }
+  luck.variance += plan.variance;
+  luck.value = plan.after[outcome];
+  ++luck.rolls;
+}
+
+[[gnu::noinline]] void AddRollOfSeats(LuckMeter& meter, std::size_t outcome) {
+  for (std::uint32_t seats = meter.ridingSeats; seats != 0; seats &= seats - 1)
+    AddRoll(meter, std::countr_zero(seats), outcome);
+}
+
+}  // namespace
+
+void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
+  const TableState& table = game.table;
+  meter.throwsBefore = Throws(game.stats);
+  // Mostly the last roll has left all as it was: no bet has been touched since, and no call.
+  if (meter.standsAt == table.Point && table.SeatsSinceBefore == 0 && !table.CallsTouched &&
+      !game.percentage.PercentageDiceActive) [[likely]]
+    return;
+  RideAnew(meter, game);
 }
 
 void LuckAfterRoll(LuckMeter& meter, const Game& game) {
@@ -324,21 +364,11 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = -1;
   if (!thrown) return;
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  for (std::uint32_t seats = meter.ridingSeats; seats != 0; seats &= seats - 1) {
-    const int seat = std::countr_zero(seats);
-    const LuckPlan& plan = meter.plans[meter.riding[seat]];
-    SeatLuck& luck = meter.seats[seat];
-    if (const std::int64_t planUnit = plan.whole * kValueUnit; meter.unit == planUnit) [[likely]] {
-      luck.luck += plan.luck[outcome];
-      luck.expected += plan.expected;
-    } else {
-      luck.luck += plan.luck[outcome] * (meter.unit / planUnit);
-      luck.expected += plan.expected * (meter.unit / planUnit);
-    }
-    luck.variance += plan.variance;
-    luck.value = plan.after[outcome];
-    ++luck.rolls;
-  }
+  constexpr std::uint32_t kFirstSeat = 1u << 1;
+  if (meter.ridingSeats == kFirstSeat) [[likely]]
+    AddRoll(meter, 1, outcome);
+  else
+    AddRollOfSeats(meter, outcome);
 }
 
 LuckReport LuckOf(const LuckMeter& meter, int seat) {

@@ -68,9 +68,10 @@ struct LuckMeter {
   PayoffTables payoffs;         // what the plans were made with
   std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
   bool rulesStand = false;
-  std::size_t riding[kSeatRows] = {};        // places in plans
-  std::size_t lastRide[kSeatRows][11] = {};  // by the point: of the last roll that it was on
+  const LuckPlan* riding[kSeatRows] = {};    // of the roll to come; in plans
+  std::size_t lastRide[kSeatRows][11] = {};  // places in plans, by the point: of the last roll that it was on
   std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
+  int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
   std::int64_t roll = 0;
   std::int64_t throwsBefore = -1;
 };

@@ -54,6 +54,7 @@ void AddBet(LuckPlan& plan, Changes& changes, const RidingBet& riding, const Rol
 
 void CompareWithMean(LuckPlan& plan, const Changes& changes, const LuckDice& dice) {
   plan.whole = dice.whole;
+  plan.unit = dice.whole * kValueUnit;
   plan.expected = 0;
   for (std::size_t outcome = 0; outcome < kOutcomes; ++outcome)
     plan.expected += dice.weight[outcome] * changes[outcome];

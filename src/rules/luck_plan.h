@@ -33,6 +33,7 @@ struct LuckPlan {
   std::int64_t rides = 0;  // the roll that it was last used for
   LuckRide ride;
   std::int64_t whole = 36;                      // of the dice
+  std::int64_t unit = 36 * kValueUnit;          // in which luck and expected are parts of $0.0001
   std::int64_t before = 0;                      // value of the bets, in kValueUnit
   std::array<std::int64_t, kOutcomes> after{};  // value of those that stay undecided
   WideInt expected = 0;                         // whole times the mean of money and change of value

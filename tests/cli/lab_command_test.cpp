@@ -1,7 +1,9 @@
 // The laboratory's command as a process: what it prints and refuses, and that killing it loses nothing.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 #include "support/cli_process.h"
@@ -125,6 +127,34 @@ TEST(LabCommand, RefusesWhatItCantPlay) {
   EXPECT_EQ(ReadFile(ground.folder.File("junk.lab")), "junk");
 }
 
+TEST(LabCommand, WritesNothingOverWhatItReads) {
+  Ground ground;
+  const auto shard = [&](int number) { return ground.folder.File(std::to_string(number) + ".lab"); };
+  std::string before;
+  for (int number = 1; number <= 2; ++number) {
+    ground.Says({"--bets", "43=10", "--sessions", "40", "--shard", std::to_string(number) + "/2", "--out",
+                 shard(number), "--csv", ground.folder.File("part.csv")});
+    before += ReadFile(shard(number)) + ReadFile(shard(number) + ".rows");
+  }
+  const std::vector<std::string> merge = {"merge", shard(2), shard(1)};
+  for (const auto& [option, path] : {std::pair("--out", shard(1)), std::pair("--csv", shard(2) + ".rows"),
+                                     std::pair("--report", shard(2))}) {
+    std::vector<std::string> words = merge;
+    words.insert(words.end(), {option, path});
+    const Ran ran = ground.Run(words);
+    EXPECT_EQ(ran.exitCode, 1) << option;
+    EXPECT_NE(ran.err.find(path), std::string::npos) << ran.err;
+  }
+  EXPECT_TRUE(ReadFile(shard(1)) + ReadFile(shard(1) + ".rows") + ReadFile(shard(2)) +
+                  ReadFile(shard(2) + ".rows") ==
+              before);
+  // What can be written is, beside what can't.
+  std::vector<std::string> words = merge;
+  words.insert(words.end(), {"--csv", "/dev/full", "--report", ground.folder.File("r.html")});
+  EXPECT_NE(ground.Run(words).err.find("/dev/full"), std::string::npos);
+  EXPECT_FALSE(ReadFile(ground.folder.File("r.html")).empty());
+}
+
 // Killed ten times on the way, at any moment, and gone on with on more threads or fewer.
 TEST(LabCommand, IsTheSameAfterTenKills) {
   Ground ground;
@@ -189,6 +219,35 @@ TEST(LabCommand, FindsWhatKeepsRuinWithinBounds) {
   EXPECT_LE(stake["ruined"]["p"], 0.1);
   EXPECT_GE(stake["value"], 1);
   EXPECT_FALSE(asked({"--find", "stack:3", "--ruin", "0.01", "--bankroll", "6"})["found"]);
+}
+
+// Each cell of a sweep is the experiment of its own values, and the ranking that of those.
+TEST(LabCommand, SweepsAsSingleExperiments) {
+  const bool full = std::getenv("TESSARYN_LAB_PROOFS") != nullptr;
+  Ground ground;
+  WriteFile(ground.folder.File("s.bet"),
+            "if passline = 0 then bet cs1 on passline endif\nbet cs1 * 3 on passlineodds\n");
+  const std::vector<std::string> same = {
+      "--script", ground.folder.File("s.bet"), "--sessions", full ? "10000" : "50", "--rank", "mean",
+      "--rolls",  full ? "500" : "60"};
+  const auto says = [&](const std::string& stack, const std::string& setting) {
+    std::vector<std::string> words = same;
+    words.insert(words.end(), {"--stack", "1=" + stack, "--vary", "MaxOddsBet=" + setting});
+    return ground.Says(words);
+  };
+  const Json sweep = says("5..50:5", "20,30,40,50,60,70,80,90,100,110");
+  ASSERT_EQ(sweep["systems"].size(), 100u);
+  std::vector<double> means;
+  for (std::size_t cell = 0; cell < 100; ++cell) {
+    means.push_back(sweep["systems"][cell]["net"]["mean"]);
+    if (!full && cell % 11 != 0) continue;
+    const std::string stack = std::to_string(5 * (cell / 10 + 1));
+    const Json single = says(stack, std::to_string(10 * (cell % 10 + 2)));
+    EXPECT_EQ(single["systems"][0], sweep["systems"][cell]) << cell;
+  }
+  std::sort(means.rbegin(), means.rend());
+  for (std::size_t place = 0; place < 100; ++place)
+    EXPECT_EQ(sweep["ranking"][place]["value"], means[place]) << place;
 }
 
 // Without the permission, which nobody gives here, a script doesn't change the dice that luck goes by.

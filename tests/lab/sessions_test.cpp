@@ -161,6 +161,15 @@ Line PassLine(Line at, int total) {
   return at;
 }
 
+// Twelve is barred.
+Line DontPass(Line at, int total) {
+  if (at.point == 0 && total == 12) return at;
+  const int before = at.net;
+  at = PassLine(at, total);
+  at.net = 2 * before - at.net;
+  return at;
+}
+
 Line Field(Line at, int total) {
   at.net += total == 2 || total == 12 ? 2 * at.stake : total >= 5 && total <= 8 ? -at.stake : at.stake;
   return at;
@@ -225,12 +234,19 @@ void ExpectDistributed(const Case& one, const SystemSums& sums, const Distributi
 }
 
 TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
-  const auto martingale = [](Line at, int total) {
-    const int bet = std::min(at.stake, 100 + at.net);
-    at.net += total == 7 ? 4 * bet : -bet;
-    at.stake = total == 7 ? 5 : 2 * at.stake;
-    return at;
+  const std::vector<std::string> kMartingale = {
+      "if cs1 = 0 then cs1 = 5 : cs2 = bankroll endif", "if bankroll > cs2 then cs1 = 5 endif",
+      "if bankroll < cs2 then cs1 = 2 * cs1 endif", "cs2 = bankroll", "bet cs1 on seven"};
+  const auto doubled = [](int bankroll) {
+    return [bankroll](Line at, int total) {
+      const int bet = std::min(at.stake, bankroll + at.net);
+      at.net += total == 7 ? 4 * bet : -bet;
+      at.stake = total == 7 ? 5 : 2 * at.stake;
+      return at;
+    };
   };
+  const auto martingale = doubled(100);
+  const auto richer = doubled(300);
   const Case cases[] = {
       {"Pass Line",
        {"if passline = 0 then bet 10 on passline endif"},
@@ -244,14 +260,15 @@ TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
        {0, 0, 10},
        PassLine,
        true},
+      {"Don't Pass with ends",
+       {"if dontpass = 0 then bet 10 on dontpass endif"},
+       {100, 60, 50, 30},
+       {0, 0, 10},
+       DontPass,
+       true},
       {"Field to ruin", {"if field = 0 then bet 5 on field endif"}, {20, 60, 50, 0}, {0, 0, 5}, Field, false},
-      {"Martingale",
-       {"if cs1 = 0 then cs1 = 5 : cs2 = bankroll endif", "if bankroll > cs2 then cs1 = 5 endif",
-        "if bankroll < cs2 then cs1 = 2 * cs1 endif", "cs2 = bankroll", "bet cs1 on seven"},
-       {100, 12, 0, 0},
-       {0, 0, 5},
-       martingale,
-       false}};
+      {"Martingale", kMartingale, {100, 12, 0, 0}, {0, 0, 5}, martingale, false},
+      {"Martingale with ends", kMartingale, {300, 40, 60, 200}, {0, 0, 5}, richer, false}};
   for (const Case& one : cases) {
     SCOPED_TRACE(one.name);
     Experiment experiment = Asked(one.script, SessionsToPlay(), one.rules.rolls);
@@ -261,6 +278,47 @@ TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
     if (!one.lineBet) experiment.settings = {{"ShooterBetRule", 0, "0"}};
     const LabState state = Played(experiment);
     ExpectDistributed(one, state.systems[0], Figured(one.rules, one.start, one.advance));
+  }
+}
+
+// 95 times in 100, of experiments that differ in their dice alone: means, with and without luck, and shares.
+TEST(LabSession, BoundsHoldTheTruthAsOftenAsTheySay) {
+  const int experiments = std::getenv("TESSARYN_LAB_PROOFS") != nullptr ? 1'000 : 100;
+  const Rules rules{100, 60, 30, 40};
+  const Distribution exact = Figured(rules, {0, 0, 10}, PassLine);
+  double mean = 0;
+  for (const auto& [net, share] : exact.nets) mean += net * share;
+  Experiment experiment = Asked({"if passline = 0 then bet 10 on passline endif"}, 400, rules.rolls);
+  experiment.bankroll = Currency::Dollars(rules.bankroll);
+  experiment.winGoal = Currency::Dollars(rules.goal);
+  experiment.lossLimit = Currency::Dollars(rules.limit);
+  LabHost host;
+  LabProblem problem;
+  const auto fresh = BuildTable(experiment, experiment.systems[0], host, Folder(), problem);
+  const auto table = OpenLabTable(*fresh, nullptr);
+  int held[5] = {};
+  for (experiment.seed = 1; experiment.seed <= static_cast<std::uint64_t>(experiments); ++experiment.seed) {
+    SystemSums sums;
+    for (std::int64_t session = 0; session < experiment.sessions; ++session) {
+      SessionResult result;
+      ASSERT_TRUE(PlaySession(*table, experiment, session, result, nullptr));
+      AddSession(sums, result);
+    }
+    const std::int64_t n = sums.sessions;
+    const double unit = static_cast<double>(sums.luckUnit) * Currency::kPerDollar;
+    const auto holds = [](Bounds bounds, double truth) {
+      return bounds.low <= truth && truth <= bounds.high;
+    };
+    held[0] += holds(FigureMean(sums.net, n, Currency::kPerDollar).ci95, mean);
+    held[1] += holds(FigureMean(sums.adjusted, n, unit).ci95, mean);
+    held[2] += holds(FigureShare(sums.goal, n).ci95, exact.goal);
+    held[3] += holds(FigureShare(sums.limit, n).ci95, exact.limit);
+    held[4] += holds(FigureShare(sums.won, n).ci95, 1 - Below(exact.nets, 0));
+  }
+  for (const int times : held) {
+    EXPECT_NEAR(times, 0.95 * experiments, 4 * std::sqrt(0.95 * 0.05 * experiments));
+    RecordProperty("held", times);
+    std::printf("%d of %d\n", times, experiments);
   }
 }
 
