@@ -76,7 +76,8 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
   };
   if (!options.csv.empty()) note("--csv: ", WriteRowsAsCsv(rows, state.experiment, options.csv));
   if (!options.slg.empty()) note("--slg: ", WriteRowsAsLogs(rows, options.slg));
-  if (!options.report.empty()) note("--report: ", ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank))));
+  if (!options.report.empty())
+    note("--report: ", ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank))));
   return code;
 }
 

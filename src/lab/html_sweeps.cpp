@@ -64,7 +64,9 @@ std::string Rgb(const HeatColour& colour) {
 std::string Cell(const Sweep& sweep, std::size_t place) {
   const HeatColour colour = HeatColourOf(HeatShare(sweep.At(place), sweep.worst, sweep.At(sweep.best)));
   std::string kind;
-  if (place == sweep.best)
+  if (sweep.worst == sweep.At(sweep.best))
+    kind = "";
+  else if (place == sweep.best)
     kind = "class=\"best\" ";
   else if (sweep.by == RankBy::kMean && MayBeAsGood(sweep, place))
     kind = "class=\"near\" ";
@@ -74,6 +76,7 @@ std::string Cell(const Sweep& sweep, std::size_t place) {
 }
 
 std::string Legend(const Sweep& sweep) {
+  if (sweep.worst == sweep.At(sweep.best)) return Tag("p", "All are the same.", "class=\"soft\"");
   std::string stops;
   for (int i = 0; i <= 5; ++i) stops += (i == 0 ? "" : ",") + Rgb(HeatColourOf(i / 5.0));
   std::string text = ValueText(sweep.worst, sweep.by) +

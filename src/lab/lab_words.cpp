@@ -99,12 +99,18 @@ void AddSystems(Command& command, const Sweeps& sweeps) {
     command.Add(script.standingBets ? "--bets" : "--script", script.name);
   for (const Sweeps::Stack& stack : sweeps.stacks) {
     std::string values;
-    for (const Currency value : stack.values) values += (values.empty() ? "" : ",") + PlainMoney(value);
+    for (const Currency value : stack.values) {
+      if (!values.empty()) values += ',';
+      values += PlainMoney(value);
+    }
     command.Add("--stack", std::to_string(stack.stack) + "=" + values);
   }
   for (const Sweeps::Setting& setting : sweeps.settings) {
     std::string values;
-    for (const std::string& value : setting.values) values += (values.empty() ? "" : ",") + value;
+    for (const std::string& value : setting.values) {
+      if (!values.empty()) values += ',';
+      values += value;
+    }
     command.Add("--vary", NameOf(setting.setting) + "=" + values);
   }
 }

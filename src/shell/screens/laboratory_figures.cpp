@@ -94,6 +94,7 @@ SystemFigures FigureSystem(const LabSystem& system, SystemSums& sums) {
   figures.net = FigureMean(sums.net, sums.sessions, kDollar);
   const auto unit = static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
   figures.adjusted = FigureMean(sums.adjusted, sums.sessions, kDollar * unit);
+  figures.price = FigureMean({sums.price, 0, 0}, sums.sessions, kDollar * unit).mean;
   figures.drawdown = MeanOf(sums.drawdown, sums.sessions);
   figures.note = NoteOn(system, sums);
   if (sums.nets.rows.empty()) return figures;
@@ -338,6 +339,8 @@ const Measure kMeasures[] = {
     {QT_TRANSLATE_NOOP("Laboratory", "Mean"), [](const SystemFigures& s) { return WithBounds(s.net); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Mean without luck"),
      [](const SystemFigures& s) { return WithBounds(s.adjusted); }},
+    {QT_TRANSLATE_NOOP("Laboratory", "Price of the bets"),
+     [](const SystemFigures& s) { return LabMoney(s.price); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Std Dev"),
      [](const SystemFigures& s) { return LabMoney(s.net.stdDev); }},
     {QT_TRANSLATE_NOOP("Laboratory", "Median"),
@@ -403,19 +406,18 @@ QList<QStringList> RankedRows(const LabFigures& figures, RankBy by) {
 }
 
 QList<QStringList> PairRows(const LabFigures& figures) {
-  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "First less second")),
+  QList<QStringList> rows = {{Words(QT_TRANSLATE_NOOP("Laboratory", "System")),
+                              Words(QT_TRANSLATE_NOOP("Laboratory", "less system")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "Mean difference")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "From")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "To")),
                               Words(QT_TRANSLATE_NOOP("Laboratory", "Better, 95% sure"))}};
   for (const LabPair& pair : figures.pairs) {
-    const QString& first = figures.systems[pair.a].name;
-    const QString& second = figures.systems[pair.b].name;
     const Bounds& bounds = pair.difference.ci95;
-    rows.append({Words(QT_TRANSLATE_NOOP("Laboratory", "%1 less %2")).arg(first, second),
+    rows.append({figures.systems[pair.a].name, figures.systems[pair.b].name,
                  SignedMoney(pair.difference.mean), SignedMoney(bounds.low), SignedMoney(bounds.high),
-                 bounds.low > 0    ? first
-                 : bounds.high < 0 ? second
+                 bounds.low > 0    ? Words(QT_TRANSLATE_NOOP("Laboratory", "the first"))
+                 : bounds.high < 0 ? Words(QT_TRANSLATE_NOOP("Laboratory", "the second"))
                                    : Words(QT_TRANSLATE_NOOP("Laboratory", "not known"))});
   }
   return rows;

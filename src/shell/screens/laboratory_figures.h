@@ -36,6 +36,7 @@ struct SystemFigures {
   double highest = 0;
   double quantiles[std::size(kQuantilePercents)] = {};
   double drawdown = 0;  // mean
+  double price = 0;     // likewise: what the bets were expected to cost
   std::vector<std::int64_t> bars;
   double fan[kFanMarks][kFanLines] = {};
   std::vector<std::pair<double, double>> ruin;  // rolls, and the share that was ruined by then

@@ -349,23 +349,30 @@ void PaintShare(Canvas& canvas, const QRectF& row, const SystemFigures& system, 
        LabBounds(count, system.sessions), canvas.colours.second);
 }
 
+// In two columns where one would be too tight.
 void PaintEnds(Canvas& canvas) {
+  constexpr double kWideEnough = 620;
+  constexpr double kTight = 17;
   const QList<LabEnd> ends = EndsOf(canvas.figures);
   const QRectF inside = canvas.area.adjusted(kMargin, 2 * kLine + 14, -kMargin, -kMargin);
   const int lines = canvas.Two() ? 2 : 1;
-  const double captions = std::min(130.0, inside.width() / 4);
-  const double block = std::min(inside.height() / static_cast<double>(ends.size()), lines * 20.0 + 16);
+  const bool tight = inside.height() / static_cast<double>(ends.size()) < lines * kTight;
+  const qsizetype columns = tight && inside.width() >= kWideEnough ? 2 : 1;
+  const qsizetype rows = (ends.size() + columns - 1) / columns;
+  const double width =
+      (inside.width() - 2 * kMargin * static_cast<double>(columns - 1)) / static_cast<double>(columns);
+  const double captions = std::min(130.0, width / 4);
+  const double block = std::min(inside.height() / static_cast<double>(rows), lines * 20.0 + 16);
   const double line = std::min(20.0, (block - 4) / lines);
-  double y = inside.top();
-  for (const LabEnd& end : ends) {
-    Text(canvas, QRectF(inside.left(), y, captions - 8, line), Qt::AlignLeft, end.caption,
-         canvas.colours.text);
-    for (int i = 0; i < lines; ++i) {
-      const SystemFigures& system = i == 0 ? canvas.A() : canvas.B();
-      PaintShare(canvas, QRectF(inside.left() + captions, y + i * line, inside.width() - captions, line),
-                 system, system.*end.count, i == 1);
+  for (qsizetype i = 0; i < ends.size(); ++i) {
+    const double left = inside.left() + static_cast<double>(i / rows) * (width + 2 * kMargin);
+    const double y = inside.top() + static_cast<double>(i % rows) * block;
+    Text(canvas, QRectF(left, y, captions - 8, line), Qt::AlignLeft, ends[i].caption, canvas.colours.text);
+    for (int which = 0; which < lines; ++which) {
+      const SystemFigures& system = which == 0 ? canvas.A() : canvas.B();
+      PaintShare(canvas, QRectF(left + captions, y + which * line, width - captions, line), system,
+                 system.*ends[i].count, which == 1);
     }
-    y += block;
   }
 }
 

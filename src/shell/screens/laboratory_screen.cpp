@@ -7,6 +7,7 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFrame>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -69,7 +70,8 @@ enum Page : int {
 constexpr int kLeastBelow = 80;
 constexpr int kHeightForAll = 470;  // of the page of results, with how sessions end below
 constexpr int kProgressSteps = 1'000;
-constexpr int kMeasuresWidth = 330;
+constexpr int kMeasuresWidth = 350;
+constexpr int kScrollBarWidth = 22;
 
 // Sorted by the number that it begins with.
 struct NumberItem : QTableWidgetItem {
@@ -95,11 +97,13 @@ QTableWidget* Table(const char* name, const QString& what, QWidget* parent) {
   table->verticalHeader()->hide();
   table->setTabKeyNavigation(false);
   table->setWordWrap(false);
+  table->setTextElideMode(Qt::ElideMiddle);
   table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
   return table;
 }
 
-void FillTable(QTableWidget& table, const QList<QStringList>& rows) {
+// The first columns are names, which share half of the width at most; the others figures.
+void FillTable(QTableWidget& table, const QList<QStringList>& rows, int names = 1) {
   const bool sorted = table.isSortingEnabled();
   table.setSortingEnabled(false);
   const QStringList& heading = rows.front();
@@ -112,18 +116,21 @@ void FillTable(QTableWidget& table, const QList<QStringList>& rows) {
       const QString& text = rows[row + 1][column];
       QTableWidgetItem* item = table.item(row, column);
       if (item == nullptr) {
-        item = column == 0 ? new QTableWidgetItem : new NumberItem;
-        item->setTextAlignment((column == 0 ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+        item = column < names ? new QTableWidgetItem : new NumberItem;
+        item->setTextAlignment((column < names ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
         table.setItem(row, column, item);
       }
       if (item->text() != text) item->setText(text);
-      if (column == 0) item->setToolTip(text);
+      if (column < names) item->setToolTip(text);
     }
-  for (int column = 1; column < table.columnCount(); ++column)
-    table.horizontalHeaderItem(column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  table.horizontalHeaderItem(0)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+  for (int column = 0; column < table.columnCount(); ++column)
+    table.horizontalHeaderItem(column)->setTextAlignment((column < names ? Qt::AlignLeft : Qt::AlignRight) |
+                                                         Qt::AlignVCenter);
   table.setSortingEnabled(sorted);
-  if (columnsChange || table.rowCount() > 0) table.resizeColumnsToContents();
+  if (!columnsChange && table.rowCount() == 0) return;
+  table.resizeColumnsToContents();
+  for (int column = 0; column < names; ++column)
+    table.setColumnWidth(column, std::min(table.columnWidth(column), table.viewport()->width() / 2 / names));
 }
 
 QPushButton* Button(const char* name, const QString& caption, QWidget* parent) {
@@ -222,7 +229,7 @@ QWidget* LaboratoryScreen::MakeChoice() {
     auto* label = new QLabel(letter, choice);
     label->setBuddy(box);
     row->addWidget(label);
-    row->addWidget(box, 1);
+    row->addWidget(box, 2);
     return box;
   };
   a_ = add("cmbA", tr("Comp&are A"), tr("System A"));
@@ -240,7 +247,7 @@ QWidget* LaboratoryScreen::MakeChoice() {
   pointed_ = new QLabel(choice);
   pointed_->setObjectName("lblPointed");
   pointed_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  row->addWidget(pointed_, 2);
+  row->addWidget(pointed_, 3);
   return choice;
 }
 
@@ -255,7 +262,9 @@ class ResultsPage : public QWidget {
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QWidget::resizeEvent(event);
-    for (QWidget* widget : lower) widget->setVisible(height() >= kHeightForAll);
+    const bool room = height() >= kHeightForAll;
+    for (QWidget* widget : lower) widget->setVisible(room);
+    static_cast<QGridLayout*>(layout())->setRowStretch(1, room ? 4 : 0);
   }
 };
 
@@ -315,13 +324,14 @@ QWidget* LaboratoryScreen::MakeResults() {
   }
   measures_ = Table("lstMeasures", tr("Measures"), page);
   measures_->setFixedWidth(kMeasuresWidth);
+  measures_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  measures_->horizontalHeader()->setMinimumSectionSize(20);
   QFrame* about = MakeAbout();
   grid->addWidget(results, 0, 0);
   grid->addWidget(measures_, 0, 1);
   grid->addWidget(ends, 1, 0);
   grid->addWidget(about, 1, 1);
-  grid->setRowStretch(0, 3);
-  grid->setRowStretch(1, 2);
+  grid->setRowStretch(0, 5);
   grid->setColumnStretch(0, 1);
   page->lower = {ends, about};
   for (QWidget* widget : page->lower) {
@@ -645,10 +655,16 @@ void MarkMeasures(QTableWidget& table, bool dark) {
     QFont font = table.font();
     font.setBold(true);
     item->setFont(font);
+    if (column > 0)
+      table.setColumnWidth(column, std::max(table.columnWidth(column),
+                                            QFontMetrics(font).horizontalAdvance(item->text()) + 12));
     QColor tint = LabColour(false, dark);
     tint.setAlpha(40);
     item->setBackground(tint);
   }
+  int figures = 0;
+  for (int column = 1; column < table.columnCount(); ++column) figures += table.columnWidth(column);
+  table.setColumnWidth(0, std::max(kMeasuresWidth - kScrollBarWidth - figures, 80));
 }
 
 }  // namespace
@@ -661,7 +677,7 @@ void LaboratoryScreen::ShowTables() {
     MarkMeasures(*measures_, palette().color(QPalette::Window).lightness() < 128);
   }
   if (page == kSystemsPage) FillTable(*systems_, RankedRows(*figures_, Rank()));
-  if (page == kPairsPage) FillTable(*compared_, PairRows(*figures_));
+  if (page == kPairsPage) FillTable(*compared_, PairRows(*figures_), 2);
   if (page == kFoundPage)
     FillTable(*found_,
               FoundRows(searched_, question_, run_.IsOn() ? std::vector<LabAnswer>() : run_.Answers()));

@@ -138,19 +138,23 @@ QLineEdit* TypedLine(const char* name, const QString& spoken, const QString& sam
 }  // namespace
 
 void LaboratorySetup::AddSweeps(QBoxLayout& column, QWidget* box) {
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(8);
+  grid->setVerticalSpacing(4);
+  column.addLayout(grid);
   const auto add = [&](const QString& caption, QLineEdit* line) {
     auto* label = new QLabel(caption, box);
     label->setBuddy(line);
-    column.addWidget(label);
-    column.addWidget(line);
+    const int row = grid->rowCount();
+    grid->addWidget(label, row, 0);
+    grid->addWidget(line, row, 1);
     return line;
   };
-  stakes_ = add(tr("CheckStacks that s&tart at each of several values:"),
+  stakes_ = add(tr("CheckStacks s&tart at"),
                 TypedLine("txtStakes", tr("Stakes that CheckStacks start at"),
                           tr("as the scripts have them; or 1=5,10,25; 2=5..50:5"), box));
-  varied_ = add(tr("Settings that have each of se&veral values:"),
-                TypedLine("txtVaried", tr("Settings that are varied"),
-                          tr("none; or OddsCalcMethod=1,2,3; FieldPreset=..."), box));
+  varied_ = add(tr("&Vary settings"), TypedLine("txtVaried", tr("Settings that are varied"),
+                                                tr("none; or OddsCalcMethod=1,2,3; FieldPreset=..."), box));
   varied_->setCompleter(new SettingCompleter(SettingNames(true), varied_));
 }
 
@@ -158,6 +162,7 @@ namespace {
 
 void AddRow(QGridLayout& grid, const QString& caption, QWidget& field) {
   auto* label = new QLabel(caption, field.parentWidget());
+  label->setObjectName(field.objectName() + "Caption");
   label->setBuddy(&field);
   field.setAccessibleName(QString(caption).remove('&'));
   // Screen readers come to the box within.
@@ -274,8 +279,12 @@ QWidget* LaboratorySetup::MakeQuestion() {
   ruin_->setToolTip(tr("The share of sessions that may be ruined"));
   stack_->setToolTip(tr("Whose largest start is looked for"));
   const auto changed = [this] {
-    ruin_->setEnabled(IsSearch());
-    stack_->setEnabled(question_->currentIndex() == 2);
+    const auto show = [&](QWidget* field, const char* label, bool shown) {
+      field->setVisible(shown);
+      findChild<QWidget*>(label)->setVisible(shown);
+    };
+    show(ruin_, "txtRuinCaption", IsSearch());
+    show(stack_, "txtStackCaption", question_->currentIndex() == 2);
     keep_->setEnabled(!IsSearch());
     precision_->setEnabled(!IsSearch());
     emit Changed();

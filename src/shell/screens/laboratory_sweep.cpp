@@ -92,7 +92,8 @@ void PaintCell(const Sweep& sweep, std::size_t place) {
   QPainter& painter = *sweep.painter;
   painter.fillRect(cell.adjusted(1, 1, -1, -1), ColourOf(colour));
   const bool best = place == sweep.best;
-  if (best || MayBeAsGood(sweep, place)) {
+  const bool differ = sweep.worst != sweep.At(sweep.best);
+  if (differ && (best || MayBeAsGood(sweep, place))) {
     painter.setPen(
         QPen(colour.darkText ? Qt::black : Qt::white, best ? 3 : 1.5, best ? Qt::SolidLine : Qt::DotLine));
     painter.setBrush(Qt::NoBrush);
@@ -127,7 +128,7 @@ void PaintMap(const Sweep& sweep) {
 }
 
 void PaintLegend(const Sweep& sweep) {
-  const double y = sweep.area.bottom() - kMargin - kLine;
+  const double y = CellOf(sweep, sweep.grid.systems.size() - 1).bottom() + 10;
   double x = sweep.area.left() + kMargin;
   const QFontMetricsF metrics(sweep.painter->font());
   const auto say = [&](const QString& text) {
@@ -237,7 +238,7 @@ void PaintSweep(QPainter& painter, const QRectF& area, const LabFigures& figures
   painter.setFont(letters);
   if (!sweep.IsMap()) return PaintCurve(sweep);
   PaintMap(sweep);
-  PaintLegend(sweep);
+  if (sweep.worst != sweep.At(sweep.best)) PaintLegend(sweep);
 }
 
 int SweepSystemAt(const QPointF& place, const QRectF& area, const LabFigures& figures, const LabLook& look) {
