@@ -483,6 +483,7 @@ void Board::PaintSteps(QPainter& painter) const {
       x = line_.left();
       y = rolls_.center().y();
     }
+    if (!allWords && x + ring > end) break;
     const QRectF circle(x, y - ring / 2, ring, ring);
     painter.setPen(QPen(done ? kWonTone : next ? kGoldTone : kCaptionTone, 1.5));
     painter.setBrush(next ? kGoldTone : QColor(Qt::transparent));
