@@ -438,8 +438,9 @@ QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& fi
   const double low = figures.firstBar + static_cast<double>(bar) * figures.barWidth;
   const auto count = [&](std::size_t system) {
     const SystemFigures& shown = figures.systems[system];
-    return QCoreApplication::translate("Laboratory", "%1 sessions (%2)", nullptr, PluralOf(shown.bars[bar]))
-        .arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
+    const auto sessions = shown.bars[bar];
+    return QCoreApplication::translate("Laboratory", "%1 sessions (%2)", nullptr, PluralOf(sessions))
+        .arg(LabCount(sessions), LabShare(sessions, shown.sessions));
   };
   QString text = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2: A %3"))
                      .arg(LabMoney(low), LabMoney(low + figures.barWidth), count(look.a));

@@ -27,6 +27,8 @@ constexpr int kShortHistory = 12;
 constexpr int kFewRolls = 6;  // beside a note where there isn't room for more
 constexpr double kCellGap = 3;
 constexpr double kNoteRoom = 240;
+constexpr double kStepGap = 20;   // between two steps of the guide
+constexpr int kButtonEdges = 20;  // beside a button's text
 
 double Wide(const QFont& font, const QString& text) { return QFontMetricsF(font).horizontalAdvance(text); }
 
@@ -208,6 +210,12 @@ void Board::StartGuide() {
   update();
 }
 
+bool Board::AsksAbove() const {
+  const QFont letters = Sized(font(), measures_.compact ? 10 : 12.5);
+  const double answers = Wide(letters, ask_->text()) + Wide(letters, keep_->text()) + 2 * kButtonEdges + 8;
+  return Wide(letters, tr("When a bet wins:")) + 10 + answers > rolls_.width();
+}
+
 void Board::ShowGuide() {
   const GuideStep step = guiding_ ? NextGuideStep(game_) : GuideStep::kDone;
   const bool asks = step == GuideStep::kAskWins;
@@ -218,10 +226,10 @@ void Board::ShowGuide() {
   const double rowHeight = asks ? rolls_.height() + 4 : std::min(24.0, height() * 0.5);
   const auto width = [&](QPushButton* button) {
     button->setFont(letters);
-    return static_cast<int>(Wide(letters, button->text())) + 20;
+    return static_cast<int>(Wide(letters, button->text())) + kButtonEdges;
   };
   if (asks) {
-    double x = rolls_.left() + Wide(letters, tr("When a bet wins:")) + 10;
+    double x = rolls_.left() + (AsksAbove() ? 0 : Wide(letters, tr("When a bet wins:")) + 10);
     for (QPushButton* button : {ask_, keep_}) {
       const int wide = width(button);
       button->setGeometry(static_cast<int>(x), static_cast<int>(rolls_.top() - 2), wide,
@@ -254,9 +262,11 @@ void Board::paintEvent(QPaintEvent*) {
     PaintSteps(painter);
     return;
   }
-  PaintResult(painter);
-  if (step == GuideStep::kAskWins) {
-    Writer(painter, rolls_)
+  const bool asks = step == GuideStep::kAskWins;
+  const bool above = asks && AsksAbove();
+  if (!above) PaintResult(painter);
+  if (asks) {
+    Writer(painter, above ? line_ : rolls_)
         .Write(Sized(font(), measures_.compact ? 10 : 12.5), Qt::white, tr("When a bet wins:"));
   } else {
     PaintHistory(painter);
@@ -449,7 +459,8 @@ void Board::PaintHand(QPainter& painter) const {
                    Qt::AlignRight | Qt::AlignVCenter, HandLine());
 }
 
-// Side by side where there is room, in two rows otherwise. What is done has a tick.
+// Side by side where there is room, in two rows otherwise; where that isn't enough the next one alone has its
+// words. What is done has a tick.
 void Board::PaintSteps(QPainter& painter) const {
   const GuideStep now = NextGuideStep(game_);
   const double end = skip_->geometry().left() - 12.0;
@@ -457,20 +468,22 @@ void Board::PaintSteps(QPainter& painter) const {
   const QFont plain = Sized(font(), letters);
   const QFont bold = Sized(font(), letters, true);
   const double ring = letters + 7;
-  double whole = 0;
-  for (int n = 0; n < 3; ++n) whole += ring + 6 + Wide(bold, GuideText(static_cast<GuideStep>(n))) + 20;
-  const bool oneRow = line_.left() + whole - 20 <= end;
+  double wide[3];
+  for (int n = 0; n < 3; ++n) wide[n] = ring + 6 + Wide(bold, GuideText(static_cast<GuideStep>(n)));
+  const double room = end - line_.left();
+  const bool oneRow = wide[0] + wide[1] + wide[2] + 2 * kStepGap <= room;
+  const bool allWords = oneRow || std::max(wide[0], wide[1] + kStepGap + wide[2]) <= room;
   double x = line_.left();
-  double y = oneRow ? height() / 2.0 : line_.center().y();
+  double y = oneRow || !allWords ? height() / 2.0 : line_.center().y();
   for (int n = 0; n < 3; ++n) {
     const auto step = static_cast<GuideStep>(n);
     const bool done = step < now;
     const bool next = step == now;
-    const QString text = GuideText(step);
-    if (!oneRow && n == 1) {
+    if (allWords && !oneRow && n == 1) {
       x = line_.left();
       y = rolls_.center().y();
     }
+    if (!allWords && x + ring > end) break;
     const QRectF circle(x, y - ring / 2, ring, ring);
     painter.setPen(QPen(done ? kWonTone : next ? kGoldTone : kCaptionTone, 1.5));
     painter.setBrush(next ? kGoldTone : QColor(Qt::transparent));
@@ -478,12 +491,13 @@ void Board::PaintSteps(QPainter& painter) const {
     painter.setFont(Sized(font(), letters - 2, true));
     painter.setPen(done ? kWonTone : next ? QColor(0x1B, 0x1F, 0x23) : kCaptionTone);
     painter.drawText(circle, Qt::AlignCenter, done ? QStringLiteral("\u2713") : QString::number(n + 1));
+    x += ring + 6;
+    if (!allWords && !next) continue;
     painter.setFont(next ? bold : plain);
     painter.setPen(done ? kWonTone : next ? QColor(Qt::white) : kCaptionTone);
-    x += ring + 6;
     painter.drawText(QRectF(x, y - ring, std::max(0.0, end - x), 2 * ring), Qt::AlignLeft | Qt::AlignVCenter,
-                     text);
-    x += Wide(bold, text) + 20;
+                     GuideText(step));
+    x += wide[n] - ring - 6 + kStepGap;
   }
 }
 

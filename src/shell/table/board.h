@@ -59,6 +59,8 @@ class Board : public QWidget {
   void Place();
   void Retranslate();
   void ShowGuide();
+  // The question of the winnings has its own line, above its answers, where they don't stand side by side.
+  bool AsksAbove() const;
   QString RunText() const;
   QString HandLine() const;
   double HistoryPitch() const;
