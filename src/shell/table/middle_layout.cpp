@@ -235,6 +235,8 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   const auto line = [&](const char* text, double top) {
     area->Labels.push_back(
         LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 12)));
+    for (const auto& [whole, shorter] : kShorterNames)
+      if (whole == text) area->Labels.back().Shorter = {QString(shorter)};
   };
   line(special.label, 1.5);
   if (special.second != nullptr) line(special.second, 13.4);

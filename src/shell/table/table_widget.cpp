@@ -169,8 +169,11 @@ void TableWidget::Refresh() {
   }
   if (!(now == shown_)) mapStale_ = true;
   shown_ = now;
+  // Behind a run, or in another game, it lies there at once.
   const int before = std::exchange(shownPoint_, table.Point);
-  if (before != table.Point && MayMove()) motion_.MovePuck(before);
+  const std::int64_t throws = Throws(game_.stats);
+  const std::int64_t rolled = throws - std::exchange(shownThrows_, throws);
+  if (before != table.Point && (rolled == 0 || rolled == 1) && MayMove()) motion_.MovePuck(before);
   BetInHand& hand = commands_.Moving;
   if (hand.Seat != table.SelectedSeat || table.BetAmount(hand.Seat, hand.Bet) == kZero) hand = {};
   ShowHeld();

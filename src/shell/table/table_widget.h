@@ -142,7 +142,8 @@ class TableWidget : public QWidget {
   bool mapStale_ = true;
   TableMotion motion_{scene, *this};
   int shownPoint_ = 0;
-  bool fitted_ = true;  // shows the whole table until the user chooses a view
+  std::int64_t shownThrows_ = 0;  // of the table when it was shown last
+  bool fitted_ = true;            // shows the whole table until the user chooses a view
   // What the map was made for, beside the view.
   struct Shown {
     int selected = 0;
