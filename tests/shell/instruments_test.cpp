@@ -38,7 +38,7 @@ struct InstrumentTable : ScreenTable {
     for (const int seat : {1, 3}) {
       Join(seat, seat == 1 ? "Ada" : "Bo");
       State().seats[seat].handling.WinHandling = State().seats[seat].handling.LoseHandling = 2;
-      for (const int bet : {kPassLine, kField, kPlace4 + 2}) Bet(seat, bet, "6");
+      for (const int bet : std::initializer_list<int>{kPassLine, kField, kPlace4 + 2}) Bet(seat, bet, "6");
     }
     for (int roll = 0; roll < 40; ++roll) Roll(1 + roll % 6, 1 + roll / 3 % 6);
   }
@@ -74,7 +74,9 @@ void ExpectPages(const QString& path, const QString& first, QSizeF points) {
   const QSizeF is(size.captured(1).toDouble(), size.captured(2).toDouble());
   EXPECT_NEAR(std::min(is.width(), is.height()), points.width(), 1.5) << path.toStdString();
   EXPECT_NEAR(std::max(is.width(), is.height()), points.height(), 1.5) << path.toStdString();
-  const QStringList pages = Output("pdftotext", {"-layout", path, "-"}).split('\f', Qt::SkipEmptyParts);
+  const QStringList pages = Output("pdftotext", {"-layout", path, "-"})
+                                .normalized(QString::NormalizationForm_KC)  // letters that stand as one
+                                .split('\f', Qt::SkipEmptyParts);
   ASSERT_EQ(pages.size(), count) << path.toStdString();
   EXPECT_TRUE(pages[0].simplified().contains(first.simplified())) << path.toStdString();
   for (int page = 0; page < count; ++page)
@@ -125,21 +127,22 @@ TEST(Instruments, EachIsOnEveryPaperAndInEveryFileAndFailuresAreTold) {
       EXPECT_TRUE(
           QSvgRenderer(table.Written(tool, "mnuExportSvg", table.folder.filePath(name + ".svg"))).isValid());
     }
-    // A full disk, and a folder that takes nothing.
-    const QString full = table.folder.filePath(name + "-full");
-    ASSERT_TRUE(QFile::link("/dev/full", full));
-    for (const char* action : {"mnuExport", "mnuExportPng", "mnuExportSvg", "mnuPdf"}) {
-      if (!tool.findChild<QAction*>(action)->isEnabled()) continue;
-      if (action == std::string("mnuExport") ? !some : action != std::string("mnuPdf") && !tool.HasPicture())
-        continue;
-      if (name == "frmCheckStacks" && action == std::string("mnuPdf")) continue;  // asks which ones before
+    // A full disk, and a folder that takes nothing. Two ask other things before they print.
+    const bool asks = name == "frmCheckStacks" || name == "frmDiceRollFiles";
+    const std::tuple<const char*, const char*, bool> kinds[] = {{"mnuExport", ".csv", some},
+                                                                {"mnuExportPng", ".png", tool.HasPicture()},
+                                                                {"mnuExportSvg", ".svg", tool.HasPicture()},
+                                                                {"mnuPdf", ".pdf", !asks}};
+    for (const auto& [action, ending, offered] : kinds) {
+      if (!offered) continue;
+      const QString full = table.folder.filePath(name + "-full" + ending);
+      ASSERT_TRUE(QFile::link("/dev/full", full));
       table.host.answers.Yes();  // to write over it
       table.host.answers.Ok();
       table.Written(tool, action, full);
       EXPECT_TRUE(table.host.answers.Empty()) << name.toStdString() << " " << action;
       table.host.answers.Ok();
-      QueuedFileNames() = {"/proc/none"};
-      tool.findChild<QAction*>(action)->trigger();
+      table.Written(tool, action, "/proc/none");
       EXPECT_TRUE(table.host.answers.Empty()) << name.toStdString() << " " << action;
     }
     ShowTool(table.desk, row.number, false);
@@ -193,7 +196,7 @@ struct Monkey {
                                  Qt::Key_Right,  Qt::Key_Home,   Qt::Key_End,   Qt::Key_PageUp, Qt::Key_PageDown,
                                  Qt::Key_Delete, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Plus,  Qt::Key_F2,
                                  Qt::Key_Z,      Qt::Key_A,      Qt::Key_V,     Qt::Key_X,     Qt::Key_C};
-    constexpr const char* kTexts[] = {"-1", "1e9", "0.25", "99999999999999", "abc", "7 to 6", "nan", "\303\266", "2.5.1"};
+    constexpr const char* kTexts[] = {"-1", "1e9", "0.25", "99999999999999", "abc", "7 to 6", "nan", "2.5.1"};
     if (act < 55) {
       QTest::mouseClick(part, act < 50 ? Qt::LeftButton : Qt::RightButton, {}, at);
     } else if (act < 62) {

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "dice/probability_edit.h"
+#include "shell/screens/hatching.h"
 
 namespace tessaryn {
 
@@ -108,9 +109,10 @@ void PaintTotals(QPainter& painter, const QRectF& area, const PercentageDice& di
     const double points = ProbabilityFromFair(dice, kTotalRow, column) / kPoints;
     painter.fillRect(bar(now[kTotalRow][column], 0.1), ink.bar);
     painter.setPen(ink.second);
-    painter.setBrush(QBrush(ink.second, Qt::BDiagPattern));
-    painter.drawRect(bar(fair[kTotalRow][column], 0.5));
     painter.setBrush(Qt::NoBrush);
+    const QRectF hatched = bar(fair[kTotalRow][column], 0.5);
+    painter.drawRect(hatched);
+    PaintHatching(painter, hatched, ink.second);
     painter.setPen(ink.text);
     painter.setFont(Sized(painter, line * 0.9, true));
     painter.drawText(QRectF(left, foot + 1, step, line), Qt::AlignCenter, QString::number(column + 1));

@@ -9,6 +9,8 @@
 #include <cmath>
 #include <tuple>
 
+#include "shell/screens/hatching.h"
+
 namespace tessaryn {
 
 namespace {
@@ -66,9 +68,10 @@ void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& char
     const double fair = room * FairShare(total) / most;
     painter.fillRect(actual, bar);
     painter.setPen(second);
-    painter.setBrush(QBrush(second, Qt::BDiagPattern));
-    painter.drawRect(QRectF(left + step * 0.52, foot - fair, step * 0.36, fair));
     painter.setBrush(Qt::NoBrush);
+    const QRectF hatched(left + step * 0.52, foot - fair, step * 0.36, fair);
+    painter.drawRect(hatched);
+    PaintHatching(painter, hatched, second);
     painter.setPen(text);
     if (const int far = FarFromFair(chart.totals, total); far != 0)
       painter.drawText(QRectF(left, std::min(actual.top(), foot - fair) - kLabelLine, step, kLabelLine),
