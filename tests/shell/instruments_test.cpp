@@ -121,8 +121,8 @@ TEST(Instruments, EachIsOnEveryPaperAndInEveryFileAndFailuresAreTold) {
       EXPECT_GE(csv.count('\n'), rows.size()) << name.toStdString();
     }
     if (tool.HasPicture()) {
-      EXPECT_FALSE(
-          QImage::fromData(table.Written(tool, "mnuExportPng", table.folder.filePath(name + ".png"))).isNull());
+      EXPECT_FALSE(QImage::fromData(table.Written(tool, "mnuExportPng", table.folder.filePath(name + ".png")))
+                       .isNull());
       EXPECT_TRUE(
           QSvgRenderer(table.Written(tool, "mnuExportSvg", table.folder.filePath(name + ".svg"))).isValid());
     }
@@ -191,10 +191,11 @@ struct Monkey {
     QPointer<QWidget> part = parts[Upto(static_cast<int>(parts.size()))];
     const QPoint at(Upto(part->width()), Upto(part->height()));
     const int act = Upto(100);
-    constexpr Qt::Key kKeys[] = {Qt::Key_Return, Qt::Key_Tab,    Qt::Key_Up,    Qt::Key_Down,  Qt::Key_Left,
-                                 Qt::Key_Right,  Qt::Key_Home,   Qt::Key_End,   Qt::Key_PageUp, Qt::Key_PageDown,
-                                 Qt::Key_Delete, Qt::Key_Escape, Qt::Key_Space, Qt::Key_Plus,  Qt::Key_F2,
-                                 Qt::Key_Z,      Qt::Key_A,      Qt::Key_V,     Qt::Key_X,     Qt::Key_C};
+    constexpr Qt::Key kKeys[] = {Qt::Key_Return, Qt::Key_Tab,      Qt::Key_Up,     Qt::Key_Down,
+                                 Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Home,   Qt::Key_End,
+                                 Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Delete, Qt::Key_Escape,
+                                 Qt::Key_Space,  Qt::Key_Plus,     Qt::Key_F2,     Qt::Key_Z,
+                                 Qt::Key_A,      Qt::Key_V,        Qt::Key_X,      Qt::Key_C};
     constexpr const char* kTexts[] = {"-1", "1e9", "0.25", "99999999999999", "abc", "7 to 6", "nan", "2.5.1"};
     if (act < 55) {
       QTest::mouseClick(part, act < 50 ? Qt::LeftButton : Qt::RightButton, {}, at);
