@@ -17,11 +17,13 @@ namespace {
 struct Docked {
   int number;
   Qt::DockWidgetArea side;
+  bool wideOnly = false;  // there is room for it in a large window only
 };
 constexpr Docked kWatch[] = {{kBankrollWindow, Qt::RightDockWidgetArea},
                              {kRollTotalsWindow, Qt::RightDockWidgetArea},
                              {kBetResultsWindow, Qt::RightDockWidgetArea},
-                             {kEventsLogWindow, Qt::BottomDockWidgetArea}};
+                             {kEventsLogWindow, Qt::BottomDockWidgetArea},
+                             {kHandsWindow, Qt::BottomDockWidgetArea, true}};
 constexpr Docked kStudy[] = {{kSummaryWindow, Qt::RightDockWidgetArea},
                              {kBetTrendsWindow, Qt::RightDockWidgetArea},
                              {kSessionsWindow, Qt::BottomDockWidgetArea},
@@ -73,7 +75,8 @@ void Arrange(Desk& desk, const Layout& layout) {
     ShowTool(desk, number, false);
     FloatTool(desk, number);
   });
-  for (const Docked& row : layout.docked) DockTool(desk, row.number, row.side);
+  for (const Docked& row : layout.docked)
+    if (!row.wideOnly || desk.window->width() >= kWide) DockTool(desk, row.number, row.side);
   ShareRoom(desk, layout.docked);
   desk.table->setFocus();
 }
