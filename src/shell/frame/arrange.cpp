@@ -66,7 +66,11 @@ void ShareRoom(Desk& desk, std::span<const Docked> docked) {
     desk.docks->resizeDocks(
         right, QList<int>(right.size(), desk.docks->height() / static_cast<int>(right.size())), Qt::Vertical);
   }
-  if (!below.isEmpty()) desk.docks->resizeDocks(below, QList<int>(below.size(), size.height()), Qt::Vertical);
+  if (below.isEmpty()) return;
+  desk.docks->resizeDocks(below, QList<int>(below.size(), size.height()), Qt::Vertical);
+  const int wide = desk.docks->width() - (right.isEmpty() ? 0 : size.width());
+  desk.docks->resizeDocks(below, QList<int>(below.size(), wide / static_cast<int>(below.size())),
+                          Qt::Horizontal);
 }
 
 void Arrange(Desk& desk, const Layout& layout) {
