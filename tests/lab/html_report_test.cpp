@@ -166,7 +166,7 @@ TEST(LabGrid, TheMapFramesTheBestByWhatSystemsAreRankedBy) {
   for (LabSystem& system : experiment.systems)
     system.lines = {"if passline = 0 then bet cs1 on passline endif",
                     "if field = 0 then bet cs2 on field endif"};
-  LabState state = Played(experiment, 40);
+  LabState state = StateOf(experiment, 40);
   for (const RankBy by : {RankBy::kMean, RankBy::kMedian, RankBy::kRuin}) {
     const std::string page = HtmlReport(state, by);
     ExpectWhole(page);

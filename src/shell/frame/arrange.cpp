@@ -17,11 +17,13 @@ namespace {
 struct Docked {
   int number;
   Qt::DockWidgetArea side;
+  bool wideOnly = false;  // there is room for it in a large window only
 };
 constexpr Docked kWatch[] = {{kBankrollWindow, Qt::RightDockWidgetArea},
                              {kRollTotalsWindow, Qt::RightDockWidgetArea},
                              {kBetResultsWindow, Qt::RightDockWidgetArea},
-                             {kEventsLogWindow, Qt::BottomDockWidgetArea}};
+                             {kEventsLogWindow, Qt::BottomDockWidgetArea},
+                             {kHandsWindow, Qt::BottomDockWidgetArea, true}};
 constexpr Docked kStudy[] = {{kSummaryWindow, Qt::RightDockWidgetArea},
                              {kBetTrendsWindow, Qt::RightDockWidgetArea},
                              {kSessionsWindow, Qt::BottomDockWidgetArea},
@@ -64,7 +66,11 @@ void ShareRoom(Desk& desk, std::span<const Docked> docked) {
     desk.docks->resizeDocks(
         right, QList<int>(right.size(), desk.docks->height() / static_cast<int>(right.size())), Qt::Vertical);
   }
-  if (!below.isEmpty()) desk.docks->resizeDocks(below, QList<int>(below.size(), size.height()), Qt::Vertical);
+  if (below.isEmpty()) return;
+  desk.docks->resizeDocks(below, QList<int>(below.size(), size.height()), Qt::Vertical);
+  const int wide = desk.docks->width() - (right.isEmpty() ? 0 : size.width());
+  desk.docks->resizeDocks(below, QList<int>(below.size(), wide / static_cast<int>(below.size())),
+                          Qt::Horizontal);
 }
 
 void Arrange(Desk& desk, const Layout& layout) {
@@ -73,7 +79,8 @@ void Arrange(Desk& desk, const Layout& layout) {
     ShowTool(desk, number, false);
     FloatTool(desk, number);
   });
-  for (const Docked& row : layout.docked) DockTool(desk, row.number, row.side);
+  for (const Docked& row : layout.docked)
+    if (!row.wideOnly || desk.window->width() >= kWide) DockTool(desk, row.number, row.side);
   ShareRoom(desk, layout.docked);
   desk.table->setFocus();
 }

@@ -151,7 +151,7 @@ void PagePainter::FitColumns() {
   if (columns_.empty()) return;
   const auto gaps = static_cast<double>(columns_.size() - 1);
   std::vector<double> widths;
-  for (const Column& column : columns_) widths.push_back(column.width + 1);
+  for (const Column& column : columns_) widths.push_back(column.width + 2);
   const double room = page_.width() - kGap * gaps;
   if (Total(widths) > room) {
     double share = std::max(room / Total(widths), kLeastSize / kTableSize);
@@ -168,7 +168,7 @@ void PagePainter::FitColumns() {
     size_ = kTableSize * share;
     line_ = Metrics(RowFont(false)).height() + 3;
   }
-  for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].width = widths[c] + (wraps_ ? 0 : 1);
+  for (std::size_t c = 0; c < columns_.size(); ++c) columns_[c].width = widths[c];
 }
 
 double PagePainter::CellWidth(const QStringList& row, qsizetype column) const {
@@ -292,11 +292,13 @@ bool WantsLandscape(const PrintJob& job, const QPrinter& printer) {
   const QSizeF room = printer.pageRect(QPrinter::DevicePixel).size();
   if (room.width() > room.height()) return true;
   if (job.rows->Count() == 0) return job.picture && job.pictureSize.width() > job.pictureSize.height();
-  const QFontMetricsF metrics = Metrics(Letters(kTableSize));
+  const QFontMetricsF plain = Metrics(Letters(kTableSize));
+  const QFontMetricsF bold = Metrics(Letters(kTableSize, true));
   double widest = 0;
   for (qint64 n = 0; n < std::min(job.rows->Count(), kMeasuredWhole); ++n) {
     double width = -kGap;
-    for (const QString& text : job.rows->Row(n)) width += metrics.horizontalAdvance(text) + kGap;
+    for (const QString& text : job.rows->Row(n))
+      width += (n == 0 ? bold : plain).horizontalAdvance(text) + kGap;
     if (job.rows->Row(n).size() > 1) widest = std::max(widest, width);
   }
   return widest > room.width();

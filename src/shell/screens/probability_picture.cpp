@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "dice/probability_edit.h"
+#include "shell/screens/hatching.h"
 
 namespace tessaryn {
 
@@ -108,9 +109,10 @@ void PaintTotals(QPainter& painter, const QRectF& area, const PercentageDice& di
     const double points = ProbabilityFromFair(dice, kTotalRow, column) / kPoints;
     painter.fillRect(bar(now[kTotalRow][column], 0.1), ink.bar);
     painter.setPen(ink.second);
-    painter.setBrush(QBrush(ink.second, Qt::BDiagPattern));
-    painter.drawRect(bar(fair[kTotalRow][column], 0.5));
     painter.setBrush(Qt::NoBrush);
+    const QRectF hatched = bar(fair[kTotalRow][column], 0.5);
+    painter.drawRect(hatched);
+    PaintHatching(painter, hatched, ink.second);
     painter.setPen(ink.text);
     painter.setFont(Sized(painter, line * 0.9, true));
     painter.drawText(QRectF(left, foot + 1, step, line), Qt::AlignCenter, QString::number(column + 1));
@@ -140,12 +142,14 @@ void PaintProbabilityPicture(QPainter& painter, const QRectF& area, const Percen
   const QRectF second(inside.bottomRight() - QPointF(part.width(), part.height()), part);
   const auto heading = [&](const QRectF& where, const QString& text) {
     painter.setPen(ink.text);
-    // A long one in smaller letters.
+    // A long one in smaller letters, then in thinner ones.
+    const auto isLong = [&] { return painter.fontMetrics().horizontalAdvance(text) > where.width(); };
     double size = 12.5;
     do painter.setFont(Sized(painter, size, true));
-    while ((size -= 0.5) >= 10 && painter.fontMetrics().horizontalAdvance(text) > where.width());
+    while ((size -= 0.5) >= 10 && isLong());
+    if (isLong()) painter.setFont(Sized(painter, 10));
     painter.drawText(QRectF(where.left(), where.top(), where.width(), line), Qt::AlignLeft | Qt::AlignVCenter,
-                     text);
+                     painter.fontMetrics().elidedText(text, Qt::ElideRight, static_cast<int>(where.width())));
   };
   heading(first,
           Words(QT_TRANSLATE_NOOP("ProbabilityPicture", "Die 1 down, die 2 across: % points from fair")));

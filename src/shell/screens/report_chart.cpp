@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "shell/screens/hatching.h"
 #include "shell/screens/report_selection.h"
 #include "shell/screens/report_view.h"
 #include "shell/table/screen_tools.h"
@@ -157,17 +158,7 @@ void PaintProbable(QPainter& painter, const Frame& frame, const QRectF& bar) {
   painter.setPen(QPen(frame.ink, 0.8));
   painter.setBrush(Qt::NoBrush);
   painter.drawRect(bar);
-  painter.save();
-  painter.setClipRect(bar);
-  // Diagonals are even as they are, and drawn many times as fast.
-  painter.setRenderHint(QPainter::Antialiasing, false);
-  constexpr double kHatch = 5;
-  painter.setPen(QPen(Mixed(frame.look.background, frame.ink, 0.55), 0.8));
-  QList<QLineF> lines;
-  for (double x = bar.left() - bar.height(); x < bar.right(); x += kHatch)
-    lines.append({x, bar.bottom(), x + bar.height(), bar.top()});
-  painter.drawLines(lines);
-  painter.restore();
+  PaintHatching(painter, bar, Mixed(frame.look.background, frame.ink, 0.55));
 }
 
 void PaintBars(QPainter& painter, const Frame& frame) {

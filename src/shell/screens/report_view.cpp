@@ -26,7 +26,7 @@ constexpr int kMostExtra = 120;  // between a label and its figures, of the room
 constexpr int kRowGap = 4;
 constexpr int kLeastTarget = 24;  // of what is clicked
 constexpr int kEdge = 4;
-constexpr int kTextMargin = 3;  // as the style has it
+constexpr int kTextMargin = 3;     // as the style has it
 constexpr double kSignSize = 0.6;  // of the letters' height
 
 int SignWidth(const QFontMetrics& metrics) { return static_cast<int>(metrics.ascent() * kSignSize) + kEdge; }

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "shell/screens/hatching.h"
 #include "shell/table/number_habit.h"
 
 namespace tessaryn {
@@ -67,9 +68,10 @@ void PaintRollChart(QPainter& painter, const QRectF& area, const RollChart& char
     const double fair = room * FairShare(total) / most;
     painter.fillRect(actual, bar);
     painter.setPen(second);
-    painter.setBrush(QBrush(second, Qt::BDiagPattern));
-    painter.drawRect(QRectF(left + step * 0.52, foot - fair, step * 0.36, fair));
     painter.setBrush(Qt::NoBrush);
+    const QRectF hatched(left + step * 0.52, foot - fair, step * 0.36, fair);
+    painter.drawRect(hatched);
+    PaintHatching(painter, hatched, second);
     painter.setPen(text);
     if (const int far = FarFromFair(chart.totals, total); far != 0)
       painter.drawText(QRectF(left, std::min(actual.top(), foot - fair) - kLabelLine, step, kLabelLine),

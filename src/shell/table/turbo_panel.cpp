@@ -155,7 +155,7 @@ void TurboPanel::Refresh(const Game& game) {
     const Currency change = bankroll - firstBankroll_[seats_[row]];
     bankrolls_[row]->setText(Amount(bankroll));
     changes_[row]->setText((change > kZero ? "+" : "") + Amount(change));
-    const QColor ink = change == kZero ? palette().color(QPalette::WindowText)
+    const QColor ink = change == kZero  ? palette().color(QPalette::WindowText)
                        : change > kZero ? kWon
                                         : kLost;
     QPalette colours = changes_[row]->palette();

@@ -2,8 +2,8 @@
 #pragma once
 
 #include <QElapsedTimer>
-#include <QPixmap>
 #include <QList>
+#include <QPixmap>
 #include <QWidget>
 #include <cstdint>
 
