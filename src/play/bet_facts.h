@@ -17,9 +17,12 @@ struct Game;
 // pattern is English and of a lifetime without end; no pattern: nothing to tell.
 struct FactValue;
 struct FactText {
-  const char* pattern = "";
-  std::vector<FactValue> values = {};
+  const char* pattern;
+  std::vector<FactValue> values;
 
+  // Made below, where a value is known: what a list does with its elements needs them whole.
+  FactText(const char* words = "");
+  FactText(const char* words, std::vector<FactValue> inHoles);
   bool Empty() const { return *pattern == '\0'; }
 };
 // A value, or words of their own.
@@ -31,6 +34,9 @@ struct FactValue {
   MessageValue plain;
   FactText words;  // instead of the value, if there are any
 };
+inline FactText::FactText(const char* words) : pattern(words) {}
+inline FactText::FactText(const char* words, std::vector<FactValue> inHoles)
+    : pattern(words), values(std::move(inHoles)) {}
 
 // How often the next roll decides a bet that works, in 36ths of all there is.
 struct RollChances {
