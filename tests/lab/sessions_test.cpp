@@ -317,8 +317,6 @@ TEST(LabSession, BoundsHoldTheTruthAsOftenAsTheySay) {
   }
   for (const int times : held) {
     EXPECT_NEAR(times, 0.95 * experiments, 4 * std::sqrt(0.95 * 0.05 * experiments));
-    RecordProperty("held", times);
-    std::printf("%d of %d\n", times, experiments);
   }
 }
 
