@@ -124,11 +124,10 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
   const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
-  // In pieces: of many kilobytes at once the C library makes string instructions, which are slower here.
-  constexpr std::size_t kPiece = 25;
+  // Of a graph that was empty, and of which nobody else is.
   if (fresh.PlotPoints == 0)
-    for (std::size_t row = 0; row < rows; row += kPiece)
-      std::memset(static_cast<void*>(&graph.Rows[row]), 0, std::min(kPiece, rows - row) * sizeof(PlotRow));
+    for (std::size_t row = 0; row < rows; ++row)
+      graph.Rows[row].cells[0] = graph.Rows[row].cells[kSeat] = kZero;
   else
     std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
@@ -322,8 +321,8 @@ void TakeNoNewBets(Game& game) {
   handling.AutoTakeOdds = handling.AutoLayOdds = handling.AutoDownPlace = false;
 }
 
-void NoteTouched(LabTable& table) {
-  if ((table.game->table.SeatsSinceBefore & 1u << kSeat) == 0) return;
+inline void NoteTouched(LabTable& table) {
+  if (table.game->table.SeatsSinceBefore == 0) return;
   const SeatState& seat = table.game->table.seats[kSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;

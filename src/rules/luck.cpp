@@ -327,19 +327,23 @@ namespace {
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
 }
 
-void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
+// What more there is to it where the meter goes by smaller parts than the plan.
+[[gnu::noinline]] void AddInSmallerParts(SeatLuck& luck, const LuckPlan& plan, std::size_t outcome,
+                                         std::int64_t parts) {
+  luck.luck += plan.luck[outcome] * (parts - 1);
+  luck.expected += plan.expected * (parts - 1);
+}
+
+inline void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
   const LuckPlan& plan = *meter.riding[seat];
   SeatLuck& luck = meter.seats[seat];
-  if (meter.unit == plan.unit) [[likely]] {
-    luck.luck += plan.luck[outcome];
-    luck.expected += plan.expected;
-  } else {
-    luck.luck += plan.luck[outcome] * (meter.unit / plan.unit);
-    luck.expected += plan.expected * (meter.unit / plan.unit);
-  }
+  luck.luck += plan.luck[outcome];
+  luck.expected += plan.expected;
   luck.variance += plan.variance;
   luck.value = plan.after[outcome];
   ++luck.rolls;
+  if (meter.unit != plan.unit) [[unlikely]]
+    AddInSmallerParts(luck, plan, outcome, meter.unit / plan.unit);
 }
 
 [[gnu::noinline]] void AddRollOfSeats(LuckMeter& meter, std::size_t outcome) {
