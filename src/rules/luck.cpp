@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kPlans = 256;  // a power of two
 constexpr int kStandsNowhere = -1;
+constexpr int kFirstSeat = 1;
 
 // --- What plans are made from.
 
@@ -221,7 +222,7 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
 
 // Whether the plan of the last roll with this point is right, where rules stand: the common case, at a
 // glance.
-bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
+inline bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
   const BetSet working = WorkingBets(state);
@@ -346,6 +347,19 @@ inline void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
     AddInSmallerParts(luck, plan, outcome, meter.unit / plan.unit);
 }
 
+// Where nobody but seat 1 is at the table, mostly it rides with what it rode with when this point was last
+// on.
+inline bool RidesAlone(LuckMeter& meter, const Game& game) {
+  const TableState& table = game.table;
+  if (!meter.rulesStand || meter.dice.percentage || table.OccupiedSeats != 1) return false;
+  const LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
+  if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
+  meter.riding[kFirstSeat] = &plan;
+  meter.ridingSeats = 1u << kFirstSeat;
+  meter.standsAt = table.Point;
+  return true;
+}
+
 [[gnu::noinline]] void AddRollOfSeats(LuckMeter& meter, std::size_t outcome) {
   for (std::uint32_t seats = meter.ridingSeats; seats != 0; seats &= seats - 1)
     AddRoll(meter, std::countr_zero(seats), outcome);
@@ -358,9 +372,9 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = Throws(game.stats);
   // Mostly the last roll has left all as it was: no bet has been touched since, and no call.
   if (meter.standsAt == table.Point && table.SeatsSinceBefore == 0 && !table.CallsTouched &&
-      !game.percentage.PercentageDiceActive) [[likely]]
+      !game.percentage.PercentageDiceActive)
     return;
-  RideAnew(meter, game);
+  if (game.percentage.PercentageDiceActive || !RidesAlone(meter, game)) RideAnew(meter, game);
 }
 
 void LuckAfterRoll(LuckMeter& meter, const Game& game) {
@@ -368,9 +382,8 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = -1;
   if (!thrown) return;
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  constexpr std::uint32_t kFirstSeat = 1u << 1;
-  if (meter.ridingSeats == kFirstSeat) [[likely]]
-    AddRoll(meter, 1, outcome);
+  if (meter.ridingSeats == 1u << kFirstSeat) [[likely]]
+    AddRoll(meter, kFirstSeat, outcome);
   else
     AddRollOfSeats(meter, outcome);
 }
