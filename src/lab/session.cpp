@@ -104,6 +104,13 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
   });
 }
 
+// Of a table by slot: the house's and the player's.
+template <typename T>
+void ResetSlots(T (&slots)[kSlots], const T (&fresh)[kSlots]) {
+  for (int scope = 0; scope < kScopes; ++scope)
+    for (int seat = 0; seat <= kSeat; ++seat) ResetPart(slots[Slot(scope, seat)], fresh[Slot(scope, seat)]);
+}
+
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
   const auto resetBet = [&](int bet) {
     std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
@@ -118,7 +125,11 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
-    if constexpr (!kDone) ResetPart(stats.*member, fresh.*member);
+    using Member = std::remove_reference_t<decltype(stats.*member)>;
+    if constexpr (std::extent_v<Member> == kSlots)
+      ResetSlots(stats.*member, fresh.*member);
+    else if constexpr (!kDone)
+      ResetPart(stats.*member, fresh.*member);
   });
 }
 
