@@ -148,7 +148,7 @@ double EdgeOf(const Game& game, int bet) {
 
 // Net less luck, less what the analysis gives for the bets decided: of mean 0, where hands are played out.
 TEST(LabProofs, TheMeanIsTheEdgeTimesTheHandleForEveryBet) {
-  const std::int64_t sessions = AtFullLength() ? 100'000 : 1'000;
+  const std::int64_t sessions = AtFullLength() ? 20'000 : 1'000;
   for (int bet = 1; bet <= kBets; ++bet)
     for (const bool byHands : {false, true}) {
       SCOPED_TRACE(std::string(BetName(bet)) + (byHands ? " by hands" : " by rolls"));
