@@ -3,6 +3,7 @@
 # likewise, but once for all of them, so that linking takes seconds.
 function(add_core_library name)
   add_library(${name} STATIC ${CORE_SOURCES})
+  compile_by_folders(${name} 6 ${CORE_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(${name} PUBLIC Threads::Threads ${CMAKE_DL_LIBS})
   set(objects $<TARGET_OBJECTS:${name}>)
@@ -25,6 +26,7 @@ endfunction()
 # type, as object files; null and misaligned pointers are the address sanitizer's to find.
 function(add_checked_core name)
   add_library(${name} OBJECT ${CORE_SOURCES})
+  compile_by_folders(${name} 6 ${CORE_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_compile_options(${name} PRIVATE -UNDEBUG -O1 -g1 -fno-omit-frame-pointer
     -fsanitize=address,undefined -fno-sanitize=null,alignment,vptr,object-size -fno-sanitize-recover=all)

@@ -9,7 +9,8 @@ foreach(source ${FUZZ_SOURCES})
 endforeach()
 # The core itself tells the fuzzer which of its branches an input took.
 target_compile_options(tessaryn_core PRIVATE -fsanitize=fuzzer-no-link)
-# The commands of play are the command-line program's own.
-list(REMOVE_ITEM CLI_SOURCES ${CMAKE_SOURCE_DIR}/src/cli/main.cpp)
-target_sources(fuzz_play PRIVATE ${CLI_SOURCES})
-target_link_libraries(fuzz_play PRIVATE CLI11::CLI11 nlohmann_json::nlohmann_json PkgConfig::READLINE)
+# The commands of play and the language server are the command-line program's own.
+foreach(name fuzz_play fuzz_lsp)
+  target_sources(${name} PRIVATE ${CLI_SOURCES})
+  target_link_libraries(${name} PRIVATE CLI11::CLI11 nlohmann_json::nlohmann_json PkgConfig::READLINE)
+endforeach()

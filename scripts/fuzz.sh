@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
 # Builds the fuzz targets and runs them, side by side, for so many seconds each, from the seeds in fuzz/corpus and
 # what earlier runs found in build/fuzz/corpus. A crash leaves its input there and ends with exit code 1.
-# usage: scripts/fuzz.sh SECONDS [TARGET ...]      targets: compile run prb rol settings game sessions play
+# usage: scripts/fuzz.sh SECONDS [TARGET ...]      targets: compile run prb rol settings game sessions play lsp
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seconds="${1:?usage: scripts/fuzz.sh SECONDS [TARGET ...]}"
 shift
 targets=("$@")
-[ ${#targets[@]} -gt 0 ] || targets=(compile run prb rol settings game sessions play)
+[ ${#targets[@]} -gt 0 ] || targets=(compile run prb rol settings game sessions play lsp)
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz --target "${targets[@]/#/fuzz_}"
 failed=0

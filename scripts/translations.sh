@@ -9,3 +9,6 @@ lupdate=$(command -v lupdate-qt6 || echo "$(qmake6 -query QT_HOST_BINS 2>/dev/nu
 files=()
 for language in "${LANGUAGES[@]}"; do files+=("data/translations/tessaryn_$language.ts"); done
 "$lupdate" -no-obsolete -locations none -source-language en -I src src/shell -ts "${files[@]}" "$@"
+# English has only the forms of what is counted: "1 roll", "2 rolls".
+"$lupdate" -no-obsolete -locations none -source-language en -target-language en_US -pluralonly -I src src/shell \
+  -ts data/translations/tessaryn_en.ts "$@"

@@ -2,6 +2,7 @@
 const vscode = require("vscode");
 const { LanguageClient } = require("vscode-languageclient/node");
 
+/** @type {LanguageClient | undefined} */
 let client;
 
 function activate() {
@@ -9,10 +10,10 @@ function activate() {
   client = new LanguageClient(
     "tessaryn",
     "Auto-Bet",
-    { command: settings.get("program"), args: ["lsp"] },
+    { command: settings.get("program", "tessaryn-cli"), args: ["lsp"] },
     {
       documentSelector: [{ language: "autobet" }],
-      initializationOptions: { players: settings.get("players") },
+      initializationOptions: { players: settings.get("players", []) },
       synchronize: { configurationSection: "tessaryn" },
     }
   );

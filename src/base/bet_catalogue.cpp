@@ -1,7 +1,8 @@
 #include "base/bet_catalogue.h"
 
-#include <cctype>
 #include <charconv>
+
+#include "base/letters.h"
 
 namespace tessaryn {
 namespace {
@@ -9,7 +10,7 @@ namespace {
 std::string Compact(std::string_view text) {
   std::string compact;
   for (const char c : text)
-    if (c != ' ' && c != '\'') compact += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    if (c != ' ' && c != '\'') compact += Lowered(c);
   return compact;
 }
 
@@ -24,12 +25,12 @@ int NumberBehind(std::string_view text, std::string_view prefix) {
 
 }  // namespace
 
-std::string BetName(int bet) {
+std::string BetName(BetId bet) {
   if (IsCheckStack(bet)) return "CheckStack #" + std::to_string(bet - kFirstCheckStack);
   return FactsOf(bet).name;
 }
 
-int BetByName(std::string_view text) {
+BetId BetByName(std::string_view text) {
   const std::string name = Compact(text);
   if (const int number = NumberBehind(name, ""); number >= 0)
     return IsTableBet(number) || IsCheckStack(number) ? number : 0;
@@ -37,14 +38,14 @@ int BetByName(std::string_view text) {
     const int stack = NumberBehind(name, prefix);
     if (stack >= 0) return stack < kCheckStacks ? kFirstCheckStack + stack : 0;
   }
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (name == FactsOf(bet).scriptName || name == Compact(FactsOf(bet).name)) return bet;
   return 0;
 }
 
-int HopBet(int die1, int die2) {
+BetId HopBet(int die1, int die2) {
   const PairSet faces = CombinationBit(die1, die2) | CombinationBit(die2, die1);
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (FamilyOf(bet) == FamilyId::kHop && FactsOf(bet).wins == faces) return bet;
   return 0;
 }

@@ -52,12 +52,12 @@ using PairSet = std::uint64_t;
 
 // Requires its bet's number, so that a row out of its place doesn't compile.
 struct BetFacts {
-  int bet = 0;
+  BetId bet = 0;
   const char* name = "";        // as messages and logs write it
   const char* scriptName = "";  // as the betting language writes it
   FamilyId family = FamilyId::kNone;
   int number = 0;    // the total that it rides on
-  int flat = 0;      // of odds: the bet that they ride behind
+  BetId flat = 0;    // of odds: the bet that they ride behind
   PairSet wins = 0;  // of a bet on one roll: the dice that pay it; the Field's own table tells
   std::array<std::uint8_t, 5> parts{};  // cut into equal shares, these bets
 };
@@ -182,7 +182,7 @@ inline constexpr BetFacts kRows[] = {
 static_assert(std::size(kRows) == kBets + 1, "a bet without its row, or a row without its bet");
 static_assert(
     [] {
-      for (int bet = 1; bet <= kBets; ++bet)
+      for (BetId bet = 1; bet <= kBets; ++bet)
         if (kRows[bet].bet != bet || kRows[bet].family == F::kNone) return false;
       return true;
     }(),
@@ -191,13 +191,13 @@ static_assert(
 // By flat bet.
 inline constexpr auto kOdds = [] {
   std::array<std::uint8_t, kBets + 1> odds{};
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (kRows[bet].flat != 0) odds[kRows[bet].flat] = static_cast<std::uint8_t>(bet);
   return odds;
 }();
 inline constexpr auto kShares = [] {
   std::array<std::uint8_t, kBets + 1> shares{};
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     for (const int part : kRows[bet].parts)
       if (part != 0) ++shares[bet];
     if (shares[bet] == 0) shares[bet] = 1;
@@ -207,7 +207,7 @@ inline constexpr auto kShares = [] {
 
 inline constexpr auto kFamilyOf = [] {
   std::array<FamilyId, kBets + 1> families{};
-  for (int bet = 1; bet <= kBets; ++bet) families[bet] = kRows[bet].family;
+  for (BetId bet = 1; bet <= kBets; ++bet) families[bet] = kRows[bet].family;
   return families;
 }();
 
@@ -217,7 +217,7 @@ struct Span {
 };
 constexpr Span SpanOf(FamilyId family) {
   Span span;
-  for (int bet = kBets; bet >= 1; --bet) {
+  for (BetId bet = kBets; bet >= 1; --bet) {
     if (kRows[bet].family != family) continue;
     if (span.last < 0) span.last = bet;
     span.first = bet;
@@ -228,56 +228,58 @@ constexpr Span SpanOf(FamilyId family) {
 }  // namespace bet_rows
 
 // The facts of bet 1 to 93; those of any other number are empty.
-constexpr const BetFacts& FactsOf(int bet) { return bet_rows::kRows[IsTableBet(bet) ? bet : 0]; }
-constexpr FamilyId FamilyOf(int bet) { return IsTableBet(bet) ? bet_rows::kFamilyOf[bet] : FamilyId::kNone; }
+constexpr const BetFacts& FactsOf(BetId bet) { return bet_rows::kRows[IsTableBet(bet) ? bet : kNoBet]; }
+constexpr FamilyId FamilyOf(BetId bet) {
+  return IsTableBet(bet) ? bet_rows::kFamilyOf[bet] : FamilyId::kNone;
+}
 
 // The bets of a family.
 constexpr BetSet BetsOf(FamilyId family) {
   BetSet set;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (bet_rows::kRows[bet].family == family) set.Add(bet);
   return set;
 }
 
 // Whether a number is a bet of the family; any number may be asked about.
 template <FamilyId kFamily>
-constexpr bool IsOf(int bet) {
+constexpr bool IsOf(BetId bet) {
   constexpr bet_rows::Span kSpan = bet_rows::SpanOf(kFamily);
   static_assert(BetsOf(kFamily) == BetRange(kSpan.first, kSpan.last), "a family's numbers follow each other");
   return bet >= kSpan.first && bet <= kSpan.last;
 }
-constexpr bool IsLay(int bet) { return IsOf<FamilyId::kLay>(bet); }
-constexpr bool IsDontComeNumber(int bet) { return IsOf<FamilyId::kDontComeNumber>(bet); }
-constexpr bool IsDontComeOdds(int bet) { return IsOf<FamilyId::kDontComeOdds>(bet); }
-constexpr bool IsComeNumber(int bet) { return IsOf<FamilyId::kComeNumber>(bet); }
-constexpr bool IsComeOdds(int bet) { return IsOf<FamilyId::kComeOdds>(bet); }
-constexpr bool IsPlace(int bet) { return IsOf<FamilyId::kPlace>(bet); }
-constexpr bool IsBuy(int bet) { return IsOf<FamilyId::kBuy>(bet); }
-constexpr bool HasVig(int bet) { return IsLay(bet) || IsBuy(bet); }
+constexpr bool IsLay(BetId bet) { return IsOf<FamilyId::kLay>(bet); }
+constexpr bool IsDontComeNumber(BetId bet) { return IsOf<FamilyId::kDontComeNumber>(bet); }
+constexpr bool IsDontComeOdds(BetId bet) { return IsOf<FamilyId::kDontComeOdds>(bet); }
+constexpr bool IsComeNumber(BetId bet) { return IsOf<FamilyId::kComeNumber>(bet); }
+constexpr bool IsComeOdds(BetId bet) { return IsOf<FamilyId::kComeOdds>(bet); }
+constexpr bool IsPlace(BetId bet) { return IsOf<FamilyId::kPlace>(bet); }
+constexpr bool IsBuy(BetId bet) { return IsOf<FamilyId::kBuy>(bet); }
+constexpr bool HasVig(BetId bet) { return IsLay(bet) || IsBuy(bet); }
 
 // The flat bet that an odds bet rides behind, and the odds behind a flat bet; 0 for none.
-constexpr int FlatBetOf(int oddsBet) { return FactsOf(oddsBet).flat; }
-constexpr bool IsOdds(int bet) { return FlatBetOf(bet) != 0; }
-constexpr int OddsBetOf(int flatBet) { return IsTableBet(flatBet) ? bet_rows::kOdds[flatBet] : 0; }
+constexpr BetId FlatBetOf(BetId oddsBet) { return FactsOf(oddsBet).flat; }
+constexpr bool IsOdds(BetId bet) { return FlatBetOf(bet) != 0; }
+constexpr BetId OddsBetOf(BetId flatBet) { return IsTableBet(flatBet) ? BetId(bet_rows::kOdds[flatBet]) : kNoBet; }
 
 // The bet of a family of six on a box number.
-constexpr int BetOn(int firstBet, int number) { return firstBet + BoxPosition(number); }
+constexpr BetId BetOn(BetId firstBet, int number) { return firstBet + BoxPosition(number); }
 
 // Into how many equal shares the bet is cut; one of them wins.
-constexpr int SharesOf(int bet) { return IsTableBet(bet) ? bet_rows::kShares[bet] : 1; }
+constexpr int SharesOf(BetId bet) { return IsTableBet(bet) ? bet_rows::kShares[bet] : 1; }
 // The bet as which a share of a cut bet is paid; 0 when no share wins.
-constexpr int WinningPart(int bet, int die1, int die2) {
-  for (const int part : FactsOf(bet).parts)
+constexpr BetId WinningPart(BetId bet, int die1, int die2) {
+  for (const BetId part : FactsOf(bet).parts)
     if ((FactsOf(part).wins & CombinationBit(die1, die2)) != 0) return part;
   return 0;
 }
 
 // The bet's name; "CheckStack #n" for bets 100 up; empty for a number that names nothing.
-std::string BetName(int bet);
+std::string BetName(BetId bet);
 // Bet by number or by its name in the betting language, case and blanks ignored; also "cs5" and
 // "checkstack 5". 0 for neither.
-int BetByName(std::string_view text);
+BetId BetByName(std::string_view text);
 // The hop bet on just two faces 1 to 6, in either order; 0 for none.
-int HopBet(int die1, int die2);
+BetId HopBet(int die1, int die2);
 
 }  // namespace tessaryn

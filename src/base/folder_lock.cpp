@@ -9,6 +9,7 @@
 #include <ctime>
 #include <filesystem>
 
+#include "base/messages.h"
 #include "base/record_file.h"
 #include "base/work_files.h"
 
@@ -74,7 +75,7 @@ Taken Take(FolderLock& lock, const std::string& folder, std::string_view program
     char text[200];
     const ssize_t got = read(descriptor, text, sizeof text);
     holder.assign(text, got > 0 ? static_cast<std::size_t>(got) : 0);
-    if (holder.empty() || !TextProblem(holder).empty()) holder = "another program";
+    if (holder.empty() || !TextProblem(holder).empty()) holder = MessageText<Msg::kAnotherProgram>();
     close(descriptor);
   }
   return taken;
@@ -136,10 +137,10 @@ std::string ClaimDataFolder(FolderLock& lock, std::string& folder, std::string_v
     ClearForsakenFolders(dataFolder, program);
   }
   if (first != Taken::kByAnother) return {};
-  const std::string told = "The data folder " + dataFolder + " is in use by " + holder + ".\r\r";
+  const auto inUse = With<"path">(dataFolder);
   if (!TakeFolderInside(lock, dataFolder, program, folder))
-    return told + "There is no other place for the Events Log and what scripts write.";
-  return told + "This program keeps its Events Log and what scripts write in " + folder + ".";
+    return MessageText<Msg::kFolderInUseNoOther>(inUse, With<"holder">(holder));
+  return MessageText<Msg::kFolderInUse>(inUse, With<"holder">(holder), With<"folder">(folder));
 }
 
 }  // namespace tessaryn

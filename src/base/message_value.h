@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/money.h"
+#include "base/quantities.h"
 
 namespace tessaryn {
 
@@ -24,6 +25,8 @@ struct MessageValue {
   MessageValue(Currency value) : kind(Kind::kMoney), number(value.raw) {}
   template <std::integral T>
   MessageValue(T value) : kind(Kind::kNumber), number(static_cast<std::int64_t>(value)) {}
+  template <typename Kind, typename Number>
+  MessageValue(Id<Kind, Number> value) : MessageValue(value.value) {}
 
   // What a choice in a pattern goes by: an empty text and 0 are nothing.
   bool IsAny() const { return kind == Kind::kText ? !text.empty() : number != 0; }

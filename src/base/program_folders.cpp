@@ -52,8 +52,17 @@ bool PrepareDataFolder(std::string& folder, std::string& error) {
   if (folder.empty()) folder = DefaultDataFolder();
   if (folder.back() != '/') folder += '/';
   const std::string problem = FolderProblem(folder);
-  if (!problem.empty()) error = "data folder " + folder + ": " + problem;
-  return problem.empty();
+  if (!problem.empty()) {
+    error = "data folder " + folder + ": " + problem;
+    return false;
+  }
+  // What files name by it is found from any folder.
+  std::error_code unknown;
+  const fs::path full = fs::absolute(folder, unknown);
+  // Behind a link, ".." is another folder than it looks.
+  const bool plain = folder.find("..") == folder.npos;
+  if (!unknown) folder = (plain ? full.lexically_normal() : full).string();
+  return true;
 }
 
 // Tried, since permissions alone don't tell of a system that is mounted to be read.

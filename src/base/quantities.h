@@ -1,10 +1,11 @@
-// Numbers that must not be taken for each other. Each is a struct of one word, made and read by name, so that
-// the compiler refuses a seat where a bet is asked for, or seconds where dollars are.
+// Numbers that must not be taken for each other. Each is a struct of one word, so that the compiler refuses a
+// seat where a bet is asked for, or seconds where dollars are.
 #pragma once
 
 #include <compare>
 #include <concepts>
 #include <cstdint>
+#include <type_traits>
 
 #include "base/money.h"
 
@@ -53,21 +54,45 @@ struct Limits {
   constexpr T Clamp(T value) const { return value < least ? least : value > most ? most : value; }
 };
 
-// The number of one of several: a seat, a bet, a roll. Tables are reached by its value.
+// What the names of an enum number, if they do: they then are ids of that kind and of no other.
+template <typename Names>
+struct IdKind {
+  using Kind = void;
+};
+template <typename Names, typename Kind>
+inline constexpr bool kNamesOthers =
+    !std::is_void_v<typename IdKind<Names>::Kind> && !std::same_as<typename IdKind<Names>::Kind, Kind>;
+
+// The number of one of several: a seat, a bet, a roll. It comes from a plain number and serves as one, so
+// that tables are reached by it; but it never turns into a number of another kind, nor is it compared with
+// one.
 template <typename Kind, typename Number = int>
 struct Id {
   Number value = 0;
 
   constexpr Id() = default;
-  template <typename From>
-  requires std::convertible_to<From, Number>
-  explicit constexpr Id(From number) : value(number) {}
+  constexpr Id(Number number) : value(number) {}
+  template <typename Names, std::enable_if_t<kNamesOthers<Names, Kind>, int> = 0>
+  Id(Names) = delete;
+  constexpr operator Number() const { return value; }
   constexpr Id& operator++() {
     ++value;
     return *this;
   }
-  friend constexpr bool operator==(Id, Id) = default;
-  friend constexpr auto operator<=>(Id, Id) = default;
+  constexpr Id& operator--() {
+    --value;
+    return *this;
+  }
 };
+
+template <typename T>
+inline constexpr bool kIsId = false;
+template <typename Kind, typename Number>
+inline constexpr bool kIsId<Id<Kind, Number>> = true;
+
+template <typename KindA, typename NumberA, typename KindB, typename NumberB>
+requires(!std::same_as<KindA, KindB>) void operator==(Id<KindA, NumberA>, Id<KindB, NumberB>) = delete;
+template <typename KindA, typename NumberA, typename KindB, typename NumberB>
+requires(!std::same_as<KindA, KindB>) void operator<=>(Id<KindA, NumberA>, Id<KindB, NumberB>) = delete;
 
 }  // namespace tessaryn

@@ -276,11 +276,10 @@ std::string ReadWholeFile(const std::string& path, std::string& content, std::ui
   struct stat status {};
   if (fstat(descriptor.Number, &status) != 0) return FileErrorText("read", path, errno);
   if (S_ISDIR(status.st_mode)) return FileErrorText("open", path, EISDIR);
-  if (!S_ISREG(status.st_mode)) return "Unable to open " + path + ": it is not a file.";
+  if (!S_ISREG(status.st_mode)) return MessageText<Msg::kNotAFile>(With<"path">(path));
   const auto refuse = [&] {
     if (tooLong != nullptr) *tooLong = true;
-    return "Unable to read " + path + ": it is too long. At most " + std::to_string(maximumBytes) +
-           " bytes are read.";
+    return MessageText<Msg::kFileTooLong>(With<"path">(path), With<"limit">(std::to_string(maximumBytes)));
   };
   if (static_cast<std::uint64_t>(status.st_size) > maximumBytes) return refuse();
   std::string bytes;

@@ -13,21 +13,27 @@ namespace tessaryn {
 // Seats. 0 is the table as a whole ("House"), 1 to 8 the players.
 inline constexpr int kSeats = 8;
 inline constexpr int kSeatRows = kSeats + 1;
-// Seats, bets and rolls as types of their own, for procedures that take two of them.
 using SeatId = Id<struct SeatKind>;
 using BetId = Id<struct BetKind>;
-using RollNumber = Id<struct RollKind, std::int64_t>;
+using ScopeId = Id<struct ScopeKind>;
+using RollNumber = Id<struct RollKind, std::int64_t>;  // from 1 on; 0 before the first
+static_assert(!std::is_convertible_v<SeatId, BetId> && !std::is_convertible_v<BetId, SeatId> &&
+              !std::is_convertible_v<ScopeId, SeatId> && !std::is_convertible_v<RollNumber, SeatId> &&
+              !std::is_convertible_v<RollNumber, BetId>);
+static_assert(std::is_trivially_copyable_v<SeatId> && sizeof(SeatId) == sizeof(int));
 inline constexpr SeatId kHouse{};
+inline constexpr SeatId kNobody{};
 // The order in which the table pays: around the table from both ends.
-inline constexpr std::array<int, kSeats> kPayOrder{1, 8, 2, 7, 3, 6, 4, 5};
+inline constexpr std::array<SeatId, kSeats> kPayOrder{1, 8, 2, 7, 3, 6, 4, 5};
 
 // Bets. 1 to 93 are the bets of the table; CheckStack n, 0 to 99, is bet 100 + n; the rest names nothing.
+inline constexpr BetId kNoBet{};
 inline constexpr int kBets = 93;
 inline constexpr int kFirstCheckStack = 100;
 inline constexpr int kCheckStacks = 100;
 inline constexpr int kBetRows = 201;
-constexpr bool IsTableBet(int bet) { return bet >= 1 && bet <= kBets; }
-constexpr bool IsCheckStack(int bet) {
+constexpr bool IsTableBet(BetId bet) { return bet >= 1 && bet <= kBets; }
+constexpr bool IsCheckStack(BetId bet) {
   return bet >= kFirstCheckStack && bet < kFirstCheckStack + kCheckStacks;
 }
 
@@ -92,6 +98,11 @@ enum Bet : int {
   kRideTheLine = 92,
   kFire = 93,
 };
+template <>
+struct IdKind<Bet> {
+  using Kind = BetKind;
+};
+static_assert(std::is_convertible_v<Bet, BetId> && !std::is_convertible_v<Bet, SeatId>);
 
 // The six box numbers, in the order of every family of six bets.
 inline constexpr std::array<int, 6> kBoxNumbers{4, 5, 6, 8, 9, 10};
@@ -101,18 +112,20 @@ constexpr bool IsBoxNumber(int number) { return number >= 4 && number <= 10 && n
 
 // Scopes of the statistics; a slot is scope * 9 + seat.
 enum Scope : int { kCurrentHand = 0, kLastHand = 1, kCurrentSession = 2, kLastSession = 3, kAllSessions = 4 };
+template <>
+struct IdKind<Scope> {
+  using Kind = ScopeKind;
+};
 inline constexpr int kScopes = 5;
 inline constexpr int kSlots = kScopes * kSeatRows;
-constexpr int Slot(int scope, int seat) { return scope * kSeatRows + seat; }
+constexpr int Slot(ScopeId scope, SeatId seat) { return scope * kSeatRows + seat; }
 
 // A value for every seat and bet, with the seat as the fast index.
 template <typename T, int kRows = kBetRows>
 struct SeatBetTable {
   T cells[kRows][kSeatRows] = {};
-  T& operator()(int seat, int bet) { return cells[bet][seat]; }
-  const T& operator()(int seat, int bet) const { return cells[bet][seat]; }
-  T& operator()(SeatId seat, BetId bet) { return cells[bet.value][seat.value]; }
-  const T& operator()(SeatId seat, BetId bet) const { return cells[bet.value][seat.value]; }
+  T& operator()(SeatId seat, BetId bet) { return cells[bet][seat]; }
+  const T& operator()(SeatId seat, BetId bet) const { return cells[bet][seat]; }
   friend bool operator==(const SeatBetTable&, const SeatBetTable&) = default;
 };
 
@@ -120,12 +133,10 @@ struct SeatBetTable {
 struct BetSet {
   std::uint64_t words[2] = {0, 0};
 
-  constexpr bool Has(BetId bet) const { return Has(bet.value); }
-  constexpr void Set(BetId bet, bool in) { Set(bet.value, in); }
-  constexpr bool Has(int bet) const { return (words[bet >> 6] >> (bet & 63) & 1) != 0; }
-  constexpr void Add(int bet) { words[bet >> 6] |= std::uint64_t{1} << (bet & 63); }
-  constexpr void Remove(int bet) { words[bet >> 6] &= ~(std::uint64_t{1} << (bet & 63)); }
-  constexpr void Set(int bet, bool in) { in ? Add(bet) : Remove(bet); }
+  constexpr bool Has(BetId bet) const { return (words[bet >> 6] >> (bet & 63) & 1) != 0; }
+  constexpr void Add(BetId bet) { words[bet >> 6] |= std::uint64_t{1} << (bet & 63); }
+  constexpr void Remove(BetId bet) { words[bet >> 6] &= ~(std::uint64_t{1} << (bet & 63)); }
+  constexpr void Set(BetId bet, bool in) { in ? Add(bet) : Remove(bet); }
   constexpr void Clear() { words[0] = words[1] = 0; }
   // Few bets are up at once, and without the machine's own instruction counting bits is a call.
   constexpr int Size() const {
@@ -152,14 +163,15 @@ struct BetSet {
   template <typename Visit>
   constexpr void ForEach(Visit&& visit) const {
     for (int w = 0; w < 2; ++w)
-      for (std::uint64_t rest = words[w]; rest != 0; rest &= rest - 1) visit(w * 64 + std::countr_zero(rest));
+      for (std::uint64_t rest = words[w]; rest != 0; rest &= rest - 1)
+        visit(BetId(w * 64 + std::countr_zero(rest)));
   }
 };
 
 // The bets first to last as a set.
-constexpr BetSet BetRange(int first, int last) {
+constexpr BetSet BetRange(BetId first, BetId last) {
   BetSet set;
-  for (int bet = first; bet <= last; ++bet) set.Add(bet);
+  for (BetId bet = first; bet <= last; ++bet) set.Add(bet);
   return set;
 }
 inline constexpr BetSet kAllTableBets = BetRange(1, kBets);

@@ -4,6 +4,7 @@
 #include "base/bet_catalogue.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "rules/advantage.h"
@@ -22,7 +23,7 @@ struct AdvantageOptions {
 bool ReadBets(const std::vector<std::string>& texts, BetAmounts& amounts) {
   for (const std::string& text : texts) {
     const auto equals = text.find('=');
-    const int bet = BetByName(text.substr(0, equals));
+    const BetId bet = BetByName(text.substr(0, equals));
     Currency amount;
     if (equals == std::string::npos || !IsTableBet(bet)) {
       Fail("--bet " + text + ": expected BET=AMOUNT with a bet 1 to " + std::to_string(kBets) +
@@ -47,7 +48,7 @@ std::string NoteOn(const BetsTogether& set) {
          BetName(set.unknownBet) + " has in common with the other bets can't be told.";
 }
 
-double AmountOn(const BetAmounts& amounts, int bet) {
+double AmountOn(const BetAmounts& amounts, BetId bet) {
   const auto found = amounts.find(bet);
   return found == amounts.end() ? 1 : found->second;
 }
@@ -115,9 +116,8 @@ int ShowAdvantage(const AdvantageOptions& options) {
 void AddAdvantageCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<AdvantageOptions>();
   CLI::App* command = program.add_subcommand("advantage", "What every bet is worth under the rules in force");
-  command->add_option("--data-folder", options->table.dataFolder, "Folder of everything that is written");
-  command->add_option("--probabilities", options->table.probabilities,
-                      "Percentage dice from a probability file");
+  command->add_option("--data-folder", options->table.dataFolder, kDataFolderHelp);
+  command->add_option("--probabilities", options->table.probabilities, kProbabilitiesHelp);
   command->add_option("--set", options->table.settings, "A setting, NAME=VALUE")
       ->take_all()
       ->allow_extra_args(false);
@@ -127,7 +127,7 @@ void AddAdvantageCommand(CLI::App& program, int& exitCode) {
   command->add_option("--bet", options->bets, "A bet that is made, BET=AMOUNT; repeatable")
       ->take_all()
       ->allow_extra_args(false);
-  command->add_flag("--json", options->json, "Print one JSON object");
+  command->add_flag("--json", options->json, kJsonHelp);
   command->footer(
       "Example:\n  tessaryn-cli advantage --set BuyVigUpFront=off --bet buy4=25 --bet passline=10");
   command->callback([options, &exitCode] { exitCode = ShowAdvantage(*options); });

@@ -5,6 +5,7 @@
 #include "autobet/language/script_files.h"
 #include "base/interrupts.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 #include "play/script_session.h"
 
@@ -30,7 +31,7 @@ bool CheckFile(const CheckOptions& options, const std::string& file) {
   std::vector<std::string> lines;
   const ScriptFileResult read = ReadScriptFile(file, lines);
   if (!read.Ok()) {
-    Fail(read.problem == ScriptFileProblem::kNotFound ? file + ": File not found" : read.message);
+    Fail(read.problem == ScriptFileProblem::kNotFound ? NotFound(file) : read.message);
     return false;
   }
   const ScriptSurroundings surroundings = SurroundingsOfPlayers(options.players);
@@ -53,11 +54,7 @@ void AddCheckCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<CheckOptions>();
   CLI::App* command = program.add_subcommand("check", "Checks betting scripts");
   command->add_option("FILE", options->files, "Script files")->required();
-  command
-      ->add_option("--player", options->players,
-                   "A player's name that scripts may use; the k-th is at seat k")
-      ->take_all()
-      ->allow_extra_args(false);
+  command->add_option("--player", options->players, kPlayerNamesHelp)->take_all()->allow_extra_args(false);
   command->add_flag("--json", options->json, "Print a JSON object for each file");
   command->add_flag("--tokens", options->tokens, "Print the compiled records, one \"kind value\" a line");
   command->footer("Example:\n  tessaryn-cli check data/samples/Sample1.bet");

@@ -7,6 +7,10 @@
 #include <cstdint>
 #include <string>
 
+namespace tessaryn {
+struct LabHelpers;
+}
+
 namespace tessaryn::cli {
 
 inline constexpr int kDone = 0;
@@ -25,10 +29,13 @@ void AddProbabilitiesCommand(CLI::App& program, int& exitCode);
 void AddRollsCommand(CLI::App& program, int& exitCode);
 void AddSessionsCommand(CLI::App& program, int& exitCode);
 void AddGameCommand(CLI::App& program, int& exitCode);
-void AddLabCommand(CLI::App& program, int& exitCode);
+// helpers, who play along, may be null.
+void AddLabCommand(CLI::App& program, int& exitCode, LabHelpers* helpers = nullptr);
 
-// An error on standard error: "tessaryn-cli: ...". Returns kBad.
+// An error on standard error, behind the program's name. Returns kBad.
 int Fail(const std::string& what);
+// Whole lines that name files themselves.
+int FailInLines(const std::string& lines);
 
 double SecondsSince(std::chrono::steady_clock::time_point start);
 // A number as reports show it: "12,345".

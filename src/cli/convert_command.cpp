@@ -2,6 +2,7 @@
 
 #include "autobet/language/script_files.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -15,8 +16,7 @@ int Convert(const ConvertOptions& options) {
   std::vector<std::string> lines;
   const ScriptFileResult read = ReadScriptFile(options.from, lines);
   if (!read.Ok())
-    return Fail(read.problem == ScriptFileProblem::kNotFound ? options.from + ": File not found"
-                                                             : read.message);
+    return Fail(read.problem == ScriptFileProblem::kNotFound ? NotFound(options.from) : read.message);
   const ScriptFileResult written = WriteScriptFile(options.to, lines);
   return written.Ok() ? kDone : Fail(written.message);
 }

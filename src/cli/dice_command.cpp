@@ -3,6 +3,7 @@
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/table_setup.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
@@ -22,7 +23,7 @@ int Dice(const DiceOptions& options) {
   if (!game) return kBad;
   ReplaceMissingGenerator(game->generators);
   if (options.json) std::printf("[");
-  for (std::int64_t roll = 0; roll < options.count && !Interrupted() && std::ferror(stdout) == 0; ++roll) {
+  for (RollNumber roll = 0; roll < options.count && !Interrupted() && std::ferror(stdout) == 0; ++roll) {
     int die1 = 0;
     int die2 = 0;
     if (game->percentage.PercentageDiceActive)
@@ -43,11 +44,10 @@ int Dice(const DiceOptions& options) {
 void AddDiceCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<DiceOptions>();
   CLI::App* command = program.add_subcommand("dice", "The dice of a generator, a roll a line");
-  command->add_option("--data-folder", options->table.dataFolder, "Folder of everything that is written");
-  command->add_option("--rng", options->table.rng, "Generator 1 to 8")->check(CLI::Range(1, 8));
-  command->add_option("--seed", options->table.seed, "Seed of the generator");
-  command->add_option("--probabilities", options->table.probabilities,
-                      "Percentage dice from a probability file");
+  command->add_option("--data-folder", options->table.dataFolder, kDataFolderHelp);
+  command->add_option("--rng", options->table.rng, kGeneratorHelp)->check(CLI::Range(1, 8));
+  command->add_option("--seed", options->table.seed, kSeedHelp);
+  command->add_option("--probabilities", options->table.probabilities, kProbabilitiesHelp);
   command->add_option("--count", options->count, "How many rolls (default 10)")
       ->check(CLI::Range(std::int64_t{0}, std::int64_t{1'000'000'000'000}));
   command->add_flag("--json", options->json, "Print one JSON array of pairs");

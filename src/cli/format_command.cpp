@@ -6,6 +6,7 @@
 #include "base/interrupts.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 #include "play/script_help.h"
 
@@ -58,11 +59,7 @@ void AddFormatCommand(CLI::App& program, int& exitCode) {
   CLI::App* command = program.add_subcommand(
       "format", "Indents betting scripts by their blocks, and tells which files changed");
   command->add_option("FILE", options->files, "Script files")->required();
-  command
-      ->add_option("--player", options->players,
-                   "A player's name that scripts may use; the k-th is at seat k")
-      ->take_all()
-      ->allow_extra_args(false);
+  command->add_option("--player", options->players, kPlayerNamesHelp)->take_all()->allow_extra_args(false);
   CLI::Option* toOutput =
       command->add_flag("--stdout", options->toOutput, "Print the script instead of writing the file");
   command->add_flag("--check", options->check, "Write nothing; exit code 1 when a file would change")

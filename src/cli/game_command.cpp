@@ -4,6 +4,7 @@
 #include "base/program_folders.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/table_json.h"
 #include "cli/table_setup.h"
 #include "play/game_file.h"
@@ -31,7 +32,7 @@ Json ReferencesJson(const Game& game, const GameReferences& references) {
   add("rollFile", references.rollFile);
   add("probabilities", references.probability);
   add("eventsLog", references.eventsLog);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     add("script@" + std::to_string(seat), references.script[seat]);
     add("sessionsLog@" + std::to_string(seat), references.sessionsLog[seat]);
@@ -48,7 +49,7 @@ Json GameJson(const std::string& file, const Game& game, const GameReferences& r
     if (GetSetting(game, setting.name, 0, value, ignored)) settings[setting.name] = value;
   }
   Json scripts = Json::object();
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (const std::size_t lines = game.autobet.Scripts[seat].ScriptLines.size(); lines > 0)
       scripts[std::to_string(seat)] = {{"lines", lines}, {"active", game.autobet.ScriptActive[seat]}};
   return {{"file", file},
@@ -108,7 +109,7 @@ void AddGameCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<GameOptions>();
   CLI::App* command = program.add_subcommand("game", "What a game file holds");
   command->add_option("FILE", options->file, "A game file, .crp")->required();
-  command->add_flag("--json", options->json, "Print one JSON object");
+  command->add_flag("--json", options->json, kJsonHelp);
   command->footer("Example:\n  tessaryn-cli game evening.crp --json");
   command->callback([options, &exitCode] { exitCode = ShowGame(*options); });
 }

@@ -1,3 +1,5 @@
+#include "cli/lab_command.h"
+
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -9,15 +11,13 @@
 #include <thread>
 
 #include "base/interrupts.h"
-#include "base/program_folders.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
-#include "cli/lab_options.h"
 #include "cli/lab_report.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 #include "cli/table_setup.h"
 #include "lab/html_report.h"
-#include "lab/laboratory.h"
 
 namespace tessaryn::cli {
 namespace {
@@ -58,13 +58,15 @@ int CheckTargets(const LabOptions& options, std::size_t systems,
   for (const OutputFile& target : targets) {
     for (const OutputFile& other : known)
       if (!other.path.empty() && (other.path == target.path || IsSameFile(other.path, target.path)))
-        return Fail(target.option + target.path + ": is the file of " + other.option + "too");
+        return Fail(SameFileAs(target.option + target.path, other.option));
     if (const std::string problem = TargetProblem(target.path); !problem.empty())
       return Fail(target.option + target.path + ": " + problem);
     known.push_back(target);
   }
   return kDone;
 }
+
+}  // namespace
 
 // One that can't be written keeps none of the others from it.
 int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) {
@@ -74,9 +76,11 @@ int WriteOutputs(LabState& state, SessionRows& rows, const LabOptions& options) 
   };
   if (!options.csv.empty()) note("--csv: ", WriteRowsAsCsv(rows, state.experiment, options.csv));
   if (!options.slg.empty()) note("--slg: ", WriteRowsAsLogs(rows, options.slg));
-  if (!options.report.empty()) note("--report: ", ReplaceFile(options.report, HtmlReport(state)));
+  if (!options.report.empty()) note("--report: ", ReplaceFile(options.report, HtmlReport(state, RankByName(options.rank))));
   return code;
 }
+
+namespace {
 
 void Print(LabState& state, const LabOptions& options) {
   TellOddities(state);
@@ -145,11 +149,11 @@ int ThreadsOf(const LabOptions& options) {
   return static_cast<int>(std::max(1u, std::thread::hardware_concurrency()));
 }
 
-int Play(LabState& state, const LabOptions& options) {
-  SessionRows rows;
-  LabRun run;
+}  // namespace
+
+int PrepareRun(LabState& state, const LabOptions& options, SessionRows& rows, LabRun& run) {
   run.threads = ThreadsOf(options);
-  run.applicationFolder = ApplicationFolder();
+  run.applicationFolder = options.applicationFolder;
   run.checkpoint = options.out.empty() ? options.resume : options.out;
   if (state.rows.Any()) {
     if (const std::string error = OpenRows(rows, RowsPathOf(run.checkpoint), state); !error.empty())
@@ -157,6 +161,16 @@ int Play(LabState& state, const LabOptions& options) {
     run.rows = &rows;
     state.rows = rows.kept;
   }
+  return kDone;
+}
+
+namespace {
+
+int Play(LabState& state, const LabOptions& options, const LabHelpers* helpers) {
+  SessionRows rows;
+  LabRun run;
+  if (const int code = PrepareRun(state, options, rows, run)) return code;
+  run.helpers = helpers;
   const auto start = std::chrono::steady_clock::now();
   const std::int64_t before = RollsOf(state);
   std::string error;
@@ -172,8 +186,7 @@ int Play(LabState& state, const LabOptions& options) {
   const double seconds = SecondsSince(start);
   const std::int64_t rolls = RollsOf(state) - before;
   std::fprintf(
-      stderr, "%s rolls in %.2f seconds (%s rolls a second)\n", FormatMoney(Currency::Dollars(rolls)).c_str(),
-      seconds,
+      stderr, kRollsASecond, FormatMoney(Currency::Dollars(rolls)).c_str(), seconds,
       FormatMoney(Currency::FromDouble(std::floor(static_cast<double>(rolls) / std::max(seconds, 1e-6))))
           .c_str());
   if (SessionsDone(state) == 0 && Interrupted()) return kBad;
@@ -182,9 +195,9 @@ int Play(LabState& state, const LabOptions& options) {
   return kDone;
 }
 
-int CheckScripts(const Experiment& experiment) {
+int CheckScripts(const Experiment& experiment, const std::string& applicationFolder) {
   LabProblem problem;
-  const std::string error = CheckSystems(experiment, ApplicationFolder(), problem);
+  const std::string error = CheckSystems(experiment, applicationFolder, problem);
   if (error.empty()) return kDone;
   if (!problem.script.diagnostic.Failed()) return Fail(error);
   for (const LabSystem& system : experiment.systems)
@@ -192,14 +205,12 @@ int CheckScripts(const Experiment& experiment) {
       // Nobody has written lines of it: what is wrong is a bet that the table doesn't offer.
       if (system.standingBets)
         return Fail("--bets " + system.name + ": " + problem.script.diagnostic.message);
-      std::fputs(CheckReport(system.name, system.lines, problem.script).c_str(), stderr);
-      return kBad;
+      return FailInLines(CheckReport(system.name, system.lines, problem.script));
     }
   return Fail(error);
 }
 
-int Resume(const CLI::App& command, const LabOptions& options) {
-  LabState state;
+int Resume(const CLI::App& command, const LabOptions& options, LabState& state) {
   if (const std::string error = ReadLab(options.resume, state); !error.empty())
     return Fail("--resume " + error);
   if (const int code = CheckAgainstResumed(command, options, state.experiment)) return code;
@@ -207,18 +218,18 @@ int Resume(const CLI::App& command, const LabOptions& options) {
     return Fail("--csv: the experiment of " + options.resume + " was made without --csv");
   if (!options.slg.empty() && !state.rows.records)
     return Fail("--slg: the experiment of " + options.resume + " was made without --slg");
-  if (const int code = CheckScripts(state.experiment)) return code;
-  if (const int code = CheckTargets(options, state.systems.size())) return code;
-  return Play(state, options);
+  if (const int code = CheckScripts(state.experiment, options.applicationFolder)) return code;
+  return CheckTargets(options, state.systems.size());
 }
 
-int Find(const CLI::App& command, const LabOptions& options) {
+int Find(const CLI::App& command, const LabOptions& options, const LabHelpers* helpers) {
   Experiment experiment;
   LabQuestion question;
   if (const int code = ReadQuestion(command, options, question)) return code;
   if (const int code = ReadExperiment(command, options, experiment)) return code;
-  if (const int code = CheckScripts(experiment)) return code;
-  const LabSearch search{ThreadsOf(options), ApplicationFolder(), [] { return !Interrupted(); }};
+  if (const int code = CheckScripts(experiment, options.applicationFolder)) return code;
+  const LabSearch search{ThreadsOf(options), options.applicationFolder, [] { return !Interrupted(); },
+                         helpers};
   std::vector<LabAnswer> answers(experiment.systems.size());
   for (std::size_t i = 0; i < answers.size(); ++i)
     if (const std::string error = FindForRuin(experiment, i, question, search, answers[i]); !error.empty())
@@ -232,16 +243,30 @@ int Find(const CLI::App& command, const LabOptions& options) {
   return kDone;
 }
 
-int Lab(const CLI::App& command, const LabOptions& options) {
-  if (!options.find.empty()) return Find(command, options);
-  if (!options.ruin.empty()) return Fail("--ruin: it needs --find"), kUsage;
-  if (!options.resume.empty()) return Resume(command, options);
+}  // namespace
+
+int PrepareLab(const CLI::App& command, const LabOptions& options, LabState& state) {
+  if (!options.resume.empty()) return Resume(command, options, state);
   Experiment experiment;
   if (const int code = ReadExperiment(command, options, experiment)) return code;
-  if (const int code = CheckScripts(experiment)) return code;
+  if (const int code = CheckScripts(experiment, options.applicationFolder)) return code;
   if (const int code = CheckTargets(options, experiment.systems.size())) return code;
-  LabState state = BeginLab(experiment, !options.csv.empty(), !options.slg.empty());
-  return Play(state, options);
+  state = BeginLab(experiment, !options.csv.empty(), !options.slg.empty());
+  return kDone;
+}
+
+namespace {
+
+int Lab(const CLI::App& command, LabOptions& options, LabHelpers* helpers) {
+  if (helpers != nullptr) {
+    helpers->threads = options.threads;
+    if (options.threads == 0) options.threads = helpers->threadsHere;
+  }
+  if (!options.find.empty()) return Find(command, options, helpers);
+  if (!options.ruin.empty()) return Fail("--ruin: it needs --find"), kUsage;
+  LabState state;
+  if (const int code = PrepareLab(command, options, state)) return code;
+  return Play(state, options, helpers);
 }
 
 // --- Merging.
@@ -284,7 +309,7 @@ int Merge(const std::vector<std::string>& files, const LabOptions& options) {
 
 }  // namespace
 
-void AddLabCommand(CLI::App& program, int& exitCode) {
+void AddLabCommand(CLI::App& program, int& exitCode, LabHelpers* helpers) {
   auto options = std::make_shared<LabOptions>();
   auto files = std::make_shared<std::vector<std::string>>();
   CLI::App* command =
@@ -298,8 +323,9 @@ void AddLabCommand(CLI::App& program, int& exitCode) {
   command->footer(
       "Example:\n  tessaryn-cli lab --bets passline=10 --bets field=10 --bankroll 200 --sessions 100000 "
       "--seed 7");
-  command->callback(
-      [=, &exitCode] { exitCode = merge->parsed() ? Merge(*files, *options) : Lab(*command, *options); });
+  command->callback([=, &exitCode] {
+    exitCode = merge->parsed() ? Merge(*files, *options) : Lab(*command, *options, helpers);
+  });
 }
 
 }  // namespace tessaryn::cli

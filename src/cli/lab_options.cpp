@@ -7,6 +7,7 @@
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/table_setup.h"
 #include "dice/percentage_dice.h"
 #include "lab/systems.h"
@@ -30,7 +31,7 @@ void AddLabOutputs(CLI::App& command, LabOptions& options) {
                      "Write the sessions as a Sessions Log; of several systems each gets a file");
   command.add_option("--rank", options.rank, "Rank the systems by mean, median, ruin (least first) or goal")
       ->check(CLI::IsMember({"mean", "median", "ruin", "goal"}));
-  command.add_flag("--json", options.json, "Print one JSON object");
+  command.add_flag("--json", options.json, kJsonHelp);
 }
 
 void AddLabOptions(CLI::App& command, LabOptions& options) {
@@ -56,9 +57,9 @@ void AddLabOptions(CLI::App& command, LabOptions& options) {
   command.add_option("--loss-limit", options.lossLimit, "A session ends when it has lost so much");
   command.add_option("--end", options.end, "now, or hand: when no contract bet is up (default now)")
       ->check(CLI::IsMember({"now", "hand"}));
-  command.add_option("--settings", options.settingsFile, "A file of settings, NAME = VALUE a line");
+  command.add_option("--settings", options.settingsFile, kSettingsHelp);
   AddRepeatable(command, "--set", options.settings, "A setting, NAME=VALUE (repeatable)");
-  command.add_option("--probabilities", options.probabilities, "Percentage dice from a probability file");
+  command.add_option("--probabilities", options.probabilities, kProbabilitiesHelp);
   command.add_option("--rng", options.rng, "Generator 1, 2 or 8")->check(CLI::Range(1, 8));
   command.add_option("--seed", options.seed, "Seed of all sessions' dice (default 1)")
       ->check(CLI::Range(std::uint64_t{0}, kMostSeed));
@@ -126,22 +127,6 @@ int ReadSystems(const CLI::App& command, const LabOptions& options, std::vector<
   return kDone;
 }
 
-// --- Sweeps.
-
-int VarySetting(const std::string& text, std::vector<LabSystem>& systems) {
-  const std::string where = "--vary " + text + ": ";
-  LabSetting setting;
-  std::string values;
-  if (!ParseAssignment(text, setting.name, setting.seat, values) || setting.name.empty())
-    return Wrong(where + "expected NAME=VALUE,...");
-  const std::vector<std::string> parts = SplitText(values, ',');
-  const std::string error = MultiplySystems(systems, parts.size(), [&](LabSystem& system, std::size_t i) {
-    setting.text = parts[i];
-    system.settings.push_back(setting);
-  });
-  return error.empty() ? kDone : Wrong(where + error);
-}
-
 // --- The table.
 
 int ReadSettings(const LabOptions& options, std::vector<LabSetting>& settings) {
@@ -207,7 +192,8 @@ int ReadExperiment(const CLI::App& command, const LabOptions& options, Experimen
     if (const std::string error = SweepStack(text, experiment.systems); !error.empty())
       return Wrong("--stack " + text + ": " + error);
   for (const std::string& text : options.varied)
-    if (const int code = VarySetting(text, experiment.systems)) return code;
+    if (const std::string error = SweepSetting(text, experiment.systems); !error.empty())
+      return Wrong("--vary " + text + ": " + error);
   if (const int code = ReadMoney("--bankroll", options.bankroll, kLeast, experiment.bankroll)) return code;
   if (const int code = ReadMoney("--precision", options.precision, kLeast, experiment.precision)) return code;
   if (const int code = ReadEnds(command, options, experiment)) return code;
@@ -229,7 +215,7 @@ int ReadQuestion(const CLI::App& command, const LabOptions& options, LabQuestion
       return Wrong(std::string("--find and ") + other + " can't be used together");
   if (options.find != "bankroll") {
     const bool ofStack = options.find.starts_with("stack:") && options.find.size() > 6;
-    const int bet = ofStack ? BetByName("cs" + options.find.substr(6)) : 0;
+    const BetId bet = ofStack ? BetByName("cs" + options.find.substr(6)) : kNoBet;
     if (!IsCheckStack(bet))
       return Wrong("--find " + options.find +
                    ": expected bankroll, or stack:N with a CheckStack N from 0 to 99");

@@ -5,12 +5,14 @@
 #include <string>
 #include <vector>
 
+#include "base/program_folders.h"
 #include "lab/lab_state.h"
 #include "lab/search.h"
 
 namespace tessaryn::cli {
 
 struct LabOptions {
+  std::string applicationFolder = ApplicationFolder();  // where the generators' support files are
   std::string dataFolder;
   std::vector<std::string> scripts;
   std::vector<std::string> bets;

@@ -5,123 +5,19 @@
 
 #include "cli/commands.h"
 #include "cli/script_report.h"
+#include "lab/lab_json.h"
 
 namespace tessaryn::cli {
 namespace {
 
-constexpr double kDollar = Currency::kPerDollar;
 
-Json BoundsJson(const Bounds& bounds) { return {bounds.low, bounds.high}; }
-
-// Keys "0.01" to "0.99".
-template <typename Show>
-Json QuantilesJson(const ValueCounts& counts, Show&& show) {
-  Json quantiles = Json::object();
-  for (const int percent : kQuantilePercents) {
-    std::string key = std::to_string(percent);
-    key = key.size() == 1 ? "0.0" + key : "0." + key;
-    if (key.back() == '0') key.pop_back();
-    quantiles[key] = show(Quantile(counts, percent));
-  }
-  return quantiles;
-}
-
-Json DollarsJson(std::int64_t raw) { return MoneyJson(Currency::FromRaw(raw)); }
-Json NumberJson(std::int64_t number) { return number; }
-
-Json ShareJson(std::int64_t count, std::int64_t of) {
-  const ShareFigure share = FigureShare(count, of);
-  return {{"p", share.p}, {"ci95", BoundsJson(share.ci95)}};
-}
-
-// A number as one, else the text.
-Json SettingJson(const std::string& text) {
-  const Json number = Json::parse(text, nullptr, false);
-  return number.is_number() ? number : Json(text);
-}
-
-Json ParametersJson(const LabSystem& system) {
-  Json parameters = Json::object();
-  for (const StackStart& start : system.stacks)
-    parameters["CheckStack " + std::to_string(start.stack)] = MoneyJson(start.amount);
-  for (const LabSetting& setting : system.settings)
-    parameters[setting.seat == 0 ? setting.name : setting.name + "@" + std::to_string(setting.seat)] =
-        SettingJson(setting.text);
-  return parameters;
-}
-
-double MeanOf(Int128 sum, std::int64_t count, double unit) {
-  return count == 0 ? 0.0 : FigureMean({sum, 0, 0}, count, unit).mean;
-}
-
-// Parts in which luck and price are told, to the dollar.
-double PartsOf(const SystemSums& sums) {
-  return kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
-}
-MeanFigure AdjustedOf(const SystemSums& sums) {
-  return FigureMean(sums.adjusted, sums.sessions, PartsOf(sums));
-}
-
-Json HistogramJson(const ValueCounts& counts) {
-  Json bins = Json::array();
-  for (const Bin& bin : Histogram(counts))
-    bins.push_back({{"low", DollarsJson(bin.low)}, {"high", DollarsJson(bin.high)}, {"count", bin.count}});
-  return bins;
-}
-
-Json KindsJson(const std::vector<ScriptErrorKind>& kinds) {
-  Json errors = Json::array();
-  for (const ScriptErrorKind& kind : kinds) errors.push_back(ErrorJson(kind));
-  return errors;
-}
-
-Json SystemJson(const LabSystem& system, const SystemSums& sums) {
-  const MeanFigure net = FigureMean(sums.net, sums.sessions, kDollar);
-  const double handle = MeanOf(sums.handle, sums.sessions, kDollar);
-  Json json = {{"name", system.name}, {"parameters", ParametersJson(system)}, {"rolls", sums.rolls}};
-  json["net"] = {{"mean", net.mean},
-                 {"stdDev", net.stdDev},
-                 {"ci95", BoundsJson(net.ci95)},
-                 {"quantiles", QuantilesJson(sums.nets, DollarsJson)}};
-  const MeanFigure adjusted = AdjustedOf(sums);
-  json["adjusted"] = {{"mean", adjusted.mean}, {"ci95", BoundsJson(adjusted.ci95)}};
-  json["handle"] = handle;
-  json["price"] = MeanOf(sums.price, sums.sessions, PartsOf(sums));
-  json["advantagePercent"] = handle > 0 ? 100 * net.mean / handle : 0.0;
-  const std::pair<const char*, std::int64_t> shares[] = {
-      {"won", sums.won},   {"brokeEven", sums.brokeEven}, {"lost", sums.lost},      {"ruined", sums.ruined},
-      {"goal", sums.goal}, {"limit", sums.limit},         {"stopped", sums.stopped}};
-  for (const auto& [name, count] : shares) json[name] = ShareJson(count, sums.sessions);
-  json["maxDrawdown"] = {{"mean", MeanOf(sums.drawdown, sums.sessions, kDollar)},
-                         {"quantiles", QuantilesJson(sums.drawdowns, DollarsJson)}};
-  json["sessionRolls"] = {{"mean", MeanOf(sums.rolls, sums.sessions, 1)},
-                          {"quantiles", QuantilesJson(sums.lengths, NumberJson)}};
-  json["losingStreak"] = {{"mean", MeanOf(sums.streak, sums.sessions, 1)},
-                          {"quantiles", QuantilesJson(sums.streaks, NumberJson)}};
-  json["histogram"] = HistogramJson(sums.nets);
-  if (!sums.errors.empty()) json["scriptErrors"] = KindsJson(sums.errors);
-  return json;
-}
+using lab_json::AdjustedOf;
+using lab_json::MeanOf;
+using lab_json::PartsOf;
 
 }  // namespace
 
-Json LabJson(LabState& state) {
-  SettleState(state);
-  const Experiment& experiment = state.experiment;
-  Json json = {{"sessions", SessionsDone(state)}, {"seed", experiment.seed}};
-  Json& systems = json["systems"] = Json::array();
-  for (std::size_t i = 0; i < state.systems.size(); ++i)
-    systems.push_back(SystemJson(experiment.systems[i], state.systems[i]));
-  Json& comparisons = json["comparisons"] = Json::array();
-  ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
-    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
-    comparisons.push_back({{"a", LabelOf(experiment.systems[a])},
-                           {"b", LabelOf(experiment.systems[b])},
-                           {"mean", difference.mean},
-                           {"ci95", BoundsJson(difference.ci95)}});
-  });
-  return json;
-}
+Json LabJson(LabState& state) { return tessaryn::LabJson<Json>(state); }
 
 namespace {
 
@@ -223,13 +119,14 @@ Json AnswersJson(const Experiment& experiment, const LabQuestion& question,
   for (std::size_t i = 0; i < answers.size(); ++i) {
     const LabAnswer& answer = answers[i];
     const LabSystem& system = experiment.systems[i];
-    systems.push_back(
-        {{"name", system.name}, {"parameters", ParametersJson(system)}, {"found", answer.found}});
+    systems.push_back({{"name", system.name},
+                       {"parameters", lab_json::ParametersJson<Json>(system)},
+                       {"found", answer.found}});
     if (!answer.found) continue;
     Json& row = systems.back();
     row["value"] = MoneyJson(answer.value);
     row["ci95"] = {MoneyJson(answer.low), MoneyJson(answer.high)};
-    row["ruined"] = {{"p", answer.ruined.p}, {"ci95", BoundsJson(answer.ruined.ci95)}};
+    row["ruined"] = {{"p", answer.ruined.p}, {"ci95", lab_json::BoundsJson<Json>(answer.ruined.ci95)}};
   }
   return json;
 }

@@ -9,6 +9,7 @@
 #include "base/interrupts.h"
 #include "cli/commands.h"
 #include "cli/lsp_server.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 
 namespace tessaryn::cli {
@@ -126,9 +127,7 @@ void AddLspCommand(CLI::App& program, int& exitCode) {
   auto players = std::make_shared<std::vector<std::string>>();
   CLI::App* command = program.add_subcommand(
       "lsp", "Serves editors: the Language Server Protocol for betting scripts on standard input and output");
-  command->add_option("--player", *players, "A player's name that scripts may use; the k-th is at seat k")
-      ->take_all()
-      ->allow_extra_args(false);
+  command->add_option("--player", *players, kPlayerNamesHelp)->take_all()->allow_extra_args(false);
   command->footer("Example:\n  tessaryn-cli lsp --player Ann      (an editor starts it; see editors/vscode)");
   command->callback([players, &exitCode] { exitCode = Serve(*players); });
 }

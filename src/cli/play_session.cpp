@@ -10,6 +10,7 @@
 
 #include "base/bet_catalogue.h"
 #include "base/messages.h"
+#include "cli/refusals.h"
 #include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/table_setup.h"
@@ -115,23 +116,22 @@ bool ReadInt(const std::string& text, int& value) {
   return fault == std::errc() && end == last;
 }
 
-bool SeatNumber(Call& call, std::size_t at, int& seat) {
+bool SeatNumber(Call& call, std::size_t at, SeatId& seat) {
   if (at >= call.words.size()) return call.Bad("a seat 1 to 8 is missing");
-  if (!ReadInt(call.words[at], seat) || seat < 1 || seat > kSeats)
-    return call.Bad("\"" + call.words[at] + "\" is no seat; seats are 1 to 8");
+  if (!ReadInt(call.words[at], seat.value) || seat < 1 || seat > kSeats)
+    return call.Bad(NoSeat(call.words[at]));
   return true;
 }
 
-bool Player(Call& call, std::size_t at, int& seat) {
+bool Player(Call& call, std::size_t at, SeatId& seat) {
   if (!SeatNumber(call, at, seat)) return false;
-  if (!IsOccupied(call.game.table, seat))
-    return call.Bad("there is no player at seat " + std::to_string(seat));
+  if (!IsOccupied(call.game.table, seat)) return call.Bad(NobodyAtSeat(std::to_string(seat)));
   return true;
 }
 
 bool Amount(Call& call, std::size_t at, Currency& amount) {
   if (at >= call.words.size()) return call.Bad("an amount is missing");
-  if (!TryParseMoney(call.words[at], amount)) return call.Bad("\"" + call.words[at] + "\" is no amount");
+  if (!TryParseMoney(call.words[at], amount)) return call.Bad(NoAmount(call.words[at]));
   return true;
 }
 
@@ -142,7 +142,7 @@ std::string Joined(const Words& words, std::size_t first, std::size_t last) {
 }
 
 // The bet that the words first to last name; up to 93, or CheckStacks as well.
-bool BetNumber(Call& call, std::size_t first, std::size_t last, bool stacks, int& bet) {
+bool BetNumber(Call& call, std::size_t first, std::size_t last, bool stacks, BetId& bet) {
   if (first >= last) return call.Bad("a bet is missing");
   const std::string name = Joined(call.words, first, last);
   bet = BetByName(name);
@@ -158,7 +158,7 @@ bool WantWords(Call& call, std::size_t least, std::size_t most, const char* usag
 }
 
 bool Join(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   Currency bankroll;
   if (!WantWords(call, 4, 99, "join SEAT NAME BANKROLL") || !SeatNumber(call, 1, seat) ||
       !Amount(call, call.words.size() - 1, bankroll))
@@ -168,9 +168,9 @@ bool Join(Call& call) {
 }
 
 bool Leave(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!WantWords(call, 2, 2, "leave SEAT") || !Player(call, 1, seat)) return false;
-  const int selected = call.game.table.SelectedSeat;
+  const SeatId selected = call.game.table.SelectedSeat;
   call.game.table.SelectedSeat = seat;
   call.host.confirmNext = true;
   const bool left = RemovePlayer(call.game);
@@ -181,29 +181,29 @@ bool Leave(Call& call) {
 }
 
 bool Rename(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!WantWords(call, 3, 99, "rename SEAT NAME") || !Player(call, 1, seat)) return false;
   return RenameTo(call.game, seat, Joined(call.words, 2, call.words.size()), call.error);
 }
 
 bool Move(Call& call) {
-  int from = 0;
-  int to = 0;
+  SeatId from;
+  SeatId to;
   if (!WantWords(call, 3, 3, "move SEAT SEAT") || !Player(call, 1, from) || !SeatNumber(call, 2, to))
     return false;
   return MovePlayer(call.game, from, to, call.error);
 }
 
 bool Select(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!WantWords(call, 2, 2, "select SEAT") || !Player(call, 1, seat)) return false;
   SelectSeat(call.game, seat);
   return true;
 }
 
 bool MakeBet(Call& call) {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   Currency amount;
   if (!WantWords(call, 4, 99, "bet SEAT BET AMOUNT") || !Player(call, 1, seat) ||
       !BetNumber(call, 2, call.words.size() - 1, true, bet) || !Amount(call, call.words.size() - 1, amount))
@@ -214,8 +214,8 @@ bool MakeBet(Call& call) {
 }
 
 bool Remove(Call& call) {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   if (!WantWords(call, 3, 99, "remove SEAT BET") || !Player(call, 1, seat) ||
       !BetNumber(call, 2, call.words.size(), true, bet))
     return false;
@@ -235,7 +235,7 @@ bool Redo(Call& call) {
 }
 
 bool Repeat(Call& call) {
-  int seat = call.game.table.SelectedSeat;
+  SeatId seat = call.game.table.SelectedSeat;
   if (!WantWords(call, 1, 2, "repeat [SEAT]")) return false;
   if (call.words.size() == 2 && !Player(call, 1, seat)) return false;
   if (BetsToRepeat(call.game, seat).Empty()) return call.Bad("every bet of the last roll is up");
@@ -244,11 +244,11 @@ bool Repeat(Call& call) {
 }
 
 bool CallOnOff(Call& call) {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   if (!WantWords(call, 4, 99, "call SEAT on|off BET") || !Player(call, 1, seat)) return false;
   const std::string& word = call.words[2];
-  if (word != "on" && word != "off") return call.Bad("\"" + word + "\" is neither on nor off");
+  if (word != "on" && word != "off") return call.Bad(NeitherOnNorOff(word));
   if (call.words[3] == "all") {
     CallAllBets(call.game, seat, word == "on");
     return true;
@@ -261,8 +261,8 @@ bool CallOnOff(Call& call) {
 }
 
 bool Buy(Call& call) {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   if (!WantWords(call, 3, 99, "buy SEAT BET") || !Player(call, 1, seat) ||
       !BetNumber(call, 2, call.words.size(), false, bet))
     return false;
@@ -298,7 +298,7 @@ bool Roll(Call& call) {
   table.ManualRollPending = false;
   AnswerWithRoll(call, before);
   if (Throws(call.game.stats) == before)
-    return call.Bad(table.StopReason.empty() ? "nothing was rolled" : table.StopReason);
+    return call.Bad(table.StopReason.empty() ? kNothingRolled : table.StopReason);
   return true;
 }
 
@@ -344,14 +344,12 @@ bool Seed(Call& call) {
   if (!WantWords(call, 2, 2, "seed NUMBER") || !Amount(call, 1, seed)) return false;
   bool accepted = seed >= Currency::Dollars(1) && seed.IsWhole();
   if (accepted) SeedRng(call.game, accepted, seed);
-  if (!accepted)
-    return call.Bad("seed " + call.words[1] + ": must be a whole number from 1 to " +
-                    std::to_string(SeedLimit(call.game.generators)));
+  if (!accepted) return call.Bad(NoSeed("seed " + call.words[1], SeedLimit(call.game.generators)));
   return true;
 }
 
 bool Atm(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   Currency amount;
   if (!WantWords(call, 4, 4, "atm SEAT deposit|withdraw AMOUNT") || !Player(call, 1, seat) ||
       !Amount(call, 3, amount))
@@ -391,7 +389,7 @@ bool UseHouse(Call& call) {
 bool Get(Call& call) {
   if (!WantWords(call, 2, 2, "get NAME, or get NAME@SEAT")) return false;
   std::string name;
-  int seat = 0;
+  SeatId seat = 0;
   if (!ParseSettingName(call.words[1], name, seat))
     return call.Bad("\"" + call.words[1] + "\": expected NAME or NAME@SEAT");
   std::string value;
@@ -472,21 +470,21 @@ bool UseRollFile(Call& call) {
 }
 
 bool SetStack(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   int stack = 0;
   Currency value;
   if (!WantWords(call, 4, 4, "stack SEAT N VALUE") || !Player(call, 1, seat) || !Amount(call, 3, value))
     return false;
   if (!ReadInt(call.words[2], stack) || stack < 0 || stack >= kCheckStacks)
     return call.Bad("\"" + call.words[2] + "\" is no CheckStack; CheckStacks are 0 to 99");
-  const int bet = kFirstCheckStack + stack;
+  const BetId bet = kFirstCheckStack + stack;
   ChangeBet(call.game, seat, bet, value - call.game.table.BetAmount(seat, bet));
   call.answer["value"] = MoneyJson(call.game.table.BetAmount(seat, bet));
   return true;
 }
 
 bool Plot(Call& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!WantWords(call, 2, 2, "plot SEAT") || !Player(call, 1, seat)) return false;
   const Game& game = call.game;
   Json points = Json::array();
@@ -530,15 +528,14 @@ bool OpenIt(Call& call) {
 }
 
 bool Stats(Call& call) {
-  int seat = 0;
-  int scope = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  ScopeId scope = 0;
+  BetId bet = 0;
   if (!WantWords(call, 3, 99, "stats SEAT SCOPE [BET]")) return false;
-  if (!ReadInt(call.words[1], seat) || seat < 0 || seat > kSeats)
+  if (!ReadInt(call.words[1], seat.value) || seat < 0 || seat > kSeats)
     return call.Bad("\"" + call.words[1] + "\" is no seat; 0 is the table, players are 1 to 8");
-  if (!ReadInt(call.words[2], scope) || scope < 0 || scope >= kScopes)
-    return call.Bad("\"" + call.words[2] +
-                    "\" is no scope; 0 current hand, 1 last hand, 2 session, 3 last session, 4 all sessions");
+  if (!ReadInt(call.words[2], scope.value) || scope < 0 || scope >= kScopes)
+    return call.Bad(NoScope(call.words[2]));
   if (call.words.size() > 3 && !BetNumber(call, 3, call.words.size(), false, bet)) return false;
   call.answer.update(StatsJson(call.game, seat, scope, bet));
   return true;
@@ -551,7 +548,7 @@ bool Report(Call& call) {
   return true;
 }
 
-Json LuckJson(const Game& game, int seat) {
+Json LuckJson(const Game& game, SeatId seat) {
   const auto rounded = [](double value) { return std::round(value * 1e8) / 1e8 + 0.0; };
   const SessionLuckFigures figures = SessionLuckOf(game, seat);
   const LuckReport& report = figures.report;
@@ -573,18 +570,18 @@ bool Luck(Call& call) {
     WatchLuckOfTurboRolls(call.game, true);
   if (call.words.size() == 1) {
     Json& seats = call.answer["seats"] = Json::array();
-    for (int seat = 1; seat <= kSeats; ++seat)
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
       if (IsOccupied(call.game.table, seat)) seats.push_back(LuckJson(call.game, seat));
     return true;
   }
-  int seat = 0;
+  SeatId seat = 0;
   if (!WantWords(call, 2, 2, "luck, or luck SEAT") || !Player(call, 1, seat)) return false;
   call.answer.update(LuckJson(call.game, seat));
   return true;
 }
 
 bool Facts(Call& call) {
-  int bet = 0;
+  BetId bet = 0;
   if (!WantWords(call, 2, 99, "facts BET") || !BetNumber(call, 1, call.words.size(), false, bet))
     return false;
   call.answer.update(FactsJson(call.game, bet));

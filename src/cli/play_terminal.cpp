@@ -67,7 +67,7 @@ std::string AskLine(const std::string& prompt) {
 }
 
 // The check of a seat's script; false for a bad one, with its lines marked.
-bool TellCheck(const Game& game, int seat, bool alsoGood) {
+bool TellCheck(const Game& game, SeatId seat, bool alsoGood) {
   const SeatScript& script = game.autobet.Scripts[seat];
   const ScriptCheck check = CheckLines(SurroundingsOf(game), seat, script.ScriptLines);
   const std::string name = script.ScriptFileName.empty() ? "hot-key" : script.ScriptFileName;
@@ -136,7 +136,7 @@ class TerminalHost : public PlayHost {
   // The window has a button that shows the error; here it is told at once.
   static void TellBadScripts(const Game& game, Msg told) {
     if (told == Msg::kHotKeyBad) TellCheck(game, 0, false);
-    for (int seat = 1; seat <= kSeats && told == Msg::kScriptBad; ++seat)
+    for (SeatId seat = 1; seat <= kSeats && told == Msg::kScriptBad; ++seat)
       if (game.autobet.ScriptActive[seat]) TellCheck(game, seat, false);
   }
   static void AskYesNo(MessageBox& box) {
@@ -150,7 +150,7 @@ class TerminalHost : public PlayHost {
     TryParseMoney(typed, box.MsgValue1);
   }
 
-  int stepSeat_ = 0;
+  SeatId stepSeat_ = 0;
   int stepLine_ = 0;
 };
 
@@ -187,14 +187,14 @@ constexpr const char* kFaces[7] = {"", "⚀", "⚁", "⚂", "⚃", "⚄", "⚅"}
 
 constexpr std::size_t kMostOfName = 40;
 
-void DrawSeat(const Game& game, int seat) {
+void DrawSeat(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   std::printf("%c%d %-14s bankroll %12s   on table %10s   rail %12s\n", seat == table.ShooterSeat ? '*' : ' ',
-              seat, table.seats[seat].SeatName.c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
+              seat.value, table.seats[seat].SeatName.c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
               FormatMoney(table.seats[seat].OnTableAmount).c_str(),
               FormatMoney(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount).c_str());
   IndentedList list;
-  table.seats[seat].SeatBets.ForEach([&](int bet) {
+  table.seats[seat].SeatBets.ForEach([&](BetId bet) {
     list.Add(BetName(bet) + " $" + FormatMoney(table.BetAmount(seat, bet)) +
              CallMark(BetWorkingOf(game, seat, bet)));
   });
@@ -219,7 +219,7 @@ void DrawTable(const Game& game) {
     std::printf(number == table.Point ? "[%d]" : " %d ", number);
   }
   std::printf("\n");
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat)) DrawSeat(game, seat);
   if (!table.StopReason.empty()) std::printf("%s\n", WithNewlines(table.StopReason).c_str());
 }
@@ -235,7 +235,7 @@ std::vector<std::string> Candidates(const std::string& text, bool firstWord, con
   } else if (command == "report") {
     words = ReportWords();
   } else {
-    for (int bet = 1; bet <= kBets; ++bet) words.emplace_back(FactsOf(bet).scriptName);
+    for (BetId bet = 1; bet <= kBets; ++bet) words.emplace_back(FactsOf(bet).scriptName);
   }
   std::erase_if(words, [&text](const std::string& word) { return !word.starts_with(text); });
   return words;
@@ -269,7 +269,7 @@ bool PrintScriptCheck(const Game& game, const std::vector<std::string>& words, c
   const bool loads = words[0] == "script" && answer["ok"].get<bool>();
   if (!loads && words[0] != "activate") return false;
   if (words.size() < 2 || words[1].size() != 1 || words[1][0] < '1' || words[1][0] > '8') return false;
-  const int seat = words[1][0] - '0';
+  const SeatId seat = words[1][0] - '0';
   return IsOccupied(game.table, seat) && (!TellCheck(game, seat, loads) || loads);
 }
 
@@ -277,7 +277,7 @@ bool PrintScriptCheck(const Game& game, const std::vector<std::string>& words, c
 class ErrorTeller {
  public:
   void TellNew(const Game& game) {
-    for (int seat = 0; seat <= kSeats; ++seat) {
+    for (SeatId seat = 0; seat <= kSeats; ++seat) {
       const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
       if (errors.size() < told_[seat]) told_[seat] = 0;
       for (; told_[seat] < errors.size(); ++told_[seat])

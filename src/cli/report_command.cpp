@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "base/bet_catalogue.h"
+#include "cli/refusals.h"
 #include "state/game.h"
 #include "stats/roll_item_lists.h"
 
@@ -40,19 +41,17 @@ bool ForEachPart(const std::string& list, Take&& take) {
 }
 
 bool ReadScope(const Reading& read) {
-  int& scope = read.selection.scope;
-  if (ReadNumber(read.value, scope) && scope >= 0 && scope < kScopes) return true;
-  return read.Bad("\"" + read.value +
-                  "\" is no scope; 0 current hand, 1 last hand, 2 session, 3 last session, 4 all sessions");
+  ScopeId& scope = read.selection.scope;
+  if (ReadNumber(read.value, scope.value) && scope >= 0 && scope < kScopes) return true;
+  return read.Bad(NoScope(read.value));
 }
 
 bool ReadSeats(const Reading& read) {
   read.selection.seats = 0;
   return ForEachPart(read.value, [&](const std::string& part) {
-    int seat = 0;
-    if (!ReadNumber(part, seat) || seat < 1 || seat > kSeats)
-      return read.Bad("\"" + part + "\" is no seat; seats are 1 to 8");
-    if (!IsOccupied(read.game.table, seat)) return read.Bad("there is no player at seat " + part);
+    SeatId seat = 0;
+    if (!ReadNumber(part, seat.value) || seat < 1 || seat > kSeats) return read.Bad(NoSeat(part));
+    if (!IsOccupied(read.game.table, seat)) return read.Bad(NobodyAtSeat(part));
     read.selection.seats |= 1u << seat;
     return true;
   });
@@ -61,7 +60,7 @@ bool ReadSeats(const Reading& read) {
 bool ReadBets(const Reading& read) {
   read.selection.bets.Clear();
   return ForEachPart(read.value, [&](const std::string& part) {
-    const int bet = BetByName(part);
+    const BetId bet = BetByName(part);
     if (!IsTableBet(bet))
       return read.Bad("\"" + part + "\" is no bet; bets are 1 to 93, or names such as passline or place6");
     read.selection.bets.Add(bet);
@@ -138,12 +137,12 @@ bool ReadSelector(const Game& game, const std::string& word, ReportSelection& se
 
 // Bet Trends is of one player: who was named, else the selected player, else the first.
 bool PickOneSeat(const Game& game, bool named, ReportSelection& selection, std::string& error) {
-  const std::vector<int> seats = SelectedPlayers(game, selection);
+  const std::vector<SeatId> seats = SelectedPlayers(game, selection);
   if (named && seats.size() > 1) {
     error = "this report is of one seat";
     return false;
   }
-  selection.seat = seats.empty() ? 0 : seats.front();
+  selection.seat = seats.empty() ? kNobody : seats.front();
   if (!named && IsOccupied(game.table, game.table.SelectedSeat)) selection.seat = game.table.SelectedSeat;
   return true;
 }

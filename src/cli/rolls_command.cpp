@@ -12,6 +12,7 @@
 #include "base/record_file.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
 #include "cli/table_json.h"
@@ -291,7 +292,7 @@ std::string WorkAndPutInPlace(Workbench& bench, const RollsOptions& options, Dis
                                    [](const RollsStep& operation) { return RowOf(operation).changes; });
   std::error_code fault;
   const bool isThere = std::filesystem::exists(options.file, fault);
-  if (!isThere && !fault && !changes) return options.file + ": File not found";
+  if (!isThere && !fault && !changes) return NotFound(options.file);
   const auto original = std::make_unique<RollFile>();
   RollFile& opened = changes ? *original : bench.file;
   std::string error = isThere || fault ? OpenRollFile(opened, options.file) : "";
@@ -341,7 +342,7 @@ void AddRollsCommand(CLI::App& program, int& exitCode) {
   command->add_option("--format", options->format, "Of --export: text with Roll#, Die1, Die2 and Total");
   command->add_flag("--renumber", options->renumber, "The first exported roll counts as #1");
   command->add_option("--data-folder", options->dataFolder, "Folder of the work files");
-  command->add_flag("--json", options->json, "Print one JSON object");
+  command->add_flag("--json", options->json, kJsonHelp);
   command->footer(
       "The operations are done together or, when one can't be, not at all. A new file is made for what it\n"
       "is to hold.\n\n"

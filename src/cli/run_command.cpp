@@ -9,6 +9,7 @@
 
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/report_command.h"
 #include "cli/script_commands.h"
 #include "cli/script_report.h"
@@ -64,7 +65,7 @@ class ProgressBar {
 // The sessions that scripts began and ended, by player.
 Json SessionsJson(const Game& game) {
   Json sessions = Json::array();
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const SessionsTally& tally = game.sessions.Files.Tally[seat];
     if (tally.Sessions == 0) continue;
     const double handle = tally.Handle.ToDouble();
@@ -82,7 +83,7 @@ Json SessionsJson(const Game& game) {
 
 void PrintSessions(const Game& game) {
   bool headed = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const SessionsTally& tally = game.sessions.Files.Tally[seat];
     if (tally.Sessions == 0) continue;
     if (!headed)
@@ -100,8 +101,7 @@ void PrintReport(const Game& game, const Json& run) {
   const auto whole = [](const Json& number) {
     return FormatMoney(Currency::Dollars(number.get<std::int64_t>()));
   };
-  std::printf("%s rolls in %.2f seconds (%s rolls a second)\n", whole(run["rolls"]).c_str(),
-              run["seconds"].get<double>(),
+  std::printf(kRollsASecond, whole(run["rolls"]).c_str(), run["seconds"].get<double>(),
               FormatMoney(Currency::FromDouble(std::floor(run["rollsPerSecond"].get<double>()))).c_str());
   if (const std::string reason = run["stopReason"]; !reason.empty()) std::printf("%s\n", reason.c_str());
   const Json& table = run["table"];
@@ -147,7 +147,7 @@ constexpr struct {
 
 // A run that not one roll came of.
 int Refused(const std::string& reason) {
-  std::string text = "nothing was rolled";
+  std::string text = kNothingRolled;
   if (!reason.empty()) text += ": " + AsLines(reason);
   for (const auto& known : kHints)
     if (reason == known.reason) text += std::string("\nHint: ") + known.hint;
@@ -179,7 +179,8 @@ int Run(const RunOptions& options) {
   if (!game) return kBad;
   if (options.trace > 0 || options.profile) WatchScripts(*game, &watch);
   RunFigures figures;
-  for (int seat = 1; seat <= kSeats; ++seat) figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    figures.bankrollStart[seat] = game->table.BankrollCurrent[seat];
   // Nobody is there to be asked: scripts are initialised, so that they can bet before the first roll.
   // Those of a game file were, when the game began.
   const bool initialise = options.table.game.empty() || !options.table.scripts.empty();
@@ -238,7 +239,7 @@ void AddRunCommand(CLI::App& program, int& exitCode) {
       ->check(CLI::Range(std::size_t{1}, kLongestTrace));
   command->add_flag("--profile", options->profile,
                     "Tell which lines of the scripts ran most and took longest");
-  command->add_flag("--json", options->json, "Print one JSON object");
+  command->add_flag("--json", options->json, kJsonHelp);
   command->footer(
       "Example:\n  tessaryn-cli run --player Ann=5000 --set ShooterBetRule=0 --rolls 10000000 --seed 7");
   command->callback([options, &exitCode] { exitCode = Run(*options); });

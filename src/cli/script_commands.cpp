@@ -4,6 +4,7 @@
 
 #include "autobet/run/interpreter.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_permissions.h"
 #include "cli/script_report.h"
 #include "play/hot_keys.h"
@@ -21,18 +22,18 @@ bool Usage(ScriptCommandCall& call, std::size_t words, const char* usage) {
   return call.words.size() == words || Bad(call, std::string("expected: ") + usage);
 }
 
-bool SeatWord(ScriptCommandCall& call, int& seat) {
+bool SeatWord(ScriptCommandCall& call, SeatId& seat) {
   const std::string problem = ReadSeat(call.game, call.words[1], seat);
   return problem.empty() || Bad(call, problem);
 }
 
 bool OnOff(ScriptCommandCall& call, const std::string& word, bool& on) {
   on = word == "on";
-  return on || word == "off" || Bad(call, "\"" + word + "\" is neither on nor off");
+  return on || word == "off" || Bad(call, NeitherOnNorOff(word));
 }
 
 bool Load(ScriptCommandCall& call) {
-  int seat = 0;
+  SeatId seat = 0;
   std::string error;
   if (!Usage(call, 3, "script SEAT FILE") || !SeatWord(call, seat)) return false;
   if (!OpenScript(call.game, seat, call.words[2], error)) return Bad(call, error);
@@ -42,7 +43,7 @@ bool Load(ScriptCommandCall& call) {
 }
 
 bool Activate(ScriptCommandCall& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!Usage(call, 2, "activate SEAT") || !SeatWord(call, seat)) return false;
   const ScriptCheck check = CheckScript(call.game, seat);
   if (!check.ok) return Bad(call, check.title + ": " + AsLines(check.text));
@@ -51,14 +52,14 @@ bool Activate(ScriptCommandCall& call) {
 }
 
 bool Deactivate(ScriptCommandCall& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!Usage(call, 2, "deactivate SEAT") || !SeatWord(call, seat)) return false;
   SetScriptActive(call.game, seat, false);
   return true;
 }
 
 bool Initialise(ScriptCommandCall& call) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!Usage(call, 2, "initialise SEAT") || !SeatWord(call, seat)) return false;
   SetScriptActive(call.game, seat, true);
   return InitialiseScripts(call.game) || Bad(call, "the scripts can't be compiled");
@@ -83,7 +84,7 @@ bool Errors(ScriptCommandCall& call) {
 }
 
 bool Permission(ScriptCommandCall& call) {
-  int seat = 0;
+  SeatId seat = 0;
   bool on = false;
   if (!Usage(call, 4, "permission SEAT others|reset|probabilities on|off") || !SeatWord(call, seat) ||
       !OnOff(call, call.words[3], on))

@@ -1,5 +1,6 @@
 #include "cli/script_permissions.h"
 
+#include "cli/refusals.h"
 #include "play/script_session.h"
 #include "state/game.h"
 
@@ -16,14 +17,14 @@ constexpr struct {
 
 }  // namespace
 
-std::string ReadSeat(const Game& game, const std::string& word, int& seat) {
+std::string ReadSeat(const Game& game, const std::string& word, SeatId& seat) {
   const bool digit = word.size() == 1 && word[0] >= '1' && word[0] <= '8';
-  if (!digit) return "\"" + word + "\" is no seat; seats are 1 to 8";
+  if (!digit) return NoSeat(word);
   seat = word[0] - '0';
-  return IsOccupied(game.table, seat) ? "" : "there is no player at seat " + word;
+  return IsOccupied(game.table, seat) ? "" : NobodyAtSeat(word);
 }
 
-std::string Permit(Game& game, int seat, const std::string& word, bool on) {
+std::string Permit(Game& game, SeatId seat, const std::string& word, bool on) {
   for (const auto& known : kPermissions) {
     if (word != known.word) continue;
     SetScriptPermission(game, seat, known.permission, on);

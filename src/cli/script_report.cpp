@@ -101,7 +101,7 @@ Json ErrorJson(const ScriptErrorKind& kind) {
 
 Json ErrorsJson(const Game& game) {
   Json errors = Json::array();
-  for (int seat = 0; seat <= kSeats; ++seat)
+  for (SeatId seat = 0; seat <= kSeats; ++seat)
     for (const ScriptErrorKind& kind : game.autobet.Scripts[seat].Errors) {
       errors.push_back({{"seat", seat}});
       errors.back().update(ErrorJson(kind));
@@ -110,7 +110,7 @@ Json ErrorsJson(const Game& game) {
 }
 
 void PrintErrors(const Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::vector<ScriptErrorKind>& errors = game.autobet.Scripts[seat].Errors;
     if (errors.empty()) continue;
     std::printf("\nRun-time errors of %s's script, and where each came up first:\n",
@@ -123,7 +123,7 @@ void PrintErrors(const Game& game) {
 
 bool EveryScriptCouldAct(const Game& game) {
   bool could = true;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const SeatScript& script = game.autobet.Scripts[seat];
     if (script.Acted || script.Errors.empty()) continue;
     could = false;

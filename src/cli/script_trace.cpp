@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kOutcomes[] = {"done", "true", "false", "error"};
 
-const std::vector<std::string>& LinesOf(const Game& game, int seat) {
+const std::vector<std::string>& LinesOf(const Game& game, SeatId seat) {
   return game.autobet.Scripts[seat].ScriptLines;
 }
 
@@ -21,7 +21,7 @@ std::string StatementOf(const Game& game, const TracedStatement& traced) {
 }
 
 struct ProfiledLine {
-  int seat = 0;
+  SeatId seat = 0;
   int line = 0;
   LineProfile profile;
 };
@@ -29,7 +29,7 @@ struct ProfiledLine {
 // The lines that ran, by their time and then by their place.
 std::vector<ProfiledLine> ProfiledLines(const ScriptWatch& watch) {
   std::vector<ProfiledLine> lines;
-  for (int seat = 0; seat <= kSeats; ++seat)
+  for (SeatId seat = 0; seat <= kSeats; ++seat)
     for (std::size_t line = 1; line < watch.lines[seat].size(); ++line)
       if (watch.lines[seat][line].count > 0)
         lines.push_back({seat, static_cast<int>(line), watch.lines[seat][line]});
@@ -45,7 +45,7 @@ std::string TextOf(const Game& game, const ProfiledLine& profiled) {
   return at < lines.size() ? std::string(Trimmed(lines[at])) : std::string();
 }
 
-std::string SeatName(const Game& game, int seat) {
+std::string SeatName(const Game& game, SeatId seat) {
   return seat == 0 ? "hot-key" : game.table.seats[seat].SeatName;
 }
 

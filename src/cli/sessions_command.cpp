@@ -10,6 +10,7 @@
 #include "base/program_folders.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_report.h"
 #include "cli/table_json.h"
 #include "stats/sessions_log.h"
@@ -292,13 +293,13 @@ void AddSessionsCommand(CLI::App& program, int& exitCode) {
   command->add_option("--merge", options->merged, "Append the sessions of another log first");
   command->add_option("--export", options->exported,
                       "Write the sessions that are looked at to this CSV file");
-  command->add_option("--data-folder", options->dataFolder, "Folder of everything that is written");
+  command->add_option("--data-folder", options->dataFolder, kDataFolderHelp);
   // What is given empty asks for nothing that could be meant.
   for (CLI::Option* option :
        command->get_options([](const CLI::Option* one) { return !one->get_lnames().empty(); }))
     if (option->get_name() != "--help")
       option->check([](const std::string& text) { return text.empty() ? "needs a value" : ""; });
-  command->add_flag("--json", options->json, "Print one JSON object");
+  command->add_flag("--json", options->json, kJsonHelp);
   command->footer(
       "Example:\n  tessaryn-cli sessions ann.slg --stat \"Ending bankroll\" --include won,lost --export "
       "ann.csv");

@@ -16,19 +16,19 @@ Json MoneyJson(Currency value) {
   return value.ToDouble();
 }
 
-Json BetsUpJson(const Game& game, int seat) {
+Json BetsUpJson(const Game& game, SeatId seat) {
   Json bets = Json::object();
   game.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { bets[std::to_string(bet)] = MoneyJson(game.table.BetAmount(seat, bet)); });
+      [&](BetId bet) { bets[std::to_string(bet)] = MoneyJson(game.table.BetAmount(seat, bet)); });
   return bets;
 }
 
 namespace {
 
-Json SeatJson(const Game& game, int seat) {
+Json SeatJson(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   Json bets = Json::object();
-  table.seats[seat].SeatBets.ForEach([&](int bet) {
+  table.seats[seat].SeatBets.ForEach([&](BetId bet) {
     bets[std::to_string(bet)] = {{"amount", MoneyJson(table.BetAmount(seat, bet))},
                                  {"working", BetWorkingOf(game, seat, bet)},
                                  {"committed", MoneyJson(table.BetCommitted(seat, bet))}};
@@ -46,7 +46,7 @@ Json SeatJson(const Game& game, int seat) {
           {"checkstacks", stacks}};
 }
 
-Json KindsJson(const Statistics& stats, StatTable table, int scope, int seat, int bet) {
+Json KindsJson(const Statistics& stats, StatTable table, ScopeId scope, SeatId seat, BetId bet) {
   constexpr const char* kNames[] = {"count", "total", "high", "low", "lastRoll", "lastAmount"};
   Json kinds;
   for (int kind = kStatCount; kind <= kStatLastAmount; ++kind)
@@ -54,9 +54,9 @@ Json KindsJson(const Statistics& stats, StatTable table, int scope, int seat, in
   return kinds;
 }
 
-Json BetStatsJson(const Statistics& stats, int seat, int scope, int onlyBet) {
+Json BetStatsJson(const Statistics& stats, SeatId seat, ScopeId scope, BetId onlyBet) {
   Json bets = Json::object();
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const bool any = BetStat(stats, kWagerStats, scope, seat, bet, kStatCount) != kZero;
     if (onlyBet != 0 ? bet != onlyBet : !any) continue;
     bets[std::to_string(bet)] = {{"name", BetName(bet)},
@@ -67,7 +67,7 @@ Json BetStatsJson(const Statistics& stats, int seat, int scope, int onlyBet) {
   return bets;
 }
 
-Json RollItemsJson(const Statistics& stats, int seat, int scope) {
+Json RollItemsJson(const Statistics& stats, SeatId seat, ScopeId scope) {
   Json items = Json::object();
   for (int item = 0; item < kRollItems; ++item)
     if (item == 0 || !RollItemName(item).empty())
@@ -90,9 +90,9 @@ std::int64_t SumNumbers(const Statistics& stats, int slot, NumberKind kind) {
   return sum;
 }
 
-Currency SumBets(const Statistics& stats, StatTable table, int seat, StatKind kind) {
+Currency SumBets(const Statistics& stats, StatTable table, SeatId seat, StatKind kind) {
   Currency sum;
-  for (int bet = 1; bet <= kBets; ++bet) sum += BetStat(stats, table, kAllSessions, seat, bet, kind);
+  for (BetId bet = 1; bet <= kBets; ++bet) sum += BetStat(stats, table, kAllSessions, seat, bet, kind);
   return sum;
 }
 
@@ -115,13 +115,13 @@ Json StateJson(const Game& game) {
                        {"next", file.RollFileCursor},
                        {"rolls", RollFileLength(file)}};
   Json seats = Json::array();
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat)) seats.push_back(SeatJson(game, seat));
   state["seats"] = seats;
   return state;
 }
 
-Json StatsJson(const Game& game, int seat, int scope, int bet) {
+Json StatsJson(const Game& game, SeatId seat, ScopeId scope, BetId bet) {
   const Statistics& stats = game.stats;
   const int slot = Slot(scope, seat);
   return {{"seat", seat},
@@ -152,7 +152,7 @@ Json RunJson(const Game& game, const RunFigures& figures) {
   for (int total = 2; total <= 12; ++total)
     totals[std::to_string(total)] = RollCount(stats, kAllSessions, 0, total);
   Json seats = Json::array();
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     seats.push_back({{"seat", seat},
                      {"name", game.table.seats[seat].SeatName},
@@ -181,7 +181,7 @@ Json RunJson(const Game& game, const RunFigures& figures) {
       {"seats", seats}};
 }
 
-Json FactsJson(Game& game, int bet) {
+Json FactsJson(Game& game, BetId bet) {
   const BetTerms terms = BetTermsOf(game, game.table.SelectedSeat, bet);
   const auto rounded = [](double value) { return std::round(value * 1e6) / 1e6 + 0.0; };
   Json lines = Json::array();

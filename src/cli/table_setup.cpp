@@ -10,6 +10,7 @@
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 #include "cli/script_permissions.h"
 #include "cli/script_report.h"
 #include "dice/generators.h"
@@ -31,7 +32,7 @@ namespace tessaryn::cli {
 
 void AddTableOptions(CLI::App& command, TableOptions& options) {
   options.writes = true;
-  command.add_option("--data-folder", options.dataFolder, "Folder of everything that is written");
+  command.add_option("--data-folder", options.dataFolder, kDataFolderHelp);
   command.add_option("--game", options.game,
                      "A game file to start from; other options then change its table");
   command.add_option("--save-game", options.saveGame, "Write the game to this file at the end");
@@ -45,11 +46,11 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
       ->take_all()
       ->allow_extra_args(false);
   AddSettingsFileOptions(command, options);
-  command.add_option("--rng", options.rng, "Generator 1 to 8")->check(CLI::Range(1, 8));
-  command.add_option("--seed", options.seed, "Seed of the generator");
+  command.add_option("--rng", options.rng, kGeneratorHelp)->check(CLI::Range(1, 8));
+  command.add_option("--seed", options.seed, kSeedHelp);
   command.add_option("--roll-file", options.rollFile, "Play the dice of a roll file");
   command.add_option("--record", options.recordFile, "Record the dice to a roll file");
-  command.add_option("--probabilities", options.probabilities, "Percentage dice from a probability file");
+  command.add_option("--probabilities", options.probabilities, kProbabilitiesHelp);
   command.add_option("--script", options.scripts, "A betting script; the k-th is the k-th player's")
       ->take_all()
       ->allow_extra_args(false);
@@ -70,21 +71,21 @@ void AddTableOptions(CLI::App& command, TableOptions& options) {
 
 void AddSettingsFileOptions(CLI::App& command, TableOptions& options) {
   command.add_option("--house", options.house, "The rules of a ready house: " + HouseKeys());
-  command.add_option("--settings", options.settingsFile, "A file of settings, NAME = VALUE a line");
+  command.add_option("--settings", options.settingsFile, kSettingsHelp);
   command.add_option("--save-settings", options.saveSettings, "Write the settings in force to this file");
 }
 
-bool ParseSettingName(const std::string& text, std::string& name, int& seat) {
+bool ParseSettingName(const std::string& text, std::string& name, SeatId& seat) {
   const auto at = text.find('@');
   name = text.substr(0, at);
   seat = 0;
   if (at == std::string::npos) return true;
   const char* last = text.data() + text.size();
-  const auto [end, fault] = std::from_chars(text.data() + at + 1, last, seat);
+  const auto [end, fault] = std::from_chars(text.data() + at + 1, last, seat.value);
   return fault == std::errc() && end == last;
 }
 
-bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value) {
+bool ParseAssignment(const std::string& text, std::string& name, SeatId& seat, std::string& value) {
   const auto equals = text.find('=');
   if (equals == std::string::npos) return false;
   value = text.substr(equals + 1);
@@ -121,12 +122,12 @@ bool OpenTheGame(Game& game, const TableOptions& options) {
 }
 
 bool SeatPlayers(Game& game, const TableOptions& options) {
-  int seat = 0;
+  SeatId seat = 0;
   for (const std::string& player : options.players) {
     const auto equals = player.rfind('=');
     Currency bankroll = game.settings.StartBank;
     if (equals != std::string::npos && !TryParseMoney(player.substr(equals + 1), bankroll))
-      return Told("--player " + player + ": \"" + player.substr(equals + 1) + "\" is no amount");
+      return Told("--player " + player + ": " + NoAmount(player.substr(equals + 1)));
     std::string error;
     if (!JoinPlayer(game, ++seat, player.substr(0, equals), bankroll, error))
       return Told("--player " + player + ": " + error);
@@ -196,8 +197,7 @@ bool SeedDice(Game& game, const TableOptions& options) {
   Currency seed;
   bool accepted = TryParseMoney(options.seed, seed) && seed >= Currency::Dollars(1) && seed.IsWhole();
   if (accepted) SeedRng(game, accepted, seed);
-  return accepted || Told("--seed " + options.seed + ": must be a whole number from 1 to " +
-                          std::to_string(SeedLimit(game.generators)));
+  return accepted || Told(NoSeed("--seed " + options.seed, SeedLimit(game.generators)));
 }
 
 bool LoadDice(Game& game, const TableOptions& options) {
@@ -243,7 +243,7 @@ bool CheckTargets(Game& game, const TableOptions& options) {
   for (const OutputOption& target : targets) {
     for (const OutputOption& other : targets)
       if (&other < &target && IsOneFile(target.path, other.path))
-        return Told(target.option + target.path + ": is the file of " + other.option + "too");
+        return Told(SameFileAs(target.option + target.path, other.option));
     if (target.path.empty() || target.path == options.rollFile) continue;
     if (const std::string problem = TargetProblem(target.path); !problem.empty())
       return Told(target.option + target.path + ": " + problem);
@@ -282,6 +282,7 @@ bool TakeDataFolder(Game& game, const TableOptions& options) {
   std::string folder = options.dataFolder;
   std::string error;
   if (!PrepareDataFolder(folder, error)) return Told(error);
+  game.dataFolder = game.ownFolder = folder;
   if (!options.writes) return true;
   const std::string told = ClaimDataFolder(game.folderLock, game.ownFolder, "tessaryn-cli");
   if (!told.empty()) std::fprintf(stderr, "tessaryn-cli: %s\n", AsLines(told).c_str());
@@ -293,7 +294,7 @@ bool TakeDataFolder(Game& game, const TableOptions& options) {
 bool LoadScripts(Game& game, const std::vector<std::string>& files,
                  const std::vector<std::string>& outputFolders) {
   game.autobet.AllowedOutputFolders = outputFolders;
-  int seat = 0;
+  SeatId seat = 0;
   for (const std::string& file : files) {
     std::string error;
     if (++seat > kSeats || !IsOccupied(game.table, seat)) {
@@ -318,7 +319,7 @@ bool LoadScripts(Game& game, const std::vector<std::string>& files,
 bool PermitScripts(Game& game, const std::vector<std::string>& permits) {
   for (const std::string& permit : permits) {
     const auto equals = permit.find('=');
-    int seat = 0;
+    SeatId seat = 0;
     std::string problem = equals == std::string::npos ? "expected SEAT=PERMISSION,..."
                                                       : ReadSeat(game, permit.substr(0, equals), seat);
     for (auto at = equals; problem.empty() && at != std::string::npos;) {

@@ -50,8 +50,8 @@ bool EndTable(Game& game, const TableOptions& options);
 std::string TargetProblem(const std::string& path);
 
 // NAME=VALUE or NAME@SEAT=VALUE. False without a "=", or with a seat that is no number.
-bool ParseAssignment(const std::string& text, std::string& name, int& seat, std::string& value);
+bool ParseAssignment(const std::string& text, std::string& name, SeatId& seat, std::string& value);
 // NAME or NAME@SEAT; seat 0 without one.
-bool ParseSettingName(const std::string& text, std::string& name, int& seat);
+bool ParseSettingName(const std::string& text, std::string& name, SeatId& seat);
 
 }  // namespace tessaryn::cli

@@ -302,7 +302,7 @@ std::vector<FormatPiece> ParseFormat(std::string_view format) {
   return pieces;
 }
 
-void AppendRollText(std::string& text, const std::vector<FormatPiece>& pieces, std::int64_t rollNumber,
+void AppendRollText(std::string& text, const std::vector<FormatPiece>& pieces, RollNumber rollNumber,
                     unsigned char roll) {
   const auto digit = [&](int value) { text += std::to_string(value); };
   for (const FormatPiece& piece : pieces) {
@@ -747,7 +747,7 @@ bool IsRenumberQuestion(const RollFile& file) {
                      [](const FormatPiece& piece) { return piece.Field == RollField::kNumber; });
 }
 
-std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned char roll) {
+std::string RollText(std::string_view format, RollNumber rollNumber, unsigned char roll) {
   std::string text;
   AppendRollText(text, ParseFormat(format), rollNumber, roll);
   return text;

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/table_types.h"
 #include "base/work_files.h"
 #include "state/generators_state.h"
 #include "state/roll_file_state.h"
@@ -168,7 +169,7 @@ std::string DraftRollFile(RollFile& file, const std::string& path, FileReplaceme
 bool IsRollFormatUsable(std::string_view format);
 // Whether the user is to be asked Msg::kAskRenumber: the numbers are wanted and would not start with 1.
 bool IsRenumberQuestion(const RollFile& file);
-std::string RollText(std::string_view format, std::int64_t rollNumber, unsigned char roll);
+std::string RollText(std::string_view format, RollNumber rollNumber, unsigned char roll);
 // The selected rolls by RollFileOutputFormat, a line each. renumber: the first one counts as roll 1.
 std::string CopyRollsToTextFile(RollFile& file, const std::string& path, bool renumber);
 std::string DraftTextFile(RollFile& file, const std::string& path, bool renumber, FileReplacement& target);

@@ -12,7 +12,6 @@ namespace tessaryn {
 namespace {
 
 constexpr const char* kPlayer = "Lab";
-constexpr int kSeat = 1;
 // What a script of the laboratory asks to write leads nowhere: sessions run side by side.
 constexpr const char* kNowhere = "/dev/null/";
 
@@ -56,12 +55,12 @@ std::string SetDice(Game& game, const Experiment& experiment) {
 
 void LoadSystem(Game& game, const LabSystem& system, LabProblem& problem) {
   for (const StackStart& start : system.stacks)
-    SetBetAmount(game, kSeat, kFirstCheckStack + start.stack, start.amount);
-  SetScript(game, kSeat, system.lines, system.name);
-  problem.script = CheckScript(game, kSeat);
+    SetBetAmount(game, kLabSeat, kFirstCheckStack + start.stack, start.amount);
+  SetScript(game, kLabSeat, system.lines, system.name);
+  problem.script = CheckScript(game, kLabSeat);
   if (!problem.script.ok && problem.script.diagnostic.Failed())
     problem.text = system.name + ": " + problem.script.text;
-  SetScriptActive(game, kSeat, true);
+  SetScriptActive(game, kLabSeat, true);
 }
 
 }  // namespace
@@ -97,7 +96,7 @@ std::unique_ptr<Game> BuildTable(const Experiment& experiment, const LabSystem& 
                                  const std::string& applicationFolder, LabProblem& problem) {
   std::unique_ptr<Game> game = StartGame(host, applicationFolder, kNowhere);
   problem.text = ApplySettings(*game, experiment, system, false);
-  if (!problem.Found()) JoinPlayer(*game, kSeat, kPlayer, experiment.bankroll, problem.text);
+  if (!problem.Found()) JoinPlayer(*game, kLabSeat, kPlayer, experiment.bankroll, problem.text);
   if (!problem.Found()) problem.text = ApplySettings(*game, experiment, system, true);
   if (!problem.Found()) problem.text = SetDice(*game, experiment);
   if (!problem.Found()) LoadSystem(*game, system, problem);

@@ -23,7 +23,7 @@ TESSARYN_FIELDS(StackStart, stack, amount)
 
 struct LabSetting {
   std::string name;
-  int seat = 0;
+  SeatId seat = 0;
   std::string text;  // its value
 };
 TESSARYN_FIELDS(LabSetting, name, seat, text)
@@ -38,6 +38,7 @@ struct LabSystem {
 };
 TESSARYN_FIELDS(LabSystem, name, lines, standingBets, stacks, settings)
 
+inline constexpr SeatId kLabSeat = 1;  // where every system plays
 inline constexpr std::int64_t kMostLabSessions = 1'000'000'000;
 inline constexpr std::size_t kMostSystems = 1'000;
 inline constexpr int kMostShards = 100'000;
@@ -78,7 +79,7 @@ std::string LabelOf(const LabSystem& system);
 
 // A standing bet: put up again before each roll when it is down.
 struct StandingBet {
-  int bet = 0;
+  BetId bet = 0;
   Currency amount;
 };
 LabSystem StandingBetSystem(const std::string& name, const std::vector<StandingBet>& bets);

@@ -5,290 +5,340 @@
 #include <cstdio>
 
 #include "dice/generators.h"
+#include "dice/percentage_dice.h"
+#include "lab/html_figures.h"
+#include "lab/html_parts.h"
+#include "lab/html_style.h"
+#include "lab/html_sweeps.h"
+#include "lab/lab_words.h"
 
 namespace tessaryn {
 namespace {
 
-constexpr double kDollar = Currency::kPerDollar;
+constexpr std::int64_t kFewSessions = 30;  // bounds of fewer are rough
 
-// --- Text.
+// --- Figures in words.
 
-std::string Escaped(const std::string& text) {
-  std::string escaped;
-  for (const char c : text) {
-    if (c == '<')
-      escaped += "&lt;";
-    else if (c == '>')
-      escaped += "&gt;";
-    else if (c == '&')
-      escaped += "&amp;";
-    else if (c == '"')
-      escaped += "&quot;";
-    else if (static_cast<unsigned char>(c) >= ' ' || c == '\n' || c == '\t')
-      escaped += c;
-  }
-  return escaped;
-}
-
-std::string Fixed(double number, int decimals) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*f", decimals, std::fabs(number) < 1e-12 ? 0.0 : number);
-  return text;
-}
-
-std::string Dollars(std::int64_t raw) { return FormatMoney(Currency::FromRaw(raw)); }
 std::string Whole(std::int64_t number) { return FormatMoney(Currency::Dollars(number)); }
-std::string Money(double dollars) {
-  return FormatMoney(Currency::FromDouble(std::round(dollars * 100) / 100));
+std::string Dollars(std::int64_t raw) { return Number(static_cast<double>(raw) / kDollar, 2); }
+
+constexpr std::size_t kMostOfName = 64;  // characters; all of it stands above its own section
+
+std::string NameOf(const LabState& state, std::size_t system) {
+  return Escaped(Shortened(LabelOf(state.experiment.systems[system]), kMostOfName));
 }
-std::string Share(std::int64_t count, std::int64_t of) {
-  const ShareFigure share = FigureShare(count, of);
-  return Fixed(100 * share.p, 2) + "% <small>" + Fixed(100 * share.ci95.low, 2) + " to " +
-         Fixed(100 * share.ci95.high, 2) + "</small>";
+// With its letter where there are several.
+std::string Keyed(const LabState& state, std::size_t system, const std::string& name) {
+  if (state.systems.size() == 1) return name;
+  return Tag("span", KeyOf(system, state.systems.size()), "class=\"key\"") + "&nbsp;" + name;
 }
-
-std::string Tag(const char* name, const std::string& content) {
-  return "<" + std::string(name) + ">" + content + "</" + name + ">";
+std::string KeyedName(const LabState& state, std::size_t system) {
+  return Keyed(state, system, NameOf(state, system));
 }
-
-constexpr const char* kStyle =
-    ":root{--ink:#1f2328;--soft:#59636e;--line:#d1d9e0;--page:#fff;--fill:#2f6f9f;--band:#2f6f9f;--warm:#"
-    "b4552d}"
-    "@media(prefers-color-scheme:dark){:root{--ink:#e6edf3;--soft:#9198a1;--line:#3d444d;--page:#14181d;"
-    "--fill:#6cb1e0;--band:#6cb1e0;--warm:#e08a5f}}"
-    "@media print{:root{--ink:#000;--soft:#444;--line:#bbb;--page:#fff;--fill:#2f6f9f;--band:#2f6f9f;"
-    "--warm:#b4552d}section{break-inside:avoid}}"
-    "body{font:16px/1.5 system-ui,sans-serif;color:var(--ink);background:var(--page);max-width:60rem;"
-    "margin:2rem auto;padding:0 1rem}h1{font-size:1.6rem}h2{font-size:1.2rem;margin-top:2.5rem;"
-    "border-top:1px solid var(--line);padding-top:1rem}h3{font-size:1rem}small,figcaption{color:var(--soft);"
-    "font-size:.8rem}div.wide{overflow-x:auto}table{border-collapse:collapse;font-variant-numeric:tabular-"
-    "nums}"
-    "th,td{padding:.25rem .75rem .25rem 0;text-align:right;border-bottom:1px solid var(--line)}"
-    "th:first-child,td:first-child{text-align:left}th{font-weight:600}figure{margin:1rem 0}svg{width:100%;"
-    "height:auto}svg text{fill:var(--soft);font:11px system-ui,sans-serif}pre{overflow-x:auto;padding:1rem;"
-    "border:1px solid var(--line);border-radius:4px;font-size:.85rem}.axis{stroke:var(--line)}";
-
-// --- Pictures. 800 by 260, with room for the numbers.
-
-constexpr double kWidth = 800;
-constexpr double kHeight = 260;
-constexpr double kLeft = 70;
-constexpr double kBottom = 225;
-constexpr double kTop = 15;
-
-struct Scale {
-  double low = 0;
-  double high = 1;
-  double from = 0;
-  double to = 1;
-  double At(double value) const { return from + (to - from) * (value - low) / (high > low ? high - low : 1); }
-};
-
-std::string Text(double x, double y, const char* anchor, const std::string& text) {
-  return "<text x=\"" + Fixed(x, 1) + "\" y=\"" + Fixed(y, 1) + "\" text-anchor=\"" + anchor + "\">" + text +
-         "</text>";
-}
-
-std::string Line(double x1, double y1, double x2, double y2) {
-  return "<line class=\"axis\" x1=\"" + Fixed(x1, 1) + "\" y1=\"" + Fixed(y1, 1) + "\" x2=\"" + Fixed(x2, 1) +
-         "\" y2=\"" + Fixed(y2, 1) + "\"/>";
-}
-
-std::string Axes(const Scale& across, const Scale& up, const std::string& ofAcross, const std::string& ofUp,
-                 bool percent) {
-  std::string svg;
-  for (int i = 0; i <= 4; ++i) {
-    const double x = across.low + (across.high - across.low) * i / 4;
-    const double y = up.low + (up.high - up.low) * i / 4;
-    svg += Line(kLeft, up.At(y), kWidth - 10, up.At(y));
-    svg += Text(across.At(x), kBottom + 16, "middle", Money(x));
-    svg += Text(kLeft - 8, up.At(y) + 4, "end", percent ? Fixed(100 * y, 1) + "%" : Money(y));
-  }
-  return svg + Text(kWidth - 10, kHeight - 3, "end", ofAcross) + Text(kLeft, kTop - 4, "start", ofUp);
-}
-
-std::string Figure(const std::string& drawing, const std::string& caption) {
-  return "<figure><svg viewBox=\"0 0 800 260\" role=\"img\" aria-label=\"" + caption + "\">" + drawing +
-         "</svg><figcaption>" + caption + "</figcaption></figure>\n";
-}
-
-std::string HistogramFigure(const SystemSums& sums) {
-  const std::vector<Bin> bins = Histogram(sums.nets);
-  std::int64_t most = 1;
-  for (const Bin& bin : bins) most = std::max(most, bin.count);
-  const auto of = static_cast<double>(sums.sessions);
-  const Scale across{static_cast<double>(bins.front().low) / kDollar,
-                     static_cast<double>(bins.back().high) / kDollar, kLeft, kWidth - 10};
-  const Scale up{0, static_cast<double>(most) / of, kBottom, kTop};
-  std::string svg = Axes(across, up, "result, dollars", "share of sessions", true);
-  for (const Bin& bin : bins) {
-    const double x = across.At(static_cast<double>(bin.low) / kDollar);
-    const double y = up.At(static_cast<double>(bin.count) / of);
-    const double width = across.At(static_cast<double>(bin.high) / kDollar) - x;
-    svg += "<rect fill=\"var(--" + std::string(bin.high <= 0 ? "warm" : "fill") + ")\" x=\"" +
-           Fixed(x + .5, 1) + "\" y=\"" + Fixed(y, 1) + "\" width=\"" + Fixed(std::max(width - 1, .5), 1) +
-           "\" height=\"" + Fixed(kBottom - y, 1) + "\"/>";
-  }
-  return Figure(svg, "How the sessions ended; losses in the warm colour.");
-}
-
-std::string FanFigure(const Experiment& experiment, const SystemSums& sums) {
-  if (experiment.rolls == 0) return {};
-  Scale up{0, 0, kBottom, kTop};
-  for (const ValueCounts& counts : sums.fan) {
-    up.low = std::min(up.low, static_cast<double>(Quantile(counts, 5)) / kDollar);
-    up.high = std::max(up.high, static_cast<double>(Quantile(counts, 95)) / kDollar);
-  }
-  const Scale across{0, static_cast<double>(experiment.rolls), kLeft, kWidth - 10};
-  const auto points = [&](int percent, bool back) {
-    std::string path;
-    for (int i = 0; i <= kFanMarks; ++i) {
-      const int mark = back ? kFanMarks - i : i;
-      const double net = mark == 0 ? 0 : static_cast<double>(Quantile(sums.fan[mark - 1], percent)) / kDollar;
-      path += Fixed(across.At(static_cast<double>(experiment.rolls) * mark / kFanMarks), 1) + "," +
-              Fixed(up.At(net), 1) + " ";
-    }
-    return path;
-  };
-  std::string svg = Axes(across, up, "rolls", "result so far, dollars", false);
-  for (const int percent : {5, 10, 25})
-    svg += "<polygon fill=\"var(--band)\" fill-opacity=\".2\" points=\"" + points(percent, false) +
-           points(100 - percent, true) + "\"/>";
-  svg += "<polyline fill=\"none\" stroke=\"var(--fill)\" stroke-width=\"2\" points=\"" + points(50, false) +
-         "\"/>";
-  return Figure(svg, "The way there: the median, and the middle 50, 80 and 90 percent of the sessions.");
-}
-
-std::string RuinFigure(const SystemSums& sums) {
-  if (sums.ruined == 0) return {};
-  const auto of = static_cast<double>(sums.sessions);
-  const Scale across{0, static_cast<double>(sums.lengths.rows.back().amount), kLeft, kWidth - 10};
-  const Scale up{0, static_cast<double>(sums.ruined) / of, kBottom, kTop};
-  std::string points = Fixed(kLeft, 1) + "," + Fixed(kBottom, 1);
-  std::int64_t ruined = 0;
-  const std::size_t step = sums.ruins.rows.size() / 400 + 1;
-  for (std::size_t i = 0; i < sums.ruins.rows.size(); ++i) {
-    ruined += sums.ruins.rows[i].count;
-    if (i % step != 0 && i + 1 != sums.ruins.rows.size()) continue;
-    points += " " + Fixed(across.At(static_cast<double>(sums.ruins.rows[i].amount)), 1) + "," +
-              Fixed(up.At(static_cast<double>(ruined) / of), 1);
-  }
-  return Figure(Axes(across, up, "rolls", "ruined so far", true) +
-                    "<polyline fill=\"none\" stroke=\"var(--warm)\" stroke-width=\"2\" points=\"" + points +
-                    "\"/>",
-                "Ruin over time.");
-}
-
-// --- Sections.
 
 MeanFigure NetOf(const SystemSums& sums) { return FigureMean(sums.net, sums.sessions, kDollar); }
+// Parts in which luck and price are told, to the dollar.
+double PartsOf(const SystemSums& sums) {
+  return kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1));
+}
 MeanFigure AdjustedOf(const SystemSums& sums) {
-  return FigureMean(sums.adjusted, sums.sessions,
-                    kDollar * static_cast<double>(std::max<std::int64_t>(sums.luckUnit, 1)));
+  return FigureMean(sums.adjusted, sums.sessions, PartsOf(sums));
+}
+double MeanOf(Int128 sum, std::int64_t count, double unit) {
+  return FigureMean({sum, 0, 0}, count, unit).mean;
 }
 
-std::string InWords(const LabSystem& system, const SystemSums& sums) {
+std::string Between(const Bounds& bounds, std::string (*show)(double, int), int decimals) {
+  return Tag("small", show(bounds.low, decimals) + " to " + show(bounds.high, decimals));
+}
+
+// A figure and its bounds, a cell each. One session has no spread to tell bounds from.
+using Cells = std::vector<std::string>;
+Cells MeanCells(const MeanFigure& figure, std::int64_t sessions) {
+  const int decimals = DecimalsFor(figure.ci95);
+  return {Signed(figure.mean, decimals), sessions < 2 ? "" : Between(figure.ci95, Signed, decimals)};
+}
+Cells ShareCells(std::int64_t count, std::int64_t of) {
+  const ShareFigure share = FigureShare(count, of);
+  return {PercentText(share.p, 2), Between(share.ci95, PercentText, 2)};
+}
+
+std::string PlainShare(std::int64_t count, std::int64_t of) {
+  return PercentText(FigureShare(count, of).p, 1);
+}
+
+// With a full stop, whether it came with one or not.
+std::string Ended(const std::string& sentence) { return sentence.ends_with('.') ? sentence : sentence + "."; }
+
+bool NeverRolled(const SystemSums& sums) { return sums.unrolled == sums.sessions; }
+
+// --- The summary.
+
+std::string SystemInWords(const LabState& state, std::size_t system) {
+  const SystemSums& sums = state.systems[system];
+  const std::string name = Tag("b", KeyedName(state, system));
+  if (NeverRolled(sums))
+    return Tag("p", name + " never rolled the dice: " +
+                        (sums.stopReason.empty() ? "every session stopped at once."
+                                                 : Ended(Escaped(sums.stopReason)))) +
+           "\n";
   const MeanFigure net = NetOf(sums);
-  const auto oneIn = [&](std::int64_t count) {
-    return Fixed(100 * FigureShare(count, sums.sessions).p, 1) + "%";
-  };
-  return Tag("p", Tag("b", Escaped(LabelOf(system))) + (net.mean < 0 ? " loses " : " wins ") +
-                      Money(std::fabs(net.mean)) + " dollars a session on average (95% sure: " +
-                      Money(net.ci95.low) + " to " + Money(net.ci95.high) + "). " + oneIn(sums.won) +
-                      " of the sessions end ahead, " + oneIn(sums.lost) + " behind; " + oneIn(sums.ruined) +
-                      " are ruined. Half of them end between " + Dollars(Quantile(sums.nets, 25)) + " and " +
-                      Dollars(Quantile(sums.nets, 75)) + ".") +
+  const int decimals = DecimalsFor(net.ci95);
+  if (sums.handle == 0 && net.mean == 0 && net.stdDev == 0)
+    return Tag("p", name + " neither won nor lost anything: none of its bets was decided.") + "\n";
+  if (sums.sessions == 1)
+    return Tag("p", name + (net.mean < 0 ? " lost " : " won ") + Number(std::fabs(net.mean), 2) +
+                        " dollars in its one session, of " + Whole(sums.rolls) + " rolls" +
+                        (sums.ruined > 0 ? ", and was ruined." : ".")) +
+           "\n";
+  std::string text = name + (net.mean < 0 ? " loses " : " wins ") + Number(std::fabs(net.mean), decimals) +
+                     " dollars a session on average, 95% sure between " + Signed(net.ci95.low, decimals) +
+                     " and " + Signed(net.ci95.high, decimals);
+  text += ". " + PlainShare(sums.won, sums.sessions) + " of the sessions end ahead, " +
+          PlainShare(sums.lost, sums.sessions) + " behind; " + PlainShare(sums.ruined, sums.sessions) +
+          " are ruined";
+  if (state.experiment.winGoal > kZero)
+    text += "; " + PlainShare(sums.goal, sums.sessions) + " reach the goal";
+  return Tag("p", text + ". The middle half of them end between " +
+                      Signed(static_cast<double>(Quantile(sums.nets, 25)) / kDollar, 2) + " and " +
+                      Signed(static_cast<double>(Quantile(sums.nets, 75)) / kDollar, 2) + ".") +
          "\n";
 }
 
-std::string Row(const std::string& name, const std::vector<std::string>& cells) {
-  std::string row = "<tr><td>" + name + "</td>";
-  for (const std::string& cell : cells) row += Tag("td", cell);
-  return row + "</tr>\n";
+MeanFigure DifferenceOf(const LabState& state, std::size_t a, std::size_t b) {
+  const std::size_t first = std::min(a, b);
+  const std::size_t count = state.systems.size();
+  const std::size_t pair = first * (2 * count - first - 1) / 2 + std::max(a, b) - first - 1;
+  const MeanFigure figure = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
+  if (a < b) return figure;
+  return {-figure.mean, figure.stdDev, {-figure.ci95.high, -figure.ci95.low}};
 }
 
+// The two best by their means.
+std::string Verdict(const LabState& state) {
+  if (state.systems.size() < 2 || SessionsDone(state) < 2) return {};
+  const std::vector<Ranked> ranking = RankSystems(state, RankBy::kMean);
+  const std::size_t best = ranking[0].system;
+  const std::size_t next = ranking[1].system;
+  const MeanFigure difference = DifferenceOf(state, best, next);
+  const int decimals = DecimalsFor(difference.ci95);
+  const std::string between = ": " + std::string(difference.ci95.low > 0 ? "between " : "it is between ") +
+                              Signed(difference.ci95.low, decimals) + " and " +
+                              Signed(difference.ci95.high, decimals) + ", 95% sure.";
+  if (difference.mean == 0 && difference.stdDev == 0)
+    return Tag("p",
+               Tag("b", KeyedName(state, best)) + " and " + Tag("b", KeyedName(state, next)) +
+                   " end every session alike.",
+               "class=\"verdict\"") +
+           "\n";
+  if (difference.ci95.low > 0)
+    return Tag("p",
+               Tag("b", KeyedName(state, best)) + " ends a session " +
+                   Tag("b", Number(difference.mean, decimals) + " better") + " than " +
+                   Tag("b", KeyedName(state, next)) + " on the same dice" + between,
+               "class=\"verdict\"") +
+           "\n";
+  return Tag("p",
+             "Which does best isn't sure yet. " + Tag("b", KeyedName(state, best)) + " less " +
+                 Tag("b", KeyedName(state, next)) + " is " + Signed(difference.mean, decimals) +
+                 " a session on the same dice" + between,
+             "class=\"verdict\"") +
+         "\n";
+}
+
+std::string Notes(const LabState& state) {
+  std::string text;
+  const auto add = [&](const std::string& note) { text += Tag("p", note, "class=\"note\"") + "\n"; };
+  const std::int64_t done = SessionsDone(state);
+  const SessionRange range = SessionsOf(state.experiment);
+  if (!state.finished)
+    add("Not finished: " + Whole(done) + " of " + Whole(range.last - range.first) +
+        " sessions had been played.");
+  if (state.experiment.shards > 1)
+    add("A part of the whole: shard " + std::to_string(state.experiment.shard) + " of " +
+        std::to_string(state.experiment.shards) + ", sessions " + Whole(range.first + 1) + " to " +
+        Whole(range.last) + ".");
+  if (done == 1)
+    add("A single session tells nothing about the next: means have no bounds here.");
+  else if (done < kFewSessions)
+    add("So few sessions make rough bounds: those of means are too narrow.");
+  if (state.experiment.precision > kZero)
+    add("The bounds were looked at again and again until they were narrow enough, which makes them a little "
+        "too narrow.");
+  for (std::size_t i = 0; i < state.systems.size(); ++i)
+    if (const SystemSums& sums = state.systems[i]; !sums.errors.empty())
+      add("The script of " + NameOf(state, i) + " has run-time errors" +
+          (sums.acted ? "." : ", and could never act.") + " They are listed below.");
+  return text;
+}
+
+constexpr std::size_t kMostInWords = 8;  // systems
+
+std::string Summary(const LabState& state) {
+  std::string text = Verdict(state) + Notes(state);
+  if (state.systems.size() <= kMostInWords) {
+    for (std::size_t i = 0; i < state.systems.size(); ++i) text += SystemInWords(state, i);
+  } else {
+    const std::vector<Ranked> ranking = RankSystems(state, RankBy::kMean);
+    text += "<p class=\"soft\">The best and the worst by their means:</p>\n" +
+            SystemInWords(state, ranking.front().system) + SystemInWords(state, ranking.back().system);
+  }
+  return Tag("div", "\n" + text, "class=\"words\"") + "\n";
+}
+
+// --- All systems.
+
+std::string Ranking(const LabState& state, RankBy by) {
+  const bool goal = state.experiment.winGoal > kZero;
+  std::vector<std::string> heads = {"",
+                                    "system",
+                                    "mean result <small>95% bounds</small>",
+                                    "the same less luck <small>95% bounds</small>",
+                                    "median",
+                                    "ahead",
+                                    "ruined"};
+  if (goal) heads.push_back("goal");
+  std::string rows;
+  int place = 0;
+  for (const Ranked& ranked : RankSystems(state, by)) {
+    const SystemSums& sums = state.systems[ranked.system];
+    const Cells net = MeanCells(NetOf(sums), sums.sessions);
+    const Cells adjusted = MeanCells(AdjustedOf(sums), sums.sessions);
+    Cells cells = {net[0] + net[1], adjusted[0] + adjusted[1], Dollars(Quantile(sums.nets, 50)),
+                   PlainShare(sums.won, sums.sessions), PlainShare(sums.ruined, sums.sessions)};
+    if (goal) cells.push_back(PlainShare(sums.goal, sums.sessions));
+    std::string row = Tag("td", std::to_string(++place) + ".") +
+                      Tag("th", KeyedName(state, ranked.system), "scope=\"row\" class=\"name\"");
+    for (const std::string& cell : cells) row += Tag("td", cell);
+    rows += Tag("tr", row) + "\n";
+  }
+  return Tag("div", Tag("table", HeadRow(heads) + Tag("tbody", rows), "class=\"ranking\""),
+             "class=\"wide\"") +
+         "\n";
+}
+
+constexpr std::size_t kMostBeside = 40;  // systems in one drawing of spreads
+constexpr std::size_t kMostLines = 8;    // in one drawing of lines
+
+std::string AllSystems(const LabState& state, RankBy by) {
+  const std::size_t count = state.systems.size();
+  if (count < 2) return {};
+  std::string text =
+      std::string("<section><h2>All systems, by ") + RankName(by) + "</h2>\n" + Ranking(state, by);
+  if (count <= kMostBeside) text += SpreadFigure(state);
+  if (count <= kMostLines) text += RuinFigure(state, 0, count);
+  return text + "</section>\n";
+}
+
+// --- Comparison.
+
+constexpr std::size_t kMostPaired = 24;  // systems; of more each is compared with the best
+
+std::string DifferenceRow(const LabState& state, std::size_t a, std::size_t b) {
+  const MeanFigure difference = DifferenceOf(state, a, b);
+  const int decimals = DecimalsFor(difference.ci95);
+  const bool known = SessionsDone(state) > 1;
+  const char* sure = !known                     ? "unknown"
+                     : difference.ci95.low > 0  ? "yes"
+                     : difference.ci95.high < 0 ? "yes, the other way"
+                     : difference.stdDev == 0   ? "no difference"
+                                                : "no";
+  return Row(KeyedName(state, a) + " less " + KeyedName(state, b),
+             {Signed(difference.mean, decimals),
+              known ? Signed(difference.ci95.low, decimals) + " to " + Signed(difference.ci95.high, decimals)
+                    : "unknown",
+              sure});
+}
+
+std::string Comparisons(const LabState& state) {
+  const std::size_t count = state.systems.size();
+  if (count < 2) return {};
+  std::string rows;
+  if (count <= kMostPaired) {
+    ForEachPair(count,
+                [&](std::size_t, std::size_t a, std::size_t b) { rows += DifferenceRow(state, a, b); });
+  } else {
+    const std::vector<Ranked> ranking = RankSystems(state, RankBy::kMean);
+    for (std::size_t i = 1; i < count; ++i)
+      rows += DifferenceRow(state, ranking[0].system, ranking[i].system);
+  }
+  return std::string("<section><h2>Differences on the same dice</h2>\n<div class=\"wide\"><table>") +
+         HeadRow({count <= kMostPaired ? "systems" : "the best by its mean, and each other",
+                  "mean difference, $", "95% bounds", "sure to be better"}) +
+         Tag("tbody", rows) + "</table></div></section>\n";
+}
+
+// --- One system.
+
 std::string QuantileTable(const SystemSums& sums) {
-  std::string table = "<div class=\"wide\"><table><tr><th>share of sessions below</th>";
-  for (const int percent : kQuantilePercents) table += Tag("th", std::to_string(percent) + "%");
-  table += "</tr>\n";
+  std::vector<std::string> heads = {"share of sessions at or below"};
+  for (const int percent : kQuantilePercents) heads.push_back(std::to_string(percent) + "%");
+  std::string rows;
   const auto add = [&](const char* name, const ValueCounts& counts, std::string (*show)(std::int64_t)) {
     std::vector<std::string> cells;
     for (const int percent : kQuantilePercents) cells.push_back(show(Quantile(counts, percent)));
-    table += Row(name, cells);
+    rows += Row(name, cells);
   };
-  add("result", sums.nets, Dollars);
-  add("deepest fall", sums.drawdowns, Dollars);
+  add("result, $", sums.nets, Dollars);
+  add("deepest fall, $", sums.drawdowns, Dollars);
   add("rolls", sums.lengths, Whole);
-  return table + "</table></div>\n";
+  add("longest losing streak, rolls", sums.streaks, Whole);
+  return Tag("div", Tag("table", HeadRow(heads) + Tag("tbody", rows), "class=\"quantiles\""),
+             "class=\"wide\"") +
+         "\n";
 }
 
-std::string SystemSection(const Experiment& experiment, const LabSystem& system, const SystemSums& sums) {
+std::string Measures(const Experiment& experiment, const SystemSums& sums) {
   const MeanFigure net = NetOf(sums);
-  const MeanFigure adjusted = AdjustedOf(sums);
   const std::int64_t of = sums.sessions;
-  const double handle = FigureMean({sums.handle, 0, 0}, of, kDollar).mean;
-  std::string text = "<section><h2>" + Escaped(LabelOf(system)) + "</h2>\n<table>\n";
-  const auto bounds = [](const MeanFigure& figure) {
-    return Fixed(figure.mean, 4) + " <small>" + Fixed(figure.ci95.low, 4) + " to " +
-           Fixed(figure.ci95.high, 4) + "</small>";
-  };
-  text += Row("mean result", {bounds(net)}) + Row("the same less luck", {bounds(adjusted)}) +
-          Row("standard deviation", {Fixed(net.stdDev, 2)}) + Row("decided in a session", {Money(handle)}) +
-          Row("result of what was decided", {handle > 0 ? Fixed(100 * net.mean / handle, 3) + "%" : "none"}) +
-          Row("won", {Share(sums.won, of)}) + Row("broke even", {Share(sums.brokeEven, of)}) +
-          Row("lost", {Share(sums.lost, of)}) + Row("ruined", {Share(sums.ruined, of)}) +
-          Row("reached the goal", {Share(sums.goal, of)}) +
-          Row("reached the loss limit", {Share(sums.limit, of)}) + Row("stopped", {Share(sums.stopped, of)}) +
-          "</table>\n";
+  const double handle = MeanOf(sums.handle, of, kDollar);
+  std::string rows = Row("mean result, $", MeanCells(net, of), "class=\"mean\"");
+  const auto add = [&](const char* name, const Cells& cells) { rows += Row(name, cells); };
+  add("the same less luck, $", MeanCells(AdjustedOf(sums), of));
+  if (of > 1) add("standard deviation, $", {Number(net.stdDev, 2), ""});
+  add("decided in a session, $", {Number(handle, 2), ""});
+  add("price of its bets by the odds, $", {Number(MeanOf(sums.price, of, PartsOf(sums)), 2), ""});
+  add("result of what was decided", {handle > 0 ? PercentText(net.mean / handle, 3) : "none", ""});
+  add("deepest fall on average, $", {Number(MeanOf(sums.drawdown, of, kDollar), 2), ""});
+  add("rolls on average", {Number(MeanOf(sums.rolls, of, 1), 1), ""});
+  add("ended ahead", ShareCells(sums.won, of));
+  add("broke even", ShareCells(sums.brokeEven, of));
+  add("ended behind", ShareCells(sums.lost, of));
+  add("ruined", ShareCells(sums.ruined, of));
+  if (experiment.winGoal > kZero) add("reached the goal", ShareCells(sums.goal, of));
+  if (experiment.lossLimit > kZero) add("met the loss limit", ShareCells(sums.limit, of));
+  if (sums.stopped > 0) add("stopped by itself", ShareCells(sums.stopped, of));
+  return Tag("div", Tag("table", HeadRow({"", "", of > 1 ? "95% bounds" : ""}) + Tag("tbody", rows)),
+             "class=\"wide\"") +
+         "\n";
+}
+
+std::string SystemSection(const LabState& state, std::size_t system) {
+  const Experiment& experiment = state.experiment;
+  const SystemSums& sums = state.systems[system];
+  std::string text = "<section class=\"system\"><h2>" +
+                     Keyed(state, system, Escaped(LabelOf(experiment.systems[system]))) + "</h2>\n" +
+                     Measures(experiment, sums);
+  if (!sums.stopReason.empty())
+    text += Tag("p", "The first session that stopped by itself: " + Escaped(sums.stopReason)) + "\n";
   for (const ScriptErrorKind& kind : sums.errors)
-    text += Tag("p", "Run-time error, " + Whole(kind.count) + " times: line " + std::to_string(kind.line) +
-                         ", " + Escaped(kind.text)) +
+    text += Tag("p", "Run-time error, " + Whole(kind.count) + (kind.count == 1 ? " time" : " times") +
+                         ": line " + std::to_string(kind.line) + ", " + Escaped(kind.text)) +
             "\n";
-  return text + HistogramFigure(sums) + FanFigure(experiment, sums) + RuinFigure(sums) + QuantileTable(sums) +
-         "</section>\n";
-}
-
-constexpr std::size_t kMostCompared = 24;  // systems
-
-std::string Comparisons(const LabState& state) {
-  if (state.systems.size() < 2 || state.systems.size() > kMostCompared) return {};
-  std::string text =
-      "<section><h2>Differences on the same dice</h2>\n<div class=\"wide\"><table>"
-      "<tr><th>systems</th><th>mean difference</th><th>95% bounds</th></tr>\n";
-  ForEachPair(state.systems.size(), [&](std::size_t pair, std::size_t a, std::size_t b) {
-    const MeanFigure difference = FigureMean(state.pairs[pair], SessionsDone(state), kDollar);
-    text += Row(
-        Escaped(LabelOf(state.experiment.systems[a])) + " less " +
-            Escaped(LabelOf(state.experiment.systems[b])),
-        {Fixed(difference.mean, 4), Fixed(difference.ci95.low, 4) + " to " + Fixed(difference.ci95.high, 4)});
-  });
-  return text + "</table></div></section>\n";
-}
-
-// Systems by their mean result, best first.
-std::string Ranking(const LabState& state) {
-  if (state.systems.size() < 2) return {};
-  std::vector<std::size_t> order(state.systems.size());
-  for (std::size_t i = 0; i < order.size(); ++i) order[i] = i;
-  std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-    return state.systems[a].net.sum > state.systems[b].net.sum;
-  });
-  std::string text =
-      "<section><h2>Ranking by mean result</h2>\n<div class=\"wide\"><table><tr><th>system</th>"
-      "<th>mean</th><th>less luck</th><th>median</th><th>ruined</th><th>goal</th></tr>\n";
-  for (const std::size_t i : order) {
-    const SystemSums& sums = state.systems[i];
-    text +=
-        Row(Escaped(LabelOf(state.experiment.systems[i])),
-            {Fixed(NetOf(sums).mean, 4), Fixed(AdjustedOf(sums).mean, 4), Dollars(Quantile(sums.nets, 50)),
-             Fixed(100 * FigureShare(sums.ruined, sums.sessions).p, 2) + "%",
-             Fixed(100 * FigureShare(sums.goal, sums.sessions).p, 2) + "%"});
-  }
-  return text + "</table></div></section>\n";
+  if (NeverRolled(sums)) return text + "</section>\n";
+  if (sums.nets.rows.size() == 1)
+    text += Tag("p", "Every session ended at " + Dollars(sums.nets.rows.front().amount) + ".") + "\n";
+  else
+    text += ResultsFigure(experiment, sums);
+  text += WayFigure(experiment, sums);
+  if (state.systems.size() == 1 || state.systems.size() > kMostLines)
+    text += RuinFigure(state, system, system + 1);
+  return text + QuantileTable(sums) + "</section>\n";
 }
 
 // --- What was asked for.
 
+// FNV-1a of the lines, each with a line feed.
 std::string HashText(const std::vector<std::string>& lines) {
   std::uint64_t hash = 0xcbf29ce484222325u;
   for (const std::string& line : lines)
@@ -307,115 +357,102 @@ std::string Ends(const Experiment& experiment) {
   if (experiment.winGoal > kZero) add("a win of " + FormatMoney(experiment.winGoal));
   if (experiment.lossLimit > kZero) add("a loss of " + FormatMoney(experiment.lossLimit));
   add("ruin");
-  return ends + (experiment.endWithHand ? "; then no contract bet up" : "; at once");
+  return ends + (experiment.endWithHand ? ", then when no contract bet is up" : ", at once");
+}
+
+// The chances of the 36 combinations, die 1 down.
+std::string DiceTable(const Experiment& experiment) {
+  if (!experiment.percentageDice) return {};
+  std::string rows;
+  for (int die1 = 1; die1 <= 6; ++die1) {
+    std::vector<std::string> cells;
+    for (int die2 = 1; die2 <= 6; ++die2)
+      cells.push_back(Number(experiment.probabilities[1][static_cast<std::size_t>(ProbabilityRow(
+                                 die1, die2))][static_cast<std::size_t>(ProbabilityColumn(die1, die2))] /
+                                 1000.0,
+                             3));
+    rows += Row(std::to_string(die1), cells);
+  }
+  return "<h3>Percentage dice, in percent: die 1 down, die 2 across</h3>\n" +
+         Tag("div", Tag("table", HeadRow({"", "1", "2", "3", "4", "5", "6"}) + Tag("tbody", rows)),
+             "class=\"wide\"") +
+         "\n";
+}
+
+// A sweep plays one script again and again: each text once.
+std::string Scripts(const Experiment& experiment) {
+  std::string text;
+  std::vector<const LabSystem*> told;
+  for (const LabSystem& system : experiment.systems) {
+    const bool known = std::any_of(told.begin(), told.end(), [&](const LabSystem* one) {
+      return one->name == system.name && one->lines == system.lines;
+    });
+    if (known) continue;
+    told.push_back(&system);
+    std::string script;
+    for (const std::string& line : system.lines) script += Escaped(line) + "\n";
+    text += "<h3>" + Escaped(system.name) +
+            "</h3>\n<p class=\"soft\">FNV-1a of these lines: " + HashText(system.lines) + "</p>\n<pre>" +
+            script + "</pre>\n";
+  }
+  return text;
 }
 
 std::string Inputs(const LabState& state) {
   const Experiment& experiment = state.experiment;
-  std::string text = "<section><h2>To repeat it</h2>\n<table>\n";
-  text += Row("sessions", {Whole(SessionsDone(state))}) + Row("seed", {std::to_string(experiment.seed)}) +
-          Row("generator", {kGeneratorNames[std::max(experiment.generator, 1) - 1]}) +
-          Row("dice", {experiment.percentageDice ? "percentage dice" : "fair"}) +
-          Row("bankroll", {FormatMoney(experiment.bankroll)}) + Row("a session ends at", {Ends(experiment)});
+  std::string rows = Row("program", {std::string("Tessaryn ") + TESSARYN_VERSION}) +
+                     Row("sessions played", {Whole(SessionsDone(state))}) +
+                     Row("seed", {std::to_string(experiment.seed)}) +
+                     Row("generator", {kGeneratorNames[std::max(experiment.generator, 1) - 1]}) +
+                     Row("dice", {experiment.percentageDice ? "percentage dice" : "fair"}) +
+                     Row("a session starts with, $", {FormatMoney(experiment.bankroll)}) +
+                     Row("and ends at", {Ends(experiment)});
+  if (experiment.precision > kZero)
+    rows += Row("until means are known to, $", {"\xC2\xB1" + FormatMoney(experiment.precision)});
   for (const LabSetting& setting : experiment.settings)
-    text += Row(Escaped(setting.name) + (setting.seat == 0 ? "" : "@" + std::to_string(setting.seat)),
-                {Escaped(setting.text)});
-  text += "</table>\n";
-  const std::vector<std::string>* before = nullptr;
-  for (const LabSystem& system : experiment.systems) {
-    // A sweep plays one script again and again.
-    if (before != nullptr && *before == system.lines) continue;
-    before = &system.lines;
-    std::string script;
-    for (const std::string& line : system.lines) script += Escaped(line) + "\n";
-    text += "<h3>" + Escaped(system.name) + " <small>" + HashText(system.lines) + "</small></h3>\n<pre>" +
-            script + "</pre>\n";
-  }
-  return text + "</section>\n";
-}
-
-// --- Two sweeps as a map.
-
-struct Parameter {
-  std::string name;
-  std::string value;
-};
-
-std::vector<Parameter> ParametersOf(const LabSystem& system) {
-  std::vector<Parameter> parameters;
-  for (const StackStart& start : system.stacks)
-    parameters.push_back({"CheckStack " + std::to_string(start.stack), PlainMoney(start.amount)});
-  for (const LabSetting& setting : system.settings) parameters.push_back({setting.name, setting.text});
-  return parameters;
-}
-
-void AddNew(std::vector<std::string>& values, const std::string& value) {
-  if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
-}
-
-// The mean results of one script's two sweeps: across the second, down the first.
-std::string HeatMap(const LabState& state) {
-  const std::vector<LabSystem>& systems = state.experiment.systems;
-  const std::vector<Parameter> first = ParametersOf(systems.front());
-  if (first.size() != 2 || systems.size() < 4) return {};
-  std::vector<std::string> down;
-  std::vector<std::string> across;
-  double low = 1e300;
-  double high = -1e300;
-  for (std::size_t i = 0; i < systems.size(); ++i) {
-    if (systems[i].lines != systems.front().lines) return {};
-    AddNew(down, ParametersOf(systems[i])[0].value);
-    AddNew(across, ParametersOf(systems[i])[1].value);
-    low = std::min(low, NetOf(state.systems[i]).mean);
-    high = std::max(high, NetOf(state.systems[i]).mean);
-  }
-  if (down.size() * across.size() != systems.size()) return {};
-  std::string text = "<section><h2>Mean result by " + Escaped(first[0].name) + " and " +
-                     Escaped(first[1].name) + "</h2>\n<div class=\"wide\"><table><tr><th></th>";
-  for (const std::string& value : across) text += Tag("th", Escaped(value));
-  text += "</tr>\n";
-  for (std::size_t row = 0; row < down.size(); ++row) {
-    text += "<tr><th>" + Escaped(down[row]) + "</th>";
-    for (std::size_t column = 0; column < across.size(); ++column) {
-      const double mean = NetOf(state.systems[row * across.size() + column]).mean;
-      const double shade = high > low ? (mean - low) / (high - low) : 1;
-      text += "<td style=\"background:color-mix(in srgb,var(--fill) " + Fixed(70 * shade, 0) +
-              "%,var(--page))\">" + Fixed(mean, 2) + "</td>";
-    }
-    text += "</tr>\n";
-  }
-  return text + "</table></div></section>\n";
+    rows += Row(
+        "setting " + Escaped(setting.name) + (setting.seat == 0 ? "" : "@" + std::to_string(setting.seat)),
+        {Escaped(setting.text)});
+  std::string text =
+      "<section><h2>To repeat it</h2>\n" + Tag("table", Tag("tbody", rows), "class=\"facts\"") + "\n";
+  if (const std::string command = LabCommand(experiment); !command.empty())
+    text += "<p>This command gives the same figures to the last digit, on any machine:</p>\n<pre>" +
+            Escaped(command) + "</pre>\n";
+  return text + DiceTable(experiment) + Scripts(experiment) + "</section>\n";
 }
 
 constexpr std::size_t kMostSections = 40;  // of systems
 
+std::string Head(const LabState& state) {
+  const Experiment& experiment = state.experiment;
+  const std::int64_t done = SessionsDone(state);
+  const std::string systems =
+      state.systems.size() == 1 ? NameOf(state, 0) : Whole(std::ssize(state.systems)) + " systems";
+  const std::string title = Whole(done) + (done == 1 ? " session of " : " sessions of ") + systems;
+  return "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">\n"
+         "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">\n"
+         "<meta name=\"color-scheme\" content=\"light dark\">\n<title>" +
+         title + " - Tessaryn laboratory</title>\n<style>" + kReportStyle + "</style></head>\n<body>\n" +
+         Tag("h1", title) + "\n" +
+         Tag("p",
+             "A session starts with " + FormatMoney(experiment.bankroll) + " and ends at " +
+                 Ends(experiment) + ". Seed " + std::to_string(experiment.seed) + ".",
+             "class=\"soft\"") +
+         "\n";
+}
+
 }  // namespace
 
-std::string HtmlReport(LabState& state) {
+std::string HtmlReport(LabState& state, RankBy by) {
   SettleState(state);
-  const Experiment& experiment = state.experiment;
   std::string page =
-      "<!DOCTYPE html>\n<html lang=\"en\"><head><meta charset=\"utf-8\">"
-      "<meta name=\"viewport\" content=\"width=device-width,initial-scale=1\">"
-      "<meta name=\"color-scheme\" content=\"light dark\"><title>Laboratory report</title><style>" +
-      std::string(kStyle) + "</style></head><body>\n<h1>" + Whole(SessionsDone(state)) + " sessions of " +
-      (state.systems.size() == 1 ? Escaped(LabelOf(experiment.systems.front()))
-                                 : Whole(std::ssize(state.systems)) + " systems") +
-      "</h1>\n";
+      Head(state) + Summary(state) + SweepSections(state, by) + AllSystems(state, by) + Comparisons(state);
   const std::size_t shown = std::min(state.systems.size(), kMostSections);
-  for (std::size_t i = 0; i < std::min<std::size_t>(shown, 6); ++i)
-    page += InWords(experiment.systems[i], state.systems[i]);
-  if (experiment.precision > kZero)
-    page +=
-        "<p><small>The bounds were looked at again and again until they were narrow enough, which makes them "
-        "a "
-        "little too narrow.</small></p>\n";
-  page += Ranking(state) + HeatMap(state) + Comparisons(state);
-  for (std::size_t i = 0; i < shown; ++i)
-    page += SystemSection(experiment, experiment.systems[i], state.systems[i]);
+  for (std::size_t i = 0; i < shown; ++i) page += SystemSection(state, i);
   if (shown < state.systems.size())
-    page +=
-        Tag("p", "Pictures are of the first " + Whole(static_cast<std::int64_t>(shown)) + " systems.") + "\n";
+    page += Tag("p", "Drawings are of the first " + Whole(static_cast<std::int64_t>(shown)) + " systems.",
+                "class=\"soft\"") +
+            "\n";
   return page + Inputs(state) + "</body></html>\n";
 }
 

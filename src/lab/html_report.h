@@ -5,10 +5,11 @@
 #include <string>
 
 #include "lab/lab_state.h"
+#include "lab/ranking.h"
 
 namespace tessaryn {
 
-// Requires one session at least.
-std::string HtmlReport(LabState& state);
+// by: what systems are ranked by, and what sweeps show first. Requires one session at least.
+std::string HtmlReport(LabState& state, RankBy by = RankBy::kMean);
 
 }  // namespace tessaryn

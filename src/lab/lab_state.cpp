@@ -46,6 +46,8 @@ void Put(Writer& out, const T& value) {
     out.Word(static_cast<std::uint64_t>(value >> 64));
   } else if constexpr (std::is_integral_v<T>) {
     out.Word(static_cast<std::uint64_t>(value));
+  } else if constexpr (kIsId<T>) {
+    Put(out, value.value);
   } else if constexpr (std::is_same_v<T, Currency>) {
     out.Word(static_cast<std::uint64_t>(value.raw));
   } else if constexpr (std::is_same_v<T, std::string>) {
@@ -101,6 +103,8 @@ void Get(Reader& in, T& value) {
     value = in.Word() != 0;
   } else if constexpr (std::is_integral_v<T>) {
     value = static_cast<T>(in.Word());
+  } else if constexpr (kIsId<T>) {
+    Get(in, value.value);
   } else if constexpr (std::is_same_v<T, Currency>) {
     value.raw = static_cast<std::int64_t>(in.Word());
   } else if constexpr (std::is_same_v<T, std::string>) {
@@ -193,19 +197,31 @@ std::string ReadLab(const std::string& path, LabState& state) {
   std::string bytes;
   constexpr std::uint64_t kLargest = std::uint64_t{4} << 30;
   if (std::string error = ReadWholeFile(path, bytes, kLargest); !error.empty()) return error;
-  if (!std::string_view(bytes).starts_with(kAnyTitle)) return path + ": this is no laboratory's file";
-  if (!std::string_view(bytes).starts_with(kTitle))
-    return path + ": the file is of another version of the laboratory, or damaged";
-  if (bytes.size() < kTitle.size() + kHashBytes) return Damaged(path);
-  const std::string_view content = std::string_view(bytes).substr(0, bytes.size() - kHashBytes);
-  Reader hash{std::string_view(bytes).substr(content.size())};
-  if (hash.Word() != HashOf(content)) return Damaged(path);
+  return ReadLabBytes(path, bytes, state);
+}
+
+std::string ReadLabBytes(const std::string& name, std::string_view bytes, LabState& state) {
+  if (!bytes.starts_with(kAnyTitle)) return name + ": this is no laboratory's file";
+  if (!bytes.starts_with(kTitle))
+    return name + ": the file is of another version of the laboratory, or damaged";
+  if (bytes.size() < kTitle.size() + kHashBytes) return Damaged(name);
+  const std::string_view content = bytes.substr(0, bytes.size() - kHashBytes);
+  Reader hash{bytes.substr(content.size())};
+  if (hash.Word() != HashOf(content)) return Damaged(name);
   Reader in{content.substr(kTitle.size())};
   LabState read;
   Get(in, read);
-  if (in.bad || !in.bytes.empty() || !HoldsTogether(read)) return Damaged(path);
+  if (in.bad || !in.bytes.empty() || !HoldsTogether(read)) return Damaged(name);
   state = std::move(read);
   return {};
+}
+
+std::string PieceBytes(const LabPiece& piece) { return BytesOf(piece); }
+
+bool ReadPiece(std::string_view bytes, LabPiece& piece) {
+  Reader in{bytes};
+  Get(in, piece);
+  return !in.bad && in.bytes.empty();
 }
 
 std::string WriteLab(const std::string& path, std::string_view bytes) { return ReplaceFile(path, bytes); }

@@ -32,6 +32,17 @@ struct LabState {
 };
 TESSARYN_FIELDS(LabState, experiment, rows, next, finished, systems, pairs)
 
+// What comes of sessions that were played elsewhere, to be taken in behind those before them.
+struct LabPiece {
+  std::int64_t first = 0;  // first <= k < last
+  std::int64_t last = 0;
+  std::vector<SystemSums> systems;
+  std::vector<ExactSum> pairs;
+  std::string rows;   // of the sessions, if they are kept
+  std::string error;  // why they can't be played; empty for none
+};
+TESSARYN_FIELDS(LabPiece, first, last, systems, pairs, rows, error)
+
 // Visits the pairs of systems, visit(pair, a, b) with a before b.
 template <typename Visit>
 void ForEachPair(std::size_t systems, Visit&& visit) {
@@ -51,7 +62,12 @@ void SettleState(LabState& state);
 // Errors are texts; empty is success.
 std::string LabBytes(LabState& state);
 std::string ReadLab(const std::string& path, LabState& state);
+// Of bytes that came from name.
+std::string ReadLabBytes(const std::string& name, std::string_view bytes, LabState& state);
 std::string WriteLab(const std::string& path, std::string_view bytes);
+// Between two processes of one build. Requires settled counts. False for bytes that are no piece.
+std::string PieceBytes(const LabPiece& piece);
+bool ReadPiece(std::string_view bytes, LabPiece& piece);
 // The shards, in any order, as if they had been played in one; paths and shards come back in the order of
 // their sessions. The error names the file that doesn't belong.
 std::string MergeLabs(std::vector<std::string>& paths, std::vector<LabState>& shards, LabState& whole);

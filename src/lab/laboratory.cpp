@@ -17,6 +17,8 @@ constexpr std::int64_t kPrecisionStep = 1'000;  // sessions between two looks at
 constexpr std::size_t kMostTables = 256;        // of all threads: a table takes a megabyte
 // Enough that a table that is opened for one block pays.
 constexpr std::int64_t kRollsOfABlock = 500'000;
+constexpr std::int64_t kRollsOfAPiece =
+    1'000'000;  // some tenths of a second, many times what a message takes
 constexpr auto kCheckpointEvery = std::chrono::milliseconds(1'500);
 constexpr auto kLookEvery = std::chrono::milliseconds(100);
 
@@ -36,18 +38,22 @@ struct PlayedSystem {
 
 struct Block {
   std::vector<PlayedSystem> systems;
+  LabPiece piece;  // in place of systems, from a helper
   std::string error;
 };
 
 // What the threads share. All but fresh and stop under the lock.
 struct Lab {
-  Lab(LabState& itsState, const LabRun& itsRun) : state(itsState), run(itsRun) {}
+  Lab(LabState& itsState, const LabRun& itsRun, FreshTables& itsTables)
+      : state(itsState), run(itsRun), fresh(itsTables.games) {}
 
   LabState& state;
   const LabRun& run;
-  std::vector<std::unique_ptr<Game>> fresh;  // a table for each system, before its first session
-  LabHost host;                              // of these
+  const std::vector<std::unique_ptr<Game>>& fresh;
+  std::int64_t last = 0;  // the sessions before this one are played
   std::int64_t blockSessions = 1;
+  std::int64_t pieceSessions = 1;
+  std::int64_t ahead = 1;
   std::mutex lock;
   std::condition_variable changed;
   std::int64_t taken = 0;            // the first session that nobody plays yet
@@ -57,13 +63,17 @@ struct Lab {
   int working = 0;
 };
 
-// A part of a thousand, so that the bounds are looked at between blocks; a tenth of a second or so at most.
-std::int64_t SizeBlocks(const Experiment& experiment) {
+// The rolls of a session with all systems, about.
+std::int64_t CostOfSession(const Experiment& experiment) {
   const std::int64_t hands = experiment.hands > 0 ? experiment.hands * 9 : kMaxRolls;
   const std::int64_t hours =
       experiment.hours > kZero ? experiment.hours.raw / (Currency::kPerDollar / 120) : kMaxRolls;  // about
   const std::int64_t rolls = std::min({experiment.rolls > 0 ? experiment.rolls : kMaxRolls, hands, hours});
-  const std::int64_t cost = std::max<std::int64_t>(rolls, 50) * std::ssize(experiment.systems);
+  return std::max<std::int64_t>(rolls, 50) * std::ssize(experiment.systems);
+}
+
+// A part of a thousand, so that the bounds are looked at between blocks; a tenth of a second or so at most.
+std::int64_t SizeBlocks(std::int64_t cost) {
   for (const std::int64_t size : {200, 100, 50, 20, 10, 5, 2})
     if (size * cost <= kRollsOfABlock) return size;
   return 1;
@@ -159,7 +169,16 @@ bool IsKnown(const LabState& state) {
   return precision > kZero && state.next % kPrecisionStep == 0 && WidestBounds(state) <= precision.ToDouble();
 }
 
-void TakeIn(Lab& lab, Block& block) {
+void TakeInPiece(Lab& lab, const LabPiece& piece) {
+  LabState& state = lab.state;
+  for (std::size_t i = 0; i < state.systems.size(); ++i) AddSums(state.systems[i], piece.systems[i]);
+  for (std::size_t i = 0; i < state.pairs.size(); ++i) AddExact(state.pairs[i], piece.pairs[i]);
+  if (lab.run.rows == nullptr) return;
+  AddPieceRows(*lab.run.rows, piece);
+  state.rows = lab.run.rows->kept;
+}
+
+void TakeInSessions(Lab& lab, const Block& block) {
   LabState& state = lab.state;
   for (std::size_t i = 0; i < block.systems.size(); ++i)
     TakeInSystem(state.systems[i], block.systems[i], state.experiment.rolls > 0);
@@ -174,6 +193,16 @@ void TakeIn(Lab& lab, Block& block) {
     state.rows = lab.run.rows->kept;
   }
   state.next += static_cast<std::int64_t>(sessions);
+}
+
+void TakeIn(Lab& lab, const Block& block) {
+  LabState& state = lab.state;
+  if (block.systems.empty()) {
+    TakeInPiece(lab, block.piece);
+    state.next = block.piece.last;
+  } else {
+    TakeInSessions(lab, block);
+  }
   state.finished = state.next == SessionsOf(state.experiment).last || IsKnown(state);
 }
 
@@ -188,32 +217,66 @@ void TakeInWhatIsNext(Lab& lab) {
       lab.error = next->second.error;
     lab.in.erase(next);
   }
-  if (lab.state.finished || !lab.error.empty()) lab.stop = true;
+  if (lab.state.finished || lab.state.next == lab.last || !lab.error.empty()) lab.stop = true;
 }
 
-void Work(Lab& lab) {
-  const auto threads = static_cast<std::size_t>(lab.run.threads);
-  Tables tables{lab, {}, std::max<std::size_t>(kMostTables / threads, 1)};
-  tables.kept.resize(lab.fresh.size());
-  const std::int64_t last = SessionsOf(lab.state.experiment).last;
-  // Who is far ahead waits, so that what waits to be taken in doesn't grow.
-  const std::int64_t ahead = lab.blockSessions * lab.run.threads * 4;
+// Ends where the bounds are to be looked at.
+SessionRange TakeRange(Lab& lab, std::int64_t sessions) {
+  const std::int64_t first = lab.taken;
+  const std::int64_t look = (first / kPrecisionStep + 1) * kPrecisionStep;
+  lab.taken = std::min(first + sessions, lab.last);
+  if (lab.state.experiment.precision > kZero) lab.taken = std::min(lab.taken, look);
+  return {first, lab.taken};
+}
+
+// A range after the other, until there are no more. play: the block of a range, whole or with an error unless
+// stop is set.
+template <typename Play>
+void WorkOff(Lab& lab, std::int64_t sessions, Play&& play) {
   std::unique_lock guard(lab.lock);
   for (;;) {
-    lab.changed.wait(guard, [&] { return lab.stop || lab.taken - lab.state.next < ahead; });
-    if (lab.stop || lab.taken >= last) break;
-    const SessionRange range{lab.taken, std::min(lab.taken + lab.blockSessions, last)};
-    lab.taken = range.last;
+    // Who is far ahead waits, so that what waits to be taken in doesn't grow.
+    lab.changed.wait(guard, [&] { return lab.stop || lab.taken - lab.state.next < lab.ahead; });
+    if (lab.stop || lab.taken >= lab.last) break;
+    const SessionRange range = TakeRange(lab, sessions);
     guard.unlock();
-    Block block = PlayBlock(lab, tables, range);
+    Block block = play(range);
     guard.lock();
-    const bool whole = block.systems.back().sessions.size() > 0 && !lab.stop;
-    if (whole || !block.error.empty()) lab.in.emplace(range.first, std::move(block));
+    if (!lab.stop || !block.error.empty()) lab.in.emplace(range.first, std::move(block));
     TakeInWhatIsNext(lab);
     lab.changed.notify_all();
   }
   --lab.working;
   lab.changed.notify_all();
+}
+
+void WorkHere(Lab& lab) {
+  const auto threads = static_cast<std::size_t>(lab.run.threads);
+  Tables tables{lab, {}, std::max<std::size_t>(kMostTables / threads, 1)};
+  tables.kept.resize(lab.fresh.size());
+  WorkOff(lab, lab.blockSessions, [&](SessionRange range) { return PlayBlock(lab, tables, range); });
+}
+
+bool IsPieceOf(const LabPiece& piece, const LabState& state, SessionRange range) {
+  return piece.first == range.first && piece.last == range.last &&
+         piece.systems.size() == state.systems.size() && piece.pairs.size() == state.pairs.size();
+}
+
+// Has a helper work.
+void WorkThere(Lab& lab, int helper) {
+  WorkOff(lab, lab.pieceSessions, [&](SessionRange range) {
+    Block block;
+    std::string error = lab.run.helpers->play(helper, range, lab.stop, block.piece);
+    block.error = block.piece.error;
+    if (error.empty() && block.error.empty() && !lab.stop && !IsPieceOf(block.piece, lab.state, range))
+      error = "a helper has not played what it was asked for";
+    if (!error.empty()) {
+      const std::lock_guard guard(lab.lock);
+      lab.error = error;
+      lab.stop = true;
+    }
+    return block;
+  });
 }
 
 // --- The caller.
@@ -261,24 +324,37 @@ void LookAfter(Lab& lab) {
   }
 }
 
-std::string BuildTables(Lab& lab, LabProblem& problem) {
-  for (const LabSystem& system : lab.state.experiment.systems) {
-    lab.fresh.push_back(
-        BuildTable(lab.state.experiment, system, lab.host, lab.run.applicationFolder, problem));
+std::string BuildTables(const LabState& state, const LabRun& run, FreshTables& fresh) {
+  if (!fresh.games.empty()) return {};
+  LabProblem problem;
+  for (const LabSystem& system : state.experiment.systems) {
+    fresh.games.push_back(BuildTable(state.experiment, system, fresh.host, run.applicationFolder, problem));
     if (problem.Found()) return problem.text;
   }
   return {};
 }
 
+void SizeWork(Lab& lab) {
+  const std::int64_t cost = CostOfSession(lab.state.experiment);
+  lab.blockSessions = SizeBlocks(cost);
+  lab.pieceSessions = std::max(kRollsOfAPiece / cost, lab.blockSessions);
+  const std::int64_t helpers = lab.run.helpers == nullptr ? 0 : lab.run.helpers->count;
+  lab.ahead = 4 * (lab.blockSessions * lab.run.threads + lab.pieceSessions * helpers);
+}
+
 // As many as the machine gives, one at least.
 std::string StartThreads(Lab& lab, std::vector<std::thread>& threads) {
-  for (int i = 0; i < lab.run.threads; ++i) {
+  const int helpers = lab.run.helpers == nullptr ? 0 : lab.run.helpers->count;
+  for (int i = -helpers; i < lab.run.threads; ++i) {
     {
       const std::lock_guard guard(lab.lock);
       ++lab.working;
     }
     try {
-      threads.emplace_back(Work, std::ref(lab));
+      if (i < 0)
+        threads.emplace_back(WorkThere, std::ref(lab), i + helpers);
+      else
+        threads.emplace_back(WorkHere, std::ref(lab));
     } catch (const std::system_error& fault) {
       const std::lock_guard guard(lab.lock);
       --lab.working;
@@ -286,6 +362,27 @@ std::string StartThreads(Lab& lab, std::vector<std::thread>& threads) {
     }
   }
   return {};
+}
+
+// Until the session last, which isn't played any more.
+std::string RunTo(std::int64_t last, LabState& state, const LabRun& run, FreshTables& fresh) {
+  if (std::string error = BuildTables(state, run, fresh); !error.empty()) return error;
+  Lab lab(state, run, fresh);
+  SizeWork(lab);
+  lab.last = last;
+  lab.taken = state.next;
+  lab.stop = state.finished;
+  if (run.helpers != nullptr && !state.finished) run.helpers->begin(state, run.helpers->threads);
+  std::unique_lock guard(lab.lock);
+  if (std::string error = Checkpoint(lab, guard); !error.empty()) return error;
+  guard.unlock();
+  std::vector<std::thread> threads;
+  if (!state.finished) lab.error = StartThreads(lab, threads);
+  LookAfter(lab);
+  for (std::thread& thread : threads) thread.join();
+  guard.lock();
+  const std::string written = Checkpoint(lab, guard);
+  return lab.error.empty() ? written : lab.error;
 }
 
 }  // namespace
@@ -301,22 +398,32 @@ std::string CheckSystems(const Experiment& experiment, const std::string& applic
 }
 
 std::string RunLab(LabState& state, const LabRun& run) {
-  Lab lab(state, run);
-  LabProblem problem;
-  if (std::string error = BuildTables(lab, problem); !error.empty()) return error;
-  lab.blockSessions = SizeBlocks(state.experiment);
-  lab.taken = state.next;
-  lab.stop = state.finished;
-  std::unique_lock guard(lab.lock);
-  if (std::string error = Checkpoint(lab, guard); !error.empty()) return error;
-  guard.unlock();
-  std::vector<std::thread> threads;
-  if (!state.finished) lab.error = StartThreads(lab, threads);
-  LookAfter(lab);
-  for (std::thread& thread : threads) thread.join();
-  guard.lock();
-  const std::string written = Checkpoint(lab, guard);
-  return lab.error.empty() ? written : lab.error;
+  FreshTables fresh;
+  return RunTo(SessionsOf(state.experiment).last, state, run, fresh);
+}
+
+LabPiece PlayPiece(const LabState& state, SessionRange range, const LabRun& run, FreshTables& fresh) {
+  LabState part = BeginLab(state.experiment, state.rows.lines, state.rows.records);
+  part.experiment.precision = kZero;  // is of all sessions
+  part.next = range.first;
+  part.finished = false;
+  SessionRows rows;
+  rows.kept = part.rows;
+  rows.systems = part.systems.size();
+  LabRun playing;
+  playing.threads = run.threads;
+  playing.applicationFolder = run.applicationFolder;
+  playing.progress = run.progress;
+  if (part.rows.Any()) playing.rows = &rows;
+  LabPiece piece;
+  piece.error = RunTo(range.last, part, playing, fresh);
+  SettleState(part);
+  piece.first = range.first;
+  piece.last = part.next;
+  piece.systems = std::move(part.systems);
+  piece.pairs = std::move(part.pairs);
+  piece.rows = std::move(rows.buffer);
+  return piece;
 }
 
 }  // namespace tessaryn

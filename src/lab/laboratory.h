@@ -2,7 +2,9 @@
 // sessions, so that nothing of a result hangs on who played what when.
 #pragma once
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "lab/lab_state.h"
@@ -17,8 +19,29 @@ struct LabProgress {
   double widest = 0;          // dollars: half the width of the widest bounds of a mean
 };
 
+// Others who play: processes of the same build, on other machines maybe.
+struct LabHelpers {
+  int count = 0;
+  int threads = 0;      // that each is asked to play on; 0: as it likes
+  int threadsHere = 1;  // of the caller of RunLab, where nobody asks for others
+  // Before the first session: the experiment that is played.
+  std::function<void(const LabState& state, int threads)> begin;
+  // Plays the sessions first <= k < last by PlayPiece, as the helper of this number from 0; each has a thread
+  // of its own that calls this. When stop is set it may come back with fewer. The error, of a helper that is
+  // lost, ends the run at once.
+  std::function<std::string(int helper, SessionRange range, const std::atomic<bool>& stop, LabPiece& piece)>
+      play;
+};
+
+// A table for each system, before its first session.
+struct FreshTables {
+  std::vector<std::unique_ptr<Game>> games;
+  LabHost host;  // of these
+};
+
 struct LabRun {
   int threads = 1;
+  const LabHelpers* helpers = nullptr;  // null: none
   std::string applicationFolder;
   std::string checkpoint;       // the experiment's file; empty: none
   SessionRows* rows = nullptr;  // null: nothing is kept of single sessions
@@ -35,5 +58,10 @@ std::string CheckSystems(const Experiment& experiment, const std::string& applic
 // Goes on from where state stands, to its end or until it is told to stop: state.finished tells. Returns the
 // error, empty for none; state is then what was known before it.
 std::string RunLab(LabState& state, const LabRun& run);
+
+// What a helper does: some sessions of the experiment of state, whatever else state knows. fresh is built at
+// the first call, and serves the next of the same experiment. Of run threads, applicationFolder and progress
+// count.
+LabPiece PlayPiece(const LabState& state, SessionRange range, const LabRun& run, FreshTables& fresh);
 
 }  // namespace tessaryn

@@ -13,6 +13,8 @@
 
 namespace tessaryn {
 
+inline constexpr double kDollar = Currency::kPerDollar;  // in raw money
+
 using Int128 = WideInt;
 
 // --- Sums.

@@ -8,8 +8,6 @@
 namespace tessaryn {
 namespace {
 
-constexpr int kSeat = 1;
-
 }  // namespace
 
 std::string FigureSession(const Experiment& experiment, const LabSystem& system, std::int64_t session,
@@ -30,10 +28,10 @@ std::string WriteSessionTable(const Experiment& experiment, const LabSystem& sys
   const std::unique_ptr<Game> table = BuildTable(experiment, system, host, game.applicationFolder, problem);
   if (problem.Found()) return problem.text;
   SetAllScriptsActive(*table, false);
-  SetScript(*table, kSeat, {}, "");
+  SetScript(*table, kLabSeat, {}, "");
   table->screen = game.screen;
   // What is asked by hand is answered in a session as a host without anybody answers it.
-  Handling& handling = table->table.seats[kSeat].handling;
+  Handling& handling = table->table.seats[kLabSeat].handling;
   if (handling.WinHandling == kWinManual) handling.WinHandling = kWinSame;
   if (handling.LoseHandling == kLoseManual) handling.LoseHandling = kLoseTakeDown;
   std::string error;
@@ -46,8 +44,8 @@ bool BeginSessionAtTable(Game& game, const Experiment& experiment, const LabSyst
   game.percentage.ProbMatrix = experiment.probabilities;
   ProbabilitiesChanged(game.percentage);
   ActivatePercentageDice(game.percentage, experiment.percentageDice);
-  SetScript(game, kSeat, system.lines, system.name);
-  SetScriptActive(game, kSeat, true);
+  SetScript(game, kLabSeat, system.lines, system.name);
+  SetScriptActive(game, kLabSeat, true);
   SetDiceStream(game.generators, experiment.seed, static_cast<std::uint64_t>(session));
   return InitialiseScripts(game);
 }

@@ -39,6 +39,7 @@ ShareFigure Try(Search& search, std::int64_t dollars) {
   LabRun run;
   run.threads = search.how.threads;
   run.applicationFolder = search.how.applicationFolder;
+  run.helpers = search.how.helpers;
   run.progress = [&](const LabProgress&) { return !search.how.goesOn || search.how.goesOn(); };
   search.error = RunLab(state, run);
   if (search.error.empty() && !state.finished) search.error = "the search was stopped";

@@ -9,6 +9,8 @@
 
 namespace tessaryn {
 
+struct LabHelpers;  // laboratory.h
+
 struct LabQuestion {
   int stack = -1;   // the CheckStack whose start is looked for; -1: the bankroll
   double ruin = 0;  // the share of sessions that may be ruined, above 0 and below 1
@@ -28,7 +30,8 @@ struct LabAnswer {
 struct LabSearch {
   int threads = 1;
   std::string applicationFolder;
-  std::function<bool()> goesOn;  // asked several times a second
+  std::function<bool()> goesOn;         // asked several times a second
+  const LabHelpers* helpers = nullptr;  // as of a run
 };
 
 // For one system of the experiment, with its sessions, ends and dice. The error; empty for none.

@@ -18,7 +18,6 @@
 namespace tessaryn {
 namespace {
 
-constexpr int kSeat = 1;
 constexpr int kStatementsOfALook = 64;  // at full speed the interpreter gives way so often
 
 }  // namespace
@@ -68,10 +67,11 @@ struct IsSeatBetTable<SeatBetTable<T, kRows>> : std::true_type {};
 template <typename T, int kRows>
 void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fresh,
                const TouchedBets& touched) {
-  touched.bets.ForEach([&](int bet) { cells(kSeat, bet) = fresh(kSeat, bet); });
+  touched.bets.ForEach([&](BetId bet) { cells(kLabSeat, bet) = fresh(kLabSeat, bet); });
   if constexpr (kRows == kBetRows)
-    touched.stacks.ForEach(
-        [&](int stack) { cells(kSeat, kFirstCheckStack + stack) = fresh(kSeat, kFirstCheckStack + stack); });
+    touched.stacks.ForEach([&](int stack) {
+      cells(kLabSeat, kFirstCheckStack + stack) = fresh(kLabSeat, kFirstCheckStack + stack);
+    });
 }
 
 // Texts and lists mostly are what they were.
@@ -98,7 +98,7 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
     if constexpr (IsSeatBetTable<Member>::value)
       ResetRows(table.*member, fresh.*member, touched);
     else if constexpr (std::is_same_v<Member, SeatState[kSeatRows]>)
-      for (int seat = 0; seat <= kSeat; ++seat) ResetPart(table.seats[seat], fresh.seats[seat]);
+      for (SeatId seat = 0; seat <= kLabSeat; ++seat) ResetPart(table.seats[seat], fresh.seats[seat]);
     else
       ResetPart(table.*member, fresh.*member);
   });
@@ -108,12 +108,13 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
 template <typename T>
 void ResetSlots(T (&slots)[kSlots], const T (&fresh)[kSlots]) {
   for (int scope = 0; scope < kScopes; ++scope)
-    for (int seat = 0; seat <= kSeat; ++seat) ResetPart(slots[Slot(scope, seat)], fresh[Slot(scope, seat)]);
+    for (SeatId seat = 0; seat <= kLabSeat; ++seat)
+      ResetPart(slots[Slot(scope, seat)], fresh[Slot(scope, seat)]);
 }
 
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
-  const auto resetBet = [&](int bet) {
-    std::memcpy(&stats.Bets[bet][kSeat], &fresh.Bets[bet][kSeat], sizeof stats.Bets[bet][kSeat]);
+  const auto resetBet = [&](BetId bet) {
+    std::memcpy(&stats.Bets[bet][kLabSeat], &fresh.Bets[bet][kLabSeat], sizeof stats.Bets[bet][kLabSeat]);
   };
   resetBet(0);
   touched.bets.ForEach(resetBet);
@@ -138,7 +139,7 @@ void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
   // Of a graph that was empty, and of which nobody else is.
   if (fresh.PlotPoints == 0)
     for (std::size_t row = 0; row < rows; ++row)
-      graph.Rows[row].cells[0] = graph.Rows[row].cells[kSeat] = kZero;
+      graph.Rows[row].cells[0] = graph.Rows[row].cells[kLabSeat] = kZero;
   else
     std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
@@ -164,7 +165,7 @@ void ResetGenerators(Generators& generators, const Generators& fresh, bool alsoD
 
 // The compiled script stays; what came of running it goes.
 void ResetScripts(AutoBet& autobet, const AutoBet& fresh) {
-  SeatScript& script = autobet.Scripts[kSeat];
+  SeatScript& script = autobet.Scripts[kLabSeat];
   script.Errors.clear();
   script.Acted = false;
   if (script.Output.File != nullptr) script.Output = ScriptOutput();
@@ -200,7 +201,7 @@ namespace {
 void Reset(LabTable& table, bool alsoDrawn) {
   Game& game = *table.game;
   const Game& fresh = *table.fresh;
-  const SeatState& seat = game.table.seats[kSeat];
+  const SeatState& seat = game.table.seats[kLabSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
   ResetStatistics(game.stats, fresh.stats, table.touched);
@@ -264,10 +265,10 @@ void FollowStreak(Course& course, Currency net, SessionResult& result) {
   course.net = net;
 }
 
-Currency DrawnOf(const Game& game) { return game.stats.AtmTotal[Slot(kCurrentSession, kSeat)]; }
+Currency DrawnOf(const Game& game) { return game.stats.AtmTotal[Slot(kCurrentSession, kLabSeat)]; }
 
 Currency NetOf(const Game& game, const Course& course) {
-  return game.table.BankrollCurrent[kSeat] - course.start - DrawnOf(game);
+  return game.table.BankrollCurrent[kLabSeat] - course.start - DrawnOf(game);
 }
 
 bool BeginSession(LabTable& table, const Experiment& experiment, std::int64_t session) {
@@ -279,18 +280,18 @@ bool BeginSession(LabTable& table, const Experiment& experiment, std::int64_t se
   return ready && ReadyToRoll(game);
 }
 
-bool IsRuined(const Game& game) { return game.table.BankrollCurrent[kSeat] < game.settings.MinBetMain; }
+bool IsRuined(const Game& game) { return game.table.BankrollCurrent[kLabSeat] < game.settings.MinBetMain; }
 
 // Nothing was rolled: for lack of money, or the system wants no more.
 std::uint8_t MarkOfRefusal(const Game& game) {
-  const Currency rail = game.table.BankrollCurrent[kSeat] - game.table.seats[kSeat].OnTableAmount;
+  const Currency rail = game.table.BankrollCurrent[kLabSeat] - game.table.seats[kLabSeat].OnTableAmount;
   return rail < game.settings.MinBetMain ? kMarkRuined : kMarkStopped;
 }
 
 // Behind a roll that left other money.
 [[gnu::noinline]] void LookAtMoney(const Game& game, const Experiment& experiment, Course& course,
                                    SessionResult& result) {
-  course.bankroll = game.table.BankrollCurrent[kSeat];
+  course.bankroll = game.table.BankrollCurrent[kLabSeat];
   course.drawn = DrawnOf(game);
   const Currency net = NetOf(game, course);
   FollowStreak(course, net, result);
@@ -307,7 +308,7 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
   LuckAfterRoll(table.luck, game);
   ++result.rolls;
   if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
-  if (game.table.BankrollCurrent[kSeat] != course.bankroll || DrawnOf(game) != course.drawn)
+  if (game.table.BankrollCurrent[kLabSeat] != course.bankroll || DrawnOf(game) != course.drawn)
     LookAtMoney(game, experiment, course, result);
   for (; result.rolls >= course.nextMark; course.nextMark = RollOfMark(experiment, course.marks))
     table.fan[course.marks++] = course.net;
@@ -316,8 +317,8 @@ bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, S
 
 bool ContractIsUp(const Game& game) {
   bool up = false;
-  game.table.seats[kSeat].SeatBets.ForEach([&](int bet) {
-    up = up || (UnderContract(game.table, bet) && game.table.BetCommitted(kSeat, bet) > kZero);
+  game.table.seats[kLabSeat].SeatBets.ForEach([&](BetId bet) {
+    up = up || (UnderContract(game.table, bet) && game.table.BetCommitted(kLabSeat, bet) > kZero);
   });
   return up;
 }
@@ -326,7 +327,7 @@ bool ContractIsUp(const Game& game) {
 void TakeNoNewBets(Game& game) {
   game.settings.ShooterBetRule = 0;
   game.autobet.ScriptActive[0] = false;
-  Handling& handling = game.table.seats[kSeat].handling;
+  Handling& handling = game.table.seats[kLabSeat].handling;
   handling.WinHandling = kWinTakeDown;
   handling.LoseHandling = kLoseTakeDown;
   handling.AutoTakeOdds = handling.AutoLayOdds = handling.AutoDownPlace = false;
@@ -334,7 +335,7 @@ void TakeNoNewBets(Game& game) {
 
 inline void NoteTouched(LabTable& table) {
   if (table.game->table.SeatsSinceBefore == 0) return;
-  const SeatState& seat = table.game->table.seats[kSeat];
+  const SeatState& seat = table.game->table.seats[kLabSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
 }
@@ -374,7 +375,7 @@ bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, Se
     table.host.statements = 0;
     FinishRoll(game);
     if (GivenUp(table)) return false;
-    if (Abs(game.table.BankrollCurrent[kSeat]) > kBankrollLimit) BankrollLimitReached(game, kSeat);
+    if (Abs(game.table.BankrollCurrent[kLabSeat]) > kBankrollLimit) BankrollLimitReached(game, kLabSeat);
     if (game.table.AutoRollActive) continue;
     result.marks |= kMarkStopped;
     table.stopReason = game.table.StopReason;
@@ -385,8 +386,8 @@ bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, Se
 // The amounts that were decided, in the hand and before it.
 Currency HandleOf(const Statistics& stats, const TouchedBets& touched) {
   Currency handle;
-  touched.bets.ForEach([&](int bet) {
-    const auto& scopes = stats.Bets[bet][kSeat];
+  touched.bets.ForEach([&](BetId bet) {
+    const auto& scopes = stats.Bets[bet][kLabSeat];
     handle += scopes[kCurrentSession].kinds[kWagerStats][kStatTotal - 1] +
               scopes[kCurrentHand].kinds[kWagerStats][kStatTotal - 1];
   });
@@ -404,7 +405,7 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   const bool begun = BeginSession(table, experiment, session);
   if (GivenUp(table)) return false;
   LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
-  course.start = game.stats.BankrollSessionStart[kSeat];
+  course.start = game.stats.BankrollSessionStart[kLabSeat];
   course.nextMark = RollOfMark(experiment, 0);
   course.rolls = MostRolls(experiment, game);
   course.hands = experiment.hands > 0 ? experiment.hands : kNoEnd;
@@ -414,14 +415,14 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   NoteTouched(table);
   result.net = NetOf(game, course);
   result.highest = course.highest;
-  const SeatLuck& luck = table.luck.seats[kSeat];
+  const SeatLuck& luck = table.luck.seats[kLabSeat];
   result.luck = luck.luck;
   result.price = -(luck.expected + luck.shifted);
   result.luckUnit = table.luck.unit;
   result.handle = HandleOf(game.stats, table.touched);
   if (experiment.rolls > 0)
     while (course.marks < kFanMarks) table.fan[course.marks++] = result.net;
-  if (record != nullptr) *record = SessionOf(game, kSeat);
+  if (record != nullptr) *record = SessionOf(game, kLabSeat);
   return true;
 }
 

@@ -46,6 +46,14 @@ std::string ForEachRow(SessionRows& rows, Visit&& visit) {
   return {};
 }
 
+// To the file, once there is much.
+void EmptyBuffer(SessionRows& rows) {
+  if (rows.file == nullptr || rows.buffer.size() < kBufferBytes || !rows.fault.empty()) return;
+  if (std::fwrite(rows.buffer.data(), 1, rows.buffer.size(), rows.file) != rows.buffer.size())
+    rows.fault = Fault(rows, "write");
+  rows.buffer.clear();
+}
+
 // The rows that are kept must be those that were written.
 std::string CheckRows(SessionRows& rows, const RowsKept& kept) {
   rows.kept = kept;
@@ -96,10 +104,14 @@ void AddRow(SessionRows& rows, const SessionResult& result, const Record& record
       word(number);
   if (rows.kept.records) rows.buffer.append(reinterpret_cast<const char*>(record.data()), record.size());
   Hash(rows.kept.hash, rows.buffer.data() + start, rows.buffer.size() - start);
-  if (rows.buffer.size() < kBufferBytes || !rows.fault.empty()) return;
-  if (std::fwrite(rows.buffer.data(), 1, rows.buffer.size(), rows.file) != rows.buffer.size())
-    rows.fault = Fault(rows, "write");
-  rows.buffer.clear();
+  EmptyBuffer(rows);
+}
+
+void AddPieceRows(SessionRows& rows, const LabPiece& piece) {
+  rows.buffer += piece.rows;
+  Hash(rows.kept.hash, piece.rows.data(), piece.rows.size());
+  rows.kept.sessions += piece.last - piece.first;
+  EmptyBuffer(rows);
 }
 
 std::string FlushRows(SessionRows& rows) {
@@ -134,17 +146,13 @@ std::string CsvText(const std::string& text) {
   return quoted + "\"";
 }
 
-// In dollars: exact to what a double holds.
-std::string PartsText(std::int64_t low, std::int64_t high, std::int64_t unit) {
+double DollarsOf(std::int64_t low, std::int64_t high, std::int64_t unit) {
   const auto parts =
       static_cast<WideInt>(high) * (static_cast<WideInt>(1) << 64) + static_cast<std::uint64_t>(low);
-  char text[48];
-  std::snprintf(text, sizeof text, "%.9g",
-                static_cast<double>(parts) / static_cast<double>(unit) / Currency::kPerDollar);
-  return text;
+  return static_cast<double>(parts) / static_cast<double>(unit) / Currency::kPerDollar;
 }
 
-std::string CsvLine(const std::string& row, std::int64_t session, const std::string& system) {
+SessionLine LineOf(const std::string& row) {
   std::int64_t words[kLineBytes / 8];
   for (std::size_t i = 0; i < std::size(words); ++i) {
     std::uint64_t word = 0;
@@ -152,19 +160,45 @@ std::string CsvLine(const std::string& row, std::int64_t session, const std::str
       word |= static_cast<std::uint64_t>(static_cast<unsigned char>(row[i * 8 + byte])) << (8 * byte);
     words[i] = static_cast<std::int64_t>(word);
   }
-  std::string line = std::to_string(session) + "," + system;
-  for (int i = 0; i < 4; ++i) line += "," + PlainMoney(Currency::FromRaw(words[i]));
-  line += "," + PartsText(words[7], words[8], words[9]) + "," + PartsText(words[10], words[11], words[9]);
-  line += "," + std::to_string(words[4]) + "," + std::to_string(words[5]);
+  SessionLine line;
+  line.net = Currency::FromRaw(words[0]);
+  line.handle = Currency::FromRaw(words[1]);
+  line.maxDrawdown = Currency::FromRaw(words[2]);
+  line.highest = Currency::FromRaw(words[3]);
+  line.rolls = words[4];
+  line.hands = words[5];
+  line.marks = static_cast<int>(words[6]);
+  line.luck = DollarsOf(words[7], words[8], words[9]);
+  line.price = DollarsOf(words[10], words[11], words[9]);
+  return line;
+}
+
+std::string CsvLine(const SessionLine& line, std::int64_t session, const std::string& system) {
+  std::string text = std::to_string(session) + "," + system;
+  for (const Currency amount : {line.net, line.handle, line.maxDrawdown, line.highest})
+    text += "," + PlainMoney(amount);
+  for (const double dollars : {line.luck, line.price}) {
+    char shown[48];
+    std::snprintf(shown, sizeof shown, ",%.9g", dollars);
+    text += shown;
+  }
+  text += "," + std::to_string(line.rolls) + "," + std::to_string(line.hands);
   for (const int mark : {kMarkRuined, kMarkGoal, kMarkLimit, kMarkStopped})
-    line += (words[6] & mark) != 0 ? ",1" : ",0";
-  return line + "\n";
+    text += (line.marks & mark) != 0 ? ",1" : ",0";
+  return text + "\n";
 }
 
 constexpr const char* kCsvHeader =
     "session,system,net,handle,maxDrawdown,highest,luck,price,rolls,hands,ruined,goal,limit,stopped\n";
 
 }  // namespace
+
+std::string ForEachLine(SessionRows& rows, const std::function<void(const SessionLine&)>& visit) {
+  return ForEachRow(rows, [&](const std::string& row) {
+    visit(LineOf(row));
+    return std::string();
+  });
+}
 
 std::string WriteRowsAsCsv(SessionRows& rows, const Experiment& experiment, const std::string& path) {
   std::vector<std::string> names;
@@ -176,7 +210,7 @@ std::string WriteRowsAsCsv(SessionRows& rows, const Experiment& experiment, cons
   const std::int64_t first = SessionsOf(experiment).first;
   std::string error = ForEachRow(rows, [&](const std::string& bytes) {
     const auto systems = static_cast<std::int64_t>(names.size());
-    text += CsvLine(bytes, first + row / systems + 1, names[static_cast<std::size_t>(row % systems)]);
+    text += CsvLine(LineOf(bytes), first + row / systems + 1, names[static_cast<std::size_t>(row % systems)]);
     ++row;
     if (text.size() < kBufferBytes) return std::string();
     std::string fault = WriteReplacement(csv, text);

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -14,11 +15,11 @@
 namespace tessaryn {
 
 struct SessionRows {
-  std::string path;  // empty: a file of nobody's, gone with the program
-  std::FILE* file = nullptr;
-  RowsKept kept;       // what is in the file and the buffer
-  std::string buffer;  // not written yet
-  std::string fault;   // what went wrong in writing; nothing more is written then
+  std::string path;           // empty: a file of nobody's, gone with the program
+  std::FILE* file = nullptr;  // null: all rows stay in the buffer
+  RowsKept kept;              // what is in the file and the buffer
+  std::string buffer;         // not written yet
+  std::string fault;          // what went wrong in writing; nothing more is written then
   std::size_t systems = 0;
 
   SessionRows() = default;
@@ -37,10 +38,27 @@ std::string OpenRows(SessionRows& rows, const std::string& path, const LabState&
 void AddRow(SessionRows& rows, const SessionResult& result, const Record& record);
 // A session is complete with all its systems.
 inline void CloseSession(SessionRows& rows) { ++rows.kept.sessions; }
+// Those of a piece, behind the rows that are there.
+void AddPieceRows(SessionRows& rows, const LabPiece& piece);
 // Everything to the disk.
 std::string FlushRows(SessionRows& rows);
 // The rows of another file behind those that are there.
 std::string AppendRows(SessionRows& rows, SessionRows& other);
+
+// A row's line, in numbers.
+struct SessionLine {
+  Currency net;
+  Currency handle;
+  Currency maxDrawdown;
+  Currency highest;
+  double luck = 0;  // dollars, as well as a double holds them
+  double price = 0;
+  std::int64_t rolls = 0;
+  std::int64_t hands = 0;
+  int marks = 0;  // SessionMark
+};
+// In the order of the rows. Requires lines that are kept.
+std::string ForEachLine(SessionRows& rows, const std::function<void(const SessionLine&)>& visit);
 
 // The first session of the rows is first (from 0). Requires flushed rows that hold what is asked for.
 std::string WriteRowsAsCsv(SessionRows& rows, const Experiment& experiment, const std::string& path);

@@ -1,6 +1,7 @@
 #include "lab/systems.h"
 
 #include "base/bet_catalogue.h"
+#include "play/settings_file.h"
 
 namespace tessaryn {
 
@@ -56,7 +57,7 @@ bool ReadValues(const std::string& text, std::vector<Currency>& values) {
 
 std::string SweepStack(const std::string& text, std::vector<LabSystem>& systems) {
   const auto equals = text.find('=');
-  const int bet = BetByName("cs" + text.substr(0, equals));
+  const BetId bet = BetByName("cs" + text.substr(0, equals));
   if (equals == std::string::npos || equals == 0 || !IsCheckStack(bet))
     return "expected N=VALUE,... with a CheckStack N from 0 to 99";
   const int stack = bet - kFirstCheckStack;
@@ -67,6 +68,25 @@ std::string SweepStack(const std::string& text, std::vector<LabSystem>& systems)
     if (!ReadValues(part, values)) return "\"" + part + "\" is no value and no range LOW..HIGH:STEP";
   return MultiplySystems(systems, values.size(), [&](LabSystem& system, std::size_t i) {
     system.stacks.push_back({stack, values[i]});
+  });
+}
+
+std::string ReadLabSetting(const std::string& text, LabSetting& setting) {
+  SettingChange change;
+  std::string error;
+  if (ParseSettingLine(text, change, error) != LineKind::kChange)
+    return error.empty() ? "expected NAME=VALUE" : error;
+  setting = {change.name, change.seat, change.value};
+  return {};
+}
+
+std::string SweepSetting(const std::string& text, std::vector<LabSystem>& systems) {
+  LabSetting setting;
+  if (!ReadLabSetting(text, setting).empty()) return "expected NAME=VALUE,...";
+  const std::vector<std::string> values = SplitText(setting.text, ',');
+  return MultiplySystems(systems, values.size(), [&](LabSystem& system, std::size_t i) {
+    setting.text = values[i];
+    system.settings.push_back(setting);
   });
 }
 

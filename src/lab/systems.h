@@ -19,6 +19,11 @@ std::string ReadStandingBets(const std::string& text, LabSystem& system);
 // "N=VALUE,..." or "N=LOW..HIGH:STEP": every system once with each value that CheckStack N starts at.
 std::string SweepStack(const std::string& text, std::vector<LabSystem>& systems);
 
+// "NAME=VALUE", "NAME@SEAT=VALUE". Whether there is such a setting is looked at with the table.
+std::string ReadLabSetting(const std::string& text, LabSetting& setting);
+// "NAME=VALUE,...": every system once with each value of the setting.
+std::string SweepSetting(const std::string& text, std::vector<LabSystem>& systems);
+
 // Every system once with each of count changes, change(system, i); the first sweep is the slowest to turn.
 template <typename Change>
 std::string MultiplySystems(std::vector<LabSystem>& systems, std::size_t count, Change&& change) {

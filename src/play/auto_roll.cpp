@@ -16,7 +16,7 @@ namespace tessaryn {
 namespace {
 
 bool MayInterruptScript(Game& game) {
-  const int seat = std::clamp(game.autobet.CurrentAutobettor, 0, kSeats);
+  const SeatId seat = std::clamp<int>(game.autobet.CurrentAutobettor, 0, kSeats);
   return Confirms<Msg::kAskInterruptScript>(game, With<"player">(game.table.seats[seat].SeatName));
 }
 

@@ -186,7 +186,7 @@ struct Trial {
   Currency vig;
 };
 
-Trial TrialOf(const Game& game, int seat, int bet) {
+Trial TrialOf(const Game& game, SeatId seat, BetId bet) {
   Trial trial;
   trial.dice = LuckDiceOf(game.percentage);
   trial.layout = LuckLayoutOf(game, BetRange(bet, bet));
@@ -200,7 +200,7 @@ Trial TrialOf(const Game& game, int seat, int bet) {
   return trial;
 }
 
-std::int64_t NetOfOutcome(const Game& game, const Trial& trial, int bet, int outcome) {
+std::int64_t NetOfOutcome(const Game& game, const Trial& trial, BetId bet, int outcome) {
   const RidingBet riding{game, trial.dice, trial.chances, trial.layout, bet, trial.amount, trial.vig};
   const int code = DecidingCode(riding, trial.rolled[static_cast<std::size_t>(outcome)], outcome);
   return code == 0 ? 0 : NetOf(riding, code, outcome);
@@ -210,7 +210,7 @@ std::int64_t NetOfOutcome(const Game& game, const Trial& trial, int bet, int out
 
 // The rolls that bring a bet on one roll something, sign 1, or nothing, 0: "2, 3, 11" or, where not every way
 // to a total does, "4-2".
-std::string RollsThatBring(const Game& game, const Trial& trial, int bet, int sign) {
+std::string RollsThatBring(const Game& game, const Trial& trial, BetId bet, int sign) {
   std::string text;
   for (int total = 2; total <= 12; ++total) {
     int ways = 0;
@@ -231,7 +231,7 @@ std::string RollsThatBring(const Game& game, const Trial& trial, int bet, int si
 }
 
 // The first row of a hand's table that pays, as what is counted for it.
-int LeastThatPays(const Game& game, int bet) {
+int LeastThatPays(const Game& game, BetId bet) {
   const auto rows = PayoffRowsOf(game, bet);
   int row = 0;
   for (const PayoffRecord& record : rows) {
@@ -252,7 +252,7 @@ WinsAndLosses ByNumber(bool numberWins, int number) {
   return numberWins ? WinsAndLosses{first, seven} : WinsAndLosses{seven, first};
 }
 
-WinsAndLosses OnTheLine(const Game& game, int bet) {
+WinsAndLosses OnTheLine(const Game& game, BetId bet) {
   const bool pass = bet == kPassLine || bet == kPassLineOdds || bet == kCome;
   const bool ownNumber = bet == kCome || bet == kDontCome;
   if (game.table.Point != 0 && !ownNumber) return ByNumber(pass, game.table.Point);
@@ -269,7 +269,7 @@ WinsAndLosses OnTheLine(const Game& game, int bet) {
           Text(ownNumber ? Words::kDontComeLoses : Words::kDontPassLoses)};
 }
 
-WinsAndLosses OnTheHand(const Game& game, int bet) {
+WinsAndLosses OnTheHand(const Game& game, BetId bet) {
   switch (bet) {
     case kAllSmall:
     case kAllTall:
@@ -294,14 +294,14 @@ WinsAndLosses OnTheHand(const Game& game, int bet) {
   }
 }
 
-WinsAndLosses OnOneRoll(const Game& game, int bet) {
+WinsAndLosses OnOneRoll(const Game& game, BetId bet) {
   const Trial trial = TrialOf(game, 0, bet);
   const std::string pushes = RollsThatBring(game, trial, bet, 0);
   return {Text(Words::kOnNext, {RollsThatBring(game, trial, bet, 1)}),
           pushes.empty() ? Text(Words::kNotOnNext) : Text(Words::kNotOnNextBut, {pushes})};
 }
 
-WinsAndLosses WinsAndLossesOf(const Game& game, int bet) {
+WinsAndLosses WinsAndLossesOf(const Game& game, BetId bet) {
   const int number = FactsOf(bet).number;
   switch (FamilyRowOf(bet).decidedBy) {
     case DecidedBy::kNumber:
@@ -319,7 +319,7 @@ WinsAndLosses WinsAndLossesOf(const Game& game, int bet) {
   }
 }
 
-FactText KindOf(int bet) {
+FactText KindOf(BetId bet) {
   if (IsOdds(bet)) return Text(Words::kOdds, {BetName(FlatBetOf(bet))});
   const FamilyRow& row = FamilyRowOf(bet);
   if (row.decidedBy == DecidedBy::kOneRoll) return Text(Words::kOneRoll);
@@ -328,7 +328,7 @@ FactText KindOf(int bet) {
   return Text(row.contract == Contract::kAlways ? Words::kContract : Words::kStays);
 }
 
-FactText VigOf(const Game& game, int bet) {
+FactText VigOf(const Game& game, BetId bet) {
   if (!HasVig(bet)) return {};
   const bool lay = IsLay(bet);
   const bool asMade = VigUpFront(game, bet);
@@ -338,7 +338,7 @@ FactText VigOf(const Game& game, int bet) {
   return Text(words, {Figure(rate * 100)});
 }
 
-bool WorksNow(const Game& game, int seat, int bet) {
+bool WorksNow(const Game& game, SeatId seat, BetId bet) {
   const SeatState& state = game.table.seats[seat];
   if (game.table.BetAmount(seat, bet) > kZero) return BetWorkingOf(game, seat, bet) > 0;
   return game.table.Point != 0 || state.BetDefaultWorking.Has(bet) || !FamilyRowOf(bet).callable;
@@ -346,7 +346,7 @@ bool WorksNow(const Game& game, int seat, int bet) {
 
 }  // namespace
 
-RollChances ChancesOf(const Game& game, int seat, int bet) {
+RollChances ChancesOf(const Game& game, SeatId seat, BetId bet) {
   const Trial trial = TrialOf(game, seat, bet);
   RollChances chances;
   for (int outcome = 0; outcome < kOutcomes; ++outcome) {
@@ -358,7 +358,7 @@ RollChances ChancesOf(const Game& game, int seat, int bet) {
   return chances;
 }
 
-FactText PaysOf(const Game& game, int bet) {
+FactText PaysOf(const Game& game, BetId bet) {
   if (!IsTableBet(bet)) return {};
   // Odds on the line pay by the point; before one is set there is nothing to tell.
   if (IsOdds(bet) && FactsOf(bet).number == 0 && game.table.Point == 0) return {};
@@ -377,7 +377,7 @@ FactText PaysOf(const Game& game, int bet) {
   return Text(kBySize[texts.size() - 1], std::vector<FactValue>(texts.begin(), texts.end()));
 }
 
-Currency RoomFor(Game& game, int seat, int bet) {
+Currency RoomFor(Game& game, SeatId seat, BetId bet) {
   const auto allowed = [&](Currency request) {
     return AllowedChange(game, seat, bet, request, Asking::kQuietly);
   };
@@ -392,7 +392,7 @@ Currency RoomFor(Game& game, int seat, int bet) {
   return std::max(room, kZero);
 }
 
-BetTerms BetTermsOf(Game& game, int seat, int bet) {
+BetTerms BetTermsOf(Game& game, SeatId seat, BetId bet) {
   BetTerms terms;
   terms.bet = bet;
   terms.amount = game.table.BetAmount(seat, bet);

@@ -39,7 +39,7 @@ struct RollChances {
 };
 
 struct BetTerms {
-  int bet = 0;
+  BetId bet = 0;
   Currency amount;  // of the seat
   FactText kind;
   FactText wins;
@@ -58,14 +58,14 @@ struct BetTerms {
   std::string refusal;  // why nothing may, as the table says it
 };
 // Requires bet 1 to 93. seat 0, or an empty one: what holds for anybody.
-BetTerms BetTermsOf(Game& game, int seat, int bet);
+BetTerms BetTermsOf(Game& game, SeatId seat, BetId bet);
 
 // The next roll alone.
-RollChances ChancesOf(const Game& game, int seat, int bet);
+RollChances ChancesOf(const Game& game, SeatId seat, BetId bet);
 // "7 to 6", or "2 to 1 ... 3 to 1" of a bet with a table of payoffs.
-FactText PaysOf(const Game& game, int bet);
+FactText PaysOf(const Game& game, BetId bet);
 // What a click may still add to the bet, which is what the gate for bets lets through.
-Currency RoomFor(Game& game, int seat, int bet);
+Currency RoomFor(Game& game, SeatId seat, BetId bet);
 
 // The parts of the line that the pointer tells: name and amount, vig, payoff, limits, edge, refusal. room:
 // whether the next click would bet.

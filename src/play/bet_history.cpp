@@ -16,10 +16,10 @@ bool Same(const T& a, const T& b) {
   return FirstDifference(a, b).empty();
 }
 
-void KeepSeat(const TableState& table, int seat, SeatBetsKept& kept) {
+void KeepSeat(const TableState& table, SeatId seat, SeatBetsKept& kept) {
   const SeatState& state = table.seats[seat];
   kept.SeatName = state.SeatName;
-  for (int bet = 0; bet < kBetRows; ++bet) kept.Amounts[bet] = table.BetAmount(seat, bet);
+  for (BetId bet = 0; bet < kBetRows; ++bet) kept.Amounts[bet] = table.BetAmount(seat, bet);
   kept.SeatBets = state.SeatBets;
   kept.TouchedSinceBefore = state.TouchedSinceBefore;
   kept.TouchedSinceAfter = state.TouchedSinceAfter;
@@ -35,9 +35,9 @@ void KeepSeat(const TableState& table, int seat, SeatBetsKept& kept) {
 
 void SetBit(std::uint32_t& mask, int bit, bool on) { mask = on ? mask | 1u << bit : mask & ~(1u << bit); }
 
-void GiveBack(TableState& table, int seat, const SeatBetsKept& kept) {
+void GiveBack(TableState& table, SeatId seat, const SeatBetsKept& kept) {
   SeatState& state = table.seats[seat];
-  for (int bet = 0; bet < kBetRows; ++bet) table.BetAmount(seat, bet) = kept.Amounts[bet];
+  for (BetId bet = 0; bet < kBetRows; ++bet) table.BetAmount(seat, bet) = kept.Amounts[bet];
   state.SeatBets = kept.SeatBets;
   state.TouchedSinceBefore = kept.TouchedSinceBefore;
   state.TouchedSinceAfter = kept.TouchedSinceAfter;
@@ -56,7 +56,7 @@ void ListBetsUp(TableState& table) {
   for (std::uint8_t& seats : table.SeatsUp) seats = 0;
   table.AnyBets.Clear();
   for (int place = 0; place < kSeats; ++place)
-    table.seats[kPayOrder[place]].SeatBets.ForEach([&](int bet) {
+    table.seats[kPayOrder[place]].SeatBets.ForEach([&](BetId bet) {
       table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place);
       table.AnyBets.Add(bet);
     });
@@ -95,7 +95,7 @@ bool StandsAsLeft(const BetHistory& history, const BetsKept& now) {
 }
 
 // What lies on the table must still be the player's; money may have gone meanwhile.
-bool Covered(const TableState& table, int seat, const SeatBetsKept& kept) {
+bool Covered(const TableState& table, SeatId seat, const SeatBetsKept& kept) {
   const SeatState& state = table.seats[seat];
   return state.AllowNegativeBankroll || kept.OnTableAmount <= table.BankrollCurrent[seat] ||
          kept.OnTableAmount <= state.OnTableAmount;
@@ -119,7 +119,7 @@ bool TakeStep(Game& game, BetHistory& history, bool back) {
   ListBetsUp(table);
   table.CallsTouched = (back ? step.callsBefore : step.callsAfter) || AnyCallUntold(table);
   for (const BetStep::OfSeat& of : step.seats)
-    for (int bet = 1; bet < kBetRows; ++bet)
+    for (BetId bet = 1; bet < kBetRows; ++bet)
       if (of.before.Amounts[bet] != of.after.Amounts[bet]) LogBet(game, of.seat, bet);
   history.Now = KeepBets(game);
   game.host->Changed(game, Change::kLayout);
@@ -131,7 +131,7 @@ BetStep StepBetween(const BetsKept& before, const BetsKept& after) {
   BetStep step;
   step.callsBefore = before.CallsTouched;
   step.callsAfter = after.CallsTouched;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (!Same(before.seats[seat], after.seats[seat]))
       step.seats.push_back({seat, before.seats[seat], after.seats[seat]});
   return step;
@@ -151,7 +151,7 @@ bool SamePlayers(const BetStep& step) {
 
 BetsKept KeepBets(const Game& game) {
   BetsKept kept;
-  for (int seat = 1; seat <= kSeats; ++seat) KeepSeat(game.table, seat, kept.seats[seat]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) KeepSeat(game.table, seat, kept.seats[seat]);
   kept.CallsTouched = game.table.CallsTouched;
   kept.Throws = Throws(game.stats);
   kept.settings = game.settings;

@@ -52,7 +52,7 @@ struct BetsKept {
 
 struct BetStep {
   struct OfSeat {
-    int seat = 0;
+    SeatId seat = 0;
     SeatBetsKept before;
     SeatBetsKept after;
   };

@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <cstdio>
 #include <ctime>
@@ -12,6 +11,7 @@
 
 #include "autobet/language/script_files.h"
 #include "base/interrupts.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "base/record_file.h"
 #include "dice/generators.h"
@@ -33,12 +33,6 @@ constexpr const char* kProgramName = "Tessaryn";
 constexpr int kFileError = 75;  // of paths and files, in the general error box
 
 // --- Names and dates.
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return lower;
-}
 
 std::string FullPath(const std::string& path) {
   std::error_code failed;
@@ -63,8 +57,8 @@ FileReference ReferenceTo(const std::string& path) {
   return {full, GameFileDate(full)};
 }
 
-std::string DefaultSessionsLog(const Game& game, int seat) {
-  return game.dataFolder + Lower(game.table.seats[seat].SeatName) + ".slg";
+std::string DefaultSessionsLog(const Game& game, SeatId seat) {
+  return game.dataFolder + Lowered(game.table.seats[seat].SeatName) + ".slg";
 }
 
 // --- What a game refers to.
@@ -76,7 +70,7 @@ GameReferences ReferencesOf(const Game& game, const std::string& probabilityFile
   // A log that nothing was ever written to is none.
   const std::string log = EventsLogPath(game);
   if (!game.events.Path.empty() || Exists(log)) references.eventsLog = ReferenceTo(log);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     references.script[seat] = ReferenceTo(game.autobet.Scripts[seat].ScriptFileName);
     references.sessionsLog[seat] = ReferenceTo(game.table.seats[seat].SessionsLogName);
   }
@@ -100,7 +94,7 @@ std::string ReferencesProblem(const Game& game, const GameReferences& references
   look(MessageText<Msg::kPathOfRollFile>(), references.rollFile.path);
   look(MessageText<Msg::kPathOfProbabilities>(), references.probability.path);
   look(MessageText<Msg::kPathOfEventsLog>(), references.eventsLog.path);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = game.table.seats[seat].SeatName;
     if (name.empty()) continue;
     look(MessageText<Msg::kNameOfSeat>(With<"seat">(seat)), name);
@@ -120,7 +114,7 @@ std::uint64_t DigestOf(const Game& game) {
   GameReferences references = ReferencesOf(game, game.percentage.ProbFileName);
   for (FileReference* reference : {&references.rollFile, &references.probability, &references.eventsLog})
     reference->date.clear();
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     references.script[seat].date = references.sessionsLog[seat].date = "";
   std::uint64_t digest = kDigestStart;
   for (const Record& record : WriteGameRecords(game, references, GameFileKind::kDigest).Records)
@@ -152,7 +146,7 @@ std::string SaveUnsavedProbabilities(Game& game, const std::string& gamePath, st
 std::string DefaultGamePath(const Game& game) { return game.ownFolder + kDefaultGameFile; }
 std::string BackupGamePath(const Game& game) { return game.ownFolder + kBackupGameFile; }
 std::string AutosavePath(const Game& game) { return game.ownFolder + kAutosaveGameFile; }
-bool IsDefaultGame(std::string_view path) { return Lower(FileTitle(path)) == kDefaultGameFile; }
+bool IsDefaultGame(std::string_view path) { return Lowered(FileTitle(path)) == kDefaultGameFile; }
 
 bool SaveGame(Game& game, const std::string& path, std::string& error) {
   FlushTableFiles(game);
@@ -239,7 +233,7 @@ void TellFile(Game& game, const FileReference& reference) {
 }
 
 template <Msg kId>
-void TellScript(Game& game, int seat, const FileReference& reference) {
+void TellScript(Game& game, SeatId seat, const FileReference& reference) {
   ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"path">(reference.path));
 }
 
@@ -269,8 +263,7 @@ void TakeOverEvents(EventsLog& log, const EventsLog& loaded) {
 void TakeOverHotKeys(std::vector<HotKey>& keys, const std::vector<HotKey>& loaded) {
   for (const HotKey& key : loaded)
     if (std::none_of(keys.begin(), keys.end(), [&](const HotKey& known) {
-          return std::tolower(static_cast<unsigned char>(known.key)) ==
-                 std::tolower(static_cast<unsigned char>(key.key));
+          return Lowered(known.key) == Lowered(key.key);
         }))
       keys.push_back(key);
 }
@@ -360,7 +353,7 @@ void OpenReferredLog(Game& game, const FileReference& reference) {
   TellFile<Msg::kEventsLogMissing>(game, reference);
 }
 
-void DropScript(Game& game, int seat) {
+void DropScript(Game& game, SeatId seat) {
   AutoBet& autobet = game.autobet;
   SeatScript& script = autobet.Scripts[seat];
   script.ScriptLines.clear();
@@ -371,7 +364,7 @@ void DropScript(Game& game, int seat) {
       std::any_of(autobet.ScriptActive + 1, autobet.ScriptActive + kSeatRows, [](bool on) { return on; });
 }
 
-void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
+void OpenReferredScript(Game& game, SeatId seat, const FileReference& reference) {
   SeatScript& script = game.autobet.Scripts[seat];
   script.ScriptFileName = reference.path;
   if (reference.path.empty()) return;
@@ -394,7 +387,7 @@ void OpenReferredScript(Game& game, int seat, const FileReference& reference) {
   script.ScriptNesting.clear();
 }
 
-void OpenReferredSessionsLog(Game& game, int seat, const FileReference& reference) {
+void OpenReferredSessionsLog(Game& game, SeatId seat, const FileReference& reference) {
   std::string& log = game.table.seats[seat].SessionsLogName;
   log = reference.path;
   if (reference.date.empty() || Exists(reference.path)) return;
@@ -408,7 +401,7 @@ void OpenReferredFiles(Game& game, const Game& loaded, const GameReferences& ref
   OpenReferredRollFile(game, loaded.rollFile, references.rollFile);
   OpenReferredProbabilities(game, loaded.percentage, references.probability, as);
   OpenReferredLog(game, references.eventsLog);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     OpenReferredScript(game, seat, references.script[seat]);
     OpenReferredSessionsLog(game, seat, references.sessionsLog[seat]);
@@ -456,7 +449,7 @@ std::string GameToOpen(Game& game, std::string_view argument) {
   if (argument.size() >= 2 && argument.front() == '"' && argument.back() == '"')
     argument = argument.substr(1, argument.size() - 2);
   if (argument.empty()) return DefaultGamePath(game);
-  if (Lower(argument).ends_with(kGameFileExtension)) return std::string(argument);
+  if (Lowered(argument).ends_with(kGameFileExtension)) return std::string(argument);
   ShowMessage<Msg::kNotAGameFileName>(game);
   return DefaultGamePath(game);
 }

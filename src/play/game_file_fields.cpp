@@ -19,6 +19,7 @@ constexpr std::string_view kRestarted = "generators go on from where the program
 constexpr std::string_view kMadeAgain = "made again from other fields";
 constexpr std::string_view kOfARun = "of a roll or run, and none is kept";
 constexpr std::string_view kOtherFile = "in a file of its own";
+constexpr std::string_view kReferred = "in a file reference, by its full path";
 constexpr std::string_view kGranted = "granted for the program's run";
 
 const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
@@ -39,6 +40,7 @@ const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
     {".generators.LastErrorText", kOfARun},
     {".percentage.ProbMatrix", kOtherFile},
     {".percentage.DrawTable", kMadeAgain},
+    {".rollFile.RollFileName", kReferred},
     {".rollFile.Durable", kOfTheProgram},
     {".rollFile.LastErrorText", kOfARun},
     {".rollFile.FaultReported", kOfARun},
@@ -48,6 +50,7 @@ const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
     {".events.Held", kOfTheProgram},
     {".events.Path", kOtherFile},
     {".events.Files", kOtherFile},
+    {".autobet.Scripts.ScriptFileName", kReferred},
     {".autobet.Scripts.Kept", kMadeAgain},
     {".autobet.Scripts.Output", kOtherFile},
     {".autobet.ScriptsCompiled", kMadeAgain},
@@ -71,6 +74,7 @@ const FieldLeftOut kLeftOut[kFieldsLeftOut] = {
     {".autobet.RollFileEndReached", kOfARun},
     {".table.OccupiedSeats", kMadeAgain},
     {".table.Seated", kMadeAgain},
+    {".table.seats.SessionsLogName", kReferred},
     {".table.seats.SeatBets", kMadeAgain},
     {".table.AnyBets", kMadeAgain},
     {".table.SeatsUp", kMadeAgain},
@@ -387,6 +391,7 @@ constexpr FieldRange kRanges[] = {
     {"Left", -kFarthest, kFarthest},
     {"Width", 0, kFarthest},
     {"Height", 0, kFarthest},
+    {"DiceHistoryThrows", 0, 1'000'000'000'000'000'000},
     {"RailLeft", -kFarthest, kFarthest},
     {"RailTop", -kFarthest, kFarthest},
     {"TableZoom", 0, kMostZoom},

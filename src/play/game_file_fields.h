@@ -26,7 +26,7 @@ struct FieldLeftOut {
   std::string_view path;
   std::string_view reason;
 };
-inline constexpr std::size_t kFieldsLeftOut = 57;
+inline constexpr std::size_t kFieldsLeftOut = 60;
 extern const FieldLeftOut kLeftOut[kFieldsLeftOut];
 
 }  // namespace tessaryn

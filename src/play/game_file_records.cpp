@@ -48,6 +48,8 @@ bool FromWhole(std::int64_t number, T& value) {
     value = number != 0;
   } else if constexpr (HasRaw<T>) {
     value.raw = number;
+  } else if constexpr (kIsId<T>) {
+    return FromWhole(number, value.value);
   } else {
     value = static_cast<T>(number);
     return static_cast<std::int64_t>(value) == number;
@@ -116,7 +118,7 @@ class RecordsOut {
     PutText(record, 0, kRecordBytes, text);
     file.Append(record);
   }
-  int NextSeat(const Game& game, int seat) {
+  SeatId NextSeat(const Game& game, SeatId seat) {
     do ++seat;
     while (seat <= kSeats && game.table.seats[seat].SeatName.empty());
     return seat;
@@ -173,7 +175,7 @@ class RecordsIn {
     Here();
     Next();
   }
-  int NextSeat(const Game&, int seat) {
+  SeatId NextSeat(const Game&, SeatId seat) {
     const std::int64_t next = GetInt64(Here(), kSeatPlace * 8) / Currency::kPerDollar;
     if (next > seat && next <= kSeats) return static_cast<int>(next);
     failed_ = true;
@@ -252,8 +254,8 @@ void Windows(Io& io, Screen& screen) {
     Window(io, screen.ToolWindows[row.window], row.sized);
   }
   io.LongsTo(30);
-  for (int seat = 1; seat <= kSeats; ++seat) io.Long(screen.RailLeft[seat]);
-  for (int seat = 1; seat <= kSeats; ++seat) io.Long(screen.RailTop[seat]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) io.ToldLong(screen.RailLeft[seat]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) io.ToldLong(screen.RailTop[seat]);
   io.EndLongs();
   for (const WindowRow& row : kFurtherWindows) {
     if (row.window == kRollFreqsWindow) {
@@ -284,6 +286,28 @@ void ViewsAndFolders(Io& io, Screen& screen) {
   for (auto& folder : screen.Folders) io.Name(folder, blank);
 }
 
+// How many rolls of the dice history follow at the end. A number that can't be leaves the file without one.
+template <typename Io, typename Screen>
+void HistoryCount(Io& io, Screen& screen) {
+  auto count = static_cast<int>(std::min<std::size_t>(screen.DiceHistory.size(), kMostKeptRolls));
+  io.Long(count);
+  if constexpr (Io::kReads)
+    screen.DiceHistory.resize(count < 0 || count > kMostKeptRolls ? 0 : static_cast<std::size_t>(count));
+}
+
+template <typename Io, typename Screen>
+void History(Io& io, Screen& screen) {
+  for (std::size_t n = 0; n < std::min<std::size_t>(screen.DiceHistory.size(), kMostKeptRolls); ++n) {
+    auto& roll = screen.DiceHistory[n];
+    io.Short(roll.Die1);
+    io.Short(roll.Die2);
+    io.ToldShort(roll.Total());
+    io.Short(roll.PointBefore);
+    io.Short(roll.ShooterSeat);
+  }
+  io.EndShorts();
+}
+
 template <typename Io, typename GameType, typename Screen>
 void TableRecord(Io& io, GameType& game, Screen& screen) {
   auto& table = game.table;
@@ -303,7 +327,7 @@ void TableRecord(Io& io, GameType& game, Screen& screen) {
   io.Long(game.generators.RngSeedState);
   io.Long(game.generators.RngLastSeed);
   OneView(io, screen.View);
-  io.ToldLong(0);  // no history of rolls is kept
+  HistoryCount(io, screen);
   io.ToldLong(Io::kReads ? 0 : Throws(game.stats));
   io.Long(table.LastPoint);
   io.ToldLong(table.RollTotal);
@@ -425,7 +449,7 @@ void SecondConfiguration(Io& io, Configuration& settings) {
 // A set of bets, a value to a bet; first and last as the block has them.
 template <typename Io, typename Set, typename Put>
 void BetFlags(Io&, Set& set, int first, int last, Put put) {
-  for (int bet = first; bet <= last; ++bet) {
+  for (BetId bet = first; bet <= last; ++bet) {
     bool in = IsTableBet(bet) && set.Has(bet);
     put(in);
     if constexpr (Io::kReads)
@@ -491,8 +515,8 @@ void Layout(Io& io, GameType& game, Screen& screen) {
 
 template <typename Io, typename Statistic>
 void RollStatistics(Io& io, Statistic& stats) {
-  for (int scope = 0; scope < kScopes; ++scope)
-    for (int seat = 0; seat < kSeatRows; ++seat)
+  for (ScopeId scope = 0; scope < kScopes; ++scope)
+    for (SeatId seat = 0; seat < kSeatRows; ++seat)
       for (int item = 0; item < kRollItems; ++item)
         io.ToldLong(Io::kReads ? 0 : RollCount(stats, scope, seat, item));
   io.EndLongs();
@@ -513,8 +537,8 @@ template <typename Io, typename GameType>
 void Hands(Io& io, GameType& game) {
   auto& stats = game.stats;
   Column(io, stats.HandCount);
-  for (int scope = 0; scope < kScopes; ++scope)
-    for (int seat = 0; seat < kSeatRows; ++seat)
+  for (ScopeId scope = 0; scope < kScopes; ++scope)
+    for (SeatId seat = 0; seat < kSeatRows; ++seat)
       io.ToldLong(Io::kReads ? 0 : PlayerRolls(stats, scope, seat));
   io.EndLongs();
   Column(io, stats.MostRollsInHand);
@@ -548,7 +572,7 @@ void Points(Io& io, Statistic& stats) {
 
 template <typename Io, typename GameType>
 void ScriptAndRecorder(Io& io, GameType& game) {
-  const int shown = std::clamp(game.table.SelectedSeat, 0, kSeats);
+  const int shown = std::clamp<int>(game.table.SelectedSeat, 0, kSeats);
   io.ToldLong(shown);
   io.EndLongs();
   io.ToldText(FileTitle(game.autobet.Scripts[shown].ScriptFileName));
@@ -564,7 +588,7 @@ void ScriptAndRecorder(Io& io, GameType& game) {
 // --- The part of a seat.
 
 template <typename Io, typename GameType>
-void SeatMoney(Io& io, GameType& game, int seat) {
+void SeatMoney(Io& io, GameType& game, SeatId seat) {
   auto& table = game.table;
   auto& stats = game.stats;
   io.Money(table.BankrollCurrent[seat]);
@@ -576,7 +600,7 @@ void SeatMoney(Io& io, GameType& game, int seat) {
   io.Money(stats.BankrollRollSum[seat]);
   io.Money(stats.BankrollSessionStart[seat]);
   for (auto* values : {&stats.BankrollBeginning, &stats.BankrollHigh, &stats.BankrollLow})
-    for (int scope = 0; scope < kScopes; ++scope) io.Money((*values)[Slot(scope, seat)]);
+    for (ScopeId scope = 0; scope < kScopes; ++scope) io.Money((*values)[Slot(scope, seat)]);
   io.MoneyTo(kSeatPlace);
   int number = seat;
   io.Money(number);
@@ -606,23 +630,23 @@ void AutoPlay(Io& io, HandlingType& handling) {
 }
 
 template <typename Io, typename Table>
-void SeatBets(Io& io, Table& table, int seat) {
+void SeatBets(Io& io, Table& table, SeatId seat) {
   for (auto* amounts : {&table.BetAmount, &table.BetBeforeRoll, &table.BetAfterRoll, &table.BetCommitted}) {
-    for (int bet = 0; bet < kBetRows; ++bet) io.Money((*amounts)(seat, bet));
+    for (BetId bet = 0; bet < kBetRows; ++bet) io.Money((*amounts)(seat, bet));
     io.EndMoney();
   }
   for (const auto* working : {&table.seats[seat].BetWorking, &table.seats[seat].BetWorkingBeforeRoll}) {
-    for (int bet = 0; bet <= 100; ++bet) io.ToldShort(WorkingValue(*working, bet));
+    for (BetId bet = 0; bet <= 100; ++bet) io.ToldShort(WorkingValue(*working, bet));
     io.EndShorts();
   }
   WorkingDefaults(io, table.seats[seat].BetDefaultWorking);
 }
 
 template <typename Io, typename GameType>
-void SeatStatistics(Io& io, GameType& game, int seat) {
-  for (int scope = 0; scope < kScopes; ++scope) {
+void SeatStatistics(Io& io, GameType& game, SeatId seat) {
+  for (ScopeId scope = 0; scope < kScopes; ++scope) {
     for (int table = 0; table < kStatTables; ++table)
-      for (int bet = 1; bet <= 100; ++bet)
+      for (BetId bet = 1; bet <= 100; ++bet)
         for (int kind = kStatCount; kind <= kStatLastAmount; ++kind)
           io.ToldMoney(Io::kReads ? kZero
                                   : BetStat(game.stats, static_cast<StatTable>(table), scope, seat, bet,
@@ -630,12 +654,12 @@ void SeatStatistics(Io& io, GameType& game, int seat) {
     io.EndMoney();
   }
   for (auto& stack : game.table.seats[seat].VisibleStacks) io.Long(stack);
-  for (int bet = 0; bet <= 100; ++bet) io.Long(game.table.BetStreak(seat, bet));
+  for (BetId bet = 0; bet <= 100; ++bet) io.Long(game.table.BetStreak(seat, bet));
   io.EndLongs();
 }
 
 template <typename Io, typename GameType, typename References>
-void SeatPart(Io& io, GameType& game, References& references, int seat) {
+void SeatPart(Io& io, GameType& game, References& references, SeatId seat) {
   std::string blank;
   SeatMoney(io, game, seat);
   io.Name(game.table.seats[seat].SeatName, blank);
@@ -684,12 +708,13 @@ void GameRecords(Io& io, GameType& game, Screen& screen, References& references)
   Hands(io, game);
   Points(io, game.stats);
   ScriptAndRecorder(io, game);
-  int seat = 0;
+  SeatId seat = 0;
   for (int i = 0; i < game.table.OccupiedSeats && !io.Failed(); ++i) {
     seat = io.NextSeat(game, seat);
     SeatPart(io, game, references, seat);
   }
   TableLists(io, game.stats);
+  History(io, screen);
 }
 
 // --- The final record and the further ones.
@@ -761,6 +786,11 @@ bool ReadGameRecords(const RecordFile& file, Game& game, GameReferences& referen
   references = {};
   RecordsIn io(file);
   GameRecords(io, game, game.screen, references);
+  game.rollFile.RollFileName = references.rollFile.path;
+  for (int seat = 1; seat <= kSeats; ++seat) {
+    game.autobet.Scripts[seat].ScriptFileName = references.script[seat].path;
+    game.table.seats[seat].SessionsLogName = references.sessionsLog[seat].path;
+  }
   return !io.Failed();
 }
 

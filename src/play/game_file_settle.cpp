@@ -1,9 +1,9 @@
 // What a game file may bring to a table: nothing in it is trusted.
 #include <algorithm>
-#include <cctype>
 #include <limits>
 
 #include "dice/generators.h"
+#include "base/letters.h"
 #include "play/game_file_fields.h"
 #include "play/game_file_records.h"
 #include "play/setting_table.h"
@@ -13,21 +13,16 @@
 namespace tessaryn {
 namespace {
 
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 std::string SettlePlayers(Game& game) {
   TableState& table = game.table;
   const int told = table.OccupiedSeats;
   table.OccupiedSeats = 0;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = table.seats[seat].SeatName;
     if (name.empty()) continue;
     if (!TextProblem(name).empty()) return "the name of seat " + std::to_string(seat);
-    for (int other = 1; other < seat; ++other)
-      if (Lower(table.seats[other].SeatName) == Lower(name)) return "two players named " + name;
+    for (SeatId other = 1; other < seat; ++other)
+      if (SameLetters(table.seats[other].SeatName, name)) return "two players named " + name;
     table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
   }
   for (int i = table.OccupiedSeats; i < kSeats; ++i) table.Seated[i] = 0;
@@ -48,10 +43,10 @@ std::string SettleBets(Game& game) {
   TableState& table = game.table;
   table.AnyBets.Clear();
   std::fill(std::begin(table.SeatsUp), std::end(table.SeatsUp), std::uint8_t{0});
-  for (int seat = 0; seat < kSeatRows; ++seat) table.seats[seat].SeatBets.Clear();
+  for (SeatId seat = 0; seat < kSeatRows; ++seat) table.seats[seat].SeatBets.Clear();
   for (int place = 0; place < kSeats; ++place) {
-    const int seat = kPayOrder[static_cast<std::size_t>(place)];
-    for (int bet = 0; bet < kBetRows; ++bet) {
+    const SeatId seat = kPayOrder[static_cast<std::size_t>(place)];
+    for (BetId bet = 0; bet < kBetRows; ++bet) {
       const Currency amount = table.BetAmount(seat, bet);
       if (IsCheckStack(bet) && (amount > kStackLimit || amount < -kStackLimit)) return "a CheckStack";
       if (!IsTableBet(bet) && !IsCheckStack(bet) && amount != kZero) return "a bet that is none";
@@ -108,15 +103,28 @@ std::string SettleStatistics(Game& game) {
 std::string SettleScripts(Game& game) {
   AutoBet& autobet = game.autobet;
   autobet.ScriptActive[0] = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = autobet.Scripts[seat];
     if (script.ScriptNesting.size() != script.ScriptLines.size()) script.ScriptNesting.clear();
     if (!IsOccupied(game.table, seat)) autobet.ScriptActive[seat] = false;
     autobet.ScriptActive[0] = autobet.ScriptActive[0] || autobet.ScriptActive[seat];
   }
   if (!(game.percentage.ProbRollsOutOf > 0)) game.percentage.ProbRollsOutOf = 36;
-  for (KeptView& view : game.screen.SavedViews)
+  return "";
+}
+
+std::string SettleScreens(Game& game) {
+  ScreenState& screen = game.screen;
+  for (KeptView& view : screen.SavedViews)
     if (view.TableZoom < kLeastZoom) view = {};
+  // Without a window nobody notes the rolls: it is then of a time before.
+  if (screen.DiceHistoryThrows != Throws(game.stats)) screen.DiceHistory.clear();
+  const auto isFace = [](int die) { return die >= 1 && die <= 6; };
+  for (const KeptRoll& roll : screen.DiceHistory) {
+    const bool point = roll.PointBefore == 0 || IsBoxNumber(roll.PointBefore);
+    const bool shooter = roll.ShooterSeat >= 0 && roll.ShooterSeat <= kSeats;
+    if (!isFace(roll.Die1) || !isFace(roll.Die2) || !point || !shooter) return "the dice history";
+  }
   return "";
 }
 
@@ -124,8 +132,8 @@ std::string SettleScripts(Game& game) {
 
 std::string SettleOpenedGame(Game& game) {
   if (std::string path = FieldOutOfRange(game); !path.empty()) return path;
-  constexpr std::string (*kSteps[])(Game&) = {SettlePlayers,  SettleRoll,       SettleBets,
-                                              SettleSettings, SettleStatistics, SettleScripts};
+  constexpr std::string (*kSteps[])(Game&) = {SettlePlayers,    SettleRoll,    SettleBets,   SettleSettings,
+                                              SettleStatistics, SettleScripts, SettleScreens};
   for (const auto step : kSteps)
     if (std::string problem = step(game); !problem.empty()) return problem;
   return CheckConsistency(game);

@@ -7,6 +7,7 @@
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/script_files.h"
 #include "autobet/run/interpreter.h"
+#include "base/letters.h"
 #include "base/record_file.h"
 #include "state/show_message.h"
 
@@ -18,8 +19,6 @@ constexpr std::size_t kTextWidth = 100;
 constexpr std::size_t kFirstText = 1;
 constexpr std::size_t kSecondText = 101;
 constexpr std::size_t kMostKeys = 256;
-
-char Folded(char key) { return static_cast<char>(std::tolower(static_cast<unsigned char>(key))); }
 
 }  // namespace
 
@@ -78,7 +77,7 @@ bool AddHotKey(std::vector<HotKey>& keys, const HotKey& key, std::string& error)
     return false;
   }
   for (HotKey& known : keys) {
-    if (Folded(known.key) != Folded(key.key)) continue;
+    if (Lowered(known.key) != Lowered(key.key)) continue;
     known = key;
     return true;
   }
@@ -107,7 +106,7 @@ bool RunHotKeyFile(Game& game, const std::string& path) {
 
 bool PressHotKey(Game& game, const std::vector<HotKey>& keys, char key) {
   for (const HotKey& known : keys)
-    if (Folded(known.key) == Folded(key)) return RunHotKeyFile(game, known.path);
+    if (Lowered(known.key) == Lowered(key)) return RunHotKeyFile(game, known.path);
   return false;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "base/letters.h"
 #include "play/setting_values.h"
 #include "state/game.h"
 
@@ -68,7 +69,7 @@ std::span<const HousePreset> HousePresets() { return kPresets; }
 
 const HousePreset* FindHousePreset(std::string_view keyOrName) {
   for (const HousePreset& preset : kPresets)
-    if (SameWord(preset.key, keyOrName) || SameWord(preset.name, keyOrName)) return &preset;
+    if (SameLetters(preset.key, keyOrName) || SameLetters(preset.name, keyOrName)) return &preset;
   return nullptr;
 }
 

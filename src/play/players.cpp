@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <bit>
-#include <cctype>
 #include <utility>
 
 #include "autobet/language/normaliser.h"
+#include "base/letters.h"
 #include "base/record_file.h"
 #include "play/session_luck.h"
 #include "rules/bet_rules.h"
@@ -25,14 +25,9 @@ namespace {
 // The list of occupied seats, after a name came or went.
 void ListSeated(TableState& table) {
   table.OccupiedSeats = 0;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (!table.seats[seat].SeatName.empty())
       table.Seated[table.OccupiedSeats++] = static_cast<std::uint8_t>(seat);
-}
-
-std::string Lower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
 }
 
 std::string Trimmed(const std::string& text) {
@@ -43,15 +38,26 @@ std::string Trimmed(const std::string& text) {
 
 }  // namespace
 
-std::string NameProblem(const Game& game, const std::string& name, int ownSeat) {
+namespace {
+
+// What has translations is told in the language of the game, as in boxes.
+template <Msg kId, typename... Arguments>
+std::string Told(const Game& game, const Arguments&... arguments) {
+  static_assert(FillsAllHoles<kId, Arguments...>(), "the arguments are not those of the message");
+  return MessageTextIn(game.settings.Language, kId, ArgumentsOf(arguments...));
+}
+
+}  // namespace
+
+std::string NameProblem(const Game& game, const std::string& name, SeatId ownSeat) {
   if (const std::string problem = TextProblem(name); !problem.empty())
     return MessageText<Msg::kNameUnfit>(With<"reason">(problem));
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (seat != ownSeat && Lower(game.table.seats[seat].SeatName) == Lower(name))
-      return MessageText<Msg::kNameTaken>(With<"name">(name));
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    if (seat != ownSeat && SameLetters(game.table.seats[seat].SeatName, name))
+      return Told<Msg::kNameTaken>(game, With<"name">(name));
   switch (CheckPlayerName(name)) {
     case ScriptNameProblem::kNumeric:
-      return MessageText<Msg::kNameNumeric>();
+      return Told<Msg::kNameNumeric>(game);
     case ScriptNameProblem::kReservedWord:
       return MessageText<Msg::kNameReserved>(With<"name">(name));
     default:
@@ -90,27 +96,28 @@ void ForEachPartOfASeat(Game& game, Part&& part) {
   ForEachSeatPart(game.stats, part);
   ForEachSeatPart(game.autobet, part);
   ForEachSeatPart(game.events, part);
-  part([&game](int seat) -> auto& { return game.sessions.Files.Tally[seat]; });
+  part([&game](SeatId seat) -> auto& { return game.sessions.Files.Tally[seat]; });
 }
 
 }  // namespace
 
-void ClearSeat(Game& game, int seat) {
+void ClearSeat(Game& game, SeatId seat) {
   TableState& table = game.table;
-  for (int bet = 1; bet < kBetRows; ++bet) SetBetAmount(game, seat, bet, kZero);
+  for (BetId bet = 1; bet < kBetRows; ++bet) SetBetAmount(game, seat, bet, kZero);
   ForEachPartOfASeat(game, [seat](auto at) { Reset(at(seat)); });
   ListSeated(table);
   SeatState& own = table.seats[seat];
   own.BetDefaultWorking = table.seats[0].BetDefaultWorking;
   own.BetWorking.byDefault = table.Point != 0 ? kAllTableBets : own.BetDefaultWorking;
   own.BetWorkingBeforeRoll = own.BetWorking;
-  for (int scope = 0; scope < kScopes; ++scope)
+  for (ScopeId scope = 0; scope < kScopes; ++scope)
     game.stats.RollsNotSeen[Slot(scope, seat)] = game.stats.RollTotals[Slot(scope, 0)];
   game.autobet.SessionAhead |= static_cast<std::uint16_t>(1u << seat);
   ClearSeatLuck(game, seat);
 }
 
-bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency bankroll, std::string& error) {
+bool JoinPlayer(Game& game, SeatId seat, const std::string& givenName, Currency bankroll,
+                std::string& error) {
   TableState& table = game.table;
   const std::string name = Trimmed(givenName);
   if (seat < 1 || seat > kSeats) {
@@ -120,9 +127,9 @@ bool JoinPlayer(Game& game, int seat, const std::string& givenName, Currency ban
   } else if (name.empty()) {
     error = MessageText<Msg::kNameMissing>();
   } else if (bankroll.IsError() || bankroll > kBankrollLimit) {
-    error = MessageText<Msg::kBankrollTooHigh>(With<"limit">(kBankrollLimit));
+    error = Told<Msg::kBankrollTooHigh>(game, With<"limit">(kBankrollLimit));
   } else if (bankroll < -kBankrollLimit) {
-    error = MessageText<Msg::kBankrollTooLow>(With<"limit">(kBankrollLimit));
+    error = Told<Msg::kBankrollTooLow>(game, With<"limit">(kBankrollLimit));
   } else {
     error = NameProblem(game, name, 0);
   }
@@ -150,7 +157,7 @@ namespace {
 
 // Repeats the question for a name until that is fit or the user gives up. preset: the player's name until
 // now.
-bool AskName(Game& game, Msg question, const std::string& preset, int ownSeat, std::string& name) {
+bool AskName(Game& game, Msg question, const std::string& preset, SeatId ownSeat, std::string& name) {
   std::string problem;
   for (name = preset;;) {
     game.box.MsgEntry = name;
@@ -165,7 +172,7 @@ static_assert(NeedOnly({Msg::kAskPlayerName, Msg::kAskNewName}, {"problem", "pla
 
 }  // namespace
 
-bool AddPlayer(Game& game, int seat) {
+bool AddPlayer(Game& game, SeatId seat) {
   if (seat < 1 || seat > kSeats || IsOccupied(game.table, seat)) return false;
   if (!Confirms<Msg::kAskAddPlayer>(game)) return false;
   std::string name;
@@ -187,12 +194,12 @@ struct Abandoned {
   Currency total;
 };
 
-Abandoned ContractMoney(const TableState& table, int seat) {
+Abandoned ContractMoney(const TableState& table, SeatId seat) {
   Abandoned abandoned;
-  const auto riding = [&](int bet) {
+  const auto riding = [&](BetId bet) {
     return table.BetAmount(seat, bet) > kZero && table.BetCommitted(seat, bet) > kZero;
   };
-  for (int bet = kCome4; bet < kCome4 + 6; ++bet)
+  for (BetId bet = kCome4; bet < kCome4 + 6; ++bet)
     if (riding(bet)) {
       ++abandoned.comeBets;
       abandoned.total += table.BetAmount(seat, bet);
@@ -210,7 +217,7 @@ bool MayRemove(Game& game, const std::string& name, const Abandoned& abandoned) 
                                     With<"come">(abandoned.comeBets), With<"total">(abandoned.total));
 }
 
-void LogLeaving(Game& game, int seat, Currency abandoned) {
+void LogLeaving(Game& game, SeatId seat, Currency abandoned) {
   const TableState& table = game.table;
   const Currency cashed = table.BankrollCurrent[seat] - abandoned;
   const Currency result = cashed - game.stats.BankrollSessionStart[seat];
@@ -227,7 +234,7 @@ void RecomputeMasterScriptFlag(AutoBet& autobet) {
 }  // namespace
 
 bool RemovePlayer(Game& game) {
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const Abandoned abandoned = ContractMoney(game.table, seat);
   if (!MayRemove(game, game.table.seats[seat].SeatName, abandoned)) return false;
@@ -235,7 +242,7 @@ bool RemovePlayer(Game& game) {
   return true;
 }
 
-void LeaveTable(Game& game, int seat) {
+void LeaveTable(Game& game, SeatId seat) {
   TableState& table = game.table;
   if (!IsOccupied(table, seat)) return;
   LogLeaving(game, seat, ContractMoney(table, seat).total);
@@ -255,7 +262,7 @@ void LeaveTable(Game& game, int seat) {
   TellSessionsLogFault(game);
 }
 
-bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& error) {
+bool RenameTo(Game& game, SeatId seat, const std::string& givenName, std::string& error) {
   TableState& table = game.table;
   const std::string name = Trimmed(givenName);
   if (!IsOccupied(table, seat))
@@ -272,14 +279,14 @@ bool RenameTo(Game& game, int seat, const std::string& givenName, std::string& e
 }
 
 bool RenamePlayer(Game& game) {
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const std::string old = game.table.seats[seat].SeatName;
   std::string name;
   if (!AskName(game, Msg::kAskNewName, old, seat, name)) return false;
   std::string error;
   if (!RenameTo(game, seat, name, error)) return false;
-  if (Lower(old) == Lower(name)) return true;
+  if (SameLetters(old, name)) return true;
   if (!Confirms<Msg::kAskRenameSessionsLog>(game, With<"player">(name))) return true;
   const std::string problem = RenameSessionsLog(game, seat, DefaultSessionsLogName(game, name));
   if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotRenamed>(game, With<"problem">(problem));
@@ -303,13 +310,13 @@ void SwapSeats(Game& game, int a, int b) {
   for (std::uint8_t& seats : table.SeatsUp) seats = 0;
   for (int place = 0; place < kSeats; ++place)
     table.seats[kPayOrder[place]].SeatBets.ForEach(
-        [&](int bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
+        [&](BetId bet) { table.SeatsUp[bet] |= static_cast<std::uint8_t>(1u << place); });
   BankrollPlotChanged(game);
 }
 
 }  // namespace
 
-bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
+bool MovePlayer(Game& game, SeatId fromSeat, SeatId toSeat, std::string& error) {
   TableState& table = game.table;
   if (!IsOccupied(table, fromSeat)) {
     error = MessageText<Msg::kSeatOpen>(With<"seat">(fromSeat));
@@ -320,7 +327,7 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   }
   if (!error.empty()) return false;
   SwapSeats(game, fromSeat, toSeat);
-  for (int* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
+  for (SeatId* seat : {&table.ShooterSeat, &table.HandSeat, &table.PreviousHandSeat, &table.SelectedSeat})
     if (*seat == fromSeat) *seat = toSeat;
   game.autobet.ScriptsCompiled = false;
   LogPlayerMoved(game, toSeat);
@@ -329,7 +336,7 @@ bool MovePlayer(Game& game, int fromSeat, int toSeat, std::string& error) {
   return true;
 }
 
-void SelectSeat(Game& game, int seat) {
+void SelectSeat(Game& game, SeatId seat) {
   if (!IsOccupied(game.table, seat)) return;
   game.table.SelectedSeat = seat;
   game.host->Changed(game, Change::kPlayers);

@@ -7,21 +7,21 @@
 
 namespace tessaryn {
 
-BetSet BetsToRepeat(const Game& game, int seat) {
+BetSet BetsToRepeat(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   BetSet bets;
   if (!IsOccupied(table, seat)) return bets;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (table.BetBeforeRoll(seat, bet) > kZero && table.BetAmount(seat, bet) == kZero) bets.Add(bet);
   return bets;
 }
 
-int RepeatBets(Game& game, int seat) {
+int RepeatBets(Game& game, SeatId seat) {
   const TableState& table = game.table;
   const BetSet bets = BetsToRepeat(game, seat);
   int refused = 0;
   int made = 0;
-  const auto repeat = [&](int bet) {
+  const auto repeat = [&](BetId bet) {
     // Automatic odds may have come with their flat bet.
     if (table.BetAmount(seat, bet) != kZero) return;
     const Currency amount = table.BetBeforeRoll(seat, bet);
@@ -33,7 +33,7 @@ int RepeatBets(Game& game, int seat) {
     }
   };
   for (const bool odds : {false, true})
-    bets.ForEach([&](int bet) {
+    bets.ForEach([&](BetId bet) {
       if (IsOdds(bet) == odds) repeat(bet);
     });
   if (made == 0 && refused != 0) PlaceBet(game, seat, refused, table.BetBeforeRoll(seat, refused));

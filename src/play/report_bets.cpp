@@ -14,7 +14,7 @@
 namespace tessaryn {
 namespace {
 
-using Seats = std::vector<int>;
+using Seats = std::vector<SeatId>;
 
 // Of the selected bets of the selected seats, in one of the three tables.
 struct Figures {
@@ -31,7 +31,8 @@ struct Figures {
 using Three = std::array<Figures, kStatTables>;
 using ThreeCells = std::array<ReportCell, kStatTables>;
 
-void AddFigures(const Statistics& stats, StatTable table, int scope, int seat, int bet, Figures& sum) {
+void AddFigures(const Statistics& stats, StatTable table, ScopeId scope, SeatId seat, BetId bet,
+                Figures& sum) {
   const auto stat = [&](StatKind kind) { return BetStat(stats, table, scope, seat, bet, kind); };
   const Currency count = stat(kStatCount);
   if (count == kZero) return;
@@ -50,8 +51,8 @@ void AddFigures(const Statistics& stats, StatTable table, int scope, int seat, i
 
 Three FiguresOf(const Game& game, const ReportSelection& selection, const Seats& seats) {
   Three sums;
-  for (const int seat : seats)
-    selection.bets.ForEach([&](int bet) {
+  for (const SeatId seat : seats)
+    selection.bets.ForEach([&](BetId bet) {
       for (int table = 0; table < kStatTables; ++table)
         AddFigures(game.stats, static_cast<StatTable>(table), selection.scope, seat, bet,
                    sums[static_cast<std::size_t>(table)]);
@@ -129,7 +130,7 @@ void AddAverages(const Three& sums, ReportTable& report) {
   AddRatios(report, "Average $", averages, true);
 }
 
-void AddHourly(const Game& game, int scope, const Three& sums, ReportTable& report) {
+void AddHourly(const Game& game, ScopeId scope, const Three& sums, ReportTable& report) {
   const double rate = game.settings.SimRollRate.ToDouble();
   if (!(rate > 0)) {
     for (const char* label : {"Avg # / hour", "Avg $ / hour"})
@@ -148,11 +149,11 @@ void AddHourly(const Game& game, int scope, const Three& sums, ReportTable& repo
   AddRatios(report, "Avg $ / hour", amounts, true);
 }
 
-void AddResolved(const Game& game, int scope, const Three& sums, ReportTable& report) {
+void AddResolved(const Game& game, ScopeId scope, const Three& sums, ReportTable& report) {
   const auto cells = [&sums](auto cellOf) {
     return ThreeCells{cellOf(sums[0]), cellOf(sums[1]), cellOf(sums[2])};
   };
-  const std::int64_t latest = LatestRoll(game.stats, scope);
+  const RollNumber latest = LatestRoll(game.stats, scope);
   AddSums(report, "Total #", sums, &Figures::count, false);
   AddSums(report, "Total $", sums, &Figures::total, true);
   AddWithoutNet(report, "High $", cells([](const Figures& of) { return MoneyCell(of.high); }));
@@ -172,8 +173,8 @@ void AddTendered(const ReportSelection& selection, const Seats& seats, const Sea
                  const std::string& when, ReportTable& report) {
   std::int64_t count = 0;
   Currency sum;
-  for (const int seat : seats)
-    selection.bets.ForEach([&](int bet) {
+  for (const SeatId seat : seats)
+    selection.bets.ForEach([&](BetId bet) {
       const Currency amount = amounts(seat, bet);
       if (amount > kZero) ++count;
       sum += amount;
@@ -184,9 +185,9 @@ void AddTendered(const ReportSelection& selection, const Seats& seats, const Sea
 
 Currency ExpectedValue(const Game& game, const ReportSelection& selection, const Seats& seats) {
   double expected = 0;
-  selection.bets.ForEach([&](int bet) {
+  selection.bets.ForEach([&](BetId bet) {
     Currency wagered;
-    for (const int seat : seats)
+    for (const SeatId seat : seats)
       wagered += BetStat(game.stats, kWagerStats, selection.scope, seat, bet, kStatTotal);
     if (wagered > kZero) expected += wagered.ToDouble() * FigureAdvantage(game, bet).evPerDecision;
   });
@@ -197,7 +198,7 @@ std::string NamesOfBets(const BetSet& bets) {
   if (bets == kAllTableBets) return "";
   if (bets.Empty()) return "No bets selected";
   std::string names;
-  bets.ForEach([&names](int bet) { names += (names.empty() ? "" : ", ") + BetName(bet); });
+  bets.ForEach([&names](BetId bet) { names += (names.empty() ? "" : ", ") + BetName(bet); });
   return names;
 }
 
@@ -210,8 +211,8 @@ void BlankMoney(ReportTable& report) {
 
 void AddEachBet(const Game& game, const ReportSelection& selection, const Seats& seats, ReportTable& report) {
   report.columns = {"Wagers #", "Wagers $", "Wins #", "Losses #", "Net $", "Net %"};
-  for (const int seat : seats)
-    selection.bets.ForEach([&](int bet) {
+  for (const SeatId seat : seats)
+    selection.bets.ForEach([&](BetId bet) {
       Three sums;
       for (const StatTable table : {kWagerStats, kWinStats, kLossStats}) {
         Figures& of = sums[table];
@@ -260,7 +261,7 @@ ReportTable BetTrendsReport(const Game& game, const ReportSelection& selection) 
   const bool anybody = IsOccupied(game.table, selection.seat);
   report.selected =
       anybody ? game.table.seats[selection.seat].SeatName : PlayersSelectedText(game, ReportSelection{});
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const std::int32_t streak = anybody ? game.table.BetStreak(selection.seat, bet) : 0;
     ReportCell cell;
     if (streak != 0) {

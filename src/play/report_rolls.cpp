@@ -13,32 +13,32 @@
 namespace tessaryn {
 namespace {
 
-using Seats = std::vector<int>;
+using Seats = std::vector<SeatId>;
 
 // --- Hands.
 
-constexpr int kKinds = 3;  // come-out rolls, passes, misses
+constexpr int kHandKinds = 3;  // come-out rolls, passes, misses
 
 struct Hands {
-  std::int64_t numbers[13][kKinds] = {};
-  std::int64_t total[kKinds] = {};
-  std::int64_t points[kKinds] = {};
+  std::int64_t numbers[13][kHandKinds] = {};
+  std::int64_t total[kHandKinds] = {};
+  std::int64_t points[kHandKinds] = {};
   std::int64_t rolls = 0;
   std::int64_t hands = 0;
   std::int32_t mostRolls = 0;
-  std::int32_t most[kKinds] = {};
+  std::int32_t most[kHandKinds] = {};
 };
 
-Hands HandsOf(const Statistics& stats, int scope, const Seats& seats) {
+Hands HandsOf(const Statistics& stats, ScopeId scope, const Seats& seats) {
   Hands sum;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     const int slot = Slot(scope, seat);
     sum.rolls += RollCount(stats, scope, seat, 0);
     sum.hands += stats.HandCount[slot];
     sum.mostRolls = std::max(sum.mostRolls, stats.MostRollsInHand[slot]);
     const std::int32_t most[] = {stats.MostComeoutRollsInHand[slot], stats.MostPassesInHand[slot],
                                  stats.MostMissesInHand[slot]};
-    for (int kind = 0; kind < kKinds; ++kind) {
+    for (int kind = 0; kind < kHandKinds; ++kind) {
       sum.most[kind] = std::max(sum.most[kind], most[kind]);
       for (int number = 2; number <= 12; ++number) {
         const std::int32_t count = stats.NumberCounts[slot][number][kind];
@@ -61,7 +61,7 @@ ReportCell HandCell(std::int64_t count, std::int64_t total, bool percent) {
 void AddNumbers(const Hands& hands, bool percent, ReportTable& report) {
   const auto add = [&](const std::string& label, auto countOf) {
     std::vector<ReportCell> cells;
-    for (int kind = 0; kind < kKinds; ++kind)
+    for (int kind = 0; kind < kHandKinds; ++kind)
       cells.push_back(HandCell(countOf(kind), hands.total[kind], percent));
     report.Add("", label, std::move(cells));
   };
@@ -142,12 +142,12 @@ bool IsFarOff(std::int64_t count, std::int64_t rolls, double chance) {
 }
 
 // The latest roll of an item is counted over the session alone.
-bool HasRollsSinceLast(int scope) { return scope == kCurrentHand || scope == kCurrentSession; }
+bool HasRollsSinceLast(ScopeId scope) { return scope == kCurrentHand || scope == kCurrentSession; }
 
 ReportRow BarRow(const Game& game, const ReportSelection& selection, const Seats& seats, const Bar& bar) {
   std::int64_t rolls = 0;
   std::int64_t count = 0;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     rolls += RollCount(game.stats, selection.scope, seat, 0);
     count += RollCount(game.stats, selection.scope, seat, bar.item);
   }

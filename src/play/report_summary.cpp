@@ -13,7 +13,7 @@ namespace {
 
 constexpr int kPlayersColumn = 1;
 
-using Seats = std::vector<int>;
+using Seats = std::vector<SeatId>;
 
 // Blank while nobody is selected: there is no money to tell of.
 ReportCell PlayersMoney(const Seats& seats, Currency amount) {
@@ -26,12 +26,12 @@ std::string ShareText(std::int64_t part, std::int64_t whole) {
   return NumberText(100.0 * static_cast<double>(part) / static_cast<double>(whole), kPercentShare);
 }
 
-void AddRolls(const Game& game, int scope, const Seats& seats, ReportTable& report) {
+void AddRolls(const Game& game, ScopeId scope, const Seats& seats, ReportTable& report) {
   const Statistics& stats = game.stats;
   const std::int64_t tableRolls = PlayerRolls(stats, scope, 0);
   std::int64_t rolls = 0;
   std::int64_t hands = 0;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     rolls += RollCount(stats, scope, seat, 0);
     hands += stats.HandCount[Slot(scope, seat)];
   }
@@ -45,20 +45,20 @@ void AddRolls(const Game& game, int scope, const Seats& seats, ReportTable& repo
 }
 
 // Over the rolls of the session, its beginning counted as one of them.
-Currency AverageBankroll(const Game& game, int seat) {
+Currency AverageBankroll(const Game& game, SeatId seat) {
   const Statistics& stats = game.stats;
   const std::int64_t rolls = PlayerRolls(stats, kCurrentSession, seat);
   return Divide(stats.BankrollSessionStart[seat] + stats.BankrollRollSum[seat], Currency::Dollars(rolls + 1));
 }
 
-void AddBankrolls(const Game& game, int scope, const Seats& seats, ReportTable& report) {
+void AddBankrolls(const Game& game, ScopeId scope, const Seats& seats, ReportTable& report) {
   const Statistics& stats = game.stats;
   Currency high;
   Currency low;
   Currency beginning;
   Currency current;
   Currency averages;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     const int slot = Slot(scope, seat);
     const bool first = seat == seats.front();
     high = first ? stats.BankrollHigh[slot] : std::max(high, stats.BankrollHigh[slot]);
@@ -80,9 +80,9 @@ void AddBankrolls(const Game& game, int scope, const Seats& seats, ReportTable& 
 }
 
 // What the house expects of the bets that count, by the dice in force and the decisions that there were.
-double ExpectedInForce(const Game& game, int scope, int seat) {
+double ExpectedInForce(const Game& game, ScopeId scope, SeatId seat) {
   double expected = 0;
-  game.settings.CompBetFlags.ForEach([&](int bet) {
+  game.settings.CompBetFlags.ForEach([&](BetId bet) {
     const Currency wagered = BetStat(game.stats, kWagerStats, scope, seat, bet, kStatTotal);
     if (wagered <= kZero) return;
     const bool percentageDice = game.percentage.PercentageDiceActive;
@@ -91,11 +91,11 @@ double ExpectedInForce(const Game& game, int scope, int seat) {
   return expected;
 }
 
-void AddComps(const Game& game, int scope, const Seats& seats, ReportTable& report) {
+void AddComps(const Game& game, ScopeId scope, const Seats& seats, ReportTable& report) {
   const Settings& settings = game.settings;
   Comps sum;
   double inForce = 0;
-  for (const int seat : seats) {
+  for (const SeatId seat : seats) {
     const Comps comps = FigureComps(game, scope, seat);
     sum.compAmount += comps.compAmount;
     sum.totalAction += comps.totalAction;
@@ -129,10 +129,10 @@ struct Sums {
   Currency total;
 };
 
-Sums SumsOf(const Game& game, StatTable table, int scope, const Seats& seats) {
+Sums SumsOf(const Game& game, StatTable table, ScopeId scope, const Seats& seats) {
   Sums sums;
-  for (const int seat : seats) {
-    for (int bet = 1; bet <= kBets; ++bet) {
+  for (const SeatId seat : seats) {
+    for (BetId bet = 1; bet <= kBets; ++bet) {
       sums.count += BetStat(game.stats, table, scope, seat, bet, kStatCount);
       sums.total += BetStat(game.stats, table, scope, seat, bet, kStatTotal);
     }
@@ -145,7 +145,7 @@ ReportCell NetPercent(Currency net, Currency wagers) {
   return NumberCell(100 * net.ToDouble() / wagers.ToDouble());
 }
 
-void AddBets(const Game& game, int scope, const Seats& seats, ReportTable& report) {
+void AddBets(const Game& game, ScopeId scope, const Seats& seats, ReportTable& report) {
   const Sums wagers = SumsOf(game, kWagerStats, scope, seats);
   const Sums wins = SumsOf(game, kWinStats, scope, seats);
   const Sums losses = SumsOf(game, kLossStats, scope, seats);

@@ -18,9 +18,9 @@ constexpr ReportKind kKinds[] = {
 constexpr const char* kScopeNames[kScopes] = {"Current hand", "Last hand", "Current session", "Last session",
                                               "All sessions"};
 
-std::string NamesOf(const Game& game, const std::vector<int>& seats) {
+std::string NamesOf(const Game& game, const std::vector<SeatId>& seats) {
   std::string names;
-  for (const int seat : seats) names += (names.empty() ? "" : ", ") + game.table.seats[seat].SeatName;
+  for (const SeatId seat : seats) names += (names.empty() ? "" : ", ") + game.table.seats[seat].SeatName;
   return names;
 }
 
@@ -34,11 +34,11 @@ const ReportKind* FindReport(std::string_view name) {
   return nullptr;
 }
 
-const char* ScopeName(int scope) { return kScopeNames[scope]; }
+const char* ScopeName(ScopeId scope) { return kScopeNames[scope]; }
 
-std::vector<int> SelectedPlayers(const Game& game, const ReportSelection& selection) {
-  std::vector<int> seats;
-  for (int seat = 1; seat <= kSeats; ++seat)
+std::vector<SeatId> SelectedPlayers(const Game& game, const ReportSelection& selection) {
+  std::vector<SeatId> seats;
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if ((selection.seats >> seat & 1) != 0 && IsOccupied(game.table, seat)) seats.push_back(seat);
   return seats;
 }

@@ -17,9 +17,9 @@ enum class RollGrouping { kTotals, kPairs, kCombinations, kFaces };
 
 // What a person has selected on the reports; each report reads what concerns it.
 struct ReportSelection {
-  int scope = kCurrentSession;
+  ScopeId scope = kCurrentSession;
   std::uint32_t seats = 0;      // bit i: seat i. Seats without a player count for nothing
-  int seat = 0;                 // of Bet Trends; 0 nobody
+  SeatId seat = 0;              // of Bet Trends; 0 nobody
   BetSet bets = kAllTableBets;  // of Bet Results
   bool eachBet = false;         // Bet Results: instead, a row for each player's bet
   bool percent = false;         // Hands: shares of the column's total
@@ -47,9 +47,9 @@ const ReportKind* FindReport(std::string_view name);
 // Requires a selection in range.
 ReportTable MakeReport(const Game& game, const ReportKind& kind, const ReportSelection& selection);
 
-const char* ScopeName(int scope);  // "Current hand" ...
+const char* ScopeName(ScopeId scope);  // "Current hand" ...
 // The players among the selected seats, ascending.
-std::vector<int> SelectedPlayers(const Game& game, const ReportSelection& selection);
+std::vector<SeatId> SelectedPlayers(const Game& game, const ReportSelection& selection);
 // "All players selected", "2 players selected", "No players selected", "No players present".
 std::string PlayersSelectedText(const Game& game, const ReportSelection& selection);
 

@@ -1,5 +1,6 @@
 #include "play/roll_cycle.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstring>
 
@@ -44,7 +45,7 @@ void Refuse(Game& game, const Arguments&... arguments) {
 bool BankrollsWithinLimit(Game& game) {
   const TableState& table = game.table;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     if (Abs(table.BankrollCurrent[seat]) <= kBankrollLimit) continue;
     BankrollLimitReached(game, seat);
     return false;
@@ -98,7 +99,7 @@ bool RollsWithinLimit(Game& game) {
 
 void NoteRails(TableState& table) {
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     table.seats[seat].RailAmount = table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount;
   }
 }
@@ -107,8 +108,8 @@ void NoteRails(TableState& table) {
 void TakeSnapshots(TableState& table) {
   std::memcpy(table.BankrollBeforeRoll, table.BankrollCurrent, sizeof table.BankrollBeforeRoll);
   for (; table.SeatsSinceBefore != 0; table.SeatsSinceBefore &= table.SeatsSinceBefore - 1) {
-    const int seat = std::countr_zero(table.SeatsSinceBefore);
-    table.seats[seat].TouchedSinceBefore.ForEach([&](int bet) {
+    const SeatId seat = std::countr_zero(table.SeatsSinceBefore);
+    table.seats[seat].TouchedSinceBefore.ForEach([&](BetId bet) {
       const Currency amount = table.BetAmount(seat, bet);
       table.BetBeforeRoll(seat, bet) = amount;
       table.BetCommitted(seat, bet) = amount;
@@ -116,14 +117,14 @@ void TakeSnapshots(TableState& table) {
     });
     table.seats[seat].TouchedSinceBefore.Clear();
     table.seats[seat].StacksSinceBefore.ForEach([&](int stack) {
-      const int bet = kFirstCheckStack + stack;
+      const BetId bet = kFirstCheckStack + stack;
       table.BetBeforeRoll(seat, bet) = table.BetAmount(seat, bet);
     });
     table.seats[seat].StacksSinceBefore.Clear();
   }
   if (table.AnyBetMoved) {
-    std::memset(table.ComeMovedTo, 0, sizeof table.ComeMovedTo);
-    std::memset(table.DontComeMovedTo, 0, sizeof table.DontComeMovedTo);
+    std::ranges::fill(table.ComeMovedTo, kNoBet);
+    std::ranges::fill(table.DontComeMovedTo, kNoBet);
     table.AnyBetMoved = false;
   }
   table.PointTwoRollsAgo = table.PointBeforeRoll;
@@ -289,12 +290,12 @@ void EndHand(Game& game) {
 
 void MoveWorkingStates(TableState& table) {
   const bool pointOn = table.Point != 0;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     table.seats[seat].BetWorking.byDefault = pointOn ? kAllTableBets : table.seats[seat].BetDefaultWorking;
 }
 
-void TakePlaceBetsDown(Game& game, int seat, int number) {
-  for (const int bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
+void TakePlaceBetsDown(Game& game, SeatId seat, int number) {
+  for (const BetId bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
     ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet));
 }
 
@@ -303,12 +304,12 @@ void PointChanged(Game& game) {
   MoveWorkingStates(table);
   if (table.Point == 0) return;
   for (unsigned seats = table.SeatsUp[kPassLine]; seats != 0; seats &= seats - 1) {
-    const int seat = kPayOrder[std::countr_zero(seats)];
+    const SeatId seat = kPayOrder[std::countr_zero(seats)];
     if (table.seats[seat].handling.AutoTakeOdds) TakeFullOdds(game, seat, kPassLineOdds);
     if (table.seats[seat].handling.AutoDownPlace) TakePlaceBetsDown(game, seat, table.Point);
   }
   for (unsigned seats = table.SeatsUp[kDontPass]; seats != 0; seats &= seats - 1) {
-    const int seat = kPayOrder[std::countr_zero(seats)];
+    const SeatId seat = kPayOrder[std::countr_zero(seats)];
     if (table.seats[seat].handling.AutoLayOdds) TakeFullOdds(game, seat, kDontPassOdds);
   }
 }
@@ -321,7 +322,7 @@ void RunScripts(Game& game) {
 
 void CloseRoll(TableState& table) {
   if (table.CallsTouched) {
-    for (int seat = 1; seat <= kSeats; ++seat)
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
       table.seats[seat].BetWorkingBeforeRoll = table.seats[seat].BetWorking;
     table.CallsTouched = false;
   }
@@ -330,12 +331,12 @@ void CloseRoll(TableState& table) {
 void CopyAfterRoll(TableState& table) {
   std::memcpy(table.BankrollAfterRoll, table.BankrollCurrent, sizeof table.BankrollAfterRoll);
   for (; table.SeatsSinceAfter != 0; table.SeatsSinceAfter &= table.SeatsSinceAfter - 1) {
-    const int seat = std::countr_zero(table.SeatsSinceAfter);
+    const SeatId seat = std::countr_zero(table.SeatsSinceAfter);
     table.seats[seat].TouchedSinceAfter.ForEach(
-        [&](int bet) { table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet); });
+        [&](BetId bet) { table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet); });
     table.seats[seat].TouchedSinceAfter.Clear();
     table.seats[seat].StacksSinceAfter.ForEach([&](int stack) {
-      const int bet = kFirstCheckStack + stack;
+      const BetId bet = kFirstCheckStack + stack;
       table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
     });
     table.seats[seat].StacksSinceAfter.Clear();

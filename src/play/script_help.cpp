@@ -453,7 +453,7 @@ std::string Spaced(std::string_view text) {
 
 void AddCompletions(const std::string& prefix, const ScriptSurroundings& surroundings,
                     std::vector<ScriptCompletion>& items) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const std::string& name = surroundings.seatNames[seat];
     if (!name.empty() && Lowered(name).starts_with(prefix))
       items.push_back({name, "", kPlayer, "the player at seat " + std::to_string(seat)});
@@ -534,7 +534,7 @@ std::vector<ScriptFold> ScriptFolds(const std::vector<std::string>& lines,
   return folds;
 }
 
-ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, int seat,
+ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, SeatId seat,
                               const std::vector<std::string>& lines) {
   ScriptFindings findings;
   std::vector<int> nesting;
@@ -603,7 +603,7 @@ bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& 
   return false;
 }
 
-std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
+std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, SeatId seat,
                                            const std::vector<std::string>& lines, std::size_t most) {
   std::vector<ScriptDiagnostic> faults;
   std::vector<std::string> rest = lines;

@@ -113,11 +113,11 @@ struct ScriptFindings {
   ScriptCheck check;  // diagnostic with the span of what is wrong; message "\r" between lines
   std::vector<std::string> indented;
 };
-ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, int seat,
+ScriptFindings CheckAndIndent(const ScriptSurroundings& surroundings, SeatId seat,
                               const std::vector<std::string>& lines);
 // What is wrong, the first first: behind each finding the text is looked at as if that statement were in
 // order, as far as its blocks can still be told. At most so many; none of a script that compiles.
-std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, int seat,
+std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surroundings, SeatId seat,
                                            const std::vector<std::string>& lines, std::size_t most = 10);
 // The word that a finding's offer takes the place of. False if there is no offer, or the word isn't found.
 bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word);

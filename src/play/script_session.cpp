@@ -68,7 +68,7 @@ ScriptCheck CheckBy(const std::vector<std::string>& lines, Compile&& compile) {
 
 }  // namespace
 
-ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
+ScriptCheck CheckLines(const ScriptSurroundings& surroundings, SeatId seat,
                        const std::vector<std::string>& lines, std::vector<int>* nesting) {
   return CheckBy(lines, [&](ScriptDiagnostic& diagnostic) {
     CompiledScript script;
@@ -76,7 +76,7 @@ ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
   });
 }
 
-ScriptCheck CheckScript(Game& game, int seat) {
+ScriptCheck CheckScript(Game& game, SeatId seat) {
   ScriptCheck check = CheckBy(game.autobet.Scripts[seat].ScriptLines, [&](ScriptDiagnostic& diagnostic) {
     return CompiledScriptOf(game, seat, SurroundingsOf(game), diagnostic) != nullptr;
   });
@@ -84,7 +84,7 @@ ScriptCheck CheckScript(Game& game, int seat) {
   return check;
 }
 
-void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::string& fileName) {
+void SetScript(Game& game, SeatId seat, std::vector<std::string> lines, const std::string& fileName) {
   ScriptsChanged(game);
   SeatScript& script = game.autobet.Scripts[seat];
   script.ScriptLines = std::move(lines);
@@ -98,7 +98,7 @@ void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::
     game.autobet.SessionAhead = static_cast<std::uint16_t>(game.autobet.SessionAhead | 1u << seat);
 }
 
-bool OpenScript(Game& game, int seat, const std::string& path, std::string& error) {
+bool OpenScript(Game& game, SeatId seat, const std::string& path, std::string& error) {
   std::vector<std::string> lines;
   const ScriptFileResult result = ReadScriptFile(path, lines);
   if (!result.Ok()) {
@@ -111,7 +111,7 @@ bool OpenScript(Game& game, int seat, const std::string& path, std::string& erro
   return true;
 }
 
-bool SaveScript(Game& game, int seat, const std::string& path, std::string& error) {
+bool SaveScript(Game& game, SeatId seat, const std::string& path, std::string& error) {
   SeatScript& script = game.autobet.Scripts[seat];
   const ScriptFileResult result = WriteScriptFile(path, script.ScriptLines);
   if (!result.Ok()) {
@@ -123,7 +123,7 @@ bool SaveScript(Game& game, int seat, const std::string& path, std::string& erro
   return true;
 }
 
-void SetScriptActive(Game& game, int seat, bool active) {
+void SetScriptActive(Game& game, SeatId seat, bool active) {
   AutoBet& autobet = game.autobet;
   ScriptsChanged(game);
   autobet.ScriptActive[seat] = active && IsOccupied(game.table, seat);
@@ -132,18 +132,18 @@ void SetScriptActive(Game& game, int seat, bool active) {
 }
 
 void SetAllScriptsActive(Game& game, bool active) {
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     SetScriptActive(game, seat, active && !IsEmpty(game.autobet.Scripts[seat].ScriptLines));
 }
 
 void CloseScripts(Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SetScriptActive(game, seat, false);
     SetScript(game, seat, {}, "");
   }
 }
 
-void ActivateScript(Game& game, int seat) {
+void ActivateScript(Game& game, SeatId seat) {
   if (seat == 0)
     SetAllScriptsActive(game, true);
   else
@@ -164,7 +164,7 @@ bool InitialiseScripts(Game& game) {
   return true;
 }
 
-void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool allowed) {
+void SetScriptPermission(Game& game, SeatId seat, ScriptPermission permission, bool allowed) {
   SeatScript& script = game.autobet.Scripts[seat];
   bool SeatScript::*const flags[] = {&SeatScript::AllowAct4Others, &SeatScript::AllowReset,
                                      &SeatScript::AllowActProb};
@@ -173,17 +173,17 @@ void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool
 
 namespace {
 
-std::string BetTarget(int bet) {
+std::string BetTarget(BetId bet) {
   return IsTableBet(bet) ? std::string(BetWord(bet)) : "cs" + std::to_string(bet - kFirstCheckStack);
 }
 
 }  // namespace
 
-std::string BetStatement(int bet, Currency amount) {
+std::string BetStatement(BetId bet, Currency amount) {
   return "bet " + PlainMoney(amount) + " on " + BetTarget(bet);
 }
 
-void LogBet(Game& game, int seat, int bet) {
+void LogBet(Game& game, SeatId seat, BetId bet) {
   AutoBet& autobet = game.autobet;
   if (!autobet.BetLogging || autobet.ScriptRunning) return;
   const Currency amount = game.table.BetAmount(seat, bet);
@@ -191,7 +191,7 @@ void LogBet(Game& game, int seat, int bet) {
   autobet.LoggedBetsUnsaved = true;
 }
 
-int InsertLoggedBets(Game& game, int seat, int line) {
+int InsertLoggedBets(Game& game, SeatId seat, int line) {
   AutoBet& autobet = game.autobet;
   SeatScript& script = autobet.Scripts[seat];
   const int count = static_cast<int>(autobet.LoggedBets.size());
@@ -225,7 +225,7 @@ ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::strin
   return {};
 }
 
-bool ReplaceInScript(Game& game, int seat, const std::string& text, ScriptPlace at,
+bool ReplaceInScript(Game& game, SeatId seat, const std::string& text, ScriptPlace at,
                      const std::string& replacement) {
   SeatScript& script = game.autobet.Scripts[seat];
   if (text.empty() || at.line < 1 || at.column < 0 ||
@@ -240,7 +240,7 @@ bool ReplaceInScript(Game& game, int seat, const std::string& text, ScriptPlace 
   return true;
 }
 
-int ReplaceAllInScript(Game& game, int seat, const std::string& text, const std::string& replacement) {
+int ReplaceAllInScript(Game& game, SeatId seat, const std::string& text, const std::string& replacement) {
   SeatScript& script = game.autobet.Scripts[seat];
   const std::string sought = Lowered(text);
   int count = 0;

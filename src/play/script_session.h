@@ -20,39 +20,39 @@ struct ScriptCheck {
   ScriptDiagnostic diagnostic;
 };
 
-ScriptCheck CheckLines(const ScriptSurroundings& surroundings, int seat,
+ScriptCheck CheckLines(const ScriptSurroundings& surroundings, SeatId seat,
                        const std::vector<std::string>& lines, std::vector<int>* nesting = nullptr);
 // The script of a seat; on success its nesting is kept.
-ScriptCheck CheckScript(Game& game, int seat);
+ScriptCheck CheckScript(Game& game, SeatId seat);
 
 // The lines of seat 0 to 8, with the file that they came from; empty: untitled.
-void SetScript(Game& game, int seat, std::vector<std::string> lines, const std::string& fileName);
+void SetScript(Game& game, SeatId seat, std::vector<std::string> lines, const std::string& fileName);
 // False, with the reason, when the file can't be read; the script is then unchanged.
-bool OpenScript(Game& game, int seat, const std::string& path, std::string& error);
-bool SaveScript(Game& game, int seat, const std::string& path, std::string& error);
+bool OpenScript(Game& game, SeatId seat, const std::string& path, std::string& error);
+bool SaveScript(Game& game, SeatId seat, const std::string& path, std::string& error);
 
 // Sets the flag and the master switch alone.
-void SetScriptActive(Game& game, int seat, bool active);
+void SetScriptActive(Game& game, SeatId seat, bool active);
 void SetAllScriptsActive(Game& game, bool active);
 // Closes every seat's script and clears its flag.
 void CloseScripts(Game& game);
 // With the offer to initialise; seat 0 activates all.
-void ActivateScript(Game& game, int seat);
+void ActivateScript(Game& game, SeatId seat);
 // Compiles if need be and runs the active scripts once as an initialisation. False when one is bad.
 bool InitialiseScripts(Game& game);
 
 enum class ScriptPermission { kOthers, kReset, kFiles };
-void SetScriptPermission(Game& game, int seat, ScriptPermission permission, bool allowed);
+void SetScriptPermission(Game& game, SeatId seat, ScriptPermission permission, bool allowed);
 
 // A bet made by hand as a statement: "bet 10 on passline".
-std::string BetStatement(int bet, Currency amount);
+std::string BetStatement(BetId bet, Currency amount);
 
 // --- The log of bets made by hand.
 // Notes a bet of a seat as it now stands, when logging is on: "bet 15 on field", or "remove field".
-void LogBet(Game& game, int seat, int bet);
+void LogBet(Game& game, SeatId seat, BetId bet);
 // The logged statements go into a script ahead of a line (1-based; beyond the end: behind the last), and the
 // log is empty. How many there were.
-int InsertLoggedBets(Game& game, int seat, int line);
+int InsertLoggedBets(Game& game, SeatId seat, int line);
 // Asks whether to save a log that is not saved yet. True for yes.
 bool OfferToSaveLoggedBets(Game& game);
 
@@ -64,9 +64,9 @@ struct ScriptPlace {
 // The next place of text at or behind a place; once round the end.
 ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from);
 // Replaces text at a place where it was found. False when it does not stand there.
-bool ReplaceInScript(Game& game, int seat, const std::string& text, ScriptPlace at,
+bool ReplaceInScript(Game& game, SeatId seat, const std::string& text, ScriptPlace at,
                      const std::string& replacement);
 // How many places were replaced.
-int ReplaceAllInScript(Game& game, int seat, const std::string& text, const std::string& replacement);
+int ReplaceAllInScript(Game& game, SeatId seat, const std::string& text, const std::string& replacement);
 
 }  // namespace tessaryn

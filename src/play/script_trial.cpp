@@ -29,7 +29,7 @@ struct TrialHost : Host {
   std::int64_t before = 0;
   std::int64_t target = 0;
   std::int64_t every = 1;  // rolls between two points of the curve
-  int seat = 0;
+  SeatId seat = 0;
   TrialResult* result = nullptr;
   std::string said;  // the last box
 
@@ -95,10 +95,10 @@ struct ScriptTrial::Parts {
   WorkFolder folder;
   TrialHost host;
   std::unique_ptr<Game> game;
-  int seat = 0;
+  SeatId seat = 0;
 };
 
-ScriptTrial::ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines,
+ScriptTrial::ScriptTrial(const Game& game, SeatId seat, const std::vector<std::string>& lines,
                          std::uint32_t seed)
     : parts_(std::make_unique<Parts>()) {
   parts_->seat = parts_->host.seat = seat;
@@ -124,12 +124,12 @@ struct Before {
   Currency wagers[kBets + 1];
 };
 
-Before FiguresOf(const Game& game, int seat) {
+Before FiguresOf(const Game& game, SeatId seat) {
   Before now{};
-  const auto stat = [&](StatTable table, int bet, StatKind kind) {
+  const auto stat = [&](StatTable table, BetId bet, StatKind kind) {
     return BetStat(game.stats, table, kAllSessions, seat, bet, kind);
   };
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     now.won[bet] = stat(kWinStats, bet, kStatCount).raw / Currency::kPerDollar;
     now.lost[bet] = stat(kLossStats, bet, kStatCount).raw / Currency::kPerDollar;
     now.wins[bet] = stat(kWinStats, bet, kStatTotal);
@@ -142,7 +142,7 @@ Before FiguresOf(const Game& game, int seat) {
 Currency Size(Currency amount) { return amount < kZero ? -amount : amount; }
 
 void TellBets(const Before& before, const Before& now, TrialResult& result) {
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     TrialBet row{bet, now.won[bet] - before.won[bet], now.lost[bet] - before.lost[bet],
                  now.wagers[bet] - before.wagers[bet], kZero};
     row.net = now.wins[bet] - before.wins[bet] - Size(now.losses[bet] - before.losses[bet]);
@@ -192,7 +192,7 @@ namespace {
 
 constexpr int kWorkStack = kCheckStacks - 1;
 
-bool RunLine(Game& game, int seat, const std::string& line) {
+bool RunLine(Game& game, SeatId seat, const std::string& line) {
   CompiledScript script;
   ScriptDiagnostic diagnostic;
   if (!CompileAutobets(seat, {line}, SurroundingsOf(game), script, diagnostic)) return false;
@@ -204,8 +204,8 @@ bool RunLine(Game& game, int seat, const std::string& line) {
 }
 
 // Written to the last CheckStack of the copy, which is set back for the next one.
-std::string ValueOf(Game& game, int seat, const std::string& expression) {
-  const int bet = kFirstCheckStack + kWorkStack;
+std::string ValueOf(Game& game, SeatId seat, const std::string& expression) {
+  const BetId bet = kFirstCheckStack + kWorkStack;
   const Currency amount = game.table.BetAmount(seat, bet);
   const std::string name = game.table.seats[seat].CheckStackName[kWorkStack];
   const std::string stack = std::to_string(kWorkStack) + " = (" + expression + ")";
@@ -222,13 +222,13 @@ std::string ValueOf(Game& game, int seat, const std::string& expression) {
 
 }  // namespace
 
-std::vector<std::string> PresentValues(const Game& game, int seat,
+std::vector<std::string> PresentValues(const Game& game, SeatId seat,
                                        const std::vector<std::string>& expressions) {
   std::vector<std::string> values(expressions.size());
   if (expressions.empty() || !IsOccupied(game.table, seat)) return values;
   TrialHost host;
   const std::unique_ptr<Game> copy = CopyApart(game, host, {});
-  for (int other = 0; other < kSeatRows; ++other) copy->autobet.ScriptActive[other] = false;
+  for (SeatId other = 0; other < kSeatRows; ++other) copy->autobet.ScriptActive[other] = false;
   SetScriptActive(*copy, seat, true);
   for (std::size_t n = 0; n < expressions.size(); ++n) {
     // Nothing but an expression: no second statement, no comment that swallows the bracket.
@@ -275,7 +275,7 @@ bool FindCondition(const std::vector<ScriptSpan>& spans, const std::string& line
 
 }  // namespace
 
-std::string ConditionValues(const Game& game, int seat, const std::string& line) {
+std::string ConditionValues(const Game& game, SeatId seat, const std::string& line) {
   const std::vector<ScriptSpan> spans = SpansOf(line, SurroundingsOf(game));
   std::size_t at = 0, end = 0;
   if (!FindCondition(spans, line, at, end)) return {};

@@ -25,7 +25,7 @@ struct TrialProgress {
 
 // What the seat's bets of one kind came to in the trial alone.
 struct TrialBet {
-  int bet = 0;
+  BetId bet = 0;
   std::int64_t won = 0;
   std::int64_t lost = 0;
   Currency wagered;
@@ -52,7 +52,7 @@ class ScriptTrial {
   // Of the lines as the script of an occupied seat, active; other scripts are as they are at the table. seed
   // 0: the copy's dice go on as the table's would; else they begin at it. Whoever shoots needs no bet for it,
   // so that players who only stand there don't end the trial.
-  ScriptTrial(const Game& game, int seat, const std::vector<std::string>& lines, std::uint32_t seed);
+  ScriptTrial(const Game& game, SeatId seat, const std::vector<std::string>& lines, std::uint32_t seed);
   ~ScriptTrial();
   ScriptTrial(const ScriptTrial&) = delete;
   ScriptTrial& operator=(const ScriptTrial&) = delete;
@@ -68,11 +68,11 @@ class ScriptTrial {
 
 // What expressions of the language are worth to a seat as the table stands, as texts; empty for one that
 // can't be told. The table is not touched.
-std::vector<std::string> PresentValues(const Game& game, int seat,
+std::vector<std::string> PresentValues(const Game& game, SeatId seat,
                                        const std::vector<std::string>& expressions);
 
 // What the variables and functions in the condition of a line are worth now: "passline 0, max(cs1, cs2) 12".
 // Empty for a line without a condition.
-std::string ConditionValues(const Game& game, int seat, const std::string& line);
+std::string ConditionValues(const Game& game, SeatId seat, const std::string& line);
 
 }  // namespace tessaryn

@@ -16,7 +16,7 @@ SessionLuck* LuckKeptBy(const Game& game) {
 void BeginCounting(SessionLuck& luck, const Game& game) {
   luck.session = game.stats.ThrowsBeforeSession;
   luck.upTo = Throws(game.stats);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     luck.missed[seat] = PlayerRolls(game.stats, kCurrentSession, seat);
     luck.missedUpTo[seat] = luck.upTo;
   }
@@ -26,7 +26,8 @@ void BeginCounting(SessionLuck& luck, const Game& game) {
 // Behind rolls that nobody wanted counted. Bets have come and gone unseen meanwhile: that is no shift between
 // two rolls.
 void ResumeCounting(SessionLuck& luck, const Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) luck.missed[seat] += Throws(game.stats) - luck.missedUpTo[seat];
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    luck.missed[seat] += Throws(game.stats) - luck.missedUpTo[seat];
   LuckResume(luck.meter, game);
 }
 
@@ -58,7 +59,7 @@ void RestartLuck(Game& game) {
   if (SessionLuck* const luck = WatchedLuck(game); luck != nullptr) BeginCounting(*luck, game);
 }
 
-void ClearSeatLuck(Game& game, int seat) {
+void ClearSeatLuck(Game& game, SeatId seat) {
   SessionLuck* const luck = WatchedLuck(game);
   if (luck == nullptr) return;
   luck->meter.seats[seat] = {};
@@ -88,7 +89,7 @@ void LuckRollFell(SessionLuck& luck, const Game& game) {
   StandUpTo(luck, Throws(game.stats));
 }
 
-SessionLuckFigures SessionLuckOf(const Game& game, int seat) {
+SessionLuckFigures SessionLuckOf(const Game& game, SeatId seat) {
   SessionLuckFigures figures;
   const SessionLuck* const luck = WatchedLuck(game);
   if (luck == nullptr || SessionRolls(game.stats) == 0) return figures;

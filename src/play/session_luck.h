@@ -39,7 +39,7 @@ SessionLuck* WatchedLuck(const Game& game);
 // Another game lies on the table.
 void RestartLuck(Game& game);
 // A player has come or gone; two seats have changed their players.
-void ClearSeatLuck(Game& game, int seat);
+void ClearSeatLuck(Game& game, SeatId seat);
 void SwapSeatLuck(Game& game, int a, int b);
 
 // --- For the roll cycle.
@@ -60,6 +60,6 @@ struct SessionLuckFigures {
   std::int64_t counted = 0;  // rolls with bets up
   std::int64_t missed = 0;   // rolls that nobody wanted counted
 };
-SessionLuckFigures SessionLuckOf(const Game& game, int seat);
+SessionLuckFigures SessionLuckOf(const Game& game, SeatId seat);
 
 }  // namespace tessaryn

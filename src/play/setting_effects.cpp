@@ -18,10 +18,10 @@ namespace {
 
 // BetUnit follows from the rest.
 template <typename T>
-bool Same(const T& a, const T& b) {
+bool SameValue(const T& a, const T& b) {
   return a == b;
 }
-bool Same(const PayoffRecord& a, const PayoffRecord& b) {
+bool SameValue(const PayoffRecord& a, const PayoffRecord& b) {
   return a.PayTo == b.PayTo && a.ForFlag == b.ForFlag && a.PayPer == b.PayPer;
 }
 
@@ -50,14 +50,14 @@ static_assert(NeedOnly({Msg::kAskRemoveBig68, Msg::kAskRemoveFire, Msg::kAskRemo
 
 std::string NamesUp(const Game& game, const BetSet& bets) {
   std::string names;
-  (game.table.AnyBets & bets).ForEach([&names](int bet) {
+  (game.table.AnyBets & bets).ForEach([&names](BetId bet) {
     names += (names.empty() ? "" : ", ") + BetName(bet);
   });
   return names;
 }
 
 bool SevenPoint7Rides(const Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (game.table.BetAmount(seat, kSevenPoint7) > kZero &&
         game.table.BetCommitted(seat, kSevenPoint7) > kZero)
       return true;
@@ -81,7 +81,7 @@ bool MaySwitchOff(Game& game, const Family& family, std::string& error) {
 void TakeFamilyDown(Game& game, const Family& family) {
   const BetSet bets = BetsOfferedBy(family.offered);
   if (AnySeatHas(game, bets))
-    for (int seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
+    for (SeatId seat = 1; seat <= kSeats; ++seat) TakeDownBets(game, seat, bets);
   if (family.offered != &Settings::SmallTallEnabled) return;
   // What was counted for these bets says nothing to those of a table that offers them again.
   game.table.NumberMarks = 0;
@@ -110,9 +110,9 @@ bool SwitchFamiliesOff(Game& game, const Settings& before, std::string& error) {
 bool VigCovered(Game& game, std::string& error) {
   int short_ = 0;
   bool lay = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     Currency onTable;
-    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
+    game.table.seats[seat].SeatBets.ForEach([&](BetId bet) {
       const Currency amount = game.table.BetAmount(seat, bet);
       onTable += amount;
       if (VigUpFront(game, bet)) {
@@ -171,7 +171,7 @@ std::vector<SettingPlace> ChangesSince(Game& game, const KeptSettings& kept) {
   std::vector<SettingPlace> changes;
   std::size_t i = 0;
   ForEachSettingPlace(game, [&]<typename T>(const SettingPlace& place, const T& value) {
-    if (!Same(value, std::get<Value<T>>(kept.values[i++]).value)) changes.push_back(place);
+    if (!SameValue(value, std::get<Value<T>>(kept.values[i++]).value)) changes.push_back(place);
   });
   return changes;
 }
@@ -193,7 +193,7 @@ bool SettingsHold(Game& game, const KeptSettings& before, std::string& error) {
   for (const SettingPlace& place : ChangesSince(game, before)) {
     if (!OneOfThose(*place.row, game, error)) return false;
     if (place.row->facts.effect != Effect::kNegativeAllowed) continue;
-    const int seat = place.seat.value;
+    const SeatId seat = place.seat.value;
     if (game.table.seats[seat].AllowNegativeBankroll || game.table.BankrollCurrent[seat] >= kZero) continue;
     error = MessageText<Msg::kBankrollIsNegative>(With<"player">(game.table.seats[seat].SeatName));
     return false;
@@ -229,7 +229,7 @@ void OfferHouseStandard(Game& game) {
   TableState& table = game.table;
   if (table.OccupiedSeats == 0) return;
   if (!Confirms<Msg::kAskMatchHouse>(game)) return;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat) &&
         Confirms<Msg::kAskMatchHouseOf>(game, With<"player">(table.seats[seat].SeatName)))
       table.seats[seat].BetDefaultWorking = table.seats[0].BetDefaultWorking;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "base/letters.h"
 #include "base/bet_catalogue.h"
 #include "base/messages.h"
 #include "play/setting_effects.h"
@@ -17,7 +18,7 @@ namespace {
 struct StateRow {
   const char* name;
   bool bySeat;
-  std::string (*text)(const Game&, int seat);
+  std::string (*text)(const Game&, SeatId seat);
 };
 
 template <typename T>
@@ -26,33 +27,33 @@ std::string Whole(T value) {
 }
 
 constexpr StateRow kStateRows[] = {
-    {"Point", false, [](const Game& game, int) { return Whole(game.table.Point); }},
-    {"LastPoint", false, [](const Game& game, int) { return Whole(game.table.LastPoint); }},
-    {"Die1", false, [](const Game& game, int) { return Whole(game.table.Die1); }},
-    {"Die2", false, [](const Game& game, int) { return Whole(game.table.Die2); }},
-    {"RollTotal", false, [](const Game& game, int) { return Whole(game.table.RollTotal); }},
-    {"ShooterSeat", false, [](const Game& game, int) { return Whole(game.table.ShooterSeat); }},
-    {"HandSeat", false, [](const Game& game, int) { return Whole(game.table.HandSeat); }},
-    {"SelectedSeat", false, [](const Game& game, int) { return Whole(game.table.SelectedSeat); }},
-    {"OccupiedSeats", false, [](const Game& game, int) { return Whole(game.table.OccupiedSeats); }},
-    {"NumberMarks", false, [](const Game& game, int) { return Whole(game.table.NumberMarks); }},
-    {"FourRollCount", false, [](const Game& game, int) { return Whole(game.table.FourRollCount); }},
-    {"FireMarks", false, [](const Game& game, int) { return Whole(game.table.FireMarks); }},
-    {"FireCount", false, [](const Game& game, int) { return Whole(game.table.FireCount); }},
-    {"SharpShooterCount", false, [](const Game& game, int) { return Whole(game.table.SharpShooterCount); }},
-    {"RideTheLineCount", false, [](const Game& game, int) { return Whole(game.table.RideTheLineCount); }},
-    {"RngLastSeed", false, [](const Game& game, int) { return Whole(game.generators.RngLastSeed); }},
-    {"StopReason", false, [](const Game& game, int) { return game.table.StopReason; }},
-    {"RecorderState", false, [](const Game& game, int) { return Whole(game.rollFile.RecorderState); }},
-    {"RollFileName", false, [](const Game& game, int) { return game.rollFile.RollFileName; }},
-    {"RollFileCursor", false, [](const Game& game, int) { return Whole(game.rollFile.RollFileCursor); }},
-    {"SeatName", true, [](const Game& game, int seat) { return game.table.seats[seat].SeatName; }},
+    {"Point", false, [](const Game& game, SeatId) { return Whole(game.table.Point); }},
+    {"LastPoint", false, [](const Game& game, SeatId) { return Whole(game.table.LastPoint); }},
+    {"Die1", false, [](const Game& game, SeatId) { return Whole(game.table.Die1); }},
+    {"Die2", false, [](const Game& game, SeatId) { return Whole(game.table.Die2); }},
+    {"RollTotal", false, [](const Game& game, SeatId) { return Whole(game.table.RollTotal); }},
+    {"ShooterSeat", false, [](const Game& game, SeatId) { return Whole(game.table.ShooterSeat); }},
+    {"HandSeat", false, [](const Game& game, SeatId) { return Whole(game.table.HandSeat); }},
+    {"SelectedSeat", false, [](const Game& game, SeatId) { return Whole(game.table.SelectedSeat); }},
+    {"OccupiedSeats", false, [](const Game& game, SeatId) { return Whole(game.table.OccupiedSeats); }},
+    {"NumberMarks", false, [](const Game& game, SeatId) { return Whole(game.table.NumberMarks); }},
+    {"FourRollCount", false, [](const Game& game, SeatId) { return Whole(game.table.FourRollCount); }},
+    {"FireMarks", false, [](const Game& game, SeatId) { return Whole(game.table.FireMarks); }},
+    {"FireCount", false, [](const Game& game, SeatId) { return Whole(game.table.FireCount); }},
+    {"SharpShooterCount", false, [](const Game& game, SeatId) { return Whole(game.table.SharpShooterCount); }},
+    {"RideTheLineCount", false, [](const Game& game, SeatId) { return Whole(game.table.RideTheLineCount); }},
+    {"RngLastSeed", false, [](const Game& game, SeatId) { return Whole(game.generators.RngLastSeed); }},
+    {"StopReason", false, [](const Game& game, SeatId) { return game.table.StopReason; }},
+    {"RecorderState", false, [](const Game& game, SeatId) { return Whole(game.rollFile.RecorderState); }},
+    {"RollFileName", false, [](const Game& game, SeatId) { return game.rollFile.RollFileName; }},
+    {"RollFileCursor", false, [](const Game& game, SeatId) { return Whole(game.rollFile.RollFileCursor); }},
+    {"SeatName", true, [](const Game& game, SeatId seat) { return game.table.seats[seat].SeatName; }},
     {"BankrollCurrent", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.BankrollCurrent[seat]); }},
     {"OnTableAmount", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].OnTableAmount); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.seats[seat].OnTableAmount); }},
     {"RailAmount", true,
-     [](const Game& game, int seat) { return PlainMoney(game.table.seats[seat].RailAmount); }},
+     [](const Game& game, SeatId seat) { return PlainMoney(game.table.seats[seat].RailAmount); }},
 };
 
 // --- Names.
@@ -76,15 +77,15 @@ int IndexOf(const SettingRow& row, std::string_view text) {
   int index = -1;
   const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), index);
   const bool whole = fault == std::errc() && end == text.data() + text.size();
-  return whole || !row.byBets ? index : BetByName(text);
+  return whole || !row.byBets ? index : BetByName(text).value;
 }
 
 Meaning MeaningOf(std::string_view name) {
   for (const StateRow& state : kStateRows)
-    if (SameWord(state.name, name)) return {nullptr, 0, &state};
+    if (SameLetters(state.name, name)) return {nullptr, 0, &state};
   const auto dot = name.rfind('.');
   for (const SettingRow& row : SettingRows()) {
-    if (!SameWord(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
+    if (!SameLetters(row.name, row.inRows ? name.substr(0, dot) : name)) continue;
     const int index = !row.inRows                     ? 0
                       : dot == std::string_view::npos ? -1
                                                       : IndexOf(row, name.substr(dot + 1));
@@ -96,19 +97,19 @@ Meaning MeaningOf(std::string_view name) {
 
 bool HasMeaning(const Meaning& meaning, std::string_view name, std::string& error) {
   if (meaning.row != nullptr || meaning.state != nullptr) return true;
-  error = "There is no setting named \"" + std::string(name) + "\".";
+  error = MessageText<Msg::kNoSuchSetting>(With<"setting">(name));
   return false;
 }
 
-bool IsSeatNumber(int seat, std::string& error) {
+bool IsSeatNumber(SeatId seat, std::string& error) {
   if (seat >= 0 && seat <= kSeats) return true;
   error = MessageText<Msg::kNoSuchSeat>(With<"seat">(seat));
   return false;
 }
 
-bool BelongsToSeat(const Meaning& meaning, std::string_view name, int seat, std::string& error) {
+bool BelongsToSeat(const Meaning& meaning, std::string_view name, SeatId seat, std::string& error) {
   if (meaning.BySeat() || seat == 0) return true;
-  error = std::string(name) + " is the table's, not a seat's.";
+  error = MessageText<Msg::kSettingOfTable>(With<"setting">(name));
   return false;
 }
 
@@ -127,7 +128,7 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
   const Meaning meaning = MeaningOf(name);
   if (!IsSeatNumber(change.seat, error) || !HasMeaning(meaning, name, error)) return false;
   if (meaning.state != nullptr) {
-    error = std::string(meaning.state->name) + " can only be read.";
+    error = MessageText<Msg::kSettingReadOnly>(With<"setting">(meaning.state->name));
     return false;
   }
   if (!BelongsToSeat(meaning, name, change.seat, error)) return false;
@@ -136,9 +137,9 @@ bool Put(Game& game, const SettingChange& change, std::string& error) {
     return false;
   }
   const bool everyPlayer = meaning.row->keeper == Keeper::kPlayer && change.seat == 0;
-  if (!everyPlayer) return PutAt(game, meaning, SeatId(change.seat), text, error);
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(game.table, seat) && !PutAt(game, meaning, SeatId(seat), text, error)) return false;
+  if (!everyPlayer) return PutAt(game, meaning, change.seat, text, error);
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(game.table, seat) && !PutAt(game, meaning, seat, text, error)) return false;
   return true;
 }
 
@@ -236,18 +237,19 @@ bool IsSeatSetting(std::string_view name) {
   return meaning.row != nullptr && meaning.row->keeper == Keeper::kPlayer;
 }
 
-bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error) {
+bool SetSetting(Game& game, std::string_view name, SeatId seat, std::string_view value, std::string& error) {
   return SetSettings(game, {{std::string(name), seat, std::string(value)}}, error);
 }
 
-bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error) {
+bool GetSetting(const Game& game, std::string_view name, SeatId seat, std::string& value,
+                std::string& error) {
   const std::string trimmed = Trimmed(name);
   const Meaning meaning = MeaningOf(trimmed);
   if (!HasMeaning(meaning, trimmed, error) || !IsSeatNumber(seat, error) ||
       !BelongsToSeat(meaning, trimmed, seat, error))
     return false;
   value = meaning.state != nullptr ? meaning.state->text(game, seat)
-                                   : SettingText(game, *meaning.row, SeatId(seat), meaning.index);
+                                   : SettingText(game, *meaning.row, seat, meaning.index);
   return true;
 }
 

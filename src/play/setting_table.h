@@ -15,11 +15,11 @@ struct Game;
 // Sets NAME to the text. seat 0: the table's setting, or every occupied seat for one that is kept by seat;
 // seat 1 to 8: that seat's. Asks the questions that a change brings (bets that would come down). On failure
 // returns false with the reason, and nothing is changed.
-bool SetSetting(Game& game, std::string_view name, int seat, std::string_view value, std::string& error);
+bool SetSetting(Game& game, std::string_view name, SeatId seat, std::string_view value, std::string& error);
 // Several at once, checked together at the end: for settings that depend on each other.
 struct SettingChange {
   std::string name;
-  int seat = 0;
+  SeatId seat = 0;
   std::string value;
 };
 // A new house standard of bets that work on the come-out is offered to the players, unless the caller does
@@ -50,7 +50,7 @@ bool IsSeatSetting(std::string_view name);
 // NAME@SEAT.
 std::vector<std::string> ClampSettings(Game& game);
 // The value as text. False with the reason for an unknown name.
-bool GetSetting(const Game& game, std::string_view name, int seat, std::string& value, std::string& error);
+bool GetSetting(const Game& game, std::string_view name, SeatId seat, std::string& value, std::string& error);
 // All names in their order; bySeat tells those that are kept for each seat.
 struct SettingName {
   std::string name;

@@ -1,10 +1,11 @@
 #include "play/setting_values.h"
 
 #include <algorithm>
-#include <cctype>
 #include <optional>
 #include <string_view>
 
+#include "base/letters.h"
+#include "base/messages.h"
 #include "rules/payoffs.h"
 #include "state/game.h"
 
@@ -19,11 +20,12 @@ bool ReadNumber(const std::string& name, const std::string& text, Limits<Currenc
                 std::string& error) {
   Currency read;
   if (!TryParseMoney(text, read)) {
-    error = name + ": \"" + text + "\" is no number.";
+    error = MessageText<Msg::kSettingNoNumber>(With<"setting">(name), With<"value">(text));
     return false;
   }
   if (!limits.Hold(read)) {
-    error = name + " must be from " + FormatMoney(limits.least) + " to " + FormatMoney(limits.most) + ".";
+    error = MessageText<Msg::kSettingOutOfRange>(With<"setting">(name), With<"least">(limits.least),
+                                                 With<"most">(limits.most));
     return false;
   }
   number = read;
@@ -32,11 +34,11 @@ bool ReadNumber(const std::string& name, const std::string& text, Limits<Currenc
 
 bool ReadFlag(const std::string& name, const std::string& text, bool& value, std::string& error) {
   const auto isOneOf = [&text](std::initializer_list<const char*> words) {
-    return std::any_of(words.begin(), words.end(), [&](const char* word) { return SameWord(text, word); });
+    return std::any_of(words.begin(), words.end(), [&](const char* word) { return SameLetters(text, word); });
   };
   const bool on = isOneOf({"on", "yes", "true", "-1", "1"});
   if (!on && !isOneOf({"off", "no", "false", "0"})) {
-    error = name + ": \"" + text + "\" is neither on nor off.";
+    error = MessageText<Msg::kSettingNoFlag>(With<"setting">(name), With<"value">(text));
     return false;
   }
   value = on;
@@ -80,7 +82,7 @@ bool Read(const Cell<int>& cell, const std::string& name, const std::string& tex
   const Limits<Currency> limits{Currency::Dollars(cell.limits.least), Currency::Dollars(cell.limits.most)};
   if (!ReadNumber(name, text, limits, number, error)) return false;
   if (!number.IsWhole()) {
-    error = name + " must be a whole number.";
+    error = MessageText<Msg::kSettingNotWhole>(With<"setting">(name));
     return false;
   }
   value = static_cast<int>(number.raw / Currency::kPerDollar);
@@ -100,8 +102,9 @@ bool Read(const Cell<std::int64_t>& cell, const std::string& name, const std::st
 bool Read(const Cell<FieldPresetId>&, const std::string& name, const std::string& text, FieldPresetId& value,
           std::string& error) {
   const int preset = FieldPresetByName(text);
-  if (preset < 0 && !SameWord(text, kOwnPreset)) {
-    error = name + ": there is no preset \"" + text + "\"; there are " + FieldPresetNames() + ".";
+  if (preset < 0 && !SameLetters(text, kOwnPreset)) {
+    error = MessageText<Msg::kSettingNoPreset>(With<"setting">(name), With<"value">(text),
+                                               With<"presets">(FieldPresetNames()));
     return false;
   }
   value = static_cast<FieldPresetId>(preset);
@@ -111,7 +114,7 @@ bool Read(const Cell<FieldPresetId>&, const std::string& name, const std::string
 bool Read(const Cell<PayoffRecord>&, const std::string& name, const std::string& text, PayoffRecord& value,
           std::string& error) {
   if (ParsePayoff(text, value)) return true;
-  error = name + ": \"" + text + "\" is no payoff such as \"7 to 5\".";
+  error = MessageText<Msg::kSettingNoPayoff>(With<"setting">(name), With<"value">(text));
   return false;
 }
 
@@ -170,12 +173,6 @@ PayoffRecord OriginalPayoff(Game& game, const Cell<PayoffRecord>& cell, const Se
 }
 
 }  // namespace
-
-bool SameWord(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
-    return std::tolower(static_cast<unsigned char>(x)) == std::tolower(static_cast<unsigned char>(y));
-  });
-}
 
 std::string SettingFullName(const SettingRow& row, int index) {
   return row.inRows ? std::string(row.name) + "." + std::to_string(index) : row.name;

@@ -22,8 +22,6 @@ bool ReadSettingText(Game& game, const SettingRow& row, SeatId seat, int index, 
                      std::string& error);
 std::string SettingText(const Game& game, const SettingRow& row, SeatId seat, int index);
 
-// Names and words of settings are read in either case.
-bool SameWord(std::string_view a, std::string_view b);
 // The name as it was asked for: NAME or NAME.ROW.
 std::string SettingFullName(const SettingRow& row, int index);
 

@@ -16,8 +16,8 @@ std::string_view Trim(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-bool ReadSeat(std::string_view text, int& seat) {
-  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), seat);
+bool ReadSeat(std::string_view text, SeatId& seat) {
+  const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), seat.value);
   return fault == std::errc() && end == text.data() + text.size() && !text.empty();
 }
 
@@ -45,20 +45,20 @@ LineKind ParseSettingLine(std::string_view text, SettingChange& change, std::str
   if (line.empty()) return LineKind::kBlank;
   const auto equals = line.find('=');
   if (equals == std::string_view::npos) {
-    error = "expected NAME = VALUE, found \"" + std::string(CutText(line, 60)) + "\"";
+    error = MessageText<Msg::kSettingLineBad>(With<"found">(CutText(line, 60)));
     return LineKind::kBad;
   }
   std::string_view name = Trim(line.substr(0, equals));
   SettingChange read;
   if (const auto at = name.find('@'); at != std::string_view::npos) {
     if (!ReadSeat(Trim(name.substr(at + 1)), read.seat)) {
-      error = "expected a seat after @, found \"" + std::string(CutText(name.substr(at + 1), 60)) + "\"";
+      error = MessageText<Msg::kSettingSeatBad>(With<"found">(CutText(name.substr(at + 1), 60)));
       return LineKind::kBad;
     }
     name = Trim(name.substr(0, at));
   }
   if (name.empty()) {
-    error = "expected NAME = VALUE, found no name";
+    error = MessageText<Msg::kSettingLineNameless>();
     return LineKind::kBad;
   }
   read.name = name;

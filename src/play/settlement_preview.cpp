@@ -34,7 +34,7 @@ struct ThrownTable::Parts {
 
 bool MayAskAboutBets(const Game& game) {
   if (game.table.TurboRollActive) return false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const SeatState& state = game.table.seats[seat];
     const bool byHand = state.handling.WinHandling == 0 || state.handling.LoseHandling == 0;
     if (byHand && !state.SeatBets.Empty() && !game.autobet.ScriptActive[seat]) return true;

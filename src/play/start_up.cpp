@@ -28,7 +28,7 @@ std::unique_ptr<Game> StartGame(Host& host, const std::string& applicationFolder
   StartGenerators(game->generators, host.TickMilliseconds());
   ResetPayoffs(game->payoffs, game->settings.Unit());
   table.seats[0].BetDefaultWorking = kHouseWorkingBets;
-  for (int seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) ClearSeat(*game, seat);
   return game;
 }
 

@@ -21,7 +21,7 @@ std::string CloseRecording(RollFile& file) {
   return fault.empty() ? problem : fault;
 }
 
-std::string FinishScriptOutput(Game& game, int seat) {
+std::string FinishScriptOutput(Game& game, SeatId seat) {
   std::FILE* file = game.autobet.Scripts[seat].Output.File;
   if (file == nullptr) return "";
   errno = 0;
@@ -57,7 +57,7 @@ std::string EndGame(Game& game) {
   };
   note(CloseRecording(game.rollFile));
   note(CloseSessionsLogs(game));
-  for (int seat = 1; seat <= kSeats; ++seat) note(FinishScriptOutput(game, seat));
+  for (SeatId seat = 1; seat <= kSeats; ++seat) note(FinishScriptOutput(game, seat));
   return problem;
 }
 

@@ -42,7 +42,7 @@ struct Results {
 
 // --- Bets that stand by themselves.
 
-Outcome StandingOutcome(const Case& c, int bet) {
+Outcome StandingOutcome(const Case& c, BetId bet) {
   Results results;
   for (int die1 = 1; die1 <= 6; ++die1)
     for (int die2 = 1; die2 <= 6; ++die2)
@@ -99,7 +99,7 @@ Outcome LineOdds(const Case& c, bool pass) {
 // --- Marks and counts.
 
 // All of the numbers before a seven: over the sets of numbers marked, from all of them backwards.
-Outcome AllMarked(const Case& c, int bet, std::span<const int> numbers) {
+Outcome AllMarked(const Case& c, BetId bet, std::span<const int> numbers) {
   struct State {
     double win = 0;
     double rolls = 0;
@@ -242,7 +242,7 @@ constexpr int kSmall[] = {2, 3, 4, 5, 6};
 constexpr int kTall[] = {8, 9, 10, 11, 12};
 constexpr int kEvery[] = {2, 3, 4, 5, 6, 8, 9, 10, 11, 12};
 
-Outcome SpecialOutcome(const Case& c, int bet) {
+Outcome SpecialOutcome(const Case& c, BetId bet) {
   switch (bet) {
     case kAllSmall:
       return AllMarked(c, bet, kSmall);
@@ -271,13 +271,13 @@ Outcome ComeOutOutcome(const Case& c, bool pass) {
   return results.Decision(1);
 }
 
-Outcome TableOutcome(const Case& c, int bet) {
+Outcome TableOutcome(const Case& c, BetId bet) {
   if (IsLineOdds(bet)) return LineOdds(c, bet == kPassLineOdds);
   if (IsLineFamily(bet)) return Line(c, bet == kPassLine || bet == kCome);
   return StandingOutcome(c, bet);
 }
 
-Outcome OutcomeOf(const Game& game, const DiceOdds& odds, int bet) {
+Outcome OutcomeOf(const Game& game, const DiceOdds& odds, BetId bet) {
   const bool passComeOut = bet == kPassComeOutRow;
   if (passComeOut || bet == kDontComeOutRow) return ComeOutOutcome({game, odds}, passComeOut);
   if (!IsTableBet(bet)) return {};
@@ -291,7 +291,7 @@ double Rounded(double value, double places) {
   return scaled == 0 ? 0 : scaled;  // no minus zero
 }
 
-Advantage Figures(const Game& game, const DiceOdds& odds, int bet, bool includeZeroOutcomes) {
+Advantage Figures(const Game& game, const DiceOdds& odds, BetId bet, bool includeZeroOutcomes) {
   const Outcome outcome = OutcomeOf(game, odds, bet);
   Advantage result;
   if (!(outcome.rolls > 0)) return result;
@@ -316,7 +316,7 @@ Advantage Figures(const Game& game, const DiceOdds& odds, int bet, bool includeZ
 }
 
 struct RowFamily {
-  int firstBet;
+  BetId firstBet;
   const char* prefix;
   const char* suffix;
 };
@@ -326,7 +326,7 @@ constexpr RowFamily kRowFamilies[] = {{kCome4, "Pass/Come ", ""},
                                       {kDontComeOdds4, "DP/DC ", " Odds"}};
 
 struct NamedRow {
-  int bet;
+  BetId bet;
   const char* caption;
 };
 constexpr NamedRow kLineRows[] = {{kPassLine, "Passline/Come"},
@@ -338,29 +338,29 @@ constexpr NamedRow kLineRows[] = {{kPassLine, "Passline/Come"},
 
 }  // namespace
 
-Advantage FigureAdvantage(const Game& game, int bet) {
+Advantage FigureAdvantage(const Game& game, BetId bet) {
   return FigureAdvantage(game, bet, game.percentage.PercentageDiceActive);
 }
 
-Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice) {
+Advantage FigureAdvantage(const Game& game, BetId bet, bool usePercentageDice) {
   return FigureAdvantage(game, bet, usePercentageDice, game.settings.IncludeZeroOutcomes);
 }
 
-Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes) {
+Advantage FigureAdvantage(const Game& game, BetId bet, bool usePercentageDice, bool includeZeroOutcomes) {
   return Figures(game, OddsInForce(game, usePercentageDice), bet, includeZeroOutcomes);
 }
 
 std::vector<AdvantageRow> AdvantageTable(const Game& game) {
   const DiceOdds odds = OddsInForce(game, game.percentage.PercentageDiceActive);
   std::vector<AdvantageRow> rows;
-  const auto add = [&](int bet, const std::string& caption) {
+  const auto add = [&](BetId bet, const std::string& caption) {
     rows.push_back({bet, caption, Figures(game, odds, bet, game.settings.IncludeZeroOutcomes)});
   };
   for (const RowFamily& family : kRowFamilies)
     for (int i = 0; i < 6; ++i)
       add(family.firstBet + i, family.prefix + std::to_string(kBoxNumbers[i]) + family.suffix);
   for (const NamedRow& row : kLineRows) add(row.bet, row.caption);
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const bool listed = (bet >= kDontCome4 && bet < kPlace4) || (bet >= kPassLine && bet <= kDontCome);
     if (!listed) add(bet, BetName(bet));
   }

@@ -26,14 +26,14 @@ inline constexpr int kDontComeOutRow = 102;
 
 // The figures, rounded as they are shown: six decimals, rolls to two. All 0 for a bet that the dice in
 // force can never decide, and for a number that is no bet.
-Advantage FigureAdvantage(const Game& game, int bet);
+Advantage FigureAdvantage(const Game& game, BetId bet);
 // With percentage dice or with fair ones, whatever is in force.
-Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice);
+Advantage FigureAdvantage(const Game& game, BetId bet, bool usePercentageDice);
 // Likewise, with or without rolls that leave the bet in place counted as decisions.
-Advantage FigureAdvantage(const Game& game, int bet, bool usePercentageDice, bool includeZeroOutcomes);
+Advantage FigureAdvantage(const Game& game, BetId bet, bool usePercentageDice, bool includeZeroOutcomes);
 
 struct AdvantageRow {
-  int bet = 0;          // 1 to 93, or one of the rows above
+  BetId bet = 0;        // 1 to 93, or one of the rows above
   std::string caption;  // "Pass/Come 4", "Passline/Come (c.o.)", "Field" ...
   Advantage figures;
 };

@@ -15,9 +15,9 @@ static_assert(NeedOnly({Msg::kDepositBelowWagers, Msg::kDepositNegative, Msg::kD
                         Msg::kWithdrawalAboveLimit},
                        {"player", "requested", "allowed", "limit", "elsewhere"}));
 
-void MoveMoney(Game& game, int seat, Currency amount) {
+void MoveMoney(Game& game, SeatId seat, Currency amount) {
   game.table.BankrollCurrent[seat] += amount;
-  for (const int scope : {kCurrentHand, kCurrentSession, kAllSessions})
+  for (const ScopeId scope : {kCurrentHand, kCurrentSession, kAllSessions})
     game.stats.AtmTotal[Slot(scope, seat)] += amount;
   game.host->Changed(game, Change::kPlayers);
   RequireConsistency(game);
@@ -25,7 +25,7 @@ void MoveMoney(Game& game, int seat, Currency amount) {
 
 }  // namespace
 
-Currency AtmTransaction(Game& game, int seat, bool deposit, Currency amount, bool alwaysTell) {
+Currency AtmTransaction(Game& game, SeatId seat, bool deposit, Currency amount, bool alwaysTell) {
   TableState& table = game.table;
   if (!game.settings.AtmEnabled || amount.IsError() || amount < kZero) return kZero;
   const Currency bankroll = table.BankrollCurrent[seat];
@@ -59,7 +59,7 @@ Currency AtmTransaction(Game& game, int seat, bool deposit, Currency amount, boo
   return allowed;
 }
 
-void BankrollLimitReached(Game& game, int seat) {
+void BankrollLimitReached(Game& game, SeatId seat) {
   TableState& table = game.table;
   const bool negative = table.BankrollCurrent[seat] < kZero;
   if (table.TurboRollActive)
@@ -74,7 +74,7 @@ void BankrollLimitReached(Game& game, int seat) {
 static_assert(NeedOnly({Msg::kStoppedByNegativeLimit, Msg::kStoppedByBankrollLimit}, {"limit"}) &&
               NeedOnly({Msg::kNegativeLimitExceeded, Msg::kBankrollLimitBroken}, {"player", "limit"}));
 
-void SetBankroll(Game& game, int seat, Currency amount) {
+void SetBankroll(Game& game, SeatId seat, Currency amount) {
   StartBankroll(game, seat, std::clamp(amount, -kBankrollLimit, kBankrollLimit));
   game.host->Changed(game, Change::kPlayers);
 }

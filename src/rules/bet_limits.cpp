@@ -41,7 +41,7 @@ Currency AmountThatWins(const Game& game, Currency limit, const PayoffRecord& re
   return kept;
 }
 
-inline const KeptMaximum& KeptProposition(const Game& game, int bet) {
+inline const KeptMaximum& KeptProposition(const Game& game, BetId bet) {
   return KeptAmount(game, static_cast<std::size_t>(bet), game.settings.MaxPropBetPayoff,
                     game.payoffs.PayoffTable[bet]);
 }
@@ -69,14 +69,14 @@ Currency SmallestAmount(const Game& game, std::size_t place, std::span<const Pay
   return smallest;
 }
 
-Currency MaxSharedBet(const Game& game, int bet) {
+Currency MaxSharedBet(const Game& game, BetId bet) {
   Currency smallest = kBankrollLimit;
-  for (const int part : FactsOf(bet).parts)
+  for (const BetId part : FactsOf(bet).parts)
     if (part != 0) smallest = std::min(smallest, KeptProposition(game, part).amount);
   return Multiply(smallest, Currency::Dollars(SharesOf(bet)));
 }
 
-Multiple OddsMultiple(const Game& game, int bet) {
+Multiple OddsMultiple(const Game& game, BetId bet) {
   const int own = FactsOf(bet).number;
   const Settings& settings = game.settings;
   switch (own != 0 ? own : game.table.Point) {
@@ -171,7 +171,7 @@ int OddsMethod(int method, Multiple multiple) {
 }
 
 // The most odds on a flat amount, by OddsCalcMethod. payTo, payPer: the odds bet's payoff.
-Currency MaxOddsFor(const Game& game, int bet, Currency flatAmount, Currency payTo, Currency payPer) {
+Currency MaxOddsFor(const Game& game, BetId bet, Currency flatAmount, Currency payTo, Currency payPer) {
   const Settings& settings = game.settings;
   OddsCase odds;
   odds.multiple = OddsMultiple(game, bet);
@@ -202,7 +202,7 @@ Currency MaxOddsFor(const Game& game, int bet, Currency flatAmount, Currency pay
   return RoundDownToUnit(std::min(most, ceiling), settings.Unit());
 }
 
-Currency MaxOddsOnFlat(const Game& game, int seat, int bet, bool laying) {
+Currency MaxOddsOnFlat(const Game& game, SeatId seat, BetId bet, bool laying) {
   const PayoffRecord& record = PayoffOf(game, bet);
   const Currency flat = game.table.BetAmount(seat, FlatBetOf(bet));
   if (!laying || record.PayTo <= kZero) return MaxOddsFor(game, bet, flat, record.PayTo, record.PayPer);
@@ -223,7 +223,7 @@ Currency BuyVigFor(const Game& game, Currency amount) {
   return RoundVig(game, Multiply(game.settings.BuyVigRate, amount), game.settings.BuyVigRound);
 }
 
-Currency LayVigFor(const Game& game, int bet, Currency amount) {
+Currency LayVigFor(const Game& game, BetId bet, Currency amount) {
   const PayoffRecord& record = game.payoffs.PayoffTable[bet];
   if (record.PayTo <= kZero) return kZero;
   const Currency win = Divide(Multiply(amount, record.PayTo), record.PayPer);
@@ -241,11 +241,11 @@ static_assert(kMainBets == Without(kAllTableBets, BetsWhere([](const FamilyRow& 
                                      return row.minimum == &Settings::MinBetProp;
                                    })));
 
-Currency MinBetFor(const Game& game, int bet) {
+Currency MinBetFor(const Game& game, BetId bet) {
   return kMainBets.Has(bet) ? game.settings.MinBetMain : game.settings.MinBetProp;
 }
 
-Currency MaxBetFor(const Game& game, int seat, int bet) {
+Currency MaxBetFor(const Game& game, SeatId seat, BetId bet) {
   const Settings& settings = game.settings;
   if (kWinOfPropBets.Has(bet)) return KeptProposition(game, bet).whole;
   const FamilyRow& family = FamilyRowOf(bet);
@@ -268,14 +268,14 @@ Currency MaxBetFor(const Game& game, int seat, int bet) {
   }
 }
 
-Currency VigFor(const Game& game, int bet, Currency amount) {
+Currency VigFor(const Game& game, BetId bet, Currency amount) {
   if (amount <= kZero) return kZero;
   if (IsLay(bet)) return LayVigFor(game, bet, amount);
   if (IsBuy(bet)) return BuyVigFor(game, amount);
   return kZero;
 }
 
-Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change) {
+Currency ProperOddsAmount(const Game& game, SeatId seat, BetId bet, Currency change) {
   const Handling& handling = game.table.seats[seat].handling;
   const Settings& settings = game.settings;
   const Currency amount = game.table.BetAmount(seat, bet);

@@ -11,12 +11,12 @@ namespace tessaryn {
 struct Game;
 
 // The most that the seat may have on the bet, in whole betting units, not below 0. Requires bet 1 to 93.
-Currency MaxBetFor(const Game& game, int seat, int bet);
+Currency MaxBetFor(const Game& game, SeatId seat, BetId bet);
 // The vig on an amount of the bet, in whole units: of a Lay bet on what it can win; 0 for bets without vig.
-Currency VigFor(const Game& game, int bet, Currency amount);
+Currency VigFor(const Game& game, BetId bet, Currency amount);
 // The change that brings the seat's bet nearest to a multiple of its BetUnit, by ProperOddsMode.
-Currency ProperOddsAmount(const Game& game, int seat, int bet, Currency change);
+Currency ProperOddsAmount(const Game& game, SeatId seat, BetId bet, Currency change);
 // The minimum of the bet. Requires bet 1 to 93.
-Currency MinBetFor(const Game& game, int bet);
+Currency MinBetFor(const Game& game, BetId bet);
 
 }  // namespace tessaryn

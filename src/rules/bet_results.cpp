@@ -32,7 +32,7 @@ DiceOdds Normalised(const DiceOdds& odds) {
 
 double Ratio(const PayoffRecord& record) { return record.PayTo.ToDouble() / record.PayPer.ToDouble(); }
 
-double Case::Pays(int bet) const { return Ratio(game.payoffs.PayoffTable[bet]); }
+double Case::Pays(BetId bet) const { return Ratio(game.payoffs.PayoffTable[bet]); }
 
 namespace {
 
@@ -49,21 +49,21 @@ double WinAfterVig(double ratio, double vig, bool upFront) {
   return bet * ratio - (1 - bet);
 }
 
-double LayWin(const Case& c, int bet) {
+double LayWin(const Case& c, BetId bet) {
   const Settings& settings = c.game.settings;
   const double ratio = c.Pays(bet);
   const double vig = ratio > 0 ? settings.LayVigRate.ToDouble() * ratio : 0;
   return WinAfterVig(ratio, vig, settings.LayVigUpFront);
 }
 
-double BuyWin(const Case& c, int bet) {
+double BuyWin(const Case& c, BetId bet) {
   const Settings& settings = c.game.settings;
   const double ratio = c.Pays(bet);
   const double vig = ratio > 0 ? settings.BuyVigRate.ToDouble() : 0;
   return WinAfterVig(ratio, vig, settings.BuyVigUpFront);
 }
 
-double NumberResult(const Case& c, int bet, int total) {
+double NumberResult(const Case& c, BetId bet, int total) {
   const int number = FactsOf(bet).number;
   if (total != number && total != 7) return 0;
   if (IsLay(bet)) return AgainstSeven(total, number, -1, LayWin(c, bet));
@@ -72,7 +72,7 @@ double NumberResult(const Case& c, int bet, int total) {
                                                          : AgainstSeven(total, number, c.Pays(bet), -1);
 }
 
-double PairResult(const Case& c, int bet, int die1, int die2) {
+double PairResult(const Case& c, BetId bet, int die1, int die2) {
   return AgainstSeven(die1 + die2, FactsOf(bet).number, die1 == die2 ? c.Pays(bet) : -1, -1);
 }
 
@@ -86,11 +86,11 @@ double MidwayResult(const Case& c, int die1, int die2) {
   return row == 0 ? -1 : Ratio(c.game.payoffs.MidwayPayoffs[row]);
 }
 // One share wins by the record of its own bet, the others lose.
-double SharedResult(const Case& c, int bet, int die1, int die2) {
+double SharedResult(const Case& c, BetId bet, int die1, int die2) {
   const double shares = SharesOf(bet);
   return (c.Pays(WinningPart(bet, die1, die2)) - (shares - 1)) / shares;
 }
-double OneRollResult(const Case& c, int bet, int die1, int die2) {
+double OneRollResult(const Case& c, BetId bet, int die1, int die2) {
   if (bet == kField) return FieldResult(c, die1, die2);
   if (bet == kMidway) return MidwayResult(c, die1, die2);
   if ((FactsOf(bet).wins & CombinationBit(die1, die2)) == 0) return -1;
@@ -99,7 +99,7 @@ double OneRollResult(const Case& c, int bet, int die1, int die2) {
 
 }  // namespace
 
-double ResultOnRoll(const Case& c, int bet, int die1, int die2) {
+double ResultOnRoll(const Case& c, BetId bet, int die1, int die2) {
   switch (FamilyRowOf(bet).decidedBy) {
     case DecidedBy::kOneRoll:
       return OneRollResult(c, bet, die1, die2);

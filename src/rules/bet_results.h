@@ -26,21 +26,21 @@ struct Case {
   const Game& game;
   const DiceOdds& odds;
 
-  double Pays(int bet) const;
+  double Pays(BetId bet) const;
   double Total(int total) const { return odds.total[total]; }
 };
 
 // Decided by the point, on the line or of their own; line odds among them.
-constexpr bool IsLineFamily(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kLine; }
-constexpr bool IsLineOdds(int bet) { return IsLineFamily(bet) && IsOdds(bet); }
+constexpr bool IsLineFamily(BetId bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kLine; }
+constexpr bool IsLineOdds(BetId bet) { return IsLineFamily(bet) && IsOdds(bet); }
 // Marks, counts and bets on a hand.
-constexpr bool IsLongBet(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kHand; }
+constexpr bool IsLongBet(BetId bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kHand; }
 // Every roll decides it.
-constexpr bool IsOneRollBet(int bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kOneRoll; }
+constexpr bool IsOneRollBet(BetId bet) { return FamilyRowOf(bet).decidedBy == DecidedBy::kOneRoll; }
 
 // All results are per unit laid out; 0 for a roll that leaves the bet in place.
 // Of a bet that is neither of the line family nor long.
-double ResultOnRoll(const Case& c, int bet, int die1, int die2);
+double ResultOnRoll(const Case& c, BetId bet, int die1, int die2);
 // Of the Pass Line or Come bet, or of the Don't side, with a point of 4 to 10 or 0 before it is set.
 double LineResult(const Case& c, bool pass, int point, int total);
 // Of the odds behind it; 0 without a point.

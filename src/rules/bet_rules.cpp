@@ -16,14 +16,15 @@ constexpr int kNoteRefusals = 1;
 constexpr int kNoteBankroll = 2;
 constexpr int kNoteAdjusted = 4;
 
-constexpr int PayPosition(int seat) {
+constexpr int PayPosition(SeatId seat) {
   for (int i = 0; i < kSeats; ++i)
     if (kPayOrder[i] == seat) return i;
   return 0;
 }
 constexpr std::array<std::uint8_t, kSeatRows> kPayBit = [] {
   std::array<std::uint8_t, kSeatRows> bits{};
-  for (int seat = 1; seat <= kSeats; ++seat) bits[seat] = static_cast<std::uint8_t>(1u << PayPosition(seat));
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    bits[seat] = static_cast<std::uint8_t>(1u << PayPosition(seat));
   return bits;
 }();
 
@@ -36,7 +37,7 @@ bool NotesShown(const Game& game, Asking asking, int bit) {
 
 // A note to the seat's player about a bet.
 template <Msg kId, typename... Arguments>
-void ShowNote(Game& game, Asking asking, int seat, int bet, int bit, const Arguments&... arguments) {
+void ShowNote(Game& game, Asking asking, SeatId seat, BetId bet, int bit, const Arguments&... arguments) {
   if (NotesShown(game, asking, bit))
     ShowMessage<kId>(game, With<"player">(game.table.seats[seat].SeatName), With<"bet">(BetName(bet)),
                      arguments...);
@@ -47,8 +48,8 @@ void ShowNote(Game& game, Asking asking, int seat, int bet, int bit, const Argum
 
 struct RuleCase {
   const Game& game;
-  int seat;
-  int bet;
+  SeatId seat;
+  BetId bet;
   Currency newAmount;
   Asking asking = Asking::kAloud;
 };
@@ -76,8 +77,8 @@ bool CountRunning(const RuleCase& c) { return c.game.table.FourRollCount > 0 && 
 bool HandStarted(const RuleCase& c) { return HandRolls(c.game.stats) > 0 && OverCommitted(c); }
 
 struct BetRule {
-  int first;
-  int last;
+  BetId first;
+  BetId last;
   bool decrease;
   bool (*refuses)(const RuleCase&);
   bool endsCall;  // nothing of the change is left to look at
@@ -117,7 +118,7 @@ constexpr auto kRuleOf = [] {
   for (auto& place : places) place = {-1, -1};
   std::int8_t at = 0;
   for (const BetRule& rule : kRules) {
-    for (int bet = rule.first; bet <= rule.last; ++bet) places[bet][rule.decrease ? 1 : 0] = at;
+    for (BetId bet = rule.first; bet <= rule.last; ++bet) places[bet][rule.decrease ? 1 : 0] = at;
     ++at;
   }
   return places;
@@ -126,7 +127,7 @@ constexpr auto kRuleOf = [] {
 enum class Verdict { kAllowed, kRefused, kEnds };
 
 // Applies the bet's rule. A refused increase changes nothing, so no limit is looked at.
-Verdict ApplyRules(Game& game, int seat, int bet, Currency& change, Asking asking) {
+Verdict ApplyRules(Game& game, SeatId seat, BetId bet, Currency& change, Asking asking) {
   const bool decrease = change < kZero;
   const int place = kRuleOf[bet][decrease ? 1 : 0];
   if (place < 0) return Verdict::kAllowed;
@@ -146,14 +147,14 @@ Verdict ApplyRules(Game& game, int seat, int bet, Currency& change, Asking askin
 
 // --- Limits.
 
-bool IsContract(int bet) { return bet == kPassLine || IsComeNumber(bet); }
+bool IsContract(BetId bet) { return bet == kPassLine || IsComeNumber(bet); }
 
 // What a contract holds up now: no limit takes the bet below it.
-Currency ContractFloor(const Game& game, int seat, int bet) {
+Currency ContractFloor(const Game& game, SeatId seat, BetId bet) {
   return UnderContract(game.table, bet) ? game.table.BetCommitted(seat, bet) : kZero;
 }
 
-void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease, Asking asking) {
+void ApplyMinimum(Game& game, SeatId seat, BetId bet, Currency& change, bool decrease, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency minimum = MinBetFor(game, bet);
   const Currency wanted = amount + change;
@@ -166,7 +167,7 @@ void ApplyMinimum(Game& game, int seat, int bet, Currency& change, bool decrease
   ShowNote<Msg::kMinimumBet>(game, asking, seat, bet, kNoteRefusals, With<"limit">(minimum));
 }
 
-void ApplyMaximum(Game& game, int seat, int bet, Currency& change, Asking asking) {
+void ApplyMaximum(Game& game, SeatId seat, BetId bet, Currency& change, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   const Currency maximum = MaxBetFor(game, seat, bet);
   if (amount + change <= maximum) return;
@@ -187,24 +188,24 @@ void ApplyMaximum(Game& game, int seat, int bet, Currency& change, Asking asking
 }
 
 // What the change adds to the money on the table, vig included.
-Currency TableCost(const Game& game, int seat, int bet, Currency change, Currency vigOnTable) {
+Currency TableCost(const Game& game, SeatId seat, BetId bet, Currency change, Currency vigOnTable) {
   if (!VigUpFront(game, bet)) return change;
   return change + VigFor(game, bet, game.table.BetAmount(seat, bet) + change) - vigOnTable;
 }
 
-bool HasOtherBets(const Game& game, int seat, int bet) {
+bool HasOtherBets(const Game& game, SeatId seat, BetId bet) {
   BetSet others = game.table.seats[seat].SeatBets;
   others.Remove(bet);
   return !others.Empty();
 }
 
 // The furthest that a limit may lower the bet: all of it, or down to what its contract holds.
-Currency LowestChange(const Game& game, int seat, int bet) {
+Currency LowestChange(const Game& game, SeatId seat, BetId bet) {
   return std::min(ContractFloor(game, seat, bet) - game.table.BetAmount(seat, bet), kZero);
 }
 
 // Lowers the change, unit by unit, until the bankroll covers it or the bet can't go lower.
-void ApplyBankroll(Game& game, int seat, int bet, Currency& change, Asking asking) {
+void ApplyBankroll(Game& game, SeatId seat, BetId bet, Currency& change, Asking asking) {
   const TableState& table = game.table;
   // A bet that moves to its number brings no new money to the table; odds that follow it do.
   const bool moves = asking == Asking::kAsMove && !IsOdds(bet);
@@ -244,7 +245,7 @@ Currency RoundChange(Currency change, Currency unit) {
                         : Currency::FromRaw(change.raw - rest) - unit;
 }
 
-void ApplyVig(Game& game, int seat, int bet, Asking asking) {
+void ApplyVig(Game& game, SeatId seat, BetId bet, Asking asking) {
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = VigFor(game, bet, game.table.BetAmount(seat, bet));
   if (vig == held) return;
@@ -257,7 +258,7 @@ void ApplyVig(Game& game, int seat, int bet, Asking asking) {
     ShowNote<Msg::kVigOnWin>(game, asking, seat, bet, kNoteAdjusted, With<"vig">(vig));
 }
 
-Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change, Asking asking) {
+Currency ChangeCheckStack(Game& game, SeatId seat, BetId bet, Currency change, Asking asking) {
   const Currency value = game.table.BetAmount(seat, bet);
   const Currency wanted = value + change;
   Currency allowed = wanted;
@@ -271,14 +272,14 @@ Currency ChangeCheckStack(Game& game, int seat, int bet, Currency change, Asking
   return allowed - value;
 }
 
-bool WorksByDefault(const TableState& table, int seat, int bet) {
+bool WorksByDefault(const TableState& table, SeatId seat, BetId bet) {
   return table.Point != 0 || table.seats[seat].BetDefaultWorking.Has(bet);
 }
 
 constexpr BetSet kTableMaximumBets =
     BetsWhere([](const FamilyRow& row) { return row.maximum == Maximum::kTable; });
 
-bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
+bool WithinMaximum(const Game& game, SeatId seat, BetId bet, Currency amount) {
   const Settings& settings = game.settings;
   const bool surely = kTableMaximumBets.Has(bet) && amount.raw <= settings.MaxBet.raw - settings.Unit().raw;
   return surely || amount <= MaxBetFor(game, seat, bet);
@@ -286,7 +287,7 @@ bool WithinMaximum(const Game& game, int seat, int bet, Currency amount) {
 
 // Whether the bet, as it stands, is one that no rule would change: what handling asks of every bet that
 // stays up, on every roll.
-bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
+bool StandsAsItIs(const Game& game, SeatId seat, BetId bet, Currency amount) {
   const TableState& table = game.table;
   return amount >= MinBetFor(game, bet) && table.seats[seat].handling.ProperOddsMode == 0 &&
          table.seats[seat].OnTableAmount <= table.BankrollCurrent[seat] &&
@@ -296,7 +297,7 @@ bool StandsAsItIs(const Game& game, int seat, int bet, Currency amount) {
 
 // Whether the change takes the bet off whole with nothing to stop or to charge it: no limit and no contract
 // has a say then but the bet's own rule.
-bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currency request) {
+bool ComesOffWhole(const Game& game, SeatId seat, BetId bet, Currency amount, Currency request) {
   if (request != -amount || amount <= kZero || amount > kBankrollLimit || HasVig(bet)) return false;
   const int place = kRuleOf[bet][1];
   if (place >= 0 && kRules[place].refuses({game, seat, bet, kZero})) return false;
@@ -304,7 +305,7 @@ bool ComesOffWhole(const Game& game, int seat, int bet, Currency amount, Currenc
 }
 
 // What the rules and limits leave of a request. Shows their texts and changes nothing.
-Currency DecideChange(Game& game, int seat, int bet, Currency request, Asking asking) {
+Currency DecideChange(Game& game, SeatId seat, BetId bet, Currency request, Asking asking) {
   const TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   // A request beyond any bankroll is as good as one for the whole of it.
@@ -331,7 +332,7 @@ Currency DecideChange(Game& game, int seat, int bet, Currency request, Asking as
   return change;
 }
 
-Currency ChangeTableBet(Game& game, int seat, int bet, Currency request, Asking asking) {
+Currency ChangeTableBet(Game& game, SeatId seat, BetId bet, Currency request, Asking asking) {
   const Currency amount = game.table.BetAmount(seat, bet);
   if (request == kZero && StandsAsItIs(game, seat, bet, amount)) return kZero;
   if (ComesOffWhole(game, seat, bet, amount, request)) {
@@ -347,25 +348,25 @@ Currency ChangeTableBet(Game& game, int seat, int bet, Currency request, Asking 
 // --- Odds that follow their flat bet.
 
 // The odds that follow the flat bet now; 0 for none.
-int OddsThatFollow(const Game& game, int bet) {
+BetId OddsThatFollow(const Game& game, BetId bet) {
   const bool onLine = bet == kPassLine || bet == kDontPass;
-  return onLine && game.table.Point == 0 ? 0 : OddsBetOf(bet);
+  return onLine && game.table.Point == 0 ? kNoBet : OddsBetOf(bet);
 }
 
-bool OddsAreAutomatic(const Game& game, int seat, int flatBet) {
+bool OddsAreAutomatic(const Game& game, SeatId seat, BetId flatBet) {
   return game.table.seats[seat].handling.*FamilyRowOf(flatBet).automaticOdds;
 }
 
 // Whether odds are up, or wanted, that a change of the bet could change.
-bool OddsFollowBet(const Game& game, int seat, int bet) {
-  const int odds = OddsThatFollow(game, bet);
+bool OddsFollowBet(const Game& game, SeatId seat, BetId bet) {
+  const BetId odds = OddsThatFollow(game, bet);
   return odds != 0 && (OddsAreAutomatic(game, seat, bet) || game.table.BetAmount(seat, odds) > kZero);
 }
 
 }  // namespace
 
-void BringOddsIntoLine(Game& game, int seat, int bet) {
-  const int odds = OddsThatFollow(game, bet);
+void BringOddsIntoLine(Game& game, SeatId seat, BetId bet) {
+  const BetId odds = OddsThatFollow(game, bet);
   if (odds == 0) return;
   const Currency up = game.table.BetAmount(seat, odds);
   if (up == kZero && game.table.BetAmount(seat, bet) == kZero) return;
@@ -373,7 +374,7 @@ void BringOddsIntoLine(Game& game, int seat, int bet) {
     TakeFullOdds(game, seat, odds);
 }
 
-void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
+void SetBetAmount(Game& game, SeatId seat, BetId bet, Currency amount) {
   TableState& table = game.table;
   Currency& cell = table.BetAmount(seat, bet);
   if (cell == amount) return;
@@ -405,7 +406,7 @@ void SetBetAmount(Game& game, int seat, int bet, Currency amount) {
   }
 }
 
-bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
+bool StaysWhenBetAgain(const Game& game, SeatId seat, BetId bet) {
   const TableState& table = game.table;
   const Settings& settings = game.settings;
   const Currency amount = table.BetAmount(seat, bet);
@@ -420,20 +421,20 @@ bool StaysWhenBetAgain(const Game& game, int seat, int bet) {
   return (place < 0 || !kRules[place].refuses({game, seat, bet, amount})) && !OddsFollowBet(game, seat, bet);
 }
 
-Currency AllowedChange(Game& game, int seat, int bet, Currency request, Asking asking) {
+Currency AllowedChange(Game& game, SeatId seat, BetId bet, Currency request, Asking asking) {
   return DecideChange(game, seat, bet, request, asking);
 }
 
 namespace {
 
-Msg RefusingRule(const Game& game, int seat, int bet) {
+Msg RefusingRule(const Game& game, SeatId seat, BetId bet) {
   const int place = kRuleOf[bet][0];
   const Currency more = game.table.BetAmount(seat, bet) + game.settings.Unit();
   return place >= 0 && kRules[place].refuses({game, seat, bet, more}) ? kRules[place].text : Msg::kNone;
 }
 
 // The note that a request for a unit more gets.
-std::string RefusingNote(const Game& game, int seat, int bet) {
+std::string RefusingNote(const Game& game, SeatId seat, BetId bet) {
   const std::vector<MessageArgument> names{
       {"player", game.table.seats[seat].SeatName}, {"bet", BetName(bet)}, {"flat", BetName(FlatBetOf(bet))}};
   if (kSwitchableBets.Has(bet) && !BetOffered(game.settings, bet))
@@ -451,7 +452,7 @@ std::string RefusingNote(const Game& game, int seat, int bet) {
 }  // namespace
 
 // Behind the player's name the first paragraph tells why, the others what to do about it.
-std::string WhyNotMore(const Game& game, int seat, int bet) {
+std::string WhyNotMore(const Game& game, SeatId seat, BetId bet) {
   constexpr std::string_view kParagraph = "\r\r";
   std::string text = RefusingNote(game, seat, bet);
   if (const std::string address = game.table.seats[seat].SeatName + ","; text.starts_with(address))
@@ -461,12 +462,12 @@ std::string WhyNotMore(const Game& game, int seat, int bet) {
   return text;
 }
 
-Currency ChangeBet(Game& game, int seat, int bet, Currency request, Asking asking) {
+Currency ChangeBet(Game& game, SeatId seat, BetId bet, Currency request, Asking asking) {
   if (IsTableBet(bet)) return ChangeTableBet(game, seat, bet, request, asking);
   return IsCheckStack(bet) ? ChangeCheckStack(game, seat, bet, request, asking) : kZero;
 }
 
-Currency PlaceBet(Game& game, int seat, int bet, Currency request, Asking asking) {
+Currency PlaceBet(Game& game, SeatId seat, BetId bet, Currency request, Asking asking) {
   const Currency change = ChangeBet(game, seat, bet, request, asking);
   if (!game.table.TurboRollActive && change != kZero) {
     if (asking != Asking::kAsMove) game.host->PlaySound(game, Sound::kCheck);
@@ -477,30 +478,30 @@ Currency PlaceBet(Game& game, int seat, int bet, Currency request, Asking asking
   return change;
 }
 
-Currency RemoveBet(Game& game, int seat, int bet) {
+Currency RemoveBet(Game& game, SeatId seat, BetId bet) {
   return PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet));
 }
 
-void TakeFullOdds(Game& game, int seat, int bet) {
+void TakeFullOdds(Game& game, SeatId seat, BetId bet) {
   ChangeBet(game, seat, bet, -game.table.BetAmount(seat, bet), Asking::kQuietly);
   ChangeBet(game, seat, bet, kBankrollLimit, Asking::kQuietly);
 }
 
-void TakeAllFullOdds(Game& game, int seat, bool laySide) {
+void TakeAllFullOdds(Game& game, SeatId seat, bool laySide) {
   const int line = laySide ? kDontPass : kPassLine;
-  const int firstFlat = laySide ? kDontCome4 : kCome4;
+  const BetId firstFlat = laySide ? kDontCome4 : kCome4;
   const TableState& table = game.table;
   if (table.Point != 0 && table.seats[seat].SeatBets.Has(line)) TakeFullOdds(game, seat, OddsBetOf(line));
-  for (int flat = firstFlat; flat < firstFlat + 6; ++flat)
+  for (BetId flat = firstFlat; flat < firstFlat + 6; ++flat)
     if (table.seats[seat].SeatBets.Has(flat)) TakeFullOdds(game, seat, OddsBetOf(flat));
   RequireConsistency(game);
 }
 
-int BetWorkingOf(const Game& game, int seat, int bet) {
+int BetWorkingOf(const Game& game, SeatId seat, BetId bet) {
   return WorkingValue(game.table.seats[seat].BetWorking, bet);
 }
 
-void ResetBetWorking(Game& game, int seat, int bet) {
+void ResetBetWorking(Game& game, SeatId seat, BetId bet) {
   WorkingState& state = game.table.seats[seat].BetWorking;
   if (state.calledOn.Has(bet) || state.calledOff.Has(bet)) {
     state.calledOn.Remove(bet);
@@ -512,7 +513,7 @@ void ResetBetWorking(Game& game, int seat, int bet) {
 
 namespace {
 
-void Call(Game& game, int seat, int bet, bool on) {
+void Call(Game& game, SeatId seat, BetId bet, bool on) {
   WorkingState& state = game.table.seats[seat].BetWorking;
   BetSet& wanted = on ? state.calledOn : state.calledOff;
   const BetSet& other = on ? state.calledOff : state.calledOn;
@@ -525,7 +526,7 @@ void Call(Game& game, int seat, int bet, bool on) {
 
 }  // namespace
 
-bool CallBet(Game& game, int seat, int bet, bool on) {
+bool CallBet(Game& game, SeatId seat, BetId bet, bool on) {
   if (!IsTableBet(bet) || !kCallableBets.Has(bet)) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning)
       ShowMessage<Msg::kNotCallable>(game, With<"bet">(BetName(bet)));
@@ -537,24 +538,24 @@ bool CallBet(Game& game, int seat, int bet, bool on) {
   return true;
 }
 
-void CallAllBets(Game& game, int seat, bool on) {
-  (game.table.seats[seat].SeatBets & kCallableBets).ForEach([&](int bet) { Call(game, seat, bet, on); });
+void CallAllBets(Game& game, SeatId seat, bool on) {
+  (game.table.seats[seat].SeatBets & kCallableBets).ForEach([&](BetId bet) { Call(game, seat, bet, on); });
   game.host->Changed(game, Change::kLayout);
 }
 
-void RemoveCall(Game& game, int seat, int bet) {
+void RemoveCall(Game& game, SeatId seat, BetId bet) {
   ResetBetWorking(game, seat, bet);
   game.host->Changed(game, Change::kLayout);
 }
 
-bool BuyPlaceBet(Game& game, int seat, int bet) {
+bool BuyPlaceBet(Game& game, SeatId seat, BetId bet) {
   const Currency amount = IsPlace(bet) ? game.table.BetAmount(seat, bet) : kZero;
   if (amount == kZero) {
     if (!game.table.TurboRollActive && !game.autobet.ScriptRunning) ShowMessage<Msg::kOnlyPlaceBetsBuy>(game);
     return IsPlace(bet);
   }
   const int call = BetWorkingOf(game, seat, bet);
-  const int buy = BetOn(kBuy4, FactsOf(bet).number);
+  const BetId buy = BetOn(kBuy4, FactsOf(bet).number);
   RemoveBet(game, seat, bet);
   PlaceBet(game, seat, buy, amount);
   const bool called = call == 2 || call == -1;
@@ -568,8 +569,8 @@ bool BuyPlaceBet(Game& game, int seat, int bet) {
   return true;
 }
 
-void TakeDownBets(Game& game, int seat, const BetSet& bets) {
-  (game.table.seats[seat].SeatBets & bets).ForEach([&](int bet) {
+void TakeDownBets(Game& game, SeatId seat, const BetSet& bets) {
+  (game.table.seats[seat].SeatBets & bets).ForEach([&](BetId bet) {
     SetBetAmount(game, seat, bet, kZero);
     game.table.BetCommitted(seat, bet) = kZero;
     if (HasVig(bet)) {
@@ -582,13 +583,13 @@ void TakeDownBets(Game& game, int seat, const BetSet& bets) {
 }
 
 void RecomputeVig(Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    (game.table.seats[seat].SeatBets & kVigBets).ForEach([&](int bet) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
+    (game.table.seats[seat].SeatBets & kVigBets).ForEach([&](BetId bet) {
       VigHeld(game, seat, bet) = VigFor(game, bet, game.table.BetAmount(seat, bet));
     });
     // With what is charged up front changed too, the sum is made anew.
     Currency onTable;
-    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
+    game.table.seats[seat].SeatBets.ForEach([&](BetId bet) {
       onTable += game.table.BetAmount(seat, bet);
       if (VigUpFront(game, bet)) onTable += VigHeld(game, seat, bet);
     });

@@ -19,42 +19,42 @@ enum class Asking : std::uint8_t {
 
 // Asks for a change of the seat's bet (bets 1 to 93, CheckStacks 100 to 199) and applies what the rules
 // allow. Returns the change made.
-Currency ChangeBet(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
+Currency ChangeBet(Game& game, SeatId seat, BetId bet, Currency request, Asking asking = Asking::kAloud);
 // What ChangeBet would make of the request on a bet 1 to 93, with the same texts; nothing changes.
-Currency AllowedChange(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
+Currency AllowedChange(Game& game, SeatId seat, BetId bet, Currency request, Asking asking = Asking::kAloud);
 // ChangeBet with the chip sound, and the odds brought back into line with their flat bet.
-Currency PlaceBet(Game& game, int seat, int bet, Currency request, Asking asking = Asking::kAloud);
+Currency PlaceBet(Game& game, SeatId seat, BetId bet, Currency request, Asking asking = Asking::kAloud);
 // The bet down, as far as a contract lets it.
-Currency RemoveBet(Game& game, int seat, int bet);
+Currency RemoveBet(Game& game, SeatId seat, BetId bet);
 // Removes the odds and bets the most that is allowed. Shows no texts.
-void TakeFullOdds(Game& game, int seat, int bet);
+void TakeFullOdds(Game& game, SeatId seat, BetId bet);
 // Full odds on every Come number and the Pass Line (take side), or their opposites (lay side).
-void TakeAllFullOdds(Game& game, int seat, bool laySide);
+void TakeAllFullOdds(Game& game, SeatId seat, bool laySide);
 // Odds after a change of their flat bet: cut to its maximum, or full odds where the seat has them automatic.
-void BringOddsIntoLine(Game& game, int seat, int bet);
+void BringOddsIntoLine(Game& game, SeatId seat, BetId bet);
 // Sets an amount without any rule; keeps every set and sum of the table. Requires that the amount is not
 // negative for bets 1 to 93. CheckStacks take any amount.
-void SetBetAmount(Game& game, int seat, int bet, Currency amount);
+void SetBetAmount(Game& game, SeatId seat, BetId bet, Currency amount);
 
 // Whether a bet that is taken down and asked for again at its amount, as a script's bet is, would come to
 // what it was, unseen and unheard: then nothing need be done. May say no where it would.
-bool StaysWhenBetAgain(const Game& game, int seat, int bet);
+bool StaysWhenBetAgain(const Game& game, SeatId seat, BetId bet);
 
 // Calls. A first press of the other word only cancels the earlier call. False, with a box, for a bet that
 // can't be called.
-bool CallBet(Game& game, int seat, int bet, bool on);
-void CallAllBets(Game& game, int seat, bool on);
+bool CallBet(Game& game, SeatId seat, BetId bet, bool on);
+void CallAllBets(Game& game, SeatId seat, bool on);
 // Takes the ON or OFF button away.
-void RemoveCall(Game& game, int seat, int bet);
+void RemoveCall(Game& game, SeatId seat, BetId bet);
 // BetWorking as a bet that has come down has it.
-void ResetBetWorking(Game& game, int seat, int bet);
-int BetWorkingOf(const Game& game, int seat, int bet);
+void ResetBetWorking(Game& game, SeatId seat, BetId bet);
+int BetWorkingOf(const Game& game, SeatId seat, BetId bet);
 // The Place bet's amount goes to the Buy bet of its number; a call goes with it. A box where there is no
 // Place bet; false for any other bet.
-bool BuyPlaceBet(Game& game, int seat, int bet);
+bool BuyPlaceBet(Game& game, SeatId seat, BetId bet);
 
 // All bets of a family down, without contract or questions: the table no longer offers them.
-void TakeDownBets(Game& game, int seat, const BetSet& bets);
+void TakeDownBets(Game& game, SeatId seat, const BetSet& bets);
 // The vig of every Buy and Lay bet that is up, by the settings in force.
 void RecomputeVig(Game& game);
 

@@ -31,12 +31,12 @@ LineState Next(LineState state, int total) {
   return {NextPoint(state.point, total), ComeIsUp(state) ? NextPoint(state.come, total) : 0};
 }
 
-bool IsUp(int bet, LineState state) {
+bool IsUp(BetId bet, LineState state) {
   if (IsLineOdds(bet)) return state.point != 0;
   return (bet != kCome && bet != kDontCome) || ComeIsUp(state);
 }
 
-double ResultIn(const Case& c, int bet, LineState state, int die1, int die2) {
+double ResultIn(const Case& c, BetId bet, LineState state, int die1, int die2) {
   const int total = die1 + die2;
   if (!IsUp(bet, state)) return 0;
   if (IsLineOdds(bet)) return LineOddsResult(c, bet == kPassLineOdds, state.point, total);
@@ -149,7 +149,7 @@ bool LineChain::Solve(const std::vector<double>& worth, double& mean, std::vecto
 }
 
 // In what part of the rolls a bet is up.
-double ShareUp(const LineChain& chain, int bet) {
+double ShareUp(const LineChain& chain, BetId bet) {
   std::vector<double> up(chain.Size());
   for (std::size_t at = 0; at < chain.Size(); ++at) up[at] = IsUp(bet, chain.State(at)) ? 1 : 0;
   double share = 1;
@@ -157,7 +157,7 @@ double ShareUp(const LineChain& chain, int bet) {
   return chain.Solve(up, share, values) ? share : 1;
 }
 
-bool WaitsForPoint(int bet) { return IsLineFamily(bet) && bet != kPassLine && bet != kDontPass; }
+bool WaitsForPoint(BetId bet) { return IsLineFamily(bet) && bet != kPassLine && bet != kDontPass; }
 
 }  // namespace
 

@@ -3,16 +3,18 @@
 
 #include <map>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 struct Game;
 
-using BetAmounts = std::map<int, double>;  // dollars by bet 1 to 93
+using BetAmounts = std::map<BetId, double>;  // dollars by bet 1 to 93
 
 struct BetsTogether {
   double evPerHour = 0;
   double stdevPerHour = 0;
-  int unknownBet = 0;  // not 0: what this bet has in common with the others can't be told, nor the spread
+  BetId unknownBet = 0;  // not 0: what this bet has in common with the others can't be told, nor the spread
   bool waitsForPoint = false;  // among them is a bet that needs a point, and counts while there is one
 };
 

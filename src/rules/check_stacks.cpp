@@ -9,7 +9,7 @@
 namespace tessaryn {
 namespace {
 
-bool IsStackOf(int seat, int stack) {
+bool IsStackOf(SeatId seat, int stack) {
   return seat >= 1 && seat <= kSeats && stack >= 0 && stack < kCheckStacks;
 }
 
@@ -19,31 +19,31 @@ static_assert(NeedOnly({kQuestions[0], kQuestions[1], kQuestions[2]}, {"player"}
 
 }  // namespace
 
-Currency CheckStackValue(const Game& game, int seat, int stack) {
+Currency CheckStackValue(const Game& game, SeatId seat, int stack) {
   return IsStackOf(seat, stack) ? game.table.BetAmount(seat, kFirstCheckStack + stack) : kZero;
 }
 
-Currency SetCheckStackValue(Game& game, int seat, int stack, Currency value) {
+Currency SetCheckStackValue(Game& game, SeatId seat, int stack, Currency value) {
   if (!IsStackOf(seat, stack)) return kZero;
-  const int bet = kFirstCheckStack + stack;
+  const BetId bet = kFirstCheckStack + stack;
   ChangeBet(game, seat, bet, value - game.table.BetAmount(seat, bet));
   return game.table.BetAmount(seat, bet);
 }
 
-std::string CheckStackNameOf(const Game& game, int seat, int stack) {
+std::string CheckStackNameOf(const Game& game, SeatId seat, int stack) {
   return IsStackOf(seat, stack) ? game.table.seats[seat].CheckStackName[stack] : "";
 }
 
-void SetCheckStackName(Game& game, int seat, int stack, std::string_view name) {
+void SetCheckStackName(Game& game, SeatId seat, int stack, std::string_view name) {
   if (IsStackOf(seat, stack)) game.table.seats[seat].CheckStackName[stack] = name;
 }
 
-std::string CheckStackValueText(const Game& game, int seat, int stack, bool displayZero) {
+std::string CheckStackValueText(const Game& game, SeatId seat, int stack, bool displayZero) {
   const Currency value = CheckStackValue(game, seat, stack);
   return value == kZero && !displayZero ? "" : FormatMoney(value);
 }
 
-bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks>& stacks) {
+bool SetVisibleStacks(Game& game, SeatId seat, const std::array<int, kVisibleStacks>& stacks) {
   if (seat < 1 || seat > kSeats) return false;
   const bool inRange =
       std::all_of(stacks.begin(), stacks.end(), [seat](int stack) { return IsStackOf(seat, stack); });
@@ -56,7 +56,7 @@ bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks
   return true;
 }
 
-void ClearCheckStacks(Game& game, int seat, StackDeletion what) {
+void ClearCheckStacks(Game& game, SeatId seat, StackDeletion what) {
   for (int stack = 0; stack < kCheckStacks; ++stack) {
     if (what != StackDeletion::kNames) SetBetAmount(game, seat, kFirstCheckStack + stack, kZero);
     if (what != StackDeletion::kValues) game.table.seats[seat].CheckStackName[stack].clear();
@@ -64,7 +64,7 @@ void ClearCheckStacks(Game& game, int seat, StackDeletion what) {
   game.host->Changed(game, Change::kLayout);
 }
 
-bool DeleteCheckStacks(Game& game, int seat, StackDeletion what) {
+bool DeleteCheckStacks(Game& game, SeatId seat, StackDeletion what) {
   if (seat < 1 || seat > kSeats) return false;
   if (ShowMessage(game, kQuestions[static_cast<int>(what)], {{"player", game.table.seats[seat].SeatName}}) !=
       kResultYes)

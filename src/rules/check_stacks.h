@@ -19,22 +19,22 @@ inline constexpr const char* kVisibleStackLabels[kVisibleStacks] = {
     "Set 4th checkstack to #"};
 
 // In all of these: seat 1 to 8, stack 0 to 99. Beyond, reading gives nothing and writing does nothing.
-Currency CheckStackValue(const Game& game, int seat, int stack);
+Currency CheckStackValue(const Game& game, SeatId seat, int stack);
 // Returns the value that it came to: within plus and minus 9,999,999.9999.
-Currency SetCheckStackValue(Game& game, int seat, int stack, Currency value);
-std::string CheckStackNameOf(const Game& game, int seat, int stack);
-void SetCheckStackName(Game& game, int seat, int stack, std::string_view name);
+Currency SetCheckStackValue(Game& game, SeatId seat, int stack, Currency value);
+std::string CheckStackNameOf(const Game& game, SeatId seat, int stack);
+void SetCheckStackName(Game& game, SeatId seat, int stack, std::string_view name);
 // The value as the list shows it; empty for zero unless zeros are displayed.
-std::string CheckStackValueText(const Game& game, int seat, int stack, bool displayZero);
+std::string CheckStackValueText(const Game& game, SeatId seat, int stack, bool displayZero);
 
 // The four stacks of a seat on the table. False, with nothing changed, for a number outside 0 to 99 or one
 // that comes twice; then the refusal is shown.
-bool SetVisibleStacks(Game& game, int seat, const std::array<int, kVisibleStacks>& stacks);
+bool SetVisibleStacks(Game& game, SeatId seat, const std::array<int, kVisibleStacks>& stacks);
 
 // The deletions of the menu. Each asks first; false when given up.
 enum class StackDeletion { kAll, kValues, kNames };
-bool DeleteCheckStacks(Game& game, int seat, StackDeletion what);
+bool DeleteCheckStacks(Game& game, SeatId seat, StackDeletion what);
 // The same without a question.
-void ClearCheckStacks(Game& game, int seat, StackDeletion what);
+void ClearCheckStacks(Game& game, SeatId seat, StackDeletion what);
 
 }  // namespace tessaryn

@@ -24,10 +24,10 @@ Currency AmountByBase(const Settings& settings, const Comps& comps) {
 
 }  // namespace
 
-Comps FigureComps(const Game& game, int scope, int seat) {
+Comps FigureComps(const Game& game, ScopeId scope, SeatId seat) {
   const Settings& settings = game.settings;
   Comps comps;
-  settings.CompBetFlags.ForEach([&](int bet) {
+  settings.CompBetFlags.ForEach([&](BetId bet) {
     const Currency wagered = BetStat(game.stats, kWagerStats, scope, seat, bet, kStatTotal);
     if (wagered <= kZero) return;
     comps.totalAction += wagered;

@@ -17,6 +17,6 @@ struct Comps {
 };
 
 // The comps of a seat 1 to 8 in a scope 0 to 4.
-Comps FigureComps(const Game& game, int scope, int seat);
+Comps FigureComps(const Game& game, ScopeId scope, SeatId seat);
 
 }  // namespace tessaryn

@@ -11,11 +11,11 @@
 namespace tessaryn {
 namespace {
 
-std::string Where(const Game& game, int seat, int bet) {
+std::string Where(const Game& game, SeatId seat, BetId bet) {
   return "seat " + std::to_string(seat) + " (" + game.table.seats[seat].SeatName + "), " + BetName(bet);
 }
 
-std::string CheckBet(const Game& game, int seat, int bet) {
+std::string CheckBet(const Game& game, SeatId seat, BetId bet) {
   const TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   const bool up = amount > kZero;
@@ -40,15 +40,15 @@ std::string CheckBet(const Game& game, int seat, int bet) {
   return "";
 }
 
-std::string CheckSeat(const Game& game, int seat) {
+std::string CheckSeat(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   Currency onTable;
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     if (std::string problem = CheckBet(game, seat, bet); !problem.empty()) return problem;
     onTable += table.BetAmount(seat, bet);
   }
   for (int i = 0; i < 6; ++i) {
-    for (const int bet : {kLay4 + i, kBuy4 + i}) {
+    for (const BetId bet : {kLay4 + i, kBuy4 + i}) {
       const Currency held = IsLay(bet) ? table.seats[seat].LayVigHeld[i] : table.seats[seat].BuyVigHeld[i];
       if (table.BetAmount(seat, bet) == kZero && held != kZero)
         return "vig without a bet: " + Where(game, seat, bet);
@@ -66,17 +66,17 @@ std::string CheckSeat(const Game& game, int seat) {
 std::string CheckTableSets(const Game& game) {
   const TableState& table = game.table;
   int occupied = 0;
-  for (int seat = 1; seat <= kSeats; ++seat) occupied += table.seats[seat].SeatName.empty() ? 0 : 1;
+  for (SeatId seat = 1; seat <= kSeats; ++seat) occupied += table.seats[seat].SeatName.empty() ? 0 : 1;
   if (occupied != table.OccupiedSeats) return "count of occupied seats";
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (table.AnyBets.Has(bet) != (table.SeatsUp[bet] != 0)) return "set of all bets: " + BetName(bet);
-  for (const int seat : {table.ShooterSeat, table.SelectedSeat, table.HandSeat})
+  for (const SeatId seat : {table.ShooterSeat, table.SelectedSeat, table.HandSeat})
     if (seat != 0 && table.seats[seat].SeatName.empty())
       return "an open seat " + std::to_string(seat) + " acts";
   if (table.OccupiedSeats > 0 && table.ShooterSeat == 0) return "players without a shooter";
   if (table.Point != 0 && !IsBoxNumber(table.Point)) return "point " + std::to_string(table.Point);
   if (!table.RollInProgress)
-    for (int seat = 1; seat <= kSeats; ++seat) {
+    for (SeatId seat = 1; seat <= kSeats; ++seat) {
       const BetSet& now = table.seats[seat].BetWorking.byDefault;
       if (table.Point != 0 && now != kAllTableBets)
         return "bets off with a point on, seat " + std::to_string(seat);
@@ -86,8 +86,8 @@ std::string CheckTableSets(const Game& game) {
 
 std::string CheckStatistics(const Game& game) {
   const Statistics& stats = game.stats;
-  for (int scope = 0; scope < kScopes; ++scope)
-    for (int seat = 0; seat <= kSeats; ++seat) {
+  for (ScopeId scope = 0; scope < kScopes; ++scope)
+    for (SeatId seat = 0; seat <= kSeats; ++seat) {
       std::int64_t pairs = 0;
       for (int total = 2; total <= 12; ++total) pairs += RollCount(stats, scope, seat, total);
       if (pairs != stats.RollTotals[Slot(scope, seat)])
@@ -96,7 +96,7 @@ std::string CheckStatistics(const Game& game) {
         return "rolls seen in scope " + std::to_string(scope) + ", seat " + std::to_string(seat);
       if (scope != kCurrentHand && scope != kLastHand) continue;
       const BetSet& used = scope == kCurrentHand ? stats.HandBets[seat] : stats.LastHandBets[seat];
-      for (int bet = 1; bet <= kBets; ++bet)
+      for (BetId bet = 1; bet <= kBets; ++bet)
         if (!used.Has(bet) && BetStat(stats, kWagerStats, scope, seat, bet, kStatCount) != kZero)
           return "statistics of a bet outside its set: " + Where(game, seat, bet);
     }
@@ -107,7 +107,7 @@ std::string CheckStatistics(const Game& game) {
 
 std::string CheckConsistency(const Game& game) {
   std::string problem = CheckTableSets(game);
-  for (int seat = 1; seat <= kSeats && problem.empty(); ++seat) problem = CheckSeat(game, seat);
+  for (SeatId seat = 1; seat <= kSeats && problem.empty(); ++seat) problem = CheckSeat(game, seat);
   return problem.empty() ? CheckStatistics(game) : problem;
 }
 

@@ -38,7 +38,7 @@ constexpr int kTimes = 2;
 constexpr int kPercent = 1;
 constexpr int kAdjustNotes = 4;
 
-Currency AmountUp(const Game& game, int seat, int bet) { return game.table.BetAmount(seat, bet); }
+Currency AmountUp(const Game& game, SeatId seat, BetId bet) { return game.table.BetAmount(seat, bet); }
 
 bool NotesShown(const Game& game) {
   return !game.table.TurboRollActive && (game.settings.MessageMask & kAdjustNotes) != 0;
@@ -47,7 +47,7 @@ bool NotesShown(const Game& game) {
 // The note of an action, at its last change. action: what it is called; only formed when somebody can read
 // it.
 template <typename Action>
-void ShowActionNote(Game& game, int seat, int bet, Action&& action) {
+void ShowActionNote(Game& game, SeatId seat, BetId bet, Action&& action) {
   if (!NotesShown(game)) return;
   const Currency difference = AmountUp(game, seat, bet) - game.table.BetBeforeRoll(seat, bet);
   ShowMessage(game,
@@ -62,12 +62,12 @@ void ShowActionNote(Game& game, int seat, int bet, Action&& action) {
 static_assert(NeedOnly({Msg::kBetIncreasedBy, Msg::kBetDecreasedBy, Msg::kBetRemains},
                        {"title", "player", "bet", "amount"}));
 
-void ShowActionNote(Game& game, int seat, int bet, Msg action) {
+void ShowActionNote(Game& game, SeatId seat, BetId bet, Msg action) {
   ShowActionNote(game, seat, bet, [action] { return MessageText(action); });
 }
 
 // An increase. One that the rules refuse leaves the bet as it is, which the bankroll must cover still.
-void Raise(Game& game, int seat, int bet, Currency request) {
+void Raise(Game& game, SeatId seat, BetId bet, Currency request) {
   const TableState& table = game.table;
   if (ChangeBet(game, seat, bet, request) != kZero || request <= kZero) return;
   if (table.seats[seat].AllowNegativeBankroll ||
@@ -76,32 +76,32 @@ void Raise(Game& game, int seat, int bet, Currency request) {
   ChangeBet(game, seat, bet, kZero, Asking::kQuietly);
 }
 
-void TakeDown(Game& game, int seat, int bet) { ChangeBet(game, seat, bet, -AmountUp(game, seat, bet)); }
+void TakeDown(Game& game, SeatId seat, BetId bet) { ChangeBet(game, seat, bet, -AmountUp(game, seat, bet)); }
 
-void SameBet(Game& game, int seat, int bet) {
+void SameBet(Game& game, SeatId seat, BetId bet) {
   ChangeBet(game, seat, bet, kZero);
   if (AmountUp(game, seat, bet) != game.table.BetBeforeRoll(seat, bet))
     ShowActionNote(game, seat, bet, Msg::kActionSame);
 }
 
-void BetRemainder(Game& game, int seat, int bet, Currency net) {
+void BetRemainder(Game& game, SeatId seat, BetId bet, Currency net) {
   const Currency remainder = net + game.table.BetBeforeRoll(seat, bet);
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
   ChangeBet(game, seat, bet, remainder);
   ShowActionNote(game, seat, bet, Msg::kActionRemainder);
 }
 
-void PressOneUnit(Game& game, int seat, int bet, Currency unit) {
+void PressOneUnit(Game& game, SeatId seat, BetId bet, Currency unit) {
   Raise(game, seat, bet, unit);
   ShowActionNote(game, seat, bet, Msg::kActionPressUnit);
 }
 
-void PressDouble(Game& game, int seat, int bet) {
+void PressDouble(Game& game, SeatId seat, BetId bet) {
   Raise(game, seat, bet, AmountUp(game, seat, bet));
   ShowActionNote(game, seat, bet, Msg::kActionPressDouble);
 }
 
-void Parlay(Game& game, int seat, int bet, Currency net) {
+void Parlay(Game& game, SeatId seat, BetId bet, Currency net) {
   Handling& handling = game.table.seats[seat].handling;
   const Handling before = handling;
   handling.PlaceBias = handling.DoBias = handling.DontBias = handling.LayBias = 2;
@@ -123,13 +123,13 @@ struct Adjustment {
   int unit;
 };
 
-Adjustment SlotOf(const Game& game, int seat, int slot) {
+Adjustment SlotOf(const Game& game, SeatId seat, int slot) {
   const Handling& handling = game.table.seats[seat].handling;
   return {handling.AdjustKind[slot], handling.AdjustValue[slot], handling.AdjustUnit[slot]};
 }
 
 // The value in dollars when it counts units of a check.
-Currency UnitsInDollars(const Game& game, int bet, const Adjustment& adjustment) {
+Currency UnitsInDollars(const Game& game, BetId bet, const Adjustment& adjustment) {
   const int check = adjustment.unit - 1;
   if (check < 1 || check > 5) return adjustment.value;
   const Currency perUnit = Divide(PayoffOf(game, bet).BetUnit, game.settings.Unit());
@@ -147,7 +147,7 @@ std::string AdjustTitle(const Adjustment& adjustment) {
 static_assert(NeedOnly({Msg::kActionPlus, Msg::kActionMinus, Msg::kActionTimes, Msg::kActionDivided},
                        {"value", "dollars", "percent", "units"}));
 
-void SameBetAdjusted(Game& game, int seat, int bet, const Adjustment& adjustment) {
+void SameBetAdjusted(Game& game, SeatId seat, BetId bet, const Adjustment& adjustment) {
   const Currency before = game.table.BetBeforeRoll(seat, bet);
   const Currency hundred = Currency::Dollars(100);
   const bool percent = adjustment.unit == kPercent;
@@ -174,7 +174,7 @@ std::string FixedTitle(const Game& game, const Adjustment& adjustment, Currency 
       With<"check">(check <= 5 ? FormatMoney(game.settings.CheckValue[check]) : std::string()));
 }
 
-void BetFixed(Game& game, int seat, int bet, const Adjustment& adjustment) {
+void BetFixed(Game& game, SeatId seat, BetId bet, const Adjustment& adjustment) {
   const bool units = adjustment.unit > kPercent;
   const Currency wanted = units ? UnitsInDollars(game, bet, adjustment) : adjustment.value;
   ChangeBet(game, seat, bet, -AmountUp(game, seat, bet));
@@ -189,12 +189,12 @@ struct Treatment {
   Currency pressUnit = kZero;           // of the choices that press by it
 };
 
-Adjustment AdjustmentOf(const Game& game, int seat, int slot, const SettleAnswer* typed) {
+Adjustment AdjustmentOf(const Game& game, SeatId seat, int slot, const SettleAnswer* typed) {
   if (typed == nullptr) return SlotOf(game, seat, slot);
   return {typed->adjustKind, typed->adjustValue, typed->adjustUnit};
 }
 
-void DoWinChoice(Game& game, int seat, int bet, const Decision& decision, const Treatment& treatment) {
+void DoWinChoice(Game& game, SeatId seat, BetId bet, const Decision& decision, const Treatment& treatment) {
   if (decision.finished || treatment.choice == kWinTakeDown) return TakeDown(game, seat, bet);
   switch (treatment.choice) {
     case kWinPressUnit:
@@ -212,7 +212,7 @@ void DoWinChoice(Game& game, int seat, int bet, const Decision& decision, const 
   }
 }
 
-void DoLoseChoice(Game& game, int seat, int bet, const Decision& decision, const Treatment& treatment) {
+void DoLoseChoice(Game& game, SeatId seat, BetId bet, const Decision& decision, const Treatment& treatment) {
   if (decision.finished) return TakeDown(game, seat, bet);
   switch (treatment.choice) {
     case kLoseSame:
@@ -233,7 +233,7 @@ void DoLoseChoice(Game& game, int seat, int bet, const Decision& decision, const
 }
 
 // The dialog's answer, where there is somebody to give one; else the safe choice.
-SettleAnswer Ask(Game& game, int seat, int bet, bool won, const Decision& decision, Currency pressUnit) {
+SettleAnswer Ask(Game& game, SeatId seat, BetId bet, bool won, const Decision& decision, Currency pressUnit) {
   const int safe = won ? int{kWinSame} : int{kLoseTakeDown};
   SettleAnswer answer;
   if (!game.table.TurboRollActive && !game.autobet.ScriptActive[seat]) {
@@ -257,7 +257,7 @@ SettleAnswer Ask(Game& game, int seat, int bet, bool won, const Decision& decisi
 }
 
 // The vig that the decided bet held comes off the table.
-Currency CloseVig(Game& game, int seat, int bet) {
+Currency CloseVig(Game& game, SeatId seat, BetId bet) {
   if (!HasVig(bet)) return kZero;
   Currency& held = VigHeld(game, seat, bet);
   const Currency vig = held;
@@ -268,7 +268,7 @@ Currency CloseVig(Game& game, int seat, int bet) {
 
 // What "Press 1 Unit" adds: the largest check that goes into the bet, in units in which the bet is paid
 // whole.
-Currency PressUnitOf(const Game& game, int seat, int bet) {
+Currency PressUnitOf(const Game& game, SeatId seat, BetId bet) {
   const Settings& settings = game.settings;
   const Currency amount = AmountUp(game, seat, bet);
   const Currency betUnit = PayoffOf(game, bet).BetUnit;
@@ -282,7 +282,7 @@ Currency PressUnitOf(const Game& game, int seat, int bet) {
 
 }  // namespace
 
-void HandleWin(Game& game, int seat, int bet, const Decision& decision) {
+void HandleWin(Game& game, SeatId seat, BetId bet, const Decision& decision) {
   const int choice = game.table.seats[seat].handling.WinHandling;
   // Nothing to ask, nothing to press, no vig to close: what most winners of a system come to.
   if (!HasVig(bet) && choice != kWinManual && choice != kWinPressUnit)
@@ -298,7 +298,7 @@ void HandleWin(Game& game, int seat, int bet, const Decision& decision) {
               {asks ? answer.choice : choice, asks ? &answer : nullptr, pressUnit});
 }
 
-void HandleLoss(Game& game, int seat, int bet, const Decision& decision) {
+void HandleLoss(Game& game, SeatId seat, BetId bet, const Decision& decision) {
   const int choice = game.table.seats[seat].handling.LoseHandling;
   if (!HasVig(bet) && choice != kLoseManual && choice != kLosePlusUnit)
     return DoLoseChoice(game, seat, bet, decision, {choice});
@@ -310,7 +310,7 @@ void HandleLoss(Game& game, int seat, int bet, const Decision& decision) {
                {asks ? answer.choice : choice, asks ? &answer : nullptr, pressUnit});
 }
 
-void HandleOffOdds(Game& game, int seat, int bet, const Decision& decision) {
+void HandleOffOdds(Game& game, SeatId seat, BetId bet, const Decision& decision) {
   const TableState& table = game.table;
   const bool won = table.BetStreak(seat, FlatBetOf(bet)) >= 2;
   const Handling& handling = table.seats[seat].handling;

@@ -42,9 +42,9 @@ extern const char* const kWinChoiceCaptions[8];
 extern const char* const kLoseChoiceCaptions[8];
 
 // The bet that was just paid or taken: closes its vig and carries out the seat's choice.
-void HandleWin(Game& game, int seat, int bet, const Decision& decision);
-void HandleLoss(Game& game, int seat, int bet, const Decision& decision);
+void HandleWin(Game& game, SeatId seat, BetId bet, const Decision& decision);
+void HandleLoss(Game& game, SeatId seat, BetId bet, const Decision& decision);
 // Odds that weren't working as their flat bet was decided.
-void HandleOffOdds(Game& game, int seat, int bet, const Decision& decision);
+void HandleOffOdds(Game& game, SeatId seat, BetId bet, const Decision& decision);
 
 }  // namespace tessaryn

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kPlans = 256;  // a power of two
 constexpr int kStandsNowhere = -1;
-constexpr int kFirstSeat = 1;
+constexpr SeatId kFirstSeat = 1;
 
 // --- What plans are made from.
 
@@ -69,7 +69,7 @@ struct Records {
 constexpr std::size_t kRow = sizeof(PayoffRecord);
 constexpr Records Rows(int first, int last) { return {first * kRow, (last - first + 1) * kRow}; }
 
-constexpr Records OtherRecordsOf(int bet) {
+constexpr Records OtherRecordsOf(BetId bet) {
   switch (FamilyOf(bet)) {
     case FamilyId::kPassLine:
     case FamilyId::kCome:
@@ -102,12 +102,12 @@ constexpr Records OtherRecordsOf(int bet) {
 }
 constexpr auto kOtherRecords = [] {
   std::array<Records, kBets + 1> records{};
-  for (int bet = 1; bet <= kBets; ++bet) records[bet] = OtherRecordsOf(bet);
+  for (BetId bet = 1; bet <= kBets; ++bet) records[bet] = OtherRecordsOf(bet);
   return records;
 }();
 
 // The first bet on a number whose row a bet on the line is paid by while a point is on.
-constexpr int LineRowsOf(int bet) {
+constexpr int LineRowsOf(BetId bet) {
   switch (bet) {
     case kPassLine:
       return kCome4;
@@ -122,7 +122,7 @@ constexpr int LineRowsOf(int bet) {
   }
 }
 
-bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, int bet, int point) {
+bool PaysAsBefore(const PayoffTables& kept, const PayoffTables& now, BetId bet, int point) {
   const int line = LineRowsOf(bet);
   if (line != 0 && point != 0) {
     const int row = BetOn(line, point);
@@ -147,13 +147,14 @@ BetSet WorkingBets(const SeatState& state) { return state.BetWorking.Working() &
 
 // Calls visit(figure) for amounts and vigs in the order of a ride.
 template <typename Visit>
-void ForEachFigure(const Game& game, int seat, Visit visit) {
+void ForEachFigure(const Game& game, SeatId seat, Visit visit) {
   const BetSet& bets = game.table.seats[seat].SeatBets;
-  bets.ForEach([&](int bet) { visit(game.table.BetAmount(seat, bet).raw); });
-  if (bets.Meets(kVigBets)) (bets & kVigBets).ForEach([&](int bet) { visit(VigHeld(game, seat, bet).raw); });
+  bets.ForEach([&](BetId bet) { visit(game.table.BetAmount(seat, bet).raw); });
+  if (bets.Meets(kVigBets))
+    (bets & kVigBets).ForEach([&](BetId bet) { visit(VigHeld(game, seat, bet).raw); });
 }
 
-std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
+std::uint64_t HashOf(const Game& game, SeatId seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const BetSet working = WorkingBets(state);
   std::uint64_t hash = Mixed(state.SeatBets.words[0] ^ static_cast<std::uint64_t>(game.table.Point) << 60,
@@ -170,7 +171,7 @@ std::uint64_t HashOf(const Game& game, int seat, const LuckLayout* layout) {
 }
 
 // Whether the plan was made for what the seat rides with. layout: none where only the point counts.
-inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLayout* layout) {
+inline bool IsFor(const LuckPlan& plan, const Game& game, SeatId seat, const LuckLayout* layout) {
   const SeatState& state = game.table.seats[seat];
   const LuckRide& ride = plan.ride;
   if (!plan.made || !(ride.bets == state.SeatBets) || ride.layout.point != game.table.Point ||
@@ -182,7 +183,7 @@ inline bool IsFor(const LuckPlan& plan, const Game& game, int seat, const LuckLa
   return other == 0;
 }
 
-LuckRide RideOf(const Game& game, int seat) {
+LuckRide RideOf(const Game& game, SeatId seat) {
   const SeatState& state = game.table.seats[seat];
   LuckRide ride;
   ride.layout = LuckLayoutOf(game, state.SeatBets);
@@ -196,17 +197,17 @@ LuckRide RideOf(const Game& game, int seat) {
 }
 
 // Payoffs that have changed are taken over.
-void FollowPayoffs(LuckMeter& meter, const Game& game, int seat) {
+void FollowPayoffs(LuckMeter& meter, const Game& game, SeatId seat) {
   bool stand = true;
   game.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
+      [&](BetId bet) { stand = stand && PaysAsBefore(meter.payoffs, game.payoffs, bet, game.table.Point); });
   if (stand) return;
   meter.payoffs = game.payoffs;
   ForgetPlans(meter);
 }
 
 // Makes the plan at its place, or at the seat's own where that one is ridden with on this roll already.
-std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_t place) {
+std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::size_t place) {
   const LuckRide ride = RideOf(game, seat);
   if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
   if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
@@ -224,7 +225,7 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, int seat, std::size_
 
 // Whether the plan of the last roll with this point is right, where rules stand: the common case, at a
 // glance.
-inline bool StillRides(const LuckPlan& plan, const TableState& table, int seat) {
+inline bool StillRides(const LuckPlan& plan, const TableState& table, SeatId seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
   const BetSet working = WorkingBets(state);
@@ -240,7 +241,7 @@ inline bool StillRides(const LuckPlan& plan, const TableState& table, int seat) 
 }
 
 // Its place in plans.
-std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
+std::size_t PlanFor(LuckMeter& meter, const Game& game, SeatId seat) {
   if (!meter.rulesStand) FollowPayoffs(meter, game, seat);
   LuckLayout layout;
   const BetSet& bets = game.table.seats[seat].SeatBets;
@@ -259,7 +260,7 @@ std::size_t PlanFor(LuckMeter& meter, const Game& game, int seat) {
 }
 
 // What the values have become between rolls.
-void Shift(LuckMeter& meter, int seat, std::int64_t value) {
+void Shift(LuckMeter& meter, SeatId seat, std::int64_t value) {
   SeatLuck& luck = meter.seats[seat];
   luck.shifted += WideInt{value - luck.value} * (meter.unit / kValueUnit);
   luck.value = value;
@@ -267,7 +268,7 @@ void Shift(LuckMeter& meter, int seat, std::int64_t value) {
 
 // Of the bets as they stand, whatever was before.
 void TakeValues(LuckMeter& meter, const Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     meter.seats[seat].value = 0;
     if (game.table.seats[seat].SeatBets.Empty()) continue;
     ++meter.roll;
@@ -314,7 +315,7 @@ namespace {
   const TableState& table = game.table;
   bool byPoint = meter.glances;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     std::int64_t value = 0;
     if (!table.seats[seat].SeatBets.Empty()) {
       LuckPlan* plan = &meter.plans[meter.lastRide[seat][table.Point]];
@@ -339,7 +340,7 @@ namespace {
   luck.expected += plan.expected * (parts - 1);
 }
 
-inline void AddRoll(LuckMeter& meter, int seat, std::size_t outcome) {
+inline void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
   const LuckPlan& plan = *meter.riding[seat];
   SeatLuck& luck = meter.seats[seat];
   luck.luck += plan.outcomes[outcome].luck;
@@ -359,7 +360,7 @@ inline bool RidesAlone(LuckMeter& meter, const Game& game) {
   const LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
   if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
   meter.riding[kFirstSeat] = &plan;
-  meter.ridingSeats = 1u << kFirstSeat;
+  meter.ridingSeats = 1u << 1;
   meter.standsAt = table.Point;
   return true;
 }
@@ -386,13 +387,13 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = -1;
   if (!thrown) return;
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  if (meter.ridingSeats == 1u << kFirstSeat) [[likely]]
+  if (meter.ridingSeats == 1u << 1) [[likely]]
     AddRoll(meter, kFirstSeat, outcome);
   else
     AddRollOfSeats(meter, outcome);
 }
 
-LuckReport LuckOf(const LuckMeter& meter, int seat) {
+LuckReport LuckOf(const LuckMeter& meter, SeatId seat) {
   const SeatLuck& luck = meter.seats[seat];
   const double perDollar = static_cast<double>(meter.unit) * Currency::kPerDollar;
   const auto dollars = [&](WideInt sum) { return perDollar > 0 ? static_cast<double>(sum) / perDollar : 0; };

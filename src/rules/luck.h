@@ -60,7 +60,7 @@ struct LuckMeter {
   std::int64_t unit = 0;  // see LuckUnit
   // What every roll asks for stands side by side.
   std::int64_t throwsBefore = -1;
-  std::int64_t roll = 0;
+  RollNumber roll = 0;
   std::uint32_t ridingSeats = 0;  // bit n: seat n has a plan for the roll to come
   int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
   std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
@@ -102,6 +102,6 @@ struct LuckReport {
   double standardDeviation = 0;  // of luck
   double deviations = 0;         // luck in standard deviations; 0 without any
 };
-LuckReport LuckOf(const LuckMeter& meter, int seat);
+LuckReport LuckOf(const LuckMeter& meter, SeatId seat);
 
 }  // namespace tessaryn

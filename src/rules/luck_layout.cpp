@@ -5,7 +5,7 @@
 namespace tessaryn {
 namespace {
 
-void MarkSide(LuckLayout& layout, std::uint32_t side, int bet, int total) {
+void MarkSide(LuckLayout& layout, std::uint32_t side, BetId bet, int total) {
   if (!IsMarkedFor(layout, bet) && !IsMarkedFor(layout, kMakeAll))
     layout.marks &= ~side;
   else
@@ -76,7 +76,7 @@ LuckLayout LuckLayoutOf(const Game& game, const BetSet& bets) {
   layout.sharpShooter = table.SharpShooterCount;
   layout.rideTheLine = table.RideTheLineCount;
   layout.specials = game.settings.SmallTallEnabled;
-  for (int bet = kAllSmall; bet <= kFourRolls; ++bet)
+  for (BetId bet = kAllSmall; bet <= kFourRolls; ++bet)
     if (table.AnyBets.Has(bet)) layout.marked |= static_cast<std::uint8_t>(1u << (bet - kAllSmall));
   return layout;
 }

@@ -31,7 +31,7 @@ inline constexpr BetSet kHandBets =
 // With what only these bets ask about left out where none is up.
 LuckLayout LuckLayoutOf(const Game& game, const BetSet& bets);
 // Whether one of bets 84 to 87 is up at the table.
-constexpr bool IsMarkedFor(const LuckLayout& layout, int bet) {
+constexpr bool IsMarkedFor(const LuckLayout& layout, BetId bet) {
   return (layout.marked >> (bet - kAllSmall) & 1) != 0;
 }
 constexpr bool AllMarked(std::uint32_t marks, std::uint32_t side) { return (marks & side) == side; }

@@ -7,7 +7,7 @@ namespace tessaryn {
 namespace {
 
 // Whether the money depends on the faces, not on the code alone.
-constexpr bool PaysByDice(int bet) {
+constexpr bool PaysByDice(BetId bet) {
   const FamilyId family = FamilyOf(bet);
   return family == FamilyId::kField || family == FamilyId::kMidway || family == FamilyId::kCAndE ||
          family == FamilyId::kHorn;
@@ -69,14 +69,14 @@ void CompareWithMean(LuckPlan& plan, const Changes& changes, const LuckDice& dic
 
 }  // namespace
 
-void MakeLuckPlan(LuckPlan& plan, const Game& game, int seat, const LuckLayout& layout, const LuckDice& dice,
-                  const LuckChances& chances) {
+void MakeLuckPlan(LuckPlan& plan, const Game& game, SeatId seat, const LuckLayout& layout,
+                  const LuckDice& dice, const LuckChances& chances) {
   const BetSet working = game.table.seats[seat].BetWorking.Working();
   const RolledLayouts rolled = LayoutsAfter(layout);
   Changes changes{};
   plan.before = 0;
   plan.outcomes.fill({});
-  game.table.seats[seat].SeatBets.ForEach([&](int bet) {
+  game.table.seats[seat].SeatBets.ForEach([&](BetId bet) {
     const Currency vig = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
     const RidingBet riding{game, dice, chances, layout, bet, game.table.BetAmount(seat, bet), vig};
     AddBet(plan, changes, riding, rolled, working.Has(bet));

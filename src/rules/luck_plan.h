@@ -47,7 +47,7 @@ struct alignas(64) LuckPlan {
 };
 // Fills the plan for the bets of a seat as they are up now. Of the chances nothing is asked without
 // kHandBets.
-void MakeLuckPlan(LuckPlan& plan, const Game& game, int seat, const LuckLayout& layout, const LuckDice& dice,
-                  const LuckChances& chances);
+void MakeLuckPlan(LuckPlan& plan, const Game& game, SeatId seat, const LuckLayout& layout,
+                  const LuckDice& dice, const LuckChances& chances);
 
 }  // namespace tessaryn

@@ -48,7 +48,7 @@ CodeTable MakeCodeTable() {
   return table;
 }
 
-int MarksCode(const RolledLayout& rolled, int bet) {
+int MarksCode(const RolledLayout& rolled, BetId bet) {
   if (AllMarked(rolled.marks, kAllMarks)) return kFlatWins;
   const bool wins = (bet == kAllSmall && AllMarked(rolled.marks, kSmallMarks)) ||
                     (bet == kAllTall && AllMarked(rolled.marks, kTallMarks));
@@ -99,7 +99,7 @@ std::int64_t InValueUnit(double raw) {
   return std::llround(std::clamp(raw * kValueUnit, -kMost, kMost));
 }
 
-std::int64_t NetOn(const RidingBet& riding, int bet, int code, const DecidedRoll& roll) {
+std::int64_t NetOn(const RidingBet& riding, BetId bet, int code, const DecidedRoll& roll) {
   const Game& game = riding.game;
   const PayoffRecord& record = RecordOf(game.payoffs, roll, bet, code);
   const Currency gross = GrossPayoff(game, bet, code, riding.amount, record, riding.vig);
@@ -115,7 +115,7 @@ DecidedRoll RollOf(const RidingBet& riding, int outcome) {
 
 // A contract on a number, or its opposite: it stands until the number or the seven.
 std::int64_t ContractValue(const RidingBet& riding, int number, bool pass) {
-  const int bet = BetOn(pass ? kCome4 : kDontCome4, number);
+  const BetId bet = BetOn(pass ? kCome4 : kDontCome4, number);
   const std::int64_t made = riding.dice.total[number];
   const std::int64_t seven = riding.dice.total[7];
   if (made + seven == 0) return 0;
@@ -207,11 +207,11 @@ struct HandWorth {
   std::size_t last = 0;               // the highest count
 };
 
-std::size_t CountWithPoint(const HandWorth& worth, int bet, std::size_t count, std::size_t point) {
+std::size_t CountWithPoint(const HandWorth& worth, BetId bet, std::size_t count, std::size_t point) {
   return bet == kFire ? count | std::size_t{1} << point : std::min(count + 1, worth.last);
 }
 
-DecidedRoll HandEnd(int bet, std::size_t count) {
+DecidedRoll HandEnd(BetId bet, std::size_t count) {
   const int made = static_cast<int>(count);
   if (bet == kFire) return {.fireCount = std::popcount(count)};
   return bet == kSharpShooter ? DecidedRoll{.sharpShooterCount = made}
@@ -247,7 +247,7 @@ HandWorth HandWorthOf(const RidingBet& riding) {
   return worth;
 }
 
-std::size_t HandCount(int bet, const LuckLayout& layout) {
+std::size_t HandCount(BetId bet, const LuckLayout& layout) {
   if (bet == kFire) return layout.fireMarks & 63;
   return static_cast<std::size_t>(bet == kSharpShooter ? layout.sharpShooter : layout.rideTheLine);
 }

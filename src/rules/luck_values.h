@@ -16,7 +16,7 @@ struct RidingBet {
   const LuckDice& dice;
   const LuckChances& chances;
   const LuckLayout& layout;
-  int bet = 0;
+  BetId bet = 0;
   Currency amount;
   Currency vig;  // that it holds
 };

@@ -1,10 +1,10 @@
 #include "rules/payoffs.h"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 #include <numeric>
 
+#include "base/letters.h"
 #include "base/messages.h"
 #include "state/bet_families.h"
 #include "state/game.h"
@@ -234,7 +234,7 @@ ConfigurationProblem CheckHandTable(const PayoffRecord* rows, int count, const c
 }
 
 struct LineRow {
-  int bet;
+  BetId bet;
   const char* name;
 };
 constexpr LineRow kLineRows[] = {{45, "Passline/Come (c.o.)"},
@@ -269,7 +269,7 @@ PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row) {
   return tables[table][row];
 }
 
-const PayoffRecord& PayoffOf(const Game& game, int bet) {
+const PayoffRecord& PayoffOf(const Game& game, BetId bet) {
   const PayoffRecord* records = game.payoffs.PayoffTable;
   if (bet != kPassLineOdds && bet != kDontPassOdds) return records[bet];
   const TableState& table = game.table;
@@ -278,7 +278,7 @@ const PayoffRecord& PayoffOf(const Game& game, int bet) {
   return records[BetOn(bet == kPassLineOdds ? kComeOdds4 : kDontComeOdds4, point)];
 }
 
-std::span<const PayoffRecord> PayoffRowsOf(const Game& game, int bet) {
+std::span<const PayoffRecord> PayoffRowsOf(const Game& game, BetId bet) {
   const int table = static_cast<int>(FamilyRowOf(bet).payoffs);
   if (table == 0) return {&PayoffOf(game, bet), 1};
   const PayoffTableInfo& rows = kTables[table];
@@ -319,16 +319,11 @@ void SetFieldPreset(PayoffTables& payoffs, int id, Currency unit) {
 }
 
 int FieldPresetByName(std::string_view name) {
-  const auto same = [](char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
-  };
   const std::string_view prefix = kOlderPrefix;
-  if (name.size() > prefix.size() && std::equal(prefix.begin(), prefix.end(), name.begin(), same))
+  if (name.size() > prefix.size() && SameLetters(name.substr(0, prefix.size()), prefix))
     name.remove_prefix(prefix.size());
-  for (int id = 0; id < kFieldPresets; ++id) {
-    const std::string_view known = kPresets[id].name;
-    if (std::equal(known.begin(), known.end(), name.begin(), name.end(), same)) return id;
-  }
+  for (int id = 0; id < kFieldPresets; ++id)
+    if (SameLetters(kPresets[id].name, name)) return id;
   return -1;
 }
 
@@ -401,8 +396,7 @@ std::string PayoffText(const PayoffRecord& record) {
 }
 
 bool ParsePayoff(std::string_view text, PayoffRecord& record) {
-  std::string lower;
-  for (const char c : text) lower += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  const std::string lower = Lowered(text);
   for (const std::string_view word : {" to ", " for ", ":", "/"}) {
     const auto at = lower.find(word);
     if (at == std::string::npos) continue;

@@ -28,9 +28,9 @@ PayoffRecord& PayoffRow(PayoffTables& payoffs, int table, int row);
 // The record by which the bet is paid now. Of odds on the line it is that of the odds on the point, on a
 // come-out on the point before it. Of a bet with a table of its own, and of one in shares, it tells nothing
 // but its BetUnit.
-const PayoffRecord& PayoffOf(const Game& game, int bet);
+const PayoffRecord& PayoffOf(const Game& game, BetId bet);
 // The rows of a bet's payoffs: its own table, or its one record.
-std::span<const PayoffRecord> PayoffRowsOf(const Game& game, int bet);
+std::span<const PayoffRecord> PayoffRowsOf(const Game& game, BetId bet);
 
 // The house's original payoffs, BetUnit included.
 void ResetPayoffs(PayoffTables& payoffs, Currency unit);

@@ -32,7 +32,7 @@ namespace roll_payoff {
 // By total: as what a share of a bet in shares wins, 0 where all of them lose.
 inline constexpr auto kPartOn = [] {
   std::array<std::array<std::uint8_t, 13>, kBets + 1> parts{};
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     for (int die1 = 1; die1 <= 6; ++die1)
       for (int die2 = 1; die2 <= 6; ++die2)
         parts[bet][die1 + die2] = static_cast<std::uint8_t>(WinningPart(bet, die1, die2));
@@ -40,13 +40,13 @@ inline constexpr auto kPartOn = [] {
 }();
 
 // The record of a bet on the line: that of a bet that travels, or on a come-out of one that waits.
-inline const PayoffRecord& LineRecord(const PayoffTables& payoffs, int point, int waiting,
-                                      int firstOnNumber) {
+inline const PayoffRecord& LineRecord(const PayoffTables& payoffs, int point, BetId waiting,
+                                      BetId firstOnNumber) {
   return payoffs.PayoffTable[point == 0 ? waiting : BetOn(firstOnNumber, point)];
 }
 
 // The record that a winner is paid by.
-inline const PayoffRecord& WinnersRecord(const PayoffTables& payoffs, const DecidedRoll& roll, int bet,
+inline const PayoffRecord& WinnersRecord(const PayoffTables& payoffs, const DecidedRoll& roll, BetId bet,
                                          int code) {
   switch (FamilyOf(bet)) {
     case FamilyId::kPassLine:
@@ -98,7 +98,8 @@ inline Currency PaidOnShare(Currency amount, int shares, const PayoffRecord& rec
 }  // namespace roll_payoff
 
 // The record of a bet that is decided with the code.
-inline const PayoffRecord& RecordOf(const PayoffTables& payoffs, const DecidedRoll& roll, int bet, int code) {
+inline const PayoffRecord& RecordOf(const PayoffTables& payoffs, const DecidedRoll& roll, BetId bet,
+                                    int code) {
   if (bet == kField) return payoffs.FieldPayoffs[FieldRow(roll.die1, roll.die2)];
   if (code > 0) return roll_payoff::WinnersRecord(payoffs, roll, bet, code);
   return payoffs.PayoffTable[bet].ForFlag == kZero ? roll_payoff::kLostFor : roll_payoff::kLostTo;
@@ -106,8 +107,8 @@ inline const PayoffRecord& RecordOf(const PayoffTables& payoffs, const DecidedRo
 
 // What the record brings before it is cut to betting units; vig is what the bet holds of it. The error value
 // on an overflow.
-inline Currency GrossPayoff(const Game& game, int bet, int code, Currency amount, const PayoffRecord& record,
-                            Currency vig) {
+inline Currency GrossPayoff(const Game& game, BetId bet, int code, Currency amount,
+                            const PayoffRecord& record, Currency vig) {
   const int shares = code > 0 ? SharesOf(bet) : 1;
   const Currency gross =
       shares == 1 ? roll_payoff::Paid(amount, record) : roll_payoff::PaidOnShare(amount, shares, record);

@@ -21,7 +21,7 @@ namespace {
 
 // A contract bet that the session leaves behind is the house's: what has ridden. What was added since is no
 // contract yet and goes back with the other bets.
-void Abandon(Game& game, int seat, int bet) {
+void Abandon(Game& game, SeatId seat, BetId bet) {
   TableState& table = game.table;
   const Currency ridden = std::min(table.BetAmount(seat, bet), table.BetCommitted(seat, bet));
   if (ridden == kZero) return;
@@ -30,8 +30,8 @@ void Abandon(Game& game, int seat, int bet) {
 }
 
 void AbandonContracts(Game& game) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
-    game.table.seats[seat].SeatBets.ForEach([&](int bet) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
+    game.table.seats[seat].SeatBets.ForEach([&](BetId bet) {
       if (UnderContract(game.table, bet)) Abandon(game, seat, bet);
     });
   }
@@ -39,7 +39,7 @@ void AbandonContracts(Game& game) {
 
 void ClearBets(Game& game, bool keepCheckstacks) {
   TableState& table = game.table;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     TakeDownBets(game, seat, kAllTableBets);
     if (!keepCheckstacks) {
       for (int stack = 0; stack < kCheckStacks; ++stack) {
@@ -47,9 +47,9 @@ void ClearBets(Game& game, bool keepCheckstacks) {
         table.seats[seat].CheckStackName[stack].clear();
       }
     }
-    for (int bet = 1; bet < kBetRows; ++bet)
+    for (BetId bet = 1; bet < kBetRows; ++bet)
       table.BetBeforeRoll(seat, bet) = table.BetAfterRoll(seat, bet) = table.BetAmount(seat, bet);
-    for (int bet = 1; bet <= 100; ++bet) {
+    for (BetId bet = 1; bet <= 100; ++bet) {
       if (bet < 100) table.BetCommitted(seat, bet) = kZero;
       table.BetStreak(seat, bet) = table.BetStreakBefore(seat, bet) = 0;
     }
@@ -59,7 +59,7 @@ void ClearBets(Game& game, bool keepCheckstacks) {
   }
 }
 
-Currency AskBankroll(Game& game, int seat) {
+Currency AskBankroll(Game& game, SeatId seat) {
   Currency& stored = game.table.seats[seat].BankrollInitAmount;
   game.box.MsgValue1 = stored;
   if (ShowMessage<Msg::kAskBeginningBankroll>(game, With<"player">(game.table.seats[seat].SeatName)) ==
@@ -69,7 +69,7 @@ Currency AskBankroll(Game& game, int seat) {
 }
 
 // The session starts with the amount; what all sessions have seen of the bankroll stays if they stay.
-void StartSeat(Game& game, int seat, Currency amount, bool keepPrevSessions) {
+void StartSeat(Game& game, SeatId seat, Currency amount, bool keepPrevSessions) {
   Statistics& stats = game.stats;
   const int all = Slot(kAllSessions, seat);
   const Currency beginning = stats.BankrollBeginning[all];
@@ -84,7 +84,7 @@ void StartSeat(Game& game, int seat, Currency amount, bool keepPrevSessions) {
 
 void StartBankrolls(Game& game, bool keepPrevSessions) {
   TableState& table = game.table;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
     Currency amount = table.BankrollCurrent[seat];
     if (table.seats[seat].BankrollInitType == 1) amount = table.seats[seat].BankrollInitAmount;
@@ -103,7 +103,7 @@ void ResetTable(TableState& table) {
   table.FireCount = table.SharpShooterCount = table.RideTheLineCount = 0;
   table.ManualRollPending = false;
   table.PreviousHandSeat = 0;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     table.seats[seat].BetWorking = {};
     table.seats[seat].BetWorking.byDefault = table.seats[seat].BetDefaultWorking;
     table.seats[seat].BetWorkingBeforeRoll = table.seats[seat].BetWorking;
@@ -125,7 +125,7 @@ void SetRollFile(Game& game, int choice) {
 void NewSession(Game& game, bool keepPrevSessions, bool keepCheckstacks, bool keepSessionsLogs,
                 int rollFileChoice) {
   if (!game.settings.ReturnAbandonedBets) AbandonContracts(game);
-  for (int seat = 1; seat <= kSeats; ++seat) AppendSessionRecord(game, seat);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) AppendSessionRecord(game, seat);
   const std::string undeleted = keepSessionsLogs ? "" : RemoveSessionsLogs(game);
   StartSessionStatistics(game);
   if (!keepPrevSessions) ClearPreviousSessions(game);

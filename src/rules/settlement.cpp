@@ -27,7 +27,7 @@ DecidedRoll RollOnTable(const TableState& table) {
 }
 
 // What the bet brings. Either sum is the error value on an overflow.
-Decision ComputePayoff(const Game& game, int seat, int bet, int code, Currency amount) {
+Decision ComputePayoff(const Game& game, SeatId seat, BetId bet, int code, Currency amount) {
   const PayoffRecord& record = RecordOf(game.payoffs, RollOnTable(game.table), bet, code);
   const Currency gross =
       GrossPayoff(game, bet, code, amount, record, HasVig(bet) ? VigHeld(game, seat, bet) : kZero);
@@ -35,7 +35,7 @@ Decision ComputePayoff(const Game& game, int seat, int bet, int code, Currency a
 }
 
 // Over, so that it must not stay up.
-bool IsFinished(const Game& game, int bet, int seat) {
+bool IsFinished(const Game& game, BetId bet, SeatId seat) {
   const TableState& table = game.table;
   switch (FamilyOf(bet)) {
     case FamilyId::kCome:
@@ -62,7 +62,7 @@ bool IsFinished(const Game& game, int bet, int seat) {
 }
 
 // An odds bet that was not working when its flat bet was decided.
-void SettleOffOdds(Game& game, int seat, int bet) {
+void SettleOffOdds(Game& game, SeatId seat, BetId bet) {
   // Without their point line odds ride with nothing, even where handling made the flat bet again.
   const bool onLine = FamilyRowOf(bet).decidedBy == DecidedBy::kLine;
   Decision decision;
@@ -72,7 +72,7 @@ void SettleOffOdds(Game& game, int seat, int bet) {
 }
 
 // Decides the seat's bet. A bet that isn't up or isn't working is passed over, odds apart.
-void SettleBet(Game& game, int seat, int code, int bet) {
+void SettleBet(Game& game, SeatId seat, int code, BetId bet) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, bet);
   if (amount == kZero) return;
@@ -105,7 +105,7 @@ void SettleBet(Game& game, int seat, int code, int bet) {
 }
 
 // Carries a Come or Don't Come bet to its number.
-void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
+void MoveComeBet(Game& game, SeatId seat, BetId fromBet, BetId toBet) {
   TableState& table = game.table;
   const Currency amount = table.BetAmount(seat, fromBet);
   if (amount == kZero) return;
@@ -119,7 +119,7 @@ void MoveComeBet(Game& game, int seat, int fromBet, int toBet) {
     table.seats[seat].ComeTravelAmount[toBet - kCome4] = amount;
     if (table.seats[seat].handling.AutoDownPlace) {
       const int number = FactsOf(toBet).number;
-      for (const int bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
+      for (const BetId bet : {BetOn(kPlace4, number), BetOn(kBuy4, number)})
         ChangeBet(game, seat, bet, -table.BetAmount(seat, bet));
     }
   }
@@ -132,7 +132,7 @@ void PassOver(Game& game, const SettleStep& step) {
   unsigned seats = table.SeatsUp[step.bet];
   if (step.oddsBet != 0) seats |= table.SeatsUp[step.oddsBet];
   for (; seats != 0; seats &= seats - 1) {
-    const int seat = kPayOrder[std::countr_zero(seats)];
+    const SeatId seat = kPayOrder[std::countr_zero(seats)];
     const Currency flat = table.BetAmount(seat, step.bet);
     SettleBet(game, seat, step.code, step.bet);
     if (step.oddsBet == 0) continue;
@@ -156,11 +156,11 @@ inline void WalkSteps(Game& game, const SettleSteps& steps, const RollFacts& rol
   if (steps.bets.Meets(game.table.AnyBets)) WalkStepsUp(game, steps, roll);
 }
 
-void SettleAll(Game& game, int code, int bet) {
+void SettleAll(Game& game, int code, BetId bet) {
   PassOver(game, {static_cast<std::uint8_t>(bet), static_cast<std::int8_t>(code)});
 }
 
-void MoveAll(Game& game, int fromBet, int toBet) {
+void MoveAll(Game& game, BetId fromBet, BetId toBet) {
   for (unsigned seats = game.table.SeatsUp[fromBet]; seats != 0; seats &= seats - 1)
     MoveComeBet(game, kPayOrder[std::countr_zero(seats)], fromBet, toBet);
 }
@@ -171,7 +171,7 @@ void LoseMarkBets(Game& game) {
   if (table.RollTotal != 7) return;
   table.NumberMarks = 0;
   if (!table.AnyBets.Meets(kSpecialProps)) return;
-  for (const int bet : {kAllSmall, kAllTall, kMakeAll, kFourRolls}) SettleAll(game, kFlatLoses, bet);
+  for (const BetId bet : {kAllSmall, kAllTall, kMakeAll, kFourRolls}) SettleAll(game, kFlatLoses, bet);
 }
 
 // Point 7 and 7 Point 7 when the roll after the point, or a come-out, leaves them undecided.
@@ -209,7 +209,7 @@ void WinMarkBets(Game& game) {
   TableState& table = game.table;
   if ((table.NumberMarks & kAllMarks) == kAllMarks) {
     table.NumberMarks = 0;
-    for (const int bet : {kAllSmall, kAllTall, kMakeAll}) SettleAll(game, kFlatWins, bet);
+    for (const BetId bet : {kAllSmall, kAllTall, kMakeAll}) SettleAll(game, kFlatWins, bet);
   } else {
     if ((table.NumberMarks & kSmallMarks) == kSmallMarks) {
       ClearSideUnlessMakeAll(table, kSmallMarks);

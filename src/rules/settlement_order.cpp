@@ -86,18 +86,18 @@ struct StepList {
   std::array<SettleStep, kMost> steps{};
   std::size_t count = 0;
 
-  constexpr void Add(int bet, int code, StepWhen when = W::kAlways, int oddsBet = 0) {
+  constexpr void Add(BetId bet, int code, StepWhen when = W::kAlways, BetId oddsBet = 0) {
     steps[count++] = {static_cast<std::uint8_t>(bet), static_cast<std::int8_t>(code), when,
                       static_cast<std::uint8_t>(oddsBet)};
   }
   constexpr SettleSteps Steps() const { return std::span<const SettleStep>(steps.data(), count); }
 };
 
-constexpr bool WinsOnTotal(int bet, int total) {
+constexpr bool WinsOnTotal(BetId bet, int total) {
   return (FactsOf(bet).wins & roll_items::TotalMask(total)) != 0;
 }
 
-constexpr bool StandsOn(const FamilySteps& row, int bet, int total) {
+constexpr bool StandsOn(const FamilySteps& row, BetId bet, int total) {
   if (row.totals != 0) return (row.totals >> total & 1) != 0;
   return FactsOf(bet).number == total || WinsOnTotal(bet, total);
 }
@@ -109,9 +109,9 @@ constexpr std::array<TotalList, 13> ListsOf(const FamilySteps (&rows)[kRows], in
   std::array<TotalList, 13> lists{};
   for (int total = 2; total <= 12; ++total)
     for (const FamilySteps& row : rows)
-      BetsOf(row.family).ForEach([&](int bet) {
+      BetsOf(row.family).ForEach([&](BetId bet) {
         if (!StandsOn(row, bet, total)) return;
-        lists[total].Add(bet, code, row.when, row.odds == F::kNone ? 0 : OddsBetOf(bet));
+        lists[total].Add(bet, code, row.when, row.odds == F::kNone ? kNoBet : OddsBetOf(bet));
       });
   return lists;
 }
@@ -122,7 +122,7 @@ constexpr auto kOneRollLists = [] {
   std::array<TotalList, 13> lists{};
   for (int total = 2; total <= 12; ++total)
     for (const FamilyId family : kOneRollFamilies)
-      BetsOf(family).ForEach([&](int bet) {
+      BetsOf(family).ForEach([&](BetId bet) {
         const bool wins = family == F::kField || WinsOnTotal(bet, total);
         if (!wins || IsDecidedAtOnce(family)) lists[total].Add(bet, wins ? 1 : -1);
       });
@@ -133,17 +133,17 @@ constexpr auto kOneRollLists = [] {
 // smaller face.
 constexpr auto kHopOrder = [] {
   constexpr int kHops = BetsOf(F::kHop).Size();
-  const auto rank = [](int bet) {
+  const auto rank = [](BetId bet) {
     for (int total = 2; total <= 12; ++total)
       for (int low = 1; low <= 6; ++low)
         if (total >= 2 * low && total - low <= 6 &&
             (FactsOf(bet).wins & CombinationBit(low, total - low)) != 0)
-          return std::array{total, low, bet};
-    return std::array{0, 0, bet};
+          return std::array{total, low, bet.value};
+    return std::array{0, 0, bet.value};
   };
-  std::array<int, kHops> bets{};
+  std::array<BetId, kHops> bets{};
   int at = 0;
-  BetsOf(F::kHop).ForEach([&](int bet) { bets[at++] = bet; });
+  BetsOf(F::kHop).ForEach([&](BetId bet) { bets[at++] = bet; });
   std::ranges::sort(bets, {}, rank);
   return bets;
 }();
@@ -151,7 +151,7 @@ constexpr auto kHopOrder = [] {
 constexpr auto HopLists(bool winners) {
   std::array<StepList<kHopOrder.size()>, 36> lists{};
   for (int pair = 0; pair < 36; ++pair)
-    for (const int bet : kHopOrder)
+    for (const BetId bet : kHopOrder)
       if (((FactsOf(bet).wins >> pair & 1) != 0) == winners) lists[pair].Add(bet, winners ? 1 : -1);
   return lists;
 }

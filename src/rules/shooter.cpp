@@ -10,13 +10,13 @@ namespace tessaryn {
 namespace {
 
 // The dice go round downwards.
-int NextSeat(int seat) { return seat <= 1 ? kSeats : seat - 1; }
+SeatId NextSeat(SeatId seat) { return seat <= 1 ? kSeats : seat - 1; }
 
 struct ShooterSearch {
-  int seat = 0;         // who may take the dice; 0 nobody
-  int others = 0;       // other players at the table
-  int otherSeat = 0;    // one of them
-  int lackLineBet = 0;  // willing, but without the line bet that is needed
+  SeatId seat = 0;        // who may take the dice; 0 nobody
+  int others = 0;         // other players at the table
+  SeatId otherSeat = 0;   // one of them
+  BetId lackLineBet = 0;  // willing, but without the line bet that is needed
 };
 
 ShooterSearch SearchShooter(const Game& game) {
@@ -52,9 +52,9 @@ void TellNobody(Game& game, const ShooterSearch& search) {
     ShowMessage<Msg::kNobodyWillShoot>(game);
 }
 
-void GiveDice(Game& game, int seat, int reason) {
+void GiveDice(Game& game, SeatId seat, int reason) {
   TableState& table = game.table;
-  const int oldShooter = table.ShooterSeat;
+  const SeatId oldShooter = table.ShooterSeat;
   const bool byUser = reason == kPassByUser;
   if (byUser && game.events.RecordShooterChanges)
     WriteEventsLogLine(game, MessageText<Msg::kLogDicePassed>(With<"player">(table.seats[seat].SeatName)));
@@ -77,7 +77,7 @@ bool MustTell(const Game& game, int reason) {
 
 }  // namespace
 
-int NextOccupied(const TableState& table, int seat) {
+SeatId NextOccupied(const TableState& table, SeatId seat) {
   for (int step = 0, next = NextSeat(seat); step < kSeats - 1; ++step, next = NextSeat(next))
     if (IsOccupied(table, next)) return next;
   return 0;

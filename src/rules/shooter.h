@@ -13,6 +13,6 @@ enum PassReason : int { kPassAfterSevenOut = 0, kPassByUser = 1, kPassShooterLef
 // The dice go on, downwards. A user's call says why they can't.
 void PassDice(Game& game, int reason);
 // The next occupied seat from a seat on, downwards; 0 when there is none but itself.
-int NextOccupied(const TableState& table, int seat);
+SeatId NextOccupied(const TableState& table, SeatId seat);
 
 }  // namespace tessaryn

@@ -69,8 +69,8 @@ struct PreparedProgramDeleter {
 
 // One step of a run as the viewer shows it.
 struct ScriptStep {
-  int seat = 0;  // whose script it is
-  int line = 0;  // 1-based source line
+  SeatId seat = 0;  // whose script it is
+  int line = 0;     // 1-based source line
   int column = 0;
   std::string text;  // "\r" between its lines
   int error = 0;     // the code of a statement's run-time error
@@ -95,7 +95,7 @@ struct AutoBet {
   // --- The run.
   bool ScriptRunning = false;  // clearing it stops the run at the next statement
   bool ScriptInitializing = false;
-  int CurrentAutobettor = 0;
+  SeatId CurrentAutobettor = 0;
   std::size_t Work = 0;       // done since the host had its turn: see GiveWay
   int ScriptError = 0;        // run-time error of the current statement; 0 none
   std::string ScriptFault;    // the text of error 10000

@@ -245,13 +245,13 @@ constexpr const FamilyRow& RowOfFamily(FamilyId family) {
   return bet_families::kRows[static_cast<std::size_t>(family)];
 }
 // The row of a bet's family. Of no bet that of no family, whose bets nothing is known of.
-constexpr const FamilyRow& FamilyRowOf(int bet) { return RowOfFamily(FamilyOf(bet)); }
+constexpr const FamilyRow& FamilyRowOf(BetId bet) { return RowOfFamily(FamilyOf(bet)); }
 
 // The bets of all families for which the condition holds.
 template <typename Condition>
 constexpr BetSet BetsWhere(Condition condition) {
   BetSet set;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     if (condition(FamilyRowOf(bet))) set.Add(bet);
   return set;
 }
@@ -271,12 +271,12 @@ inline constexpr BetSet kSwitchableBets =
 inline constexpr BetSet kVigBets = BetsWhere([](const FamilyRow& row) { return row.vigUpFront != nullptr; });
 
 // Whether the table, as configured, takes the bet at all.
-inline bool BetOffered(const Settings& settings, int bet) {
+inline bool BetOffered(const Settings& settings, BetId bet) {
   const FamilyRow& row = FamilyRowOf(bet);
   return row.offered == nullptr ? row.family != FamilyId::kNone : settings.*row.offered;
 }
 // Whether what has ridden on the bet can't come down now.
-inline bool UnderContract(const TableState& table, int bet) {
+inline bool UnderContract(const TableState& table, BetId bet) {
   const Contract contract = FamilyRowOf(bet).contract;
   return contract == Contract::kAlways || (contract == Contract::kWithPoint && table.Point != 0);
 }

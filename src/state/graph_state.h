@@ -36,7 +36,7 @@ struct BankrollGraph {
   int PlotCount = 0;             // points on the graph, 0 to 525
   std::int64_t PagesFilled = 0;  // full pages so far; the last one is the previous page
   // --- Choices of the user. PlotSeat is written by SelectPlotSeat.
-  int PlotSeat = 1;
+  SeatId PlotSeat = 1;
   int PlotType = kPlotPage;
   int ScaleMode = kScaleShift;
   int MovingAverageRolls = 0;  // 0 to 525; 0 all rolls of the session

@@ -73,8 +73,8 @@ struct SettleAnswer {
 
 // A decided bet, for the settlement dialog.
 struct SettleQuestion {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   bool won = false;
   bool offOdds = false;   // odds that weren't working: nothing was paid or taken
   bool finished = false;  // over: it comes down with every choice

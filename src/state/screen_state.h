@@ -86,11 +86,11 @@ TESSARYN_FIELDS(HotKey, key, path, description)
 
 // What is selected on the reports.
 struct ReportsShown {
-  int Scope = 2;                // 0 to 4, as statistics have it
+  ScopeId Scope = 2;            // 0 to 4, as statistics have it
   std::uint32_t Seats = 0x1FE;  // bit i: seat i
-  int Seat = 0;                 // of Bet Trends; 0 the selected player
+  SeatId Seat = 0;              // of Bet Trends; 0 the selected player
   bool AllBets = true;
-  std::vector<int> Bets;  // without AllBets, ascending
+  std::vector<BetId> Bets;  // without AllBets, ascending
   bool HandsPercent = false;
   int RollGrouping = 0;  // 0 totals, 1 pairs, 2 combinations, 3 faces
   bool HideProbabilities = false;
@@ -115,11 +115,25 @@ struct GraphShown {
 TESSARYN_FIELDS(GraphShown, GraphStyle, GraphColors, TogetherSeats, GraphsPerPage)
 
 struct CheckStacksShown {
-  int CheckStackSeat = 0;  // 0 the selected player
+  SeatId CheckStackSeat = 0;  // 0 the selected player
   bool DisplayZero = false;
   int ListFontSize = 0;  // points, 9 to 16; 0 the desktop's
 };
 TESSARYN_FIELDS(CheckStacksShown, CheckStackSeat, DisplayZero, ListFontSize)
+
+// A roll among the last ones that the board shows.
+struct KeptRoll {
+  int Die1 = 1;
+  int Die2 = 1;
+  int PointBefore = 0;  // 0: a come-out roll
+  int ShooterSeat = 0;
+
+  int Total() const { return Die1 + Die2; }
+  friend bool operator==(const KeptRoll&, const KeptRoll&) = default;
+};
+TESSARYN_FIELDS(KeptRoll, Die1, Die2, PointBefore, ShooterSeat)
+
+inline constexpr int kMostKeptRolls = 2000;
 
 struct ScreenState {
   // --- Windows.
@@ -138,7 +152,9 @@ struct ScreenState {
   int FurtherWindows[8] = {};  // of windows to come
   // --- The table.
   KeptView View;
-  KeptView SavedViews[kKeptViews];  // "View 0" to "View 9"
+  KeptView SavedViews[kKeptViews];     // "View 0" to "View 9"
+  std::vector<KeptRoll> DiceHistory;   // of this session, the newest last; at most kMostKeptRolls
+  std::int64_t DiceHistoryThrows = 0;  // of the table when the newest was rolled
   bool ShowBetAmounts = false;
   bool ShowPropositions = false;
   int BetAmountMode = 1;  // how a click gets its amount, as TableCommands has it
@@ -152,8 +168,8 @@ struct ScreenState {
 };
 TESSARYN_FIELDS(ScreenState, MainWindow, MainPlace, ToolWindows, FurtherPlaces, Arrangement, Reports, Graph,
                 CheckStacks, RailLeft, RailTop, ReportViewOption, FurtherWindows, View, SavedViews,
-                ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount, HotKeysEnabled, SettleInBoxes,
-                looks, Folders, HotKeys)
+                DiceHistory, DiceHistoryThrows, ShowBetAmounts, ShowPropositions, BetAmountMode, ClickAmount,
+                HotKeysEnabled, SettleInBoxes, looks, Folders, HotKeys)
 
 // The game file that the table belongs to. Written by game_file.cpp.
 struct GameFileState {

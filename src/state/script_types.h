@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "base/fields.h"
+#include "base/table_types.h"
 
 namespace tessaryn {
 
@@ -63,6 +64,8 @@ enum TokenKind : std::int32_t {
   kTokenList = -81,   // value: 2 any, 3 all
 };
 
+constexpr bool IsRelation(int tokenKind) { return tokenKind >= kTokenEqual && tokenKind <= kTokenGreaterEqual; }
+
 struct ScriptToken {
   std::int32_t kind = 0;
   double value = 0;  // the code within the kind, a number, a string index, or a jump target
@@ -114,7 +117,7 @@ struct ScriptSurroundings {
 
 // A script that compiled, and all that it was compiled from.
 struct KeptScript {
-  int seat = 0;
+  SeatId seat = 0;
   std::vector<std::string> lines;
   ScriptSurroundings surroundings;
   CompiledScript script;

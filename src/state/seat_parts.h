@@ -23,10 +23,10 @@ void ForEachSeatPart(T& value, Part&& part) {
   } else if constexpr (HasFields<T>) {
     ForEachField(value, [&](const char*, auto& field) { ForEachSeatPart(field, part); });
   } else if constexpr (std::extent_v<T> == kSeatRows) {
-    part([&](int seat) -> auto& { return value[seat]; });
+    part([&](SeatId seat) -> auto& { return value[seat]; });
   } else if constexpr (std::extent_v<T> == kSlots) {
-    for (int scope = 0; scope < kScopes; ++scope)
-      part([&](int seat) -> auto& { return value[Slot(scope, seat)]; });
+    for (ScopeId scope = 0; scope < kScopes; ++scope)
+      part([&](SeatId seat) -> auto& { return value[Slot(scope, seat)]; });
   } else if constexpr (std::is_array_v<T>) {
     for (auto& element : value) ForEachSeatPart(element, part);
   }

@@ -58,7 +58,7 @@ enum class OutlierRule {
 };
 
 struct SessionsLogs {
-  int SessionsSeat = 0;         // 0 nobody
+  SeatId SessionsSeat = 0;      // 0 nobody
   int SessionsStat = 8;         // the measure, a field 0 to 11
   int SessionsDisplayMode = 0;  // 0 " Histogram", 1 " Data"
   Currency BreakPointLow;       // a net below is Lost, ...

@@ -16,10 +16,10 @@ struct TableState {
   SeatState seats[kSeatRows];        // 0 is the house
   int OccupiedSeats = 0;             // seats 1 to 8 with a name
   std::uint8_t Seated[kSeats] = {};  // those seats, ascending; the first OccupiedSeats count
-  int ShooterSeat = 0;               // holds the dice; 0 nobody
-  int HandSeat = 0;                  // credited with the hand in play; 0 nobody
-  int PreviousHandSeat = 0;          // credited with the hand that just ended
-  int SelectedSeat = 0;              // whose bets the table shows and edits; 0 nobody
+  SeatId ShooterSeat = 0;            // holds the dice; 0 nobody
+  SeatId HandSeat = 0;               // credited with the hand in play; 0 nobody
+  SeatId PreviousHandSeat = 0;       // credited with the hand that just ended
+  SeatId SelectedSeat = 0;           // whose bets the table shows and edits; 0 nobody
 
   // --- Bets. BetAmount is written by SetBetAmount (bet_rules.cpp) alone, which keeps the sets below.
   SeatBetTable<Currency> BetAmount;      // now up; of a CheckStack its value
@@ -37,8 +37,8 @@ struct TableState {
   std::uint32_t SeatsSinceAfter = 0;
 
   // Where this roll's Come and Don't Come bets moved, 0 for none; zeroed as the next dice are thrown.
-  int ComeMovedTo[kSeatRows] = {};
-  int DontComeMovedTo[kSeatRows] = {};
+  BetId ComeMovedTo[kSeatRows];
+  BetId DontComeMovedTo[kSeatRows];
   bool AnyBetMoved = false;
 
   // --- Money by seat.
@@ -87,19 +87,19 @@ inline constexpr std::uint32_t kTallMarks = 7936;
 inline constexpr std::uint32_t kAllMarks = kSmallMarks | kTallMarks;
 
 // BetWorking as a number: -1 called OFF, 0 off by default, 1 working, 2 called ON.
-inline int WorkingValue(const WorkingState& state, int bet) {
+inline int WorkingValue(const WorkingState& state, BetId bet) {
   if (state.calledOff.Has(bet)) return -1;
   if (state.calledOn.Has(bet)) return 2;
   return state.byDefault.Has(bet) ? 1 : 0;
 }
 
 // Notes that the copies of a seat's bet before the roll are out of date.
-inline void TouchBefore(TableState& table, int seat, int bet) {
+inline void TouchBefore(TableState& table, SeatId seat, BetId bet) {
   table.seats[seat].TouchedSinceBefore.Add(bet);
   table.SeatsSinceBefore |= 1u << seat;
 }
 
-inline bool IsOccupied(const TableState& table, int seat) {
+inline bool IsOccupied(const TableState& table, SeatId seat) {
   return seat >= 1 && seat <= kSeats && !table.seats[seat].SeatName.empty();
 }
 

@@ -86,7 +86,7 @@ Currency CentreOf(const Game& game) {
 }
 
 // The mean of the session up to the point before so many later ones. The sum of the later ones comes along.
-Currency SessionAverage(const Game& game, int seat, std::int64_t later, Currency laterSum) {
+Currency SessionAverage(const Game& game, SeatId seat, std::int64_t later, Currency laterSum) {
   const Statistics& stats = game.stats;
   const std::int64_t rolls = PlayerRolls(stats, kCurrentSession, seat) - later;
   const Currency start = stats.BankrollSessionStart[seat];
@@ -140,12 +140,12 @@ void BankrollPlotChanged(Game& game) { FindShownExtremes(game, game.graph.PlotCo
 
 bool HasPlotCell(const Game& game, int cell) { return PointOf(game.graph, cell) >= 0; }
 
-Currency BankrollPlot(const Game& game, int seat, int cell) {
+Currency BankrollPlot(const Game& game, SeatId seat, int cell) {
   const std::int64_t point = PointOf(game.graph, cell);
   return point < 0 ? kZero : RowOf(game.graph, point).cells[seat];
 }
 
-PlotExtremes ExtremesOf(const Game& game, int seat) {
+PlotExtremes ExtremesOf(const Game& game, SeatId seat) {
   const BankrollGraph& graph = game.graph;
   if (graph.PlotCount == 0) return {game.table.BankrollCurrent[seat], game.table.BankrollCurrent[seat]};
   if (seat == graph.PlotSeat) return {graph.ShownHigh, graph.ShownLow};
@@ -159,7 +159,7 @@ PlotExtremes ExtremesOf(const Game& game, int seat) {
   return extremes;
 }
 
-Currency MovingAverage(const Game& game, int seat, int cell, int rolls) {
+Currency MovingAverage(const Game& game, SeatId seat, int cell, int rolls) {
   const BankrollGraph& graph = game.graph;
   const std::int64_t point = PointOf(graph, cell);
   if (rolls < 1) {
@@ -176,11 +176,11 @@ Currency MovingAverage(const Game& game, int seat, int cell, int rolls) {
   return Divide(sum, Currency::Dollars(point - last + 1));
 }
 
-Currency BankrollAverage(const Game& game, int seat, int cell) {
+Currency BankrollAverage(const Game& game, SeatId seat, int cell) {
   return MovingAverage(game, seat, cell, game.graph.MovingAverageRolls);
 }
 
-void RecomputeAverages(const Game& game, int seat, PlotAverages& averages) {
+void RecomputeAverages(const Game& game, SeatId seat, PlotAverages& averages) {
   const BankrollGraph& graph = game.graph;
   averages.fill(kZero);
   Currency later;
@@ -232,7 +232,7 @@ void ResetBankrollGraph(Game& game, bool recentre) {
   if (graph.ScaleMode != kScaleManual) ShiftToExtremes(graph);
 }
 
-void SelectPlotSeat(Game& game, int seat) {
+void SelectPlotSeat(Game& game, SeatId seat) {
   game.graph.PlotSeat = seat;
   BankrollPlotChanged(game);
   ResetBankrollGraph(game, true);

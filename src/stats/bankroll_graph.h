@@ -25,22 +25,22 @@ void BankrollPlotChanged(Game& game);
 
 // The cells. 1 to 525 are the points on the graph, 526 to 1050 those before them, 1050 the latest; seat 0 the
 // roll numbers. Zero where no point is.
-Currency BankrollPlot(const Game& game, int seat, int cell);
+Currency BankrollPlot(const Game& game, SeatId seat, int cell);
 bool HasPlotCell(const Game& game, int cell);
 // The highest and lowest bankroll of a seat on the graph; its bankroll when nothing is plotted.
 struct PlotExtremes {
   Currency PlotHigh;
   Currency PlotLow;
 };
-PlotExtremes ExtremesOf(const Game& game, int seat);
+PlotExtremes ExtremesOf(const Game& game, SeatId seat);
 
 // The mean of the last rolls bankrolls up to a cell, as far as there are points; with rolls below 1 the mean
 // of the session so far, its beginning included. More than 525 rolls count as 525.
-Currency MovingAverage(const Game& game, int seat, int cell, int rolls);
+Currency MovingAverage(const Game& game, SeatId seat, int cell, int rolls);
 // The average at a cell with MovingAverageRolls, and at all cells 1 to PlotCount in one go.
-Currency BankrollAverage(const Game& game, int seat, int cell);
+Currency BankrollAverage(const Game& game, SeatId seat, int cell);
 using PlotAverages = std::array<Currency, kPlotCells + 1>;
-void RecomputeAverages(const Game& game, int seat, PlotAverages& averages);
+void RecomputeAverages(const Game& game, SeatId seat, PlotAverages& averages);
 // The dialog; 0 to 525 whole rolls. Cancel changes nothing.
 void SetMovingAverage(Game& game);
 // "40 roll avg", "All rolls avg".
@@ -50,7 +50,7 @@ std::string MovingAverageCaption(const BankrollGraph& graph);
 // lines mark; a manual scale moves by this alone.
 void ResetBankrollGraph(Game& game, bool recentre);
 // Requires 1 <= seat <= 8.
-void SelectPlotSeat(Game& game, int seat);
+void SelectPlotSeat(Game& game, SeatId seat);
 // The buttons: the graph up or down by so many steps of 50 units, the unit along 1, 2, 4, 10, 20, 40, 100 ...
 void ShiftScale(Game& game, int steps);
 void StepScaleUnit(Game& game, int steps);

@@ -1,7 +1,6 @@
 #include "stats/events_log.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <charconv>
 #include <cstring>
@@ -10,10 +9,11 @@
 #include <system_error>
 
 #include "base/bet_catalogue.h"
+#include "base/letters.h"
 #include "base/record_file.h"
 #include "dice/percentage_dice.h"
-#include "state/run_stop.h"
 #include "state/show_message.h"
+#include "stats/log_fault.h"
 
 namespace tessaryn {
 namespace {
@@ -39,17 +39,9 @@ void ForgetFiles(EventsLog& log) {
   log.Files.failedAt = 0;
 }
 
-// A run stops with it, since its journal would be lacking; what a user does roll by roll goes on, and there
-// it is told once.
 void ReportFault(Game& game, const std::string& what) {
-  EventsLog& log = game.events;
-  const bool told = log.FaultReported == what;
-  log.FaultReported = what;
-  const bool run = game.table.AutoRollActive;
-  const bool turbo = game.table.TurboRollActive;
-  if (run) StopRun(game, what);  // of a Turbo-Roll the reason is shown
-  if (turbo || (told && !run)) return;
-  ShowMessage<Msg::kLogFaultReported>(game, With<"problem">(what));
+  if (StopWithLogFault(game, game.events.FaultReported, what))
+    ShowMessage<Msg::kLogFaultReported>(game, With<"problem">(what));
 }
 
 std::string FaultText(const std::string& path, int error) {
@@ -145,7 +137,8 @@ std::string OpenFiles(Game& game) {
   const std::string indexPath = EventsIndexPath(game);
   std::int64_t textSize = std::max<std::int64_t>(FileSize(textPath), 0);
   for (const std::string& path : {textPath, indexPath})
-    if (IsPipe(path)) return "The Events Log can't be written: " + path + ": it is not a file.";
+    if (IsPipe(path))
+      return MessageText<Msg::kLogFault>(With<"path">(path), With<"reason">(MessageText<Msg::kIsNoFile>()));
   std::string problem;
   if (textSize > kLongestLog) return FullText(game);
   if (textSize > 0 && !IndexBelongs(game, textSize) && !RebuildEventsLogIndex(game, problem)) return problem;
@@ -219,11 +212,6 @@ bool BeginsWithRoll(std::string_view text) {
   return first < text.size() && text[first] == 'R' && text.substr(first, 4) == "Roll";
 }
 
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return lower;
-}
 
 // The files as another reader would see them; the index made anew if it can't belong to the text.
 bool ReadyToRead(Game& game) {
@@ -357,12 +345,12 @@ std::string ReadEventsLogLine(Game& game, std::int64_t line) {
 std::int64_t FindInEventsLog(Game& game, std::string_view wanted, bool forward) {
   EventsLog& log = game.events;
   const std::int64_t count = EventsLogLineCount(game);
-  const std::string lower = Lower(wanted);
+  const std::string lower = Lowered(wanted);
   std::ifstream text(EventsLogPath(game), std::ios::binary);
   std::ifstream index(EventsIndexPath(game), std::ios::binary);
   const int step = forward ? 1 : -1;
   for (std::int64_t line = log.EventsLogTopLine + step; line >= 1 && line <= count; line += step) {
-    if (Lower(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
+    if (Lowered(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
     log.EventsLogTopLine = static_cast<std::int32_t>(line);
     return line;
   }
@@ -385,7 +373,7 @@ bool EventsIndexFits(const Game& game) {
 
 NewEvents NewEventsLog(Game& game) {
   FlushEventsLog(game);
-  const bool defaultName = Lower(FileNameOf(EventsLogPath(game))) == Lower(kEventsLogName);
+  const bool defaultName = Lowered(FileNameOf(EventsLogPath(game))) == Lowered(kEventsLogName);
   if (defaultName && FileSize(EventsLogPath(game)) > 0) {
     const int answer = ShowMessage<Msg::kAskSaveEventsLog>(game);
     if (answer == kResultCancel) return NewEvents::kCancelled;
@@ -436,11 +424,13 @@ namespace {
 constexpr int kLastLeftSeat = 4;
 
 // Counted from the stick.
-int StickPlace(int seat) { return seat <= kLastLeftSeat ? kLastLeftSeat + 1 - seat : seat - kLastLeftSeat; }
+int StickPlace(SeatId seat) {
+  return seat <= kLastLeftSeat ? kLastLeftSeat + 1 - seat : seat - kLastLeftSeat;
+}
 
 // A line of the group in hand, which is about a player.
 template <Msg kId, typename... Arguments>
-void WriteOf(Game& game, int seat, const Arguments&... arguments) {
+void WriteOf(Game& game, SeatId seat, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
   LogLine line;
   FormLogLine<kId>(line, game.settings.Language, With<"player">(game.table.seats[seat].SeatName),
@@ -450,14 +440,14 @@ void WriteOf(Game& game, int seat, const Arguments&... arguments) {
 
 // One of two lines with the same arguments.
 template <Msg kFirst, Msg kSecond, typename... Arguments>
-void WriteEither(bool first, Game& game, int seat, const Arguments&... arguments) {
+void WriteEither(bool first, Game& game, SeatId seat, const Arguments&... arguments) {
   if (first)
     WriteOf<kFirst>(game, seat, arguments...);
   else
     WriteOf<kSecond>(game, seat, arguments...);
 }
 
-void WriteScript(Game& game, int seat, bool active) {
+void WriteScript(Game& game, SeatId seat, bool active) {
   const std::string& file = game.autobet.Scripts[seat].ScriptFileName;
   if (!active)
     WriteOf<Msg::kLogScriptDeactivated>(game, seat);
@@ -470,7 +460,7 @@ void WriteScript(Game& game, int seat, bool active) {
 void LogScriptChanges(Game& game) {
   EventsLog& log = game.events;
   BeginGroup(log, Msg::kLogAutoBets);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const bool active = game.autobet.ScriptActive[seat];
     if (active == log.ScriptActiveLogged[seat]) continue;
     log.ScriptActiveLogged[seat] = active;
@@ -481,7 +471,7 @@ void LogScriptChanges(Game& game) {
 void LogAtmMovements(Game& game) {
   TableState& table = game.table;
   BeginGroup(game.events, Msg::kLogBankroll);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const Currency total = game.stats.AtmTotal[Slot(kAllSessions, seat)];
     const Currency moved = total - table.seats[seat].AtmLogged;
     table.seats[seat].AtmLogged = total;
@@ -492,16 +482,16 @@ void LogAtmMovements(Game& game) {
 }
 
 // A change that a Come or Don't Come bet's move made is told by its own line.
-bool MadeByMove(const TableState& table, int seat, int bet) {
-  const int toCome = table.ComeMovedTo[seat];
-  const int toDontCome = table.DontComeMovedTo[seat];
+bool MadeByMove(const TableState& table, SeatId seat, BetId bet) {
+  const BetId toCome = table.ComeMovedTo[seat];
+  const BetId toDontCome = table.DontComeMovedTo[seat];
   if (bet == kCome) return toCome != 0 && table.BetAmount(seat, bet) == kZero;
   if (bet == kDontCome) return toDontCome != 0 && table.BetAmount(seat, bet) == kZero;
   return (bet == toCome || bet == toDontCome) && bet != 0 &&
          table.BetAmount(seat, bet) == table.BetCommitted(seat, bet);
 }
 
-void LogAmountChange(Game& game, int seat, int bet) {
+void LogAmountChange(Game& game, SeatId seat, BetId bet) {
   const TableState& table = game.table;
   const Currency before = table.BetBeforeRoll(seat, bet);
   const Currency now = table.BetAmount(seat, bet);
@@ -516,7 +506,7 @@ void LogAmountChange(Game& game, int seat, int bet) {
                                                               With<"amount">(now));
 }
 
-void LogCallChange(Game& game, int seat, int bet) {
+void LogCallChange(Game& game, SeatId seat, BetId bet) {
   const TableState& table = game.table;
   const int before = WorkingValue(table.seats[seat].BetWorkingBeforeRoll, bet);
   const int now = WorkingValue(table.seats[seat].BetWorking, bet);
@@ -533,12 +523,12 @@ void LogCallChange(Game& game, int seat, int bet) {
 void LogBetChanges(Game& game) {
   const TableState& table = game.table;
   BeginGroup(game.events, Msg::kLogBets);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(table, seat)) continue;
     const WorkingState& now = table.seats[seat].BetWorking;
     const WorkingState& before = table.seats[seat].BetWorkingBeforeRoll;
     const BetSet called = now.calledOn | now.calledOff | before.calledOn | before.calledOff;
-    (table.seats[seat].TouchedSinceBefore | called).ForEach([&](int bet) {
+    (table.seats[seat].TouchedSinceBefore | called).ForEach([&](BetId bet) {
       LogAmountChange(game, seat, bet);
       if (called.Has(bet)) LogCallChange(game, seat, bet);
     });
@@ -548,9 +538,9 @@ void LogBetChanges(Game& game) {
 void LogCheckStackChanges(Game& game) {
   const TableState& table = game.table;
   BeginGroup(game.events, Msg::kLogStacks);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     table.seats[seat].StacksSinceBefore.ForEach([&](int stack) {
-      const int bet = kFirstCheckStack + stack;
+      const BetId bet = kFirstCheckStack + stack;
       const Currency before = table.BetBeforeRoll(seat, bet);
       const Currency now = table.BetAmount(seat, bet);
       if (now == before || !IsOccupied(table, seat)) return;
@@ -595,7 +585,7 @@ void LogRoll(Game& game, RollSource source) {
     WriteRoll<Msg::kLogRollFromMatrix>(game, With<"generator">(number), With<"file">(ProbabilityTitle(dice)));
 }
 
-void LogWinOrLoss(Game& game, int seat, int bet, Currency net) {
+void LogWinOrLoss(Game& game, SeatId seat, BetId bet, Currency net) {
   const EventsLog& log = game.events;
   const bool won = net > kZero;
   if (!(won ? log.RecordBetsWon : log.RecordBetsLost)) return;
@@ -603,7 +593,7 @@ void LogWinOrLoss(Game& game, int seat, int bet, Currency net) {
                                            With<"bet">(FactsOf(bet).name));
 }
 
-void LogBetMoved(Game& game, int seat, int fromBet, int toBet) {
+void LogBetMoved(Game& game, SeatId seat, BetId fromBet, BetId toBet) {
   if (!game.events.RecordBetChanges) return;
   WriteLogLine<Msg::kLogBetMoved>(game, With<"player">(game.table.seats[seat].SeatName),
                                   With<"bet">(FactsOf(fromBet).name), With<"number">(FactsOf(toBet).name));
@@ -613,7 +603,7 @@ void LogBankrollChanges(Game& game) {
   if (!game.events.RecordBankrollChanges) return;
   const TableState& table = game.table;
   BeginGroup(game.events, Msg::kLogBankroll);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
     if (change == kZero || !IsOccupied(table, seat)) continue;
     WriteEither<Msg::kLogBankrollIncreased, Msg::kLogBankrollDecreased>(
@@ -626,7 +616,7 @@ void LogBankrollChanges(Game& game) {
 namespace {
 
 void WriteShooter(Game& game, bool same) {
-  const int seat = game.table.ShooterSeat;
+  const SeatId seat = game.table.ShooterSeat;
   if (seat == 0)
     WriteLogLine<Msg::kLogNewHand>(game);
   else if (same)
@@ -647,7 +637,7 @@ void LogPlayback(Game& game) {
   WriteLogLine<Msg::kLogPlayback>(game, With<"file">(FileTitle(game.rollFile.RollFileName)));
 }
 
-void LogJoined(Game& game, int seat) {
+void LogJoined(Game& game, SeatId seat) {
   const TableState& table = game.table;
   const auto player = With<"player">(table.seats[seat].SeatName);
   const int place = StickPlace(seat);
@@ -659,7 +649,7 @@ void LogJoined(Game& game, int seat) {
                                        With<"bankroll">(table.BankrollCurrent[seat]));
 }
 
-void LogPlayerMoved(Game& game, int seat) {
+void LogPlayerMoved(Game& game, SeatId seat) {
   const auto player = With<"player">(game.table.seats[seat].SeatName);
   const int place = StickPlace(seat);
   if (seat <= kLastLeftSeat)
@@ -677,7 +667,7 @@ void LogSessionStart(Game& game) {
   WriteLogLine<Msg::kLogNewSession>(game, With<"date">(game.host->DateText()),
                                     With<"time">(game.host->TimeText()));
   BeginGroup(log, Msg::kLogPlayers);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(table, seat))
       WriteEither<Msg::kLogPlayerLeft, Msg::kLogPlayerRight>(seat <= kLastLeftSeat, game, seat,
                                                              With<"place">(StickPlace(seat)),
@@ -686,7 +676,7 @@ void LogSessionStart(Game& game) {
   if (game.rollFile.RecorderState == kRecorderPlayback)
     WriteLogLine<Msg::kLogSessionPlayback>(game, With<"file">(FileNameOf(game.rollFile.RollFileName)));
   BeginGroup(log, Msg::kLogAutoBets);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     log.ScriptActiveLogged[seat] = game.autobet.ScriptActive[seat];
     if (IsOccupied(table, seat) && game.autobet.ScriptActive[seat]) WriteScript(game, seat, true);
   }

@@ -69,13 +69,13 @@ void LogSessionStart(Game& game);
 void LogChangesBeforeRoll(Game& game);
 enum class RollSource { kPad, kFile, kGenerator };
 void LogRoll(Game& game, RollSource source);
-void LogWinOrLoss(Game& game, int seat, int bet, Currency net);
-void LogBetMoved(Game& game, int seat, int fromBet, int toBet);
+void LogWinOrLoss(Game& game, SeatId seat, BetId bet, Currency net);
+void LogBetMoved(Game& game, SeatId seat, BetId fromBet, BetId toBet);
 void LogBankrollChanges(Game& game);
 void LogHandEnd(Game& game);
 // Playback of the open dice roll file was turned on during play.
 void LogPlayback(Game& game);
-void LogJoined(Game& game, int seat);
-void LogPlayerMoved(Game& game, int seat);
+void LogJoined(Game& game, SeatId seat);
+void LogPlayerMoved(Game& game, SeatId seat);
 
 }  // namespace tessaryn

@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 
+#include "base/letters.h"
 #include "base/messages.h"
 #include "base/record_file.h"
 
@@ -15,7 +16,7 @@ namespace tessaryn {
 namespace {
 
 constexpr std::size_t kMostMarks = std::size_t{1} << 20;
-constexpr std::int64_t kBlock = 256 * 1024;  // bytes of a look around a place
+constexpr std::int64_t kIndexBlock = 256 * 1024;  // bytes of a look around a place
 constexpr std::int64_t kReferenceBytes = 4;
 
 // --- What lines tell of.
@@ -143,7 +144,7 @@ template <typename Visit>
 std::int64_t WalkRows(const LogIndex& index, std::int64_t from, std::int64_t to, Visit&& visit) {
   std::string bytes;
   while (from < to) {
-    ReadBytes(index.Text, from, std::min(std::max(kBlock, kLongestRow), index.Size - from), bytes);
+    ReadBytes(index.Text, from, std::min(std::max(kIndexBlock, kLongestRow), index.Size - from), bytes);
     std::string_view rest = bytes;
     const bool last = from + static_cast<std::int64_t>(bytes.size()) >= index.Size;
     if (rest.empty()) return from;
@@ -219,13 +220,6 @@ std::int64_t RowByReference(const LogIndex& index, std::int64_t begin) {
   return low;
 }
 
-char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c | 0x20) : c; }
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) c = Lower(c);
-  return lower;
-}
-
 }  // namespace
 
 unsigned LogKindOf(std::string_view line) {
@@ -269,7 +263,7 @@ std::string OpenLogIndex(LogIndex& index, const std::string& path, const std::st
   if (fstat(index.Text, &status) != 0 || !S_ISREG(status.st_mode)) {
     CloseLogIndex(index);
     return S_ISDIR(status.st_mode) ? FileErrorText("open", path, EISDIR)
-                                   : "Unable to open " + path + ": it is not a file.";
+                                   : MessageText<Msg::kNotAFile>(With<"path">(path));
   }
   if (!reference.empty() && !filter.IsOn())
     index.Reference = open(reference.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
@@ -380,7 +374,7 @@ std::vector<LogRow> ReadLogRows(const LogIndex& index, const LogPlace& from, int
 }
 
 LogSearch BeginLogSearch(const LogIndex& index, std::string_view wanted, std::int64_t from, bool forward) {
-  LogSearch search{Lower(wanted), forward, std::clamp<std::int64_t>(from, 0, index.Size), -1};
+  LogSearch search{Lowered(wanted), forward, std::clamp<std::int64_t>(from, 0, index.Size), -1};
   if (forward)
     search.At = WalkRows(index, search.At, index.Size,
                          [&](std::int64_t at, std::string_view) { return at <= search.At; });
@@ -392,7 +386,7 @@ namespace {
 // Of whole rows from begin on: the first or last that holds what is wanted and passes; -1 none.
 std::int64_t FindIn(const LogIndex& index, const LogSearch& search, std::string_view rows,
                     std::int64_t begin) {
-  const std::string lower = Lower(rows);
+  const std::string lower = Lowered(rows);
   for (std::size_t at = search.Forward ? 0 : lower.size();;) {
     at = search.Forward ? lower.find(search.Wanted, at) : lower.rfind(search.Wanted, at);
     if (at == std::string::npos) return -1;

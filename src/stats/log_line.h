@@ -27,6 +27,10 @@ class LogLine {
     const auto whole = static_cast<std::int64_t>(number);
     length_ += static_cast<std::size_t>(std::to_chars(at, at + kMostDigits, whole).ptr - at);
   }
+  template <typename Kind, typename Number>
+  void Add(Id<Kind, Number> id) {
+    Add(id.value);
+  }
   void Add(Currency amount) {
     char* const at = Room(kLongestPlainMoney);
     length_ += static_cast<std::size_t>(WritePlainMoney(at, amount) - at);

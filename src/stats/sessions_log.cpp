@@ -4,15 +4,15 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
 #include <cstdio>
 
 #include "base/interrupts.h"
+#include "base/letters.h"
 #include "base/messages.h"
 #include "state/game.h"
-#include "state/run_stop.h"
 #include "state/show_message.h"
+#include "stats/log_fault.h"
 #include "stats/statistics.h"
 
 namespace tessaryn {
@@ -26,7 +26,7 @@ constexpr std::size_t kMostWaiting = 10'000;
 std::string DefaultTitle(std::string_view playerName) {
   std::string title(playerName);
   for (char& c : title)
-    c = c == '/' || c == '\\' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    c = c == '/' || c == '\\' ? '-' : Lowered(c);
   return title + ".slg";
 }
 
@@ -81,7 +81,7 @@ void Tally(SessionsTally& tally, const Record& session) {
 // --- The screen.
 
 // What its commands work on.
-std::string OpenOf(const Game& game, int seat, SessionsLogFile& file, SessionsAccess access) {
+std::string OpenOf(const Game& game, SeatId seat, SessionsLogFile& file, SessionsAccess access) {
   return OpenSessionsFile(file, SessionsLogPath(game, seat), access);
 }
 
@@ -90,7 +90,7 @@ void TellProblem(Game& game, const std::string& problem) {
 }
 
 // From here on the seat's log is another one.
-void UseLog(Game& game, int seat, const std::string& path) {
+void UseLog(Game& game, SeatId seat, const std::string& path) {
   CloseSessionsFile(game.sessions.Files.Seats[seat]);
   game.table.seats[seat].SessionsLogName = path;
   game.sessions.SessionsTopRow = 1;
@@ -101,7 +101,7 @@ bool AgreesToSessionInProgress(Game& game, bool all) {
 }
 
 // The default log of a seat begins anew. One with sessions is asked for.
-NewLog StartDefaultLog(Game& game, int seat) {
+NewLog StartDefaultLog(Game& game, SeatId seat) {
   const std::string& name = game.table.seats[seat].SeatName;
   const std::string path = DefaultSessionsLogName(game, name);
   SessionsLogFile file;
@@ -162,7 +162,7 @@ class Patience {
   bool told_ = false;
 };
 
-std::string Compute(Game& game, int seat, SessionsStatistics& statistics, bool& overflow) {
+std::string Compute(Game& game, SeatId seat, SessionsStatistics& statistics, bool& overflow) {
   SessionsLogFile file;
   std::int64_t sessions = 0;
   if (!IsThere(SessionsLogPath(game, seat))) return {};
@@ -180,7 +180,7 @@ std::string DefaultSessionsLogName(const Game& game, std::string_view playerName
   return game.ownFolder + DefaultTitle(playerName);
 }
 
-std::string SessionsLogPath(const Game& game, int seat) {
+std::string SessionsLogPath(const Game& game, SeatId seat) {
   const std::string& name = game.table.seats[seat].SessionsLogName;
   const std::string& player = game.table.seats[seat].SeatName;
   if (name.empty()) return DefaultSessionsLogName(game, player);
@@ -188,7 +188,7 @@ std::string SessionsLogPath(const Game& game, int seat) {
   return elsewhere ? DefaultSessionsLogName(game, player) : name;
 }
 
-Record SessionOf(Game& game, int seat) {
+Record SessionOf(Game& game, SeatId seat) {
   Statistics& stats = game.stats;
   SumBetStats(stats, seat, kCurrentSession, 1, kBets, true);
   const auto sum = [&](StatTable table, StatKind kind) {
@@ -216,7 +216,7 @@ Record SessionOf(Game& game, int seat) {
   return record;
 }
 
-void AppendSessionRecord(Game& game, int seat) {
+void AppendSessionRecord(Game& game, SeatId seat) {
   SessionsLogFiles& files = game.sessions.Files;
   if (files.Off || SessionRolls(game.stats) == 0 || !IsOccupied(game.table, seat)) return;
   const std::string path = SessionsLogPath(game, seat);
@@ -234,13 +234,8 @@ void TellSessionsLogFault(Game& game) {
   SessionsLogFiles& files = game.sessions.Files;
   if (files.Fault.empty()) return;
   const std::string fault = std::exchange(files.Fault, {});
-  const bool told = files.FaultTold == fault;
-  files.FaultTold = fault;
-  const bool run = game.table.AutoRollActive;
-  const bool turbo = game.table.TurboRollActive;
-  if (run) StopRun(game, fault);  // of a Turbo-Roll the reason is shown
-  if (turbo || (told && !run)) return;
-  ShowMessage<Msg::kSessionsLogFault>(game, With<"problem">(fault));
+  if (StopWithLogFault(game, files.FaultTold, fault))
+    ShowMessage<Msg::kSessionsLogFault>(game, With<"problem">(fault));
 }
 
 void WriteWaitingSessions(Game& game) {
@@ -250,7 +245,7 @@ void WriteWaitingSessions(Game& game) {
 std::string RemoveSessionsLogs(Game& game) {
   SessionsLogFiles& files = game.sessions.Files;
   std::string problem;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat) || files.Off) continue;
     const std::string path = DefaultSessionsLogName(game, game.table.seats[seat].SeatName);
     CloseSessionsFile(files.Seats[seat]);
@@ -275,7 +270,7 @@ bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
   SessionsLogs& screen = game.sessions;
   if (screen.Files.Calculating) return false;
   statistics = {};
-  const int seat = screen.SessionsSeat;
+  const SeatId seat = screen.SessionsSeat;
   if (!IsOccupied(game.table, seat)) return false;
   const std::string name = game.table.seats[seat].SeatName;
   bool overflow = false;
@@ -289,14 +284,14 @@ bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics) {
   return problem.empty();
 }
 
-NewLog NewSessionsLog(Game& game, int seat) {
+NewLog NewSessionsLog(Game& game, SeatId seat) {
   if (!AgreesToSessionInProgress(game, false)) return NewLog::kCancelled;
   return StartDefaultLog(game, seat);
 }
 
 NewLog NewAllSessionsLogs(Game& game) {
   if (!AgreesToSessionInProgress(game, true)) return NewLog::kCancelled;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     if (const NewLog done = StartDefaultLog(game, seat); done != NewLog::kStarted) {
       game.sessions.SessionsSeat = seat;  // whose log is to be renamed
@@ -306,7 +301,7 @@ NewLog NewAllSessionsLogs(Game& game) {
   return NewLog::kStarted;
 }
 
-std::string KeepSessionsLogAs(Game& game, int seat, const std::string& path) {
+std::string KeepSessionsLogAs(Game& game, SeatId seat, const std::string& path) {
   const std::string standard = DefaultSessionsLogName(game, game.table.seats[seat].SeatName);
   if (IsSameFile(standard, path)) return {};
   SessionsLogFile file;
@@ -318,14 +313,14 @@ std::string KeepSessionsLogAs(Game& game, int seat, const std::string& path) {
   return {};
 }
 
-std::string OpenSessionsLog(Game& game, int seat, const std::string& path) {
+std::string OpenSessionsLog(Game& game, SeatId seat, const std::string& path) {
   SessionsLogFile file;
   std::string problem = OpenSessionsFile(file, path, SessionsAccess::kRead);
   if (problem.empty()) UseLog(game, seat, path);
   return problem;
 }
 
-std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path) {
+std::string SaveSessionsLogAs(Game& game, SeatId seat, const std::string& path) {
   SessionsLogFile file;
   std::string problem = OpenOf(game, seat, file, SessionsAccess::kCreate);
   if (problem.empty()) problem = CopySessionsLog(file, path);
@@ -333,7 +328,7 @@ std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path) {
   return problem;
 }
 
-std::string RenameSessionsLog(Game& game, int seat, const std::string& path) {
+std::string RenameSessionsLog(Game& game, SeatId seat, const std::string& path) {
   const std::string old = SessionsLogPath(game, seat);
   if (old == path) return {};
   if (IsThere(old)) {
@@ -349,7 +344,7 @@ std::string RenameSessionsLog(Game& game, int seat, const std::string& path) {
   return {};
 }
 
-std::string MergeSessionsLog(Game& game, int seat, const std::string& path) {
+std::string MergeSessionsLog(Game& game, SeatId seat, const std::string& path) {
   SessionsLogFile file;
   SessionsLogFile other;
   std::string problem = OpenSessionsFile(other, path, SessionsAccess::kRead);
@@ -357,7 +352,7 @@ std::string MergeSessionsLog(Game& game, int seat, const std::string& path) {
   return problem.empty() ? AppendSessionsOf(file, other) : problem;
 }
 
-std::string UseSessionsLogCopy(Game& game, int seat, const std::string& path, std::int64_t copied,
+std::string UseSessionsLogCopy(Game& game, SeatId seat, const std::string& path, std::int64_t copied,
                                bool keepName) {
   const std::string& player = game.table.seats[seat].SeatName;
   const std::string old = keepName ? DefaultSessionsLogName(game, player) : SessionsLogPath(game, seat);
@@ -371,7 +366,7 @@ std::string UseSessionsLogCopy(Game& game, int seat, const std::string& path, st
   return problem;
 }
 
-bool DeleteAllSessions(Game& game, int seat) {
+bool DeleteAllSessions(Game& game, SeatId seat) {
   if (!Confirms<Msg::kAskDeleteAllSessions>(game, With<"player">(game.table.seats[seat].SeatName)))
     return false;
   SessionsLogFile file;
@@ -396,7 +391,7 @@ bool AskDeleteSessions(Game& game, std::int64_t& first, std::int64_t& last) {
   return true;
 }
 
-bool DeleteSessions(Game& game, int seat) {
+bool DeleteSessions(Game& game, SeatId seat) {
   std::int64_t first = 0, last = 0;
   if (!AskDeleteSessions(game, first, last)) return false;
   SessionsLogFile file;
@@ -451,7 +446,7 @@ std::string ReadSessionsRows(Game& game, const SessionsStatistics& statistics, s
                              std::vector<SessionsRow>& rows) {
   rows.clear();
   const SessionsLogs& screen = game.sessions;
-  const int seat = screen.SessionsSeat;
+  const SeatId seat = screen.SessionsSeat;
   if (!IsOccupied(game.table, seat) || !IsThere(SessionsLogPath(game, seat))) return {};
   SessionsLogFile file;
   std::int64_t sessions = 0;

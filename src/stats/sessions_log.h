@@ -17,15 +17,15 @@ struct Game;
 std::string DefaultSessionsLogName(const Game& game, std::string_view playerName);
 // The log of a seat with a player. While another program has the data folder, default logs lie in the own
 // one.
-std::string SessionsLogPath(const Game& game, int seat);
+std::string SessionsLogPath(const Game& game, SeatId seat);
 
 // --- At the table.
 
 // The session as it stands, for the log.
-Record SessionOf(Game& game, int seat);
+Record SessionOf(Game& game, SeatId seat);
 // Puts the session that ends into the seat's log, if it has rolls. What can't be written waits, is tried
 // again, and is told by TellSessionsLogFault as soon as the table may be looked at.
-void AppendSessionRecord(Game& game, int seat);
+void AppendSessionRecord(Game& game, SeatId seat);
 // A fault stops a run, since its log would be lacking; a user who goes on is told once.
 void TellSessionsLogFault(Game& game);
 // Tries again what waits. Costs nothing when nothing does.
@@ -45,24 +45,24 @@ bool UpdateSessionsLog(Game& game, SessionsStatistics& statistics);
 enum class NewLog { kCancelled, kRenameFirst, kStarted };
 // A seat's log begins anew. kRenameFirst: the user wants to keep the old log, and the screen goes on to Save
 // As.
-NewLog NewSessionsLog(Game& game, int seat);
+NewLog NewSessionsLog(Game& game, SeatId seat);
 NewLog NewAllSessionsLogs(Game& game);
 // After kRenameFirst: the default log goes to the path, and a new one begins.
-std::string KeepSessionsLogAs(Game& game, int seat, const std::string& path);
-std::string OpenSessionsLog(Game& game, int seat, const std::string& path);
+std::string KeepSessionsLogAs(Game& game, SeatId seat, const std::string& path);
+std::string OpenSessionsLog(Game& game, SeatId seat, const std::string& path);
 // The log goes on under the new name; the old file stays.
-std::string SaveSessionsLogAs(Game& game, int seat, const std::string& path);
+std::string SaveSessionsLogAs(Game& game, SeatId seat, const std::string& path);
 // The file moves. One that is there already is not replaced.
-std::string RenameSessionsLog(Game& game, int seat, const std::string& path);
-std::string MergeSessionsLog(Game& game, int seat, const std::string& path);
+std::string RenameSessionsLog(Game& game, SeatId seat, const std::string& path);
+std::string MergeSessionsLog(Game& game, SeatId seat, const std::string& path);
 // After a copy of so many sessions was made beside the game: what the log has got since goes behind them, and
 // the log goes on under the new name or, with keepName, begins anew under its own.
-std::string UseSessionsLogCopy(Game& game, int seat, const std::string& path, std::int64_t copied,
+std::string UseSessionsLogCopy(Game& game, SeatId seat, const std::string& path, std::int64_t copied,
                                bool keepName);
 
 // These ask, and tell what went wrong. Whether something has changed.
-bool DeleteAllSessions(Game& game, int seat);
-bool DeleteSessions(Game& game, int seat);
+bool DeleteAllSessions(Game& game, SeatId seat);
+bool DeleteSessions(Game& game, SeatId seat);
 // The question of the last alone: sessions first to last, as they were typed.
 bool AskDeleteSessions(Game& game, std::int64_t& first, std::int64_t& last);
 bool SetBreakPoint(Game& game);

@@ -303,7 +303,8 @@ std::string OpenSessionsFile(SessionsLogFile& file, const std::string& path, Ses
   if (fstat(file.Descriptor, &status) != 0) return Fail(file, FileErrorText(action, path, errno));
   if (S_ISDIR(status.st_mode)) return Fail(file, FileErrorText(action, path, EISDIR));
   if (!S_ISREG(status.st_mode))
-    return Fail(file, "Unable to " + std::string(action) + " " + path + ": it is not a file.");
+    return Fail(file, MessageText<Msg::kFileFault>(With<"action">(action), With<"path">(path),
+                                                   With<"reason">(MessageText<Msg::kIsNoFile>())));
   file.Device = status.st_dev;
   file.Inode = status.st_ino;
   if (access == SessionsAccess::kCreate && status.st_size == 0)

@@ -1,10 +1,11 @@
 #include "stats/sessions_statistics.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+
+#include "base/letters.h"
 
 namespace tessaryn {
 namespace {
@@ -94,7 +95,7 @@ bool HoldsSeveral(const SessionsStatistics& s, int column) {
   return s.ColumnLow[column] != s.ColumnHigh[column];
 }
 
-int NextOccupied(const SessionsStatistics& s, int column) {
+SeatId NextOccupied(const SessionsStatistics& s, int column) {
   while (++column < kHistogramColumns - 1 && s.Histogram[column] == 0) {
   }
   return column;
@@ -272,11 +273,8 @@ HistogramBar BarOf(const SessionsStatistics& statistics, int first, int columns)
 std::string_view MeasureName(int measure) { return kMeasures[measure]; }
 
 int FindMeasure(std::string_view text) {
-  const auto same = [](char a, char b) {
-    return std::tolower(static_cast<unsigned char>(a)) == std::tolower(static_cast<unsigned char>(b));
-  };
   for (int measure = 0; measure < kSessionMeasures; ++measure)
-    if (std::ranges::equal(text, kMeasures[measure], same)) return measure;
+    if (SameLetters(text, kMeasures[measure])) return measure;
   int number = -1;
   const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
   const bool whole = fault == std::errc() && end == text.data() + text.size();

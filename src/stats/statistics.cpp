@@ -18,7 +18,7 @@ constexpr int kRunningScopes[] = {kCurrentHand, kCurrentSession, kAllSessions};
 
 using Kinds = Currency[6];
 
-void CountAmount(Kinds& kinds, std::int64_t amount, std::int64_t roll) {
+void CountAmount(Kinds& kinds, std::int64_t amount, RollNumber roll) {
   kinds[kStatCount - 1].raw += Currency::kPerDollar;
   kinds[kStatTotal - 1].raw += amount;
   if (amount > kinds[kStatHigh - 1].raw) kinds[kStatHigh - 1].raw = amount;
@@ -50,10 +50,10 @@ void MergeBet(BetStats& longer, const BetStats& stretch, std::int64_t rollsBefor
 
 // Whether a further amount would pass what the sum over all sessions can hold.
 bool TotalOverflows(const BetStats (&scopes)[kScopes], int table, Currency amount) {
-  const auto total = [&](int scope) { return scopes[scope].kinds[table][kStatTotal - 1].raw; };
+  const auto total = [&](ScopeId scope) { return scopes[scope].kinds[table][kStatTotal - 1].raw; };
   std::int64_t sum = amount.raw;
   bool overflow = amount.IsError();
-  for (const int scope : kRunningScopes) overflow |= __builtin_add_overflow(sum, total(scope), &sum);
+  for (const ScopeId scope : kRunningScopes) overflow |= __builtin_add_overflow(sum, total(scope), &sum);
   return overflow;
 }
 
@@ -65,8 +65,8 @@ std::int64_t RollsBeforeSession(const Statistics& stats) {
 // --- Slots of the seats that a roll counts for: the table, and who is credited with the hand.
 
 template <typename T>
-void CountFor(T& table, int handSeat) {
-  for (const int scope : kRunningScopes) {
+void CountFor(T& table, SeatId handSeat) {
+  for (const ScopeId scope : kRunningScopes) {
     ++table[Slot(scope, 0)];
     if (handSeat > 0) ++table[Slot(scope, handSeat)];
   }
@@ -76,8 +76,8 @@ void Raise(std::int32_t& most, std::int32_t value) {
   if (value > most) most = value;
 }
 
-void RaiseFor(std::int32_t (&most)[kSlots], int handSeat, std::int32_t value, bool tableHand) {
-  for (const int scope : kRunningScopes) {
+void RaiseFor(std::int32_t (&most)[kSlots], SeatId handSeat, std::int32_t value, bool tableHand) {
+  for (const ScopeId scope : kRunningScopes) {
     if (scope != kCurrentHand || tableHand) Raise(most[Slot(scope, 0)], value);
     if (handSeat > 0) Raise(most[Slot(scope, handSeat)], value);
   }
@@ -94,12 +94,12 @@ void CountGap(Statistics& stats, int item, std::int32_t roll) {
   stats.ItemLastRoll[item] = roll;
 }
 
-void MoveBetsToLastHand(Statistics& stats, int seat) {
+void MoveBetsToLastHand(Statistics& stats, SeatId seat) {
   const BetSet ended = stats.HandBets[seat];
-  Without(stats.LastHandBets[seat], ended).ForEach([&](int bet) {
+  Without(stats.LastHandBets[seat], ended).ForEach([&](BetId bet) {
     stats.Bets[bet][seat][kLastHand] = BetStats{};
   });
-  ended.ForEach([&](int bet) {
+  ended.ForEach([&](BetId bet) {
     auto& scopes = stats.Bets[bet][seat];
     MergeBet(scopes[kCurrentSession], scopes[kCurrentHand], 0);
     scopes[kLastHand] = scopes[kCurrentHand];
@@ -109,7 +109,7 @@ void MoveBetsToLastHand(Statistics& stats, int seat) {
   stats.HandBets[seat].Clear();
 }
 
-void MovePairsToLastHand(Statistics& stats, int seat) {
+void MovePairsToLastHand(Statistics& stats, SeatId seat) {
   std::int32_t(&hand)[kDicePairs] = stats.PairCounts[Slot(kCurrentHand, seat)];
   std::int32_t(&last)[kDicePairs] = stats.PairCounts[Slot(kLastHand, seat)];
   std::int32_t(&session)[kDicePairs] = stats.PairCounts[Slot(kCurrentSession, seat)];
@@ -121,7 +121,7 @@ void MovePairsToLastHand(Statistics& stats, int seat) {
 }
 
 template <typename T, std::size_t kCount>
-void MoveSlot(T (&table)[kCount], int seat, int fromScope, int toScope) {
+void MoveSlot(T (&table)[kCount], SeatId seat, ScopeId fromScope, ScopeId toScope) {
   std::memcpy(&table[Slot(toScope, seat)], &table[Slot(fromScope, seat)], sizeof(T));
   std::memset(static_cast<void*>(&table[Slot(fromScope, seat)]), 0, sizeof(T));
 }
@@ -155,8 +155,8 @@ void ZeroSlot(T (&table)[kCount], int slot) {
   std::memset(static_cast<void*>(&table[slot]), 0, sizeof(T));
 }
 
-void ZeroScope(Statistics& stats, int scope, bool bankrolls) {
-  for (int seat = 0; seat <= kSeats; ++seat) {
+void ZeroScope(Statistics& stats, ScopeId scope, bool bankrolls) {
+  for (SeatId seat = 0; seat <= kSeats; ++seat) {
     ForEachCountTable(stats, [&](auto& table) { ZeroSlot(table, Slot(scope, seat)); });
     if (bankrolls) {
       ForEachBankrollTable(stats, [&](auto& table) { ZeroSlot(table, Slot(scope, seat)); });
@@ -174,7 +174,7 @@ void ZeroScope(Statistics& stats, int scope, bool bankrolls) {
 
 // --- Reading.
 
-std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item) {
+std::int64_t RollCount(const Statistics& stats, ScopeId scope, SeatId seat, int item) {
   const int slot = Slot(scope, seat);
   if (item == 0) return stats.RollTotals[slot];
   if (item < 0 || item >= kRollItems) return 0;
@@ -189,11 +189,12 @@ std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item) {
   return count;
 }
 
-std::int64_t PlayerRolls(const Statistics& stats, int scope, int seat) {
+std::int64_t PlayerRolls(const Statistics& stats, ScopeId scope, SeatId seat) {
   return stats.RollTotals[Slot(scope, 0)] - stats.RollsNotSeen[Slot(scope, seat)];
 }
 
-Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, int bet, StatKind kind) {
+Currency BetStat(const Statistics& stats, StatTable table, ScopeId scope, SeatId seat, BetId bet,
+                 StatKind kind) {
   const auto& scopes = stats.Bets[bet][seat];
   if (scope != kCurrentSession && scope != kAllSessions) return scopes[scope].kinds[table][kind - 1];
   Kinds kinds;
@@ -212,12 +213,12 @@ std::int64_t RollsSinceLast(const Statistics& stats, int item) {
   return SessionRolls(stats) - stats.ItemLastRoll[item];
 }
 
-Currency BankrollOf(const Game& game, int scope, int seat) {
+Currency BankrollOf(const Game& game, ScopeId scope, SeatId seat) {
   const bool running = scope == kCurrentHand || scope == kCurrentSession || scope == kAllSessions;
   return running ? game.table.BankrollCurrent[seat] : game.stats.BankrollClosing[Slot(scope, seat)];
 }
 
-std::int64_t LatestRoll(const Statistics& stats, int scope) {
+RollNumber LatestRoll(const Statistics& stats, ScopeId scope) {
   const std::int64_t session = stats.RollTotals[Slot(kCurrentSession, 0)];
   const std::int64_t lastSession = stats.RollTotals[Slot(kLastSession, 0)];
   if (scope == kLastHand) {
@@ -228,17 +229,18 @@ std::int64_t LatestRoll(const Statistics& stats, int scope) {
   return scope == kAllSessions ? std::int64_t{stats.RollTotals[Slot(kAllSessions, 0)]} : session;
 }
 
-std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll) {
+std::int64_t RollsSince(const Statistics& stats, ScopeId scope, Currency statLastRoll) {
   if (statLastRoll == kZero) return -1;
   return LatestRoll(stats, scope) - statLastRoll.raw / Currency::kPerDollar;
 }
 
 std::string RollItemName(int item) { return RollItemText(item); }
 
-void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow) {
+void SumBetStats(Statistics& stats, SeatId seat, ScopeId scope, BetId firstBet, BetId lastBet,
+                 bool clearRow) {
   BetStats& row = stats.Bets[0][seat][kCurrentHand];
   if (clearRow) row = BetStats{};
-  for (int bet = firstBet; bet <= lastBet; ++bet) {
+  for (BetId bet = firstBet; bet <= lastBet; ++bet) {
     // What was never decided has nothing to add, and that is most bets.
     if (BetStat(stats, kWagerStats, scope, seat, bet, kStatCount) == kZero) continue;
     for (int table = 0; table < kStatTables; ++table)
@@ -248,7 +250,7 @@ void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastB
   }
 }
 
-std::string LastHandNote(const Game& game, int scope) {
+std::string LastHandNote(const Game& game, ScopeId scope) {
   const TableState& table = game.table;
   if (scope == kCurrentHand && table.ShooterSeat != table.HandSeat && table.ShooterSeat > 0) {
     const std::string& shooter = table.seats[table.ShooterSeat].SeatName;
@@ -261,13 +263,13 @@ std::string LastHandNote(const Game& game, int scope) {
   return "";
 }
 
-double SimulatedHours(const Game& game, int scope, int seat) {
+double SimulatedHours(const Game& game, ScopeId scope, SeatId seat) {
   return static_cast<double>(PlayerRolls(game.stats, scope, seat)) / game.settings.SimRollRate.ToDouble();
 }
 
 // --- Writing.
 
-bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency net) {
+bool UpdateBetStats(Game& game, SeatId seat, BetId bet, Currency wagered, Currency net) {
   if (net == kZero) return true;
   Statistics& stats = game.stats;
   if (HasVig(bet) && VigUpFront(game, bet)) wagered += VigHeld(game, seat, bet);
@@ -276,12 +278,12 @@ bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency ne
   const StatTable decided = won ? kWinStats : kLossStats;
   const Currency amount = Abs(net);
   if (TotalOverflows(scopes, kWagerStats, wagered) || TotalOverflows(scopes, decided, amount)) return false;
-  const std::int64_t roll = SessionRolls(stats);
+  const RollNumber roll = SessionRolls(stats);
   CountAmount(scopes[kCurrentHand].kinds[kWagerStats], wagered.raw, roll);
   CountAmount(scopes[kCurrentHand].kinds[decided], amount.raw, roll);
   stats.HandBets[seat].Add(bet);
   if (IsComeNumber(bet))
-    for (const int scope : kRunningScopes)
+    for (const ScopeId scope : kRunningScopes)
       stats.ComeTravelTotals[Slot(scope, seat)][bet - kCome4] +=
           game.table.seats[seat].ComeTravelAmount[bet - kCome4];
   return true;
@@ -290,7 +292,7 @@ bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency ne
 void CountRoll(Game& game) {
   Statistics& stats = game.stats;
   const TableState& table = game.table;
-  const int handSeat = table.HandSeat;
+  const SeatId handSeat = table.HandSeat;
   if (stats.RollTotals[Slot(kCurrentHand, 0)] == 0) {
     CountFor(stats.HandCount, handSeat);
     stats.HandCount[Slot(kCurrentHand, 0)] = 1;
@@ -309,8 +311,8 @@ void CountRoll(Game& game) {
 
 void CountLine(Game& game, NumberKind kind, int number) {
   Statistics& stats = game.stats;
-  const int handSeat = game.table.HandSeat;
-  for (const int scope : kRunningScopes) {
+  const SeatId handSeat = game.table.HandSeat;
+  for (const ScopeId scope : kRunningScopes) {
     ++stats.NumberCounts[Slot(scope, 0)][number][kind];
     if (handSeat > 0) ++stats.NumberCounts[Slot(scope, handSeat)][number][kind];
   }
@@ -328,13 +330,13 @@ void CloseRollStatistics(Game& game) {
   Statistics& stats = game.stats;
   const TableState& table = game.table;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     const Currency bankroll = table.BankrollCurrent[seat];
     stats.BankrollRollSum[seat] += bankroll;
     // The hand's extremes lie within those of the longer scopes.
     const int hand = Slot(kCurrentHand, seat);
     if (bankroll <= stats.BankrollHigh[hand] && bankroll >= stats.BankrollLow[hand]) continue;
-    for (const int scope : kRunningScopes) {
+    for (const ScopeId scope : kRunningScopes) {
       Currency& high = stats.BankrollHigh[Slot(scope, seat)];
       Currency& low = stats.BankrollLow[Slot(scope, seat)];
       if (bankroll > high) high = bankroll;
@@ -348,7 +350,7 @@ void EndHandStatistics(Game& game) {
   const TableState& table = game.table;
   // Only seats that shot in this hand or the last one have rolls to move.
   for (unsigned used = stats.HandSlotsUsed | stats.LastHandSlotsUsed; used != 0; used &= used - 1) {
-    const int seat = std::countr_zero(used);
+    const SeatId seat = std::countr_zero(used);
     MovePairsToLastHand(stats, seat);
     MoveSlot(stats.RollTotals, seat, kCurrentHand, kLastHand);
     MoveSlot(stats.NumberCounts, seat, kCurrentHand, kLastHand);
@@ -358,7 +360,7 @@ void EndHandStatistics(Game& game) {
               kSeatRows * sizeof *stats.RollsNotSeen);
   std::memset(stats.RollsNotSeen + Slot(kCurrentHand, 0), 0, kSeatRows * sizeof *stats.RollsNotSeen);
   for (int i = 0; i < table.OccupiedSeats; ++i) {
-    const int seat = table.Seated[i];
+    const SeatId seat = table.Seated[i];
     MoveBetsToLastHand(stats, seat);
     MoveSlot(stats.ComeTravelTotals, seat, kCurrentHand, kLastHand);
     const Currency bankroll = table.BankrollCurrent[seat];
@@ -386,7 +388,7 @@ void StartSessionStatistics(Game& game) {
   stats.ThrowsBeforeSession += SessionRolls(stats);
   if (HandRolls(stats) > 0) EndHandStatistics(game);
   if (SessionRolls(stats) > 0) {
-    for (int seat = 0; seat <= kSeats; ++seat) {
+    for (SeatId seat = 0; seat <= kSeats; ++seat) {
       const int from = Slot(kCurrentSession, seat);
       const int to = Slot(kLastSession, seat);
       const auto copy = [from, to](auto& table) { std::memcpy(&table[to], &table[from], sizeof table[to]); };
@@ -396,7 +398,7 @@ void StartSessionStatistics(Game& game) {
       for (auto* values : {stats.BankrollBeginning, stats.BankrollHigh, stats.BankrollLow, stats.AtmTotal})
         values[to] = values[from];
       stats.BankrollClosing[to] = game.table.BankrollCurrent[seat];
-      for (int bet = 1; bet <= kBets; ++bet) {
+      for (BetId bet = 1; bet <= kBets; ++bet) {
         auto& scopes = stats.Bets[bet][seat];
         scopes[kLastSession] = scopes[kCurrentSession];
         MergeBet(scopes[kAllSessions], scopes[kCurrentSession], RollsBeforeSession(stats));
@@ -413,12 +415,12 @@ void StartSessionStatistics(Game& game) {
 
 void ClearPreviousSessions(Game& game) { ZeroScope(game.stats, kAllSessions, true); }
 
-void StartBankroll(Game& game, int seat, Currency amount) {
+void StartBankroll(Game& game, SeatId seat, Currency amount) {
   Statistics& stats = game.stats;
   game.table.BankrollCurrent[seat] = amount;
   game.table.BankrollBeforeRoll[seat] = game.table.BankrollAfterRoll[seat] = amount;
   stats.BankrollSessionStart[seat] = amount;
-  for (const int scope : kRunningScopes) {
+  for (const ScopeId scope : kRunningScopes) {
     const int slot = Slot(scope, seat);
     stats.BankrollBeginning[slot] = stats.BankrollHigh[slot] = stats.BankrollLow[slot] = amount;
   }

@@ -12,28 +12,29 @@ namespace tessaryn {
 struct Game;
 
 // --- Reading. Every table by its slot, whatever the storage.
-std::int64_t RollCount(const Statistics& stats, int scope, int seat, int item);
-std::int64_t PlayerRolls(const Statistics& stats, int scope, int seat);
-Currency BetStat(const Statistics& stats, StatTable table, int scope, int seat, int bet, StatKind kind);
+std::int64_t RollCount(const Statistics& stats, ScopeId scope, SeatId seat, int item);
+std::int64_t PlayerRolls(const Statistics& stats, ScopeId scope, SeatId seat);
+Currency BetStat(const Statistics& stats, StatTable table, ScopeId scope, SeatId seat, BetId bet,
+                 StatKind kind);
 std::int64_t RollsSinceLast(const Statistics& stats, int item);
 // The bankroll by slot; the running scopes read the seat's own.
-Currency BankrollOf(const Game& game, int scope, int seat);
+Currency BankrollOf(const Game& game, ScopeId scope, SeatId seat);
 // The latest roll as the StatLastRoll of a scope counts: rolls since last are taken from here.
-std::int64_t LatestRoll(const Statistics& stats, int scope);
+RollNumber LatestRoll(const Statistics& stats, ScopeId scope);
 // Turns a StatLastRoll of a scope into rolls since then; -1 for never.
-std::int64_t RollsSince(const Statistics& stats, int scope, Currency statLastRoll);
+std::int64_t RollsSince(const Statistics& stats, ScopeId scope, Currency statLastRoll);
 // The text of a roll item as selectors list it; empty for items that are never counted.
 std::string RollItemName(int item);
 // Kinds 1 to 6 of the bets first to last, added up (extremes too) into bet row 0 of the seat's current hand.
-void SumBetStats(Statistics& stats, int seat, int scope, int firstBet, int lastBet, bool clearRow);
+void SumBetStats(Statistics& stats, SeatId seat, ScopeId scope, BetId firstBet, BetId lastBet, bool clearRow);
 // The note about the hand's shooter that summaries show; empty when there is nothing to tell.
-std::string LastHandNote(const Game& game, int scope);
+std::string LastHandNote(const Game& game, ScopeId scope);
 // Simulated hours of a scope for a seat.
-double SimulatedHours(const Game& game, int scope, int seat);
+double SimulatedHours(const Game& game, ScopeId scope, SeatId seat);
 
 // --- Writing.
 // One resolved bet. A net of 0 is no decision. Returns false, with nothing changed, if a sum would overflow.
-bool UpdateBetStats(Game& game, int seat, int bet, Currency wagered, Currency net);
+bool UpdateBetStats(Game& game, SeatId seat, BetId bet, Currency wagered, Currency net);
 // The dice of a roll, before the point moves: rolls, items, gaps and the opening of a hand.
 void CountRoll(Game& game);
 // A come-out roll, a pass or a miss under a number.
@@ -46,6 +47,6 @@ void StartSessionStatistics(Game& game);
 // Everything of all sessions to zero; the last session and the last hand stay.
 void ClearPreviousSessions(Game& game);
 // A seat's bankroll as a start: beginning and extremes of the running scopes.
-void StartBankroll(Game& game, int seat, Currency amount);
+void StartBankroll(Game& game, SeatId seat, Currency amount);
 
 }  // namespace tessaryn

@@ -19,7 +19,7 @@ namespace {
 
 const std::string kFile = std::string(test::kSourceFolder) + "/docs/auto-bet.md";
 
-std::string Reference() {
+std::string GeneratedReference() {
   std::ifstream file(kFile);
   std::stringstream text;
   text << file.rdbuf();
@@ -28,7 +28,7 @@ std::string Reference() {
 
 // A row that was added or changed: TESSARYN_NEW_REFERENCE=1 writes the tables anew.
 TEST(LanguageReference, TablesAreThoseOfTheRows) {
-  const std::string text = Reference();
+  const std::string text = GeneratedReference();
   const std::string anew = script_test::WithTablesOfRows(text);
   if (std::getenv("TESSARYN_NEW_REFERENCE") != nullptr)
     std::ofstream(kFile) << anew;
@@ -38,7 +38,7 @@ TEST(LanguageReference, TablesAreThoseOfTheRows) {
 }
 
 TEST(LanguageReference, EveryExampleCompiles) {
-  const std::string text = Reference();
+  const std::string text = GeneratedReference();
   ScriptSurroundings surroundings;
   surroundings.seatNames[1] = "Ann";
   int examples = 0;
@@ -56,7 +56,7 @@ TEST(LanguageReference, EveryExampleCompiles) {
 
 // The examples behind a heading are systems: they must bet, and never fail.
 TEST(LanguageReference, EveryWorkedSystemPlays) {
-  const std::string text = Reference();
+  const std::string text = GeneratedReference();
   std::size_t at = text.find("## Three systems");
   int systems = 0;
   while ((at = text.find("```bet\n", at)) < text.find("## Run-time errors")) {
@@ -96,7 +96,7 @@ std::string WithValues(std::string text) {
 
 // What stands between single backquotes, outside of the examples.
 std::vector<std::string> Sentences() {
-  const std::string text = Reference();
+  const std::string text = GeneratedReference();
   std::vector<std::string> sentences;
   for (std::size_t at = 0; (at = text.find('`', at)) != std::string::npos;) {
     if (text.compare(at, 3, "```") == 0) {
@@ -161,7 +161,7 @@ TEST(LanguageReference, EverySentenceInTheTextCompiles) {
 
 // Signs and keywords are told in the text around the tables.
 TEST(LanguageReference, EveryWordIsTold) {
-  const std::string text = Lowered(Reference());
+  const std::string text = Lowered(GeneratedReference());
   const auto isCode = [](char c) { return c >= 'A' && c <= 'Z'; };
   std::string missing;
   for (const VocabularyRow& row : VocabularyRows()) {
@@ -174,7 +174,7 @@ TEST(LanguageReference, EveryWordIsTold) {
 }
 
 TEST(LanguageReference, EveryRunTimeErrorIsTold) {
-  const std::string text = Reference();
+  const std::string text = GeneratedReference();
   int told = 0;
   for (int code = 1; code < 10000; ++code) {
     std::string message = ScriptErrorText(code, "");

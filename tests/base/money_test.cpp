@@ -79,8 +79,13 @@ TEST(Money, AmountKeysStopAtTheLimits) {
 }
 
 // Mixing these up doesn't compile.
-static_assert(!std::is_constructible_v<BetId, SeatId> && !std::is_constructible_v<SeatId, RollNumber>);
-static_assert(!std::is_convertible_v<int, SeatId> && !std::is_convertible_v<SeatId, int>);
+template <typename A, typename B>
+concept Comparable = requires(A a, B b) {
+  a == b;
+};
+static_assert(Comparable<SeatId, SeatId> && Comparable<BetId, Bet> && !Comparable<SeatId, BetId>);
+static_assert(!std::is_convertible_v<SeatId, RollNumber> && !std::is_convertible_v<BetId, SeatId>);
+static_assert(!std::is_convertible_v<Bet, SeatId> && !std::is_convertible_v<Scope, BetId>);
 static_assert(!std::is_convertible_v<Currency, Seconds> && !std::is_convertible_v<Percent, Fraction>);
 static_assert(!std::is_constructible_v<Limits<Seconds>, int, int>);
 static_assert(sizeof(SeatId) == sizeof(int) && sizeof(Seconds) == sizeof(Currency));

@@ -17,9 +17,9 @@ namespace tessaryn::test {
 namespace {
 
 // Not a constant: the folders are known only once the program has begun.
-std::string Folder() { return std::string(kBinFolder) + "/"; }
+std::string ProgramFolder() { return std::string(kBinFolder) + "/"; }
 
-Experiment Asked(const std::vector<std::string>& script, std::int64_t sessions, std::int64_t rolls) {
+Experiment Scripted(const std::vector<std::string>& script, std::int64_t sessions, std::int64_t rolls) {
   Experiment experiment;
   experiment.sessions = sessions;
   experiment.rolls = rolls;
@@ -33,7 +33,7 @@ LabState Played(const Experiment& experiment, int threads = 2) {
   LabState state = BeginLab(experiment, false, false);
   LabRun run;
   run.threads = threads;
-  run.applicationFolder = Folder();
+  run.applicationFolder = ProgramFolder();
   EXPECT_EQ(RunLab(state, run), "");
   SettleState(state);
   return state;
@@ -51,12 +51,12 @@ const std::vector<std::string> kBusyScript = {
     "if bankroll < 300 then csn5 = \"low\" : remove field endif"};
 
 TEST(LabSession, OnAUsedTableIsTheOneOnANewTable) {
-  Experiment experiment = Asked(kBusyScript, 100, 70);
+  Experiment experiment = Scripted(kBusyScript, 100, 70);
   experiment.endWithHand = true;
   experiment.settings = {{"AutoTakeOdds", 0, "1"}};
   LabHost host;
   LabProblem problem;
-  const auto fresh = BuildTable(experiment, experiment.systems[0], host, Folder(), problem);
+  const auto fresh = BuildTable(experiment, experiment.systems[0], host, ProgramFolder(), problem);
   ASSERT_FALSE(problem.Found()) << problem.text;
   const auto used = OpenLabTable(*fresh, nullptr);
   const auto untouched = OpenLabTable(*fresh, nullptr);
@@ -185,9 +185,8 @@ struct Case {
 };
 
 std::int64_t SessionsToPlay() {
-  if (const char* asked = std::getenv("TESSARYN_LAB_SESSIONS")) return std::atoll(asked);
 #ifdef NDEBUG
-  return 100'000;
+  return test::LengthOf("TESSARYN_LAB_SESSIONS", 100'000, 1'000);
 #else
   return 1'000;  // each roll is checked through
 #endif
@@ -271,7 +270,7 @@ TEST(LabSession, IsDistributedAsTheDynamicProgramSays) {
       {"Martingale with ends", kMartingale, {300, 40, 60, 200}, {0, 0, 5}, richer, false}};
   for (const Case& one : cases) {
     SCOPED_TRACE(one.name);
-    Experiment experiment = Asked(one.script, SessionsToPlay(), one.rules.rolls);
+    Experiment experiment = Scripted(one.script, SessionsToPlay(), one.rules.rolls);
     experiment.bankroll = Currency::Dollars(one.rules.bankroll);
     experiment.winGoal = Currency::Dollars(one.rules.goal);
     experiment.lossLimit = Currency::Dollars(one.rules.limit);
@@ -288,13 +287,13 @@ TEST(LabSession, BoundsHoldTheTruthAsOftenAsTheySay) {
   const Distribution exact = Figured(rules, {0, 0, 10}, PassLine);
   double mean = 0;
   for (const auto& [net, share] : exact.nets) mean += net * share;
-  Experiment experiment = Asked({"if passline = 0 then bet 10 on passline endif"}, 400, rules.rolls);
+  Experiment experiment = Scripted({"if passline = 0 then bet 10 on passline endif"}, 400, rules.rolls);
   experiment.bankroll = Currency::Dollars(rules.bankroll);
   experiment.winGoal = Currency::Dollars(rules.goal);
   experiment.lossLimit = Currency::Dollars(rules.limit);
   LabHost host;
   LabProblem problem;
-  const auto fresh = BuildTable(experiment, experiment.systems[0], host, Folder(), problem);
+  const auto fresh = BuildTable(experiment, experiment.systems[0], host, ProgramFolder(), problem);
   const auto table = OpenLabTable(*fresh, nullptr);
   int held[5] = {};
   for (experiment.seed = 1; experiment.seed <= static_cast<std::uint64_t>(experiments); ++experiment.seed) {
@@ -322,7 +321,7 @@ TEST(LabSession, BoundsHoldTheTruthAsOftenAsTheySay) {
 
 // A hand played to its end costs the edge on what was decided, whatever stood at the end.
 TEST(LabSession, EndsWithTheHandAtTheEdge) {
-  Experiment experiment = Asked({"if passline = 0 then bet 10 on passline endif"}, SessionsToPlay(), 30);
+  Experiment experiment = Scripted({"if passline = 0 then bet 10 on passline endif"}, SessionsToPlay(), 30);
   experiment.endWithHand = true;
   const LabState state = Played(experiment);
   const SystemSums& sums = state.systems[0];
@@ -344,13 +343,13 @@ TEST(LabSession, ThatCantGoOnTellsWhy) {
                  "if dice total = 7 then stop autoroll/turboroll endif"},
                 &SystemSums::stopped}};
   for (const auto& one : cases) {
-    const LabState state = Played(Asked(one.script, 50, 300));
+    const LabState state = Played(Scripted(one.script, 50, 300));
     EXPECT_GE(state.systems[0].*one.share, 48) << one.script[0];
   }
   LabState state =
-      BeginLab(Asked({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
+      BeginLab(Scripted({"bet 5 on passline", "do", "cs1 = cs1 + 1", "loop"}, 10, 20), false, false);
   LabRun run;
-  run.applicationFolder = Folder();
+  run.applicationFolder = ProgramFolder();
   const std::string error = RunLab(state, run);
   EXPECT_NE(error.find("test.bet, line "), std::string::npos) << error;
   EXPECT_EQ(SessionsDone(state), 0);

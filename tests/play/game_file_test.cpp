@@ -165,11 +165,19 @@ struct RandomTable : test::TestTable {
       handling.AdjustValue[4] = Currency::FromRaw(Pick(100) * 1000);
     }
     UseScripts();
+    UseDice();
     game->screen.HotKeys = {{'q', "/x/q.bet", "press"}, {'7', "/x/7.bet", ""}};
     game->screen.SavedViews[4] = {700, 30, -5, 8};
     game->screen.Folders[kScriptFolder] = "/tmp/scripts";
   }
   int Pick(int count) { return static_cast<int>(choices() % static_cast<unsigned>(count)); }
+
+  void FillHistory(int rolls) {
+    ScreenState& screen = game->screen;
+    for (int n = 0; n < rolls; ++n)
+      screen.DiceHistory.push_back({1 + Pick(6), 1 + Pick(6), Pick(3) + 4, Pick(9)});
+    screen.DiceHistoryThrows = Throws(game->stats);
+  }
 
   void UseScripts() {
     const std::vector<std::string> lines(std::begin(kScript), std::end(kScript));
@@ -180,6 +188,44 @@ struct RandomTable : test::TestTable {
     }
     if (Pick(2) == 0) game->autobet.Scripts[3].Unsaved = true;
     SetScriptActive(*game, 3, true);
+  }
+  // Generator 3, edited percentage dice or not, and a roll file in each state of the recorder.
+  void UseDice() {
+    Generators& generators = game->generators;
+    generators.GeneratorIndex = 2;
+    generators.RngSeedState = 1 + Pick(700'000);
+    generators.RngLastSeed = 1 + Pick(999'999);
+    generators.RngReseedNewSessions = Pick(2) == 0;
+    generators.RngUserSeed = !generators.RngReseedNewSessions && Pick(2) == 0;
+    if (Pick(2) == 0) {
+      PercentageDice& dice = game->percentage;
+      EXPECT_TRUE(SetProbabilityCell(dice, kTotalRow, 1 + Pick(11), 9'000 + Pick(9'000), true));
+      dice.ProbDirty = true;
+      EXPECT_TRUE(ActivatePercentageDice(dice, true));
+    }
+    const int state = Pick(3);
+    if (state == kRecorderOff) return;
+    std::string rolls;
+    for (int i = 0; i < 150; ++i) rolls += static_cast<char>(RollByte(1 + Pick(6), 1 + Pick(6)));
+    game->rollFile.RollFileInsertMode = Pick(2) == 0;
+    UseRollFile(folder.File("dice.rol"), rolls, state, 1 + Pick(150));
+  }
+  void UseRollFile(const std::string& path, const std::string& rolls, int state, std::int32_t cursor) {
+    RollFile& file = game->rollFile;
+    test::WriteFile(path, rolls);
+    EXPECT_EQ(OpenRollFile(file, path), "");
+    EXPECT_EQ(SetRecorderState(file, state), "");
+    SetRollFileCursor(file, cursor);
+  }
+  // Goes on with a copy of its roll file, so that another table can have that.
+  void LeaveRollFileTo(const test::TempFolder& other) {
+    RollFile& file = game->rollFile;
+    const std::string path = file.RollFileName;
+    if (path.empty()) return;
+    const int state = file.RecorderState;
+    const std::int32_t cursor = file.RollFileCursor;
+    EXPECT_EQ(CloseRollFile(file), "");
+    UseRollFile(other.File("dice.rol"), test::ReadFile(path), state, cursor);
   }
   void Play(int rolls) {
     for (int roll = 0; roll < rolls; ++roll) {
@@ -192,7 +238,10 @@ struct RandomTable : test::TestTable {
           SetBetAmount(*game, seat, kFirstCheckStack + Pick(100), Currency::FromRaw(Pick(99)));
       }
       if (Pick(60) == 0) NewSession(*game, Pick(2) == 0, Pick(2) == 0, true, kContinueRollFile);
-      Roll(1 + Pick(6), 1 + Pick(6));
+      if (Pick(2) == 0)
+        Roll(1 + Pick(6), 1 + Pick(6));
+      else
+        RollDice(*game);
     }
   }
 };
@@ -204,29 +253,66 @@ void PlayAlike(RandomTable& a, RandomTable& b, int rolls) {
   b.Play(rolls);
 }
 
+enum class KeptAs { kOwnName, kDefault, kAutosave };
+
+// Where the game is then.
+std::string Keep(RandomTable& table, KeptAs as) {
+  std::string error;
+  Game& game = *table.game;
+  std::string path = table.folder.File("game.crp");
+  if (as == KeptAs::kOwnName) {
+    // Unsaved edits go with the other two alone.
+    if (game.percentage.ProbDirty) {
+      EXPECT_TRUE(SaveProbabilityFile(game.percentage, table.folder.File("loaded.prb"), error)) << error;
+    }
+    EXPECT_TRUE(SaveGame(game, path, error)) << error;
+  } else if (as == KeptAs::kDefault) {
+    EXPECT_TRUE(SaveDefaultGame(game, error)) << error;
+    path = DefaultGamePath(game);
+  } else {
+    EXPECT_TRUE(AutosaveGame(game, error)) << error;
+    path = AutosavePath(game);
+  }
+  return path;
+}
+
 TEST(GameFile, AGameThatWasOpenedGoesOnAsTheOneThatWasSaved) {
   const int games = Count("TESSARYN_GAME_FILES", 12);
   for (int number = 0; number < games; ++number) {
     SCOPED_TRACE("game " + std::to_string(number));
+    const auto as = static_cast<KeptAs>(number % 3);
     RandomTable played(static_cast<unsigned>(number));
     played.Play(played.Pick(120));
-    const std::string path = played.folder.File("game.crp");
-    std::string error;
-    ASSERT_TRUE(SaveGame(*played.game, path, error)) << error;
-    EXPECT_FALSE(IsSessionUnsaved(*played.game));
+    Keep(played, as);
+    played.FillHistory(number == 0 ? kMostKeptRolls : played.Pick(60));
+    EXPECT_FALSE(IsSessionUnsaved(*played.game)) << "the dice history alone is no change";
+    const std::string path = Keep(played, as);
+    const std::string first = test::ReadFile(path);
 
+    const test::TempFolder aside;
+    played.LeaveRollFileTo(aside);
     RandomTable opened(1);
     opened.game->screen.HotKeys.clear();
     opened.host.boxes.clear();
-    ASSERT_TRUE(OpenGame(*opened.game, path)) << opened.host.LastText();
-    EXPECT_TRUE(opened.host.boxes.empty()) << opened.host.LastText();
-    EXPECT_EQ(GameCaption(*opened.game), "Tessaryn (game.crp)");
+    if (as == KeptAs::kAutosave) {
+      opened.game->ownFolder = played.game->ownFolder;
+      opened.host.answers = {"yes"};
+      ASSERT_TRUE(OfferAutosave(*opened.game)) << opened.host.LastText();
+    } else {
+      ASSERT_TRUE(OpenGame(*opened.game, path)) << opened.host.LastText();
+    }
+    EXPECT_EQ(opened.host.boxes.size(), as == KeptAs::kAutosave) << opened.host.LastText();
+    EXPECT_EQ(GameCaption(*opened.game), as == KeptAs::kOwnName ? "Tessaryn (game.crp)" : "Tessaryn");
     EXPECT_FALSE(IsSessionUnsaved(*opened.game));
     EXPECT_EQ(CheckConsistency(*opened.game), "");
     EXPECT_EQ(Lost(*played.game, *opened.game), "");
-    const std::string first = test::ReadFile(path);
-    ASSERT_TRUE(SaveGame(*opened.game, path, error)) << error;
-    EXPECT_TRUE(test::ReadFile(path) == first) << "saved again, the file differs";
+    EXPECT_TRUE(played.game->percentage.ProbMatrix == opened.game->percentage.ProbMatrix);
+    EXPECT_EQ(played.game->autobet.Scripts[3].ScriptFileName, opened.game->autobet.Scripts[3].ScriptFileName);
+    std::string error;
+    if (as != KeptAs::kAutosave) {
+      ASSERT_TRUE(SaveGame(*opened.game, path, error)) << error;
+      EXPECT_TRUE(test::ReadFile(path) == first) << "saved again, the file differs";
+    }
 
     // On with the same dice, each with its own log.
     FlushEventsLog(*played.game);
@@ -237,7 +323,35 @@ TEST(GameFile, AGameThatWasOpenedGoesOnAsTheOneThatWasSaved) {
     EXPECT_EQ(played.Log(), opened.Log());
     opened.game->events.Path = played.game->events.Path;
     EXPECT_EQ(Lost(*played.game, *opened.game), "");
-    EXPECT_TRUE(IsSessionUnsaved(*opened.game));
+    EXPECT_EQ(IsSessionUnsaved(*opened.game), as == KeptAs::kOwnName);
+    FlushRollFile(played.game->rollFile);
+    FlushRollFile(opened.game->rollFile);
+    EXPECT_EQ(test::ReadFile(played.game->rollFile.RollFileName),
+              test::ReadFile(opened.game->rollFile.RollFileName));
+  }
+}
+
+TEST(GameFile, APathIsKeptToItsLastCharacterOrNamed) {
+  for (const std::size_t bytes : {kPathWidth - 1, kPathWidth, kPathWidth + 1}) {
+    test::TestTable table;
+    table.Join(1, "Zo\u00eb");
+    std::string name = "/";
+    while (name.size() + 2 <= bytes) name += "\u00e9";
+    if (name.size() < bytes) name += 'x';
+    table.game->table.seats[1].SessionsLogName = table.game->screen.Folders[kScriptFolder] = name;
+    std::string error;
+    const std::string path = table.folder.File("game.crp");
+    ASSERT_EQ(SaveGame(*table.game, path, error), bytes <= kPathWidth) << error;
+    EXPECT_EQ(error.find(name) != std::string::npos, bytes > kPathWidth) << error;
+    EXPECT_EQ(fs::exists(path), bytes <= kPathWidth);
+    table.game->table.seats[1].SessionsLogName.clear();
+    if (bytes > kPathWidth) {
+      ASSERT_TRUE(SaveGame(*table.game, path, error)) << error;  // a folder alone may be longer
+    }
+    test::TestTable opened;
+    ASSERT_TRUE(OpenGame(*opened.game, path)) << opened.host.LastText();
+    EXPECT_EQ(opened.game->table.seats[1].SessionsLogName, bytes <= kPathWidth ? name : "");
+    EXPECT_EQ(opened.game->screen.Folders[kScriptFolder], name);
   }
 }
 
@@ -384,10 +498,12 @@ TEST(GameFile, TheStartOpensWhatItIsToldAndWhatIsThere) {
 // --- Files that are none.
 
 // What an open leaves: the table that was there, with a box; or one that plays.
-void ExpectRefusedOrSound(test::TestTable& table, const std::string& path, const std::string& what) {
+void ExpectRefusedOrSound(test::TestTable& table, const std::string& path, const std::string& what,
+                          int& opened) {
   const auto before = std::make_unique<Game>(*table.game);
   table.host.boxes.clear();
   if (OpenGame(*table.game, path)) {
+    ++opened;
     ASSERT_EQ(CheckConsistency(*table.game), "") << what;
     for (int roll = 0; roll < 3; ++roll) table.Roll(1 + roll, 4);
     return;
@@ -409,17 +525,25 @@ TEST(GameFile, ATruncatedOrMutatedFileIsRefusedOrSound) {
   const std::string whole = test::ReadFile(path);
   const std::string bad = played.folder.File("bad.crp");
   test::TestTable table;
-  const int cuts = Count("TESSARYN_GAME_CUTS", 25);
-  const std::size_t step =
-      std::max<std::size_t>(whole.size() / 256 / static_cast<std::size_t>(cuts), 1) * 256;
-  for (std::size_t size = 0; size < whole.size(); size += step) {
-    for (const std::size_t odd : {std::size_t{0}, static_cast<std::size_t>(played.Pick(256))}) {
-      test::WriteFile(bad, whole.substr(0, std::min(size + odd, whole.size() - 1)));
-      table.host.boxes.clear();
-      ASSERT_FALSE(OpenGame(*table.game, bad)) << size + odd;
-    }
+  // So many at record boundaries, if there are as many, and as many anywhere.
+  const std::size_t records = whole.size() / kRecordBytes;
+  const auto cuts = static_cast<std::size_t>(Count("TESSARYN_GAME_CUTS", 25));
+  const std::size_t step = std::max<std::size_t>(records / cuts, 1);
+  std::vector<std::size_t> sizes;
+  for (std::size_t record = 0; record < records; record += step) sizes.push_back(record * kRecordBytes);
+  for (std::size_t cut = 0; cut < cuts; ++cut) sizes.push_back(played.choices() % whole.size());
+  const auto before = std::make_unique<Game>(*table.game);
+  for (const std::size_t size : sizes) {
+    test::WriteFile(bad, whole.substr(0, size));
+    table.host.boxes.clear();
+    ASSERT_FALSE(OpenGame(*table.game, bad)) << size;
+    ASSERT_EQ(table.host.boxes.size(), 1u) << size;
   }
-  for (int i = 0, mutations = Count("TESSARYN_GAME_MUTATIONS", 60); i < mutations; ++i) {
+  before->box = table.game->box;
+  EXPECT_EQ(FirstDifference(*before, *table.game), "");
+  int opened = 0;
+  const int mutations = Count("TESSARYN_GAME_MUTATIONS", 60);
+  for (int i = 0; i < mutations; ++i) {
     std::string bytes = whole;
     for (int changes = 1 + played.Pick(4); changes > 0; --changes) {
       // Half of them where the fixed records and the further ones are.
@@ -429,12 +553,12 @@ TEST(GameFile, ATruncatedOrMutatedFileIsRefusedOrSound) {
     RecordFile file;
     if (i % 4 != 0 && SplitRecords(bytes, file)) {
       SealGameRecords(file);
-      ASSERT_EQ(WriteRecordFile(bad, file), "");
-    } else {
-      test::WriteFile(bad, bytes);
+      bytes.assign(reinterpret_cast<const char*>(file.Records.data()), bytes.size());
     }
-    ASSERT_NO_FATAL_FAILURE(ExpectRefusedOrSound(table, bad, "mutation " + std::to_string(i)));
+    test::WriteFile(bad, bytes);
+    ASSERT_NO_FATAL_FAILURE(ExpectRefusedOrSound(table, bad, "mutation " + std::to_string(i), opened));
   }
+  RecordProperty("opened", opened);
 }
 
 TEST(GameFile, FilesOfOthersAreToldApart) {
@@ -485,7 +609,10 @@ TEST(GameFile, AWriteThatFailsAnywhereLeavesTheOldFile) {
   table.game->events.RecordEventsActive = false;
   table.Play(40);
   for (int i = 0, points = Count("TESSARYN_GAME_FAULTS", 12); i < points; ++i) {
-    const rlim_t bytes = i == 0 ? 0 : table.choices() % (old.size() * 9 / 10);
+    // Each byte of the first two records in turn, then anywhere.
+    const rlim_t bytes = points > 600 && i < 512 ? static_cast<rlim_t>(i)
+                         : i == 0                ? 0
+                                                 : table.choices() % (old.size() * 9 / 10);
     EXPECT_FALSE(SavesWithin(*table.game, path, bytes));
     ASSERT_TRUE(test::ReadFile(path) == old) << bytes;
   }
@@ -517,6 +644,11 @@ TEST(GameFile, AProgramThatIsKilledLeavesTheOldFileOrTheNewOne) {
       ASSERT_FALSE(problem.Found()) << path << ": " << problem.reason;
     }
   }
+  const auto left =
+      std::count_if(fs::directory_iterator(table.folder.Path()), {}, [](const fs::directory_entry& entry) {
+        return entry.path().filename().string().starts_with(".tessaryn-");
+      });
+  RecordProperty("within_a_write", static_cast<int>(left));
   ClearLeftovers(table.folder.Path());
 }
 

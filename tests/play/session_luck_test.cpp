@@ -38,8 +38,7 @@ void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 
 // TESSARYN_LUCK_ROLLS sets the length; a million takes two minutes a house in a build with checks.
 std::int64_t RollsWanted() {
-  const char* text = std::getenv("TESSARYN_LUCK_ROLLS");
-  return text != nullptr ? std::atoll(text) : 15'000;
+  return test::LengthOf("TESSARYN_LUCK_ROLLS", 15'000, 2'000);
 }
 
 constexpr int kPlayers = 3;

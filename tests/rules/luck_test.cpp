@@ -58,8 +58,7 @@ void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 
 // TESSARYN_LUCK_ROLLS sets the length of each game.
 std::int64_t RollsWanted() {
-  const char* text = std::getenv("TESSARYN_LUCK_ROLLS");
-  return text != nullptr ? std::atoll(text) : 100'000;
+  return test::LengthOf("TESSARYN_LUCK_ROLLS", 100'000, 2'000);
 }
 
 struct SilentHost : test::TestHost {

@@ -527,8 +527,7 @@ class ModelRandomGames : public testing::TestWithParam<Profile> {};
 TEST_P(ModelRandomGames, AgreeWithTheTable) {
   const Profile& profile = GetParam();
   Tally tally;
-  const char* rollsText = std::getenv("TESSARYN_MODEL_ROLLS");
-  const long wanted = rollsText != nullptr ? std::atol(rollsText) : kEnoughRolls;
+  const std::int64_t wanted = test::LengthOf("TESSARYN_MODEL_ROLLS", kEnoughRolls, 600);
   if (const char* seedText = std::getenv("TESSARYN_MODEL_SEED")) {
     PlayGame(profile, std::strtoull(seedText, nullptr, 10), tally);
     return;

@@ -205,6 +205,69 @@ TEST(Board, WhatTheNextClickIsMeantForStandsOnIt) {
   EXPECT_EQ(NextClickLine(window.window.Commands()), "");
 }
 
+// --- Motion, and what is lit.
+
+TEST(Motion, PuckAndChecksMoveShortlyAndHoldNothingUp) {
+  Window window;
+  window.Join(4, "Ann");
+  window.HandleAll();
+  window.game->settings.ShooterBetRule = 0;
+  window.game->settings.DiceAction = 1;  // not thrown
+  const TableScene& scene = window.window.Table().scene;
+  const auto moves = [&] { return !scene.moving.empty() || scene.puckShare < 1; };
+  window.Bet(4, kField, "30");
+  window.Roll(3, 3);
+  EXPECT_FALSE(moves()) << "no motion";
+  window.window.Table().animate = true;
+  window.Bet(4, kField, "30");
+  window.Bet(4, kPlace4, "10");
+  window.Roll(5, 4);
+  ASSERT_EQ(scene.moving.size(), 1u);
+  EXPECT_LT(scene.moving[0].From.y(), 0) << "won: from the house";
+  EXPECT_EQ(scene.puckShare, 1) << "the point stays";
+  // Clicks and rolls go on at once.
+  const Currency up = window.State().BetAmount(4, kField);
+  const QPoint field = window.window.Table().PointOfBet(4, kField);
+  QTest::mouseClick(&window.window.Table(), Qt::LeftButton, {}, field);
+  EXPECT_EQ(window.State().BetAmount(4, kField), up + Currency::Dollars(5));
+  const std::int64_t rolls = SessionRolls(window.game->stats);
+  window.Roll(6, 1);
+  EXPECT_EQ(SessionRolls(window.game->stats), rolls + 1);
+  ASSERT_EQ(scene.moving.size(), 2u);
+  for (const MovingChecks& checks : scene.moving) EXPECT_LT(checks.To.y(), 0) << "lost: to the house";
+  EXPECT_EQ(scene.puckFrom, 6);
+  QTest::qWait(2 * kChecksMilliseconds);
+  EXPECT_FALSE(moves());
+  window.game->settings.AutoStopInterval = 40;
+  window.game->settings.RollThrottle = 0;
+  window.host.betweenRolls = [&](Game&) { EXPECT_FALSE(moves()) << "in a Turbo-Roll"; };
+  window.host.answers.Ok();
+  ToggleAutoRoll(*window.game);
+  EXPECT_FALSE(moves());
+}
+
+TEST(Motion, AnAreaThatMayNotBeBetNowIsNotLit) {
+  Window window;
+  window.Join(4, "Ann");
+  TableWidget& table = window.window.Table();
+  const auto lights = [&](int bet) {
+    QTest::mouseMove(&table, QPoint(2, 2));
+    QTest::mouseMove(&table, table.PointOfBet(4, bet));
+    QApplication::processEvents();
+    EXPECT_EQ(table.scene.hoverBet, bet);
+    return table.scene.hoverTakes;
+  };
+  EXPECT_TRUE(lights(kPassLine));
+  EXPECT_FALSE(lights(kPassLineOdds)) << "no line bet, no point";
+  EXPECT_FALSE(lights(kCome)) << "on the come-out";
+  window.Bet(4, kPassLine, "10");
+  window.Roll(4, 2);
+  EXPECT_TRUE(lights(kPassLineOdds) && lights(kCome));
+  QTest::keyClick(&table, Qt::Key_Delete);
+  EXPECT_FALSE(lights(kCome)) << "nothing to remove";
+  EXPECT_TRUE(lights(kPassLine));
+}
+
 // --- Places.
 
 QRect OnStage(const QWidget& widget, const QWidget& stage) {
@@ -243,6 +306,11 @@ TEST(Plates, EightOfTheLargestNeverOverlapCoverFeltOrMove) {
     for (int seat = 1; seat <= kSeats; ++seat) at[seat] = stage.PlateOf(seat).geometry();
     EXPECT_GE(table.view.Scale() * 1323 + 2, std::min<double>(table.width(), (table.height() - 80) / 0.449))
         << what << ": the table is small";
+    for (int seat = 3; seat <= 6; ++seat)
+      for (int other = 2; other < kSeats; ++other)
+        EXPECT_FALSE(QRectF(at[other]).intersects(
+            table.view.Transform().mapRect(WellsOf(seat)).translated(table.pos())))
+            << what << ": the plate of " << other << " covers CheckStacks of " << seat;
     // The mark of an open position is seen whole whoever sits beside it.
     const int mark = static_cast<int>(OpenMarkRadius(table.view.Scale()));
     for (int seat = 3; seat <= 6; ++seat) {
@@ -300,7 +368,7 @@ TEST(MainWindow, ItsPartsHaveTheToldHeights) {
   } kTold[] = {{{1280, 800}, 50, 56, 22, {150, 71}, {118, 44}},
                {{1024, 600}, 38, 36, 18, {122, 50}, {86, 31}},
                {{1920, 1080}, 56, 54, 24, {172, 78}, {118, 44}},
-               {{800, 500}, 38, 36, 18, {122, 50}, {86, 31}}};
+               {{800, 500}, 38, 36, 18, {92, 50}, {86, 31}}};
   for (const auto& told : kTold) {
     Window window;
     window.Join(1, "Ann");
@@ -369,68 +437,6 @@ TEST(Palettes, TextEdgesAndFocusStandOutAsTold) {
     EXPECT_GE(knob, 2.5);
   }
   QApplication::setPalette(before);
-}
-
-// --- Somebody new: from the first start to the tenth roll by the real widgets.
-
-TEST(Newcomer, ComesFromTheFirstStartToTheTenthRollByTheGuide) {
-  Window window;
-  Game& game = *window.game;
-  window.window.OpenAtStart("");
-  ASSERT_TRUE(window.TheBoard().IsGuiding());
-  // Boxes are filled in and taken as they come.
-  int typed = 0;
-  QTimer hands;
-  QObject::connect(&hands, &QTimer::timeout, [&] {
-    auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-    if (box == nullptr || !box->isVisible()) return;
-    for (QLineEdit* entry : box->findChildren<QLineEdit*>())
-      if (entry->isVisible() && !entry->isReadOnly() && typed < 2)
-        entry->setText(typed++ == 0 ? "Ann" : "500");
-    QTest::keyClick(box, Qt::Key_Return);
-  });
-  hands.start(10);
-  TableWidget& table = window.window.Table();
-  const auto click = [&](QPoint at) {
-    QTest::mouseMove(&table, at);
-    QTest::mouseClick(&table, Qt::LeftButton, {}, at);
-  };
-  EXPECT_EQ(NextGuideStep(game), GuideStep::kJoin);
-  click(table.PointOfSeat(4));
-  ASSERT_TRUE(IsOccupied(game.table, 4));
-  EXPECT_EQ(NextGuideStep(game), GuideStep::kBet);
-  SavePicture(window.window, "guide-bet");
-  Click(window.window, "picCheck2");
-  click(table.PointOfBet(4, kPassLine));
-  EXPECT_EQ(game.table.BetAmount(4, kPassLine), game.settings.CheckValue[2]);
-  EXPECT_EQ(NextGuideStep(game), GuideStep::kRoll);
-  SavePicture(window.window, "guide-roll");
-  Click(window.window, "cmdRoll");
-  EXPECT_EQ(NextGuideStep(game), GuideStep::kAskWins);
-  QApplication::processEvents();
-  SavePicture(window.window, "guide-wins");
-  Click(window.window, "cmdGuideKeep");
-  EXPECT_EQ(game.table.seats[4].handling.WinHandling, kWinSame);
-  EXPECT_FALSE(window.TheBoard().IsGuiding());
-  EXPECT_TRUE(ReadPreferences(game.dataFolder).guideDone) << "it doesn't come again";
-  while (SessionRolls(game.stats) < 10) {
-    const auto rolls = SessionRolls(game.stats);
-    if (game.table.BetAmount(4, kPassLine) == kZero) click(table.PointOfBet(4, kPassLine));
-    Click(window.window, "cmdRoll");
-    ASSERT_EQ(SessionRolls(game.stats), rolls + 1);
-  }
-  EXPECT_TRUE(window.TheBoard().ResultText().startsWith("Roll 10: "));
-  SavePicture(window.window, "guide-tenth-roll");
-}
-
-TEST(Newcomer, MaySkipTheGuideForGood) {
-  Window window;
-  window.window.OpenAtStart("");
-  QApplication::processEvents();
-  SavePicture(window.window, "guide-join");
-  Click(window.window, "cmdGuideSkip");
-  EXPECT_FALSE(window.TheBoard().IsGuiding());
-  EXPECT_TRUE(ReadPreferences(window.game->dataFolder).guideDone);
 }
 
 }  // namespace

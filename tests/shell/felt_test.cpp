@@ -136,7 +136,7 @@ TEST(Felt, LetteringKeepsItsSmallestHeightAndStaysOffTheStacks) {
               << label.Text.toStdString() << " under the stack of " << BetName(area.Id) << " seat " << seat;
         }
       }
-    EXPECT_LT(gone, 60) << width;
+    EXPECT_LT(gone, 10) << width;
   }
 }
 

@@ -22,6 +22,7 @@
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/about.h"
 #include "shell/screens/help_window.h"
+#include "shell/screens/message_screen.h"
 #include "shell/screens/workshop_editor.h"
 #include "shell/screens/workshop_window.h"
 #include "shell/screens_support.h"
@@ -453,6 +454,23 @@ TEST(HelpWindow, F1InABoxOpensHelpThatCanBeReadBesideIt) {
     box.close();
   });
   table.window.Command("mnuAbout")->trigger();
+}
+
+TEST(HelpWindow, AMessagesHelpButtonOpensItsPageAndAnswersNothing) {
+  HelpTable table;
+  MessageBox message;
+  message.MsgFlags = kMsgOk | kMsgCancel | kMsgHelp;
+  WhenOpen("frmMsg", [&](QDialog& box) {
+    Click(box, "cmdButton4");
+    auto* help = box.findChild<HelpWindow*>();
+    ASSERT_NE(help, nullptr);
+    EXPECT_EQ(help->Place().page, "help/windows.md");
+    EXPECT_TRUE(box.isVisible());
+    help->close();
+    Click(box, "cmdButton0");
+  });
+  ShowMessageScreen(message, &table.window);
+  EXPECT_EQ(message.MsgResult, kResultOk);
 }
 
 }  // namespace

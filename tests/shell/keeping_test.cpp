@@ -102,7 +102,7 @@ struct Visit {
 };
 
 bool IsThere(const QTemporaryDir& folder, const char* name) { return QFile::exists(folder.filePath(name)); }
-std::string Bytes(const QTemporaryDir& folder, const char* name) {
+std::string BytesOf(const QTemporaryDir& folder, const char* name) {
   return ReadFile(folder.filePath(name).toStdString());
 }
 
@@ -115,7 +115,15 @@ void LeaveAllUnsaved(Visit& run) {
   run.Do("mnuSaveAs");
   script.Unsaved = true;
   run.game->percentage.ProbDirty = true;
+  // Nothing is asked of logged bets: the last game keeps them, and that they aren't saved.
+  run.game->autobet.LoggedBets = {"bet 5 on field"};
+  run.game->autobet.LoggedBetsUnsaved = true;
   run.Bet(3, kField, 25);
+}
+
+void ExpectLoggedBets(const Visit& run) {
+  EXPECT_EQ(run.game->autobet.LoggedBets, std::vector<std::string>{"bet 5 on field"});
+  EXPECT_TRUE(run.game->autobet.LoggedBetsUnsaved);
 }
 
 TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
@@ -130,7 +138,7 @@ TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
       if (givenUp && question == 2) continue;  // it has a name, and asks for none
       Visit run(folder);
       LeaveAllUnsaved(run);
-      const std::string evening = Bytes(folder, "evening.crp");
+      const std::string evening = BytesOf(folder, "evening.crp");
       std::deque<const char*> buttons(question, kNo);
       buttons.push_back(givenUp ? kYes : answer);
       const bool refused = givenUp || answer == kCancel;
@@ -141,7 +149,7 @@ TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
       EXPECT_EQ(run.Close(buttons), !refused);
       EXPECT_EQ(run.answers.titles, kTitles.mid(0, refused ? question + 1 : 3));
       EXPECT_EQ(IsThere(folder, "default.crp"), !refused);
-      EXPECT_EQ(Bytes(folder, "evening.crp") != evening, answer == kYes && question == 2);
+      EXPECT_EQ(BytesOf(folder, "evening.crp") != evening, answer == kYes && question == 2);
       EXPECT_EQ(IsThere(folder, "mine.bet"), answer == kYes && question == 0);
       EXPECT_EQ(IsThere(folder, "mine.prb"), answer == kYes && question == 1);
       if (refused) {
@@ -158,6 +166,7 @@ TEST(Closing, EveryAnswerOfEveryQuestionKeepsWhatItSays) {
       EXPECT_EQ(next.game->autobet.Scripts[3].ScriptLines, std::vector<std::string>{"bet 10 on field"});
       EXPECT_EQ(next.window->windowTitle(), "Tessaryn");
       EXPECT_FALSE(next.game->percentage.ProbFileName.empty());
+      ExpectLoggedBets(next);
       EXPECT_FALSE(IsThere(folder, "autosave.crp"));
       next.window->CloseUnasked();
     }
@@ -202,14 +211,15 @@ TEST(Closing, WhereNobodyIsAskedNothingIsLost) {
   {
     Visit run(folder);
     LeaveAllUnsaved(run);
-    evening = Bytes(folder, "evening.crp");
+    evening = BytesOf(folder, "evening.crp");
     run.game->screen.HotKeys = {{'f', run.game->dataFolder + "field.bet", "Field"}};
     run.window->CloseUnasked();
   }
-  EXPECT_EQ(Bytes(folder, "evening.crp"), evening) << "a file of the user's is written at his word alone";
+  EXPECT_EQ(BytesOf(folder, "evening.crp"), evening) << "a file of the user's is written at his word alone";
   Visit next(folder);
   EXPECT_EQ(next.game->autobet.Scripts[3].ScriptLines, std::vector<std::string>{"bet 10 on field"});
   EXPECT_TRUE(next.game->autobet.Scripts[3].Unsaved);
+  ExpectLoggedBets(next);
   EXPECT_EQ(QFileInfo(FromCore(next.game->percentage.ProbFileName)).fileName(), "default.prb");
   EXPECT_EQ(next.game->screen.HotKeys.size(), 1u);
   EXPECT_EQ(next.OnField(3), Currency::Dollars(25));
@@ -276,7 +286,7 @@ TEST(Starting, OpensWhatItFindsAndSaysWhatItDoesnt) {
     write("own.crp", "Own");
     if (one.lastGame) write("default.crp", "Lena");
     if (one.damaged) {
-      std::string bytes = Bytes(folder, "default.crp");
+      std::string bytes = BytesOf(folder, "default.crp");
       WriteFile(folder.filePath("default.crp").toStdString(), bytes.substr(0, bytes.size() / 2));
     }
     if (one.backup) {
@@ -502,6 +512,21 @@ TEST(Opening, EachKindOpensItsScreenForTheLastGame) {
 }
 
 // --- The autosave.
+
+TEST(Autosaving, OneIsWrittenEveryFewMinutesIfAnythingChanged) {
+  const QTemporaryDir folder;
+  Visit run(folder);
+  const auto minutesPass = [&] {
+    for (QTimer* timer : run.window->findChildren<QTimer*>(QString(), Qt::FindDirectChildrenOnly))
+      if (timer->interval() == kAutosaveMinutes * 60'000)
+        QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+    return IsThere(folder, "autosave.crp");
+  };
+  EXPECT_FALSE(minutesPass());
+  run.Join(3, "Ann");
+  EXPECT_TRUE(minutesPass());
+  EXPECT_TRUE(run.Close());
+}
 
 TEST(Autosaving, ARunIsPrecededByOneAndAnOrderlyEndTakesItAway) {
   const QTemporaryDir folder;

@@ -2,13 +2,20 @@
 // session that is sent to the table goes there as it went in the laboratory.
 #include "lab/laboratory.h"
 
+#include <QAction>
 #include <QComboBox>
+#include <QDoubleSpinBox>
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTableWidget>
+#include <QTextDocumentFragment>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <set>
 
+#include "lab/lab_json.h"
 #include "lab/replay.h"
 #include "lab/systems.h"
 #include "shell/frame/main_window.h"
@@ -111,8 +118,10 @@ TEST(LaboratoryScreen, PausedAndContinuedItTellsWhatTheCoreFigures) {
   ASSERT_TRUE(table.Waits("Run"));
   const LabFigures plain = Plainly(experiment);
   EXPECT_EQ(table.Texts("lstMeasures"), Flat(MeasureRows(plain, 0, 1)));
-  EXPECT_EQ(Find<QLabel>(table.lab, "lblVerdict").text(), JudgeLab(plain, 0, 1).sentence);
-  EXPECT_EQ(table.lab.Rows(), SystemRows(plain));
+  EXPECT_EQ(Find<QLabel>(table.lab, "lblVerdict").text(), JudgeLab(plain, 0, 1).coloured);
+  EXPECT_EQ(QTextDocumentFragment::fromHtml(JudgeLab(plain, 0, 1).coloured).toPlainText(),
+            JudgeLab(plain, 0, 1).sentence);
+  EXPECT_EQ(table.lab.Rows(), RankedRows(plain, RankBy::kMean));
   // The other way round, and one alone.
   const MeanFigure ab = DifferenceOf(plain, 0, 1);
   const MeanFigure ba = DifferenceOf(plain, 1, 0);
@@ -187,9 +196,105 @@ TEST(LaboratoryScreen, TellsWhatIsWrongAndEnds) {
   EXPECT_TRUE(Find<QWidget>(table.lab, "txtBets").isEnabled());
 }
 
+// What the screen saves is what the core makes of the same experiment, to the byte, gone on with or not.
+TEST(LaboratoryScreen, SavesOpensAndGoesOnAsTheCommandLineDoes) {
+  Laboratory table;
+  Experiment experiment = table.SetUp("60");
+  const auto file = [&](const char* name) { return table.folder.filePath(name).toStdString(); };
+  const auto save = [&](const char* action, const char* name) {
+    QueuedFileNames() = {file(name)};
+    table.lab.findChild<QAction*>(action)->trigger();
+    return ReadFile(file(name));
+  };
+  const auto expectAsPlain = [&] {
+    LabState state = BeginLab(experiment, true, true);
+    SessionRows rows;
+    EXPECT_EQ(OpenRows(rows, "", state), "");
+    state.rows = rows.kept;
+    LabRun run;
+    run.applicationFolder = std::string(kBinFolder) + "/";
+    run.rows = &rows;
+    EXPECT_EQ(RunLab(state, run), "");
+    EXPECT_EQ(WriteRowsAsCsv(rows, experiment, file("plain.csv")), "");
+    EXPECT_EQ(WriteRowsAsLogs(rows, file("plain.slg")), "");
+    EXPECT_EQ(save("mnuSaveCsv", "a.csv"), ReadFile(file("plain.csv")));
+    std::error_code none;
+    std::filesystem::remove(file("a.2.slg"), none);
+    std::filesystem::remove(file("a.1.slg"), none);
+    save("mnuSaveLogs", "a.slg");
+    EXPECT_EQ(ReadFile(file("a.2.slg")), ReadFile(file("plain.2.slg")));
+    EXPECT_EQ(save("mnuSaveJson", "a.json"), LabJson<nlohmann::ordered_json>(state).dump() + "\n");
+    EXPECT_EQ(ReadFile(file("a.lab")), LabBytes(state));
+  };
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  save("mnuSaveLab", "a.lab");
+  expectAsPlain();
+  Click(table.lab, "cmdEnd");
+  ASSERT_TRUE(table.Waits("Run"));
+  experiment.sessions = 240;
+  expectAsPlain();
+  // Another is played, then the first is back.
+  const QList<QStringList> rows = table.lab.Rows();
+  TypeInto(table.lab, "txtSeed", "8");
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  EXPECT_NE(table.lab.Rows(), rows);
+  QueuedFileNames() = {file("a.lab")};
+  Click(table.lab, "cmdOpen");
+  EXPECT_EQ(table.lab.Rows(), rows);
+  expectAsPlain();
+  // A file that is none leaves everything as it is.
+  QueuedFileNames() = {file("a.json")};
+  QString told;
+  WhenOpen("frmMsg", [&](QDialog& box) {
+    for (QLabel* label : box.findChildren<QLabel*>()) told += label->text();
+    QTest::keyClick(&box, Qt::Key_Return);
+  });
+  Click(table.lab, "cmdOpen");
+  EXPECT_TRUE(told.contains("a.json")) << told.toStdString();
+  EXPECT_EQ(table.lab.Rows(), rows);
+}
+
+TEST(LaboratoryScreen, SweepsAndSearchesAreTheCoresToo) {
+  Laboratory table;
+  Experiment experiment = table.SetUp("200");
+  TypeInto(table.lab, "txtStakes", "1=5,10");
+  TypeInto(table.lab, "txtVaried", "OddsCalcMethod=1,2,3");
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  EXPECT_EQ(table.lab.Rows().size(), 13);
+  table.Show(6);
+  auto& picture = Find<LabPictureView>(table.lab, "picSweep");
+  std::set<int> chosen;
+  QObject::connect(&picture, &LabPictureView::Chosen, [&](int system) {
+    chosen.insert(system);
+    EXPECT_EQ(Find<QComboBox>(table.lab, "cmbA").currentIndex(), system);
+  });
+  for (int y = 0; y < picture.height(); y += 12)
+    for (int x = 0; x < picture.width(); x += 24) QTest::mouseClick(&picture, Qt::LeftButton, {}, {x, y});
+  EXPECT_EQ(chosen, (std::set<int>{0, 1, 2, 3, 4, 5}));
+  // The least bankroll.
+  for (const char* line : {"txtStakes", "txtVaried"}) Find<QLineEdit>(table.lab, line).clear();
+  Find<QLineEdit>(table.lab, "txtLossLimit").clear();
+  Find<QComboBox>(table.lab, "cmbQuestion").setCurrentIndex(1);
+  Find<QDoubleSpinBox>(table.lab, "txtRuin").setValue(20);
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Find"));
+  experiment.lossLimit = kZero;
+  std::vector<LabAnswer> answers(2);
+  const LabQuestion question{-1, 0.2};
+  for (std::size_t i = 0; i < 2; ++i)
+    EXPECT_EQ(FindForRuin(experiment, i, question, {1, table.game->applicationFolder, {}}, answers[i]), "");
+  EXPECT_EQ(table.lab.Rows(), FoundRows(experiment, question, answers));
+  EXPECT_TRUE(answers[0].found);
+}
+
 TEST(LaboratoryScreen, EveryPageFitsSmallScreens) {
   Laboratory table;
   table.SetUp("300");
+  TypeInto(table.lab, "txtVaried", "OddsCalcMethod=1,2,3");
+  TypeInto(table.lab, "txtStakes", "1=5..25:5");
   ExpectNamed(table.lab);
   Click(table.lab, "cmdRun");
   ASSERT_TRUE(table.Waits("Run"));
@@ -197,7 +302,7 @@ TEST(LaboratoryScreen, EveryPageFitsSmallScreens) {
   EXPECT_LE(table.lab.minimumSizeHint().height(), 540);
   const QPalette light = QApplication::palette();
   for (const QSize size : {QSize(1000, 540), QSize(1280, 760)})
-    for (int page = 0; page < 5; ++page) {
+    for (int page = 0; page < 8; ++page) {
       table.lab.resize(size);
       table.Show(page);
       QTest::qWait(20);
@@ -205,7 +310,7 @@ TEST(LaboratoryScreen, EveryPageFitsSmallScreens) {
       SavePicture(table.lab, QString("laboratory-%1-%2").arg(size.width()).arg(page));
     }
   QApplication::setPalette(DarkPalette());
-  for (int page = 0; page < 5; ++page) {
+  for (int page = 0; page < 8; ++page) {
     table.Show(page);
     QTest::qWait(20);
     SavePicture(table.lab, QString("laboratory-dark-%1").arg(page));

@@ -13,15 +13,20 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QTabBar>
+#include <QTableWidget>
 #include <QXmlStreamReader>
+#include <memory>
+#include <random>
 
 #include "base/bet_catalogue.h"
 #include "play/setting_rows.h"
+#include "rules/handling.h"
 #include "shell/frame/main_window.h"
 #include "shell/frame/tool_windows.h"
 #include "shell/screens/about.h"
 #include "shell/screens/core_words.h"
 #include "shell/screens_support.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn::test {
@@ -39,15 +44,20 @@ QList<Entry> EntriesOf(const char* code) {
   QXmlStreamReader xml(&file);
   QList<Entry> entries;
   QString context;
+  bool numerus = false;
   while (!xml.atEnd()) {
     xml.readNext();
     if (!xml.isStartElement()) continue;
+    if (xml.name() == QLatin1String("message")) numerus = xml.attributes().hasAttribute("numerus");
     if (xml.name() == QLatin1String("name")) context = xml.readElementText();
     if (xml.name() == QLatin1String("source")) entries.append({context, xml.readElementText(), {}, true});
-    if (xml.name() == QLatin1String("translation")) {
+    if (xml.name() == QLatin1String("translation"))
       entries.back().finished = !xml.attributes().hasAttribute("type");
+    // Of what is counted each form is a text of its own.
+    const bool form = xml.name() == QLatin1String("numerusform");
+    if (form && !entries.back().translation.isEmpty()) entries.append(Entry(entries.back()));
+    if (form || (xml.name() == QLatin1String("translation") && !numerus))
       entries.back().translation = xml.readElementText();
-    }
   }
   EXPECT_FALSE(xml.hasError()) << code;
   return entries;
@@ -166,7 +176,7 @@ QList<Seen> TextsOf(QWidget& screen) {
 constexpr QChar kOpen(0x2039);
 constexpr QChar kClose(0x203a);
 // A language in which every text stands between marks; a colon ends a label in each.
-QString Marked(const char*, const char* source) {
+QString Marked(const char*, const char* source, int) {
   const QString text = QString::fromUtf8(source);
   return text.endsWith(':') ? kOpen + text.chopped(1) + kClose + ':' : kOpen + text + kClose;
 }
@@ -209,6 +219,12 @@ TEST(Languages, AChangeWithEverythingOpenLeavesNothingOfTheFormerOne) {
     for (const Seen& seen : TextsOf(*screen)) before += QString::fromStdString(seen.where) + "|" + seen.text;
   SpeakWith(Marked, names);
   QTest::qWait(100);
+  int watched = 0;
+  for (QWidget* screen : table.Windows())
+    for (const auto* watch : screen->findChildren<QTableWidget*>("tblWatch"))
+      for (int row = 0; row < watch->rowCount(); ++row, ++watched)
+        EXPECT_FALSE(watch->item(row, 0)->text().contains(kOpen)) << "a script's word has become another";
+  EXPECT_GT(watched, 0);
   int said = 0;
   for (QWidget* screen : table.Windows())
     for (const Seen& seen : TextsOf(*screen)) {
@@ -260,6 +276,16 @@ TEST(Languages, AccessLettersAreUniqueInEveryMenuOfEveryLanguage) {
   SpeakLanguage(0);
 }
 
+// The list that a box opens shows each of its choices whole.
+void ExpectWholeChoices(QComboBox& box, const std::string& where) {
+  if (box.count() == 0 || !box.isEnabled()) return;
+  box.showPopup();
+  QApplication::processEvents();
+  EXPECT_GE(box.view()->viewport()->width(), box.view()->sizeHintForColumn(0))
+      << where << box.objectName().toStdString();
+  box.hidePopup();
+}
+
 // A caption is cut if it needs more room than it has; what is elided on purpose, or wraps, isn't.
 TEST(Languages, NoTextIsCutInAnyLanguage) {
   OpenTable table;
@@ -273,6 +299,7 @@ TEST(Languages, NoTextIsCutInAnyLanguage) {
       QTest::qWait(1);
       for (QWidget* widget : screen->findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(screen) || widget->width() == 0) continue;
+        if (auto* box = qobject_cast<QComboBox*>(widget)) ExpectWholeChoices(*box, where);
         const auto* label = qobject_cast<QLabel*>(widget);
         const bool free =
             label != nullptr && (label->wordWrap() || label->text().isEmpty() ||
@@ -331,6 +358,197 @@ TEST(Languages, TheCoresWordsAreAllListed) {
       EXPECT_TRUE(listed.contains(QString::fromUtf8(caption))) << row.name << ": " << caption;
   }
 }
+
+// --- Numbers by the habit of the language.
+
+TEST(Numbers, AreReadAsTheLanguageWritesThemAndNeverAsAnotherAmount) {
+  constexpr const char* kNone = "";
+  const struct {
+    const char* typed;
+    const char* in[5];  // English, Spanish, German, French, Turkish
+  } kRows[] = {{"1,5", {"1.5", "1.5", "1.5", "1.5", "1.5"}},
+               {"1.5", {"1.5", "1.5", "1.5", "1.5", "1.5"}},
+               {"1,500", {"1500", "1.500", "1.500", "1.500", "1.500"}},
+               {"1.500", {"1.500", "1500", "1500", "1.500", "1500"}},
+               {"1.234.567,25", {"1234567.25", "1234567.25", "1234567.25", "1234567.25", "1234567.25"}},
+               {"1,234.5", {"1234.5", "1234.5", "1234.5", "1234.5", "1234.5"}},
+               {"1 234,5", {"1234.5", "1234.5", "1234.5", "1234.5", "1234.5"}},
+               {"-0,125", {"-0.125", "-0.125", "-0.125", "-0.125", "-0.125"}},
+               {",5", {".5", ".5", ".5", ".5", ".5"}},
+               {"7,", {"7", "7", "7", "7", "7"}},
+               {"1.2.3", {kNone, kNone, kNone, kNone, kNone}},
+               {"1.23,4", {kNone, kNone, kNone, kNone, kNone}},
+               {"1,234.5,6", {kNone, kNone, kNone, kNone, kNone}},
+               {"1e3", {kNone, kNone, kNone, kNone, kNone}},
+               {"", {kNone, kNone, kNone, kNone, kNone}}};
+  std::mt19937_64 random(14);
+  for (int language = 0; language < 5; ++language) {
+    SpeakLanguage(0);
+    MoneyEdit box;
+    box.SetKeys(4, true);
+    SpeakLanguage(language);
+    for (const auto& row : kRows)
+      EXPECT_EQ(ToCore(FileNumber(row.typed, HabitSpoken())), row.in[language])
+          << row.typed << " " << language;
+    for (int n = 0; n < 2000; ++n) {
+      const Currency value = Currency::FromRaw(static_cast<std::int64_t>(random()) >> (random() % 60));
+      Currency read;
+      ASSERT_TRUE(ReadNumber(MoneyText(value), read) && read == value) << ToCore(MoneyText(value));
+      SpeakLanguage(0);
+      box.SetValue(value);
+      SpeakLanguage(language);
+      ASSERT_EQ(box.Value(), value) << "kept through a change of language: " << ToCore(box.text());
+      const NumbersOfFiles files;
+      ASSERT_EQ(ToCore(MoneyText(value)), FormatMoney(value));
+    }
+    box.clear();
+    QTest::keyClicks(&box, language == 0 ? "-1x234.5" : "-1x234,5");
+    EXPECT_EQ(box.Value(), ParseMoney("-1234.5")) << ToCore(box.text());
+  }
+  SpeakLanguage(0);
+}
+
+// Numbers in what is exported are those of English, whatever is spoken.
+TEST(Numbers, InExportsAreThoseOfFiles) {
+  OpenTable table;
+  QStringList numbers[2];
+  for (const int language : {0, 2}) {
+    SpeakLanguage(language);
+    QTest::qWait(50);
+    for (QWidget* screen : table.Windows()) {
+      const auto* tool = dynamic_cast<ToolWindow*>(screen);
+      if (tool == nullptr || screen->objectName() == "frmHelp") continue;
+      const NumbersOfFiles inTheirForm;
+      const std::unique_ptr<RowSource> rows = tool->TakeRows();
+      for (qint64 row = 0; row < std::min<qint64>(rows->Count(), 200); ++row)
+        for (const QString& cell : rows->Row(row)) numbers[language / 2] += screen->objectName() + " " + cell;
+    }
+  }
+  numbers[0] = numbers[0].filter(QRegularExpression(" [-+]?\\$?[\\d,]+\\.?\\d*%?$"));
+  for (const QString& number : numbers[0]) EXPECT_TRUE(numbers[1].contains(number)) << ToCore(number);
+  EXPECT_GT(numbers[0].size(), 100);
+  SpeakLanguage(0);
+}
+
+// --- Somebody new: from the first start to the tenth roll by the real widgets.
+
+constexpr int kMarked = 5;  // the language in which every text stands between marks
+
+class Newcomer : public testing::TestWithParam<int> {
+ protected:
+  ScreenTable table;
+  Game& game = *table.game;
+  std::unique_ptr<MainWindow> window;
+  int typed = 0;
+  QTimer hands;
+
+  Newcomer() {
+    game.settings.Language = GetParam() % kMarked;
+    window = std::make_unique<MainWindow>(game, table.host);
+    window->Table().animate = false;
+    window->resize(1024, 600);
+    window->show();
+    EXPECT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+    if (GetParam() == kMarked) SpeakWith(Marked);
+    window->OpenAtStart("");
+    QApplication::processEvents();
+    // Boxes are filled in and taken as they come.
+    QObject::connect(&hands, &QTimer::timeout, &hands, [this] {
+      auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (box == nullptr || !box->isVisible()) return;
+      const bool french = GetParam() == 3;
+      for (QLineEdit* entry : box->findChildren<QLineEdit*>()) {
+        if (!entry->isVisible() || entry->isReadOnly() || typed > 1) continue;
+        entry->clear();
+        QTest::keyClicks(entry, typed++ == 0                ? "Ada"
+                                : GetParam() % kMarked == 0 ? "1500.5"
+                                : french                    ? "1 500,5"
+                                                            : "1.500,5");
+      }
+      if (box->objectName() == "frmJoin")
+        EXPECT_EQ(ToCore(Find<QLabel>(*box, "lblAdd").text()), GetMessage(GetParam() % kMarked, 3));
+      Look(*box, box->objectName());
+      QTest::keyClick(box, Qt::Key_Return);
+    });
+    hands.start(10);
+  }
+  ~Newcomer() override {
+    hands.stop();
+    window.reset();
+    SpeakWith({});
+    SpeakLanguage(0);
+  }
+  Board& TheBoard() { return window->Stage().TheBoard(); }
+  // What is painted on the board, and all else that can be read.
+  void Look(QWidget& screen, const QString& name) {
+    SavePicture(screen, QString("newcomer-%1-%2").arg(GetParam()).arg(name));
+    if (GetParam() != kMarked) return;
+    QList<Seen> all = TextsOf(screen);
+    all += {{GuideText(NextGuideStep(game)), "guide"}, {TheBoard().ResultText(), "board"}};
+    for (const QString& line : MoneyLines(game, 4)) all += {line, "plate"};
+    for (const QString& note : TheBoard().Notes()) all += {note, "note"};
+    // What has its translations in the core is English here, as the language that is set.
+    const auto told = [](const QString& text) {
+      for (int id = 1; id < 200; ++id)
+        if (text.toStdString() == GetMessage(0, id)) return true;
+      return false;
+    };
+    for (const Seen& seen : all)
+      EXPECT_TRUE(told(seen.text) || MayStay(seen.text, QString::fromStdString(seen.where)))
+          << name.toStdString() << " " << seen.where << ": " << seen.text.toStdString();
+  }
+  void ClickTable(QPoint at) {
+    QTest::mouseMove(&window->Table(), at);
+    QTest::mouseClick(&window->Table(), Qt::LeftButton, {}, at);
+  }
+};
+
+TEST_P(Newcomer, ComesFromTheFirstStartToTheTenthRollByTheGuide) {
+  ASSERT_TRUE(TheBoard().IsGuiding());
+  EXPECT_EQ(NextGuideStep(game), GuideStep::kJoin);
+  EXPECT_EQ(GuideText(GuideStep::kJoin) == "Click a + to join", GetParam() == 0);
+  Look(*window, "1");
+  ClickTable(window->Table().PointOfSeat(4));
+  ASSERT_TRUE(IsOccupied(game.table, 4));
+  EXPECT_EQ(game.table.BankrollCurrent[4], ParseMoney("1500.5")) << "as it was typed";
+  EXPECT_EQ(NextGuideStep(game), GuideStep::kBet);
+  Look(*window, "2");
+  Click(*window, "picCheck2");
+  ClickTable(window->Table().PointOfBet(4, kPassLine));
+  EXPECT_EQ(game.table.BetAmount(4, kPassLine), game.settings.CheckValue[2]);
+  EXPECT_EQ(NextGuideStep(game), GuideStep::kRoll);
+  Look(*window, "3");
+  Click(*window, "cmdRoll");
+  EXPECT_EQ(NextGuideStep(game), GuideStep::kAskWins);
+  QApplication::processEvents();
+  Look(*window, "4");
+  for (const char* name : {"cmdGuideAsk", "cmdGuideKeep"}) {
+    const auto& button = Find<QPushButton>(*window, name);
+    EXPECT_GE(button.width(), button.fontMetrics().horizontalAdvance(button.text()) + 4) << name;
+    EXPECT_TRUE(TheBoard().rect().contains(button.geometry())) << name;
+  }
+  Click(*window, "cmdGuideKeep");
+  EXPECT_EQ(game.table.seats[4].handling.WinHandling, kWinSame);
+  EXPECT_FALSE(TheBoard().IsGuiding());
+  EXPECT_TRUE(ReadPreferences(game.dataFolder).guideDone) << "it doesn't come again";
+  while (SessionRolls(game.stats) < 10) {
+    const auto rolls = SessionRolls(game.stats);
+    if (game.table.BetAmount(4, kPassLine) == kZero) ClickTable(window->Table().PointOfBet(4, kPassLine));
+    Click(*window, "cmdRoll");
+    ASSERT_EQ(SessionRolls(game.stats), rolls + 1);
+  }
+  EXPECT_EQ(TheBoard().ResultText().startsWith("Roll 10: "), GetParam() == 0);
+  EXPECT_TRUE(TheBoard().ResultText().contains("10"));
+  Look(*window, "5");
+}
+
+TEST_P(Newcomer, MaySkipTheGuideForGood) {
+  Click(*window, "cmdGuideSkip");
+  EXPECT_FALSE(TheBoard().IsGuiding());
+  EXPECT_TRUE(ReadPreferences(game.dataFolder).guideDone);
+}
+
+INSTANTIATE_TEST_SUITE_P(InEachLanguage, Newcomer, testing::Range(0, kMarked + 1));
 
 }  // namespace
 }  // namespace tessaryn::test

@@ -12,12 +12,14 @@
 #include <QtEndian>
 #include <csignal>
 
+#include "base/messages.h"
 #include "dice/generators.h"
 #include "dice/percentage_dice.h"
 #include "play/game_file.h"
 #include "play/hot_keys.h"
 #include "shell/frame/main_window.h"
 #include "shell/screens_support.h"
+#include "shell/table/screen_tools.h"
 #include "support/places.h"
 
 namespace tessaryn::test {
@@ -433,6 +435,59 @@ TEST(Program, ASignalAtTheFirstQuestionLeavesTheAutosave) {
   EXPECT_TRUE(program.WaitForEnd());
   EXPECT_EQ(program.ExitCode(), 128 + SIGTERM);
   EXPECT_EQ(ReadFile(autosave), kept);
+}
+
+// What is told at a start, and whose game it is then.
+TEST(Program, StartsWithWhatThereIsAndSaysWhatIsNot) {
+  FirstEvening evening;
+  ASSERT_FALSE(evening.display.Name().isEmpty());
+  const QString unable = FromCore(MessageText(Msg::kTitleGameNotOpened));
+  const QString missing = FromCore(MessageText(Msg::kTitleGameNotFound));
+  std::string lastGame;
+  {
+    ScreenTable table;
+    table.Join(3, "Ann");
+    std::string error;
+    ASSERT_TRUE(SaveDefaultGame(*table.game, error)) << error;
+    lastGame = ReadFile(DefaultGamePath(*table.game));
+  }
+  const struct {
+    const char* argument;
+    std::string bytes;  // of the default game; none without
+    QStringList box;
+    const char* player;
+  } cases[] = {{"", "", {}, ""},
+               {"", lastGame, {}, "Ann"},
+               {"", lastGame.substr(0, lastGame.size() / 2), {unable}, ""},
+               {"", lastGame.substr(0, 300), {unable}, ""},
+               {"evening.txt", lastGame, {unable}, "Ann"},
+               {"none.crp", lastGame, {missing}, "Ann"},
+               {"none.crp", "", {missing}, ""}};
+  for (const auto& one : cases) {
+    SCOPED_TRACE(one.argument + std::to_string(one.bytes.size()));
+    const QTemporaryDir data;
+    const std::string kept = data.filePath(kDefaultGameFile).toStdString();
+    if (!one.bytes.empty()) WriteFile(kept, one.bytes);
+    QStringList words{"--data-folder", data.path()};
+    if (*one.argument != 0) words.append(data.filePath(one.argument));
+    Program program(evening.display, QString(test::kBinFolder) + "/tessaryn", words);
+    if (one.box.isEmpty())
+      ASSERT_TRUE(evening.WaitForTable());
+    else
+      ASSERT_TRUE(QTest::qWaitFor([&] { return !program.Boxes().isEmpty(); }, 15'000));
+    EXPECT_EQ(program.Boxes(), one.box);
+    program.AnswerBoxes();
+    program.Settled();
+    program.Focus("^Tessaryn$");
+    program.Key("ctrl+shift+q");
+    ASSERT_TRUE(program.WaitForEnd());
+    EXPECT_EQ(program.ExitCode(), 0);
+    EXPECT_EQ(program.Complaints().toStdString(), "");
+    ScreenTable looked;
+    ASSERT_TRUE(OpenGame(*looked.game, kept));
+    EXPECT_EQ(looked.game->table.seats[3].SeatName, one.player);
+    EXPECT_EQ(QFile::exists(data.filePath(kDamagedGameFile)), one.bytes.size() % lastGame.size() != 0);
+  }
 }
 
 // One box says so; the game goes on, and the end asks and writes nothing.

@@ -184,7 +184,7 @@ TEST(ReportScreens, SelectorsWorkByMouseAndKeysAndAreCommonToAll) {
   QTest::keyClick(&list, Qt::Key_End);
   QTest::keyClick(&list, Qt::Key_Space);
   EXPECT_FALSE(shown.AllBets);
-  EXPECT_EQ(shown.Bets, std::vector<int>{kFire});
+  EXPECT_EQ(shown.Bets, std::vector<BetId>{kFire});
   SavePicture(*list.parentWidget(), "report-list");
   list.parentWidget()->close();
   // Buttons that stay pressed.

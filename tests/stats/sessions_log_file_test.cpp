@@ -183,7 +183,8 @@ TEST(SessionsLogFile, AFullDiskLosesNothing) {
   std::signal(SIGXFSZ, SIG_IGN);
   rlimit before{};
   ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
-  for (rlim_t bytes = 0; bytes <= 4 * kRecordBytes; bytes += 7) {
+  const rlim_t step = std::getenv("TESSARYN_GAME_FAULTS") != nullptr ? 1 : 7;
+  for (rlim_t bytes = 0; bytes <= 4 * kRecordBytes; bytes += step) {
     std::remove(path.c_str());
     Records model;
     for (std::int64_t number = 1; number <= 4; ++number) {

@@ -80,7 +80,8 @@ bool NotesSignal(int process, int signal) {
 
 Ran RunCli(const TempFolder& folder, std::vector<std::string> arguments, const std::string& input,
            const Surroundings& around) {
-  arguments.insert(arguments.begin(), std::string(test::kBinFolder) + "/tessaryn-cli");
+  arguments.insert(arguments.begin(), std::string(test::kBinFolder) + "/" + around.program);
+  arguments.insert(arguments.begin(), around.launcher.begin(), around.launcher.end());
   WriteFile(folder.File("stdin"), input);
   WriteFile(folder.File("stdout"), "");
   int in[2] = {-1, -1};

@@ -20,13 +20,15 @@ struct Ran {
 
 // What stands around a run that isn't as usual.
 struct Surroundings {
-  std::string out;                  // standard output, if it is not to be read
-  bool noReader = false;            // standard output is a pipe that nobody reads
-  bool powerless = false;           // permissions hold for the program, even if root started the test
-  bool openInput = false;           // standard input stays open behind the input
-  long fileLimit = 0;               // bytes that a file may have, as on a full disk; 0 any
-  int signal = 0;                   // sent when the program notes signals, and
-  std::function<bool()> when = {};  // this holds
+  std::string program = "tessaryn-cli";    // beside the tests
+  std::vector<std::string> launcher = {};  // what starts it, by its path, with its arguments
+  std::string out;                         // standard output, if it is not to be read
+  bool noReader = false;                   // standard output is a pipe that nobody reads
+  bool powerless = false;                  // permissions hold for the program, even if root started the test
+  bool openInput = false;                  // standard input stays open behind the input
+  long fileLimit = 0;                      // bytes that a file may have, as on a full disk; 0 any
+  int signal = 0;                          // sent when the program notes signals, and
+  std::function<bool()> when = {};         // this holds
 };
 
 // Its input and output go through files in the folder.

@@ -18,4 +18,9 @@ int Rounds(int rounds) {
   return std::getenv("TESSARYN_SANITIZED") != nullptr ? rounds / kShare : rounds;
 }
 
+std::int64_t LengthOf(const char* variable, std::int64_t usual, std::int64_t underSanitizers) {
+  if (const char* asked = std::getenv(variable)) return std::atoll(asked);
+  return std::getenv("TESSARYN_SANITIZED") != nullptr ? underSanitizers : usual;
+}
+
 }  // namespace tessaryn::test

@@ -23,7 +23,7 @@ double Moved(double value, double by) { return value > 0 ? value + by : value; }
 
 }  // namespace
 
-bool CompileAutobets(int player, const std::vector<std::string>& lines,
+bool CompileAutobets(SeatId player, const std::vector<std::string>& lines,
                      const ScriptSurroundings& surroundings, CompiledScript& out,
                      ScriptDiagnostic& diagnostic, std::vector<int>* nesting) {
   diagnostic = {};

@@ -10,7 +10,7 @@ namespace tessaryn {
 
 // Compiles the script of player 0 to 8 (0 a hot-key script). On failure returns false with the first error
 // in diagnostic, and out is empty. nesting, if given, takes on success the level of each line.
-bool CompileAutobets(int player, const std::vector<std::string>& lines,
+bool CompileAutobets(SeatId player, const std::vector<std::string>& lines,
                      const ScriptSurroundings& surroundings, CompiledScript& out,
                      ScriptDiagnostic& diagnostic, std::vector<int>* nesting = nullptr);
 

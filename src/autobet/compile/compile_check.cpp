@@ -52,8 +52,8 @@ bool IsValue(const Item& item) { return item.shape == Shape::kNumber || item.sha
 bool IsNumber(const Item& item) { return item.shape == Shape::kNumber; }
 bool IsComparable(const Item& item) { return IsValue(item) || item.shape == Shape::kList; }
 bool IsOperator(const Item& item, int kind) { return item.shape == Shape::kOperator && item.code == kind; }
-bool IsRelation(const Item& item) {
-  return item.shape == Shape::kOperator && item.code >= kTokenEqual && item.code <= kTokenGreaterEqual;
+bool RelationItem(const Item& item) {
+  return item.shape == Shape::kOperator && IsRelation(item.code);
 }
 bool IsTarget(const Item& item) {
   return item.shape >= Shape::kTarget && item.shape <= Shape::kAnyTargetList;
@@ -160,7 +160,7 @@ std::string LogicProblem(const Sides& sides, int kind) {
 
 std::string ProblemOf(int kind, const Sides& sides) {
   if (kind == kTokenJoin) return JoinProblem(sides);
-  if (kind >= kTokenEqual && kind <= kTokenGreaterEqual) return RelationProblem(sides);
+  if (IsRelation(kind)) return RelationProblem(sides);
   if (kind >= kTokenAnd && kind <= kTokenXor) return LogicProblem(sides, kind);
   return MathProblem(sides);
 }
@@ -217,7 +217,7 @@ std::string FunctionMessage(CompileError error, const FunctionProperty& function
   return CompileErrorText(error, function.name);
 }
 
-bool StartsWithRelation(const Items& items) { return !items.empty() && IsRelation(items[0]); }
+bool StartsWithRelation(const Items& items) { return !items.empty() && RelationItem(items[0]); }
 
 // A relational operator with one value behind it. badQualifier is what to say when it isn't.
 std::string CheckQualifier(const Items& part, const std::string& badQualifier) {

@@ -67,7 +67,7 @@ class TargetMarker {
       case kTokenVariable:
         return search_ == Search::kTarget ? MarkTarget(i) : AfterReference(i);
       default:
-        if (token.kind >= kTokenEqual && token.kind <= kTokenGreaterEqual) PassRelation(token.kind);
+        if (IsRelation(token.kind)) PassRelation(token.kind);
         break;
     }
     return i + 1;

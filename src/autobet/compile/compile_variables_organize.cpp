@@ -37,7 +37,7 @@ struct Group {
   Unit variable;
   Unit player;
   int playerCode = kNotGiven;  // 0 for the bracket form
-  int scope = kNotGiven;
+  ScopeId scope = kNotGiven;
   int metric = kNotGiven;
   double measure = kNotGiven;
   bool hasNumber = false;
@@ -229,7 +229,7 @@ double DefaultMeasure(const Reference& reference, const Group& group) {
 
 class StatementOrganizer {
  public:
-  StatementOrganizer(int player, const ScriptToken* begin, const ScriptToken* end) : player_(player) {
+  StatementOrganizer(SeatId player, const ScriptToken* begin, const ScriptToken* end) : player_(player) {
     nodes_.reserve(static_cast<std::size_t>(end - begin) + 8);
     nodes_.push_back({});  // the head of the chain
     std::vector<NodeIndex> open;
@@ -364,7 +364,7 @@ class StatementOrganizer {
       nodes_[lastWritten_].next = group.player.first;
       lastWritten_ = group.player.last;
     } else {
-      Write({kTokenPlayer, static_cast<double>(reference.wholeTable ? 0 : player_)});
+      Write({kTokenPlayer, static_cast<double>(reference.wholeTable ? kHouse : player_)});
     }
     if (reference.referenceClass == ReferenceClass::kPlayer) return;
     if (group.scope == kNotGiven) group.scope = kScopeCurrentSession;
@@ -386,7 +386,7 @@ class StatementOrganizer {
     lastWritten_ = nodes_.size() - 1;
   }
 
-  int player_;
+  SeatId player_;
   std::vector<Node> nodes_;
   std::vector<NodeIndex> brackets_;  // open brackets in the order in which they close
   NodeIndex lastWritten_ = 0;

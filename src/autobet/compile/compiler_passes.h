@@ -12,7 +12,7 @@ namespace tessaryn {
 
 // One script in compilation.
 struct CompileJob {
-  int player = 0;                         // 0 a hot-key script
+  SeatId player = 0;                      // 0 a hot-key script
   const std::vector<std::string>& lines;  // as typed
   const ScriptSurroundings& surroundings;
   CompiledScript& script;

@@ -179,7 +179,7 @@ std::vector<int> GroupMembers(int code, const ScriptSurroundings& surroundings) 
   return members;
 }
 
-std::string_view MissingBetFamily(int bet, const ScriptSurroundings& surroundings) {
+std::string_view MissingBetFamily(BetId bet, const ScriptSurroundings& surroundings) {
   for (const BetFamily& family : kOptionalFamilies) {
     if (bet >= family.first && bet <= family.last && !(surroundings.*family.offered)) return family.name;
   }

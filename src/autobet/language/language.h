@@ -132,7 +132,7 @@ std::vector<int> GroupMembers(int code, const ScriptSurroundings& surroundings);
 bool IsGroupVariable(int code);
 
 // The family of a bet that the table doesn't offer; empty for one that it does.
-std::string_view MissingBetFamily(int bet, const ScriptSurroundings& surroundings);
+std::string_view MissingBetFamily(BetId bet, const ScriptSurroundings& surroundings);
 
 // Actions, by the shape of what follows them.
 enum class ActionShape {

@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::size_t kLongestWord = 40;  // of the language and a slip or two
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 // Whether people write it: no sign, no code that earlier rows left behind, none of the numbered CheckStacks.
 bool IsOfWords(const VocabularyRow& row) {
   if (row.ends == RowEnds::kSign || row.source.starts_with(' ')) return false;

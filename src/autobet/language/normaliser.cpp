@@ -97,7 +97,7 @@ const PreparedVocabulary& Vocabulary() {
 // The players' names as phrases. A name is spaced as the script line around it will be.
 std::vector<Phrase> NamePhrases(const ScriptSurroundings& surroundings) {
   std::vector<Phrase> phrases;
-  for (int seat = 1; seat <= 8; ++seat) {
+  for (SeatId seat = 1; seat <= 8; ++seat) {
     Phrase phrase;
     for (std::string& word : SplitWords(Lowered(Trimmed(surroundings.seatNames[seat])))) {
       const int id = FindId(Vocabulary(), word);
@@ -349,7 +349,7 @@ std::string UnknownWordMessage(const std::string& word) {
 // Writes the records of one script.
 class TokenWriter {
  public:
-  TokenWriter(int player, CompiledScript& script) : tokens_(script.tokens) {
+  TokenWriter(SeatId player, CompiledScript& script) : tokens_(script.tokens) {
     script.tokens.assign(1, {});
     script.strings.assign(1, {});
     tokens_.push_back({kTokenHeader, static_cast<double>(player)});
@@ -429,7 +429,7 @@ bool IsEmptyLine(std::string_view line) {
 
 }  // namespace
 
-bool NormaliseScript(int player, const std::vector<std::string>& lines,
+bool NormaliseScript(SeatId player, const std::vector<std::string>& lines,
                      const ScriptSurroundings& surroundings, CompiledScript& script,
                      ScriptDiagnostic& diagnostic) {
   TokenWriter writer(player, script);

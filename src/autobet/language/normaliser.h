@@ -13,7 +13,7 @@ namespace tessaryn {
 // Reads the lines of the script of player 0 to 8 (0 a hot-key script) into script: a header, then for every
 // line that holds anything a marker and its tokens, then a closing marker. On failure diagnostic has the
 // message and the span, and script is worthless.
-bool NormaliseScript(int player, const std::vector<std::string>& lines,
+bool NormaliseScript(SeatId player, const std::vector<std::string>& lines,
                      const ScriptSurroundings& surroundings, CompiledScript& script,
                      ScriptDiagnostic& diagnostic);
 

@@ -6,8 +6,6 @@
 namespace tessaryn {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-
 // Steps over digits and says how many there were.
 std::size_t SkipDigits(std::string_view text, std::size_t& at) {
   const std::size_t start = at;
@@ -31,14 +29,6 @@ bool HasNumberShape(std::string_view text) {
 }
 
 }  // namespace
-
-char Lowered(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
-std::string Lowered(std::string_view text) {
-  std::string result(text);
-  for (char& c : result) c = Lowered(c);
-  return result;
-}
 
 bool IsBlank(char c) { return static_cast<unsigned char>(c) <= ' ' || c == '\x7f'; }
 

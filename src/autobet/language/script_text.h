@@ -5,11 +5,10 @@
 #include <string>
 #include <string_view>
 
+#include "base/letters.h"
+
 namespace tessaryn {
 
-// ASCII letters alone change; the bytes of other alphabets stay.
-char Lowered(char c);
-std::string Lowered(std::string_view text);
 // Blanks and control characters are what separates words, at the ends as well as within.
 bool IsBlank(char c);
 std::string_view Trimmed(std::string_view text);

@@ -123,7 +123,6 @@ std::vector<WordEntry> BuildWords() {
 
 // --- The words of a line.
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsWordByte(char c) {
   return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '$' || c == '#' ||
          (static_cast<unsigned char>(c) & 0x80) != 0;

@@ -11,7 +11,6 @@ namespace {
 constexpr std::string_view kSigns = "()=^*/\\+-<>&$:;,";
 
 bool IsSign(char c) { return kSigns.find(c) != std::string_view::npos; }
-bool IsLetter(char c) { return Lowered(c) >= 'a' && Lowered(c) <= 'z'; }
 
 // "<=" and its like, typed as one.
 bool IsRelationPair(char first, char second) {

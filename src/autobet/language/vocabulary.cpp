@@ -87,7 +87,7 @@ const std::vector<VocabularyRow>& VocabularyRows() {
   return rows;
 }
 
-std::string_view BetWord(int bet) {
+std::string_view BetWord(BetId bet) {
   for (const TableLine& line : kTable)
     if (IsTableBet(bet) && line.letter == 'V' && line.form == Form::kCode && line.code == bet)
       return line.source;

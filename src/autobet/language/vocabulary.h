@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/table_types.h"
+
 namespace tessaryn {
 
 // Where a row may match.
@@ -24,6 +26,6 @@ struct VocabularyRow {
 const std::vector<VocabularyRow>& VocabularyRows();
 
 // The first word or phrase of the language that means bet 1 to 93; empty for any other number.
-std::string_view BetWord(int bet);
+std::string_view BetWord(BetId bet);
 
 }  // namespace tessaryn

@@ -153,7 +153,7 @@ bool TextStep(Game& game, PreparedProgram& program, const Instruction& step) {
   return ScriptFaults(game, kTextTooLong);
 }
 
-bool SeatOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat) {
+bool SeatOf(Game& game, const PreparedProgram& program, const Reference& reference, SeatId& seat) {
   if (reference.player == PlayerChoice::kAutobettor) {
     seat = game.autobet.CurrentAutobettor;
     return true;
@@ -174,7 +174,7 @@ unsigned OrderOf(std::int64_t left, std::int64_t right) {
   return kLess << ((left > right) - (left < right) + 1);
 }
 
-int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
+int BetsThatPass(const TableState& table, SeatId seat, const BetCount& count) {
   const unsigned accepted = kAccepted[count.relation];
   if (count.raw == 0) {
     // No amount lies below nothing, and the table keeps which bets are up.
@@ -191,7 +191,7 @@ int BetsThatPass(const TableState& table, int seat, const BetCount& count) {
 
 bool CountBets(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
   const BetCount& count = program.betCounts[static_cast<std::size_t>(step.a)];
-  int seat = 0;
+  SeatId seat = 0;
   if (!SeatOf(game, program, program.references[static_cast<std::size_t>(count.reference)], seat))
     return false;
   result = BetsThatPass(game.table, seat, count);
@@ -205,7 +205,7 @@ inline bool TestMoney(Game& game, const PreparedProgram& program, const Instruct
   std::int64_t money = game.table.Point * Currency::kPerDollar;
   if (test.tested != Tested::kPoint) {
     const Reference& reference = program.references[static_cast<std::size_t>(test.reference)];
-    int seat = 0;
+    SeatId seat = 0;
     if (!SeatOf(game, program, reference, seat)) return false;
     money = test.tested == Tested::kAmount ? game.table.BetAmount(seat, test.bet).raw
                                            : SessionLastRoll(game, reference.metric, seat, test.bet).raw;
@@ -219,14 +219,14 @@ double Dollars(Currency money) { return money.raw == 0 ? 0 : money.ToDouble(); }
 
 // A bet or CheckStack.
 bool ReadMoney(Game& game, const PreparedProgram& program, const Instruction& step, double& result) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!SeatOf(game, program, program.references[static_cast<std::size_t>(step.a)], seat)) return false;
   result = Dollars(game.table.BetAmount(seat, step.b));
   return true;
 }
 
 bool ReadBets(Game& game, PreparedProgram& program, const Instruction& step) {
-  int seat = 0;
+  SeatId seat = 0;
   if (!SeatOf(game, program, program.references[static_cast<std::size_t>(step.a)], seat)) return false;
   double* to = &program.numbers[static_cast<std::size_t>(step.to)];
   for (int i = 0; i < step.relation; ++i) to[i] = Dollars(game.table.BetAmount(seat, step.b + i));
@@ -242,7 +242,7 @@ bool ReadStep(Game& game, PreparedProgram& program, const Instruction& step, dou
   }
   const Reference& reference = program.references[a];
   if (step.op == Op::kVariable) return ReadNumberReference(game, program, reference, result);
-  int seat = 0;
+  SeatId seat = 0;
   if (!SeatOf(game, program, reference, seat)) return false;
   result = Dollars(SessionLastRoll(game, reference.metric, seat, step.b));
   return true;

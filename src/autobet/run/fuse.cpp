@@ -11,7 +11,7 @@ namespace {
 
 using Index = std::size_t;
 
-constexpr int kSessionScope = 2;
+constexpr ScopeId kSessionScope = 2;
 
 // --- Reads.
 
@@ -221,7 +221,7 @@ std::int32_t JoinedTests(const ProgramCode& code, const PreparedStatement& state
   return tests;
 }
 
-std::int32_t OwnTarget(const ProgramCode& code, const PreparedStatement& statement, int owner) {
+std::int32_t OwnTarget(const ProgramCode& code, const PreparedStatement& statement, SeatId owner) {
   if (statement.operand.text || statement.targets.end - statement.targets.begin != 1) return 0;
   const TargetItem& item = code.Program().targets[static_cast<Index>(statement.targets.begin)];
   const Reference& target = item.target;

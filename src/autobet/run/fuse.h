@@ -22,6 +22,6 @@ bool CompareMembers(ProgramCode& code, int relation, const PreparedList& list, O
 // Of a condition that is nothing but tests joined by AND how many they are; else 0.
 std::int32_t JoinedTests(const ProgramCode& code, const PreparedStatement& statement);
 // The one bet or CheckStack of the owner that takes the statement's number; 0 for any other targets.
-std::int32_t OwnTarget(const ProgramCode& code, const PreparedStatement& statement, int owner);
+std::int32_t OwnTarget(const ProgramCode& code, const PreparedStatement& statement, SeatId owner);
 
 }  // namespace tessaryn

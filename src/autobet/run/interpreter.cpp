@@ -26,7 +26,8 @@ void PreparedProgramDeleter::operator()(PreparedProgram* program) const { delete
 
 ScriptSurroundings SurroundingsOf(const Game& game) {
   ScriptSurroundings surroundings;
-  for (int seat = 1; seat <= kSeats; ++seat) surroundings.seatNames[seat] = game.table.seats[seat].SeatName;
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    surroundings.seatNames[seat] = game.table.seats[seat].SeatName;
   surroundings.big68 = game.settings.UseBig68;
   surroundings.smallTall = game.settings.SmallTallEnabled;
   surroundings.midway = game.settings.UseMidway;
@@ -52,7 +53,7 @@ void WatchScripts(Game& game, ScriptWatch* watch) {
   autobet.Prepared->watch = watch;
 }
 
-const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroundings& surroundings,
+const CompiledScript* CompiledScriptOf(Game& game, SeatId seat, const ScriptSurroundings& surroundings,
                                        ScriptDiagnostic& diagnostic) {
   SeatScript& script = game.autobet.Scripts[seat];
   const KeptScript* before = script.Kept.get();
@@ -75,7 +76,7 @@ void CompileActiveScripts(Game& game) {
   autobet.ScriptsCompiled = false;
   autobet.Program = {};
   const ScriptSurroundings surroundings = SurroundingsOf(game);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!autobet.ScriptActive[seat]) continue;
     ScriptDiagnostic diagnostic;
     const CompiledScript* compiled = CompiledScriptOf(game, seat, surroundings, diagnostic);
@@ -183,7 +184,7 @@ bool TakeAmount(Run& run, const PreparedStatement& statement) {
 // One bet or CheckStack of whose script it is: no list to walk and nothing to look up.
 bool SetOwn(Run& run, const PreparedStatement& statement) {
   Game& game = run.game;
-  const int seat = game.autobet.CurrentAutobettor;
+  const SeatId seat = game.autobet.CurrentAutobettor;
   if (!PlayerMayAct(game, seat)) return false;
   double value = run.program.numbers[static_cast<std::size_t>(statement.operand.place)];
   if (statement.work.result != nullptr) {
@@ -322,7 +323,7 @@ void Return(Run& run) {
   Note(run, "Return to place where subroutine was initiated.");
 }
 
-void BeginScript(Run& run, int player) {
+void BeginScript(Run& run, SeatId player) {
   AutoBet& autobet = run.autobet();
   autobet.CurrentAutobettor = player == 0 ? run.game.table.SelectedSeat : player;
 }
@@ -372,8 +373,8 @@ void ShowStep(Run& run, const PreparedStatement& statement) {
   Game& game = run.game;
   AutoBet& autobet = game.autobet;
   if (statement.kind == StatementKind::kHeader) return;
-  const ScriptStep step{autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor, statement.line, statement.column,
-                        run.text, autobet.ScriptError};
+  const ScriptStep step{autobet.HotKeyRun ? kNobody : autobet.CurrentAutobettor, statement.line,
+                        statement.column, run.text, autobet.ScriptError};
   game.host->ShowStep(game, step);
   if (!autobet.StepMode) return;
   autobet.StepWaiting = true;
@@ -448,8 +449,8 @@ void NoteWatched(Run& run, const PreparedStatement& statement, std::int64_t roll
   const StatementSpan span = SpanOf(run.program, statement);
   const auto taken = std::chrono::duration_cast<std::chrono::nanoseconds>(WatchClock::now() - start).count();
   NoteTraced(*run.program.watch,
-             {rolls, autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor, span.line, span.column, span.end,
-              autobet.ScriptError, OutcomeOf(run, statement)},
+             {rolls, autobet.HotKeyRun ? kNobody : autobet.CurrentAutobettor, span.line, span.column,
+              span.end, autobet.ScriptError, OutcomeOf(run, statement)},
              taken);
 }
 
@@ -488,7 +489,7 @@ namespace {
 // The scripts that are active come to know in this run, and in no later one, that a session is beginning.
 void TakeSessionAhead(AutoBet& autobet) {
   std::uint16_t active = 0;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (autobet.ScriptActive[seat]) active = static_cast<std::uint16_t>(active | 1u << seat);
   autobet.BeginningNewSession = autobet.SessionAhead & active;
   autobet.SessionAhead = static_cast<std::uint16_t>(autobet.SessionAhead & ~active);

@@ -11,7 +11,7 @@ struct Game;
 
 // The script of a seat, compiled; kept until its lines, or what the compiler knows of the table, change.
 // Null, with the reason, for a bad one.
-const CompiledScript* CompiledScriptOf(Game& game, int seat, const ScriptSurroundings& surroundings,
+const CompiledScript* CompiledScriptOf(Game& game, SeatId seat, const ScriptSurroundings& surroundings,
                                        ScriptDiagnostic& diagnostic);
 // Compiles every active script, in seat order, into Program. On an error it tells so and leaves
 // ScriptsCompiled off.

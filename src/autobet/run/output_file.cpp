@@ -54,7 +54,7 @@ bool ResolveOutputPath(const Game& game, const std::string& name, std::string& p
   return allowed;
 }
 
-bool OpenScriptOutput(Game& game, int seat, const std::string& name, bool append) {
+bool OpenScriptOutput(Game& game, SeatId seat, const std::string& name, bool append) {
   ScriptOutput& output = game.autobet.Scripts[seat].Output;
   std::error_code fault;
   // Made ahead, so that a name with ".." and the folder itself are looked up alike.
@@ -73,7 +73,7 @@ bool OpenScriptOutput(Game& game, int seat, const std::string& name, bool append
   return output.File != nullptr;
 }
 
-bool WriteScriptOutput(Game& game, int seat, const std::string& text) {
+bool WriteScriptOutput(Game& game, SeatId seat, const std::string& text) {
   std::FILE* file = game.autobet.Scripts[seat].Output.File;
   if (file == nullptr) return false;
   return std::fwrite(text.data(), 1, text.size(), file) == text.size() && std::fputc('\n', file) != EOF;

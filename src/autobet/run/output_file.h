@@ -15,9 +15,9 @@ inline constexpr const char* kScriptOutputFolder = "output";  // in Game::ownFol
 bool ResolveOutputPath(const Game& game, const std::string& name, std::string& path);
 // Opens the seat's output file; one that is open is closed first. False when it can't be, and for a file that
 // another player's script has written.
-bool OpenScriptOutput(Game& game, int seat, const std::string& name, bool append);
+bool OpenScriptOutput(Game& game, SeatId seat, const std::string& name, bool append);
 // A line. False with no file open, or when it could not be written.
-bool WriteScriptOutput(Game& game, int seat, const std::string& text);
+bool WriteScriptOutput(Game& game, SeatId seat, const std::string& text);
 // Everything written so far goes to the disk's files.
 void FlushScriptOutputs(Game& game);
 

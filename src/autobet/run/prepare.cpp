@@ -49,10 +49,6 @@ bool IsJump(StatementKind kind) {
          kind == StatementKind::kGosub || kind == StatementKind::kLoop || kind == StatementKind::kExitDo;
 }
 
-bool IsRelation(const ScriptToken& token) {
-  return token.kind >= kTokenEqual && token.kind <= kTokenGreaterEqual;
-}
-
 class ProgramPreparer {
  public:
   ProgramPreparer(const CompiledScript& script, PreparedProgram& prepared)
@@ -221,7 +217,7 @@ class ProgramPreparer {
       const ScriptToken& token = tokens_[piece.begin];
       TargetItem item;
       item.code.begin = code_.BeginStretch();
-      if (IsRelation(token)) {
+      if (IsRelation(token.kind)) {
         item.isQualifier = true;
         item.relation = token.kind;
         item.operand = expressions_.SpanValue(piece.begin + 1, piece.end);
@@ -249,7 +245,7 @@ class ProgramPreparer {
   ProgramCode code_;
   ExpressionPreparer expressions_;
   std::vector<std::int32_t> statementOf_;  // by record: the statement that it is of
-  int owner_ = 0;                          // whose script it is; 0 a hot-key's
+  SeatId owner_ = 0;                       // whose script it is; 0 a hot-key's
   int line_ = 0;
   int column_ = 0;
   bool inCondition_ = false;

@@ -20,10 +20,6 @@ bool IsFunction(const ScriptToken& token) {
   return token.kind == kTokenFunction || token.kind == kTokenFunctionTarget;
 }
 
-bool IsRelation(const ScriptToken& token) {
-  return token.kind >= kTokenEqual && token.kind <= kTokenGreaterEqual;
-}
-
 // --- Looking up what reads and sets a reference.
 
 ReferenceForm FormOfCount(ReferenceClass referenceClass) {
@@ -220,7 +216,7 @@ PreparedList ExpressionPreparer::ValueList(Index at) {
   Index end = match_[open];
   if (end > open && tokens_[end - 1].kind == kTokenEnd) --end;
   for (const Piece& piece : Pieces(open + 1, end)) {
-    if (piece.begin < piece.end && IsRelation(tokens_[piece.begin])) {
+    if (piece.begin < piece.end && IsRelation(tokens_[piece.begin].kind)) {
       list.qualified = true;
       list.relation = tokens_[piece.begin].kind;
       list.qualifier = ValueOf(code_, Reduce(piece.begin + 1, piece.end));

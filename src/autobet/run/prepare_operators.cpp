@@ -122,7 +122,7 @@ Op ArithmeticOf(int kind) {
 }
 
 Operand Combine(ProgramCode& code, int kind, const Element& left, const Element& right) {
-  if (kind >= kTokenEqual && kind <= kTokenGreaterEqual) return Compare(code, kind, left, right);
+  if (IsRelation(kind)) return Compare(code, kind, left, right);
   if (kind == kTokenJoin) {
     const Operand a = code.AsText(ValueOf(code, left));
     const Operand b = code.AsText(ValueOf(code, right));

@@ -72,9 +72,9 @@ struct Reference {
   bool ofSeat = true;  // whether a player must be there, and may be acted for, to set it
   std::int32_t code = 0;
   PlayerChoice player = PlayerChoice::kTable;
-  std::int32_t seat = 0;   // with kSeat
-  Operand playerOperand;   // with kComputed
-  std::int32_t scope = 2;  // 0 to 4, as the statistics have them
+  SeatId seat = 0;        // with kSeat
+  Operand playerOperand;  // with kComputed
+  ScopeId scope = 2;      // 0 to 4, as the statistics have them
   std::int32_t metric = 0;
   double measure = 0;
   std::int32_t item = 0;                        // the roll item that the measure means, with counts of dice
@@ -151,7 +151,7 @@ enum class Tested : std::uint8_t { kAmount, kLastRoll, kPoint };
 struct MoneyTest {
   Tested tested = Tested::kAmount;  // of a bet or CheckStack
   std::int32_t reference = 0;
-  std::int32_t bet = 0;
+  BetId bet = 0;
   std::int64_t raw = 0;  // of the literal
 };
 
@@ -217,15 +217,15 @@ struct PreparedStatement {
   std::int32_t keyword = 0;  // of a block keyword: its token kind
   std::int32_t line = 0;     // 1-based source line
   std::int32_t column = 0;
-  std::int32_t player = 0;  // of a header
-  std::int32_t jump = 0;    // a statement's index; the run goes on behind it
-  std::int32_t tests = 0;   // of a condition that is nothing but tests joined by AND: how many
-  std::int32_t own = 0;     // of kAssign and kAmount: the bet or CheckStack of whose script it is that takes
-                            // the number, and nothing else does; 0 any other targets
-  std::int32_t then = 0;    // of if and elseif: the statement that ends the condition
-  CodeRange value;          // computes the operands below
-  Operand operand;          // the value, the amount, the first argument
-  Operand second;           // a second argument
+  SeatId player = 0;       // of a header
+  std::int32_t jump = 0;   // a statement's index; the run goes on behind it
+  std::int32_t tests = 0;  // of a condition that is nothing but tests joined by AND: how many
+  std::int32_t own = 0;    // of kAssign and kAmount: the bet or CheckStack of whose script it is that takes
+                           // the number, and nothing else does; 0 any other targets
+  std::int32_t then = 0;   // of if and elseif: the statement that ends the condition
+  CodeRange value;         // computes the operands below
+  Operand operand;         // the value, the amount, the first argument
+  Operand second;          // a second argument
   std::int32_t arguments = 0;  // how many of the two there are
   CodeRange targets;           // stretch of the target items
   ActionWork work;             // of kAction, kAmount and kOnTargets

@@ -17,9 +17,9 @@ namespace {
 
 struct BetQuestion {
   Game& game;
-  int scope;
-  int seat;
-  int bet;
+  ScopeId scope;
+  SeatId seat;
+  BetId bet;
 
   double Stat(StatTable table, StatKind kind) const {
     return BetStat(game.stats, table, scope, seat, bet, kind).ToDouble();
@@ -199,12 +199,12 @@ bool Standing(const BetQuestion& question, int measure, double& value) {
 
 }  // namespace
 
-Currency SessionLastRoll(const Game& game, int metric, int seat, int bet) {
+Currency SessionLastRoll(const Game& game, int metric, SeatId seat, BetId bet) {
   const Currency roll = Currency::Dollars(SessionRolls(game.stats));
   if (roll == kZero) return kZero;
   const int table = metric == kMetricWins ? kWinStats : kLossStats;
   // A hand's figures are its own until it ends, and then the session's.
-  for (const int scope : {kCurrentHand, kCurrentSession}) {
+  for (const ScopeId scope : {kCurrentHand, kCurrentSession}) {
     const auto& kinds = game.stats.Bets[bet][seat][scope].kinds[table];
     if (kinds[kStatLastRoll - 1] == roll) return kinds[kStatLastAmount - 1];
   }

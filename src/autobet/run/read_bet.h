@@ -13,6 +13,6 @@ struct Game;
 bool ReadBet(const Question& question, double& value);
 
 // What the last roll won (metric 2) or lost (3) on a bet, as the session has it. 0 when it decided nothing.
-Currency SessionLastRoll(const Game& game, int metric, int seat, int bet);
+Currency SessionLastRoll(const Game& game, int metric, SeatId seat, BetId bet);
 
 }  // namespace tessaryn

@@ -124,7 +124,7 @@ bool LowestText(const CallInHand& hand, std::string& text) { return TextOfList(h
 bool AverageBankroll(const CallInHand& hand, double& value) {
   const Game& game = hand.game;
   const double wanted = std::nearbyint(hand.Number(0));
-  const int seat = game.autobet.CurrentAutobettor;
+  const SeatId seat = game.autobet.CurrentAutobettor;
   if (!(wanted >= 0 && wanted <= kPlotCells)) return hand.Fails(kErrorAverageBankroll);
   value = 0;
   const auto rolls = static_cast<double>(SessionRolls(game.stats));
@@ -149,7 +149,7 @@ bool DieFace(const CallInHand& hand, double& value) {
 }
 
 bool SeatNumber(const CallInHand& hand, double& value) {
-  int seat = 0;
+  SeatId seat = 0;
   if (hand.Members().empty() || !SeatOfOperand(hand.game, hand.program, hand.Members()[0], seat))
     return hand.Fails(kErrorPlayer);
   value = seat;

@@ -10,8 +10,8 @@ namespace tessaryn {
 struct Question {
   Game& game;
   int code = 0;
-  int seat = 0;   // 0 the table
-  int scope = 0;  // 0 to 4
+  SeatId seat = 0;    // 0 the table
+  ScopeId scope = 0;  // 0 to 4
   int metric = 0;
   double measure = 0;
   int item = 0;  // the roll item that the measure means

@@ -16,7 +16,7 @@
 
 namespace tessaryn {
 
-bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, int& seat) {
+bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, SeatId& seat) {
   if (!operand.text) {
     const double number = NumberOf(program, operand);
     if (number != std::floor(number) || !(number >= 1 && number <= kSeats))
@@ -25,15 +25,15 @@ bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, 
     return true;
   }
   const std::string name = Lowered(Trimmed(program.texts[static_cast<std::size_t>(operand.place)]));
-  for (int i = 1; i <= kSeats && !name.empty(); ++i) {
-    if (Lowered(Trimmed(game.table.seats[i].SeatName)) != name) continue;
-    seat = i;
+  for (SeatId other = 1; other <= kSeats && !name.empty(); ++other) {
+    if (Lowered(Trimmed(game.table.seats[other].SeatName)) != name) continue;
+    seat = other;
     return true;
   }
   return ScriptFails(game, kErrorPlayer);
 }
 
-bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat) {
+bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, SeatId& seat) {
   const TableState& table = game.table;
   switch (reference.player) {
     case PlayerChoice::kSeat:
@@ -83,7 +83,7 @@ int HardNumber(double number) { return PlaceAmong(kHardNumbers, number); }
 int Faces(double number) {
   int die1 = 0;
   int die2 = 0;
-  const int bet = FacesOf(number, die1, die2) ? HopBet(die1, die2) : 0;
+  const BetId bet = FacesOf(number, die1, die2) ? HopBet(die1, die2) : kNoBet;
   return bet == 0 ? -1 : bet - kHop13;
 }
 
@@ -165,7 +165,7 @@ bool ReadNumberReference(Game& game, const PreparedProgram& program, const Refer
 
 bool ReadTextReference(Game& game, const PreparedProgram& program, const Reference& reference,
                        std::string& text) {
-  int seat = 0;
+  SeatId seat = 0;
   int code = reference.code;
   if (!PlayerOf(game, program, reference, seat)) return false;
   if (reference.form == ReferenceForm::kNumbered &&

@@ -9,9 +9,9 @@ namespace tessaryn {
 
 // The seat that a reference means: 0 the table, or nobody. With kAll it is 0. False with error 50 for a
 // player(...) that names nobody.
-bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, int& seat);
+bool PlayerOf(Game& game, const PreparedProgram& program, const Reference& reference, SeatId& seat);
 // The seat of a number or a name. False with error 50.
-bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, int& seat);
+bool SeatOfOperand(Game& game, const PreparedProgram& program, Operand operand, SeatId& seat);
 // The variable of a number. False with the error that the row of the function names.
 bool VariableOfNumber(Game& game, const NumberedVariables& numbered, double number, int& code);
 // What a function's code leads to by a number; null for any other function.

@@ -122,7 +122,7 @@ std::string StatementText(const std::vector<std::string>& lines, const Statement
 
 void NoteScriptError(Game& game, const StatementSpan& span) {
   const AutoBet& autobet = game.autobet;
-  SeatScript& script = game.autobet.Scripts[autobet.HotKeyRun ? 0 : autobet.CurrentAutobettor];
+  SeatScript& script = game.autobet.Scripts[autobet.HotKeyRun ? kNobody : autobet.CurrentAutobettor];
   for (ScriptErrorKind& kind : script.Errors) {
     if (kind.code != autobet.ScriptError) continue;
     if (kind.code == kErrorFault && kind.text != autobet.ScriptFault) continue;

@@ -20,12 +20,12 @@ enum class StatementOutcome : std::uint8_t {
 };
 
 struct TracedStatement {
-  std::int64_t roll = 0;  // dice thrown before it
-  int seat = 0;           // whose script it is; 0 a hot-key's
-  int line = 0;           // 1-based
-  int column = 0;         // from 0
-  int end = -1;           // the column behind it; -1 the end of the line
-  int error = 0;          // with kError its code
+  RollNumber roll = 0;  // dice thrown before it
+  SeatId seat = 0;      // whose script it is; 0 a hot-key's
+  int line = 0;         // 1-based
+  int column = 0;       // from 0
+  int end = -1;         // the column behind it; -1 the end of the line
+  int error = 0;        // with kError its code
   StatementOutcome outcome = StatementOutcome::kDone;
 };
 

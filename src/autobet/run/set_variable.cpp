@@ -24,7 +24,7 @@ namespace {
 
 // A wager set to an amount: what is up comes back first, as far as a contract lets it, and the rest is asked
 // for anew. A call outlives that, since the bet is never seen off the table.
-bool SetBet(Game& game, int seat, int bet, double dollars) {
+bool SetBet(Game& game, SeatId seat, BetId bet, double dollars) {
   const Currency wanted = Currency::FromDouble(dollars);
   if (wanted.IsError()) return ScriptFaults(game, kNumberOverflow);
   TableState& table = game.table;
@@ -42,7 +42,7 @@ bool SetBet(Game& game, int seat, int bet, double dollars) {
   return true;
 }
 
-bool SetStack(Game& game, int seat, int bet, double dollars) {
+bool SetStack(Game& game, SeatId seat, BetId bet, double dollars) {
   // Within what a stack holds there is nothing to refuse.
   if (std::fabs(dollars) < kStackLimit.ToDouble()) {
     SetBetAmount(game, seat, bet, Currency::FromDouble(dollars));
@@ -150,7 +150,7 @@ int HandlingOfText(Handling& handling, const HandlingRule& rule, const std::stri
   return 0;
 }
 
-bool SetHandling(Game& game, int seat, const HandlingRule& rule, const ScriptValue& value) {
+bool SetHandling(Game& game, SeatId seat, const HandlingRule& rule, const ScriptValue& value) {
   Handling& handling = game.table.seats[seat].handling;
   double number = value.number;
   if (value.isText) number = HandlingOfText(handling, rule, value.text);
@@ -187,7 +187,7 @@ bool SetLaysFullOdds(Game& game, const ResolvedTarget& target, const ScriptValue
 bool SetTakesPlaceDown(Game& game, const ResolvedTarget& target, const ScriptValue& value) {
   const bool on = value.AsNumber() != 0;
   game.table.seats[target.seat].handling.AutoDownPlace = on;
-  for (int bet = kPlace4; on && bet < kPlace4 + 6; ++bet) RemoveBet(game, target.seat, bet);
+  for (BetId bet = kPlace4; on && bet < kPlace4 + 6; ++bet) RemoveBet(game, target.seat, bet);
   return true;
 }
 
@@ -275,9 +275,9 @@ bool SeedFromScript(Game& game, double number) {
   return given || ScriptFails(game, kErrorSeed);
 }
 
-bool PlayerMayAct(Game& game, int seat) {
+bool PlayerMayAct(Game& game, SeatId seat) {
   if (!IsOccupied(game.table, seat)) return ScriptFails(game, kErrorNoPlayer);
-  const int bettor = game.autobet.CurrentAutobettor;
+  const SeatId bettor = game.autobet.CurrentAutobettor;
   if (seat == bettor || game.autobet.Scripts[bettor].AllowAct4Others) return true;
   return ScriptFails(game, kErrorOtherPlayers);
 }
@@ -294,7 +294,7 @@ bool ResolveTarget(Game& game, const PreparedProgram& program, const Reference& 
   return !target.ofSeat || PlayerMayAct(game, resolved.seat);
 }
 
-bool SetAmount(Game& game, int seat, int bet, double dollars) {
+bool SetAmount(Game& game, SeatId seat, BetId bet, double dollars) {
   return IsTableBet(bet) ? SetBet(game, seat, bet, dollars) : SetStack(game, seat, bet, dollars);
 }
 

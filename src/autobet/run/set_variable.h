@@ -22,19 +22,19 @@ struct ScriptValue {
 // A target with its player and its function's number looked up.
 struct ResolvedTarget {
   int code = 0;  // a variable's; 0 what can't be set, and is passed over
-  int seat = 0;
+  SeatId seat = 0;
   VariableWriter write = nullptr;
 };
 
 // False with ScriptError set. The tests of the player are those of a click at that seat.
 bool ResolveTarget(Game& game, const PreparedProgram& program, const Reference& target,
                    ResolvedTarget& resolved);
-bool PlayerMayAct(Game& game, int seat);
+bool PlayerMayAct(Game& game, SeatId seat);
 // How a variable is set; null for one that is only read. Bets and CheckStacks are set alike.
 VariableWriter WriterOfVariable(int code);
 bool SetVariable(Game& game, const ResolvedTarget& target, const ScriptValue& value);
 // The same for a bet or CheckStack of a seat that the script may act for.
-bool SetAmount(Game& game, int seat, int bet, double dollars);
+bool SetAmount(Game& game, SeatId seat, BetId bet, double dollars);
 // Seeds the generator. False with error 905 for what is no seed.
 bool SeedFromScript(Game& game, double number);
 // What the target holds now.

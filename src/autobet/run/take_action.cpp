@@ -24,7 +24,7 @@
 
 namespace tessaryn {
 
-int ActionInHand::Seat() const { return game.autobet.CurrentAutobettor; }
+SeatId ActionInHand::Seat() const { return game.autobet.CurrentAutobettor; }
 const SeatScript& ActionInHand::Script() const { return game.autobet.Scripts[Seat()]; }
 std::string ActionInHand::Text() const {
   return statement.arguments > 0 ? TextOf(program, statement.operand) : std::string();

@@ -15,7 +15,7 @@ struct ActionInHand {
   const PreparedProgram& program;
   const PreparedStatement& statement;
 
-  int Seat() const;
+  SeatId Seat() const;
   const SeatScript& Script() const;
   std::string Text() const;
   double Number() const;

@@ -21,7 +21,7 @@ namespace {
 
 bool SaveScriptsFirst(Desk& desk) {
   Game& game = desk.game;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SeatScript& script = game.autobet.Scripts[seat];
     if (!IsOccupied(game.table, seat) || !script.Unsaved) continue;
     const int answer =

@@ -54,7 +54,7 @@ struct Desk {
   QStringList recentGames = {};       // the latest first
   const char* view = "";              // the command whose view is shown; "" none of them
   SavedView beforePropositions = {};  // what was shown before them; empty while they aren't shown
-  int movingSeat = 0;                 // the player who waits for a new place; 0 none
+  SeatId movingSeat = 0;              // the player who waits for a new place; 0 none
   bool keeps = true;                  // the data folder can be written
   // Brings commands, controls and tool windows to the state, at once.
   std::function<void()> refresh = {};

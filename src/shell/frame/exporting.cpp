@@ -13,6 +13,7 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/patience.h"
 #include "shell/screens/file_chooser.h"
+#include "shell/table/number_habit.h"
 #include "state/show_message.h"
 
 namespace tessaryn {
@@ -111,6 +112,7 @@ std::string FileNameFor(const ToolWindow& window) {
 
 void ExportRows(Desk& desk, ToolWindow& window) {
   const std::string path = ChooseFile(desk.game, window.window(), kRows, FileNameFor(window));
+  const NumbersOfFiles inTheirForm;
   if (!path.empty()) Tell(desk, kRows, WriteRows(window.window(), *window.TakeRows(), path));
 }
 
@@ -118,6 +120,7 @@ void ExportPng(Desk& desk, ToolWindow& window) { ExportPicture(desk, window, kPn
 void ExportSvg(Desk& desk, ToolWindow& window) { ExportPicture(desk, window, kSvg, SvgOf); }
 
 void CopyTool(Desk&, ToolWindow& window) {
+  const NumbersOfFiles inTheirForm;
   const std::unique_ptr<RowSource> rows = window.TakeRows();
   const Patience patience(window.window(),
                           Words(QT_TRANSLATE_NOOP("Printing", "The rows are being copied.")));

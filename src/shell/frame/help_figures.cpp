@@ -1,7 +1,6 @@
 #include "shell/frame/help_figures.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 #include <QStringList>
 #include <algorithm>
 #include <vector>
@@ -15,6 +14,7 @@
 #include "shell/frame/commands.h"
 #include "shell/screens/payoff_page.h"
 #include "shell/table/bet_tips.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
 #include "state/bet_families.h"
@@ -39,9 +39,9 @@ QString TableHead(const QStringList& cells, const QStringList& sides) {
 }
 
 // The bets of "place4" or of "place".
-std::vector<int> BetsNamed(const QString& name) {
-  std::vector<int> bets;
-  for (int bet = 1; bet <= kBets; ++bet) {
+std::vector<BetId> BetsNamed(const QString& name) {
+  std::vector<BetId> bets;
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const QString word = QString::fromLatin1(FactsOf(bet).scriptName);
     const QString behind = word.mid(name.size());
     const bool numbered =
@@ -53,30 +53,30 @@ std::vector<int> BetsNamed(const QString& name) {
   return bets;
 }
 
-QString PaysText(const Game& game, int bet) {
+QString PaysText(const Game& game, BetId bet) {
   const QString pays = Plain(Told(game, PaysOf(game, bet)));
   if (pays.isEmpty()) return QCoreApplication::translate("HelpFigures", "as odds on the point");
   if (!HasVig(bet)) return pays;
   const double rate = IsLay(bet) ? game.settings.LayVigRate.ToDouble() : game.settings.BuyVigRate.ToDouble();
   return QCoreApplication::translate("HelpFigures", "%1, less %2% vig")
-      .arg(pays, QLocale().toString(rate * 100, 'g', 4));
+      .arg(pays, InHabit(QString::number(rate * 100, 'g', 4)));
 }
 
 QString PercentText(double share) {
-  const QString text = QLocale().toString(share * 100, 'f', 2);
-  return (text == QLocale().toString(-0.0, 'f', 2) ? QLocale().toString(0.0, 'f', 2) : text) + "%";
+  const QString text = ShownNumber(share * 100, 2);
+  return (text == ShownNumber(-0.0, 2) ? ShownNumber(0.0, 2) : text) + "%";
 }
 
 QString Figures(const Game& game, const QString& what) {
   struct Line {
-    int bet;
+    BetId bet;
     Advantage figures;
   };
   std::vector<Line> lines;
   for (const QString& name : what.split(',')) {
-    const std::vector<int> bets = BetsNamed(name.trimmed());
+    const std::vector<BetId> bets = BetsNamed(name.trimmed());
     if (bets.empty()) return {};
-    for (const int bet : bets) lines.push_back({bet, FigureAdvantage(game, bet)});
+    for (const BetId bet : bets) lines.push_back({bet, FigureAdvantage(game, bet)});
   }
   if (what == "all")
     std::stable_sort(lines.begin(), lines.end(), [](const Line& a, const Line& b) {
@@ -94,14 +94,14 @@ QString Figures(const Game& game, const QString& what) {
     table += TableRow({Plain(FromCore(BetName(line.bet))), PaysText(game, line.bet),
                        decided ? PercentText(-figures.evPerDecision) : "-",
                        decided ? PercentText(-figures.evPerRoll) : "-",
-                       decided ? QLocale().toString(figures.rollsPerDecision, 'f', 2) : "-"});
+                       decided ? ShownNumber(figures.rollsPerDecision, 2) : "-"});
   }
   return table;
 }
 
 // Rows in a row that pay the same share a line.
 QString Payoffs(const Game& game, const QString& what) {
-  const std::vector<int> bets = BetsNamed(what);
+  const std::vector<BetId> bets = BetsNamed(what);
   if (bets.size() != 1) return {};
   const int id = static_cast<int>(FamilyRowOf(bets.front()).payoffs);
   if (id == 0) return {};

@@ -11,6 +11,7 @@
 #include "shell/frame/desk.h"
 #include "shell/frame/game_files.h"
 #include "shell/frame/places.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -56,7 +57,8 @@ QString PlayLabSession(Desk& desk, const Experiment& experiment, std::size_t num
   desk.game.settings.AutoStopInterval = result.rolls;
   desk.showGame();
   if (!begun) return {};
-  return Words(QT_TRANSLATE_NOOP("Laboratory", "At the table: session %1 of %2, %3 rolls to %4"))
+  return QCoreApplication::translate("Laboratory", "At the table: session %1 of %2, %3 rolls to %4", nullptr,
+                                     PluralOf(result.rolls))
       .arg(session + 1)
       .arg(FromCore(LabelOf(system)))
       .arg(result.rolls)

@@ -6,7 +6,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
@@ -41,6 +40,7 @@
 #include "shell/table/bet_tips.h"
 #include "shell/table/board.h"
 #include "shell/table/languages.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
@@ -102,6 +102,7 @@ MainWindow::MainWindow(Game& game, ShellHost& host)
   StartAutosaves();
   WatchLuck(game_);
   new PointerSnap(game_, this);
+  new WholeChoices(this);
   new HelpKey(desk_);
   connect(qApp, &QGuiApplication::commitDataRequest, this, [this](QSessionManager& manager) {
     const bool mayAsk = manager.allowsInteraction();
@@ -228,7 +229,7 @@ void MainWindow::TakeNote(const MessageBox& box) {
 
 // The edge first, then the box that tells why.
 void MainWindow::ShowRefusal() {
-  const int bet = std::exchange(clickedBet_, 0);
+  const BetId bet = std::exchange(clickedBet_, 0);
   if (bet == 0 || (game_.box.MsgFlags & kMsgNo) != 0) return;
   table_->scene.refusedBet = AreaOf(bet);
   table_->update();
@@ -261,7 +262,7 @@ void MainWindow::ShowBoard(bool settled) {
 }
 
 // The menu of a player's place: the commands for the player.
-void MainWindow::OpenPlateMenu(int seat, QPoint where) {
+void MainWindow::OpenPlateMenu(SeatId seat, QPoint where) {
   OnSeatClicked(seat);
   if (game_.table.SelectedSeat != seat) return;
   QMenu menu(this);
@@ -333,7 +334,8 @@ void MainWindow::Speak() {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::LanguageChange) {
+  // The language of the game is spoken before there is anything of the window to say.
+  if (event->type() == QEvent::LanguageChange && !actions_.empty()) {
     Retranslate();
     // Once the bar's parts have their words as well.
     QMetaObject::invokeMethod(this, &MainWindow::FitBar, Qt::QueuedConnection);
@@ -394,7 +396,7 @@ void MainWindow::ShowCaption() {
 
 void MainWindow::ShowTableStatus() {
   const TableState& table = game_.table;
-  QStringList parts{tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats))))};
+  QStringList parts{tr("Roll %1").arg(ShownCount(SessionRolls(game_.stats)))};
   parts += table.Point == 0 ? tr("Come-out") : tr("Point %1").arg(table.Point);
   if (table.ShooterSeat != 0)
     parts += tr("Shooter: %1").arg(FromCore(table.seats[table.ShooterSeat].SeatName));
@@ -549,7 +551,7 @@ void MainWindow::OnBetMoved(int from, int to) {
   RefreshCommands();
 }
 
-void MainWindow::OnBetClicked(int bet, bool alt) {
+void MainWindow::OnBetClicked(BetId bet, bool alt) {
   if (!MayBet()) return;
   if (!IsOccupied(game_.table, game_.table.SelectedSeat)) {
     ShowMessage<Msg::kClickOpenPosition>(game_);
@@ -564,7 +566,7 @@ void MainWindow::OnBetClicked(int bet, bool alt) {
   ShowPointer(bet);
 }
 
-void MainWindow::OnSeatClicked(int seat) {
+void MainWindow::OnSeatClicked(SeatId seat) {
   NoteActivity(game_);
   if (!IsFree(desk_)) return;
   if (IsOccupied(game_.table, seat)) {
@@ -584,7 +586,7 @@ void MainWindow::OnSeatClicked(int seat) {
   RefreshCommands();
 }
 
-void MainWindow::ShowPointer(int bet) {
+void MainWindow::ShowPointer(BetId bet) {
   const QString text = PointerText(game_, desk_.commands, bet);
   pointer_->setText(text);
   pointer_->setToolTip(text);
@@ -608,7 +610,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
       return OnSeatClicked(event->key() - Qt::Key_1 + 1);
     const bool back = event->key() == Qt::Key_Left || event->key() == Qt::Key_Up;
     if (back || event->key() == Qt::Key_Right || event->key() == Qt::Key_Down) {
-      const int seat = NextSeat(game_, back ? -1 : 1);
+      const SeatId seat = NextSeat(game_, back ? -1 : 1);
       if (seat == game_.table.SelectedSeat && seat != 0) {
         // Alone at the table: there is nobody to go to, so the arrows walk the bets.
         table_->SetFocusBet(kPassLine, seat <= 4 ? 1 : 2);
@@ -696,8 +698,7 @@ void MainWindow::ShowGame() {
   desk_.movingSeat = 0;
   table_->scene.movingPlayer = false;
   Speak();
-  host_.rolled.Forget();
-  host_.rolled.Note(game_);
+  host_.rolled.Take(game_);
   settledThrows_ = badgesOf_ = Throws(game_.stats);
   TakeFontSize(game_.settings.ScreenFontSize);
   table_->RebuildLayout();

@@ -81,7 +81,7 @@ class MainWindow : public QMainWindow {
   void TakeNote(const MessageBox& box);
   // The area of a click that a box is about to refuse, edged for a moment.
   void ShowRefusal();
-  void OpenPlateMenu(int seat, QPoint where);
+  void OpenPlateMenu(SeatId seat, QPoint where);
   void ConnectTable();
   void ConnectHost();
   void Retranslate();
@@ -97,10 +97,10 @@ class MainWindow : public QMainWindow {
   void ShowState();
   void OnRunChanged();
   bool MayBet();
-  void OnBetClicked(int bet, bool alt);
+  void OnBetClicked(BetId bet, bool alt);
   void OnBetMoved(int from, int to);
-  void OnSeatClicked(int seat);
-  void ShowPointer(int bet);
+  void OnSeatClicked(SeatId seat);
+  void ShowPointer(BetId bet);
   void ShowTableStatus();
   bool HotKeyPressed(QKeyEvent* event);
   bool AmountKeyPressed(QKeyEvent* event);
@@ -120,7 +120,7 @@ class MainWindow : public QMainWindow {
   BetButtons* betButtons_ = nullptr;
   Measures measures_;
   Preferences preferences_;
-  int clickedBet_ = 0;              // while a click on it is carried out
+  BetId clickedBet_ = 0;            // while a click on it is carried out
   std::int64_t settledThrows_ = 0;  // of the table when no roll was being settled
   std::int64_t badgesOf_ = 0;       // throws of the table when badges were last shown
   AmountSelector* amounts_ = nullptr;

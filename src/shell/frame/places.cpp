@@ -28,7 +28,7 @@ WindowPlace MainPlace(const QWidget& window) {
 }
 
 void KeepRails(ScreenState& screen, const Desk& desk) {
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const QPoint corner = desk.stage->PlateOf(seat).pos();
     screen.RailLeft[seat] = corner.x();
     screen.RailTop[seat] = corner.y();
@@ -52,6 +52,7 @@ void KeepScreen(Desk& desk) {
                     ? KeptView{}
                     : KeptView{view.TableZoom, view.TableAngle, view.TableOffsetX, view.TableOffsetY};
   std::copy(view.SavedViews.begin(), view.SavedViews.end(), screen.SavedViews);
+  desk.host.rolled.Keep(desk.game);
   screen.ShowBetAmounts = desk.table->scene.showAmounts;
   screen.ShowPropositions = desk.beforePropositions.TableZoom != 0;
   screen.BetAmountMode = desk.commands.BetAmountMode;

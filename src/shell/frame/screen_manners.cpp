@@ -1,12 +1,18 @@
 #include "shell/frame/screen_manners.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QCursor>
 #include <QDialog>
-#include <QEvent>
+#include <QHelpEvent>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyleOptionComboBox>
 #include <QTimer>
+#include <QToolTip>
+#include <algorithm>
 
 #include "state/game.h"
 
@@ -60,6 +66,37 @@ void PointerSnap::Snap(QDialog& box) {
   box_ = &box;
   to_ = button->mapToGlobal(button->rect().center());
   QCursor::setPos(to_);
+}
+
+WholeChoices::WholeChoices(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
+
+bool WholeChoices::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Show && object->inherits("QComboBoxPrivateContainer")) {
+    auto* list = static_cast<QWidget*>(object);
+    if (const auto* box = qobject_cast<QComboBox*>(list->parentWidget())) {
+      const QWidget& view = *box->view();
+      const int bar =
+          box->count() > box->maxVisibleItems() ? box->style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+      const int wanted = box->view()->sizeHintForColumn(0) + bar + list->width() - view.width();
+      const QRect screen = list->screen()->availableGeometry();
+      if (wanted > list->width()) {
+        list->resize(std::min(wanted, screen.width()), list->height());
+        list->move(std::min(list->x(), screen.right() + 1 - list->width()), list->y());
+      }
+    }
+  }
+  if (event->type() == QEvent::ToolTip) {
+    const auto* box = qobject_cast<QComboBox*>(object);
+    if (box == nullptr || !box->toolTip().isEmpty()) return false;
+    QStyleOptionComboBox option;
+    option.initFrom(box);
+    const QRect field =
+        box->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+    if (box->fontMetrics().horizontalAdvance(box->currentText()) <= field.width()) return false;
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), box->currentText());
+    return true;
+  }
+  return false;
 }
 
 }  // namespace tessaryn

@@ -1,5 +1,5 @@
-// What holds for all screens of the program at once: the size of their letters, and the pointer that goes to
-// a box's default button.
+// What holds for all screens of the program at once: the size of their letters, the pointer that goes to a
+// box's default button, and choices that can be read whole.
 #pragma once
 
 #include <QObject>
@@ -30,6 +30,16 @@ class PointerSnap : public QObject {
   QObject* box_ = nullptr;  // that the pointer went to
   QPoint from_;
   QPoint to_;
+};
+
+// A list of choices opens as wide as its longest, and a box that is too narrow for its choice tells it as a
+// tip.
+class WholeChoices : public QObject {
+ public:
+  explicit WholeChoices(QObject* parent);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
 };
 
 }  // namespace tessaryn

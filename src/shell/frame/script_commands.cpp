@@ -18,7 +18,7 @@ bool HasScript(const Desk& desk) {
   return HasPlayer(desk) && !desk.game.autobet.Scripts[desk.game.table.SelectedSeat].ScriptLines.empty();
 }
 bool ScriptIsActive(const Desk& desk) {
-  const int seat = desk.game.table.SelectedSeat;
+  const SeatId seat = desk.game.table.SelectedSeat;
   return seat > 0 && desk.game.autobet.ScriptActive[seat];
 }
 bool ScriptsRun(const Desk& desk) {
@@ -30,7 +30,7 @@ void OpenScriptFile(Desk& desk) {
   Game& game = desk.game;
   const std::string path = ChooseFile(game, desk.window, kOpenAutoBet);
   if (path.empty()) return;
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   std::string error;
   if (!OpenScript(game, seat, path, error)) {
     ShowMessage<Msg::kFileProblem>(game, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
@@ -43,7 +43,7 @@ void OpenScriptFile(Desk& desk) {
 }
 
 void ActivateSelected(Desk& desk) {
-  const int seat = desk.game.table.SelectedSeat;
+  const SeatId seat = desk.game.table.SelectedSeat;
   if (desk.game.autobet.ScriptActive[seat])
     SetScriptActive(desk.game, seat, false);
   else

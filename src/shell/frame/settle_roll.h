@@ -33,7 +33,7 @@ class SettleRoll {
 
  private:
   struct Chosen {
-    int seat;
+    SeatId seat;
     bool won;
     SettleAnswer answer;
   };

@@ -17,7 +17,7 @@ namespace tessaryn {
 namespace {
 constexpr qint64 kEventsEvery = 10;     // milliseconds between two looks at the user's events in a run
 constexpr qint64 kProgressEvery = 100;  // and between two refreshes of what shows it
-constexpr qint64 kProgressShare = 25;   // one part in so many of a run's time goes into them
+constexpr qint64 kProgressShare = 21;   // one part in so many of a run's time goes into them
 constexpr qint64 kSlowestProgress = 2000;
 constexpr int kWaitStep = 10;
 }  // namespace

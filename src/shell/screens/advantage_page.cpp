@@ -54,7 +54,7 @@ template <typename Value, typename Of>
 Value SumOf(int row, const Of& of) {
   const RowBets bets = BetsOf(row);
   Value sum{};
-  for (const int bet : {bets.first, bets.second})
+  for (const BetId bet : {bets.first, bets.second})
     if (bet != 0) sum += of(bet);
   return sum;
 }
@@ -65,7 +65,7 @@ QString WrittenAmount(Currency amount) { return amount == kZero ? QString() : Do
 
 // What a bet that isn't paid by several rows pays.
 QString PaysText(const Game& game, int row) {
-  const int bet = row == kPassComeOutRow ? kCome : row == kDontComeOutRow ? kDontCome : row;
+  const BetId bet = row == kPassComeOutRow ? kCome : row == kDontComeOutRow ? kDontCome : row;
   const bool byPoint = row == kPassLine || row == kDontPass || bet == kPassLineOdds || bet == kDontPassOdds;
   if (byPoint) return AdvantagePage::tr("by the point");
   if (SharesOf(bet) > 1) return AdvantagePage::tr("in shares");
@@ -179,17 +179,17 @@ void AdvantagePage::FigureAgain() {
   rows_ = AdvantageTable(game_);
   for (const AdvantageRow& row : rows_) {
     const RowBets bets = BetsOf(row.bet);
-    for (const int bet : {bets.first, bets.second}) perDecision_[bet] = row.figures.evPerDecision;
+    for (const BetId bet : {bets.first, bets.second}) perDecision_[bet] = row.figures.evPerDecision;
   }
 }
 
-FigureRow AdvantagePage::RowOf(const AdvantageRow& row, int seat) const {
+FigureRow AdvantagePage::RowOf(const AdvantageRow& row, SeatId seat) const {
   const double amount = amount_->Value().IsError() ? 0 : amount_->Value().ToDouble();
   const double rollsPerHour = game_.settings.SimRollRate.ToDouble();
   const Advantage& figures = row.figures;
-  const auto up = SumOf<Currency>(row.bet, [&](int bet) { return game_.table.BetAmount(seat, bet); });
+  const auto up = SumOf<Currency>(row.bet, [&](BetId bet) { return game_.table.BetAmount(seat, bet); });
   const double upHour = up.ToDouble() * figures.evPerRoll * rollsPerHour;
-  const auto wagered = SumOf<Currency>(row.bet, [&](int bet) {
+  const auto wagered = SumOf<Currency>(row.bet, [&](BetId bet) {
     return BetStat(game_.stats, kWagerStats, kCurrentSession, seat, bet, kStatTotal);
   });
   const double expected = wagered.ToDouble() * figures.evPerDecision;
@@ -215,7 +215,7 @@ FigureRow AdvantagePage::RowOf(const AdvantageRow& row, int seat) const {
 void AdvantagePage::Refresh() {
   players_->Refresh(game_.table);
   FigureAgain();
-  const int seat = players_->Seat();
+  const SeatId seat = players_->Seat();
   std::vector<FigureRow> rows;
   rows.reserve(rows_.size());
   for (const AdvantageRow& row : rows_) rows.push_back(RowOf(row, seat));
@@ -233,12 +233,12 @@ void AdvantagePage::ShowMisc(bool shown) {
 
 // --- What stands below the table.
 
-QString AdvantagePage::UpText(int seat) {
+QString AdvantagePage::UpText(SeatId seat) {
   if (seat == 0) return tr("There are no players at the table.");
   const QString name = FromCore(game_.table.seats[seat].SeatName);
   BetAmounts amounts;
   game_.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { amounts[bet] = game_.table.BetAmount(seat, bet).ToDouble(); });
+      [&](BetId bet) { amounts[bet] = game_.table.BetAmount(seat, bet).ToDouble(); });
   if (amounts.empty()) return tr("%1 has no bets up.").arg(name);
   if (amounts_ != amounts) {
     together_ = FigureBetsTogether(game_, amounts);
@@ -259,15 +259,15 @@ QString AdvantagePage::UpText(int seat) {
   return text;
 }
 
-QString AdvantagePage::SessionText(int seat) const {
+QString AdvantagePage::SessionText(SeatId seat) const {
   if (seat == 0) return {};
   Currency wagered;
   Currency came;
   double expected = 0;
-  const auto stat = [&](StatTable table, int bet) {
+  const auto stat = [&](StatTable table, BetId bet) {
     return BetStat(game_.stats, table, kCurrentSession, seat, bet, kStatTotal);
   };
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     const Currency amount = stat(kWagerStats, bet);
     if (amount == kZero) continue;
     wagered += amount;

@@ -41,10 +41,10 @@ class AdvantagePage : public QWidget, public PageRows {
   Basis BasisOf() const;
   void AddChoices(QBoxLayout& column);
   void FigureAgain();
-  FigureRow RowOf(const AdvantageRow& row, int seat) const;
+  FigureRow RowOf(const AdvantageRow& row, SeatId seat) const;
   void ShowMisc(bool shown);
-  QString UpText(int seat);
-  QString SessionText(int seat) const;
+  QString UpText(SeatId seat);
+  QString SessionText(SeatId seat) const;
   QString MiscText() const;
 
   Game& game_;

@@ -20,7 +20,7 @@ constexpr int kPictureSize = 48;
 constexpr int kPictureCheck = 4;
 }  // namespace
 
-AtmScreen::AtmScreen(Game& game, int seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
+AtmScreen::AtmScreen(Game& game, SeatId seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
   setObjectName("frmAtm");
   setWindowTitle(tr("ATM"));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);

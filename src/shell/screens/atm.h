@@ -19,7 +19,7 @@ struct Game;
 class AtmScreen : public QDialog {
   Q_OBJECT
  public:
-  AtmScreen(Game& game, int seat, QWidget* parent);
+  AtmScreen(Game& game, SeatId seat, QWidget* parent);
 
  private:
   void AddHeader();
@@ -33,7 +33,7 @@ class AtmScreen : public QDialog {
   void Refresh();
 
   Game& game_;
-  int seat_;
+  SeatId seat_;
   QLabel* bankroll_ = nullptr;
   QLabel* onTable_ = nullptr;
   QLabel* rail_ = nullptr;

@@ -61,7 +61,7 @@ const char* const kAmountCaptions[3] = {
     QT_TRANSLATE_NOOP("tessaryn::AutoPlayScreen", " Auto w/ minor correction"),
     QT_TRANSLATE_NOOP("tessaryn::AutoPlayScreen", " Auto w/ color correction")};
 
-int FirstSeat(const TableState& table) {
+SeatId FirstSeat(const TableState& table) {
   if (table.SelectedSeat > 0 && !table.seats[table.SelectedSeat].SeatName.empty()) return table.SelectedSeat;
   return table.OccupiedSeats > 0 ? table.Seated[0] : 0;
 }
@@ -101,10 +101,10 @@ void AutoPlayScreen::AddPlayerRow(QBoxLayout& column) {
   player_->setObjectName("cmbPlayer");
   player_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   player_->setMinimumContentsLength(24);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (const std::string& name = game_.table.seats[seat].SeatName; !name.empty())
-      player_->addItem(FromCore(name), seat);
-  player_->setCurrentIndex(player_->findData(seat_));
+      player_->addItem(FromCore(name), seat.value);
+  player_->setCurrentIndex(player_->findData(seat_.value));
   player_->setEnabled(seat_ > 0);
   connect(player_, &QComboBox::activated, this, [this] { ShowSeat(player_->currentData().toInt()); });
   auto* label = new QLabel(tr("Pla&yer:"), this);
@@ -202,10 +202,10 @@ QGroupBox* AutoPlayScreen::WorkingGroup() {
   working_->setObjectName("lstWorkOnComeOut");
   working_->setAccessibleName(box->title());
   working_->setUniformItemSizes(true);
-  for (int bet = 1; bet <= kBets; ++bet) {
+  for (BetId bet = 1; bet <= kBets; ++bet) {
     auto* item = new QListWidgetItem(FromCore(BetName(bet)), working_);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setData(Qt::UserRole, bet);
+    item->setData(Qt::UserRole, bet.value);
     item->setCheckState(Qt::Unchecked);
   }
   working_->setFixedWidth(working_->sizeHintForColumn(0) + 2 * working_->frameWidth() +
@@ -234,7 +234,7 @@ void AutoPlayScreen::AddButtonRow(QBoxLayout& column) {
   row->addWidget(close);
 }
 
-void AutoPlayScreen::ShowSeat(int seat) {
+void AutoPlayScreen::ShowSeat(SeatId seat) {
   seat_ = seat;
   Load();
 }
@@ -258,7 +258,7 @@ void AutoPlayScreen::Load() {
 
 void AutoPlayScreen::LoadWorking() {
   const BetSet& works = game_.table.seats[seat_].BetDefaultWorking;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     working_->item(bet - 1)->setCheckState(works.Has(bet) ? Qt::Checked : Qt::Unchecked);
 }
 
@@ -289,7 +289,7 @@ void AutoPlayScreen::SetSlot(int slot) {
 void AutoPlayScreen::SelectAllWorking() {
   if (seat_ == 0) return;
   std::vector<SettingChange> changes;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     changes.push_back({"BetDefaultWorking." + std::to_string(bet), seat_, "on"});
   std::string error;
   if (!SetSettings(game_, changes, error))

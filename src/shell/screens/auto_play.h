@@ -44,14 +44,14 @@ class AutoPlayScreen : public QDialog {
   // Shows what the player's settings are.
   void Load();
   void LoadWorking();
-  void ShowSeat(int seat);
+  void ShowSeat(SeatId seat);
   // One setting of the shown player. What is refused is said, and the screen shows what is in force.
   void Set(const std::string& name, const std::string& value);
   void SetSlot(int slot);
   void SelectAllWorking();
 
   Game& game_;
-  int seat_ = 0;  // 0 nobody is at the table
+  SeatId seat_ = 0;  // 0 nobody is at the table
   bool loading_ = false;
   QComboBox* player_ = nullptr;
   QWidget* settings_ = nullptr;  // everything that belongs to the player

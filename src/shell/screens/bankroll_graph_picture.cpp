@@ -40,7 +40,7 @@ const QList<qreal> kDashes[kSeats] = {{4, 2}, {1.5, 2},       {8, 2, 2, 2}, {9, 
 
 int CellOf(WhichPage which, int place) { return which == WhichPage::kPresent ? place : kPlotCells + place; }
 
-GraphCurve TakeCurve(const Game& game, int seat, WhichPage which, int count) {
+GraphCurve TakeCurve(const Game& game, SeatId seat, WhichPage which, int count) {
   GraphCurve curve{seat, FromCore(game.table.seats[seat].SeatName), {}};
   curve.points.reserve(static_cast<std::size_t>(count));
   for (int place = 1; place <= count; ++place)
@@ -49,7 +49,7 @@ GraphCurve TakeCurve(const Game& game, int seat, WhichPage which, int count) {
 }
 
 std::vector<Currency> TakeAverages(const Game& game, WhichPage which, int count) {
-  const int seat = game.graph.PlotSeat;
+  const SeatId seat = game.graph.PlotSeat;
   std::vector<Currency> averages;
   if (which == WhichPage::kPresent) {
     PlotAverages all;
@@ -117,9 +117,9 @@ void PaintRollLabels(QPainter& painter, const GraphFrame& frame, const GraphPage
   for (int cell = 0; cell <= kPlotCells; ++cell) {
     const auto place = static_cast<std::size_t>(cell - 1);
     const std::int64_t last = page.rolls.empty() ? page.firstRoll - 1 : page.rolls.back();
-    const std::int64_t roll = cell == 0              ? page.firstRoll - 1
-                              : cell <= page.Count() ? page.rolls[place]
-                                                     : last + cell - page.Count();
+    const RollNumber roll = cell == 0              ? page.firstRoll - 1
+                            : cell <= page.Count() ? page.rolls[place]
+                                                   : last + cell - page.Count();
     if (roll % kRollsBetweenTicks != 0) continue;
     const double x = Middle(frame.X(cell));
     painter.drawLine(QPointF(x, frame.plot.bottom()), QPointF(x, frame.plot.bottom() + 4 * frame.unit));
@@ -149,10 +149,13 @@ void PaintArea(QPainter& painter, const GraphFrame& frame, const GraphPage& page
   if (page.style == kGraphSolid) {
     line.append({line.back().x(), frame.plot.bottom()});
     line.append({line.front().x(), frame.plot.bottom()});
+    // The curve stands over its edge.
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colours.parts[kGraphArea]);
     painter.drawPolygon(line);
     painter.setBrush(Qt::NoBrush);
+    painter.setRenderHint(QPainter::Antialiasing);
     return;
   }
   QList<QLineF> stripes;
@@ -293,7 +296,7 @@ GraphColours GraphColoursOf(const GraphShown& shown, bool dark) {
     const int own = shown.GraphColors[part];
     colours.parts[part] = QColor(own < 0 ? kPartColours[dark][part] : static_cast<QRgb>(own));
   }
-  for (int seat = 1; seat <= kSeats; ++seat) colours.seats[seat] = QColor(kSeatColours[dark][seat - 1]);
+  for (SeatId seat = 1; seat <= kSeats; ++seat) colours.seats[seat] = QColor(kSeatColours[dark][seat - 1]);
   return colours;
 }
 
@@ -306,7 +309,7 @@ GraphPage TakeGraphPage(const Game& game, WhichPage which) {
     page.rolls.push_back(BankrollPlot(game, 0, CellOf(which, place)).raw / Currency::kPerDollar);
   page.firstRoll = count > 0 ? page.rolls.front() : SessionRolls(game.stats) + 1;
   page.curves.push_back(TakeCurve(game, graph.PlotSeat, which, count));
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (seat != graph.PlotSeat && (shown.TogetherSeats >> seat & 1) != 0 && IsOccupied(game.table, seat))
       page.curves.push_back(TakeCurve(game, seat, which, count));
   if (graph.DisplayAverage) page.averages = TakeAverages(game, which, count);

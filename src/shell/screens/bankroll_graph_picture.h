@@ -39,7 +39,7 @@ struct GraphColours {
 GraphColours GraphColoursOf(const GraphShown& shown, bool dark);
 
 struct GraphCurve {
-  int seat = 0;
+  SeatId seat = 0;
   QString name;
   std::vector<Currency> points;
 };
@@ -49,7 +49,7 @@ struct GraphPage {
   std::vector<GraphCurve> curves;   // the first is the graph's seat
   std::vector<Currency> averages;   // a value a point; empty when they aren't shown
   std::vector<std::int64_t> rolls;  // the session's roll number of each point
-  std::int64_t firstRoll = 1;       // that of cell 1
+  RollNumber firstRoll = 1;         // that of cell 1
   QString averageCaption;           // "25 roll avg"
   Currency high, current, low;      // of the first curve
   Currency start;                   // what it began the session with

@@ -23,6 +23,7 @@
 #include "shell/screens/bankroll_graph_view.h"
 #include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/run_controls.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -245,13 +246,13 @@ void BankrollGraphScreen::AddRun(QBoxLayout& column) {
 void BankrollGraphScreen::MeetSeat() {
   const TableState& table = game_.table;
   if (IsOccupied(table, game_.graph.PlotSeat) || table.OccupiedSeats == 0) return;
-  SelectPlotSeat(game_, IsOccupied(table, table.SelectedSeat) ? table.SelectedSeat : table.Seated[0]);
+  SelectPlotSeat(game_, IsOccupied(table, table.SelectedSeat) ? table.SelectedSeat : SeatId(table.Seated[0]));
 }
 
 void BankrollGraphScreen::ShowPlayers() {
   QStringList names;
-  QList<int> seats;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  QList<int> seats;  // as the combo box keeps them
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game_.table, seat)) continue;
     names += FromCore(game_.table.seats[seat].SeatName);
     seats += seat;
@@ -264,12 +265,12 @@ void BankrollGraphScreen::ShowPlayers() {
     for (qsizetype n = 0; n < seats.size(); ++n) player_->addItem(names[n], seats[n]);
     player_->setEnabled(!seats.isEmpty());
   }
-  const int at = player_->findData(game_.graph.PlotSeat);
+  const int at = player_->findData(game_.graph.PlotSeat.value);
   if (at != player_->currentIndex()) player_->setCurrentIndex(at);
 }
 
 void BankrollGraphScreen::ShowGain() {
-  const int seat = game_.graph.PlotSeat;
+  const SeatId seat = game_.graph.PlotSeat;
   const Currency gain = game_.table.BankrollCurrent[seat] - game_.stats.BankrollSessionStart[seat];
   const bool dark = IsDark(*this);
   QString text = Signed(gain);
@@ -298,7 +299,8 @@ void BankrollGraphScreen::ShowFigures(const GraphPage& page) {
   Colour(*average_.caption, graph.DisplayAverage
                                 ? GraphColoursOf(game_.screen.Graph, IsDark(*this)).parts[kGraphAverage]
                                 : palette().color(QPalette::WindowText));
-  Show(*rolls_, tr("%1 rolls").arg(Count(static_cast<double>(SessionRolls(game_.stats)))));
+  Show(*rolls_, tr("%1 rolls", nullptr, PluralOf(SessionRolls(game_.stats)))
+                    .arg(Count(static_cast<double>(SessionRolls(game_.stats)))));
   Show(*rate_, tr("@ %1 rolls/hr").arg(RollRateText(game_)));
   Show(*hours_, tr("= %1 sim hrs").arg(SimHours(game_)));
 }
@@ -415,7 +417,7 @@ void BankrollGraphScreen::AddChoices(QMenu& menu, const QString& name, const QSt
 void BankrollGraphScreen::ShowTicks() {
   for (const Entry& entry : entries_)
     if (entry.ticked) entry.action->setChecked(entry.ticked());
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     auto* action = menu_->findChild<QAction*>(QString("mnuTogether%1").arg(seat));
     action->setText(QString("&%1  %2").arg(seat).arg(FromCore(game_.table.seats[seat].SeatName)));
     action->setVisible(IsOccupied(game_.table, seat) && seat != game_.graph.PlotSeat);
@@ -470,7 +472,7 @@ void BankrollGraphScreen::AddDisplay() {
   AddEntry(*menu_, "mnuSetAverage", tr("Set &moving average ..."), [this] { SetMovingAverage(game_); });
   QMenu* together = menu_->addMenu(tr("&Players together"));
   together->menuAction()->setObjectName("mnuTogether");
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     AddEntry(
         *together, QString("mnuTogether%1").arg(seat), QString::number(seat),
         [this, seat] { game_.screen.Graph.TogetherSeats ^= 1u << seat; },

@@ -7,6 +7,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace tessaryn {
 namespace {
@@ -33,7 +34,7 @@ QSize GraphView::minimumSizeHint() const { return {240, 110}; }
 void GraphView::SetPage(GraphPage page, const GraphColours& colours) {
   page_ = std::move(page);
   colours_ = colours;
-  drawn_ = {};
+  stale_ = true;
   PointAt(std::min(pointed_, page_.Count()));
   update();
 }
@@ -92,8 +93,8 @@ void GraphView::PaintPointer(QPainter& painter) const {
 // --- Events.
 
 void GraphView::paintEvent(QPaintEvent*) {
-  if (drawn_.isNull()) {
-    drawn_ = QPixmap(size() * devicePixelRatioF());
+  if (std::exchange(stale_, false) || drawn_.devicePixelRatio() != devicePixelRatioF()) {
+    if (const QSize points = size() * devicePixelRatioF(); drawn_.size() != points) drawn_ = QPixmap(points);
     drawn_.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&drawn_);
     painter.setFont(font());
@@ -109,10 +110,10 @@ void GraphView::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 
-void GraphView::resizeEvent(QResizeEvent*) { drawn_ = {}; }
+void GraphView::resizeEvent(QResizeEvent*) { stale_ = true; }
 
 void GraphView::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) drawn_ = {};
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::PaletteChange) stale_ = true;
   QWidget::changeEvent(event);
 }
 

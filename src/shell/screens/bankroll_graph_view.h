@@ -49,7 +49,8 @@ class GraphView : public QWidget {
 
   GraphPage page_;
   GraphColours colours_;
-  QPixmap drawn_;  // the page; null when it must be drawn anew
+  QPixmap drawn_;      // the page
+  bool stale_ = true;  // it must be drawn anew
   int pointed_ = 0;
   int dragged_ = 0;  // the reference line, 1 or 2
   int wheel_ = 0;    // eighths of degrees that haven't become a step yet

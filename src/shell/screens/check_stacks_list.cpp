@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "rules/check_stacks.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -63,7 +64,7 @@ int CommandOf(const QKeyEvent& event) {
 
 CheckStackList::CheckStackList(Game& game, QObject* parent) : QAbstractTableModel(parent), game_(game) {}
 
-void CheckStackList::SetSeat(int seat) {
+void CheckStackList::SetSeat(SeatId seat) {
   if (seat == seat_) return;
   beginResetModel();
   seat_ = seat;
@@ -99,7 +100,7 @@ void CheckStackList::ShowAnew() {
 
 QString CheckStackList::CellText(int stack, int column) const {
   if (column == kStackName) return FromCore(CheckStackNameOf(game_, seat_, stack));
-  return FromCore(PlainMoney(CheckStackValue(game_, seat_, stack)));
+  return InHabit(FromCore(PlainMoney(CheckStackValue(game_, seat_, stack))));
 }
 
 int CheckStackList::rowCount(const QModelIndex& parent) const {
@@ -115,9 +116,10 @@ QVariant CheckStackList::data(const QModelIndex& index, int role) const {
     return static_cast<int>(Qt::AlignVCenter | (value ? Qt::AlignRight : Qt::AlignLeft));
   if (role == Qt::EditRole) return CellText(stack, index.column());
   if (role == Qt::AccessibleTextRole && value)
-    return FromCore(CheckStackValueText(game_, seat_, stack, true));
+    return InHabit(FromCore(CheckStackValueText(game_, seat_, stack, true)));
   if (role != Qt::DisplayRole) return {};
-  return value ? FromCore(CheckStackValueText(game_, seat_, stack, game_.screen.CheckStacks.DisplayZero))
+  const bool zero = game_.screen.CheckStacks.DisplayZero;
+  return value ? InHabit(FromCore(CheckStackValueText(game_, seat_, stack, zero)))
                : CellText(stack, kStackName);
 }
 

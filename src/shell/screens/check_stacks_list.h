@@ -22,8 +22,8 @@ class CheckStackList : public QAbstractTableModel {
  public:
   CheckStackList(Game& game, QObject* parent);
   // 0 to 8; the list of seat 0 is empty.
-  void SetSeat(int seat);
-  int Seat() const { return seat_; }
+  void SetSeat(SeatId seat);
+  SeatId Seat() const { return seat_; }
   // Tells the view which cells differ from what it was told last.
   void Follow();
   // Everything is shown anew, as after a change of how it is shown.
@@ -54,7 +54,7 @@ class CheckStackList : public QAbstractTableModel {
   int PlaceOnTable(int stack) const;
 
   Game& game_;
-  int seat_ = 0;
+  SeatId seat_ = 0;
   std::array<Cell, kCheckStacks> told_;
 };
 

@@ -23,6 +23,7 @@
 #include "shell/screens/core_words.h"
 #include "shell/screens/player_head.h"
 #include "shell/screens/print_heading.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "state/show_message.h"
@@ -56,7 +57,7 @@ std::string NameFrom(const QString& text) { return text.simplified().toStdString
 
 bool ValueFrom(const QString& text, Currency& value) {
   value = kZero;
-  return text.trimmed().isEmpty() || TryParseMoney(text.trimmed().toStdString(), value);
+  return text.trimmed().isEmpty() || ReadNumber(text, value);
 }
 
 }  // namespace
@@ -258,9 +259,9 @@ void CheckStacksScreen::ShowMenu() {
 
 // --- What is shown.
 
-int CheckStacksScreen::Seat() const {
+SeatId CheckStacksScreen::Seat() const {
   const TableState& table = game_.table;
-  const int chosen = game_.screen.CheckStacks.CheckStackSeat;
+  const SeatId chosen = game_.screen.CheckStacks.CheckStackSeat;
   if (chosen != 0 && IsOccupied(table, chosen)) return chosen;
   if (IsOccupied(table, table.SelectedSeat)) return table.SelectedSeat;
   return table.OccupiedSeats > 0 ? table.Seated[0] : 0;
@@ -268,7 +269,7 @@ int CheckStacksScreen::Seat() const {
 
 void CheckStacksScreen::ShowPlayers() {
   QList<std::pair<QString, int>> players;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) players.append({FromCore(game_.table.seats[seat].SeatName), seat});
   bool same = players.size() == player_->count();
   for (int n = 0; same && n < player_->count(); ++n)
@@ -278,17 +279,18 @@ void CheckStacksScreen::ShowPlayers() {
     for (const auto& [name, seat] : players) player_->addItem(name, seat);
     player_->setEnabled(!players.isEmpty());
   }
-  const int at = player_->findData(Seat());
+  const int at = player_->findData(Seat().value);
   if (at != player_->currentIndex()) player_->setCurrentIndex(at);
 }
 
 void CheckStacksScreen::ShowVisible() {
-  const int seat = Seat();
+  const SeatId seat = Seat();
   for (int n = 0; n < kVisibleStacks; ++n) {
     const int stack = game_.table.seats[seat].VisibleStacks[n];
     const QString name = seat == 0 ? QString() : FromCore(CheckStackNameOf(game_, seat, stack));
     const QString caption = seat == 0 ? QString() : QString("#%1 %2").arg(stack).arg(name);
-    const QString value = seat == 0 ? QString() : FromCore(CheckStackValueText(game_, seat, stack, true));
+    const QString value =
+        seat == 0 ? QString() : InHabit(FromCore(CheckStackValueText(game_, seat, stack, true)));
     QLabel& label = *visible_[n].caption;
     Show(*visible_[n].value, value);
     Show(label, caption);
@@ -300,7 +302,7 @@ void CheckStacksScreen::ShowVisible() {
 
 void CheckStacksScreen::Refresh() {
   ShowPlayers();
-  const int seat = Seat();
+  const SeatId seat = Seat();
   if (list_->Seat() != seat) {
     list_->SetSeat(seat);
     CloseSetStacks();
@@ -334,7 +336,7 @@ bool CheckStacksScreen::MayEdit() {
   return false;
 }
 
-std::vector<CheckStacksScreen::Cell> CheckStacksScreen::CellsOf(int seat) const {
+std::vector<CheckStacksScreen::Cell> CheckStacksScreen::CellsOf(SeatId seat) const {
   std::vector<Cell> cells;
   for (int stack = 0; stack < kCheckStacks; ++stack)
     cells.push_back({CheckStackNameOf(game_, seat, stack), CheckStackValue(game_, seat, stack)});
@@ -343,7 +345,7 @@ std::vector<CheckStacksScreen::Cell> CheckStacksScreen::CellsOf(int seat) const 
 
 void CheckStacksScreen::Edit(const std::function<void()>& work) {
   if (!MayEdit()) return;
-  const int seat = Seat();
+  const SeatId seat = Seat();
   const std::string player = game_.table.seats[seat].SeatName;
   const std::vector<Cell> before = CellsOf(seat);
   work();
@@ -385,7 +387,7 @@ void CheckStacksScreen::TakeStep(std::vector<Step>& from, std::vector<Step>& to,
 }
 
 void CheckStacksScreen::SetCell(int stack, int column, const QString& text) {
-  const int seat = Seat();
+  const SeatId seat = Seat();
   Currency value;
   if (column == kStackName)
     SetCheckStackName(game_, seat, stack, NameFrom(text));
@@ -450,7 +452,7 @@ void CheckStacksScreen::DeleteAll(StackDeletion what) {
 // --- The stacks on the table.
 
 void CheckStacksScreen::OpenSetStacks() {
-  const int seat = Seat();
+  const SeatId seat = Seat();
   if (seat == 0) return;
   for (int n = 0; n < kVisibleStacks; ++n) numbers_[n]->setValue(game_.table.seats[seat].VisibleStacks[n]);
   setStacks_->show();
@@ -493,7 +495,7 @@ bool CheckStacksScreen::ReadyToPrint() {
 QList<QStringList> CheckStacksScreen::Rows() const {
   const Range range = std::exchange(toPrint_, {});
   QList<QStringList> rows{{"#", tr("Name"), tr("Value")}};
-  const int seat = Seat();
+  const SeatId seat = Seat();
   for (int stack = range.first; stack <= range.last && seat != 0; ++stack)
     rows.append({QString::number(stack), FromCore(CheckStackNameOf(game_, seat, stack)),
                  FromCore(CheckStackValueText(game_, seat, stack, game_.screen.CheckStacks.DisplayZero))});

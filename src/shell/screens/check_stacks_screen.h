@@ -49,7 +49,7 @@ class CheckStacksScreen : public ToolWindow {
   };
   // What one command did, to be undone.
   struct Step {
-    int seat;
+    SeatId seat;
     std::string player;
     std::vector<CellChange> changes;
   };
@@ -69,10 +69,10 @@ class CheckStacksScreen : public ToolWindow {
   void ShowVisible();
   void ShowMenu();
   void ShowFont();
-  int Seat() const;
+  SeatId Seat() const;
   // --- What the user does.
   bool MayEdit();
-  std::vector<Cell> CellsOf(int seat) const;
+  std::vector<Cell> CellsOf(SeatId seat) const;
   // Does what may change the cells of the seat, and keeps how to undo it.
   void Edit(const std::function<void()>& work);
   void TakeStep(std::vector<Step>& from, std::vector<Step>& to, bool back);

@@ -47,7 +47,7 @@ void CompsPage::AddResults() {
   scopes_ = new QComboBox(group);
   scopes_->setObjectName("cmbCompScope");
   scopes_->setAccessibleName(tr("Scope"));
-  for (int scope = 0; scope < kScopes; ++scope) scopes_->addItem(CoreWords(ScopeName(scope)));
+  for (ScopeId scope = 0; scope < kScopes; ++scope) scopes_->addItem(CoreWords(ScopeName(scope)));
   scopes_->setCurrentIndex(kCurrentSession);
   form->addRow(tr("Scope"), scopes_);
   for (int n = 0; n < kResults; ++n) {
@@ -101,7 +101,7 @@ void CompsPage::AddBets() {
 template <typename Counts>
 void CompsPage::Set(const Counts& counts) {
   std::vector<SettingChange> changes;
-  for (const int bet : bets_->Selected())
+  for (const BetId bet : bets_->Selected())
     changes.push_back({"CompBetFlags." + std::to_string(bet), 0, counts(bet) ? "on" : "off"});
   if (!changes.empty()) editor_.ChangeTogether(changes);
   Refresh();
@@ -109,10 +109,10 @@ void CompsPage::Set(const Counts& counts) {
 
 void CompsPage::Flip() {
   const BetSet before = game_.settings.CompBetFlags;
-  Set([&before](int bet) { return !before.Has(bet); });
+  Set([&before](BetId bet) { return !before.Has(bet); });
 }
 
-FigureRow CompsPage::RowOf(int bet, int scope, int seat) const {
+FigureRow CompsPage::RowOf(BetId bet, ScopeId scope, SeatId seat) const {
   const Settings& settings = game_.settings;
   const bool counts = settings.CompBetFlags.Has(bet);
   const Currency wagered =
@@ -134,10 +134,10 @@ FigureRow CompsPage::RowOf(int bet, int scope, int seat) const {
 
 void CompsPage::Refresh() {
   players_->Refresh(game_.table);
-  const int seat = players_->Seat();
-  const int scope = scopes_->currentIndex();
+  const SeatId seat = players_->Seat();
+  const ScopeId scope = scopes_->currentIndex();
   std::vector<FigureRow> rows;
-  for (int bet = 1; bet <= kBets; ++bet) rows.push_back(RowOf(bet, scope, seat));
+  for (BetId bet = 1; bet <= kBets; ++bet) rows.push_back(RowOf(bet, scope, seat));
   bets_->SetRows(std::move(rows));
   QString texts[kResults];
   if (seat != 0) {

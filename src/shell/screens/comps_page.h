@@ -22,7 +22,7 @@ class CompsPage : public ControlsPage, public PageRows {
   template <typename Counts>
   void Set(const Counts& counts);
   void Flip();
-  FigureRow RowOf(int bet, int scope, int seat) const;
+  FigureRow RowOf(BetId bet, ScopeId scope, SeatId seat) const;
 
   Game& game_;
   PlayerChoice* players_;

@@ -26,6 +26,7 @@
 #include "shell/screens/configuration_rows.h"
 #include "shell/screens/core_words.h"
 #include "shell/screens/screen_parts.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/bet_families.h"
 #include "state/show_message.h"
@@ -291,7 +292,7 @@ class WorkingList {
     list_->setProperty("tells", "BetDefaultWorking");
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->setUniformItemSizes(true);
-    for (int bet = 1; bet <= kBets; ++bet) list_->addItem(QString());
+    for (BetId bet = 1; bet <= kBets; ++bet) list_->addItem(QString());
     ControlsPage::FormOf(&group)->addRow(list_);
   }
 
@@ -299,7 +300,7 @@ class WorkingList {
 
   void Refresh() {
     const BetSet& works = game_.table.seats[0].BetDefaultWorking;
-    for (int bet = 1; bet <= kBets; ++bet) {
+    for (BetId bet = 1; bet <= kBets; ++bet) {
       const QString ending = works.Has(bet)
                                  ? Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - Yes"))
                                  : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", " - No"));
@@ -312,7 +313,7 @@ class WorkingList {
   template <typename Works>
   void Set(const Works& works) {
     std::vector<SettingChange> changes;
-    for (int bet = 1; bet <= kBets; ++bet)
+    for (BetId bet = 1; bet <= kBets; ++bet)
       if (list_->item(bet - 1)->isSelected())
         changes.push_back({"BetDefaultWorking." + std::to_string(bet), 0, FlagText(works(bet))});
     if (!changes.empty()) editor_.ChangeTogether(changes);
@@ -321,7 +322,7 @@ class WorkingList {
 
   void Flip() {
     const BetSet before = game_.table.seats[0].BetDefaultWorking;
-    Set([&before](int bet) { return !before.Has(bet); });
+    Set([&before](BetId bet) { return !before.Has(bet); });
   }
 
   void SelectAll() { list_->selectAll(); }
@@ -355,7 +356,7 @@ ControlsPage* MakeBetsPage(Game& game, SettingEditor& editor, QWidget* parent) {
       {"cmdWorkingSelectAll", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Select all")),
        [list] { list->SelectAll(); }},
       {"cmdWorkingDefault", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Default")),
-       [list] { list->Set([](int bet) { return kHouseWorkingBets.Has(bet); }); }}};
+       [list] { list->Set([](BetId bet) { return kHouseWorkingBets.Has(bet); }); }}};
   for (const Button& facts : buttons) {
     QPushButton* button = NewButton(group, facts.name, facts.caption);
     QObject::connect(button, &QPushButton::clicked, page, facts.act);
@@ -395,20 +396,20 @@ namespace {
 
 void ListPlayers(const Game& game, SettingEditor& editor, QComboBox& players) {
   QStringList names;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     names += IsOccupied(game.table, seat) ? FromCore(game.table.seats[seat].SeatName) : QString();
   if (players.property("names").toStringList() != names) {
     players.setProperty("names", names);
     players.clear();
-    for (int seat = 1; seat <= kSeats; ++seat)
-      if (!names[seat - 1].isEmpty()) players.addItem(names[seat - 1], seat);
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
+      if (!names[seat - 1].isEmpty()) players.addItem(names[seat - 1], seat.value);
   }
-  int seat = editor.Seat();
+  SeatId seat = editor.Seat();
   if (!IsOccupied(game.table, seat))
     seat = IsOccupied(game.table, game.table.SelectedSeat) ? game.table.SelectedSeat
-           : game.table.OccupiedSeats > 0                  ? game.table.Seated[0]
-                                                           : 0;
-  players.setCurrentIndex(players.findData(seat));
+           : game.table.OccupiedSeats > 0                  ? SeatId(game.table.Seated[0])
+                                                           : kNobody;
+  players.setCurrentIndex(players.findData(seat.value));
   if (seat != editor.Seat()) editor.SetSeat(seat);
 }
 
@@ -566,7 +567,7 @@ QString RateText(Currency rollsPerHour, const RateView& view) {
   if (rollsPerHour == kZero) return "0";
   const Currency part = Currency::Dollars(view.perHour);
   const Currency shown = view.reciprocal ? Divide(part, rollsPerHour) : Divide(rollsPerHour, part);
-  return shown == kZero ? QStringLiteral("<.0001") : QString::fromStdString(PlainMoney(shown));
+  return shown == kZero ? QStringLiteral("<.0001") : InHabit(QString::fromStdString(PlainMoney(shown)));
 }
 
 Currency RateOf(Currency typed, const RateView& view) {

@@ -9,7 +9,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -52,6 +51,7 @@ struct KindRow {
   const char* name;
   unsigned kinds;
 };
+constexpr int kKindLetters = 36;  // the longest of all languages, with its arrow
 constexpr KindRow kKinds[] = {
     {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Everything"), kLogAllKinds},
     {QT_TRANSLATE_NOOP("tessaryn::EventsLogScreen", "Rolls"), kLogKindRoll},
@@ -226,12 +226,14 @@ QWidget* EventsLogScreen::MakeFilterRow() {
     box->setMaxVisibleItems(12);
     connect(box, &QComboBox::activated, this, &EventsLogScreen::ChangeFilter);
   }
+  kind_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  kind_->setMaximumWidth(kind_->fontMetrics().averageCharWidth() * kKindLetters);
   place_ = new QLabel(row);
   place_->setObjectName("lblPlace");
   place_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   place_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line->addWidget(record_);
-  line->addWidget(kind_);
+  line->addWidget(kind_, 2);
   line->addWidget(player_);
   line->addWidget(place_, 1);
   return row;
@@ -384,7 +386,7 @@ void EventsLogScreen::ChangeFilter() {
 // Those at the table, and one who was chosen and has left.
 void EventsLogScreen::ListPlayers() {
   QStringList names{tr("All players")};
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) names.append(FromCore(game_.table.seats[seat].SeatName));
   const QString chosen = FromCore(filter_.Player);
   if (!chosen.isEmpty() && !names.contains(chosen)) names.append(chosen);

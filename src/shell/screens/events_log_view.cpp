@@ -48,6 +48,7 @@ std::string EventsLogView::Open(const std::string& path, const std::string& refe
 }
 
 void EventsLogView::Close() {
+  if (index_.Path.empty()) return;
   CloseLogIndex(index_);
   index_.Path.clear();
   place_ = {};
@@ -56,8 +57,9 @@ void EventsLogView::Close() {
 }
 
 bool EventsLogView::Look() {
+  const std::int64_t size = index_.Size;
   if (!LookAgain(index_)) return false;
-  SetRows(LogRows(index_));
+  if (index_.Size != size) SetRows(LogRows(index_));
   return true;
 }
 

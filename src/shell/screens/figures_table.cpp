@@ -8,6 +8,7 @@
 
 #include "base/money.h"
 #include "shell/screens/screen_parts.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/table_state.h"
 
@@ -46,7 +47,7 @@ class FiguresModel : public QAbstractTableModel {
     const FigureCell& cell = row.cells[static_cast<std::size_t>(index.column())];
     switch (role) {
       case Qt::DisplayRole:
-        return cell.text;
+        return index.column() == 0 ? cell.text : FigureInHabit(cell.text);
       case Qt::TextAlignmentRole:
         return static_cast<int>(AlignmentOf(index.column()));
       case kValueRole:
@@ -220,17 +221,17 @@ PlayerChoice::PlayerChoice(const char* name, QWidget* parent) : QComboBox(parent
 
 void PlayerChoice::Refresh(const TableState& table) {
   QStringList names;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     names += IsOccupied(table, seat) ? FromCore(table.seats[seat].SeatName) : QString();
   if (names == names_) return;
-  const int before = Seat();
+  const SeatId before = Seat();
   const QSignalBlocker quiet(this);
   names_ = names;
   clear();
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(table, seat)) addItem(names[seat - 1], seat);
-  const int at = findData(before);
-  setCurrentIndex(at >= 0 ? at : std::max(0, findData(table.SelectedSeat)));
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
+    if (IsOccupied(table, seat)) addItem(names[seat - 1], seat.value);
+  const int at = findData(before.value);
+  setCurrentIndex(at >= 0 ? at : std::max(0, findData(table.SelectedSeat.value)));
   setEnabled(count() > 0);
 }
 

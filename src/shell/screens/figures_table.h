@@ -77,7 +77,7 @@ class PlayerChoice : public QComboBox {
   // A player who has left gives way to the one that is selected at the table.
   void Refresh(const TableState& table);
   // 0 if there are none.
-  int Seat() const { return currentIndex() < 0 ? 0 : currentData().toInt(); }
+  SeatId Seat() const { return currentIndex() < 0 ? 0 : currentData().toInt(); }
 
  private:
   QStringList names_;

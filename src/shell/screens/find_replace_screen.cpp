@@ -6,6 +6,7 @@
 #include <QPushButton>
 
 #include "shell/screens/workshop_editor.h"
+#include "shell/table/number_habit.h"
 
 namespace tessaryn {
 
@@ -84,7 +85,7 @@ void FindReplaceScreen::ReplaceAll() {
     editor_.ChangeLines(lines);
     emit replaced();
   }
-  told_->setText(tr("%1 replaced").arg(count));
+  told_->setText(tr("%1 replaced", nullptr, PluralOf(count)).arg(count));
 }
 
 }  // namespace tessaryn

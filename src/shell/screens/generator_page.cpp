@@ -5,7 +5,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLocale>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
@@ -17,6 +16,7 @@
 #include "play/setting_table.h"
 #include "rules/seed_rng.h"
 #include "shell/screens/dice_boxes.h"
+#include "shell/table/number_habit.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -112,7 +112,7 @@ void GeneratorPage::Refresh() {
   about_->setText(tr(kAbout[generators.GeneratorIndex]));
   seeding_->button(generators.RngUserSeed ? 1 : 0)->setChecked(true);
   reseed_->setChecked(generators.RngReseedNewSessions);
-  lastSeed_->setText(QLocale().toString(generators.RngLastSeed));
+  lastSeed_->setText(ShownCount(generators.RngLastSeed));
 }
 
 void GeneratorPage::showEvent(QShowEvent* event) {

@@ -6,6 +6,7 @@
 
 #include "base/messages.h"
 #include "play/players.h"
+#include "shell/table/languages.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -14,22 +15,24 @@ namespace tessaryn {
 namespace {
 constexpr int kTextWidth = 340;
 constexpr auto kNobodyYet = "...";  // in place of a name that isn't typed yet
+
+QString Told(Msg id) { return FromCore(MessageTextIn(LanguageSpoken(), id)); }
 }  // namespace
 
-JoinScreen::JoinScreen(Game& game, int seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
+JoinScreen::JoinScreen(Game& game, SeatId seat, QWidget* parent) : QDialog(parent), game_(game), seat_(seat) {
   setObjectName("frmJoin");
-  setWindowTitle(FromCore(MessageText<Msg::kTitleAddNewPlayer>()));
+  setWindowTitle(Told(Msg::kTitleAddNewPlayer));
   setWindowFlag(Qt::WindowContextHelpButtonHint, false);
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(16, 16, 16, 16);
   column->setSpacing(8);
-  AddText("lblAdd", FromCore(MessageText<Msg::kAskAddPlayer>()));
+  AddText("lblAdd", Told(Msg::kAskAddPlayer));
   problem_ = AddText("lblProblem", {});
   QFont bold = problem_->font();
   bold.setBold(true);
   problem_->setFont(bold);
   problem_->hide();
-  const QString question = FromCore(MessageText<Msg::kNewPlayersName>());
+  const QString question = Told(Msg::kNewPlayersName);
   AddText("lblName", question);
   name_ = new QLineEdit(this);
   name_->setObjectName("txtName");
@@ -74,10 +77,10 @@ QLabel* JoinScreen::AddText(const char* name, const QString& text) {
 
 // Nobody can join without a name.
 void JoinScreen::ShowQuestion() {
-  const std::string name = ToCore(name_->text().trimmed());
-  join_->setEnabled(!name.empty());
-  const QString question = FromCore(MessageText<Msg::kAskBuyIn>(
-      With<"problem">(std::string()), With<"player">(name.empty() ? kNobodyYet : name)));
+  const QString name = name_->text().trimmed();
+  join_->setEnabled(!name.isEmpty());
+  const QString question =
+      tr("How much would %1 like to buy-in for?").arg(name.isEmpty() ? QString(kNobodyYet) : name);
   buyIn_->setText(question);
   bankroll_->setAccessibleName(question);
 }
@@ -94,7 +97,7 @@ void JoinScreen::Join() {
   wrong->selectAll();
 }
 
-bool AskJoin(Game& game, int seat, QWidget* parent) {
+bool AskJoin(Game& game, SeatId seat, QWidget* parent) {
   if (seat < 1 || seat > kSeats || IsOccupied(game.table, seat)) return false;
   JoinScreen screen(game, seat, parent);
   return RunDialog(screen) == QDialog::Accepted;

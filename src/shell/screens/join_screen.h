@@ -17,7 +17,7 @@ class MoneyEdit;
 class JoinScreen : public QDialog {
   Q_OBJECT
  public:
-  JoinScreen(Game& game, int seat, QWidget* parent);
+  JoinScreen(Game& game, SeatId seat, QWidget* parent);
 
  private:
   QLabel* AddText(const char* name, const QString& text);
@@ -25,7 +25,7 @@ class JoinScreen : public QDialog {
   void Join();
 
   Game& game_;
-  int seat_;
+  SeatId seat_;
   QLabel* buyIn_ = nullptr;    // asks the player by name
   QLabel* problem_ = nullptr;  // why not
   QLineEdit* name_ = nullptr;
@@ -34,6 +34,6 @@ class JoinScreen : public QDialog {
 };
 
 // Shows the box over the window. False when nobody joined.
-bool AskJoin(Game& game, int seat, QWidget* parent);
+bool AskJoin(Game& game, SeatId seat, QWidget* parent);
 
 }  // namespace tessaryn

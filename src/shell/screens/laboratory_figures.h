@@ -2,12 +2,16 @@
 // the sessions.
 #pragma once
 
+#include <QColor>
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <utility>
 #include <vector>
 
 #include "lab/lab_state.h"
+#include "lab/ranking.h"
+#include "lab/search.h"
 
 namespace tessaryn {
 
@@ -34,7 +38,14 @@ struct SystemFigures {
   double drawdown = 0;  // mean
   std::vector<std::int64_t> bars;
   double fan[kFanMarks][kFanLines] = {};
-  QString note;  // what went otherwise than asked for; mostly empty
+  std::vector<std::pair<double, double>> ruin;  // rolls, and the share that was ruined by then
+  QString note;                                 // what went otherwise than asked for; mostly empty
+};
+
+struct LabPair {
+  std::size_t a = 0;
+  std::size_t b = 0;      // behind a
+  MeanFigure difference;  // a less b
 };
 
 struct LabFigures {
@@ -44,20 +55,28 @@ struct LabFigures {
   Currency lossLimit;
   std::int64_t mostRolls = 0;
   std::int64_t mostHands = 0;
+  Currency mostHours;
   std::int64_t sessions = 0;
   std::int64_t target = 0;
   bool finished = false;
   // All bars are of one width, and 0 is an edge.
   double firstBar = 0;
   double barWidth = 1;
+  double longest = 0;  // rolls of a session
   std::vector<SystemFigures> systems;
-  std::vector<MeanFigure> pairs;  // a less b, in the order of ForEachPair
+  std::vector<LabPair> pairs;  // all; of many systems those with the best by its mean, and what is compared
+  std::size_t best = 0;
 };
 
-LabFigures FigureLab(LabState& state);
+// Of many systems pictures' figures are those of a and b alone.
+LabFigures FigureLab(LabState& state, std::size_t a = 0, std::size_t b = 1);
 
-// a less b, whichever comes first.
+// a less b, whichever comes first; nothing for a pair that isn't there.
 MeanFigure DifferenceOf(const LabFigures& figures, std::size_t a, std::size_t b);
+bool HasPair(const LabFigures& figures, std::size_t a, std::size_t b);
+// What a system is ranked by: dollars, or a share.
+double RankValue(const SystemFigures& system, RankBy by);
+bool IsShare(RankBy by);
 
 // --- In words.
 
@@ -70,9 +89,10 @@ QString LabBounds(std::int64_t count, std::int64_t of);  // "39.7 to 42.4"
 // One sentence: which does better, with its bounds; b the same as a: how a does. Without markup.
 struct LabVerdict {
   QString sentence;
-  QString below;  // on what it stands, and what more sessions would bring
+  QString coloured;  // the same as HTML, with the colours of A and B
+  QString below;     // on what it stands, and what more sessions would bring
 };
-LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b);
+LabVerdict JudgeLab(const LabFigures& figures, std::size_t a, std::size_t b, bool dark = false);
 
 // How sessions end, as the experiment has such ends.
 struct LabEnd {
@@ -84,5 +104,17 @@ QList<LabEnd> EndsOf(const LabFigures& figures);
 // A line each for a and b, a heading first; all systems with a line each.
 QList<QStringList> MeasureRows(const LabFigures& figures, std::size_t a, std::size_t b);
 QList<QStringList> SystemRows(const LabFigures& figures);
+// The best first, its place before its name.
+QList<QStringList> RankedRows(const LabFigures& figures, RankBy by);
+QList<QStringList> PairRows(const LabFigures& figures);
+QString RankCaption(RankBy by);
+QString RankText(double value, RankBy by);
+// What a search has found, a line for each system.
+QList<QStringList> FoundRows(const Experiment& experiment, const LabQuestion& question,
+                             const std::vector<LabAnswer>& answers);
+QString FoundSentence(const Experiment& experiment, const LabQuestion& question,
+                      const std::vector<LabAnswer>& answers);
+
+QColor LabColour(bool second, bool dark);
 
 }  // namespace tessaryn

@@ -5,6 +5,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "lab/html_parts.h"
+#include "shell/screens/laboratory_sweep.h"
+#include "shell/table/number_habit.h"
+#include "shell/table/screen_tools.h"
+
 namespace tessaryn {
 namespace {
 
@@ -270,6 +275,53 @@ void PaintWay(Canvas& canvas) {
        canvas.colours.second);
 }
 
+// --- Ruin on the way.
+
+void PaintRuinLine(Canvas& canvas, const SystemFigures& system, const Scale& across, const Scale& up,
+                   bool second) {
+  QPolygonF line = {QPointF(across.from, up.from)};
+  double share = 0;
+  for (const auto& [roll, ruined] : system.ruin) {
+    line << QPointF(across.At(roll), up.At(share)) << QPointF(across.At(roll), up.At(ruined));
+    share = ruined;
+  }
+  line << QPointF(across.to, up.At(share));
+  canvas.painter.setPen(
+      QPen(LabColour(second, canvas.look.dark), 2.5, second ? Qt::DashLine : Qt::SolidLine));
+  canvas.painter.drawPolyline(line);
+}
+
+void PaintRuin(Canvas& canvas) {
+  const QRectF plot = canvas.area.adjusted(kAxisRoom, 2 * kLine + 22, -kMargin, -(kMargin + 2 * kLine));
+  const double most = std::max(canvas.A().ruin.empty() ? 0 : canvas.A().ruin.back().second,
+                               canvas.B().ruin.empty() ? 0 : canvas.B().ruin.back().second);
+  if (most == 0)
+    return Text(canvas, canvas.area, Qt::AlignHCenter,
+                Words(QT_TRANSLATE_NOOP("Laboratory", "No session was ruined.")), canvas.colours.second);
+  const Scale across{0, canvas.figures.longest, plot.left(), plot.right()};
+  const Scale up{0, most, plot.bottom(), plot.top()};
+  Text(canvas, QRectF(canvas.area.left() + kMargin, plot.top() - kLine - 9, plot.width(), kLine),
+       Qt::AlignLeft, Words(QT_TRANSLATE_NOOP("Laboratory", "Ruined by then, share of sessions")),
+       canvas.colours.second);
+  const double step = NiceStep(most, std::max(2, static_cast<int>(plot.height() / 36)));
+  for (double value = 0; value <= most; value += step) {
+    canvas.painter.setPen(canvas.colours.grid);
+    canvas.painter.drawLine(QPointF(plot.left(), up.At(value)), QPointF(plot.right(), up.At(value)));
+    Text(canvas, QRectF(plot.left() - kAxisRoom, up.At(value) - kLine / 2, kAxisRoom - 6, kLine),
+         Qt::AlignRight, FromCore(ShownNumber(value, step, Shown::kShare)), canvas.colours.second);
+  }
+  const double rolls = StepFor(across.high, plot.width() / 80);
+  for (double value = 0; value <= across.high; value += rolls)
+    Text(canvas, QRectF(across.At(value) - 40, plot.bottom() + 2, 80, kLine), Qt::AlignHCenter,
+         LabCount(std::llround(value)), canvas.colours.second);
+  PaintRuinLine(canvas, canvas.A(), across, up, false);
+  if (canvas.Two()) PaintRuinLine(canvas, canvas.B(), across, up, true);
+  Text(canvas, QRectF(plot.left(), plot.bottom() + kLine + 2, plot.width(), kLine), Qt::AlignLeft,
+       canvas.Two() ? Words(QT_TRANSLATE_NOOP("Laboratory", "Rolls.  Line: A.  Dashed: B."))
+                    : Words(QT_TRANSLATE_NOOP("Laboratory", "Rolls.")),
+       canvas.colours.second);
+}
+
 // --- How sessions end.
 
 void PaintShare(Canvas& canvas, const QRectF& row, const SystemFigures& system, std::int64_t count,
@@ -319,14 +371,11 @@ void PaintEnds(Canvas& canvas) {
 
 const char* const kHeadings[] = {QT_TRANSLATE_NOOP("Laboratory", "Result of a session, $"),
                                  QT_TRANSLATE_NOOP("Laboratory", "Bankrolls on the way"),
-                                 QT_TRANSLATE_NOOP("Laboratory", "How sessions end, with 95% bounds")};
+                                 QT_TRANSLATE_NOOP("Laboratory", "How sessions end, with 95% bounds"),
+                                 QT_TRANSLATE_NOOP("Laboratory", "Ruin over time"),
+                                 QT_TRANSLATE_NOOP("Laboratory", "Sweep")};
 
 }  // namespace
-
-QColor LabColour(bool second, bool dark) {
-  if (second) return dark ? QColor("#F2A35E") : QColor("#B4530F");
-  return dark ? QColor("#3CC98A") : QColor("#0B6B45");
-}
 
 void PaintLab(QPainter& painter, const QRectF& area, const LabFigures& figures, const LabLook& look) {
   painter.save();
@@ -339,6 +388,11 @@ void PaintLab(QPainter& painter, const QRectF& area, const LabFigures& figures, 
   if (figures.sessions == 0) {
     Text(canvas, area.adjusted(kMargin, 0, -kMargin, 0), Qt::AlignHCenter,
          Words(QT_TRANSLATE_NOOP("Laboratory", "Nothing has been played yet.")), canvas.colours.second);
+    painter.restore();
+    return;
+  }
+  if (look.picture == LabPicture::kSweep) {
+    PaintSweep(painter, area, figures, look);
     painter.restore();
     return;
   }
@@ -356,10 +410,18 @@ void PaintLab(QPainter& painter, const QRectF& area, const LabFigures& figures, 
   if (look.picture == LabPicture::kResults) PaintResults(canvas);
   if (look.picture == LabPicture::kWay) PaintWay(canvas);
   if (look.picture == LabPicture::kEnds) PaintEnds(canvas);
+  if (look.picture == LabPicture::kRuin) PaintRuin(canvas);
   painter.restore();
 }
 
+int LabSystemAt(const QPointF& place, const QRectF& area, const LabFigures& figures, const LabLook& look) {
+  if (look.picture != LabPicture::kSweep || figures.sessions == 0) return -1;
+  return SweepSystemAt(place, area, figures, look);
+}
+
 QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& figures, const LabLook& look) {
+  if (const int system = LabSystemAt(place, area, figures, look); system >= 0)
+    return SweepText(figures, static_cast<std::size_t>(system));
   if (look.picture != LabPicture::kResults || figures.sessions == 0) return {};
   const ResultsPlan plan = PlanResults(area, figures, look);
   if (!plan.plot.contains(place)) return {};
@@ -369,7 +431,7 @@ QString LabTextAt(const QPointF& place, const QRectF& area, const LabFigures& fi
   const double low = figures.firstBar + static_cast<double>(bar) * figures.barWidth;
   const auto count = [&](std::size_t system) {
     const SystemFigures& shown = figures.systems[system];
-    return Words(QT_TRANSLATE_NOOP("Laboratory", "%1 sessions (%2)"))
+    return QCoreApplication::translate("Laboratory", "%1 sessions (%2)", nullptr, PluralOf(shown.bars[bar]))
         .arg(LabCount(shown.bars[bar]), LabShare(shown.bars[bar], shown.sessions));
   };
   QString text = Words(QT_TRANSLATE_NOOP("Laboratory", "%1 to %2: A %3"))
@@ -387,11 +449,12 @@ LabPictureView::LabPictureView(LabPicture picture, const char* name, QWidget* pa
   setMouseTracking(true);
 }
 
-void LabPictureView::Show(const LabFigures& figures, std::size_t a, std::size_t b) {
-  figures_ = figures;
-  look_.a = a;
-  look_.b = b;
-  setAccessibleName(Words(kHeadings[static_cast<int>(look_.picture)]));
+void LabPictureView::Show(std::shared_ptr<const LabFigures> figures, const LabLook& look) {
+  const LabPicture picture = look_.picture;
+  figures_ = std::move(figures);
+  look_ = look;
+  look_.picture = picture;
+  setAccessibleName(Words(kHeadings[static_cast<int>(picture)]));
   update();
 }
 
@@ -403,11 +466,16 @@ LabLook LabPictureView::LookNow() const {
 
 void LabPictureView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  PaintLab(painter, rect(), figures_, LookNow());
+  PaintLab(painter, rect(), *figures_, LookNow());
 }
 
 void LabPictureView::mouseMoveEvent(QMouseEvent* event) {
-  emit Pointed(LabTextAt(event->position(), rect(), figures_, LookNow()));
+  emit Pointed(LabTextAt(event->position(), rect(), *figures_, LookNow()));
+}
+
+void LabPictureView::mousePressEvent(QMouseEvent* event) {
+  const int system = LabSystemAt(event->position(), rect(), *figures_, LookNow());
+  if (event->button() == Qt::LeftButton && system >= 0) emit Chosen(system);
 }
 
 void LabPictureView::leaveEvent(QEvent*) { emit Pointed({}); }

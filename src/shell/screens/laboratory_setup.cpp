@@ -2,6 +2,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCompleter>
+#include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -19,6 +21,7 @@
 #include "lab/systems.h"
 #include "play/start_up.h"
 #include "shell/screens/file_chooser.h"
+#include "shell/screens/laboratory_run.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -46,14 +49,16 @@ QPushButton* Button(const char* name, const QString& caption, QWidget* parent) {
 LaboratorySetup::LaboratorySetup(Game& game, QWidget* parent) : QWidget(parent), game_(game) {
   setObjectName("fraExperiment");
   auto* row = new QHBoxLayout(this);
-  row->setContentsMargins(12, 12, 12, 12);
-  row->setSpacing(16);
+  row->setContentsMargins(8, 8, 8, 8);
+  row->setSpacing(12);
+  row->addWidget(MakeSystems(), 1);
+  row->addWidget(MakeEnds(), 0, Qt::AlignTop);
   auto* column = new QVBoxLayout;
   column->setSpacing(12);
-  column->addWidget(MakeSystems(), 1);
   column->addWidget(MakeDice());
-  row->addLayout(column, 1);
-  row->addWidget(MakeEnds(), 0, Qt::AlignTop);
+  column->addWidget(MakeQuestion());
+  column->addStretch(1);
+  row->addLayout(column);
 }
 
 QWidget* LaboratorySetup::MakeSystems() {
@@ -84,15 +89,7 @@ QWidget* LaboratorySetup::MakeSystems() {
   betsRow->addWidget(bets_, 1);
   betsRow->addWidget(addBets);
   column->addLayout(betsRow);
-  auto* stakesLabel = new QLabel(tr("S&takes that CheckStacks start at, each a system of its own:"), box);
-  stakesLabel->setWordWrap(true);
-  stakes_ = new QLineEdit(box);
-  stakes_->setObjectName("txtStakes");
-  stakes_->setAccessibleName(tr("Stakes that CheckStacks start at"));
-  stakes_->setPlaceholderText(tr("as the scripts have them; or 1=5,10,25 or 1=5..50:5"));
-  stakesLabel->setBuddy(stakes_);
-  column->addWidget(stakesLabel);
-  column->addWidget(stakes_);
+  AddSweeps(*column, box);
   connect(script, &QPushButton::clicked, this, &LaboratorySetup::AddScript);
   connect(player, &QPushButton::clicked, this, &LaboratorySetup::AddPlayersScript);
   connect(addBets, &QPushButton::clicked, this, &LaboratorySetup::AddBets);
@@ -100,6 +97,61 @@ QWidget* LaboratorySetup::MakeSystems() {
   connect(remove_, &QPushButton::clicked, this, &LaboratorySetup::Remove);
   connect(list_, &QListWidget::currentRowChanged, this, [this](int at) { remove_->setEnabled(at >= 0); });
   return box;
+}
+
+namespace {
+
+// Names of settings come up as they are typed, behind each "; " anew.
+class SettingCompleter : public QCompleter {
+ public:
+  SettingCompleter(const QStringList& names, QObject* parent) : QCompleter(names, parent) {
+    setCaseSensitivity(Qt::CaseInsensitive);
+    setFilterMode(Qt::MatchContains);
+  }
+
+ protected:
+  QStringList splitPath(const QString& path) const override { return {path.section(';', -1).trimmed()}; }
+  QString pathFromIndex(const QModelIndex& index) const override {
+    const QString text = static_cast<QLineEdit*>(widget())->text();
+    const qsizetype last = text.lastIndexOf(';');
+    const QString before = last < 0 ? QString() : text.left(last + 1) + ' ';
+    return before + index.data().toString() + '=';
+  }
+};
+
+QStringList SettingNames(bool ofPlayers) {
+  QStringList names;
+  for (const SettingName& setting : AllSettings())
+    if (ofPlayers || !setting.bySeat) names << FromCore(setting.name);
+  return names;
+}
+
+QLineEdit* TypedLine(const char* name, const QString& spoken, const QString& sample, QWidget* parent) {
+  auto* line = new QLineEdit(parent);
+  line->setObjectName(name);
+  line->setAccessibleName(spoken);
+  line->setPlaceholderText(sample);
+  line->setToolTip(sample);
+  return line;
+}
+
+}  // namespace
+
+void LaboratorySetup::AddSweeps(QBoxLayout& column, QWidget* box) {
+  const auto add = [&](const QString& caption, QLineEdit* line) {
+    auto* label = new QLabel(caption, box);
+    label->setBuddy(line);
+    column.addWidget(label);
+    column.addWidget(line);
+    return line;
+  };
+  stakes_ = add(tr("CheckStacks that s&tart at each of several values:"),
+                TypedLine("txtStakes", tr("Stakes that CheckStacks start at"),
+                          tr("as the scripts have them; or 1=5,10,25; 2=5..50:5"), box));
+  varied_ = add(tr("Settings that have each of se&veral values:"),
+                TypedLine("txtVaried", tr("Settings that are varied"),
+                          tr("none; or OddsCalcMethod=1,2,3; FieldPreset=..."), box));
+  varied_->setCompleter(new SettingCompleter(SettingNames(true), varied_));
 }
 
 namespace {
@@ -152,6 +204,8 @@ QWidget* LaboratorySetup::MakeEnds() {
   bankroll_ = AddMoney(*grid, "txtBankroll", tr("&Start with $"), Experiment().bankroll);
   rolls_ = AddNumber(*grid, "txtRolls", tr("Most r&olls"), 0, kUsualRolls, tr("any"));
   hands_ = AddNumber(*grid, "txtHands", tr("Most &hands"), 0, 0, tr("any"));
+  hours_ = AddMoney(*grid, "txtHours", tr("Most hours"), kZero);
+  hours_->setToolTip(tr("Of play, by the roll rate in the table's settings"));
   winGoal_ = AddMoney(*grid, "txtWinGoal", tr("&Win goal $"), kZero);
   lossLimit_ = AddMoney(*grid, "txtLossLimit", tr("&Loss limit $"), kZero);
   end_ = new QComboBox(box);
@@ -167,18 +221,67 @@ QWidget* LaboratorySetup::MakeEnds() {
 
 QWidget* LaboratorySetup::MakeDice() {
   auto* box = new QGroupBox(tr("Table and dice"), this);
-  auto* grid = new QGridLayout(box);
+  auto* column = new QVBoxLayout(box);
+  column->setSpacing(4);
+  auto* grid = new QGridLayout;
   grid->setVerticalSpacing(4);
   grid->setHorizontalSpacing(12);
+  column->addLayout(grid);
   seed_ = new QLineEdit("1", box);
   seed_->setObjectName("txtSeed");
   seed_->setValidator(new QRegularExpressionValidator(QRegularExpression("\\d{1,15}"), seed_));
   AddRow(*grid, tr("See&d"), *seed_);
-  grid->setColumnStretch(2, 1);
+  threads_ = AddNumber(*grid, "txtThreads", tr("Cores"), 1, UsualLabThreads(), {});
+  threads_->setMaximum(1024);
+  threads_->setToolTip(tr("How many play at a time; results are the same for any number"));
   asTable_ = new QCheckBox(tr("R&ules and dice of this table"), box);
   asTable_->setObjectName("chkAsTable");
   asTable_->setChecked(true);
-  grid->addWidget(asTable_, grid->rowCount() - 1, 2, Qt::AlignRight);
+  asTable_->setToolTip(tr("Else those of a table that nobody has changed"));
+  column->addWidget(asTable_);
+  settings_ = TypedLine("txtSettings", tr("Other settings for all systems"),
+                        tr("other settings: SimRollRate=120; ..."), box);
+  settings_->setCompleter(new SettingCompleter(SettingNames(true), settings_));
+  column->addWidget(settings_);
+  keep_ = new QCheckBox(tr("Keep every session"), box);
+  keep_->setObjectName("chkKeep");
+  keep_->setChecked(true);
+  keep_->setToolTip(tr("For CSV and Sessions Logs; takes 350 bytes of disk for each"));
+  column->addWidget(keep_);
+  return box;
+}
+
+QWidget* LaboratorySetup::MakeQuestion() {
+  auto* box = new QGroupBox(tr("What is asked"), this);
+  auto* grid = new QGridLayout(box);
+  grid->setVerticalSpacing(4);
+  grid->setHorizontalSpacing(12);
+  question_ = new QComboBox(box);
+  question_->setObjectName("cmbQuestion");
+  question_->setAccessibleName(tr("What is asked"));
+  question_->addItems({tr("What sessions bring"), tr("The least bankroll"), tr("The largest stake")});
+  grid->addWidget(question_, 0, 0, 1, 2);
+  ruin_ = new QDoubleSpinBox(box);
+  ruin_->setObjectName("txtRuin");
+  ruin_->setDecimals(2);
+  ruin_->setRange(0.01, 99.99);
+  ruin_->setValue(5);
+  ruin_->setLocale(QLocale(QLocale::English));
+  ruin_->setSuffix("%");
+  AddRow(*grid, tr("Ruined at most"), *ruin_);
+  stack_ = AddNumber(*grid, "txtStack", tr("CheckStack number"), 0, 1, {});
+  stack_->setMaximum(kCheckStacks - 1);
+  ruin_->setToolTip(tr("The share of sessions that may be ruined"));
+  stack_->setToolTip(tr("Whose largest start is looked for"));
+  const auto changed = [this] {
+    ruin_->setEnabled(IsSearch());
+    stack_->setEnabled(question_->currentIndex() == 2);
+    keep_->setEnabled(!IsSearch());
+    precision_->setEnabled(!IsSearch());
+    emit Changed();
+  };
+  connect(question_, &QComboBox::currentIndexChanged, this, changed);
+  changed();
   return box;
 }
 
@@ -204,7 +307,7 @@ void LaboratorySetup::AddScript() {
 }
 
 void LaboratorySetup::AddPlayersScript() {
-  const int seat = game_.table.SelectedSeat;
+  const SeatId seat = game_.table.SelectedSeat;
   const SeatScript& script = game_.autobet.Scripts[seat];
   if (seat == 0 || script.ScriptLines.empty())
     return Tell(game_, ToCore(tr("The selected player has no script.")));
@@ -235,6 +338,12 @@ void LaboratorySetup::Remove() {
 // --- The experiment.
 
 std::int64_t LaboratorySetup::Sessions() const { return sessions_->value(); }
+bool LaboratorySetup::IsSearch() const { return question_->currentIndex() > 0; }
+LabQuestion LaboratorySetup::Question() const {
+  return {question_->currentIndex() == 2 ? stack_->value() : -1, ruin_->value() / 100};
+}
+int LaboratorySetup::Threads() const { return threads_->value(); }
+bool LaboratorySetup::KeepsSessions() const { return keep_->isChecked(); }
 
 // The rules in which the table differs from a new one, its dice, and their generator.
 void LaboratorySetup::TakeTable(Experiment& experiment) const {
@@ -253,28 +362,66 @@ void LaboratorySetup::TakeTable(Experiment& experiment) const {
   if (experiment.percentageDice) experiment.probabilities = game_.percentage.ProbMatrix;
 }
 
+namespace {
+
+// The parts between semicolons, without blanks.
+std::vector<std::string> PartsOf(const QLineEdit& line) {
+  std::vector<std::string> parts;
+  for (const QString& part : line.text().split(';', Qt::SkipEmptyParts))
+    if (!part.trimmed().isEmpty()) parts.push_back(ToCore(part.trimmed()));
+  return parts;
+}
+
+std::string Problem(const QString& where, const std::string& text, const std::string& error) {
+  return ToCore(LaboratorySetup::tr("%1 %2: %3").arg(where, FromCore(text), FromCore(error)));
+}
+
+}  // namespace
+
+std::string LaboratorySetup::ReadSweeps(Experiment& experiment) const {
+  for (const std::string& part : PartsOf(*stakes_)) {
+    const std::string text = ToCore(FromCore(part).remove(' '));
+    if (const std::string error = SweepStack(text, experiment.systems); !error.empty())
+      return Problem(tr("Stakes"), text, error);
+  }
+  for (const std::string& part : PartsOf(*varied_))
+    if (const std::string error = SweepSetting(part, experiment.systems); !error.empty())
+      return Problem(tr("Settings that are varied"), part, error);
+  for (const std::string& part : PartsOf(*settings_)) {
+    LabSetting setting;
+    if (const std::string error = ReadLabSetting(part, setting); !error.empty())
+      return Problem(tr("Other settings"), part, error);
+    experiment.settings.push_back(setting);
+  }
+  return {};
+}
+
+std::string LaboratorySetup::ReadEnds(Experiment& experiment) const {
+  experiment.rolls = rolls_->value();
+  experiment.hands = hands_->value();
+  experiment.hours = hours_->Value();
+  // Who can't be ruined and meets no goal would play for ever.
+  if (experiment.rolls == 0 && experiment.hands == 0 && experiment.hours <= kZero)
+    return ToCore(tr("Say how long a session may last: rolls, hands or hours."));
+  experiment.winGoal = winGoal_->Value();
+  experiment.lossLimit = lossLimit_->Value();
+  experiment.endWithHand = end_->currentIndex() == 1;
+  return {};
+}
+
 std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
   if (systems_.empty()) return ToCore(tr("There is nothing to play: add a script, or standing bets."));
   experiment = Experiment();
   experiment.systems = systems_;
-  const std::string stakes = ToCore(stakes_->text().remove(' '));
-  if (!stakes.empty())
-    for (const std::string& part : SplitText(stakes, ';'))
-      if (const std::string error = SweepStack(part, experiment.systems); !error.empty())
-        return ToCore(tr("Stakes %1: %2").arg(FromCore(part), FromCore(error)));
+  if (asTable_->isChecked()) TakeTable(experiment);
+  if (std::string error = ReadSweeps(experiment); !error.empty()) return error;
   experiment.sessions = sessions_->value();
   experiment.bankroll = bankroll_->Value();
   if (experiment.bankroll <= kZero || experiment.bankroll > kBankrollLimit)
-    return ToCore(tr("Start with: must be from 0.01 to %1").arg(FromCore(FormatMoney(kBankrollLimit))));
-  experiment.rolls = rolls_->value();
-  experiment.hands = hands_->value();
-  experiment.winGoal = winGoal_->Value();
-  experiment.lossLimit = lossLimit_->Value();
-  experiment.endWithHand = end_->currentIndex() == 1;
-  experiment.precision = precision_->Value();
+    return ToCore(tr("Start with: must be from 0.01 to %1").arg(MoneyText(kBankrollLimit)));
+  if (!IsSearch()) experiment.precision = precision_->Value();
   experiment.seed = seed_->text().toULongLong();
-  if (asTable_->isChecked()) TakeTable(experiment);
-  return {};
+  return ReadEnds(experiment);
 }
 
 }  // namespace tessaryn

@@ -1,4 +1,5 @@
-// The page on which an experiment is made: systems and their stakes, ends, sessions, dice.
+// The page on which an experiment is made: systems and what is varied, ends, sessions, dice, and what is
+// asked.
 #pragma once
 
 #include <QWidget>
@@ -6,9 +7,12 @@
 #include <vector>
 
 #include "lab/experiment.h"
+#include "lab/search.h"
 
+class QBoxLayout;
 class QCheckBox;
 class QComboBox;
+class QDoubleSpinBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
@@ -28,6 +32,11 @@ class LaboratorySetup : public QWidget {
   // What is asked for. Returns the error, empty for none.
   std::string ReadExperiment(Experiment& experiment) const;
   std::int64_t Sessions() const;
+  // Whether something is looked for instead; then the question.
+  bool IsSearch() const;
+  LabQuestion Question() const;
+  int Threads() const;
+  bool KeepsSessions() const;  // for CSV and Sessions Logs
 
  signals:
   void Changed();
@@ -36,6 +45,10 @@ class LaboratorySetup : public QWidget {
   QWidget* MakeSystems();
   QWidget* MakeEnds();
   QWidget* MakeDice();
+  QWidget* MakeQuestion();
+  void AddSweeps(QBoxLayout& column, QWidget* box);
+  std::string ReadSweeps(Experiment& experiment) const;
+  std::string ReadEnds(Experiment& experiment) const;
   QSpinBox* AddNumber(QGridLayout& grid, const char* name, const QString& caption, int least, int value,
                       const QString& none);
   MoneyEdit* AddMoney(QGridLayout& grid, const char* name, const QString& caption, Currency value);
@@ -52,16 +65,24 @@ class LaboratorySetup : public QWidget {
   QPushButton* remove_ = nullptr;
   QLineEdit* bets_ = nullptr;
   QLineEdit* stakes_ = nullptr;
+  QLineEdit* varied_ = nullptr;
   MoneyEdit* bankroll_ = nullptr;
   QSpinBox* sessions_ = nullptr;
   QSpinBox* rolls_ = nullptr;
   QSpinBox* hands_ = nullptr;
+  MoneyEdit* hours_ = nullptr;
   MoneyEdit* winGoal_ = nullptr;
   MoneyEdit* lossLimit_ = nullptr;
   QComboBox* end_ = nullptr;
   MoneyEdit* precision_ = nullptr;
   QLineEdit* seed_ = nullptr;
   QCheckBox* asTable_ = nullptr;
+  QLineEdit* settings_ = nullptr;
+  QSpinBox* threads_ = nullptr;
+  QCheckBox* keep_ = nullptr;
+  QComboBox* question_ = nullptr;
+  QSpinBox* stack_ = nullptr;
+  QDoubleSpinBox* ruin_ = nullptr;
 };
 
 }  // namespace tessaryn

@@ -2,11 +2,11 @@
 
 #include <QHideEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QVBoxLayout>
 
 #include "play/session_luck.h"
 #include "shell/screens/figures_table.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "stats/statistics.h"
@@ -18,19 +18,17 @@ constexpr int kSpace = 8;
 
 FigureCell Dollars(double value) { return {DollarFigure(value), value}; }
 FigureCell Plain(double value) { return {FigureText(value), value}; }
-FigureCell Count(std::int64_t count) {
-  return {QLocale().toString(static_cast<qlonglong>(count)), static_cast<double>(count)};
-}
+FigureCell Count(std::int64_t count) { return {ShownCount(count), static_cast<double>(count)}; }
 
 // What was decided in the session.
-double WageredBy(const Game& game, int seat) {
+double WageredBy(const Game& game, SeatId seat) {
   Currency sum;
-  for (int bet = 1; bet <= kBets; ++bet)
+  for (BetId bet = 1; bet <= kBets; ++bet)
     sum += BetStat(game.stats, kWagerStats, kCurrentSession, seat, bet, kStatTotal);
   return sum.IsError() ? 0 : sum.ToDouble();
 }
 
-FigureRow RowOf(const Game& game, int seat) {
+FigureRow RowOf(const Game& game, SeatId seat) {
   const SessionLuckFigures figures = SessionLuckOf(game, seat);
   const double wagered = WageredBy(game, seat);
   // What is given away in percent of what was decided, where all of it was counted.
@@ -93,8 +91,9 @@ void LuckWindow::Watch(bool wanted) {
 }
 
 void LuckWindow::Refresh() {
+  const NumbersOfFiles untilShown;
   std::vector<FigureRow> rows;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) rows.push_back(RowOf(game_, seat));
   table_->SetRows(std::move(rows));
 }

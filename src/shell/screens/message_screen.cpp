@@ -1,5 +1,6 @@
 #include "shell/screens/message_screen.h"
 
+#include <QApplication>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -9,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "base/messages.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 
@@ -23,7 +25,7 @@ struct ButtonFacts {
   int result;
 };
 
-// cmdButton 0 to 4. Help answers nothing; the caller that offers it takes it as a Cancel.
+// cmdButton 0 to 4. Help opens its page and answers nothing.
 constexpr ButtonFacts kButtons[] = {
     {kMsgOk, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&OK"), "cmdButton0", kResultOk},
     {kMsgYes, QT_TRANSLATE_NOOP("tessaryn::MessageScreen", "&Yes"), "cmdButton1", kResultYes},
@@ -124,7 +126,10 @@ void MessageScreen::AddButtons() {
     button->setObjectName(facts.name);
     button->setDefault(safe ? facts.flag == kMsgNo : first);
     const int result = facts.result;
-    connect(button, &QPushButton::clicked, this, [this, result] { PressedButton(result); });
+    if (facts.flag == kMsgHelp)
+      connect(button, &QPushButton::clicked, this, &MessageScreen::AskForHelp);
+    else
+      connect(button, &QPushButton::clicked, this, [this, result] { PressedButton(result); });
     row->addWidget(button);
     first = false;
   }
@@ -139,6 +144,12 @@ void MessageScreen::keyPressEvent(QKeyEvent* event) {
   QDialog::keyPressEvent(event);
 }
 
+// As its key does, which the window listens to.
+void MessageScreen::AskForHelp() {
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+  QApplication::sendEvent(this, &key);
+}
+
 void MessageScreen::PressedButton(int result) {
   pressed_ = result;
   accept();
@@ -151,9 +162,14 @@ void MessageScreen::Answer(MessageBox& box) const {
                     : (flags_ & kMsgNo) != 0   ? kResultNo
                                                : kResultOk;
   if (box.MsgResult != kResultOk || inputs_[0] == nullptr) return;
-  box.MsgEntry = ToCore(inputs_[0]->text());
+  const bool numbers = (flags_ & kMsgTextInput) == 0;
+  const auto entry = [&](const QLineEdit& input) {
+    const QString number = numbers ? FileNumber(input.text(), HabitSpoken()) : QString();
+    return ToCore(number.isEmpty() ? input.text() : number);
+  };
+  box.MsgEntry = entry(*inputs_[0]);
   box.MsgValue1 = ParseMoney(box.MsgEntry);
-  if (inputs_[1] != nullptr) box.MsgValue2 = ParseMoney(ToCore(inputs_[1]->text()));
+  if (inputs_[1] != nullptr) box.MsgValue2 = ParseMoney(entry(*inputs_[1]));
 }
 
 bool AnswerQueue::Take(MessageBox& box) {

@@ -28,6 +28,7 @@ class MessageScreen : public QDialog {
  private:
   void AddButtons();
   void AddInputs(const MessageBox& box);
+  void AskForHelp();
   void PressedButton(int result);
 
   Msg id_;

@@ -30,7 +30,7 @@ struct PathList {
 template <typename PathOf>
 QStringList OfPlayers(const Game& game, const PathOf& pathOf) {
   QStringList paths;
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (const std::string path = pathOf(seat); IsOccupied(game.table, seat) && !path.empty())
       paths.append(FromCore(game.table.seats[seat].SeatName + ":  " + path));
   return paths;
@@ -46,8 +46,8 @@ QString PathsInUse(const Game& game) {
   list.Add(Msg::kDiceRollFile, {FromCore(game.rollFile.RollFileName)});
   list.Add(Msg::kProbabilityFile, {FromCore(game.percentage.ProbFileName)});
   list.Add(Msg::kAutoBetFiles,
-           OfPlayers(game, [&](int seat) { return game.autobet.Scripts[seat].ScriptFileName; }));
-  list.Add(Msg::kSessionsLogFiles, OfPlayers(game, [&](int seat) { return SessionsLogPath(game, seat); }));
+           OfPlayers(game, [&](SeatId seat) { return game.autobet.Scripts[seat].ScriptFileName; }));
+  list.Add(Msg::kSessionsLogFiles, OfPlayers(game, [&](SeatId seat) { return SessionsLogPath(game, seat); }));
   return list.text.trimmed();
 }
 

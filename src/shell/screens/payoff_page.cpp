@@ -15,6 +15,7 @@
 #include "base/bet_catalogue.h"
 #include "rules/payoffs.h"
 #include "shell/screens/setting_editor.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "state/show_message.h"
@@ -47,7 +48,7 @@ constexpr BetRows kBetRows[] = {
     {kOver7, kPoint7, nullptr},
 };
 
-QString CaptionOf(const BetRows& rows, int bet) {
+QString CaptionOf(const BetRows& rows, BetId bet) {
   if (rows.caption == nullptr) return FromCore(BetName(bet));
   const QString caption = PayoffPage::tr(rows.caption);
   return rows.first == rows.last ? caption : caption.arg(FactsOf(bet).number);
@@ -63,13 +64,9 @@ constexpr const char* kMidwayCaptions[] = {"",
                                            "8     (2.6) (3.5) (5.3) (6.2)",
                                            "8     (4.4)"};
 
-QString CountCaption(const char* one, const char* several, int count, bool last) {
-  const auto translated = [](const char* text) {
-    return QCoreApplication::translate("tessaryn::PayoffPage", text);
-  };
-  if (count == 1) return translated(one);
-  if (last) return PayoffPage::tr("%1 or more").arg(translated(several).arg(count));
-  return translated(several).arg(count);
+QString CountCaption(const char* counted, int count, bool last) {
+  const QString caption = PayoffPage::tr(counted, nullptr, count).arg(count);
+  return last ? PayoffPage::tr("%1 or more").arg(caption) : caption;
 }
 
 QString CaptionOf(int table, int row) {
@@ -82,14 +79,11 @@ QString CaptionOf(int table, int row) {
     case PayoffTableId::kMidway:
       return QString::fromUtf8(kMidwayCaptions[row]);
     case PayoffTableId::kSharpShooter:
-      return CountCaption(QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "1 point made"),
-                          QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "%1 points made"), row - 1, last);
+      return CountCaption(QT_TRANSLATE_N_NOOP("tessaryn::PayoffPage", "%1 points made"), row - 1, last);
     case PayoffTableId::kRideTheLine:
-      return CountCaption(QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "1 line win"),
-                          QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "%1 line wins"), row - 1, last);
+      return CountCaption(QT_TRANSLATE_N_NOOP("tessaryn::PayoffPage", "%1 line wins"), row - 1, last);
     default:
-      return CountCaption(QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "1 different point"),
-                          QT_TRANSLATE_NOOP("tessaryn::PayoffPage", "%1 different points"), row, false);
+      return CountCaption(QT_TRANSLATE_N_NOOP("tessaryn::PayoffPage", "%1 different points"), row, false);
   }
 }
 
@@ -132,7 +126,7 @@ std::vector<ListedPayoff> Listed(int table) {
   };
   if (table == 0) {
     for (const BetRows& rows : kBetRows)
-      for (int bet = rows.first; bet <= rows.last; ++bet)
+      for (BetId bet = rows.first; bet <= rows.last; ++bet)
         if (SharesOf(bet) <= 1) add(bet, CaptionOf(rows, bet));
   } else {
     for (int row = facts.firstRow; row <= facts.lastRow; ++row) add(row, CaptionOf(table, row));
@@ -220,7 +214,7 @@ class PayoffModel : public QAbstractTableModel {
   // A number that is none, and a PayPer that is not above 0, leave the value as it was.
   bool setData(const QModelIndex& index, const QVariant& typed, int) override {
     Currency number;
-    if (!TryParseMoney(typed.toString().toStdString(), number) || number.IsError()) return false;
+    if (!ReadNumber(typed.toString(), number) || number.IsError()) return false;
     PayoffRecord record = Record(index.row());
     Currency& part = index.column() == kPayToColumn ? record.PayTo : record.PayPer;
     if (part == number || (index.column() == kPayPerColumn && number <= kZero)) return false;
@@ -246,11 +240,11 @@ class PayoffModel : public QAbstractTableModel {
       case kBetColumn:
         return Payoff(n).caption;
       case kPayToColumn:
-        return FromCore(PlainMoney(row.record.PayTo));
+        return InHabit(FromCore(PlainMoney(row.record.PayTo)));
       case kWordColumn:
         return row.record.ForFlag != kZero ? PayoffPage::tr("to") : PayoffPage::tr("for");
       case kPayPerColumn:
-        return FromCore(PlainMoney(row.record.PayPer));
+        return InHabit(FromCore(PlainMoney(row.record.PayPer)));
       default:
         if (row.waits) return PayoffPage::tr("not taken yet");
         if (PayoffText(row.record) != PayoffText(row.original))

@@ -12,7 +12,7 @@
 
 namespace tessaryn {
 
-PermissionsScreen::PermissionsScreen(Game& game, int seat, QWidget* parent) : QDialog(parent) {
+PermissionsScreen::PermissionsScreen(Game& game, SeatId seat, QWidget* parent) : QDialog(parent) {
   setObjectName("frmPermissions");
   setWindowTitle(tr("Auto-Bet Permissions"));
   auto* column = new QVBoxLayout(this);

@@ -11,7 +11,7 @@ class PermissionsScreen : public QDialog {
   Q_OBJECT
  public:
   // seat: that of a player. Every change is in force at once.
-  PermissionsScreen(Game& game, int seat, QWidget* parent);
+  PermissionsScreen(Game& game, SeatId seat, QWidget* parent);
 };
 
 }  // namespace tessaryn

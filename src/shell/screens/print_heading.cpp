@@ -22,7 +22,7 @@ QString GameFileLine(const Game& game) {
                         : FromCore(FileTitle(path)));
 }
 
-QString PlayerLine(const Game& game, int seat) {
+QString PlayerLine(const Game& game, SeatId seat) {
   return Translated(QT_TRANSLATE_NOOP("PrintHeading", "Player:  %1"))
       .arg(FromCore(game.table.seats[seat].SeatName));
 }

@@ -12,6 +12,6 @@ QStringList PrintHeading(const Game& game, const QString& what);
 // "Game file:  friday.crp", "Game file:  untitled"
 QString GameFileLine(const Game& game);
 // "Player:  Ann"
-QString PlayerLine(const Game& game, int seat);
+QString PlayerLine(const Game& game, SeatId seat);
 
 }  // namespace tessaryn

@@ -22,6 +22,7 @@
 #include "shell/screens/probability_table.h"
 #include "shell/screens/shooter_axes.h"
 #include "shell/table/languages.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -279,7 +280,10 @@ void ProbabilityPage::Change(const std::function<bool()>& change, const QString&
 }
 
 void ProbabilityPage::Enter(ProbabilityCell cell, const QString& text) {
-  Change([&] { return EnterProbability(game_.percentage, cell.row, cell.column, ToCore(text)); },
+  // A single comma is a point, unless it parts thousands.
+  const QString number = FileNumber(text, NumberHabit());
+  const std::string typed = ToCore(number.isEmpty() ? text : number);
+  Change([&] { return EnterProbability(game_.percentage, cell.row, cell.column, typed); },
          tr("Nothing is free to take up the difference: the cell keeps its value."));
 }
 
@@ -313,7 +317,7 @@ void ProbabilityPage::SetDisplay(int mode) {
 }
 
 void ProbabilityPage::SetRollsOutOf() {
-  const double rolls = outOf_->text().remove(',').toDouble();
+  const double rolls = FileNumber(outOf_->text(), NumberHabit()).toDouble();
   if (rolls > 0 && rolls <= kMostRollsOutOf) game_.percentage.ProbRollsOutOf = rolls;
   outOf_->setText(QString::number(game_.percentage.ProbRollsOutOf, 'g', 15));
   ShowDice();

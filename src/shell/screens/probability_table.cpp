@@ -10,7 +10,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 
-#include "shell/table/pictures.h"
+#include "shell/table/die_face.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -33,19 +33,8 @@ bool IsCell(ProbabilityCell cell) {
   return KindOfProbabilityCell(cell.row, cell.column) != ProbabilityCellKind::kNone;
 }
 
-QPixmap FacePicture(int face, const QColor& colour) {
-  constexpr int kSide = 16;
-  constexpr int kRatio = 2;
-  QPixmap picture(kSide * kRatio, kSide * kRatio);
-  picture.fill(Qt::transparent);
-  picture.setDevicePixelRatio(kRatio);
-  QPainter painter(&picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.translate(kSide / 2.0, kSide / 2.0);
-  painter.scale(kSide - 1, kSide - 1);
-  PaintDie(painter, face, colour, Qt::white);
-  return picture;
-}
+constexpr int kFaceSide = 16;
+constexpr double kFaceRatio = 2;
 
 // A small padlock, so that a locked cell is told without its colour.
 void PaintLock(QPainter& painter, const QStyleOptionViewItem& option) {
@@ -189,7 +178,7 @@ QVariant ProbabilityModel::headerData(int section, Qt::Orientation orientation, 
   const bool across = orientation == Qt::Horizontal;
   if (role == Qt::DisplayRole) return HeaderText(section, across);
   if (role == Qt::DecorationRole && section < kFaces)
-    return FacePicture(section + 1, across ? kDiceBlue : kDiceRed);
+    return DieFace(section + 1, across ? kDiceBlue : kDiceRed, kFaceSide, kFaceRatio);
   if (role == Qt::TextAlignmentRole) return QVariant(Qt::AlignCenter);
   if (role == Qt::AccessibleTextRole && section < kFaces)
     return (across ? Words(QT_TRANSLATE_NOOP("ProbabilityTable", "Die 2 shows %1"))

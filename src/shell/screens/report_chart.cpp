@@ -159,10 +159,14 @@ void PaintProbable(QPainter& painter, const Frame& frame, const QRectF& bar) {
   painter.drawRect(bar);
   painter.save();
   painter.setClipRect(bar);
+  // Diagonals are even as they are, and drawn many times as fast.
+  painter.setRenderHint(QPainter::Antialiasing, false);
   constexpr double kHatch = 5;
   painter.setPen(QPen(Mixed(frame.look.background, frame.ink, 0.55), 0.8));
+  QList<QLineF> lines;
   for (double x = bar.left() - bar.height(); x < bar.right(); x += kHatch)
-    painter.drawLine(QPointF(x, bar.bottom()), QPointF(x + bar.height(), bar.top()));
+    lines.append({x, bar.bottom(), x + bar.height(), bar.top()});
+  painter.drawLines(lines);
   painter.restore();
 }
 
@@ -309,6 +313,7 @@ ReportChartView::ReportChartView(const QString& what, QWidget* parent) : QWidget
 }
 
 void ReportChartView::Show(ReportChart chart, const QColor& background, const QColor& bars) {
+  if (chart == chart_ && background == background_ && bars == bars_) return;
   chart_ = std::move(chart);
   background_ = background;
   bars_ = bars;

@@ -20,6 +20,8 @@ struct ChartBar {
   double actual = 0;     // percent, or times
   double probable = -1;  // percent; below 0 none is shown
   bool marked = false;   // further off than two standard errors
+
+  friend bool operator==(const ChartBar&, const ChartBar&) = default;
 };
 
 struct ReportChart {
@@ -28,6 +30,8 @@ struct ReportChart {
   QString actual;  // the names of the series; without a second one there is no legend
   QString probable;
   std::vector<ChartBar> bars;
+
+  friend bool operator==(const ReportChart&, const ReportChart&) = default;
 };
 
 // Of a report of roll totals, and of one of roll frequencies.

@@ -19,7 +19,7 @@ constexpr int kMostItem = 89;
 BetSet KeptBets(const ReportsShown& shown) {
   if (shown.AllBets) return kAllTableBets;
   BetSet bets;
-  for (const int bet : shown.Bets)
+  for (const BetId bet : shown.Bets)
     if (IsTableBet(bet)) bets.Set(bet, true);
   return bets;
 }
@@ -79,7 +79,7 @@ void SelectBets(Game& game, const BetSet& bets) {
   ReportsShown& shown = game.screen.Reports;
   shown.AllBets = bets == kAllTableBets;
   shown.Bets.clear();
-  if (!shown.AllBets) bets.ForEach([&shown](int bet) { shown.Bets.push_back(bet); });
+  if (!shown.AllBets) bets.ForEach([&shown](BetId bet) { shown.Bets.push_back(bet); });
 }
 
 bool SpeaksEnglish(std::string_view report) { return report == "summary" || report == "roll-totals"; }
@@ -94,8 +94,7 @@ QString PlayersSelectedWords(const Game& game, const ReportSelection& selection)
   if (selected == 0) return QCoreApplication::translate("Reports", "No players selected");
   if (selected == game.table.OccupiedSeats)
     return QCoreApplication::translate("Reports", "All players selected");
-  if (selected == 1) return QCoreApplication::translate("Reports", "1 player selected");
-  return QCoreApplication::translate("Reports", "%1 players selected").arg(selected);
+  return QCoreApplication::translate("Reports", "%1 players selected", nullptr, selected).arg(selected);
 }
 
 }  // namespace tessaryn

@@ -1,5 +1,6 @@
 #include "shell/screens/report_view.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QHeaderView>
@@ -9,6 +10,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "shell/screens/report_selection.h"
 #include "shell/table/screen_tools.h"
@@ -24,6 +26,7 @@ constexpr int kMostExtra = 120;  // between a label and its figures, of the room
 constexpr int kRowGap = 4;
 constexpr int kLeastTarget = 24;  // of what is clicked
 constexpr int kEdge = 4;
+constexpr int kTextMargin = 3;  // as the style has it
 constexpr double kSignSize = 0.6;  // of the letters' height
 
 int SignWidth(const QFontMetrics& metrics) { return static_cast<int>(metrics.ascent() * kSignSize) + kEdge; }
@@ -41,34 +44,66 @@ void PaintTriangle(QPainter& painter, const QRectF& room, bool up) {
 }
 
 // Gains and losses have a triangle before the figure, what is marked an asterisk: no colour is needed to tell
-// them.
+// them. The style's way of drawing a cell takes several times as long, and a run shows hundreds of them ten
+// times a second: it draws those that the user is at.
 class CellPainter : public QStyledItemDelegate {
  public:
   using QStyledItemDelegate::QStyledItemDelegate;
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const ReportModel::Look look = static_cast<const ReportModel*>(index.model())->LookOf(index);
     QStyleOptionViewItem cell = option;
-    if (const QVariant indent = index.data(ReportModel::kIndentRole); indent.isValid())
-      cell.rect.setLeft(cell.rect.left() + indent.toInt());
-    else
-      cell.rect.setRight(cell.rect.right() - kEdge);
-    QStyledItemDelegate::paint(painter, cell, index);
-    const int sign = index.data(ReportModel::kSignRole).toInt();
-    const bool mark = index.data(ReportModel::kMarkRole).toBool();
-    if (sign == 0 && !mark) return;
-    initStyleOption(&cell, index);
+    look.label ? cell.rect.setLeft(cell.rect.left() + look.indent)
+               : cell.rect.setRight(cell.rect.right() - kEdge);
     const bool selected = (option.state & QStyle::State_Selected) != 0;
-    const QFontMetrics metrics(cell.font);
-    const QRect before(
-        cell.rect.right() - metrics.horizontalAdvance(cell.text) - 2 * kEdge - SignWidth(metrics),
-        cell.rect.top(), SignWidth(metrics) - kEdge, cell.rect.height());
+    const bool plain = !selected && (option.state & QStyle::State_HasFocus) == 0;
+    if (!plain) QStyledItemDelegate::paint(painter, cell, index);
+    const Letters& letters = LettersOf(option.font, look.bold, look.italic);
+    const int width = letters.metrics.horizontalAdvance(look.text);
+    painter->setPen(look.ink.isValid() && !selected
+                        ? look.ink
+                        : cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
+    painter->setFont(letters.font);
+    if (plain && !look.text.isEmpty()) PaintText(*painter, cell.rect, look, letters.metrics, width);
+    if (look.sign == 0 && !look.mark) return;
     painter->save();
-    painter->setPen(cell.palette.color(selected ? QPalette::HighlightedText : QPalette::Text));
-    painter->setFont(cell.font);
-    if (mark) painter->drawText(before, Qt::AlignCenter, QStringLiteral("*"));
-    if (sign != 0) PaintTriangle(*painter, before, sign > 0);
+    const QRect before(cell.rect.right() - width - 2 * kEdge - SignWidth(letters.metrics), cell.rect.top(),
+                       SignWidth(letters.metrics) - kEdge, cell.rect.height());
+    if (look.mark) painter->drawText(before, Qt::AlignCenter, QStringLiteral("*"));
+    if (look.sign != 0) PaintTriangle(*painter, before, look.sign > 0);
     painter->restore();
   }
+
+ private:
+  struct Letters {
+    QFont font;
+    QFontMetrics metrics{font};
+  };
+
+  // Where the style has it.
+  static void PaintText(QPainter& painter, const QRect& cell, const ReportModel::Look& look,
+                        const QFontMetrics& metrics, int width) {
+    const QRect room = cell.adjusted(kTextMargin, 0, -kTextMargin, 0);
+    const bool fits = width <= room.width();
+    const QString text = fits ? look.text : metrics.elidedText(look.text, Qt::ElideRight, room.width());
+    const int left = look.label || !fits ? room.left() : room.right() + 1 - width;
+    painter.drawText(left, room.top() + (room.height() - metrics.height()) / 2 + metrics.ascent(), text);
+  }
+
+  const Letters& LettersOf(const QFont& plain, bool bold, bool italic) const {
+    if (letters_.empty() || letters_[0].font != plain) {
+      letters_.clear();
+      for (int style = 0; style < 4; ++style) {
+        QFont font = plain;
+        if ((style & 1) != 0) font.setBold(true);
+        if ((style & 2) != 0) font.setItalic(true);
+        letters_.push_back({font});
+      }
+    }
+    return letters_[static_cast<std::size_t>((bold ? 1 : 0) + (italic ? 2 : 0))];
+  }
+
+  mutable std::vector<Letters> letters_;
 };
 
 // Names over a line, as on paper.
@@ -127,7 +162,7 @@ QColor ToneColour(Tone tone, const QColor& background) {
 // --- The model.
 
 void ReportModel::Show(Report report, const ReportPart& part) {
-  report_ = std::move(report);
+  const Report former = std::exchange(report_, std::move(report));
   part_ = part;
   part_.last = std::min(part_.last, report_->rows.size());
   std::vector<Strip> strips;
@@ -142,13 +177,50 @@ void ReportModel::Show(Report report, const ReportPart& part) {
     lines = std::max(lines, static_cast<int>(strips.back().size()));
   }
   SortLines(strips);
-  const bool same = lines == lines_ && columns == columns_;
+  const bool same = former != nullptr && lines == lines_ && columns == columns_;
   if (!same) beginResetModel();
-  strips_ = std::move(strips);
+  strips_.swap(strips);
   columns_ = std::move(columns);
   lines_ = lines;
-  if (!same) return endResetModel();
-  if (lines_ > 0) emit dataChanged(index(0, 0), index(lines_ - 1, columnCount() - 1));
+  same ? TellChanges(*former, strips) : endResetModel();
+}
+
+// Each by itself, so that the rest isn't drawn anew; a screen reader is told of all of them at once.
+void ReportModel::TellChanges(const ReportTable& former, const std::vector<Strip>& strips) {
+  if (QAccessible::isActive() && lines_ > 0) {
+    emit dataChanged(index(0, 0), index(lines_ - 1, columnCount() - 1));
+    return;
+  }
+  for (int column = 0; column < columnCount(); ++column) {
+    const Column& at = columns_[static_cast<std::size_t>(column)];
+    const Strip& before = strips[static_cast<std::size_t>(at.strip)];
+    const Strip& now = strips_[static_cast<std::size_t>(at.strip)];
+    for (std::size_t line = 0; line < std::max(before.size(), now.size()); ++line) {
+      const bool both = line < before.size() && line < now.size();
+      if (both && LooksAlike(former, before[line], *report_, now[line], at.cell)) continue;
+      const QModelIndex changed = index(static_cast<int>(line), column);
+      emit dataChanged(changed, changed);
+    }
+  }
+}
+
+bool ReportModel::LooksAlike(const ReportTable& a, const Line& ofA, const ReportTable& b, const Line& ofB,
+                             int cell) {
+  if (ofA.heading != ofB.heading) return false;
+  const ReportRow& left = a.rows[ofA.row];
+  const ReportRow& right = b.rows[ofB.row];
+  if (cell < 0) return left.block == right.block && left.label == right.label;
+  const ReportCell* const before = CellOf(left, cell);
+  const ReportCell* const now = CellOf(right, cell);
+  if (before == nullptr || now == nullptr) return before == now;
+  return before->text == now->text && before->tone == now->tone && before->marked == now->marked &&
+         before->balance == now->balance;
+}
+
+// Null where the row has none in that column.
+const ReportCell* ReportModel::CellOf(const ReportRow& row, int column) {
+  const auto at = static_cast<std::size_t>(column - row.column);  // far beyond them for a column before
+  return at < row.cells.size() ? &row.cells[at] : nullptr;
 }
 
 ReportModel::Strip ReportModel::LinesOf(std::size_t first, std::size_t last) const {
@@ -182,15 +254,10 @@ void ReportModel::AddColumns(std::size_t first, std::size_t last, int strip,
 
 void ReportModel::SortLines(std::vector<Strip>& strips) const {
   if (sortColumn_ < 0 || strips.size() != 1) return;
-  const auto cellOf = [this](const Line& line) -> const ReportCell* {
-    const ReportRow& row = report_->rows[line.row];
-    const auto at = static_cast<std::size_t>(sortColumn_ - 1 - row.column);
-    return sortColumn_ > 0 && at < row.cells.size() ? &row.cells[at] : nullptr;
-  };
-  const auto before = [&](const Line& a, const Line& b) {
+  const auto before = [this](const Line& a, const Line& b) {
     if (sortColumn_ == 0) return report_->rows[a.row].label < report_->rows[b.row].label;
-    const ReportCell* left = cellOf(a);
-    const ReportCell* right = cellOf(b);
+    const ReportCell* left = CellOf(report_->rows[a.row], sortColumn_ - 1);
+    const ReportCell* right = CellOf(report_->rows[b.row], sortColumn_ - 1);
     return (left == nullptr ? 0 : left->value) < (right == nullptr ? 0 : right->value);
   };
   std::stable_sort(strips[0].begin(), strips[0].end(), [&](const Line& a, const Line& b) {
@@ -206,9 +273,11 @@ void ReportModel::sort(int column, Qt::SortOrder order) {
 
 void ReportModel::SetColours(const QColor& background) { background_ = background; }
 
-void ReportModel::SetFigureFont(bool bold, bool italic) {
+bool ReportModel::SetFigureFont(bool bold, bool italic) {
+  const bool other = bold != bold_ || italic != italic_;
   bold_ = bold;
   italic_ = italic;
+  return other;
 }
 
 bool ReportModel::IsLabelColumn(int column) const {
@@ -229,11 +298,8 @@ const ReportModel::Line* ReportModel::LineAt(int line, int column) const {
 const ReportCell* ReportModel::CellAt(int line, int column) const {
   const Line* at = LineAt(line, column);
   if (at == nullptr || at->heading) return nullptr;
-  const ReportRow& row = report_->rows[at->row];
-  const int cell = columns_[static_cast<std::size_t>(column)].cell - row.column;
-  return cell >= 0 && static_cast<std::size_t>(cell) < row.cells.size()
-             ? &row.cells[static_cast<std::size_t>(cell)]
-             : nullptr;
+  const int cell = columns_[static_cast<std::size_t>(column)].cell;
+  return cell < 0 ? nullptr : CellOf(report_->rows[at->row], cell);
 }
 
 bool ReportModel::IsHeading(int line, int column) const {
@@ -246,9 +312,9 @@ QString ReportModel::LongestText(int column) const {
   const std::string* longest = nullptr;
   for (const Line& line : strips_[static_cast<std::size_t>(StripOf(column))]) {
     const ReportRow& row = report_->rows[line.row];
-    const auto at = static_cast<std::size_t>(cell - row.column);  // far beyond them for a column before
-    if (line.heading || (cell >= 0 && at >= row.cells.size())) continue;
-    const std::string& text = cell < 0 ? row.label : row.cells[at].text;
+    const ReportCell* at = cell < 0 ? nullptr : CellOf(row, cell);
+    if (line.heading || (cell >= 0 && at == nullptr)) continue;
+    const std::string& text = cell < 0 ? row.label : at->text;
     if (longest == nullptr || text.size() > longest->size()) longest = &text;
   }
   return longest == nullptr ? QString() : cell < 0 ? ReportText(*report_, *longest) : FromCore(*longest);
@@ -269,42 +335,52 @@ QVariant ReportModel::AccessibleText(const ReportCell& cell) const {
   return text;
 }
 
+ReportModel::Look ReportModel::LookOf(const QModelIndex& index) const {
+  Look look;
+  look.label = IsLabelColumn(index.column());
+  const Line* line = LineAt(index.row(), index.column());
+  if (line == nullptr) return look;
+  const ReportRow& row = report_->rows[line->row];
+  look.bold = line->heading || (!look.label && bold_);
+  look.italic = !line->heading && !look.label && italic_;
+  if (look.label) {
+    const bool inBlock = part_.headings && !line->heading && !row.block.empty();
+    look.indent = (StripOf(index.column()) > 0 ? kStripGap : 0) + (inBlock ? kBlockIndent : 0);
+    look.text = ReportText(*report_, line->heading ? row.block : row.label);
+  }
+  if (const ReportCell* cell = CellAt(index.row(), index.column()); cell != nullptr) {
+    look.text = FromCore(cell->text);
+    look.ink = ToneColour(cell->tone, background_);
+    look.sign = !cell->balance || cell->tone == Tone::kPlain ? 0 : cell->tone == Tone::kGain ? 1 : -1;
+    look.mark = cell->marked;
+  }
+  return look;
+}
+
 QVariant ReportModel::data(const QModelIndex& index, int role) const {
   if (!index.isValid()) return {};
-  const bool label = IsLabelColumn(index.column());
   if (role == Qt::TextAlignmentRole)
-    return static_cast<int>(Qt::AlignVCenter | (label ? Qt::AlignLeft : Qt::AlignRight));
-  const Line* line = LineAt(index.row(), index.column());
-  if (line == nullptr) return {};
-  if (role == Qt::FontRole && (line->heading || (!label && (bold_ || italic_)))) {
-    QFont font;
-    font.setBold(line->heading || bold_);
-    font.setItalic(!line->heading && italic_);
-    return font;
-  }
-  const ReportRow& row = report_->rows[line->row];
-  if (label && role == kIndentRole) {
-    const bool inBlock = part_.headings && !line->heading && !row.block.empty();
-    return (StripOf(index.column()) > 0 ? kStripGap : 0) + (inBlock ? kBlockIndent : 0);
-  }
-  if (label)
-    return role == Qt::DisplayRole ? QVariant(ReportText(*report_, line->heading ? row.block : row.label))
-                                   : QVariant();
+    return static_cast<int>(Qt::AlignVCenter |
+                            (IsLabelColumn(index.column()) ? Qt::AlignLeft : Qt::AlignRight));
   const ReportCell* cell = CellAt(index.row(), index.column());
-  if (cell == nullptr) return {};
+  const Look look = LookOf(index);
   switch (role) {
+    case Qt::FontRole: {
+      QFont font;
+      font.setBold(look.bold);
+      font.setItalic(look.italic);
+      return look.bold || look.italic ? font : QVariant();
+    }
     case Qt::DisplayRole:
-      return FromCore(cell->text);
+      return look.text.isNull() ? QVariant() : look.text;
     case Qt::AccessibleTextRole:
-      return AccessibleText(*cell);
+      return cell != nullptr ? AccessibleText(*cell) : QVariant();
     case Qt::ToolTipRole:
-      return cell->marked ? AccessibleText(*cell) : QVariant();
+      return look.mark ? AccessibleText(*cell) : QVariant();
     case Qt::ForegroundRole:
-      return cell->tone == Tone::kPlain ? QVariant() : ToneColour(cell->tone, background_);
+      return look.ink.isValid() ? look.ink : QVariant();
     case kSignRole:
-      return !cell->balance || cell->tone == Tone::kPlain ? 0 : cell->tone == Tone::kGain ? 1 : -1;
-    case kMarkRole:
-      return cell->marked;
+      return look.sign;
     default:
       return {};
   }
@@ -363,7 +439,9 @@ void ReportView::SetSortable(bool on) {
   if (!on) model_.sort(-1, Qt::AscendingOrder);
 }
 
-void ReportView::SetFigureFont(bool bold, bool italic) { model_.SetFigureFont(bold, italic); }
+void ReportView::SetFigureFont(bool bold, bool italic) {
+  if (model_.SetFigureFont(bold, italic)) viewport()->update();
+}
 
 void ReportView::Show(const ReportModel::Report& report, const ReportPart& part) {
   const int lines = model_.rowCount();
@@ -460,6 +538,7 @@ void ReportView::resizeEvent(QResizeEvent* event) {
 void ReportView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);
   if (event->type() == QEvent::PaletteChange) model_.SetColours(palette().color(QPalette::Base));
+  if (event->type() == QEvent::LanguageChange) viewport()->update();
   if (event->type() != QEvent::FontChange) return;
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + kRowGap);
   wanted_.clear();

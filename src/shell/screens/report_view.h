@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QColor>
 #include <QTableView>
 #include <memory>
 #include <vector>
@@ -28,14 +29,26 @@ struct ReportPart {
 class ReportModel : public QAbstractTableModel {
  public:
   using Report = std::shared_ptr<const ReportTable>;
-  // Of a balance: 1 or -1; of a marked cell: true; of a label: how far to the right it begins, in pixels.
-  enum Role { kSignRole = Qt::UserRole, kMarkRole, kIndentRole };
+  // Of a balance: 1 or -1.
+  enum Role { kSignRole = Qt::UserRole };
+  // All that a cell is drawn by.
+  struct Look {
+    QString text;
+    bool label = false;
+    int indent = 0;  // of a label, in pixels
+    QColor ink;      // invalid: the palette's
+    int sign = 0;    // of a balance
+    bool mark = false;
+    bool bold = false;
+    bool italic = false;
+  };
 
   using QAbstractTableModel::QAbstractTableModel;
 
   void Show(Report report, const ReportPart& part);
   void SetColours(const QColor& background);
-  void SetFigureFont(bool bold, bool italic);
+  // Whether it was another one.
+  bool SetFigureFont(bool bold, bool italic);
   bool IsLabelColumn(int column) const;
   int StripOf(int column) const { return columns_[static_cast<std::size_t>(column)].strip; }
   int Strips() const { return static_cast<int>(strips_.size()); }
@@ -43,6 +56,7 @@ class ReportModel : public QAbstractTableModel {
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
   QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
+  Look LookOf(const QModelIndex& index) const;
   QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
   // By the values of a column, the told order with column -1. Kept while other figures are shown.
   void sort(int column, Qt::SortOrder order) override;
@@ -69,6 +83,11 @@ class ReportModel : public QAbstractTableModel {
   Strip LinesOf(std::size_t first, std::size_t last) const;
   void AddColumns(std::size_t first, std::size_t last, int strip, std::vector<Column>& columns) const;
   void SortLines(std::vector<Strip>& strips) const;
+  // former: the report before this one, with its lines.
+  void TellChanges(const ReportTable& former, const std::vector<Strip>& strips);
+  static bool LooksAlike(const ReportTable& a, const Line& ofA, const ReportTable& b, const Line& ofB,
+                         int cell);
+  static const ReportCell* CellOf(const ReportRow& row, int column);
   const Line* LineAt(int line, int column) const;
   const ReportCell* CellAt(int line, int column) const;
   QVariant AccessibleText(const ReportCell& cell) const;

@@ -151,8 +151,9 @@ ReportWindow::ReportWindow(Game& game, int number, QWidget* parent)
 void ReportWindow::AddSelectors(QHBoxLayout& row) {
   if (kind_.ofScope) {
     hand_ = AddCombo(row, "cmbHand", Said(QT_TRANSLATE_NOOP("Reports", "Rolls that count")));
-    for (int scope = 0; scope < kScopes; ++scope) hand_->addItem(CoreWords(ScopeName(scope)), scope);
-    connect(hand_, &QComboBox::activated, this, [this](int scope) {
+    for (ScopeId scope = 0; scope < kScopes; ++scope)
+      hand_->addItem(CoreWords(ScopeName(scope)), scope.value);
+    connect(hand_, &QComboBox::activated, this, [this](ScopeId scope) {
       game_.screen.Reports.Scope = scope;
       Selected();
     });
@@ -196,18 +197,18 @@ void ReportWindow::AddPlayers(QHBoxLayout& row) {
   pick->setObjectName("cmdPlayers");
   pick->entries = [this] {
     std::vector<PickList::Entry> players;
-    for (int seat = 1; seat <= kSeats; ++seat)
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
       if (IsOccupied(game_.table, seat))
         players.emplace_back(FromCore(game_.table.seats[seat].SeatName), seat);
     return players;
   };
-  pick->isPicked = [this](int seat) { return (game_.screen.Reports.Seats >> seat & 1) != 0; };
+  pick->isPicked = [this](SeatId seat) { return (game_.screen.Reports.Seats >> seat & 1) != 0; };
   // Places where nobody stands keep what they have: who comes there counts as before.
   pick->picked = [this](const std::vector<int>& seats) {
     std::uint32_t& kept = game_.screen.Reports.Seats;
-    for (int seat = 1; seat <= kSeats; ++seat)
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
       if (IsOccupied(game_.table, seat)) kept &= ~(1u << seat);
-    for (const int seat : seats) kept |= 1u << seat;
+    for (const SeatId seat : seats) kept |= 1u << seat;
     Selected();
   };
   row.addWidget(pick);
@@ -219,13 +220,13 @@ void ReportWindow::AddBets(QHBoxLayout& row) {
   pick->setObjectName("cmdBets");
   pick->entries = [] {
     std::vector<PickList::Entry> bets;
-    for (int bet = 1; bet <= kBets; ++bet) bets.emplace_back(FromCore(BetName(bet)), bet);
+    for (BetId bet = 1; bet <= kBets; ++bet) bets.emplace_back(FromCore(BetName(bet)), bet);
     return bets;
   };
-  pick->isPicked = [this](int bet) { return SelectionShown(game_).bets.Has(bet); };
+  pick->isPicked = [this](BetId bet) { return SelectionShown(game_).bets.Has(bet); };
   pick->picked = [this](const std::vector<int>& picked) {
     BetSet bets;
-    for (const int bet : picked) bets.Add(bet);
+    for (const BetId bet : picked) bets.Add(bet);
     SelectBets(game_, bets);
     Selected();
   };
@@ -399,14 +400,14 @@ void ReportWindow::ShowSelectors(const ReportSelection& selection) {
 
 void ReportWindow::ListPlayers() {
   QList<std::pair<QString, int>> players{{Said(QT_TRANSLATE_NOOP("Reports", "Selected player")), 0}};
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     if (IsOccupied(game_.table, seat)) players.append({FromCore(game_.table.seats[seat].SeatName), seat});
   if (players != listed_) {
     listed_ = players;
     player_->clear();
     for (const auto& [name, seat] : players) player_->addItem(name, seat);
   }
-  player_->setCurrentIndex(std::max(0, player_->findData(game_.screen.Reports.Seat)));
+  player_->setCurrentIndex(std::max(0, player_->findData(game_.screen.Reports.Seat.value)));
 }
 
 QString ReportWindow::SelectedWords(const ReportSelection& selection) const {

@@ -2,11 +2,13 @@
 
 #include <QCoreApplication>
 #include <QHelpEvent>
-#include <QLocale>
 #include <QPainter>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
+
+#include "shell/table/number_habit.h"
 
 namespace tessaryn {
 
@@ -22,7 +24,7 @@ double ShareOf(const RollTotals& totals, int total) {
          static_cast<double>(totals.Rolls);
 }
 
-QString CountText(std::int64_t count) { return QLocale().toString(static_cast<qlonglong>(count)); }
+QString CountText(std::int64_t count) { return ShownCount(count); }
 
 constexpr double kHeadLine = 18;
 constexpr double kLabelLine = 14;
@@ -90,6 +92,10 @@ RollChartView::RollChartView(QWidget* parent) : QWidget(parent) {
 }
 
 void RollChartView::Show(const RollChart& chart) {
+  const auto shown = [](const RollChart& of) {
+    return std::tie(of.totals.Total, of.totals.Rolls, of.totals.Faults, of.heading, of.counting);
+  };
+  if (shown(chart) == shown(chart_)) return;
   chart_ = chart;
   setAccessibleName(
       Words(QT_TRANSLATE_NOOP("RollChart", "Distribution of the totals: %1")).arg(chart.heading));
@@ -111,13 +117,14 @@ bool RollChartView::event(QEvent* event) {
                      .arg(total)
                      .arg(CountText(totals.Total[static_cast<std::size_t>(total)]))
                      .arg(CountText(totals.Rolls))
-                     .arg(ShareOf(totals, total) * 100, 0, 'f', 3)
-                     .arg(FairShare(total) * 100, 0, 'f', 3);
+                     .arg(ShownNumber(ShareOf(totals, total) * 100, 3))
+                     .arg(ShownNumber(FairShare(total) * 100, 3));
   if (FarFromFair(totals, total) != 0)
     text = Words(QT_TRANSLATE_NOOP("RollChart", "%1, more than two standard errors away")).arg(text);
   if (totals.Faults > 0)
-    text +=
-        "\n" + Words(QT_TRANSLATE_NOOP("RollChart", "%1 values are no rolls")).arg(CountText(totals.Faults));
+    text += "\n" + QCoreApplication::translate("RollChart", "%1 values are no rolls", nullptr,
+                                               PluralOf(totals.Faults))
+                       .arg(CountText(totals.Faults));
   QToolTip::showText(help->globalPos(), text, this);
   return true;
 }

@@ -2,7 +2,6 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -10,7 +9,8 @@
 #include <algorithm>
 
 #include "dice/roll_file.h"
-#include "shell/table/pictures.h"
+#include "shell/table/die_face.h"
+#include "shell/table/number_habit.h"
 
 namespace tessaryn {
 
@@ -62,24 +62,16 @@ void RollList::Measure() {
   if (fontSize_ > 0) own.setPointSize(fontSize_);
   const QFontMetrics metrics(own);
   rowHeight_ = metrics.height() + 4;
-  numberWidth_ = metrics.horizontalAdvance(QLocale().toString(static_cast<qlonglong>(Length() + 1)));
+  numberWidth_ = metrics.horizontalAdvance(ShownCount(Length() + 1));
   numberWidth_ = std::max(numberWidth_, metrics.horizontalAdvance("99,999"));
   const int face = rowHeight_ - 4;
   columnWidth_ = kMarker + numberWidth_ + 2 * face + metrics.horizontalAdvance("12") + 4 * kPad + kColumnGap;
   const qreal ratio = devicePixelRatioF();
   if (faces_[0].size() != QSize(face, face) * ratio)
     for (int die = 0; die < 2; ++die)
-      for (int pips = 1; pips <= 6; ++pips) {
-        QPixmap picture(QSize(face, face) * ratio);
-        picture.fill(Qt::transparent);
-        picture.setDevicePixelRatio(ratio);
-        QPainter painter(&picture);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.translate(face / 2.0, face / 2.0);
-        painter.scale(face - 1, face - 1);
-        PaintDie(painter, pips, die == 0 ? kDiceRed : kDiceBlue, Qt::white);
-        faces_[static_cast<std::size_t>(die * 6 + pips - 1)] = picture;
-      }
+      for (int pips = 1; pips <= 6; ++pips)
+        faces_[static_cast<std::size_t>(die * 6 + pips - 1)] =
+            DieFace(pips, die == 0 ? kDiceRed : kDiceBlue, face, ratio);
   rows_ = std::max(1, viewport()->height() / rowHeight_);
   columns_ = std::max(1, viewport()->width() / columnWidth_);
   QScrollBar* bar = verticalScrollBar();
@@ -107,7 +99,7 @@ void RollList::SetFontSize(int points) {
   Refresh(true);
 }
 
-QRect RollList::CellOf(std::int64_t roll) const {
+QRect RollList::CellOf(RollNumber roll) const {
   const std::int64_t place = roll - Top();
   if (place < 0 || place >= std::int64_t{rows_} * columns_) return {};
   const auto column = static_cast<int>(place / rows_);
@@ -122,7 +114,7 @@ std::int64_t RollList::RollAt(QPoint point) const {
   return std::min(Top() + std::int64_t{column} * rows_ + row, Length() + 1);
 }
 
-void RollList::Show(std::int64_t roll) {
+void RollList::Show(RollNumber roll) {
   QScrollBar* bar = verticalScrollBar();
   const std::int64_t page = std::int64_t{rows_} * columns_;
   if (roll < Top()) bar->setValue(static_cast<int>(roll - 1));
@@ -145,7 +137,7 @@ void RollList::paintEvent(QPaintEvent*) {
   std::vector<unsigned char> rolls;
   if (!ReadRolls(file_, static_cast<std::int32_t>(Top()), rows_ * columns_, rolls).empty()) rolls.clear();
   for (std::size_t n = 0; n < rolls.size(); ++n) {
-    const std::int64_t roll = Top() + static_cast<std::int64_t>(n);
+    const RollNumber roll = Top() + static_cast<std::int64_t>(n);
     PaintRoll(painter, CellOf(roll), roll, rolls[n]);
   }
   const QRect end = CellOf(Length() + 1);
@@ -154,7 +146,7 @@ void RollList::paintEvent(QPaintEvent*) {
   if (!next.isEmpty()) PaintMarker(painter, next);
 }
 
-void RollList::PaintRoll(QPainter& painter, const QRect& cell, std::int64_t roll, unsigned char byte) const {
+void RollList::PaintRoll(QPainter& painter, const QRect& cell, RollNumber roll, unsigned char byte) const {
   const int die1 = RollByteDie1(byte);
   const int die2 = RollByteDie2(byte);
   const bool good = CheckRollValue(byte);
@@ -168,7 +160,7 @@ void RollList::PaintRoll(QPainter& painter, const QRect& cell, std::int64_t roll
   const QRect inside = cell.adjusted(kMarker, 0, 0, 0);
   painter.setPen(selected ? palette().color(role) : palette().color(QPalette::PlaceholderText));
   painter.drawText(QRect(inside.left(), cell.top(), numberWidth_, cell.height()),
-                   Qt::AlignRight | Qt::AlignVCenter, QLocale().toString(static_cast<qlonglong>(roll)));
+                   Qt::AlignRight | Qt::AlignVCenter, ShownCount(roll));
   const int face = rowHeight_ - 4;
   int left = inside.left() + numberWidth_ + 2 * kPad;
   painter.setPen(palette().color(role));
@@ -228,7 +220,7 @@ void RollList::PaintMarker(QPainter& painter, const QRect& cell) const {
 
 // --- Mouse and keys.
 
-void RollList::GoTo(std::int64_t roll, bool extend) {
+void RollList::GoTo(RollNumber roll, bool extend) {
   if (!IsRollFileOpen(file_)) return;
   typed_ = 0;
   roll = std::clamp<std::int64_t>(roll, 1, Length() + 1);
@@ -244,14 +236,14 @@ void RollList::GoTo(std::int64_t roll, bool extend) {
 
 void RollList::mousePressEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton) return event->ignore();
-  if (const std::int64_t roll = RollAt(event->position().toPoint()); roll > 0)
+  if (const RollNumber roll = RollAt(event->position().toPoint()); roll > 0)
     GoTo(roll, (event->modifiers() & Qt::ShiftModifier) != 0);
 }
 
 void RollList::mouseMoveEvent(QMouseEvent* event) {
   if ((event->buttons() & Qt::LeftButton) == 0) return;
   const QPoint point = event->position().toPoint();
-  std::int64_t roll = RollAt(point);
+  RollNumber roll = RollAt(point);
   if (roll <= 0) return;
   // Beyond the edge it scrolls.
   if (point.y() < 0) roll = Top() - 1;

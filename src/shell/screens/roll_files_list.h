@@ -36,7 +36,7 @@ class RollList : public QAbstractScrollArea {
   int TypedDie() const { return typed_; }
   // The roll at a point of the view, 0 where there is none; one behind the last is the file's end.
   std::int64_t RollAt(QPoint point) const;
-  QRect CellOf(std::int64_t roll) const;  // empty when it isn't shown
+  QRect CellOf(RollNumber roll) const;  // empty when it isn't shown
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override;
 
@@ -59,10 +59,10 @@ class RollList : public QAbstractScrollArea {
   void Measure();
   std::int64_t Length() const;
   std::int64_t Top() const;  // the first roll that is shown
-  void Show(std::int64_t roll);
-  void GoTo(std::int64_t roll, bool extend);
+  void Show(RollNumber roll);
+  void GoTo(RollNumber roll, bool extend);
   bool Walk(const QKeyEvent& event);
-  void PaintRoll(QPainter& painter, const QRect& cell, std::int64_t roll, unsigned char byte) const;
+  void PaintRoll(QPainter& painter, const QRect& cell, RollNumber roll, unsigned char byte) const;
   void PaintEnd(QPainter& painter, const QRect& cell) const;
   void PaintMarker(QPainter& painter, const QRect& cell) const;
   void Tell();

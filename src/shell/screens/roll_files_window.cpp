@@ -9,7 +9,6 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPushButton>
@@ -28,6 +27,7 @@
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/roll_files_chart.h"
 #include "shell/screens/roll_files_list.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
@@ -102,7 +102,7 @@ constexpr const char* kTitleEdit = kTitles[0];
 constexpr QSize kPadButton{40, 22};
 constexpr int kPadFace = 14;
 
-QString NumberText(std::int64_t number) { return QLocale().toString(static_cast<qlonglong>(number)); }
+QString NumberText(std::int64_t number) { return ShownCount(number); }
 
 // Both dice of one of the 36 buttons.
 QIcon PadIcon(int button, qreal ratio) {
@@ -409,13 +409,16 @@ void RollFilesWindow::Refresh() {
   name_->setText(open ? FromCore(FileTitle(file.RollFileName)) : tr("No file open"));
   name_->setToolTip(FromCore(file.RollFileName));
   const RollSelection selection = SelectedRolls(file);
-  QString count = open ? tr("%1 rolls").arg(NumberText(RollFileLength(file))) : QString();
+  const auto length = RollFileLength(file);
+  QString count = open ? tr("%1 rolls", nullptr, PluralOf(length)).arg(NumberText(length)) : QString();
   if (selection.Count > 1) count = tr("%1, %2 selected").arg(count, NumberText(selection.Count));
   count_->setText(count);
-  if (!next_->hasFocus()) next_->setText(open ? QString::number(file.RollFileCursor) : QString());
+  const QString next = open ? QString::number(file.RollFileCursor) : QString();
+  if (!next_->hasFocus() && next_->text() != next) next_->setText(next);
   next_->setEnabled(open);
   mode_->button(file.RollFileInsertMode ? 1 : 0)->setChecked(true);
-  if (!format_->hasFocus()) format_->setText(FromCore(file.RollFileOutputFormat));
+  const QString format = FromCore(file.RollFileOutputFormat);
+  if (!format_->hasFocus() && format_->text() != format) format_->setText(format);
   sample_->setText(
       IsRollFormatUsable(file.RollFileOutputFormat)
           ? tr("Roll 12, 3 and 4: %1").arg(FromCore(RollText(file.RollFileOutputFormat, 12, RollByte(3, 4))))
@@ -465,13 +468,16 @@ void RollFilesWindow::ShowCount(bool all) {
   RollChart chart;
   chart.totals = TotalsOf(counts_);
   chart.counting = counts_.Next <= counts_.Last;
-  const QString rolls = NumberText(counts_.Next - counts_.Begin);
+  const std::int64_t counted = counts_.Next - counts_.Begin;
+  const QString rolls = NumberText(counted);
+  const int form = PluralOf(counted);
   if (!IsRollFileOpen(game_.rollFile))
     chart.heading = tr("No file open");
   else if (chart.counting)
-    chart.heading = tr("%1 rolls counted ...").arg(rolls);
+    chart.heading = tr("%1 rolls counted ...", nullptr, form).arg(rolls);
   else
-    chart.heading = all ? tr("All %1 rolls").arg(rolls) : tr("The %1 selected rolls").arg(rolls);
+    chart.heading = all ? tr("All %1 rolls", nullptr, form).arg(rolls)
+                        : tr("The %1 selected rolls", nullptr, form).arg(rolls);
   chart.heading = tr("%1 \u00b7 % \u00b7 hatched: fair").arg(chart.heading);
   chart_->Show(chart);
 }

@@ -4,7 +4,6 @@
 #include <QContextMenuEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLocale>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +15,7 @@
 
 #include "play/auto_roll.h"
 #include "shell/screens/core_words.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/run_controls.h"
 #include "state/game.h"
@@ -265,7 +265,7 @@ void RollPad::Refresh() {
   run_->setText(RunCaption(game_).remove('&'));
   run_->setEnabled(game_.table.AutoRollActive || !game_.table.RollInProgress);
   random_->setEnabled(!game_.table.RollInProgress || game_.table.AutoRollActive);
-  counter_->setText(tr("Roll %1").arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game_.stats)))));
+  counter_->setText(tr("Roll %1").arg(ShownCount(SessionRolls(game_.stats))));
 }
 
 // A run or a script is asked to stop, and the press goes no further; so it does while a roll is under way,

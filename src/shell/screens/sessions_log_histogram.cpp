@@ -1,7 +1,6 @@
 #include "shell/screens/sessions_log_histogram.h"
 
 #include <QKeyEvent>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
@@ -9,6 +8,7 @@
 #include <cmath>
 #include <vector>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -42,7 +42,7 @@ double NiceStep(double top) {
 
 QString Short(Currency value) {
   const bool round = Abs(value) >= Currency::Dollars(100) || value.IsWhole();
-  return QLocale().toString(value.ToDouble(), 'f', round ? 0 : 2);
+  return ShownNumber(value.ToDouble(), round ? 0 : 2);
 }
 
 // The widest number beside the bars is about this wide.
@@ -74,7 +74,7 @@ void DrawSessionsAxis(const Drawing& d) {
     painter.drawLine(QPointF(d.plot.left(), d.Y(at)), QPointF(d.plot.right(), d.Y(at)));
     painter.setPen(d.colours.color(QPalette::WindowText));
     painter.drawText(QRectF(d.plot.left() - 200, d.Y(at) - d.Line() / 2, 200 - kGap, d.Line()),
-                     Qt::AlignRight | Qt::AlignVCenter, QLocale().toString(at, 'f', 0));
+                     Qt::AlignRight | Qt::AlignVCenter, ShownNumber(at, 0));
   }
   painter.save();
   painter.translate(d.plot.left() -
@@ -187,12 +187,10 @@ QString HistogramText(const SessionsStatistics& s, int column, int barColumns) {
   for (int at = 0; at < std::min(first + barColumns, kHistogramColumns); ++at) below += s.Histogram[at];
   const double share = 100.0 * static_cast<double>(below) / static_cast<double>(s.Included);
   const QString sessions =
-      bar.Sessions == 1
-          ? SessionsHistogram::tr("1 session")
-          : SessionsHistogram::tr("%1 sessions").arg(MoneyText(Currency::Dollars(bar.Sessions)));
+      SessionsHistogram::tr("%1 sessions", nullptr, PluralOf(bar.Sessions)).arg(ShownCount(bar.Sessions));
   return SessionsHistogram::tr("%1 to %2: %3, %4% at or below")
-      .arg(QString::fromStdString(SessionsNumber(bar.Low)), QString::fromStdString(SessionsNumber(bar.High)),
-           sessions, QLocale().toString(share, 'f', 1));
+      .arg(InHabit(QString::fromStdString(SessionsNumber(bar.Low))),
+           InHabit(QString::fromStdString(SessionsNumber(bar.High))), sessions, ShownNumber(share, 1));
 }
 
 void PaintSessionsHistogram(QPainter& painter, const QRectF& area, const SessionsStatistics& s,

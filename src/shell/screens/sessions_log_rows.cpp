@@ -1,10 +1,10 @@
 #include "shell/screens/sessions_log_rows.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -42,10 +42,11 @@ QStringList SessionsRows::Headings() const {
 }
 
 QStringList SessionsRows::Texts(const SessionsRow& row, bool known) {
-  return {MoneyText(Currency::Dollars(row.Number)), QString::fromStdString(SessionsNumber(row.Rolls)),
-          QString::fromStdString(SessionsNumber(row.Outcome)),
+  return {MoneyText(Currency::Dollars(row.Number)),
+          InHabit(QString::fromStdString(SessionsNumber(row.Rolls))),
+          InHabit(QString::fromStdString(SessionsNumber(row.Outcome))),
           row.Included ? QStringLiteral("\u2713") : QString(),
-          known ? QLocale().toString(row.Deviations, 'f', 3) : QStringLiteral("---")};
+          known ? ShownNumber(row.Deviations, 3) : QStringLiteral("---")};
 }
 
 void SessionsRows::PaintTexts(QPainter& painter, const QRect& line, const QStringList& texts) const {

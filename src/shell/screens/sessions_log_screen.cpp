@@ -7,7 +7,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QPushButton>
@@ -21,6 +20,7 @@
 #include "shell/screens/file_chooser.h"
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/show_message.h"
 
@@ -28,39 +28,15 @@ namespace tessaryn {
 
 namespace {
 
-const FilePurpose kOpenLog{QT_TRANSLATE_NOOP("Files", "Open Sessions Log"),
-                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
-                           ".slg",
-                           false,
-                           false,
-                           kSessionsLogFolder};
-const FilePurpose kSaveLog{QT_TRANSLATE_NOOP("Files", "Save Sessions Log As"),
-                           QT_TRANSLATE_NOOP("Files", "Sessions logs (*.slg);;All files (*)"),
-                           ".slg",
-                           true,
-                           true,
-                           kSessionsLogFolder};
-
-constexpr int kLookEvery = 40;               // milliseconds
-constexpr std::int64_t kAnnounced = 30'000;  // sessions
 constexpr int kSliderSteps = 1'000;
-constexpr int kWide = 680;         // from here on the figures stand beside the histogram
-constexpr qint64 kRestFactor = 4;  // a log that grows is left alone as many times as long as a pass took
+constexpr int kWide = 680;  // from here on the figures stand beside the histogram
 constexpr std::int64_t kUsualDeviations = 3;
 
-bool IsThere(const std::string& path) { return QFileInfo::exists(FromCore(path)); }
-
 QString Count(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
-QString Number(Currency value) { return QString::fromStdString(SessionsNumber(value)); }
-
-bool SameQuery(const SessionsQuery& a, const SessionsQuery& b) {
-  const bool limits =
-      a.Outliers == b.Outliers &&
-      (a.Outliers == OutlierRule::kNone || (a.OutlierLow == b.OutlierLow && a.OutlierHigh == b.OutlierHigh));
-  return limits && a.Measure == b.Measure && a.BreakPointLow == b.BreakPointLow &&
-         a.BreakPointHigh == b.BreakPointHigh && a.IncludeWon == b.IncludeWon &&
-         a.IncludeBrokeEven == b.IncludeBrokeEven && a.IncludeLost == b.IncludeLost;
+QString ShareOf(std::int64_t count, std::int64_t of) {
+  return FigureInHabit(QString::fromStdString(ShareText(count, of)));
 }
+QString Number(Currency value) { return InHabit(QString::fromStdString(SessionsNumber(value))); }
 
 QLabel* Figure(const QString& name, QWidget* parent) {
   auto* label = new QLabel(parent);
@@ -411,156 +387,6 @@ void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
   layout()->activate();
 }
 
-// --- Computing.
-
-void SessionsLogScreen::ChooseSeat() {
-  int& seat = game_.sessions.SessionsSeat;
-  if (IsOccupied(game_.table, seat)) return;
-  seat = IsOccupied(game_.table, game_.table.SelectedSeat) ? game_.table.SelectedSeat : 0;
-  for (int other = 1; other <= kSeats && seat == 0; ++other)
-    if (IsOccupied(game_.table, other)) seat = other;
-}
-
-void SessionsLogScreen::ListPlayers() {
-  QList<std::pair<QString, int>> players;
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (IsOccupied(game_.table, seat)) players.append({FromCore(game_.table.seats[seat].SeatName), seat});
-  bool same = player_->count() == players.size();
-  for (int i = 0; same && i < player_->count(); ++i)
-    same = player_->itemText(i) == players[i].first && player_->itemData(i).toInt() == players[i].second;
-  if (!same) {
-    player_->clear();
-    for (const auto& [name, seat] : players) player_->addItem(name, seat);
-  }
-  player_->setCurrentIndex(player_->findData(game_.sessions.SessionsSeat));
-  for (QAction* action : needSeat_) action->setEnabled(game_.sessions.SessionsSeat != 0 && !change_.IsOn());
-}
-
-// Of a log that isn't there yet: none.
-std::int64_t SessionsLogScreen::CountNow(std::string& problem) const {
-  const int seat = game_.sessions.SessionsSeat;
-  const std::string path = seat == 0 ? "" : SessionsLogPath(game_, seat);
-  if (path.empty() || !IsThere(path)) return 0;
-  SessionsLogFile file;
-  std::int64_t count = 0;
-  problem = OpenSessionsFile(file, path, SessionsAccess::kRead);
-  if (problem.empty()) problem = CountSessions(file, count);
-  return problem.empty() ? count : 0;
-}
-
-bool SessionsLogScreen::IsAsked(const Result& result) const {
-  const int seat = game_.sessions.SessionsSeat;
-  return result.path == (seat == 0 ? "" : SessionsLogPath(game_, seat)) &&
-         SameQuery(result.query, QueryOf(game_.sessions));
-}
-
-bool SessionsLogScreen::IsWanted(const Result& result) const {
-  std::string problem;
-  return IsAsked(result) && result.sessions == CountNow(problem);
-}
-
-bool SessionsLogScreen::IsUpToDate() const { return !pass_.IsOn() && !again_ && IsWanted(*result_); }
-
-// Begins the pass that is wanted, if there is one. A log that grows all the time is not read all the time.
-void SessionsLogScreen::Compute() {
-  if (stopped_ && !again_) return;
-  if (pass_.IsOn()) {
-    if (!IsAsked(*coming_)) pass_.Cancel();
-    return;
-  }
-  if (!again_ && IsWanted(*result_)) return;
-  const bool grown = !again_ && SameQuery(result_->query, QueryOf(game_.sessions)) && sinceLast_.isValid();
-  if (grown && sinceLast_.elapsed() < kRestFactor * lastPass_) {
-    look_.start(kLookEvery);
-    return;
-  }
-  again_ = false;
-  std::string problem;
-  const std::int64_t sessions = CountNow(problem);
-  Begin(sessions);
-}
-
-void SessionsLogScreen::Begin(std::int64_t sessions) {
-  const int seat = game_.sessions.SessionsSeat;
-  coming_ = std::make_shared<Result>();
-  coming_->path = seat == 0 ? "" : SessionsLogPath(game_, seat);
-  coming_->sessions = sessions;
-  coming_->query = QueryOf(game_.sessions);
-  const bool limits = coming_->query.Outliers != OutlierRule::kNone;
-  const bool byDeviations = coming_->query.Outliers == OutlierRule::kByDeviations;
-  const std::int64_t passes = 3 + (limits ? 3 : 0) + (byDeviations ? 2 : 0);
-  game_.sessions.Files.Calculating = true;
-  pass_.Start(
-      [result = coming_, limits, sessions](const LongWork::GoOn& goOn) {
-        SessionsLogFile file;
-        if (result->path.empty() || !IsThere(result->path)) return;
-        result->problem = OpenSessionsFile(file, result->path, SessionsAccess::kRead);
-        if (!result->problem.empty()) return;
-        SessionsQuery all = result->query;
-        all.Outliers = OutlierRule::kNone;
-        result->problem = ComputeSessions(file, all, result->whole, result->overflow, goOn);
-        result->statistics = result->whole;
-        if (!limits || !result->problem.empty()) return;
-        result->problem = ComputeSessions(file, result->query, result->statistics, result->overflow,
-                                          [&](std::int64_t done) { return goOn(3 * sessions + done); });
-      },
-      passes * sessions);
-  look_.start(kLookEvery);
-}
-
-void SessionsLogScreen::PassEnded() {
-  game_.sessions.Files.Calculating = false;
-  lastPass_ = pass_.Milliseconds();
-  sinceLast_.start();
-  const bool cancelled = pass_.IsCancelled();
-  if (!cancelled) {
-    result_ = coming_;
-    TellProblem();
-  }
-  coming_.reset();
-  if (isVisible()) Compute();
-  ShowAll();
-}
-
-// Once, and not over a Turbo-Roll; the strip tells it as long as it is so.
-void SessionsLogScreen::TellProblem() {
-  const std::string problem = result_->problem;
-  const bool tell = !problem.empty() && problem != told_ && !game_.table.TurboRollActive && !Interrupted();
-  told_ = problem;
-  if (!tell) return;
-  const int seat = game_.sessions.SessionsSeat;
-  if (result_->overflow)
-    ShowMessage<Msg::kSessionsNotComputed>(game_, With<"name">(game_.table.seats[seat].SeatName));
-  else
-    ShowMessage<Msg::kSessionsLogNotOpened>(game_, With<"problem">(problem));
-}
-
-// The strip's button: stops what is on, or begins what was stopped.
-void SessionsLogScreen::StopPass() {
-  if (change_.IsOn()) return change_.Cancel();
-  if (search_.IsOn()) return search_.Cancel();
-  if (pass_.IsOn()) {
-    stopped_ = true;
-    pass_.Cancel();
-    return;
-  }
-  Recompute();
-}
-
-void SessionsLogScreen::Recompute() {
-  stopped_ = false;
-  again_ = true;
-  if (pass_.IsOn()) pass_.Cancel();
-  Refresh();
-}
-
-void SessionsLogScreen::Refresh() {
-  ChooseSeat();
-  ListPlayers();
-  Compute();
-  ShowAll();
-}
-
 // --- Showing.
 
 void SessionsLogScreen::ShowWait() {
@@ -593,7 +419,7 @@ void SessionsLogScreen::ShowWait() {
 
 void SessionsLogScreen::ShowAll() {
   const SessionsLogs& screen = game_.sessions;
-  const int seat = screen.SessionsSeat;
+  const SeatId seat = screen.SessionsSeat;
   const QString file =
       seat == 0 ? tr("no player") : QFileInfo(FromCore(SessionsLogPath(game_, seat))).fileName();
   const QString title = tr("Sessions Log (%1)").arg(file);
@@ -629,7 +455,7 @@ void SessionsLogScreen::ShowStatistics() {
     statNames_[label]->setText(text);
     statNames_[label]->setToolTip(
         text.endsWith('*') ? tr("Near the middle one of the values, which is not known") : QString());
-    statValues_[label]->setText(QString::fromStdString(StatisticText(s, label)));
+    statValues_[label]->setText(FigureInHabit(QString::fromStdString(StatisticText(s, label))));
   }
   const Currency fixed[] = {s.Net, s.Handle, s.AdvantagePercent};
   for (int i = 0; i < 3; ++i) fixed_[i]->setText(s.Included == 0 ? QString() : Number(fixed[i]));
@@ -643,9 +469,9 @@ void SessionsLogScreen::ShowClasses() {
   for (int i = 0; i < 4; ++i) {
     if (i < 3) include_[i]->setChecked(included[i]);
     counts_[i]->setText(Count(counts[i]));
-    shares_[i]->setText(QString::fromStdString(ShareText(counts[i], s.Total)));
+    shares_[i]->setText(ShareOf(counts[i], s.Total));
   }
-  const QString range = QString::fromStdString(BreakPointLabel(game_.sessions));
+  const QString range = InHabit(QString::fromStdString(BreakPointLabel(game_.sessions)));
   const Currency point = game_.sessions.BreakPointLow;
   breakPoint_->setText(!range.isEmpty() ? tr("Break-point: %1").arg(range)
                        : point == kZero ? QString()
@@ -665,9 +491,11 @@ void SessionsLogScreen::ShowOutliers() {
     Currency value = byDeviations ? whole.Mean + Multiply(bounds[end], whole.StdDev) : bounds[end];
     if (!on) value = end == 0 ? whole.Low : whole.High;
     const double away = byDeviations ? bounds[end].ToDouble() : DeviationsOf(whole, value);
-    if (!values_[end]->hasFocus() || !values_[end]->isModified()) values_[end]->setText(Number(value));
-    if (!deviations_[end]->hasFocus() || !deviations_[end]->isModified())
-      deviations_[end]->setText(QLocale::c().toString(away, 'f', 2));
+    const auto show = [](QLineEdit& box, const QString& text) {
+      if ((!box.hasFocus() || !box.isModified()) && box.text() != text) box.setText(text);
+    };
+    show(*values_[end], Number(value));
+    show(*deviations_[end], ShownNumber(away, 2));
     const QSignalBlocker quiet(sliders_[end]);
     const double range = whole.Range.ToDouble();
     const double share = range <= 0 ? end : (value - whole.Low).ToDouble() / range;
@@ -682,7 +510,7 @@ void SessionsLogScreen::ShowOutliers() {
 void SessionsLogScreen::ShowPointed() {
   const int width = kBarColumns[std::clamp(game_.sessions.GraphBarWidth, 0, 3)];
   current_->setText(game_.sessions.SessionsDisplayMode == 1
-                        ? tr("%1 sessions").arg(Count(rows_->Rows()))
+                        ? tr("%1 sessions", nullptr, PluralOf(rows_->Rows())).arg(Count(rows_->Rows()))
                         : HistogramText(result_->statistics, histogram_->Pointer(), width));
 }
 
@@ -728,305 +556,13 @@ void SessionsLogScreen::TakeBounds(OutlierRule rule) {
   QLineEdit** boxes = rule == OutlierRule::kByValue ? values_ : deviations_;
   Currency bounds[2];
   bool good = true;
-  for (int end = 0; end < 2; ++end)
-    good = TryParseMoney(boxes[end]->text().toStdString(), bounds[end]) && good;
+  for (int end = 0; end < 2; ++end) good = ReadNumber(boxes[end]->text(), bounds[end]) && good;
   for (int end = 0; end < 2; ++end) boxes[end]->setModified(false);
   if (!good) return ShowOutliers();  // what is in force stands there again
   game_.sessions.Outliers = rule;
   game_.sessions.OutlierLow = std::min(bounds[0], bounds[1]);
   game_.sessions.OutlierHigh = std::max(bounds[0], bounds[1]);
   Recompute();
-}
-
-// --- Commands.
-
-void SessionsLogScreen::Tell(const QString& title, const std::string& problem) {
-  if (!problem.empty())
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(ToCore(title)), With<"problem">(problem));
-}
-
-// One whose change would keep the window from drawing is changed beside it.
-bool SessionsLogScreen::IsLarge(const std::string& path) const {
-  return QFileInfo(FromCore(path)).size() >= kAnnounced * qint64{kRecordBytes};
-}
-
-void SessionsLogScreen::Change(const QString& text, const SessionsChange& change,
-                               void (SessionsLogScreen::*tell)(const std::string&)) {
-  const std::string path = SessionsLogPath(game_, game_.sessions.SessionsSeat);
-  const qint64 bytes = QFileInfo(FromCore(path)).size() + QFileInfo(FromCore(change.Other)).size();
-  change_.Begin(
-      text, bytes / qint64{kRecordBytes},
-      [path, change](const LongWork::GoOn& goOn) { return RewriteSessionsLog(path, change, goOn); },
-      [this, tell](const std::string& problem) { (this->*tell)(problem); });
-  look_.start(kLookEvery);
-}
-
-void SessionsLogScreen::Copy(const std::string& path, bool keepName) {
-  const int seat = game_.sessions.SessionsSeat;
-  const std::string player = game_.table.seats[seat].SeatName;
-  const std::string old = keepName ? DefaultSessionsLogName(game_, player) : SessionsLogPath(game_, seat);
-  const auto copied = std::make_shared<std::int64_t>();
-  change_.Begin(
-      tr("Saving the log ..."), QFileInfo(FromCore(old)).size() / qint64{kRecordBytes},
-      [old, path, copied](const LongWork::GoOn& goOn) {
-        SessionsLogFile file;
-        const std::string problem = OpenSessionsFile(file, old, SessionsAccess::kRead);
-        return problem.empty() ? CopySessionsLog(file, path, copied.get(), goOn) : problem;
-      },
-      [this, seat, player, old, path, copied, keepName](std::string problem) {
-        // Who left the table meanwhile, or opened another log, has the copy and that is all.
-        const bool there =
-            game_.table.seats[seat].SeatName == player && (keepName || SessionsLogPath(game_, seat) == old);
-        if (problem.empty() && there) problem = UseSessionsLogCopy(game_, seat, path, *copied, keepName);
-        Tell(FileTitleOf(kSaveLog), problem);
-      });
-  look_.start(kLookEvery);
-}
-
-void SessionsLogScreen::TellNotDeleted(const std::string& problem) {
-  if (!problem.empty()) ShowMessage<Msg::kSessionsNotDeleted>(game_, With<"problem">(problem));
-}
-
-void SessionsLogScreen::TellFailed(const std::string& problem) {
-  if (!problem.empty()) ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(problem));
-}
-
-// The user wants the old log kept under another name; nothing begins anew without it.
-void SessionsLogScreen::KeepOld() {
-  const std::string path = ChooseFile(game_, this, kSaveLog);
-  const int seat = game_.sessions.SessionsSeat;
-  if (path.empty()) return;
-  if (IsLarge(DefaultSessionsLogName(game_, game_.table.seats[seat].SeatName))) return Copy(path, true);
-  Tell(FileTitleOf(kSaveLog), KeepSessionsLogAs(game_, seat, path));
-}
-
-void SessionsLogScreen::NewLog() {
-  if (NewSessionsLog(game_, game_.sessions.SessionsSeat) == NewLog::kRenameFirst) KeepOld();
-  Recompute();
-}
-
-void SessionsLogScreen::NewAllLogs() {
-  if (NewAllSessionsLogs(game_) == NewLog::kRenameFirst) KeepOld();
-  Recompute();
-}
-
-void SessionsLogScreen::OpenLog() {
-  const std::string path = ChooseFile(game_, this, kOpenLog);
-  if (!path.empty()) OpenPath(path);
-}
-
-void SessionsLogScreen::OpenPath(const std::string& path) {
-  ChooseSeat();
-  const std::string problem = OpenSessionsLog(game_, game_.sessions.SessionsSeat, path);
-  if (!problem.empty()) ShowMessage<Msg::kSessionsLogNotOpened>(game_, With<"problem">(problem));
-  Recompute();
-}
-
-void SessionsLogScreen::SaveAs() {
-  const std::string path = ChooseFile(game_, this, kSaveLog);
-  if (path.empty()) return;
-  if (IsLarge(SessionsLogPath(game_, game_.sessions.SessionsSeat))) {
-    Copy(path, false);
-    return Refresh();
-  }
-  Tell(FileTitleOf(kSaveLog), SaveSessionsLogAs(game_, game_.sessions.SessionsSeat, path));
-  Recompute();
-}
-
-void SessionsLogScreen::Merge() {
-  const std::string path = ChooseFile(game_, this, kOpenLog);
-  if (path.empty()) return;
-  if (IsLarge(path)) {
-    SessionsLogFile there;  // its log may not be there yet
-    const std::string own = SessionsLogPath(game_, game_.sessions.SessionsSeat);
-    const std::string problem = OpenSessionsFile(there, own, SessionsAccess::kCreate);
-    if (!problem.empty()) return TellFailed(problem);
-    Change(tr("Merging the logs ..."), {0, 0, path}, &SessionsLogScreen::TellFailed);
-    return Refresh();
-  }
-  TellFailed(MergeSessionsLog(game_, game_.sessions.SessionsSeat, path));
-  Recompute();
-}
-
-void SessionsLogScreen::DeleteSome() {
-  const int seat = game_.sessions.SessionsSeat;
-  if (!IsLarge(SessionsLogPath(game_, seat))) return DeleteSessions(game_, seat) ? Recompute() : void();
-  SessionsChange change;
-  if (!AskDeleteSessions(game_, change.First, change.Last)) return;
-  if (change.First < 1) return TellNotDeleted(MessageText<Msg::kSessionsOutOfRange>());
-  Change(tr("Deleting sessions ..."), change, &SessionsLogScreen::TellNotDeleted);
-  Refresh();
-}
-
-void SessionsLogScreen::DeleteAll() {
-  if (DeleteAllSessions(game_, game_.sessions.SessionsSeat)) Recompute();
-}
-
-void SessionsLogScreen::AskBreakPoint() {
-  if (SetBreakPoint(game_)) Recompute();
-}
-
-void SessionsLogScreen::Find() {
-  SessionsLogs& screen = game_.sessions;
-  game_.box.MsgValue1 = screen.FindValue;
-  const std::string measure(MeasureName(QueryOf(screen).Measure));
-  if (ShowMessage<Msg::kAskFindSession>(game_, With<"measure">(measure)) != kResultOk) return;
-  screen.FindValue = game_.box.MsgValue1;
-  // What was just typed may stand in the top line itself.
-  FindFrom(screen.SessionsTopRow - 1, 1);
-}
-
-void SessionsLogScreen::FindNext() { FindFrom(game_.sessions.SessionsTopRow, 1); }
-void SessionsLogScreen::FindPrevious() { FindFrom(game_.sessions.SessionsTopRow, -1); }
-
-void SessionsLogScreen::FindFrom(std::int64_t from, int step) {
-  const int seat = game_.sessions.SessionsSeat;
-  if (search_.IsOn() || seat == 0) return;
-  hit_ = std::make_shared<Hit>();
-  const std::int64_t ahead = step > 0 ? result_->sessions - from : from;
-  search_.Start(
-      [hit = hit_, path = SessionsLogPath(game_, seat), measure = QueryOf(game_.sessions).Measure,
-       value = game_.sessions.FindValue, from, step](const LongWork::GoOn& goOn) {
-        SessionsLogFile file;
-        if (!IsThere(path)) return;
-        hit->problem = OpenSessionsFile(file, path, SessionsAccess::kRead);
-        if (hit->problem.empty())
-          hit->problem = FindSessionValue(file, measure, value, from, step, hit->session, goOn);
-      },
-      ahead);
-  look_.start(kLookEvery);
-}
-
-void SessionsLogScreen::FindEnded() {
-  if (!search_.IsCancelled()) {
-    const std::int64_t session = hit_->session;
-    if (!hit_->problem.empty()) {
-      ShowMessage<Msg::kSessionsLogFailed>(game_, With<"problem">(hit_->problem));
-    } else if (session == 0) {
-      ShowMessage<Msg::kSessionValueNotFound>(game_);
-    } else {
-      game_.sessions.SessionsTopRow = session;
-      game_.sessions.SessionsDisplayMode = 1;
-      rows_->SetFound(session);
-    }
-  }
-  ShowAll();
-}
-
-// --- On paper and in files.
-
-namespace {
-
-struct FigureRows : RowSource {
-  qint64 Count() const override { return rows.size(); }
-  QStringList Row(qint64 n) const override { return rows[n]; }
-  QList<QStringList> rows;
-};
-
-// The sessions that take part, block by block; asked for one behind the other it reads the log once.
-struct DataRows : RowSource {
-  DataRows(const std::string& path, const SessionsStatistics& of, const QStringList& head)
-      : statistics(of), heading(head) {
-    if (!OpenSessionsFile(file, path, SessionsAccess::kRead).empty() ||
-        !CountSessions(file, sessions).empty())
-      sessions = 0;
-  }
-  qint64 Count() const override { return statistics.Included + 1; }
-  QStringList Row(qint64 n) const override {
-    if (n <= 0) return heading;
-    if (n < first) {  // back to the beginning
-      first = 1;
-      next = 1;
-      texts.clear();
-    }
-    while (n >= first + texts.size() && next <= sessions) ReadBlock();
-    return n - first < texts.size() ? texts[n - first] : QStringList{};
-  }
-  void ReadBlock() const {
-    constexpr std::int64_t kBlock = 2'048;
-    std::vector<Record> records;
-    const std::int64_t count = std::min(kBlock, sessions - next + 1);
-    first += texts.size();
-    texts.clear();
-    if (!ReadSessions(file, next, static_cast<std::size_t>(count), records).empty()) {
-      next = sessions + 1;
-      return;
-    }
-    for (const Record& record : records) {
-      const Currency value = SessionValue(record, statistics.Query.Measure);
-      const bool included = TakesPart(statistics.Query, record);
-      if (included)
-        texts.append(SessionsRows::Texts(
-            {next, SessionValue(record, kSessionRolls), value, included, DeviationsOf(statistics, value)}));
-      ++next;
-    }
-  }
-
-  SessionsStatistics statistics;
-  QStringList heading;
-  SessionsLogFile file;
-  std::int64_t sessions = 0;
-  mutable qint64 first = 1;  // the row of texts' first
-  mutable std::int64_t next = 1;
-  mutable QList<QStringList> texts;
-};
-
-}  // namespace
-
-std::unique_ptr<RowSource> SessionsLogScreen::TakeRows() const {
-  const SessionsStatistics& s = result_->statistics;
-  if (game_.sessions.SessionsDisplayMode == 1)
-    return std::make_unique<DataRows>(result_->path, s, rows_->Headings());
-  auto figures = std::make_unique<FigureRows>();
-  QList<QStringList>& rows = figures->rows;
-  rows.append({tr("Statistic"), stat_->currentText()});
-  for (int label = 0; label < kStatisticLabels; ++label)
-    rows.append({statNames_[label]->text(), statValues_[label]->text()});
-  const QString names[] = {tr("Net $"), tr("Handle $"), tr("Advantage %")};
-  for (int i = 0; i < 3; ++i) rows.append({names[i], fixed_[i]->text()});
-  const QString classes[] = {tr("Won"), tr("Broke-even"), tr("Lost"), tr("Total")};
-  for (int i = 0; i < 4; ++i)
-    rows.append({classes[i], tr("%1 (%2)").arg(counts_[i]->text(), shares_[i]->text())});
-  return figures;
-}
-
-QStringList SessionsLogScreen::PrintHeadings() const {
-  QStringList lines{tr("Tessaryn Sessions Log"), tr("Player:  %1").arg(player_->currentText()),
-                    tr("Log:  %1").arg(FromCore(result_->path)), stat_->currentText()};
-  if (breakPoint_->isVisibleTo(this)) lines.append(breakPoint_->text());
-  if (game_.sessions.Outliers != OutlierRule::kNone)
-    lines.append(tr("Values from %1 to %2").arg(values_[0]->text(), values_[1]->text()));
-  return lines;
-}
-
-bool SessionsLogScreen::HasPicture() const { return game_.sessions.SessionsDisplayMode != 1; }
-
-void SessionsLogScreen::PaintPicture(QPainter& painter, const QRectF& area) const {
-  QPalette paper(QColor(Qt::white), QColor(Qt::white));
-  for (const auto role : {QPalette::WindowText, QPalette::Text}) paper.setColor(role, QColor(0x1B1F23));
-  paper.setColor(QPalette::Base, Qt::white);
-  paper.setColor(QPalette::Mid, QColor(0x87929B));
-  HistogramLook look;
-  look.BarColumns = kBarColumns[std::clamp(game_.sessions.GraphBarWidth, 0, 3)];
-  look.Curve = curve_->isChecked();
-  PaintSessionsHistogram(painter, area, result_->statistics, look, paper);
-}
-
-QString SessionsLogScreen::PrintTitle() const {
-  return game_.sessions.SessionsDisplayMode == 1 ? tr("Print Sessions Log Raw Data")
-                                                 : tr("Print Sessions Log");
-}
-
-QStringList SessionsLogScreen::PrintFacts(int pages) const {
-  if (game_.sessions.SessionsDisplayMode != 1) return {};
-  return {tr("Number of sessions: %1").arg(Count(result_->statistics.Included)),
-          tr("Number of pages: %1").arg(Count(pages))};
-}
-
-bool SessionsLogScreen::ReadyToPrint() {
-  if (result_->statistics.Included > 0) return true;
-  Tell(PrintTitle(), MessageText<Msg::kNoSessionsToPrint>());
-  return false;
 }
 
 }  // namespace tessaryn

@@ -68,6 +68,8 @@ class SessionsLogScreen : public ToolWindow {
     std::string problem;
     bool overflow = false;
   };
+  static constexpr int kLookEvery = 40;               // milliseconds
+  static constexpr std::int64_t kAnnounced = 30'000;  // sessions
   struct Hit {
     std::int64_t session = 0;
     std::string problem;

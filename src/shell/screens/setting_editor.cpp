@@ -53,7 +53,7 @@ SettingControl* SettingEditor::ControlOf(const ConfigurationProblem& problem) {
   return nullptr;
 }
 
-void SettingEditor::SetSeat(int seat) {
+void SettingEditor::SetSeat(SeatId seat) {
   for (SettingControl& control : controls_)
     if (control.ofPlayer && seat != seat_) control.waiting.reset();
   seat_ = seat;
@@ -63,12 +63,12 @@ void SettingEditor::SetSeat(int seat) {
 std::string SettingEditor::ValueOf(const SettingControl& control) const {
   std::string value;
   std::string error;
-  GetSetting(game_, control.setting, control.ofPlayer ? seat_ : 0, value, error);
+  GetSetting(game_, control.setting, control.ofPlayer ? seat_ : kHouse, value, error);
   return value;
 }
 
 SettingChange SettingEditor::ChangeOf(const SettingControl& control, const std::string& value) const {
-  return {control.setting, control.ofPlayer ? seat_ : 0, value};
+  return {control.setting, control.ofPlayer ? seat_ : kHouse, value};
 }
 
 std::vector<SettingChange> SettingEditor::Waiting() const {

@@ -43,8 +43,8 @@ class SettingEditor : public QObject {
   const std::deque<SettingControl>& Controls() const { return controls_; }
 
   // The player whose settings are shown; 0 none.
-  int Seat() const { return seat_; }
-  void SetSeat(int seat);
+  SeatId Seat() const { return seat_; }
+  void SetSeat(SeatId seat);
 
   // The value that the table has, as SetSetting takes it.
   std::string ValueOf(const SettingControl& control) const;
@@ -83,7 +83,7 @@ class SettingEditor : public QObject {
 
   Game& game_;
   std::deque<SettingControl> controls_;
-  int seat_ = 0;
+  SeatId seat_ = 0;
 };
 
 // What a refusal is shown under.

@@ -43,7 +43,7 @@ const char* const kLoseButtons[kChoices + 1] = {
 
 // A bet that is cut into shares of which one wins.
 struct Shared {
-  int bet;
+  BetId bet;
   const char* wins;
   const char* loses;
 };
@@ -58,7 +58,7 @@ constexpr Shared kShared[] = {
 
 // The bets of a whole hand, and what was counted for them.
 struct Counted {
-  int bet;
+  BetId bet;
   const char* caption;
 };
 constexpr Counted kCounted[] = {
@@ -68,7 +68,7 @@ constexpr Counted kCounted[] = {
 };
 
 template <typename Row, std::size_t kRows>
-const Row* RowOf(const Row (&rows)[kRows], int bet) {
+const Row* RowOf(const Row (&rows)[kRows], BetId bet) {
   for (const Row& row : rows)
     if (row.bet == bet) return &row;
   return nullptr;
@@ -93,7 +93,7 @@ QString SettleTitle(const SettleQuestion& question) {
                           : SettleBetScreen::tr("LOSER");
 }
 
-QString SettleBetName(int bet) { return SettleBetScreen::tr(BetName(bet).c_str()); }
+QString SettleBetName(BetId bet) { return SettleBetScreen::tr(BetName(bet).c_str()); }
 
 QString SettleChoiceText(const SettleQuestion& question, int choice) {
   const QString caption = SettleBetScreen::tr((question.won ? kWinButtons : kLoseButtons)[choice]);
@@ -124,7 +124,7 @@ QPixmap DiceAsRolled(const TableState& table, int height, double ratio) {
 
 std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& question) {
   std::vector<SettleLine> lines;
-  const int bet = question.bet;
+  const BetId bet = question.bet;
   const Currency amount = game.table.BetAmount(question.seat, bet);
   lines.push_back({"lblBetAmount", SettleBetScreen::tr("Bet:"), DollarText(amount)});
   if (question.offOdds) return lines;

@@ -28,7 +28,7 @@ std::vector<SettleLine> SettleLines(const Game& game, const SettleQuestion& ques
 
 // What the dialog calls the outcome, the bet, and each choice 1 to 7, the caption with its access letter.
 QString SettleTitle(const SettleQuestion& question);
-QString SettleBetName(int bet);
+QString SettleBetName(BetId bet);
 QString SettleChoiceText(const SettleQuestion& question, int choice);
 // What stands when nobody chooses.
 int SafeChoice(const SettleQuestion& question);

@@ -135,7 +135,7 @@ void SettleSheet::AddList(const Game& game) {
   auto* column = new QVBoxLayout(list_);
   column->setContentsMargins(0, 0, 0, 8);
   column->setSpacing(0);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     for (std::size_t at = 0; at < decisions_.size(); ++at)
       if (decisions_[at].question.seat == seat) {
         AddPlayer(*column, static_cast<int>(at), game);
@@ -148,7 +148,7 @@ void SettleSheet::AddList(const Game& game) {
 
 // The player of a decision, with all of the player's.
 void SettleSheet::AddPlayer(QLayout& column, int first, const Game& game) {
-  const int seat = decisions_[static_cast<std::size_t>(first)].question.seat;
+  const SeatId seat = decisions_[static_cast<std::size_t>(first)].question.seat;
   Currency total;
   for (const SheetDecision& decision : decisions_)
     if (decision.question.seat == seat) total += decision.question.net;

@@ -3,12 +3,12 @@
 #include <QCheckBox>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QDoubleValidator>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QVBoxLayout>
 
 #include "dice/percentage_dice.h"
@@ -26,18 +26,18 @@ struct DiePanel {
   QCheckBox* axes[3];
 };
 
+// A comma may stand for the point; there are no groups.
+double PercentIn(const QLineEdit& edit) { return edit.text().replace(',', '.').toDouble(); }
+
 // A percentage above 100 is put back.
 QLineEdit* AddPercent(int die, QWidget* box, double percent) {
   auto* edit = new QLineEdit(QString::number(percent), box);
   edit->setObjectName(QString("txtDie%1SE").arg(die));
   edit->setAlignment(Qt::AlignRight);
   edit->setMaximumWidth(edit->fontMetrics().horizontalAdvance("100.0000") + 16);
-  auto* digits = new QDoubleValidator(0, 1e6, 3, edit);
-  digits->setLocale(QLocale::c());
-  digits->setNotation(QDoubleValidator::StandardNotation);
-  edit->setValidator(digits);
-  QObject::connect(edit, &QLineEdit::textEdited, edit, [edit](const QString& text) {
-    if (text.toDouble() > kMostPercent) edit->setText(QString::number(kMostPercent));
+  edit->setValidator(new QRegularExpressionValidator(QRegularExpression("\\d{0,7}([.,]\\d{0,3})?"), edit));
+  QObject::connect(edit, &QLineEdit::textEdited, edit, [edit] {
+    if (PercentIn(*edit) > kMostPercent) edit->setText(QString::number(kMostPercent));
   });
   return edit;
 }
@@ -89,7 +89,7 @@ bool AskShooterAxes(QWidget* parent, ShooterAxes& chosen) {
   panels[0].percent->setFocus();
   if (RunDialog(dialog) != QDialog::Accepted) return false;
   for (int die = 0; die < 2; ++die) {
-    chosen.percent[die] = panels[die].percent->text().toDouble();
+    chosen.percent[die] = PercentIn(*panels[die].percent);
     chosen.axes[die] = 0;
     for (unsigned axis = 0; axis < 3; ++axis)
       if (panels[die].axes[axis]->isChecked()) chosen.axes[die] |= 1u << axis;

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QEvent>
-#include <QLocale>
 #include <QToolTip>
 #include <algorithm>
 
@@ -10,6 +9,7 @@
 #include "autobet/language/script_text.h"
 #include "autobet/language/script_words.h"
 #include "shell/screens/script_lexer.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 
 namespace tessaryn {
@@ -307,8 +307,8 @@ void WorkshopEditor::ShowCounts(const std::vector<LineProfile>& lines) {
     if (lines[line].count == 0) continue;
     const double share =
         all > 0 ? 100 * static_cast<double>(lines[line].nanoseconds) / static_cast<double>(all) : 0;
-    const QString text = tr("%1  %2%").arg(QLocale().toString(static_cast<qlonglong>(lines[line].count)),
-                                           QLocale().toString(share, 'f', 1).rightJustified(5));
+    const QString text = tr("%1  %2%").arg(ShownCount(static_cast<qint64>(lines[line].count)),
+                                           ShownNumber(share, 1).rightJustified(5));
     setMarginText(static_cast<int>(line) - 1, text, STYLE_LINENUMBER);
     counts_[static_cast<int>(line)] = text;
     if (text.size() > widest.size()) widest = text;

@@ -85,7 +85,7 @@ void WorkshopSteps::ShowStep(const ScriptStep& step, const std::string& source, 
   if (!values.empty()) text += "\n" + tr("Values: %1").arg(FromCore(values));
   status_->setText(text);
   auto* item = new QListWidgetItem(line + QString::fromUtf8("  \u2013  ") + text.replace('\n', ' '));
-  item->setData(kSeatRole, step.seat);
+  item->setData(kSeatRole, step.seat.value);
   item->setData(kLineRole, step.line);
   list_->addItem(item);
   while (list_->count() > kKeptSteps) delete list_->takeItem(0);

@@ -32,7 +32,7 @@ class WorkshopSteps : public QWidget {
   void Stop();
 
  signals:
-  void lineChosen(int seat, int line);
+  void lineChosen(SeatId seat, int line);
   void changed();
 
  private:
@@ -44,7 +44,7 @@ class WorkshopSteps : public QWidget {
   QPushButton* goOn_;
   QPushButton* stop_;
   QListWidget* list_;
-  int seat_ = 0;
+  SeatId seat_ = 0;
 };
 
 }  // namespace tessaryn

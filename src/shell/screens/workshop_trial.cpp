@@ -5,7 +5,6 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
-#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
 #include <QProgressBar>
@@ -18,6 +17,7 @@
 #include <algorithm>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -30,7 +30,7 @@ constexpr std::uint32_t kMostSeed = 1'000'000;
 
 QString PercentText(Currency net, Currency wagered) {
   if (wagered == kZero) return {};
-  return QLocale().toString(100 * net.ToDouble() / wagered.ToDouble(), 'f', 2) + "%";
+  return ShownNumber(100 * net.ToDouble() / wagered.ToDouble(), 2) + "%";
 }
 
 }  // namespace
@@ -165,7 +165,7 @@ void WorkshopTrial::Toggle() {
     state_->stop = true;
     return;
   }
-  int seat = 0;
+  SeatId seat = 0;
   std::vector<std::string> lines;
   if (!take || !take(seat, lines)) return;
   if (seed_ == 0 || !same_->isChecked()) seed_ = 1 + QRandomGenerator::global()->bounded(kMostSeed);
@@ -197,23 +197,21 @@ void WorkshopTrial::End() {
 }
 
 void WorkshopTrial::Tell() {
-  const QLocale locale;
   net_->setVisible(now_.problem.empty());
   net_->setText((now_.net > kZero ? "+" : "") + MoneyText(now_.net));
   QStringList facts;
   if (now_.problem.empty()) {
     if (now_.wagered != kZero)
       facts << tr("%1 of %2 bet").arg(PercentText(now_.net, now_.wagered), MoneyText(now_.wagered));
-    facts << tr("%1 rolls in %2 s")
-                 .arg(locale.toString(static_cast<qlonglong>(now_.rolls)),
-                      locale.toString(now_.seconds, 'f', 2));
+    facts << tr("%1 rolls in %2 s", nullptr, PluralOf(now_.rolls))
+                 .arg(ShownCount(now_.rolls), ShownNumber(now_.seconds, 2));
     if (now_.stopped) facts << tr("stopped");
     if (!now_.stopReason.empty()) facts << FromCore(now_.stopReason);
     for (const ScriptErrorKind& error : now_.errors)
-      facts << tr("%1 (line %2, %3 times)")
+      facts << tr("%1 (line %2, %3 times)", nullptr, PluralOf(error.count))
                    .arg(FromCore(error.text))
                    .arg(error.line)
-                   .arg(locale.toString(static_cast<qlonglong>(error.count)));
+                   .arg(ShownCount(error.count));
   } else {
     facts << FromCore(now_.problem);
   }
@@ -221,18 +219,16 @@ void WorkshopTrial::Tell() {
   const bool compares = before_.rolls > 0 && now_.problem.empty();
   compared_->setVisible(compares);
   if (compares)
-    compared_->setText(
-        tr("Run before: %1, %2 rolls")
-            .arg(MoneyText(before_.net), locale.toString(static_cast<qlonglong>(before_.rolls))));
+    compared_->setText(tr("Run before: %1, %2 rolls", nullptr, PluralOf(before_.rolls))
+                           .arg(MoneyText(before_.net), ShownCount(before_.rolls)));
   curve_->setVisible(now_.bankrolls.size() > 1);
   bets_->setVisible(!now_.bets.empty());
   curve_->Show(now_.bankrolls, before_.bankrolls);
   bets_->setRowCount(static_cast<int>(now_.bets.size()));
   for (int row = 0; row < bets_->rowCount(); ++row) {
     const TrialBet& bet = now_.bets[static_cast<std::size_t>(row)];
-    const QString texts[] = {FromCore(BetName(bet.bet)), locale.toString(static_cast<qlonglong>(bet.won)),
-                             locale.toString(static_cast<qlonglong>(bet.lost)), MoneyText(bet.net),
-                             PercentText(bet.net, bet.wagered)};
+    const QString texts[] = {FromCore(BetName(bet.bet)), ShownCount(bet.won), ShownCount(bet.lost),
+                             MoneyText(bet.net), PercentText(bet.net, bet.wagered)};
     for (int column = 0; column < 5; ++column) {
       auto* item = new QTableWidgetItem(texts[column]);
       if (column > 0) item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);

@@ -39,7 +39,7 @@ class WorkshopTrial : public QWidget {
   ~WorkshopTrial() override;
 
   // The lines of which seat are tried; false refuses.
-  std::function<bool(int& seat, std::vector<std::string>& lines)> take;
+  std::function<bool(SeatId& seat, std::vector<std::string>& lines)> take;
   // Whether the lines of the next one are counted.
   bool counted = false;
   // Begins a trial, or stops the one that is on.

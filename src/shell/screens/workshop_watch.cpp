@@ -10,7 +10,9 @@
 
 #include "play/script_trial.h"
 #include "rules/check_stacks.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
+#include "shell/table/spoken_texts.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -63,7 +65,7 @@ WorkshopWatch::WorkshopWatch(Game& game, QWidget* parent) : QWidget(parent), gam
   for (const char* name : {"bankroll", "point", "cs1", "cs2"}) Add(name);
 }
 
-void WorkshopWatch::SetSeat(int seat) {
+void WorkshopWatch::SetSeat(SeatId seat) {
   if (seat_ == seat) return;
   seat_ = seat;
   LookUp();
@@ -74,7 +76,9 @@ void WorkshopWatch::Add(const QString& expression) {
   filling_ = true;
   const int row = list_->rowCount();
   list_->insertRow(row);
-  list_->setItem(row, kName, new QTableWidgetItem(expression.trimmed()));
+  auto* name = new QTableWidgetItem(expression.trimmed());
+  name->setData(kNobodysWord, true);
+  list_->setItem(row, kName, name);
   for (const Column column : {kValue, kBefore}) {
     auto* item = new QTableWidgetItem;
     item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -126,8 +130,8 @@ void WorkshopWatch::Changed(int row, int column) {
   if (filling_) return;
   const QString name = list_->item(row, kName)->text();
   Currency value;
-  if (column == kValue && StackOf(name) >= 0 &&
-      TryParseMoney(list_->item(row, kValue)->text().toStdString(), value))
+  const NumbersOfFiles asInScripts;
+  if (column == kValue && StackOf(name) >= 0 && ReadNumber(list_->item(row, kValue)->text(), value))
     SetCheckStackValue(game_, seat_, StackOf(name), value);
   if (column == kName && name.trimmed().isEmpty()) return list_->removeRow(row);
   LookUp();

@@ -16,7 +16,7 @@ class WorkshopWatch : public QWidget {
  public:
   WorkshopWatch(Game& game, QWidget* parent);
 
-  void SetSeat(int seat);
+  void SetSeat(SeatId seat);
   void Add(const QString& expression);
   // Looks the values up again if the table has moved on.
   void Refresh();
@@ -31,7 +31,7 @@ class WorkshopWatch : public QWidget {
   Game& game_;
   QTableWidget* list_;
   QLineEdit* entry_;
-  int seat_ = 0;
+  SeatId seat_ = 0;
   qint64 rolls_ = -1;
   qint64 money_ = 0;  // what the player had when the values were looked up
   bool filling_ = false;

@@ -1,57 +1,37 @@
 #include "shell/screens/workshop_window.h"
 
-#include <Qsci/qsciprinter.h>
-
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDir>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QTimer>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <exception>
-#include <new>
 #include <utility>
 
-#include "autobet/compile/compile_autobets.h"
-#include "autobet/language/script_files.h"
 #include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
-#include "base/record_file.h"
-#include "play/auto_roll.h"
 #include "play/script_help.h"
 #include "play/script_session.h"
 #include "play/script_trial.h"
-#include "shell/screens/file_chooser.h"
 #include "shell/screens/find_replace_screen.h"
-#include "shell/screens/permissions_screen.h"
-#include "shell/screens/recent_scripts.h"
 #include "shell/screens/workshop_editor.h"
 #include "shell/screens/workshop_steps.h"
 #include "shell/screens/workshop_trial.h"
 #include "shell/screens/workshop_watch.h"
 #include "shell/table/screen_tools.h"
-#include "state/run_stop.h"
-#include "state/show_message.h"
 
 namespace tessaryn {
 namespace {
 
-constexpr int kOutOfMemory = 7;  // as fault reports number them
-constexpr int kInternalError = 51;
 constexpr int kPause = 250;  // milliseconds without a key before the text is compiled
 
 const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
@@ -61,9 +41,6 @@ const char* const kWordCaptions[kWordKinds] = {QT_TRANSLATE_NOOP("tessaryn::Work
                                                QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Functions"),
                                                QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Modifiers"),
                                                QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Actions")};
-
-// Under what a logged bet is made.
-constexpr const char* kConditions[] = {nullptr, "if comeout roll then", "if point is established then"};
 
 }  // namespace
 
@@ -188,7 +165,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { ShowStatus(); });
   connect(editor_, &WorkshopEditor::breaksChanged, this, &WorkshopWindow::StepsChanged);
   connect(steps_, &WorkshopSteps::changed, this, &WorkshopWindow::StepsChanged);
-  connect(steps_, &WorkshopSteps::lineChosen, this, [this](int seat, int line) {
+  connect(steps_, &WorkshopSteps::lineChosen, this, [this](SeatId seat, int line) {
     if (seat == seat_) editor_->MarkStep(line);
   });
   connect(find_, &FindReplaceScreen::replaced, this, [this] {
@@ -196,7 +173,7 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     game_.autobet.ScriptsCompiled = false;
     Store();
   });
-  trial_->take = [this](int& seat, std::vector<std::string>& lines) {
+  trial_->take = [this](SeatId& seat, std::vector<std::string>& lines) {
     seat = seat_;
     lines = editor_->Lines();
     return seat_ != 0;
@@ -370,39 +347,6 @@ void WorkshopWindow::ListWords(int kind) {
   words_->addTopLevelItems(items);
 }
 
-QWidget* WorkshopWindow::LoggedTab() {
-  auto* tab = new QWidget(this);
-  tab->setObjectName("picLoggedBets");
-  auto* column = new QVBoxLayout(tab);
-  column->setContentsMargins(8, 8, 8, 8);
-  auto* row = new QHBoxLayout;
-  logging_ = new QCheckBox(tr("Log &my bets"), tab);
-  logging_->setObjectName("chkLogBets");
-  condition_ = new QComboBox(tab);
-  condition_->setObjectName("cmbLogCondition");
-  condition_->setAccessibleName(tr("When they are made"));
-  condition_->addItems({tr("As they stand"), tr("On the come-out"), tr("After a point")});
-  row->addWidget(logging_);
-  row->addStretch();
-  row->addWidget(condition_);
-  const auto button = [&](const char* name, const QString& caption, void (WorkshopWindow::*act)()) {
-    auto* made = new QPushButton(caption, tab);
-    made->setObjectName(name);
-    row->addWidget(made);
-    connect(made, &QPushButton::clicked, this, act);
-  };
-  button("cmdInsertLogged", tr("&Insert"), &WorkshopWindow::InsertLogged);
-  button("cmdSaveLogged", tr("Save ..."), &WorkshopWindow::SaveLogged);
-  button("cmdClearLogged", tr("Clear"), &WorkshopWindow::ClearLogged);
-  column->addLayout(row);
-  logged_ = new QListWidget(tab);
-  logged_->setObjectName("lstLoggedBets");
-  logged_->setAccessibleName(tr("Logged bets"));
-  column->addWidget(logged_, 1);
-  connect(logging_, &QCheckBox::clicked, this, [this](bool on) { game_.autobet.BetLogging = on; });
-  return tab;
-}
-
 // --- Keys. The table has the same ones for itself.
 
 const WorkshopWindow::Command* WorkshopWindow::CommandOf(const QKeyEvent& event) const {
@@ -451,7 +395,7 @@ void WorkshopWindow::hideEvent(QHideEvent* event) {
 void WorkshopWindow::ListPlayers() {
   QStringList wanted;
   QList<int> seats;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game_.table, seat)) continue;
     wanted << FromCore(game_.table.seats[seat].SeatName);
     seats << seat;
@@ -464,11 +408,11 @@ void WorkshopWindow::ListPlayers() {
     for (int n = 0; n < wanted.size(); ++n) player_->addItem(wanted[n], seats[n]);
   }
   if (!IsOccupied(game_.table, seat_))
-    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : seats.value(0);
+    seat_ = seats.contains(game_.table.SelectedSeat) ? game_.table.SelectedSeat : SeatId(seats.value(0));
   player_->setCurrentIndex(static_cast<int>(seats.indexOf(seat_)));
 }
 
-void WorkshopWindow::ShowSeat(int seat) {
+void WorkshopWindow::ShowSeat(SeatId seat) {
   if (seat == seat_ || !IsOccupied(game_.table, seat)) return;
   Store();
   Place& left = places_[seat_];
@@ -476,7 +420,7 @@ void WorkshopWindow::ShowSeat(int seat) {
   left.top = editor_->firstVisibleLine();
   left.breaks = editor_->Breaks();
   seat_ = seat;
-  player_->setCurrentIndex(player_->findData(seat));
+  player_->setCurrentIndex(player_->findData(seat.value));
   Load();
   const Place& kept = places_[seat];
   editor_->SetBreaks(kept.breaks);
@@ -575,379 +519,6 @@ QList<QStringList> WorkshopWindow::Rows() const {
 
 QStringList WorkshopWindow::PrintHeadings() const { return {windowTitle()}; }
 
-// --- Files.
-
-bool WorkshopWindow::MayLeaveScript() {
-  Store();
-  if (seat_ == 0) return false;
-  if (!AskBeforeCommand(game_)) return false;
-  if (OfferToSaveLoggedBets(game_)) SaveLogged();
-  if (!game_.autobet.Scripts[seat_].Unsaved || stored_.empty()) return true;
-  const int answer =
-      ShowMessage<Msg::kAskSaveScript>(game_, With<"player">(game_.table.seats[seat_].SeatName));
-  return answer == kResultNo || (answer == kResultYes && Save());
-}
-
-void WorkshopWindow::NewScript() {
-  if (!MayLeaveScript()) return;
-  SetScriptActive(game_, seat_, false);
-  SetScript(game_, seat_, {}, "");
-  Load();
-}
-
-void WorkshopWindow::OpenPath(const std::string& path) {
-  if (MayLeaveScript()) TakeFile(path);
-}
-
-void WorkshopWindow::TakeFile(const std::string& path) {
-  std::string error;
-  if (!OpenScript(game_, seat_, path, error))
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)), With<"problem">(error));
-  else
-    NoteRecentScript(game_, path);
-  Load();
-}
-
-void WorkshopWindow::OpenFile() {
-  if (!MayLeaveScript()) return;
-  const std::string path = ChooseFile(game_, this, kOpenAutoBet);
-  if (!path.empty()) TakeFile(path);
-}
-
-bool WorkshopWindow::Save() {
-  Store();
-  if (seat_ == 0) return false;
-  const std::string path = game_.autobet.Scripts[seat_].ScriptFileName;
-  if (path.empty()) return SaveAs();
-  std::string error;
-  const bool saved = SaveScript(game_, seat_, path, error);
-  if (!saved)
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
-  if (saved) editor_->setModified(false);
-  ShowStatus();
-  return saved;
-}
-
-bool WorkshopWindow::SaveAs() {
-  Store();
-  if (seat_ == 0) return false;
-  const std::string path = ChooseFile(game_, this, kSaveAutoBet, game_.autobet.Scripts[seat_].ScriptFileName);
-  std::string error;
-  if (path.empty()) return false;
-  if (!SaveScript(game_, seat_, path, error)) {
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)), With<"problem">(error));
-    return false;
-  }
-  NoteRecentScript(game_, path);
-  editor_->setModified(false);
-  ShowStatus();
-  return true;
-}
-
-void WorkshopWindow::FillRecent(QMenu& menu) {
-  for (const std::string& path : RecentScripts(game_)) {
-    QAction* action = menu.addAction(FromCore(FileTitle(path)).replace('&', "&&"));
-    action->setToolTip(FromCore(path));
-    connect(action, &QAction::triggered, this, [this, path] {
-      if (MayLeaveScript()) OpenPath(path);
-    });
-  }
-  if (menu.isEmpty()) menu.addAction(tr("None yet"))->setEnabled(false);
-  menu.setToolTipsVisible(true);
-}
-
-void WorkshopWindow::FillSamples(QMenu& menu) {
-  const QDir folder(FromCore(game_.applicationFolder) + "samples");
-  for (const QString& name : folder.entryList({"*.bet"}, QDir::Files, QDir::Name))
-    connect(menu.addAction(name), &QAction::triggered, this,
-            [this, path = folder.filePath(name)] { OpenPath(ToCore(path)); });
-}
-
-void WorkshopWindow::CopyToFile() {
-  const std::string path = ChooseFile(game_, this, kSaveAutoBet);
-  if (path.empty()) return;
-  const ScriptFileResult result = WriteScriptFile(path, editor_->Lines());
-  if (!result.Ok())
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
-                                   With<"problem">(result.message));
-}
-
-void WorkshopWindow::CopyToSeat(int seat) {
-  if (!AskBeforeCommand(game_)) return;
-  Store();
-  SetScript(game_, seat, editor_->Lines(), "");
-  game_.autobet.Scripts[seat].Unsaved = true;
-}
-
-void WorkshopWindow::FillCopyTo(QMenu& menu) {
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (seat != seat_ && IsOccupied(game_.table, seat))
-      connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
-              [this, seat] { CopyToSeat(seat); });
-  menu.addSeparator();
-  connect(menu.addAction(tr("&File ...")), &QAction::triggered, this, &WorkshopWindow::CopyToFile);
-}
-
-// At the cursor's line.
-void WorkshopWindow::PasteLines(const std::vector<std::string>& lines) {
-  if (seat_ == 0) return;
-  game_.autobet.ScriptRunning = false;
-  QString text;
-  for (const std::string& line : lines) text += FromCore(line) + "\n";
-  editor_->insertAt(text, editor_->CursorLine() - 1, 0);
-  Store();
-}
-
-void WorkshopWindow::PasteFromFile() {
-  const std::string path = ChooseFile(game_, this, kOpenAutoBet);
-  std::vector<std::string> lines;
-  if (path.empty()) return;
-  const ScriptFileResult result = ReadScriptFile(path, lines);
-  if (result.Ok()) return PasteLines(lines);
-  ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kOpenAutoBet)),
-                                 With<"problem">(result.message));
-}
-
-void WorkshopWindow::FillPasteFrom(QMenu& menu) {
-  for (int seat = 1; seat <= kSeats; ++seat)
-    if (seat != seat_ && IsOccupied(game_.table, seat))
-      connect(menu.addAction(FromCore(game_.table.seats[seat].SeatName)), &QAction::triggered, this,
-              [this, seat] { PasteLines(game_.autobet.Scripts[seat].ScriptLines); });
-  menu.addSeparator();
-  connect(menu.addAction(tr("&File ...")), &QAction::triggered, this, &WorkshopWindow::PasteFromFile);
-}
-
-void WorkshopWindow::PrintScript() {
-  QsciPrinter printer;
-  printer.setDocName(windowTitle());
-  QPrintDialog dialog(&printer, this);
-  dialog.setObjectName("frmPrintScript");
-  if (RunDialog(dialog) == QDialog::Accepted && !PrintOn(printer))
-    ShowMessage<Msg::kPrintFailed>(game_, With<"problem">(printer.printerName().toStdString()));
-}
-
-// On paper it is light, whatever the desktop is.
-bool WorkshopWindow::PrintOn(QsciPrinter& printer) {
-  printer.setColorMode(game_.settings.ColorPrint ? QPrinter::Color : QPrinter::GrayScale);
-  printer.setWrapMode(QsciScintilla::WrapWord);
-  editor_->SendScintilla(QsciScintilla::SCI_SETPRINTCOLOURMODE,
-                         static_cast<unsigned long>(editor_->IsDark() ? QsciScintilla::SC_PRINT_INVERTLIGHT
-                                                                      : QsciScintilla::SC_PRINT_NORMAL));
-  return printer.printRange(editor_) != 0;
-}
-
-// --- Checks.
-
-void WorkshopWindow::TextChanged() {
-  if (loading_) return;
-  ++edition_;
-  pause_->start();
-  ShowStatus();
-}
-
-void WorkshopWindow::CheckSoon() {
-  if (IsFree()) Store();
-  CheckInBackground();
-}
-
-void WorkshopWindow::CheckInBackground() {
-  if (seat_ == 0) return TakeCheck({});
-  checks_.clear();
-  checks_.start(
-      [this, edition = edition_, seat = seat_, lines = editor_->Lines(), around = SurroundingsOf(game_)] {
-        const ScriptCheck check = CheckLines(around, seat, lines);
-        QMetaObject::invokeMethod(
-            this,
-            [this, edition, check] {
-              if (edition == edition_) TakeCheck(check);
-            },
-            Qt::QueuedConnection);
-      });
-}
-
-void WorkshopWindow::TakeCheck(const ScriptCheck& check) {
-  fault_ = check.ok ? ScriptDiagnostic() : check.diagnostic;
-  editor_->MarkFault(fault_);
-  problems_->clear();
-  if (fault_.Failed()) {
-    problems_->addItem(FromCore(check.title) + "\n" + FromCore(check.text).replace("\n\n", "\n"));
-    if (!fault_.offer.empty()) problems_->addItem(tr("Ctrl+. puts in \"%1\"").arg(FromCore(fault_.offer)));
-  }
-  tabs_->setTabText(0, fault_.Failed() ? tr("Problems (1)") : tr("Problems"));
-  ShowStatus();
-}
-
-void WorkshopWindow::GoToProblem() {
-  if (!fault_.Failed()) return;
-  editor_->SelectSpan(fault_);
-  editor_->setFocus();
-}
-
-void WorkshopWindow::Check() {
-  Store();
-  if (seat_ == 0) return;
-  ScriptCheck check;
-  try {
-    check = checkScript(game_, seat_);
-  } catch (const std::exception& fault) {
-    const bool memory = dynamic_cast<const std::bad_alloc*>(&fault) != nullptr;
-    return ReportError(game_, fault.what(), memory ? kOutOfMemory : kInternalError, "cmdCheckScript");
-  }
-  TakeCheck(check);
-  if (check.ok && Find("mnuAutoIndent")->isChecked()) {
-    const auto& nesting = game_.autobet.Scripts[seat_].ScriptNesting;
-    std::vector<int> levels = nesting;
-    if (levels.empty()) CheckLines(SurroundingsOf(game_), seat_, stored_, &levels);
-    const bool unsaved = game_.autobet.Scripts[seat_].Unsaved;
-    const auto indented = ReindentScript(stored_, levels);
-    const bool same = indented == stored_;
-    editor_->ChangeLines(indented);
-    Store();
-    game_.autobet.Scripts[seat_].Unsaved = unsaved || !same;
-  }
-  if (!check.ok) editor_->SelectSpan(check.diagnostic);
-  ShowMessage<Msg::kScriptChecked>(game_, With<"title">(check.title), With<"result">(check.text));
-  editor_->setFocus();
-}
-
-// The word that the compiler doesn't know gives way to the one that it offers.
-void WorkshopWindow::Fix() {
-  ScriptWord word;
-  if (FindOffered(editor_->Lines(), fault_, word))
-    editor_->ReplaceBytes(word.line, word.begin, word.end, fault_.offer);
-}
-
-// --- Running.
-
-void WorkshopWindow::Activate(bool on) {
-  Store();
-  if (on && AskBeforeCommand(game_))
-    ActivateScript(game_, seat_);
-  else if (!on)
-    SetScriptActive(game_, seat_, false);
-  if (changed) changed();
-  Refresh();
-}
-
-void WorkshopWindow::ActivateAll() {
-  Store();
-  if (!AskBeforeCommand(game_)) return;
-  ActivateScript(game_, 0);
-  if (changed) changed();
-  Refresh();
-}
-
-void WorkshopWindow::RunOnce() {
-  Store();
-  if (seat_ == 0 || !IsFree()) return;
-  if (!game_.autobet.ScriptActive[seat_]) SetScriptActive(game_, seat_, true);
-  InitialiseScripts(game_);
-  runTo_ = 0;
-  StepsChanged();
-  watch_->LookUp();
-  if (changed) changed();
-  Refresh();
-}
-
-void WorkshopWindow::Step() {
-  if (game_.autobet.ScriptRunning) {
-    game_.autobet.StepMode = true;
-    return steps_->Next();
-  }
-  game_.autobet.StepsShown = game_.autobet.StepMode = true;
-  tabs_->setCurrentWidget(steps_);
-  RunOnce();
-}
-
-void WorkshopWindow::StopScripts() {
-  game_.autobet.StepMode = false;
-  steps_->Stop();
-  Refresh();
-}
-
-void WorkshopWindow::ToggleBreak() { editor_->ToggleBreak(editor_->CursorLine()); }
-
-// On to the line: in the run that is on, or in the next one.
-void WorkshopWindow::RunToCursor() {
-  runTo_ = editor_->CursorLine();
-  if (!game_.autobet.ScriptRunning) {
-    StepsChanged();
-    return RunOnce();
-  }
-  steps_->GoOn();
-}
-
-void WorkshopWindow::WantSteps() {
-  wantsSteps_ = Find("mnuShowSteps")->isChecked();
-  if (wantsSteps_) tabs_->setCurrentWidget(steps_);
-  StepsChanged();
-}
-
-// What runs is counted as long as it is wanted, and only then.
-void WorkshopWindow::WantCounts() {
-  QAction* wanted = Find("mnuShowCounts");
-  if (!IsFree()) return wanted->setChecked(wantsCounts_);
-  wantsCounts_ = trial_->counted = wanted->isChecked();
-  counted_ = {};
-  counted_.profile = true;
-  shownCount_ = 0;
-  WatchScripts(game_, wantsCounts_ ? &counted_ : nullptr);
-  editor_->ShowCounts({});
-}
-
-// Behind a run, not in it.
-void WorkshopWindow::ShowCounts() {
-  if (!wantsCounts_ || seat_ == 0 || !IsFree()) return;
-  WatchScripts(game_, &counted_);  // another game may have been opened
-  std::int64_t count = 0;
-  for (const LineProfile& line : counted_.lines[seat_]) count += line.count;
-  if (std::exchange(shownCount_, count) != count) editor_->ShowCounts(counted_.lines[seat_]);
-}
-
-// Statements are told of only while somebody waits for one.
-void WorkshopWindow::StepsChanged() {
-  AutoBet& autobet = game_.autobet;
-  bool breaks = editor_->HasBreaks();
-  for (int seat = 1; seat <= kSeats; ++seat)
-    breaks = breaks || (seat != seat_ && !places_[seat].breaks.empty());
-  autobet.StepsShown = wantsSteps_ || breaks || runTo_ > 0 || autobet.StepMode;
-  autobet.StepsHold = wantsSteps_;
-  steps_->Refresh();
-}
-
-void WorkshopWindow::ShowStep(const ScriptStep& step) {
-  AutoBet& autobet = game_.autobet;
-  const auto& lines = autobet.Scripts[step.seat].ScriptLines;
-  const std::string source = step.line >= 1 && step.line <= static_cast<int>(lines.size())
-                                 ? lines[static_cast<std::size_t>(step.line) - 1]
-                                 : std::string();
-  const bool breaks =
-      step.seat == seat_ ? editor_->HasBreak(step.line) : places_[step.seat].breaks.count(step.line) != 0;
-  if (breaks || (runTo_ == step.line && step.seat == seat_)) {
-    runTo_ = 0;
-    autobet.StepMode = true;
-  }
-  const bool seen = autobet.StepMode || wantsSteps_;
-  const std::string values = seen && step.seat != 0 ? ConditionValues(game_, step.seat, source) : "";
-  steps_->ShowStep(step, source, values);
-  tabs_->setTabText(1, steps_->Title());
-  if (!autobet.StepMode && !wantsSteps_) return;
-  if (step.seat != seat_ && step.seat != 0 && stored_ == editor_->Lines()) ShowSeat(step.seat);
-  if (step.seat == seat_) editor_->MarkStep(step.line);
-  if (autobet.StepMode) {
-    tabs_->setCurrentWidget(steps_);
-    watch_->LookUp();
-  }
-}
-
-void WorkshopWindow::TryIt() { trial_->Toggle(); }
-
-void WorkshopWindow::Permissions() {
-  if (seat_ == 0) return;
-  PermissionsScreen screen(game_, seat_, this);
-  RunDialog(screen);
-}
-
 // --- Help in writing.
 
 void WorkshopWindow::FindText() {
@@ -967,45 +538,5 @@ void WorkshopWindow::Lists() {
   tabs_->setTabVisible(tabs_->indexOf(wordsTab_), Find("mnuShowSyntaxLists")->isChecked());
 }
 void WorkshopWindow::Indent() { editor_->autoIndent = Find("mnuAutoIndent")->isChecked(); }
-
-// --- Logged bets.
-
-void WorkshopWindow::InsertLogged() {
-  AutoBet& autobet = game_.autobet;
-  if (autobet.LoggedBets.empty() || seat_ == 0) return;
-  std::vector<std::string> lines;
-  const char* condition = kConditions[condition_->currentIndex()];
-  if (condition != nullptr) lines.emplace_back(condition);
-  for (const std::string& bet : autobet.LoggedBets)
-    lines.push_back((condition != nullptr ? "   " : "") + bet);
-  if (condition != nullptr) lines.emplace_back("endif");
-  autobet.LoggedBets.clear();
-  autobet.LoggedBetsUnsaved = false;
-  PasteLines(lines);
-  Refresh();
-}
-
-void WorkshopWindow::SaveLogged() {
-  AutoBet& autobet = game_.autobet;
-  const std::string path = autobet.LoggedBets.empty() ? std::string() : ChooseFile(game_, this, kSaveAutoBet);
-  if (path.empty()) return;
-  const ScriptFileResult result = WriteScriptFile(path, autobet.LoggedBets);
-  if (result.Ok())
-    autobet.LoggedBetsUnsaved = false;
-  else
-    ShowMessage<Msg::kFileProblem>(game_, With<"title">(FileTitleText(kSaveAutoBet)),
-                                   With<"problem">(result.message));
-}
-
-void WorkshopWindow::ClearLogged() {
-  AutoBet& autobet = game_.autobet;
-  if (OfferToSaveLoggedBets(game_)) {
-    SaveLogged();
-    if (autobet.LoggedBetsUnsaved) return;
-  }
-  autobet.LoggedBets.clear();
-  autobet.LoggedBetsUnsaved = false;
-  Refresh();
-}
 
 }  // namespace tessaryn

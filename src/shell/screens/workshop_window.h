@@ -51,8 +51,8 @@ class WorkshopWindow : public ToolWindow {
   void ShowStep(const ScriptStep& step);
   // The text goes to the player.
   void Store();
-  void ShowSeat(int seat);
-  int Seat() const { return seat_; }
+  void ShowSeat(SeatId seat);
+  SeatId Seat() const { return seat_; }
   // Opens a file for the player shown, who is asked first about a script that isn't saved.
   void OpenPath(const std::string& path);
   WorkshopEditor& Editor() { return *editor_; }
@@ -60,7 +60,7 @@ class WorkshopWindow : public ToolWindow {
   // On paper, in the colours of the words if the house prints in colours.
   bool PrintOn(QsciPrinter& printer);
   // What checks the script of a seat.
-  std::function<ScriptCheck(Game&, int)> checkScript;
+  std::function<ScriptCheck(Game&, SeatId)> checkScript;
 
   // A script has become active, or has run.
   std::function<void()> changed;
@@ -95,7 +95,7 @@ class WorkshopWindow : public ToolWindow {
   void PasteFromFile();
   void PasteLines(const std::vector<std::string>& lines);
   void CopyToFile();
-  void CopyToSeat(int seat);
+  void CopyToSeat(SeatId seat);
   void FillCopyTo(QMenu& menu);
   void FillPasteFrom(QMenu& menu);
   void FillRecent(QMenu& menu);
@@ -163,7 +163,7 @@ class WorkshopWindow : public ToolWindow {
   QLabel* permissions_;
   QTimer* pause_;
   QThreadPool checks_;
-  int seat_ = 0;                     // 0: nobody is at the table
+  SeatId seat_ = 0;                  // 0: nobody is at the table
   std::vector<std::string> stored_;  // the lines as the player has them
   std::string storedFile_;
   quint64 edition_ = 0;  // of the text; a check of an older one says nothing

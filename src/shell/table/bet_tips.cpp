@@ -11,6 +11,7 @@
 #include "base/bet_catalogue.h"
 #include "play/session_luck.h"
 #include "rules/bet_limits.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/plates.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_commands.h"
@@ -103,7 +104,8 @@ QString ValueText(const Game& game, const FactValue& value) {
   if (!value.words.Empty()) return Told(game, value.words);
   const MessageValue& plain = value.plain;
   if (plain.kind == MessageValue::Kind::kMoney) return TableAmountText(game, Currency::FromRaw(plain.number));
-  return plain.kind == MessageValue::Kind::kNumber ? QString::number(plain.number) : FromCore(plain.text);
+  return plain.kind == MessageValue::Kind::kNumber ? ShownCount(plain.number)
+                                                   : FigureInHabit(FromCore(plain.text));
 }
 
 QString ClicksText(const Game& game, const TableCommands& commands, const BetTerms& terms) {
@@ -119,7 +121,7 @@ QString ClicksText(const Game& game, const TableCommands& commands, const BetTer
 }
 
 // All that the highest level of tips tells.
-QString WholeTip(Game& game, const TableCommands& commands, int bet) {
+QString WholeTip(Game& game, const TableCommands& commands, BetId bet) {
   const BetTerms terms = BetTermsOf(game, game.table.SelectedSeat, bet);
   QStringList lines{Told(game, TipFacts(terms), "\n")};
   if (terms.amount > kZero) lines.insert(0, BetAmountText(game, game.table.SelectedSeat, bet));
@@ -147,11 +149,11 @@ QString Told(const Game& game, const FactText& text) {
 
 std::span<const char* const> TranslatedFactWords() { return kFactWords; }
 
-QString WhoBets(const Game& game, int bet) {
+QString WhoBets(const Game& game, BetId bet) {
   const TableState& table = game.table;
   QStringList players;
   bool others = false;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (table.BetAmount(seat, bet) == kZero) continue;
     others = others || seat != table.SelectedSeat;
     players += FromCore(table.seats[seat].SeatName) + " " + TableAmountText(game, table.BetAmount(seat, bet));
@@ -159,7 +161,7 @@ QString WhoBets(const Game& game, int bet) {
   return others ? players.join(", ") : QString();
 }
 
-QString SeatTip(const Game& game, int seat) {
+QString SeatTip(const Game& game, SeatId seat) {
   if (!IsOccupied(game.table, seat) || WatchedLuck(game) == nullptr) return {};
   const SessionLuckFigures figures = SessionLuckOf(game, seat);
   const auto dollars = [](double value) {
@@ -173,21 +175,20 @@ QString SeatTip(const Game& game, int seat) {
                  .arg(dollars(figures.report.expected));
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Came: %1")).arg(dollars(figures.report.actual));
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Luck: %1, %2 standard deviations"))
-                 .arg(dollars(figures.report.luck))
-                 .arg(figures.report.deviations, 0, 'f', 2);
+                 .arg(dollars(figures.report.luck), ShownNumber(figures.report.deviations, 2));
   }
   if (figures.missed > 0)
     lines += Translated(QT_TRANSLATE_NOOP("TableCommands", "Rolls that were not counted: %1"))
-                 .arg(static_cast<qlonglong>(figures.missed));
+                 .arg(ShownCount(figures.missed));
   return lines.join("\n");
 }
 
-QString BetAmountText(const Game& game, int seat, int bet) {
+QString BetAmountText(const Game& game, SeatId seat, BetId bet) {
   return FromCore(BetName(bet)) + ": " + TableAmountText(game, game.table.BetAmount(seat, bet));
 }
 
-QString PointerText(Game& game, const TableCommands& commands, int bet) {
-  const int seat = game.table.SelectedSeat;
+QString PointerText(Game& game, const TableCommands& commands, BetId bet) {
+  const SeatId seat = game.table.SelectedSeat;
   const bool occupied = IsOccupied(game.table, seat);
   const int action = commands.PendingAction;
   QStringList parts;
@@ -204,15 +205,15 @@ QString PointerText(Game& game, const TableCommands& commands, int bet) {
   // A click that is meant for something else bets nothing.
   const bool bets = occupied && action == kPendingNone && commands.Moving.Bet == 0;
   if (IsTableBet(bet))
-    parts += Told(game, PointerFacts(BetTermsOf(game, occupied ? seat : 0, bet), bets), ", ");
+    parts += Told(game, PointerFacts(BetTermsOf(game, occupied ? seat : kNobody, bet), bets), ", ");
   if (IsTableBet(bet)) parts += WhoBets(game, bet);
   parts.removeAll(QString());
   return parts.join("   ");
 }
 
-QString InfoTip(Game& game, const TableCommands& commands, int bet) {
+QString InfoTip(Game& game, const TableCommands& commands, BetId bet) {
   if (bet == 0) return {};
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   const Currency amount = game.table.BetAmount(seat, bet);
   const QString who = WhoBets(game, bet);
   QStringList lines;
@@ -273,8 +274,8 @@ bool BetTip::eventFilter(QObject* watched, QEvent* event) {
 
 // The tip stays while the pointer is over what it tells of.
 void BetTip::PointAt(QPoint point, QPoint screen) {
-  const int bet = table_.BetAt(point);
-  const int seat = bet == 0 ? table_.SeatAt(point) : 0;
+  const BetId bet = table_.BetAt(point);
+  const SeatId seat = bet == 0 ? table_.SeatAt(point) : kNobody;
   screen_ = screen;
   if (shown_ && bet == bet_ && seat == seat_) return;
   Hide();

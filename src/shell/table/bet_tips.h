@@ -23,9 +23,9 @@ QString Told(const Game& game, const FactText& text);
 // The words that lines may be told with, as the translators see them.
 std::span<const char* const> TranslatedFactWords();
 // Who has checks on the bet: "Ann 12, Bo 6"; of one player alone only where that isn't the selected one.
-QString WhoBets(const Game& game, int bet);
+QString WhoBets(const Game& game, BetId bet);
 // A player's session, as the plate at the rail tells it: what was expected, what came, and the luck.
-QString SeatTip(const Game& game, int seat);
+QString SeatTip(const Game& game, SeatId seat);
 
 // Shows the tip once the pointer rests on the table, and takes it away when it is elsewhere or a button or
 // key is pressed.
@@ -46,8 +46,8 @@ class BetTip : public QObject {
   const TableCommands& commands_;
   QTimer* timer_;
   QPoint screen_;  // where the pointer is
-  int bet_ = 0;
-  int seat_ = 0;
+  BetId bet_ = 0;
+  SeatId seat_ = 0;
   bool shown_ = false;
 };
 

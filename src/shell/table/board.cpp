@@ -8,6 +8,7 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -430,7 +431,7 @@ void Board::PaintNotes(QPainter& painter) const {
   Writer writer(painter, room);
   if (notes_.size() > 1)
     writer.Write(Sized(plain, measures_.compact ? 10 : 12.5, true), kNoteAmber,
-                 tr("%1 notes:").arg(notes_.size()) + QLatin1Char(' '));
+                 tr("%1 notes:", nullptr, PluralOf(notes_.size())).arg(notes_.size()) + QLatin1Char(' '));
   writer.Write(plain, kNoteAmber, notes_.first());
 }
 

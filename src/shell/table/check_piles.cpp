@@ -25,7 +25,7 @@ CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int 
   return pile;
 }
 
-const CheckPile& BetPiles::PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]) {
+const CheckPile& BetPiles::PileOf(SeatId seat, BetId bet, Currency amount, const Currency (&checkValue)[6]) {
   constexpr int kMostKept = 40;  // more are changed for the fewest
   Kept& kept = piles_[{seat, bet}];
   kept.up = true;

@@ -17,8 +17,9 @@ using CheckPile = std::vector<int>;
 // "$" check on top. A pile that would be too high shows its largest checks.
 CheckPile BreakIntoChecks(Currency amount, const Currency (&checkValue)[6], int most);
 
-inline constexpr int kPileHeight = 5;       // checks that show
-inline constexpr double kStackStep = 0.12;  // of a check's diameter, from one check to the next above it
+inline constexpr int kPileHeight = 5;        // checks that show
+inline constexpr int kSharedPileHeight = 2;  // of a stack beside which others stand
+inline constexpr double kStackStep = 0.12;   // of a check's diameter, from one check to the next above it
 
 // The pictures of checks and of whole piles at one size, made when first asked for.
 class CheckPictures {
@@ -48,7 +49,7 @@ class BetPiles {
  public:
   // The pile of a bet as it lies now: what was added lies on top, what was taken is taken off the top as far
   // as its checks are worth just that; else the amount is changed as a whole.
-  const CheckPile& PileOf(int seat, int bet, Currency amount, const Currency (&checkValue)[6]);
+  const CheckPile& PileOf(SeatId seat, BetId bet, Currency amount, const Currency (&checkValue)[6]);
   // All bets have been asked for: those that were not are down.
   void ForgetOthers();
 
@@ -59,7 +60,7 @@ class BetPiles {
     std::array<Currency, 6> values{};
     bool up = false;  // asked for since the others were forgotten
   };
-  std::map<std::pair<int, int>, Kept> piles_;
+  std::map<std::pair<SeatId, BetId>, Kept> piles_;
 };
 
 }  // namespace tessaryn

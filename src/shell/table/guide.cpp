@@ -30,7 +30,7 @@ QString GuideText(GuideStep step) {
 bool HasBeenPlayed(const Game& game) { return game.table.OccupiedSeats > 0 || Throws(game.stats) > 0; }
 
 void ChooseWinHandling(Game& game, bool ask) {
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat)) return;
   game.table.seats[seat].handling.WinHandling = ask ? kWinManual : kWinSame;
   game.host->Changed(game, Change::kPlayers);

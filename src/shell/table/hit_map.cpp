@@ -22,7 +22,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
     painter.setBrush(QColor::fromRgb(static_cast<QRgb>(area.Id)));
     painter.drawPath(area.Outline);
   }
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(game.table, seat)) continue;
     for (int n = 0; n < 4; ++n) {
       const int id = seat * kRailIds + kRailStackIds + game.table.seats[seat].VisibleStacks[n];
@@ -32,7 +32,7 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
   }
 }
 
-int MeantBet(const Game& game, int id) {
+BetId MeantBet(const Game& game, int id) {
   const TableState& table = game.table;
   const BetSet& up = table.seats[table.SelectedSeat].SeatBets;
   if (IsDontComeOdds(id) && !up.Has(FlatBetOf(id)) && !up.Has(id)) return FlatBetOf(id);
@@ -42,7 +42,7 @@ int MeantBet(const Game& game, int id) {
   return id;
 }
 
-int AreaOf(int bet) { return bet == kDontPassOdds ? static_cast<int>(kDontPass) : bet; }
+int AreaOf(BetId bet) { return bet == kDontPassOdds ? kDontPass : bet; }
 
 Hit HitTest(const QImage& map, QPoint point, const Game& game) {
   if (!map.rect().contains(point)) return {};

@@ -20,14 +20,14 @@ void DrawTableHotspots(QImage& map, const TableLayout& layout, const TableView& 
 // What lies under a point. An area is the selected seat's, as that seat means it: odds or their flat bet,
 // Place or Buy. A stack at the rail is its own seat's CheckStack. Bet 0: nothing.
 struct Hit {
-  int Seat = 0;
-  int Bet = 0;
+  SeatId Seat = 0;
+  BetId Bet = 0;
   int Area = 0;  // the area's own id
 };
 Hit HitTest(const QImage& map, QPoint point, const Game& game);
 // The same for an area's id, without a map.
-int MeantBet(const Game& game, int id);
+BetId MeantBet(const Game& game, int id);
 // The id of the area in which a bet's checks stand.
-int AreaOf(int bet);
+int AreaOf(BetId bet);
 
 }  // namespace tessaryn

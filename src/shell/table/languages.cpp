@@ -40,10 +40,14 @@ void LoadTextsOfQt(int language) {
 }
 
 Wording WordingOf(int language) {
-  if (language == 0) return {};
+  // The language of the sources has only what is counted there.
+  const QString name =
+      language == 0 ? QStringLiteral(":/translations/tessaryn_en") : FileOf("tessaryn_", language);
   auto file = std::make_shared<QTranslator>();
-  if (!file->load(FileOf("tessaryn_", language))) return {};
-  return [file](const char* context, const char* source) { return file->translate(context, source); };
+  if (!file->load(name)) return {};
+  return [file](const char* context, const char* source, int count) {
+    return file->translate(context, source, nullptr, count);
+  };
 }
 
 }  // namespace
@@ -66,12 +70,11 @@ void SpeakLanguage(int language, const QStringList& entered) {
   OpenTranslations();
   qApp->setProperty(kSpoken, wanted);
   LoadTextsOfQt(wanted);
-  if (listens || wanted != 0)
-    SpeakWith(WordingOf(wanted), entered);
-  else
-    SpokenTexts::Of();
+  SpeakWith(WordingOf(wanted), entered);
 }
 
-void SpeakWith(const Wording& words, const QStringList& entered) { SpokenTexts::Of().Change(words, entered); }
+void SpeakWith(const Wording& words, const QStringList& entered) {
+  SpokenTexts::Of().Change(words ? words : WordingOf(0), entered);
+}
 
 }  // namespace tessaryn

@@ -27,7 +27,7 @@ void SpeakLanguage(int language, const QStringList& entered = {});
 // The one that is spoken.
 int LanguageSpoken();
 
-// Another language than those, for tests.
+// Another language than those, for tests; none is English.
 void SpeakWith(const Wording& words, const QStringList& entered = {});
 
 }  // namespace tessaryn

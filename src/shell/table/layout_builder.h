@@ -13,10 +13,10 @@ struct LayoutBuilder {
   const PayoffTables& payoffs;
   TableLayout layout;
 
-  void Place(int seat, int bet, QPointF point);
+  void Place(SeatId seat, BetId bet, QPointF point);
   // Null for a bet that the house doesn't offer.
-  TableArea* Add(int bet, int side, const QPainterPath& outline, Ground fill);
-  QString Pays(int bet) const;  // "30 TO 1"
+  TableArea* Add(BetId bet, int side, const QPainterPath& outline, Ground fill);
+  QString Pays(BetId bet) const;  // "30 TO 1"
 };
 
 inline constexpr double kGap = 1.2;       // between neighbouring areas
@@ -33,7 +33,7 @@ TableLabel DiceLabel(int die1, int die2, const QRectF& box);
 TableLabel PayoffLabel(const QString& pays, const QRectF& box);
 
 struct LetteredBet {
-  int bet;
+  BetId bet;
   const char* label;
   const char* second;  // the second line, or what is shorter
 };

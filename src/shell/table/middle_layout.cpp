@@ -1,6 +1,8 @@
 // The block of bets in the middle, which all eight seats share, and the side bets of the two ends.
 #include <QCoreApplication>
 #include <algorithm>
+#include <string_view>
+#include <utility>
 
 #include "base/bet_catalogue.h"
 #include "shell/table/layout_builder.h"
@@ -11,7 +13,7 @@ namespace tessaryn {
 namespace {
 
 struct DiceBet {
-  int bet;
+  BetId bet;
   int die1;
   int die2;
 };
@@ -34,19 +36,24 @@ constexpr LetteredBet kSpecials[] = {{kAllSmall, "ALL SMALL", nullptr}, {kAllTal
                                      {kFire, "FIRE", nullptr},          {kSharpShooter, "SHARP", "SHOOTER"},
                                      {kRideTheLine, "RIDE THE", "LINE"}};
 
+// Where there is no room for the whole name, what tells it from the others.
+constexpr std::pair<std::string_view, const char*> kShorterNames[] = {
+    {"ALL SMALL", "SMALL"}, {"ALL TALL", "TALL"},    {"MAKE ALL", "MAKE"},
+    {"POINT 7", "PT 7"},    {"7 POINT 7", "7 PT 7"}, {"SHOOTER", "SHOOT"}};
+
 constexpr double kLeft = 568;
 constexpr double kRight = 679;
 
 // --- The middle.
 
 // An area of the middle; the eight seats' stacks stand about a point, each end's on its side.
-TableArea* AddCell(LayoutBuilder& build, int bet, const QRectF& box, QPointF stacks, double pitch = 7.2) {
+TableArea* AddCell(LayoutBuilder& build, BetId bet, const QRectF& box, QPointF stacks, double pitch = 7.2) {
   TableArea* area = build.Add(bet, 0, RoundedBox(box), Ground::kMiddle);
   if (area == nullptr) return nullptr;
   const QPointF centre = box.topLeft() + stacks;
   build.layout.Alone[0][bet] = centre;
   constexpr int kRow[kSeats] = {0, 1, 1, 0, 0, 1, 1, 0};
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const double column = (seat - 1) / 2 - 1.5;
     build.Place(seat, bet, centre + QPointF(column * pitch, kRow[seat - 1] == 0 ? -4 : 4));
   }
@@ -65,10 +72,10 @@ void AddWide(LayoutBuilder& build, const LetteredBet& bet, double top) {
   TableArea* area = AddCell(build, bet.bet, box, {84, 13.5}, 9);
   if (area == nullptr) return;
   area->Labels.push_back(
-      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 2, box.left() + 68, top + 15), 12));
+      LeftCaption(bet.label, LayoutBox(box.left() + 5, top + 1, box.left() + 68, top + 13.4), 12));
   area->Labels.back().Shorter = {bet.second};
   area->Labels.push_back(
-      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 15.6, box.left() + 62, top + 26)));
+      PayoffLabel(build.Pays(bet.bet), LayoutBox(box.left() + 5, top + 14, box.left() + 62, top + 26)));
 }
 
 // Bets by name side by side. What is several bets in one pays as these do, and says no payoff of its own.
@@ -165,7 +172,7 @@ constexpr double kSideRow = 33.3;
 constexpr double kSideHeight = 32;
 constexpr double kOtherEnd = 917;  // from an end's block to the other's
 
-QRectF SideBox(int bet) {
+QRectF SideBox(BetId bet) {
   int cell = 0;
   for (const LetteredBet& special : kSpecials) {
     if (special.bet == bet) break;
@@ -193,7 +200,7 @@ void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::u
   }
 }
 
-void AddMarks(LayoutBuilder& build, int bet, Progress kind, int count, QPointF first, QPointF step,
+void AddMarks(LayoutBuilder& build, BetId bet, Progress kind, int count, QPointF first, QPointF step,
               QSizeF size) {
   for (int n = 0; n < count; ++n)
     build.layout.Marks.push_back({kind, bet, n, QRectF(first + step * n, size), {}});
@@ -226,8 +233,8 @@ void AddSideBet(LayoutBuilder& build, const LetteredBet& special, int side) {
   TableArea* area = build.Add(special.bet, side, RoundedBox(box), Ground::kSide);
   if (area == nullptr) return;
   const auto line = [&](const char* text, double top) {
-    area->Labels.push_back(LeftCaption(
-        text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 11.7)));
+    area->Labels.push_back(
+        LeftCaption(text, LayoutBox(box.left() + 4, box.top() + top, box.left() + 49, box.top() + top + 12)));
   };
   line(special.label, 1.5);
   if (special.second != nullptr) line(special.second, 13.4);

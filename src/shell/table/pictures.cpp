@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
 
@@ -164,7 +165,7 @@ QString CheckText(int denomination, const Currency (&checkValue)[6], bool centsS
   const Currency value = checkValue[denomination];
   if (centsSymbol && IsCents(value)) return CentsText(value);
   if (value.IsWhole()) return QString::fromStdString(PlainMoney(value));
-  return QString::number(value.ToDouble(), 'f', 2);
+  return InHabit(QString::number(value.ToDouble(), 'f', 2));
 }
 
 QPixmap DicePicture(int size, double devicePixelRatio) {

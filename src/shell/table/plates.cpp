@@ -3,13 +3,13 @@
 #include <QContextMenuEvent>
 #include <QCoreApplication>
 #include <QFontMetricsF>
-#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/pictures.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_layout.h"
@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kEdgeGap = 4;   // to the stage's edge
 constexpr int kPlateGap = 4;  // between two
-constexpr double kPadding = 7;
+constexpr QSize kNarrowPlate(92, 50);
 constexpr double kTip = kPlateTip;
 constexpr double kHeadGap = 6;  // from name to result
 constexpr int kNarrowest = 75;  // percent of a letter's width
@@ -42,11 +42,11 @@ QString ScriptText(ScriptSign sign) {
   return sign == ScriptSign::kActive ? QStringLiteral("{ }") : QStringLiteral("{ ! }");
 }
 
-QString Amount(Currency value) { return QLocale(QLocale::English).toString(value.ToDouble(), 'f', 2); }
+QString Amount(Currency value) { return ShownNumber(value.ToDouble(), 2); }
 
 }  // namespace
 
-PlateText PlateTextOf(const Game& game, int seat) {
+PlateText PlateTextOf(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   PlateText text;
   if (!IsOccupied(table, seat)) return text;
@@ -61,8 +61,7 @@ PlateText PlateTextOf(const Game& game, int seat) {
     text.script = script.Errors.empty() ? ScriptSign::kActive : ScriptSign::kError;
   text.rail = Amount(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount);
   text.bankroll = Amount(table.BankrollCurrent[seat]);
-  text.betsCaption = bets == 1 ? Told(QT_TRANSLATE_NOOP("Plates", "1 Bet:"))
-                               : Told(QT_TRANSLATE_NOOP("Plates", "%1 Bets:")).arg(bets);
+  text.betsCaption = QCoreApplication::translate("Plates", "%1 Bets:", nullptr, PluralOf(bets)).arg(bets);
   text.bets = Amount(table.seats[seat].OnTableAmount);
   text.sign = result > kZero ? 1 : result < kZero ? -1 : 0;
   text.resultCaption = text.sign > 0   ? Told(QT_TRANSLATE_NOOP("Plates", "Won:"))
@@ -72,7 +71,7 @@ PlateText PlateTextOf(const Game& game, int seat) {
   return text;
 }
 
-QStringList MoneyLines(const Game& game, int seat) {
+QStringList MoneyLines(const Game& game, SeatId seat) {
   const PlateText text = PlateTextOf(game, seat);
   const auto line = [](const QString& caption, const QString& figure) {
     return caption + QStringLiteral("  ") + figure;
@@ -84,24 +83,33 @@ QStringList MoneyLines(const Game& game, int seat) {
 
 // --- Places.
 
-QSize PlateSize(QSize stage, const Measures& measures) {
-  const QSize small = MeasuresOf(kSmallestWindow).plate;
-  // Six stand side by side below the table.
-  return 6 * (measures.plate.width() + kPlateGap) + kEdgeGap > stage.width() ? small : measures.plate;
+namespace {
+
+int Above(QSize plate, const Measures& measures) {
+  return std::max(0, kEdgeGap + plate.height() + kPlateGap - measures.board);
+}
+int Below(QSize plate) { return plate.height() + kEdgeGap + kPlateTip; }
+
+// The places of the CheckStacks of the seats on the lower rail, on the stage.
+std::array<QRectF, 4> LowerWells(const QRect& table, const TableView& view) {
+  std::array<QRectF, 4> wells;
+  for (std::size_t n = 0; n < 4; ++n)
+    wells[n] = view.Transform().mapRect(WellsOf(kLowerSeats[n])).translated(table.topLeft());
+  return wells;
 }
 
-int RoomAbove(const Measures& measures, QSize stage) {
-  return std::max(0, kEdgeGap + PlateSize(stage, measures).height() + kPlateGap - measures.board);
+// Plates that reach up to the wells stand between them, as far as there is room.
+void StepAside(int (&x)[4], int width, const std::array<QRectF, 4>& wells, int least, int most) {
+  const auto left = [&](int n) { return static_cast<int>(std::floor(wells[n].left())); };
+  const auto right = [&](int n) { return static_cast<int>(std::ceil(wells[n].right())); };
+  x[0] = std::max(least, std::min(x[0], left(0) - width));
+  x[3] = std::min(most, std::max(x[3], right(3)));
+  x[1] = std::max(right(0), std::min(x[1], left(1) - width));
+  x[2] = std::min(left(3) - width, std::max(x[2], right(2)));
 }
 
-int RoomBelow(const Measures& measures, QSize stage) {
-  return PlateSize(stage, measures).height() + kEdgeGap + kPlateTip;
-}
-
-PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
-                        bool fitted) {
+PlatePlaces PlacesOf(QSize size, QSize stage, const QRect& table, const TableView& view, bool fitted) {
   PlatePlaces places;
-  const QSize size = PlateSize(stage, measures);
   const int right = stage.width() - kEdgeGap - size.width();
   places[1] = QRect(QPoint(kEdgeGap, kEdgeGap - 1), size);
   places[8] = QRect(QPoint(right, kEdgeGap - 1), size);
@@ -128,13 +136,50 @@ PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, 
     x[1] = std::max(middle - step / 2, x[0] + step);
     x[2] = std::max(x[1] + step, std::min(x[2], x[3] - step));
   }
+  const std::array<QRectF, 4> wells = LowerWells(table, view);
+  if (fitted && low < wells[0].bottom())
+    StepAside(x, size.width(), wells, places[2].left() + step, places[7].left() - step);
   for (int n = 0; n < 4; ++n) places[kLowerSeats[n]] = QRect(QPoint(x[n], low), size);
   return places;
 }
 
+// Whether plates of the size, six side by side, leave the wells of the whole table free.
+bool LeavesTheWells(QSize size, QSize stage, const Measures& measures) {
+  if (6 * (size.width() + kPlateGap) + kEdgeGap > stage.width()) return false;
+  TableView view;
+  const QRect table(0, measures.board, stage.width(), std::max(1, stage.height() - measures.board));
+  view.Window = table.size();
+  view.MarginTop = Above(size, measures);
+  view.MarginBottom = Below(size);
+  FitTable(view);
+  const PlatePlaces places = PlacesOf(size, stage, table, view, true);
+  const std::array<QRectF, 4> wells = LowerWells(table, view);
+  for (int seat = 2; seat < kSeats; ++seat)
+    for (const QRectF& well : wells)
+      if (QRectF(places[seat]).intersects(well)) return false;
+  return true;
+}
+
+}  // namespace
+
+QSize PlateSize(QSize stage, const Measures& measures) {
+  for (const QSize size : {measures.plate, MeasuresOf(kSmallestWindow).plate})
+    if (LeavesTheWells(size, stage, measures)) return size;
+  return kNarrowPlate;
+}
+
+int RoomAbove(const Measures& measures, QSize stage) { return Above(PlateSize(stage, measures), measures); }
+
+int RoomBelow(const Measures& measures, QSize stage) { return Below(PlateSize(stage, measures)); }
+
+PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
+                        bool fitted) {
+  return PlacesOf(PlateSize(stage, measures), stage, table, view, fitted);
+}
+
 // --- A plate.
 
-Plate::Plate(int seat, QWidget* parent) : QWidget(parent), seat_(seat) {
+Plate::Plate(SeatId seat, QWidget* parent) : QWidget(parent), seat_(seat) {
   setObjectName(QStringLiteral("picPlate%1").arg(seat));
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::NoFocus);
@@ -172,6 +217,20 @@ void Plate::Tell() {
   setToolTip(text_.name + '\n' + lines);
 }
 
+double Plate::Padding() const { return IsNarrow() ? 5 : 7; }
+
+bool Plate::IsNarrow() const { return width() <= kNarrowPlate.width(); }
+
+QString Plate::BankrollCaption() const {
+  return IsNarrow() ? Told(QT_TRANSLATE_NOOP("Plates", "Bank:")) : Told("Bankroll:");
+}
+
+// "Won: 35.00"; "+35.00" where a long name or figure wants the room.
+QString Plate::ResultText() const {
+  if (!briefResult_) return text_.resultCaption + QLatin1Char(' ') + text_.result;
+  return text_.sign > 0 ? QLatin1Char('+') + text_.result : text_.result;
+}
+
 // Letters of a broad font are drawn narrower where a line of the largest figures needs it.
 QFont Plate::TextFont(bool bold) const {
   QFont letters = Sized(font(), textHeight_, bold);
@@ -188,8 +247,7 @@ QFont Plate::HeadFont() const {
 // What name, result and signs would need to stand there whole.
 double Plate::HeadWidth() const {
   const QFontMetricsF metrics(HeadFont());
-  double width = metrics.horizontalAdvance(text_.name) + kHeadGap +
-                 metrics.horizontalAdvance(text_.resultCaption + QLatin1Char(' ') + text_.result);
+  double width = metrics.horizontalAdvance(text_.name) + kHeadGap + metrics.horizontalAdvance(ResultText());
   if (text_.shooter) width += textHeight_ + 5;
   if (text_.script != ScriptSign::kNone) width += metrics.horizontalAdvance(ScriptText(text_.script)) + 12;
   return width;
@@ -198,21 +256,25 @@ double Plate::HeadWidth() const {
 void Plate::FitLetters() {
   stretch_ = 100;
   while (!FiguresFit() && stretch_ > kNarrowest) --stretch_;
-  headStretch_ = stretch_;
-  while (HeadWidth() > width() - 2 * kPadding && headStretch_ > kNarrowest) --headStretch_;
+  for (const bool brief : {false, true}) {
+    briefResult_ = brief;
+    headStretch_ = stretch_;
+    while (HeadWidth() > width() - 2 * Padding() && headStretch_ > kNarrowest) --headStretch_;
+    if (HeadWidth() <= width() - 2 * Padding()) break;
+  }
   update();
 }
 
 bool Plate::FiguresFit() const {
   const QFontMetricsF plain(TextFont(false));
   const QFontMetricsF bold(TextFont(true));
-  const double room = width() - 2 * kPadding;
+  const double room = width() - 2 * Padding();
   const auto fits = [&](const QString& caption, const QString& figure) {
     return plain.horizontalAdvance(caption + QLatin1Char(' ') + figure) <= room;
   };
-  return fits(Told("Rail:"), text_.rail) && fits(Told("Bankroll:"), text_.bankroll) &&
+  return fits(Told("Rail:"), text_.rail) && fits(BankrollCaption(), text_.bankroll) &&
          fits(text_.betsCaption, text_.bets) &&
-         bold.horizontalAdvance(text_.resultCaption + QLatin1Char(' ') + text_.result) <= room;
+         bold.horizontalAdvance(QLatin1Char('+') + text_.result) <= room;
 }
 
 void Plate::paintEvent(QPaintEvent*) {
@@ -225,13 +287,13 @@ void Plate::paintEvent(QPaintEvent*) {
   painter.setBrush(kPlateTone);
   painter.drawRoundedRect(body, 6, 6);
   const double row = (height() - above - 6) / 4.0;
-  QRectF line(kPadding, 3, width() - 2 * kPadding, row);
+  QRectF line(Padding(), 3, width() - 2 * Padding(), row);
   const QFont plain = TextFont(false);
   const QFont bold = HeadFont();
   const QFontMetricsF plainMetrics(plain);
   const QFontMetricsF boldMetrics(bold);
   // The head: the result first, since a name is cut and a figure never.
-  const QString result = text_.resultCaption + QLatin1Char(' ') + text_.result;
+  const QString result = ResultText();
   double resultWidth = boldMetrics.horizontalAdvance(result);
   painter.setFont(bold);
   const QColor outcome = text_.sign > 0 ? kWonTone : text_.sign < 0 ? kLostTone : QColor(Qt::white);
@@ -294,7 +356,7 @@ void Plate::paintEvent(QPaintEvent*) {
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, value);
   };
   figure(Told("Rail:"), text_.rail);
-  figure(Told("Bankroll:"), text_.bankroll);
+  figure(BankrollCaption(), text_.bankroll);
   figure(text_.betsCaption, text_.bets);
   if (pointer_ < 0) return;
   painter.translate(0, -kTip);

@@ -31,9 +31,9 @@ struct PlateText {
 
   friend bool operator==(const PlateText&, const PlateText&) = default;
 };
-PlateText PlateTextOf(const Game& game, int seat);
+PlateText PlateTextOf(const Game& game, SeatId seat);
 // The lines of a player's money as one: "Rail: 463.00", "Bankroll: 535.00", ...
-QStringList MoneyLines(const Game& game, int seat);
+QStringList MoneyLines(const Game& game, SeatId seat);
 
 // Where the plates of all seats stand, whoever is there. Index by seat.
 using PlatePlaces = std::array<QRect, kSeatRows>;
@@ -41,7 +41,7 @@ using PlatePlaces = std::array<QRect, kSeatRows>;
 // fitted: the table is shown whole and upright, so that the lower plates may stand on its rail.
 PlatePlaces PlacePlates(QSize stage, const QRect& table, const TableView& view, const Measures& measures,
                         bool fitted);
-// The size they have there; the small one where the other has no room.
+// The size they have there: the largest that leaves the places of the CheckStacks free.
 QSize PlateSize(QSize stage, const Measures& measures);
 // Room that the plates need above and below a table that is turned, enlarged or moved, so that they never
 // stand on its felt; of a table shown whole the part that hangs below it.
@@ -54,8 +54,8 @@ class Plate : public QWidget {
   Q_OBJECT
 
  public:
-  Plate(int seat, QWidget* parent);
-  int Seat() const { return seat_; }
+  Plate(SeatId seat, QWidget* parent);
+  SeatId Seat() const { return seat_; }
   // textHeight in screen units; pointer: where the player's place is, from the plate's left edge, for the tip
   // above the plate that points to it, which is then kPlateTip higher; below 0 without one. After a resize.
   void SetLook(double textHeight, int pointer);
@@ -65,8 +65,8 @@ class Plate : public QWidget {
   bool FiguresFit() const;
 
  signals:
-  void chosen(int seat);
-  void menuWanted(int seat, QPoint where);
+  void chosen(SeatId seat);
+  void menuWanted(SeatId seat, QPoint where);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -78,15 +78,20 @@ class Plate : public QWidget {
   void Tell();
   QFont TextFont(bool bold) const;
   QFont HeadFont() const;
+  double Padding() const;
+  bool IsNarrow() const;
+  QString BankrollCaption() const;
+  QString ResultText() const;
   double HeadWidth() const;
   void FitLetters();
 
-  const int seat_;
+  const SeatId seat_;
   PlateText text_;
   double textHeight_ = 11.5;
   int pointer_ = -1;
   int stretch_ = 100;      // of the letters, in percent
   int headStretch_ = 100;  // of those of name and result
+  bool briefResult_ = false;
 };
 
 }  // namespace tessaryn

@@ -1,8 +1,8 @@
 #include "shell/table/roll_story.h"
 
 #include <QCoreApplication>
-#include <QLocale>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 #include "stats/statistics.h"
@@ -52,17 +52,36 @@ RollMark MarkOf(int pointBefore, int total) {
 
 void RollHistory::Note(const Game& game) {
   const std::int64_t throws = Throws(game.stats);
+  const std::int64_t session = SessionRolls(game.stats);
+  if (session < size_) size_ = 0;
   if (throws == throws_) return;
   if (throws != throws_ + 1) size_ = 0;
   throws_ = throws;
-  if (throws == 0) return;
+  if (session == 0) return;
   const TableState& table = game.table;
-  rolls_[next_] = {table.RollTotal, MarkOf(table.PointBeforeRoll, table.RollTotal)};
+  Add({table.Die1, table.Die2, table.PointBeforeRoll, table.HandSeat});
+}
+
+void RollHistory::Add(const KeptRoll& roll) {
+  rolls_[next_] = {roll.Total(), MarkOf(roll.PointBefore, roll.Total()), roll};
   next_ = (next_ + 1) % kMost;
   if (size_ < kMost) ++size_;
 }
 
-void RollHistory::Forget() { *this = {}; }
+void RollHistory::Keep(Game& game) const {
+  ScreenState& screen = game.screen;
+  screen.DiceHistory.clear();
+  for (int back = size_ - 1; back >= 0; --back) screen.DiceHistory.push_back(Back(back).roll);
+  screen.DiceHistoryThrows = throws_;
+}
+
+void RollHistory::Take(const Game& game) {
+  *this = {};
+  const ScreenState& screen = game.screen;
+  if (screen.DiceHistory.empty() || screen.DiceHistoryThrows != Throws(game.stats)) return Note(game);
+  throws_ = screen.DiceHistoryThrows;
+  for (const KeptRoll& roll : screen.DiceHistory) Add(roll);
+}
 
 RollStory StoryOf(const Game& game, bool settled) {
   const TableState& table = game.table;
@@ -73,7 +92,7 @@ RollStory StoryOf(const Game& game, bool settled) {
   story.die2 = table.Die2;
   story.pointBefore = table.PointBeforeRoll;
   story.mark = MarkOf(table.PointBeforeRoll, table.RollTotal);
-  for (int seat = 1; seat <= kSeats && settled; ++seat)
+  for (SeatId seat = 1; seat <= kSeats && settled; ++seat)
     if (IsOccupied(table, seat) && PlayerRolls(game.stats, kCurrentSession, seat) > 0)
       story.changes.push_back(
           {table.seats[seat].SeatName, table.BankrollAfterRoll[seat] - table.BankrollBeforeRoll[seat]});
@@ -84,7 +103,7 @@ QString RollSentence(const RollStory& story) {
   if (story.roll == 0) return {};
   // Arguments that a sentence doesn't take are not given to it.
   const QString sentence = Told(WordsOf(story.mark).sentence)
-                               .arg(QLocale().toString(static_cast<qlonglong>(story.roll)))
+                               .arg(ShownCount(story.roll))
                                .arg(story.die1 + story.die2)
                                .arg(story.die1)
                                .arg(story.die2);
@@ -122,7 +141,7 @@ QStringList TotalKinds() {
 
 QString HandTitle(const Game& game) {
   return Told(QT_TRANSLATE_NOOP("Board", "Hand %1"))
-      .arg(QLocale().toString(static_cast<qlonglong>(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1)));
+      .arg(ShownCount(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1));
 }
 
 QString HandText(const Game& game, bool brief) {
@@ -130,21 +149,21 @@ QString HandText(const Game& game, bool brief) {
   for (int number = 4; number <= 10; ++number)
     if (number != 7) made += game.stats.NumberCounts[Slot(kCurrentHand, 0)][number][kPasses];
   const int rolls = static_cast<int>(HandRolls(game.stats));
-  const QString rolled = rolls == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 roll"))
-                                    : Told(QT_TRANSLATE_NOOP("Board", "%1 rolls")).arg(rolls);
+  const QString rolled =
+      QCoreApplication::translate("Board", "%1 rolls", nullptr, PluralOf(rolls)).arg(ShownCount(rolls));
   if (brief) return rolled;
-  const QString points = made == 1 ? Told(QT_TRANSLATE_NOOP("Board", "1 point made"))
-                                   : Told(QT_TRANSLATE_NOOP("Board", "%1 points made")).arg(made);
+  const QString points =
+      QCoreApplication::translate("Board", "%1 points made", nullptr, PluralOf(made)).arg(made);
   return Told(QT_TRANSLATE_NOOP("Board", "%1, %2")).arg(rolled, points);
 }
 
 std::vector<BetChange> BetChanges(const Game& game) {
   std::vector<BetChange> changes;
-  const std::int64_t roll = SessionRolls(game.stats);
+  const RollNumber roll = SessionRolls(game.stats);
   if (roll == 0) return changes;
   for (int i = 0; i < game.table.OccupiedSeats; ++i) {
-    const int seat = game.table.Seated[i];
-    for (int bet = 1; bet <= kBets; ++bet) {
+    const SeatId seat = game.table.Seated[i];
+    for (BetId bet = 1; bet <= kBets; ++bet) {
       const auto& kinds = game.stats.Bets[bet][seat][kCurrentHand].kinds;
       const auto& last = game.stats.Bets[bet][seat][kLastHand].kinds;
       for (const int table : {kWinStats, kLossStats}) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "base/table_types.h"
+#include "state/screen_state.h"
 
 namespace tessaryn {
 
@@ -22,22 +22,27 @@ RollMark MarkOf(int pointBefore, int total);
 struct RolledOnce {
   int total = 0;  // 0 none
   RollMark mark = RollMark::kNone;
+  KeptRoll roll;
 };
 
-// The last rolls of a table, noted while it is played; all of a run at full speed too, so noting one costs
+// The last rolls of a session, noted while it is played; all of a run at full speed too, so noting one costs
 // next to nothing.
 class RollHistory {
  public:
   static constexpr int kMost = 20;
   // The roll that the table shows, unless it has been noted. Rolls that nobody noted leave no gap: the
-  // history begins anew.
+  // history begins anew, as it does with a session.
   void Note(const Game& game);
-  void Forget();
+  // As the game keeps it for its file, and back: of a game without one the roll that its table shows.
+  void Keep(Game& game) const;
+  void Take(const Game& game);
   int Size() const { return size_; }
   // 0 the newest. Requires back < Size().
   const RolledOnce& Back(int back) const { return rolls_[(next_ + kMost - 1 - back) % kMost]; }
 
  private:
+  void Add(const KeptRoll& roll);
+
   std::array<RolledOnce, kMost> rolls_;
   int next_ = 0;
   int size_ = 0;
@@ -50,7 +55,7 @@ struct SeatChange {
 };
 
 struct RollStory {
-  std::int64_t roll = 0;  // of the session; 0 there was none
+  RollNumber roll = 0;  // of the session; 0 there was none
   int die1 = 0;
   int die2 = 0;
   int pointBefore = 0;
@@ -79,8 +84,8 @@ QString HandText(const Game& game, bool brief);
 
 // What was won and lost by the last roll, bet by bet.
 struct BetChange {
-  int seat = 0;
-  int bet = 0;
+  SeatId seat = 0;
+  BetId bet = 0;
   Currency change;
 };
 std::vector<BetChange> BetChanges(const Game& game);

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "play/auto_roll.h"
+#include "shell/table/number_habit.h"
 #include "state/game.h"
 
 namespace tessaryn {
@@ -30,7 +31,8 @@ QString ThrottleText(int position) {
   if (position == kThrottleAutoRoll) return QCoreApplication::translate("RunControls", "Auto-Roll");
   if (position == 0) return QCoreApplication::translate("RunControls", "Full speed");
   // A roll's pause doubles with each position.
-  return QCoreApplication::translate("RunControls", "%1 s a roll").arg(0.01 * (1 << position), 0, 'f', 2);
+  return QCoreApplication::translate("RunControls", "%1 s a roll")
+      .arg(ShownNumber(0.01 * (1 << position), 2));
 }
 
 namespace {

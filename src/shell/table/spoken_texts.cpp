@@ -19,6 +19,8 @@
 #include <cctype>
 #include <utility>
 
+#include "shell/table/number_habit.h"
+
 namespace tessaryn {
 namespace {
 
@@ -44,6 +46,13 @@ int LettersOf(const QString& text) {
 bool IsTyped(const QObject& object) {
   return object.inherits("QLineEdit") || object.inherits("QPlainTextEdit") || object.inherits("QTextEdit") ||
          object.inherits("QsciScintillaBase");
+}
+
+// Of "1,234" what chooses the form of words for so many.
+int CountIn(const QString& number) {
+  QString digits = number;
+  digits.removeIf([](QChar letter) { return !letter.isDigit(); });
+  return PluralOf(digits.toLongLong());
 }
 
 // Null when no part is said anew.
@@ -91,21 +100,20 @@ SpokenTexts& SpokenTexts::Of() {
 
 // --- What is asked for.
 
-QString SpokenTexts::translate(const char* context, const char* source, const char*, int) const {
+QString SpokenTexts::translate(const char* context, const char* source, const char*, int count) const {
   if (IsOfQt(context) || source == nullptr || *source == 0) return {};
-  const QString text = words_ ? words_(context, source) : QString();
+  const QString text = words_ ? words_(context, source, count) : QString();
   const QMutexLocker lock(&mutex_);
   QString heard = text.isEmpty() ? QString::fromUtf8(source) : text;
-  Hear(heard, context, source, false);
-  if (heard.contains('&')) Hear(heard.remove('&'), context, source, true);
+  Hear(heard, Row{context, source, false, count >= 0});
+  if (heard.contains('&')) Hear(heard.remove('&'), Row{context, source, true, count >= 0});
   return text;
 }
 
-void SpokenTexts::Hear(const QString& text, const char* context, const char* source, bool letterless) const {
+void SpokenTexts::Hear(const QString& text, const Row& row) const {
   QList<Row>& rows = heard_.texts[text];
-  for (const Row& row : rows)
-    if (row.context == context && row.source == source && row.letterless == letterless) return;
-  rows.append(Row{context, source, letterless});
+  if (rows.contains(row)) return;
+  rows.append(row);
   const QStringList between = text.split(Hole());
   int letters = 0;
   QString longest;
@@ -127,7 +135,7 @@ void SpokenTexts::Hear(const QString& text, const char* context, const char* sou
   const auto place = std::find_if(heard_.patterns.begin(), heard_.patterns.end(),
                                   [letters](const Pattern& other) { return other.letters < letters; });
   heard_.patterns.insert(
-      place, Pattern{text, longest, letters, Row{context, source, letterless},
+      place, Pattern{text, longest, letters, row,
                      QRegularExpression(expression, QRegularExpression::DotMatchesEverythingOption), holes});
 }
 
@@ -158,8 +166,9 @@ const SpokenTexts::Row* SpokenTexts::RowOf(const QString& text, const QWidget& n
   return &found->front();
 }
 
-QString SpokenTexts::Said(const Row& row) {
-  QString text = QCoreApplication::translate(row.context, row.source);
+QString SpokenTexts::Said(const Row& row, int count) {
+  QString text =
+      QCoreApplication::translate(row.context, row.source, nullptr, row.counted ? std::max(0, count) : -1);
   return row.letterless ? text.remove('&') : text;
 }
 
@@ -173,7 +182,9 @@ QString SpokenTexts::ByPattern(const QString& text, const QWidget& near) const {
     if (!text.contains(pattern.longest)) continue;
     const QRegularExpressionMatch match = pattern.whole.match(text);
     if (!match.hasMatch()) continue;
-    const QString anew = Said(pattern.row);
+    const auto counts = pattern.holes.indexOf(1);
+    const QString anew =
+        Said(pattern.row, counts < 0 ? -1 : CountIn(match.captured(static_cast<int>(counts) + 1)));
     QString filled;
     qsizetype from = 0;
     for (auto hole = Hole().globalMatch(anew); hole.hasNext();) {
@@ -252,7 +263,10 @@ void SpokenTexts::SayItems(QWidget& widget) {
   } else if (auto* table = qobject_cast<QTableWidget*>(&widget)) {
     for (int column = 0; column < table->columnCount(); ++column) {
       plain(table->horizontalHeaderItem(column));
-      for (int row = 0; row < table->rowCount(); ++row) plain(table->item(row, column));
+      for (int row = 0; row < table->rowCount(); ++row)
+        if (QTableWidgetItem* of = table->item(row, column);
+            of != nullptr && !of->data(kNobodysWord).toBool())
+          plain(of);
     }
     for (int row = 0; row < table->rowCount(); ++row) plain(table->verticalHeaderItem(row));
   } else if (auto* tree = qobject_cast<QTreeWidget*>(&widget)) {

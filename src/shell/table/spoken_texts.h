@@ -15,8 +15,12 @@ class QWidget;
 
 namespace tessaryn {
 
-// The words of a language for a text of a context, or a null text for the source.
-using Wording = std::function<QString(const char* context, const char* source)>;
+// The words of a language for a text of a context, or a null text for the source. count: of what is counted
+// in it, which has a form for one, for several; -1 where nothing is. A counted text holds its number as %1.
+using Wording = std::function<QString(const char* context, const char* source, int count)>;
+
+// Of a table's item: its text is nobody's word, a name in a script say, and stays in every language.
+inline constexpr int kNobodysWord = Qt::UserRole + 90;
 
 class SpokenTexts : public QTranslator {
  public:
@@ -35,6 +39,9 @@ class SpokenTexts : public QTranslator {
     QByteArray context;
     QByteArray source;
     bool letterless = false;  // the text without its access letter
+    bool counted = false;
+
+    friend bool operator==(const Row&, const Row&) = default;
   };
   struct Pattern {  // a text with holes
     QString text;
@@ -50,8 +57,8 @@ class SpokenTexts : public QTranslator {
   };
 
   explicit SpokenTexts(QObject* parent);
-  void Hear(const QString& text, const char* context, const char* source, bool letterless) const;
-  static QString Said(const Row& row);
+  void Hear(const QString& text, const Row& row) const;
+  static QString Said(const Row& row, int count = -1);
   void SayAnew(QWidget& widget);
   void SayItems(QWidget& widget);
   void SayProperties(QObject& object, const QWidget& near);

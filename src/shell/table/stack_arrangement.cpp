@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/bet_families.h"
 #include "state/game.h"
@@ -71,17 +72,21 @@ struct Arranger {
 
 // --- The stacks.
 
-CheckPile ChecksOf(const TableScene& scene, const StandingStack& stack) {
+CheckPile ChecksOf(const Arranger& table, const StandingStack& stack) {
+  const TableScene& scene = table.scene;
   const Settings& settings = scene.game->settings;
+  // A high one would cover the numeral above it, and the stacks behind.
+  const bool shares = SharesArea(table.layout, scene.game->table, stack.Seat, stack.Bet);
+  const int most = shares ? kSharedPileHeight : kPileHeight;
   if (scene.piles == nullptr || settings.AutoArrangeChecks)
-    return BreakIntoChecks(stack.Amount, settings.CheckValue, kPileHeight);
+    return BreakIntoChecks(stack.Amount, settings.CheckValue, most);
   const CheckPile& lies = scene.piles->PileOf(stack.Seat, stack.Bet, stack.Amount, settings.CheckValue);
   // Of a pile that would stand too high, the upper checks show.
-  const auto over = std::max<std::ptrdiff_t>(0, static_cast<std::ptrdiff_t>(lies.size()) - kPileHeight);
+  const auto over = std::max<std::ptrdiff_t>(0, static_cast<std::ptrdiff_t>(lies.size()) - most);
   return {lies.begin() + over, lies.end()};
 }
 
-void AddStack(Arranger& table, int seat, int bet) {
+void AddStack(Arranger& table, SeatId seat, BetId bet) {
   const Game& game = *table.scene.game;
   StandingStack stack;
   stack.Seat = seat;
@@ -89,7 +94,7 @@ void AddStack(Arranger& table, int seat, int bet) {
   stack.Amount = game.table.BetAmount(seat, bet);
   stack.Base = table.view.ToScreen(StackPlace(table.layout, game.table, seat, bet));
   if (table.IsHeld(stack)) stack.Base = table.scene.heldAt;
-  stack.Checks = ChecksOf(table.scene, stack);
+  stack.Checks = ChecksOf(table, stack);
   const auto above = static_cast<double>(stack.Checks.size()) - 1;
   stack.Face = stack.Base - QPointF(0, above * kStackStep * table.diameter);
   const bool working = !IsTableBet(bet) || WorkingValue(game.table.seats[seat].BetWorking, bet) != 0;
@@ -100,9 +105,9 @@ void AddStack(Arranger& table, int seat, int bet) {
 void CollectStacks(Arranger& table) {
   const TableState& state = table.scene.game->table;
   table.stacks.reserve(128);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     if (!IsOccupied(state, seat)) continue;
-    state.seats[seat].SeatBets.ForEach([&](int bet) { AddStack(table, seat, bet); });
+    state.seats[seat].SeatBets.ForEach([&](BetId bet) { AddStack(table, seat, bet); });
     for (const int stack : state.seats[seat].VisibleStacks)
       if (state.BetAmount(seat, kFirstCheckStack + stack).raw != 0)
         AddStack(table, seat, kFirstCheckStack + stack);
@@ -122,10 +127,10 @@ void FindFaint(Arranger& table) {
   for (std::size_t n = 0; n < table.stacks.size(); ++n) all.Add(table.stacks[n].Face, static_cast<int>(n));
   for (StandingStack& stack : table.stacks) {
     if (stack.Seat == table.Selected()) continue;
+    // Of those that are drawn over it any may cover its face.
     stack.Faint = all.Any(stack.Face, [&](int n) {
       const StandingStack& other = table.stacks[n];
-      return &other != &stack && std::min(ApartFromStack(stack.Face, other),
-                                          ApartFromStack(other.Face, stack)) < kTooClose * table.diameter;
+      return &other > &stack && ApartFromStack(stack.Face, other) < kTooClose * table.diameter;
     });
   }
   for (std::size_t n = 0; n < table.stacks.size(); ++n)
@@ -172,7 +177,7 @@ QString ShortAmount(Currency amount) {
   const double unit = value >= 1e6 ? 1e6 : 1e3;
   const double share = value / unit;
   const double step = share >= 100 ? 1 : share >= 10 ? 10 : 100;
-  const QString figure = QString::number(std::floor(share * step + 1e-9) / step);
+  const QString figure = InHabit(QString::number(std::floor(share * step + 1e-9) / step));
   return (amount.raw < 0 ? QStringLiteral("-") : QString()) + figure +
          (unit == 1e6 ? QStringLiteral("M") : QStringLiteral("k"));
 }

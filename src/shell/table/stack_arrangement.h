@@ -15,13 +15,13 @@ namespace tessaryn {
 
 // A stack with what it bears, in screen units. An empty rectangle: it bears none of that.
 struct StandingStack {
-  int Seat = 0;
-  int Bet = 0;
+  SeatId Seat = 0;
+  BetId Bet = 0;
   Currency Amount;
   CheckPile Checks;
   QPointF Base;        // the middle of its lowest check
   QPointF Face;        // the middle of its uppermost
-  bool Faint = false;  // another's under or beside the selected player's: at 60%, with nothing on it
+  bool Faint = false;  // another stands over its face: at 60%, with nothing on it
   bool Off = false;    // off by default on the come-out: at 60%
   QRectF Badge;        // its total
   QString BadgeText;

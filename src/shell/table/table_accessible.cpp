@@ -3,7 +3,6 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCoreApplication>
-#include <QLocale>
 #include <QWindow>
 #include <map>
 #include <tuple>
@@ -11,6 +10,7 @@
 
 #include "base/bet_catalogue.h"
 #include "shell/table/bet_tips.h"
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "shell/table/table_widget.h"
 #include "state/game.h"
@@ -28,9 +28,9 @@ QString Said(const char* text) { return QCoreApplication::translate("TableAccess
 enum class PartKind { kArea, kSeat, kStack, kRoll };
 struct Part {
   PartKind kind = PartKind::kRoll;
-  int seat = 0;  // of a seat and a stack
-  int bet = 0;   // of a stack
-  int area = 0;  // its place in the layout
+  SeatId seat = 0;  // of a seat and a stack
+  BetId bet = 0;    // of a stack
+  int area = 0;     // its place in the layout
   auto operator<=>(const Part&) const = default;
 };
 
@@ -69,7 +69,7 @@ class PartAccessible : public QAccessibleInterface, public QAccessibleActionInte
   TableWidget& widget() const;
   const TableArea& area() const;
   // The bet that a click there means for the selected player; 0 for none.
-  int Bet() const;
+  BetId Bet() const;
   bool OfSelected() const;
   bool CanAct() const { return !actionNames().isEmpty(); }
   QString Name() const;
@@ -108,7 +108,7 @@ class TableAccessible : public QAccessibleWidget {
   QAccessibleInterface* childAt(int x, int y) const override {
     const QPoint point = table_->mapFromGlobal(QPoint(x, y));
     if (const Part area = AreaAt(point); area.kind == PartKind::kArea) return Of(area);
-    if (const int seat = table_->SeatAt(point); seat != 0) return Of({PartKind::kSeat, seat});
+    if (const SeatId seat = table_->SeatAt(point); seat != 0) return Of({PartKind::kSeat, seat});
     return QAccessibleWidget::childAt(x, y);
   }
   QAccessibleInterface* focusChild() const override {
@@ -145,9 +145,9 @@ class TableAccessible : public QAccessibleWidget {
     std::vector<Part> parts{{PartKind::kRoll}};
     for (std::size_t at = 0; at < table_->Layout().Areas.size(); ++at)
       parts.push_back({PartKind::kArea, 0, 0, static_cast<int>(at)});
-    for (int seat = 1; seat <= kSeats; ++seat) parts.push_back({PartKind::kSeat, seat});
-    for (int seat = 1; seat <= kSeats; ++seat)
-      TheGame().table.seats[seat].SeatBets.ForEach([&](int bet) {
+    for (SeatId seat = 1; seat <= kSeats; ++seat) parts.push_back({PartKind::kSeat, seat});
+    for (SeatId seat = 1; seat <= kSeats; ++seat)
+      TheGame().table.seats[seat].SeatBets.ForEach([&](BetId bet) {
         parts.push_back({PartKind::kStack, seat, bet});
       });
     return parts;
@@ -176,10 +176,10 @@ QWindow* PartAccessible::window() const { return table_.window(); }
 QAccessibleInterface* PartAccessible::parent() const { return &table_; }
 bool PartAccessible::OfSelected() const { return part_.seat == game().table.SelectedSeat; }
 
-int PartAccessible::Bet() const {
+BetId PartAccessible::Bet() const {
   return part_.kind == PartKind::kArea    ? MeantBet(game(), area().Id)
          : part_.kind == PartKind::kStack ? part_.bet
-                                          : 0;
+                                          : kNoBet;
 }
 
 QString PartAccessible::Name() const {
@@ -187,7 +187,7 @@ QString PartAccessible::Name() const {
   switch (part_.kind) {
     case PartKind::kArea: {
       // Odds that aren't up mean their flat bet, which has an area of its own.
-      const QString bet = FromCore(BetName(IsDontComeOdds(area().Id) ? area().Id : Bet()));
+      const QString bet = FromCore(BetName(IsDontComeOdds(area().Id) ? BetId(area().Id) : Bet()));
       if (area().Side == 0) return bet;
       return (area().Side == 1 ? Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, left end"))
                                : Said(QT_TRANSLATE_NOOP("TableAccessible", "%1, right end")))
@@ -213,7 +213,7 @@ QString PartAccessible::Value() const {
   if (part_.kind == PartKind::kSeat)
     return IsOccupied(table, part_.seat) ? TableAmountText(game(), table.BankrollCurrent[part_.seat])
                                          : QString();
-  const int seat = part_.kind == PartKind::kStack ? part_.seat : table.SelectedSeat;
+  const SeatId seat = part_.kind == PartKind::kStack ? part_.seat : table.SelectedSeat;
   return TableAmountText(game(), table.BetAmount(seat, Bet()));
 }
 
@@ -299,13 +299,13 @@ void PartAccessible::doAction(const QString& name) {
   if (!actionNames().contains(name)) return;
   TableWidget* const table = &widget();
   const auto soon = [table](auto act) { QMetaObject::invokeMethod(table, act, Qt::QueuedConnection); };
-  const int bet = Bet();
+  const BetId bet = Bet();
   if (name == kTakeDown) return soon([table, bet] { emit table->betMoved(bet, 0); });
   if (name == setFocusAction()) {
     table->setFocus();
     return table->SetFocusBet(area().Id, area().Side);
   }
-  const int seat = part_.seat;
+  const SeatId seat = part_.seat;
   if (part_.kind == PartKind::kSeat) return soon([table, seat] { emit table->seatClicked(seat); });
   soon([table, bet] { emit table->betClicked(bet, false); });
 }
@@ -354,7 +354,7 @@ void TellTableChanged(TableWidget& table) {
 QString RollAnnouncement(const Game& game) {
   const TableState& table = game.table;
   const QString roll = Said(QT_TRANSLATE_NOOP("TableAccessible", "Roll %1: %2 (%3-%4)"))
-                           .arg(QLocale().toString(static_cast<qlonglong>(SessionRolls(game.stats))))
+                           .arg(ShownCount(SessionRolls(game.stats)))
                            .arg(table.RollTotal)
                            .arg(table.Die1)
                            .arg(table.Die2);
@@ -369,7 +369,7 @@ QString RollAnnouncement(const Game& game) {
                          : Said(QT_TRANSLATE_NOOP("TableAccessible", "the point stays %1")))
                 .arg(table.Point);
   QStringList players;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const Currency change = table.BankrollCurrent[seat] - table.BankrollBeforeRoll[seat];
     if (!IsOccupied(table, seat) || change == kZero) continue;
     players += (change > kZero ? Said(QT_TRANSLATE_NOOP("TableAccessible", "%1 won %2"))

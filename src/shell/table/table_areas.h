@@ -68,7 +68,7 @@ struct FeltLine {
 enum class Progress { kNumber, kPoint, kRoll, kCount };
 struct TableMark {
   Progress Kind = Progress::kNumber;
-  int Bet = 0;
+  BetId Bet = 0;
   int Number = 0;  // kNumber the number rolled, kPoint 0 to 5 by point, kRoll which roll, from 0
   QRectF Box;
   TableLabel Label;  // kNumber: as it is written over the gold

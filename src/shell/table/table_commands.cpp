@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "play/auto_roll.h"
+#include "play/bet_facts.h"
 #include "play/script_session.h"
 #include "rules/bet_rules.h"
 #include "shell/table/plates.h"
@@ -17,22 +18,22 @@ namespace tessaryn {
 namespace {
 
 // A bet of the selected seat made by hand; the log of such bets has it, if it is kept.
-void PlaceByHand(Game& game, int bet, Currency request) {
-  const int seat = game.table.SelectedSeat;
+void PlaceByHand(Game& game, BetId bet, Currency request) {
+  const SeatId seat = game.table.SelectedSeat;
   if (PlaceBet(game, seat, bet, request) != kZero) LogBet(game, seat, bet);
 }
 
 // Takes the bet up for the next click. A contract stays where it is.
-void CarryBet(Game& game, TableCommands& commands, int bet) {
-  const int seat = game.table.SelectedSeat;
+void CarryBet(Game& game, TableCommands& commands, BetId bet) {
+  const SeatId seat = game.table.SelectedSeat;
   const Currency amount = game.table.BetAmount(seat, bet);
   if (amount == kZero || IsContractBet(game, seat, bet)) return;
   const Currency taken = -RemoveBet(game, seat, bet);
   if (taken > kZero) commands.CarriedAmount = taken;
 }
 
-void ReplaceAmount(Game& game, int bet, Currency amount) {
-  const int seat = game.table.SelectedSeat;
+void ReplaceAmount(Game& game, BetId bet, Currency amount) {
+  const SeatId seat = game.table.SelectedSeat;
   if (!IsOccupied(game.table, seat) || amount.IsError()) return;
   const Currency up = game.table.BetAmount(seat, bet);
   if (amount == up) return;
@@ -47,7 +48,7 @@ void ReplaceAmount(Game& game, int bet, Currency amount) {
 }
 
 // The bet that a click on odds means when they aren't up: the flat bet that shares their place.
-int OrItsFlatBet(const Game& game, int bet) {
+BetId OrItsFlatBet(const Game& game, BetId bet) {
   const bool up = game.table.BetAmount(game.table.SelectedSeat, bet) != kZero;
   return !up && IsOdds(bet) ? FlatBetOf(bet) : bet;
 }
@@ -68,19 +69,19 @@ bool GiveUp(TableCommands& commands) {
   return any;
 }
 
-bool IsContractBet(const Game& game, int seat, int bet) {
+bool IsContractBet(const Game& game, SeatId seat, BetId bet) {
   const bool contract = bet == kSevenPoint7 || UnderContract(game.table, bet);
   return contract && game.table.BetCommitted(seat, bet) > kZero;
 }
 
-void RemoveClickedBet(Game& game, int bet) {
+void RemoveClickedBet(Game& game, BetId bet) {
   bet = OrItsFlatBet(game, bet);
   PlaceByHand(game, bet, -game.table.BetAmount(game.table.SelectedSeat, bet));
 }
 
-bool TakeInHand(Game& game, TableCommands& commands, int bet) {
+bool TakeInHand(Game& game, TableCommands& commands, BetId bet) {
   commands.PendingAction = kPendingNone;
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   bet = OrItsFlatBet(game, bet);
   if (!IsTableBet(bet) || game.table.BetAmount(seat, bet) == kZero) {
     ShowMessage<Msg::kOnlyBetsMove>(game);
@@ -90,18 +91,18 @@ bool TakeInHand(Game& game, TableCommands& commands, int bet) {
   return true;
 }
 
-int PutDownBet(const Game& game, const BetInHand& hand, int area) {
+BetId PutDownBet(const Game& game, const BetInHand& hand, int area) {
   if (area == AreaOf(hand.Bet)) return hand.Bet;
   // An area that means the bet in hand while that is up means itself once it has left.
-  const int bet = MeantBet(game, area);
-  return bet == hand.Bet ? area : bet;
+  const BetId bet = MeantBet(game, area);
+  return bet == hand.Bet ? BetId(area) : bet;
 }
 
 void MoveBet(Game& game, int from, int to) {
   if (from == to) return;
   if (to == 0) return RemoveClickedBet(game, from);
   TableState& table = game.table;
-  const int seat = table.SelectedSeat;
+  const SeatId seat = table.SelectedSeat;
   const Currency amount = table.BetAmount(seat, from);
   // Tried without a word first: what the other bet refuses can't always be made anew where it was.
   const auto before = std::make_unique<const TableState>(table);
@@ -124,17 +125,17 @@ void MoveBet(Game& game, int from, int to) {
 }
 
 void RemoveAllBets(Game& game) {
-  const int seat = game.table.SelectedSeat;
+  const SeatId seat = game.table.SelectedSeat;
   // A contract that can't come down is left without a word for each.
   game.table.seats[seat].SeatBets.ForEach(
-      [&](int bet) { PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet), Asking::kQuietly); });
+      [&](BetId bet) { PlaceBet(game, seat, bet, -game.table.BetAmount(seat, bet), Asking::kQuietly); });
   game.host->Changed(game, Change::kLayout);
 }
 
 namespace {
 
-bool CarryOutClick(Game& game, TableCommands& commands, int bet, bool alt) {
-  const int seat = game.table.SelectedSeat;
+bool CarryOutClick(Game& game, TableCommands& commands, BetId bet, bool alt) {
+  const SeatId seat = game.table.SelectedSeat;
   const int action = commands.PendingAction;
   commands.PendingAction = kPendingNone;
   switch (action) {
@@ -169,14 +170,14 @@ bool CarryOutClick(Game& game, TableCommands& commands, int bet, bool alt) {
 
 }  // namespace
 
-bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt) {
+bool ClickBet(Game& game, TableCommands& commands, BetId bet, bool alt) {
   if (!IsOccupied(game.table, game.table.SelectedSeat)) return false;
   bool asksForAmount = false;
   AsBetStep(commands.History, game, [&] { asksForAmount = CarryOutClick(game, commands, bet, alt); });
   return asksForAmount;
 }
 
-void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount) {
+void TakeEnteredAmount(Game& game, TableCommands& commands, BetId bet, Currency amount) {
   AsBetStep(commands.History, game, [&] { ReplaceAmount(game, bet, amount); });
 }
 
@@ -186,10 +187,30 @@ void RightClick(Game& game, TableCommands& commands) {
   RollDice(game);
 }
 
-int NextSeat(const Game& game, int direction) {
-  int seat = game.table.SelectedSeat;
+bool TakesClick(Game& game, const TableCommands& commands, BetId bet) {
+  const SeatId seat = game.table.SelectedSeat;
+  if (!IsTableBet(bet) || !IsOccupied(game.table, seat)) return true;
+  const auto isUp = [&](BetId which) { return game.table.BetAmount(seat, which) != kZero; };
+  switch (commands.PendingAction) {
+    case kPendingRemove:
+    case kPendingMove:
+      return isUp(OrItsFlatBet(game, bet));
+    case kPendingCallOn:
+    case kPendingCallOff:
+    case kPendingBuy:
+      return isUp(bet);
+    default:
+      break;
+  }
+  // Where a bet in hand may go is found out as it is put down.
+  if (commands.Moving.Bet != 0) return true;
+  return RoomFor(game, seat, bet) > kZero || (commands.BetAmountMode == kKeyInAmounts && isUp(bet));
+}
+
+SeatId NextSeat(const Game& game, int direction) {
+  SeatId seat = game.table.SelectedSeat;
   for (int step = 0; step < kSeats; ++step) {
-    seat += direction;
+    seat = seat + direction;
     if (seat < 1) seat = kSeats;
     if (seat > kSeats) seat = 1;
     if (IsOccupied(game.table, seat)) return seat;

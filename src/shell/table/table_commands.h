@@ -22,8 +22,8 @@ enum PendingAction : int {
 
 // A bet that is being moved. It stays up until it is put down elsewhere.
 struct BetInHand {
-  int Seat = 0;
-  int Bet = 0;  // 0 none
+  SeatId Seat = 0;
+  BetId Bet = 0;  // 0 none
 };
 
 // How the amount of a click is chosen.
@@ -48,18 +48,18 @@ bool GiveUp(TableCommands& commands);
 
 // The left button on a bet, for the selected seat: carries out the pending action, or adds. alt: the Alt key
 // is held. Returns whether the click asks for an amount to be keyed in; the caller then opens the entry box.
-bool ClickBet(Game& game, TableCommands& commands, int bet, bool alt);
+bool ClickBet(Game& game, TableCommands& commands, BetId bet, bool alt);
 // The amount typed replaces the bet.
-void TakeEnteredAmount(Game& game, TableCommands& commands, int bet, Currency amount);
+void TakeEnteredAmount(Game& game, TableCommands& commands, BetId bet, Currency amount);
 // The right button: drops a pending action; then asks to stop an Auto-Roll, or rolls.
 void RightClick(Game& game, TableCommands& commands);
 // Takes the bet down; odds that share their place with the flat bet take that down when they aren't up.
-void RemoveClickedBet(Game& game, int bet);
+void RemoveClickedBet(Game& game, BetId bet);
 // Takes the selected seat's bet in hand; for odds that aren't up their flat bet. False, with a box, when
 // there is nothing to move.
-bool TakeInHand(Game& game, TableCommands& commands, int bet);
+bool TakeInHand(Game& game, TableCommands& commands, BetId bet);
 // Which bet the one in hand becomes when it is put down on an area; the same bet on its own.
-int PutDownBet(const Game& game, const BetInHand& hand, int area);
+BetId PutDownBet(const Game& game, const BetInHand& hand, int area);
 // The selected seat's money goes from one bet to the other, as far as the rules of both let it; all stays
 // where it is when they don't. to 0: off the table.
 void MoveBet(Game& game, int from, int to);
@@ -67,19 +67,22 @@ void MoveBet(Game& game, int from, int to);
 void RemoveAllBets(Game& game);
 
 // Whether the bet holds money under contract.
-bool IsContractBet(const Game& game, int seat, int bet);
+bool IsContractBet(const Game& game, SeatId seat, BetId bet);
+
+// Whether what the next click is meant for may be done on the bet as the table stands.
+bool TakesClick(Game& game, const TableCommands& commands, int bet);
 
 // --- What the pointer is over (bet_tips.cpp).
 
 // "Place 6: 12".
-QString BetAmountText(const Game& game, int seat, int bet);
+QString BetAmountText(const Game& game, SeatId seat, BetId bet);
 // The whole line for the selected seat: what the next click is meant for if not for a bet, name, amount, vig,
 // payoff, and what may still be bet. Over no bet: what the player has.
-QString PointerText(Game& game, const TableCommands& commands, int bet);
+QString PointerText(Game& game, const TableCommands& commands, BetId bet);
 // The tip beside the pointer by InfoTipLevel; empty for none.
-QString InfoTip(Game& game, const TableCommands& commands, int bet);
+QString InfoTip(Game& game, const TableCommands& commands, BetId bet);
 
 // The seat that the arrow keys come to, upwards or downwards; the present one when there is no other.
-int NextSeat(const Game& game, int direction);
+SeatId NextSeat(const Game& game, int direction);
 
 }  // namespace tessaryn

@@ -12,12 +12,12 @@
 
 namespace tessaryn {
 
-void LayoutBuilder::Place(int seat, int bet, QPointF point) {
+void LayoutBuilder::Place(SeatId seat, BetId bet, QPointF point) {
   layout.CheckX(seat, bet) = static_cast<int>(std::lround(point.x()));
   layout.CheckY(seat, bet) = static_cast<int>(std::lround(point.y()));
 }
 
-TableArea* LayoutBuilder::Add(int bet, int side, const QPainterPath& outline, Ground fill) {
+TableArea* LayoutBuilder::Add(BetId bet, int side, const QPainterPath& outline, Ground fill) {
   if (!BetOffered(settings, bet)) return nullptr;
   layout.Areas.push_back({bet, side, outline, fill, false, true, {}});
   return &layout.Areas.back();
@@ -27,7 +27,7 @@ static QString PayoffCaption(const PayoffRecord& record) {
   return QString::fromStdString(PayoffText(record)).toUpper();
 }
 
-QString LayoutBuilder::Pays(int bet) const { return PayoffCaption(payoffs.PayoffTable[bet]); }
+QString LayoutBuilder::Pays(BetId bet) const { return PayoffCaption(payoffs.PayoffTable[bet]); }
 
 QRectF LayoutBox(double left, double top, double right, double bottom) {
   return {QPointF(left, top), QPointF(right, bottom)};
@@ -116,12 +116,12 @@ QPointF TwoByTwo(QPointF centre, QPointF step, int place) {
   return centre + QPointF(place % 2 == 0 ? -step.x() : step.x(), place / 2 == 0 ? -step.y() : step.y());
 }
 
-int FirstSeat(int side) { return side == 1 ? 1 : 5; }
+SeatId FirstSeat(int side) { return side == 1 ? 1 : 5; }
 
 // --- The six boxes of an end. Places are measured from the column's left edge.
 
 struct ColumnRow {
-  int firstBet;  // the bet of the 4; the other numbers follow
+  BetId firstBet;  // the bet of the 4; the other numbers follow
   double left;
   double right;
   double top;
@@ -143,7 +143,7 @@ constexpr ColumnRow kColumnRows[] = {
     {kBuy4, 0, kColumnWidth, 110, 140, "BUY", "B", 126, {38, 126}, {35, 126}, {6, 4.2}},
     {kCome4, 0, kHalf, 142, 188, "COME", "C", 162, {13.8, 171}, {13.8, 170}, {4.6, 4.2}},
     {kComeOdds4, kHalf, kColumnWidth, 142, 188, "ODDS", "O", 169, {40.2, 171}, {40.2, 170}, {4.6, 4.2}},
-    {kPlace4, 0, kColumnWidth, 190, 284, nullptr, nullptr, 237, {27, 265}, {27, 257}, {13.2, 13.2}},
+    {kPlace4, 0, kColumnWidth, 190, 284, nullptr, nullptr, 237, {27, 265}, {27, 261.5}, {13.2, 9.5}},
 };
 
 constexpr const char* kNumberWords[6] = {"4", "5", "SIX", "8", "NINE", "10"};
@@ -163,7 +163,7 @@ TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
   };
   if (row.label == nullptr)
     return Caption(kNumberWords[number],
-                   LayoutBox(box.left() + 2.5, box.top() + 4, box.right() - 2.5, box.top() + 56), 45.5,
+                   LayoutBox(box.left() + 2.5, box.top() + 3, box.right() - 2.5, box.top() + 49), 45.5,
                    Ink::kAccent);
   if (row.right - row.left < kColumnWidth) return caption(1.5);
   TableLabel label = caption(4);
@@ -175,7 +175,7 @@ TableLabel ColumnLabel(const ColumnRow& row, const QRectF& box, int number) {
 void AddColumnArea(LayoutBuilder& build, const ColumnRow& row, int side, int number) {
   const double x = (side == 1 ? kLeftColumns : kRightColumns) + number * kColumnWidth;
   const QRectF box = ColumnBox(row, x);
-  const int bet = row.firstBet + number;
+  const BetId bet = row.firstBet + number;
   TableArea* area =
       build.Add(bet, side, RoundedBox(box), row.label == nullptr ? Ground::kDark : Ground::kFelt);
   area->Edged = row.right - row.left == kColumnWidth;
@@ -210,7 +210,7 @@ void AddColumns(LayoutBuilder& build) {
 
 // An area of the left end with the places of seats 1 to 4.
 struct EndArea {
-  int bet;
+  BetId bet;
   QPainterPath outline;
   Ground fill = Ground::kDark;
   std::vector<TableLabel> labels;
@@ -315,7 +315,7 @@ void AddField(LayoutBuilder& build) {
   AddEndArea(build, field);
 }
 
-void AddBig(LayoutBuilder& build, int bet, const char* label, double left, double right, QPointF stack) {
+void AddBig(LayoutBuilder& build, BetId bet, const char* label, double left, double right, QPointF stack) {
   EndArea big;
   big.bet = bet;
   big.outline = CutByCorner(LayoutBox(left, 366, right, 444), 98);
@@ -383,16 +383,29 @@ TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payof
   return std::move(build.layout);
 }
 
-QPointF StackPlace(const TableLayout& layout, const TableState& table, int seat, int bet) {
-  const QPointF own(layout.CheckX(seat, bet), layout.CheckY(seat, bet));
-  if (!IsTableBet(bet)) return own;
-  const bool shared = !layout.Alone[0][bet].isNull();
-  const QPointF alone = layout.Alone[shared ? 0 : SideOf(seat)][bet];
-  if (alone.isNull()) return own;
-  const int first = shared ? 1 : FirstSeat(SideOf(seat));
-  for (int other = first; other < first + (shared ? kSeats : 4); ++other)
-    if (other != seat && table.seats[other].SeatBets.Has(bet)) return own;
-  return alone;
+namespace {
+
+// Where the seat's stack stands if it has the area to itself; null where every seat has a place of its own.
+QPointF PlaceAlone(const TableLayout& layout, SeatId seat, BetId bet) {
+  if (!IsTableBet(bet)) return {};
+  return layout.Alone[layout.Alone[0][bet].isNull() ? SideOf(seat) : 0][bet];
+}
+
+}  // namespace
+
+bool SharesArea(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet) {
+  if (PlaceAlone(layout, seat, bet).isNull()) return false;
+  const bool both = !layout.Alone[0][bet].isNull();
+  const SeatId first = both ? SeatId(1) : FirstSeat(SideOf(seat));
+  for (SeatId other = first; other < first + (both ? kSeats : 4); ++other)
+    if (other != seat && table.seats[other].SeatBets.Has(bet)) return true;
+  return false;
+}
+
+QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet) {
+  const QPointF alone = PlaceAlone(layout, seat, bet);
+  if (!alone.isNull() && !SharesArea(layout, table, seat, bet)) return alone;
+  return {static_cast<double>(layout.CheckX(seat, bet)), static_cast<double>(layout.CheckY(seat, bet))};
 }
 
 }  // namespace tessaryn

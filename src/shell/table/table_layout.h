@@ -25,13 +25,18 @@ constexpr double PuckDiameter(double scale) { return scale * 29 < 23 ? 23 : scal
 // the lettering tells the payoffs in force. Its lettering is still to be fitted.
 TableLayout BuildTableLayout(const Settings& settings, const PayoffTables& payoffs);
 // The end of a seat: 1 or 2.
-constexpr int SideOf(int seat) { return seat <= 4 ? 1 : 2; }
+constexpr int SideOf(SeatId seat) { return seat <= 4 ? 1 : 2; }
+// Whether others have up what stands in the area of the bet at the seat's end, all in places of one size with
+// a single stack's.
+bool SharesArea(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet);
 // Where a seat's stack on a bet stands now, with what others have up in its area.
-QPointF StackPlace(const TableLayout& layout, const TableState& table, int seat, int bet);
+QPointF StackPlace(const TableLayout& layout, const TableState& table, SeatId seat, BetId bet);
 // Puts the CheckStacks that a seat shows to their four places at its rail. Stacks not shown have none (0, 0).
-void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]);
+void PlaceVisibleStacks(TableLayout& layout, SeatId seat, const int (&stacks)[4]);
 QPointF VisibleStackPlace(const SeatPlace& place, int index);
-inline constexpr double kStackReach = 11;  // round such a place, in table units, is the stack's
+inline constexpr double kStackReach = 10;  // round such a place, in table units, is the stack's
+// All four of them, in table units.
+QRectF WellsOf(int seat);
 
 // The outline of the table's outer edge, and of the felt within the rail.
 QPainterPath RailOutline();

@@ -77,7 +77,7 @@ void DrawProgress(Overlay& over) {
 }
 
 template <class Visit>
-void ForAreas(const TableLayout& layout, int bet, int side, Visit visit) {
+void ForAreas(const TableLayout& layout, BetId bet, int side, Visit visit) {
   if (bet == 0) return;
   for (const TableArea& area : layout.Areas)
     if (area.Id == bet && (side == 0 || area.Side == 0 || area.Side == side)) visit(area);
@@ -90,13 +90,13 @@ QColor LitColor(const TableColors& colors, const TableArea& area) {
   return onFelt || ground == QColor(Qt::black) ? colors.Lit : ground.lighter(155);
 }
 
-void LightArea(Overlay& over, int bet) {
+void LightArea(Overlay& over, BetId bet) {
   ForAreas(over.layout, bet, 0, [&](const TableArea& area) {
     DrawArea(over.painter, area, over.colors, LitColor(over.colors, area));
   });
 }
 
-void EdgeArea(Overlay& over, int bet, int side, const QColor& color, double width) {
+void EdgeArea(Overlay& over, BetId bet, int side, const QColor& color, double width) {
   ForAreas(over.layout, bet, side, [&](const TableArea& area) {
     QPen pen(color, width);
     pen.setCosmetic(true);
@@ -110,10 +110,10 @@ void DrawFeltMarks(Overlay& over) {
   over.painter.save();
   over.painter.setTransform(over.view.Transform(), true);
   const int point = over.scene.game->table.Point;
-  const int pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : 0;
+  const BetId pointBox = IsBoxNumber(point) ? BetOn(kPlace4, point) : kNoBet;
   LightArea(over, pointBox);
   const int hover = AreaOf(over.scene.hoverBet);
-  if (hover != pointBox) LightArea(over, hover);
+  if (hover != pointBox && over.scene.hoverTakes) LightArea(over, hover);
   DrawProgress(over);
   EdgeArea(over, pointBox, 0, Qt::white, 2.6);
   // Seen on light and dark: white within black.
@@ -125,7 +125,7 @@ void DrawFeltMarks(Overlay& over) {
 
 // --- At the rail.
 
-void DrawOpenPlace(Overlay& over, int seat) {
+void DrawOpenPlace(Overlay& over, SeatId seat) {
   const bool hover = over.scene.hoverSeat == seat || over.scene.movingPlayer;
   const double radius = OpenMarkRadius(over.view.Scale());
   const QPointF centre =
@@ -142,7 +142,7 @@ void DrawOpenPlace(Overlay& over, int seat) {
 }
 
 // The places of a player's visible CheckStacks.
-void DrawStackPlaces(Overlay& over, int seat) {
+void DrawStackPlaces(Overlay& over, SeatId seat) {
   const double radius = kStackReach * over.view.Scale();
   for (int n = 0; n < 4; ++n) {
     const QPointF centre = over.view.ToScreen(VisibleStackPlace(over.layout.Seats[seat], n));
@@ -171,7 +171,10 @@ void DrawPuck(Overlay& over) {
   const QColor ink = on ? kBlack : Qt::white;
   const QColor body = on ? Qt::white : kBlack;
   for (int side = 1; side <= 2; ++side) {
-    const QPointF centre = over.view.ToScreen(PuckPlace(over.scene.game->table.Point, side));
+    const QPointF from = PuckPlace(over.scene.puckFrom, side);
+    const QPointF to = PuckPlace(over.scene.game->table.Point, side);
+    // On whole pixels, as its kept picture is.
+    const QPointF centre = over.view.ToScreen(from + (to - from) * over.scene.puckShare).toPoint();
     const QRectF box(centre.x() - radius - 3, centre.y() - radius - 3, 2 * radius + 6, 2 * radius + 6);
     DrawKept(over.painter, on ? QStringLiteral("puck on") : QStringLiteral("puck off"), box,
              [&](QPainter& brush) {
@@ -244,6 +247,14 @@ void DrawStacks(Overlay& over) {
   }
 }
 
+void DrawMoving(Overlay& over) {
+  for (const MovingChecks& checks : over.scene.moving) {
+    const QPointF at = checks.From + (checks.To - checks.From) * over.scene.movingShare;
+    over.painter.drawPixmap((over.view.ToScreen(at) - over.pictures.Origin()).toPoint(),
+                            over.pictures.PilePicture(checks.Checks));
+  }
+}
+
 void DrawDie(Overlay& over, const QColor& body, QPointF place, double turn, int face) {
   const double height = over.scene.dice.Height;
   const double side = DieSide(over.view.Scale()) * (1 + 0.5 * height);
@@ -272,7 +283,7 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
   const Game& game = *scene.game;
   painter.setRenderHint(QPainter::Antialiasing);
   DrawFeltMarks(over);
-  for (int seat = 1; seat <= kSeats; ++seat)
+  for (SeatId seat = 1; seat <= kSeats; ++seat)
     IsOccupied(game.table, seat) ? DrawStackPlaces(over, seat) : DrawOpenPlace(over, seat);
   DrawPuck(over);
   pictures.SetSize(CheckDiameter(view.Scale()), painter.device()->devicePixelRatioF(),
@@ -281,6 +292,7 @@ void DrawChecksAndDice(QPainter& painter, const TableScene& scene, const TableLa
     DrawStacks(over);
     if (scene.piles != nullptr) scene.piles->ForgetOthers();
   }
+  DrawMoving(over);
   for (const FallenCheck& check : scene.rain)
     painter.drawPixmap((view.ToScreen(check.Place) - pictures.Origin()).toPoint(),
                        pictures.PilePicture({check.Denomination}));

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "shell/table/layout_builder.h"
+#include "shell/table/table_layout.h"
 
 namespace tessaryn {
 
@@ -49,8 +50,8 @@ struct Stand {
 };
 constexpr Stand kStands[4] = {{{26, 76}, {9, 62}, {-0.81, -0.58}, {-16, 190}, {0, -23}},
                               {{-12, 356}, {-16, 340}, {-1, 0}, {-16, 308}, {0, -23}},
-                              {{160, 550}, {160, 549}, {-0.17, 0.985}, {257, 552}, {23, 0}},
-                              {{425, 550}, {425, 552}, {0, 1}, {532, 552}, {23, 0}}};
+                              {{160, 550}, {160, 549}, {-0.17, 0.985}, {294, 552}, {20, 0}},
+                              {{425, 550}, {425, 552}, {0, 1}, {548, 552}, {20, 0}}};
 
 }  // namespace
 
@@ -70,7 +71,7 @@ void PlaceSeats(TableLayout& layout) {
       right.Stacks[stack] = LayoutMirror().map(left.Stacks[stack]);
     }
   }
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     SeatPlace& place = layout.Seats[seat];
     place.Along = QPointF(place.Out.y(), -place.Out.x());
   }
@@ -78,7 +79,7 @@ void PlaceSeats(TableLayout& layout) {
 
 QPointF VisibleStackPlace(const SeatPlace& place, int index) { return place.Stacks[index]; }
 
-void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]) {
+void PlaceVisibleStacks(TableLayout& layout, SeatId seat, const int (&stacks)[4]) {
   for (int stack = 0; stack < kCheckStacks; ++stack) {
     layout.CheckX(seat, kFirstCheckStack + stack) = 0;
     layout.CheckY(seat, kFirstCheckStack + stack) = 0;
@@ -88,6 +89,15 @@ void PlaceVisibleStacks(TableLayout& layout, int seat, const int (&stacks)[4]) {
     layout.CheckX(seat, kFirstCheckStack + stacks[n]) = static_cast<int>(std::lround(point.x()));
     layout.CheckY(seat, kFirstCheckStack + stacks[n]) = static_cast<int>(std::lround(point.y()));
   }
+}
+
+QRectF WellsOf(int seat) {
+  const Stand& stand = kStands[seat <= 4 ? seat - 1 : 8 - seat];
+  const QPointF last = stand.firstStack + stand.stackStep * 3;
+  const QRectF wells = QRectF(stand.firstStack, last)
+                           .normalized()
+                           .adjusted(-kStackReach, -kStackReach, kStackReach, kStackReach);
+  return seat <= 4 ? wells : LayoutMirror().mapRect(wells);
 }
 
 QPainterPath RailOutline() { return EdgePath({-38, -20, 574, 151}); }

@@ -16,7 +16,7 @@ TableStage::TableStage(Game& game, TableCommands& commands, const RollHistory& h
       table_(new TableWidget(game, commands, this)),
       badges_(new Badges(table_)) {
   setObjectName("picStage");
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     plates_[seat] = new Plate(seat, this);
     connect(plates_[seat], &Plate::chosen, this, &TableStage::seatChosen);
     connect(plates_[seat], &Plate::menuWanted, this, &TableStage::plateMenuWanted);
@@ -49,7 +49,7 @@ void TableStage::PlaceThePlates() {
   const bool small = PlateSize(size(), measures_) != measures_.plate;
   const double letters = small ? MeasuresOf(kSmallestWindow).plateText : measures_.plateText;
   ShiftOpenMarks(places, fitted);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const QRect& place = places[seat];
     int tip = -1;
     if (fitted && kSpots[seat] > 0)
@@ -80,11 +80,14 @@ QRect TableStage::FeltRoom() const {
 
 void TableStage::Refresh(bool settled) {
   board_->Refresh(settled);
-  for (int seat = 1; seat <= kSeats; ++seat) plates_[seat]->Show(PlateTextOf(game_, seat));
+  for (SeatId seat = 1; seat <= kSeats; ++seat) plates_[seat]->Show(PlateTextOf(game_, seat));
 }
 
 void TableStage::ShowBadges() {
-  if (table_->animate) badges_->Show(BetChanges(game_), game_.table, table_->Layout(), table_->view);
+  if (!table_->animate) return;
+  const std::vector<BetChange> changes = BetChanges(game_);
+  table_->ShowChecksMove(changes);
+  badges_->Show(changes, game_.table, table_->Layout(), table_->view);
 }
 
 }  // namespace tessaryn

@@ -25,7 +25,7 @@ class TableStage : public QWidget {
 
   TableWidget& Table() { return *table_; }
   Board& TheBoard() { return *board_; }
-  const Plate& PlateOf(int seat) const { return *plates_[seat]; }
+  const Plate& PlateOf(SeatId seat) const { return *plates_[seat]; }
   // What is over the felt and nothing else: the place of what covers it in a run.
   QRect FeltRoom() const;
 
@@ -36,8 +36,8 @@ class TableStage : public QWidget {
   void ShowBadges();
 
  signals:
-  void seatChosen(int seat);
-  void plateMenuWanted(int seat, QPoint where);
+  void seatChosen(SeatId seat);
+  void plateMenuWanted(SeatId seat, QPoint where);
 
  protected:
   void resizeEvent(QResizeEvent* event) override;

@@ -48,7 +48,7 @@ bool TableTouch::eventFilter(QObject* watched, QEvent* event) {
       const auto* menu = static_cast<QContextMenuEvent*>(event);
       // The right button rolls.
       if (menu->reason() != QContextMenuEvent::Keyboard || table_.scene.focusBet == 0) break;
-      const int bet = MeantBet(game_, table_.scene.focusBet);
+      const BetId bet = MeantBet(game_, table_.scene.focusBet);
       ShowMenu(table_.mapToGlobal(table_.PointOfBet(game_.table.SelectedSeat, bet)), bet);
       return true;
     }
@@ -117,8 +117,8 @@ void TableTouch::LongPress() {
   ShowMenu(table_.mapToGlobal(at), table_.BetAt(at));
 }
 
-void TableTouch::AddBetEntries(QMenu& menu, int bet) {
-  const int seat = game_.table.SelectedSeat;
+void TableTouch::AddBetEntries(QMenu& menu, BetId bet) {
+  const SeatId seat = game_.table.SelectedSeat;
   const bool up = game_.table.BetAmount(seat, bet) != kZero;
   const auto add = [&](const char* name, const QString& text, int action) {
     QAction* const entry = menu.addAction(text, &table_, [this, bet, action] {
@@ -142,7 +142,7 @@ void TableTouch::AddBetEntries(QMenu& menu, int bet) {
   if (IsPlace(bet)) add("mnuTouchBuy", Translated(QT_TRANSLATE_NOOP("TableTouch", "Buy")), kPendingBuy);
 }
 
-void TableTouch::ShowMenu(QPoint at, int bet) {
+void TableTouch::ShowMenu(QPoint at, BetId bet) {
   auto* menu = new QMenu(&table_);
   menu->setObjectName("mnuTouch");
   menu->setAttribute(Qt::WA_DeleteOnClose);

@@ -32,8 +32,8 @@ class TableTouch : public QObject {
   void Pinch(QPointF first, QPointF second);
   void Mouse(QEvent::Type type, QPointF at);
   void LongPress();
-  void ShowMenu(QPoint at, int bet);
-  void AddBetEntries(QMenu& menu, int bet);
+  void ShowMenu(QPoint at, BetId bet);
+  void AddBetEntries(QMenu& menu, BetId bet);
 
   TableWidget& table_;
   Game& game_;

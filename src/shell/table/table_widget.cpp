@@ -9,6 +9,7 @@
 #include <QTimer>
 #include <QWheelEvent>
 #include <cmath>
+#include <tuple>
 
 #include "base/bet_catalogue.h"
 #include "shell/table/contrast.h"
@@ -32,7 +33,7 @@ constexpr int kFrameMilliseconds = 15;
 constexpr double kSeatReach = 52;  // along the rail, in table units
 
 // A number from the roll's own count, so that dice lie elsewhere each time and a repaint moves nothing.
-double Scatter(std::int64_t roll, int which) {
+double Scatter(RollNumber roll, int which) {
   std::uint64_t x = static_cast<std::uint64_t>(roll) * 0x9E3779B97F4A7C15ull + which * 0xD1B54A32D192ED03ull;
   x ^= x >> 29;
   x *= 0xBF58476D1CE4E5B9ull;
@@ -41,7 +42,7 @@ double Scatter(std::int64_t roll, int which) {
 }
 
 // Where a roll's dice come to lie: the end away from the shooter.
-DicePose RestingDice(const Game& game, std::int64_t roll) {
+DicePose RestingDice(const Game& game, RollNumber roll) {
   const bool shooterLeft = game.table.ShooterSeat <= 4;
   DicePose pose;
   // On the Come bar beside its lettering, where no stack stands; the dice don't cover each other.
@@ -160,7 +161,7 @@ void TableWidget::Refresh() {
   const TableState& table = game_.table;
   Shown now;
   now.selected = table.SelectedSeat;
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     now.seats[seat] = IsOccupied(table, seat);
     if (!now.seats[seat]) continue;
     std::copy_n(table.seats[seat].VisibleStacks, 4, now.stacks[seat].begin());
@@ -168,6 +169,8 @@ void TableWidget::Refresh() {
   }
   if (!(now == shown_)) mapStale_ = true;
   shown_ = now;
+  const int before = std::exchange(shownPoint_, table.Point);
+  if (before != table.Point && MayMove()) motion_.MovePuck(before);
   BetInHand& hand = commands_.Moving;
   if (hand.Seat != table.SelectedSeat || table.BetAmount(hand.Seat, hand.Bet) == kZero) hand = {};
   ShowHeld();
@@ -231,10 +234,10 @@ Hit TableWidget::HitAt(QPoint point) {
   return hit.Seat == game_.table.SelectedSeat ? hit : Hit{};
 }
 
-int TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
+BetId TableWidget::BetAt(QPoint point) { return HitAt(point).Bet; }
 
 int TableWidget::StackAt(QPoint point) const {
-  const int seat = game_.table.SelectedSeat;
+  const SeatId seat = game_.table.SelectedSeat;
   const double radius = CheckDiameter(view.Scale()) / 2;
   int found = 0;  // the one in front of the others
   for (const StandingStack& stack : ArrangeStacks(scene, layout_, view))
@@ -250,10 +253,10 @@ int TableWidget::DragsFrom(QPoint point) const {
   return free ? StackAt(point) : 0;
 }
 
-int TableWidget::SeatAt(QPoint point) const {
+SeatId TableWidget::SeatAt(QPoint point) const {
   if (!OpenRoom().contains(point)) return 0;
   const QPointF table = view.ToTable(point);
-  for (int seat = 1; seat <= kSeats; ++seat) {
+  for (SeatId seat = 1; seat <= kSeats; ++seat) {
     const SeatPlace& place = layout_.Seats[seat];
     for (const QPointF& stack : place.Stacks)
       if (std::hypot(table.x() - stack.x(), table.y() - stack.y()) <= kStackReach) return seat;
@@ -265,15 +268,15 @@ int TableWidget::SeatAt(QPoint point) const {
   return 0;
 }
 
-QPoint TableWidget::PointOfBet(int seat, int bet) const {
+QPoint TableWidget::PointOfBet(SeatId seat, BetId bet) const {
   return view.ToScreen(QPointF(layout_.CheckX(seat, bet), layout_.CheckY(seat, bet))).toPoint();
 }
 
-QPoint TableWidget::PointOfStack(int seat, int bet) const {
+QPoint TableWidget::PointOfStack(SeatId seat, BetId bet) const {
   return view.ToScreen(StackPlace(layout_, game_.table, seat, bet)).toPoint();
 }
 
-QPoint TableWidget::PointOfSeat(int seat) const {
+QPoint TableWidget::PointOfSeat(SeatId seat) const {
   const SeatPlace& place = layout_.Seats[seat];
   return (view.ToScreen(place.Rail + place.Out * 8) + QPointF(scene.openShift[seat], 0)).toPoint();
 }
@@ -313,18 +316,18 @@ void TableWidget::LeftPress(QMouseEvent* event) {
     return;
   }
   const int stack = commands_.PendingAction == kPendingMove ? StackAt(point) : 0;
-  const int bet = stack != 0 ? stack : BetAt(point);
+  const BetId bet = stack != 0 ? BetId(stack) : BetAt(point);
   if (bet != 0) {
     emit betClicked(bet, alt);
     return;
   }
-  const int seat = SeatAt(point);
+  const SeatId seat = SeatAt(point);
   if (seat != 0) emit seatClicked(seat);
 }
 
 void TableWidget::LeftRelease(QMouseEvent* event) {
   if (std::exchange(pressedStack_, 0) != 0) {
-    const int bet = BetAt(pressedAt_);
+    const BetId bet = BetAt(pressedAt_);
     if (bet != 0) emit betClicked(bet, false);
   }
   if (std::exchange(dragsStack_, false) && commands_.Moving.Bet != 0) PutDown(event->position().toPoint());
@@ -364,7 +367,7 @@ void TableWidget::PutDown(QPoint point) {
 // Area 0: off the table.
 void TableWidget::PutDownOn(int area) {
   const BetInHand hand = std::exchange(commands_.Moving, {});
-  const int to = area == 0 ? 0 : PutDownBet(game_, hand, area);
+  const BetId to = area == 0 ? kNoBet : PutDownBet(game_, hand, area);
   if (to != hand.Bet && hand.Seat == game_.table.SelectedSeat) emit betMoved(hand.Bet, to);
   Refresh();
 }
@@ -380,8 +383,8 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
     return;
   }
   DragStack(event);
-  const int pointed = scene.hoverBet;
-  const int openSeat = scene.hoverSeat;
+  const BetId pointed = scene.hoverBet;
+  const SeatId openSeat = scene.hoverSeat;
   FindPointed();
   if (pointed == scene.hoverBet && openSeat == scene.hoverSeat) return;
   ShowCursor();
@@ -390,10 +393,11 @@ void TableWidget::mouseMoveEvent(QMouseEvent* event) {
 }
 
 // What is under the pointer now; the table may have changed below it.
-void TableWidget::FindPointed() {
+void TableWidget::FindPointed(bool anew) {
   const bool inside = rect().contains(pointer_);
-  scene.hoverBet = inside ? BetAt(pointer_) : 0;
-  scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : 0;
+  const BetId before = std::exchange(scene.hoverBet, inside ? BetAt(pointer_) : kNoBet);
+  if (anew || before != scene.hoverBet) scene.hoverTakes = TakesClick(game_, commands_, scene.hoverBet);
+  scene.hoverSeat = inside && scene.hoverBet == 0 ? SeatAt(pointer_) : kNobody;
 }
 
 // The line of what is pointed at is told anew once the events at hand are done: of many changes the last.
@@ -401,9 +405,9 @@ void TableWidget::TellSoon() {
   if (std::exchange(tellPending_, true)) return;
   QTimer::singleShot(0, this, [this] {
     tellPending_ = false;
-    const auto shown = [this] { return std::array{scene.hoverBet, scene.hoverSeat, scene.heldBet}; };
+    const auto shown = [this] { return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet, scene.hoverTakes); };
     const auto before = shown();
-    FindPointed();
+    FindPointed(true);
     ShowHeld();
     ShowCursor();
     TellFocus();
@@ -425,7 +429,8 @@ void TableWidget::enterEvent(QEnterEvent* event) {
 
 void TableWidget::leaveEvent(QEvent*) {
   pointer_ = QPoint(-1, -1);
-  scene.hoverBet = scene.hoverSeat = 0;
+  scene.hoverBet = kNoBet;
+  scene.hoverSeat = kNobody;
   emit pointedAt(0);
   update();
 }
@@ -466,7 +471,19 @@ void TableWidget::ShowCursor() {
         text = CheckText(n, game_.settings.CheckValue, game_.settings.UseCentsSymbol);
       }
   }
-  setCursor(QCursor(CheckPicture(denomination, text, kSize, ratio), kSize / 2, kSize / 2));
+  QPixmap check = CheckPicture(denomination, text, kSize, ratio);
+  if (!scene.hoverTakes) {
+    // It can't be put down here.
+    QPixmap faint(check.size());
+    faint.setDevicePixelRatio(ratio);
+    faint.fill(Qt::transparent);
+    QPainter painter(&faint);
+    painter.setOpacity(0.5);
+    painter.drawPixmap(0, 0, check);
+    painter.end();
+    check = faint;
+  }
+  setCursor(QCursor(check, kSize / 2, kSize / 2));
 }
 
 // --- Keys.
@@ -519,7 +536,7 @@ void TableWidget::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
-void TableWidget::SetFocusBet(int bet, int side) {
+void TableWidget::SetFocusBet(BetId bet, int side) {
   if (scene.focusBet == bet && scene.focusSide == side) return;
   scene.focusBet = bet;
   scene.focusSide = side;
@@ -530,7 +547,7 @@ void TableWidget::SetFocusBet(int bet, int side) {
 
 // What a screen reader hears, and the status line shows.
 void TableWidget::TellFocus() {
-  const int bet = scene.focusBet == 0 ? 0 : MeantBet(game_, scene.focusBet);
+  const BetId bet = scene.focusBet == 0 ? kNoBet : MeantBet(game_, scene.focusBet);
   const QString name = bet == 0 ? tr("Craps table") : PointerText(game_, commands_, bet);
   if (name != accessibleName()) setAccessibleName(name);
   emit toldAnew();
@@ -543,7 +560,7 @@ void TableWidget::WalkFocus(int key) {
   const auto centreOf = [&](const TableArea& area) {
     if (area.Id == kPassLine || area.Id == kPassLineOdds || area.Id == kDontPass) {
       // A band's bounding box is no place on it.
-      const int seat = area.Side == 1 ? 4 : 5;
+      const SeatId seat = area.Side == 1 ? 4 : 5;
       return toScreen.map(QPointF(layout_.CheckX(seat, area.Id), layout_.CheckY(seat, area.Id)));
     }
     return toScreen.map(area.Outline.boundingRect().center());
@@ -573,9 +590,9 @@ void TableWidget::WalkFocus(int key) {
 
 // --- The entry box.
 
-void TableWidget::OpenEntry(int bet) {
+void TableWidget::OpenEntry(BetId bet) {
   entryBet_ = bet;
-  const int seat = game_.table.SelectedSeat;
+  const SeatId seat = game_.table.SelectedSeat;
   entry_->SetKeys(4, !IsTableBet(bet));
   entry_->SetValue(game_.table.BetAmount(seat, bet));
   entry_->resize(96, entry_->sizeHint().height());
@@ -590,7 +607,7 @@ void TableWidget::OpenEntry(int bet) {
 
 bool TableWidget::CommitEntry() {
   if (!EntryOpen()) return true;
-  const int bet = std::exchange(entryBet_, 0);
+  const BetId bet = std::exchange(entryBet_, 0);
   const Currency amount = entry_->Value();
   CloseEntry();
   TakeEnteredAmount(game_, commands_, bet, amount);
@@ -644,14 +661,26 @@ void TableWidget::Animate(int milliseconds, const std::function<void(double)>& f
 void TableWidget::ShowThrow() {
   // Thrown, but not yet counted.
   const DicePose rest = RestingDice(game_, SessionRolls(game_.stats) + 1);
-  const QPointF from = layout_.Seats[std::max(1, game_.table.ShooterSeat)].Rail;
+  const QPointF from = layout_.Seats[std::max<int>(1, game_.table.ShooterSeat)].Rail;
   constexpr int kMilliseconds[] = {kThrowMilliseconds, 0, kThrowMilliseconds / 2};
-  // The dice of a quick run would never lie still.
-  const bool quick = game_.table.AutoRollActive && game_.settings.AutoRollDelay.raw < kStillBelow;
-  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0 && !quick)
+  motion_.Stop();
+  if (const int time = kMilliseconds[std::clamp(game_.settings.DiceAction, 0, 2)]; time > 0 && MayMove())
     Animate(time, [&](double share) { scene.dice = FlyingDice(rest, from, share); });
   scene.dice = rest;
   update();
+}
+
+// In a quick run nothing would ever lie still.
+bool TableWidget::MayMove() const {
+  const TableState& table = game_.table;
+  const bool quick = table.AutoRollActive && game_.settings.AutoRollDelay.raw < kStillBelow;
+  return animate && isVisible() && !table.TurboRollActive && !quick;
+}
+
+void TableWidget::ShowChecksMove(const std::vector<BetChange>& changes) {
+  std::vector<MovingChecks> moving;
+  if (MayMove()) moving = ChecksOnTheirWay(game_, layout_, changes);
+  if (!moving.empty()) motion_.MoveChecks(std::move(moving));
 }
 
 void TableWidget::RainChecks() {

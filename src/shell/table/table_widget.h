@@ -7,6 +7,7 @@
 #include <functional>
 
 #include "shell/table/table_commands.h"
+#include "shell/table/table_motion.h"
 #include "shell/table/table_painter.h"
 
 class QTimer;
@@ -24,20 +25,20 @@ class TableWidget : public QWidget {
   TableView view;
   TableColors colors;
   TableScene scene;
-  bool animate = true;  // whether thrown dice tumble
+  bool animate = true;  // whether anything moves by itself
 
   const TableLayout& Layout() const { return layout_; }
   // The bet meant under a point of the widget; 0 for none.
-  int BetAt(QPoint point);
+  BetId BetAt(QPoint point);
   // The bet whose stack a press there would drag; 0 for none.
   int DragsFrom(QPoint point) const;
   // The seat whose place at the rail is under a point; 0 for none.
-  int SeatAt(QPoint point) const;
+  SeatId SeatAt(QPoint point) const;
   // The middle of an area on the screen, where a click hits it; the seat's end of the table first.
-  QPoint PointOfBet(int seat, int bet) const;
+  QPoint PointOfBet(SeatId seat, BetId bet) const;
   // Where the seat's checks on a bet stand now, or would.
-  QPoint PointOfStack(int seat, int bet) const;
-  QPoint PointOfSeat(int seat) const;
+  QPoint PointOfStack(SeatId seat, BetId bet) const;
+  QPoint PointOfSeat(SeatId seat) const;
 
   // The rules or payoffs changed: lettering and areas are made anew.
   void RebuildLayout();
@@ -54,6 +55,8 @@ class TableWidget : public QWidget {
   // Brings the dice from the shooter to the far end; returns when they lie still. A key or click cuts it
   // short.
   void ShowThrow();
+  // What the roll won comes from the house, what it lost goes there. Returns at once.
+  void ShowChecksMove(const std::vector<BetChange>& changes);
   // A thousand checks fall on the layout; they lie there until the state changes. A key or click ends the
   // fall.
   void RainChecks();
@@ -61,11 +64,11 @@ class TableWidget : public QWidget {
   void PlaceDice();
   void FlashBets();
   // What the pointer's line tells of a bet.
-  QString LineOf(int bet) { return PointerText(game_, commands_, bet); }
+  QString LineOf(BetId bet) { return PointerText(game_, commands_, bet); }
   // The area with the keyboard's focus; 0 takes it away.
-  void SetFocusBet(int bet, int side);
+  void SetFocusBet(BetId bet, int side);
   // The entry box of a bet's amount.
-  void OpenEntry(int bet);
+  void OpenEntry(BetId bet);
   // Closes it and takes its amount. False when the amount was not taken as typed.
   bool CommitEntry();
   bool EntryOpen() const { return entryBet_ != 0; }
@@ -73,12 +76,12 @@ class TableWidget : public QWidget {
   void RefreshPointer();
 
  signals:
-  void betClicked(int bet, bool alt);
+  void betClicked(BetId bet, bool alt);
   // A bet of the selected seat is put down on another; to 0: off the table.
   void betMoved(int from, int to);
   void rightClicked();
-  void seatClicked(int seat);
-  void pointedAt(int bet);
+  void seatClicked(SeatId seat);
+  void pointedAt(BetId bet);
   // The keyboard's focus has gone to another area, or left them.
   void areaFocused();
   // What an area or stack says may be another.
@@ -111,7 +114,9 @@ class TableWidget : public QWidget {
   void ShowHeld();
   void PutDown(QPoint point);
   void PutDownOn(int area);
-  void FindPointed();
+  void FindPointed(bool anew = false);
+  // Whether what goes on leaves the time to look at something that moves.
+  bool MayMove() const;
   void ShowCursor();
   void TellSoon();
   void WalkFocus(int key);
@@ -135,6 +140,8 @@ class TableWidget : public QWidget {
   QImage map_;    // ids under the points
   bool tableStale_ = true;
   bool mapStale_ = true;
+  TableMotion motion_{scene, *this};
+  int shownPoint_ = 0;
   bool fitted_ = true;  // shows the whole table until the user chooses a view
   // What the map was made for, beside the view.
   struct Shown {
@@ -156,7 +163,7 @@ class TableWidget : public QWidget {
   int flashes_ = 0;
   QTimer* flashTimer_;
   MoneyEdit* entry_;
-  int entryBet_ = 0;
+  BetId entryBet_ = 0;
 };
 
 }  // namespace tessaryn

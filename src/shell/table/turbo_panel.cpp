@@ -3,11 +3,11 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
 
@@ -20,7 +20,7 @@ constexpr int kNameColumns = 20;  // of a name as it is shown
 const QColor kWon(150, 232, 160);
 const QColor kLost(255, 172, 160);
 
-QString WholeNumber(double value) { return QLocale(QLocale::English).toString(value, 'f', 0); }
+QString WholeNumber(double value) { return ShownNumber(value, 0); }
 
 QString ClockText(qint64 milliseconds) {
   const qint64 seconds = milliseconds / 1000;
@@ -138,8 +138,7 @@ void TurboPanel::Begin(const Game& game) {
 }
 
 QString TurboPanel::Amount(Currency value) const {
-  const QString text = MoneyText(value);
-  return cents_ && value.IsWhole() ? text + QStringLiteral(".00") : text;
+  return cents_ && value.IsWhole() ? ShownNumber(value.ToDouble(), 2) : MoneyText(value);
 }
 
 void TurboPanel::Refresh(const Game& game) {
@@ -148,7 +147,7 @@ void TurboPanel::Refresh(const Game& game) {
   rolls_->setText(WholeNumber(rolls));
   rate_->setText(WholeNumber(elapsed > 0 ? rolls * 1000 / static_cast<double>(elapsed) : 0));
   time_->setText(ClockText(elapsed));
-  for (const int seat : seats_)
+  for (const SeatId seat : seats_)
     cents_ = cents_ ||
              (seat > 0 && !(game.table.BankrollCurrent[seat].IsWhole() && firstBankroll_[seat].IsWhole()));
   for (int row = 0; row < kSeats && seats_[row] > 0; ++row) {
@@ -156,18 +155,31 @@ void TurboPanel::Refresh(const Game& game) {
     const Currency change = bankroll - firstBankroll_[seats_[row]];
     bankrolls_[row]->setText(Amount(bankroll));
     changes_[row]->setText((change > kZero ? "+" : "") + Amount(change));
-    QPalette colours = palette();
-    if (change != kZero) colours.setColor(QPalette::WindowText, change > kZero ? kWon : kLost);
+    const QColor ink = change == kZero ? palette().color(QPalette::WindowText)
+                       : change > kZero ? kWon
+                                        : kLost;
+    QPalette colours = changes_[row]->palette();
+    if (colours.color(QPalette::WindowText) == ink) continue;
+    colours.setColor(QPalette::WindowText, ink);
     changes_[row]->setPalette(colours);
   }
 }
 
-void TurboPanel::paintEvent(QPaintEvent*) {
+// Figures that change have it painted below them many times a second.
+void TurboPanel::paintEvent(QPaintEvent* event) {
+  const double ratio = devicePixelRatioF();
+  if (light_.size() != size() * ratio) {
+    light_ = QPixmap(size() * ratio);
+    light_.setDevicePixelRatio(ratio);
+    QRadialGradient light(rect().center(), std::max(width(), height()) * 0.7);
+    light.setColorAt(0, QColor(14, 88, 58));
+    light.setColorAt(1, QColor(6, 40, 28));
+    QPainter(&light_).fillRect(rect(), light);
+  }
   QPainter painter(this);
-  QRadialGradient light(rect().center(), std::max(width(), height()) * 0.7);
-  light.setColorAt(0, QColor(14, 88, 58));
-  light.setColorAt(1, QColor(6, 40, 28));
-  painter.fillRect(rect(), light);
+  for (const QRect& part : event->region())
+    painter.drawPixmap(part.topLeft(), light_,
+                       QRectF(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio).toRect());
 }
 
 void TurboPanel::keyPressEvent(QKeyEvent* event) {

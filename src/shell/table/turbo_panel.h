@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPixmap>
 #include <QList>
 #include <QWidget>
 #include <cstdint>
@@ -47,15 +48,16 @@ class TurboPanel : public QWidget {
   QLabel* names_[kSeats] = {};
   QLabel* bankrolls_[kSeats] = {};
   QLabel* changes_[kSeats] = {};
-  int seats_[kSeats] = {};  // who a row is for; 0 nobody
-  bool cents_ = false;      // there has been an amount with cents: all have two places from then on
+  SeatId seats_[kSeats];  // who a row is for; 0 nobody
+  bool cents_ = false;    // there has been an amount with cents: all have two places from then on
   QPushButton* stop_;
   QLabel* caption_ = nullptr;
   QGridLayout* grid_ = nullptr;
   QList<QLabel*> captions_;
   QList<QLabel*> figures_;
   QElapsedTimer clock_;
-  std::int64_t firstRoll_ = 0;
+  QPixmap light_;  // the ground that all stands on
+  RollNumber firstRoll_ = 0;
   Currency firstBankroll_[kSeatRows];
 };
 
