@@ -37,9 +37,10 @@ void SetDiceStream(Generators& generators, std::uint64_t seed, std::uint64_t ses
   const std::uint64_t second = Mixed(ofSeed + session * kOtherStep + kOddStep);
   TwisterStream& stream =
       generators.GeneratorIndex == kGeneratorCokus ? generators.Cokus : generators.Mersenne;
-  for (int i = 0; i < kTwisterWords; i += 2) {
-    const std::uint64_t pair =
-        Mixed(Mixed(key + static_cast<std::uint64_t>(i / 2) * kOddStep) + second * kOtherStep);
+  std::uint64_t counter = key;
+  const std::uint64_t shift = second * kOtherStep;
+  for (int i = 0; i < kTwisterWords; i += 2, counter += kOddStep) {
+    const std::uint64_t pair = Mixed(Mixed(counter) + shift);
     stream.State[i] = static_cast<std::uint32_t>(pair);
     stream.State[i + 1] = static_cast<std::uint32_t>(pair >> 32);
   }

@@ -69,8 +69,9 @@ void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fres
                const TouchedBets& touched) {
   touched.bets.ForEach([&](BetId bet) { cells(kLabSeat, bet) = fresh(kLabSeat, bet); });
   if constexpr (kRows == kBetRows)
-    touched.stacks.ForEach(
-        [&](int stack) { cells(kLabSeat, kFirstCheckStack + stack) = fresh(kLabSeat, kFirstCheckStack + stack); });
+    touched.stacks.ForEach([&](int stack) {
+      cells(kLabSeat, kFirstCheckStack + stack) = fresh(kLabSeat, kFirstCheckStack + stack);
+    });
 }
 
 // Texts and lists mostly are what they were.
@@ -103,6 +104,14 @@ void ResetState(TableState& table, const TableState& fresh, const TouchedBets& t
   });
 }
 
+// Of a table by slot: the house's and the player's.
+template <typename T>
+void ResetSlots(T (&slots)[kSlots], const T (&fresh)[kSlots]) {
+  for (int scope = 0; scope < kScopes; ++scope)
+    for (SeatId seat = 0; seat <= kLabSeat; ++seat)
+      ResetPart(slots[Slot(scope, seat)], fresh[Slot(scope, seat)]);
+}
+
 void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBets& touched) {
   const auto resetBet = [&](BetId bet) {
     std::memcpy(&stats.Bets[bet][kLabSeat], &fresh.Bets[bet][kLabSeat], sizeof stats.Bets[bet][kLabSeat]);
@@ -117,17 +126,20 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   ForEachMember(std::type_identity<Statistics>{}, [&](const char*, auto member) {
     constexpr bool kDone = std::is_same_v<decltype(member), decltype(&Statistics::Bets)> ||
                            std::is_same_v<decltype(member), decltype(&Statistics::RollGapCounts)>;
-    if constexpr (!kDone) ResetPart(stats.*member, fresh.*member);
+    using Member = std::remove_reference_t<decltype(stats.*member)>;
+    if constexpr (std::extent_v<Member> == kSlots)
+      ResetSlots(stats.*member, fresh.*member);
+    else if constexpr (!kDone)
+      ResetPart(stats.*member, fresh.*member);
   });
 }
 
 void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
   const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
-  // In pieces: of many kilobytes at once the C library makes string instructions, which are slower here.
-  constexpr std::size_t kPiece = 25;
+  // Of a graph that was empty, and of which nobody else is.
   if (fresh.PlotPoints == 0)
-    for (std::size_t row = 0; row < rows; row += kPiece)
-      std::memset(static_cast<void*>(&graph.Rows[row]), 0, std::min(kPiece, rows - row) * sizeof(PlotRow));
+    for (std::size_t row = 0; row < rows; ++row)
+      graph.Rows[row].cells[0] = graph.Rows[row].cells[kLabSeat] = kZero;
   else
     std::copy_n(fresh.Rows, rows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
@@ -321,8 +333,8 @@ void TakeNoNewBets(Game& game) {
   handling.AutoTakeOdds = handling.AutoLayOdds = handling.AutoDownPlace = false;
 }
 
-void NoteTouched(LabTable& table) {
-  if ((table.game->table.SeatsSinceBefore & 1u << kLabSeat) == 0) return;
+inline void NoteTouched(LabTable& table) {
+  if (table.game->table.SeatsSinceBefore == 0) return;
   const SeatState& seat = table.game->table.seats[kLabSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::size_t kPlans = 256;  // a power of two
 constexpr int kStandsNowhere = -1;
+constexpr SeatId kFirstSeat = 1;
 
 // --- What plans are made from.
 
@@ -39,6 +40,7 @@ void ChangeUnit(LuckMeter& meter, std::int64_t other) {
 
 void FollowDice(LuckMeter& meter, const Game& game) {
   meter.dice = LuckDiceOf(game.percentage);
+  meter.glances = meter.rulesStand && !meter.dice.percentage;
   meter.chancesKnown = false;
   ForgetPlans(meter);
   if (meter.unit != 0 && meter.unit % UnitOf(meter.dice) != 0) ChangeUnit(meter, UnitOf(meter.dice));
@@ -214,6 +216,7 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::si
   }
   LuckPlan& plan = meter.plans[place];
   plan.ride = ride;
+  plan.point = ride.layout.point;
   plan.made = ride.Fits();
   plan.byPoint = plan.made && !ride.bets.Meets(kHandBets | kVigBets);
   MakeLuckPlan(plan, game, seat, ride.layout, meter.dice, meter.chances);
@@ -222,11 +225,11 @@ std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::si
 
 // Whether the plan of the last roll with this point is right, where rules stand: the common case, at a
 // glance.
-bool StillRides(const LuckPlan& plan, const TableState& table, SeatId seat) {
+inline bool StillRides(const LuckPlan& plan, const TableState& table, SeatId seat) {
   const SeatState& state = table.seats[seat];
   const LuckRide& ride = plan.ride;
   const BetSet working = WorkingBets(state);
-  if (!plan.byPoint || ride.layout.point != table.Point ||
+  if (!plan.byPoint || plan.point != table.Point ||
       ((ride.bets.words[0] ^ state.SeatBets.words[0]) | (ride.bets.words[1] ^ state.SeatBets.words[1]) |
        (ride.working.words[0] ^ working.words[0]) | (ride.working.words[1] ^ working.words[1])) != 0)
     return false;
@@ -246,10 +249,11 @@ std::size_t PlanFor(LuckMeter& meter, const Game& game, SeatId seat) {
   if (!byPoint) layout = LuckLayoutOf(game, bets);
   const LuckLayout* const key = byPoint ? nullptr : &layout;
   // Mostly a seat rides with what it rode with when this point was last on.
-  std::size_t& last = meter.lastRide[seat][game.table.Point];
+  std::uint16_t& last = meter.lastRide[seat][game.table.Point];
   if (!IsFor(meter.plans[last], game, seat, key)) {
-    last = HashOf(game, seat, key) & (kPlans - 1);
-    if (!IsFor(meter.plans[last], game, seat, key)) last = MakePlanFor(meter, game, seat, last);
+    last = static_cast<std::uint16_t>(HashOf(game, seat, key) & (kPlans - 1));
+    if (!IsFor(meter.plans[last], game, seat, key))
+      last = static_cast<std::uint16_t>(MakePlanFor(meter, game, seat, last));
   }
   meter.plans[last].rides = meter.roll;
   return last;
@@ -287,6 +291,7 @@ void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
     ForgetPlans(meter);
   }
   meter.rulesStand = may == LuckRulesMay::kStand;
+  meter.glances = meter.rulesStand && !meter.dice.percentage;
   meter.unit = UnitOf(meter.dice);
   for (SeatLuck& seat : meter.seats) seat = {};
   TakeValues(meter, game);
@@ -301,14 +306,14 @@ namespace {
 
 // Finds what every seat rides with.
 [[gnu::noinline]] void RideAnew(LuckMeter& meter, const Game& game) {
-  if (!meter.rulesStand || meter.dice.percentage || game.percentage.PercentageDiceActive) {
+  if (!meter.glances || game.percentage.PercentageDiceActive) {
     if (meter.unit == 0) LuckBeginSession(meter, game);
     FollowRules(meter, game);
   }
   ++meter.roll;
   meter.ridingSeats = 0;
   const TableState& table = game.table;
-  bool byPoint = meter.rulesStand && !meter.dice.percentage;
+  bool byPoint = meter.glances;
   for (int i = 0; i < table.OccupiedSeats; ++i) {
     const SeatId seat = table.Seated[i];
     std::int64_t value = 0;
@@ -328,19 +333,36 @@ namespace {
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
 }
 
-void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
+// What more there is to it where the meter goes by smaller parts than the plan.
+[[gnu::noinline]] void AddInSmallerParts(SeatLuck& luck, const LuckPlan& plan, std::size_t outcome,
+                                         std::int64_t parts) {
+  luck.luck += plan.outcomes[outcome].luck * (parts - 1);
+  luck.expected += plan.expected * (parts - 1);
+}
+
+inline void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
   const LuckPlan& plan = *meter.riding[seat];
   SeatLuck& luck = meter.seats[seat];
-  if (meter.unit == plan.unit) [[likely]] {
-    luck.luck += plan.luck[outcome];
-    luck.expected += plan.expected;
-  } else {
-    luck.luck += plan.luck[outcome] * (meter.unit / plan.unit);
-    luck.expected += plan.expected * (meter.unit / plan.unit);
-  }
+  luck.luck += plan.outcomes[outcome].luck;
+  luck.expected += plan.expected;
   luck.variance += plan.variance;
-  luck.value = plan.after[outcome];
+  luck.value = plan.outcomes[outcome].after;
   ++luck.rolls;
+  if (meter.unit != plan.unit) [[unlikely]]
+    AddInSmallerParts(luck, plan, outcome, meter.unit / plan.unit);
+}
+
+// Where nobody but seat 1 is at the table, mostly it rides with what it rode with when this point was last
+// on.
+inline bool RidesAlone(LuckMeter& meter, const Game& game) {
+  const TableState& table = game.table;
+  if (!meter.glances || table.OccupiedSeats != 1) return false;
+  const LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
+  if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
+  meter.riding[kFirstSeat] = &plan;
+  meter.ridingSeats = 1u << 1;
+  meter.standsAt = table.Point;
+  return true;
 }
 
 [[gnu::noinline]] void AddRollOfSeats(LuckMeter& meter, std::size_t outcome) {
@@ -355,9 +377,9 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = Throws(game.stats);
   // Mostly the last roll has left all as it was: no bet has been touched since, and no call.
   if (meter.standsAt == table.Point && table.SeatsSinceBefore == 0 && !table.CallsTouched &&
-      !game.percentage.PercentageDiceActive) [[likely]]
+      !game.percentage.PercentageDiceActive)
     return;
-  RideAnew(meter, game);
+  if (game.percentage.PercentageDiceActive || !RidesAlone(meter, game)) RideAnew(meter, game);
 }
 
 void LuckAfterRoll(LuckMeter& meter, const Game& game) {
@@ -365,9 +387,8 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   meter.throwsBefore = -1;
   if (!thrown) return;
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  constexpr std::uint32_t kFirstSeat = 1u << 1;
-  if (meter.ridingSeats == kFirstSeat) [[likely]]
-    AddRoll(meter, 1, outcome);
+  if (meter.ridingSeats == 1u << 1) [[likely]]
+    AddRoll(meter, kFirstSeat, outcome);
   else
     AddRollOfSeats(meter, outcome);
 }

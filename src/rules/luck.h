@@ -58,22 +58,25 @@ enum class LuckRulesMay : std::uint8_t {
 // from session to session as long as rules, payoffs and dice stay.
 struct LuckMeter {
   std::int64_t unit = 0;  // see LuckUnit
+  // What every roll asks for stands side by side.
+  std::int64_t throwsBefore = -1;
+  RollNumber roll = 0;
+  std::uint32_t ridingSeats = 0;  // bit n: seat n has a plan for the roll to come
+  int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
+  std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
+  bool rulesStand = false;
+  bool glances = false;                    // rules stand, and the dice are fair
+  const LuckPlan* riding[kSeatRows] = {};  // of the roll to come; in plans
   SeatLuck seats[kSeatRows];
+  std::uint16_t lastRide[kSeatRows][11] =
+      {};  // places in plans, by the point: of the last roll that it was on
 
-  // Kept ready.
+  // What plans are made from.
   LuckDice dice;
   LuckChances chances;
   bool chancesKnown = false;
   LuckRules rules;
-  PayoffTables payoffs;         // what the plans were made with
-  std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
-  bool rulesStand = false;
-  const LuckPlan* riding[kSeatRows] = {};    // of the roll to come; in plans
-  std::size_t lastRide[kSeatRows][11] = {};  // places in plans, by the point: of the last roll that it was on
-  std::uint32_t ridingSeats = 0;             // bit n: seat n has a plan for the roll to come
-  int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
-  RollNumber roll = 0;
-  std::int64_t throwsBefore = -1;
+  PayoffTables payoffs;
 };
 
 // Parts of $0.0001 in which every term is whole: 5,940 with fair dice, 16,500,000 with percentage dice. A

@@ -47,13 +47,12 @@ void AddBet(LuckPlan& plan, Changes& changes, const RidingBet& riding, const Rol
     const int code = works ? DecidingCode(riding, rolled[outcome], outcome) : 0;
     const std::int64_t net = nets.Of(code, outcome);
     const std::int64_t after = net == 0 ? standing.after[outcome] : 0;
-    plan.after[outcome] += after;
+    plan.outcomes[static_cast<std::size_t>(outcome)].after += after;
     changes[outcome] += WideInt{net} * kValueUnit + after - standing.before;
   }
 }
 
 void CompareWithMean(LuckPlan& plan, const Changes& changes, const LuckDice& dice) {
-  plan.whole = dice.whole;
   plan.unit = dice.whole * kValueUnit;
   plan.expected = 0;
   for (std::size_t outcome = 0; outcome < kOutcomes; ++outcome)
@@ -61,8 +60,8 @@ void CompareWithMean(LuckPlan& plan, const Changes& changes, const LuckDice& dic
   const double inDollars = 1.0 / (static_cast<double>(dice.whole) * kValueUnit * Currency::kPerDollar);
   double squares = 0;
   for (std::size_t outcome = 0; outcome < kOutcomes; ++outcome) {
-    plan.luck[outcome] = dice.whole * changes[outcome] - plan.expected;
-    const double luck = static_cast<double>(plan.luck[outcome]) * inDollars;
+    plan.outcomes[outcome].luck = dice.whole * changes[outcome] - plan.expected;
+    const double luck = static_cast<double>(plan.outcomes[outcome].luck) * inDollars;
     squares += static_cast<double>(dice.weight[outcome]) * luck * luck;
   }
   plan.variance = squares / static_cast<double>(dice.whole);
@@ -76,7 +75,7 @@ void MakeLuckPlan(LuckPlan& plan, const Game& game, SeatId seat, const LuckLayou
   const RolledLayouts rolled = LayoutsAfter(layout);
   Changes changes{};
   plan.before = 0;
-  plan.after.fill(0);
+  plan.outcomes.fill({});
   game.table.seats[seat].SeatBets.ForEach([&](BetId bet) {
     const Currency vig = HasVig(bet) ? VigHeld(game, seat, bet) : kZero;
     const RidingBet riding{game, dice, chances, layout, bet, game.table.BetAmount(seat, bet), vig};

@@ -18,27 +18,32 @@ struct LuckRide {
   // Amounts in the order of the bets, then vig. What is more than this is planned anew at each roll.
   static constexpr int kFigures = 40;
 
-  LuckLayout layout;
   BetSet bets;
   BetSet working;
-  int figures = 0;
   std::array<std::int64_t, kFigures> figure{};
+  int figures = 0;
+  LuckLayout layout;
 
   bool Fits() const { return figures <= kFigures; }
 };
 
-struct LuckPlan {
+struct LuckOutcome {
+  WideInt luck = 0;        // what is above the mean, in 1 / unit of $0.0001
+  std::int64_t after = 0;  // value of the bets that stay undecided, in kValueUnit
+};
+
+// What every roll asks for stands in the first two cache lines, and in one of the outcome.
+struct alignas(64) LuckPlan {
   bool made = false;
-  bool byPoint = false;    // made, and nothing but point, amounts and calls counts
+  bool byPoint = false;     // made, and nothing but point, amounts and calls counts
+  int point = 0;            // the ride's
+  std::int64_t before = 0;  // value of the bets, in kValueUnit
+  WideInt expected = 0;     // the mean of money and change of value, in 1 / unit of $0.0001
+  std::int64_t unit = 36 * kValueUnit;
+  double variance = 0;  // of the roll's luck, in dollars squared
+  alignas(64) LuckRide ride;
   std::int64_t rides = 0;  // the roll that it was last used for
-  LuckRide ride;
-  std::int64_t whole = 36;                      // of the dice
-  std::int64_t unit = 36 * kValueUnit;          // in which luck and expected are parts of $0.0001
-  std::int64_t before = 0;                      // value of the bets, in kValueUnit
-  std::array<std::int64_t, kOutcomes> after{};  // value of those that stay undecided
-  WideInt expected = 0;                         // whole times the mean of money and change of value
-  std::array<WideInt, kOutcomes> luck{};        // whole times what is above the mean
-  double variance = 0;                          // of the roll's luck, in dollars squared
+  alignas(64) std::array<LuckOutcome, kOutcomes> outcomes{};
 };
 // Fills the plan for the bets of a seat as they are up now. Of the chances nothing is asked without
 // kHandBets.

@@ -229,7 +229,7 @@ TEST(LabCommand, SweepsAsSingleExperiments) {
             "if passline = 0 then bet cs1 on passline endif\nbet cs1 * 3 on passlineodds\n");
   const std::vector<std::string> same = {
       "--script", ground.folder.File("s.bet"), "--sessions", full ? "10000" : "50", "--rank", "mean",
-      "--rolls",  full ? "500" : "60"};
+      "--rolls",  full ? "20" : "60"};
   const auto says = [&](const std::string& stack, const std::string& setting) {
     std::vector<std::string> words = same;
     words.insert(words.end(), {"--stack", "1=" + stack, "--vary", "MaxOddsBet=" + setting});

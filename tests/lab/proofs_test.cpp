@@ -18,14 +18,14 @@ namespace {
 bool AtFullLength() { return std::getenv("TESSARYN_LAB_PROOFS") != nullptr; }
 
 // A system's table and what it plays.
-struct Played {
+struct ProofTable {
   Experiment experiment;
   LabHost host;
   std::unique_ptr<Game> fresh;
   std::unique_ptr<LabTable> table;
   SessionResult result;
 
-  Played(const Experiment& asked, TwisterStream::NextBlockFunction dice = nullptr) : experiment(asked) {
+  ProofTable(const Experiment& asked, TwisterStream::NextBlockFunction dice = nullptr) : experiment(asked) {
     LabProblem problem;
     fresh = BuildTable(experiment, experiment.systems[0], host, std::string(kBinFolder) + "/", problem);
     if (problem.Found()) ADD_FAILURE() << problem.text;
@@ -62,7 +62,7 @@ std::vector<StandingBet> WithItsBase(int bet) {
   return bets;
 }
 
-Experiment Asked(int bet, std::int64_t rolls) {
+Experiment ProofOf(int bet, std::int64_t rolls) {
   Experiment experiment;
   experiment.bankroll = Currency::Dollars(100'000);
   experiment.rolls = rolls;
@@ -115,9 +115,9 @@ TEST(LabProofs, LuckComesToNothingForEveryBetAndEveryEnd) {
     for (std::size_t end = 0; end < std::size(kEnds); ++end) {
       if (!AtFullLength() && end != static_cast<std::size_t>(bet) % std::size(kEnds)) continue;
       SCOPED_TRACE(std::string(BetName(bet)) + " until " + kEnds[end].name);
-      Experiment experiment = Asked(bet, kToldRolls);
+      Experiment experiment = ProofOf(bet, kToldRolls);
       kEnds[end].set(experiment);
-      Played played(experiment, ToldBlock);
+      ProofTable played(experiment, ToldBlock);
       WideInt luck = 0;
       std::int64_t lucky = 0;
       for (int all = 0; all < kOutcomes * kOutcomes * kOutcomes; ++all) {
@@ -148,16 +148,16 @@ double EdgeOf(const Game& game, int bet) {
 
 // Net less luck, less what the analysis gives for the bets decided: of mean 0, where hands are played out.
 TEST(LabProofs, TheMeanIsTheEdgeTimesTheHandleForEveryBet) {
-  const std::int64_t sessions = AtFullLength() ? 100'000 : 1'000;
+  const std::int64_t sessions = AtFullLength() ? 20'000 : 1'000;
   for (int bet = 1; bet <= kBets; ++bet)
     for (const bool byHands : {false, true}) {
       SCOPED_TRACE(std::string(BetName(bet)) + (byHands ? " by hands" : " by rolls"));
-      Experiment experiment = Asked(bet, byHands ? 0 : 40);
+      Experiment experiment = ProofOf(bet, byHands ? 0 : 40);
       experiment.hands = byHands ? 4 : 0;
       experiment.endWithHand = !byHands;
       // At an end by rolls these may stand, worth more or less than their face.
       if (!byHands && (FamilyRowOf(bet).decidedBy == DecidedBy::kHand || IsDont(bet))) continue;
-      Played played(experiment);
+      ProofTable played(experiment);
       double edge[kBets + 1];
       for (int each = 1; each <= kBets; ++each) edge[each] = EdgeOf(*played.fresh, each);
       double sum = 0;
@@ -186,9 +186,9 @@ TEST(LabProofs, TheMeanIsTheEdgeTimesTheHandleForEveryBet) {
 
 // Each come-out costs its 7 in 495, and each leads to one decision.
 TEST(LabProofs, TheLineCostsItsEdgeToTheLastPart) {
-  Experiment experiment = Asked(kPassLine, 50);
+  Experiment experiment = ProofOf(kPassLine, 50);
   experiment.endWithHand = true;
-  Played played(experiment);
+  ProofTable played(experiment);
   for (std::int64_t session = 0; session < 500; ++session) {
     const SessionResult& result = played.Session(session);
     EXPECT_TRUE(result.price * 495 == WideInt{7} * result.handle.raw * result.luckUnit) << session;

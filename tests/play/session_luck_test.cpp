@@ -39,7 +39,7 @@ void PrintTo(const House& house, std::ostream* out) { *out << house.name; }
 // TESSARYN_LUCK_ROLLS sets the length; a million takes two minutes a house in a build with checks.
 std::int64_t RollsWanted() { return test::LengthOf("TESSARYN_LUCK_ROLLS", 15'000, 2'000); }
 
-constexpr int kPlayers = 3;
+constexpr int kTablePlayers = 3;
 const Currency kBankroll = Currency::Dollars(5000);
 
 // Between the rolls its players make, raise, move and take down bets at random.
@@ -52,7 +52,7 @@ struct LuckHost : test::TestHost, LuckKeeper {
   }
   bool Yield(Game& game) override {
     for (int bets = plays ? Pick(0, 3) : 0; bets > 0; --bets) {
-      const int seat = Pick(1, kPlayers);
+      const int seat = Pick(1, kTablePlayers);
       const int bet = Pick(1, 2) == 1 ? Pick(1, kBets) : Pick(kPassLine, kDontCome);
       const Currency amount = game.table.BetAmount(seat, bet);
       const int what = Pick(1, 4);
@@ -74,7 +74,7 @@ struct LuckOfSession : testing::TestWithParam<House> {
   void SetUp() override {
     const House& house = GetParam();
     std::string error;
-    for (int seat = 1; seat <= kPlayers; ++seat)
+    for (int seat = 1; seat <= kTablePlayers; ++seat)
       ASSERT_TRUE(JoinPlayer(*game, seat, std::string("Player") + "XABC"[seat], kBankroll, error)) << error;
     std::vector<SettingChange> rules{{"BuyVigUpFront", 0, house.vigUpFront},
                                      {"LayVigUpFront", 0, house.vigUpFront},
@@ -122,7 +122,7 @@ TEST_P(LuckOfSession, HasAMeanOfNothing) {
   WatchLuckOfTurboRolls(*game, true);
   host.plays = true;
   Turbo(RollsWanted());
-  for (int seat = 1; seat <= kPlayers; ++seat) {
+  for (int seat = 1; seat <= kTablePlayers; ++seat) {
     const SessionLuckFigures figures = SessionLuckOf(*game, seat);
     const double brought = Worth(seat) - kBankroll.ToDouble();
     EXPECT_NEAR(figures.report.actual, brought, 1e-6 * (1 + std::abs(brought)));

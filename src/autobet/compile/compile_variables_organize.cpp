@@ -314,7 +314,7 @@ class StatementOrganizer {
       if (group.variable.Exists()) return CompileErrorText(CompileError::kAmbiguous);
       group.variable = unit;
     } else if (token.kind == kTokenScope) {
-      if (group.scope != kNotGiven) return CompileErrorText(CompileError::kScopes);
+      if (group.scope != kNotGiven) return CompileErrorText(CompileError::kAmbiguousScope);
       group.scope = CodeOf(token);
     } else if (token.kind == kTokenMetric) {
       if (group.metric != kNotGiven) return CompileErrorText(CompileError::kMetrics);
