@@ -13,7 +13,7 @@ function(add_core_library name)
   if(TESSARYN_IPO AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     set(together ${CMAKE_CURRENT_BINARY_DIR}/${name}_together.o)
     add_custom_command(OUTPUT ${together}
-      COMMAND ${CMAKE_CXX_COMPILER} -flto=auto -r -nostdlib -flinker-output=nolto-rel -o ${together} ${objects}
+      COMMAND ${CMAKE_CXX_COMPILER} -Wno-stringop-overflow -flto=auto -r -nostdlib -flinker-output=nolto-rel -o ${together} ${objects}
       DEPENDS ${name} ${objects}
       COMMENT "Optimising the core as a whole" COMMAND_EXPAND_LISTS VERBATIM)
     set(objects ${together})
@@ -27,6 +27,7 @@ endfunction()
 function(add_checked_core name)
   add_library(${name} OBJECT ${CORE_SOURCES})
   compile_by_folders(${name} 6 ${CORE_SOURCES})
+  tell_version(${CMAKE_SOURCE_DIR}/src/lab/html_report.cpp)
   target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_compile_options(${name} PRIVATE -UNDEBUG -O1 -g1 -fno-omit-frame-pointer
     -fsanitize=address,undefined -fno-sanitize=null,alignment,vptr,object-size -fno-sanitize-recover=all)

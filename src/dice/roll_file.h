@@ -157,13 +157,13 @@ std::string PasteFromTextFile(RollFile& file, const std::string& path, const std
 
 // The selected rolls into a file of their own, in place of what it held; the caller has asked. The error is
 // Msg::kCopyToOpenFile when it is the open file.
-inline constexpr std::string_view kCopyToRollFile = "Copy To Roll File";
+inline constexpr std::string_view kRollCopyTitle = "Copy To Roll File";
 std::string CopyRollsToRollFile(RollFile& file, const std::string& path,
-                                std::string_view command = kCopyToRollFile);
+                                std::string_view command = kRollCopyTitle);
 
 // The same up to its last step: the copy takes its place when the caller commits the target.
 std::string DraftRollFile(RollFile& file, const std::string& path, FileReplacement& target,
-                          std::string_view command = kCopyToRollFile);
+                          std::string_view command = kRollCopyTitle);
 
 // A text for each roll: "roll#", "die1", "die2" and "total" in the format stand for the values, in capitals
 // or not. False: the format has neither die nor total, Msg::kNoDiceInFormat.

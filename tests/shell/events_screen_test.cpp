@@ -351,7 +351,7 @@ TEST(EventsLogScreen, ALargeLogOpensAndScrollsAtOnce) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return progress.text().endsWith('%') || !stop.isVisible(); }));
   for (int page = 0; page < 5 && stop.isVisible(); ++page)
     slowest = std::max(slowest, shown("a page while it is searched", key(Qt::Key_PageDown)));
-  if (bytes > 1'000'000'000) EXPECT_TRUE(stop.isVisible());
+  EXPECT_TRUE(bytes <= 1'000'000'000 || stop.isVisible());
   shown("given up", [&] { QTest::mouseClick(&stop, Qt::LeftButton); });
   EXPECT_FALSE(stop.isVisible());
   QElapsedTimer search;

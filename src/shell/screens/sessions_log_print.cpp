@@ -2,12 +2,14 @@
 #include <QComboBox>
 #include <algorithm>
 
+#include "base/messages.h"
 #include "shell/screens/core_words.h"
 #include "shell/screens/sessions_log_histogram.h"
 #include "shell/screens/sessions_log_rows.h"
 #include "shell/screens/sessions_log_screen.h"
 #include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

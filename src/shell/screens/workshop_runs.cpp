@@ -13,6 +13,7 @@
 #include "shell/screens/workshop_watch.h"
 #include "shell/screens/workshop_window.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 

@@ -28,6 +28,7 @@
 #include "shell/screens/workshop_trial.h"
 #include "shell/screens/workshop_watch.h"
 #include "shell/table/screen_tools.h"
+#include "state/game.h"
 
 namespace tessaryn {
 namespace {

@@ -70,7 +70,7 @@ void RemoveAllBets(Game& game);
 bool IsContractBet(const Game& game, SeatId seat, BetId bet);
 
 // Whether what the next click is meant for may be done on the bet as the table stands.
-bool TakesClick(Game& game, const TableCommands& commands, int bet);
+bool TakesClick(Game& game, const TableCommands& commands, BetId bet);
 
 // --- What the pointer is over (bet_tips.cpp).
 
