@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Brings the files of translations up to date with the texts of the window: data/translations/tessaryn_XX.ts, a
 # language each. What a file has already stays; what is new is marked unfinished; what is gone goes.
-# To add a language, name it here and in src/shell/table/languages.cpp, and run this.
+# To add a language, name it here and in src/shell/table/spoken_language.cpp, and run this.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 LANGUAGES=(es de fr tr)

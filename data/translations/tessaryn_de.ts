@@ -433,21 +433,19 @@ Daten:  %2</translation>
         <source>Hand %1</source>
         <translation>Hand %1</translation>
     </message>
-    <message>
-        <source>1 roll</source>
-        <translation>1 Wurf</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 Würfe</translation>
+        <translation>
+            <numerusform>%1 Wurf</numerusform>
+            <numerusform>%1 Würfe</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 point made</source>
-        <translation>1 Point erzielt</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 points made</source>
-        <translation>%1 Points erzielt</translation>
+        <translation>
+            <numerusform>%1 Point erzielt</numerusform>
+            <numerusform>%1 Points erzielt</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -2094,6 +2092,34 @@ Daten:  %2</translation>
         <source>Save Sessions Log As</source>
         <translation>Sessions-Log speichern unter</translation>
     </message>
+    <message>
+        <source>Open Laboratory Experiment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laboratory experiments (*.lab);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Laboratory Experiment As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Sessions As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions Logs (*.slg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Results As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>
@@ -2195,9 +2221,12 @@ Daten:  %2</translation>
         <source>Laboratory</source>
         <translation>Labor</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>At the table: session %1 of %2, %3 rolls to %4</source>
-        <translation>Am Tisch: Session %1 von %2, %3 Würfe bis %4</translation>
+        <translation>
+            <numerusform>Am Tisch: Session %1 von %2, %3 Wurf bis %4</numerusform>
+            <numerusform>Am Tisch: Session %1 von %2, %3 Würfe bis %4</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1: no session rolled the dice: %2</source>
@@ -2235,17 +2264,26 @@ Daten:  %2</translation>
         <source>loss limit -%1</source>
         <translation>Verlustgrenze -%1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>at most %1 rolls</source>
-        <translation>höchstens %1 Würfe</translation>
+        <translation>
+            <numerusform>höchstens %1 Wurf</numerusform>
+            <numerusform>höchstens %1 Würfe</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>at most %1 hands</source>
-        <translation>höchstens %1 Hände</translation>
+        <translation>
+            <numerusform>höchstens %1 Hand</numerusform>
+            <numerusform>höchstens %1 Hände</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions each, %2.</source>
-        <translation>je %1 Sessions, %2.</translation>
+        <translation>
+            <numerusform>je %1 Session, %2.</numerusform>
+            <numerusform>je %1 Sessions, %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 would give ±%2.</source>
@@ -2383,9 +2421,12 @@ Daten:  %2</translation>
         <source>Nothing has been played yet.</source>
         <translation>Noch wurde nichts gespielt.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions (%2)</source>
-        <translation>%1 Sessions (%2)</translation>
+        <translation>
+            <numerusform>%1 Session (%2)</numerusform>
+            <numerusform>%1 Sessions (%2)</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 to %2: A %3</source>
@@ -2394,6 +2435,133 @@ Daten:  %2</translation>
     <message>
         <source>, B %1</source>
         <translation>, B %1</translation>
+    </message>
+    <message>
+        <source>at most %1 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price of the bets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished">Von</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation type="unfinished">Bis</translation>
+    </message>
+    <message>
+        <source>Better, 95% sure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least bankroll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest start of CheckStack %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>95% bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">keiner</translation>
+    </message>
+    <message>
+        <source>%1: nothing keeps the ruined within %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No session was ruined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruined by then, share of sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolls.  Line: A.  Dashed: B.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolls.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruin over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Framed: the best.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, with 95% bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1: %2</translation>
+    </message>
+    <message>
+        <source>%1: mean %2 ± %3, median %4, ruined %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LaboratorySetup</name>
+    <message>
+        <source>%1 %2: %3</source>
+        <translation type="unfinished">%1  %2 % {1 %2:?} {3?}</translation>
     </message>
 </context>
 <context>
@@ -2409,13 +2577,12 @@ Daten:  %2</translation>
 </context>
 <context>
     <name>Plates</name>
-    <message>
-        <source>1 Bet:</source>
-        <translation>1 Einsatz:</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 Bets:</source>
-        <translation>%1 Einsätze:</translation>
+        <translation>
+            <numerusform>%1 Einsatz:</numerusform>
+            <numerusform>%1 Einsätze:</numerusform>
+        </translation>
     </message>
     <message>
         <source>Won:</source>
@@ -2436,6 +2603,10 @@ Daten:  %2</translation>
     <message>
         <source>Bankroll:</source>
         <translation>Bankroll:</translation>
+    </message>
+    <message>
+        <source>Bank:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2651,13 +2822,12 @@ Daten:  %2</translation>
         <source>All players selected</source>
         <translation>Alle Spieler gewählt</translation>
     </message>
-    <message>
-        <source>1 player selected</source>
-        <translation>1 Spieler gewählt</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 players selected</source>
-        <translation>%1 Spieler gewählt</translation>
+        <translation>
+            <numerusform>%1 Spieler gewählt</numerusform>
+            <numerusform>%1 Spieler gewählt</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, more than two standard errors off</source>
@@ -2790,9 +2960,12 @@ Daten:  %2</translation>
         <source>%1, more than two standard errors away</source>
         <translation>%1, mehr als zwei Standardfehler entfernt</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 values are no rolls</source>
-        <translation>%1 Werte sind keine Würfe</translation>
+        <translation>
+            <numerusform>%1 Wert ist kein Wurf</numerusform>
+            <numerusform>%1 Werte sind keine Würfe</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3605,9 +3778,12 @@ Daten:  %2</translation>
         <source>slow</source>
         <translation>langsam</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 Würfe</translation>
+        <translation>
+            <numerusform>%1 Wurf</numerusform>
+            <numerusform>%1 Würfe</numerusform>
+        </translation>
     </message>
     <message>
         <source>@ %1 rolls/hr</source>
@@ -3824,9 +4000,12 @@ Daten:  %2</translation>
         <source>LAST %1</source>
         <translation>LETZTE %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 notes:</source>
-        <translation>%1 Hinweise:</translation>
+        <translation>
+            <numerusform>%1 Hinweis:</numerusform>
+            <numerusform>%1 Hinweise:</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4844,9 +5023,12 @@ Daten:  %2</translation>
         <source>&quot;%1&quot; is not in the script.</source>
         <translation>&quot;%1&quot; steht nicht im Skript.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 replaced</source>
-        <translation>%1 ersetzt</translation>
+        <translation>
+            <numerusform>%1 ersetzt</numerusform>
+            <numerusform>%1 ersetzt</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5119,6 +5301,10 @@ Daten:  %2</translation>
         <source>&amp;Cancel</source>
         <translation>&amp;Abbrechen</translation>
     </message>
+    <message>
+        <source>How much would %1 like to buy-in for?</source>
+        <translation>Mit wie viel möchte sich %1 einkaufen?</translation>
+    </message>
 </context>
 <context>
     <name>tessaryn::LaboratoryScreen</name>
@@ -5246,6 +5432,166 @@ Daten:  %2</translation>
         <source>Tessaryn Laboratory</source>
         <translation>Tessaryn Labor</translation>
     </message>
+    <message>
+        <source>rank by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What systems are ranked by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairs of systems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation type="unfinished">Fundstellen</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System of the sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Experiment ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions as &amp;CSV ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sessions Log ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results as &amp;JSON ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as command &amp;line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking, always on the same dice ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sessions for each value that is tried, seed %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems</source>
+        <translation type="unfinished">Systeme</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation type="unfinished">Würfel</translation>
+    </message>
+    <message>
+        <source>percentage dice, seed %1, the same for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RNG %1, seed %2, the same for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished">Zeit</translation>
+    </message>
+    <message>
+        <source>%1 sessions in %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Experiment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation type="unfinished">&amp;Halt</translation>
+    </message>
+    <message>
+        <source>&amp;Find it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go on to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved; it is kept up to date there from now on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: a line for each session and system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this file is there already; choose another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: a Sessions Log for each system, numbered in their order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command line for this experiment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tessaryn::LaboratorySetup</name>
@@ -5286,16 +5632,8 @@ Daten:  %2</translation>
         <translation>&amp;Einsätze hinzufügen</translation>
     </message>
     <message>
-        <source>S&amp;takes that CheckStacks start at, each a system of its own:</source>
-        <translation>Beträ&amp;ge, mit denen CheckStacks beginnen, jeder ein eigenes System:</translation>
-    </message>
-    <message>
         <source>Stakes that CheckStacks start at</source>
         <translation>Beträge, mit denen CheckStacks beginnen</translation>
-    </message>
-    <message>
-        <source>as the scripts have them; or 1=5,10,25 or 1=5..50:5</source>
-        <translation>wie die Skripte sie haben; oder 1=5,10,25 oder 1=5..50:5</translation>
     </message>
     <message>
         <source>none</source>
@@ -5378,12 +5716,108 @@ Daten:  %2</translation>
         <translation>Es gibt nichts zu spielen: ein Skript oder stehende Einsätze hinzufügen.</translation>
     </message>
     <message>
-        <source>Stakes %1: %2</source>
-        <translation>Beträge %1: %2</translation>
-    </message>
-    <message>
         <source>Start with: must be from 0.01 to %1</source>
         <translation>Beginn mit: muss von 0.01 bis %1 sein</translation>
+    </message>
+    <message>
+        <source>CheckStacks s&amp;tart at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Vary settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings that are varied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of play, by the roll rate in the table&apos;s settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many play at a time; results are the same for any number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else those of a table that nobody has changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other settings for all systems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>other settings: SimRollRate=120; ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep every session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What sessions bring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least bankroll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The largest stake</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruined at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CheckStack number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The share of sessions that may be ruined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose largest start is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stakes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say how long a session may last: rolls, hands or hours.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5793,29 +6227,26 @@ Daten:  %2</translation>
         <source>%1 or more</source>
         <translation>%1 oder mehr</translation>
     </message>
-    <message>
-        <source>1 point made</source>
-        <translation>1 Point erzielt</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 points made</source>
-        <translation>%1 Points erzielt</translation>
+        <translation>
+            <numerusform>%1 Point erzielt</numerusform>
+            <numerusform>%1 Points erzielt</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 line win</source>
-        <translation>1 Line-Gewinn</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 line wins</source>
-        <translation>%1 Line-Gewinne</translation>
+        <translation>
+            <numerusform>%1 Line-Gewinn</numerusform>
+            <numerusform>%1 Line-Gewinne</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 different point</source>
-        <translation>1 verschiedener Point</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 different points</source>
-        <translation>%1 verschiedene Points</translation>
+        <translation>
+            <numerusform>%1 verschiedener Point</numerusform>
+            <numerusform>%1 verschiedene Points</numerusform>
+        </translation>
     </message>
     <message>
         <source>Bets</source>
@@ -6279,9 +6710,12 @@ Daten:  %2</translation>
         <source>No file open</source>
         <translation>Keine Datei offen</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 Würfe</translation>
+        <translation>
+            <numerusform>%1 Wurf</numerusform>
+            <numerusform>%1 Würfe</numerusform>
+        </translation>
     </message>
     <message>
         <source>Roll 12, 3 and 4: %1</source>
@@ -6291,17 +6725,26 @@ Daten:  %2</translation>
         <source>No die and no total in it</source>
         <translation>Weder Würfel noch Summe darin</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls counted ...</source>
-        <translation>%1 Würfe gezählt ...</translation>
+        <translation>
+            <numerusform>%1 Wurf gezählt ...</numerusform>
+            <numerusform>%1 Würfe gezählt ...</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>All %1 rolls</source>
-        <translation>Alle %1 Würfe</translation>
+        <translation>
+            <numerusform>Nur %1 Wurf</numerusform>
+            <numerusform>Alle %1 Würfe</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>The %1 selected rolls</source>
-        <translation>Die %1 ausgewählten Würfe</translation>
+        <translation>
+            <numerusform>%1 ausgewählter Wurf</numerusform>
+            <numerusform>Die %1 ausgewählten Würfe</numerusform>
+        </translation>
     </message>
     <message>
         <source>Print Dice Rolls</source>
@@ -6465,13 +6908,12 @@ Datei, Neu oder Öffnen beginnt.</translation>
         <source>mean</source>
         <translation>Mittel</translation>
     </message>
-    <message>
-        <source>1 session</source>
-        <translation>1 Session</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions</source>
-        <translation>%1 Sessions</translation>
+        <translation>
+            <numerusform>%1 Session</numerusform>
+            <numerusform>%1 Sessions</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 to %2: %3, %4% at or below</source>
@@ -6700,9 +7142,12 @@ Datei, Neu oder Öffnen beginnt.</translation>
         <source>Break-point: %1</source>
         <translation>Grenzwert: %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions</source>
-        <translation>%1 Sessions</translation>
+        <translation>
+            <numerusform>%1 Session</numerusform>
+            <numerusform>%1 Sessions</numerusform>
+        </translation>
     </message>
     <message>
         <source>Statistic</source>
@@ -7222,21 +7667,30 @@ Datei, Neu oder Öffnen beginnt.</translation>
         <source>%1 of %2 bet</source>
         <translation>%1 von %2 gesetzt</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls in %2 s</source>
-        <translation>%1 Würfe in %2 s</translation>
+        <translation>
+            <numerusform>%1 Wurf in %2 s</numerusform>
+            <numerusform>%1 Würfe in %2 s</numerusform>
+        </translation>
     </message>
     <message>
         <source>stopped</source>
         <translation>angehalten</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 (line %2, %3 times)</source>
-        <translation>%1 (Zeile %2, %3-mal)</translation>
+        <translation>
+            <numerusform>%1 (Zeile %2, %3-mal)</numerusform>
+            <numerusform>%1 (Zeile %2, %3-mal)</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Run before: %1, %2 rolls</source>
-        <translation>Lauf davor: %1, %2 Würfe</translation>
+        <translation>
+            <numerusform>Lauf davor: %1, %2 Wurf</numerusform>
+            <numerusform>Lauf davor: %1, %2 Würfe</numerusform>
+        </translation>
     </message>
 </context>
 <context>

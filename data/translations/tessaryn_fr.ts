@@ -433,21 +433,19 @@ Données :  %2</translation>
         <source>Hand %1</source>
         <translation>Main %1</translation>
     </message>
-    <message>
-        <source>1 roll</source>
-        <translation>1 lancer</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 lancers</translation>
+        <translation>
+            <numerusform>%1 lancer</numerusform>
+            <numerusform>%1 lancers</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 point made</source>
-        <translation>1 point réalisé</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 points made</source>
-        <translation>%1 points réalisés</translation>
+        <translation>
+            <numerusform>%1 point réalisé</numerusform>
+            <numerusform>%1 points réalisés</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -2094,6 +2092,34 @@ Données :  %2</translation>
         <source>Save Sessions Log As</source>
         <translation>Enregistrer le journal des sessions sous</translation>
     </message>
+    <message>
+        <source>Open Laboratory Experiment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laboratory experiments (*.lab);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Laboratory Experiment As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Sessions As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions Logs (*.slg);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Results As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>JSON (*.json);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>Guide</name>
@@ -2195,9 +2221,12 @@ Données :  %2</translation>
         <source>Laboratory</source>
         <translation>Laboratoire</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>At the table: session %1 of %2, %3 rolls to %4</source>
-        <translation>À la table : session %1 de %2, %3 lancers jusqu&apos;à %4</translation>
+        <translation>
+            <numerusform>À la table : session %1 de %2, %3 lancer jusqu'à %4</numerusform>
+            <numerusform>À la table : session %1 de %2, %3 lancers jusqu'à %4</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1: no session rolled the dice: %2</source>
@@ -2235,17 +2264,26 @@ Données :  %2</translation>
         <source>loss limit -%1</source>
         <translation>limite de perte -%1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>at most %1 rolls</source>
-        <translation>au plus %1 lancers</translation>
+        <translation>
+            <numerusform>au plus %1 lancer</numerusform>
+            <numerusform>au plus %1 lancers</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>at most %1 hands</source>
-        <translation>au plus %1 mains</translation>
+        <translation>
+            <numerusform>au plus %1 main</numerusform>
+            <numerusform>au plus %1 mains</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions each, %2.</source>
-        <translation>%1 sessions chacun, %2.</translation>
+        <translation>
+            <numerusform>%1 session chacun, %2.</numerusform>
+            <numerusform>%1 sessions chacun, %2.</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 would give ±%2.</source>
@@ -2383,9 +2421,12 @@ Données :  %2</translation>
         <source>Nothing has been played yet.</source>
         <translation>Rien n&apos;a encore été joué.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions (%2)</source>
-        <translation>%1 sessions (%2)</translation>
+        <translation>
+            <numerusform>%1 session (%2)</numerusform>
+            <numerusform>%1 sessions (%2)</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 to %2: A %3</source>
@@ -2394,6 +2435,133 @@ Données :  %2</translation>
     <message>
         <source>, B %1</source>
         <translation>, B %1</translation>
+    </message>
+    <message>
+        <source>at most %1 hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price of the bets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean difference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From</source>
+        <translation type="unfinished">De</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation type="unfinished">À</translation>
+    </message>
+    <message>
+        <source>Better, 95% sure</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not known</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Least bankroll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest start of CheckStack %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>95% bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished">aucun</translation>
+    </message>
+    <message>
+        <source>%1: nothing keeps the ruined within %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No session was ruined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruined by then, share of sessions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolls.  Line: A.  Dashed: B.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rolls.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruin over time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Framed: the best.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, with 95% bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished">%1 : %2</translation>
+    </message>
+    <message>
+        <source>%1: mean %2 ± %3, median %4, ruined %5</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LaboratorySetup</name>
+    <message>
+        <source>%1 %2: %3</source>
+        <translation type="unfinished">%1  %2 % {1 %2:?} {3?}</translation>
     </message>
 </context>
 <context>
@@ -2409,13 +2577,12 @@ Données :  %2</translation>
 </context>
 <context>
     <name>Plates</name>
-    <message>
-        <source>1 Bet:</source>
-        <translation>1 mise :</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 Bets:</source>
-        <translation>%1 mises :</translation>
+        <translation>
+            <numerusform>%1 mise :</numerusform>
+            <numerusform>%1 mises :</numerusform>
+        </translation>
     </message>
     <message>
         <source>Won:</source>
@@ -2436,6 +2603,10 @@ Données :  %2</translation>
     <message>
         <source>Bankroll:</source>
         <translation>Bankroll :</translation>
+    </message>
+    <message>
+        <source>Bank:</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2651,13 +2822,12 @@ Données :  %2</translation>
         <source>All players selected</source>
         <translation>Tous les joueurs choisis</translation>
     </message>
-    <message>
-        <source>1 player selected</source>
-        <translation>1 joueur choisi</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 players selected</source>
-        <translation>%1 joueurs choisis</translation>
+        <translation>
+            <numerusform>%1 joueur choisi</numerusform>
+            <numerusform>%1 joueurs choisis</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1, more than two standard errors off</source>
@@ -2790,9 +2960,12 @@ Données :  %2</translation>
         <source>%1, more than two standard errors away</source>
         <translation>%1, à plus de deux erreurs types</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 values are no rolls</source>
-        <translation>%1 valeurs ne sont pas des lancers</translation>
+        <translation>
+            <numerusform>%1 valeur n'est pas un lancer</numerusform>
+            <numerusform>%1 valeurs ne sont pas des lancers</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -3605,9 +3778,12 @@ Données :  %2</translation>
         <source>slow</source>
         <translation>lent</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 lancers</translation>
+        <translation>
+            <numerusform>%1 lancer</numerusform>
+            <numerusform>%1 lancers</numerusform>
+        </translation>
     </message>
     <message>
         <source>@ %1 rolls/hr</source>
@@ -3824,9 +4000,12 @@ Données :  %2</translation>
         <source>LAST %1</source>
         <translation>%1 DERNIERS</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 notes:</source>
-        <translation>%1 notes :</translation>
+        <translation>
+            <numerusform>%1 note :</numerusform>
+            <numerusform>%1 notes :</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -4844,9 +5023,12 @@ Données :  %2</translation>
         <source>&quot;%1&quot; is not in the script.</source>
         <translation>« %1 » n&apos;est pas dans le script.</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 replaced</source>
-        <translation>%1 remplacés</translation>
+        <translation>
+            <numerusform>%1 remplacé</numerusform>
+            <numerusform>%1 remplacés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -5119,6 +5301,10 @@ Données :  %2</translation>
         <source>&amp;Cancel</source>
         <translation>&amp;Annuler</translation>
     </message>
+    <message>
+        <source>How much would %1 like to buy-in for?</source>
+        <translation>Avec combien %1 prend-il place à la table ?</translation>
+    </message>
 </context>
 <context>
     <name>tessaryn::LaboratoryScreen</name>
@@ -5246,6 +5432,166 @@ Données :  %2</translation>
         <source>Tessaryn Laboratory</source>
         <translation>Laboratoire de Tessaryn</translation>
     </message>
+    <message>
+        <source>rank by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What systems are ranked by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairs of systems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pairs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation type="unfinished">Résultats</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System of the sweep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Experiment ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sessions as &amp;CSV ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Sessions Log ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Results as &amp;JSON ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as command &amp;line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looking, always on the same dice ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sessions for each value that is tried, seed %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systems</source>
+        <translation type="unfinished">Systèmes</translation>
+    </message>
+    <message>
+        <source>Dice</source>
+        <translation type="unfinished">Dés</translation>
+    </message>
+    <message>
+        <source>percentage dice, seed %1, the same for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RNG %1, seed %2, the same for all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation type="unfinished">Temps</translation>
+    </message>
+    <message>
+        <source>%1 sessions in %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Experiment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Stop</source>
+        <translation type="unfinished">&amp;Arrêter</translation>
+    </message>
+    <message>
+        <source>&amp;Find it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Go on to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved; it is kept up to date there from now on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: a line for each session and system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this file is there already; choose another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: a Sessions Log for each system, numbered in their order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no command line for this experiment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copied: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tessaryn::LaboratorySetup</name>
@@ -5286,16 +5632,8 @@ Données :  %2</translation>
         <translation>Ajouter des &amp;mises</translation>
     </message>
     <message>
-        <source>S&amp;takes that CheckStacks start at, each a system of its own:</source>
-        <translation>Montants de &amp;départ des CheckStacks, chacun un système à part :</translation>
-    </message>
-    <message>
         <source>Stakes that CheckStacks start at</source>
         <translation>Montants de départ des CheckStacks</translation>
-    </message>
-    <message>
-        <source>as the scripts have them; or 1=5,10,25 or 1=5..50:5</source>
-        <translation>ceux des scripts ; ou 1=5,10,25 ou 1=5..50:5</translation>
     </message>
     <message>
         <source>none</source>
@@ -5378,12 +5716,108 @@ Données :  %2</translation>
         <translation>Il n&apos;y a rien à jouer : ajoutez un script ou des mises permanentes.</translation>
     </message>
     <message>
-        <source>Stakes %1: %2</source>
-        <translation>Montants %1 : %2</translation>
-    </message>
-    <message>
         <source>Start with: must be from 0.01 to %1</source>
         <translation>Début avec : doit être de 0.01 à %1</translation>
+    </message>
+    <message>
+        <source>CheckStacks s&amp;tart at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Vary settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings that are varied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Most hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of play, by the roll rate in the table&apos;s settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cores</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How many play at a time; results are the same for any number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Else those of a table that nobody has changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other settings for all systems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>other settings: SimRollRate=120; ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep every session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What sessions bring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The least bankroll</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The largest stake</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ruined at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CheckStack number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The share of sessions that may be ruined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whose largest start is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stakes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Say how long a session may last: rolls, hands or hours.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -5793,29 +6227,26 @@ Données :  %2</translation>
         <source>%1 or more</source>
         <translation>%1 ou plus</translation>
     </message>
-    <message>
-        <source>1 point made</source>
-        <translation>1 point réalisé</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 points made</source>
-        <translation>%1 points réalisés</translation>
+        <translation>
+            <numerusform>%1 point réalisé</numerusform>
+            <numerusform>%1 points réalisés</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 line win</source>
-        <translation>1 gain de ligne</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 line wins</source>
-        <translation>%1 gains de ligne</translation>
+        <translation>
+            <numerusform>%1 gain de ligne</numerusform>
+            <numerusform>%1 gains de ligne</numerusform>
+        </translation>
     </message>
-    <message>
-        <source>1 different point</source>
-        <translation>1 point différent</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 different points</source>
-        <translation>%1 points différents</translation>
+        <translation>
+            <numerusform>%1 point différent</numerusform>
+            <numerusform>%1 points différents</numerusform>
+        </translation>
     </message>
     <message>
         <source>Bets</source>
@@ -6279,9 +6710,12 @@ Données :  %2</translation>
         <source>No file open</source>
         <translation>Aucun fichier ouvert</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls</source>
-        <translation>%1 lancers</translation>
+        <translation>
+            <numerusform>%1 lancer</numerusform>
+            <numerusform>%1 lancers</numerusform>
+        </translation>
     </message>
     <message>
         <source>Roll 12, 3 and 4: %1</source>
@@ -6291,17 +6725,26 @@ Données :  %2</translation>
         <source>No die and no total in it</source>
         <translation>Ni dé ni total dedans</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls counted ...</source>
-        <translation>%1 lancers comptés ...</translation>
+        <translation>
+            <numerusform>%1 lancer compté ...</numerusform>
+            <numerusform>%1 lancers comptés ...</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>All %1 rolls</source>
-        <translation>Les %1 lancers</translation>
+        <translation>
+            <numerusform>Un seul lancer : %1</numerusform>
+            <numerusform>Les %1 lancers</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>The %1 selected rolls</source>
-        <translation>Les %1 lancers choisis</translation>
+        <translation>
+            <numerusform>%1 lancer choisi</numerusform>
+            <numerusform>Les %1 lancers choisis</numerusform>
+        </translation>
     </message>
     <message>
         <source>Print Dice Rolls</source>
@@ -6465,13 +6908,12 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
         <source>mean</source>
         <translation>moyenne</translation>
     </message>
-    <message>
-        <source>1 session</source>
-        <translation>1 session</translation>
-    </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions</source>
-        <translation>%1 sessions</translation>
+        <translation>
+            <numerusform>%1 session</numerusform>
+            <numerusform>%1 sessions</numerusform>
+        </translation>
     </message>
     <message>
         <source>%1 to %2: %3, %4% at or below</source>
@@ -6700,9 +7142,12 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
         <source>Break-point: %1</source>
         <translation>Limite : %1</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 sessions</source>
-        <translation>%1 sessions</translation>
+        <translation>
+            <numerusform>%1 session</numerusform>
+            <numerusform>%1 sessions</numerusform>
+        </translation>
     </message>
     <message>
         <source>Statistic</source>
@@ -7222,21 +7667,30 @@ Fichier, Nouveau ou Ouvrir pour commencer.</translation>
         <source>%1 of %2 bet</source>
         <translation>%1 sur %2 misés</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 rolls in %2 s</source>
-        <translation>%1 lancers en %2 s</translation>
+        <translation>
+            <numerusform>%1 lancer en %2 s</numerusform>
+            <numerusform>%1 lancers en %2 s</numerusform>
+        </translation>
     </message>
     <message>
         <source>stopped</source>
         <translation>arrêté</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>%1 (line %2, %3 times)</source>
-        <translation>%1 (ligne %2, %3 fois)</translation>
+        <translation>
+            <numerusform>%1 (ligne %2, %3 fois)</numerusform>
+            <numerusform>%1 (ligne %2, %3 fois)</numerusform>
+        </translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>Run before: %1, %2 rolls</source>
-        <translation>Série précédente : %1, %2 lancers</translation>
+        <translation>
+            <numerusform>Série précédente : %1, %2 lancer</numerusform>
+            <numerusform>Série précédente : %1, %2 lancers</numerusform>
+        </translation>
     </message>
 </context>
 <context>

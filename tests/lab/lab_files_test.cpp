@@ -17,7 +17,7 @@ namespace {
 std::string Folder() { return std::string(kBinFolder) + "/"; }
 
 // So many that a run can be stopped on the way.
-const std::int64_t kSessions = std::getenv("TESSARYN_SANITIZED") != nullptr ? 437 : 20'037;
+const std::int64_t kSessions = std::getenv("TESSARYN_SANITIZED") != nullptr ? 437 : 150'037;
 
 Experiment TwoSystems() {
   Experiment experiment;

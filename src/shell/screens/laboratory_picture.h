@@ -6,21 +6,9 @@
 #include <QWidget>
 #include <memory>
 
-#include "lab/lab_grid.h"
-#include "shell/screens/laboratory_figures.h"
+#include "shell/screens/laboratory_look.h"
 
 namespace tessaryn {
-
-enum class LabPicture { kResults, kWay, kEnds, kRuin, kSweep };
-
-struct LabLook {
-  LabPicture picture = LabPicture::kResults;
-  std::size_t a = 0;
-  std::size_t b = 0;  // the same as a: none
-  bool dark = false;
-  std::shared_ptr<const LabGrid> grid;  // of a sweep; null: nothing was varied
-  RankBy by = RankBy::kMean;
-};
 
 // The same on screen, on paper and in files.
 void PaintLab(QPainter& painter, const QRectF& area, const LabFigures& figures, const LabLook& look);

@@ -1,7 +1,9 @@
 // Sweeps on the laboratory's screen: two as a map, one as a curve with its bounds.
 #pragma once
 
-#include "shell/screens/laboratory_picture.h"
+#include <QPainter>
+
+#include "shell/screens/laboratory_look.h"
 
 namespace tessaryn {
 

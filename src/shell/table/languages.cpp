@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QLocale>
 #include <QTranslator>
-#include <QVariant>
 #include <memory>
 
 #include "shell/table/spoken_texts.h"
@@ -14,13 +13,7 @@ static void OpenTranslations() { Q_INIT_RESOURCE(translations); }
 namespace tessaryn {
 namespace {
 
-constexpr SpokenLanguage kLanguages[] = {{"English", ""},
-                                         {"Espa\u00f1ol", "es"},
-                                         {"Deutsch", "de"},
-                                         {"Fran\u00e7ais", "fr"},
-                                         {"T\u00fcrk\u00e7e", "tr"}};
-
-constexpr const char* kSpoken = "languageSpoken";
+const std::span kLanguages = SpokenLanguages();
 constexpr const char* kOfQt = "textsOfQt";
 
 QString FileOf(const char* whose, int language) {
@@ -52,23 +45,19 @@ Wording WordingOf(int language) {
 
 }  // namespace
 
-std::span<const SpokenLanguage> SpokenLanguages() { return kLanguages; }
-
 int LanguageOfDesktop() {
   const QString desktop = QLocale::system().name();
-  for (int language = 1; language < static_cast<int>(std::size(kLanguages)); ++language)
+  for (int language = 1; language < static_cast<int>(kLanguages.size()); ++language)
     if (desktop.startsWith(QLatin1String(kLanguages[language].code))) return language;
   return 0;
 }
 
-int LanguageSpoken() { return qApp->property(kSpoken).toInt(); }
-
 void SpeakLanguage(int language, const QStringList& entered) {
-  const int wanted = language > 0 && language < static_cast<int>(std::size(kLanguages)) ? language : 0;
+  const int wanted = language > 0 && language < static_cast<int>(kLanguages.size()) ? language : 0;
   const bool listens = SpokenTexts::IsThere();
   if (listens && wanted == LanguageSpoken()) return;
   OpenTranslations();
-  qApp->setProperty(kSpoken, wanted);
+  NoteSpokenLanguage(wanted);
   LoadTextsOfQt(wanted);
   SpeakWith(WordingOf(wanted), entered);
 }

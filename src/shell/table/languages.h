@@ -1,21 +1,13 @@
 // The languages that the program speaks, and the change from one to another.
 #pragma once
 
-#include <QString>
 #include <QStringList>
-#include <span>
 
+#include "shell/table/spoken_language.h"
 #include "shell/table/spoken_texts.h"
 
 namespace tessaryn {
 
-struct SpokenLanguage {
-  const char* name;  // as it calls itself, the same in every language
-  const char* code;  // tessaryn_XX.ts; empty for the language of the sources
-};
-
-// By their number in the settings; 0 is English.
-std::span<const SpokenLanguage> SpokenLanguages();
 // That of the desktop, if it is one of them; else English.
 int LanguageOfDesktop();
 
@@ -24,9 +16,6 @@ int LanguageOfDesktop();
 // before the first widget is made; what was made earlier keeps its language. A number that is no language is
 // English. entered: texts that stay as they are in lists and labels, such as the names of players.
 void SpeakLanguage(int language, const QStringList& entered = {});
-// The one that is spoken.
-int LanguageSpoken();
-
 // Another language than those, for tests; none is English.
 void SpeakWith(const Wording& words, const QStringList& entered = {});
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "shell/table/languages.h"
+#include "shell/table/spoken_language.h"
 
 namespace tessaryn {
 namespace {
