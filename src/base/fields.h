@@ -45,9 +45,9 @@ struct Unshared : T {
 
   Unshared() = default;
   Unshared(const Unshared&) : T() {}
-  Unshared(Unshared&&) = default;
+  Unshared(Unshared&&) noexcept = default;
   Unshared& operator=(const Unshared&) = delete;
-  Unshared& operator=(Unshared&&) = default;
+  Unshared& operator=(Unshared&&) noexcept = default;
   friend bool operator==(const Unshared&, const Unshared&) { return true; }
 };
 

@@ -235,6 +235,8 @@ std::string ErrorStep(const AutoBet& autobet, const char* first) {
   return std::string(first) + "\r" + ScriptErrorText(autobet.ScriptError, autobet.ScriptFault);
 }
 
+[[gnu::noinline]] void TellError(Run& run, const char* first) { run.text = ErrorStep(run.autobet(), first); }
+
 StatementSpan SpanOf(const PreparedProgram& program, const PreparedStatement& statement) {
   const std::vector<PreparedStatement>& statements = program.statements;
   const auto next = static_cast<std::size_t>(&statement - statements.data()) + 1;
@@ -255,7 +257,8 @@ void TakeActionStatement(Run& run, const PreparedStatement& statement) {
   else
     NoteError(run, statement);
   if (!run.showsSteps) return;
-  run.text = taken ? "Action taken." : ErrorStep(run.autobet(), "No action taken.");
+  if (taken) return Note(run, "Action taken.");
+  TellError(run, "No action taken.");
 }
 
 bool Holds(const PreparedProgram& program, const PreparedStatement& condition) {
@@ -266,7 +269,7 @@ bool Holds(const PreparedProgram& program, const PreparedStatement& condition) {
 void TestCondition(Run& run, const PreparedStatement& statement) {
   if (!Evaluate(run.game, run.program, statement.value)) {
     NoteError(run, statement);
-    if (run.showsSteps) run.text = ErrorStep(run.autobet(), "Unable to evaluate.");
+    if (run.showsSteps) TellError(run, "Unable to evaluate.");
     return;
   }
   const bool holds = Holds(run.program, statement);
@@ -284,16 +287,8 @@ void BeginCondition(Run& run) {
 constexpr const char* kBeginningOfCondition = "Beginning of condition block.";
 constexpr const char* kEndOfStructure = "End of If/Then structure.";
 
-void EndCondition(Run& run, const PreparedStatement& statement) {
-  run.inCondition = false;
-  if (run.conditionTrue)
-    return Note(run,
-                "End of condition block and beginning of action block.\rConditions were true, so next action "
-                "block will be performed.");
-  run.counter = statement.jump;
-  const PreparedStatement& target = run.program.statements[static_cast<std::size_t>(statement.jump)];
-  if (target.keyword == kTokenElseIf) BeginCondition(run);
-  if (!run.showsSteps) return;
+// What only the steps viewer reads stays out of the way of those who don't look.
+[[gnu::noinline]] void TellSkippedBlock(Run& run, const PreparedStatement& target) {
   run.text =
       "End of condition block and beginning of action block.\rConditions were false, so next action block "
       "will "
@@ -303,7 +298,20 @@ void EndCondition(Run& run, const PreparedStatement& statement) {
                                                : kEndOfStructure;
 }
 
-bool CallSubroutine(Run& run, const PreparedStatement& statement) {
+void EndCondition(Run& run, const PreparedStatement& statement) {
+  run.inCondition = false;
+  if (run.conditionTrue)
+    return Note(run,
+                "End of condition block and beginning of action block.\rConditions were true, so next action "
+                "block will be performed.");
+  run.counter = statement.jump;
+  const PreparedStatement& target = run.program.statements[static_cast<std::size_t>(statement.jump)];
+  if (target.keyword == kTokenElseIf) BeginCondition(run);
+  if (run.showsSteps) TellSkippedBlock(run, target);
+}
+
+// Apart, since what a list takes to grow would cost every statement.
+[[gnu::noinline]] bool CallSubroutine(Run& run, const PreparedStatement& statement) {
   std::vector<std::int32_t>& returns = run.program.returns;
   if (returns.size() >= kDeepestCalls) {
     ScriptFaults(run.game, kCallsTooDeep);
