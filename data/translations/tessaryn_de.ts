@@ -2094,31 +2094,31 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Open Laboratory Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Laborexperiment öffnen</translation>
     </message>
     <message>
         <source>Laboratory experiments (*.lab);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laborexperimente (*.lab);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Save Laboratory Experiment As</source>
-        <translation type="unfinished"></translation>
+        <translation>Laborexperiment speichern unter</translation>
     </message>
     <message>
         <source>Save Sessions As</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions speichern unter</translation>
     </message>
     <message>
         <source>Sessions Logs (*.slg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions-Logs (*.slg);;Alle Dateien (*)</translation>
     </message>
     <message>
         <source>Save Results As</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse speichern unter</translation>
     </message>
     <message>
         <source>JSON (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json);;Alle Dateien (*)</translation>
     </message>
 </context>
 <context>
@@ -2438,130 +2438,130 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>at most %1 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>höchstens %1 Stunden</translation>
     </message>
     <message>
         <source>Price of the bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preis der Einsätze</translation>
     </message>
     <message>
         <source>less system</source>
-        <translation type="unfinished"></translation>
+        <translation>minus System</translation>
     </message>
     <message>
         <source>Mean difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Mittlere Differenz</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished">Von</translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished">Bis</translation>
+        <translation>Bis</translation>
     </message>
     <message>
         <source>Better, 95% sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Besser, zu 95 % sicher</translation>
     </message>
     <message>
         <source>the first</source>
-        <translation type="unfinished"></translation>
+        <translation>das erste</translation>
     </message>
     <message>
         <source>the second</source>
-        <translation type="unfinished"></translation>
+        <translation>das zweite</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bekannt</translation>
     </message>
     <message>
         <source>Least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleinste Bankroll</translation>
     </message>
     <message>
         <source>Largest start of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Größter Beginn von CheckStack %1</translation>
     </message>
     <message>
         <source>95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>95-%-Grenzen</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">keiner</translation>
+        <translation>kein Wert</translation>
     </message>
     <message>
         <source>%1: nothing keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nichts hält die Ruinierten bei höchstens %2.</translation>
     </message>
     <message>
         <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 braucht eine Bankroll von %2, damit höchstens %3 ruiniert sind: zwischen %4 und %5, zu 95 % sicher.</translation>
     </message>
     <message>
         <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: mit jedem Beginn des CheckStacks bleiben die Ruinierten bei höchstens %2.</translation>
     </message>
     <message>
         <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: CheckStack %2 darf mit %3 beginnen, damit höchstens %4 ruiniert sind: zwischen %5 und %6, zu 95 % sicher.</translation>
     </message>
     <message>
         <source>No session was ruined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Session wurde ruiniert.</translation>
     </message>
     <message>
         <source>Ruined by then, share of sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Bis dahin ruiniert, Anteil der Sessions</translation>
     </message>
     <message>
         <source>Rolls.  Line: A.  Dashed: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Würfe.  Linie: A.  Gestrichelt: B.</translation>
     </message>
     <message>
         <source>Rolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Würfe.</translation>
     </message>
     <message>
         <source>Ruin over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruin im Zeitverlauf</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation</translation>
     </message>
     <message>
         <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen: das Beste.  Gepunktet: nicht sicher schlechter.</translation>
     </message>
     <message>
         <source>Framed: the best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rahmen: das Beste.</translation>
     </message>
     <message>
         <source>%1, with 95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, mit 95-%-Grenzen</translation>
     </message>
     <message>
         <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts wurde variiert. Einen CheckStack mit mehreren Werten beginnen lassen oder eine Einstellung variieren; was jeder Wert bringt, steht dann hier.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: mean %2 ± %3, median %4, ruined %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: Mittelwert %2 ± %3, Median %4, ruiniert %5</translation>
     </message>
 </context>
 <context>
     <name>LaboratorySetup</name>
     <message>
         <source>%1 %2: %3</source>
-        <translation type="unfinished">%1  %2 % {1 %2:?} {3?}</translation>
+        <translation>%1 %2: %3</translation>
     </message>
 </context>
 <context>
@@ -2606,7 +2606,7 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>Bank:</source>
-        <translation type="unfinished"></translation>
+        <translation>Kasse:</translation>
     </message>
 </context>
 <context>
@@ -5434,163 +5434,163 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>rank by</source>
-        <translation type="unfinished"></translation>
+        <translation>ordnen nach</translation>
     </message>
     <message>
         <source>What systems are ranked by</source>
-        <translation type="unfinished"></translation>
+        <translation>Wonach die Systeme geordnet werden</translation>
     </message>
     <message>
         <source>Pairs of systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Systempaare</translation>
     </message>
     <message>
         <source>Pairs</source>
-        <translation type="unfinished"></translation>
+        <translation>Paare</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished">Fundstellen</translation>
+        <translation>Was gefunden wurde</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Gefunden</translation>
     </message>
     <message>
         <source>Add a system</source>
-        <translation type="unfinished"></translation>
+        <translation>System hinzufügen</translation>
     </message>
     <message>
         <source>As command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Befehlszeile</translation>
     </message>
     <message>
         <source>System of the sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>System der Variation</translation>
     </message>
     <message>
         <source>Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen ...</translation>
     </message>
     <message>
         <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Experiment, das hier oder von der Befehlszeile gespeichert wurde: zum Ansehen oder zum Fortsetzen</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>&amp;Experiment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Experiment ...</translation>
     </message>
     <message>
         <source>Sessions as &amp;CSV ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions als &amp;CSV ...</translation>
     </message>
     <message>
         <source>&amp;Sessions Log ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sessions-Log ...</translation>
     </message>
     <message>
         <source>Results as &amp;JSON ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse als &amp;JSON ...</translation>
     </message>
     <message>
         <source>Copy as command &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>Als &amp;Befehlszeile kopieren</translation>
     </message>
     <message>
         <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Session zu behalten würde %1 GB belegen: dort das Häkchen entfernen oder weniger spielen.</translation>
     </message>
     <message>
         <source>Looking, always on the same dice ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche läuft, immer mit denselben Würfeln ...</translation>
     </message>
     <message>
         <source>%1 sessions for each value that is tried, seed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sessions für jeden erprobten Wert, Startwert %2.</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished">Systeme</translation>
+        <translation>Systeme</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Würfel</translation>
+        <translation>Würfel</translation>
     </message>
     <message>
         <source>percentage dice, seed %1, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozentwürfel, Startwert %1, für alle gleich</translation>
     </message>
     <message>
         <source>RNG %1, seed %2, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG %1, Startwert %2, für alle gleich</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished">Zeit</translation>
+        <translation>Zeit</translation>
     </message>
     <message>
         <source>%1 sessions in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sessions in %2 s</translation>
     </message>
     <message>
         <source>Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Experiment</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished">&amp;Halt</translation>
+        <translation>&amp;Halt</translation>
     </message>
     <message>
         <source>&amp;Find it</source>
-        <translation type="unfinished"></translation>
+        <translation>Erm&amp;itteln</translation>
     </message>
     <message>
         <source>&amp;Go on to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter bis %1</translation>
     </message>
     <message>
         <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielt mehr vom selben Experiment: viermal so viele Sessions halbieren den Abstand der Grenzen</translation>
     </message>
     <message>
         <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Experiment ist ohne seine einzelnen Sessions geöffnet, daher gibt es davon weder CSV noch Sessions-Log: %1</translation>
     </message>
     <message>
         <source>Saved; it is kept up to date there from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert; ab jetzt wird es dort aktuell gehalten.</translation>
     </message>
     <message>
         <source>Saved: a line for each session and system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert: eine Zeile je Session und System.</translation>
     </message>
     <message>
         <source>this file is there already; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>diese Datei gibt es schon; einen anderen Namen wählen</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert.</translation>
     </message>
     <message>
         <source>Saved: a Sessions Log for each system, numbered in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gespeichert: ein Sessions-Log je System, in deren Reihenfolge nummeriert.</translation>
     </message>
     <message>
         <source>There is no command line for this experiment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Experiment gibt es keine Befehlszeile.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopiert: %1</translation>
     </message>
 </context>
 <context>
@@ -5721,103 +5721,103 @@ Daten:  %2</translation>
     </message>
     <message>
         <source>CheckStacks s&amp;tart at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;CheckStacks beginnen mit</translation>
     </message>
     <message>
         <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
-        <translation type="unfinished"></translation>
+        <translation>wie in den Skripten; oder 1=5,10,25; 2=5..50:5</translation>
     </message>
     <message>
         <source>&amp;Vary settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen v&amp;ariieren</translation>
     </message>
     <message>
         <source>Settings that are varied</source>
-        <translation type="unfinished"></translation>
+        <translation>Variierte Einstellungen</translation>
     </message>
     <message>
         <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
-        <translation type="unfinished"></translation>
+        <translation>keine; oder OddsCalcMethod=1,2,3; FieldPreset=...</translation>
     </message>
     <message>
         <source>Most hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstens Stunden</translation>
     </message>
     <message>
         <source>Of play, by the roll rate in the table&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielzeit, nach dem Wurftempo in den Einstellungen des Tisches</translation>
     </message>
     <message>
         <source>Cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Kerne</translation>
     </message>
     <message>
         <source>How many play at a time; results are the same for any number</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie viele zugleich spielen; die Ergebnisse sind bei jeder Zahl gleich</translation>
     </message>
     <message>
         <source>Else those of a table that nobody has changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonst die eines Tisches, an dem niemand etwas geändert hat</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Einstellungen für alle Systeme</translation>
     </message>
     <message>
         <source>other settings: SimRollRate=120; ...</source>
-        <translation type="unfinished"></translation>
+        <translation>weitere Einstellungen: SimRollRate=120; ...</translation>
     </message>
     <message>
         <source>Keep every session</source>
-        <translation type="unfinished"></translation>
+        <translation>Jede Session behalten</translation>
     </message>
     <message>
         <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Für CSV und Sessions-Logs; belegt je Session 350 Byte auf der Festplatte</translation>
     </message>
     <message>
         <source>What is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Was gefragt ist</translation>
     </message>
     <message>
         <source>What sessions bring</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sessions bringen</translation>
     </message>
     <message>
         <source>The least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Die kleinste Bankroll</translation>
     </message>
     <message>
         <source>The largest stake</source>
-        <translation type="unfinished"></translation>
+        <translation>Der größte Einsatz</translation>
     </message>
     <message>
         <source>Ruined at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstens ruiniert</translation>
     </message>
     <message>
         <source>CheckStack number</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack-Nummer</translation>
     </message>
     <message>
         <source>The share of sessions that may be ruined</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Anteil der Sessions, die ruiniert sein dürfen</translation>
     </message>
     <message>
         <source>Whose largest start is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessen größter Beginn gesucht wird</translation>
     </message>
     <message>
         <source>Stakes</source>
-        <translation type="unfinished"></translation>
+        <translation>Beträge</translation>
     </message>
     <message>
         <source>Other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Einstellungen</translation>
     </message>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Angeben, wie lange eine Session dauern darf: Würfe, Hände oder Stunden.</translation>
     </message>
 </context>
 <context>

@@ -2094,31 +2094,31 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Open Laboratory Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir experimento del laboratorio</translation>
     </message>
     <message>
         <source>Laboratory experiments (*.lab);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Experimentos del laboratorio (*.lab);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Save Laboratory Experiment As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el experimento del laboratorio como</translation>
     </message>
     <message>
         <source>Save Sessions As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar las sesiones como</translation>
     </message>
     <message>
         <source>Sessions Logs (*.slg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros de sesiones (*.slg);;Todos los archivos (*)</translation>
     </message>
     <message>
         <source>Save Results As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los resultados como</translation>
     </message>
     <message>
         <source>JSON (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json);;Todos los archivos (*)</translation>
     </message>
 </context>
 <context>
@@ -2438,130 +2438,130 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>at most %1 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>como mucho %1 horas</translation>
     </message>
     <message>
         <source>Price of the bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Precio de las apuestas</translation>
     </message>
     <message>
         <source>less system</source>
-        <translation type="unfinished"></translation>
+        <translation>menos sistema</translation>
     </message>
     <message>
         <source>Mean difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Diferencia media</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished">De</translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished">A</translation>
+        <translation>Hasta</translation>
     </message>
     <message>
         <source>Better, 95% sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Mejor, seguro al 95 %</translation>
     </message>
     <message>
         <source>the first</source>
-        <translation type="unfinished"></translation>
+        <translation>el primero</translation>
     </message>
     <message>
         <source>the second</source>
-        <translation type="unfinished"></translation>
+        <translation>el segundo</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>no se sabe</translation>
     </message>
     <message>
         <source>Least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll mínimo</translation>
     </message>
     <message>
         <source>Largest start of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor inicio del CheckStack %1</translation>
     </message>
     <message>
         <source>95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites del 95 %</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">ninguno</translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>%1: nothing keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: nada deja la ruina en %2 o menos.</translation>
     </message>
     <message>
         <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 necesita un bankroll de %2 para que se arruine como mucho el %3: entre %4 y %5, seguro al 95 %.</translation>
     </message>
     <message>
         <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: cualquier inicio del CheckStack deja la ruina en %2 o menos.</translation>
     </message>
     <message>
         <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el CheckStack %2 puede empezar con %3 para que se arruine como mucho el %4: entre %5 y %6, seguro al 95 %.</translation>
     </message>
     <message>
         <source>No session was ruined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna sesión acabó en ruina.</translation>
     </message>
     <message>
         <source>Ruined by then, share of sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya arruinadas, proporción de sesiones</translation>
     </message>
     <message>
         <source>Rolls.  Line: A.  Dashed: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiradas.  Línea: A.  Discontinua: B.</translation>
     </message>
     <message>
         <source>Rolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiradas.</translation>
     </message>
     <message>
         <source>Ruin over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruina en el tiempo</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Barrido</translation>
     </message>
     <message>
         <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marco: el mejor.  Punteado: no es seguro que sea peor.</translation>
     </message>
     <message>
         <source>Framed: the best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Marco: el mejor.</translation>
     </message>
     <message>
         <source>%1, with 95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, con límites del 95 %</translation>
     </message>
     <message>
         <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha variado nada. Haga que un CheckStack empiece con varios valores, o varíe un ajuste, y aquí aparecerá lo que da cada uno.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: mean %2 ± %3, median %4, ruined %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: media %2 ± %3, mediana %4, arruinado %5</translation>
     </message>
 </context>
 <context>
     <name>LaboratorySetup</name>
     <message>
         <source>%1 %2: %3</source>
-        <translation type="unfinished">%1  %2 % {1 %2:?} {3?}</translation>
+        <translation>%1 %2: %3</translation>
     </message>
 </context>
 <context>
@@ -2606,7 +2606,7 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>Bank:</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo:</translation>
     </message>
 </context>
 <context>
@@ -5434,163 +5434,163 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>rank by</source>
-        <translation type="unfinished"></translation>
+        <translation>ordenar por</translation>
     </message>
     <message>
         <source>What systems are ranked by</source>
-        <translation type="unfinished"></translation>
+        <translation>Criterio para ordenar los sistemas</translation>
     </message>
     <message>
         <source>Pairs of systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Pares de sistemas</translation>
     </message>
     <message>
         <source>Pairs</source>
-        <translation type="unfinished"></translation>
+        <translation>Pares</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Barrido</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished">Encontrado</translation>
+        <translation>Lo hallado</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Hallado</translation>
     </message>
     <message>
         <source>Add a system</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir sistema</translation>
     </message>
     <message>
         <source>As command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Como línea de órdenes</translation>
     </message>
     <message>
         <source>System of the sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema del barrido</translation>
     </message>
     <message>
         <source>Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir ...</translation>
     </message>
     <message>
         <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
-        <translation type="unfinished"></translation>
+        <translation>Un experimento guardado, aquí o desde la línea de órdenes: para verlo o para continuarlo</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>&amp;Experiment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Experimento ...</translation>
     </message>
     <message>
         <source>Sessions as &amp;CSV ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesiones como &amp;CSV ...</translation>
     </message>
     <message>
         <source>&amp;Sessions Log ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Registro de sesiones ...</translation>
     </message>
     <message>
         <source>Results as &amp;JSON ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados como &amp;JSON ...</translation>
     </message>
     <message>
         <source>Copy as command &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar como &amp;línea de órdenes</translation>
     </message>
     <message>
         <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar todas las sesiones ocuparía %1 GB: quite allí la marca o juegue menos.</translation>
     </message>
     <message>
         <source>Looking, always on the same dice ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando, siempre con los mismos dados ...</translation>
     </message>
     <message>
         <source>%1 sessions for each value that is tried, seed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sesiones por cada valor probado, semilla %2.</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished">Sistemas</translation>
+        <translation>Sistemas</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Dados</translation>
+        <translation>Dados</translation>
     </message>
     <message>
         <source>percentage dice, seed %1, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>dados de porcentaje, semilla %1, iguales para todos</translation>
     </message>
     <message>
         <source>RNG %1, seed %2, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG %1, semilla %2, igual para todos</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished">Tiempo</translation>
+        <translation>Tiempo</translation>
     </message>
     <message>
         <source>%1 sessions in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sesiones en %2 s</translation>
     </message>
     <message>
         <source>Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Experimento</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished">&amp;Detener</translation>
+        <translation>&amp;Detener</translation>
     </message>
     <message>
         <source>&amp;Find it</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hallarlo</translation>
     </message>
     <message>
         <source>&amp;Go on to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se&amp;guir hasta %1</translation>
     </message>
     <message>
         <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Juega más del mismo experimento: con el cuádruple de sesiones los límites se reducen a la mitad</translation>
     </message>
     <message>
         <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El experimento está abierto sin sus sesiones individuales, por eso no hay CSV ni registro de sesiones de él: %1</translation>
     </message>
     <message>
         <source>Saved; it is kept up to date there from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado; desde ahora se mantiene al día ahí.</translation>
     </message>
     <message>
         <source>Saved: a line for each session and system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado: una línea por cada sesión y sistema.</translation>
     </message>
     <message>
         <source>this file is there already; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>este archivo ya existe; elija otro nombre</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado.</translation>
     </message>
     <message>
         <source>Saved: a Sessions Log for each system, numbered in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado: un registro de sesiones por sistema, numerados en su orden.</translation>
     </message>
     <message>
         <source>There is no command line for this experiment.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay línea de órdenes para este experimento.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiado: %1</translation>
     </message>
 </context>
 <context>
@@ -5721,103 +5721,103 @@ Datos:  %2</translation>
     </message>
     <message>
         <source>CheckStacks s&amp;tart at</source>
-        <translation type="unfinished"></translation>
+        <translation>Chec&amp;kStacks empiezan con</translation>
     </message>
     <message>
         <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
-        <translation type="unfinished"></translation>
+        <translation>como en los scripts; o 1=5,10,25; 2=5..50:5</translation>
     </message>
     <message>
         <source>&amp;Vary settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variar ajustes</translation>
     </message>
     <message>
         <source>Settings that are varied</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes que se varían</translation>
     </message>
     <message>
         <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno; u OddsCalcMethod=1,2,3; FieldPreset=...</translation>
     </message>
     <message>
         <source>Most hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de horas</translation>
     </message>
     <message>
         <source>Of play, by the roll rate in the table&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>De juego, según el ritmo de tiradas de los ajustes de la mesa</translation>
     </message>
     <message>
         <source>Cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos</translation>
     </message>
     <message>
         <source>How many play at a time; results are the same for any number</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos juegan a la vez; los resultados son los mismos con cualquier número</translation>
     </message>
     <message>
         <source>Else those of a table that nobody has changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Si no, los de una mesa que nadie ha cambiado</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros ajustes para todos los sistemas</translation>
     </message>
     <message>
         <source>other settings: SimRollRate=120; ...</source>
-        <translation type="unfinished"></translation>
+        <translation>otros ajustes: SimRollRate=120; ...</translation>
     </message>
     <message>
         <source>Keep every session</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar cada sesión</translation>
     </message>
     <message>
         <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Para CSV y registros de sesiones; cada una ocupa 350 bytes de disco</translation>
     </message>
     <message>
         <source>What is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué se pregunta</translation>
     </message>
     <message>
         <source>What sessions bring</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que dan las sesiones</translation>
     </message>
     <message>
         <source>The least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>El bankroll mínimo</translation>
     </message>
     <message>
         <source>The largest stake</source>
-        <translation type="unfinished"></translation>
+        <translation>La mayor apuesta</translation>
     </message>
     <message>
         <source>Ruined at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruina como mucho</translation>
     </message>
     <message>
         <source>CheckStack number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de CheckStack</translation>
     </message>
     <message>
         <source>The share of sessions that may be ruined</source>
-        <translation type="unfinished"></translation>
+        <translation>La proporción de sesiones que pueden arruinarse</translation>
     </message>
     <message>
         <source>Whose largest start is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Del que se busca el mayor inicio</translation>
     </message>
     <message>
         <source>Stakes</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores</translation>
     </message>
     <message>
         <source>Other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Otros ajustes</translation>
     </message>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diga cuánto puede durar una sesión: tiradas, manos u horas.</translation>
     </message>
 </context>
 <context>

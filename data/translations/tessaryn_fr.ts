@@ -2094,31 +2094,31 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Open Laboratory Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une expérience de laboratoire</translation>
     </message>
     <message>
         <source>Laboratory experiments (*.lab);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Expériences de laboratoire (*.lab);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save Laboratory Experiment As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l&apos;expérience sous</translation>
     </message>
     <message>
         <source>Save Sessions As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les sessions sous</translation>
     </message>
     <message>
         <source>Sessions Logs (*.slg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux des sessions (*.slg);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Save Results As</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les résultats sous</translation>
     </message>
     <message>
         <source>JSON (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json);;Tous les fichiers (*)</translation>
     </message>
 </context>
 <context>
@@ -2438,130 +2438,130 @@ Données :  %2</translation>
     </message>
     <message>
         <source>at most %1 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>au plus %1 h</translation>
     </message>
     <message>
         <source>Price of the bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût des mises</translation>
     </message>
     <message>
         <source>less system</source>
-        <translation type="unfinished"></translation>
+        <translation>moins système</translation>
     </message>
     <message>
         <source>Mean difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Différence moyenne</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished">De</translation>
+        <translation>De</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished">À</translation>
+        <translation>À</translation>
     </message>
     <message>
         <source>Better, 95% sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Meilleur, sûr à 95 %</translation>
     </message>
     <message>
         <source>the first</source>
-        <translation type="unfinished"></translation>
+        <translation>le premier</translation>
     </message>
     <message>
         <source>the second</source>
-        <translation type="unfinished"></translation>
+        <translation>le second</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>non établi</translation>
     </message>
     <message>
         <source>Least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>Bankroll minimale</translation>
     </message>
     <message>
         <source>Largest start of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus haut départ du CheckStack %1</translation>
     </message>
     <message>
         <source>95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Bornes à 95 %</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">aucun</translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>%1: nothing keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : rien ne limite les ruines à %2.</translation>
     </message>
     <message>
         <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : pour au plus %3 de ruines, il faut une bankroll de %2, entre %4 et %5, sûr à 95 %.</translation>
     </message>
     <message>
         <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : tout départ du CheckStack limite les ruines à %2.</translation>
     </message>
     <message>
         <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : pour au plus %4 de ruines, le CheckStack %2 peut partir de %3, entre %5 et %6, sûr à 95 %.</translation>
     </message>
     <message>
         <source>No session was ruined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune session n&apos;a fini en ruine.</translation>
     </message>
     <message>
         <source>Ruined by then, share of sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruinées jusque-là, part des sessions</translation>
     </message>
     <message>
         <source>Rolls.  Line: A.  Dashed: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancers.  Trait : A.  Tirets : B.</translation>
     </message>
     <message>
         <source>Rolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancers.</translation>
     </message>
     <message>
         <source>Ruin over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruine au fil du temps</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayage</translation>
     </message>
     <message>
         <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encadré : le meilleur.  Pointillé : pas sûrement moins bon.</translation>
     </message>
     <message>
         <source>Framed: the best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encadré : le meilleur.</translation>
     </message>
     <message>
         <source>%1, with 95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, bornes à 95 %</translation>
     </message>
     <message>
         <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n&apos;a été varié. Faites partir un CheckStack de plusieurs valeurs, ou variez un réglage, et ce que donne chaque valeur s&apos;affiche ici.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1 : %2</translation>
+        <translation>%1 : %2</translation>
     </message>
     <message>
         <source>%1: mean %2 ± %3, median %4, ruined %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : moyenne %2 ± %3, médiane %4, ruine %5</translation>
     </message>
 </context>
 <context>
     <name>LaboratorySetup</name>
     <message>
         <source>%1 %2: %3</source>
-        <translation type="unfinished">%1  %2 % {1 %2:?} {3?}</translation>
+        <translation>%1 %2 : %3</translation>
     </message>
 </context>
 <context>
@@ -2606,7 +2606,7 @@ Données :  %2</translation>
     </message>
     <message>
         <source>Bank:</source>
-        <translation type="unfinished"></translation>
+        <translation>Solde :</translation>
     </message>
 </context>
 <context>
@@ -5434,163 +5434,163 @@ Données :  %2</translation>
     </message>
     <message>
         <source>rank by</source>
-        <translation type="unfinished"></translation>
+        <translation>classer par</translation>
     </message>
     <message>
         <source>What systems are ranked by</source>
-        <translation type="unfinished"></translation>
+        <translation>Critère de classement des systèmes</translation>
     </message>
     <message>
         <source>Pairs of systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires de systèmes</translation>
     </message>
     <message>
         <source>Pairs</source>
-        <translation type="unfinished"></translation>
+        <translation>Paires</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Balayage</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished">Résultats</translation>
+        <translation>Ce qui a été trouvé</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Trouvé</translation>
     </message>
     <message>
         <source>Add a system</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un système</translation>
     </message>
     <message>
         <source>As command line</source>
-        <translation type="unfinished"></translation>
+        <translation>En ligne de commande</translation>
     </message>
     <message>
         <source>System of the sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Système du balayage</translation>
     </message>
     <message>
         <source>Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir ...</translation>
     </message>
     <message>
         <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
-        <translation type="unfinished"></translation>
+        <translation>Une expérience enregistrée, ici ou par la ligne de commande : pour la regarder ou la poursuivre</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>&amp;Experiment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Expérience ...</translation>
     </message>
     <message>
         <source>Sessions as &amp;CSV ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sessions (&amp;CSV) ...</translation>
     </message>
     <message>
         <source>&amp;Sessions Log ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal des &amp;sessions ...</translation>
     </message>
     <message>
         <source>Results as &amp;JSON ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats (&amp;JSON) ...</translation>
     </message>
     <message>
         <source>Copy as command &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier en &amp;ligne de commande</translation>
     </message>
     <message>
         <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder chaque session prendrait %1 Go : décochez cette case, ou jouez-en moins.</translation>
     </message>
     <message>
         <source>Looking, always on the same dice ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche, toujours avec les mêmes dés ...</translation>
     </message>
     <message>
         <source>%1 sessions for each value that is tried, seed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sessions pour chaque valeur essayée, germe %2.</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished">Systèmes</translation>
+        <translation>Systèmes</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Dés</translation>
+        <translation>Dés</translation>
     </message>
     <message>
         <source>percentage dice, seed %1, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>dés à pourcentages, germe %1, les mêmes pour tous</translation>
     </message>
     <message>
         <source>RNG %1, seed %2, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG %1, germe %2, les mêmes pour tous</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished">Temps</translation>
+        <translation>Temps</translation>
     </message>
     <message>
         <source>%1 sessions in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sessions en %2 s</translation>
     </message>
     <message>
         <source>Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Expérience</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished">&amp;Arrêter</translation>
+        <translation>&amp;Arrêter</translation>
     </message>
     <message>
         <source>&amp;Find it</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;hercher</translation>
     </message>
     <message>
         <source>&amp;Go on to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aller jus&amp;qu&apos;à %1</translation>
     </message>
     <message>
         <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Joue davantage de la même expérience : quatre fois plus de sessions resserrent les bornes de moitié</translation>
     </message>
     <message>
         <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;expérience est ouverte sans ses sessions une à une, il n&apos;y en a donc ni CSV ni journal des sessions : %1</translation>
     </message>
     <message>
         <source>Saved; it is kept up to date there from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrée ; elle y est désormais tenue à jour.</translation>
     </message>
     <message>
         <source>Saved: a line for each session and system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré : une ligne par session et par système.</translation>
     </message>
     <message>
         <source>this file is there already; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>ce fichier existe déjà ; choisissez un autre nom</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré.</translation>
     </message>
     <message>
         <source>Saved: a Sessions Log for each system, numbered in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré : un journal des sessions par système, numérotés dans leur ordre.</translation>
     </message>
     <message>
         <source>There is no command line for this experiment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n&apos;y a pas de ligne de commande pour cette expérience.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Copié : %1</translation>
     </message>
 </context>
 <context>
@@ -5721,103 +5721,103 @@ Données :  %2</translation>
     </message>
     <message>
         <source>CheckStacks s&amp;tart at</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ des Chec&amp;kStacks</translation>
     </message>
     <message>
         <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
-        <translation type="unfinished"></translation>
+        <translation>comme dans les scripts ; ou 1=5,10,25; 2=5..50:5</translation>
     </message>
     <message>
         <source>&amp;Vary settings</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Varier les réglages</translation>
     </message>
     <message>
         <source>Settings that are varied</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages qui varient</translation>
     </message>
     <message>
         <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun ; ou OddsCalcMethod=1,2,3; FieldPreset=...</translation>
     </message>
     <message>
         <source>Most hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures au plus</translation>
     </message>
     <message>
         <source>Of play, by the roll rate in the table&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>De jeu, selon la cadence des lancers réglée à la table</translation>
     </message>
     <message>
         <source>Cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Cœurs</translation>
     </message>
     <message>
         <source>How many play at a time; results are the same for any number</source>
-        <translation type="unfinished"></translation>
+        <translation>Combien jouent à la fois ; les résultats sont les mêmes quel que soit le nombre</translation>
     </message>
     <message>
         <source>Else those of a table that nobody has changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sinon ceux d&apos;une table que personne n&apos;a modifiée</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres réglages pour tous les systèmes</translation>
     </message>
     <message>
         <source>other settings: SimRollRate=120; ...</source>
-        <translation type="unfinished"></translation>
+        <translation>autres réglages : SimRollRate=120; ...</translation>
     </message>
     <message>
         <source>Keep every session</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder chaque session</translation>
     </message>
     <message>
         <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour CSV et journaux des sessions ; prend 350 octets de disque par session</translation>
     </message>
     <message>
         <source>What is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Question posée</translation>
     </message>
     <message>
         <source>What sessions bring</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat des sessions</translation>
     </message>
     <message>
         <source>The least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>La bankroll minimale</translation>
     </message>
     <message>
         <source>The largest stake</source>
-        <translation type="unfinished"></translation>
+        <translation>La plus grosse mise</translation>
     </message>
     <message>
         <source>Ruined at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruinées au plus</translation>
     </message>
     <message>
         <source>CheckStack number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numéro du CheckStack</translation>
     </message>
     <message>
         <source>The share of sessions that may be ruined</source>
-        <translation type="unfinished"></translation>
+        <translation>La part des sessions qui peuvent être ruinées</translation>
     </message>
     <message>
         <source>Whose largest start is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>Celui dont on cherche le plus haut départ</translation>
     </message>
     <message>
         <source>Stakes</source>
-        <translation type="unfinished"></translation>
+        <translation>Montants</translation>
     </message>
     <message>
         <source>Other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres réglages</translation>
     </message>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dites combien de temps une session peut durer : lancers, mains ou heures.</translation>
     </message>
 </context>
 <context>

@@ -2092,31 +2092,31 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Open Laboratory Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar deneyi aç</translation>
     </message>
     <message>
         <source>Laboratory experiments (*.lab);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar deneyleri (*.lab);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Laboratory Experiment As</source>
-        <translation type="unfinished"></translation>
+        <translation>Laboratuvar deneyini farklı kaydet</translation>
     </message>
     <message>
         <source>Save Sessions As</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumları farklı kaydet</translation>
     </message>
     <message>
         <source>Sessions Logs (*.slg);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturum günlükleri (*.slg);;Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Save Results As</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuçları farklı kaydet</translation>
     </message>
     <message>
         <source>JSON (*.json);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>JSON (*.json);;Tüm dosyalar (*)</translation>
     </message>
 </context>
 <context>
@@ -2431,130 +2431,130 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>at most %1 hours</source>
-        <translation type="unfinished"></translation>
+        <translation>en çok %1 saat</translation>
     </message>
     <message>
         <source>Price of the bets</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahislerin bedeli</translation>
     </message>
     <message>
         <source>less system</source>
-        <translation type="unfinished"></translation>
+        <translation>eksi sistem</translation>
     </message>
     <message>
         <source>Mean difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Ortalama fark</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished">En az</translation>
+        <translation>Alt</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished">En çok</translation>
+        <translation>Üst</translation>
     </message>
     <message>
         <source>Better, 95% sure</source>
-        <translation type="unfinished"></translation>
+        <translation>Daha iyi, yüzde 95 kesin</translation>
     </message>
     <message>
         <source>the first</source>
-        <translation type="unfinished"></translation>
+        <translation>birinci</translation>
     </message>
     <message>
         <source>the second</source>
-        <translation type="unfinished"></translation>
+        <translation>ikinci</translation>
     </message>
     <message>
         <source>not known</source>
-        <translation type="unfinished"></translation>
+        <translation>belli değil</translation>
     </message>
     <message>
         <source>Least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>En düşük bankroll</translation>
     </message>
     <message>
         <source>Largest start of CheckStack %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack %1 en yüksek başlangıcı</translation>
     </message>
     <message>
         <source>95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde 95 sınırları</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">yok</translation>
+        <translation>yok</translation>
     </message>
     <message>
         <source>%1: nothing keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: hiçbir değer batanları %2 ile sınırlamıyor.</translation>
     </message>
     <message>
         <source>%1 needs a bankroll of %2, so that at most %3 are ruined: between %4 and %5, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: batanların en çok %3 olması için %2 bankroll gerekir; %4 ile %5 arası, yüzde 95 kesin.</translation>
     </message>
     <message>
         <source>%1: any start of the CheckStack keeps the ruined within %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: CheckStack hangi tutardan başlarsa başlasın batanlar %2 sınırını aşmıyor.</translation>
     </message>
     <message>
         <source>%1: CheckStack %2 may start at %3, so that at most %4 are ruined: between %5 and %6, 95% sure.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: batanların en çok %4 olması için CheckStack %2 en çok %3 ile başlayabilir; %5 ile %6 arası, yüzde 95 kesin.</translation>
     </message>
     <message>
         <source>No session was ruined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiçbir oturum batmadı.</translation>
     </message>
     <message>
         <source>Ruined by then, share of sessions</source>
-        <translation type="unfinished"></translation>
+        <translation>O ana dek batan, oturumların payı</translation>
     </message>
     <message>
         <source>Rolls.  Line: A.  Dashed: B.</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar.  Çizgi: A.  Kesikli: B.</translation>
     </message>
     <message>
         <source>Rolls.</source>
-        <translation type="unfinished"></translation>
+        <translation>Atışlar.</translation>
     </message>
     <message>
         <source>Ruin over time</source>
-        <translation type="unfinished"></translation>
+        <translation>Zaman içinde batma</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarama</translation>
     </message>
     <message>
         <source>Framed: the best.  Dotted: not sure to be worse than that.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çerçeveli: en iyisi.  Noktalı: ondan kötü olduğu kesin değil.</translation>
     </message>
     <message>
         <source>Framed: the best.</source>
-        <translation type="unfinished"></translation>
+        <translation>Çerçeveli: en iyisi.</translation>
     </message>
     <message>
         <source>%1, with 95% bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, yüzde 95 sınırlarıyla</translation>
     </message>
     <message>
         <source>Nothing was varied. Let a CheckStack start at several values, or vary a setting, and what comes of each stands here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiçbir şey değiştirilmedi. Bir CheckStack&apos;i birkaç değerden başlatın ya da bir ayarı değiştirin; her birinin sonucu burada görünür.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished">%1: %2</translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1: mean %2 ± %3, median %4, ruined %5</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: ortalama %2 ± %3, medyan %4, batan %5</translation>
     </message>
 </context>
 <context>
     <name>LaboratorySetup</name>
     <message>
         <source>%1 %2: %3</source>
-        <translation type="unfinished">%1  yüzde %2 {1 %2:?} {3?}</translation>
+        <translation>%1 %2: %3</translation>
     </message>
 </context>
 <context>
@@ -2598,7 +2598,7 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>Bank:</source>
-        <translation type="unfinished"></translation>
+        <translation>Bakiye:</translation>
     </message>
 </context>
 <context>
@@ -5421,163 +5421,163 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>rank by</source>
-        <translation type="unfinished"></translation>
+        <translation>sıralama</translation>
     </message>
     <message>
         <source>What systems are ranked by</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemlerin sıralama ölçütü</translation>
     </message>
     <message>
         <source>Pairs of systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem çiftleri</translation>
     </message>
     <message>
         <source>Pairs</source>
-        <translation type="unfinished"></translation>
+        <translation>Çiftler</translation>
     </message>
     <message>
         <source>Sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarama</translation>
     </message>
     <message>
         <source>What was found</source>
-        <translation type="unfinished">Bulunanlar</translation>
+        <translation>Bulunanlar</translation>
     </message>
     <message>
         <source>Found</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulunan</translation>
     </message>
     <message>
         <source>Add a system</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem ekle</translation>
     </message>
     <message>
         <source>As command line</source>
-        <translation type="unfinished"></translation>
+        <translation>Komut satırı olarak</translation>
     </message>
     <message>
         <source>System of the sweep</source>
-        <translation type="unfinished"></translation>
+        <translation>Taramanın sistemi</translation>
     </message>
     <message>
         <source>Open ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aç ...</translation>
     </message>
     <message>
         <source>An experiment that was saved, here or by the command line: to look at, or to go on with</source>
-        <translation type="unfinished"></translation>
+        <translation>Burada ya da komut satırıyla kaydedilmiş bir deney: bakmak ya da sürdürmek için</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydet</translation>
     </message>
     <message>
         <source>&amp;Experiment ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Deney ...</translation>
     </message>
     <message>
         <source>Sessions as &amp;CSV ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumlar (&amp;CSV) ...</translation>
     </message>
     <message>
         <source>&amp;Sessions Log ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Oturum günlüğü ...</translation>
     </message>
     <message>
         <source>Results as &amp;JSON ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonuçlar (&amp;JSON) ...</translation>
     </message>
     <message>
         <source>Copy as command &amp;line</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Komut satırı olarak kopyala</translation>
     </message>
     <message>
         <source>Keeping every session would take %1 GB: take the mark there away, or play fewer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Her oturumu saklamak %1 GB tutar: oradaki işareti kaldırın ya da daha az oynatın.</translation>
     </message>
     <message>
         <source>Looking, always on the same dice ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aranıyor, hep aynı zarlarla ...</translation>
     </message>
     <message>
         <source>%1 sessions for each value that is tried, seed %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denenen her değer için %1 oturum, tohum %2.</translation>
     </message>
     <message>
         <source>Systems</source>
-        <translation type="unfinished">Sistemler</translation>
+        <translation>Sistemler</translation>
     </message>
     <message>
         <source>Dice</source>
-        <translation type="unfinished">Zarlar</translation>
+        <translation>Zarlar</translation>
     </message>
     <message>
         <source>percentage dice, seed %1, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>yüzdeli zarlar, tohum %1, hepsi için aynı</translation>
     </message>
     <message>
         <source>RNG %1, seed %2, the same for all</source>
-        <translation type="unfinished"></translation>
+        <translation>RNG %1, tohum %2, hepsi için aynı</translation>
     </message>
     <message>
         <source>Time</source>
-        <translation type="unfinished">Süre</translation>
+        <translation>Süre</translation>
     </message>
     <message>
         <source>%1 sessions in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%2 saniyede %1 oturum</translation>
     </message>
     <message>
         <source>Experiment</source>
-        <translation type="unfinished"></translation>
+        <translation>Deney</translation>
     </message>
     <message>
         <source>&amp;Stop</source>
-        <translation type="unfinished">&amp;Dur</translation>
+        <translation>&amp;Dur</translation>
     </message>
     <message>
         <source>&amp;Find it</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;nıtı bul</translation>
     </message>
     <message>
         <source>&amp;Go on to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;vam: %1</translation>
     </message>
     <message>
         <source>Plays more of the same experiment: four times as many sessions halve the bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Aynı deneyden daha çok oynar: dört kat oturum sınırları yarıya indirir</translation>
     </message>
     <message>
         <source>The experiment is open without its single sessions, so there is no CSV and no Sessions Log of it: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Deney tek tek oturumları olmadan açıldı; bu yüzden CSV&apos;si ve oturum günlüğü yok: %1</translation>
     </message>
     <message>
         <source>Saved; it is kept up to date there from now on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedildi; bundan sonra orada güncel tutulur.</translation>
     </message>
     <message>
         <source>Saved: a line for each session and system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedildi: her oturum ve sistem için bir satır.</translation>
     </message>
     <message>
         <source>this file is there already; choose another name</source>
-        <translation type="unfinished"></translation>
+        <translation>bu dosya zaten var; başka bir ad seçin</translation>
     </message>
     <message>
         <source>Saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedildi.</translation>
     </message>
     <message>
         <source>Saved: a Sessions Log for each system, numbered in their order.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedildi: her sistem için bir oturum günlüğü, sistem sırasıyla numaralı.</translation>
     </message>
     <message>
         <source>There is no command line for this experiment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu deneyin komut satırı yok.</translation>
     </message>
     <message>
         <source>Copied: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopyalandı: %1</translation>
     </message>
 </context>
 <context>
@@ -5708,103 +5708,103 @@ Veriler:  %2</translation>
     </message>
     <message>
         <source>CheckStacks s&amp;tart at</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;CheckStack başlangıcı</translation>
     </message>
     <message>
         <source>as the scripts have them; or 1=5,10,25; 2=5..50:5</source>
-        <translation type="unfinished"></translation>
+        <translation>betiklerdeki gibi; ya da 1=5,10,25; 2=5..50:5</translation>
     </message>
     <message>
         <source>&amp;Vary settings</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;ğişen ayarlar</translation>
     </message>
     <message>
         <source>Settings that are varied</source>
-        <translation type="unfinished"></translation>
+        <translation>Değişen ayarlar</translation>
     </message>
     <message>
         <source>none; or OddsCalcMethod=1,2,3; FieldPreset=...</source>
-        <translation type="unfinished"></translation>
+        <translation>yok; ya da OddsCalcMethod=1,2,3; FieldPreset=...</translation>
     </message>
     <message>
         <source>Most hours</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok saat</translation>
     </message>
     <message>
         <source>Of play, by the roll rate in the table&apos;s settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Oyun süresi, masa ayarlarındaki atış hızına göre</translation>
     </message>
     <message>
         <source>Cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Çekirdekler</translation>
     </message>
     <message>
         <source>How many play at a time; results are the same for any number</source>
-        <translation type="unfinished"></translation>
+        <translation>Aynı anda kaçı oynar; sonuçlar her sayıda aynıdır</translation>
     </message>
     <message>
         <source>Else those of a table that nobody has changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Yoksa kimsenin değiştirmediği bir masanınkiler</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm sistemler için öteki ayarlar</translation>
     </message>
     <message>
         <source>other settings: SimRollRate=120; ...</source>
-        <translation type="unfinished"></translation>
+        <translation>öteki ayarlar: SimRollRate=120; ...</translation>
     </message>
     <message>
         <source>Keep every session</source>
-        <translation type="unfinished"></translation>
+        <translation>Her oturumu sakla</translation>
     </message>
     <message>
         <source>For CSV and Sessions Logs; takes 350 bytes of disk for each</source>
-        <translation type="unfinished"></translation>
+        <translation>CSV ve oturum günlükleri için; her oturum diskte 350 bayt tutar</translation>
     </message>
     <message>
         <source>What is asked</source>
-        <translation type="unfinished"></translation>
+        <translation>Soru</translation>
     </message>
     <message>
         <source>What sessions bring</source>
-        <translation type="unfinished"></translation>
+        <translation>Oturumların getirisi</translation>
     </message>
     <message>
         <source>The least bankroll</source>
-        <translation type="unfinished"></translation>
+        <translation>En düşük bankroll</translation>
     </message>
     <message>
         <source>The largest stake</source>
-        <translation type="unfinished"></translation>
+        <translation>En yüksek tutar</translation>
     </message>
     <message>
         <source>Ruined at most</source>
-        <translation type="unfinished"></translation>
+        <translation>En çok batan</translation>
     </message>
     <message>
         <source>CheckStack number</source>
-        <translation type="unfinished"></translation>
+        <translation>CheckStack numarası</translation>
     </message>
     <message>
         <source>The share of sessions that may be ruined</source>
-        <translation type="unfinished"></translation>
+        <translation>Batabilecek oturumların payı</translation>
     </message>
     <message>
         <source>Whose largest start is looked for</source>
-        <translation type="unfinished"></translation>
+        <translation>En yüksek başlangıcı aranan CheckStack</translation>
     </message>
     <message>
         <source>Stakes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutarlar</translation>
     </message>
     <message>
         <source>Other settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Öteki ayarlar</translation>
     </message>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir oturumun ne kadar sürebileceğini söyleyin: atış, el ya da saat.</translation>
     </message>
 </context>
 <context>
