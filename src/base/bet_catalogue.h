@@ -260,7 +260,9 @@ constexpr bool HasVig(BetId bet) { return IsLay(bet) || IsBuy(bet); }
 // The flat bet that an odds bet rides behind, and the odds behind a flat bet; 0 for none.
 constexpr BetId FlatBetOf(BetId oddsBet) { return FactsOf(oddsBet).flat; }
 constexpr bool IsOdds(BetId bet) { return FlatBetOf(bet) != 0; }
-constexpr BetId OddsBetOf(BetId flatBet) { return IsTableBet(flatBet) ? BetId(bet_rows::kOdds[flatBet]) : kNoBet; }
+constexpr BetId OddsBetOf(BetId flatBet) {
+  return IsTableBet(flatBet) ? BetId(bet_rows::kOdds[flatBet]) : kNoBet;
+}
 
 // The bet of a family of six on a box number.
 constexpr BetId BetOn(BetId firstBet, int number) { return firstBet + BoxPosition(number); }

@@ -10,7 +10,6 @@
 namespace tessaryn::cli {
 namespace {
 
-
 using lab_json::AdjustedOf;
 using lab_json::MeanOf;
 using lab_json::PartsOf;

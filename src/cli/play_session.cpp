@@ -390,8 +390,7 @@ bool Get(Call& call) {
   if (!WantWords(call, 2, 2, "get NAME, or get NAME@SEAT")) return false;
   std::string name;
   SeatId seat = 0;
-  if (!ParseSettingName(call.words[1], name, seat))
-    return call.Bad(NoSettingName(call.words[1]));
+  if (!ParseSettingName(call.words[1], name, seat)) return call.Bad(NoSettingName(call.words[1]));
   std::string value;
   if (!GetSetting(call.game, name, seat, value, call.error)) return false;
   call.answer["name"] = call.words[1];

@@ -190,7 +190,8 @@ constexpr std::size_t kMostOfName = 40;
 void DrawSeat(const Game& game, SeatId seat) {
   const TableState& table = game.table;
   std::printf("%c%d %-14s bankroll %12s   on table %10s   rail %12s\n", seat == table.ShooterSeat ? '*' : ' ',
-              seat.value, table.seats[seat].SeatName.c_str(), FormatMoney(table.BankrollCurrent[seat]).c_str(),
+              seat.value, table.seats[seat].SeatName.c_str(),
+              FormatMoney(table.BankrollCurrent[seat]).c_str(),
               FormatMoney(table.seats[seat].OnTableAmount).c_str(),
               FormatMoney(table.BankrollCurrent[seat] - table.seats[seat].OnTableAmount).c_str());
   IndentedList list;

@@ -9,7 +9,6 @@
 namespace tessaryn {
 namespace {
 
-
 double InDollars(std::int64_t raw) { return static_cast<double>(raw) / kDollar; }
 double QuantileOf(const ValueCounts& counts, int percent) { return InDollars(Quantile(counts, percent)); }
 

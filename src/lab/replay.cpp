@@ -6,9 +6,7 @@
 #include "rules/handling.h"
 
 namespace tessaryn {
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 std::string FigureSession(const Experiment& experiment, const LabSystem& system, std::int64_t session,
                           const std::string& applicationFolder, SessionResult& result) {

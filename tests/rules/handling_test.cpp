@@ -119,7 +119,8 @@ TEST(Handling, TheDialogsAnswerIsCarriedOutAndAStoredChoiceDoesTheSame) {
       table.host.settleAnswers.push_back(c.answer);
       table.Roll(c.die1, c.die2);
       ExpectChoice(table, c);
-      EXPECT_EQ(std::ranges::count(table.host.settleQuestions, BetId(c.bet), &SettleQuestion::bet), stored ? 0 : 1);
+      EXPECT_EQ(std::ranges::count(table.host.settleQuestions, BetId(c.bet), &SettleQuestion::bet),
+                stored ? 0 : 1);
     }
 }
 

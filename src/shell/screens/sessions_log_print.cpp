@@ -82,12 +82,15 @@ std::unique_ptr<RowSource> SessionsLogScreen::TakeRows() const {
     rows.append({statNames_[label]->text(), FigureInHabit(QString::fromStdString(StatisticText(s, label)))});
   const Currency fixed[] = {s.Net, s.Handle, s.AdvantagePercent};
   const QString names[] = {tr("Net $"), tr("Handle $"), tr("Advantage %")};
-  for (int i = 0; i < 3; ++i) rows.append({names[i], s.Included == 0 ? QString() : InHabit(QString::fromStdString(SessionsNumber(fixed[i])))});
+  for (int i = 0; i < 3; ++i)
+    rows.append(
+        {names[i], s.Included == 0 ? QString() : InHabit(QString::fromStdString(SessionsNumber(fixed[i])))});
   const std::int64_t counts[] = {s.Won, s.BrokeEven, s.Lost, s.Total};
   const QString classes[] = {tr("Won"), tr("Broke-even"), tr("Lost"), tr("Total")};
   for (int i = 0; i < 4; ++i)
-    rows.append({classes[i], tr("%1 (%2)").arg(MoneyText(Currency::Dollars(counts[i])),
-                                              FigureInHabit(QString::fromStdString(ShareText(counts[i], s.Total))))});
+    rows.append({classes[i],
+                 tr("%1 (%2)").arg(MoneyText(Currency::Dollars(counts[i])),
+                                   FigureInHabit(QString::fromStdString(ShareText(counts[i], s.Total))))});
   return figures;
 }
 

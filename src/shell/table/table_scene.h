@@ -49,7 +49,7 @@ struct TableScene {
   bool showDice = true;
   BetId hoverBet = 0;      // the area under the pointer
   bool hoverTakes = true;  // what the next click is meant for may be done there
-  BetId refusedBet = 0;     // the area of a bet that was just refused
+  BetId refusedBet = 0;    // the area of a bet that was just refused
   BetId focusBet = 0;      // the area with the keyboard's focus
   int focusSide = 0;
   SeatId hoverSeat = 0;  // an open position under the pointer

@@ -408,7 +408,9 @@ void TableWidget::TellSoon() {
   if (std::exchange(tellPending_, true)) return;
   QTimer::singleShot(0, this, [this] {
     tellPending_ = false;
-    const auto shown = [this] { return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet, scene.hoverTakes); };
+    const auto shown = [this] {
+      return std::tuple(scene.hoverBet, scene.hoverSeat, scene.heldBet, scene.hoverTakes);
+    };
     const auto before = shown();
     FindPointed(true);
     ShowHeld();
