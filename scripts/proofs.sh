@@ -9,6 +9,7 @@ proofs=(
   "files GameFile.AGameThatWasOpened*:CliGame.ANewProcess* TESSARYN_GAME_FILES=200"
   "cuts GameFile.ATruncated* TESSARYN_GAME_CUTS=2000 TESSARYN_GAME_MUTATIONS=0"
   "mutations GameFile.ATruncated* TESSARYN_GAME_CUTS=1 TESSARYN_GAME_MUTATIONS=100000"
+  "logs SessionsLogFile.NoTruncation* TESSARYN_LOG_MUTATIONS=100000"
   "faults GameFile.AWriteThatFails*:SessionsLogFile.AFullDisk* TESSARYN_GAME_FAULTS=2000"
   "kills GameFile.AProgramThatIsKilled* TESSARYN_GAME_KILLS=1000"
   "sessions SessionsLogKilled.* TESSARYN_KILL_ROUNDS=1000"

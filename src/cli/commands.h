@@ -37,6 +37,10 @@ int Fail(const std::string& what);
 // Whole lines that name files themselves.
 int FailInLines(const std::string& lines);
 
+// A file by its plain name is looked for in the data folder too, where tables keep theirs. An empty folder is
+// the one that is used without --data-folder.
+std::string PathInDataFolder(const std::string& name, std::string dataFolder);
+
 double SecondsSince(std::chrono::steady_clock::time_point start);
 // A number as reports show it: "12,345".
 std::string Whole(std::int64_t number);

@@ -17,6 +17,7 @@ namespace {
 
 struct GameOptions {
   std::string file;
+  std::string dataFolder;
   bool json = false;
 };
 
@@ -93,9 +94,10 @@ int ShowGame(const GameOptions& options) {
   CliHost host;
   std::unique_ptr<Game> game;
   GameReferences references;
-  const GameFileProblem problem = ReadGame(host, ApplicationFolder(), options.file, game, references);
-  if (problem.Found()) return Fail(options.file + ": " + ProblemLine(problem));
-  const Json shown = GameJson(options.file, *game, references);
+  const std::string path = PathInDataFolder(options.file, options.dataFolder);
+  const GameFileProblem problem = ReadGame(host, ApplicationFolder(), path, game, references);
+  if (problem.Found()) return Fail(path + ": " + ProblemLine(problem));
+  const Json shown = GameJson(path, *game, references);
   if (options.json)
     std::printf("%s\n", shown.dump(-1, ' ', false, Json::error_handler_t::replace).c_str());
   else
@@ -108,7 +110,9 @@ int ShowGame(const GameOptions& options) {
 void AddGameCommand(CLI::App& program, int& exitCode) {
   auto options = std::make_shared<GameOptions>();
   CLI::App* command = program.add_subcommand("game", "What a game file holds");
-  command->add_option("FILE", options->file, "A game file, .crp")->required();
+  command->add_option("FILE", options->file, "A game file (.crp), also by its name in the data folder")
+      ->required();
+  command->add_option("--data-folder", options->dataFolder, kDataFolderHelp);
   command->add_flag("--json", options->json, kJsonHelp);
   command->footer("Example:\n  tessaryn-cli game evening.crp --json");
   command->callback([options, &exitCode] { exitCode = ShowGame(*options); });

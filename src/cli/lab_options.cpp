@@ -36,7 +36,7 @@ void AddLabOutputs(CLI::App& command, LabOptions& options) {
 
 void AddLabOptions(CLI::App& command, LabOptions& options) {
   constexpr std::uint64_t kMostSeed = (std::uint64_t{1} << 53) - 1;
-  command.add_option("--data-folder", options.dataFolder, "Taken as by every command; nothing is kept there");
+  command.add_option("--data-folder", options.dataFolder, kNoDataFolderHelp);
   AddRepeatable(command, "--script", options.scripts, "A betting script, a system of its own (repeatable)");
   AddRepeatable(command, "--bets", options.bets,
                 "A system of standing bets, BET=AMOUNT,..., put up again when they are down (repeatable)");

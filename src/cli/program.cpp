@@ -12,6 +12,7 @@
 #include "base/record_file.h"
 #include "cli/cli_host.h"
 #include "cli/commands.h"
+#include "cli/refusals.h"
 
 namespace tessaryn::cli {
 
@@ -38,11 +39,20 @@ int Ending(int exitCode) {
   return SignalExitCode();
 }
 
+// So that who starts many commands can name the folder to each.
+void TakeDataFolderEverywhere(CLI::App& program) {
+  for (CLI::App* command : program.get_subcommands({}))
+    if (command->get_option_no_throw("--data-folder") == nullptr)
+      command->add_option_function<std::string>(
+          "--data-folder", [](const std::string&) {}, kNoDataFolderHelp);
+}
+
 }  // namespace
 
 int RunProgram(CLI::App& program, int argc, char** argv, const int& exitCode) {
   // None at all is told below: asking for one here would hide the name of a wrong one.
   program.require_subcommand(0, 1);
+  TakeDataFolderEverywhere(program);
   HoldStandardStreams();
   NoteSignals();
   for (int i = 1; i < argc; ++i)

@@ -37,6 +37,7 @@ inline constexpr const char* kRollsASecond = "%s rolls in %.2f seconds (%s rolls
 
 inline constexpr const char* kJsonHelp = "Print one JSON object";
 inline constexpr const char* kDataFolderHelp = "Folder of everything that is written";
+inline constexpr const char* kNoDataFolderHelp = "Taken as by every command; nothing is kept there";
 inline constexpr const char* kGeneratorHelp = "Generator 1 to 8";
 inline constexpr const char* kSeedHelp = "Seed of the generator";
 inline constexpr const char* kProbabilitiesHelp = "Percentage dice from a probability file";

@@ -7,7 +7,6 @@
 
 #include "base/interrupts.h"
 #include "base/messages.h"
-#include "base/program_folders.h"
 #include "base/record_file.h"
 #include "cli/commands.h"
 #include "cli/refusals.h"
@@ -137,14 +136,6 @@ bool ReadOptions(const SessionsOptions& options, Wanted& wanted) {
   return true;
 }
 
-// A log by its plain name is looked for in the data folder too, where tables keep them.
-std::string PathOf(const SessionsOptions& options, const std::string& name) {
-  if (access(name.c_str(), F_OK) == 0 || name.find('/') != std::string::npos) return name;
-  std::string folder = options.dataFolder.empty() ? DefaultDataFolder() : options.dataFolder;
-  if (folder.back() != '/') folder += '/';
-  return access((folder + name).c_str(), F_OK) == 0 ? folder + name : name;
-}
-
 // Tells of a wait as soon as it is known to be one.
 SessionsGoOn Announcer(std::int64_t sessions) {
   const auto start = Clock::now();
@@ -232,7 +223,8 @@ std::string Change(SessionsLogFile& file, const SessionsOptions& options, const 
   if (!problem.empty()) return "--delete " + options.deleted + ": " + problem;
   if (options.merged.empty()) return {};
   SessionsLogFile other;
-  problem = OpenSessionsFile(other, PathOf(options, options.merged), SessionsAccess::kRead);
+  problem =
+      OpenSessionsFile(other, PathInDataFolder(options.merged, options.dataFolder), SessionsAccess::kRead);
   return problem.empty() ? AppendSessionsOf(file, other) : problem;
 }
 
@@ -248,7 +240,7 @@ std::string Compute(SessionsLogFile& file, const Wanted& wanted, SessionsStatist
 int Sessions(const SessionsOptions& options) {
   Wanted wanted;
   if (!ReadOptions(options, wanted)) return kBad;
-  const std::string path = PathOf(options, options.file);
+  const std::string path = PathInDataFolder(options.file, options.dataFolder);
   const bool changes = wanted.deletes || !options.merged.empty();
   SessionsLogFile file;
   FileReplacement table;

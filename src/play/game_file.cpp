@@ -52,6 +52,13 @@ std::string GameFileDate(const std::string& path) {
   return std::string(text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S", &local));
 }
 
+// As a person reads it.
+std::string DateInBox(const std::string& path) {
+  std::string date = GameFileDate(path);
+  std::replace(date.begin(), date.end(), 'T', ' ');
+  return date;
+}
+
 FileReference ReferenceTo(const std::string& path) {
   const std::string full = FullPath(path);
   return {full, GameFileDate(full)};
@@ -461,7 +468,7 @@ bool OpenFirstGame(Game& game, std::string_view argument) {
   if (OpenGame(game, standard)) return true;
   const std::string backup = BackupGamePath(game);
   if (!Exists(backup)) return false;
-  return Confirms<Msg::kAskOpenBackup>(game, With<"date">(GameFileDate(backup))) &&
+  return Confirms<Msg::kAskOpenBackup>(game, With<"date">(DateInBox(backup))) &&
          OpenGameAs(game, backup, OpenAs::kDefault);
 }
 
@@ -511,7 +518,7 @@ bool HasAutosave(const Game& game) { return Exists(AutosavePath(game)); }
 bool OfferAutosave(Game& game) {
   const std::string path = AutosavePath(game);
   if (!Exists(path)) return false;
-  const bool opened = Confirms<Msg::kAskRestoreGame>(game, With<"date">(GameFileDate(path))) &&
+  const bool opened = Confirms<Msg::kAskRestoreGame>(game, With<"date">(DateInBox(path))) &&
                       OpenGameAs(game, path, OpenAs::kAutosave);
   RemoveAutosave(game);
   return opened;

@@ -141,6 +141,9 @@ TEST(CliGame, WhatIsNoGameIsNamed) {
     EXPECT_EQ(ran.exitCode, 1) << arguments[0];
     EXPECT_NE(ran.err.find(".crp"), std::string::npos) << ran.err;
   }
+  const std::vector<std::string> place = {"--data-folder", folder.Path()};
+  test::RunCli(folder, {"play", place[0], place[1], "--save-game", folder.File("kept.crp")}, "");
+  EXPECT_EQ(test::RunCli(folder, {"game", "kept.crp", place[0], place[1]}).exitCode, 0);
 }
 
 }  // namespace

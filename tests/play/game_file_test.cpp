@@ -519,7 +519,7 @@ void ExpectRefusedOrSound(test::TestTable& table, const std::string& path, const
 }
 
 TEST(GameFile, ATruncatedOrMutatedFileIsRefusedOrSound) {
-  RandomTable played(5);
+  RandomTable played(static_cast<unsigned>(Count("TESSARYN_GAME_SEED", 5)));
   played.Play(80);
   std::string error;
   const std::string path = played.folder.File("game.crp");

@@ -23,6 +23,11 @@ namespace {
 
 using namespace test;
 
+int Rounds(const char* variable, int otherwise) {
+  const char* rounds = std::getenv(variable);
+  return rounds != nullptr ? std::atoi(rounds) : otherwise;
+}
+
 TEST(SessionsLogFile, EveryChangeIsThatOfAList) {
   const unsigned seed = std::random_device{}();
   SCOPED_TRACE("seed " + std::to_string(seed));
@@ -143,7 +148,7 @@ TEST(SessionsLogFile, NoTruncationAndNoBytesDoHarm) {
     refuse(bytes, "a count of " + std::to_string(count));
   }
   refuse("<html>" + std::string(3000, ' '), "another program's file");
-  for (int round = 0; round < 1'500; ++round) {
+  for (int round = Rounds("TESSARYN_LOG_MUTATIONS", 1'500); round > 0; --round) {
     std::string bytes = whole;
     for (std::int64_t n = Draw(random, 1, 40); n > 0; --n)
       bytes[static_cast<std::size_t>(Draw(random, n % 2 == 0 ? 0 : 88, n % 2 == 0 ? 1279 : 120))] =
@@ -209,10 +214,7 @@ TEST(SessionsLogFile, AFullDiskLosesNothing) {
 
 // --- kill -9.
 
-int KillRounds() {
-  const char* rounds = std::getenv("TESSARYN_KILL_ROUNDS");
-  return rounds != nullptr ? std::atoi(rounds) : 300;
-}
+int KillRounds() { return Rounds("TESSARYN_KILL_ROUNDS", 300); }
 
 // Runs work in a process of its own and kills it some time later.
 void Killed(Random& random, const std::function<void()>& work) {
