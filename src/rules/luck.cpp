@@ -210,6 +210,7 @@ void FollowPayoffs(LuckMeter& meter, const Game& game, SeatId seat) {
 std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::size_t place) {
   const LuckRide ride = RideOf(game, seat);
   if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
+  if (meter.plans[place].counted) LuckSumUp(meter);
   if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
     meter.chances = LuckChancesOf(meter.dice);
     meter.chancesKnown = true;
@@ -292,6 +293,7 @@ void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
   }
   meter.rulesStand = may == LuckRulesMay::kStand;
   meter.glances = meter.rulesStand && !meter.dice.percentage;
+  LuckSumUp(meter);
   meter.unit = UnitOf(meter.dice);
   for (SeatLuck& seat : meter.seats) seat = {};
   TakeValues(meter, game);
@@ -352,13 +354,26 @@ inline void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
     AddInSmallerParts(luck, plan, outcome, meter.unit / plan.unit);
 }
 
+// A few plans come again and again: how often each outcome came is summed up at the end.
+inline void AddRollAlone(LuckMeter& meter, std::size_t outcome) {
+  LuckPlan& plan = *meter.riding[kFirstSeat];
+  if (!plan.counted) return AddRoll(meter, kFirstSeat, outcome);
+  ++plan.outcomes[outcome].times;
+  meter.seats[kFirstSeat].value = plan.outcomes[outcome].after;
+}
+
 // Where nobody but seat 1 is at the table, mostly it rides with what it rode with when this point was last
 // on.
 inline bool RidesAlone(LuckMeter& meter, const Game& game) {
   const TableState& table = game.table;
   if (!meter.glances || table.OccupiedSeats != 1) return false;
-  const LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
+  const std::uint16_t place = meter.lastRide[kFirstSeat][table.Point];
+  LuckPlan& plan = meter.plans[place];
   if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
+  if (!plan.counted) {
+    plan.counted = true;
+    meter.counted.push_back(place);
+  }
   meter.riding[kFirstSeat] = &plan;
   meter.ridingSeats = 1u << 1;
   meter.standsAt = table.Point;
@@ -385,12 +400,35 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
 void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   const bool thrown = meter.throwsBefore >= 0 && Throws(game.stats) != meter.throwsBefore;
   meter.throwsBefore = -1;
-  if (!thrown) return;
+  if (thrown) LuckAfterThrow(meter, game);
+}
+
+void LuckAfterThrow(LuckMeter& meter, const Game& game) {
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
   if (meter.ridingSeats == 1u << 1) [[likely]]
-    AddRoll(meter, kFirstSeat, outcome);
+    AddRollAlone(meter, outcome);
   else
     AddRollOfSeats(meter, outcome);
+}
+
+void LuckSumUp(LuckMeter& meter) {
+  SeatLuck& luck = meter.seats[kFirstSeat];
+  for (const std::uint16_t place : meter.counted) {
+    LuckPlan& plan = meter.plans[place];
+    const std::int64_t parts = meter.unit / plan.unit;
+    std::int64_t rolls = 0;
+    for (LuckOutcome& outcome : plan.outcomes) {
+      if (outcome.times == 0) continue;
+      luck.luck += outcome.luck * (outcome.times * parts);
+      rolls += outcome.times;
+      outcome.times = 0;
+    }
+    luck.expected += plan.expected * (rolls * parts);
+    luck.variance += plan.variance * static_cast<double>(rolls);
+    luck.rolls += rolls;
+    plan.counted = false;
+  }
+  meter.counted.clear();
 }
 
 LuckReport LuckOf(const LuckMeter& meter, SeatId seat) {
