@@ -15,6 +15,7 @@ namespace {
 constexpr std::size_t kPlans = 256;  // a power of two
 constexpr int kStandsNowhere = -1;
 constexpr SeatId kFirstSeat = 1;
+constexpr std::uint32_t kOnlyTheFirst = 1u << 1;  // of the riding seats
 
 // --- What plans are made from.
 
@@ -306,6 +307,14 @@ void LuckResume(LuckMeter& meter, const Game& game) {
 
 namespace {
 
+// From now on rolls that ride with the plan are counted by their outcomes.
+void CountBy(LuckMeter& meter, std::uint16_t place) {
+  LuckPlan& plan = meter.plans[place];
+  if (plan.counted) return;
+  plan.counted = true;
+  meter.counted.push_back(place);
+}
+
 // Finds what every seat rides with.
 [[gnu::noinline]] void RideAnew(LuckMeter& meter, const Game& game) {
   if (!meter.glances || game.percentage.PercentageDiceActive) {
@@ -333,6 +342,8 @@ namespace {
     if (value != meter.seats[seat].value) Shift(meter, seat, value);
   }
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
+  if (byPoint && table.OccupiedSeats == 1 && meter.ridingSeats == kOnlyTheFirst)
+    CountBy(meter, meter.lastRide[kFirstSeat][table.Point]);
 }
 
 // What more there is to it where the meter goes by smaller parts than the plan.
@@ -367,15 +378,11 @@ inline void AddRollAlone(LuckMeter& meter, std::size_t outcome) {
 inline bool RidesAlone(LuckMeter& meter, const Game& game) {
   const TableState& table = game.table;
   if (!meter.glances || table.OccupiedSeats != 1) return false;
-  const std::uint16_t place = meter.lastRide[kFirstSeat][table.Point];
-  LuckPlan& plan = meter.plans[place];
-  if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
-  if (!plan.counted) {
-    plan.counted = true;
-    meter.counted.push_back(place);
-  }
+  LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
+  if (!plan.counted || !StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value)
+    return false;
   meter.riding[kFirstSeat] = &plan;
-  meter.ridingSeats = 1u << 1;
+  meter.ridingSeats = kOnlyTheFirst;
   meter.standsAt = table.Point;
   return true;
 }
@@ -405,7 +412,7 @@ void LuckAfterRoll(LuckMeter& meter, const Game& game) {
 
 void LuckAfterThrow(LuckMeter& meter, const Game& game) {
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  if (meter.ridingSeats == 1u << 1) [[likely]]
+  if (meter.ridingSeats == kOnlyTheFirst) [[likely]]
     AddRollAlone(meter, outcome);
   else
     AddRollOfSeats(meter, outcome);
