@@ -309,10 +309,8 @@ namespace {
 
 // From now on rolls that ride with the plan are counted by their outcomes.
 void CountBy(LuckMeter& meter, std::uint16_t place) {
-  LuckPlan& plan = meter.plans[place];
-  if (plan.counted) return;
-  plan.counted = true;
-  meter.counted.push_back(place);
+  if (!meter.plans[place].counted) meter.counted.push_back(place);
+  meter.plans[place].counted = true;
 }
 
 // Finds what every seat rides with.
@@ -342,8 +340,8 @@ void CountBy(LuckMeter& meter, std::uint16_t place) {
     if (value != meter.seats[seat].value) Shift(meter, seat, value);
   }
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
-  if (byPoint && table.OccupiedSeats == 1 && meter.ridingSeats == kOnlyTheFirst)
-    CountBy(meter, meter.lastRide[kFirstSeat][table.Point]);
+  meter.counts = byPoint && table.OccupiedSeats == 1 && meter.ridingSeats == kOnlyTheFirst;
+  if (meter.counts) CountBy(meter, meter.lastRide[kFirstSeat][table.Point]);
 }
 
 // What more there is to it where the meter goes by smaller parts than the plan.
@@ -367,10 +365,10 @@ inline void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
 
 // A few plans come again and again: how often each outcome came is summed up at the end.
 inline void AddRollAlone(LuckMeter& meter, std::size_t outcome) {
-  LuckPlan& plan = *meter.riding[kFirstSeat];
-  if (!plan.counted) return AddRoll(meter, kFirstSeat, outcome);
-  ++plan.outcomes[outcome].times;
-  meter.seats[kFirstSeat].value = plan.outcomes[outcome].after;
+  if (!meter.counts) return AddRoll(meter, kFirstSeat, outcome);
+  LuckOutcome& fell = meter.riding[kFirstSeat]->outcomes[outcome];
+  ++fell.times;
+  meter.seats[kFirstSeat].value = fell.after;
 }
 
 // Where nobody but seat 1 is at the table, mostly it rides with what it rode with when this point was last
@@ -383,6 +381,7 @@ inline bool RidesAlone(LuckMeter& meter, const Game& game) {
     return false;
   meter.riding[kFirstSeat] = &plan;
   meter.ridingSeats = kOnlyTheFirst;
+  meter.counts = true;
   meter.standsAt = table.Point;
   return true;
 }
@@ -436,6 +435,8 @@ void LuckSumUp(LuckMeter& meter) {
     plan.counted = false;
   }
   meter.counted.clear();
+  meter.counts = false;
+  meter.standsAt = kStandsNowhere;
 }
 
 LuckReport LuckOf(const LuckMeter& meter, SeatId seat) {

@@ -67,6 +67,7 @@ struct LuckMeter {
   std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
   bool rulesStand = false;
   bool glances = false;              // rules stand, and the dice are fair
+  bool counts = false;               // seat 1 alone rides, with a plan that is counted by
   LuckPlan* riding[kSeatRows] = {};  // of the roll to come; in plans
   SeatLuck seats[kSeatRows];
   // Places in plans, by the point: of the last roll that it was on.
