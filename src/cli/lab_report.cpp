@@ -157,8 +157,12 @@ void TellOddities(const LabState& state) {
     if (sums.sessions > 0 && sums.unrolled == sums.sessions)
       std::fprintf(stderr, "tessaryn-cli: %s: stopped at 0 rolls in every session%s\n", name.c_str(),
                    sums.stopReason.empty() ? "" : (": " + AsLines(sums.stopReason)).c_str());
-    if (sums.acted || sums.errors.empty()) continue;
-    std::fprintf(stderr, "tessaryn-cli: %s: the script could never act: %s\n", name.c_str(),
+    if (sums.errors.empty()) continue;
+    std::int64_t times = 0;
+    for (const ScriptErrorKind& kind : sums.errors) times += kind.count;
+    const std::string what = sums.acted ? "run-time errors of the script, " + Whole(times) + " in all; the first"
+                                        : "the script could never act";
+    std::fprintf(stderr, "tessaryn-cli: %s: %s: %s\n", name.c_str(), what.c_str(),
                  ErrorReport(sums.errors.front()).c_str());
   }
 }

@@ -18,10 +18,6 @@ std::string Quoted(const std::string& text) {
   return quoted + "'";
 }
 
-std::string NameOf(const LabSetting& setting) {
-  return setting.name + (setting.seat == 0 ? "" : "@" + std::to_string(setting.seat));
-}
-
 template <typename T>
 void AddNew(std::vector<T>& values, const T& value) {
   if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(value);
@@ -94,35 +90,41 @@ struct Command {
   }
 };
 
-void AddSystems(Command& command, const Sweeps& sweeps) {
-  for (const LabSystem& script : sweeps.scripts)
-    command.Add(script.standingBets ? "--bets" : "--script", script.name);
-  for (const Sweeps::Stack& stack : sweeps.stacks) {
-    std::string values;
-    for (const Currency value : stack.values) {
-      if (!values.empty()) values += ',';
-      values += PlainMoney(value);
-    }
-    command.Add("--stack", std::to_string(stack.stack) + "=" + values);
-  }
-  for (const Sweeps::Setting& setting : sweeps.settings) {
-    std::string values;
-    for (const std::string& value : setting.values) {
-      if (!values.empty()) values += ',';
-      values += value;
-    }
-    command.Add("--vary", NameOf(setting.setting) + "=" + values);
-  }
+template <typename T, typename Text>
+std::string Joined(const std::vector<T>& values, Text&& text) {
+  std::string joined;
+  for (const T& value : values) joined += (joined.empty() ? "" : ",") + text(value);
+  return joined;
 }
 
 }  // namespace
 
+std::string SettingText(const LabSetting& setting) {
+  return setting.name + (setting.seat == 0 ? "" : "@" + std::to_string(setting.seat)) + "=" + setting.text;
+}
+
+bool FindSweeps(const std::vector<LabSystem>& systems, LabSweeps& found) {
+  const Sweeps sweeps = SweepsOf(systems);
+  if (!LeadTo(sweeps, systems)) return false;
+  found = {sweeps.scripts, {}, {}};
+  for (const Sweeps::Stack& stack : sweeps.stacks)
+    found.stacks.push_back(std::to_string(stack.stack) + "=" + Joined(stack.values, PlainMoney));
+  for (const Sweeps::Setting& setting : sweeps.settings) {
+    LabSetting all = setting.setting;
+    all.text = Joined(setting.values, [](const std::string& value) { return value; });
+    found.settings.push_back(SettingText(all));
+  }
+  return true;
+}
+
 std::string LabCommand(const Experiment& experiment) {
-  if (experiment.systems.empty()) return {};
-  const Sweeps sweeps = SweepsOf(experiment.systems);
-  if (!LeadTo(sweeps, experiment.systems)) return {};
+  LabSweeps sweeps;
+  if (experiment.systems.empty() || !FindSweeps(experiment.systems, sweeps)) return {};
   Command command;
-  AddSystems(command, sweeps);
+  for (const LabSystem& system : sweeps.systems)
+    command.Add(system.standingBets ? "--bets" : "--script", system.name);
+  for (const std::string& stack : sweeps.stacks) command.Add("--stack", stack);
+  for (const std::string& setting : sweeps.settings) command.Add("--vary", setting);
   command.AddMoney("--bankroll", experiment.bankroll);
   command.AddCount("--sessions", experiment.sessions);
   command.AddCount("--rolls", experiment.rolls);
@@ -131,8 +133,7 @@ std::string LabCommand(const Experiment& experiment) {
   command.AddMoney("--win-goal", experiment.winGoal);
   command.AddMoney("--loss-limit", experiment.lossLimit);
   if (experiment.endWithHand) command.Add("--end", "hand");
-  for (const LabSetting& setting : experiment.settings)
-    command.Add("--set", NameOf(setting) + "=" + setting.text);
+  for (const LabSetting& setting : experiment.settings) command.Add("--set", SettingText(setting));
   if (experiment.percentageDice) command.text += " --probabilities FILE";
   command.AddCount("--rng", experiment.generator);
   command.Add("--seed", std::to_string(experiment.seed));

@@ -74,11 +74,16 @@ void ResetRows(SeatBetTable<T, kRows>& cells, const SeatBetTable<T, kRows>& fres
     });
 }
 
-// Texts and lists mostly are what they were.
+// Texts and lists mostly are what they were, and names mostly aren't given.
 template <typename T>
 void ResetPart(T& value, const T& fresh) {
   if constexpr (std::is_trivially_copyable_v<T>) {
     std::memcpy(&value, &fresh, sizeof value);
+  } else if constexpr (std::is_same_v<T, std::string[kCheckStacks]>) {
+    std::size_t letters = 0;
+    for (int i = 0; i < kCheckStacks; ++i) letters |= value[i].size() | fresh[i].size();
+    for (int i = 0; letters != 0 && i < kCheckStacks; ++i)
+      if (value[i] != fresh[i]) value[i] = fresh[i];
   } else if constexpr (std::is_array_v<T>) {
     for (std::size_t i = 0; i < std::size(value); ++i) ResetPart(value[i], fresh[i]);
   } else if constexpr (HasFields<T>) {
@@ -134,14 +139,8 @@ void ResetStatistics(Statistics& stats, const Statistics& fresh, const TouchedBe
   });
 }
 
-void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh) {
-  const auto rows = static_cast<std::size_t>(std::min<std::int64_t>(graph.PlotPoints, kPlotRows));
-  // Of a graph that was empty, and of which nobody else is.
-  if (fresh.PlotPoints == 0)
-    for (std::size_t row = 0; row < rows; ++row)
-      graph.Rows[row].cells[0] = graph.Rows[row].cells[kLabSeat] = kZero;
-  else
-    std::copy_n(fresh.Rows, rows, graph.Rows);
+void ResetGraph(BankrollGraph& graph, const BankrollGraph& fresh, bool alsoUnplotted) {
+  if (alsoUnplotted || fresh.PlotPoints != 0) std::copy_n(fresh.Rows, kPlotRows, graph.Rows);
   ForEachMember(std::type_identity<BankrollGraph>{}, [&](const char*, auto member) {
     if constexpr (!std::is_same_v<decltype(member), decltype(&BankrollGraph::Rows)>)
       ResetPart(graph.*member, fresh.*member);
@@ -197,17 +196,18 @@ std::unique_ptr<LabTable> OpenLabTable(const Game& fresh, const std::atomic<bool
 
 namespace {
 
-// alsoDrawn: the stream that a session's dice are drawn from too, which gets new numbers as one begins.
-void Reset(LabTable& table, bool alsoDrawn) {
+// whole: also the stream that a session's dice are drawn from, which gets new numbers as one begins, and the
+// rows of the graph that nobody reads before they are plotted.
+void Reset(LabTable& table, bool whole) {
   Game& game = *table.game;
   const Game& fresh = *table.fresh;
   const SeatState& seat = game.table.seats[kLabSeat];
   table.touched.bets = table.touched.bets | seat.TouchedSinceBefore;
   table.touched.stacks = table.touched.stacks | seat.StacksSinceBefore;
   ResetStatistics(game.stats, fresh.stats, table.touched);
-  ResetGraph(game.graph, fresh.graph);
+  ResetGraph(game.graph, fresh.graph, whole);
   ResetState(game.table, fresh.table, table.touched);
-  ResetGenerators(game.generators, fresh.generators, alsoDrawn);
+  ResetGenerators(game.generators, fresh.generators, whole);
   ResetScripts(game.autobet, fresh.autobet);
   ResetPart(game.settings, fresh.settings);
   ResetPart(game.payoffs, fresh.payoffs);
@@ -229,6 +229,7 @@ namespace {
 // What is looked at as each roll ends.
 struct Course {
   Currency start;  // what net counts from
+  Currency base;   // with what came from the ATM
   Currency highest;
   Currency net;
   // As last looked at; before the first roll nothing is.
@@ -292,8 +293,11 @@ std::uint8_t MarkOfRefusal(const Game& game) {
 [[gnu::noinline]] void LookAtMoney(const Game& game, const Experiment& experiment, Course& course,
                                    SessionResult& result) {
   course.bankroll = game.table.BankrollCurrent[kLabSeat];
-  course.drawn = DrawnOf(game);
-  const Currency net = NetOf(game, course);
+  if (const Currency drawn = DrawnOf(game); drawn != course.drawn) {
+    course.drawn = drawn;
+    course.base = course.start + drawn;
+  }
+  const Currency net = course.bankroll - course.base;
   FollowStreak(course, net, result);
   if (net > course.highest) course.highest = net;
   if (course.highest - net > result.maxDrawdown) result.maxDrawdown = course.highest - net;
@@ -303,9 +307,10 @@ std::uint8_t MarkOfRefusal(const Game& game) {
 }
 
 // The result as a roll ends. Whether the session is to end here.
-bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+[[gnu::always_inline]] inline bool LookAtRoll(LabTable& table, const Experiment& experiment, Course& course,
+                                              SessionResult& result) {
   const Game& game = *table.game;
-  LuckAfterRoll(table.luck, game);
+  LuckAfterThrow(table.luck, game);
   ++result.rolls;
   if (game.table.RollTotal == 7 && game.table.PointBeforeRoll > 0) ++result.hands;
   if (game.table.BankrollCurrent[kLabSeat] != course.bankroll || DrawnOf(game) != course.drawn)
@@ -361,7 +366,8 @@ bool GivenUp(const LabTable& table) {
 }
 
 // Rolls until an end is met. False when the session was given up.
-bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course, SessionResult& result) {
+[[gnu::noinline]] bool PlayRolls(LabTable& table, const Experiment& experiment, Course& course,
+                                 SessionResult& result) {
   Game& game = *table.game;
   for (;;) {
     NoteTouched(table);
@@ -405,7 +411,7 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   const bool begun = BeginSession(table, experiment, session);
   if (GivenUp(table)) return false;
   LuckBeginSession(table.luck, game, LuckRulesMay::kStand);  // nobody is there, and scripts can't
-  course.start = game.stats.BankrollSessionStart[kLabSeat];
+  course.start = course.base = game.stats.BankrollSessionStart[kLabSeat];
   course.nextMark = RollOfMark(experiment, 0);
   course.rolls = MostRolls(experiment, game);
   course.hands = experiment.hands > 0 ? experiment.hands : kNoEnd;
@@ -415,6 +421,7 @@ bool PlaySession(LabTable& table, const Experiment& experiment, std::int64_t ses
   NoteTouched(table);
   result.net = NetOf(game, course);
   result.highest = course.highest;
+  LuckSumUp(table.luck);
   const SeatLuck& luck = table.luck.seats[kLabSeat];
   result.luck = luck.luck;
   result.price = -(luck.expected + luck.shifted);

@@ -15,6 +15,7 @@ namespace {
 constexpr std::size_t kPlans = 256;  // a power of two
 constexpr int kStandsNowhere = -1;
 constexpr SeatId kFirstSeat = 1;
+constexpr std::uint32_t kOnlyTheFirst = 1u << 1;  // of the riding seats
 
 // --- What plans are made from.
 
@@ -210,6 +211,7 @@ void FollowPayoffs(LuckMeter& meter, const Game& game, SeatId seat) {
 std::size_t MakePlanFor(LuckMeter& meter, const Game& game, SeatId seat, std::size_t place) {
   const LuckRide ride = RideOf(game, seat);
   if (!ride.Fits() || meter.plans[place].rides == meter.roll) place = kPlans + static_cast<std::size_t>(seat);
+  if (meter.plans[place].counted) LuckSumUp(meter);
   if (!meter.chancesKnown && ride.bets.Meets(kHandBets)) {
     meter.chances = LuckChancesOf(meter.dice);
     meter.chancesKnown = true;
@@ -292,6 +294,7 @@ void LuckBeginSession(LuckMeter& meter, const Game& game, LuckRulesMay may) {
   }
   meter.rulesStand = may == LuckRulesMay::kStand;
   meter.glances = meter.rulesStand && !meter.dice.percentage;
+  LuckSumUp(meter);
   meter.unit = UnitOf(meter.dice);
   for (SeatLuck& seat : meter.seats) seat = {};
   TakeValues(meter, game);
@@ -303,6 +306,12 @@ void LuckResume(LuckMeter& meter, const Game& game) {
 }
 
 namespace {
+
+// From now on rolls that ride with the plan are counted by their outcomes.
+void CountBy(LuckMeter& meter, std::uint16_t place) {
+  if (!meter.plans[place].counted) meter.counted.push_back(place);
+  meter.plans[place].counted = true;
+}
 
 // Finds what every seat rides with.
 [[gnu::noinline]] void RideAnew(LuckMeter& meter, const Game& game) {
@@ -331,6 +340,8 @@ namespace {
     if (value != meter.seats[seat].value) Shift(meter, seat, value);
   }
   meter.standsAt = byPoint ? table.Point : kStandsNowhere;
+  meter.counts = byPoint && table.OccupiedSeats == 1 && meter.ridingSeats == kOnlyTheFirst;
+  if (meter.counts) CountBy(meter, meter.lastRide[kFirstSeat][table.Point]);
 }
 
 // What more there is to it where the meter goes by smaller parts than the plan.
@@ -352,15 +363,25 @@ inline void AddRoll(LuckMeter& meter, SeatId seat, std::size_t outcome) {
     AddInSmallerParts(luck, plan, outcome, meter.unit / plan.unit);
 }
 
+// A few plans come again and again: how often each outcome came is summed up at the end.
+inline void AddRollAlone(LuckMeter& meter, std::size_t outcome) {
+  if (!meter.counts) return AddRoll(meter, kFirstSeat, outcome);
+  LuckOutcome& fell = meter.riding[kFirstSeat]->outcomes[outcome];
+  ++fell.times;
+  meter.seats[kFirstSeat].value = fell.after;
+}
+
 // Where nobody but seat 1 is at the table, mostly it rides with what it rode with when this point was last
 // on.
 inline bool RidesAlone(LuckMeter& meter, const Game& game) {
   const TableState& table = game.table;
   if (!meter.glances || table.OccupiedSeats != 1) return false;
-  const LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
-  if (!StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value) return false;
+  LuckPlan& plan = meter.plans[meter.lastRide[kFirstSeat][table.Point]];
+  if (!plan.counted || !StillRides(plan, table, kFirstSeat) || plan.before != meter.seats[kFirstSeat].value)
+    return false;
   meter.riding[kFirstSeat] = &plan;
-  meter.ridingSeats = 1u << 1;
+  meter.ridingSeats = kOnlyTheFirst;
+  meter.counts = true;
   meter.standsAt = table.Point;
   return true;
 }
@@ -385,12 +406,37 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game) {
 void LuckAfterRoll(LuckMeter& meter, const Game& game) {
   const bool thrown = meter.throwsBefore >= 0 && Throws(game.stats) != meter.throwsBefore;
   meter.throwsBefore = -1;
-  if (!thrown) return;
+  if (thrown) LuckAfterThrow(meter, game);
+}
+
+void LuckAfterThrow(LuckMeter& meter, const Game& game) {
   const std::size_t outcome = kOutcomeOf[CombinationIndex(game.table.Die1, game.table.Die2)];
-  if (meter.ridingSeats == 1u << 1) [[likely]]
-    AddRoll(meter, kFirstSeat, outcome);
+  if (meter.ridingSeats == kOnlyTheFirst) [[likely]]
+    AddRollAlone(meter, outcome);
   else
     AddRollOfSeats(meter, outcome);
+}
+
+void LuckSumUp(LuckMeter& meter) {
+  SeatLuck& luck = meter.seats[kFirstSeat];
+  for (const std::uint16_t place : meter.counted) {
+    LuckPlan& plan = meter.plans[place];
+    const std::int64_t parts = meter.unit / plan.unit;
+    std::int64_t rolls = 0;
+    for (LuckOutcome& outcome : plan.outcomes) {
+      if (outcome.times == 0) continue;
+      luck.luck += outcome.luck * (outcome.times * parts);
+      rolls += outcome.times;
+      outcome.times = 0;
+    }
+    luck.expected += plan.expected * (rolls * parts);
+    luck.variance += plan.variance * static_cast<double>(rolls);
+    luck.rolls += rolls;
+    plan.counted = false;
+  }
+  meter.counted.clear();
+  meter.counts = false;
+  meter.standsAt = kStandsNowhere;
 }
 
 LuckReport LuckOf(const LuckMeter& meter, SeatId seat) {

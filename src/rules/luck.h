@@ -51,7 +51,8 @@ struct LuckRules {
 // Whether payoffs and settings may change on the way. The dice may in any case.
 enum class LuckRulesMay : std::uint8_t {
   kChange,
-  kStand,  // the caller's word, until the next session begins; nothing is looked at then
+  kStand,  // the caller's word, until the next session begins; nothing is looked at then, and sums are whole
+           // behind LuckSumUp alone
 };
 
 // One to a game; seats are told apart, players are not. Written by the procedures below alone. Plans are kept
@@ -65,11 +66,13 @@ struct LuckMeter {
   int standsAt = -1;  // the point with which these plans go on as long as no bet is touched; -1 none
   std::vector<LuckPlan> plans;  // by a hash of what rides; behind them one for each seat
   bool rulesStand = false;
-  bool glances = false;                    // rules stand, and the dice are fair
-  const LuckPlan* riding[kSeatRows] = {};  // of the roll to come; in plans
+  bool glances = false;              // rules stand, and the dice are fair
+  bool counts = false;               // seat 1 alone rides, with a plan that is counted by
+  LuckPlan* riding[kSeatRows] = {};  // of the roll to come; in plans
   SeatLuck seats[kSeatRows];
-  std::uint16_t lastRide[kSeatRows][11] =
-      {};  // places in plans, by the point: of the last roll that it was on
+  // Places in plans, by the point: of the last roll that it was on.
+  std::uint16_t lastRide[kSeatRows][11] = {};
+  std::vector<std::uint16_t> counted;  // places of the plans whose rolls are counted
 
   // What plans are made from.
   LuckDice dice;
@@ -93,6 +96,10 @@ void LuckBeforeRoll(LuckMeter& meter, const Game& game);
 // After it, with the dice still as they fell; what scripts and handling have done since doesn't matter.
 // Without a throw since LuckBeforeRoll nothing is added.
 void LuckAfterRoll(LuckMeter& meter, const Game& game);
+// The same where the caller knows that the dice fell.
+void LuckAfterThrow(LuckMeter& meter, const Game& game);
+// The rolls that were only counted, since rules stand, go into the sums.
+void LuckSumUp(LuckMeter& meter);
 
 // A seat's session in dollars: actual = expected + luck. Bets that are up count at their values.
 struct LuckReport {

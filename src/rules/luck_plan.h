@@ -30,19 +30,21 @@ struct LuckRide {
 struct LuckOutcome {
   WideInt luck = 0;        // what is above the mean, in 1 / unit of $0.0001
   std::int64_t after = 0;  // value of the bets that stay undecided, in kValueUnit
+  std::int64_t times = 0;  // it came, and no sum knows of it yet
 };
 
-// What every roll asks for stands in the first two cache lines, and in one of the outcome.
+// What a roll asks for mostly stands in the first cache line, and in one of the outcome.
 struct alignas(64) LuckPlan {
   bool made = false;
   bool byPoint = false;     // made, and nothing but point, amounts and calls counts
+  bool counted = false;     // rolls that rode with it are counted by outcome
   int point = 0;            // the ride's
   std::int64_t before = 0;  // value of the bets, in kValueUnit
-  WideInt expected = 0;     // the mean of money and change of value, in 1 / unit of $0.0001
+  LuckRide ride;
+  std::int64_t rides = 0;  // the roll that it was last used for
+  WideInt expected = 0;    // the mean of money and change of value, in 1 / unit of $0.0001
   std::int64_t unit = 36 * kValueUnit;
   double variance = 0;  // of the roll's luck, in dollars squared
-  alignas(64) LuckRide ride;
-  std::int64_t rides = 0;  // the roll that it was last used for
   alignas(64) std::array<LuckOutcome, kOutcomes> outcomes{};
 };
 // Fills the plan for the bets of a seat as they are up now. Of the chances nothing is asked without

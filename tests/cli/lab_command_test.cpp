@@ -259,6 +259,9 @@ TEST(LabCommand, KeepsTheDiceOfAScriptThatWouldChangeThem) {
       {"--script", ground.folder.File("d.bet"), "--bets", "43=10", "--sessions", "20", "--rolls", "30"});
   EXPECT_EQ(lab["systems"][0]["adjusted"], lab["systems"][1]["adjusted"]);
   EXPECT_EQ(lab["systems"][0]["scriptErrors"][0]["code"], 854);
+  const Ran ran = ground.Run({"--script", ground.folder.File("d.bet"), "--sessions", "2", "--rolls", "3"});
+  EXPECT_NE(ran.err.find("d.bet: run-time errors of the script, "), std::string::npos) << ran.err;
+  EXPECT_NE(ran.err.find("in all; the first: error 854 in line 2"), std::string::npos) << ran.err;
 }
 
 TEST(LabCommand, GoesOnWhereItWasKilled) {

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QTabWidget>
@@ -241,6 +242,10 @@ TEST(LaboratoryScreen, SavesOpensAndGoesOnAsTheCommandLineDoes) {
   Click(table.lab, "cmdOpen");
   EXPECT_EQ(table.lab.Rows(), rows);
   expectAsPlain();
+  // The page is filled with it: played anew it is the same.
+  Click(table.lab, "cmdRun");
+  ASSERT_TRUE(table.Waits("Run"));
+  expectAsPlain();
   // A file that is none leaves everything as it is.
   QueuedFileNames() = {file("a.json")};
   QString told;
@@ -251,6 +256,61 @@ TEST(LaboratoryScreen, SavesOpensAndGoesOnAsTheCommandLineDoes) {
   Click(table.lab, "cmdOpen");
   EXPECT_TRUE(told.contains("a.json")) << told.toStdString();
   EXPECT_EQ(table.lab.Rows(), rows);
+}
+
+// Whatever the command line made of it: what the page then plays is that experiment.
+TEST(LaboratoryScreen, AnOpenedExperimentIsPlayedAnew) {
+  Laboratory table;
+  std::vector<Experiment> experiments(3);
+  for (Experiment& experiment : experiments) {
+    experiment.systems.resize(2);
+    ASSERT_EQ(ReadStandingBets("passline=10", experiment.systems[0]), "");
+    ASSERT_EQ(ReadStandingBets("field=5,place8=12", experiment.systems[1]), "");
+    experiment.sessions = 30;
+    experiment.bankroll = ParseMoney("312.5");
+  }
+  ASSERT_EQ(SweepStack("1=5..15:5", experiments[0].systems), "");
+  ASSERT_EQ(SweepSetting("OddsCalcMethod=3,1", experiments[0].systems), "");
+  experiments[0].hours = ParseMoney("0.25");
+  experiments[0].rolls = 0;
+  experiments[0].settings = {{"SimRollRate", 0, "90"}, {"WinHandling", 1, "2"}};
+  experiments[0].seed = 18'446'744'073'709'551'615u;
+  // No sweep leads to these.
+  experiments[1].systems[1].stacks = {{3, ParseMoney("7")}};
+  experiments[1].systems[0].settings = {{"BarNumber", 0, "2"}};
+  experiments[1].endWithHand = true;
+  experiments[1].hands = 4;
+  experiments[1].lossLimit = ParseMoney("60");
+  experiments[2].generator = 8;
+  experiments[2].percentageDice = true;
+  experiments[2].probabilities = FairProbabilities();
+  experiments[2].probabilities[1][3][4] = 9'000;
+  experiments[2].winGoal = ParseMoney("40.0001");
+  experiments[2].precision = ParseMoney("0.0005");
+  for (const Experiment& experiment : experiments) {
+    const LabState unplayed = BeginLab(experiment, false, false);
+    const std::string path = table.folder.filePath("opened.lab").toStdString();
+    const std::string again = table.folder.filePath("again.lab").toStdString();
+    ASSERT_EQ(WriteLab(path, LabBytes(unplayed)), "");
+    QueuedFileNames() = {path};
+    Click(table.lab, "cmdOpen");
+    ASSERT_TRUE(table.Waits("Continue"));
+    Click(table.lab, "cmdEnd");
+    ASSERT_TRUE(table.Waits("Run 30"));
+    Click(table.lab, "cmdRun");
+    ASSERT_TRUE(table.Waits("Run"));
+    QFile::remove(table.folder.filePath("again.lab"));
+    QueuedFileNames() = {again};
+    table.lab.findChild<QAction*>("mnuSaveLab")->trigger();
+    LabState plain = unplayed;
+    LabRun run;
+    run.applicationFolder = std::string(kBinFolder) + "/";
+    ASSERT_EQ(RunLab(plain, run), "");
+    LabState played;
+    ASSERT_EQ(ReadLab(again, played), "");
+    EXPECT_EQ(FirstDifference(played, plain), "");
+    EXPECT_TRUE(ReadFile(again) == LabBytes(plain));
+  }
 }
 
 TEST(LaboratoryScreen, SweepsAndSearchesAreTheCoresToo) {

@@ -745,6 +745,7 @@ void LaboratoryScreen::Open() {
   if (const std::string error = run_.Open(path, missing); !error.empty()) return Tell(error);
   figures_ = run_.Figures();
   TakeExperiment(run_.State().experiment);
+  setup_->ShowExperiment(run_.State().experiment, run_.State().rows.Any());
   figures_ = run_.Figures();
   stage_ = figures_->finished ? Stage::kSetUp : Stage::kPaused;
   ending_ = false;

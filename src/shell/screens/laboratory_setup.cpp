@@ -17,6 +17,7 @@
 #include "autobet/language/script_files.h"
 #include "base/messages.h"
 #include "base/record_file.h"
+#include "lab/lab_words.h"
 #include "lab/session.h"
 #include "lab/systems.h"
 #include "play/start_up.h"
@@ -31,6 +32,9 @@ namespace {
 constexpr int kUsualSessions = 10'000;
 constexpr int kUsualRolls = 500;
 constexpr int kNumberWidth = 130;
+
+// Whose rules and dice; the last one is offered once an experiment has been opened.
+enum Rules : int { kOfThisTable, kOfANewTable, kOfTheOpened };
 
 void Tell(Game& game, const std::string& problem) {
   ShowMessage<Msg::kFileProblem>(game, With<"title">(ToCore(LaboratorySetup::tr("Laboratory"))),
@@ -209,6 +213,7 @@ QWidget* LaboratorySetup::MakeEnds() {
   bankroll_ = AddMoney(*grid, "txtBankroll", tr("&Start with $"), Experiment().bankroll);
   rolls_ = AddNumber(*grid, "txtRolls", tr("Most r&olls"), 0, kUsualRolls, tr("any"));
   hands_ = AddNumber(*grid, "txtHands", tr("Most &hands"), 0, 0, tr("any"));
+  for (QSpinBox* most : {rolls_, hands_}) most->setMaximum(static_cast<int>(kMaxRolls));
   hours_ = AddMoney(*grid, "txtHours", tr("Most hours"), kZero);
   hours_->setToolTip(tr("Of play, by the roll rate in the table's settings"));
   winGoal_ = AddMoney(*grid, "txtWinGoal", tr("&Win goal $"), kZero);
@@ -239,11 +244,11 @@ QWidget* LaboratorySetup::MakeDice() {
   threads_ = AddNumber(*grid, "txtThreads", tr("Cores"), 1, UsualLabThreads(), {});
   threads_->setMaximum(1024);
   threads_->setToolTip(tr("How many play at a time; results are the same for any number"));
-  asTable_ = new QCheckBox(tr("R&ules and dice of this table"), box);
-  asTable_->setObjectName("chkAsTable");
-  asTable_->setChecked(true);
-  asTable_->setToolTip(tr("Else those of a table that nobody has changed"));
-  column->addWidget(asTable_);
+  rules_ = new QComboBox(box);
+  rules_->setObjectName("cmbRules");
+  rules_->setAccessibleName(tr("Rules and dice"));
+  rules_->addItems({tr("Rules and dice of this table"), tr("Rules and dice of a new table")});
+  column->addWidget(rules_);
   settings_ = TypedLine("txtSettings", tr("Other settings for all systems"),
                         tr("other settings: SimRollRate=120; ..."), box);
   settings_->setCompleter(new SettingCompleter(SettingNames(true), settings_));
@@ -371,6 +376,15 @@ void LaboratorySetup::TakeTable(Experiment& experiment) const {
   if (experiment.percentageDice) experiment.probabilities = game_.percentage.ProbMatrix;
 }
 
+void LaboratorySetup::TakeRulesAndDice(Experiment& experiment) const {
+  if (rules_->currentIndex() == kOfThisTable) return TakeTable(experiment);
+  if (rules_->currentIndex() != kOfTheOpened) return;
+  experiment.settings = opened_.settings;
+  experiment.generator = opened_.generator;
+  experiment.percentageDice = opened_.percentageDice;
+  experiment.probabilities = opened_.probabilities;
+}
+
 namespace {
 
 // The parts between semicolons, without blanks.
@@ -422,7 +436,7 @@ std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
   if (systems_.empty()) return ToCore(tr("There is nothing to play: add a script, or standing bets."));
   experiment = Experiment();
   experiment.systems = systems_;
-  if (asTable_->isChecked()) TakeTable(experiment);
+  TakeRulesAndDice(experiment);
   if (std::string error = ReadSweeps(experiment); !error.empty()) return error;
   experiment.sessions = sessions_->value();
   experiment.bankroll = bankroll_->Value();
@@ -431,6 +445,71 @@ std::string LaboratorySetup::ReadExperiment(Experiment& experiment) const {
   if (!IsSearch()) experiment.precision = precision_->Value();
   experiment.seed = seed_->text().toULongLong();
   return ReadEnds(experiment);
+}
+
+// --- An experiment that is there.
+
+namespace {
+
+QString TypedParts(const std::vector<std::string>& parts) {
+  QStringList texts;
+  for (const std::string& part : parts) texts << FromCore(part);
+  return texts.join("; ");
+}
+
+void SetMoney(MoneyEdit& box, Currency value) {
+  if (value > kZero)
+    box.SetValue(value);
+  else
+    box.clear();
+}
+
+}  // namespace
+
+// By the sweeps that lead to them; where none do, each as it is.
+void LaboratorySetup::ShowSystems(const std::vector<LabSystem>& systems) {
+  LabSweeps sweeps;
+  if (!FindSweeps(systems, sweeps)) sweeps = {systems, {}, {}};
+  const auto show = [&] {
+    systems_ = sweeps.systems;
+    stakes_->setText(TypedParts(sweeps.stacks));
+    varied_->setText(TypedParts(sweeps.settings));
+  };
+  show();
+  Experiment typed;
+  typed.systems = systems_;
+  settings_->clear();
+  // Values with a comma or a semicolon in them can't be typed.
+  if (!ReadSweeps(typed).empty() || !FirstDifference(typed.systems, systems).empty()) {
+    sweeps = {systems, {}, {}};
+    show();
+  }
+  list_->clear();
+  for (const LabSystem& system : systems_) list_->addItem(FromCore(LabelOf(system)));
+  list_->setCurrentRow(list_->count() - 1);
+}
+
+void LaboratorySetup::ShowExperiment(const Experiment& experiment, bool keepsSessions) {
+  opened_ = experiment;
+  ShowSystems(experiment.systems);
+  sessions_->setValue(static_cast<int>(experiment.sessions));
+  rolls_->setValue(static_cast<int>(experiment.rolls));
+  hands_->setValue(static_cast<int>(experiment.hands));
+  SetMoney(*bankroll_, experiment.bankroll);
+  SetMoney(*hours_, experiment.hours);
+  SetMoney(*winGoal_, experiment.winGoal);
+  SetMoney(*lossLimit_, experiment.lossLimit);
+  SetMoney(*precision_, experiment.precision);
+  end_->setCurrentIndex(experiment.endWithHand ? 1 : 0);
+  seed_->setText(QString::number(experiment.seed));
+  if (rules_->count() == kOfTheOpened) rules_->addItem(tr("Rules and dice of the opened file"));
+  std::vector<std::string> settings;
+  for (const LabSetting& setting : experiment.settings) settings.push_back(SettingText(setting));
+  rules_->setItemData(kOfTheOpened, TypedParts(settings), Qt::ToolTipRole);
+  rules_->setCurrentIndex(kOfTheOpened);
+  keep_->setChecked(keepsSessions);
+  question_->setCurrentIndex(0);
+  emit Changed();
 }
 
 }  // namespace tessaryn

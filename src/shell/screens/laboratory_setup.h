@@ -37,6 +37,8 @@ class LaboratorySetup : public QWidget {
   LabQuestion Question() const;
   int Threads() const;
   bool KeepsSessions() const;  // for CSV and Sessions Logs
+  // Fills the page with what leads to the experiment again.
+  void ShowExperiment(const Experiment& experiment, bool keepsSessions);
 
  signals:
   void Changed();
@@ -58,6 +60,8 @@ class LaboratorySetup : public QWidget {
   void Remove();
   void Add(LabSystem system);
   void TakeTable(Experiment& experiment) const;
+  void TakeRulesAndDice(Experiment& experiment) const;
+  void ShowSystems(const std::vector<LabSystem>& systems);
 
   Game& game_;
   std::vector<LabSystem> systems_;
@@ -76,7 +80,8 @@ class LaboratorySetup : public QWidget {
   QComboBox* end_ = nullptr;
   MoneyEdit* precision_ = nullptr;
   QLineEdit* seed_ = nullptr;
-  QCheckBox* asTable_ = nullptr;
+  QComboBox* rules_ = nullptr;
+  Experiment opened_;  // whose rules and dice may be chosen
   QLineEdit* settings_ = nullptr;
   QSpinBox* threads_ = nullptr;
   QCheckBox* keep_ = nullptr;
