@@ -91,9 +91,18 @@ TEST(Workshop, APersonWritesMendsChecksAndSaves) {
   table.Key(Qt::Key_Escape);
   EXPECT_EQ(table.Editor().Lines()[1], "   bet 10 on paslin") << "indented as typed";
   EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 2"); }, 5000));
+  auto& beside = *table.workshop->findChild<QLabel*>("lblFault");
+  EXPECT_TRUE(beside.isVisible() && beside.text().startsWith("Unknown or misplaced element: paslin"));
+  const int y = beside.y();
+  table.Editor().insertAt("\n", 0, 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return beside.y() == y + beside.height(); }, 5000))
+      << "it goes with its line";
+  table.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 2"); }, 5000));
   table.Key(Qt::Key_Period, Qt::ControlModifier);
   EXPECT_EQ(table.Editor().Lines()[1], kGood[1]);
   EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().isEmpty(); }, 5000));
+  EXPECT_FALSE(beside.isVisible());
   table.host.answers.Ok();
   table.Key(Qt::Key_F7);
   EXPECT_EQ(table.game->box.MsgText, "Your script is properly structured.");
