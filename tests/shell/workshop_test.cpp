@@ -469,6 +469,15 @@ TEST(Workshop, NothingIsCutAndEverythingIsNamed) {
       QTest::qWait(50);
       SavePicture(*table.workshop, dark ? "workshop-dark-1024" : "workshop-light-1024");
       table.Editor().ChangeLines(kGood);
+      table.Editor().setCursorPosition(0, 1);
+      const auto at = [&](long byte) {
+        return static_cast<int>(
+            table.Editor().SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0UL, byte));
+      };
+      const QImage word = table.Editor().viewport()->grab(QRect(at(0), 4, at(2) - at(0), 10)).toImage();
+      std::set<QRgb> tones;
+      for (int x = 0; x < word.width(); ++x) tones.insert(word.pixel(x, 5));
+      EXPECT_GE(tones.size(), 3u) << "an if whose end is marked can still be read";
       Find<QPushButton>(*table.workshop, "cmdTryIt").click();
       EXPECT_TRUE(
           QTest::qWaitFor([&] { return !table.workshop->findChild<WorkshopTrial*>()->IsOn(); }, 60000));

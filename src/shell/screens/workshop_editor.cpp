@@ -81,6 +81,8 @@ WorkshopEditor::WorkshopEditor(QWidget* parent)
   faultNote_->setObjectName("lblFault");
   faultNote_->setTextFormat(Qt::PlainText);
   faultNote_->setAutoFillBackground(true);
+  faultNote_->setBackgroundRole(QPalette::Window);
+  faultNote_->setForegroundRole(QPalette::WindowText);
   faultNote_->setContentsMargins(8, 0, 8, 0);
   faultNote_->setAttribute(Qt::WA_TransparentForMouseEvents);
   faultNote_->hide();
@@ -127,7 +129,10 @@ void WorkshopEditor::TakeColours() {
   setMarkerBackgroundColor(dark ? QColor(28, 66, 52) : QColor(215, 235, 226), kStepLine);
   setMarkerBackgroundColor(dark ? QColor(74, 36, 36) : QColor(255, 233, 231), kFaultLine);
   setIndicatorForegroundColor(red, kFaultIndicator);
-  setIndicatorForegroundColor(green, kMatchIndicator);
+  QColor match = green;  // the word is to be read through it
+  match.setAlpha(60);
+  setIndicatorForegroundColor(match, kMatchIndicator);
+  setIndicatorOutlineColor(green, kMatchIndicator);
   QPalette note = palette;
   note.setColor(QPalette::Window, QColor(179, 38, 30));
   note.setColor(QPalette::WindowText, Qt::white);
