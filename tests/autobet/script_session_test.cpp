@@ -4,10 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <random>
 
 #include "autobet/run_helpers.h"
 #include "base/bet_catalogue.h"
+#include "base/fields.h"
 #include "play/players.h"
 #include "play/script_trial.h"
 
@@ -316,6 +320,36 @@ TEST(StepMode, WaitsBehindEveryStatementUntilTheUserAsksOrStops) {
     EXPECT_EQ(table.Bet(kBig6), stopAt == 0 ? 7 : 0);
     EXPECT_FALSE(game.autobet.ScriptRunning || game.autobet.StepWaiting);
     game.host = &table.host;
+  }
+}
+
+// Every sample, on the same dice with its statements waited behind and without.
+TEST(StepMode, AGameStepByStepIsThatOfARun) {
+  const std::filesystem::path samples = std::string(test::kSourceFolder) + "/data/samples";
+  for (const auto& entry : std::filesystem::directory_iterator(samples)) {
+    SCOPED_TRACE(entry.path().filename().string());
+    std::ifstream file(entry.path());
+    const std::string text{std::istreambuf_iterator<char>(file), {}};
+    ScriptTable run;
+    ScriptTable steps;
+    StepHost host;
+    steps.game->host = &host;
+    for (ScriptTable* table : {&run, &steps}) {
+      Game& game = *table->game;
+      game.autobet.StepsShown = game.autobet.StepMode = table == &steps;
+      game.autobet.StepsHold = false;
+      ASSERT_EQ(table->Load(1, text), "");
+      ASSERT_TRUE(InitialiseScripts(game));
+      std::mt19937 random(14);
+      for (int roll = 0; roll < 60; ++roll) {
+        const int die = static_cast<int>(random() % 6) + 1;
+        table->Dice(die, static_cast<int>(random() % 6) + 1);
+      }
+    }
+    EXPECT_GE(host.waits, 60);
+    EXPECT_EQ(FirstDifference(run.game->table, steps.game->table), "");
+    EXPECT_EQ(FirstDifference(run.game->stats, steps.game->stats), "");
+    steps.game->host = &steps.host;
   }
 }
 

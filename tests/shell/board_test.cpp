@@ -117,7 +117,9 @@ TEST(Board, TheResultLineAndTheHistoryAreThoseOfTheRolls) {
   std::mt19937 random(kSeed);
   const auto upTo = [&](int most) { return static_cast<int>(random() % most) + 1; };
   std::deque<std::pair<int, RollMark>> rolled;
+  int hand = 1;
   for (int roll = 1; roll <= 200; ++roll) {
+    ASSERT_EQ(ToCore(HandTitle(game)), "Hand " + std::to_string(hand)) << "before roll " << roll;
     for (int n = 0; n < 6; ++n)
       PlaceBet(game, players[random() % 3].first, upTo(kBets), Currency::Dollars(5 * upTo(6)),
                Asking::kQuietly);
@@ -139,6 +141,7 @@ TEST(Board, TheResultLineAndTheHistoryAreThoseOfTheRolls) {
       happened = total == 7 ? "seven-out" : "point made";
       mark = total == 7 ? RollMark::kSevenOut : RollMark::kPointMade;
     }
+    hand += mark == RollMark::kSevenOut ? 1 : 0;
     std::string line = "Roll " + std::to_string(roll) + ": " + std::to_string(total) + " (" +
                        std::to_string(die1) + "-" + std::to_string(die2) + "), " + happened + ".";
     for (const auto& [seat, name] : players) {

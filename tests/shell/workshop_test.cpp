@@ -50,7 +50,7 @@ struct WorkshopTable : ScreenTable {
     SelectSeat(*game, 1);
   }
   void Open() {
-    window.Command("mnuAutoBet")->trigger();
+    QTest::keyClick(&window, Qt::Key_F4);
     workshop = static_cast<WorkshopWindow*>(&Tool(window.TheDesk(), kAutoBetWindow));
     EXPECT_TRUE(QTest::qWaitForWindowActive(workshop));
     Editor().setFocus();
@@ -91,9 +91,18 @@ TEST(Workshop, APersonWritesMendsChecksAndSaves) {
   table.Key(Qt::Key_Escape);
   EXPECT_EQ(table.Editor().Lines()[1], "   bet 10 on paslin") << "indented as typed";
   EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 2"); }, 5000));
+  auto& beside = *table.workshop->findChild<QLabel*>("lblFault");
+  EXPECT_TRUE(beside.isVisible() && beside.text().startsWith("Unknown or misplaced element: paslin"));
+  const int y = beside.y();
+  table.Editor().insertAt("\n", 0, 0);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return beside.y() == y + beside.height(); }, 5000))
+      << "it goes with its line";
+  table.Key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 2"); }, 5000));
   table.Key(Qt::Key_Period, Qt::ControlModifier);
   EXPECT_EQ(table.Editor().Lines()[1], kGood[1]);
   EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().isEmpty(); }, 5000));
+  EXPECT_FALSE(beside.isVisible());
   table.host.answers.Ok();
   table.Key(Qt::Key_F7);
   EXPECT_EQ(table.game->box.MsgText, "Your script is properly structured.");
@@ -104,6 +113,56 @@ TEST(Workshop, APersonWritesMendsChecksAndSaves) {
   table.Key(Qt::Key_S, Qt::ControlModifier);
   EXPECT_FALSE(table.Script(1).Unsaved);
   EXPECT_TRUE(QFile::exists(path));
+}
+
+// From the key that opens it to the next day: a system is typed, mended, checked, tried, stepped through and
+// kept.
+TEST(Workshop, AnEveningFromItsKeyToTheNextDay) {
+  WorkshopTable table;
+  table.Open();
+  const QString typed[] = {"' evening", "if comeout roll and passline = 0 then", "bet 10 on paslin", "endif"};
+  for (const QString& line : typed) {
+    QTest::keyClicks(&table.Editor(), line);
+    table.Key(Qt::Key_Escape);
+    table.Key(Qt::Key_Return);
+  }
+  EXPECT_TRUE(QTest::qWaitFor([&] { return table.Problems().contains("line 3"); }, 5000));
+  table.Key(Qt::Key_Period, Qt::ControlModifier);
+  QTest::keyClicks(&Find<QLineEdit>(*table.workshop, "txtWatch"), "passline\r");
+  table.Editor().ToggleBreak(3);
+  Find<QPushButton>(*table.workshop, "cmdTryIt").click();
+  WorkshopTrial& trial = *table.workshop->findChild<WorkshopTrial*>();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !trial.IsOn(); }, 20000));
+  EXPECT_TRUE(trial.Result().rolls == 10'000 || !trial.Result().stopReason.empty());
+  table.host.answers.Ok();  // properly structured
+  table.Key(Qt::Key_F7);
+  EXPECT_EQ(table.game->box.MsgText, "Your script is properly structured.");
+  QStringList waits;  // the first at the break-point, then at each statement
+  const auto next = [&](int) {
+    waits += Find<QLabel>(*table.workshop, "lblStepLine").text();
+    Find<QPushButton>(*table.workshop, "cmdNextAutoBet").click();
+  };
+  table.host.answers.Yes();  // initialise
+  table.WhenWaiting(next);
+  Click(*table.workshop, "chkAutoBetsActive");
+  EXPECT_EQ(waits.value(0).toStdString(), "Line 3: bet 10 on passline");
+  table.game->table.seats[1].handling.WinHandling = 1;
+  table.WhenWaiting(next);
+  for (const auto& [die1, die2] : {std::pair(4, 4), std::pair(6, 2), std::pair(5, 4)}) table.Roll(die1, die2);
+  EXPECT_EQ(waits.count(waits[0]), 2) << "the bet that won is made again";
+  auto& watch = Find<QTableWidget>(*table.workshop, "tblWatch");
+  EXPECT_EQ(watch.item(watch.rowCount() - 1, 0)->text(), "passline");
+  EXPECT_EQ(watch.item(watch.rowCount() - 1, 1)->text(), "10");
+  EXPECT_EQ(table.game->table.BankrollCurrent[1], Currency::Dollars(1010));
+  const Lines written = table.Script(1).ScriptLines;
+  EXPECT_EQ(written[2], "   bet 10 on passline");
+  std::string error;
+  const std::string path = table.folder.filePath("evening.crp").toStdString();
+  ASSERT_TRUE(SaveGame(*table.game, path, error)) << error;
+  WorkshopTable day;
+  ASSERT_TRUE(OpenGame(*day.game, path));
+  day.Open();
+  EXPECT_EQ(day.Editor().Lines(), written);
 }
 
 TEST(Workshop, TheToldBoxesOfACheck) {
@@ -409,6 +468,15 @@ TEST(Workshop, NothingIsCutAndEverythingIsNamed) {
       QTest::qWait(50);
       SavePicture(*table.workshop, dark ? "workshop-dark-1024" : "workshop-light-1024");
       table.Editor().ChangeLines(kGood);
+      table.Editor().setCursorPosition(0, 1);
+      const auto at = [&](long byte) {
+        return static_cast<int>(
+            table.Editor().SendScintilla(QsciScintilla::SCI_POINTXFROMPOSITION, 0UL, byte));
+      };
+      const QImage word = table.Editor().viewport()->grab(QRect(at(0), 4, at(2) - at(0), 10)).toImage();
+      std::set<QRgb> tones;
+      for (int x = 0; x < word.width(); ++x) tones.insert(word.pixel(x, 5));
+      EXPECT_GE(tones.size(), 3u) << "an if whose end is marked can still be read";
       Find<QPushButton>(*table.workshop, "cmdTryIt").click();
       EXPECT_TRUE(
           QTest::qWaitFor([&] { return !table.workshop->findChild<WorkshopTrial*>()->IsOn(); }, 60000));

@@ -55,7 +55,7 @@ void WorkshopWindow::CheckInBackground() {
 
 void WorkshopWindow::TakeCheck(const ScriptCheck& check) {
   fault_ = check.ok ? ScriptDiagnostic() : check.diagnostic;
-  editor_->MarkFault(fault_);
+  editor_->MarkFault(fault_, FromCore(check.text).simplified());
   problems_->clear();
   if (fault_.Failed()) {
     problems_->addItem(FromCore(check.title) + "\n" + FromCore(check.text).replace("\n\n", "\n"));

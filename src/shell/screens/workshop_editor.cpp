@@ -30,6 +30,7 @@ constexpr int kWordList = 1;
 constexpr int kIndent = 3;
 constexpr std::size_t kMostOffers = 60;
 constexpr int kFarthestMatch = 3000;  // lines
+constexpr int kLeastNote = 160;       // pixels of what is told beside a fault
 
 QString OfferText(const WordEntry& word) {
   QString text = QString::fromStdString(word.text);
@@ -41,7 +42,8 @@ QString OfferText(const WordEntry& word) {
 
 }  // namespace
 
-WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(new ScriptLexer(this)) {
+WorkshopEditor::WorkshopEditor(QWidget* parent)
+    : QsciScintilla(parent), lexer_(new ScriptLexer(this)), faultNote_(new QLabel(viewport())) {
   setObjectName("txtScript");
   setAccessibleName(tr("Script"));
   setUtf8(true);
@@ -76,8 +78,17 @@ WorkshopEditor::WorkshopEditor(QWidget* parent) : QsciScintilla(parent), lexer_(
   SendScintilla(SCI_AUTOCSETMAXHEIGHT, 8UL);
   SendScintilla(SCI_AUTOCSETORDER, static_cast<unsigned long>(SC_ORDER_CUSTOM));
   SendScintilla(SCI_AUTOCSETAUTOHIDE, 1UL);
+  faultNote_->setObjectName("lblFault");
+  faultNote_->setTextFormat(Qt::PlainText);
+  faultNote_->setAutoFillBackground(true);
+  faultNote_->setBackgroundRole(QPalette::Window);
+  faultNote_->setForegroundRole(QPalette::WindowText);
+  faultNote_->setContentsMargins(8, 0, 8, 0);
+  faultNote_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  faultNote_->hide();
   ShowLineNumbers(true);
   TakeColours();
+  connect(this, &QsciScintillaBase::SCN_UPDATEUI, this, [this](int) { PlaceFaultNote(); });
   connect(this, &QsciScintillaBase::SCN_CHARADDED, this, &WorkshopEditor::CharAdded);
   connect(this, &QsciScintilla::cursorPositionChanged, this, [this] { MatchBlocks(); });
   connect(this, &QsciScintilla::marginClicked, this, [this](int margin, int line, Qt::KeyboardModifiers) {
@@ -118,13 +129,25 @@ void WorkshopEditor::TakeColours() {
   setMarkerBackgroundColor(dark ? QColor(28, 66, 52) : QColor(215, 235, 226), kStepLine);
   setMarkerBackgroundColor(dark ? QColor(74, 36, 36) : QColor(255, 233, 231), kFaultLine);
   setIndicatorForegroundColor(red, kFaultIndicator);
-  setIndicatorForegroundColor(green, kMatchIndicator);
+  QColor match = green;  // the word is to be read through it
+  match.setAlpha(60);
+  setIndicatorForegroundColor(match, kMatchIndicator);
+  setIndicatorOutlineColor(green, kMatchIndicator);
+  QPalette note = palette;
+  note.setColor(QPalette::Window, QColor(179, 38, 30));
+  note.setColor(QPalette::WindowText, Qt::white);
+  faultNote_->setPalette(note);
 }
 
 void WorkshopEditor::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange)
     TakeColours();
   QsciScintilla::changeEvent(event);
+}
+
+void WorkshopEditor::resizeEvent(QResizeEvent* event) {
+  QsciScintilla::resizeEvent(event);
+  PlaceFaultNote();
 }
 
 // --- The text.
@@ -211,11 +234,12 @@ void WorkshopEditor::SetSurroundings(const ScriptSurroundings& surroundings) {
 
 // --- Marks.
 
-void WorkshopEditor::MarkFault(const ScriptDiagnostic& fault) {
+void WorkshopEditor::MarkFault(const ScriptDiagnostic& fault, const QString& told) {
+  faultTold_ = told;
   clearIndicatorRange(0, 0, std::max(lines() - 1, 0), lineLength(std::max(lines() - 1, 0)), kFaultIndicator);
   markerDeleteAll(kFaultMark);
   markerDeleteAll(kFaultLine);
-  if (!fault.Failed()) return;
+  if (!fault.Failed()) return faultNote_->hide();
   const int first = std::clamp(fault.firstLine - 1, 0, std::max(lines() - 1, 0));
   const int last = std::clamp(fault.lastLine - 1, first, std::max(lines() - 1, 0));
   const int begin = CharacterOf(first, fault.firstColumn);
@@ -224,6 +248,26 @@ void WorkshopEditor::MarkFault(const ScriptDiagnostic& fault) {
   fillIndicatorRange(first, begin, last, end, kFaultIndicator);
   markerAdd(first, kFaultMark);
   for (int line = first; line <= last; ++line) markerAdd(line, kFaultLine);
+  PlaceFaultNote();
+}
+
+// Behind the end of its line, wherever that is by now. Without room for it the list of problems alone tells
+// it.
+void WorkshopEditor::PlaceFaultNote() {
+  const int line = markerFindNext(0, 1u << kFaultMark);
+  if (line < 0 || faultTold_.isEmpty()) return faultNote_->hide();
+  const long end = SendScintilla(SCI_GETLINEENDPOSITION, line);
+  const int x = static_cast<int>(SendScintilla(SCI_POINTXFROMPOSITION, 0UL, end)) + 16;
+  const int y = static_cast<int>(SendScintilla(SCI_POINTYFROMPOSITION, 0UL, end));
+  const int room = viewport()->width() - x - 8;
+  const bool folded = SendScintilla(SCI_GETLINEVISIBLE, line) == 0;
+  if (folded || room < kLeastNote || y < 0 || y >= viewport()->height()) return faultNote_->hide();
+  const QMargins margins = faultNote_->contentsMargins();
+  const int letters = room - margins.left() - margins.right();
+  faultNote_->setText(faultNote_->fontMetrics().elidedText(faultTold_, Qt::ElideRight, letters));
+  faultNote_->setGeometry(x, y, std::min(room, faultNote_->sizeHint().width()),
+                          static_cast<int>(SendScintilla(SCI_TEXTHEIGHT, line)));
+  faultNote_->show();
 }
 
 void WorkshopEditor::SelectSpan(const ScriptDiagnostic& span) {

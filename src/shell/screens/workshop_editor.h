@@ -5,6 +5,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <QHash>
+#include <QLabel>
 #include <functional>
 #include <set>
 #include <string>
@@ -28,8 +29,8 @@ class WorkshopEditor : public QsciScintilla {
   // As an edit, in one step of undo; the cursor stays on its line.
   void ChangeLines(const std::vector<std::string>& lines);
   void SetSurroundings(const ScriptSurroundings& surroundings);
-  // The lines of a fault are marked; one that hasn't failed takes the mark away.
-  void MarkFault(const ScriptDiagnostic& fault);
+  // The lines of a fault are marked, and what it is stands beside; one that hasn't failed takes both away.
+  void MarkFault(const ScriptDiagnostic& fault, const QString& told = {});
   // Selects it. Lines from 1, bytes from 0.
   void SelectSpan(const ScriptDiagnostic& span);
   // The line that a script stands on, from 1; 0 none.
@@ -67,8 +68,10 @@ class WorkshopEditor : public QsciScintilla {
 
  protected:
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void PlaceFaultNote();
   void TakeColours();
   void CharAdded(int character);
   void IndentLine(int line);
@@ -79,6 +82,8 @@ class WorkshopEditor : public QsciScintilla {
   void ShowTipAt(int position);
 
   ScriptLexer* lexer_;
+  QLabel* faultNote_;
+  QString faultTold_;
   QHash<int, QString> counts_;  // by line
   int stepMark_ = 0;
   int changing_ = 0;

@@ -1,6 +1,7 @@
 #include "shell/screens/workshop_trial.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -17,6 +18,7 @@
 #include <algorithm>
 
 #include "base/bet_catalogue.h"
+#include "shell/table/appearance.h"
 #include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
 #include "state/game.h"
@@ -100,6 +102,7 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   rolls_->setSuffix(" " + tr("rolls"));
   start_ = new QPushButton(tr("Tr&y it"), this);
   start_->setObjectName("cmdTryIt");
+  start_->setPalette(PrimaryButton());
   row->addWidget(rolls_, 1);
   row->addWidget(start_);
   column->addLayout(row);
@@ -152,6 +155,11 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
     if (done_) End();
   });
   connect(start_, &QPushButton::clicked, this, &WorkshopTrial::Toggle);
+}
+
+void WorkshopTrial::changeEvent(QEvent* event) {
+  if (event->type() == QEvent::ApplicationPaletteChange) start_->setPalette(PrimaryButton());
+  QWidget::changeEvent(event);
 }
 
 WorkshopTrial::~WorkshopTrial() {

@@ -50,6 +50,9 @@ class WorkshopTrial : public QWidget {
  signals:
   void ended();
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void End();
   void Tell();

@@ -154,6 +154,17 @@ const Tones& DarkTones() {
   return kTones;
 }
 
+QPalette PrimaryButton() {
+  const Tones& tones = TonesInForce();
+  QPalette colours = QApplication::palette();
+  QColor faint = tones.primary;
+  faint.setAlpha(130);
+  colours.setColor(QPalette::Button, tones.primary);
+  colours.setColor(QPalette::Disabled, QPalette::Button, faint);
+  colours.setColor(QPalette::ButtonText, tones.onPrimary);
+  return colours;
+}
+
 bool IsDark(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }

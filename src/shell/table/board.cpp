@@ -342,13 +342,18 @@ void Board::PaintResult(QPainter& painter) const {
     return writer.Write(plain, kCaptionTone, tr("Click an open position on the rail to add a player."));
   if (story_.roll == 0) return writer.Write(plain, kCaptionTone, tr("No roll yet"));
   writer.Write(bold, Qt::white, RollSentence(story_) + QStringLiteral("  "));
-  bool first = true;
-  for (const SeatChange& seat : story_.changes) {
-    if (!first) writer.Write(plain, Qt::white, QStringLiteral(", "));
-    first = false;
-    writer.Write(plain, Qt::white, FromCore(seat.name) + QLatin1Char(' '));
+  // Where not all have room, as many as have it with their figures.
+  const QString more = QStringLiteral(" \u2026");
+  for (std::size_t n = 0; n < story_.changes.size(); ++n) {
+    const SeatChange& seat = story_.changes[n];
+    const QString name = (n == 0 ? QString() : QStringLiteral(", ")) + FromCore(seat.name) + QLatin1Char(' ');
+    const QString change = ChangeText(seat.change);
+    const double rest = n + 1 < story_.changes.size() ? Wide(plain, more) : 0;
+    if (Wide(plain, name) + Wide(bold, change) + rest > writer.Room().width())
+      return writer.Write(plain, Qt::white, more);
+    writer.Write(plain, Qt::white, name);
     const QColor tone = seat.change > kZero ? kWonTone : seat.change < kZero ? kLostTone : QColor(Qt::white);
-    writer.Write(bold, tone, ChangeText(seat.change));
+    writer.Write(bold, tone, change);
   }
 }
 

@@ -193,6 +193,7 @@ void AddNumbers(LayoutBuilder& build, TableArea& area, const QRectF& box, std::u
     const QRectF place = LayoutBox(x, box.top() + 15.5, x + width, box.top() + 28.5);
     TableLabel label =
         Caption(QString::number(number), place.adjusted(0.1, 0.5, -0.1, -0.5), kCaption, Ink::kSoft);
+    label.Narrowest = 0.7;  // a row without its 10 would promise what the bet doesn't pay
     area.Labels.push_back(label);
     label.Colour = Ink::kDark;
     build.layout.Marks.push_back({Progress::kNumber, area.Id, number, place, label});

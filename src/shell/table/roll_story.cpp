@@ -140,8 +140,9 @@ QStringList TotalKinds() {
 }
 
 QString HandTitle(const Game& game) {
+  const int toCome = HandRolls(game.stats) == 0 ? 1 : 0;  // counted with its first roll
   return Told(QT_TRANSLATE_NOOP("Board", "Hand %1"))
-      .arg(ShownCount(game.stats.HandCount[Slot(kCurrentSession, 0)] + 1));
+      .arg(ShownCount(game.stats.HandCount[Slot(kCurrentSession, 0)] + toCome));
 }
 
 QString HandText(const Game& game, bool brief) {

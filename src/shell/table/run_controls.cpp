@@ -78,7 +78,7 @@ RunControls::RunControls(QWidget* parent)
     row->addWidget(part);
   roll_->setFocusPolicy(Qt::TabFocus);
   SetMeasures({});
-  TakeTones();
+  roll_->setPalette(PrimaryButton());
   connect(roll_, &QPushButton::clicked, this, &RunControls::rollPressed);
   connect(pass_, &QPushButton::clicked, this, &RunControls::passPressed);
   connect(run_, &QPushButton::clicked, this, &RunControls::turboPressed);
@@ -111,22 +111,9 @@ void RunControls::SetMeasures(const Measures& measures) {
 void RunControls::ShowPass(bool shown) { pass_->setVisible(shown); }
 
 void RunControls::changeEvent(QEvent* event) {
-  if (event->type() == QEvent::ApplicationPaletteChange) TakeTones();
+  if (event->type() == QEvent::ApplicationPaletteChange) roll_->setPalette(PrimaryButton());
   if (event->type() == QEvent::LanguageChange) Fit();
   QWidget::changeEvent(event);
-}
-
-// The one button that goes on stands out.
-void RunControls::TakeTones() {
-  const Tones& tones = TonesInForce();
-  QPalette colours = QApplication::palette();
-  colours.setColor(QPalette::Button, tones.primary);
-  colours.setColor(QPalette::ButtonText, tones.onPrimary);
-  QColor faint = tones.primary;
-  faint.setAlpha(130);
-  colours.setColor(QPalette::Disabled, QPalette::Button, faint);
-  colours.setColor(QPalette::Disabled, QPalette::ButtonText, tones.onPrimary);
-  roll_->setPalette(colours);
 }
 
 void RunControls::Refresh(const Game& game) {

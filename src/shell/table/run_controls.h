@@ -40,7 +40,6 @@ class RunControls : public QWidget {
 
  private:
   void Fit();
-  void TakeTones();
 
   QPushButton* roll_;
   QPushButton* pass_;

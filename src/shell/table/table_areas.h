@@ -33,6 +33,7 @@ struct TableLabel {
   int Die1 = 0;         // above 0: dice instead of the text
   int Die2 = 0;
   bool Ring = false;                   // a ring as high as the box round the text
+  double Narrowest = 1;                // the share of its width that the text may shrink to before it goes
   std::vector<LabelWording> Wordings;  // the text and what is shorter; written by BuildTableLayout
   QPainterPath Outline;                // of what stands there, empty for nothing; written by FitLettering
   double FittedCap = 0;                // the height of its capitals in table units; likewise

@@ -56,13 +56,15 @@ void Fit(TableLabel& label, double least) {
   const double wanted = std::min(label.Box.height(), std::max(label.Cap > 0 ? label.Cap : 1e9, least));
   for (const LabelWording& wording : label.Wordings) {
     if (wording.Width <= 0) continue;
-    const double cap = std::min(wanted, label.Box.width() / wording.Width);
+    double cap = std::min(wanted, label.Box.width() / wording.Width);
+    const double across = cap;
+    if (cap < least && cap >= least * label.Narrowest) cap = std::min(wanted, least);
     if (cap < least - 1e-6) continue;
     QTransform place;
     place.translate(label.Box.center().x(), label.Box.center().y());
     place.rotate(label.Rotation);
-    place.translate(label.Left ? -label.Box.width() / 2 : -cap * wording.Width / 2, cap / 2);
-    place.scale(cap, cap);
+    place.translate(label.Left ? -label.Box.width() / 2 : -across * wording.Width / 2, cap / 2);
+    place.scale(across, cap);
     label.Outline = place.map(wording.Path);
     label.FittedCap = cap;
     break;
