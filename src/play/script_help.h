@@ -57,6 +57,7 @@ struct ScriptMeaning {
   std::string doc;   // a line
   std::string code;  // what it is compiled to
   bool settable = false;
+  int number = 0;  // of one among a hundred alike: 17 of "cs17"
 };
 // Every word and phrase that people write, by their letters.
 const std::vector<ScriptMeaning>& ScriptMeanings();
@@ -99,6 +100,15 @@ struct ScriptBlock {
 };
 // Each block that has both, in the order of their ends. What doesn't match is left out.
 std::vector<ScriptBlock> ScriptBlocks(const std::vector<ScriptWord>& words);
+
+// How a line changes the level of its block, in levels: "if" opens, "else" and a "then" behind lines of
+// conditions stand one level out, "endif" closes.
+struct BlockStep {
+  int before = 0;  // of the line itself, 0 or less
+  int behind = 0;  // of what follows, relative to what stood ahead of the line
+};
+// words: those of the line.
+BlockStep BlockStepOf(const std::vector<ScriptWord>& words);
 
 // The stretches that an editor may fold: blocks, and comments of several lines. firstLine stays visible.
 struct ScriptFold {

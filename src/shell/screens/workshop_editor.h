@@ -16,6 +16,7 @@
 namespace tessaryn {
 
 class ScriptLexer;
+struct BlockStep;
 
 class WorkshopEditor : public QsciScintilla {
   Q_OBJECT
@@ -71,6 +72,8 @@ class WorkshopEditor : public QsciScintilla {
  private:
   void TakeColours();
   void CharAdded(int character);
+  bool EndsWithWholeWord(const std::string& ahead) const;
+  BlockStep StepOf(int line) const;  // from 0
   void IndentLine(int line);
   void MatchBlocks();
   std::string LineText(int line) const;  // from 0
