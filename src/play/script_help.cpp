@@ -661,14 +661,4 @@ std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surrounding
   return faults;
 }
 
-int LevelBehind(const std::vector<ScriptWord>& words, int line) {
-  int level = 0;
-  for (const ScriptWord& word : words) {
-    if (word.line > line) break;
-    if (Opens(word)) ++level;
-    if (Closes(word)) level = std::max(0, level - 1);
-  }
-  return level;
-}
-
 }  // namespace tessaryn

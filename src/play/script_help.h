@@ -132,8 +132,4 @@ std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surrounding
                                            const std::vector<std::string>& lines, std::size_t most = 10);
 // The word that a finding's offer takes the place of. False if there is no offer, or the word isn't found.
 bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word);
-// The indentation, in levels, that a line behind these would have: for a new line while the text is not
-// whole.
-int LevelBehind(const std::vector<ScriptWord>& words, int line);
-
 }  // namespace tessaryn

@@ -116,8 +116,6 @@ TEST(ScriptHelp, LabelsBlocksAndFoldsAreFoundInAnUnfinishedText) {
     folds +=
         std::to_string(fold.firstLine) + "-" + std::to_string(fold.lastLine) + (fold.comment ? "c " : " ");
   EXPECT_EQ(folds, "4-6 3-7 1-2c ");
-  EXPECT_EQ(LevelBehind(words, 4), 2);
-  EXPECT_EQ(LevelBehind(words, 12), 1);
 }
 
 TEST(ScriptHelp, EachLineStepsTheBlockItStandsIn) {
