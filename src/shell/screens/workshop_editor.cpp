@@ -30,6 +30,8 @@ constexpr int kWordList = 1;
 constexpr int kIndent = 3;
 constexpr qsizetype kMostOffers = 60;
 constexpr int kFarthestMatch = 3000;  // lines
+// One of them is in every line that steps the blocks.
+constexpr const char* kStepWords[] = {"if", "then", "else", "do", "loop"};
 
 // Between a word and what it means, in the list of words.
 constexpr const char* kBetween = "   \u2013 ";
@@ -380,7 +382,14 @@ void WorkshopEditor::CharAdded(int character) {
   OfferWords(false);
 }
 
-BlockStep WorkshopEditor::StepOf(int line) const { return BlockStepOf(ScriptWords({LineText(line)}, {})); }
+BlockStep WorkshopEditor::StepOf(int line) const {
+  const std::string text = LineText(line);
+  const std::string small = Lowered(text);
+  // Few lines can step, and the way to the other end of a block may be long.
+  const bool mayStep = std::any_of(std::begin(kStepWords), std::end(kStepWords),
+                                   [&](const char* word) { return small.find(word) != std::string::npos; });
+  return mayStep ? BlockStepOf(ScriptWords({text}, {})) : BlockStep();
+}
 
 // A new line stands under the block that it belongs to; the one above it is moved out if it ends one.
 void WorkshopEditor::IndentLine(int line) {
