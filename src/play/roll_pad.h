@@ -12,8 +12,6 @@ enum RollPadLayout : int {
   kPadFaces = 3,     // a row of faces for each die; die 1 first, then die 2
 };
 inline constexpr int kRollPadLayouts = 4;
-inline constexpr const char* kRollPadCaptions[kRollPadLayouts] = {
-    "&11 basic numbers", "&36 combos (triangle)", "3&6 combos (box)", "&Individual dice faces"};
 
 struct RollPadGrid {
   int Rows = 0;

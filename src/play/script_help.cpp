@@ -217,7 +217,7 @@ void AddNumbered(MeaningTable& table) {
     for (int n = 0; n < kCheckStacks; ++n) {
       const std::string word = Concat({row.word, std::to_string(n)});
       const std::string code = CodeToken('V', row.first + n);
-      table.Add({word, "", VariableName(row.first + n), kVariable, std::string(row.doc), code, true});
+      table.Add({word, "", VariableName(row.first + n), kVariable, std::string(row.doc), code, true, n});
     }
 }
 
@@ -310,6 +310,16 @@ void AddWordsOfLine(std::string_view line, int number, const std::vector<ReadWor
   }
 }
 
+// Where a text begins that hasn't its end yet; the size of the line if none does.
+std::size_t OpenText(std::string_view line) {
+  std::size_t open = line.size();
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    if (line[at] == '\'' && open == line.size()) break;
+    if (line[at] == '"') open = open == line.size() ? at : line.size();
+  }
+  return open;
+}
+
 void AddComment(std::string_view line, int number, std::vector<ScriptWord>& words) {
   if (line.find('\'') == std::string_view::npos) return;
   for (const LinePiece& piece : TidyPieces(line))
@@ -373,10 +383,17 @@ std::string_view ScriptKindName(ScriptWordKind kind) { return kKindNames[static_
 std::vector<ScriptWord> ScriptWords(const std::vector<std::string>& lines,
                                     const ScriptSurroundings& surroundings) {
   std::vector<ScriptWord> words;
-  const auto read = ReadScriptWords(lines, surroundings);
+  std::vector<std::string> whole = lines;
+  for (std::string& line : whole) line.resize(OpenText(line));
+  const auto read = ReadScriptWords(whole, surroundings);
   for (std::size_t i = 0; i < lines.size(); ++i) {
-    AddWordsOfLine(lines[i], static_cast<int>(i) + 1, read[i], words);
-    AddComment(lines[i], static_cast<int>(i) + 1, words);
+    const int number = static_cast<int>(i) + 1;
+    AddWordsOfLine(lines[i], number, read[i], words);
+    if (whole[i].size() < lines[i].size())
+      words.push_back(
+          {kText, number, static_cast<int>(whole[i].size()), static_cast<int>(lines[i].size()), ""});
+    else
+      AddComment(lines[i], number, words);
   }
   MarkLabels(words);
   return words;
@@ -518,6 +535,20 @@ std::vector<ScriptBlock> ScriptBlocks(const std::vector<ScriptWord>& words) {
   return blocks;
 }
 
+BlockStep BlockStepOf(const std::vector<ScriptWord>& words) {
+  BlockStep step;
+  int level = 0;
+  for (const ScriptWord& word : words) {
+    const bool turns =
+        word.codes == "L010" || word.codes == "L011" || (word.codes == "L009" && &word == &words.front());
+    if (Closes(word)) --level;
+    if (Closes(word) || turns) step.before = std::min(step.before, level - (turns ? 1 : 0));
+    if (Opens(word)) ++level;
+  }
+  step.behind = level;
+  return step;
+}
+
 std::vector<ScriptFold> ScriptFolds(const std::vector<std::string>& lines,
                                     const std::vector<ScriptWord>& words) {
   std::vector<ScriptFold> folds;
@@ -628,16 +659,6 @@ std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surrounding
     return a.firstLine < b.firstLine;
   });
   return faults;
-}
-
-int LevelBehind(const std::vector<ScriptWord>& words, int line) {
-  int level = 0;
-  for (const ScriptWord& word : words) {
-    if (word.line > line) break;
-    if (Opens(word)) ++level;
-    if (Closes(word)) level = std::max(0, level - 1);
-  }
-  return level;
 }
 
 }  // namespace tessaryn

@@ -57,6 +57,7 @@ struct ScriptMeaning {
   std::string doc;   // a line
   std::string code;  // what it is compiled to
   bool settable = false;
+  int number = 0;  // of one among a hundred alike: 17 of "cs17"
 };
 // Every word and phrase that people write, by their letters.
 const std::vector<ScriptMeaning>& ScriptMeanings();
@@ -100,6 +101,15 @@ struct ScriptBlock {
 // Each block that has both, in the order of their ends. What doesn't match is left out.
 std::vector<ScriptBlock> ScriptBlocks(const std::vector<ScriptWord>& words);
 
+// How a line changes the level of its block, in levels: "if" opens, "else" and a "then" behind lines of
+// conditions stand one level out, "endif" closes.
+struct BlockStep {
+  int before = 0;  // of the line itself, 0 or less
+  int behind = 0;  // of what follows, relative to what stood ahead of the line
+};
+// words: those of the line.
+BlockStep BlockStepOf(const std::vector<ScriptWord>& words);
+
 // The stretches that an editor may fold: blocks, and comments of several lines. firstLine stays visible.
 struct ScriptFold {
   int firstLine = 0;
@@ -122,8 +132,4 @@ std::vector<ScriptDiagnostic> ScriptFaults(const ScriptSurroundings& surrounding
                                            const std::vector<std::string>& lines, std::size_t most = 10);
 // The word that a finding's offer takes the place of. False if there is no offer, or the word isn't found.
 bool FindOffered(const std::vector<std::string>& lines, const ScriptDiagnostic& fault, ScriptWord& word);
-// The indentation, in levels, that a line behind these would have: for a new line while the text is not
-// whole.
-int LevelBehind(const std::vector<ScriptWord>& words, int line);
-
 }  // namespace tessaryn

@@ -191,72 +191,8 @@ void LogBet(Game& game, SeatId seat, BetId bet) {
   autobet.LoggedBetsUnsaved = true;
 }
 
-int InsertLoggedBets(Game& game, SeatId seat, int line) {
-  AutoBet& autobet = game.autobet;
-  SeatScript& script = autobet.Scripts[seat];
-  const int count = static_cast<int>(autobet.LoggedBets.size());
-  if (count == 0) return 0;
-  const int lines = static_cast<int>(script.ScriptLines.size());
-  script.ScriptLines.insert(script.ScriptLines.begin() + std::clamp(line - 1, 0, lines),
-                            autobet.LoggedBets.begin(), autobet.LoggedBets.end());
-  script.ScriptNesting.clear();
-  script.Unsaved = true;
-  autobet.LoggedBets.clear();
-  autobet.LoggedBetsUnsaved = false;
-  ScriptsChanged(game);
-  return count;
-}
-
 bool OfferToSaveLoggedBets(Game& game) {
   return game.autobet.LoggedBetsUnsaved && Confirms<Msg::kAskSaveLoggedBets>(game);
-}
-
-ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from) {
-  if (text.empty() || lines.empty()) return {};
-  const std::string sought = Lowered(text);
-  const std::size_t count = lines.size();
-  const std::size_t start = static_cast<std::size_t>(std::clamp(from.line, 1, static_cast<int>(count))) - 1;
-  for (std::size_t step = 0; step <= count; ++step) {
-    const std::size_t line = (start + step) % count;
-    const std::size_t column = step == 0 ? static_cast<std::size_t>(std::max(from.column, 0)) : 0;
-    const std::size_t at = Lowered(lines[line]).find(sought, column);
-    if (at != std::string::npos) return {static_cast<int>(line) + 1, static_cast<int>(at)};
-  }
-  return {};
-}
-
-bool ReplaceInScript(Game& game, SeatId seat, const std::string& text, ScriptPlace at,
-                     const std::string& replacement) {
-  SeatScript& script = game.autobet.Scripts[seat];
-  if (text.empty() || at.line < 1 || at.column < 0 ||
-      static_cast<std::size_t>(at.line) > script.ScriptLines.size())
-    return false;
-  std::string& line = script.ScriptLines[static_cast<std::size_t>(at.line) - 1];
-  const auto column = static_cast<std::size_t>(at.column);
-  if (column > line.size() || Lowered(line.substr(column, text.size())) != Lowered(text)) return false;
-  line.replace(column, text.size(), replacement);
-  script.Unsaved = true;
-  ScriptsChanged(game);
-  return true;
-}
-
-int ReplaceAllInScript(Game& game, SeatId seat, const std::string& text, const std::string& replacement) {
-  SeatScript& script = game.autobet.Scripts[seat];
-  const std::string sought = Lowered(text);
-  int count = 0;
-  for (std::string& line : script.ScriptLines) {
-    // What a replacement brings in is not looked at again.
-    for (std::size_t at = 0; !sought.empty() && (at = Lowered(line).find(sought, at)) != std::string::npos;
-         at += replacement.size()) {
-      line.replace(at, text.size(), replacement);
-      ++count;
-    }
-  }
-  if (count > 0) {
-    script.Unsaved = true;
-    ScriptsChanged(game);
-  }
-  return count;
 }
 
 }  // namespace tessaryn

@@ -51,23 +51,7 @@ std::string BetStatement(BetId bet, Currency amount);
 // --- The log of bets made by hand.
 // Notes a bet of a seat as it now stands, when logging is on: "bet 15 on field", or "remove field".
 void LogBet(Game& game, SeatId seat, BetId bet);
-// The logged statements go into a script ahead of a line (1-based; beyond the end: behind the last), and the
-// log is empty. How many there were.
-int InsertLoggedBets(Game& game, SeatId seat, int line);
 // Asks whether to save a log that is not saved yet. True for yes.
 bool OfferToSaveLoggedBets(Game& game);
-
-// --- Find and replace. Case is ignored.
-struct ScriptPlace {
-  int line = 0;    // 1-based; 0 nothing found
-  int column = 0;  // from 0
-};
-// The next place of text at or behind a place; once round the end.
-ScriptPlace FindInScript(const std::vector<std::string>& lines, const std::string& text, ScriptPlace from);
-// Replaces text at a place where it was found. False when it does not stand there.
-bool ReplaceInScript(Game& game, SeatId seat, const std::string& text, ScriptPlace at,
-                     const std::string& replacement);
-// How many places were replaced.
-int ReplaceAllInScript(Game& game, SeatId seat, const std::string& text, const std::string& replacement);
 
 }  // namespace tessaryn

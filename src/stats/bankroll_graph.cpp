@@ -201,11 +201,6 @@ void SetMovingAverage(Game& game) {
   game.graph.MovingAverageRolls = static_cast<int>(wanted.raw / Currency::kPerDollar);
 }
 
-std::string MovingAverageCaption(const BankrollGraph& graph) {
-  return graph.MovingAverageRolls > 0 ? std::to_string(graph.MovingAverageRolls) + " roll avg"
-                                      : "All rolls avg";
-}
-
 Currency NextScaleUnit(Currency unit, bool up) {
   Currency below = kLeastUnit;
   for (std::int64_t decade = kLeastUnit.raw; decade <= kMostUnit.raw; decade *= 10)

@@ -43,8 +43,6 @@ using PlotAverages = std::array<Currency, kPlotCells + 1>;
 void RecomputeAverages(const Game& game, SeatId seat, PlotAverages& averages);
 // The dialog; 0 to 525 whole rolls. Cancel changes nothing.
 void SetMovingAverage(Game& game);
-// "40 roll avg", "All rolls avg".
-std::string MovingAverageCaption(const BankrollGraph& graph);
 
 // The scale brought to the curve by ScaleMode. recentre: on the seat's bankroll, or on what the reference
 // lines mark; a manual scale moves by this alone.

@@ -341,21 +341,6 @@ std::string ReadEventsLogLine(Game& game, std::int64_t line) {
   return LineAt(text, index, line);
 }
 
-std::int64_t FindInEventsLog(Game& game, std::string_view wanted, bool forward) {
-  EventsLog& log = game.events;
-  const std::int64_t count = EventsLogLineCount(game);
-  const std::string lower = Lowered(wanted);
-  std::ifstream text(EventsLogPath(game), std::ios::binary);
-  std::ifstream index(EventsIndexPath(game), std::ios::binary);
-  const int step = forward ? 1 : -1;
-  for (std::int64_t line = log.EventsLogTopLine + step; line >= 1 && line <= count; line += step) {
-    if (Lowered(LineAt(text, index, line)).find(lower) == std::string::npos) continue;
-    log.EventsLogTopLine = static_cast<std::int32_t>(line);
-    return line;
-  }
-  return 0;
-}
-
 void ClearEventsLog(Game& game) {
   ForgetFiles(game.events);
   std::error_code ignored;

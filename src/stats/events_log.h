@@ -46,9 +46,6 @@ bool RebuildEventsLogIndex(Game& game, std::string& error);
 std::int64_t EventsLogLineCount(Game& game);
 // Line 1 and up; empty beyond the end. No line break.
 std::string ReadEventsLogLine(Game& game, std::int64_t line);
-// The next line that holds the text, case ignored, from the line after the top one, forward or backward;
-// moves the top line there and returns it, or 0 ("Text not found.").
-std::int64_t FindInEventsLog(Game& game, std::string_view text, bool forward);
 // Both files away; the view at line 1.
 void ClearEventsLog(Game& game);
 // Whether the index is there and of the text file, so that it tells where every line begins.

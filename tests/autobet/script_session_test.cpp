@@ -26,57 +26,6 @@ std::string Joined(const std::vector<std::string>& lines) {
   return text;
 }
 
-TEST(FindInScript, LooksOnFromAPlaceAndRoundTheEnd) {
-  const std::vector<std::string> lines = {"bet 5 on Field", "", "clear field, FIELD"};
-  struct Case {
-    const char* text;
-    ScriptPlace from;
-    ScriptPlace found;
-  };
-  const Case cases[] = {
-      {"field", {1, 0}, {1, 9}},  {"field", {1, 10}, {3, 6}},  {"field", {3, 7}, {3, 13}},
-      {"FIELD", {3, 14}, {1, 9}}, {"field", {99, -5}, {3, 6}}, {"field", {1, 500}, {3, 6}},
-      {"nine", {1, 0}, {0, 0}},   {"", {1, 0}, {0, 0}},        {"field, field", {1, 0}, {3, 6}},
-      {"bet", {1, 1}, {1, 0}},    {"field\n", {1, 0}, {0, 0}},
-  };
-  for (const Case& one : cases) {
-    const ScriptPlace place = FindInScript(lines, one.text, one.from);
-    EXPECT_EQ(place.line, one.found.line) << one.text << " from " << one.from.line << "," << one.from.column;
-    EXPECT_EQ(place.column, one.found.column)
-        << one.text << " from " << one.from.line << "," << one.from.column;
-  }
-  EXPECT_EQ(FindInScript({}, "x", {1, 0}).line, 0);
-}
-
-TEST(ReplaceInScript, ReplacesWhereItStandsAndStopsTheRun) {
-  ScriptTable table;
-  Game& game = *table.game;
-  ASSERT_EQ(table.Load(1, "bet 5 on Field\nbet 5 on field"), "");
-  CompileActiveScripts(game);
-  game.autobet.ScriptRunning = true;
-  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {1, 8}, "passline")) << "it doesn't stand there";
-  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {3, 0}, "passline"));
-  EXPECT_FALSE(ReplaceInScript(game, 1, "field", {1, 500}, "passline"));
-  EXPECT_TRUE(game.autobet.ScriptRunning && game.autobet.ScriptsCompiled);
-  EXPECT_TRUE(ReplaceInScript(game, 1, "field", {1, 9}, "passline"));
-  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "bet 5 on passline|bet 5 on field|");
-  EXPECT_FALSE(game.autobet.ScriptRunning || game.autobet.ScriptsCompiled);
-  EXPECT_TRUE(game.autobet.Scripts[1].Unsaved);
-}
-
-TEST(ReplaceInScript, AllOfThemAndWhatABringsInIsNotLookedAtAgain) {
-  ScriptTable table;
-  Game& game = *table.game;
-  SetScript(game, 1, {"a A aa", "b", "xa"}, "");
-  EXPECT_EQ(ReplaceAllInScript(game, 1, "a", "aab"), 5);
-  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "aab aab aabaab|b|xaab|");
-  EXPECT_EQ(ReplaceAllInScript(game, 1, "", "x"), 0);
-  EXPECT_EQ(ReplaceAllInScript(game, 1, "none", "x"), 0);
-  EXPECT_EQ(ReplaceAllInScript(game, 1, "aab", ""), 5);
-  EXPECT_EQ(Joined(game.autobet.Scripts[1].ScriptLines), "  |b|x|");
-}
-
-// Every bet made by hand and logged gives, run as a script on an empty table, the same table.
 TEST(LoggedBets, PlayTheSameBetsAgain) {
   ScriptTable table;
   Game& game = *table.game;
@@ -107,12 +56,7 @@ TEST(LoggedBets, PlayTheSameBetsAgain) {
   table.host.result = kResultYes;
   EXPECT_TRUE(OfferToSaveLoggedBets(game));
   EXPECT_TRUE(table.host.Said(Msg::kAskSaveLoggedBets));
-  SetScript(game, 1, {"' first", "' last"}, "");
-  EXPECT_EQ(InsertLoggedBets(game, 1, 2), 6);
-  EXPECT_EQ(game.autobet.Scripts[1].ScriptLines.front(), "' first");
-  EXPECT_EQ(game.autobet.Scripts[1].ScriptLines.back(), "' last");
-  EXPECT_EQ(InsertLoggedBets(game, 1, 2), 0) << "the log is empty";
-  EXPECT_FALSE(OfferToSaveLoggedBets(game));
+  SetScript(game, 1, game.autobet.LoggedBets, "");
   SetScriptActive(game, 1, true);
   ASSERT_TRUE(InitialiseScripts(game));
   for (int number = 1; number < 200; ++number) EXPECT_EQ(table.Bet(number), wanted[number]) << number;

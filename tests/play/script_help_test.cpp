@@ -44,6 +44,7 @@ TEST(ScriptHelp, WordsHaveTheKindsThatTheCompilerGivesThem) {
       {"csn1 = \"ü\" & bobby lee passline wins",
        "variable:csn1|operator:=|text:\"ü\"|operator:&|player:bobby lee|bet:passline|modifier:wins"},
       {"stop autoroll/turboroll", "action:stop autoroll/turboroll"},
+      {"show message \"if ' then", "action:show message|text:\"if ' then"},
       {"if\n12\nthen 12\nendif", "keyword:if|number:12|keyword:then|label:12|keyword:endif"},
   };
   for (const auto& row : cases) EXPECT_EQ(Told(Lines(row.text), surroundings), row.told) << row.text;
@@ -115,8 +116,28 @@ TEST(ScriptHelp, LabelsBlocksAndFoldsAreFoundInAnUnfinishedText) {
     folds +=
         std::to_string(fold.firstLine) + "-" + std::to_string(fold.lastLine) + (fold.comment ? "c " : " ");
   EXPECT_EQ(folds, "4-6 3-7 1-2c ");
-  EXPECT_EQ(LevelBehind(words, 4), 2);
-  EXPECT_EQ(LevelBehind(words, 12), 1);
+}
+
+TEST(ScriptHelp, EachLineStepsTheBlockItStandsIn) {
+  const struct {
+    const char* line;
+    int before;
+    int behind;
+  } cases[] = {{"if point then", 0, 1},
+               {"If bet 5 on field", 0, 1},
+               {"then bet 5 on field", -1, 0},
+               {"else", -1, 0},
+               {"endif", -1, -1},
+               {"end if", -1, -1},
+               {"do : loop", 0, 0},
+               {"loop ' do", -1, -1},
+               {"show message \"do", 0, 0},
+               {"endif : if point then", -1, 0}};
+  for (const auto& row : cases) {
+    const BlockStep step = BlockStepOf(ScriptWords({row.line}, {}));
+    EXPECT_EQ(step.before, row.before) << row.line;
+    EXPECT_EQ(step.behind, row.behind) << row.line;
+  }
 }
 
 TEST(ScriptHelp, WordsOfAnyTextStandInItInOrder) {

@@ -17,7 +17,6 @@
 #include <QTreeWidget>
 #include <new>
 
-#include "autobet/language/script_words.h"
 #include "play/game_file.h"
 #include "play/hot_keys.h"
 #include "play/script_session.h"
@@ -280,32 +279,6 @@ TEST(Workshop, WordsAreWorthWhatTheTableSays) {
   EXPECT_EQ(
       PresentValues(*table.game, 1, {"bankroll", "field", "cs99 + 1", "name", "no such word", "2 : cs1 = 3"}),
       (Lines{PlainMoney(table.game->table.BankrollCurrent[1]), "15", "1", "", "", ""}));
-}
-
-TEST(Workshop, SpansCoverEveryWordOfTheSamples) {
-  ScriptSurroundings nobody;
-  for (const char* line :
-       {"if point is established then : bet 2 * passline on passlineodds", "start new session",
-        "cs1 = highest(place4, place5) ' note", "show message \"if then\""})
-    for (const ScriptSpan& span : SpansOf(line, nobody))
-      EXPECT_NE(span.kind, SpanKind::kUnknown)
-          << line << ": " << std::string(line).substr(span.begin, span.end - span.begin);
-  const auto spans = SpansOf("bet 6 moer on place6", nobody);
-  EXPECT_TRUE(std::any_of(spans.begin(), spans.end(),
-                          [](const ScriptSpan& span) { return span.kind == SpanKind::kUnknown; }));
-  // Nothing hangs or leaves its line, whatever is typed.
-  std::srand(7);
-  for (int n = 0; n < 2000; ++n) {
-    std::string line;
-    for (int c = std::rand() % 40; c > 0; --c) line += static_cast<char>(1 + std::rand() % 255);
-    std::size_t done = 0;
-    for (const ScriptSpan& span : SpansOf(line, nobody)) {
-      EXPECT_TRUE(span.begin >= done && span.end > span.begin && span.end <= line.size());
-      done = span.end;
-    }
-    OffersAt(line, line.size());
-    BlockStepOf(line);
-  }
 }
 
 TEST(Workshop, FindAndReplaceLoggedBetsAndLists) {

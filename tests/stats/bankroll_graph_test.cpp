@@ -260,7 +260,6 @@ TEST(BankrollGraphTest, TheAverageIsAskedForInWholeRolls) {
     SetMovingAverage(*table.game);
     EXPECT_EQ(table.game->graph.MovingAverageRolls, rolls) << answer;
   }
-  EXPECT_EQ(MovingAverageCaption(table.game->graph), "All rolls avg");
   EXPECT_TRUE(table.host.Said(Msg::kAskMovingAverage));
 }
 

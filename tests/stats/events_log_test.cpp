@@ -321,25 +321,6 @@ TEST(EventsLogView, OnlyRollLinesMoveIt) {
   EXPECT_EQ(table.game->events.EventsLogTopLine, top);
 }
 
-TEST(EventsLogView, FindGoesBothWaysFromTheTopLineWithoutCase) {
-  LoggedTable table;
-  table.Join(1, "Ann");
-  table.Set("KeepLatestRollOnTop", "off");
-  for (const auto& [die1, die2] : {std::pair{3, 4}, {6, 6}, {3, 4}, {1, 1}}) table.Roll(die1, die2);
-  Game& game = *table.game;
-  game.events.EventsLogTopLine = 1;
-  const std::int64_t first = FindInEventsLog(game, "PASS (NAT", true);
-  EXPECT_EQ(ReadEventsLogLine(game, first), "    Pass (natural)");
-  EXPECT_EQ(game.events.EventsLogTopLine, first);
-  const std::int64_t second = FindInEventsLog(game, "pass (nat", true);
-  EXPECT_GT(second, first);
-  EXPECT_EQ(FindInEventsLog(game, "pass (nat", true), 0);
-  EXPECT_EQ(game.events.EventsLogTopLine, second) << "nothing found moves nothing";
-  EXPECT_EQ(FindInEventsLog(game, "pass (nat", false), first);
-  EXPECT_EQ(FindInEventsLog(game, "pass (nat", false), 0);
-  EXPECT_EQ(FindInEventsLog(game, "joined", false), 1);
-}
-
 TEST(EventsLogView, EveryLineIsReadThroughTheIndex) {
   LoggedTable table;
   table.Join(1, "Ann");

@@ -547,7 +547,7 @@ std::string CheckTargets(const Items& items, bool betsOnly) {
 
 std::string CheckPlaceBets(const Items& items) {
   if (items.empty()) return CompileErrorText(CompileError::kMissingArgument);
-  const std::string problem = CheckTargetList(SplitAtCommas(items)).problem;
+  std::string problem = CheckTargetList(SplitAtCommas(items)).problem;
   if (problem.empty() || problem == CompileErrorText(CompileError::kAnyTargets) ||
       problem == CompileErrorText(CompileError::kListQualifier))
     return problem;

@@ -4,7 +4,7 @@ namespace tessaryn {
 namespace {
 
 constexpr std::string_view kTexts[] = {
-#define COMPILE_ERROR(name, text) text,
+#define COMPILE_ERROR(name, text) std::string_view(text),
 #include "autobet/language/compile_errors.inc"
 #undef COMPILE_ERROR
 };

@@ -274,10 +274,10 @@ void ApplyPhrase(const Phrase& phrase, std::vector<WorkWord>& words, WordPresenc
     }
     // No row feeds on itself for longer than the line has characters; this makes sure of it.
     --characters;
-    const WorkWord from = wordAt(0);
-    const WorkWord to = wordAt(phrase.source.size() - 1);
+    // By value: the words themselves go.
+    const std::pair<WorkWord, WorkWord> ends(wordAt(0), wordAt(phrase.source.size() - 1));
     toDo.resize(toDo.size() - phrase.source.size());
-    PushReplacement(phrase, from, to, toDo, presence);
+    PushReplacement(phrase, ends.first, ends.second, toDo, presence);
     for (std::size_t back = phrase.source.size() - 1; back > 0 && !words.empty(); --back) {
       toDo.push_back(std::move(words.back()));
       words.pop_back();

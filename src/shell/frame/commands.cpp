@@ -32,6 +32,14 @@ int PlainKeyCode(const char* key) {
   return name.size() == 1 ? name[0].unicode() : 0;
 }
 
+const CommandRow* PlainKeyCommand(int key) {
+  const CommandRow* found = nullptr;
+  ForEachCommand([&](const CommandRow& command) {
+    if (command.key != nullptr && PlainKeyCode(command.key) == key) found = &command;
+  });
+  return found;
+}
+
 bool IsFree(const Desk& desk) { return !desk.game.table.RollInProgress || desk.game.table.AutoRollActive; }
 
 bool HasPlayer(const Desk& desk) {

@@ -40,6 +40,12 @@ struct CommandMenu {
 
 // All of them, in the order of the menu bar.
 std::span<const CommandMenu> CommandMenus();
+template <typename Work>
+void ForEachCommand(const Work& work) {
+  for (const CommandMenu& menu : CommandMenus())
+    for (const CommandRow& command : menu.commands)
+      if (command.name != nullptr) work(command);
+}
 
 std::span<const CommandRow> GameCommands();
 std::span<const CommandRow> PlayerCommands();
@@ -60,6 +66,8 @@ bool ChangesBets(const CommandRow& command);
 
 // Keys without a modifier stay free for entry boxes; 0 for a shortcut with one.
 int PlainKeyCode(const char* key);
+// The command of such a key; null for none.
+const CommandRow* PlainKeyCommand(int key);
 
 // --- When a command can act.
 

@@ -18,7 +18,6 @@ class GraphView : public QWidget {
   void SetPage(GraphPage page, const GraphColours& colours);
   const GraphPage& Page() const { return page_; }
   // The point at the pointer, 1 to the page's count; 0 without one.
-  int PointedCell() const { return pointed_; }
   // "Roll 312:  535  +35"; empty without a pointer.
   QString PointerText() const;
   GraphFrame Frame() const;

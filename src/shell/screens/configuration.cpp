@@ -159,9 +159,32 @@ void ConfigurationScreen::Build() {
   auto* row = new QHBoxLayout;
   row->setSpacing(12);
   column->addLayout(row, 1);
+  BuildList(*row);
+  pages_ = new QStackedWidget(body_);
+  row->addWidget(pages_, 1);
+  for (const TabRow& tab : Tabs()) {
+    QWidget* page = tab.make({game_, *editor_, shelf_, pages_});
+    page->setObjectName(tab.page);
+    pages_->addWidget(page);
+  }
+  AddFoot(*column);
+  ListTabs();
+  ConnectList();
+  // A wheel that scrolls the page changes nothing on its way.
+  for (QWidget* control : pages_->findChildren<QWidget*>()) {
+    if (qobject_cast<QComboBox*>(control) == nullptr && qobject_cast<QSlider*>(control) == nullptr) continue;
+    control->setFocusPolicy(Qt::StrongFocus);
+    control->installEventFilter(this);
+  }
+  for (const TabRow& tab : Tabs()) tab.refresh(pages_->findChild<QWidget*>(tab.page));
+  editor_->Refresh();
+}
+
+// The search and the list of the pages, or of what was found.
+void ConfigurationScreen::BuildList(QBoxLayout& row) {
   auto* left = new QVBoxLayout;
   left->setSpacing(8);
-  row->addLayout(left);
+  row.addLayout(left);
   search_ = new QLineEdit(body_);
   search_->setObjectName("txtSearch");
   search_->setPlaceholderText(
@@ -179,15 +202,9 @@ void ConfigurationScreen::Build() {
   const int width = search_->fontMetrics().averageCharWidth() * kTabLetters;
   search_->setFixedWidth(width);
   tabs_->setFixedWidth(width);
-  pages_ = new QStackedWidget(body_);
-  row->addWidget(pages_, 1);
-  for (const TabRow& tab : Tabs()) {
-    QWidget* page = tab.make({game_, *editor_, shelf_, pages_});
-    page->setObjectName(tab.page);
-    pages_->addWidget(page);
-  }
-  AddFoot(*column);
-  ListTabs();
+}
+
+void ConfigurationScreen::ConnectList() {
   QObject::connect(search_, &QLineEdit::textChanged, this, [this](const QString& words) { Search(words); });
   QObject::connect(search_, &QLineEdit::returnPressed, this, [this] { GoTo(tabs_->currentItem(), true); });
   QObject::connect(tabs_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
@@ -197,14 +214,6 @@ void ConfigurationScreen::Build() {
                    [this](QListWidgetItem* item) { GoTo(item, !listsTabs_); });
   QObject::connect(tabs_, &QListWidget::itemActivated, this,
                    [this](QListWidgetItem* item) { GoTo(item, true); });
-  // A wheel that scrolls the page changes nothing on its way.
-  for (QWidget* control : pages_->findChildren<QWidget*>()) {
-    if (qobject_cast<QComboBox*>(control) == nullptr && qobject_cast<QSlider*>(control) == nullptr) continue;
-    control->setFocusPolicy(Qt::StrongFocus);
-    control->installEventFilter(this);
-  }
-  for (const TabRow& tab : Tabs()) tab.refresh(pages_->findChild<QWidget*>(tab.page));
-  editor_->Refresh();
 }
 
 void ConfigurationScreen::AddFoot(QVBoxLayout& column) {

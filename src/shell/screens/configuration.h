@@ -10,6 +10,7 @@
 #include "shell/screens/configuration_pages.h"
 #include "shell/screens/tool_window.h"
 
+class QBoxLayout;
 class QDockWidget;
 class QLabel;
 class QLineEdit;
@@ -59,6 +60,8 @@ class ConfigurationScreen : public ToolWindow {
   };
 
   void Build();
+  void BuildList(QBoxLayout& row);
+  void ConnectList();
   void AddFoot(QVBoxLayout& column);
   void BuildAgain();
   void ListTabs();

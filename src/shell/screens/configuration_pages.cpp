@@ -476,19 +476,83 @@ ControlsPage* MakeBankrollPage(Game& game, SettingEditor& editor, QWidget* paren
 
 // --- Sounds.
 
+namespace {
+
+struct SoundChoice {
+  const char* name;
+  QString caption;
+  const char* setting;
+  QStringList files;
+  bool random;
+};
+
+QComboBox* NewSoundList(const SoundChoice& choice, QWidget* parent) {
+  auto* list = new QComboBox(parent);
+  list->setObjectName(choice.name);
+  list->setAccessibleName(choice.caption);
+  list->setMinimumContentsLength(14);
+  list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< none >")));
+  for (const QString& file : choice.files)
+    list->addItem(choice.random
+                      ? file.section('.', 0, -2)
+                      : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Stick person 1")),
+                  file);
+  if (choice.random)
+    list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< random >")));
+  Explain(list, *RowOfSetting(choice.setting), choice.setting);
+  return list;
+}
+
+QPushButton* NewTryButton(const SoundChoice& choice, QWidget* parent) {
+  QPushButton* hear =
+      NewButton(parent, "", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try")));
+  hear->setObjectName(QStringLiteral("cmdTry") + choice.setting);
+  hear->setAccessibleName(
+      Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try: %1")).arg(choice.caption));
+  return hear;
+}
+
+void AddSound(const SoundChoice& choice, const SoundShelf& shelf, SettingEditor& editor, ControlsPage& page,
+              QGroupBox& group) {
+  auto* field = new QWidget(&group);
+  auto* line = new QHBoxLayout(field);
+  line->setContentsMargins(0, 0, 0, 0);
+  line->setSpacing(8);
+  QComboBox* list = NewSoundList(choice, field);
+  line->addWidget(list);
+  QPushButton* hear = NewTryButton(choice, field);
+  line->addWidget(hear);
+  const int count = static_cast<int>(choice.files.size());
+  const bool random = choice.random;
+  SettingControl& control = editor.Add({.setting = choice.setting,
+                                        .caption = choice.caption,
+                                        .widget = list,
+                                        .show = [list, count, random](const std::string& value) {
+                                          // A set that isn't there any more plays as the first.
+                                          const int set = std::atoi(value.c_str());
+                                          const int last = count + static_cast<int>(random && count > 0);
+                                          list->setCurrentIndex(set <= last ? set : std::min(1, count));
+                                        }});
+  QObject::connect(list, &QComboBox::activated, &page,
+                   [&editor, &control](int set) { editor.Change(control, std::to_string(set)); });
+  QObject::connect(hear, &QPushButton::clicked, &page, [list, count, play = shelf.play] {
+    if (!play || count == 0 || list->currentIndex() == 0) return;
+    const int set = list->currentIndex() <= count ? list->currentIndex() : 1 + std::rand() % count;
+    play(list->itemData(set).toString());
+  });
+  QFormLayout* form = ControlsPage::FormOf(&group);
+  form->addRow(choice.caption, field);
+  static_cast<QLabel*>(form->labelForField(field))->setBuddy(list);
+}
+
+}  // namespace
+
 ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf& shelf, QWidget* parent) {
   auto* page = new ControlsPage(editor, "picSound", parent);
   QGroupBox* group = page->Group(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Sounds")), 0);
-  struct Choice {
-    const char* name;
-    QString caption;
-    const char* setting;
-    QStringList files;
-    bool random;
-  };
   // The stickman's calls are one set together.
   const QStringList stick = shelf.stick.isEmpty() ? QStringList() : QStringList{shelf.stick.front()};
-  const Choice choices[] = {
+  const SoundChoice choices[] = {
       {"cmbStickPerson", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Stick person")),
        "StickPerson", stick, false},
       {"cmbDiceSound", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Dice")), "DiceSound",
@@ -497,52 +561,7 @@ ControlsPage* MakeSoundPage(Game& game, SettingEditor& editor, const SoundShelf&
        "CheckSound", shelf.checks, true},
       {"cmbWinSound", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Wins")), "WinSound",
        shelf.wins, true}};
-  for (const Choice& choice : choices) {
-    auto* field = new QWidget(group);
-    auto* line = new QHBoxLayout(field);
-    line->setContentsMargins(0, 0, 0, 0);
-    line->setSpacing(8);
-    auto* list = new QComboBox(field);
-    list->setObjectName(choice.name);
-    list->setAccessibleName(choice.caption);
-    list->setMinimumContentsLength(14);
-    list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< none >")));
-    for (const QString& file : choice.files)
-      list->addItem(choice.random
-                        ? file.section('.', 0, -2)
-                        : Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Stick person 1")),
-                    file);
-    if (choice.random)
-      list->addItem(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "< random >")));
-    line->addWidget(list);
-    QPushButton* hear =
-        NewButton(field, "", Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try")));
-    hear->setObjectName(QStringLiteral("cmdTry") + choice.setting);
-    hear->setAccessibleName(
-        Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen", "Try: %1")).arg(choice.caption));
-    line->addWidget(hear);
-    const int count = static_cast<int>(choice.files.size());
-    const bool random = choice.random;
-    Explain(list, *RowOfSetting(choice.setting), choice.setting);
-    SettingControl& control = editor.Add({.setting = choice.setting,
-                                          .caption = choice.caption,
-                                          .widget = list,
-                                          .show = [list, count, random](const std::string& value) {
-                                            // A set that isn't there any more plays as the first.
-                                            const int set = std::atoi(value.c_str());
-                                            const int last = count + static_cast<int>(random && count > 0);
-                                            list->setCurrentIndex(set <= last ? set : std::min(1, count));
-                                          }});
-    QObject::connect(list, &QComboBox::activated, page,
-                     [&editor, &control](int set) { editor.Change(control, std::to_string(set)); });
-    QObject::connect(hear, &QPushButton::clicked, page, [list, count, play = shelf.play] {
-      if (!play || count == 0 || list->currentIndex() == 0) return;
-      const int set = list->currentIndex() <= count ? list->currentIndex() : 1 + std::rand() % count;
-      play(list->itemData(set).toString());
-    });
-    ControlsPage::FormOf(group)->addRow(choice.caption, field);
-    static_cast<QLabel*>(ControlsPage::FormOf(group)->labelForField(field))->setBuddy(list);
-  }
+  for (const SoundChoice& choice : choices) AddSound(choice, shelf, editor, *page, *group);
   if (shelf.dice.isEmpty() && shelf.checks.isEmpty()) {
     auto* note = new QLabel(Translated(QT_TRANSLATE_NOOP("tessaryn::ConfigurationScreen",
                                                          "The program's sound files aren't there.")),

@@ -177,11 +177,6 @@ constexpr const char* kWords[] = {
     QT_TRANSLATE_NOOP("Core", "untitled"),
     QT_TRANSLATE_NOOP("Core", "Free Form Dice"),
     QT_TRANSLATE_NOOP("Core", "Percentage Dice"),
-    // The roll pad.
-    QT_TRANSLATE_NOOP("Core", "&11 basic numbers"),
-    QT_TRANSLATE_NOOP("Core", "&36 combos (triangle)"),
-    QT_TRANSLATE_NOOP("Core", "3&6 combos (box)"),
-    QT_TRANSLATE_NOOP("Core", "&Individual dice faces"),
     // CheckStacks.
     QT_TRANSLATE_NOOP("Core", "Set 1st checkstack to #"),
     QT_TRANSLATE_NOOP("Core", "Set 2nd checkstack to #"),

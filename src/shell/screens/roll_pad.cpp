@@ -24,6 +24,10 @@ namespace tessaryn {
 
 namespace {
 
+constexpr const char* kPadCaptions[kRollPadLayouts] = {
+    QT_TRANSLATE_NOOP("Core", "&11 basic numbers"), QT_TRANSLATE_NOOP("Core", "&36 combos (triangle)"),
+    QT_TRANSLATE_NOOP("Core", "3&6 combos (box)"), QT_TRANSLATE_NOOP("Core", "&Individual dice faces")};
+
 constexpr int kFrame = 7;  // the felt round the cells, in pixels
 // A cell of each layout, in pixels: about as wide as the buttons under the grid.
 constexpr QSize kCellSizes[kRollPadLayouts] = {{44, 48}, {46, 34}, {62, 38}, {56, 56}};
@@ -344,7 +348,7 @@ void RollPad::AddLayouts(QMenu& menu) {
   QMenu* display = menu.addMenu(tr("&Display"));
   display->menuAction()->setObjectName("mnuRYONDisplay");
   for (int layout = 0; layout < kRollPadLayouts; ++layout) {
-    QAction* action = display->addAction(CoreWords(kRollPadCaptions[layout]));
+    QAction* action = display->addAction(CoreWords(kPadCaptions[layout]));
     action->setObjectName(QString("mnuRYONDisplay%1").arg(layout));
     action->setCheckable(true);
     action->setChecked(layout == grid_->PadLayout());

@@ -6,22 +6,38 @@
 #include <QFontDatabase>
 #include <QPalette>
 #include <algorithm>
+#include <array>
 
-#include "autobet/language/script_words.h"
+#include "play/script_help.h"
 
 namespace tessaryn {
 namespace {
 
-// A style's number is that of the kind of span behind plain text.
-constexpr int kPlainStyle = 0;
-constexpr int StyleOf(SpanKind kind) { return static_cast<int>(kind) + 1; }
+// The numbers of the styles.
+struct ScriptStyle {
+  enum Number {
+    kPlain,
+    kLogic,
+    kVariable,
+    kFunction,
+    kModifier,
+    kAction,
+    kNumber,
+    kSign,
+    kQuoted,
+    kComment,
+    kPlayer,
+    kUnknown,
+    kCount,
+  };
+};
 
 struct StyleRow {
   const char* name;
   QRgb light;
   QRgb dark;
 };
-constexpr StyleRow kStyles[kSpanKinds + 1] = {
+constexpr StyleRow kStyles[ScriptStyle::kCount] = {
     {QT_TRANSLATE_NOOP("ScriptLexer", "Text"), 0xff1a1d21, 0xffe6e6e6},
     {QT_TRANSLATE_NOOP("ScriptLexer", "Logic"), 0xff7a1fa2, 0xffd69ae8},
     {QT_TRANSLATE_NOOP("ScriptLexer", "Variable"), 0xff0b6b4a, 0xff6fd3a8},
@@ -36,6 +52,22 @@ constexpr StyleRow kStyles[kSpanKinds + 1] = {
     {QT_TRANSLATE_NOOP("ScriptLexer", "Unknown word"), 0xffb3261e, 0xffff8a80},
 };
 
+// In the order of ScriptWordKind.
+constexpr auto kStyleOfKind = [] {
+  using enum ScriptStyle::Number;
+  return std::array<int, kScriptWordKinds>{kLogic,  kAction,   kVariable, kVariable, kFunction,
+                                           kPlayer, kModifier, kLogic,    kSign,     kNumber,
+                                           kQuoted, kQuoted,   kComment,  kUnknown};
+}();
+
+// An operator is a word of logic or a sign.
+int StyleOf(const ScriptWord& word, std::string_view line) {
+  const char first = line[static_cast<std::size_t>(word.begin)];
+  const bool letter = (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z');
+  return word.kind == ScriptWordKind::kOperator && letter ? ScriptStyle::kLogic
+                                                          : kStyleOfKind[static_cast<std::size_t>(word.kind)];
+}
+
 constexpr int kLevelMask = QsciScintillaBase::SC_FOLDLEVELNUMBERMASK;
 
 }  // namespace
@@ -43,8 +75,9 @@ constexpr int kLevelMask = QsciScintillaBase::SC_FOLDLEVELNUMBERMASK;
 ScriptLexer::ScriptLexer(QObject* parent) : QsciLexerCustom(parent) {}
 
 QString ScriptLexer::description(int style) const {
-  return style >= 0 && style <= kSpanKinds ? QCoreApplication::translate("ScriptLexer", kStyles[style].name)
-                                           : QString();
+  return style >= 0 && style < ScriptStyle::kCount
+             ? QCoreApplication::translate("ScriptLexer", kStyles[style].name)
+             : QString();
 }
 
 const char* ScriptLexer::wordCharacters() const {
@@ -58,11 +91,11 @@ void ScriptLexer::TakeColours(const QPalette& palette) {
   setDefaultFont(font);
   setDefaultPaper(palette.color(QPalette::Base));
   setDefaultColor(palette.color(QPalette::Text));
-  for (int style = 0; style <= kSpanKinds; ++style) {
+  for (int style = 0; style < ScriptStyle::kCount; ++style) {
     QFont own = font;
     // Not by colour alone.
-    own.setItalic(style == StyleOf(SpanKind::kComment));
-    own.setUnderline(style == StyleOf(SpanKind::kUnknown));
+    own.setItalic(style == ScriptStyle::kComment);
+    own.setUnderline(style == ScriptStyle::kUnknown);
     setFont(own, style);
     setColor(QColor(dark ? kStyles[style].dark : kStyles[style].light), style);
     setPaper(palette.color(QPalette::Base), style);
@@ -92,19 +125,20 @@ void ScriptLexer::StyleLine(int line) {
   bytes.resize(static_cast<int>(length));
   while (bytes.endsWith('\n') || bytes.endsWith('\r')) bytes.chop(1);
   const std::string_view view(bytes.constData(), static_cast<std::size_t>(bytes.size()));
-  std::size_t done = 0;
-  for (const ScriptSpan& span : SpansOf(view, surroundings_)) {
-    setStyling(static_cast<int>(span.begin - done), kPlainStyle);
-    setStyling(static_cast<int>(span.end - span.begin), StyleOf(span.kind));
-    done = span.end;
+  const std::vector<ScriptWord> words = ScriptWords({std::string(view)}, surroundings_);
+  int done = 0;
+  for (const ScriptWord& word : words) {
+    setStyling(word.begin - done, ScriptStyle::kPlain);
+    setStyling(word.end - word.begin, StyleOf(word, view));
+    done = word.end;
   }
-  setStyling(static_cast<int>(std::max<long>(whole, length) - static_cast<long>(done)), kPlainStyle);
+  setStyling(static_cast<int>(std::max<long>(whole, length)) - done, ScriptStyle::kPlain);
 
   const int base = QsciScintillaBase::SC_FOLDLEVELBASE;
   const int before =
       line == 0 ? base
                 : static_cast<int>(text.SendScintilla(QsciScintillaBase::SCI_GETFOLDLEVEL, line - 1) >> 16);
-  const BlockStep step = BlockStepOf(view);
+  const BlockStep step = BlockStepOf(words);
   const int next = std::clamp(before + step.behind, base, base + 200);
   const int level = step.behind > 0 ? before : std::max(before, next);
   const int flags = step.behind > 0 ? QsciScintillaBase::SC_FOLDLEVELHEADERFLAG : 0;
@@ -114,20 +148,20 @@ void ScriptLexer::StyleLine(int line) {
 
 QVector<ColoredPart> ColoredScriptLine(const QString& line, bool dark) {
   const std::string bytes = line.toStdString();
-  const auto text = [&bytes](std::size_t begin, std::size_t end) {
-    return QString::fromStdString(bytes.substr(begin, end - begin));
+  const auto text = [&bytes](int begin, int end) {
+    return QString::fromUtf8(bytes.data() + begin, end - begin);
   };
   QVector<ColoredPart> parts;
-  std::size_t done = 0;
-  for (const ScriptSpan& span : SpansOf(bytes, {})) {
-    const StyleRow& style = kStyles[StyleOf(span.kind)];
+  int done = 0;
+  for (const ScriptWord& word : ScriptWords({bytes}, {})) {
+    const StyleRow& style = kStyles[StyleOf(word, bytes)];
     // What stands for anything, as in a pattern, is no fault on a page.
-    const bool known = span.kind != SpanKind::kUnknown;
-    parts.append({text(done, span.begin), {}});
-    parts.append({text(span.begin, span.end), known ? QColor(dark ? style.dark : style.light) : QColor()});
-    done = span.end;
+    const bool known = word.kind != ScriptWordKind::kUnknown;
+    parts.append({text(done, word.begin), {}});
+    parts.append({text(word.begin, word.end), known ? QColor(dark ? style.dark : style.light) : QColor()});
+    done = word.end;
   }
-  parts.append({text(done, bytes.size()), {}});
+  parts.append({text(done, static_cast<int>(bytes.size())), {}});
   return parts;
 }
 

@@ -17,6 +17,7 @@ class ScriptLexer : public QsciLexerCustom {
   explicit ScriptLexer(QObject* parent);
   // Whose names are words of the language.
   void SetSurroundings(const ScriptSurroundings& surroundings) { surroundings_ = surroundings; }
+  const ScriptSurroundings& Surroundings() const { return surroundings_; }
   // Takes the colours that go with the desktop, light or dark.
   void TakeColours(const QPalette& palette);
 

@@ -7,7 +7,7 @@
 
 #include "autobet/language/characters.h"
 #include "autobet/language/script_text.h"
-#include "autobet/language/script_words.h"
+#include "play/script_help.h"
 #include "shell/screens/script_lexer.h"
 #include "shell/table/number_habit.h"
 #include "shell/table/screen_tools.h"
@@ -28,16 +28,20 @@ constexpr int kFaultIndicator = 8;
 constexpr int kMatchIndicator = 9;
 constexpr int kWordList = 1;
 constexpr int kIndent = 3;
-constexpr std::size_t kMostOffers = 60;
+constexpr qsizetype kMostOffers = 60;
 constexpr int kFarthestMatch = 3000;  // lines
 constexpr int kLeastNote = 160;       // pixels of what is told beside a fault
+// One of them is in every line that steps the blocks.
+constexpr const char* kStepWords[] = {"if", "then", "else", "do", "loop"};
 
-QString OfferText(const WordEntry& word) {
-  QString text = QString::fromStdString(word.text);
-  if (!word.doc.empty())
-    text += QString::fromUtf8("   \u2013 ") +
-            QString::fromUtf8(word.doc.data(), static_cast<int>(std::min<std::size_t>(word.doc.size(), 60)));
-  return text;
+// Between a word and what it means, in the list of words.
+constexpr const char* kBetween = "   \u2013 ";
+
+std::string Inserted(const ScriptCompletion& word) { return word.text + (word.arguments.empty() ? "" : "("); }
+
+QString OfferText(const ScriptCompletion& word) {
+  return QString::fromStdString(Inserted(word)) + QString::fromUtf8(kBetween) +
+         QString::fromStdString(word.doc).left(60);
 }
 
 }  // namespace
@@ -96,7 +100,7 @@ WorkshopEditor::WorkshopEditor(QWidget* parent)
   });
   connect(this, &QsciScintilla::userListActivated, this, [this](int list, const QString& text) {
     if (list != kWordList) return;
-    InsertWord(text.section(QString::fromUtf8("   \u2013 "), 0, 0).toStdString());
+    InsertWord(text.section(QString::fromUtf8(kBetween), 0, 0).toStdString());
   });
   connect(this, &QsciScintillaBase::SCN_DWELLSTART, this,
           [this](int position, int, int) { ShowTipAt(position); });
@@ -370,19 +374,26 @@ void WorkshopEditor::InsertWord(const std::string& word) {
   int column = 0;
   getCursorPosition(&line, &column);
   const std::string content = LineText(line);
-  const std::size_t at = CharacterStart(content, static_cast<std::size_t>(column));
-  std::size_t length = 0;
-  for (const WordOffer& offer : OffersAt(content, at))
-    if (offer.word->text == word) length = std::max(length, offer.length);
+  const auto at = static_cast<int>(CharacterStart(content, static_cast<std::size_t>(column)));
+  const ScriptCompletions offers = CompletionsAt(content, at, lexer_->Surroundings());
+  const bool begun = std::any_of(offers.items.begin(), offers.items.end(),
+                                 [&](const ScriptCompletion& offer) { return Inserted(offer) == word; });
   beginUndoAction();
-  if (length > 0) {
+  if (begun && offers.begin < at) {
     const auto position = SendScintilla(SCI_GETCURRENTPOS);
-    SendScintilla(SCI_SETSEL, static_cast<unsigned long>(position - static_cast<long>(length)),
+    SendScintilla(SCI_SETSEL, static_cast<unsigned long>(position - (at - offers.begin)),
                   static_cast<long>(position));
   }
   replaceSelectedText(QString::fromStdString(word));
   endUndoAction();
   setFocus();
+}
+
+// Enter must end a line whose last word is whole.
+bool WorkshopEditor::EndsWithWholeWord(const std::string& ahead) const {
+  const std::vector<ScriptWord> words = ScriptWords({ahead}, lexer_->Surroundings());
+  return !words.empty() && words.back().end == static_cast<int>(ahead.size()) &&
+         words.back().kind != ScriptWordKind::kUnknown;
 }
 
 void WorkshopEditor::OfferWords(bool asked) {
@@ -394,19 +405,12 @@ void WorkshopEditor::OfferWords(bool asked) {
   const std::string ahead = content.substr(0, at);
   const bool word = !ahead.empty() && !IsBlank(ahead.back());
   if (!asked && !word) return;
+  const ScriptCompletions found = CompletionsAt(content, static_cast<int>(at), lexer_->Surroundings());
+  const auto begun = static_cast<int>(at) - found.begin;
   QStringList offers;
-  std::size_t begun = 0;
-  for (const WordOffer& offer : OffersAt(content, at)) {
-    begun = std::max(begun, offer.length);
-    if (offers.size() < static_cast<qsizetype>(kMostOffers)) offers.append(OfferText(*offer.word));
-  }
-  // Enter must end a line whose last word is whole.
-  const std::size_t start = ahead.find_last_of(" \t:(");
-  const std::string last = ahead.substr(start == std::string::npos ? 0 : start + 1);
-  if (!asked && (last.size() < 2 || FindWordEntry(last) != nullptr)) offers.clear();
-  if (offers.isEmpty() && asked && begun == 0)
-    for (const WordEntry& every : WordEntries()) offers.append(OfferText(every));
-  if (offers.isEmpty())
+  for (const ScriptCompletion& item : found.items)
+    if (begun == 0 || offers.size() < kMostOffers) offers.append(OfferText(item));
+  if (offers.isEmpty() || (!asked && (begun < 2 || EndsWithWholeWord(ahead))))
     cancelList();
   else
     showUserList(kWordList, offers);
@@ -422,16 +426,25 @@ void WorkshopEditor::CharAdded(int character) {
   OfferWords(false);
 }
 
+BlockStep WorkshopEditor::StepOf(int line) const {
+  const std::string text = LineText(line);
+  const std::string small = Lowered(text);
+  // Few lines can step, and the way to the other end of a block may be long.
+  const bool mayStep = std::any_of(std::begin(kStepWords), std::end(kStepWords),
+                                   [&](const char* word) { return small.find(word) != std::string::npos; });
+  return mayStep ? BlockStepOf(ScriptWords({text}, {})) : BlockStep();
+}
+
 // A new line stands under the block that it belongs to; the one above it is moved out if it ends one.
 void WorkshopEditor::IndentLine(int line) {
   if (line < 1) return;
   ++changing_;
-  const BlockStep step = BlockStepOf(LineText(line - 1));
+  const BlockStep step = StepOf(line - 1);
   int above = indentation(line - 1);
   if (step.before < 0 && line >= 2) {
     int back = line - 2;
     while (back > 0 && LineText(back).empty()) --back;
-    const BlockStep previous = BlockStepOf(LineText(back));
+    const BlockStep previous = StepOf(back);
     above = std::max(0, indentation(back) + kIndent * (previous.behind - previous.before + step.before));
     setIndentation(line - 1, above);
   }
@@ -447,7 +460,7 @@ void WorkshopEditor::MatchBlocks() {
   const int end = std::max(lines() - 1, 0);
   clearIndicatorRange(0, 0, end, lineLength(end), kMatchIndicator);
   const int line = CursorLine() - 1;
-  const BlockStep step = BlockStepOf(LineText(line));
+  const BlockStep step = StepOf(line);
   if (step.behind == 0) return;
   const int way = step.behind > 0 ? 1 : -1;
   int level = step.behind;
@@ -455,7 +468,7 @@ void WorkshopEditor::MatchBlocks() {
   for (int looked = 0; level != 0 && looked < kFarthestMatch; ++looked) {
     other += way;
     if (other < 0 || other > end) return;
-    level += BlockStepOf(LineText(other)).behind;
+    level += StepOf(other).behind;
     if (way * level < 0) return;
   }
   if (level != 0) return;
@@ -472,12 +485,10 @@ void WorkshopEditor::MatchBlocks() {
 
 QString WorkshopEditor::PhraseAt(int line, int at) const {
   const std::string content = LineText(line - 1);
-  const ScriptSurroundings nobody;
-  for (const ScriptSpan& span : SpansOf(content, nobody))
-    if (at >= static_cast<int>(span.begin) && at <= static_cast<int>(span.end) &&
-        span.kind != SpanKind::kComment)
-      return QString::fromStdString(content.substr(span.begin, span.end - span.begin));
-  return {};
+  const std::vector<ScriptWord> words = ScriptWords({content}, lexer_->Surroundings());
+  const ScriptWord* word = WordAt(words, 1, at);
+  if (word == nullptr || word->kind == ScriptWordKind::kComment) return {};
+  return QString::fromUtf8(content.data() + word->begin, word->end - word->begin);
 }
 
 void WorkshopEditor::ShowTipAt(int position) {

@@ -17,6 +17,7 @@
 namespace tessaryn {
 
 class ScriptLexer;
+struct BlockStep;
 
 class WorkshopEditor : public QsciScintilla {
   Q_OBJECT
@@ -74,6 +75,8 @@ class WorkshopEditor : public QsciScintilla {
   void PlaceFaultNote();
   void TakeColours();
   void CharAdded(int character);
+  bool EndsWithWholeWord(const std::string& ahead) const;
+  BlockStep StepOf(int line) const;  // from 0
   void IndentLine(int line);
   void MatchBlocks();
   std::string LineText(int line) const;  // from 0

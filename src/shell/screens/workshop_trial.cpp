@@ -91,6 +91,18 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(8, 8, 8, 8);
   column->addWidget(new QLabel("<b>" + tr("Try it") + "</b>", this));
+  BuildStart(*column);
+  BuildResult(*column);
+  timer_ = new QTimer(this);
+  timer_->setInterval(kLookEvery);
+  connect(timer_, &QTimer::timeout, this, [this] {
+    progress_->setValue(static_cast<int>(state_->rolls));
+    if (done_) End();
+  });
+  connect(start_, &QPushButton::clicked, this, &WorkshopTrial::Toggle);
+}
+
+void WorkshopTrial::BuildStart(QBoxLayout& column) {
   auto* row = new QHBoxLayout;
   rolls_ = new QSpinBox(this);
   rolls_->setObjectName("spnTrialRolls");
@@ -105,15 +117,18 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   start_->setPalette(PrimaryButton());
   row->addWidget(rolls_, 1);
   row->addWidget(start_);
-  column->addLayout(row);
+  column.addLayout(row);
   same_ = new QCheckBox(tr("Same &dice again"), this);
   same_->setObjectName("chkSameDice");
-  column->addWidget(same_);
+  column.addWidget(same_);
   progress_ = new QProgressBar(this);
   progress_->setObjectName("prgTrial");
   progress_->setAccessibleName(tr("Progress"));
   progress_->hide();
-  column->addWidget(progress_);
+  column.addWidget(progress_);
+}
+
+void WorkshopTrial::BuildResult(QBoxLayout& column) {
   net_ = new QLabel(this);
   net_->setObjectName("lblTrialNet");
   QFont large = font();
@@ -127,11 +142,11 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   for (QLabel* label : {net_, facts_, compared_}) {
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(label != net_);
-    column->addWidget(label);
+    column.addWidget(label);
   }
   net_->hide();
   compared_->hide();
-  column->addWidget(curve_ = new TrialCurve(this), 1);
+  column.addWidget(curve_ = new TrialCurve(this), 1);
   bets_ = new QTableWidget(0, 5, this);
   bets_->setObjectName("tblTrial");
   bets_->setAccessibleName(tr("Bets of the trial"));
@@ -144,17 +159,10 @@ WorkshopTrial::WorkshopTrial(Game& game, QWidget* parent) : QWidget(parent), gam
   bets_->setTabKeyNavigation(false);
   bets_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   bets_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  column->addWidget(bets_, 2);
-  column->addStretch();
+  column.addWidget(bets_, 2);
+  column.addStretch();
   curve_->hide();
   bets_->hide();
-  timer_ = new QTimer(this);
-  timer_->setInterval(kLookEvery);
-  connect(timer_, &QTimer::timeout, this, [this] {
-    progress_->setValue(static_cast<int>(state_->rolls));
-    if (done_) End();
-  });
-  connect(start_, &QPushButton::clicked, this, &WorkshopTrial::Toggle);
 }
 
 void WorkshopTrial::changeEvent(QEvent* event) {

@@ -8,6 +8,7 @@
 
 #include "play/script_trial.h"
 
+class QBoxLayout;
 class QCheckBox;
 class QLabel;
 class QProgressBar;
@@ -54,6 +55,8 @@ class WorkshopTrial : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  void BuildStart(QBoxLayout& column);
+  void BuildResult(QBoxLayout& column);
   void End();
   void Tell();
 

@@ -15,9 +15,9 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
-#include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
 #include "play/script_help.h"
 #include "play/script_session.h"
@@ -35,13 +35,43 @@ namespace {
 
 constexpr int kPause = 250;  // milliseconds without a key before the text is compiled
 
-const char* const kWordButtons[kWordKinds] = {"cmdLogic", "cmdVariables", "cmdFunctions", "cmdModifiers",
-                                              "cmdAction"};
-const char* const kWordCaptions[kWordKinds] = {QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Logic"),
-                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Variables"),
-                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Functions"),
-                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Modifiers"),
-                                               QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Actions")};
+// A list of words, the name of its button and its caption.
+struct WordListRow {
+  const char* button;
+  const char* caption;
+  std::initializer_list<ScriptWordKind> kinds;
+};
+using WordKind = ScriptWordKind;
+const WordListRow kWordLists[] = {
+    {"cmdLogic",
+     QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Logic"),
+     {WordKind::kKeyword, WordKind::kList, WordKind::kOperator, WordKind::kNumber}},
+    {"cmdVariables",
+     QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Variables"),
+     {WordKind::kVariable, WordKind::kBet}},
+    {"cmdFunctions", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Functions"), {WordKind::kFunction}},
+    {"cmdModifiers",
+     QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Modifiers"),
+     {WordKind::kModifier, WordKind::kPlayer}},
+    {"cmdAction", QT_TRANSLATE_NOOP("tessaryn::WorkshopWindow", "Actions"), {WordKind::kAction}},
+};
+constexpr std::size_t kVariables = 1;
+
+bool IsIn(const WordListRow& list, ScriptWordKind kind) {
+  return std::find(list.kinds.begin(), list.kinds.end(), kind) != list.kinds.end();
+}
+
+// What a word means, and a variable's value at the table.
+QString TipOf(const Game& game, SeatId seat, const QString& text) {
+  const std::string typed = text.toStdString();
+  const std::vector<ScriptWord> words = ScriptWords({typed}, {});
+  const ScriptMeaning* meaning = words.empty() ? nullptr : MeaningOf(words.front());
+  if (meaning == nullptr) return {};
+  QString tip = text + ": " + QString::fromStdString(meaning->doc);
+  if (!IsIn(kWordLists[kVariables], meaning->kind)) return tip;
+  const std::string value = PresentValues(game, seat, {typed}).front();
+  return value.empty() ? tip : tip + "\n" + WorkshopWindow::tr("Now: %1").arg(FromCore(value));
+}
 
 }  // namespace
 
@@ -117,15 +147,29 @@ const WorkshopWindow::Command WorkshopWindow::kCommands[] = {
 
 WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAutoBet", parent), game_(game) {
   checks_.setMaxThreadCount(1);
-  auto* column = new QVBoxLayout(this);
-  column->setContentsMargins(8, 4, 8, 4);
-  column->setSpacing(4);
   editor_ = new WorkshopEditor(this);
   editor_->installEventFilter(this);
   steps_ = new WorkshopSteps(game, this);
   watch_ = new WorkshopWatch(game, this);
   trial_ = new WorkshopTrial(game, this);
   find_ = new FindReplaceScreen(*editor_, this);
+  BuildPanes();
+  BuildMenu();
+  pause_ = new QTimer(this);
+  pause_->setSingleShot(true);
+  pause_->setInterval(kPause);
+  ConnectParts();
+  checkScript = CheckScript;
+  resize(1080, 700);
+  seat_ = game_.table.SelectedSeat;
+  ListPlayers();
+  Load();
+}
+
+void WorkshopWindow::BuildPanes() {
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(8, 4, 8, 4);
+  column->setSpacing(4);
   BuildBar(*column);
   BuildTabs();
   auto* left = new QSplitter(Qt::Vertical, this);
@@ -145,6 +189,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   both->setSizes({700, 330});
   for (QSplitter* splitter : {left, right, both}) splitter->setChildrenCollapsible(false);
   column->addWidget(both, 1);
+  column->addLayout(Foot());
+}
+
+QLayout* WorkshopWindow::Foot() {
   auto* foot = new QHBoxLayout;
   foot->setSpacing(16);
   for (QLabel** label : {&place_, &fileLabel_, &permissions_}) {
@@ -156,11 +204,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
   place_->setObjectName("lblPlace");
   fileLabel_->setObjectName("lblFile");
   permissions_->setObjectName("lblPermissions");
-  column->addLayout(foot);
-  BuildMenu();
-  pause_ = new QTimer(this);
-  pause_->setSingleShot(true);
-  pause_->setInterval(kPause);
+  return foot;
+}
+
+void WorkshopWindow::ConnectParts() {
   connect(pause_, &QTimer::timeout, this, &WorkshopWindow::CheckSoon);
   connect(editor_, &QsciScintilla::textChanged, this, &WorkshopWindow::TextChanged);
   connect(editor_, &QsciScintilla::cursorPositionChanged, this, [this] { ShowStatus(); });
@@ -179,27 +226,10 @@ WorkshopWindow::WorkshopWindow(Game& game, QWidget* parent) : ToolWindow("frmAut
     lines = editor_->Lines();
     return seat_ != 0;
   };
-  checkScript = CheckScript;
   connect(trial_, &WorkshopTrial::ended, this, [this] {
     if (wantsCounts_) editor_->ShowCounts(trial_->Result().lines);
   });
-  editor_->tipOf = [this](const QString& word) {
-    const WordEntry* known = FindWordEntry(word.toStdString());
-    QString tip;
-    if (known != nullptr)
-      tip = word + (known->doc.empty()
-                        ? QString()
-                        : ": " + QString::fromUtf8(known->doc.data(), static_cast<int>(known->doc.size())));
-    if (known != nullptr && known->kind == WordKind::kVariable) {
-      const std::string value = PresentValues(game_, seat_, {word.toStdString()}).front();
-      if (!value.empty()) tip += "\n" + tr("Now: %1").arg(FromCore(value));
-    }
-    return tip;
-  };
-  resize(1080, 700);
-  seat_ = game_.table.SelectedSeat;
-  ListPlayers();
-  Load();
+  editor_->tipOf = [this](const QString& word) { return TipOf(game_, seat_, word); };
 }
 
 WorkshopWindow::~WorkshopWindow() {
@@ -315,11 +345,11 @@ QWidget* WorkshopWindow::WordsTab() {
   auto* column = new QVBoxLayout(tab);
   column->setContentsMargins(8, 8, 8, 8);
   auto* row = new QHBoxLayout;
-  for (int kind = 0; kind < kWordKinds; ++kind) {
-    auto* button = new QPushButton(tr(kWordCaptions[kind]), tab);
-    button->setObjectName(kWordButtons[kind]);
+  for (std::size_t list = 0; list < std::size(kWordLists); ++list) {
+    auto* button = new QPushButton(tr(kWordLists[list].caption), tab);
+    button->setObjectName(kWordLists[list].button);
     row->addWidget(button);
-    connect(button, &QPushButton::clicked, this, [this, kind] { ListWords(kind); });
+    connect(button, &QPushButton::clicked, this, [this, list] { ListWords(list); });
   }
   row->addStretch();
   column->addLayout(row);
@@ -337,14 +367,14 @@ QWidget* WorkshopWindow::WordsTab() {
   return tab;
 }
 
-void WorkshopWindow::ListWords(int kind) {
+void WorkshopWindow::ListWords(std::size_t list) {
   words_->clear();
   QList<QTreeWidgetItem*> items;
-  for (const WordEntry& word : WordEntries())
-    if (static_cast<int>(word.kind) == kind)
+  for (const ScriptMeaning& word : ScriptMeanings())
+    if (IsIn(kWordLists[list], word.kind) && word.number <= 1)
       items.append(
-          new QTreeWidgetItem({QString::fromStdString(word.text),
-                               QString::fromUtf8(word.doc.data(), static_cast<int>(word.doc.size()))}));
+          new QTreeWidgetItem({QString::fromStdString(word.phrase + (word.arguments.empty() ? "" : "(")),
+                               QString::fromStdString(word.doc)}));
   words_->addTopLevelItems(items);
 }
 

@@ -75,6 +75,9 @@ class WorkshopWindow : public ToolWindow {
   static const Command kCommands[];
 
   void BuildMenu();
+  void BuildPanes();
+  QLayout* Foot();
+  void ConnectParts();
   void BuildBar(QBoxLayout& column);
   void BuildTabs();
   QWidget* ProblemsTab();
@@ -102,7 +105,7 @@ class WorkshopWindow : public ToolWindow {
   void FillSamples(QMenu& menu);
   void PrintScript();
   void ListPlayers();
-  void ListWords(int kind);
+  void ListWords(std::size_t list);
 
   // --- Checks.
   void TextChanged();

@@ -288,70 +288,16 @@ void Plate::paintEvent(QPaintEvent*) {
   painter.drawRoundedRect(body, 6, 6);
   const double row = (height() - above - 6) / 4.0;
   QRectF line(Padding(), 3, width() - 2 * Padding(), row);
+  PaintHead(painter, line);
   const QFont plain = TextFont(false);
-  const QFont bold = HeadFont();
-  const QFontMetricsF plainMetrics(plain);
-  const QFontMetricsF boldMetrics(bold);
-  // The head: the result first, since a name is cut and a figure never.
-  const QString result = ResultText();
-  double resultWidth = boldMetrics.horizontalAdvance(result);
-  painter.setFont(bold);
-  const QColor outcome = text_.sign > 0 ? kWonTone : text_.sign < 0 ? kLostTone : QColor(Qt::white);
-  painter.setPen(outcome);
-  painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, result);
-  const double side = textHeight_ * 0.5;
-  // A name that would be cut gets the room of the sign: the word says the same.
-  if (text_.sign != 0 && HeadWidth() + side + 4 < line.width()) {
-    const double x = line.right() - resultWidth - side - 4;
-    const double y = line.center().y();
-    QPolygonF triangle;
-    if (text_.sign > 0)
-      triangle << QPointF(x, y + side / 2) << QPointF(x + side, y + side / 2)
-               << QPointF(x + side / 2, y - side / 2);
-    else
-      triangle << QPointF(x, y - side / 2) << QPointF(x + side, y - side / 2)
-               << QPointF(x + side / 2, y + side / 2);
-    painter.setBrush(outcome);
-    painter.setPen(Qt::NoPen);
-    painter.drawPolygon(triangle);
-    resultWidth += side + 4;
-  }
-  double left = line.left();
-  const double free = line.right() - resultWidth - kHeadGap;
-  if (text_.shooter && left + textHeight_ + 4 <= free) {
-    painter.save();
-    const double die = textHeight_ + 1;
-    painter.translate(left + die / 2, line.center().y());
-    painter.scale(die, die);
-    PaintDie(painter, 5, kDiceRed, Qt::white);
-    painter.restore();
-    left += die + 4;
-  }
-  const QString script = ScriptText(text_.script);
-  double scriptWidth = script.isEmpty() ? 0 : boldMetrics.horizontalAdvance(script) + 8;
-  if (left + scriptWidth > free) scriptWidth = 0;
-  painter.setFont(bold);
-  painter.setPen(text_.selected ? kGoldTone : QColor(Qt::white));
-  const double nameRoom = free - left - (scriptWidth > 0 ? scriptWidth + 4 : 0);
-  const QString name = boldMetrics.elidedText(text_.name, Qt::ElideRight, std::max(0.0, nameRoom));
-  if (nameRoom > 4) painter.drawText(QRectF(left, line.top(), nameRoom + 1, row), Qt::AlignVCenter, name);
-  if (scriptWidth > 0) {
-    const double x = left + std::min(nameRoom, boldMetrics.horizontalAdvance(name)) + 4;
-    const QRectF badge(x, line.center().y() - textHeight_ * 0.62, scriptWidth, textHeight_ * 1.24);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(text_.script == ScriptSign::kActive ? QColor(0x2C, 0x5A, 0xA8)
-                                                         : QColor(0xB3, 0x26, 0x1E));
-    painter.drawRoundedRect(badge, 2, 2);
-    painter.setPen(Qt::white);
-    painter.drawText(badge, Qt::AlignCenter, script);
-  }
+  const QFontMetricsF metrics(plain);
   painter.setFont(plain);
   const auto figure = [&](const QString& caption, const QString& value) {
     line.translate(0, row);
     painter.setPen(kCaptionTone);
-    painter.drawText(line, Qt::AlignLeft | Qt::AlignVCenter,
-                     plainMetrics.elidedText(caption, Qt::ElideRight,
-                                             line.width() - plainMetrics.horizontalAdvance(value) - 3));
+    painter.drawText(
+        line, Qt::AlignLeft | Qt::AlignVCenter,
+        metrics.elidedText(caption, Qt::ElideRight, line.width() - metrics.horizontalAdvance(value) - 3));
     painter.setPen(Qt::white);
     painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, value);
   };
@@ -363,6 +309,67 @@ void Plate::paintEvent(QPaintEvent*) {
   painter.setPen(Qt::NoPen);
   painter.setBrush(text_.selected ? kGoldTone : kCaptionTone);
   painter.drawPolygon(TipOf(pointer_));
+}
+
+// The result first, since a name is cut and a figure never.
+void Plate::PaintHead(QPainter& painter, const QRectF& line) const {
+  const double free = line.right() - PaintResult(painter, line) - kHeadGap;
+  double left = line.left();
+  if (text_.shooter && left + textHeight_ + 4 <= free) {
+    painter.save();
+    const double die = textHeight_ + 1;
+    painter.translate(left + die / 2, line.center().y());
+    painter.scale(die, die);
+    PaintDie(painter, 5, kDiceRed, Qt::white);
+    painter.restore();
+    left += die + 4;
+  }
+  PaintName(painter, QRectF(QPointF(left, line.top()), QPointF(free, line.bottom())));
+}
+
+// The width that it took.
+double Plate::PaintResult(QPainter& painter, const QRectF& line) const {
+  const QFont bold = HeadFont();
+  const QString result = ResultText();
+  const double width = QFontMetricsF(bold).horizontalAdvance(result);
+  painter.setFont(bold);
+  const QColor outcome = text_.sign > 0 ? kWonTone : text_.sign < 0 ? kLostTone : QColor(Qt::white);
+  painter.setPen(outcome);
+  painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, result);
+  const double side = textHeight_ * 0.5;
+  // A name that would be cut gets the room of the sign: the word says the same.
+  if (text_.sign == 0 || HeadWidth() + side + 4 >= line.width()) return width;
+  const double x = line.right() - width - side - 4;
+  const double y = line.center().y();
+  const double foot = text_.sign > 0 ? y + side / 2 : y - side / 2;
+  painter.setBrush(outcome);
+  painter.setPen(Qt::NoPen);
+  painter.drawPolygon(
+      QPolygonF{QPointF(x, foot), QPointF(x + side, foot), QPointF(x + side / 2, 2 * y - foot)});
+  return width + side + 4;
+}
+
+// The name and, if there is room, the sign of its script.
+void Plate::PaintName(QPainter& painter, const QRectF& room) const {
+  const QFont bold = HeadFont();
+  const QFontMetricsF metrics(bold);
+  const QString script = ScriptText(text_.script);
+  double scriptWidth = script.isEmpty() ? 0 : metrics.horizontalAdvance(script) + 8;
+  if (scriptWidth > room.width()) scriptWidth = 0;
+  painter.setFont(bold);
+  painter.setPen(text_.selected ? kGoldTone : QColor(Qt::white));
+  const double nameRoom = room.width() - (scriptWidth > 0 ? scriptWidth + 4 : 0);
+  const QString name = metrics.elidedText(text_.name, Qt::ElideRight, std::max(0.0, nameRoom));
+  if (nameRoom > 4)
+    painter.drawText(QRectF(room.left(), room.top(), nameRoom + 1, room.height()), Qt::AlignVCenter, name);
+  if (scriptWidth == 0) return;
+  const double x = room.left() + std::min(nameRoom, metrics.horizontalAdvance(name)) + 4;
+  const QRectF badge(x, room.center().y() - textHeight_ * 0.62, scriptWidth, textHeight_ * 1.24);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(text_.script == ScriptSign::kActive ? QColor(0x2C, 0x5A, 0xA8) : QColor(0xB3, 0x26, 0x1E));
+  painter.drawRoundedRect(badge, 2, 2);
+  painter.setPen(Qt::white);
+  painter.drawText(badge, Qt::AlignCenter, script);
 }
 
 void Plate::mousePressEvent(QMouseEvent* event) {

@@ -83,6 +83,9 @@ class Plate : public QWidget {
   QString BankrollCaption() const;
   QString ResultText() const;
   double HeadWidth() const;
+  void PaintHead(QPainter& painter, const QRectF& line) const;
+  double PaintResult(QPainter& painter, const QRectF& line) const;
+  void PaintName(QPainter& painter, const QRectF& room) const;
   void FitLetters();
 
   const SeatId seat_;
