@@ -9,6 +9,7 @@
 #include <QRegularExpression>
 #include <QSvgRenderer>
 
+#include "shell/frame/arrange.h"
 #include "shell/frame/desk.h"
 #include "shell/frame/main_window.h"
 #include "shell/frame/page_painter.h"
@@ -19,6 +20,7 @@
 #include "shell/screens_support.h"
 #include "shell/table/languages.h"
 #include "state/run_stop.h"
+#include "stats/events_log.h"
 
 namespace tessaryn::test {
 namespace {
@@ -161,6 +163,45 @@ TEST(Instruments, EachIsOnEveryPaperAndInEveryFileAndFailuresAreTold) {
     EXPECT_EQ(coloured > 0, colours);
   }
   table.window.CloseUnasked();
+}
+
+// The ready layouts with what they really hold, on screens of every size.
+TEST(Instruments, ReadyLayoutsFitAndAreSeen) {
+  const QPalette before = QApplication::palette();
+  for (const bool dark : {false, true}) {
+    if (dark) QApplication::setPalette(DarkPalette());
+    for (const QSize size : {QSize(1920, 1080), QSize(1280, 800), QSize(1024, 600)}) {
+      InstrumentTable table;
+      table.game->events.RecordEventsActive = true;
+      RecordAllEvents(table.game->events, true);
+      table.window.resize(size);
+      for (const char* layout : {"mnuArrangeWatch", "mnuArrangeStudy"}) {
+        const std::string name = layout + (" " + std::to_string(size.width()));
+        QMenu menu;
+        ListArrangements(table.desk, menu);
+        Find<QAction>(menu, layout).trigger();
+        for (int roll = 0; roll < 25; ++roll) table.Roll(1 + roll % 5, 2 + roll / 2 % 5);
+        QTest::qWait(100);
+        EXPECT_EQ(table.window.size(), size) << name << " asks for more";
+        const double felt = table.window.Table().width();
+        EXPECT_GE(felt, 0.6 * size.width()) << name;
+        int seen = 0;
+        for (const ToolRow& row : ToolRows()) {
+          const ToolWindow* tool = table.desk.tools[static_cast<std::size_t>(row.number)];
+          if (tool == nullptr || !tool->isVisible() || tool->isWindow()) continue;
+          ++seen;
+          const QWidget* room = tool->parentWidget();
+          EXPECT_LE(tool->width(), room->width()) << name << " " << tool->objectName().toStdString();
+          EXPECT_LE(tool->height(), room->height()) << name << " " << tool->objectName().toStdString();
+        }
+        EXPECT_GE(seen, 4) << name;
+        SavePicture(table.window,
+                    QString("%1-%2-%3").arg(layout + 3).arg(size.width()).arg(dark ? "dark" : "light"));
+      }
+      table.window.CloseUnasked();
+    }
+    QApplication::setPalette(before);
+  }
 }
 
 // --- Hands that know nothing.

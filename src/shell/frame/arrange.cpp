@@ -18,10 +18,12 @@ struct Docked {
   int number;
   Qt::DockWidgetArea side;
   bool wideOnly = false;  // there is room for it in a large window only
+  bool tabbed = false;    // in a smaller one it stands in a tab behind the one before
 };
 constexpr Docked kWatch[] = {{kBankrollWindow, Qt::RightDockWidgetArea},
                              {kRollTotalsWindow, Qt::RightDockWidgetArea},
-                             {kBetResultsWindow, Qt::RightDockWidgetArea},
+                             {kBetResultsWindow, Qt::RightDockWidgetArea, false, true},
+                             {kAutoBetWindow, Qt::BottomDockWidgetArea, true},
                              {kEventsLogWindow, Qt::BottomDockWidgetArea},
                              {kHandsWindow, Qt::BottomDockWidgetArea, true}};
 constexpr Docked kStudy[] = {{kSummaryWindow, Qt::RightDockWidgetArea},
@@ -44,13 +46,15 @@ constexpr Layout kLayouts[] = {
 // in a small one.
 constexpr int kWide = 1600;
 constexpr QSize kDocksWide(440, 184);
-constexpr QSize kDocksNarrow(290, 150);
+constexpr QSize kDocksNarrow(340, 200);
 
 template <typename Work>
 void ForEachDockable(Desk& desk, const Work& work) {
   for (int number = 0; number < kToolWindows; ++number)
     if (MayDock(desk, number) && desk.tools[number] != nullptr) work(number);
 }
+
+bool IsTabbed(const Desk& desk, const Docked& row) { return row.tabbed && desk.window->width() < kWide; }
 
 void ShareRoom(Desk& desk, std::span<const Docked> docked) {
   const QSize room = desk.window->width() >= kWide ? kDocksWide : kDocksNarrow;
@@ -59,7 +63,7 @@ void ShareRoom(Desk& desk, std::span<const Docked> docked) {
   QList<QDockWidget*> right;
   QList<QDockWidget*> below;
   for (const Docked& row : docked)
-    if (ToolDock* dock = DockOf(desk, row.number); dock != nullptr)
+    if (ToolDock* dock = DockOf(desk, row.number); dock != nullptr && !IsTabbed(desk, row))
       (row.side == Qt::RightDockWidgetArea ? right : below).append(dock);
   if (!right.isEmpty()) {
     desk.docks->resizeDocks(right, QList<int>(right.size(), size.width()), Qt::Horizontal);
@@ -79,8 +83,17 @@ void Arrange(Desk& desk, const Layout& layout) {
     ShowTool(desk, number, false);
     FloatTool(desk, number);
   });
-  for (const Docked& row : layout.docked)
-    if (!row.wideOnly || desk.window->width() >= kWide) DockTool(desk, row.number, row.side);
+  ToolDock* before = nullptr;
+  for (const Docked& row : layout.docked) {
+    if (row.wideOnly && desk.window->width() < kWide) continue;
+    DockTool(desk, row.number, row.side);
+    ToolDock* dock = DockOf(desk, row.number);
+    if (before != nullptr && dock != nullptr && IsTabbed(desk, row)) {
+      desk.docks->tabifyDockWidget(before, dock);
+      before->raise();
+    }
+    before = dock;
+  }
   ShareRoom(desk, layout.docked);
   desk.table->setFocus();
 }

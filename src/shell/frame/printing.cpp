@@ -197,9 +197,10 @@ void PreviewTool(Desk& desk, ToolWindow& window) {
 
 void SaveToolAsPdf(Desk& desk, ToolWindow& window) {
   if (!window.ReadyToPrint()) return;
+  // What was asked for is taken before anything can be given up, and holds for this time alone.
+  PrintJob job = JobOf(window);
   const std::string path = ChooseFile(desk.game, window.window(), kPdf, FileNameFor(window));
   if (path.empty()) return;
-  PrintJob job = JobOf(window);
   QPrinter printer(QPrinter::ScreenResolution);
   printer.setOutputFormat(QPrinter::PdfFormat);
   SetUp(desk, printer, job);

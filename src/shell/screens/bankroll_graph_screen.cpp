@@ -37,6 +37,16 @@ namespace {
 constexpr int kTurboMessages = 16;  // the bit of MessageMask for a script's messages in a Turbo-Roll
 constexpr int kGraphsOnPage[] = {1, 2, 3, 4, 6, 8};
 
+constexpr QSize kLeastDockedGraph(280, 150);
+constexpr int kAllFrom = 400;    // pixels of width
+constexpr int kScaleFrom = 210;  // and of height
+constexpr int kRunFrom = 240;
+
+void ShowGraphRow(const QLayout& row, bool shown) {
+  for (int n = 0; n < row.count(); ++n)
+    if (QWidget* part = row.itemAt(n)->widget(); part != nullptr) part->setVisible(shown);
+}
+
 bool IsDark(const QWidget& widget) { return widget.palette().color(QPalette::Window).lightness() < 128; }
 
 void Colour(QLabel& label, const QColor& colour) {
@@ -172,6 +182,7 @@ void BankrollGraphScreen::AddReferences(QBoxLayout& column) {
 
 void BankrollGraphScreen::AddScale(QBoxLayout& column) {
   auto* row = new QHBoxLayout;
+  scaleRow_ = row;
   row->setSpacing(4);
   column.addLayout(row);
   struct Key {
@@ -214,6 +225,7 @@ void BankrollGraphScreen::AddScale(QBoxLayout& column) {
 
 void BankrollGraphScreen::AddRun(QBoxLayout& column) {
   auto* row = new QHBoxLayout;
+  runRow_ = row;
   column.addLayout(row);
   throttle_ = new QSlider(Qt::Horizontal, this);
   throttle_->setObjectName("hsbThrottle");
@@ -343,7 +355,25 @@ void BankrollGraphScreen::Refresh() {
   view_->SetPage(std::move(page), GraphColoursOf(game_.screen.Graph, IsDark(*this)));
 }
 
+QSize BankrollGraphScreen::minimumSizeHint() const {
+  const QSize least = ToolWindow::minimumSizeHint();
+  return isWindow() ? least : least.boundedTo(kLeastDockedGraph);
+}
+
+// In little room, as at a side of the table, the graph has it.
+void BankrollGraphScreen::resizeEvent(QResizeEvent* event) {
+  ShowGraphRow(*scaleRow_, height() >= kScaleFrom);
+  ShowGraphRow(*runRow_, height() >= kRunFrom);
+  const bool wide = width() >= kAllFrom;
+  for (QLabel* label : {average_.caption, average_.value}) label->setVisible(wide);
+  for (QLabel* label : {rate_, hours_}) label->setVisible(wide && height() >= kScaleFrom);
+  speed_->setVisible(wide && height() >= kRunFrom);
+  ToolWindow::resizeEvent(event);
+}
+
 void BankrollGraphScreen::changeEvent(QEvent* event) {
+  // What it had to be as a window.
+  if (event->type() == QEvent::ParentChange && !isWindow()) setMinimumSize(0, 0);
   if (event->type() == QEvent::PaletteChange && run_ != nullptr) Refresh();
   ToolWindow::changeEvent(event);
 }

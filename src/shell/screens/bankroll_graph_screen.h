@@ -32,6 +32,7 @@ class BankrollGraphScreen : public ToolWindow {
   // empty: then nothing is printed.
   std::function<bool()> printNow;
 
+  QSize minimumSizeHint() const override;
   void Refresh() override;
   QStringList PrintHeadings() const override;
   bool HasPicture() const override { return true; }
@@ -50,6 +51,7 @@ class BankrollGraphScreen : public ToolWindow {
  protected:
   void hideEvent(QHideEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct Figure {
@@ -113,6 +115,8 @@ class BankrollGraphScreen : public ToolWindow {
   QSlider* throttle_ = nullptr;
   QLabel* speed_ = nullptr;
   QPushButton* run_ = nullptr;
+  QLayout* scaleRow_ = nullptr;
+  QLayout* runRow_ = nullptr;
   bool autoPrint_ = false;
   bool printing_ = false;           // the picture is the sheet that waits
   std::vector<GraphPage> waiting_;  // for a full sheet of paper

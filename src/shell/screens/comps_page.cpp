@@ -71,7 +71,7 @@ void CompsPage::AddBets() {
   bets_->setProperty("tells", "CompBetFlags");
   bets_->setToolTip(tr("A double click or the space bar changes a bet."));
   bets_->setMinimumHeight(bets_->fontMetrics().lineSpacing() * 12);
-  bets_->setMinimumWidth(bets_->fontMetrics().averageCharWidth() * 46);
+  bets_->setMinimumWidth(bets_->fontMetrics().averageCharWidth() * 54);
   form->addRow(bets_);
   auto* line = new QHBoxLayout;
   line->setSpacing(8);

@@ -47,7 +47,7 @@ constexpr ReportScreen kScreens[] = {
      "cmdUnits",
      QT_TRANSLATE_NOOP("Reports", "Percentages"),
      &ReportsShown::HandsPercent},
-    {kBetResultsWindow, "frmBetResults", "bet-results", {600, 470}},
+    {kBetResultsWindow, "frmBetResults", "bet-results", {680, 470}},
     {kBetTrendsWindow, "frmBetTrends", "bet-trends", {300, 460}},
     {kRollTotalsWindow,
      "frmRollTotals",
@@ -75,6 +75,8 @@ const ReportScreen& ScreenOf(int window) {
 }
 
 constexpr int kSpace = 8;
+constexpr int kInFirstRow = 2;  // selectors, where not all have room beside each other
+constexpr QSize kLeastDockedReport(280, 120);
 constexpr int kBothHeight = 330;  // below it a picture leaves no room for its table
 constexpr int kSideBySide = 560;  // wide enough for a picture beside the figures
 constexpr int kFirstItem = 2;
@@ -139,10 +141,13 @@ ReportWindow::ReportWindow(Game& game, int number, QWidget* parent)
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
   column->setSpacing(kSpace);
-  auto* row = new QHBoxLayout;
-  row->setSpacing(kSpace);
-  column->addLayout(row);
-  AddSelectors(*row);
+  for (QHBoxLayout*& row : selectorRows_) {
+    row = new QHBoxLayout;
+    row->setSpacing(kSpace);
+    column->addLayout(row);
+  }
+  AddSelectors(*selectorRows_[0]);
+  selectorRows_[1]->addStretch();
   AddLabels(*column);
   AddBody(*column);
   Refresh();
@@ -177,7 +182,20 @@ void ReportWindow::AddSelectors(QHBoxLayout& row) {
   if (screen_.window == kBetResultsWindow) AddBets(row);
   if (screen_.toggle != nullptr) AddToggle(row);
   AddOptions(row);
+  for (int n = 0; n < row.count(); ++n) selectors_ += row.itemAt(n)->widget();
   row.addStretch();
+}
+
+void ReportWindow::WrapSelectors() {
+  int wide = 2 * kSpace;
+  for (const QWidget* selector : selectors_) wide += selector->sizeHint().width() + kSpace;
+  const bool wraps = wide - kSpace > width() && selectors_.size() > kInFirstRow;
+  if (wraps == wrapped_) return;
+  wrapped_ = wraps;
+  for (int n = kInFirstRow; n < selectors_.size(); ++n) {
+    selectorRows_[wraps ? 0 : 1]->removeWidget(selectors_[n]);
+    selectorRows_[wraps ? 1 : 0]->insertWidget(wraps ? n - kInFirstRow : n, selectors_[n]);
+  }
 }
 
 QComboBox* ReportWindow::AddCombo(QHBoxLayout& row, const char* name, const QString& what) {
@@ -471,8 +489,22 @@ void ReportWindow::ShowChart(const ReportSelection& selection) {
 
 QSize ReportWindow::sizeHint() const { return screen_.size; }
 
+// At a side of the table the selectors wrap and the table scrolls; a window of its own is as wide as they
+// are.
+QSize ReportWindow::minimumSizeHint() const {
+  const QSize least = ToolWindow::minimumSizeHint();
+  return isWindow() ? least : least.boundedTo(kLeastDockedReport);
+}
+
+void ReportWindow::changeEvent(QEvent* event) {
+  // What it had to be as a window.
+  if (event->type() == QEvent::ParentChange && !isWindow()) setMinimumSize(0, 0);
+  ToolWindow::changeEvent(event);
+}
+
 void ReportWindow::resizeEvent(QResizeEvent* event) {
   ToolWindow::resizeEvent(event);
+  WrapSelectors();
   if (upper_ != nullptr)
     upper_->setDirection(width() >= kSideBySide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   if (screen_.window == kRollTotalsWindow) table_->setVisible(height() >= kBothHeight);

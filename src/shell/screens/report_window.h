@@ -41,13 +41,16 @@ class ReportWindow : public ToolWindow {
   bool HasPicture() const override { return chart_ != nullptr; }
   void PaintPicture(QPainter& painter, const QRectF& area) const override;
   QSize sizeHint() const override;
+  QSize minimumSizeHint() const override;
 
  protected:
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   QComboBox* AddCombo(QHBoxLayout& row, const char* name, const QString& what);
   void AddSelectors(QHBoxLayout& row);
+  void WrapSelectors();
   void AddPlayers(QHBoxLayout& row);
   void AddBets(QHBoxLayout& row);
   void AddToggle(QHBoxLayout& row);
@@ -79,6 +82,9 @@ class ReportWindow : public ToolWindow {
   const ReportScreen& screen_;
   const ReportKind& kind_;
   ReportModel::Report report_;
+  QHBoxLayout* selectorRows_[2] = {};
+  QList<QWidget*> selectors_;
+  bool wrapped_ = false;  // what has no room in the first row stands in the second
   QComboBox* hand_ = nullptr;
   QComboBox* player_ = nullptr;
   QList<std::pair<QString, int>> listed_;  // in player_

@@ -29,7 +29,8 @@ namespace tessaryn {
 namespace {
 
 constexpr int kSliderSteps = 1'000;
-constexpr int kWide = 680;  // from here on the figures stand beside the histogram
+constexpr int kLeastForFigures = 300;  // below, as at a side of the table, the histogram has the room
+constexpr int kWide = 680;             // from here on the figures stand beside the histogram
 constexpr std::int64_t kUsualDeviations = 3;
 
 QString Count(std::int64_t number) { return MoneyText(Currency::Dollars(number)); }
@@ -77,7 +78,7 @@ SessionsLogScreen::SessionsLogScreen(Game& game, QWidget* parent)
   side_ = new QBoxLayout(QBoxLayout::TopToBottom);
   side_->setContentsMargins(8, 4, 8, 8);
   side_->setSpacing(12);
-  side_->addWidget(MakeStatistics());
+  side_->addWidget(figures_ = MakeStatistics());
   lower_ = new QWidget(this);
   lowerRow_ = new QBoxLayout(QBoxLayout::LeftToRight, lower_);
   lowerRow_->setContentsMargins(0, 0, 0, 0);
@@ -378,6 +379,7 @@ void SessionsLogScreen::Arrange(bool wide) {
 
 void SessionsLogScreen::resizeEvent(QResizeEvent* event) {
   ToolWindow::resizeEvent(event);
+  for (QWidget* part : {figures_, lower_}) part->setVisible(height() >= kLeastForFigures);
   if (wide_ == (width() >= kWide)) return;
   Arrange(!wide_);
   // The parts' layouts first: theirs asks for what they need now.

@@ -36,7 +36,7 @@ class SessionsLogScreen : public ToolWindow {
   SessionsLogScreen(Game& game, QWidget* parent);
   ~SessionsLogScreen() override;
 
-  QSize minimumSizeHint() const override { return {430, 300}; }
+  QSize minimumSizeHint() const override { return {300, 140}; }
   void Refresh() override;
   // The statistics or, in the data mode, the sessions that take part.
   std::unique_ptr<RowSource> TakeRows() const override;
@@ -175,6 +175,7 @@ class SessionsLogScreen : public ToolWindow {
   QBoxLayout* left_ = nullptr;
   QBoxLayout* side_ = nullptr;
   QWidget* lower_ = nullptr;  // classes and outliers
+  QWidget* figures_ = nullptr;
   QBoxLayout* lowerRow_ = nullptr;
   QList<QAction*> widths_;
   QList<QAction*> needSeat_;

@@ -269,6 +269,18 @@ void WorkshopWindow::BuildMenu() {
   for (const char* on : {"mnuShowLineNumbers", "mnuShowSyntaxLists", "mnuAutoIndent"})
     Find(on)->setChecked(true);
   layout()->setMenuBar(bar_);
+  // It takes any size: in a small one, as at a side of the table, the script has the room.
+  layout()->setSizeConstraint(QLayout::SetNoConstraint);
+}
+
+void WorkshopWindow::resizeEvent(QResizeEvent* event) {
+  constexpr QSize kAllParts(760, 340);
+  constexpr int kCommandsFrom = 240;
+  const bool commandsFit = commands_->minimumSizeHint().width() + 16 <= width();
+  commands_->setVisible(commandsFit && height() >= kCommandsFrom);
+  tabs_->setVisible(height() >= kAllParts.height());
+  watch_->parentWidget()->setVisible(width() >= kAllParts.width() && height() >= kAllParts.height());
+  ToolWindow::resizeEvent(event);
 }
 
 QAction* WorkshopWindow::Find(const char* name) const { return bar_->findChild<QAction*>(name); }
@@ -285,7 +297,9 @@ void WorkshopWindow::Do(const Command& command) {
 }
 
 void WorkshopWindow::BuildBar(QBoxLayout& column) {
-  auto* row = new QHBoxLayout;
+  commands_ = new QWidget(this);
+  auto* row = new QHBoxLayout(commands_);
+  row->setContentsMargins(0, 0, 0, 0);
   auto* label = new QLabel(tr("P&layer:"), this);
   player_ = new QComboBox(this);
   player_->setObjectName("cmbPlayer");
@@ -309,7 +323,7 @@ void WorkshopWindow::BuildBar(QBoxLayout& column) {
   button("cmdStep", tr("Step"), &WorkshopWindow::Step);
   button("cmdStop", tr("Stop"), &WorkshopWindow::StopScripts);
   row->addStretch();
-  column.addLayout(row);
+  column.addWidget(commands_);
   connect(player_, &QComboBox::activated, this,
           [this](int index) { ShowSeat(player_->itemData(index).toInt()); });
   connect(active_, &QCheckBox::clicked, this, &WorkshopWindow::Activate);

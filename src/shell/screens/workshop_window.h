@@ -43,6 +43,7 @@ class WorkshopWindow : public ToolWindow {
   WorkshopWindow(Game& game, QWidget* parent);
   ~WorkshopWindow() override;
 
+  QSize minimumSizeHint() const override { return {260, 130}; }
   void Refresh() override;
   QList<QStringList> Rows() const override;
   QStringList PrintHeadings() const override;
@@ -69,6 +70,7 @@ class WorkshopWindow : public ToolWindow {
   bool event(QEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct Command;
@@ -148,6 +150,7 @@ class WorkshopWindow : public ToolWindow {
   Game& game_;
   WorkshopEditor* editor_;
   QMenuBar* bar_;
+  QWidget* commands_;
   QComboBox* player_;
   QCheckBox* active_;
   QTabWidget* tabs_;
