@@ -5704,10 +5704,6 @@ Daten:  %2</translation>
         <translation>&amp;Startwert</translation>
     </message>
     <message>
-        <source>R&amp;ules and dice of this table</source>
-        <translation>&amp;Regeln und Würfel dieses Tisches</translation>
-    </message>
-    <message>
         <source>The selected player has no script.</source>
         <translation>Der gewählte Spieler hat kein Skript.</translation>
     </message>
@@ -5754,10 +5750,6 @@ Daten:  %2</translation>
     <message>
         <source>How many play at a time; results are the same for any number</source>
         <translation>Wie viele zugleich spielen; die Ergebnisse sind bei jeder Zahl gleich</translation>
-    </message>
-    <message>
-        <source>Else those of a table that nobody has changed</source>
-        <translation>Sonst die eines Tisches, an dem niemand etwas geändert hat</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
@@ -5818,6 +5810,22 @@ Daten:  %2</translation>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
         <translation>Angeben, wie lange eine Session dauern darf: Würfe, Hände oder Stunden.</translation>
+    </message>
+    <message>
+        <source>Rules and dice</source>
+        <translation>Regeln und Würfel</translation>
+    </message>
+    <message>
+        <source>Rules and dice of this table</source>
+        <translation>Regeln und Würfel dieses Tisches</translation>
+    </message>
+    <message>
+        <source>Rules and dice of a new table</source>
+        <translation>Regeln und Würfel eines neuen Tisches</translation>
+    </message>
+    <message>
+        <source>Rules and dice of the opened file</source>
+        <translation>Regeln und Würfel der geöffneten Datei</translation>
     </message>
 </context>
 <context>

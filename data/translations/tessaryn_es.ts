@@ -5704,10 +5704,6 @@ Datos:  %2</translation>
         <translation>Se&amp;milla</translation>
     </message>
     <message>
-        <source>R&amp;ules and dice of this table</source>
-        <translation>&amp;Reglas y dados de esta mesa</translation>
-    </message>
-    <message>
         <source>The selected player has no script.</source>
         <translation>El jugador elegido no tiene script.</translation>
     </message>
@@ -5754,10 +5750,6 @@ Datos:  %2</translation>
     <message>
         <source>How many play at a time; results are the same for any number</source>
         <translation>Cuántos juegan a la vez; los resultados son los mismos con cualquier número</translation>
-    </message>
-    <message>
-        <source>Else those of a table that nobody has changed</source>
-        <translation>Si no, los de una mesa que nadie ha cambiado</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
@@ -5818,6 +5810,22 @@ Datos:  %2</translation>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
         <translation>Diga cuánto puede durar una sesión: tiradas, manos u horas.</translation>
+    </message>
+    <message>
+        <source>Rules and dice</source>
+        <translation>Reglas y dados</translation>
+    </message>
+    <message>
+        <source>Rules and dice of this table</source>
+        <translation>Reglas y dados de esta mesa</translation>
+    </message>
+    <message>
+        <source>Rules and dice of a new table</source>
+        <translation>Reglas y dados de una mesa nueva</translation>
+    </message>
+    <message>
+        <source>Rules and dice of the opened file</source>
+        <translation>Reglas y dados del archivo abierto</translation>
     </message>
 </context>
 <context>

@@ -2224,8 +2224,8 @@ Données :  %2</translation>
     <message numerus="yes">
         <source>At the table: session %1 of %2, %3 rolls to %4</source>
         <translation>
-            <numerusform>À la table : session %1 de %2, %3 lancer jusqu'à %4</numerusform>
-            <numerusform>À la table : session %1 de %2, %3 lancers jusqu'à %4</numerusform>
+            <numerusform>À la table : session %1 de %2, %3 lancer jusqu&apos;à %4</numerusform>
+            <numerusform>À la table : session %1 de %2, %3 lancers jusqu&apos;à %4</numerusform>
         </translation>
     </message>
     <message>
@@ -2963,7 +2963,7 @@ Données :  %2</translation>
     <message numerus="yes">
         <source>%1 values are no rolls</source>
         <translation>
-            <numerusform>%1 valeur n'est pas un lancer</numerusform>
+            <numerusform>%1 valeur n&apos;est pas un lancer</numerusform>
             <numerusform>%1 valeurs ne sont pas des lancers</numerusform>
         </translation>
     </message>
@@ -5704,10 +5704,6 @@ Données :  %2</translation>
         <translation>&amp;Germe</translation>
     </message>
     <message>
-        <source>R&amp;ules and dice of this table</source>
-        <translation>&amp;Règles et dés de cette table</translation>
-    </message>
-    <message>
         <source>The selected player has no script.</source>
         <translation>Le joueur choisi n&apos;a pas de script.</translation>
     </message>
@@ -5754,10 +5750,6 @@ Données :  %2</translation>
     <message>
         <source>How many play at a time; results are the same for any number</source>
         <translation>Combien jouent à la fois ; les résultats sont les mêmes quel que soit le nombre</translation>
-    </message>
-    <message>
-        <source>Else those of a table that nobody has changed</source>
-        <translation>Sinon ceux d&apos;une table que personne n&apos;a modifiée</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
@@ -5818,6 +5810,22 @@ Données :  %2</translation>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
         <translation>Dites combien de temps une session peut durer : lancers, mains ou heures.</translation>
+    </message>
+    <message>
+        <source>Rules and dice</source>
+        <translation>Règles et dés</translation>
+    </message>
+    <message>
+        <source>Rules and dice of this table</source>
+        <translation>Règles et dés de cette table</translation>
+    </message>
+    <message>
+        <source>Rules and dice of a new table</source>
+        <translation>Règles et dés d&apos;une nouvelle table</translation>
+    </message>
+    <message>
+        <source>Rules and dice of the opened file</source>
+        <translation>Règles et dés du fichier ouvert</translation>
     </message>
 </context>
 <context>

@@ -5691,10 +5691,6 @@ Veriler:  %2</translation>
         <translation>To&amp;hum</translation>
     </message>
     <message>
-        <source>R&amp;ules and dice of this table</source>
-        <translation>Bu masanın ku&amp;ralları ve zarları</translation>
-    </message>
-    <message>
         <source>The selected player has no script.</source>
         <translation>Seçili oyuncunun betiği yok.</translation>
     </message>
@@ -5741,10 +5737,6 @@ Veriler:  %2</translation>
     <message>
         <source>How many play at a time; results are the same for any number</source>
         <translation>Aynı anda kaçı oynar; sonuçlar her sayıda aynıdır</translation>
-    </message>
-    <message>
-        <source>Else those of a table that nobody has changed</source>
-        <translation>Yoksa kimsenin değiştirmediği bir masanınkiler</translation>
     </message>
     <message>
         <source>Other settings for all systems</source>
@@ -5805,6 +5797,22 @@ Veriler:  %2</translation>
     <message>
         <source>Say how long a session may last: rolls, hands or hours.</source>
         <translation>Bir oturumun ne kadar sürebileceğini söyleyin: atış, el ya da saat.</translation>
+    </message>
+    <message>
+        <source>Rules and dice</source>
+        <translation>Kurallar ve zarlar</translation>
+    </message>
+    <message>
+        <source>Rules and dice of this table</source>
+        <translation>Bu masanın kuralları ve zarları</translation>
+    </message>
+    <message>
+        <source>Rules and dice of a new table</source>
+        <translation>Yeni bir masanın kuralları ve zarları</translation>
+    </message>
+    <message>
+        <source>Rules and dice of the opened file</source>
+        <translation>Açılan dosyanın kuralları ve zarları</translation>
     </message>
 </context>
 <context>
