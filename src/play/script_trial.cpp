@@ -9,10 +9,10 @@
 
 #include "autobet/compile/compile_autobets.h"
 #include "autobet/language/script_text.h"
-#include "autobet/language/script_words.h"
 #include "autobet/run/interpreter.h"
 #include "play/auto_roll.h"
 #include "play/copy_game.h"
+#include "play/script_help.h"
 #include "play/script_session.h"
 #include "rules/seed_rng.h"
 #include "state/run_stop.h"
@@ -241,32 +241,36 @@ std::vector<std::string> PresentValues(const Game& game, SeatId seat,
 namespace {
 
 // Where a function that begins at a byte ends, its brackets included.
-std::size_t EndOfCall(const std::string& line, std::size_t at, std::size_t end) {
+int EndOfCall(const std::string& line, int at, int end) {
   int depth = 0;
   for (; at < end; ++at) {
-    if (line[at] == '(') ++depth;
-    if (line[at] == ')' && --depth == 0) return at + 1;
+    if (line[static_cast<std::size_t>(at)] == '(') ++depth;
+    if (line[static_cast<std::size_t>(at)] == ')' && --depth == 0) return at + 1;
   }
   return end;
 }
 
-bool Belongs(const std::string& line, const ScriptSpan& behind) {
-  const std::string word = Lowered(line.substr(behind.begin, behind.end - behind.begin));
-  return behind.kind == SpanKind::kPlayer || behind.kind == SpanKind::kModifier || word.starts_with("player");
+std::string TextOf(const ScriptWord& word, const std::string& line) {
+  return Lowered(
+      line.substr(static_cast<std::size_t>(word.begin), static_cast<std::size_t>(word.end - word.begin)));
+}
+
+bool Belongs(const std::string& line, const ScriptWord& behind) {
+  return behind.kind == ScriptWordKind::kPlayer || behind.kind == ScriptWordKind::kModifier ||
+         TextOf(behind, line).starts_with("player");
 }
 
 // From behind "if" to "then".
-bool FindCondition(const std::vector<ScriptSpan>& spans, const std::string& line, std::size_t& begin,
-                   std::size_t& end) {
+bool FindCondition(const std::vector<ScriptWord>& words, const std::string& line, int& begin, int& end) {
   bool found = false;
-  for (const ScriptSpan& span : spans) {
-    const std::string word = Lowered(line.substr(span.begin, span.end - span.begin));
-    if (span.kind == SpanKind::kLogic && !found && (word == "if" || word == "else if")) {
+  for (const ScriptWord& word : words) {
+    const std::string text = TextOf(word, line);
+    if (word.kind == ScriptWordKind::kKeyword && !found && (text == "if" || text == "else if")) {
       found = true;
-      begin = span.end;
-      end = line.size();
-    } else if (found && (word == "then" || span.kind == SpanKind::kComment)) {
-      end = span.begin;
+      begin = word.end;
+      end = static_cast<int>(line.size());
+    } else if (found && (text == "then" || word.kind == ScriptWordKind::kComment)) {
+      end = word.begin;
       break;
     }
   }
@@ -276,22 +280,23 @@ bool FindCondition(const std::vector<ScriptSpan>& spans, const std::string& line
 }  // namespace
 
 std::string ConditionValues(const Game& game, SeatId seat, const std::string& line) {
-  const std::vector<ScriptSpan> spans = SpansOf(line, SurroundingsOf(game));
-  std::size_t at = 0, end = 0;
-  if (!FindCondition(spans, line, at, end)) return {};
+  const std::vector<ScriptWord> words = ScriptWords({line}, SurroundingsOf(game));
+  int at = 0, end = 0;
+  if (!FindCondition(words, line, at, end)) return {};
   std::vector<std::string> operands;
-  const auto isIn = [&](const ScriptSpan& span) { return span.begin >= at && span.begin < end; };
-  for (std::size_t n = 0; n < spans.size(); ++n) {
-    const ScriptSpan& span = spans[n];
-    const bool call = span.end < line.size() && line[span.end] == '(' && span.kind != SpanKind::kLogic;
-    if (!isIn(span) || (span.kind != SpanKind::kVariable && !call)) continue;
-    at = call ? EndOfCall(line, span.begin, end) : span.end;
+  for (std::size_t n = 0; n < words.size(); ++n) {
+    const ScriptWord& word = words[n];
+    if (word.begin < at || word.begin >= end) continue;
+    const bool call =
+        word.kind == ScriptWordKind::kFunction && line[static_cast<std::size_t>(word.end)] == '(';
+    if (!call && word.kind != ScriptWordKind::kVariable && word.kind != ScriptWordKind::kBet) continue;
+    at = call ? EndOfCall(line, word.begin, end) : word.end;
     // Whose it is, and of which rolls, stands behind.
-    for (; n + 1 < spans.size() && Belongs(line, spans[n + 1]) && spans[n + 1].begin < end; ++n)
-      at = std::max(at, spans[n + 1].end);
-    std::string operand(Trimmed(line.substr(span.begin, at - span.begin)));
-    if (std::find(operands.begin(), operands.end(), operand) == operands.end())
-      operands.push_back(std::move(operand));
+    for (; n + 1 < words.size() && Belongs(line, words[n + 1]) && words[n + 1].begin < end; ++n)
+      at = std::max(at, words[n + 1].end);
+    const std::string operand(Trimmed(
+        line.substr(static_cast<std::size_t>(word.begin), static_cast<std::size_t>(at - word.begin))));
+    if (std::find(operands.begin(), operands.end(), operand) == operands.end()) operands.push_back(operand);
   }
   const std::vector<std::string> values = PresentValues(game, seat, operands);
   std::string text;
