@@ -116,7 +116,7 @@ constexpr PatternPart FirstPart(std::string_view pattern) {
   using Form = PatternPart::Form;
   PatternPart part;
   if (pattern.empty() || pattern[0] != '{') {
-    part.text = pattern.substr(0, pattern.find_first_of("{"));
+    part.text = pattern.substr(0, pattern.find('{'));
     part.length = part.text.size();
     return part;
   }

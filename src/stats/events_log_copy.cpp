@@ -28,7 +28,7 @@ std::string ReadPart(const EventsLogCopy& copy, std::int64_t from, std::int64_t 
     if (got < 0 && errno == EINTR && !Interrupted()) continue;
     if (got <= 0) return FileErrorText("read", copy.From, got < 0 ? errno : EIO);
     at += got;
-    const std::string problem = write(std::string_view(block.data(), static_cast<std::size_t>(got)), at);
+    std::string problem = write(std::string_view(block.data(), static_cast<std::size_t>(got)), at);
     if (!problem.empty()) return problem;
   }
   return {};
@@ -65,13 +65,12 @@ std::string UseEventsLogCopy(Game& game, const EventsLogCopy& copy) {
   if (then.st_dev != now.st_dev || then.st_ino != now.st_ino || now.st_size < copy.Copied) return {};
   const int to = open(copy.To.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
   if (to < 0) return FileErrorText("write", copy.To, errno);
-  const std::string problem =
-      ReadPart(copy, copy.Copied, now.st_size, [&](std::string_view bytes, std::int64_t) {
-        const ssize_t written = write(to, bytes.data(), bytes.size());
-        return written == static_cast<ssize_t>(bytes.size())
-                   ? std::string()
-                   : FileErrorText("write", copy.To, written < 0 ? errno : ENOSPC);
-      });
+  std::string problem = ReadPart(copy, copy.Copied, now.st_size, [&](std::string_view bytes, std::int64_t) {
+    const ssize_t written = write(to, bytes.data(), bytes.size());
+    return written == static_cast<ssize_t>(bytes.size())
+               ? std::string()
+               : FileErrorText("write", copy.To, written < 0 ? errno : ENOSPC);
+  });
   // What was cut short is not left behind the last whole line.
   const bool cut = problem.empty() || ftruncate(to, copy.Copied) == 0;
   close(to);

@@ -229,7 +229,7 @@ std::string BeginLog(const SessionsLogFile& file) {
   if (!lock.problem.empty()) return lock.problem;
   if (fstat(file.Descriptor, &status) != 0) return FileErrorText("read", file.Path, errno);
   if (status.st_size > 0) return {};
-  const std::string problem = WriteHeader(file, {});
+  std::string problem = WriteHeader(file, {});
   // A header that was cut short would make it a foreign file.
   if (!problem.empty() && ftruncate(file.Descriptor, 0) != 0) return problem;
   return problem;
