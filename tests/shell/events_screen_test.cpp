@@ -357,7 +357,7 @@ TEST(EventsLogScreen, ALargeLogOpensAndScrollsAtOnce) {
   EXPECT_FALSE(stop.isVisible());
   QElapsedTimer search;
   search.start();
-  table.host.answers.Ok();
+  if (table.host.answers.Empty()) table.host.answers.Ok();  // the first one may have needed none
   QTest::mouseClick(&next, Qt::LeftButton);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !stop.isVisible(); }, 300'000));
   const qint64 searched = search.elapsed();

@@ -489,12 +489,16 @@ void ReportView::Measure() {
 }
 
 // Of the room that is left the labels get some, unless there are so many strips that it would part them.
+// Where there is too little, the columns stand closer together.
 void ReportView::SetWidths() {
   const int strips = std::max(1, model_.Strips());
-  const int left = strips > 2 ? 0 : std::clamp((viewport()->width() - WantedWidth()) / strips, 0, kMostExtra);
+  const int room = viewport()->width() - WantedWidth();
+  const int left = strips > 2 ? 0 : std::clamp(room / strips, 0, kMostExtra);
+  const int figures = std::max(1, model_.columnCount() - strips);
+  const int closer = std::clamp((figures - 1 - room) / figures, 0, kCellGap - kEdge);
   for (int column = 0; column < static_cast<int>(wanted_.size()); ++column)
-    setColumnWidth(column,
-                   wanted_[static_cast<std::size_t>(column)] + (model_.IsLabelColumn(column) ? left : 0));
+    setColumnWidth(
+        column, wanted_[static_cast<std::size_t>(column)] + (model_.IsLabelColumn(column) ? left : -closer));
 }
 
 int ReportView::WantedWidth() const {
