@@ -288,7 +288,7 @@ TEST(LaboratoryScreen, AnOpenedExperimentIsPlayedAnew) {
   experiments[2].winGoal = ParseMoney("40.0001");
   experiments[2].precision = ParseMoney("0.0005");
   for (const Experiment& experiment : experiments) {
-    const LabState unplayed = BeginLab(experiment, false, false);
+    LabState unplayed = BeginLab(experiment, false, false);
     const std::string path = table.folder.filePath("opened.lab").toStdString();
     const std::string again = table.folder.filePath("again.lab").toStdString();
     ASSERT_EQ(WriteLab(path, LabBytes(unplayed)), "");
