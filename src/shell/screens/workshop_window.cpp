@@ -3,6 +3,7 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -70,7 +71,10 @@ QString TipOf(const Game& game, SeatId seat, const QString& text) {
   QString tip = text + ": " + QString::fromStdString(meaning->doc);
   if (!IsIn(kWordLists[kVariables], meaning->kind)) return tip;
   const std::string value = PresentValues(game, seat, {typed}).front();
-  return value.empty() ? tip : tip + "\n" + WorkshopWindow::tr("Now: %1").arg(FromCore(value));
+  return value.empty()
+             ? tip
+             : tip + "\n" +
+                   QCoreApplication::translate("tessaryn::WorkshopWindow", "Now: %1").arg(FromCore(value));
 }
 
 }  // namespace
