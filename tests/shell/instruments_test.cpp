@@ -211,6 +211,7 @@ struct GivesUp : QTimer {
   explicit GivesUp(InstrumentTable& table) {
     callOnTimeout([&table] {
       StopRun(*table.game, "");
+      table.game->autobet.StepMode = table.game->autobet.ScriptRunning = false;
       if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr)
         popup->close();
       else if (QWidget* modal = QApplication::activeModalWidget(); modal != nullptr)

@@ -95,7 +95,7 @@ QStringList Flat(const QList<QStringList>& rows) {
 
 // So many that a run can be stopped on the way.
 #ifdef NDEBUG
-constexpr const char* kEnoughSessions = "50000";
+constexpr const char* kEnoughSessions = "150000";
 #else
 constexpr const char* kEnoughSessions = "700";
 #endif

@@ -19,10 +19,12 @@ namespace tessaryn::test {
 namespace {
 
 // Runs the window until it ends, with a signal in the middle of what it does, and returns its exit code.
-int ExitAfter(ScreenTable& table, int signal, const std::function<void()>& work) {
+int ExitAfter(ScreenTable& table, int signal, const std::function<void()>& work,
+              const std::function<void(MainWindow&)>& later = {}) {
   MainWindow window(*table.game, table.host);
   window.show();
-  const SignalWatch watch(*table.game, window);
+  const SignalWatch watch(*table.game, window, 500);
+  if (later) QTimer::singleShot(2000, &window, [&] { later(window); });
   QTimer::singleShot(0, &window, work);
   QTimer::singleShot(300, &window, [signal] { raise(signal); });
   const int code = QCoreApplication::exec();
@@ -60,6 +62,59 @@ TEST(Signals, ABoxThatWaitsInARollGetsItsSafeAnswer) {
   EXPECT_EQ(ExitAfter(table, SIGTERM, [&table] { table.Roll(1, 2); }), 128 + SIGTERM);
   EXPECT_EQ(SessionRolls(game.stats), 1);
   EXPECT_FALSE(game.table.RollInProgress);
+}
+
+// SIGTERM asks what the close box asks.
+TEST(Signals, TheEndThatIsAskedForCanBeRefused) {
+  const auto unsaved = [](ScreenTable& table) {
+    table.game->settings.ShooterBetRule = 0;
+    table.Join(4, "Ann");
+    table.game->autobet.Scripts[4].Unsaved = true;
+  };
+  {
+    SCOPED_TRACE("refused, and ended by another signal later");
+    ScreenTable table;
+    unsaved(table);
+    table.host.answers.Cancel();
+    bool went = false;
+    EXPECT_EQ(ExitAfter(
+                  table, SIGTERM, [] {},
+                  [&went](MainWindow& window) {
+                    went = window.isVisible();
+                    raise(SIGHUP);
+                  }),
+              128 + SIGHUP);
+    EXPECT_TRUE(went);
+  }
+  {
+    SCOPED_TRACE("refused while the table rolls on");
+    ScreenTable table;
+    table.game->settings.ShooterBetRule = 0;
+    table.host.answers.Cancel();
+    std::int64_t rolls = 0;
+    EXPECT_EQ(ExitAfter(
+                  table, SIGTERM, [&table] { ToggleAutoRoll(*table.game); },
+                  [&](MainWindow&) {
+                    EXPECT_TRUE(table.State().AutoRollActive);
+                    rolls = SessionRolls(table.game->stats);
+                    raise(SIGINT);
+                  }),
+              128 + SIGINT);
+    EXPECT_GT(rolls, 0);
+  }
+  {
+    SCOPED_TRACE("agreed");
+    ScreenTable table;
+    unsaved(table);
+    table.host.answers.No();
+    EXPECT_EQ(ExitAfter(table, SIGTERM, [] {}), 128 + SIGTERM);
+  }
+  {
+    SCOPED_TRACE("nobody there");
+    ScreenTable table;
+    unsaved(table);
+    EXPECT_EQ(ExitAfter(table, SIGTERM, [] {}), 128 + SIGTERM);
+  }
 }
 
 }  // namespace

@@ -49,6 +49,8 @@ class MainWindow : public QMainWindow {
   void OpenBesideGame(const std::string& argument);
   // A roll or a command hasn't ended yet.
   bool IsUnderWay() const;
+  // It was closed while something was under way, and closes of itself once that has ended.
+  bool ClosesLater() const { return closesLater_; }
   // As closing it, but without questions: what can't be written is told on standard error.
   void CloseUnasked();
   // The desktop's session ends. False refuses that. mayAsk: whether the desktop lets the user be asked.
@@ -141,6 +143,7 @@ class MainWindow : public QMainWindow {
   bool asking_ = false;  // the questions of the end
   bool agreed_ = false;  // they have been answered, and nothing has changed since
   bool closing_ = false;
+  bool closesLater_ = false;
 };
 
 }  // namespace tessaryn

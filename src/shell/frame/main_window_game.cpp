@@ -128,8 +128,10 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   if (closing_) return event->accept();
   event->ignore();
   if (std::exchange(asking_, true)) return;
+  closesLater_ = false;
   if (StopRunFirst(desk_)) {
-    if (IsUnderWay())
+    closesLater_ = IsUnderWay();
+    if (closesLater_)
       QTimer::singleShot(kLookAgain, this, &QWidget::close);
     else
       closing_ = (agreed_ || MayClose(desk_)) && KeepGame(desk_);
