@@ -250,7 +250,7 @@ std::string EventsLogPath(const Game& game) {
 
 std::string EventsIndexPath(const Game& game) { return game.ownFolder + kEventsIndexName; }
 
-void WriteEventsLogLine(Game& game, std::string_view text) {
+void WriteWholeLine(Game& game, LogLine& line) {
   EventsLog& log = game.events;
   if (!log.RecordEventsActive) return;
   if (log.Files.textFile == nullptr) {
@@ -260,28 +260,26 @@ void WriteEventsLogLine(Game& game, std::string_view text) {
     if (!problem.empty()) ReportFault(game, problem);
     if (log.Files.textFile == nullptr) KeepWithinBounds(log);
   }
-  if (log.Files.textLength + static_cast<std::int64_t>(text.size()) + 1 > kLongestLog) {
+  line.AddFixed<1>("\n");
+  const std::string_view text = line.Text();
+  if (log.Files.textLength + static_cast<std::int64_t>(text.size()) > kLongestLog) {
     ReportFault(game, FullText(game));
     return;
   }
   AppendIndexRecord(log.Files.indexBuffer, log.Files.textLength + 1);
   log.Files.textBuffer += text;
-  log.Files.textBuffer += '\n';
-  log.Files.textLength += static_cast<std::int64_t>(text.size()) + 1;
+  log.Files.textLength += static_cast<std::int64_t>(text.size());
   ++log.Files.lineCount;
   if (log.KeepLatestRollOnTop && BeginsWithRoll(text))
     log.EventsLogTopLine = static_cast<std::int32_t>(log.Files.lineCount);
   if (log.Files.textBuffer.size() >= log.Files.failedAt + kFlushAt) WriteAndTell(game);
 }
 
-void WriteGroupedLine(Game& game, std::string_view text) {
-  EventsLog& log = game.events;
-  if (!log.PendingLogHeading.empty()) {
-    const std::string_view heading = log.PendingLogHeading;
-    EndGroup(log);
-    WriteEventsLogLine(game, heading);
-  }
-  WriteEventsLogLine(game, text);
+void WriteEventsLogLine(Game& game, std::string_view text) {
+  if (!game.events.RecordEventsActive) return;
+  LogLine line;
+  line.Add(text);
+  WriteWholeLine(game, line);
 }
 
 void FlushEventsLog(Game& game) {
@@ -412,6 +410,17 @@ int StickPlace(SeatId seat) {
   return seat <= kLastLeftSeat ? kLastLeftSeat + 1 - seat : seat - kLastLeftSeat;
 }
 
+// The pending heading, if any, and then the line.
+void WriteGroupedLine(Game& game, LogLine& line) {
+  EventsLog& log = game.events;
+  if (!log.PendingLogHeading.empty()) {
+    const std::string_view heading = log.PendingLogHeading;
+    EndGroup(log);
+    WriteEventsLogLine(game, heading);
+  }
+  WriteWholeLine(game, line);
+}
+
 // A line of the group in hand, which is about a player.
 template <Msg kId, typename... Arguments>
 void WriteOf(Game& game, SeatId seat, const Arguments&... arguments) {
@@ -419,7 +428,7 @@ void WriteOf(Game& game, SeatId seat, const Arguments&... arguments) {
   LogLine line;
   FormLogLine<kId>(line, game.settings.Language, With<"player">(game.table.seats[seat].SeatName),
                    arguments...);
-  WriteGroupedLine(game, line.Text());
+  WriteGroupedLine(game, line);
 }
 
 // One of two lines with the same arguments.

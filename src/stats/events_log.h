@@ -24,16 +24,16 @@ std::string EventsIndexPath(const Game& game);
 // The only writer. Does nothing while recording is off. A file that can't be written stops a run and is told
 // once; its lines wait, and are tried again after every roll that a user asks for.
 void WriteEventsLogLine(Game& game, std::string_view text);
+// The same of a line that was formed in its place, which gets its end there.
+void WriteWholeLine(Game& game, LogLine& line);
 // A line by its message. Nothing is formed while recording is off.
 template <Msg kId, typename... Arguments>
 void WriteLogLine(Game& game, const Arguments&... arguments) {
   if (!game.events.RecordEventsActive) return;
   LogLine line;
   FormLogLine<kId>(line, game.settings.Language, arguments...);
-  WriteEventsLogLine(game, line.Text());
+  WriteWholeLine(game, line);
 }
-// Writes the pending heading, if any, and then the line.
-void WriteGroupedLine(Game& game, std::string_view text);
 // Brings the files up to date and closes them: at the end of a roll that a user asked for, at every yield
 // that lets others look, and before any other procedure touches the files.
 void FlushEventsLog(Game& game);

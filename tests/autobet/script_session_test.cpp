@@ -291,6 +291,7 @@ TEST(StepMode, AGameStepByStepIsThatOfARun) {
       }
     }
     EXPECT_GE(host.waits, 60);
+    steps.game->table.seats[1].SessionsLogName = run.game->table.seats[1].SessionsLogName;  // in its own folder
     EXPECT_EQ(FirstDifference(run.game->table, steps.game->table), "");
     EXPECT_EQ(FirstDifference(run.game->stats, steps.game->stats), "");
     steps.game->host = &steps.host;
