@@ -160,8 +160,9 @@ void TellOddities(const LabState& state) {
     if (sums.errors.empty()) continue;
     std::int64_t times = 0;
     for (const ScriptErrorKind& kind : sums.errors) times += kind.count;
-    const std::string what = sums.acted ? "run-time errors of the script, " + Whole(times) + " in all; the first"
-                                        : "the script could never act";
+    const std::string what = sums.acted
+                                 ? "run-time errors of the script, " + Whole(times) + " in all; the first"
+                                 : "the script could never act";
     std::fprintf(stderr, "tessaryn-cli: %s: %s: %s\n", name.c_str(), what.c_str(),
                  ErrorReport(sums.errors.front()).c_str());
   }

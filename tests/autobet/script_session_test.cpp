@@ -291,7 +291,8 @@ TEST(StepMode, AGameStepByStepIsThatOfARun) {
       }
     }
     EXPECT_GE(host.waits, 60);
-    steps.game->table.seats[1].SessionsLogName = run.game->table.seats[1].SessionsLogName;  // in its own folder
+    for (SeatId seat = 1; seat <= kSeats; ++seat)  // each table has a folder of its own
+      steps.game->table.seats[seat].SessionsLogName = run.game->table.seats[seat].SessionsLogName;
     EXPECT_EQ(FirstDifference(run.game->table, steps.game->table), "");
     EXPECT_EQ(FirstDifference(run.game->stats, steps.game->stats), "");
     steps.game->host = &steps.host;

@@ -43,7 +43,8 @@ QPalette PaletteOf(const Tones& tones);
 // the desktop goes with the first call.
 void ApplyScheme(Scheme scheme);
 bool IsDark(const QPalette& palette);
-// For the one button of a screen that goes on: it stands out. To be given again as the program's palette changes.
+// For the one button of a screen that goes on: it stands out. To be given again as the program's palette
+// changes.
 QPalette PrimaryButton();
 // The desktop wants nothing to move, where it tells so.
 bool DesktopIsStill();
